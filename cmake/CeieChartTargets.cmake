@@ -1,0 +1,70 @@
+# SPDX-License-Identifier: MIT
+# What every target of this project has in common: language level, warnings, floating-point rules,
+# where headers are found, and how a library is exported and installed.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 11)
+set(CMAKE_C_VISIBILITY_PRESET hidden)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+file(RELATIVE_PATH ceiechart_lib_from_bin /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+set(CMAKE_INSTALL_RPATH $ORIGIN;$ORIGIN/${ceiechart_lib_from_bin})
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+add_library(ceiechart_build_flags INTERFACE)
+target_compile_definitions(ceiechart_build_flags INTERFACE QT_NO_FOREACH QT_NO_KEYWORDS)
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    # Results must not depend on the optimiser: no fused multiply-add behind our back.
+    target_compile_options(ceiechart_build_flags INTERFACE -ffp-contract=off)
+    target_compile_options(ceiechart_build_flags INTERFACE -Wall -Wextra -Wpedantic
+        $<$<COMPILE_LANGUAGE:CXX>:-Wshadow=local> $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>
+        $<$<COMPILE_LANGUAGE:CXX>:-Wsuggest-override>)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        target_compile_options(ceiechart_build_flags INTERFACE -Wno-unknown-warning-option)
+    else()
+        # GCC's straight-line vectoriser folds double -> float -> double pairs into a plain copy and
+        # loses the rounding to single precision that the chart's arithmetic relies on.
+        target_compile_options(ceiechart_build_flags INTERFACE -fno-tree-slp-vectorize)
+    endif()
+    if(CEIECHART_WERROR)
+        target_compile_options(ceiechart_build_flags INTERFACE -Werror)
+    endif()
+    if(CEIECHART_SANITIZE)
+        target_compile_options(ceiechart_build_flags INTERFACE -fsanitize=address,undefined
+            -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(ceiechart_build_flags INTERFACE -fsanitize=address,undefined)
+    endif()
+elseif(MSVC)
+    target_compile_options(ceiechart_build_flags INTERFACE /W4 /fp:precise /utf-8)
+    if(CEIECHART_WERROR)
+        target_compile_options(ceiechart_build_flags INTERFACE /WX)
+    endif()
+endif()
+
+# ceiechart_export_header(<target> <folder>): writes <folder>/<target>_export.h with the export macro
+# and installs it beside the target's other headers.
+function(ceiechart_export_header target folder)
+    set(header ${PROJECT_BINARY_DIR}/include/${folder}/${target}_export.h)
+    generate_export_header(${target} BASE_NAME ${target} EXPORT_FILE_NAME ${header})
+    install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder} COMPONENT dev)
+endfunction()
+
+# ceiechart_library(<target>): version, include path and installation of one of the product's libraries.
+function(ceiechart_library target)
+    add_library(CeieChart::${target} ALIAS ${target})
+    set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    install(TARGETS ${target} EXPORT CeieChartTargets
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+endfunction()
