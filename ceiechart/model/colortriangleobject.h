@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_MODEL_COLORTRIANGLEOBJECT_H
+#define CEIECHART_MODEL_COLORTRIANGLEOBJECT_H
+
+#include <ceiechart/ceiechart_export.h>
+#include <ceiechart/model/trianglepoint.h>
+
+#include <QColor>
+
+#include <string>
+
+/*!
+ * \brief A gamut and how it is drawn.
+ *
+ * A value type, copied memberwise; its triangle never has a parent. Setters store what they are given.
+ *
+ * The library registers no meta-type for it: a host that receives it through a queued connection does so itself.
+ */
+class CEIECHART_EXPORT ColorTriangleObject {
+public:
+    /*!
+     * \brief An empty triangle, opaque white, one pixel wide, shown, fully opaque, without a name.
+     *
+     * Call setType() before use: there is no meaningful default kind.
+     */
+    ColorTriangleObject();
+    ColorTriangleObject(const ColorTriangleObject &other);
+    ColorTriangleObject &operator=(const ColorTriangleObject &other);
+    ~ColorTriangleObject();
+
+    /*! \brief The gamut's points and luminances. */
+    TrianglePoint &trianglePoint();
+    const TrianglePoint &trianglePoint() const;
+    void setTrianglePoint(const TrianglePoint &trianglePoint);
+
+    /*! \brief Pen and fill colour. */
+    QColor foreColor();
+    void setForeColor(const QColor &foreColor);
+
+    /*! \brief Outline width in pixels. */
+    int trigleLineWidth() const;
+    void setTrigleLineWidth(int trigleLineWidth);
+
+    /*! \brief Whether the gamut is drawn. */
+    bool isShow() const;
+    void setShow(bool isShow);
+
+    /*!
+     * \brief Kind of gamut: 0 standard, 1 target, 2 original, 3 measured.
+     *
+     * Lists of triangles are painted by kind; elements of any other kind, and standards, which have a list of
+     * their own, are skipped.
+     */
+    int type() const;
+    void setType(int type);
+
+    /*! \brief Fill opacity, 0.0 to 1.0. */
+    double opacity() const;
+    void setOpacity(double opacity);
+
+    /*! \brief Display name, such as a standard's name. */
+    std::string gamutName();
+    void setGamutName(const std::string &gamutName);
+
+private:
+    TrianglePoint m_trianglePoint;
+    QColor m_foreColor{255, 255, 255, 255};
+    int m_trigleLineWidth = 1;
+    bool m_isShow = true;
+    int m_type = 0;
+    double m_opacity = 1.0;
+    std::string m_gamutName;
+};
+
+#endif // CEIECHART_MODEL_COLORTRIANGLEOBJECT_H

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_MODEL_TARGETINFOCHANGEDEVENTARGS_H
+#define CEIECHART_MODEL_TARGETINFOCHANGEDEVENTARGS_H
+
+#include <ceiechart/ceiechart_export.h>
+#include <ceiechart/model/colortriangleobject.h>
+#include <ceiechart/model/ledcolortype.h>
+
+#include <QObject>
+
+/*!
+ * \brief Payload of signal_targetInfoChanged(): the target gamut has changed.
+ *
+ * Copied by value: a copy is a fresh object without parent that takes over the payload only. The library
+ * registers no meta-type for it: a host that receives it through a queued connection does so itself.
+ */
+class CEIECHART_EXPORT TargetInfoChangedEventArgs : public QObject {
+    Q_OBJECT
+
+public:
+    /*! \brief A default triangle, 0 K, no primary outside, not reasonable. */
+    explicit TargetInfoChangedEventArgs(QObject *parent = nullptr);
+    TargetInfoChangedEventArgs(const TargetInfoChangedEventArgs &other);
+    TargetInfoChangedEventArgs &operator=(const TargetInfoChangedEventArgs &other);
+    ~TargetInfoChangedEventArgs() override;
+
+    /*! \brief The target gamut after the change. */
+    ColorTriangleObject colorTriangleObject() const;
+    void setColorTriangleObject(const ColorTriangleObject &colorTriangleObject);
+
+    /*! \brief Correlated colour temperature of the target's white, a whole number of kelvin. */
+    double colourTemperature() const;
+    void setColourTemperature(double colourTemperature);
+
+    /*! \brief The primary that lies outside the reference gamut. */
+    baseCommon::LEDColorType beyondColorType() const;
+    void setBeyondColorType(const baseCommon::LEDColorType &beyondColorType);
+
+    /*! \brief True when every primary of the target lies inside the reference gamut, the original one. */
+    bool isReasonableData() const;
+    void setIsReasonableData(bool isReasonableData);
+
+private:
+    ColorTriangleObject m_colorTriangleObject;
+    double m_colourTemperature = 0.0;
+    baseCommon::LEDColorType m_beyondColorType = baseCommon::None;
+    bool m_isReasonableData = false;
+};
+
+#endif // CEIECHART_MODEL_TARGETINFOCHANGEDEVENTARGS_H

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_MODEL_TRIANGLEOBJECIINITIALIZEDEVENTARGS_H
+#define CEIECHART_MODEL_TRIANGLEOBJECIINITIALIZEDEVENTARGS_H
+
+#include <ceiechart/ceiechart_export.h>
+#include <ceiechart/model/colortriangleobject.h>
+#include <ceiechart/model/ledcolortype.h>
+
+#include <QList>
+#include <QObject>
+
+/*!
+ * \brief Payload of signal_triangleObjecIinitialized(): the scene's list of triangles has been set.
+ *
+ * Copied by value: a copy is a fresh object without parent that takes over the payload only. The library
+ * registers no meta-type for it: a host that receives it through a queued connection does so itself.
+ */
+class CEIECHART_EXPORT TriangleObjecIinitializedEventArgs : public QObject {
+    Q_OBJECT
+
+public:
+    /*! \brief An empty list and no primary outside. Call setIsEffectiveValue() before use. */
+    explicit TriangleObjecIinitializedEventArgs(QObject *parent = nullptr);
+    TriangleObjecIinitializedEventArgs(const TriangleObjecIinitializedEventArgs &other);
+    TriangleObjecIinitializedEventArgs &operator=(const TriangleObjecIinitializedEventArgs &other);
+    ~TriangleObjecIinitializedEventArgs() override;
+
+    /*! \brief The triangles as the scene now holds them. */
+    QList<ColorTriangleObject> colorTriangleObjectList() const;
+    void setColorTriangleObjectList(const QList<ColorTriangleObject> &colorTriangleObjectList);
+
+    /*! \brief Whether the list is usable. */
+    bool isEffectiveValue() const;
+    void setIsEffectiveValue(bool isEffectiveValue);
+
+    /*! \brief The primary that lies outside the reference gamut. */
+    baseCommon::LEDColorType beyondColorType() const;
+    void setBeyondColorType(const baseCommon::LEDColorType &beyondColorType);
+
+private:
+    QList<ColorTriangleObject> m_colorTriangleObjectList;
+    bool m_isEffectiveValue = false;
+    baseCommon::LEDColorType m_beyondColorType = baseCommon::None;
+};
+
+#endif // CEIECHART_MODEL_TRIANGLEOBJECIINITIALIZEDEVENTARGS_H
