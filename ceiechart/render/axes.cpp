@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/render/diagramlayers.h>
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPen>
+#include <QTextOption>
+
+namespace ceiechart {
+
+namespace {
+
+constexpr double tickStep = 0.1; // in chromaticity units
+constexpr int numberDrop = 15; // pixels from the x axis down to its numbers
+constexpr int axisTop = 10; // the y axis begins this many pixels below the picture's top edge
+constexpr int titleGap = 6; // pixels between an axis line and its title
+
+QString numberText(int tick)
+{
+    return QString::number(tick * tickStep, 'g', 6);
+}
+
+//! Draws the axes of one drawing; holds what its four kinds of strokes and texts have in common.
+class AxesPainter {
+public:
+    AxesPainter(QPainter &painter, const AxesStyle &style, const QColor &color)
+        : m_painter(painter)
+        , m_style(style)
+        , m_color(color)
+        , m_metrics(style.numberFont)
+        , m_numberHeight(m_metrics.height())
+        , m_numberWidth(m_metrics.horizontalAdvance(QStringLiteral("0.0")))
+        , m_zeroWidth(m_metrics.horizontalAdvance(QStringLiteral("0")))
+    {
+    }
+
+    void gridLine(const QPointF &from, const QPointF &to)
+    {
+        m_painter.save();
+        m_painter.setOpacity(0.3);
+        m_painter.setFont(m_style.gridFont);
+        QPen pen = m_painter.pen();
+        pen.setColor(QColor(m_color.red(), m_color.green(), m_color.blue(), 80));
+        pen.setStyle(m_style.gridStyle);
+        m_painter.setPen(pen);
+        m_painter.setBrush(QBrush(m_color));
+        m_painter.drawLine(from, to);
+        m_painter.restore();
+    }
+
+    void xTick(int tick, int tx, int ty)
+    {
+        beginTick();
+        m_painter.setFont(m_style.numberFont);
+        if (tick == 0) {
+            text(QStringLiteral("0"), QRect(tx, ty + numberDrop, m_zeroWidth, m_numberHeight), Qt::AlignRight);
+            m_painter.setPen(axisPen());
+            m_painter.drawLine(tx, axisTop, tx, ty);
+            title(m_style.yTitle, QPoint(tx + titleGap, axisTop));
+        } else {
+            text(numberText(tick), QRect(tx - m_numberWidth / 2, ty + numberDrop, m_numberWidth + 12, m_numberHeight));
+        }
+        m_painter.restore();
+    }
+
+    void yTick(int tick, int tx, int ty, int pictureWidth)
+    {
+        beginTick();
+        m_painter.setFont(m_style.numberFont);
+        if (tick == 0) {
+            m_painter.setPen(axisPen());
+            m_painter.drawLine(tx, ty, pictureWidth, ty);
+            const int titleWidth = m_metrics.horizontalAdvance(m_style.xTitle);
+            title(m_style.xTitle, QPoint(pictureWidth - titleWidth - titleGap, ty - m_numberHeight - titleGap));
+            text(QStringLiteral("0"),
+                QRect(tx - m_zeroWidth - numberDrop, ty - 3 * m_numberHeight / 4, m_zeroWidth, m_numberHeight));
+        } else {
+            text(numberText(tick),
+                QRect(tx - 10 - m_numberWidth, ty - m_numberHeight / 2, m_numberWidth + 12, m_numberHeight),
+                Qt::AlignLeft | Qt::AlignVCenter);
+        }
+        m_painter.restore();
+    }
+
+private:
+    void beginTick()
+    {
+        m_painter.save();
+        m_painter.setRenderHint(QPainter::TextAntialiasing, true);
+        QPen pen = m_painter.pen();
+        pen.setColor(m_color);
+        pen.setStyle(Qt::SolidLine);
+        m_painter.setPen(pen);
+    }
+
+    QPen axisPen() const { return QPen(QBrush(m_color), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin); }
+
+    void text(const QString &text, const QRect &place, Qt::Alignment alignment = Qt::AlignLeft)
+    {
+        m_painter.drawText(QRectF(place), text, QTextOption(alignment));
+    }
+
+    //! A title stands at the end of its axis, on the side away from the numbers.
+    void title(const QString &title, const QPoint &corner)
+    {
+        if (!title.isEmpty()) {
+            text(title, QRect(corner, QSize(m_metrics.horizontalAdvance(title) + 1, m_numberHeight)));
+        }
+    }
+
+    QPainter &m_painter;
+    const AxesStyle &m_style;
+    QColor m_color;
+    QFontMetrics m_metrics;
+    int m_numberHeight;
+    int m_numberWidth;
+    int m_zeroWidth;
+};
+
+} // namespace
+
+void DiagramLayers::drawAxes(QPainter &painter, const AxesStyle &style)
+{
+    AxesPainter axes(painter, style, m_lineColor);
+    const auto map = [this](double x, double y) {
+        m_current.x = x;
+        m_current.y = y;
+        return CoordinateTransformation();
+    };
+    const auto [xMin, xMax, yMin, yMax] = m_range;
+
+    for (int k = 0; k < (xMax - xMin) / tickStep; ++k) {
+        const QPointF low = map(k * tickStep, double(yMin));
+        axes.gridLine(low, map(k * tickStep, double(yMax)));
+        axes.xTick(k, truncated(low.x()), truncated(low.y()));
+    }
+    for (int j = 0; j < (yMax - yMin) / tickStep; ++j) {
+        const QPointF left = map(double(xMin), j * tickStep);
+        axes.gridLine(left, map(double(xMax), j * tickStep));
+        axes.yTick(j, truncated(left.x()), truncated(left.y()), m_pictureWidth);
+    }
+}
+
+} // namespace ceiechart

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_RENDER_DIAGRAMGEOMETRY_H
+#define CEIECHART_RENDER_DIAGRAMGEOMETRY_H
+
+#include <ceiechart/ceiechart_export.h>
+
+#include <QPointF>
+#include <QRectF>
+
+namespace ceiechart {
+
+/*! \brief What part of the chromaticity plane a diagram shows. Single precision is part of the arithmetic. */
+struct ChromaRange {
+    float xMin, xMax, yMin, yMax;
+};
+
+/*! Integer a·b (32 bit, wrapping) divided by \a c, truncating toward zero, plus 0.5 always. \a c must not be 0. */
+CEIECHART_EXPORT double mulDiv(int a, int b, int c) noexcept;
+
+/*! \a lo when lo > v, else the smaller of \a hi and \a v; a NaN \a v gives \a hi. */
+CEIECHART_EXPORT double clamp(double v, double lo, double hi) noexcept;
+
+/*! Truncates toward zero to 32 bits. NaN and values outside the range of int give the smallest int. */
+CEIECHART_EXPORT int truncated(double v) noexcept;
+
+/*!
+ * \brief The mapping between chromaticities (unitless, CIE 1931 x, y or CIE 1976 u′, v′) and picture pixels
+ * (y growing downwards).
+ *
+ * The plot and chroma rectangles carry their right and bottom edges in the width and height places of QRectF,
+ * and the pixel spans subtract left and top from them again. Forward mapping adds xOffset pixels to x, backward
+ * mapping does not take them off: the coloured fill and the outlines over it are placed by that pairing.
+ */
+class CEIECHART_EXPORT DiagramGeometry {
+public:
+    //! Added to every forward-mapped x, in pixels.
+    static constexpr int xOffset = 4;
+
+    /*!
+     * Takes both rectangles and derives the spans and scales. When a span is zero it returns false and leaves the
+     * four scales as they were; on a fresh object they are zero, so that every chromaticity maps to the plot's
+     * corner.
+     */
+    bool set(const QRectF &plot, const QRectF &chroma) noexcept;
+
+    /*! Plot from \a percent % to 100 − \a percent % of a \a width × \a height picture, showing \a range. */
+    bool setPicture(int width, int height, int percent, const ChromaRange &range) noexcept;
+
+    /*! Chromaticity to whole pixels (truncated toward zero), offset added. */
+    QPointF toPixel(const QPointF &chroma) const noexcept;
+    /*! Chromaticity to pixels without truncation, offset added. */
+    QPointF toExactPixel(double x, double y) const noexcept;
+    /*! Picture position to chromaticity, offset not subtracted. */
+    QPointF toChroma(double px, double py) const noexcept;
+
+    const QRectF &plot() const noexcept { return m_plot; }
+    const QRectF &chroma() const noexcept { return m_chroma; }
+    double unitsPerPixelX() const noexcept { return m_unitsPerPixelX; }
+    double unitsPerPixelY() const noexcept { return m_unitsPerPixelY; }
+
+private:
+    QRectF m_plot;
+    QRectF m_chroma;
+    double m_pixelSpanX = 0.0;
+    double m_pixelSpanY = 0.0;
+    double m_chromaSpanX = 0.0;
+    double m_chromaSpanY = 0.0;
+    double m_pixelsPerUnitX = 0.0;
+    double m_pixelsPerUnitY = 0.0;
+    double m_unitsPerPixelX = 0.0;
+    double m_unitsPerPixelY = 0.0;
+};
+
+} // namespace ceiechart
+
+#endif

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_RENDER_DRAWCEIPICTURE_H
+#define CEIECHART_RENDER_DRAWCEIPICTURE_H
+
+#include <ceiechart/ceiechart_export.h>
+#include <ceiechart/model/colortriangleobject.h>
+#include <ceiechart/render/diagramlayers.h>
+
+#include <QPolygonF>
+#include <QRectF>
+#include <QSize>
+#include <QWidget>
+
+namespace NewCEIE {
+
+/*!
+ * \brief Draws the CIE 1931 x, y chromaticity diagram, and the gamuts over it, into a new picture per call.
+ *
+ * A renderer is made once and reused for every redraw; it is a widget only for the sake of ownership and is never
+ * shown. Chromaticities are CIE 1931 x, y (unitless); rectangles are in picture pixels, y growing downwards.
+ *
+ * \code
+ * NewCEIE::DrawCEIPicture renderer(nullptr);
+ * std::unique_ptr<QImage> picture(
+ *     renderer.drawCEIPicture(800, 800, true, triangles, standards, common, false, QString()));
+ * \endcode
+ *
+ * Both drawing forms return a picture that the caller owns and that shares no data with the renderer. A width or
+ * height of 0 gives a null image, and so do a negative size and one that cannot be allocated.
+ *
+ * The Planckian curve and the outlines of the colour-temperature dots are drawn with the pen that the painter
+ * holds when their layer begins, which after the layers below is the default: black, one pixel wide.
+ *
+ * GUI thread only; one renderer draws one picture at a time.
+ */
+class CEIECHART_EXPORT DrawCEIPicture : public QWidget, public ceiechart::DiagramLayers {
+    Q_OBJECT
+
+public:
+    /*! \param parent owns the renderer when not null. */
+    explicit DrawCEIPicture(QWidget *parent);
+    ~DrawCEIPicture() override;
+
+    /*!
+     * \brief The simple form: coloured horseshoe and locus edge, with axes when \a showCoordinate is set.
+     *
+     * The two flags after it are accepted and ignored. \a colourTemperaturePoints are kept and drawn by the next
+     * gamut form. Each row is coloured between its first and last pixel with a red component above zero, so that
+     * with the default picture colour the colours cover the whole picture, the axes and the edge included.
+     */
+    QImage *drawCEIPicture(int w, int h, bool showCoordinate, bool, bool, QList<QPointF> colourTemperaturePoints);
+
+    /*!
+     * \brief The gamut form: all layers.
+     *
+     * Bottom to top: picture colour, axes (when \a showCoordinate is set), wavelengths, locus edge, \a standards,
+     * the coloured horseshoe on the background colour inside \a clipPolygon, \a triangles by kind, Planckian locus
+     * with the colour-temperature points of the last simple form, measure points, CMY points.
+     *
+     * \param triangles   drawn as outlines: kinds 1, 2 and 3; any other kind is skipped
+     * \param standards   drawn as tinted outlines, whatever their kind
+     * \param clipPolygon where the horseshoe colours show, in picture pixels; when empty, nowhere
+     * \param polygonFlag stored, not used
+     * \param skipText    when not empty, the edge, the standards, the horseshoe and the triangles are left out
+     */
+    QImage *drawCEIPicture(int w, int h, bool showCoordinate, const QList<ColorTriangleObject> &triangles,
+        const QList<ColorTriangleObject> &standards, const QPolygonF &clipPolygon, bool polygonFlag,
+        const QString &skipText);
+
+    /*! The clip polygon of the last gamut form, in picture pixels. */
+    QPolygonF intersectPolygon() const;
+
+    /*!
+     * \brief Chromaticity to whole pixels of the last drawing.
+     *
+     * Before the first drawing every chromaticity maps to (4, 0).
+     */
+    QPointF CoordinateTransformation(const QPointF &xy) { return DiagramLayers::CoordinateTransformation(xy); }
+
+    /*! \a line colours the edge, the axes and the colour-temperature dots, \a picture fills the picture. */
+    void setGraphColor(QColor line, QColor picture);
+    /*! The colour behind the horseshoe of the gamut form. With no red in it the horseshoe stays uncoloured. */
+    void setBackgroudColor(const QColor &color);
+    /*! Where measure points are drawn: red, green, blue and white, further ones black, with a white outline. */
+    void setPointData(const QList<QRectF> &rectangles);
+    /*! CMY points are drawn 16 × 16 pixels from each rectangle's top-left corner: cyan, magenta, yellow, black. */
+    void setCMYPointData(const QList<QRectF> &rectangles);
+
+private:
+    using DiagramLayers::GetPointColorRGB;
+    using DiagramLayers::GetPointRGB;
+
+    QPointF CoordinateTransformation() { return DiagramLayers::CoordinateTransformation(); }
+    void updateTriangleOffsetPoint(QVector<QPointF> &pts);
+
+    //! These two write the pixel with the alpha trunc(alphaFactor × 256); a colour out of range leaves it as it was.
+    void GetPointRGB(int px, int py, double alphaFactor, QImage *picture);
+    void GetPointColorRGB(int px, int py, double alphaFactor, QImage *picture);
+
+    void painterCoordinate(QPainter &painter);
+
+    // Gamuts, in gamuts.cpp
+    void painterStandard(QPainter &painter, const QList<ColorTriangleObject> &standards);
+    void painterTriangle(QPainter &painter, const QList<ColorTriangleObject> &triangles);
+    void painterTargetTriangle(QPainter &painter, const ColorTriangleObject &triangle);
+    void painterOriginalTriangle(QPainter &painter, const ColorTriangleObject &triangle);
+    void painterInputTriangle(QPainter &painter, const ColorTriangleObject &triangle);
+    void painterIntersectsTriangle(QPainter &painter);
+    void drawCMYPoint(QPainter &painter);
+
+    QPolygonF trianglePolygon(const ColorTriangleObject &triangle);
+    void drawOutline(QPainter &painter, const ColorTriangleObject &triangle);
+    void drawClippedHorseshoe(QImage &picture);
+    void drawMeasurePoints(QPainter &painter);
+
+    QList<QRectF> m_measureRectangles;
+    QList<QRectF> m_cmyRectangles;
+    QList<ColorTriangleObject> m_triangles;
+    bool m_showCoordinates = false;
+    QPolygonF m_clipPolygon;
+    bool m_polygonFlag = false;
+    QColor m_backgroundColor{23, 23, 26, 255};
+    QColor m_pictureColor{23, 23, 26, 255};
+};
+
+} // namespace NewCEIE
+
+#endif

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/render/drawceipicture.h>
+#include <ceiechart/render/largepaths_p.h>
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPen>
+
+namespace NewCEIE {
+
+namespace {
+
+QPen gamutPen(const QColor &color, double width)
+{
+    return QPen(QBrush(color), width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
+}
+
+//! Opacity counts in 256ths: 1.0 gives the invalid alpha 256, and with it a colour that paints nothing.
+QColor tint(const QColor &color, double opacity)
+{
+    return QColor(color.red(), color.green(), color.blue(), ceiechart::truncated(opacity * 256.0));
+}
+
+} // namespace
+
+QPolygonF DrawCEIPicture::trianglePolygon(const ColorTriangleObject &triangle)
+{
+    const TrianglePoint &points = triangle.trianglePoint();
+    return QPolygonF({CoordinateTransformation(points.redPos()), CoordinateTransformation(points.greenPos()),
+        CoordinateTransformation(points.bluePos())});
+}
+
+void DrawCEIPicture::painterStandard(QPainter &painter, const QList<ColorTriangleObject> &standards)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    for (ColorTriangleObject standard : standards) {
+        const QColor color = standard.foreColor();
+        painter.setPen(gamutPen(color, standard.trigleLineWidth()));
+        const QPolygonF polygon = trianglePolygon(standard);
+        ceiechart::drawPolygonOutline(painter, polygon);
+        QPainterPath path;
+        path.addPolygon(polygon);
+        ceiechart::fillLargePath(painter, path, QBrush(tint(color, standard.opacity())));
+    }
+    painter.restore();
+}
+
+void DrawCEIPicture::painterTriangle(QPainter &painter, const QList<ColorTriangleObject> &triangles)
+{
+    for (const ColorTriangleObject &triangle : triangles) {
+        switch (triangle.type()) {
+        case 1:
+            painterTargetTriangle(painter, triangle);
+            break;
+        case 2:
+            painterOriginalTriangle(painter, triangle);
+            break;
+        case 3:
+            painterInputTriangle(painter, triangle);
+            break;
+        default:
+            break;
+        }
+    }
+}
+
+void DrawCEIPicture::painterTargetTriangle(QPainter &painter, const ColorTriangleObject &triangle)
+{
+    drawOutline(painter, triangle);
+}
+
+void DrawCEIPicture::painterOriginalTriangle(QPainter &painter, const ColorTriangleObject &triangle)
+{
+    drawOutline(painter, triangle);
+}
+
+void DrawCEIPicture::painterInputTriangle(QPainter &painter, const ColorTriangleObject &triangle)
+{
+    drawOutline(painter, triangle);
+}
+
+void DrawCEIPicture::drawOutline(QPainter &painter, const ColorTriangleObject &triangle)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    ColorTriangleObject copy(triangle);
+    painter.setPen(gamutPen(copy.foreColor(), copy.trigleLineWidth()));
+    ceiechart::drawPolygonOutline(painter, trianglePolygon(copy));
+    painter.restore();
+}
+
+void DrawCEIPicture::painterIntersectsTriangle(QPainter &painter)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(gamutPen(QColor(255, 255, 255, 128), 1.0));
+    painter.drawPolygon(m_clipPolygon, Qt::OddEvenFill);
+    painter.restore();
+}
+
+} // namespace NewCEIE

@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: MIT
+//
+// The fill of the horseshoe, pixel for pixel what the definition gives:
+//
+//     amounts  = primaryAmounts(chromaticity of the pixel)        affine along a row
+//     channels = fullBrightness(amounts)                          v = 255 c / L, L the largest amount
+//     colour   = rounded(channels)                                trunc(v + 0.5)
+//
+// A kernel follows this in single precision and leaves every pixel undecided of which a channel comes out nearer to
+// a rounding boundary than the error of that can be. Undecided pixels are done in double precision, in the order of
+// arithmetic of the definition.
+//
+// The error, with u = 2^-24 and M the largest magnitude of an amount on the row (it is affine, so at one of its
+// ends):
+//
+// - An amount is base + k · step. Rounding the base costs uM, rounding the step and multiplying it 2u |k · step|,
+//   which is at most 4uM, and adding uM. Clamping to [0, 1] enlarges no error. Together 6uM; 7uM covers what is of
+//   second order.
+// - The amounts sum to 1, so L ≥ 1/3, and c ≤ L. An error e of the amounts shifts v by 255 (e / L + c e / L²) at
+//   the most, which is no more than 1530 e.
+// - The quotient 255 / L, its product with c and the sum with 0.5 are rounded: less than 900u together.
+// - The definition itself, in double precision, and the interpolation between the row's ends are off by less than
+//   1e-9 as long as the colour system is well-conditioned and M small; otherwise the whole row is done in double
+//   precision.
+#include <ceiechart/render/horseshoe_p.h>
+
+#include <QColor>
+#include <QImage>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+#include <iterator>
+#include <utility>
+
+#if defined(__GNUC__) && defined(__x86_64__)
+#define CEIECHART_FILL_X86 1
+#endif
+
+namespace ceiechart {
+
+namespace {
+
+constexpr int runLength = 64; // pixels
+constexpr double largestAmount = 8.0; // for which the error is argued
+constexpr double roundingUnit = 1.0 / (1 << 24);
+
+#ifdef __GNUC__
+__attribute__((always_inline))
+#endif
+inline bool
+decideRun(const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
+{
+    const float above = run.margin;
+    const float below = 1.0F - run.margin;
+    unsigned any = 0;
+    for (int k = 0; k < count; ++k) {
+        const float step = static_cast<float>(k);
+        float red = run.red + step * run.redStep;
+        float green = run.green + step * run.greenStep;
+        float blue = run.blue + step * run.blueStep;
+        red = red > 0.0F ? red : 0.0F;
+        green = green > 0.0F ? green : 0.0F;
+        blue = blue > 0.0F ? blue : 0.0F;
+        red = red < 1.0F ? red : 1.0F;
+        green = green < 1.0F ? green : 1.0F;
+        blue = blue < 1.0F ? blue : 1.0F;
+        float largest = green > red ? green : red;
+        largest = blue > largest ? blue : largest;
+
+        const float scale = 255.0F / largest;
+        red = red * scale + 0.5F;
+        green = green * scale + 0.5F;
+        blue = blue * scale + 0.5F;
+        const int wholeRed = static_cast<int>(red);
+        const int wholeGreen = static_cast<int>(green);
+        const int wholeBlue = static_cast<int>(blue);
+        const float restRed = red - static_cast<float>(wholeRed);
+        const float restGreen = green - static_cast<float>(wholeGreen);
+        const float restBlue = blue - static_cast<float>(wholeBlue);
+
+        const unsigned near = unsigned(restRed < above) | unsigned(restRed > below) | unsigned(restGreen < above)
+            | unsigned(restGreen > below) | unsigned(restBlue < above) | unsigned(restBlue > below);
+        undecided[k] = near;
+        any |= near;
+        colors[k] = 0xff000000U | unsigned(wholeRed) << 16 | unsigned(wholeGreen) << 8 | unsigned(wholeBlue);
+    }
+    return any != 0;
+}
+
+bool decideAnywhere(const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
+{
+    return decideRun(run, count, colors, undecided);
+}
+
+bool everywhere()
+{
+    return true;
+}
+
+#ifdef CEIECHART_FILL_X86
+__attribute__((target("avx2"))) bool decideAvx2(const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
+{
+    return decideRun(run, count, colors, undecided);
+}
+
+bool hasAvx2()
+{
+    return __builtin_cpu_supports("avx2") != 0;
+}
+#endif
+
+//! False for a colour that cannot be written, of a singular colour system.
+bool exactColor(const HorseshoeFill &fill, int x, int y, QRgb &color)
+{
+    const QPointF chroma = fill.geometry.toChroma(x, y);
+    const Channels channels = fullBrightness(
+        primaryAmounts(fill.colorSystem, chroma.x(), chroma.y(), 1 - chroma.x() - chroma.y()), fill.gamma);
+    const QColor exact = QColor::fromRgb(rounded(channels.red), rounded(channels.green), rounded(channels.blue), 255);
+    color = exact.rgba();
+    return exact.isValid();
+}
+
+//! Whether the error of the definition in double precision can be neglected.
+bool wellConditioned(const CEIAtlasValue::TColorSystem &system)
+{
+    for (const float coordinate :
+        {system.xRed, system.yRed, system.xGreen, system.yGreen, system.xBlue, system.yBlue}) {
+        if (!(std::fabs(coordinate) <= 1.5F)) {
+            return false;
+        }
+    }
+    const double twiceArea = double(system.xGreen - system.xRed) * double(system.yBlue - system.yRed)
+        - double(system.xBlue - system.xRed) * double(system.yGreen - system.yRed);
+    return std::fabs(twiceArea) >= 1e-3;
+}
+
+//! First and last column to be coloured, or 0 and 0.
+template <typename HasRed>
+std::pair<int, int> columnsToColor(int width, HasRed hasRed)
+{
+    int left = 0;
+    while (left < width && !hasRed(left)) {
+        ++left;
+    }
+    int right = width - 1;
+    while (right > 0 && !hasRed(right)) {
+        --right;
+    }
+    return {left < width ? left : 0, right};
+}
+
+//! Formats in which an opaque colour is its QRgb, and red is above zero in the pixel when it is in the colour.
+bool holdsRgb(QImage::Format format)
+{
+    return format == QImage::Format_ARGB32 || format == QImage::Format_RGB32
+        || format == QImage::Format_ARGB32_Premultiplied;
+}
+
+} // namespace
+
+double decisionMargin(double magnitude)
+{
+    return (1530.0 * 7.0 * magnitude + 900.0) * roundingUnit + 1e-6;
+}
+
+const FillKernel fillKernels[] = {
+#ifdef CEIECHART_FILL_X86
+    {"AVX2", hasAvx2, decideAvx2},
+#endif
+    {"baseline", everywhere, decideAnywhere},
+};
+
+const int fillKernelCount = int(std::size(fillKernels));
+
+const FillKernel &fastestFillKernel()
+{
+    static const FillKernel &fastest = *std::find_if(
+        std::begin(fillKernels), std::end(fillKernels), [](const FillKernel &kernel) { return kernel.supported(); });
+    return fastest;
+}
+
+RowFill::RowFill(const HorseshoeFill &fill, const FillKernel &kernel)
+    : m_fill(fill)
+    , m_kernel(kernel)
+    , m_fast(std::abs(fill.gamma - 1) < 0.001 && wellConditioned(fill.colorSystem))
+{
+}
+
+void RowFill::color(QRgb *line, int left, int right, int y) const
+{
+    const int count = right - left + 1;
+    const Channels first = amountsAt(left, y);
+    const Channels last = amountsAt(right, y);
+    const double magnitude = std::max({std::fabs(first.red), std::fabs(first.green), std::fabs(first.blue),
+        std::fabs(last.red), std::fabs(last.green), std::fabs(last.blue)});
+    if (!m_fast || count < 2 || !(magnitude <= largestAmount)) {
+        for (int x = left; x <= right; ++x) {
+            exact(line[x - left], x, y);
+        }
+        return;
+    }
+
+    const double steps = count - 1;
+    const Channels step{
+        (last.red - first.red) / steps, (last.green - first.green) / steps, (last.blue - first.blue) / steps};
+    const auto margin = static_cast<float>(decisionMargin(magnitude));
+    unsigned undecided[runLength];
+    for (int begin = 0; begin < count; begin += runLength) {
+        const int length = std::min(runLength, count - begin);
+        const PixelRun run{static_cast<float>(first.red + begin * step.red),
+            static_cast<float>(first.green + begin * step.green), static_cast<float>(first.blue + begin * step.blue),
+            static_cast<float>(step.red), static_cast<float>(step.green), static_cast<float>(step.blue), margin};
+        if (!m_kernel.decide(run, length, line + begin, undecided)) {
+            continue;
+        }
+        for (int k = 0; k < length; ++k) {
+            if (undecided[k] != 0) {
+                exact(line[begin + k], left + begin + k, y);
+            }
+        }
+    }
+}
+
+Channels RowFill::amountsAt(int x, int y) const
+{
+    const QPointF chroma = m_fill.geometry.toChroma(x, y);
+    return primaryAmounts(m_fill.colorSystem, chroma.x(), chroma.y(), 1 - chroma.x() - chroma.y());
+}
+
+void RowFill::exact(QRgb &pixel, int x, int y) const
+{
+    QRgb color = 0;
+    if (exactColor(m_fill, x, y, color)) {
+        pixel = color;
+    }
+}
+
+void fillHorseshoe(QImage &picture, int width, int height, const HorseshoeFill &fill, const FillKernel &kernel)
+{
+    // Where the picture ends there is no red, and nothing to colour.
+    width = std::min(width, picture.width());
+    height = std::min(height, picture.height());
+    if (width < 1 || height < 1) {
+        return;
+    }
+
+    if (!holdsRgb(picture.format())) {
+        for (int y = 0; y < height; ++y) {
+            const auto [left, right] = columnsToColor(width, [&](int x) { return qRed(picture.pixel(x, y)) > 0; });
+            QRgb color = 0;
+            for (int x = left; x <= right && right > 0; ++x) {
+                if (exactColor(fill, x, y, color)) {
+                    picture.setPixelColor(x, y, QColor::fromRgba(color));
+                }
+            }
+        }
+        return;
+    }
+
+    const RowFill rows(fill, kernel);
+    uchar *bits = picture.bits();
+    for (int y = 0; y < height; ++y) {
+        auto *line = reinterpret_cast<QRgb *>(bits + qsizetype(y) * picture.bytesPerLine());
+        const auto [left, right] = columnsToColor(width, [line](int x) { return qRed(line[x]) > 0; });
+        if (right > 0) {
+            rows.color(line + left, left, right, y);
+        }
+    }
+}
+
+} // namespace ceiechart

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/render/diagramlayers.h>
+
+#include <QPainter>
+#include <QPen>
+
+namespace ceiechart {
+
+namespace {
+
+constexpr int firstWavelength = 360; // nm
+constexpr int lastWavelength = 830; // nm; the outline itself ends one row earlier
+
+QPen edgePen(const QColor &color)
+{
+    return QPen(QBrush(color), 2.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
+}
+
+} // namespace
+
+void DiagramLayers::paintCEIEdge(QPainter &painter)
+{
+    for (const CEIAtlasValue::CEIAtlasCoordinate &row : qAsConst(m_locus)) {
+        if (row.waveLength == firstWavelength) {
+            GetPointF(row);
+            const QPointF start = CoordinateTransformation();
+            m_pendingLine.setPoints(start, start);
+        } else if (row.waveLength > firstWavelength && row.waveLength < lastWavelength) {
+            m_pendingLine.setP1(DrawPointFToLine(painter, row, m_pendingLine.p1()));
+        }
+    }
+
+    // The pending line now runs from the red end back to the violet one: the line of purples.
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(edgePen(m_lineColor));
+    painter.drawLine(m_pendingLine);
+    painter.restore();
+}
+
+QPointF DiagramLayers::DrawPointFToLine(
+    QPainter &painter, const CEIAtlasValue::CEIAtlasCoordinate &row, const QPointF &previous)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    GetPointF(row);
+    const QPointF point = CoordinateTransformation();
+    painter.setPen(edgePen(m_lineColor));
+    painter.drawLine(previous, point);
+    painter.restore();
+    return point;
+}
+
+} // namespace ceiechart

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/render/drawceipicture.h>
+
+#include <QPainter>
+
+namespace NewCEIE {
+
+namespace {
+
+//! Beyond the last colour a default-constructed one, which a solid brush paints opaque black.
+template <std::size_t N>
+QColor colorAt(const QColor (&colors)[N], int index)
+{
+    return index < int(N) ? colors[index] : QColor();
+}
+
+} // namespace
+
+void DrawCEIPicture::drawMeasurePoints(QPainter &painter)
+{
+    const QColor colors[] = {QColor(255, 0, 0), QColor(0, 255, 0), QColor(0, 0, 255), QColor(255, 255, 255)};
+    for (int i = 0; i < m_measureRectangles.size(); ++i) {
+        painter.save();
+        painter.setPen(QColor(255, 255, 255, 255));
+        painter.setBrush(QBrush(colorAt(colors, i)));
+        painter.drawEllipse(m_measureRectangles.at(i));
+        painter.restore();
+    }
+}
+
+void DrawCEIPicture::drawCMYPoint(QPainter &painter)
+{
+    const QColor colors[]
+        = {QColor(QStringLiteral("#00FFFF")), QColor(QStringLiteral("#FF00FF")), QColor(QStringLiteral("#FFFF00"))};
+    for (int i = 0; i < m_cmyRectangles.size(); ++i) {
+        const QRectF &rectangle = m_cmyRectangles.at(i);
+        painter.save();
+        painter.setPen(QColor(QStringLiteral("#FF00FF")));
+        painter.setBrush(QBrush(colorAt(colors, i)));
+        painter.drawEllipse(QRectF(rectangle.x(), rectangle.y(), 16.0, 16.0));
+        painter.restore();
+    }
+}
+
+} // namespace NewCEIE
