@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_TESTS_REFERENCE_PLAINRENDERER_H
+#define CEIECHART_TESTS_REFERENCE_PLAINRENDERER_H
+
+#include <ceiechart/atlas/ceiatlasvalue.h>
+#include <ceiechart/model/colortriangleobject.h>
+
+#include <QColor>
+#include <QImage>
+#include <QList>
+#include <QPointF>
+#include <QPolygonF>
+#include <QRectF>
+#include <QString>
+
+class QPainter;
+
+/*!
+ * \brief The renderer's definition, written down as plainly as possible: what every picture is compared with.
+ *
+ * Nothing here is shared with the library's renderer and nothing is made fast: one pixel, one line and one
+ * painter call at a time, in the order in which the picture is defined.
+ */
+namespace reference {
+
+/*! \brief The chromaticities shown: single precision, as the renderer keeps them. */
+struct ChromaRange {
+    float xMin = 0.0F;
+    float xMax = 0.84F;
+    float yMin = 0.0F;
+    float yMax = 0.94F;
+};
+
+/*! \brief The two rectangles of a drawing and the scales between them. */
+struct Mapping {
+    QRectF plot;
+    QRectF chroma;
+    double pixelSpanX = 0.0;
+    double pixelSpanY = 0.0;
+    double chromaSpanX = 0.0;
+    double chromaSpanY = 0.0;
+    double pixelsPerUnitX = 0.0;
+    double pixelsPerUnitY = 0.0;
+    double unitsPerPixelX = 0.0;
+    double unitsPerPixelY = 0.0;
+
+    /*! \brief Takes both rectangles; a zero span returns false and leaves the four scales as they were. */
+    bool set(const QRectF &plotRectangle, const QRectF &chromaRectangle);
+
+    /*! \brief Chromaticity to whole pixels. */
+    QPointF toWholePixel(const QPointF &xy) const;
+
+    /*! \brief Chromaticity to pixels without truncation. */
+    QPointF toPixel(const QPointF &xy) const;
+
+    /*! \brief Pixel to chromaticity; does not undo the pixel offset of the forward mappings. */
+    QPointF toChroma(int px, int py) const;
+};
+
+/*! \brief a·b, divided by c in integers, plus one half. */
+double mulDiv(int a, int b, int c);
+
+/*! \brief \a low when it is above \a value, else the smaller of \a high and \a value (\a high for NaN). */
+double clamp(double value, double low, double high);
+
+/*! \brief The colour that the horseshoe shows for a chromaticity. */
+QColor horseshoeColor(const CEIAtlasValue::TColorSystem &colorSystem, const QPointF &xy, double gamma);
+
+/*! \brief Colours the first \a width × \a height pixels of \a picture, row by row between its red pixels. */
+void fillPlain(QImage &picture, int width, int height, const Mapping &mapping,
+    const CEIAtlasValue::TColorSystem &colorSystem, double gamma);
+
+/*! \brief Draws the diagrams of NewCEIE::DrawCEIPicture, keeping the same state from drawing to drawing. */
+class PlainRenderer {
+public:
+    /*! \brief Ranges and colours of the CIE 1931 diagram. */
+    PlainRenderer();
+
+    /*! \brief Other ranges, or horseshoe colours from other primaries. */
+    PlainRenderer(const ChromaRange &range, const CEIAtlasValue::TColorSystem &colorSystem);
+
+    QImage drawCEIPicture(int w, int h, bool showCoordinate, const QList<QPointF> &colorTemperaturePoints);
+    QImage drawCEIPicture(int w, int h, bool showCoordinate, const QList<ColorTriangleObject> &triangles,
+        const QList<ColorTriangleObject> &standards, const QPolygonF &clipPolygon, const QString &skipText);
+
+    void setGraphColor(const QColor &line, const QColor &picture);
+    void setBackgroudColor(const QColor &color);
+    void setPointData(const QList<QRectF> &rectangles);
+    void setCMYPointData(const QList<QRectF> &rectangles);
+
+    /*!
+     * \brief Takes the picture's size and derives the mapping from it, as at the start of every drawing.
+     *
+     * The percentages are those of the plot's near and far edges.
+     */
+    void setPictureSize(int w, int h, int nearPercent = 5, int farPercent = 95);
+    const Mapping &mapping() const { return m_mapping; }
+
+    // The layers, each drawing in the state in which it finds the painter.
+    void paintCEIEdge(QPainter &painter) const;
+    void painterWaveLength(QPainter &painter) const;
+    void painterCoordinate(QPainter &painter) const;
+    void painterBBRLine(QPainter &painter) const;
+    void painterStandard(QPainter &painter, const QList<ColorTriangleObject> &standards) const;
+    void painterTriangle(QPainter &painter, const QList<ColorTriangleObject> &triangles) const;
+    void painterMeasurePoints(QPainter &painter) const;
+    void drawCMYPoint(QPainter &painter) const;
+    void painterPixColor(QImage &picture) const;
+
+private:
+    void paintGridLine(QPainter &painter, const QPointF &from, const QPointF &to) const;
+    void paintHorizontalNumber(QPainter &painter, int k) const;
+    void paintVerticalNumber(QPainter &painter, int j) const;
+    void paintLabelledTick(QPainter &painter, int x1, int y1, int x2, int y2, const QString &text) const;
+    void paintColorTemperaturePoints(QPainter &painter) const;
+    QPolygonF trianglePolygon(const ColorTriangleObject &triangle) const;
+
+    CEIAtlasValue m_atlas;
+    ChromaRange m_range;
+    CEIAtlasValue::TColorSystem m_colorSystem;
+    Mapping m_mapping;
+    int m_width = 0;
+    int m_height = 0;
+    QList<QPointF> m_colorTemperaturePoints;
+    QList<QRectF> m_measurePoints;
+    QList<QRectF> m_cmyPoints;
+    QColor m_backgroundColor{23, 23, 26, 255};
+    QColor m_lineColor{255, 255, 255, 255};
+    QColor m_pictureColor{23, 23, 26, 255};
+};
+
+} // namespace reference
+
+#endif // CEIECHART_TESTS_REFERENCE_PLAINRENDERER_H

@@ -1,0 +1,296 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/render/drawceipicture.h>
+#include <ceiechart/render/horseshoe_p.h>
+#include <reference/plainrenderer.h>
+
+#include <QColor>
+#include <QImage>
+#include <QtTest>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+
+/*! The fast fill against the plain one: the same bytes, by every kernel, for every size. */
+class FillKernelsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sameBytesForEverySize();
+    void sameBytesBetweenRowBounds();
+    void sameBytesInOtherFormats();
+    void sameBytesForOtherColorSystems_data();
+    void sameBytesForOtherColorSystems();
+    void gammaOfTheRenderer();
+    void errorsStayWithinTheMargin();
+    void mostPixelsAreDecidedAtOnce();
+    void aBaselineKernelIsAlwaysThere();
+    void nothingToFill();
+
+private:
+    static std::vector<QSize> sizes();
+};
+
+namespace {
+
+const CEIAtlasValue::TColorSystem atlasColors = CEIAtlasValue().colorSystem;
+
+struct Diagram {
+    reference::Mapping mapping;
+    ceiechart::DiagramGeometry geometry;
+};
+
+Diagram diagramOf(int width, int height)
+{
+    const QRectF plot(reference::mulDiv(width, 5, 100), reference::mulDiv(height, 5, 100),
+        reference::mulDiv(width, 95, 100), reference::mulDiv(height, 95, 100));
+    const QRectF chroma(0.0, 0.0, double(0.84F), double(0.94F));
+    Diagram diagram;
+    diagram.mapping.set(plot, chroma);
+    diagram.geometry.set(plot, chroma);
+    return diagram;
+}
+
+std::vector<const ceiechart::FillKernel *> supportedKernels()
+{
+    std::vector<const ceiechart::FillKernel *> kernels;
+    for (int i = 0; i < ceiechart::fillKernelCount; ++i) {
+        if (ceiechart::fillKernels[i].supported()) {
+            kernels.push_back(&ceiechart::fillKernels[i]);
+        }
+    }
+    return kernels;
+}
+
+// Fills copies of a picture plainly and by every kernel; says where they differ.
+QString compare(const QImage &picture, const CEIAtlasValue::TColorSystem &colors, double gamma)
+{
+    const Diagram diagram = diagramOf(picture.width(), picture.height());
+    QImage expected = picture;
+    reference::fillPlain(expected, picture.width(), picture.height(), diagram.mapping, colors, gamma);
+    for (const ceiechart::FillKernel *kernel : supportedKernels()) {
+        QImage actual = picture;
+        ceiechart::fillHorseshoe(actual, picture.width(), picture.height(), {diagram.geometry, colors, gamma}, *kernel);
+        for (int y = 0; y < picture.height(); ++y) {
+            if (std::memcmp(actual.constScanLine(y), expected.constScanLine(y), std::size_t(picture.width()) * 4)) {
+                return QStringLiteral("%1, row %2 of %3 x %4")
+                    .arg(QLatin1String(kernel->name))
+                    .arg(y)
+                    .arg(picture.width())
+                    .arg(picture.height());
+            }
+        }
+    }
+    return QString();
+}
+
+QImage filled(const QSize &size, const QColor &color, QImage::Format format = QImage::Format_ARGB32)
+{
+    QImage picture(size, format);
+    picture.fill(color);
+    return picture;
+}
+
+} // namespace
+
+std::vector<QSize> FillKernelsTest::sizes()
+{
+    std::vector<QSize> sizes;
+    for (int w = 1; w <= 40; ++w) {
+        sizes.emplace_back(w, 7);
+        sizes.emplace_back(5, w);
+    }
+    for (const int prime : {53, 61, 67, 71, 97, 101, 127, 131, 191, 193, 251, 257, 383, 389, 509, 521}) {
+        sizes.emplace_back(prime, 31);
+        sizes.emplace_back(17, prime);
+        sizes.emplace_back(prime, prime);
+    }
+    for (const int power : {64, 128, 256, 512, 1024, 2048, 4096, 8192}) {
+        sizes.emplace_back(power, 5);
+        sizes.emplace_back(power - 1, 3);
+        sizes.emplace_back(power + 1, 3);
+        sizes.emplace_back(2, power);
+        sizes.emplace_back(1, power);
+    }
+    for (int n = 100; n < 140; ++n) {
+        sizes.emplace_back(n, n / 2);
+    }
+    sizes.emplace_back(800, 800);
+    sizes.emplace_back(8192, 64);
+    return sizes;
+}
+
+void FillKernelsTest::sameBytesForEverySize()
+{
+    QVERIFY(sizes().size() >= 200);
+    for (const QSize &size : sizes()) {
+        const QString difference = compare(filled(size, QColor(23, 23, 26)), atlasColors, 1.0);
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    }
+}
+
+void FillKernelsTest::sameBytesBetweenRowBounds()
+{
+    std::mt19937 random(20);
+    for (int i = 0; i < 60; ++i) {
+        const QSize size(1 + int(random() % 300), 1 + int(random() % 60));
+        QImage picture = filled(size, QColor(0, 200, 77));
+        for (int y = 0; y < size.height(); ++y) {
+            // Red at up to three places of the row, some of them translucent.
+            for (unsigned n = random() % 4; n > 0; --n) {
+                const QRgb mark = random() % 3 == 0 ? qRgba(1, 0, 0, 40) : qRgba(255, 9, 9, 255);
+                picture.setPixel(int(random() % unsigned(size.width())), y, mark);
+            }
+        }
+        const QString difference = compare(picture, atlasColors, 1.0);
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    }
+}
+
+void FillKernelsTest::sameBytesInOtherFormats()
+{
+    for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied,
+             QImage::Format_RGBA8888, QImage::Format_RGBX8888, QImage::Format_BGR30}) {
+        const QString difference = compare(filled(QSize(130, 40), QColor(90, 1, 2), format), atlasColors, 1.0);
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+    }
+}
+
+void FillKernelsTest::sameBytesForOtherColorSystems_data()
+{
+    QTest::addColumn<QVector<float>>("primaries");
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float infinity = std::numeric_limits<float>::infinity();
+    QTest::newRow("u'v'") << QVector<float>{0.5222F, 0.5222F, 0.0111F, 0.7888F, 0.1888F, 0.1555F};
+    QTest::newRow("narrow") << QVector<float>{0.33F, 0.33F, 0.34F, 0.33F, 0.33F, 0.34F};
+    QTest::newRow("nearly a line") << QVector<float>{0.1F, 0.1F, 0.5F, 0.5F, 0.3F, 0.300001F};
+    QTest::newRow("a line") << QVector<float>{0.25F, 0.25F, 0.5F, 0.5F, 0.375F, 0.375F};
+    QTest::newRow("one point") << QVector<float>{0.3F, 0.3F, 0.3F, 0.3F, 0.3F, 0.3F};
+    QTest::newRow("all zero") << QVector<float>{0, 0, 0, 0, 0, 0};
+    QTest::newRow("inverted") << QVector<float>{0.15F, 0.065F, 0.275F, 0.605F, 0.625F, 0.34F};
+    QTest::newRow("huge") << QVector<float>{1e6F, 1e6F, -1e6F, 1e6F, 0, -1e6F};
+    QTest::newRow("NaN") << QVector<float>{nan, 0.34F, 0.275F, 0.605F, 0.15F, 0.065F};
+    QTest::newRow("infinite") << QVector<float>{infinity, 0.34F, 0.275F, 0.605F, 0.15F, 0.065F};
+}
+
+void FillKernelsTest::sameBytesForOtherColorSystems()
+{
+    QFETCH(QVector<float>, primaries);
+    const CEIAtlasValue::TColorSystem colors{
+        primaries[0], primaries[1], primaries[2], primaries[3], primaries[4], primaries[5], 0, 0};
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    const QString difference = compare(filled(QSize(211, 173), QColor(23, 23, 26)), colors, 1.0)
+        + compare(filled(QSize(64, 64), QColor(23, 23, 26)), colors, 2.2);
+    qInstallMessageHandler(nullptr);
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+}
+
+void FillKernelsTest::gammaOfTheRenderer()
+{
+    const QSize size(157, 83);
+    const Diagram diagram = diagramOf(size.width(), size.height());
+    NewCEIE::DrawCEIPicture renderer(nullptr);
+    std::unique_ptr<QImage>(renderer.drawCEIPicture(size.width(), size.height(), false, false, false, {}));
+    for (const double gamma : {1.0, 2.2, 1.0009, 1.0011, 0.5}) {
+        renderer.m_gamma = gamma;
+        QImage actual = filled(size, QColor(23, 23, 26));
+        QImage expected = actual;
+        renderer.painterPixColor(&actual);
+        reference::fillPlain(expected, size.width(), size.height(), diagram.mapping, atlasColors, gamma);
+        QVERIFY2(actual == expected, qPrintable(QString::number(gamma)));
+    }
+}
+
+void FillKernelsTest::errorsStayWithinTheMargin()
+{
+    // Without a margin a kernel errs; wherever it does, the exact channel lies within the margin of a boundary.
+    constexpr int length = 64;
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> amount(-2.3, 2.3);
+    long errors = 0;
+    double worst = 0.0;
+    for (int i = 0; i < 40000; ++i) {
+        const double red = amount(random);
+        const double green = amount(random);
+        const double step = amount(random) / length;
+        const double greenStep = amount(random) / length;
+        const double blue = 1 - red - green;
+        const double blueStep = -step - greenStep;
+        const double magnitude
+            = std::max({std::fabs(red), std::fabs(green), std::fabs(blue), std::fabs(red + length * step),
+                std::fabs(green + length * greenStep), std::fabs(blue + length * blueStep)});
+        const ceiechart::PixelRun run{
+            float(red), float(green), float(blue), float(step), float(greenStep), float(blueStep), 0.0F};
+        for (const ceiechart::FillKernel *kernel : supportedKernels()) {
+            QRgb colors[length];
+            unsigned undecided[length];
+            kernel->decide(run, length, colors, undecided);
+            for (int k = 0; k < length; ++k) {
+                const ceiechart::Channels exact
+                    = ceiechart::fullBrightness({red + k * step, green + k * greenStep, blue + k * blueStep}, 1.0);
+                const std::pair<double, int> channels[]
+                    = {{exact.red, qRed(colors[k])}, {exact.green, qGreen(colors[k])}, {exact.blue, qBlue(colors[k])}};
+                for (const auto &[channel, found] : channels) {
+                    if (ceiechart::rounded(channel) != found) {
+                        const double distance = std::fabs(channel + 0.5 - std::round(channel + 0.5));
+                        worst = std::max(worst, distance / ceiechart::decisionMargin(magnitude));
+                        ++errors;
+                    }
+                }
+            }
+        }
+    }
+    QVERIFY(errors > 0);
+    QVERIFY2(worst < 1.0, qPrintable(QString::number(worst)));
+}
+
+void FillKernelsTest::mostPixelsAreDecidedAtOnce()
+{
+    const Diagram diagram = diagramOf(800, 800);
+    const ceiechart::FillKernel *kernel = supportedKernels().front();
+    long undecidedPixels = 0;
+    for (int y = 0; y < 800; ++y) {
+        const auto amounts = [&](int x) {
+            const QPointF chroma = diagram.geometry.toChroma(x, y);
+            return ceiechart::primaryAmounts(atlasColors, chroma.x(), chroma.y(), 1 - chroma.x() - chroma.y());
+        };
+        for (int x = 0; x < 800; x += 50) {
+            const ceiechart::Channels a = amounts(x);
+            const ceiechart::Channels b = amounts(x + 1);
+            const ceiechart::PixelRun run{float(a.red), float(a.green), float(a.blue), float(b.red - a.red),
+                float(b.green - a.green), float(b.blue - a.blue), float(ceiechart::decisionMargin(2.3))};
+            QRgb colors[50];
+            unsigned undecided[50];
+            kernel->decide(run, 50, colors, undecided);
+            for (const unsigned flag : undecided) {
+                undecidedPixels += flag != 0;
+            }
+        }
+    }
+    QVERIFY2(undecidedPixels < 800 * 800 / 100, qPrintable(QString::number(undecidedPixels)));
+}
+
+void FillKernelsTest::aBaselineKernelIsAlwaysThere()
+{
+    QVERIFY(ceiechart::fillKernels[ceiechart::fillKernelCount - 1].supported());
+    QVERIFY(ceiechart::fastestFillKernel().supported());
+}
+
+void FillKernelsTest::nothingToFill()
+{
+    const Diagram diagram = diagramOf(10, 10);
+    QImage none;
+    ceiechart::fillHorseshoe(none, 10, 10, {diagram.geometry, atlasColors, 1.0});
+    QVERIFY(none.isNull());
+
+    QImage picture = filled(QSize(10, 10), QColor(23, 23, 26));
+    const QImage before = picture;
+    ceiechart::fillHorseshoe(picture, 0, 10, {diagram.geometry, atlasColors, 1.0});
+    ceiechart::fillHorseshoe(picture, 10, -1, {diagram.geometry, atlasColors, 1.0});
+    QVERIFY(picture == before);
+}
+
+QTEST_MAIN(FillKernelsTest)
+
+#include "fillkernelstest.moc"
