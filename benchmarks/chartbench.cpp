@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: MIT
+#include "ratioreporter.h"
+
+#include <ceiechart/legacy/ceiegraphicsscene.h>
+#include <ceiechart/legacy/drawceipicture.h>
+#include <ceiechart/render/drawceipicture.h>
+#include <ceiechart/render/horseshoe_p.h>
+#include <ceiechart/scene/ceiegraphicsscene.h>
+#include <gamutmodel/colorgamut.h>
+#include <reference/plainrenderer.h>
+
+#include <QApplication>
+#include <QGraphicsView>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+#include <memory>
+
+namespace {
+
+const CEIAtlasValue &atlas()
+{
+    static const CEIAtlasValue values;
+    return values;
+}
+
+QImage blank(const QSize &size)
+{
+    QImage picture(size, QImage::Format_ARGB32);
+    picture.fill(QColor(23, 23, 26));
+    return picture;
+}
+
+QRectF plotOf(const QSize &size)
+{
+    return QRectF(reference::mulDiv(size.width(), 5, 100), reference::mulDiv(size.height(), 5, 100),
+        reference::mulDiv(size.width(), 95, 100), reference::mulDiv(size.height(), 95, 100));
+}
+
+const QRectF chroma(0.0, 0.0, double(0.84F), double(0.94F));
+
+void plainFill(benchmark::State &state, QSize size)
+{
+    reference::Mapping mapping;
+    mapping.set(plotOf(size), chroma);
+    QImage picture = blank(size);
+    for (auto _ : state) {
+        reference::fillPlain(picture, size.width(), size.height(), mapping, atlas().colorSystem, 1.0);
+        benchmark::DoNotOptimize(picture.bits());
+    }
+}
+
+void kernelFill(benchmark::State &state, QSize size, const ceiechart::FillKernel *kernel)
+{
+    ceiechart::DiagramGeometry geometry;
+    geometry.set(plotOf(size), chroma);
+    QImage picture = blank(size);
+    for (auto _ : state) {
+        ceiechart::fillHorseshoe(picture, size.width(), size.height(), {geometry, atlas().colorSystem, 1.0}, *kernel);
+        benchmark::DoNotOptimize(picture.bits());
+    }
+}
+
+ColorTriangleObject gamut(const Model::ColorGamut &record, int type, const QColor &color, double opacity = 1.0)
+{
+    const Model::Targets &t = record.getTargets();
+    TrianglePoint points;
+    points.setRedPos({t.red.x, t.red.y});
+    points.setGreenPos({t.green.x, t.green.y});
+    points.setBluePos({t.blue.x, t.blue.y});
+    points.setWhitePos({t.white.x, t.white.y});
+    ColorTriangleObject object;
+    object.setTrianglePoint(points);
+    object.setType(type);
+    object.setForeColor(color);
+    object.setTrigleLineWidth(2);
+    object.setOpacity(opacity);
+    return object;
+}
+
+//! DCI-P3(D65) inside an LED wall's gamut, with the three standards.
+struct Gamuts {
+    Model::ColorGamut wall{"wall",
+        {Model::Target::fromYxy(210, 0.692, 0.306), Model::Target::fromYxy(620, 0.172, 0.742),
+            Model::Target::fromYxy(70, 0.131, 0.056), Model::Target::fromYxy(900, 0.3127, 0.329)}};
+    QList<ColorTriangleObject> triangles{
+        gamut(wall, 2, QColor(22, 241, 255)), gamut(Model::dciP3D65(), 1, QColor(255, 163, 56))};
+    QList<ColorTriangleObject> standards{gamut(Model::rec709(), 0, QColor(255, 255, 255, 17), 0.07),
+        gamut(Model::rec2020(), 0, QColor(255, 255, 255, 51), 0.1),
+        gamut(Model::dciP3D65(), 0, QColor(255, 255, 255, 25), 0.05)};
+
+    QPolygonF clip(const QSize &size) const
+    {
+        ceiechart::DiagramGeometry geometry;
+        geometry.set(plotOf(size), chroma);
+        const TrianglePoint &target = qAsConst(triangles).last().trianglePoint();
+        return QPolygonF({geometry.toPixel(target.redPos()), geometry.toPixel(target.greenPos()),
+            geometry.toPixel(target.bluePos())});
+    }
+};
+
+void plainGamutForm(benchmark::State &state, QSize size)
+{
+    const Gamuts gamuts;
+    reference::PlainRenderer renderer;
+    for (auto _ : state) {
+        const QImage picture = renderer.drawCEIPicture(
+            size.width(), size.height(), true, gamuts.triangles, gamuts.standards, gamuts.clip(size), QString());
+        benchmark::DoNotOptimize(picture.constBits());
+    }
+}
+
+void gamutForm(benchmark::State &state, QSize size)
+{
+    const Gamuts gamuts;
+    NewCEIE::DrawCEIPicture renderer(nullptr);
+    for (auto _ : state) {
+        const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(size.width(), size.height(), true,
+            gamuts.triangles, gamuts.standards, gamuts.clip(size), false, QString()));
+        benchmark::DoNotOptimize(picture->constBits());
+    }
+}
+
+void plainUvPicture(benchmark::State &state, QSize size)
+{
+    // The definition colours the whole picture, pixel by pixel, and shows it through the locus.
+    DrawCEIPicture renderer(DrawCEIPicture::UvDiagram, nullptr);
+    std::unique_ptr<QImage>(renderer.drawCEIEPicture(size.width(), size.height(), true, false, false, {}));
+    std::vector<QPointF> uv;
+    DrawCEIPicture::xy2uv(atlas().spectrumLocus, uv);
+    reference::Mapping mapping;
+    mapping.set(QRectF(reference::mulDiv(size.width(), 15, 100), reference::mulDiv(size.height(), 15, 100),
+                    reference::mulDiv(size.width(), 85, 100), reference::mulDiv(size.height(), 85, 100)),
+        QRectF(0.0, 0.0, double(0.65F), double(0.68F)));
+    CEIAtlasValue::TColorSystem colors{0.5222F, 0.5222F, 0.0111F, 0.7888F, 0.1888F, 0.1555F, 0.2333F, 0.4777F};
+    for (auto _ : state) {
+        QImage picture(size, QImage::Format_ARGB32);
+        QPainter painter(&picture);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.fillRect(picture.rect(), QColor(0x32, 0x32, 0x38));
+        painter.save();
+        QPolygonF locus;
+        for (const QPointF &point : uv) {
+            locus.append(mapping.toWholePixel(point));
+        }
+        QPainterPath path;
+        path.addPolygon(locus);
+        painter.setClipPath(path, Qt::ReplaceClip);
+        painter.drawPath(path);
+        QImage colored(size, QImage::Format_ARGB32);
+        colored.fill(QColor(0x32, 0x32, 0x38));
+        reference::fillPlain(colored, size.width(), size.height(), mapping, colors, 1.0);
+        painter.drawImage(picture.rect(), colored);
+        painter.restore();
+        QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));
+        font.setWeight(QFont::DemiBold);
+        font.setPixelSize(12);
+        renderer.painterCoordinate(Qt::DashLine, font, painter);
+        benchmark::DoNotOptimize(picture.constBits());
+    }
+}
+
+void uvPicture(benchmark::State &state, QSize size)
+{
+    DrawCEIPicture renderer(DrawCEIPicture::UvDiagram, nullptr);
+    for (auto _ : state) {
+        const std::unique_ptr<QImage> picture(
+            renderer.drawCEIEPicture(size.width(), size.height(), true, false, false, {}));
+        benchmark::DoNotOptimize(picture->constBits());
+    }
+}
+
+//! A chart of \a size in a view that shows it, repainted as by a drag step or a hover.
+template <typename Scene>
+void repaintScene(benchmark::State &state, Scene &scene, const QSize &size)
+{
+    scene.setImageWidth(size.width());
+    scene.setImageHeight(size.height());
+    QGraphicsView view(&scene);
+    view.setFrameShape(QFrame::NoFrame);
+    view.resize(size);
+    QImage screen(size, QImage::Format_RGB32);
+    for (auto _ : state) {
+        QPainter painter(&screen);
+        scene.render(&painter, QRectF(QPointF(), size), QRectF(QPointF(), size));
+        benchmark::DoNotOptimize(screen.constBits());
+    }
+}
+
+void repaintReadyPixmap(benchmark::State &state, QSize size)
+{
+    const QPixmap ready = QPixmap::fromImage(blank(size));
+    QGraphicsScene scene;
+    scene.addPixmap(ready);
+    QImage screen(size, QImage::Format_RGB32);
+    for (auto _ : state) {
+        QPainter painter(&screen);
+        scene.render(&painter, QRectF(QPointF(), size), QRectF(QPointF(), size));
+        benchmark::DoNotOptimize(screen.constBits());
+    }
+}
+
+void repaintChart(benchmark::State &state, QSize size)
+{
+    NewCEIE::CEIEGraphicsScene scene(Gamuts().triangles);
+    repaintScene(state, scene, size);
+}
+
+void repaintLegacyChart(benchmark::State &state, QSize size)
+{
+    CEIEGraphicsScene scene(DrawCEIPicture::XyDiagram, Gamuts().triangles);
+    repaintScene(state, scene, size);
+}
+
+template <typename... Arguments>
+void add(const std::string &name, Arguments... arguments)
+{
+    benchmark::RegisterBenchmark(name.c_str(), arguments...)
+        ->Unit(benchmark::kMillisecond)
+        ->MinTime(0.3)
+        ->Repetitions(5)
+        ->ReportAggregatesOnly();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    for (const QSize &size : {QSize(800, 800), QSize(3840, 2160)}) {
+        const std::string dimensions = std::to_string(size.width()) + "x" + std::to_string(size.height());
+        add("fill " + dimensions + "/plain", plainFill, size);
+        for (int i = 0; i < ceiechart::fillKernelCount; ++i) {
+            if (ceiechart::fillKernels[i].supported()) {
+                add("fill " + dimensions + "/" + ceiechart::fillKernels[i].name, kernelFill, size,
+                    &ceiechart::fillKernels[i]);
+            }
+        }
+        add("gamut form " + dimensions + "/plain", plainGamutForm, size);
+        add("gamut form " + dimensions + "/library", gamutForm, size);
+    }
+    const QSize fullHd(1920, 1080);
+    add("u'v' picture 1920x1080/plain", plainUvPicture, fullHd);
+    add("u'v' picture 1920x1080/library", uvPicture, fullHd);
+    add("repaint 1920x1080/plain", repaintReadyPixmap, fullHd);
+    add("repaint 1920x1080/chart", repaintChart, fullHd);
+    add("repaint 1920x1080/legacy chart", repaintLegacyChart, fullHd);
+    benchmark::Initialize(&argc, argv);
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return 0;
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "ratioreporter.h"
+
+#include <cstdio>
+
+void RatioReporter::ReportRuns(const std::vector<Run> &runs)
+{
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run &run : runs) {
+        if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median") {
+            m_medians[run.run_name.function_name]
+                = run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
+        }
+    }
+}
+
+void RatioReporter::Finalize()
+{
+    std::puts("\nTimes faster than the plain definition, by medians:");
+    for (const auto &[name, seconds] : m_medians) {
+        const auto plain = m_medians.find(name.substr(0, name.find_last_of('/')) + "/plain");
+        if (plain != m_medians.end() && plain->first != name) {
+            std::printf("%-44s %8.2f ms %9.2f ms %8.1f x\n", name.c_str(), plain->second * 1e3, seconds * 1e3,
+                plain->second / seconds);
+        }
+    }
+}

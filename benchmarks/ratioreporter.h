@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_BENCHMARKS_RATIOREPORTER_H
+#define CEIECHART_BENCHMARKS_RATIOREPORTER_H
+
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+
+/*!
+ * \brief Prints the benchmarks as usual and, after them, how much faster each is than its plain definition.
+ *
+ * Machines differ and are noisy; ratios of one run travel. "<work>/<what>" is compared with "<work>/plain" by their
+ * median times.
+ */
+class RatioReporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run> &runs) override;
+    void Finalize() override;
+
+private:
+    std::map<std::string, double> m_medians; // by name, in seconds
+};
+
+#endif
