@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_WIDGETS_CEIEGRAPHICSVIEW_H
+#define CEIECHART_WIDGETS_CEIEGRAPHICSVIEW_H
+
+#include <ceiechart/ceiechart_export.h>
+#include <ceiechart/model/chartenums.h>
+#include <ceiechart/model/colortriangleobject.h>
+#include <ceiechart/model/targetinfochangedeventargs.h>
+#include <ceiechart/model/triangleobjeciinitializedeventargs.h>
+#include <ceiechart/widgets/ceielegend.h>
+#include <ceiechart/widgets/chartparts.h>
+#include <ceiechart/widgets/nqceiegraphicsview.h>
+
+#include <gamutmodel/colorgamut.h>
+
+#include <QFrame>
+#include <QPolygonF>
+
+class QLabel;
+
+namespace NewCEIE {
+
+class CEIEGraphicsScene;
+
+/*!
+ * \brief The chart that a host puts into its window: the CIE 1931 x, y diagram, the gamuts over it, and a legend.
+ *
+ * A host talks to this class only. It hands gamuts over as records, and the chart gives them their colours and
+ * kinds, shows what they have in common, and reports through its signals what the scene reports.
+ *
+ * \code
+ * auto *chart = new NewCEIE::CEIEGraphicsView(true, Qt::AlignRight, this);
+ * chart->setImageWidth(600);
+ * chart->setImageHeight(600);
+ * chart->setColorGamut(target, original, {Model::rec709(), Model::rec2020()});
+ * connect(chart, &NewCEIE::CEIEGraphicsView::signal_targetInfoChanged, this, &Window::showTarget);
+ * \endcode
+ *
+ * Inner view, legend and message label are children of the chart. The scene has no parent; the chart deletes it.
+ * Chromaticities are CIE 1931 x, y, luminances are in the host's units. Nothing reports an error: what cannot be
+ * used is ignored. GUI thread only.
+ */
+class CEIECHART_EXPORT CEIEGraphicsView : public QFrame {
+    Q_OBJECT
+
+public:
+    /*!
+     * \brief A chart whose legend stands below it and names the gamuts only.
+     * \param parent owns the chart when not null.
+     */
+    explicit CEIEGraphicsView(QWidget *parent);
+    /*! \brief A chart whose legend stands below it and names the points too, whatever the flag. */
+    CEIEGraphicsView(bool, QWidget *parent);
+    /*!
+     * \brief A chart whose legend names the points too, whatever the flag.
+     *
+     * The legend stands to the right of the chart, in a column with captions written downwards, if \a alignment is
+     * exactly Qt::AlignLeft or exactly Qt::AlignRight; for any other value, combinations included, it stands below.
+     */
+    CEIEGraphicsView(bool, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent);
+    ~CEIEGraphicsView() override;
+
+    /*!
+     * \brief Shows all gamuts anew.
+     *
+     * The list of gamuts becomes original (green), measured (cyan), target (orange), each 2 pixels wide and left
+     * out if its setIsShow switch is off. The target is kept but not shown when its record has no name. Of
+     * \a standards those named exactly "Rec.709", "Rec.2020" and "DCI-P3(D65)" are shown, in the given order; any
+     * other is left out. The horseshoe is coloured where target and original overlap, unless setIsShowActual() is off.
+     */
+    void setColorGamut(const Model::ColorGamut &target, const Model::ColorGamut &original,
+        const Model::ColorGamut &measured, const QList<Model::ColorGamut> &standards);
+    /*! \brief The same without a measured gamut: the list becomes original, which is cyan here, and target. */
+    void setColorGamut(
+        const Model::ColorGamut &target, const Model::ColorGamut &original, const QList<Model::ColorGamut> &standards);
+    /*! \brief Copies chromaticities and luminances of the primaries and the white of \a gamut to \a triangle. */
+    void colorGamutToTriangle(const Model::ColorGamut &gamut, TrianglePoint &triangle);
+    /*!
+     * \brief Has the scene draw the chart's gamuts again, and shows \a text over the chart.
+     *
+     * A text that is not empty also keeps edge, horseshoe and gamuts out of the picture. The next resize hides it.
+     * \param flag passed to the scene, which draws the same for both values
+     */
+    void updateLanGamut(bool flag, const QString &text);
+
+    /*! \brief Empties the list of gamuts. Standards, the common area and the points stay. */
+    void clear() { m_parts.clear(); }
+    /*! \brief Shows or hides the gamut at \a index of the list. Ignores an index outside it. */
+    void setColorGamutVisible(int index, bool shown) { m_parts.setTriangleVisible(index, shown); }
+    /*! \brief Replaces the list of gamuts; the picture shows it after the next updateLanGamut() or resize. */
+    void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles) { m_parts.setTriangles(triangles); }
+    /*! \brief The list of gamuts as last set here or by setColorGamut(). */
+    QList<ColorTriangleObject> lsColorTriangleObject() const { return m_parts.triangles(); }
+
+    /*! \brief Hands chromaticities of colour-temperature points to the scene and redraws. */
+    void setLsColorTempertureValuePoints(const QList<QPointF> &points) { m_parts.setColorTemperaturePoints(points); }
+    /*! \brief The colour-temperature points as last set. */
+    QList<QPointF> lsColorTempertureValuePoints() const { return m_parts.colorTemperaturePoints(); }
+    /*! \brief Hands measurement points to the scene, one colour for each. */
+    void setOtherPoints(QList<QPointF> points, QList<QColor> colors) { m_parts.setOtherPoints(points, colors); }
+    /*! \brief The measurement points as the scene holds them. */
+    QList<QPointF> getOtherPoints() const { return m_parts.otherPoints(); }
+    /*! \brief The colours of the measurement points as the scene holds them. */
+    QList<QColor> getOtherPointsColor() const { return m_parts.otherPointColors(); }
+    /*! \brief Hands chromaticities of cyan, magenta, yellow and black to the scene; drawn with the next picture. */
+    void setCMYPointData(const QList<QPointF> &points);
+
+    /*! \brief Sets the colour behind the horseshoe, for the next picture. */
+    void setBackgroudColor(const QColor &color);
+    /*!
+     * \brief Sets the colour of edge and axes and the one that fills the picture, for the next picture, and makes
+     *        the chart stand on white.
+     */
+    void setGraphColor(QColor first, QColor second);
+    /*!
+     * \brief Sets the picture's width in pixels, fixes the inner view's at two more, and redraws.
+     *
+     * No width is refused; one that no picture can have gives an empty chart.
+     */
+    void setImageWidth(int width) { m_parts.setImageWidth(width); }
+    /*! \brief As setImageWidth(), for the height. */
+    void setImageHeight(int height) { m_parts.setImageHeight(height); }
+    /*! \brief The width last set, 512 at first. */
+    int imageWidth() const { return m_parts.imageWidth(); }
+    /*! \brief The height last set, 512 at first. */
+    int imageHeight() const { return m_parts.imageHeight(); }
+    /*! \brief Switches axes and grid, and redraws. On at first. */
+    void setIsDrawCoordinate(bool draw) { m_parts.setIsDrawCoordinate(draw); }
+    /*! \brief Switches the Planckian locus, and redraws. On at first. */
+    void setIsDrawBBRLine(bool draw) { m_parts.setIsDrawBBRLine(draw); }
+    /*! \brief Switches the wavelengths along the edge, and redraws. On at first. */
+    void setIsDrawWaveLength(bool draw) { m_parts.setIsDrawWaveLength(draw); }
+    /*! \brief The switch last set. */
+    bool isDrawCoordinate() const { return m_parts.isDrawCoordinate(); }
+    /*! \brief The switch last set. */
+    bool isDrawBBRLine() const { return m_parts.isDrawBBRLine(); }
+    /*! \brief The switch last set. */
+    bool isDrawWaveLength() const { return m_parts.isDrawWaveLength(); }
+
+    /*! \brief The scene's colour-temperature switch: when on, drawing the handles takes the target's white away. */
+    void setDrawColorTPoint(bool draw) { m_parts.setDrawColorTPoint(draw); }
+    /*! \brief The scene's switch, on at first. */
+    bool isDrawColorTPoint() const { return m_parts.isDrawColorTPoint(); }
+    /*! \brief Whether a moved primary leaves the target's white where it is and rebalances the luminances. */
+    void setColorTempertureChecked(bool checked) { m_parts.setColorTempertureChecked(checked); }
+    /*! \brief Whether the target's primaries can be moved. */
+    void setRGBPointEnable(bool enable) { m_parts.setRGBPointEnable(enable); }
+    /*! \brief Whether the scene allows editing with the mouse. */
+    void setUseMouseOpertator(bool enable) { m_parts.setMouseEditing(enable); }
+
+    /*! \brief Whether the next setColorGamut() takes the standards. On at first, as are the following four. */
+    void setIsShowStandard(bool show) { m_isShowStandard = show; }
+    /*! \brief Whether the next setColorGamut() takes the target gamut. */
+    void setIsShowTarget(bool show) { m_isShowTarget = show; }
+    /*! \brief Whether the next setColorGamut() takes the original gamut. */
+    void setIsShowOriginal(bool show) { m_isShowOriginal = show; }
+    /*! \brief Whether the next setColorGamut() takes the area that target and original have in common. */
+    void setIsShowActual(bool show) { m_isShowActual = show; }
+    /*! \brief Whether the next setColorGamut() takes the measured gamut. */
+    void setIsShowMeasure(bool show) { m_isShowMeasure = show; }
+
+    /*!
+     * \brief Moves the legend: to the right of the chart for exactly Qt::AlignLeft or exactly Qt::AlignRight, below
+     *        it for any other value. May be called again at any time; see CEIELegend::setLegendAlignament().
+     */
+    void setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment);
+    /*! \brief The legend; the chart owns it. */
+    CEIELegend *getLegend() const { return m_parts.legend(); }
+    /*! \brief The view that shows the scene; the chart owns both. */
+    NQCEIEGraphicsView *view() const { return m_parts.view(); }
+
+Q_SIGNALS:
+    /*! \brief A vertex of the target has been placed; \a colorTriangleObject is the target. */
+    void signal_colorGamutValueChanged(ColorTriangleObject colorTriangleObject);
+    /*! \brief The target's white has changed; \a colorTriangleObject is the target. */
+    void signal_colorGamutWhiteChanged(ColorTriangleObject colorTriangleObject);
+    /*! \brief The colour temperature of the white-point handle, in kelvin, each time that it is drawn. */
+    void signal_colorTempertrueValueChang(double colorTempertureValue);
+    /*! \brief Never emitted. */
+    void signal_mouseCursorChange(NewCEIE::MouseCursorStyle mouseCursorStyle);
+    /*! \brief The target gamut has changed. */
+    void signal_targetInfoChanged(TargetInfoChangedEventArgs targetInfoChangedEventArgs);
+    /*! \brief The scene has been given its gamuts. */
+    void signal_triangleObjecIinitialized(TriangleObjecIinitializedEventArgs triangleObjecIinitializedEventArgs);
+
+protected:
+    /*! \brief Draws the gamuts again, as updateLanGamut() without a text. */
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignment);
+    void setLegendAlignamentCommon(QFlags<Qt::AlignmentFlag> alignment);
+    void updateMixInfo(const QString &text);
+    QPolygonF getTargetOrgIntersected(const TrianglePoint &a, const TrianglePoint &b);
+    void calcActualPos(TrianglePoint &triangle);
+    void initData() { }
+
+    void beginGamuts(const QList<Model::ColorGamut> &standards);
+    void addStandard(const Model::ColorGamut &standard);
+    TrianglePoint addGamut(const Model::ColorGamut &gamut, const QColor &color, int type, bool add, bool shown = true);
+    TrianglePoint addTarget(const Model::ColorGamut &target);
+
+    ceiechart::ChartParts<CEIEGraphicsScene, NQCEIEGraphicsView, CEIELegend> m_parts;
+    QList<ColorTriangleObject> m_standardTriangles;
+    QPolygonF m_targetOrgIntersected;
+    TrianglePoint m_targetTriangle;
+    TrianglePoint m_originalTriangle;
+    QLabel *m_mixInfoLabel = nullptr;
+    bool m_isShowStandard = true;
+    bool m_isShowTarget = true;
+    bool m_isShowOriginal = true;
+    bool m_isShowActual = true;
+    bool m_isShowMeasure = true;
+};
+
+} // namespace NewCEIE
+
+#endif // CEIECHART_WIDGETS_CEIEGRAPHICSVIEW_H
