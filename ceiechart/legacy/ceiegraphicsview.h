@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_LEGACY_CEIEGRAPHICSVIEW_H
+#define CEIECHART_LEGACY_CEIEGRAPHICSVIEW_H
+
+#include <ceiechart/ceiechart_export.h>
+#include <ceiechart/legacy/ceielegend.h>
+#include <ceiechart/legacy/drawceipicture.h>
+#include <ceiechart/legacy/nqceiegraphicsview.h>
+#include <ceiechart/model/chartenums.h>
+#include <ceiechart/model/colortriangleobject.h>
+#include <ceiechart/model/targetinfochangedeventargs.h>
+#include <ceiechart/model/triangleobjeciinitializedeventargs.h>
+#include <ceiechart/widgets/chartparts.h>
+
+#include <gamutmodel/colorgamut.h>
+
+#include <QFrame>
+
+class CEIEGraphicsScene;
+
+/*!
+ * \brief The legacy chart: the x, y or the u′, v′ diagram with two gamuts, whose target is edited with the mouse.
+ *
+ * A host hands over the original and the target gamut; the user drags the target's primaries and white on the
+ * chart; the signals report every change. The diagram is chosen at construction.
+ *
+ * \code
+ * auto *chart = new CEIEGraphicsView(this, DrawCEIPicture::XyDiagram);
+ * chart->setImageWidth(600);
+ * chart->setImageHeight(600);
+ * chart->setColorGamut(target, original);
+ * connect(chart, &CEIEGraphicsView::signal_targetInfoChanged, this, &Window::showTarget);
+ * \endcode
+ *
+ * Inner view and legend are children of the chart. The scene has no parent; the chart deletes it. Gamuts are in
+ * CIE 1931 x, y on both diagrams. Nothing reports an error: what cannot be used is ignored. GUI thread only.
+ */
+class CEIECHART_EXPORT CEIEGraphicsView : public QFrame {
+    Q_OBJECT
+
+public:
+    /*!
+     * \brief A chart of the diagram \a type whose legend stands below it and names the gamuts only.
+     *
+     * The pointer keeps its shape over a u′, v′ diagram.
+     * \param parent owns the chart when not null.
+     */
+    CEIEGraphicsView(QWidget *parent, DrawCEIPicture::CEIEType type);
+    /*! \brief An x, y chart whose legend stands below it and names the points too, whatever the flag. */
+    CEIEGraphicsView(bool, QWidget *parent);
+    /*!
+     * \brief An x, y chart whose legend names the points too, whatever the flag.
+     *
+     * The legend stands to the right of the chart, in a column with captions written downwards, if \a alignment is
+     * exactly Qt::AlignLeft or exactly Qt::AlignRight; for any other value, combinations included, it stands below.
+     */
+    CEIEGraphicsView(bool, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent);
+    ~CEIEGraphicsView() override;
+
+    /*! \brief Makes the list of gamuts original (white, 2 pixels wide) and target (black, 1 pixel wide). */
+    void setColorGamut(const Model::ColorGamutInfo &target, const Model::ColorGamutInfo &original);
+    /*! \brief Copies chromaticities and luminances of the primaries and the white of \a gamut to \a triangle. */
+    void colorGamutToTriangle(const Model::ColorGamutInfo &gamut, TrianglePoint &triangle);
+
+    /*! \brief Empties the list of gamuts. The points stay. */
+    void clear() { m_parts.clear(); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setColorGamutVisible */
+    void setColorGamutVisible(int index, bool shown) { m_parts.setTriangleVisible(index, shown); }
+    /*! \brief Replaces the list of gamuts: the original, then the target. */
+    void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles) { m_parts.setTriangles(triangles); }
+    /*! \brief The list of gamuts as last set here; what is edited on the chart is in the signals. */
+    QList<ColorTriangleObject> lsColorTriangleObject() const { return m_parts.triangles(); }
+
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setLsColorTempertureValuePoints */
+    void setLsColorTempertureValuePoints(const QList<QPointF> &points) { m_parts.setColorTemperaturePoints(points); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::lsColorTempertureValuePoints */
+    QList<QPointF> lsColorTempertureValuePoints() const { return m_parts.colorTemperaturePoints(); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setOtherPoints */
+    void setOtherPoints(QList<QPointF> points, QList<QColor> colors) { m_parts.setOtherPoints(points, colors); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::getOtherPoints */
+    QList<QPointF> getOtherPoints() const { return m_parts.otherPoints(); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::getOtherPointsColor */
+    QList<QColor> getOtherPointsColor() const { return m_parts.otherPointColors(); }
+    /*! \brief Hands u′, v′ pairs to the scene; a u′, v′ chart draws them with its next picture. */
+    void setMeasureValuePoints(const QList<QPointF> &points);
+    /*! \brief The measure points as the scene holds them. */
+    QList<QPointF> getMeasureValuePoints() const;
+
+    /*! \brief Sets the colour of edge and axes and the one that fills a u′, v′ picture, for the next picture. */
+    void setGraphColor(QColor first, QColor second) { m_parts.setGraphColor(first, second); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setImageWidth */
+    void setImageWidth(int width) { m_parts.setImageWidth(width); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setImageHeight */
+    void setImageHeight(int height) { m_parts.setImageHeight(height); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::imageWidth */
+    int imageWidth() const { return m_parts.imageWidth(); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::imageHeight */
+    int imageHeight() const { return m_parts.imageHeight(); }
+    /*! \brief Switches axes, grid and Planckian locus, and redraws. On at first. */
+    void setIsDrawCoordinate(bool draw) { m_parts.setIsDrawCoordinate(draw); }
+    /*! \brief Stored, without effect on the picture: the Planckian locus comes and goes with the axes. */
+    void setIsDrawBBRLine(bool draw) { m_parts.setIsDrawBBRLine(draw); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setIsDrawWaveLength */
+    void setIsDrawWaveLength(bool draw) { m_parts.setIsDrawWaveLength(draw); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::isDrawCoordinate */
+    bool isDrawCoordinate() const { return m_parts.isDrawCoordinate(); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::isDrawBBRLine */
+    bool isDrawBBRLine() const { return m_parts.isDrawBBRLine(); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::isDrawWaveLength */
+    bool isDrawWaveLength() const { return m_parts.isDrawWaveLength(); }
+
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setDrawColorTPoint */
+    void setDrawColorTPoint(bool draw) { m_parts.setDrawColorTPoint(draw); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::isDrawColorTPoint */
+    bool isDrawColorTPoint() const { return m_parts.isDrawColorTPoint(); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setColorTempertureChecked */
+    void setColorTempertureChecked(bool checked) { m_parts.setColorTempertureChecked(checked); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setRGBPointEnable */
+    void setRGBPointEnable(bool enable) { m_parts.setRGBPointEnable(enable); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setUseMouseOpertator */
+    void setUseMouseOpertator(bool enable) { m_parts.setMouseEditing(enable); }
+
+    /*! \copydoc NewCEIE::CEIEGraphicsView::setLegendAlignament */
+    void setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment);
+    /*! \copydoc NewCEIE::CEIEGraphicsView::getLegend */
+    CEIELegend *getLegend() const { return m_parts.legend(); }
+    /*! \copydoc NewCEIE::CEIEGraphicsView::view */
+    NQCEIEGraphicsView *view() const { return m_parts.view(); }
+
+Q_SIGNALS:
+    /*! \brief A primary of the target has been placed; \a colorTriangleObject is the target. */
+    void signal_colorGamutValueChanged(ColorTriangleObject colorTriangleObject);
+    /*! \brief The target's white has changed; \a colorTriangleObject is the target. */
+    void signal_colorGamutWhiteChanged(ColorTriangleObject colorTriangleObject);
+    /*! \brief The colour temperature of the white-point handle, in kelvin, each time that it is drawn. */
+    void signal_colorTempertrueValueChang(double colorTempertureValue);
+    /*! \brief Never emitted. */
+    void signal_mouseCursorChange(MouseCursorStyle mouseCursorStyle);
+    /*! \brief The target gamut has changed. */
+    void signal_targetInfoChanged(TargetInfoChangedEventArgs targetInfoChangedEventArgs);
+    /*! \brief The scene has been given its gamuts. */
+    void signal_triangleObjecIinitialized(TriangleObjecIinitializedEventArgs triangleObjecIinitializedEventArgs);
+
+private:
+    void buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignment);
+    void setLegendAlignamentCommon(QFlags<Qt::AlignmentFlag> alignment);
+    void initData() { }
+
+    ceiechart::ChartParts<CEIEGraphicsScene, NQCEIEGraphicsView, CEIELegend> m_parts;
+    DrawCEIPicture::CEIEType m_type;
+};
+
+#endif // CEIECHART_LEGACY_CEIEGRAPHICSVIEW_H

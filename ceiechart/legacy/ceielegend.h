@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_LEGACY_CEIELEGEND_H
+#define CEIECHART_LEGACY_CEIELEGEND_H
+
+#include <ceiechart/ceiechart_export.h>
+#include <ceiechart/widgets/legendentries.h>
+
+#include <QFrame>
+
+/*!
+ * \brief The key to a legacy chart: as NewCEIE::CEIELegend, but its entries are numbered without a gap.
+ *
+ * Its captions have a translation context of their own, CEIELegend.
+ *
+ * \code
+ * chart->getLegend()->setLegendVisible(CEIELegend::ManagedPoint, false);
+ * \endcode
+ *
+ * All labels are children of the legend.
+ */
+class CEIECHART_EXPORT CEIELegend : public QFrame {
+    Q_OBJECT
+
+public:
+    /*! \brief An entry of the legend. */
+    enum legendType : int {
+        CommonGamut = 0, //!< yellow square
+        TargetGamut = 1, //!< black square
+        OriginalGamut = 2, //!< white square with a grey outline
+        TargetPoint = 3, //!< white plus sign with a black outline
+        OriginalPoint = 4, //!< grey disc
+        ManagedPoint = 5 //!< black ring
+    };
+
+    /*! \copydoc NewCEIE::CEIELegend::CEIELegend(QWidget *) */
+    explicit CEIELegend(QWidget *parent);
+    /*! \copydoc NewCEIE::CEIELegend::CEIELegend(bool, QWidget *) */
+    CEIELegend(bool showPoint, QWidget *parent);
+    /*! \copydoc NewCEIE::CEIELegend::CEIELegend(bool, QFlags<Qt::AlignmentFlag>, QWidget *) */
+    CEIELegend(bool showPoint, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent);
+    ~CEIELegend() override;
+
+    /*! \copydoc NewCEIE::CEIELegend::setLegendAlignament */
+    void setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment) { m_entries.arrange(alignment); }
+    /*!
+     * \brief Shows or hides swatch and caption of one entry.
+     *
+     * Values that are no legendType, and points on a legend without point entries, are ignored.
+     */
+    void setLegendVisible(legendType type, bool visible);
+    /*! \copydoc NewCEIE::CEIELegend::setShowOriginalText */
+    void setShowOriginalText(const QString &text) { m_entries.setCaption(ceiechart::LegendEntry::OriginalGamut, text); }
+    /*! \copydoc NewCEIE::CEIELegend::setShowTargetText */
+    void setShowTargetText(const QString &text) { m_entries.setCaption(ceiechart::LegendEntry::TargetGamut, text); }
+    /*! \copydoc NewCEIE::CEIELegend::setshowPointText */
+    void setshowPointText(const QString &target, const QString &original, const QString &managed)
+    {
+        m_entries.setPointCaptions(target, original, managed);
+    }
+
+protected:
+    /*! \copydoc NewCEIE::CEIELegend::initUI */
+    void initUI(QFlags<Qt::AlignmentFlag> alignment);
+    /*! \copydoc NewCEIE::CEIELegend::drawColorLegend */
+    void drawColorLegend(QFlags<Qt::AlignmentFlag> alignment);
+    /*! \copydoc NewCEIE::CEIELegend::drawQCPoint */
+    void drawQCPoint(QFlags<Qt::AlignmentFlag> alignment);
+
+private:
+    ceiechart::LegendEntries m_entries;
+};
+
+#endif // CEIECHART_LEGACY_CEIELEGEND_H

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_LEGACY_DRAWCEIPICTURE_H
+#define CEIECHART_LEGACY_DRAWCEIPICTURE_H
+
+#include <ceiechart/ceiechart_export.h>
+#include <ceiechart/render/diagramlayers.h>
+
+#include <QImage>
+#include <QWidget>
+
+#include <vector>
+
+/*!
+ * \brief Draws the CIE 1931 x, y or the CIE 1976 u′, v′ chromaticity diagram into a new picture per call.
+ *
+ * The diagram type is chosen once, at construction. It draws no gamuts: the scene puts them over the picture.
+ *
+ * \code
+ * DrawCEIPicture renderer(DrawCEIPicture::UvDiagram, nullptr);
+ * renderer.setMeasurePoints({QPointF(0.1978, 0.4683)});
+ * std::unique_ptr<QImage> picture(renderer.drawCEIEPicture(800, 800, true, false, false, {}));
+ * \endcode
+ *
+ * Both drawing forms return a picture that the caller owns. A width or height of 0 gives a null image, and so do a
+ * negative size and one that cannot be allocated. GUI thread only.
+ */
+class CEIECHART_EXPORT DrawCEIPicture : public QWidget, public ceiechart::DiagramLayers {
+    Q_OBJECT
+
+public:
+    //! Any value other than UvDiagram makes an x, y renderer.
+    enum CEIEType { XyDiagram = 0, UvDiagram = 1 };
+
+    /*! \param parent owns the renderer when not null. */
+    DrawCEIPicture(DrawCEIPicture::CEIEType type, QWidget *parent);
+    ~DrawCEIPicture() override;
+
+    DrawCEIPicture::CEIEType type();
+
+    /*!
+     * \brief The x, y picture on black: locus edge and horseshoe, and what the flags ask for.
+     *
+     * \a points are the colour-temperature points (CIE 1931 x, y), dots on the Planckian locus.
+     */
+    QImage *drawCEIPicture(
+        int width, int height, bool drawCoordinate, bool drawBBRLine, bool drawWaveLength, QList<QPointF> points);
+
+    /*!
+     * \brief The u′, v′ picture: horseshoe inside the spectral locus, axes when \a drawCoordinate is set, and the
+     * measure points.
+     *
+     * \a drawBBRLine and \a drawWaveLength are accepted and ignored.
+     */
+    QImage *drawCEIEPicture(
+        int width, int height, bool drawCoordinate, bool drawBBRLine, bool drawWaveLength, QList<QPointF> points);
+
+    /*! The horseshoe colours of the last drawing's size and geometry, on "#323238"; null before the first. */
+    QImage getColorImage();
+
+    /*! Chromaticities in the diagram's own coordinates, drawn by the u′, v′ picture. */
+    void setMeasurePoints(const QList<QPointF> &points);
+    /*! At the ends of the axes; an empty title is not drawn. "X" and "Y", or "u" and "v", until set. */
+    void setXTitle(const QString &title);
+    void setYTitle(const QString &title);
+    /*! \a line colours the edge, the axes and the dots, \a background the u′, v′ picture. */
+    void setGraphColor(QColor line, QColor background);
+
+    /*! Measure points: a black dot of radius 2 pixels on a translucent white one of radius 4. */
+    void painterPoints(QPainter &painter, QList<QPointF> points);
+    /*! Axes, grid in \a style, numbers and titles in \a font. */
+    void painterCoordinate(Qt::PenStyle style, const QFont &font, QPainter &painter);
+
+    /*! Chromaticity to whole pixels of the last drawing. */
+    QPointF CoordinateTransformation(const QPointF &xy) { return DiagramLayers::CoordinateTransformation(xy); }
+    /*! Picture position to chromaticity; the x offset of the forward mapping is not taken off. */
+    QPointF CurCoordinateToChroma(const QPointF &position);
+
+    /*!
+     * \name CIE 1931 x, y to CIE 1976 u′, v′
+     * u′ = 4x / d, v′ = 9y / d with d = −2x + 12y + 3 (CIE 15:2004, 8.2.1.1). d = 0 gives infinities or NaN.
+     * @{
+     */
+    static void xy2uv(const float &x, const float &y, float &u, float &v);
+    static void xyconvertuv(const double &x, const double &y, double &u, double &v);
+    //! Replaces what \a uv holds.
+    static void xy2uv(const std::vector<QPointF> &xy, std::vector<QPointF> &uv);
+    //! Appends to \a us and \a vs. \a ys must be at least as long as \a xs.
+    static void xy2uvList(
+        std::vector<float> &xs, std::vector<float> &ys, std::vector<float> &us, std::vector<float> &vs);
+    /*! @} */
+
+private:
+    QPointF CoordinateTransformation() { return DiagramLayers::CoordinateTransformation(); }
+
+    CEIEType m_type;
+    QString m_xTitle;
+    QString m_yTitle;
+    std::vector<QPointF> m_uvLocus;
+    QColor m_backgroundColor;
+    QList<QPointF> m_measurePoints;
+};
+
+#endif
