@@ -1,0 +1,1088 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/atlas/chromasets.h>
+#include <ceiechart/legacy/ceiegraphicsscene.h>
+#include <ceiechart/legacy/drawceipicture.h>
+
+#include <reference/picturedifference.h>
+#include <reference/samplegamuts.h>
+#include <reference/scenemodel.h>
+#include <reference/scenesignalfacts.h>
+#include <reference/scenesignallog.h>
+#include <reference/scenestate.h>
+
+#include <QGraphicsSceneMouseEvent>
+#include <QGraphicsView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <type_traits>
+
+using reference::describe;
+using reference::stateOf;
+using Scene = CEIEGraphicsScene;
+
+namespace {
+
+constexpr auto xyDiagram = static_cast<DrawCEIPicture::CEIEType>(0);
+constexpr auto uvDiagram = static_cast<DrawCEIPicture::CEIEType>(1);
+
+const QString valueChanged = QStringLiteral("signal_colorGamutValueChanged");
+const QString whiteChanged = QStringLiteral("signal_colorGamutWhiteChanged");
+const QString temperature = QStringLiteral("signal_colorTempertrueValueChang");
+const QString cursorChange = QStringLiteral("signal_mouseCursorChange");
+const QString targetInfo = QStringLiteral("signal_targetInfoChanged");
+
+// The x, y diagram on a picture of 800 × 800: 720 pixels show a chromaticity of 0.84 and of 0.94, from 40.5 on.
+struct Bench {
+    Scene scene;
+    reference::SceneSignalLog<Scene> log;
+
+    explicit Bench(const QList<ColorTriangleObject> &triangles = reference::gamutPair())
+        : scene(xyDiagram, triangles)
+        , log(&scene)
+    {
+        scene.setImageWidth(800);
+        scene.setImageHeight(800);
+        log.takeUpdate();
+    }
+
+    // Where a pointer has to be for a chromaticity.
+    static QPointF at(const QPointF &chroma)
+    {
+        return QPointF(40.5 + chroma.x() * 720.0 / static_cast<double>(0.84F),
+            40.5 + (static_cast<double>(0.94F) - chroma.y()) * 720.0 / static_cast<double>(0.94F));
+    }
+
+    static QPointF chromaAt(const QPointF &position)
+    {
+        return QPointF((position.x() - 40.5) * (static_cast<double>(0.84F) / 720.0),
+            static_cast<double>(0.94F) - (position.y() - 40.5) * (static_cast<double>(0.94F) / 720.0));
+    }
+
+    // Where the handle of a chromaticity is painted.
+    static QPointF handle(const QPointF &chroma)
+    {
+        const QPointF exact = at(chroma);
+        return QPointF(std::trunc(exact.x()) + 4, std::trunc(exact.y()));
+    }
+
+    bool send(QEvent::Type type, const QPointF &position, Qt::MouseButton button)
+    {
+        QGraphicsSceneMouseEvent event(type);
+        event.setScenePos(position);
+        event.setButton(button);
+        event.setAccepted(false);
+        QCoreApplication::sendEvent(&scene, &event);
+        return event.isAccepted();
+    }
+
+    void press(const QPointF &position, Qt::MouseButton button = Qt::LeftButton)
+    {
+        send(QEvent::GraphicsSceneMousePress, position, button);
+    }
+    bool move(const QPointF &position) { return send(QEvent::GraphicsSceneMouseMove, position, Qt::NoButton); }
+    bool release(Qt::MouseButton button = Qt::LeftButton)
+    {
+        return send(QEvent::GraphicsSceneMouseRelease, QPointF(1, 1), button);
+    }
+    void key(QEvent::Type type, int code)
+    {
+        QKeyEvent event(type, code, Qt::NoModifier);
+        QCoreApplication::sendEvent(&scene, &event);
+    }
+
+    // The names of the signals since the last call.
+    QStringList names()
+    {
+        QStringList found;
+        const QStringList emitted = log.takeSignals();
+        for (const QString &line : emitted) {
+            found << line.section(QLatin1Char(' '), 0, 0);
+        }
+        return found;
+    }
+
+    QList<ColorTriangleObject> triangles() { return scene.getLsColorTriangleObject(); }
+    TrianglePoint target() { return scene.getLsColorTriangleObject().at(1).trianglePoint(); }
+    QPointF whiteHandle() { return handle(target().whitePos()); }
+};
+
+QString infoLine(const ColorTriangleObject &triangle, double kelvin, bool reasonable)
+{
+    TargetInfoChangedEventArgs report;
+    report.setColorTriangleObject(triangle);
+    report.setColourTemperature(kelvin);
+    report.setIsReasonableData(reasonable);
+    return targetInfo + QLatin1Char(' ') + describe(report);
+}
+
+int kelvinOf(const QPointF &white)
+{
+    int kelvin = 0;
+    ChromaSets::GetColorTemperatureNew(white.x(), white.y(), kelvin);
+    return kelvin;
+}
+
+QImage backgroundOf(Scene &scene)
+{
+    QGraphicsView view(&scene);
+    view.resize(int(scene.width()), int(scene.height()));
+    QImage image(view.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::magenta);
+    QPainter painter(&image);
+    scene.drawBackground(&painter, QRectF());
+    return image;
+}
+
+QImage shown(const QImage &picture)
+{
+    QImage image(picture.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::magenta);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF(picture.rect()), picture, QRectF(picture.rect()));
+    return image;
+}
+
+void paintHandles(Scene &scene)
+{
+    QImage image(100, 100, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    scene.refreshArea(&painter);
+}
+
+// What the legacy scene must not have, not even by way of a base.
+template <typename T, typename = void>
+struct HasGamutForm : std::false_type {
+};
+template <typename T>
+struct HasGamutForm<T,
+    std::void_t<decltype(std::declval<T &>().setLsColorTriangleObject(QList<ColorTriangleObject>(),
+        QList<ColorTriangleObject>(), TrianglePoint(), TrianglePoint(), true, QString()))>> : std::true_type {
+};
+
+#define CHECK_FOR_MEMBER(Trait, member)                                                                                \
+    template <typename T, typename = void>                                                                             \
+    struct Trait : std::false_type {                                                                                   \
+    };                                                                                                                 \
+    template <typename T>                                                                                              \
+    struct Trait<T, std::void_t<decltype(&T::member)>> : std::true_type {                                              \
+    };
+
+CHECK_FOR_MEMBER(HasTargetItemVisable, setTargetItemVisable)
+CHECK_FOR_MEMBER(HasBackgroudColor, setBackgroudColor)
+CHECK_FOR_MEMBER(HasCMYPointData, setCMYPointData)
+CHECK_FOR_MEMBER(HasToCurCoordinate, ChromaToCurCoordinate)
+CHECK_FOR_MEMBER(HasToChroma, CurCoordinateToChroma)
+CHECK_FOR_MEMBER(HasToCurCoordinateInPlace, chromaToCurCoordinate)
+CHECK_FOR_MEMBER(HasPainterTriangle, painterTriangle)
+CHECK_FOR_MEMBER(HasMeasureValuePoints, setMeasureValuePoints)
+#undef CHECK_FOR_MEMBER
+
+} // namespace
+
+class LegacySceneTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void derivesFromGraphicsScene();
+    void declaresTheSameSignals();
+    void lacksWhatTheCurrentSceneAdded();
+    void checkTakesConstantReferences();
+    void measurePointsAreKept();
+    void sceneRectangleIsTheImage();
+    void planckianLocusFollowsTheAxes();
+    void uniformDiagramShowsMeasurePoints();
+    void backgroundDrawsTheHandles();
+    void handlesStandWhereTheRendererMaps();
+    void temperatureSignalNarrowsTheWhite();
+    void emptyListOnlyFollowsThePointer();
+    void pressWithoutTargetMovesNothing();
+    void pressPlacesThePrimaryOfItsFence_data();
+    void pressPlacesThePrimaryOfItsFence();
+    void pressMapsTheExactPosition();
+    void pressInNoFenceRecomputesTheWhite();
+    void pressOutsideTheOriginalGoesOn();
+    void pressSetsTheTab();
+    void pressIsIgnoredWhenEditingIsOff();
+    void editingOffDuringADragDoesNotStopIt();
+    void otherButtonsDoNotEdit();
+    void rightPressEndsADrag();
+    void dragFollowsInsideItsFence();
+    void dragOutOfTheFenceIsRefused();
+    void dragOutOfTheOriginalGoesOn();
+    void dragAfterAPressInNoFenceReportsInNoFence();
+    void lockedPrimariesAreNotPlaced();
+    void lockedPrimariesLeaveTheWhite();
+    void lockedWhiteFallsThrough();
+    void hoverTellsTheCross();
+    void hoverComparesExactly();
+    void hoverEndsWithARepaint();
+    void hoverSetsTheTab();
+    void hoverOrderIsRedGreenBlueWhite();
+    void heldSpaceTurnsTheMouseIntoAHand();
+    void spaceReleasedMidDragGoesOn();
+    void magnifierRepeatsTheZoomStep();
+    void releaseReportsTheTargetAsItStands();
+    void releaseWithoutTargetReportsWhatWas();
+    void releaseOfOtherButtonsReportsNothing();
+    void releaseEndsSelections();
+    void releaseTakesTheTemperatureFromDoubles();
+    void whiteHandleIsASquareOfTwelve();
+    void whiteDragReports_data();
+    void whiteDragReports();
+    void whiteOutsideTheTargetStopsFollowing();
+    void whiteMoveEndsTheHandlerEarly();
+    void whitePickedOutsideTheTargetDoesNotMove();
+    void arrowsMoveAPickedVertexWhileHeld();
+    void arrowsStartFromThePaintedWhiteHandle();
+    void listReplacedMidDrag();
+    void listShortenedMidDrag();
+    void eventsAreAcceptedAsStated();
+    void meaninglessInputIsSurvived();
+};
+
+void LegacySceneTest::derivesFromGraphicsScene()
+{
+    Bench bench;
+    QCOMPARE(bench.scene.metaObject()->className(), "CEIEGraphicsScene");
+    QCOMPARE(bench.scene.metaObject()->superClass(), &QGraphicsScene::staticMetaObject);
+    QCOMPARE(bench.scene.parent(), nullptr);
+}
+
+void LegacySceneTest::declaresTheSameSignals()
+{
+    QCOMPARE(reference::declaredSignals(Scene::staticMetaObject), reference::sceneSignals());
+}
+
+void LegacySceneTest::lacksWhatTheCurrentSceneAdded()
+{
+    QVERIFY(!HasGamutForm<Scene>::value);
+    QVERIFY(!HasTargetItemVisable<Scene>::value);
+    QVERIFY(!HasBackgroudColor<Scene>::value);
+    QVERIFY(!HasCMYPointData<Scene>::value);
+    QVERIFY(!HasToCurCoordinate<Scene>::value);
+    QVERIFY(!HasToChroma<Scene>::value);
+    QVERIFY(!HasToCurCoordinateInPlace<Scene>::value);
+    QVERIFY(!HasPainterTriangle<Scene>::value);
+    QVERIFY(HasMeasureValuePoints<Scene>::value); // the check itself finds members
+}
+
+void LegacySceneTest::checkTakesConstantReferences()
+{
+    Bench bench;
+    const ColorTriangleObject original = reference::wideGamut();
+    const ColorTriangleObject target = reference::narrowGamut();
+    const baseCommon::LEDColorType beyond = baseCommon::None;
+    bool (Scene::*check)(const ColorTriangleObject &, const ColorTriangleObject &, const baseCommon::LEDColorType &)
+        = &Scene::CheckOriginalAndTarget;
+    QVERIFY((bench.scene.*check)(original, target, beyond));
+    QVERIFY(!(bench.scene.*check)(target, original, beyond));
+}
+
+void LegacySceneTest::measurePointsAreKept()
+{
+    Bench bench;
+    QVERIFY(bench.scene.getMeasureValuePoints().isEmpty());
+    const QList<QPointF> points{QPointF(0.2, 0.3), QPointF(1e9, std::numeric_limits<double>::quiet_NaN())};
+    bench.scene.setMeasureValuePoints(points);
+    QCOMPARE(describe(bench.scene.getMeasureValuePoints()), describe(points));
+    QVERIFY(bench.names().isEmpty());
+}
+
+void LegacySceneTest::sceneRectangleIsTheImage()
+{
+    Bench bench;
+    QCOMPARE(bench.scene.sceneRect(), QRectF(0, 0, 800, 800));
+    bench.scene.setImageWidth(123);
+    QCOMPARE(bench.scene.sceneRect(), QRectF(0, 0, 123, 800));
+
+    reference::setFunctionKeyMode(bench.scene, 1);
+    bench.scene.SetFunctionKeyShortcuts();
+    bench.scene.getBitMap(); // scaled to whole pixels
+    QCOMPARE(QSize(bench.scene.imageWidth(), bench.scene.imageHeight()), QSize(135, 880));
+    QCOMPARE(bench.scene.sceneRect(), QRectF(0, 0, 135, 880));
+}
+
+void LegacySceneTest::planckianLocusFollowsTheAxes()
+{
+    for (const bool coordinate : {true, false}) {
+        for (const bool locus : {true, false}) {
+            Scene scene(xyDiagram, {});
+            scene.setImageWidth(240);
+            scene.setImageHeight(260);
+            scene.setIsDrawBBRLine(locus);
+            scene.setIsDrawCoordinate(coordinate);
+            QCOMPARE(scene.isDrawBBRLine(), locus);
+            DrawCEIPicture renderer(xyDiagram, nullptr);
+            const std::unique_ptr<QImage> picture(
+                renderer.drawCEIPicture(240, 260, coordinate, coordinate, true, QList<QPointF>()));
+            const std::unique_ptr<QImage> otherPicture(
+                renderer.drawCEIPicture(240, 260, coordinate, !coordinate, true, QList<QPointF>()));
+            QVERIFY(!reference::firstDifference(shown(*picture), shown(*otherPicture)).isEmpty());
+            QCOMPARE(reference::firstDifference(backgroundOf(scene), shown(*picture)), QString());
+        }
+    }
+}
+
+void LegacySceneTest::uniformDiagramShowsMeasurePoints()
+{
+    const QList<QPointF> points{QPointF(0.2, 0.3), QPointF(0.3, 0.5)};
+    Scene scene(uvDiagram, {});
+    scene.setMeasureValuePoints(points);
+    scene.setImageWidth(240);
+    scene.setImageHeight(260);
+    DrawCEIPicture renderer(uvDiagram, nullptr);
+    renderer.setMeasurePoints(points);
+    const std::unique_ptr<QImage> picture(renderer.drawCEIEPicture(240, 260, true, true, true, QList<QPointF>()));
+    QCOMPARE(reference::firstDifference(backgroundOf(scene), shown(*picture)), QString());
+
+    scene.setMeasureValuePoints({});
+    scene.getBitMap();
+    QVERIFY(!reference::firstDifference(backgroundOf(scene), shown(*picture)).isEmpty());
+}
+
+void LegacySceneTest::backgroundDrawsTheHandles()
+{
+    Bench bench;
+    bench.scene.setDrawColorTPoint(false);
+    const QImage withHandles = backgroundOf(bench.scene);
+    QCOMPARE(bench.names(), QStringList(temperature));
+    Bench empty(QList<ColorTriangleObject>{});
+    const QImage without = backgroundOf(empty.scene);
+    QVERIFY(empty.names().isEmpty());
+    const TrianglePoint points = bench.target();
+    for (const QPointF &chroma : {points.redPos(), points.greenPos(), points.bluePos(), points.whitePos()}) {
+        const QPoint centre = Bench::handle(chroma).toPoint();
+        const QRect around(centre - QPoint(8, 8), QSize(17, 17));
+        QVERIFY(withHandles.copy(around) != without.copy(around));
+    }
+}
+
+void LegacySceneTest::handlesStandWhereTheRendererMaps()
+{
+    Bench bench;
+    QCOMPARE(describe(Bench::handle(QPointF(0.3127, 0.3290))), QStringLiteral("(312, 508)"));
+    QCOMPARE(describe(bench.scene.GetEllipsePoint(QPointF(0.3127, 0.3290))), QStringLiteral("(312, 508)"));
+
+    QImage actual(800, 800, QImage::Format_ARGB32_Premultiplied);
+    actual.fill(Qt::darkCyan);
+    QImage expected = actual.copy();
+    {
+        QPainter painter(&actual);
+        QVERIFY(bench.scene.DrawVertexSign(&painter));
+    }
+    {
+        QPainter painter(&expected);
+        const TrianglePoint points = bench.target();
+        const auto sign = [&painter](const QPointF &centre, const QColor &cross) {
+            const int x = int(centre.x());
+            const int y = int(centre.y());
+            painter.setPen(Qt::gray);
+            painter.drawEllipse(x - 3, y - 3, 6, 6);
+            painter.setPen(cross);
+            painter.drawLine(x - 3, y, x + 3, y);
+            painter.drawLine(x, y - 3, x, y + 3);
+        };
+        sign(Bench::handle(points.redPos()), QColor(0, 255, 0));
+        sign(Bench::handle(points.greenPos()), QColor(255, 0, 0));
+        sign(Bench::handle(points.bluePos()), QColor(0, 255, 0));
+    }
+    QCOMPARE(reference::firstDifference(actual, expected), QString());
+}
+
+// 5183 K as doubles, 5184 K as floats.
+void LegacySceneTest::temperatureSignalNarrowsTheWhite()
+{
+    QList<ColorTriangleObject> pair = reference::gamutPair();
+    pair[1].trianglePoint().setWhitePos(QPointF(0.3383, 0.3164));
+    Bench bench(pair);
+    paintHandles(bench.scene);
+    QCOMPARE(bench.log.takeSignals(), QStringList(temperature + QStringLiteral(" 5184")));
+}
+
+void LegacySceneTest::emptyListOnlyFollowsThePointer()
+{
+    Bench bench(QList<ColorTriangleObject>{});
+    bench.press(QPointF(300, 400));
+    QVERIFY(bench.names().isEmpty());
+    QCOMPARE(describe(stateOf(bench.scene).requested), QStringLiteral("(300, 400)"));
+    QVERIFY(!bench.log.takeUpdate());
+    QVERIFY(bench.move(QPointF(310, 400)));
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+    QVERIFY(bench.log.takeUpdate());
+    QCOMPARE(describe(stateOf(bench.scene).requested), QStringLiteral("(300, 400)"));
+}
+
+void LegacySceneTest::pressWithoutTargetMovesNothing()
+{
+    Bench bench({reference::wideGamut()});
+    bench.press(Bench::at(QPointF(0.5, 0.2)));
+    QVERIFY(bench.names().isEmpty());
+    QCOMPARE(stateOf(bench.scene).selectedTab, 0);
+    QCOMPARE(describe(bench.triangles()), describe(QList<ColorTriangleObject>{reference::wideGamut()}));
+}
+
+void LegacySceneTest::pressPlacesThePrimaryOfItsFence_data()
+{
+    QTest::addColumn<QPointF>("chroma");
+    QTest::addColumn<int>("region");
+    QTest::newRow("corner of all fences is red") << QPointF(0.33, 0.33) << 0;
+    QTest::newRow("red") << QPointF(0.5, 0.2) << 0;
+    QTest::newRow("green") << QPointF(0.2, 0.6) << 1;
+    QTest::newRow("blue") << QPointF(0.15, 0.05) << 2;
+    QTest::newRow("none") << QPointF(0.6, 0.6) << 3;
+}
+
+// Wherever the handle is, and at once.
+void LegacySceneTest::pressPlacesThePrimaryOfItsFence()
+{
+    QFETCH(QPointF, chroma);
+    QFETCH(int, region);
+    QList<ColorTriangleObject> pair = reference::gamutPair();
+    pair[1].trianglePoint().setWhitePos(QPointF(0.4, 0.4)); // out of the way
+    Bench bench(pair);
+    const QPointF position = Bench::at(chroma);
+    bench.press(position);
+    QCOMPARE(bench.log.takeSignals(), QStringList(valueChanged + QLatin1Char(' ') + describe(bench.triangles().at(1))));
+    const TrianglePoint before = reference::narrowGamut().trianglePoint();
+    const TrianglePoint points = bench.target();
+    const QPointF placed = Bench::chromaAt(position);
+    QVERIFY(std::hypot(placed.x() - chroma.x(), placed.y() - chroma.y()) < 1e-12);
+    const auto expected = [&](int primary, const QPointF &old) { return describe(primary == region ? placed : old); };
+    QCOMPARE(describe(points.redPos()), expected(0, before.redPos()));
+    QCOMPARE(describe(points.greenPos()), expected(1, before.greenPos()));
+    QCOMPARE(describe(points.bluePos()), expected(2, before.bluePos()));
+    QCOMPARE(stateOf(bench.scene).selectedRegion, region);
+    QCOMPARE(stateOf(bench.scene).selectedVertex, (region + 1) % 4);
+    QVERIFY(bench.log.takeUpdate());
+}
+
+void LegacySceneTest::pressMapsTheExactPosition()
+{
+    Bench bench;
+    bench.press(QPointF(500.625, 600.375));
+    QCOMPARE(describe(bench.target().redPos()), describe(Bench::chromaAt(QPointF(500.625, 600.375))));
+}
+
+void LegacySceneTest::pressInNoFenceRecomputesTheWhite()
+{
+    Bench bench;
+    double luminance = 0.0;
+    double x = 0.0;
+    double y = 0.0;
+    const TrianglePoint before = bench.target();
+    ChromaSets::rgbCxCyToWhiteCxCy(before.redLum(), before.redPos().x(), before.redPos().y(), before.greenLum(),
+        before.greenPos().x(), before.greenPos().y(), before.blueLum(), before.bluePos().x(), before.bluePos().y(),
+        luminance, x, y);
+    bench.press(Bench::at(QPointF(0.6, 0.6)));
+    QCOMPARE(bench.names(), QStringList(valueChanged));
+    QCOMPARE(describe(bench.target().whitePos()), describe(QPointF(x, y)));
+    QCOMPARE(describe(bench.target().whiteLum()), describe(luminance));
+    QCOMPARE(stateOf(bench.scene).selectedRegion, 3);
+}
+
+// The gate that would keep such a press out is never closed.
+void LegacySceneTest::pressOutsideTheOriginalGoesOn()
+{
+    Bench bench({reference::narrowGamut(), reference::narrowGamut()});
+    const QPointF position = Bench::at(QPointF(0.7, 0.28));
+    bench.press(position);
+    QCOMPARE(bench.names(), QStringList(valueChanged));
+    QCOMPARE(describe(bench.target().redPos()), describe(Bench::chromaAt(position)));
+}
+
+void LegacySceneTest::pressSetsTheTab()
+{
+    Bench bench;
+    const QList<QPair<QPointF, int>> clicks{
+        {QPointF(0.5, 0.2), 4}, {QPointF(0.2, 0.6), 1}, {QPointF(0.15, 0.05), 3}, {QPointF(0.6, 0.6), 0}};
+    for (const auto &click : clicks) {
+        bench.press(Bench::at(click.first));
+        QCOMPARE(stateOf(bench.scene).selectedTab, click.second);
+        bench.release();
+        QCOMPARE(stateOf(bench.scene).selectedTab, click.second);
+    }
+}
+
+void LegacySceneTest::pressIsIgnoredWhenEditingIsOff()
+{
+    Bench bench;
+    bench.scene.setIsMouseOper(false);
+    bench.press(Bench::at(QPointF(0.5, 0.2)));
+    QVERIFY(bench.names().isEmpty());
+    QCOMPARE(describe(stateOf(bench.scene).requested), QStringLiteral("(0, 0)"));
+    bench.move(Bench::at(QPointF(0.52, 0.2)));
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+    bench.scene.setIsMouseOper(true);
+    bench.press(Bench::at(QPointF(0.5, 0.2)));
+    QCOMPARE(bench.names(), QStringList(valueChanged));
+}
+
+void LegacySceneTest::editingOffDuringADragDoesNotStopIt()
+{
+    Bench bench;
+    bench.press(Bench::at(QPointF(0.5, 0.2)));
+    bench.scene.setIsMouseOper(false);
+    bench.names();
+    bench.move(Bench::at(QPointF(0.52, 0.2)));
+    QCOMPARE(bench.names(), QStringList({cursorChange, valueChanged}));
+    bench.release();
+    QCOMPARE(bench.names(), QStringList(targetInfo));
+}
+
+void LegacySceneTest::otherButtonsDoNotEdit()
+{
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton, Qt::NoButton}) {
+        Bench bench;
+        const QPointF position = Bench::at(QPointF(0.5, 0.2));
+        bench.press(position, button);
+        QVERIFY(bench.names().isEmpty());
+        QCOMPARE(describe(stateOf(bench.scene).requested), describe(position));
+        bench.move(Bench::at(QPointF(0.52, 0.2)));
+        QCOMPARE(bench.names(), QStringList(cursorChange));
+        QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
+    }
+}
+
+void LegacySceneTest::rightPressEndsADrag()
+{
+    Bench bench;
+    bench.press(Bench::at(QPointF(0.5, 0.2)));
+    bench.press(Bench::at(QPointF(0.51, 0.2)), Qt::RightButton);
+    bench.names();
+    const QString before = describe(bench.triangles());
+    bench.move(Bench::at(QPointF(0.52, 0.2)));
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+    QCOMPARE(describe(bench.triangles()), before);
+}
+
+void LegacySceneTest::dragFollowsInsideItsFence()
+{
+    Bench bench;
+    bench.press(Bench::at(QPointF(0.5, 0.3)));
+    bench.names();
+    for (const QPointF &chroma : {QPointF(0.52, 0.3), QPointF(0.55, 0.25), QPointF(0.45, 0.2)}) {
+        const QPointF position = Bench::at(chroma);
+        bench.log.takeUpdate();
+        QVERIFY(bench.move(position));
+        QCOMPARE(bench.log.takeSignals(),
+            QStringList({cursorChange + QStringLiteral(" shape 2"),
+                valueChanged + QLatin1Char(' ') + describe(bench.triangles().at(1))}));
+        QCOMPARE(describe(bench.target().redPos()), describe(Bench::chromaAt(position)));
+        QVERIFY(bench.log.takeUpdate());
+    }
+    bench.release();
+    QCOMPARE(bench.names(), QStringList(targetInfo));
+    bench.move(Bench::at(QPointF(0.5, 0.3)));
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+}
+
+void LegacySceneTest::dragOutOfTheFenceIsRefused()
+{
+    Bench bench;
+    bench.press(Bench::at(QPointF(0.5, 0.3)));
+    bench.names();
+    const QString before = describe(bench.triangles());
+    for (const QPointF &chroma : {QPointF(0.6, 0.6), QPointF(0.2, 0.6), QPointF(0.15, 0.05), QPointF(-3.0, 9.0)}) {
+        QVERIFY(bench.move(Bench::at(chroma)));
+        QCOMPARE(bench.names(), QStringList(cursorChange));
+        QCOMPARE(describe(bench.triangles()), before);
+        QVERIFY(!stateOf(bench.scene).vertexSelected);
+    }
+    bench.move(Bench::at(QPointF(0.51, 0.3))); // and back
+    QCOMPARE(bench.names(), QStringList({cursorChange, valueChanged}));
+    QVERIFY(stateOf(bench.scene).vertexSelected);
+}
+
+void LegacySceneTest::dragOutOfTheOriginalGoesOn()
+{
+    Bench bench({reference::narrowGamut(), reference::narrowGamut()});
+    bench.press(Bench::at(QPointF(0.5, 0.3)));
+    bench.names();
+    const QPointF outside = Bench::at(QPointF(0.7, 0.28));
+    bench.move(outside);
+    QCOMPARE(bench.names(), QStringList({cursorChange, valueChanged}));
+    QCOMPARE(describe(bench.target().redPos()), describe(Bench::chromaAt(outside)));
+    bench.release();
+    QVERIFY(bench.log.takeSignals().value(0).endsWith(QLatin1String(", beyond 3, unreasonable")));
+}
+
+void LegacySceneTest::dragAfterAPressInNoFenceReportsInNoFence()
+{
+    Bench bench;
+    bench.press(Bench::at(QPointF(0.6, 0.6)));
+    bench.names();
+    bench.move(Bench::at(QPointF(0.61, 0.6)));
+    QCOMPARE(bench.names(), QStringList({cursorChange, valueChanged}));
+    bench.move(Bench::at(QPointF(0.5, 0.3)));
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+}
+
+void LegacySceneTest::lockedPrimariesAreNotPlaced()
+{
+    Bench bench;
+    bench.scene.setRGBPointEnable(false);
+    const QPointF position = Bench::at(QPointF(0.5, 0.2));
+    bench.press(position);
+    QVERIFY(bench.names().isEmpty());
+    QCOMPARE(stateOf(bench.scene).selectedTab, 4);
+    bench.log.takeUpdate();
+    QVERIFY(!bench.move(Bench::at(QPointF(0.52, 0.2)))); // ends before it is accepted
+    QVERIFY(!bench.log.takeUpdate());
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+    QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
+}
+
+void LegacySceneTest::lockedPrimariesLeaveTheWhite()
+{
+    Bench bench;
+    bench.scene.setRGBPointEnable(false);
+    bench.press(bench.whiteHandle());
+    QCOMPARE(bench.names(), QStringList(targetInfo));
+    bench.move(bench.whiteHandle() + QPointF(20, 0));
+    QCOMPARE(bench.names(), QStringList({cursorChange, targetInfo}));
+}
+
+void LegacySceneTest::lockedWhiteFallsThrough()
+{
+    Bench bench;
+    reference::setEditMode(bench.scene, 1);
+    bench.press(bench.whiteHandle());
+    QVERIFY(bench.names().isEmpty());
+    QVERIFY(!bench.move(bench.whiteHandle() + QPointF(5, 5)));
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+    QVERIFY(!stateOf(bench.scene).centreSelected);
+    QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
+}
+
+void LegacySceneTest::hoverTellsTheCross()
+{
+    Bench bench;
+    bench.move(QPointF(0, 0)); // where it was last
+    QVERIFY(bench.names().isEmpty());
+    bench.move(QPointF(0, 7));
+    QCOMPARE(bench.log.takeSignals(), QStringList(cursorChange + QStringLiteral(" shape 2")));
+    bench.move(QPointF(0, 7));
+    QVERIFY(bench.names().isEmpty());
+    bench.move(QPointF(3, 7));
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+}
+
+void LegacySceneTest::hoverComparesExactly()
+{
+    Bench bench;
+    bench.move(QPointF(100, 50));
+    bench.names();
+    bench.move(QPointF(100 + 1e-12, 50));
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+    bench.move(QPointF(100 + 1e-12, 50 - 1e-12));
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+}
+
+void LegacySceneTest::hoverEndsWithARepaint()
+{
+    for (const QList<ColorTriangleObject> &triangles : {QList<ColorTriangleObject>(), reference::gamutPair()}) {
+        Bench bench(triangles);
+        QVERIFY(bench.move(QPointF(300, 300)));
+        QVERIFY(bench.log.takeUpdate());
+        QVERIFY(bench.move(QPointF(300, 300)));
+        QVERIFY(bench.log.takeUpdate());
+    }
+}
+
+void LegacySceneTest::hoverSetsTheTab()
+{
+    Bench bench;
+    const TrianglePoint points = bench.target();
+    const QList<QPair<QPointF, int>> handles{
+        {points.redPos(), 4}, {points.greenPos(), 1}, {points.bluePos(), 3}, {points.whitePos(), 2}};
+    for (const auto &handle : handles) {
+        const QPointF centre = Bench::handle(handle.first);
+        for (const QPointF &offset : {QPointF(0, 0), QPointF(5, -5), QPointF(-5, 5)}) {
+            bench.move(centre + offset);
+            QCOMPARE(reference::hoverTab(bench.scene), handle.second);
+        }
+        for (const QPointF &offset : {QPointF(7, 0), QPointF(0, 7), QPointF(-7, 0), QPointF(0, -7)}) {
+            bench.move(centre + offset);
+            QCOMPARE(reference::hoverTab(bench.scene), 0);
+        }
+    }
+    // Int of one and a half times twelve.
+    reference::setFunctionKeyMode(bench.scene, 1);
+    for (int i = 0; i < 5; ++i) {
+        bench.scene.SetFunctionKeyShortcuts();
+    }
+    reference::setFunctionKeyMode(bench.scene, 0);
+    bench.scene.SetFunctionKeyShortcuts();
+    bench.move(Bench::handle(points.greenPos()) + QPointF(8, 8));
+    QCOMPARE(reference::hoverTab(bench.scene), 1);
+    bench.move(Bench::handle(points.greenPos()) + QPointF(10, 8));
+    QCOMPARE(reference::hoverTab(bench.scene), 0);
+}
+
+void LegacySceneTest::hoverOrderIsRedGreenBlueWhite()
+{
+    const QPointF together(0.3, 0.3);
+    QList<ColorTriangleObject> pair = reference::gamutPair();
+    TrianglePoint &points = pair[1].trianglePoint();
+    points.setRedPos(together);
+    points.setGreenPos(together);
+    points.setBluePos(together);
+    points.setWhitePos(together);
+    const QPointF away(0.6, 0.6);
+    QList<int> found;
+    for (int removed = 0; removed < 4; ++removed) {
+        Bench bench(pair);
+        bench.move(Bench::handle(together));
+        found << reference::hoverTab(bench.scene);
+        (removed == 0 ? points.redPos() : removed == 1 ? points.greenPos() : points.bluePos()) = away;
+    }
+    QCOMPARE(found, QList<int>({4, 1, 3, 2}));
+}
+
+void LegacySceneTest::heldSpaceTurnsTheMouseIntoAHand()
+{
+    Bench bench;
+    bench.key(QEvent::KeyPress, Qt::Key_Space);
+    QCOMPARE(bench.log.takeSignals(), QStringList(cursorChange + QStringLiteral(" shape 17")));
+    QVERIFY(stateOf(bench.scene).hand);
+    bench.move(QPointF(300, 300));
+    QCOMPARE(bench.log.takeSignals(), QStringList(cursorChange + QStringLiteral(" shape 17")));
+
+    bench.press(Bench::at(QPointF(0.5, 0.2)));
+    QVERIFY(bench.names().isEmpty());
+    bench.log.takeUpdate();
+    QVERIFY(bench.move(Bench::at(QPointF(0.52, 0.2))));
+    QVERIFY(bench.log.takeUpdate());
+    QVERIFY(!bench.names().contains(valueChanged));
+    QCOMPARE(describe(stateOf(bench.scene).requested), describe(QPointF(300, 300)));
+    QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
+    bench.release();
+    bench.names();
+
+    bench.key(QEvent::KeyRelease, Qt::Key_Space);
+    QVERIFY(!stateOf(bench.scene).hand);
+    bench.press(Bench::at(QPointF(0.5, 0.2)));
+    QCOMPARE(bench.names(), QStringList(valueChanged));
+}
+
+void LegacySceneTest::spaceReleasedMidDragGoesOn()
+{
+    Bench bench;
+    bench.press(Bench::at(QPointF(0.5, 0.2)));
+    bench.key(QEvent::KeyPress, Qt::Key_Space);
+    bench.names();
+    bench.move(Bench::at(QPointF(0.52, 0.2)));
+    QVERIFY(!bench.names().contains(valueChanged));
+    bench.key(QEvent::KeyRelease, Qt::Key_Space);
+    bench.move(Bench::at(QPointF(0.53, 0.2)));
+    QCOMPARE(bench.names(), QStringList({cursorChange, valueChanged}));
+}
+
+void LegacySceneTest::magnifierRepeatsTheZoomStep()
+{
+    Bench bench;
+    reference::setFunctionKeyMode(bench.scene, 2);
+    bench.scene.SetFunctionKeyShortcuts();
+    QVERIFY(stateOf(bench.scene).magnifier);
+    bench.log.takeUpdate();
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        const float before = stateOf(bench.scene).zoom;
+        bench.press(Bench::at(QPointF(0.5, 0.2)), button);
+        QCOMPARE(stateOf(bench.scene).zoom, before - 0.1F);
+        QVERIFY(bench.log.takeUpdate());
+    }
+    QVERIFY(!bench.move(Bench::at(QPointF(0.52, 0.2))));
+    QVERIFY(!bench.log.takeUpdate());
+    QVERIFY(bench.names().isEmpty());
+    QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
+    QCOMPARE(describe(stateOf(bench.scene).requested), QStringLiteral("(0, 0)"));
+
+    reference::setFunctionKeyMode(bench.scene, 0); // the next press puts the magnifier away
+    bench.press(Bench::at(QPointF(0.5, 0.2)));
+    QVERIFY(!stateOf(bench.scene).magnifier);
+    QVERIFY(bench.names().isEmpty());
+    bench.press(Bench::at(QPointF(0.5, 0.2)));
+    QCOMPARE(bench.names(), QStringList(valueChanged));
+}
+
+void LegacySceneTest::releaseReportsTheTargetAsItStands()
+{
+    Bench bench;
+    bench.press(Bench::at(QPointF(0.5, 0.3)));
+    bench.move(Bench::at(QPointF(0.55, 0.3)));
+    bench.names();
+    bench.log.takeUpdate();
+    QVERIFY(bench.release());
+    const ColorTriangleObject target = bench.triangles().at(1);
+    QCOMPARE(bench.log.takeSignals(), QStringList(infoLine(target, kelvinOf(target.trianglePoint().whitePos()), true)));
+    QVERIFY(bench.log.takeUpdate());
+}
+
+void LegacySceneTest::releaseWithoutTargetReportsWhatWas()
+{
+    Bench bench;
+    bench.scene.setColorTempertureChecked(true);
+    bench.press(bench.whiteHandle());
+    bench.names();
+    bench.scene.setLsColorTriangleObject({reference::wideGamut()});
+    bench.release();
+    QCOMPARE(bench.log.takeSignals(),
+        QStringList(infoLine(reference::narrowGamut(), kelvinOf(QPointF(0.3127, 0.3290)), true)));
+
+    Bench fresh(QList<ColorTriangleObject>{});
+    fresh.release();
+    ColorTriangleObject untouched;
+    const QStringList emitted = fresh.log.takeSignals();
+    QCOMPARE(emitted.size(), 1);
+    QVERIFY(emitted.first().endsWith(QLatin1String(", 0 K, beyond 3, unreasonable")));
+}
+
+void LegacySceneTest::releaseOfOtherButtonsReportsNothing()
+{
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        Bench bench;
+        bench.scene.setColorTempertureChecked(true);
+        bench.press(bench.whiteHandle());
+        bench.names();
+        bench.log.takeUpdate();
+        QVERIFY(bench.release(button));
+        QVERIFY(bench.names().isEmpty());
+        QVERIFY(bench.log.takeUpdate());
+        bench.move(bench.whiteHandle() + QPointF(3, 3)); // the drag is over
+        QCOMPARE(bench.names(), QStringList(cursorChange));
+    }
+}
+
+void LegacySceneTest::releaseEndsSelections()
+{
+    Bench bench;
+    bench.press(Bench::at(QPointF(0.5, 0.3)));
+    QVERIFY(stateOf(bench.scene).vertexSelected);
+    bench.release();
+    QVERIFY(!stateOf(bench.scene).vertexSelected);
+    bench.press(bench.whiteHandle());
+    QVERIFY(stateOf(bench.scene).centreSelected);
+    bench.release(Qt::RightButton);
+    QVERIFY(!stateOf(bench.scene).centreSelected);
+    bench.names();
+    for (const int code : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+        bench.key(QEvent::KeyPress, code);
+    }
+    QVERIFY(bench.names().isEmpty());
+}
+
+void LegacySceneTest::releaseTakesTheTemperatureFromDoubles()
+{
+    QList<ColorTriangleObject> pair = reference::gamutPair();
+    pair[1].trianglePoint().setWhitePos(QPointF(0.3383, 0.3164));
+    Bench bench(pair);
+    bench.release();
+    QVERIFY(bench.log.takeSignals().value(0).contains(QLatin1String(", 5183 K, ")));
+}
+
+void LegacySceneTest::whiteHandleIsASquareOfTwelve()
+{
+    for (const bool afterPainting : {false, true}) {
+        for (const QPointF &offset : {QPointF(0, 0), QPointF(5.5, 5.5), QPointF(-5.5, 5.5), QPointF(5.5, -5.5)}) {
+            Bench bench;
+            const QPointF handle = bench.whiteHandle();
+            if (afterPainting) {
+                paintHandles(bench.scene);
+                bench.names();
+            }
+            bench.press(handle + offset);
+            QCOMPARE(bench.names(), QStringList(targetInfo));
+            QVERIFY(stateOf(bench.scene).centreSelected);
+        }
+        for (const QPointF &offset : {QPointF(6.5, 0), QPointF(-6.5, 0), QPointF(0, 6.5), QPointF(0, -6.5)}) {
+            Bench bench;
+            const QPointF handle = bench.whiteHandle();
+            if (afterPainting) {
+                paintHandles(bench.scene);
+                bench.names();
+            }
+            bench.press(handle + offset);
+            QCOMPARE(bench.names(), QStringList(valueChanged));
+            QVERIFY(!stateOf(bench.scene).centreSelected);
+        }
+    }
+}
+
+void LegacySceneTest::whiteDragReports_data()
+{
+    QTest::addColumn<bool>("held");
+    QTest::newRow("white follows") << false;
+    QTest::newRow("white held") << true;
+}
+
+void LegacySceneTest::whiteDragReports()
+{
+    QFETCH(bool, held);
+    Bench bench;
+    bench.scene.setColorTempertureChecked(held);
+    const QString info = infoLine(reference::narrowGamut(), kelvinOf(QPointF(0.3127, 0.3290)), true);
+    bench.press(bench.whiteHandle());
+    QCOMPARE(bench.log.takeSignals(), QStringList(info));
+    bench.log.takeUpdate();
+    QVERIFY(!bench.move(bench.whiteHandle() + QPointF(20, 10)));
+    QCOMPARE(bench.log.takeSignals(), QStringList({cursorChange + QStringLiteral(" shape 2"), info}));
+    QVERIFY(bench.log.takeUpdate());
+    bench.release();
+    QStringList expected{info};
+    if (held) {
+        expected << whiteChanged + QLatin1Char(' ') + describe(bench.triangles().at(1));
+    }
+    QCOMPARE(bench.log.takeSignals(), expected);
+    QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
+}
+
+void LegacySceneTest::whiteOutsideTheTargetStopsFollowing()
+{
+    Bench bench;
+    bench.press(bench.whiteHandle());
+    bench.names();
+    bench.move(Bench::at(QPointF(0.2, 0.6)));
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+    QVERIFY(!stateOf(bench.scene).whiteMoved);
+    bench.log.takeUpdate();
+    QVERIFY(!bench.move(Bench::at(QPointF(0.35, 0.35)))); // back inside
+    QCOMPARE(bench.names(), QStringList(cursorChange));
+    QVERIFY(!bench.log.takeUpdate());
+    bench.release();
+    QCOMPARE(bench.names(), QStringList(targetInfo));
+    bench.press(bench.whiteHandle());
+    QCOMPARE(bench.names(), QStringList(targetInfo));
+    QVERIFY(stateOf(bench.scene).whiteMoved);
+}
+
+void LegacySceneTest::whiteMoveEndsTheHandlerEarly()
+{
+    Bench bench;
+    bench.press(bench.whiteHandle());
+    QVERIFY(!bench.move(bench.whiteHandle() + QPointF(2, 2)));
+    QVERIFY(stateOf(bench.scene).centreSelected);
+}
+
+void LegacySceneTest::whitePickedOutsideTheTargetDoesNotMove()
+{
+    QList<ColorTriangleObject> pair = reference::gamutPair();
+    pair[1].trianglePoint().setWhitePos(QPointF(0.2, 0.6));
+    Bench bench(pair);
+    bench.press(bench.whiteHandle());
+    QVERIFY(bench.names().isEmpty());
+    QVERIFY(stateOf(bench.scene).centreSelected);
+    QCOMPARE(describe(bench.triangles()), describe(pair));
+}
+
+void LegacySceneTest::arrowsMoveAPickedVertexWhileHeld()
+{
+    Bench bench; // its original vertices are chromaticities still
+    const QPointF position = Bench::at(QPointF(0.5, 0.3));
+    bench.press(position);
+    bench.names();
+    bench.key(QEvent::KeyPress, Qt::Key_Up);
+    QCOMPARE(bench.names(), QStringList(valueChanged));
+    const QPointF moved(position.x(), position.y() - static_cast<double>(0.1F));
+    QCOMPARE(describe(stateOf(bench.scene).requested), describe(moved));
+    QCOMPARE(describe(bench.target().redPos()), describe(Bench::chromaAt(moved)));
+}
+
+void LegacySceneTest::arrowsStartFromThePaintedWhiteHandle()
+{
+    Bench bench;
+    bench.scene.setDrawColorTPoint(false);
+    paintHandles(bench.scene);
+    bench.press(bench.whiteHandle());
+    bench.names();
+    bench.key(QEvent::KeyPress, Qt::Key_Left);
+    QCOMPARE(bench.names(), QStringList(targetInfo));
+    const QPointF away = stateOf(bench.scene).requested - bench.whiteHandle();
+    QVERIFY(std::fabs(away.x()) < 2.0 && std::fabs(away.y()) < 2.0);
+}
+
+void LegacySceneTest::listReplacedMidDrag()
+{
+    Bench bench;
+    bench.press(Bench::at(QPointF(0.5, 0.3)));
+    const QList<ColorTriangleObject> other{reference::narrowGamut(), reference::wideGamut()};
+    bench.scene.setLsColorTriangleObject(other);
+    bench.names();
+    const QPointF position = Bench::at(QPointF(0.52, 0.3));
+    bench.move(position);
+    QCOMPARE(bench.names(), QStringList({cursorChange, valueChanged}));
+    QCOMPARE(describe(bench.target().redPos()), describe(Bench::chromaAt(position)));
+    QCOMPARE(describe(bench.target().greenPos()), describe(reference::wideGamut().trianglePoint().greenPos()));
+}
+
+void LegacySceneTest::listShortenedMidDrag()
+{
+    for (const QList<ColorTriangleObject> &rest :
+        {QList<ColorTriangleObject>(), QList<ColorTriangleObject>{reference::wideGamut()}}) {
+        Bench bench;
+        bench.press(Bench::at(QPointF(0.5, 0.3)));
+        bench.scene.setLsColorTriangleObject(rest);
+        bench.names();
+        QVERIFY(bench.move(Bench::at(QPointF(0.52, 0.3))));
+        QCOMPARE(bench.names(), QStringList(cursorChange));
+        bench.release();
+        QCOMPARE(bench.names(), QStringList(targetInfo));
+        QCOMPARE(describe(bench.triangles()), describe(rest));
+    }
+}
+
+void LegacySceneTest::eventsAreAcceptedAsStated()
+{
+    Bench bench;
+    QVERIFY(bench.move(QPointF(200, 200)));
+    bench.press(Bench::at(QPointF(0.5, 0.3)));
+    QVERIFY(bench.move(Bench::at(QPointF(0.52, 0.3))));
+    QVERIFY(bench.release());
+    QVERIFY(bench.release(Qt::RightButton));
+}
+
+void LegacySceneTest::meaninglessInputIsSurvived()
+{
+    const double inf = std::numeric_limits<double>::infinity();
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const double bad : {inf, -inf, nan, 1e300, -1e12}) {
+        QList<ColorTriangleObject> triangles = reference::gamutPair();
+        for (ColorTriangleObject &triangle : triangles) {
+            triangle.trianglePoint().setRedPos(QPointF(bad, bad));
+            triangle.trianglePoint().setWhitePos(QPointF(bad, 0.3));
+            triangle.trianglePoint().setBlueLum(bad);
+        }
+        for (const bool held : {false, true}) {
+            Bench bench(triangles);
+            bench.scene.setColorTempertureChecked(held);
+            bench.scene.setMeasureValuePoints({QPointF(bad, 0.1)});
+            bench.scene.setOtherPoints({QPointF(bad, bad), QPointF(0.3, 0.3)}, {Qt::red});
+            for (const QPointF &position : {QPointF(bad, bad), QPointF(400, 400)}) {
+                bench.press(position);
+                bench.move(position + QPointF(3, 3));
+                bench.move(QPointF(500, 600));
+                bench.release();
+                paintHandles(bench.scene);
+            }
+            bench.scene.setImageWidth(-5);
+            bench.press(QPointF(400, 400));
+            bench.move(QPointF(500, 600));
+            QGraphicsView view(&bench.scene);
+            view.resize(100, 100);
+            QImage image(view.size(), QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::black);
+            QPainter painter(&image);
+            bench.scene.drawBackground(&painter, QRectF());
+            QCOMPARE(bench.triangles().size(), 2);
+        }
+    }
+}
+
+QTEST_MAIN(LegacySceneTest)
+#include "legacyscenetest.moc"

@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_TESTS_REFERENCE_SCENEMODEL_H
+#define CEIECHART_TESTS_REFERENCE_SCENEMODEL_H
+
+#include <ceiechart/model/colortriangleobject.h>
+#include <ceiechart/model/targetinfochangedeventargs.h>
+#include <ceiechart/model/triangleobjeciinitializedeventargs.h>
+
+#include <QCursor>
+#include <QList>
+#include <QPointF>
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+class QPainter;
+
+/*!
+ * \brief The scenes' behaviour written down step by step, without Qt's event loop, widgets or pictures: what the
+ *        real scenes are compared with, signal by signal.
+ *
+ * Operations bear the names of the scenes' own. Nothing here is shared with the library but the value types and
+ * the colour maths.
+ */
+namespace reference {
+
+// Everything that a signal carries as text, numbers to the last bit: equal texts are equal payloads.
+QString describe(double value);
+QString describe(const QPointF &point);
+QString describe(const TrianglePoint &points);
+QString describe(const ColorTriangleObject &triangle);
+QString describe(const QList<ColorTriangleObject> &triangles);
+QString describe(const QList<QPointF> &points);
+QString describe(const TargetInfoChangedEventArgs &report);
+QString describe(const TriangleObjecIinitializedEventArgs &report);
+QString describe(const QCursor &cursor);
+
+/*! \brief A line that shows where \a actual first departs from \a expected; empty when they are the same. */
+QString difference(const QString &what, const QString &actual, const QString &expected);
+
+/*! \brief Toward zero; the smallest int for what an int cannot hold. */
+int truncateToInt(double value);
+
+PointF narrowed(const QPointF &point);
+bool isInsidePolygon(const PointF &point, const std::vector<PointF> &polygon);
+bool isInsideTriangle(const PointF &point, const PointF &a, const PointF &b, const PointF &c);
+
+/*! \brief The fixed polygons of the primaries: 0 red, 1 green, 2 blue. */
+const std::vector<PointF> &fence(int region);
+
+/*! \brief 0 red, 1 green, 2 blue fence, tested in that order; 3 for none of them. */
+int fenceRegion(const PointF &point);
+
+/*! \brief Where the background picture goes for a scene rectangle and the size of the view's widget. */
+QRectF backgroundTarget(const QRectF &sceneRectangle, int viewWidth, int viewHeight);
+
+/*! \brief What a scene keeps between events. */
+struct SceneState {
+    QPointF requested;
+    QPointF current;
+    QPointF saved;
+    int selectedRegion = 3;
+    int selectedVertex = 0;
+    int selectedTab = 0;
+    bool vertexSelected = false;
+    bool centreSelected = false;
+    bool whiteMoved = false;
+    bool outOfBounds = false;
+    bool hand = false;
+    bool magnifier = false;
+    float zoom = 1.0F;
+};
+
+QString describe(const SceneState &state);
+
+/*! \brief Where the renderer's drawing of a size places chromaticities. */
+class PictureMapping {
+public:
+    /*! \brief Takes a drawing's size; a plot without extent keeps the scales of the one before. */
+    void draw(int width, int height);
+
+    QPointF toPixel(const QPointF &chroma) const;
+    QPointF toChroma(const QPointF &pixel) const;
+
+private:
+    double m_left = 0.0;
+    double m_top = 0.0;
+    double m_yMax = 0.0;
+    double m_pixelsPerX = 0.0;
+    double m_pixelsPerY = 0.0;
+    double m_xPerPixel = 0.0;
+    double m_yPerPixel = 0.0;
+};
+
+/*! \brief NewCEIE::CEIEGraphicsScene, and what the legacy scene has in common with it. */
+class SceneModel {
+public:
+    explicit SceneModel(const QList<ColorTriangleObject> &triangles);
+    virtual ~SceneModel();
+    Q_DISABLE_COPY(SceneModel)
+
+    /*! \brief The signals emitted since the last call, in order. */
+    QStringList takeSignals();
+
+    /*! \brief Whether the whole scene was asked to repaint since the last call. */
+    bool takeUpdate();
+
+    // Data
+    void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles);
+    void setAllTriangles(const QList<ColorTriangleObject> &triangles); //!< as the form with six arguments
+    void setImageWidth(int width);
+    void setImageHeight(int height);
+    void setRGBPointEnable(bool enable);
+    void setDrawColorTPoint(bool on);
+    void setOtherPoints() { update(); }
+    void setColorTempertureChecked(bool on) { m_temperatureChecked = on; }
+    void setIsMouseOper(bool on) { m_mouseEditing = on; }
+    void setFunctionKeyMode(int mode) { m_functionKeyMode = mode; }
+    void setEditMode(int mode) { m_editMode = mode; }
+    void setRequestedPoint(const QPointF &point) { m_state.requested = point; }
+    void restoreAtNextKey(const QPointF &point);
+    void selectCentre(const QPointF &handle);
+    virtual void getBitMap();
+
+    const QList<ColorTriangleObject> &triangles() const { return m_triangles; }
+    int imageWidth() const { return m_imageWidth; }
+    int imageHeight() const { return m_imageHeight; }
+    bool isDrawColorTPoint() const { return m_isDrawColorTPoint; }
+    bool isMouseOper() const { return m_mouseEditing; }
+    const SceneState &state() const { return m_state; }
+    const QRectF &sceneRectangle() const { return m_sceneRectangle; }
+
+    // Coordinates
+    virtual QPointF toScene(const QPointF &chroma) const;
+    virtual QPointF toChroma(const QPointF &position) const;
+    void CoordinateTransformation();
+
+    // Constraints
+    bool CheckOriginalAndTarget(
+        const ColorTriangleObject &original, const ColorTriangleObject &target, baseCommon::LEDColorType &beyond);
+    int GetColourTemperatureValue(const QPointF &white) const;
+    void SetCentreTriangle();
+    void SetControlGraphData();
+    void MoveEllipseSign();
+    void RefreshEllipseSignPosition();
+    void AddLedColorAndPoint();
+    void MoveCentreTriangle();
+    void MouseClickAire(const QPointF &position);
+    void MouseSelectedPoint(const QPointF &position);
+
+    bool hasPicture() const { return m_hasPicture; }
+
+    /*!
+     * \brief Whether \a position picks the white point's handle.
+     *
+     * Uncertain close to the square's edge, and where the handle as it was last painted and as it would be painted
+     * now do not agree: a scene repaints before the next press.
+     */
+    enum Pick { Missed, Picked, Uncertain };
+    Pick pickWhite(const QPointF &position) const;
+
+    /*! \brief Where the white point's handle is, when there is a target. */
+    QPointF whiteHandle() const;
+
+    // Keyboard
+    void keyPress(int key);
+    void keyRelease(int key);
+    void SpeedUpThePace(float &step, int key);
+    void ClearSpeedUpStep();
+    void SetFunctionKeyShortcuts();
+
+    // Painting
+    bool refreshArea(QPainter &painter);
+    bool DrawThreeEllipseSign(QPainter &painter) const;
+    void DrawEllipseSign(QPainter &painter, const QPointF &chroma, int size) const;
+
+protected:
+    void record(const QString &signal, const QString &payload);
+    void update() { m_updated = true; }
+    void emitTargetInfo();
+    void refreshTargetReport();
+    virtual void paintWhiteHandle();
+    void scaleImage();
+    void drawPicture();
+
+    bool isTargetReady() const { return m_triangles.size() >= 2; }
+    TrianglePoint &target() { return m_triangles[1].trianglePoint(); }
+    const TrianglePoint &target() const { return m_triangles[1].trianglePoint(); }
+    bool isInsideOriginal(const QPointF &position) const;
+    bool isInsideTarget(const QPointF &position) const;
+
+    QList<ColorTriangleObject> m_triangles;
+    PictureMapping m_mapping;
+    TrianglePoint m_originalVertices;
+    TrianglePoint m_targetReference;
+    SceneState m_state;
+    QPointF m_centreHandle;
+    QPointF m_centreHandleChroma;
+    bool m_centreHandlePainted = false;
+    bool m_listReplacedSincePainting = false;
+    bool m_hasPicture = false;
+    QRectF m_sceneRectangle;
+    int m_imageWidth = 672;
+    int m_imageHeight = 728;
+    int m_pictureWidth = 0;
+    int m_pictureHeight = 0;
+    int m_editMode = 0;
+    bool m_isDrawColorTPoint = true;
+    bool m_temperatureChecked = false;
+    bool m_mouseEditing = true;
+    bool m_handOutlivesPress = false;
+
+private:
+    void rebalance();
+    bool SetEllipseDieplay(QPainter &painter, const QPointF &chroma, int size, int tab, int area) const;
+    void nudge(int key, float step);
+
+    QStringList m_signals;
+    bool m_updated = false;
+    double m_originX = 0.0;
+    double m_originY = 0.0;
+    int m_unitLength = 100;
+    float m_zoomLimit = 1.5F;
+    float m_zoomStep = 0.1F;
+    int m_functionKeyMode = 0;
+    int m_pressCount = 0;
+    int m_acceleration = 0;
+    int m_lastKey = Qt::Key_unknown;
+    bool m_restorePending = false;
+
+    ColorTriangleObject m_reportTriangle;
+    double m_reportTemperature = 0.0;
+    bool m_reportReasonable = false;
+};
+
+/*! \brief The global-namespace CEIEGraphicsScene with the x, y diagram. */
+class LegacySceneModel : public SceneModel {
+public:
+    explicit LegacySceneModel(const QList<ColorTriangleObject> &triangles);
+
+    QPointF toScene(const QPointF &chroma) const override;
+    QPointF toChroma(const QPointF &position) const override;
+    void getBitMap() override;
+
+    // Moves and releases return whether they accept the event and repaint at their end.
+    void mousePress(Qt::MouseButton button, const QPointF &position);
+    bool mouseMove(const QPointF &position);
+    bool mouseRelease(Qt::MouseButton button);
+
+    bool isLeftButtonDown() const { return m_leftButton; }
+
+protected:
+    void paintWhiteHandle() override;
+
+private:
+    bool drag(); //!< false when the move ends there
+
+    QPointF m_lastHover;
+    bool m_buttonDown = false;
+    bool m_leftButton = false;
+};
+
+} // namespace reference
+
+#endif // CEIECHART_TESTS_REFERENCE_SCENEMODEL_H

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_TESTS_WIDGETS_INNERVIEWTESTS_H
+#define CEIECHART_TESTS_WIDGETS_INNERVIEWTESTS_H
+
+#include <QGraphicsView>
+#include <QMetaMethod>
+#include <QTest>
+
+/*! \brief What the inner views of both generations have in common. */
+template <class InnerView>
+struct InnerViewTests {
+    static void construction()
+    {
+        QWidget parent;
+        const InnerView view(&parent);
+        QCOMPARE(view.parentWidget(), &parent);
+        QCOMPARE(view.frameShape(), QFrame::NoFrame);
+        QCOMPARE(view.renderHints(), QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        QCOMPARE(view.scene(), nullptr);
+        const InnerView orphan(nullptr);
+        QCOMPARE(orphan.parentWidget(), nullptr);
+    }
+
+    static void metaObject(const char *className)
+    {
+        const QMetaObject &meta = InnerView::staticMetaObject;
+        QCOMPARE(meta.className(), className);
+        QCOMPARE(meta.superClass(), &QGraphicsView::staticMetaObject);
+        QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+        QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+        const QMetaMethod slot = meta.method(meta.methodOffset());
+        QCOMPARE(slot.methodSignature(), QByteArray("slot_mouseCursorChange(QCursor)"));
+        QCOMPARE(slot.parameterNames(), QList<QByteArray>({"mouseCursorStyle"}));
+        QCOMPARE(slot.methodType(), QMetaMethod::Slot);
+        QCOMPARE(slot.access(), QMetaMethod::Public);
+    }
+
+    static void cursorUntilThePointerLeaves()
+    {
+        QWidget window; // which has a cursor of its own
+        InnerView view(&window);
+        QVERIFY(!view.testAttribute(Qt::WA_SetCursor));
+        view.slot_mouseCursorChange(QCursor(Qt::OpenHandCursor));
+        QVERIFY(view.testAttribute(Qt::WA_SetCursor));
+        QCOMPARE(view.cursor().shape(), Qt::OpenHandCursor);
+        QCOMPARE(view.viewport()->cursor().shape(), Qt::OpenHandCursor);
+        QVERIFY(QMetaObject::invokeMethod(&view, "slot_mouseCursorChange", Q_ARG(QCursor, QCursor(Qt::CrossCursor))));
+        QCOMPARE(view.cursor().shape(), Qt::CrossCursor);
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&view, &leave);
+        QVERIFY(!view.testAttribute(Qt::WA_SetCursor));
+        QCOMPARE(view.cursor().shape(), Qt::ArrowCursor);
+    }
+};
+
+#endif // CEIECHART_TESTS_WIDGETS_INNERVIEWTESTS_H
