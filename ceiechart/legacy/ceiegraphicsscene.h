@@ -59,8 +59,6 @@ protected:
     void drawBackground(QPainter *painter, const QRectF &rect) override;
 
 private:
-    friend class ceiechart::SceneSignals<CEIEGraphicsScene>;
-
     //! The verdict alone: \a beyond cannot be written back.
     bool CheckOriginalAndTarget(
         const ColorTriangleObject &original, const ColorTriangleObject &target, const baseCommon::LEDColorType &beyond);

@@ -68,10 +68,10 @@ public:
     void setColorGamutVisible(int index, bool shown) { m_parts.setTriangleVisible(index, shown); }
     /*! \brief Replaces the list of gamuts: the original, then the target. */
     void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles) { m_parts.setTriangles(triangles); }
-    /*! \brief The list of gamuts as last set here; what is edited on the chart is in the signals. */
+    /*! \brief The list of gamuts as last set; what is edited on the chart is in the signals. */
     QList<ColorTriangleObject> lsColorTriangleObject() const { return m_parts.triangles(); }
 
-    /*! \copydoc NewCEIE::CEIEGraphicsView::setLsColorTempertureValuePoints */
+    /*! \brief Hands chromaticities of colour-temperature points to the scene and redraws. */
     void setLsColorTempertureValuePoints(const QList<QPointF> &points) { m_parts.setColorTemperaturePoints(points); }
     /*! \copydoc NewCEIE::CEIEGraphicsView::lsColorTempertureValuePoints */
     QList<QPointF> lsColorTempertureValuePoints() const { return m_parts.colorTemperaturePoints(); }
@@ -88,9 +88,13 @@ public:
 
     /*! \brief Sets the colour of edge and axes and the one that fills a u′, v′ picture, for the next picture. */
     void setGraphColor(QColor first, QColor second) { m_parts.setGraphColor(first, second); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::setImageWidth */
+    /*!
+     * \brief Sets the picture's width in pixels, fixes the inner view's at two more, and redraws.
+     *
+     * No width is refused; one that no picture can have gives an empty chart.
+     */
     void setImageWidth(int width) { m_parts.setImageWidth(width); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::setImageHeight */
+    /*! \brief As setImageWidth(), for the height. */
     void setImageHeight(int height) { m_parts.setImageHeight(height); }
     /*! \copydoc NewCEIE::CEIEGraphicsView::imageWidth */
     int imageWidth() const { return m_parts.imageWidth(); }
@@ -100,7 +104,7 @@ public:
     void setIsDrawCoordinate(bool draw) { m_parts.setIsDrawCoordinate(draw); }
     /*! \brief Stored, without effect on the picture: the Planckian locus comes and goes with the axes. */
     void setIsDrawBBRLine(bool draw) { m_parts.setIsDrawBBRLine(draw); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::setIsDrawWaveLength */
+    /*! \brief Switches the wavelengths along the edge of an x, y picture, and redraws. On at first. */
     void setIsDrawWaveLength(bool draw) { m_parts.setIsDrawWaveLength(draw); }
     /*! \copydoc NewCEIE::CEIEGraphicsView::isDrawCoordinate */
     bool isDrawCoordinate() const { return m_parts.isDrawCoordinate(); }

@@ -16,11 +16,6 @@
 class QImage;
 class QPainter;
 class QPolygonF;
-class DrawCEIPicture;
-
-namespace NewCEIE {
-class DrawCEIPicture;
-}
 
 namespace ceiechart {
 
@@ -40,10 +35,7 @@ struct AxesStyle {
  * geometry of the drawing under way and leaves the painter as it found it, unless it says otherwise.
  */
 class CEIECHART_EXPORT DiagramLayers {
-private:
-    friend class NewCEIE::DrawCEIPicture;
-    friend class ::DrawCEIPicture;
-
+protected:
     explicit DiagramLayers(const ChromaRange &range);
     DiagramLayers(const DiagramLayers &) = delete;
     DiagramLayers &operator=(const DiagramLayers &) = delete;
@@ -109,7 +101,7 @@ private:
     QList<CEIAtlasValue::CEIAtlasCoordinate> m_locus;
     QList<CEIAtlasValue::CEITemperatureCoordinate> m_planckianPoints;
 
-    // Scratch
+private:
     struct Chromaticity {
         double x = 0.0, y = 0.0, z = 0.0;
     };

@@ -78,8 +78,6 @@ protected:
     void drawBackground(QPainter *painter, const QRectF &rect) override;
 
 private:
-    friend class ceiechart::SceneSignals<CEIEGraphicsScene>;
-
     QPointF ChromaToCurCoordinate(QPointF chroma);
     QPointF CurCoordinateToChroma(QPointF position);
     bool CheckOriginalAndTarget(

@@ -11,12 +11,9 @@ namespace ceiechart {
 /*! \brief Turns the reports of the editing into the signals of \a Scene, which both generations name alike. */
 template <typename Scene>
 class SceneSignals : public TargetEditing {
-private:
-    friend Scene;
-
+protected:
     SceneSignals() = default;
-
-    Scene &scene() { return static_cast<Scene &>(*this); }
+    ~SceneSignals() override = default;
 
     void repaint() override { scene().update(); }
     void reportGamutValue(const ColorTriangleObject &target) override
@@ -33,6 +30,9 @@ private:
     {
         Q_EMIT scene().signal_triangleObjecIinitialized(report);
     }
+
+private:
+    Scene &scene() { return static_cast<Scene &>(*this); }
 };
 
 } // namespace ceiechart

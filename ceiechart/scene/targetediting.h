@@ -19,16 +19,8 @@
 
 class QCursor;
 class QPainter;
-class CEIEGraphicsScene;
-
-namespace NewCEIE {
-class CEIEGraphicsScene;
-}
 
 namespace ceiechart {
-
-template <typename Scene>
-class SceneSignals;
 
 /*!
  * \brief What the scenes of both generations hold and do: the gamuts, the picture, the handles of the target gamut
@@ -103,12 +95,7 @@ public:
      */
     bool refreshArea(QPainter *painter);
 
-private:
-    friend class NewCEIE::CEIEGraphicsScene;
-    friend class ::CEIEGraphicsScene;
-    template <typename Scene>
-    friend class SceneSignals;
-
+protected:
     enum EditMode { EverythingEditable = 0, WhiteLocked = 1, VerticesLocked = 2 };
     enum FunctionKeyMode { NoFunction = 0, ZoomIn = 1, ZoomOut = 2, MagnifierHand = 3 };
 

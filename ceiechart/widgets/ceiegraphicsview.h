@@ -36,6 +36,9 @@ class CEIEGraphicsScene;
  * connect(chart, &NewCEIE::CEIEGraphicsView::signal_targetInfoChanged, this, &Window::showTarget);
  * \endcode
  *
+ * A new size or a layer switch renders the bare diagram at once; the gamuts come back with the next updateLanGamut(),
+ * setColorGamut() or resize. So set the size first, the gamuts last.
+ *
  * Inner view, legend and message label are children of the chart. The scene has no parent; the chart deletes it.
  * Chromaticities are CIE 1931 x, y, luminances are in the host's units. Nothing reports an error: what cannot be
  * used is ignored. GUI thread only.
@@ -92,7 +95,7 @@ public:
     /*! \brief The list of gamuts as last set here or by setColorGamut(). */
     QList<ColorTriangleObject> lsColorTriangleObject() const { return m_parts.triangles(); }
 
-    /*! \brief Hands chromaticities of colour-temperature points to the scene and redraws. */
+    /*! \brief Hands chromaticities of colour-temperature points to the scene and renders the bare diagram. */
     void setLsColorTempertureValuePoints(const QList<QPointF> &points) { m_parts.setColorTemperaturePoints(points); }
     /*! \brief The colour-temperature points as last set. */
     QList<QPointF> lsColorTempertureValuePoints() const { return m_parts.colorTemperaturePoints(); }
@@ -113,7 +116,7 @@ public:
      */
     void setGraphColor(QColor first, QColor second);
     /*!
-     * \brief Sets the picture's width in pixels, fixes the inner view's at two more, and redraws.
+     * \brief Sets the picture's width in pixels, fixes the inner view's at two more, and renders the bare diagram.
      *
      * No width is refused; one that no picture can have gives an empty chart.
      */
@@ -124,11 +127,15 @@ public:
     int imageWidth() const { return m_parts.imageWidth(); }
     /*! \brief The height last set, 512 at first. */
     int imageHeight() const { return m_parts.imageHeight(); }
-    /*! \brief Switches axes and grid, and redraws. On at first. */
+    /*! \brief Switches axes and grid, and renders the bare diagram. On at first. */
     void setIsDrawCoordinate(bool draw) { m_parts.setIsDrawCoordinate(draw); }
-    /*! \brief Switches the Planckian locus, and redraws. On at first. */
+    /*!
+     * \brief Stored, on at first, and renders the bare diagram.
+     *
+     * The picture of the gamuts has the Planckian locus whatever the switch, the bare diagram never has it.
+     */
     void setIsDrawBBRLine(bool draw) { m_parts.setIsDrawBBRLine(draw); }
-    /*! \brief Switches the wavelengths along the edge, and redraws. On at first. */
+    /*! \brief As setIsDrawBBRLine(), for the wavelengths along the edge. */
     void setIsDrawWaveLength(bool draw) { m_parts.setIsDrawWaveLength(draw); }
     /*! \brief The switch last set. */
     bool isDrawCoordinate() const { return m_parts.isDrawCoordinate(); }

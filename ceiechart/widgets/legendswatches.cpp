@@ -78,7 +78,7 @@ QPixmap legendSwatch(LegendEntry entry)
     case LegendEntry::ManagedPoint:
         return managedPoint();
     }
-    return QPixmap();
+    return {};
 }
 
 } // namespace ceiechart
