@@ -16,6 +16,7 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 #include <memory>
 
 using reference::describe;
@@ -61,7 +62,8 @@ public:
         m_model->takeUpdate();
         note(QStringLiteral("constructed from ") + describe(triangles));
         if (m_random.bounded(8) != 0) {
-            setImageSize(60 + m_random.bounded(120), 60 + m_random.bounded(120));
+            const int width = 60 + m_random.bounded(120);
+            setImageSize(width, 60 + m_random.bounded(120));
         }
     }
 
@@ -78,6 +80,8 @@ public:
 private:
     void act();
     void press();
+    void press(Qt::MouseButton button, const QPointF &position);
+    void drag();
     void move();
     void release();
     void useKeys();
@@ -133,7 +137,7 @@ QString Twins::difference()
 
 void Twins::act()
 {
-    switch (m_random.bounded(21)) {
+    switch (m_random.bounded(25)) {
     case 0:
     case 1:
     case 2:
@@ -172,8 +176,11 @@ void Twins::act()
     case 19:
         checkHandles();
         break;
-    default:
+    case 20:
         setModes();
+        break;
+    default:
+        drag();
         break;
     }
 }
@@ -181,7 +188,7 @@ void Twins::act()
 // What only the scene's owner would set.
 void Twins::setModes()
 {
-    const int mode = m_random.bounded(5);
+    const int mode = qMax(0, m_random.bounded(9) - 4); // mostly none
     switch (m_random.bounded(3)) {
     case 0:
         note(QStringLiteral("edit mode %1").arg(mode % 3));
@@ -209,23 +216,24 @@ bool Twins::isRenderable() const
 }
 
 // A quarter of the positions lie on the white point's handle or beside it, the others anywhere; a move goes a
-// little way from where the pointer is as often as across the picture.
+// little way from where the pointer is as often as across the picture. Seldom it is nowhere at all.
 QPointF Twins::somewhere()
 {
+    if (m_random.bounded(80) == 0) {
+        return QPointF(std::numeric_limits<double>::quiet_NaN(), 30.0);
+    }
     for (;;) {
-        QPointF position(reference::randomReal(m_random, -20, m_model->imageWidth() + 20),
-            reference::randomReal(m_random, -20, m_model->imageHeight() + 20));
+        QPointF position = reference::randomPoint(
+            m_random, QRectF(-20, -20, m_model->imageWidth() + 40, m_model->imageHeight() + 40));
         switch (m_random.bounded(6)) {
         case 0:
             if (m_model->triangles().size() >= 2) {
-                position = m_model->whiteHandle()
-                    + QPointF(reference::randomReal(m_random, -9, 9), reference::randomReal(m_random, -9, 9));
+                position = m_model->whiteHandle() + reference::randomPoint(m_random, QRectF(-9, -9, 18, 18));
             }
             break;
         case 1:
         case 2:
-            position
-                = m_pointer + QPointF(reference::randomReal(m_random, -9, 9), reference::randomReal(m_random, -9, 9));
+            position = m_pointer + reference::randomPoint(m_random, QRectF(-9, -9, 18, 18));
             break;
         case 3:
             position = QPointF(std::floor(position.x()), std::floor(position.y()));
@@ -246,10 +254,33 @@ void Twins::press()
     const std::array<Qt::MouseButton, 5> buttons{
         Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
     const Qt::MouseButton button = buttons.at(m_random.bounded(5U));
-    m_pointer = somewhere();
+    press(button, somewhere());
+}
+
+void Twins::press(Qt::MouseButton button, const QPointF &position)
+{
+    m_pointer = position;
     note(QStringLiteral("press %1 at %2").arg(button).arg(describe(m_pointer)));
     sendMouse(m_scene.get(), QEvent::GraphicsSceneMousePress, m_pointer, button);
     m_model->mousePress(button, m_pointer);
+}
+
+// A drag as hosts see it, half of them by the white point, with nothing in between.
+void Twins::drag()
+{
+    QPointF start = somewhere();
+    if (m_model->triangles().size() >= 2 && m_random.bounded(2) == 0
+        && m_model->pickWhite(m_model->whiteHandle()) == reference::SceneModel::Picked) {
+        start = m_model->whiteHandle();
+    }
+    press(Qt::LeftButton, start);
+    for (int i = m_random.bounded(4); i > 0; --i) {
+        move();
+    }
+    note(QStringLiteral("release"));
+    bool accepted = false;
+    sendMouse(m_scene.get(), QEvent::GraphicsSceneMouseRelease, m_pointer, Qt::LeftButton, &accepted);
+    expectAccepted(accepted, m_model->mouseRelease(Qt::LeftButton));
 }
 
 void Twins::move()
@@ -346,7 +377,8 @@ void Twins::setLists()
         break;
     case 1: {
         const int choice = m_random.bounded(6);
-        setImageSize(choice == 0 ? -3 : 40 + m_random.bounded(150), choice == 1 ? 1 : 40 + m_random.bounded(150));
+        const int width = choice == 0 ? -3 : 40 + m_random.bounded(150);
+        setImageSize(width, choice == 1 ? 1 : 40 + m_random.bounded(150));
         break;
     }
     case 2:
@@ -478,7 +510,7 @@ void LegacySequenceTest::survivesOnUniformChromaticityDiagram()
         QRandomGenerator random(seed);
         CEIEGraphicsScene scene(uvDiagram, reference::randomGamuts(random));
         for (int step = 0; step < 100; ++step) {
-            const QPointF position(reference::randomReal(random, -20, 200), reference::randomReal(random, -20, 200));
+            const QPointF position = reference::randomPoint(random, QRectF(-20, -20, 220, 220));
             switch (random.bounded(6)) {
             case 0:
                 sendMouse(&scene, QEvent::GraphicsSceneMousePress, position, Qt::LeftButton);

@@ -35,7 +35,7 @@ double randomLuminance(QRandomGenerator &random)
 
 QPointF jittered(QRandomGenerator &random, const QPointF &point, double reach)
 {
-    return point + QPointF(randomReal(random, -reach, reach), randomReal(random, -reach, reach));
+    return point + randomPoint(random, QRectF(-reach, -reach, 2.0 * reach, 2.0 * reach));
 }
 
 } // namespace
@@ -89,18 +89,26 @@ double randomReal(QRandomGenerator &random, double low, double high)
     return low + (high - low) * random.generateDouble();
 }
 
+// The coordinates in this order with every compiler.
+QPointF randomPoint(QRandomGenerator &random, const QRectF &area)
+{
+    const double x = randomReal(random, area.left(), area.right());
+    return QPointF(x, randomReal(random, area.top(), area.bottom()));
+}
+
 QPointF randomChroma(QRandomGenerator &random)
 {
     switch (random.bounded(10)) {
     case 0:
-        return QPointF(randomReal(random, -0.5, 1.5), randomReal(random, -0.5, 1.5));
-    case 1:
-        return QPointF(oneOf<double>(random, std::array<double, 5>{0.0, 0.33, 1e9, -infinity, notANumber}),
-            oneOf<double>(random, std::array<double, 5>{0.0, 0.33, -1e9, infinity, notANumber}));
+        return randomPoint(random, QRectF(-0.5, -0.5, 2.0, 2.0));
+    case 1: {
+        const double x = oneOf<double>(random, std::array<double, 5>{0.0, 0.33, 1e9, -infinity, notANumber});
+        return QPointF(x, oneOf<double>(random, std::array<double, 5>{0.0, 0.33, -1e9, infinity, notANumber}));
+    }
     case 2: // within reach of the tolerance at the corner that all fences share
         return jittered(random, QPointF(0.33, 0.33), 0.002);
     default:
-        return QPointF(randomReal(random, 0.0, 0.75), randomReal(random, 0.0, 0.85));
+        return randomPoint(random, QRectF(0.0, 0.0, 0.75, 0.85));
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QPointF>
 #include <QRandomGenerator>
+#include <QRectF>
 
 namespace reference {
 
@@ -21,6 +22,7 @@ ColorTriangleObject narrowGamut(); //!< a target: Rec. 709 primaries in 1000 cd/
 QList<ColorTriangleObject> gamutPair();
 
 double randomReal(QRandomGenerator &random, double low, double high);
+QPointF randomPoint(QRandomGenerator &random, const QRectF &area);
 
 /*! \brief Mostly near the fences; seldom far out, infinite or not a number. */
 QPointF randomChroma(QRandomGenerator &random);

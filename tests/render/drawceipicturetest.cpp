@@ -1271,6 +1271,7 @@ void DrawCEIPictureTest::measurePoints()
         rectangles.append(QRectF(180 + 19.25 * i, 20 + 7.5 * i, 12 + i, 15 - i));
     }
     Renderer renderer(nullptr);
+    renderer.setGraphColor(QColor(0, 90, 200), QColor(23, 23, 26)); // the outline is white all the same
     const QImage without = skippedPicture(renderer, 320, 320);
     renderer.setPointData(rectangles);
     const QImage with = skippedPicture(renderer, 320, 320);

@@ -187,9 +187,8 @@ bool Twins::act()
 // What only the scene's owner or its mouse handling would set.
 void Twins::setState()
 {
-    const QPointF point = m_random.bounded(4) == 0
-        ? QPointF(reference::randomReal(m_random, -50, 50), reference::randomReal(m_random, -50, 50))
-        : m_model->toScene(reference::randomChroma(m_random));
+    const QPointF point = m_random.bounded(4) == 0 ? reference::randomPoint(m_random, QRectF(-50, -50, 100, 100))
+                                                   : m_model->toScene(reference::randomChroma(m_random));
     const int which = m_random.bounded(9);
     const int mode = m_random.bounded(5);
     note(QStringLiteral("state %1 := %2 or %3").arg(which).arg(mode).arg(describe(point)));
@@ -389,7 +388,7 @@ void Twins::runPrivateOperation()
 void Twins::queryHelpers()
 {
     const QPointF point = reference::randomChroma(m_random);
-    const QPointF position(reference::randomReal(m_random, -50, 50), reference::randomReal(m_random, -50, 50));
+    const QPointF position = reference::randomPoint(m_random, QRectF(-50, -50, 100, 100));
     note(QStringLiteral("helpers for ") + describe(point));
     expect(QStringLiteral("the chromaticity"), describe(m_scene->CurCoordinateToChroma(position)),
         describe(m_model->toChroma(position)));
@@ -450,8 +449,7 @@ void Twins::pressKeys()
 // Walks the requested point to a chromaticity: each step is placed, so that the next key starts from it.
 void Twins::navigate()
 {
-    const QPointF goal = m_model->toScene(
-        QPointF(reference::randomReal(m_random, 0.0, 0.7), reference::randomReal(m_random, 0.0, 0.8)));
+    const QPointF goal = m_model->toScene(reference::randomPoint(m_random, QRectF(0.0, 0.0, 0.7, 0.8)));
     note(QStringLiteral("walk to ") + describe(goal));
     if (!(std::fabs(goal.x()) < 200.0 && std::fabs(goal.y()) < 200.0)) {
         return;
@@ -525,7 +523,7 @@ void Twins::useMouse()
     const QEvent::Type type = types.at(m_random.bounded(3U));
     note(QStringLiteral("mouse event %1").arg(type));
     QGraphicsSceneMouseEvent event(type);
-    event.setScenePos(QPointF(m_random.bounded(80), m_random.bounded(80)));
+    event.setScenePos(reference::randomPoint(m_random, QRectF(0, 0, 80, 80)));
     event.setButton(Qt::LeftButton);
     event.setButtons(Qt::LeftButton);
     QCoreApplication::sendEvent(m_scene.get(), &event);

@@ -562,14 +562,15 @@ struct ChartViewTests {
         QVERIFY(!inner->grab().isNull());
     }
 
+    // For the leak checker.
     static void manyCharts()
     {
-        for (int i = 0; i < 40; ++i) {
+        for (int i = 0; i < 1000; ++i) {
             View view(true, i % 2 ? Qt::AlignLeft : Qt::AlignBottom, nullptr);
             view.setLsColorTriangleObject(threeGamuts());
             view.setOtherPoints({QPointF(0.3, 0.3)}, {Qt::red});
-            view.setImageWidth(20 + i);
-            view.setImageHeight(20 + i);
+            view.setImageWidth(10 + i % 20);
+            view.setImageHeight(10 + i % 20);
             view.setLegendAlignament(i % 3 ? Qt::AlignRight : Qt::AlignTop);
         }
     }
