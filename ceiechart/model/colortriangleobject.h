@@ -24,6 +24,7 @@ public:
      * Call setType() before use: there is no meaningful default kind.
      */
     ColorTriangleObject();
+    /*! \brief Copies all fields; the copy's points have no parent object. */
     ColorTriangleObject(const ColorTriangleObject &other);
     ColorTriangleObject &operator=(const ColorTriangleObject &other);
     ~ColorTriangleObject();
@@ -41,7 +42,7 @@ public:
     int trigleLineWidth() const;
     void setTrigleLineWidth(int trigleLineWidth);
 
-    /*! \brief Whether the gamut is drawn. */
+    /*! \brief For the host's own lists: the renderers draw what they are given, shown or not. */
     bool isShow() const;
     void setShow(bool isShow);
 
@@ -54,11 +55,15 @@ public:
     int type() const;
     void setType(int type);
 
-    /*! \brief Fill opacity, 0.0 to 1.0. */
+    /*!
+     * \brief Opacity of a standard's tint, 0.0 to below 1.0, in steps of 1/256.
+     *
+     * 1.0 and above, and negative values, tint nothing.
+     */
     double opacity() const;
     void setOpacity(double opacity);
 
-    /*! \brief Display name, such as a standard's name. */
+    /*! \brief Display name, such as a standard's name; a copy. */
     std::string gamutName();
     void setGamutName(const std::string &gamutName);
 

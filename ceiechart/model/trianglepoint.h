@@ -24,35 +24,44 @@ class CEIECHART_EXPORT TrianglePoint : public QObject {
 public:
     /*! \brief All positions and luminances zero. */
     explicit TrianglePoint(QObject *parent = nullptr);
+    /*! \brief Copies the eight fields; the copy has no parent. */
     TrianglePoint(const TrianglePoint &other);
     TrianglePoint &operator=(const TrianglePoint &other);
     ~TrianglePoint() override;
 
+    /*! \brief CIE 1931 (x, y) of the red primary. */
     const QPointF &redPos() const;
     QPointF &redPos();
     void setRedPos(const QPointF &redPos);
 
+    /*! \brief CIE 1931 (x, y) of the green primary. */
     const QPointF &greenPos() const;
     QPointF &greenPos();
     void setGreenPos(const QPointF &greenPos);
 
+    /*! \brief CIE 1931 (x, y) of the blue primary. */
     const QPointF &bluePos() const;
     QPointF &bluePos();
     void setBluePos(const QPointF &bluePos);
 
+    /*! \brief CIE 1931 (x, y) of the white point. */
     const QPointF &whitePos() const;
     QPointF &whitePos();
     void setWhitePos(const QPointF &whitePos);
 
+    /*! \brief Luminance of the red primary, in the host's unit. */
     double redLum() const;
     void setRedLum(const double &redLum);
 
+    /*! \brief Luminance of the green primary, in the host's unit. */
     double greenLum() const;
     void setGreenLum(const double &greenLum);
 
+    /*! \brief Luminance of the blue primary, in the host's unit. */
     double blueLum() const;
     void setBlueLum(const double &blueLum);
 
+    /*! \brief Luminance of the white point, in the host's unit. */
     double whiteLum() const;
     void setWhiteLum(const double &whiteLum);
 

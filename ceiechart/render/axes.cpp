@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/render/diagramlayers.h>
+#include <ceiechart/render/pens_p.h>
 
 #include <QFontMetrics>
 #include <QPainter>
-#include <QPen>
 #include <QTextOption>
 
 namespace ceiechart {
@@ -54,7 +54,7 @@ public:
         m_painter.setFont(m_style.numberFont);
         if (tick == 0) {
             text(QStringLiteral("0"), QRect(tx, ty + numberDrop, m_zeroWidth, m_numberHeight), Qt::AlignRight);
-            m_painter.setPen(axisPen());
+            m_painter.setPen(solidPen(m_color, 1.0));
             m_painter.drawLine(tx, axisTop, tx, ty);
             title(m_style.yTitle, QPoint(tx + titleGap, axisTop));
         } else {
@@ -68,7 +68,7 @@ public:
         beginTick();
         m_painter.setFont(m_style.numberFont);
         if (tick == 0) {
-            m_painter.setPen(axisPen());
+            m_painter.setPen(solidPen(m_color, 1.0));
             m_painter.drawLine(tx, ty, pictureWidth, ty);
             const int titleWidth = m_metrics.horizontalAdvance(m_style.xTitle);
             title(m_style.xTitle, QPoint(pictureWidth - titleWidth - titleGap, ty - m_numberHeight - titleGap));
@@ -92,8 +92,6 @@ private:
         pen.setStyle(Qt::SolidLine);
         m_painter.setPen(pen);
     }
-
-    QPen axisPen() const { return QPen(QBrush(m_color), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin); }
 
     void text(const QString &text, const QRect &place, Qt::Alignment alignment = Qt::AlignLeft)
     {

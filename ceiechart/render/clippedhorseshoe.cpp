@@ -5,7 +5,6 @@
 #include <QImage>
 #include <QPainter>
 #include <QPolygonF>
-#include <QtNumeric>
 
 #include <algorithm>
 #include <cmath>
@@ -18,10 +17,12 @@ namespace {
 constexpr int bandHeight = 32; // low enough to follow slanting edges, high enough to be few
 constexpr double reach = 1.0; // pixels beyond the polygon that antialiasing may touch
 
-bool isFinite(const QPolygonF &polygon)
+//! False as well for coordinates that are no numbers, or so large that the columns would be lost in rounding.
+bool canBeBounded(const QPolygonF &polygon)
 {
+    constexpr double farthest = 1e6;
     return std::all_of(polygon.cbegin(), polygon.cend(),
-        [](const QPointF &point) { return qIsFinite(point.x()) && qIsFinite(point.y()); });
+        [](const QPointF &point) { return std::fabs(point.x()) <= farthest && std::fabs(point.y()) <= farthest; });
 }
 
 //! Where the edge \a a \a b is at height \a y, or its end that is nearer to it.
@@ -54,7 +55,7 @@ QRect columnsWithin(const QPolygonF &polygon, const QRect &band)
     return left > right ? QRect() : QRect(int(left), band.top(), int(right) - int(left) + 1, band.height());
 }
 
-//! One row of the picture in its background colour: before the fill, every row is like every other.
+//! The first rows of the picture in its background colour: before the fill, every row is like every other.
 QImage backgroundBand(int width, int height, const QColor &background)
 {
     QImage band(width, std::min(bandHeight, height), QImage::Format_ARGB32);
@@ -83,7 +84,7 @@ void drawHorseshoe(QPainter &painter, const QPolygonF &clip, int width, int heig
         band = band.convertToFormat(qAlpha(plain) == 255 ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
     }
 
-    const bool bounded = isFinite(clip);
+    const bool bounded = canBeBounded(clip);
     const RowFill rows(fill, fastestFillKernel());
     for (int top = 0; top < height; top += band.height()) {
         const QRect whole(0, top, width, std::min(band.height(), height - top));

@@ -92,6 +92,8 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
 
 void DrawCEIPicture::drawClippedHorseshoe(QImage &picture)
 {
+    // The engine rounds what it blends at the edge of a clip differently per format. What the colours look like there
+    // is defined for the straight format, so they are drawn into the picture seen as such.
     QImage straight(picture.bits(), picture.width(), picture.height(), picture.bytesPerLine(), QImage::Format_ARGB32);
     QPainter painter(&straight);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);

@@ -57,8 +57,9 @@ public:
      * the coloured horseshoe on the background colour inside \a clipPolygon, \a triangles by kind, Planckian locus
      * with the colour-temperature points of the last simple form, measure points, CMY points.
      *
+     * \param w, h        pixels
      * \param triangles   drawn as outlines: kinds 1, 2 and 3; any other kind is skipped
-     * \param standards   drawn as tinted outlines, whatever their kind
+     * \param standards   drawn as tinted outlines, whatever their kind; an opacity of 1.0 tints nothing
      * \param clipPolygon where the horseshoe colours show, in picture pixels; when empty, nowhere
      * \param polygonFlag stored, not used
      * \param skipText    when not empty, the edge, the standards, the horseshoe and the triangles are left out

@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/render/largepaths_p.h>
+#include <ceiechart/render/pens_p.h>
 
 #include <QPainter>
 #include <QPainterPath>
-#include <QPen>
 
 namespace NewCEIE {
 
 namespace {
-
-QPen gamutPen(const QColor &color, double width)
-{
-    return QPen(QBrush(color), width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
-}
 
 //! Opacity counts in 256ths: 1.0 gives the invalid alpha 256, and with it a colour that paints nothing.
 QColor tint(const QColor &color, double opacity)
@@ -36,7 +31,7 @@ void DrawCEIPicture::painterStandard(QPainter &painter, const QList<ColorTriangl
     painter.setRenderHint(QPainter::Antialiasing, true);
     for (ColorTriangleObject standard : standards) {
         const QColor color = standard.foreColor();
-        painter.setPen(gamutPen(color, standard.trigleLineWidth()));
+        painter.setPen(ceiechart::solidPen(color, standard.trigleLineWidth()));
         const QPolygonF polygon = trianglePolygon(standard);
         ceiechart::drawPolygonOutline(painter, polygon);
         QPainterPath path;
@@ -85,7 +80,7 @@ void DrawCEIPicture::drawOutline(QPainter &painter, const ColorTriangleObject &t
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
     ColorTriangleObject copy(triangle);
-    painter.setPen(gamutPen(copy.foreColor(), copy.trigleLineWidth()));
+    painter.setPen(ceiechart::solidPen(copy.foreColor(), copy.trigleLineWidth()));
     ceiechart::drawPolygonOutline(painter, trianglePolygon(copy));
     painter.restore();
 }
@@ -94,7 +89,7 @@ void DrawCEIPicture::painterIntersectsTriangle(QPainter &painter)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(gamutPen(QColor(255, 255, 255, 128), 1.0));
+    painter.setPen(ceiechart::solidPen(QColor(255, 255, 255, 128), 1.0));
     painter.drawPolygon(m_clipPolygon, Qt::OddEvenFill);
     painter.restore();
 }

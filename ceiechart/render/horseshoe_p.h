@@ -87,7 +87,6 @@ public:
     void color(QRgb *line, int left, int right, int y) const;
 
 private:
-    Channels amountsAt(int x, int y) const;
     void exact(QRgb &pixel, int x, int y) const;
 
     const HorseshoeFill &m_fill;

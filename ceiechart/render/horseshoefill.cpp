@@ -111,12 +111,16 @@ bool hasAvx2()
 }
 #endif
 
+Channels amountsAt(const HorseshoeFill &fill, int x, int y)
+{
+    const QPointF chroma = fill.geometry.toChroma(x, y);
+    return primaryAmounts(fill.colorSystem, chroma.x(), chroma.y(), 1 - chroma.x() - chroma.y());
+}
+
 //! False for a colour that cannot be written, of a singular colour system.
 bool exactColor(const HorseshoeFill &fill, int x, int y, QRgb &color)
 {
-    const QPointF chroma = fill.geometry.toChroma(x, y);
-    const Channels channels = fullBrightness(
-        primaryAmounts(fill.colorSystem, chroma.x(), chroma.y(), 1 - chroma.x() - chroma.y()), fill.gamma);
+    const Channels channels = fullBrightness(amountsAt(fill, x, y), fill.gamma);
     const QColor exact = QColor::fromRgb(rounded(channels.red), rounded(channels.green), rounded(channels.blue), 255);
     color = exact.rgba();
     return exact.isValid();
@@ -191,8 +195,8 @@ RowFill::RowFill(const HorseshoeFill &fill, const FillKernel &kernel)
 void RowFill::color(QRgb *line, int left, int right, int y) const
 {
     const int count = right - left + 1;
-    const Channels first = amountsAt(left, y);
-    const Channels last = amountsAt(right, y);
+    const Channels first = amountsAt(m_fill, left, y);
+    const Channels last = amountsAt(m_fill, right, y);
     const double magnitude = std::max({std::fabs(first.red), std::fabs(first.green), std::fabs(first.blue),
         std::fabs(last.red), std::fabs(last.green), std::fabs(last.blue)});
     if (!m_fast || count < 2 || !(magnitude <= largestAmount)) {
@@ -221,12 +225,6 @@ void RowFill::color(QRgb *line, int left, int right, int y) const
             }
         }
     }
-}
-
-Channels RowFill::amountsAt(int x, int y) const
-{
-    const QPointF chroma = m_fill.geometry.toChroma(x, y);
-    return primaryAmounts(m_fill.colorSystem, chroma.x(), chroma.y(), 1 - chroma.x() - chroma.y());
 }
 
 void RowFill::exact(QRgb &pixel, int x, int y) const

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/render/diagramlayers.h>
+#include <ceiechart/render/pens_p.h>
 
 #include <QPainter>
-#include <QPen>
 
 namespace ceiechart {
 
@@ -11,10 +11,7 @@ namespace {
 constexpr int firstWavelength = 360; // nm
 constexpr int lastWavelength = 830; // nm; the outline itself ends one row earlier
 
-QPen edgePen(const QColor &color)
-{
-    return QPen(QBrush(color), 2.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
-}
+constexpr double edgeWidth = 2.0; // pixels
 
 } // namespace
 
@@ -33,7 +30,7 @@ void DiagramLayers::paintCEIEdge(QPainter &painter)
     // The pending line now runs from the red end back to the violet one: the line of purples.
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(edgePen(m_lineColor));
+    painter.setPen(solidPen(m_lineColor, edgeWidth));
     painter.drawLine(m_pendingLine);
     painter.restore();
 }
@@ -45,7 +42,7 @@ QPointF DiagramLayers::DrawPointFToLine(
     painter.setRenderHint(QPainter::Antialiasing, true);
     GetPointF(row);
     const QPointF point = CoordinateTransformation();
-    painter.setPen(edgePen(m_lineColor));
+    painter.setPen(solidPen(m_lineColor, edgeWidth));
     painter.drawLine(previous, point);
     painter.restore();
     return point;

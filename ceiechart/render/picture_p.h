@@ -5,20 +5,23 @@
 #include <QColor>
 #include <QImage>
 
+#include <algorithm>
 #include <memory>
 
 namespace ceiechart {
 
 /*!
- * A picture to draw into, null when the size is empty, negative or cannot be allocated; the whole of it is going to
- * be filled with \a background first.
+ * A picture to draw into, null when the size is empty, negative or cannot be allocated; it is going to be filled with
+ * \a background first.
  *
  * With an opaque background every pixel stays opaque, so that the straight and the premultiplied format hold the
- * same values: drawing in the premultiplied one, which the paint engine is at home in, is several times as fast.
+ * same values: drawing in the premultiplied one, which the paint engine is at home in, is several times as fast. The
+ * engine fills no farther than its coordinates reach; what lies beyond stays transparent.
  */
 inline std::unique_ptr<QImage> newPicture(int width, int height, const QColor &background)
 {
-    const bool opaque = background.isValid() && background.alpha() == 255;
+    constexpr int engineReach = 32767;
+    const bool opaque = background.isValid() && background.alpha() == 255 && std::max(width, height) <= engineReach;
     auto picture
         = std::make_unique<QImage>(width, height, opaque ? QImage::Format_ARGB32_Premultiplied : QImage::Format_ARGB32);
     if (!opaque) {

@@ -83,6 +83,9 @@ void DiagramLayers::DrawEdgeCoordinates(QPainter &painter, const CEIAtlasValue::
     const double dx = m_current.x - m_previousLocusPoint.x();
     const double dy = m_current.y - m_previousLocusPoint.y();
     const double length = std::sqrt(dx * dx + dy * dy);
+    if (!(length > 0)) {
+        return; // no chord, no direction
+    }
     const double nx = dy / length;
     const double ny = -dx / length;
 

@@ -81,10 +81,14 @@ COLORTEMPERATURE_EXPORT void RGBCxCyToWhiteCxCy(double redLuminance, double redX
  * exceeds any limit: for a triangle whose height is at most 1e-12 of its longest side, a primary with y = 0, a white
  * with y = 0 that is not dark, an argument that is infinite or not a number, an overflow.
  *
- * \param redLuminance, greenLuminance, blueLuminance  Receive the luminances Y whose additive mixture is the white.
- * Some are negative if the white lies outside the triangle of the primaries. \param redX, redY, greenX, greenY, blueX,
- * blueY     Chromaticities of the primaries. \param whiteLuminance  Luminance Y of the white. Of a dark one, with
- * luminance 0, the primaries have luminance 0. \param whiteX, whiteY  Chromaticity of the white.
+ * \param redLuminance, greenLuminance, blueLuminance Receive the luminances Y whose additive mixture is the white.
+ * Some are negative if the white lies outside the triangle of the primaries.
+ *
+ * \param redX, redY, greenX, greenY, blueX, blueY Chromaticities of the primaries.
+ *
+ * \param whiteLuminance Luminance Y of the white. Of a dark one, with luminance 0, the primaries have luminance 0.
+ *
+ * \param whiteX, whiteY Chromaticity of the white.
  */
 COLORTEMPERATURE_EXPORT void RGBCxCyFromWhiteCxCy(double *redLuminance, double redX, double redY,
     double *greenLuminance, double greenX, double greenY, double *blueLuminance, double blueX, double blueY,

@@ -45,9 +45,12 @@ class GAMUTMODEL_EXPORT ColorGamut {
 public:
     /*! \brief No name, all targets zero. */
     ColorGamut();
+    /*! \brief \a targets under the name \a name, both kept as given. */
     ColorGamut(std::string name, const Targets &targets);
 
+    /*! \brief The primaries and the white point. */
     const Targets &getTargets() const;
+    /*! \brief The name, as given; a copy. */
     std::string colorGamutName() const;
 
 private:

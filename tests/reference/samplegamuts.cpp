@@ -38,6 +38,11 @@ QPointF jittered(QRandomGenerator &random, const QPointF &point, double reach)
     return point + randomPoint(random, QRectF(-reach, -reach, 2.0 * reach, 2.0 * reach));
 }
 
+// Of the red, green and blue regions, with the edges from each to the next.
+const std::array<QPointF, 13> fenceCorners{QPointF(0.427, 0.109), QPointF(0.33, 0.33), QPointF(0.493, 0.517),
+    QPointF(0.744, 0.262), QPointF(0.427, 0.109), QPointF(0.118, 0.83), QPointF(0.22, 0.77), QPointF(0.493, 0.517),
+    QPointF(0.33, 0.33), QPointF(0.041, 0.309), QPointF(0.041, 0.291), QPointF(0.33, 0.33), QPointF(0.433, 0.113)};
+
 } // namespace
 
 ColorTriangleObject sampleGamut(const QPointF &red, const QPointF &green, const QPointF &blue, double redLum,
@@ -89,6 +94,13 @@ double randomReal(QRandomGenerator &random, double low, double high)
     return low + (high - low) * random.generateDouble();
 }
 
+QPointF closeTo(QRandomGenerator &random, const QPointF &point)
+{
+    constexpr std::array<double, 8> distances{0.0, 0.0005, 0.00101, 0.00102, -0.0005, -0.00101, -0.00102, 0.0};
+    const double dx = oneOf(random, distances);
+    return point + QPointF(dx, oneOf(random, distances));
+}
+
 // The coordinates in this order with every compiler.
 QPointF randomPoint(QRandomGenerator &random, const QRectF &area)
 {
@@ -105,8 +117,14 @@ QPointF randomChroma(QRandomGenerator &random)
         const double x = oneOf<double>(random, std::array<double, 5>{0.0, 0.33, 1e9, -infinity, notANumber});
         return QPointF(x, oneOf<double>(random, std::array<double, 5>{0.0, 0.33, -1e9, infinity, notANumber}));
     }
-    case 2: // within reach of the tolerance at the corner that all fences share
-        return jittered(random, QPointF(0.33, 0.33), 0.002);
+    case 2:
+        return closeTo(random, oneOf(random, fenceCorners));
+    case 3: { // on an edge, to a rounding
+        const quint32 corner = random.bounded(static_cast<quint32>(fenceCorners.size() - 1));
+        const QPointF start = fenceCorners.at(corner);
+        const double along = random.generateDouble();
+        return jittered(random, start + along * (fenceCorners.at(corner + 1) - start), 1e-7);
+    }
     default:
         return randomPoint(random, QRectF(0.0, 0.0, 0.75, 0.85));
     }

@@ -24,6 +24,9 @@ QList<ColorTriangleObject> gamutPair();
 double randomReal(QRandomGenerator &random, double low, double high);
 QPointF randomPoint(QRandomGenerator &random, const QRectF &area);
 
+/*! \brief At a point or next to it, a little more or less than the corners' tolerance away. */
+QPointF closeTo(QRandomGenerator &random, const QPointF &point);
+
 /*! \brief Mostly near the fences; seldom far out, infinite or not a number. */
 QPointF randomChroma(QRandomGenerator &random);
 

@@ -164,9 +164,15 @@ QPolygonF polygonOf(Renderer &renderer, const ColorTriangleObject &triangle)
         renderer.CoordinateTransformation(points.greenPos()), renderer.CoordinateTransformation(points.bluePos())});
 }
 
+const CEIAtlasValue &atlas()
+{
+    static const CEIAtlasValue tables;
+    return tables;
+}
+
 Row rowOf(int wavelength)
 {
-    return CEIAtlasValue().atlasCoordinates.at(wavelength - 360);
+    return atlas().atlasCoordinates.at(wavelength - 360);
 }
 
 QPointF chromaticityOf(int wavelength)
@@ -1027,7 +1033,7 @@ void DrawCEIPictureTest::planckianLocusTakesThePaintersPen()
         QVERIFY(!painter.renderHints().testFlag(QPainter::Antialiasing));
     });
     QPolygonF locus;
-    for (const CEIAtlasValue::CEITemperatureCoordinate &row : CEIAtlasValue().temperatureCoordinates) {
+    for (const CEIAtlasValue::CEITemperatureCoordinate &row : atlas().temperatureCoordinates) {
         const double scale = (500 * 95 / 100 - 500 * 5 / 100);
         locus.append(QPointF(4 + 25.5 + row.x * (scale / static_cast<double>(0.84F)),
             25.5 - (row.y - static_cast<double>(0.94F)) * (scale / static_cast<double>(0.94F))));

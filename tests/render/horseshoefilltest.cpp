@@ -20,6 +20,17 @@ using Renderer = NewCEIE::DrawCEIPicture;
 constexpr int width = 60;
 constexpr int height = 48;
 
+const CEIAtlasValue &atlas()
+{
+    static const CEIAtlasValue tables;
+    return tables;
+}
+
+const CEIAtlasValue::TColorSystem &colorSystem()
+{
+    return atlas().colorSystem;
+}
+
 // What the fill and the mappings work with is known only after a drawing.
 void drawOnce(Renderer &renderer, int w, int h)
 {
@@ -43,14 +54,15 @@ QImage transparentPicture(int w = width, int h = height)
 
 QColor expectedColor(int px, int py)
 {
-    return reference::horseshoeColor(CEIAtlasValue().colorSystem, mappingOf(width, height).toChroma(px, py), 1.0);
+    static const reference::Mapping mapping = mappingOf(width, height);
+    return reference::horseshoeColor(colorSystem(), mapping.toChroma(px, py), 1.0);
 }
 
 // The colour that the renderer itself finds for a chromaticity.
 QColor colorOf(Renderer &renderer, double x, double y)
 {
     QImage picture = transparentPicture(1, 1);
-    renderer.GetRGBValue(CEIAtlasValue().colorSystem, x, y, 1 - x - y);
+    renderer.GetRGBValue(colorSystem(), x, y, 1 - x - y);
     renderer.GetPointColorRGB(0, 0, &picture);
     return picture.pixelColor(0, 0);
 }
@@ -323,7 +335,7 @@ void HorseshoeFillTest::currentPointMapsWithoutTruncation()
     for (const QSize &size : {QSize(800, 800), QSize(801, 333), QSize(97, 211)}) {
         drawOnce(renderer, size.width(), size.height());
         const reference::Mapping mapping = mappingOf(size.width(), size.height());
-        for (const CEIAtlasValue::CEIAtlasCoordinate &row : CEIAtlasValue().atlasCoordinates) {
+        for (const CEIAtlasValue::CEIAtlasCoordinate &row : atlas().atlasCoordinates) {
             renderer.GetPointF(row);
             const QPointF pixel = renderer.CoordinateTransformation();
             const double sum = row.X + row.Y + row.Z;
@@ -514,7 +526,7 @@ void HorseshoeFillTest::sizeIsTheRenderersNotTheImages()
              QSize(width - 9, height - 5), QSize(1, 1)}) {
         QImage picture = speckledPicture(size.width(), size.height(), QImage::Format_ARGB32);
         QImage expected = picture.copy();
-        reference::fillPlain(expected, width, height, mapping, CEIAtlasValue().colorSystem, 1.0);
+        reference::fillPlain(expected, width, height, mapping, colorSystem(), 1.0);
         renderer.painterPixColor(&picture);
         QCOMPARE(reference::firstDifference(picture, expected), QString());
     }
@@ -554,7 +566,7 @@ void HorseshoeFillTest::everyImageFormat()
     const reference::QuietMessages quiet;
     QImage picture = speckledPicture(width, height, static_cast<QImage::Format>(format));
     QImage expected = picture.copy();
-    reference::fillPlain(expected, width, height, mappingOf(width, height), CEIAtlasValue().colorSystem, 1.0);
+    reference::fillPlain(expected, width, height, mappingOf(width, height), colorSystem(), 1.0);
     renderer.painterPixColor(&picture);
     QCOMPARE(static_cast<int>(picture.format()), format);
     QVERIFY(picture == expected);
@@ -566,7 +578,7 @@ void HorseshoeFillTest::sharedAndForeignPixels()
     drawOnce(renderer, width, height);
     QImage expected = transparentPicture();
     expected.fill(0xffff0000);
-    reference::fillPlain(expected, width, height, mappingOf(width, height), CEIAtlasValue().colorSystem, 1.0);
+    reference::fillPlain(expected, width, height, mappingOf(width, height), colorSystem(), 1.0);
 
     // A copy of the picture keeps its own pixels.
     QImage picture = transparentPicture();
@@ -648,7 +660,7 @@ void HorseshoeFillTest::largestChannelIsAlwaysFull()
             const QColor color = colorOf(renderer, x, y);
             QCOMPARE(qMax(color.red(), qMax(color.green(), color.blue())), 255);
             QCOMPARE(color.alpha(), 255);
-            QCOMPARE(color, reference::horseshoeColor(CEIAtlasValue().colorSystem, QPointF(x, y), 1.0));
+            QCOMPARE(color, reference::horseshoeColor(colorSystem(), QPointF(x, y), 1.0));
         }
     }
 }
@@ -750,7 +762,7 @@ void HorseshoeFillTest::alphaFormWritesTruncatedAlpha()
     QFETCH(double, factor);
     Renderer renderer(nullptr);
     QImage picture = transparentPicture(1, 1);
-    renderer.GetRGBValue(CEIAtlasValue().colorSystem, 0.3127, 0.3291, 1 - 0.3127 - 0.3291);
+    renderer.GetRGBValue(colorSystem(), 0.3127, 0.3291, 1 - 0.3127 - 0.3291);
     renderer.GetPointColorRGB(0, 0, factor, &picture);
     QTEST(picture.pixelColor(0, 0).alpha(), "alpha");
     QCOMPARE(picture.pixelColor(0, 0).red(), 162);
@@ -776,7 +788,7 @@ void HorseshoeFillTest::alphaOutOfRangeLeavesThePixel()
     picture.fill(0x80123456);
     const QImage before = picture.copy();
     renderer.GetPointRGB(20, 20, factor, &picture);
-    renderer.GetRGBValue(CEIAtlasValue().colorSystem, 0.3127, 0.3291, 1 - 0.3127 - 0.3291);
+    renderer.GetRGBValue(colorSystem(), 0.3127, 0.3291, 1 - 0.3127 - 0.3291);
     renderer.GetPointColorRGB(0, 0, factor, &picture);
     QCOMPARE(reference::firstDifference(picture, before), QString());
 }
