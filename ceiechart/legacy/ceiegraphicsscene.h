@@ -33,7 +33,9 @@ public:
 
     //! Drawn by the u′, v′ picture from its next rendering on; u′, v′ pairs.
     void setMeasureValuePoints(const QList<QPointF> &points);
+    //! A copy of the measure points.
     QList<QPointF> getMeasureValuePoints();
+    //! From the next rendering on: \a line of edge and axes, \a background of the u′, v′ picture.
     void setGraphColor(QColor line, QColor background);
 
 Q_SIGNALS:

@@ -29,12 +29,13 @@ class CEIECHART_EXPORT DrawCEIPicture : public QWidget, public ceiechart::Diagra
 
 public:
     //! Any value other than UvDiagram makes an x, y renderer.
-    enum CEIEType { XyDiagram = 0, UvDiagram = 1 };
+    enum CEIEType : int { XyDiagram = 0, UvDiagram = 1 };
 
     /*! \param parent owns the renderer when not null. */
     DrawCEIPicture(DrawCEIPicture::CEIEType type, QWidget *parent);
     ~DrawCEIPicture() override;
 
+    /*! As given to the constructor. */
     DrawCEIPicture::CEIEType type();
 
     /*!
@@ -61,6 +62,7 @@ public:
     void setMeasurePoints(const QList<QPointF> &points);
     /*! At the ends of the axes; an empty title is not drawn. "X" and "Y", or "u" and "v", until set. */
     void setXTitle(const QString &title);
+    /*! \copydoc setXTitle */
     void setYTitle(const QString &title);
     /*! \a line colours the edge, the axes and the dots, \a background the u′, v′ picture. */
     void setGraphColor(QColor line, QColor background);
@@ -77,7 +79,8 @@ public:
 
     /*!
      * \name CIE 1931 x, y to CIE 1976 u′, v′
-     * u′ = 4x / d, v′ = 9y / d with d = −2x + 12y + 3 (CIE 15:2004, 8.2.1.1). d = 0 gives infinities or NaN.
+     * In single or double precision, one point or many. u′ = 4x / d, v′ = 9y / d with d = −2x + 12y + 3 (CIE
+     * 15:2004, 8.2.1.1). d = 0 gives infinities or NaN.
      * @{
      */
     static void xy2uv(const float &x, const float &y, float &u, float &v);

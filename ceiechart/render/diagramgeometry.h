@@ -11,7 +11,10 @@ namespace ceiechart {
 
 /*! \brief What part of the chromaticity plane a diagram shows. Single precision is part of the arithmetic. */
 struct ChromaRange {
-    float xMin, xMax, yMin, yMax;
+    float xMin; //!< at the left edge
+    float xMax; //!< at the right edge
+    float yMin; //!< at the bottom edge
+    float yMax; //!< at the top edge
 };
 
 /*! Integer a·b (32 bit, wrapping) divided by \a c, truncating toward zero, plus 0.5 always. \a c must not be 0. */
@@ -53,9 +56,13 @@ public:
     /*! Picture position to chromaticity, offset not subtracted. */
     QPointF toChroma(double px, double py) const noexcept;
 
+    //! Pixels; right and bottom edge in the place of width and height.
     const QRectF &plot() const noexcept { return m_plot; }
+    //! Chromaticities; the maxima in the place of width and height.
     const QRectF &chroma() const noexcept { return m_chroma; }
+    //! What one pixel is in chromaticity; 0 before the first drawing.
     double unitsPerPixelX() const noexcept { return m_unitsPerPixelX; }
+    //! \copydoc unitsPerPixelX
     double unitsPerPixelY() const noexcept { return m_unitsPerPixelY; }
 
 private:

@@ -48,7 +48,9 @@ public:
         const TrianglePoint &first, const TrianglePoint &other, bool flag, const QString &text);
     //! Marks CMY points (chromaticities) from the next rendering on.
     void setCMYPointData(const QList<QPointF> &points);
+    //! The renderer's colours from the next rendering on: \a line of edge and axes, \a picture of the whole.
     void setGraphColor(QColor line, QColor picture);
+    //! The colour behind the horseshoe from the next rendering on.
     void setBackgroudColor(const QColor &color);
     //! Does nothing.
     void setTargetItemVisable(bool visible);

@@ -41,13 +41,17 @@ public:
      */
     //! Replaces the gamuts and repaints. Neither re-renders nor reports.
     void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles);
+    //! A copy of the gamuts as they stand, edits included.
     QList<ColorTriangleObject> getLsColorTriangleObject();
     //! Stores the points and re-renders.
     void setLsColorTempertureValuePoints(const QList<QPointF> &points);
+    //! A copy of the colour-temperature points.
     QList<QPointF> getLsColorTempertureValuePoints();
     //! Further measurement points, one colour per point; a point without a colour is marked in white.
     void setOtherPoints(const QList<QPointF> &points, const QList<QColor> &colours);
+    //! A copy of the further points.
     QList<QPointF> getOtherPoints();
+    //! A copy of their colours.
     QList<QColor> getOtherPointsColor();
     /*! @} */
 
@@ -55,16 +59,25 @@ public:
      * \name Picture
      * @{
      */
-    //! Each setter of the size or of a layer re-renders at once.
+    //! Width of the picture in pixels; re-renders at once. Below 1 there is no picture.
     void setImageWidth(int width);
+    //! Height of the picture in pixels; re-renders at once. Below 1 there is no picture.
     void setImageHeight(int height);
+    //! Pixels, as multiplied by the zoom at every rendering.
     int imageWidth();
+    //! Pixels, as multiplied by the zoom at every rendering.
     int imageHeight();
+    //! Axes and grid on or off; re-renders at once.
     void setIsDrawCoordinate(bool draw);
+    //! Stored for the host; re-renders at once, but no picture depends on it.
     void setIsDrawBBRLine(bool draw);
+    //! Wavelengths on or off where the picture leaves the choice; re-renders at once.
     void setIsDrawWaveLength(bool draw);
+    //! \see setIsDrawCoordinate()
     bool isDrawCoordinate();
+    //! \see setIsDrawBBRLine()
     bool isDrawBBRLine();
+    //! \see setIsDrawWaveLength()
     bool isDrawWaveLength();
     //! Renders the picture anew. The stored size is multiplied by the zoom first, at every call.
     void getBitMap();
@@ -74,12 +87,21 @@ public:
      * \name Editing
      * @{
      */
-    //! When set, refreshArea() clears the target's white point after drawing the handles.
+    /*!
+     * When set, as it is at first, refreshArea() clears the target's white point after drawing the handles. A host
+     * that edits or reports the white sets it to false.
+     */
     void setDrawColorTPoint(bool draw);
+    //! \see setDrawColorTPoint()
     bool isDrawColorTPoint();
+    //! Whether a mouse press may begin an edit, where the scene edits with the mouse at all.
     void setIsMouseOper(bool allowed);
+    //! \see setIsMouseOper()
     bool getIsMouseOper();
-    //! When set, the target's white is held and moving a primary rebalances luminances instead.
+    /*!
+     * When set, the target's white is held and moving a primary rebalances luminances instead. It is the white as it
+     * stands that is held, so keep it from being cleared: see setDrawColorTPoint().
+     */
     void setColorTempertureChecked(bool checked);
     //! Allows (and unlocks the white point) or refuses moves of the primaries.
     void setRGBPointEnable(bool enable);

@@ -7,6 +7,7 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <cmath>
 
 template class ceiechart::ChartParts<NewCEIE::CEIEGraphicsScene, NewCEIE::NQCEIEGraphicsView, NewCEIE::CEIELegend>;
 
@@ -31,10 +32,12 @@ QPolygonF vertices(const TrianglePoint &triangle)
     return QPolygonF({triangle.redPos(), triangle.greenPos(), triangle.bluePos()});
 }
 
-bool isFinite(const QPolygonF &polygon)
+//! Qt's clipper fails on coordinates that are no numbers, or so large that their squares are none.
+bool canBeClipped(const QPolygonF &polygon)
 {
+    constexpr double farthest = 1e6;
     return std::all_of(polygon.cbegin(), polygon.cend(),
-        [](const QPointF &point) { return qIsFinite(point.x()) && qIsFinite(point.y()); });
+        [](const QPointF &point) { return std::fabs(point.x()) <= farthest && std::fabs(point.y()) <= farthest; });
 }
 
 int centred(int outer, int inner)
@@ -174,10 +177,9 @@ void CEIEGraphicsView::updateMixInfo(const QString &text)
 
 QPolygonF CEIEGraphicsView::getTargetOrgIntersected(const TrianglePoint &a, const TrianglePoint &b)
 {
-    // Qt's clipper fails on coordinates that are not finite.
     const QPolygonF first = vertices(a);
     const QPolygonF second = vertices(b);
-    return isFinite(first) && isFinite(second) ? first.intersected(second) : QPolygonF();
+    return canBeClipped(first) && canBeClipped(second) ? first.intersected(second) : QPolygonF();
 }
 
 void CEIEGraphicsView::calcActualPos(TrianglePoint &triangle)

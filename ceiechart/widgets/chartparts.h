@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QList>
 #include <QPointF>
+#include <QPointer>
 
 #include <memory>
 
@@ -45,7 +46,7 @@ public:
     template <class View>
     void relaySignals(View *view);
 
-    Scene *scene() const { return m_scene.get(); }
+    Scene *scene() const { return m_scene; }
     InnerView *view() const { return m_view; }
     Legend *legend() const { return m_legend; }
 
@@ -83,7 +84,7 @@ public:
 
 private:
     QFrame *m_frame;
-    std::unique_ptr<Scene> m_scene;
+    QPointer<Scene> m_scene; // deleted with the parts, unless a host has done so
     InnerView *m_view = nullptr;
     Legend *m_legend = nullptr;
     int m_imageWidth = 512;

@@ -51,7 +51,10 @@ ChartParts<Scene, InnerView, Legend>::ChartParts(QFrame *frame)
 }
 
 template <class Scene, class InnerView, class Legend>
-ChartParts<Scene, InnerView, Legend>::~ChartParts() = default;
+ChartParts<Scene, InnerView, Legend>::~ChartParts()
+{
+    delete m_scene;
+}
 
 template <class Scene, class InnerView, class Legend>
 InnerView *ChartParts<Scene, InnerView, Legend>::makeView()
@@ -70,8 +73,8 @@ void ChartParts<Scene, InnerView, Legend>::prepareView()
 template <class Scene, class InnerView, class Legend>
 void ChartParts<Scene, InnerView, Legend>::setScene(std::unique_ptr<Scene> scene)
 {
-    m_scene = std::move(scene);
-    m_view->setScene(m_scene.get());
+    m_scene = scene.release();
+    m_view->setScene(m_scene);
 }
 
 template <class Scene, class InnerView, class Legend>
@@ -103,7 +106,7 @@ template <class Scene, class InnerView, class Legend>
 void ChartParts<Scene, InnerView, Legend>::connectCursor()
 {
     // Queued: the cursor changes after the scene has handled its event.
-    QObject::connect(m_scene.get(), &Scene::signal_mouseCursorChange, m_view, &InnerView::slot_mouseCursorChange,
+    QObject::connect(m_scene.data(), &Scene::signal_mouseCursorChange, m_view, &InnerView::slot_mouseCursorChange,
         Qt::QueuedConnection);
 }
 
@@ -111,7 +114,7 @@ template <class Scene, class InnerView, class Legend>
 template <class View>
 void ChartParts<Scene, InnerView, Legend>::relaySignals(View *view)
 {
-    const Scene *scene = m_scene.get();
+    const Scene *scene = m_scene.data();
     QObject::connect(scene, &Scene::signal_colorTempertrueValueChang, view, &View::signal_colorTempertrueValueChang);
     QObject::connect(scene, &Scene::signal_targetInfoChanged, view, &View::signal_targetInfoChanged);
     QObject::connect(scene, &Scene::signal_triangleObjecIinitialized, view, &View::signal_triangleObjecIinitialized);

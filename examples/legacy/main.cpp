@@ -18,6 +18,8 @@ int main(int argc, char **argv)
     auto *chart = new CEIEGraphicsView(&window, DrawCEIPicture::XyDiagram);
     window.setCentralWidget(chart);
 
+    // Or else painting the handles takes the white away.
+    chart->setDrawColorTPoint(false);
     chart->setImageWidth(640);
     chart->setImageHeight(640);
 

@@ -13,6 +13,8 @@ class CEIEGraphicsViewTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void hugeChromaticitiesHaveNoCommonGamut();
+    void hostMayDeleteTheScene();
     void metaObject() { Tests::metaObject("NewCEIE::CEIEGraphicsView", "NewCEIE::MouseCursorStyle"); }
     void constructors();
     void innerView();
@@ -663,6 +665,29 @@ void CEIEGraphicsViewTest::relays()
     Tests::relays(view);
     View beside(true, Qt::AlignLeft, nullptr);
     Tests::relays(beside);
+}
+
+void CEIEGraphicsViewTest::hugeChromaticitiesHaveNoCommonGamut()
+{
+    const auto at = [](double x, double y) {
+        Model::Target target;
+        target.x = x;
+        target.y = y;
+        return target;
+    };
+    NewCEIE::CEIEGraphicsView view(nullptr);
+    const Model::ColorGamut target("far", {at(0.15, 0.1), at(0.15, 0.6), at(0, 1e155), at(0.3, 0.3)});
+    const Model::ColorGamut original("farther", {at(0.1, -1e155), at(3.3e154, 3.3e154), at(0, 0), at(0.3, 0.3)});
+    view.setColorGamut(target, original, {});
+    QCOMPARE(view.lsColorTriangleObject().size(), 2);
+}
+
+void CEIEGraphicsViewTest::hostMayDeleteTheScene()
+{
+    auto view = std::make_unique<NewCEIE::CEIEGraphicsView>(nullptr);
+    delete view->view()->scene();
+    QVERIFY(!view->view()->scene());
+    view.reset(); // does not delete it again
 }
 
 QTEST_MAIN(CEIEGraphicsViewTest)
