@@ -3,7 +3,6 @@
 #include <ceiechart/render/picture_p.h>
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QPolygonF>
 
 #include <algorithm>
@@ -100,18 +99,12 @@ QImage *DrawCEIPicture::drawCEIEPicture(int width, int height, bool drawCoordina
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.fillRect(picture->rect(), m_backgroundColor);
 
-    painter.save();
     QPolygonF locus;
     locus.reserve(int(m_uvLocus.size()));
     for (const QPointF &point : m_uvLocus) {
         locus.append(CoordinateTransformation(point));
     }
-    QPainterPath path;
-    path.addPolygon(locus);
-    painter.setClipPath(path, Qt::ReplaceClip);
-    painter.drawPath(path);
-    drawHorseshoeWithin(painter, locus, colorImageBackground());
-    painter.restore();
+    drawHorseshoeWithin(*picture, locus, ClipOutline::Drawn, colorImageBackground());
 
     if (drawCoordinate) {
         QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));

@@ -82,8 +82,12 @@ protected:
     void drawAxes(QPainter &painter, const AxesStyle &style);
     //! Takes the size of a new drawing, derives the geometry and refreshes the locus rows from the atlas.
     void beginDrawing(int width, int height, int marginPercent);
-    //! Draws what painterPixColor() makes of a picture in \a background; \a painter is clipped to \a clip.
-    void drawHorseshoeWithin(QPainter &painter, const QPolygonF &clip, const QColor &background);
+    /*!
+     * Draws into \a picture what painterPixColor() makes of one in \a background, clipped to \a clip; under it, where
+     * asked for, the clip's own outline in the painter's default pen.
+     */
+    enum class ClipOutline { None, Drawn };
+    void drawHorseshoeWithin(QImage &picture, const QPolygonF &clip, ClipOutline outline, const QColor &background);
     //! Makes the first locus row current and maps it, as every drawing does once.
     void loadFirstLocusRow();
     //! Clamps and scales the current amounts and returns the colour they give with \a alpha, perhaps invalid.

@@ -3,7 +3,6 @@
 #include <ceiechart/render/picture_p.h>
 
 #include <QPainter>
-#include <QPainterPath>
 
 namespace NewCEIE {
 
@@ -80,7 +79,7 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
         paintCEIEdge(painter);
         loadFirstLocusRow();
         painterStandard(painter, standards);
-        drawClippedHorseshoe(*picture);
+        drawHorseshoeWithin(*picture, m_clipPolygon, ClipOutline::None, m_backgroundColor);
         painterTriangle(painter, triangles);
     }
     painterBBRLine(painter);
@@ -88,19 +87,6 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
     drawCMYPoint(painter);
     painter.end();
     return ceiechart::finished(std::move(picture));
-}
-
-void DrawCEIPicture::drawClippedHorseshoe(QImage &picture)
-{
-    // The engine rounds what it blends at the edge of a clip differently per format. What the colours look like there
-    // is defined for the straight format, so they are drawn into the picture seen as such.
-    QImage straight(picture.bits(), picture.width(), picture.height(), picture.bytesPerLine(), QImage::Format_ARGB32);
-    QPainter painter(&straight);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);
-    QPainterPath path;
-    path.addPolygon(m_clipPolygon);
-    painter.setClipPath(path, Qt::ReplaceClip);
-    drawHorseshoeWithin(painter, m_clipPolygon, m_backgroundColor);
 }
 
 QPolygonF DrawCEIPicture::intersectPolygon() const

@@ -111,7 +111,6 @@ private:
 
     QPolygonF trianglePolygon(const ColorTriangleObject &triangle);
     void drawOutline(QPainter &painter, const ColorTriangleObject &triangle);
-    void drawClippedHorseshoe(QImage &picture);
     void drawMeasurePoints(QPainter &painter);
 
     QList<QRectF> m_measureRectangles;

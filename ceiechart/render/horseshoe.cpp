@@ -3,6 +3,9 @@
 #include <ceiechart/render/horseshoe_p.h>
 
 #include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPolygonF>
 
 #include <cmath>
 
@@ -45,8 +48,20 @@ void DiagramLayers::painterPixColor(QImage *picture)
     fillHorseshoe(*picture, m_pictureWidth, m_pictureHeight, {m_geometry, m_atlas.colorSystem, m_gamma});
 }
 
-void DiagramLayers::drawHorseshoeWithin(QPainter &painter, const QPolygonF &clip, const QColor &background)
+void DiagramLayers::drawHorseshoeWithin(
+    QImage &picture, const QPolygonF &clip, ClipOutline outline, const QColor &background)
 {
+    // The engine rounds what it blends at the edge of a clip differently per format. What the colours look like there
+    // is defined for the straight format, so they are drawn into the picture seen as such.
+    QImage straight(picture.bits(), picture.width(), picture.height(), picture.bytesPerLine(), QImage::Format_ARGB32);
+    QPainter painter(&straight);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);
+    QPainterPath path;
+    path.addPolygon(clip);
+    painter.setClipPath(path, Qt::ReplaceClip);
+    if (outline == ClipOutline::Drawn) {
+        painter.drawPath(path);
+    }
     drawHorseshoe(
         painter, clip, m_pictureWidth, m_pictureHeight, {m_geometry, m_atlas.colorSystem, m_gamma}, background);
 }

@@ -151,6 +151,7 @@ private Q_SLOTS:
     void simpleFormFollowsTheLayerFlags();
     void backgroundFollowsTheView_data();
     void backgroundFollowsTheView();
+    void backgroundOfAMovedSceneRectangle();
     void backgroundLeavesThePainterAsItWas();
     void gamutFormGetsEverything_data();
     void gamutFormGetsEverything();
@@ -160,6 +161,9 @@ private Q_SLOTS:
     void refreshAreaClearsTheWhiteOfTheTarget();
     void refreshAreaKeepsTheWhiteWhenNotAsked();
     void meaninglessInputIsSurvived();
+    void renderingHandsOverNoColorTemperaturePoints_data();
+    void renderingHandsOverNoColorTemperaturePoints();
+    void emptyTargetHasNoVertexRectangles();
 };
 
 void CEIEGraphicsSceneTest::derivesFromGraphicsScene()
@@ -582,6 +586,9 @@ void CEIEGraphicsSceneTest::backgroundFollowsTheView_data()
     QTest::newRow("as tall") << QSize(680, 728) << QRectF(4, 0, 672, 728);
     QTest::newRow("shorter: scaled down") << QSize(500, 364) << QRectF(82, 0, 336, 364);
     QTest::newRow("shorter and narrow") << QSize(301, 364) << QRectF(-17, 0, 336, 364);
+    const double slight = 728.0 / 700.0;
+    QTest::newRow("a little shorter") << QSize(680, 700)
+                                      << QRectF(std::trunc((680 - 672 / slight) * 0.5), 0, 672 / slight, 728 / slight);
     const double ratio = 728.0 / 401.0;
     QTest::newRow("shorter by an odd ratio")
         << QSize(640, 401) << QRectF(std::trunc((640 - 672 / ratio) * 0.5), 0, 672 / ratio, 728 / ratio);
@@ -603,6 +610,27 @@ void CEIEGraphicsSceneTest::backgroundFollowsTheView()
     const QSize canvas(760, 860);
     QCOMPARE(
         reference::firstDifference(backgroundOf(scene, view, canvas), painted(*picture, target, canvas)), QString());
+}
+
+// Unscaled it moves along, scaled it does not; as tall as the view counts as scaled.
+void CEIEGraphicsSceneTest::backgroundOfAMovedSceneRectangle()
+{
+    Scene scene({});
+    scene.setImageWidth(160);
+    scene.setImageHeight(120);
+    scene.setSceneRect(10, 20, 300, 400);
+    NewCEIE::DrawCEIPicture renderer(nullptr);
+    const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(160, 120, true, true, true, {}));
+    const QSize canvas(500, 600);
+    QCOMPARE(reference::firstDifference(
+                 backgroundOf(scene, QSize(340, 402), canvas), painted(*picture, QRectF(30, 21, 300, 400), canvas)),
+        QString());
+    QCOMPARE(reference::firstDifference(
+                 backgroundOf(scene, QSize(340, 400), canvas), painted(*picture, QRectF(20, 0, 300, 400), canvas)),
+        QString());
+    QCOMPARE(reference::firstDifference(
+                 backgroundOf(scene, QSize(340, 200), canvas), painted(*picture, QRectF(95, 0, 150, 200), canvas)),
+        QString());
 }
 
 void CEIEGraphicsSceneTest::backgroundLeavesThePainterAsItWas()
@@ -665,6 +693,7 @@ void CEIEGraphicsSceneTest::gamutFormGetsEverything()
     scene.setBackgroudColor(QColor(90, 60, 30));
     scene.setGraphColor(Qt::yellow, QColor(0, 40, 80));
     scene.setCMYPointData(cmy);
+    scene.setLsColorTriangleObject(reference::gamutPair(), {}, first, first, false, QString()); // leaves no trace
     scene.setLsColorTriangleObject(triangles, {standard}, first, other, true, text);
     QCOMPARE(describe(scene.getLsColorTriangleObject()), describe(triangles));
 
@@ -805,6 +834,70 @@ void CEIEGraphicsSceneTest::meaninglessInputIsSurvived()
         QVERIFY(scene.refreshArea(&painter));
         QCOMPARE(scene.getLsColorTriangleObject().size(), 2);
     }
+}
+
+void CEIEGraphicsSceneTest::renderingHandsOverNoColorTemperaturePoints_data()
+{
+    QTest::addColumn<bool>("locus");
+    QTest::newRow("with the locus asked for") << true;
+    QTest::newRow("without") << false;
+}
+
+// They are kept for the host: neither the points nor the flag reach a picture.
+void CEIEGraphicsSceneTest::renderingHandsOverNoColorTemperaturePoints()
+{
+    QFETCH(bool, locus);
+    const QList<QPointF> points{QPointF(0.3127, 0.329), QPointF(0.4, 0.4)};
+    const QList<ColorTriangleObject> triangles = reference::gamutPair();
+    const QSize canvas(672, 728);
+    Scene scene({});
+    scene.setImageWidth(300);
+    scene.setImageHeight(280);
+    scene.setLsColorTempertureValuePoints(points);
+    scene.setIsDrawBBRLine(locus);
+    scene.setLsColorTriangleObject(triangles, {}, TrianglePoint(), TrianglePoint(), true, QString());
+    QCOMPARE(scene.getLsColorTempertureValuePoints(), points);
+    QCOMPARE(scene.isDrawBBRLine(), locus);
+
+    const auto expected = [&](const QList<QPointF> &handedOver) {
+        NewCEIE::DrawCEIPicture renderer(nullptr);
+        delete renderer.drawCEIPicture(300, 280, true, true, true, handedOver);
+        QList<QRectF> vertices;
+        const TrianglePoint target = triangles.at(1).trianglePoint();
+        for (const QPointF &point : {target.redPos(), target.greenPos(), target.bluePos(), target.whitePos()}) {
+            vertices << squareAround(renderer.CoordinateTransformation(point));
+        }
+        renderer.setPointData(vertices);
+        const std::unique_ptr<QImage> picture(
+            renderer.drawCEIPicture(300, 280, true, triangles, {}, QPolygonF(), true, QString()));
+        return painted(*picture, QRectF(0, 0, 672, 728), canvas);
+    };
+    const QImage shown = backgroundOf(scene, canvas, canvas);
+    QCOMPARE(reference::firstDifference(shown, expected({})), QString());
+    QVERIFY(!reference::firstDifference(shown, expected(points)).isEmpty());
+}
+
+void CEIEGraphicsSceneTest::emptyTargetHasNoVertexRectangles()
+{
+    ColorTriangleObject empty;
+    empty.setType(1);
+    QVERIFY(empty.trianglePoint().isEmpty());
+    const QList<ColorTriangleObject> triangles{reference::wideGamut(), empty};
+    const QSize canvas(672, 728);
+    Scene scene({});
+    scene.setImageWidth(300);
+    scene.setImageHeight(280);
+    // Those of a target before it go.
+    scene.setLsColorTriangleObject(reference::gamutPair(), {}, TrianglePoint(), TrianglePoint(), true, QString());
+    scene.setLsColorTriangleObject(triangles, {}, TrianglePoint(), TrianglePoint(), true, QString());
+
+    NewCEIE::DrawCEIPicture renderer(nullptr);
+    delete renderer.drawCEIPicture(300, 280, true, true, true, {});
+    const std::unique_ptr<QImage> picture(
+        renderer.drawCEIPicture(300, 280, true, triangles, {}, QPolygonF(), true, QString()));
+    QCOMPARE(reference::firstDifference(
+                 backgroundOf(scene, canvas, canvas), painted(*picture, QRectF(0, 0, 672, 728), canvas)),
+        QString());
 }
 
 QTEST_MAIN(CEIEGraphicsSceneTest)

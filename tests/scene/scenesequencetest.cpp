@@ -22,8 +22,8 @@ using reference::describe;
 
 namespace {
 
-constexpr int sequencesPerRow = 15;
-constexpr int stepsPerSequence = 60;
+constexpr int sequencesPerRow = 20;
+constexpr int stepsPerSequence = 80;
 
 // The scene and its model, always doing the same.
 class Twins {
@@ -59,6 +59,7 @@ private:
     void editList();
     void setFlag();
     void setState();
+    QPointF somewhere();
     bool isRenderable() const;
     void setData();
     void runPrivateOperation();
@@ -184,11 +185,30 @@ bool Twins::act()
     return true;
 }
 
+// A position, of a chromaticity as often as not, and now and then at a corner of a gamut.
+QPointF Twins::somewhere()
+{
+    const QList<ColorTriangleObject> &triangles = m_model->triangles();
+    switch (m_random.bounded(4)) {
+    case 0:
+        return reference::randomPoint(m_random, QRectF(-50, -50, 100, 100));
+    case 1:
+        if (!triangles.isEmpty()) {
+            const TrianglePoint &points = triangles.at(m_random.bounded(triangles.size())).trianglePoint();
+            const std::array<QPointF, 3> corners{points.redPos(), points.greenPos(), points.bluePos()};
+            return m_model->toScene(reference::closeTo(m_random, corners.at(m_random.bounded(3U))));
+        }
+        break;
+    default:
+        break;
+    }
+    return m_model->toScene(reference::randomChroma(m_random));
+}
+
 // What only the scene's owner or its mouse handling would set.
 void Twins::setState()
 {
-    const QPointF point = m_random.bounded(4) == 0 ? reference::randomPoint(m_random, QRectF(-50, -50, 100, 100))
-                                                   : m_model->toScene(reference::randomChroma(m_random));
+    const QPointF point = somewhere();
     const int which = m_random.bounded(9);
     const int mode = m_random.bounded(5);
     note(QStringLiteral("state %1 := %2 or %3").arg(which).arg(mode).arg(describe(point)));

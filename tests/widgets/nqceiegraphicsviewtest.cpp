@@ -19,6 +19,7 @@ private Q_SLOTS:
     void resizeAloneSetsTheSceneRectangle();
     void showAloneSetsTheSceneRectangle();
     void noScrollBars();
+    void resizeIsHandledAlone();
 };
 
 void NQCEIEGraphicsViewTest::sceneRectangleFollowsTheSize()
@@ -78,6 +79,34 @@ void NQCEIEGraphicsViewTest::noScrollBars()
     QCOMPARE(view.horizontalScrollBar()->maximum(), view.horizontalScrollBar()->minimum());
     QCOMPARE(view.verticalScrollBar()->maximum(), view.verticalScrollBar()->minimum());
     QCOMPARE(view.mapToScene(0, 0), QPointF(0, 0));
+}
+
+// The handler of QGraphicsView would keep the centre where it is, as the anchor asks for.
+void NQCEIEGraphicsViewTest::resizeIsHandledAlone()
+{
+    const auto scrolledAfterAResize = [](QGraphicsView &view) {
+        QGraphicsScene scene;
+        view.setScene(&scene);
+        view.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        view.setSceneRect(0, 0, 300, 200);
+        view.scale(3, 3);
+        view.resize(300, 200);
+        view.show();
+        view.horizontalScrollBar()->setValue(100);
+        view.verticalScrollBar()->setValue(80);
+        view.setResizeAnchor(QGraphicsView::AnchorViewCenter);
+        view.resize(280, 190);
+        const QPoint scrolled(view.horizontalScrollBar()->value(), view.verticalScrollBar()->value());
+        view.setScene(nullptr);
+        return scrolled;
+    };
+    QGraphicsView plain;
+    plain.setFrameShape(QFrame::NoFrame);
+    QVERIFY(scrolledAfterAResize(plain) != QPoint(100, 80));
+    NewCEIE::NQCEIEGraphicsView view(nullptr);
+    QCOMPARE(scrolledAfterAResize(view), QPoint(100, 80));
 }
 
 QTEST_MAIN(NQCEIEGraphicsViewTest)

@@ -1,0 +1,664 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/legacy/drawceipicture.h>
+
+#include <reference/picturedifference.h>
+#include <reference/picturetestmain.h>
+#include <reference/plainrenderer.h>
+#include <reference/quietmessages.h>
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPainterPath>
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <random>
+#include <vector>
+
+namespace {
+
+constexpr auto xyDiagram = static_cast<DrawCEIPicture::CEIEType>(0);
+constexpr auto uvDiagram = static_cast<DrawCEIPicture::CEIEType>(1);
+
+const QColor blackMargins(0, 0, 0);
+const QColor greyMargins(0x32, 0x32, 0x38);
+
+using Picture = std::unique_ptr<QImage>;
+
+constexpr reference::ChromaRange xyRange{0.0F, 0.84F, 0.0F, 0.94F};
+constexpr reference::ChromaRange uvRange{0.0F, 0.65F, 0.0F, 0.68F};
+constexpr CEIAtlasValue::TColorSystem uvColors{0.5222F, 0.5222F, 0.0111F, 0.7888F, 0.1888F, 0.1555F, 0.2333F, 0.4777F};
+
+QPen axisPen(const QColor &color)
+{
+    return QPen(QBrush(color), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
+}
+
+// Both diagrams, one painter call at a time; axes without titles.
+class PlainDiagram {
+public:
+    explicit PlainDiagram(bool uniform)
+        : m_uniform(uniform)
+        , m_range(uniform ? uvRange : xyRange)
+        , m_plain(m_range, uniform ? uvColors : CEIAtlasValue().colorSystem)
+    {
+    }
+
+    void setGraphColor(const QColor &line, const QColor &background)
+    {
+        m_line = line;
+        m_background = background;
+        m_plain.setGraphColor(line, background);
+    }
+
+    QImage xyPicture(const QSize &size, bool axes, bool locus, bool wavelengths, const QList<QPointF> &points)
+    {
+        QImage picture = begin(size, blackMargins, points, 5, 95);
+        QPainter painter(&picture);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        m_plain.paintCEIEdge(painter);
+        m_plain.painterPixColor(picture);
+        if (axes) {
+            paintAxes(
+                painter, size, Qt::SolidLine, QFont(QStringLiteral("Arial"), std::max(size.height() * 2 / 100, 1)));
+        }
+        if (wavelengths) {
+            m_plain.painterWaveLength(painter);
+        }
+        if (locus) {
+            m_plain.painterBBRLine(painter);
+        }
+        painter.end();
+        return picture;
+    }
+
+    QImage uvPicture(const QSize &size, bool axes, const QList<QPointF> &measurePoints)
+    {
+        QImage picture = begin(size, m_background, {}, 15, 85);
+        QPainter painter(&picture);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+
+        painter.save();
+        QPolygonF locus;
+        for (const QPointF &xy : CEIAtlasValue().spectrumLocus) {
+            const double d = -2 * xy.x() + 12 * xy.y() + 3;
+            locus << m_plain.mapping().toWholePixel(QPointF(4 * xy.x() / d, 9 * xy.y() / d));
+        }
+        QPainterPath path;
+        path.addPolygon(locus);
+        painter.setClipPath(path, Qt::ReplaceClip);
+        painter.drawPath(path);
+        painter.drawImage(QRect(QPoint(0, 0), size), colorImage(size));
+        painter.restore();
+
+        if (axes) {
+            QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));
+            font.setWeight(63);
+            font.setPixelSize(12);
+            paintAxes(painter, size, Qt::DashLine, font);
+        }
+        painter.setPen(Qt::NoPen);
+        for (const QPointF &point : measurePoints) {
+            const QPointF centre = m_plain.mapping().toWholePixel(point);
+            painter.setBrush(QColor(255, 255, 255, 76));
+            painter.drawEllipse(QRectF(centre.x() - 4, centre.y() - 4, 8, 8));
+            painter.setBrush(Qt::black);
+            painter.drawEllipse(QRectF(centre.x() - 2, centre.y() - 2, 4, 4));
+        }
+        painter.end();
+        return picture;
+    }
+
+    // As of the last drawing.
+    QImage colorImage(const QSize &size) const
+    {
+        QImage colors(size, QImage::Format_ARGB32);
+        colors.fill(greyMargins);
+        m_plain.painterPixColor(colors);
+        return colors;
+    }
+
+private:
+    QImage begin(
+        const QSize &size, const QColor &margins, const QList<QPointF> &points, int nearPercent, int farPercent)
+    {
+        {
+            const reference::QuietMessages quiet;
+            m_plain.drawCEIPicture(0, 0, false, points); // keeps the points
+        }
+        m_plain.setPictureSize(size.width(), size.height(), nearPercent, farPercent);
+        QImage picture(size, QImage::Format_ARGB32);
+        picture.fill(margins);
+        return picture;
+    }
+
+    void paintAxes(QPainter &painter, const QSize &size, Qt::PenStyle style, const QFont &font) const
+    {
+        const QFontMetrics metrics(font);
+        const int h = metrics.height();
+        const int w0 = metrics.horizontalAdvance(QStringLiteral("0.0"));
+        const int wz = metrics.horizontalAdvance(QStringLiteral("0"));
+        const auto xMax = static_cast<double>(m_range.xMax);
+        const auto yMax = static_cast<double>(m_range.yMax);
+        painter.save();
+        painter.setRenderHint(QPainter::TextAntialiasing, true);
+        painter.setFont(font);
+        for (int k = 0; k < xMax / 0.1; ++k) {
+            const QPointF low = m_plain.mapping().toPixel(QPointF(k * 0.1, 0));
+            paintGridLine(painter, style, low, m_plain.mapping().toPixel(QPointF(k * 0.1, yMax)));
+            const int tx = static_cast<int>(low.x());
+            const int ty = static_cast<int>(low.y());
+            painter.setPen(m_line);
+            if (k == 0) {
+                painter.drawText(QRectF(tx, ty + 15, wz, h), QStringLiteral("0"), QTextOption(Qt::AlignRight));
+                painter.setPen(axisPen(m_line));
+                painter.drawLine(tx, 10, tx, ty);
+            } else {
+                painter.drawText(QRectF(tx - w0 / 2, ty + 15, w0 + 12, h), QString::number(k * 0.1), QTextOption());
+            }
+        }
+        for (int j = 0; j < yMax / 0.1; ++j) {
+            const QPointF left = m_plain.mapping().toPixel(QPointF(0, j * 0.1));
+            paintGridLine(painter, style, left, m_plain.mapping().toPixel(QPointF(xMax, j * 0.1)));
+            const int tx = static_cast<int>(left.x());
+            const int ty = static_cast<int>(left.y());
+            if (j == 0) {
+                painter.setPen(axisPen(m_line));
+                painter.drawLine(tx, ty, size.width(), ty);
+                painter.drawText(QRectF(tx - wz - 15, ty - 3 * h / 4, wz, h), QStringLiteral("0"), QTextOption());
+            } else {
+                painter.setPen(m_line);
+                painter.drawText(QRectF(tx - 10 - w0, ty - h / 2, w0 + 12, h), QString::number(j * 0.1),
+                    QTextOption(Qt::AlignLeft | Qt::AlignVCenter));
+            }
+        }
+        painter.restore();
+    }
+
+    void paintGridLine(QPainter &painter, Qt::PenStyle style, const QPointF &from, const QPointF &to) const
+    {
+        painter.save();
+        painter.setOpacity(0.3);
+        QPen pen(style);
+        pen.setColor(QColor(m_line.red(), m_line.green(), m_line.blue(), 80));
+        painter.setPen(pen);
+        painter.drawLine(from, to);
+        painter.restore();
+    }
+
+    bool m_uniform;
+    reference::ChromaRange m_range;
+    reference::PlainRenderer m_plain;
+    QColor m_line{255, 255, 255};
+    QColor m_background = greyMargins;
+};
+
+// The standard distributions differ between standard libraries, the engine does not.
+class Random {
+public:
+    int between(int low, int high)
+    {
+        return low + static_cast<int>(m_engine() % static_cast<std::mt19937::result_type>(high - low + 1));
+    }
+    bool flag() { return between(0, 1) == 1; }
+    QSize size()
+    {
+        const std::vector<QSize> odd{{1, 1}, {1, 60}, {60, 1}, {2, 3}, {19, 20}, {49, 49}, {50, 50}, {51, 99}};
+        const int choice = between(0, 19);
+        return choice < 8 ? odd[static_cast<std::size_t>(choice)] : QSize(between(20, 260), between(20, 260));
+    }
+    QList<QPointF> points()
+    {
+        QList<QPointF> points;
+        for (int count = between(0, 4); count > 0; --count) {
+            const double x = between(-100, 800) / 1000.0;
+            points << QPointF(x, between(-100, 900) / 1000.0);
+        }
+        return points;
+    }
+    QColor opaqueColor()
+    {
+        const int red = between(0, 255);
+        const int green = between(0, 255);
+        return QColor(red, green, between(0, 255));
+    }
+
+private:
+    std::mt19937 m_engine{20260};
+};
+
+void removeTitles(DrawCEIPicture &renderer)
+{
+    renderer.setXTitle(QString());
+    renderer.setYTitle(QString());
+}
+
+// Where two pictures differ; empty when they do not.
+QRect changed(const QImage &one, const QImage &other)
+{
+    QRect place;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            if (one.pixel(x, y) != other.pixel(x, y)) {
+                place |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return place;
+}
+
+Picture drawn(DrawCEIPicture &renderer, const QSize &size, bool axes = true)
+{
+    return Picture(renderer.type() == uvDiagram
+            ? renderer.drawCEIEPicture(size.width(), size.height(), axes, false, false, {})
+            : renderer.drawCEIPicture(size.width(), size.height(), axes, false, false, {}));
+}
+
+} // namespace
+
+class LegacyDrawCEIPictureTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void translucentWidget();
+    void xyPictureIsThePlainOne();
+    void uvPictureIsThePlainOne();
+    void picturesWithTitlesAreThePlainOnes();
+    void titlesPerType_data();
+    void titlesPerType();
+    void titlesStandClearOfTheNumbers_data();
+    void titlesStandClearOfTheNumbers();
+    void rangesPerType();
+    void marginsPerType();
+    void secondGraphColorIsTheUvBackgroundOnly();
+    void uvPictureIgnoresItsFlags();
+    void uvPictureHasNoColorTemperaturePoints();
+    void measurePointsAreRingedDots();
+    void colorImageHasTheLastSize();
+    void smallXyPictureStillHasNumbers();
+    void otherTypesAreXy();
+    void d65InUv();
+    void listReplacesItsOutput();
+    void coordinateListsAppend();
+    void singlePrecisionStaysSingle();
+    void listsArePointwise();
+};
+
+void LegacyDrawCEIPictureTest::translucentWidget()
+{
+    for (const auto type : {xyDiagram, uvDiagram}) {
+        DrawCEIPicture renderer(type, nullptr);
+        QVERIFY(renderer.testAttribute(Qt::WA_TranslucentBackground));
+        QCOMPARE(renderer.metaObject()->className(), "DrawCEIPicture");
+        QCOMPARE(renderer.metaObject()->superClass(), &QWidget::staticMetaObject);
+        QCOMPARE(renderer.type(), type);
+    }
+}
+
+void LegacyDrawCEIPictureTest::xyPictureIsThePlainOne()
+{
+    Random random;
+    DrawCEIPicture renderer(xyDiagram, nullptr);
+    removeTitles(renderer);
+    PlainDiagram plain(false);
+    for (int i = 0; i < 60; ++i) {
+        const QSize size = random.size();
+        const bool axes = random.flag();
+        const bool locus = random.flag();
+        const bool wavelengths = random.flag();
+        const QList<QPointF> points = random.points();
+        if (i > 20) {
+            const QColor line = random.opaqueColor();
+            renderer.setGraphColor(line, Qt::cyan);
+            plain.setGraphColor(line, Qt::cyan);
+        }
+        const Picture picture(renderer.drawCEIPicture(size.width(), size.height(), axes, locus, wavelengths, points));
+        QCOMPARE(
+            reference::firstDifference(*picture, plain.xyPicture(size, axes, locus, wavelengths, points)), QString());
+    }
+}
+
+void LegacyDrawCEIPictureTest::uvPictureIsThePlainOne()
+{
+    Random random;
+    DrawCEIPicture renderer(uvDiagram, nullptr);
+    removeTitles(renderer);
+    PlainDiagram plain(true);
+    for (int i = 0; i < 60; ++i) {
+        const QSize size = random.size();
+        const bool axes = random.flag();
+        const bool locus = random.flag();
+        const bool wavelengths = random.flag();
+        const QList<QPointF> points = random.points();
+        if (i > 20) {
+            const QColor line = random.opaqueColor();
+            const QColor background = random.opaqueColor();
+            renderer.setGraphColor(line, background);
+            plain.setGraphColor(line, background);
+        }
+        renderer.setMeasurePoints(points);
+        const Picture picture(
+            renderer.drawCEIEPicture(size.width(), size.height(), axes, locus, wavelengths, random.points()));
+        QCOMPARE(reference::firstDifference(*picture, plain.uvPicture(size, axes, points)), QString());
+        QCOMPARE(reference::firstDifference(renderer.getColorImage(), plain.colorImage(size)), QString());
+    }
+}
+
+// Where the titles stand only the renderer says: its axes go over a picture without any.
+void LegacyDrawCEIPictureTest::picturesWithTitlesAreThePlainOnes()
+{
+    const QSize size(300, 280);
+    {
+        DrawCEIPicture renderer(xyDiagram, nullptr);
+        QImage expected = PlainDiagram(false).xyPicture(size, false, false, false, {});
+        const Picture picture = drawn(renderer, size);
+        QPainter painter(&expected);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        renderer.painterCoordinate(Qt::SolidLine, QFont(QStringLiteral("Arial"), 5), painter);
+        painter.end();
+        QCOMPARE(reference::firstDifference(*picture, expected), QString());
+    }
+    DrawCEIPicture renderer(uvDiagram, nullptr);
+    QImage expected = PlainDiagram(true).uvPicture(size, false, {});
+    const Picture picture = drawn(renderer, size);
+    QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));
+    font.setWeight(63);
+    font.setPixelSize(12);
+    QPainter painter(&expected);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    renderer.painterCoordinate(Qt::DashLine, font, painter);
+    painter.end();
+    QCOMPARE(reference::firstDifference(*picture, expected), QString());
+}
+
+void LegacyDrawCEIPictureTest::titlesPerType_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("xTitle");
+    QTest::addColumn<QString>("yTitle");
+    QTest::newRow("x, y") << 0 << QStringLiteral("X") << QStringLiteral("Y");
+    QTest::newRow("u', v'") << 1 << QStringLiteral("u") << QStringLiteral("v");
+}
+
+void LegacyDrawCEIPictureTest::titlesPerType()
+{
+    QFETCH(int, type);
+    QFETCH(QString, xTitle);
+    QFETCH(QString, yTitle);
+    const QSize size(400, 400);
+    DrawCEIPicture renderer(static_cast<DrawCEIPicture::CEIEType>(type), nullptr);
+    const Picture initial = drawn(renderer, size);
+    renderer.setXTitle(xTitle);
+    renderer.setYTitle(yTitle);
+    QCOMPARE(reference::firstDifference(*drawn(renderer, size), *initial), QString());
+
+    renderer.setXTitle(QStringLiteral("W"));
+    QVERIFY(!changed(*drawn(renderer, size), *initial).isEmpty());
+    renderer.setXTitle(xTitle);
+    renderer.setYTitle(QStringLiteral("W"));
+    QVERIFY(!changed(*drawn(renderer, size), *initial).isEmpty());
+    renderer.setYTitle(yTitle.toLower() == yTitle ? yTitle.toUpper() : yTitle.toLower());
+    QVERIFY(!changed(*drawn(renderer, size), *initial).isEmpty());
+}
+
+void LegacyDrawCEIPictureTest::titlesStandClearOfTheNumbers_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("side");
+    for (const int side : {150, 240, 512, 800}) {
+        QTest::addRow("x, y of %d pixels", side) << 0 << side;
+        QTest::addRow("u', v' of %d pixels", side) << 1 << side;
+    }
+}
+
+// The x title above the end of its axis and the y title right of the top of its own; the numbers are on the far sides.
+void LegacyDrawCEIPictureTest::titlesStandClearOfTheNumbers()
+{
+    QFETCH(int, type);
+    QFETCH(int, side);
+    const QSize size(side, side);
+    DrawCEIPicture renderer(static_cast<DrawCEIPicture::CEIEType>(type), nullptr);
+    removeTitles(renderer);
+    const Picture without = drawn(renderer, size);
+    const QPointF origin = renderer.CoordinateTransformation(QPointF(0, 0));
+    renderer.setXTitle(QStringLiteral("X"));
+    const QRect x = changed(*drawn(renderer, size), *without);
+    renderer.setXTitle(QString());
+    renderer.setYTitle(QStringLiteral("Y"));
+    const QRect y = changed(*drawn(renderer, size), *without);
+    QVERIFY(!x.isEmpty() && !y.isEmpty());
+    QVERIFY(x.bottom() < origin.y() && x.top() > side / 2 && x.left() > 3 * side / 4);
+    QVERIFY(y.left() > origin.x() && y.right() < side / 2 && y.bottom() < side / 4);
+}
+
+void LegacyDrawCEIPictureTest::rangesPerType()
+{
+    const QSize size(800, 800);
+    DrawCEIPicture xy(xyDiagram, nullptr);
+    const Picture xyPicture = drawn(xy, size);
+    const QPointF xyOrigin = xy.CoordinateTransformation(QPointF(0, 0));
+    QCOMPARE(xyOrigin.x(), 44.0);
+    QCOMPARE(xyOrigin.y(), 760.0);
+    const QPointF xyEnd = xy.CoordinateTransformation(QPointF(0.8401, 0.9401));
+    QCOMPARE(xyEnd.x(), 764.0);
+    QCOMPARE(xyEnd.y(), 40.0);
+
+    DrawCEIPicture uv(uvDiagram, nullptr);
+    const Picture uvPicture = drawn(uv, size);
+    const QPointF uvOrigin = uv.CoordinateTransformation(QPointF(0, 0));
+    QCOMPARE(uvOrigin.x(), 124.0);
+    QCOMPARE(uvOrigin.y(), 680.0);
+    const QPointF uvEnd = uv.CoordinateTransformation(QPointF(0.6501, 0.6801));
+    QCOMPARE(uvEnd.x(), 684.0);
+    QCOMPARE(uvEnd.y(), 120.0);
+}
+
+void LegacyDrawCEIPictureTest::marginsPerType()
+{
+    const QSize size(200, 210);
+    DrawCEIPicture xy(xyDiagram, nullptr);
+    DrawCEIPicture uv(uvDiagram, nullptr);
+    const Picture xyPicture = drawn(xy, size, false);
+    const Picture uvPicture = drawn(uv, size, false);
+    for (const QPoint &corner : {QPoint(0, 0), QPoint(199, 0), QPoint(0, 209), QPoint(199, 209)}) {
+        QCOMPARE(xyPicture->pixel(corner), blackMargins.rgba());
+        QCOMPARE(uvPicture->pixel(corner), greyMargins.rgba());
+    }
+    QCOMPARE(xyPicture->format(), QImage::Format_ARGB32);
+    QCOMPARE(uvPicture->format(), QImage::Format_ARGB32);
+}
+
+void LegacyDrawCEIPictureTest::secondGraphColorIsTheUvBackgroundOnly()
+{
+    const QSize size(200, 210);
+    DrawCEIPicture xy(xyDiagram, nullptr);
+    xy.setGraphColor(Qt::white, Qt::darkGreen);
+    QCOMPARE(drawn(xy, size, false)->pixel(0, 0), blackMargins.rgba());
+    DrawCEIPicture uv(uvDiagram, nullptr);
+    uv.setGraphColor(Qt::white, Qt::darkGreen);
+    QCOMPARE(drawn(uv, size, false)->pixel(0, 0), QColor(Qt::darkGreen).rgba());
+
+    DrawCEIPicture untouched(uvDiagram, nullptr);
+    delete untouched.drawCEIEPicture(200, 210, false, false, false, {});
+    QCOMPARE(reference::firstDifference(uv.getColorImage(), untouched.getColorImage()), QString());
+}
+
+void LegacyDrawCEIPictureTest::uvPictureIgnoresItsFlags()
+{
+    DrawCEIPicture renderer(uvDiagram, nullptr);
+    const QSize size(240, 230);
+    const Picture plain = drawn(renderer, size);
+    for (const bool locus : {false, true}) {
+        for (const bool wavelengths : {false, true}) {
+            const Picture picture(renderer.drawCEIEPicture(240, 230, true, locus, wavelengths, {}));
+            QCOMPARE(reference::firstDifference(*picture, *plain), QString());
+        }
+    }
+}
+
+void LegacyDrawCEIPictureTest::uvPictureHasNoColorTemperaturePoints()
+{
+    DrawCEIPicture renderer(uvDiagram, nullptr);
+    const Picture plain = drawn(renderer, QSize(240, 230));
+    const Picture picture(renderer.drawCEIEPicture(240, 230, true, true, true, {QPointF(0.3, 0.3)}));
+    QCOMPARE(reference::firstDifference(*picture, *plain), QString());
+}
+
+void LegacyDrawCEIPictureTest::measurePointsAreRingedDots()
+{
+    DrawCEIPicture renderer(uvDiagram, nullptr);
+    const Picture without = drawn(renderer, QSize(400, 400), false);
+    const QPointF measured(0.6, 0.1); // on the margins' colour
+    renderer.setMeasurePoints({measured});
+    const Picture with = drawn(renderer, QSize(400, 400), false);
+    const QPoint centre = renderer.CoordinateTransformation(measured).toPoint();
+    QCOMPARE(QColor(without->pixel(centre)), greyMargins);
+    QCOMPARE(changed(*with, *without), QRect(centre - QPoint(4, 4), QSize(8, 8)));
+    QCOMPARE(with->pixel(centre), QColor(Qt::black).rgba());
+    for (const QPoint &side : {QPoint(2, 0), QPoint(-3, 0), QPoint(0, 2), QPoint(0, -3)}) {
+        const QColor ring(with->pixel(centre + side));
+        const auto blended = [](int under) { return under + (255 - under) * 76 / 255; };
+        QVERIFY(std::abs(ring.red() - blended(0x32)) <= 1 && std::abs(ring.blue() - blended(0x38)) <= 1);
+    }
+
+    DrawCEIPicture xy(xyDiagram, nullptr);
+    const Picture bare = drawn(xy, QSize(400, 400));
+    xy.setMeasurePoints({measured});
+    QCOMPARE(reference::firstDifference(*drawn(xy, QSize(400, 400)), *bare), QString());
+}
+
+void LegacyDrawCEIPictureTest::colorImageHasTheLastSize()
+{
+    DrawCEIPicture renderer(uvDiagram, nullptr);
+    QVERIFY(renderer.getColorImage().isNull());
+    for (const QSize &size : {QSize(120, 90), QSize(31, 64)}) {
+        drawn(renderer, size);
+        const QImage colors = renderer.getColorImage();
+        QCOMPARE(colors.size(), size);
+        QCOMPARE(colors.format(), QImage::Format_ARGB32);
+    }
+    // Everything between the edges is coloured, and nothing is left of the background.
+    const QImage colors = renderer.getColorImage();
+    QVERIFY(colors.pixel(0, 0) != greyMargins.rgba() && colors.pixel(30, 63) != greyMargins.rgba());
+}
+
+// 2 % of fewer than 50 rows is a font size of 0, which is none. The picture is wide enough for larger numbers to show.
+void LegacyDrawCEIPictureTest::smallXyPictureStillHasNumbers()
+{
+    static QStringList warnings;
+    warnings.clear();
+    const auto previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &message) { warnings << message; });
+    DrawCEIPicture renderer(xyDiagram, nullptr);
+    removeTitles(renderer);
+    const Picture picture(renderer.drawCEIPicture(600, 49, true, false, false, {}));
+    qInstallMessageHandler(previous);
+    QCOMPARE(warnings, QStringList());
+
+    PlainDiagram plain(false);
+    QCOMPARE(reference::firstDifference(*picture, plain.xyPicture(QSize(600, 49), true, false, false, {})), QString());
+}
+
+void LegacyDrawCEIPictureTest::otherTypesAreXy()
+{
+    DrawCEIPicture renderer(static_cast<DrawCEIPicture::CEIEType>(7), nullptr);
+    DrawCEIPicture xy(xyDiagram, nullptr);
+    const Picture picture(renderer.drawCEIPicture(240, 230, true, true, true, {}));
+    const Picture expected(xy.drawCEIPicture(240, 230, true, true, true, {}));
+    QCOMPARE(reference::firstDifference(*picture, *expected), QString());
+    QCOMPARE(reference::firstDifference(renderer.getColorImage(), xy.getColorImage()), QString());
+}
+
+void LegacyDrawCEIPictureTest::d65InUv()
+{
+    double u = 0.0;
+    double v = 0.0;
+    DrawCEIPicture::xyconvertuv(0.3127, 0.3290, u, v);
+    QVERIFY(std::fabs(u - 0.19783000664283675) < 1e-15);
+    QVERIFY(std::fabs(v - 0.46831999493879102) < 1e-15);
+    DrawCEIPicture::xyconvertuv(0.3127, 0.3291, u, v);
+    QVERIFY(std::fabs(u - 0.19779246655491952) < 1e-15);
+    QVERIFY(std::fabs(v - 0.46837344634555178) < 1e-15);
+}
+
+void LegacyDrawCEIPictureTest::listReplacesItsOutput()
+{
+    std::vector<QPointF> uv{QPointF(1, 2), QPointF(3, 4)};
+    DrawCEIPicture::xy2uv(std::vector<QPointF>{}, uv);
+    QVERIFY(uv.empty());
+    uv.assign(5, QPointF(1, 2));
+    DrawCEIPicture::xy2uv(std::vector<QPointF>{QPointF(0.3127, 0.3291), QPointF(0.64, 0.33)}, uv);
+    QCOMPARE(uv.size(), std::size_t(2));
+    for (std::size_t i = 0; i < 2; ++i) {
+        double u = 0.0;
+        double v = 0.0;
+        DrawCEIPicture::xyconvertuv(i == 0 ? 0.3127 : 0.64, i == 0 ? 0.3291 : 0.33, u, v);
+        QVERIFY(uv[i].x() == u && uv[i].y() == v);
+    }
+}
+
+void LegacyDrawCEIPictureTest::coordinateListsAppend()
+{
+    std::vector<float> none;
+    std::vector<float> us{1.0F, 2.0F};
+    std::vector<float> vs{3.0F};
+    DrawCEIPicture::xy2uvList(none, none, us, vs);
+    QCOMPARE(us, (std::vector<float>{1.0F, 2.0F}));
+    QCOMPARE(vs, (std::vector<float>{3.0F}));
+
+    std::vector<float> xs{0.3127F};
+    std::vector<float> ys{0.3291F, 0.5F, 0.6F}; // longer than xs: the rest is not read
+    DrawCEIPicture::xy2uvList(xs, ys, us, vs);
+    float u = 0.0F;
+    float v = 0.0F;
+    DrawCEIPicture::xy2uv(xs[0], ys[0], u, v);
+    QCOMPARE(us, (std::vector<float>{1.0F, 2.0F, u}));
+    QCOMPARE(vs, (std::vector<float>{3.0F, v}));
+}
+
+// Nothing is carried out in double precision and narrowed afterwards.
+void LegacyDrawCEIPictureTest::singlePrecisionStaysSingle()
+{
+    int otherwise = 0;
+    for (int i = 0; i < 1000; ++i) {
+        const float x = 0.0007F * static_cast<float>(i);
+        const float y = 0.8F - 0.0005F * static_cast<float>(i);
+        const float d = -2.0F * x + 12.0F * y + 3.0F;
+        float u = 0.0F;
+        float v = 0.0F;
+        DrawCEIPicture::xy2uv(x, y, u, v);
+        QVERIFY(u == 4.0F * x / d && v == 9.0F * y / d);
+        std::vector<float> us;
+        std::vector<float> vs;
+        std::vector<float> xs{x};
+        std::vector<float> ys{y};
+        DrawCEIPicture::xy2uvList(xs, ys, us, vs);
+        QVERIFY(us.front() == u && vs.front() == v);
+        double wideU = 0.0;
+        double wideV = 0.0;
+        DrawCEIPicture::xyconvertuv(static_cast<double>(x), static_cast<double>(y), wideU, wideV);
+        otherwise += static_cast<float>(wideU) != u || static_cast<float>(wideV) != v ? 1 : 0;
+    }
+    QVERIFY(otherwise > 100);
+}
+
+void LegacyDrawCEIPictureTest::listsArePointwise()
+{
+    std::vector<float> xs{0.64F, 0.30F, 0.15F};
+    std::vector<float> ys{0.33F, 0.60F, 0.06F};
+    std::vector<float> us;
+    std::vector<float> vs;
+    DrawCEIPicture::xy2uvList(xs, ys, us, vs);
+    QCOMPARE(us.size(), std::size_t(3));
+    QCOMPARE(vs.size(), std::size_t(3));
+    const std::vector<QPointF> rec709{QPointF(0.4507, 0.5229), QPointF(0.1250, 0.5625), QPointF(0.1754, 0.1579)};
+    for (std::size_t i = 0; i < 3; ++i) {
+        QVERIFY(std::fabs(static_cast<double>(us[i]) - rec709[i].x()) < 1e-4);
+        QVERIFY(std::fabs(static_cast<double>(vs[i]) - rec709[i].y()) < 1e-4);
+    }
+}
+
+CEIECHART_PICTURE_TEST_MAIN(LegacyDrawCEIPictureTest)
+#include "legacydrawceipicturetest.moc"
