@@ -34,10 +34,10 @@ struct Target {
 
 /*! \brief The primaries and the white point of a gamut, contiguous in this order. */
 struct Targets {
-    Target red;
-    Target green;
-    Target blue;
-    Target white;
+    Target red; //!< primary
+    Target green; //!< primary
+    Target blue; //!< primary
+    Target white; //!< white point
 };
 
 /*! \brief A gamut and its name: a value type. */
@@ -60,10 +60,10 @@ private:
 
 /*! \brief A gamut without a name, as the legacy chart takes it; laid out like Targets. */
 struct ColorGamutInfo {
-    Target red;
-    Target green;
-    Target blue;
-    Target white;
+    Target red; //!< primary
+    Target green; //!< primary
+    Target blue; //!< primary
+    Target white; //!< white point
 };
 
 /*!

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include <gamutmodel/gamutcoverage.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Model {
+
+namespace {
+
+// Of the charts' check, in square units of x, y.
+constexpr double containmentTolerance = 0.0001;
+
+using Triangle = std::array<DiagramPoint, 3>;
+
+Triangle corners(const Targets &gamut, Diagram diagram)
+{
+    return {toDiagram(diagram, {gamut.red.x, gamut.red.y}), toDiagram(diagram, {gamut.green.x, gamut.green.y}),
+        toDiagram(diagram, {gamut.blue.x, gamut.blue.y})};
+}
+
+// Twice the signed area of the triangle a, b, c: positive when c lies left of the way from a to b.
+double turn(const DiagramPoint &a, const DiagramPoint &b, const DiagramPoint &c)
+{
+    return (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
+}
+
+double finiteOrZero(double value)
+{
+    return std::isfinite(value) ? value : 0.0;
+}
+
+double area(const Triangle &triangle)
+{
+    return finiteOrZero(std::fabs(turn(triangle[0], triangle[1], triangle[2])) / 2.0);
+}
+
+double area(const std::vector<DiagramPoint> &polygon)
+{
+    double doubled = 0.0;
+    for (std::size_t i = 2; i < polygon.size(); ++i) {
+        doubled += turn(polygon[0], polygon[i - 1], polygon[i]);
+    }
+    return finiteOrZero(std::fabs(doubled) / 2.0);
+}
+
+Triangle counterClockwise(Triangle triangle)
+{
+    if (turn(triangle[0], triangle[1], triangle[2]) < 0.0) {
+        std::swap(triangle[1], triangle[2]);
+    }
+    return triangle;
+}
+
+// What of the convex polygon lies left of the line from one point to another (Sutherland and Hodgman 1974).
+std::vector<DiagramPoint> leftOf(
+    const std::vector<DiagramPoint> &polygon, const DiagramPoint &from, const DiagramPoint &to)
+{
+    std::vector<DiagramPoint> kept;
+    for (std::size_t i = 0; i < polygon.size(); ++i) {
+        const DiagramPoint &a = polygon[i];
+        const DiagramPoint &b = polygon[(i + 1) % polygon.size()];
+        const double sideOfA = turn(from, to, a);
+        const double sideOfB = turn(from, to, b);
+        if (sideOfA >= 0.0) {
+            kept.push_back(a);
+        }
+        if ((sideOfA > 0.0 && sideOfB < 0.0) || (sideOfA < 0.0 && sideOfB > 0.0)) {
+            const double share = sideOfA / (sideOfA - sideOfB);
+            kept.push_back({a.x + share * (b.x - a.x), a.y + share * (b.y - a.y)});
+        }
+    }
+    return kept;
+}
+
+double quotient(double numerator, double denominator)
+{
+    return denominator > 0.0 ? finiteOrZero(numerator / denominator) : 0.0;
+}
+
+bool isOutside(const DiagramPoint &point, const Triangle &triangle)
+{
+    const auto &[a, b, c] = triangle;
+    const double excess = std::fabs(turn(point, b, c)) / 2.0 + std::fabs(turn(a, point, c)) / 2.0
+        + std::fabs(turn(a, b, point)) / 2.0 - std::fabs(turn(a, b, c)) / 2.0;
+    return !(excess < containmentTolerance);
+}
+
+} // namespace
+
+DiagramPoint toDiagram(Diagram diagram, DiagramPoint xy)
+{
+    if (diagram == Diagram::Cie1931) {
+        return xy;
+    }
+    const double denominator = -2.0 * xy.x + 12.0 * xy.y + 3.0;
+    return {4.0 * xy.x / denominator, 9.0 * xy.y / denominator};
+}
+
+DiagramPoint fromDiagram(Diagram diagram, DiagramPoint point)
+{
+    if (diagram == Diagram::Cie1931) {
+        return point;
+    }
+    const double denominator = 6.0 * point.x - 16.0 * point.y + 12.0;
+    return {9.0 * point.x / denominator, 4.0 * point.y / denominator};
+}
+
+double gamutArea(const Targets &gamut, Diagram diagram)
+{
+    return area(corners(gamut, diagram));
+}
+
+std::vector<DiagramPoint> commonPolygon(const Targets &a, const Targets &b, Diagram diagram)
+{
+    const Triangle subject = counterClockwise(corners(a, diagram));
+    const Triangle clip = counterClockwise(corners(b, diagram));
+    if (area(subject) == 0.0 || area(clip) == 0.0) {
+        return {};
+    }
+    std::vector<DiagramPoint> polygon(subject.begin(), subject.end());
+    for (std::size_t i = 0; i < clip.size(); ++i) {
+        polygon = leftOf(polygon, clip[i], clip[(i + 1) % clip.size()]);
+    }
+    const auto equal = [](const DiagramPoint &p, const DiagramPoint &q) { return p.x == q.x && p.y == q.y; };
+    polygon.erase(std::unique(polygon.begin(), polygon.end(), equal), polygon.end());
+    if (polygon.size() > 1 && equal(polygon.front(), polygon.back())) {
+        polygon.pop_back();
+    }
+    return area(polygon) > 0.0 ? polygon : std::vector<DiagramPoint>();
+}
+
+double commonArea(const Targets &a, const Targets &b, Diagram diagram)
+{
+    // Rounding must not make a part greater than the whole.
+    return std::min({area(commonPolygon(a, b, diagram)), gamutArea(a, diagram), gamutArea(b, diagram)});
+}
+
+GamutCoverage gamutCoverage(const Targets &gamut, const Targets &standard, Diagram diagram)
+{
+    GamutCoverage result;
+    result.area = gamutArea(gamut, diagram);
+    result.standardArea = gamutArea(standard, diagram);
+    result.commonArea = commonArea(gamut, standard, diagram);
+    result.coverage = quotient(result.commonArea, result.standardArea);
+    result.areaRatio = quotient(result.area, result.standardArea);
+    return result;
+}
+
+PrimariesOutside primariesOutside(const Targets &gamut, const Targets &container)
+{
+    const Triangle triangle = corners(container, Diagram::Cie1931);
+    const Triangle primaries = corners(gamut, Diagram::Cie1931);
+    return {isOutside(primaries[0], triangle), isOutside(primaries[1], triangle), isOutside(primaries[2], triangle)};
+}
+
+} // namespace Model
