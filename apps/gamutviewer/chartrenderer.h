@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_CHARTRENDERER_H
+#define GAMUTVIEWER_CHARTRENDERER_H
+
+#include "chartscene.h"
+
+#include <ceiechart/render/drawceipicture.h>
+
+#include <QImage>
+#include <QSize>
+
+namespace gamutviewer {
+
+/*!
+ * \brief Draws chart scenes into pictures of any size.
+ *
+ * Clip polygon and marks are given to the library's renderer in picture pixels, which this class finds out.
+ */
+class ChartRenderer {
+public:
+    ChartRenderer();
+
+    /*! \brief \a scene as a picture of \a size pixels; a null image when there is no memory for one. */
+    QImage draw(const ChartScene &scene, const QSize &size);
+
+private:
+    void takeUpGeometry(const QSize &size);
+    QPolygonF pixelTriangle(const TrianglePoint &triangle);
+    QPolygonF commonArea(const TrianglePoint &a, const TrianglePoint &b);
+    QList<QRectF> marks(const QList<QPointF> &points);
+
+    NewCEIE::DrawCEIPicture m_renderer;
+};
+
+} // namespace gamutviewer
+
+#endif

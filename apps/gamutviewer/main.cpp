@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "chartexport.h"
+#include "commandline.h"
+#include "interfacetranslations.h"
+#include "messages.h"
+#include "openfile.h"
+#include "platform.h"
+#include "report.h"
+#include "samples.h"
+#include "viewerwindow.h"
+
+#include <QApplication>
+#include <QLoggingCategory>
+#include <QScreen>
+
+#include <cstdio>
+
+namespace {
+
+using namespace gamutviewer;
+
+enum ExitStatus { Done = 0, Failed = 1, WrongInput = 2 };
+
+int print(const QByteArray &text)
+{
+    const bool written = std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout) == std::size_t(text.size())
+        && std::fflush(stdout) == 0;
+    return written ? Done : Failed;
+}
+
+int write(const DisplayDescription &description, const CommandLine &commandLine)
+{
+    const QString picture = commandLine.pictureFile();
+    if (!picture.isEmpty()) {
+        const QString error = exportChart(
+            chartScene(description), description.name, commandLine.extent(), commandLine.pictureFormat(), picture);
+        if (!error.isEmpty()) {
+            printError(QApplication::translate("main", "%1: cannot be written: %2").arg(picture, error));
+            return Failed;
+        }
+    }
+    if (commandLine.wantsReport() && print(reportText(description)) != Done) {
+        printError(QApplication::translate("main", "the report cannot be written to the standard output"));
+        return Failed;
+    }
+    return Done;
+}
+
+int show(const OpenedFiles &opened, const CommandLine &commandLine)
+{
+    installInterfaceTranslations();
+    ViewerWindow window;
+    window.setDescription(opened.description, opened.descriptionFile);
+    if (commandLine.hasSize()) {
+        window.resize(commandLine.extent().size.boundedTo(QApplication::primaryScreen()->availableSize()));
+    }
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // The error stream is for scripts and people; QT_LOGGING_RULES brings the toolkit's own warnings back.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    const bool canShow = choosePlatform(argc, argv);
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("gamutviewer"));
+    QApplication::setApplicationVersion(QStringLiteral(GAMUTVIEWER_VERSION));
+
+    const CommandLine commandLine(QApplication::arguments());
+    switch (commandLine.action()) {
+    case CommandLine::Action::Help:
+        return print(commandLine.helpText().toLocal8Bit());
+    case CommandLine::Action::Version:
+        return print(QStringLiteral("gamutviewer %1\n").arg(QApplication::applicationVersion()).toLocal8Bit());
+    case CommandLine::Action::Refuse:
+        printError(commandLine.error());
+        return WrongInput;
+    case CommandLine::Action::Show:
+    case CommandLine::Action::Write:
+        break;
+    }
+
+    const QStringList files = commandLine.files();
+    const Outcome<OpenedFiles> opened = openFiles(files.isEmpty() ? QStringList(sampleFile()) : files);
+    if (!opened) {
+        printError(opened.error());
+        return WrongInput;
+    }
+    if (commandLine.action() == CommandLine::Action::Write) {
+        return write(opened->description, commandLine);
+    }
+    if (!canShow) {
+        printError(QApplication::translate(
+            "main", "there is no display for a window; --render writes a picture file and --report prints a report"));
+        return Failed;
+    }
+    return show(*opened, commandLine);
+}

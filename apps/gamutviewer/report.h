@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_REPORT_H
+#define GAMUTVIEWER_REPORT_H
+
+#include <QByteArray>
+#include <QJsonObject>
+
+namespace gamutviewer {
+
+struct DisplayDescription;
+
+/*!
+ * \brief Everything that the viewer works out of \a description; docs/gamut-viewer.md describes its keys.
+ *
+ * Of each gamut: its colours with u', v', colour temperature and Duv, its areas, its coverage of and area ratio to
+ * every standard, in x, y and in u', v'; whether the original can show the target, and what the target gives up.
+ */
+QJsonObject report(const DisplayDescription &description);
+
+/*! \brief The report as a JSON text in UTF-8 that ends with a line end. */
+QByteArray reportText(const DisplayDescription &description);
+
+} // namespace gamutviewer
+
+#endif

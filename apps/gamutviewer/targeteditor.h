@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_TARGETEDITOR_H
+#define GAMUTVIEWER_TARGETEDITOR_H
+
+#include "targetedits.h"
+
+#include <QDoubleSpinBox>
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QMenu;
+class QToolButton;
+
+namespace gamutviewer {
+
+class TargetSession;
+
+/*! \brief A number whose arrow keys take a tenth of the step while Shift is held, and ten steps with Ctrl. */
+class StepBox : public QDoubleSpinBox {
+    Q_OBJECT
+
+public:
+    explicit StepBox(QWidget *parent = nullptr);
+
+    void stepBy(int steps) override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+/*! \brief The target in numbers that can be edited, and the rules of editing. */
+class TargetEditor : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit TargetEditor(TargetSession *session, QWidget *parent = nullptr);
+
+    // For tests and for keyboard shortcuts
+    StepBox *firstCoordinate(Vertex vertex) const { return m_rows[size_t(vertex)].first; }
+    StepBox *secondCoordinate(Vertex vertex) const { return m_rows[size_t(vertex)].second; }
+    StepBox *luminance(Vertex vertex) const { return m_rows[size_t(vertex)].luminance; }
+    StepBox *temperature() const { return m_temperature; }
+    StepBox *duv() const { return m_duv; }
+    QComboBox *coordinates() const { return m_coordinates; }
+    QCheckBox *holdWhite() const { return m_holdWhite; }
+    QCheckBox *lockPrimaries() const { return m_lockPrimaries; }
+    QCheckBox *snap() const { return m_snap; }
+    QMenu *resetMenu() const { return m_resetMenu; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    struct Row {
+        QLabel *label = nullptr;
+        StepBox *first = nullptr;
+        StepBox *second = nullptr;
+        StepBox *luminance = nullptr;
+    };
+
+    void buildHeader(QGridLayout *grid);
+    void buildRow(QGridLayout *grid, Vertex vertex);
+    void buildTemperature(QGridLayout *grid);
+    QCheckBox *addRule(QLayout *layout, const QString &text, const QString &explanation);
+    StepBox *addBox(double lowest, double highest, int decimals, double step, const QString &name);
+    void connectBox(StepBox *box, Vertex vertex, const std::function<void(int mergeKey)> &edit);
+
+    void refresh();
+    void refreshRules();
+    void fillResetMenu();
+    bool showsUv() const;
+    void editChromaticity(Vertex vertex, int mergeKey);
+    void editTemperature(int mergeKey);
+
+    TargetSession *m_session;
+    QLabel *m_name;
+    QToolButton *m_reset;
+    QMenu *m_resetMenu;
+    QComboBox *m_coordinates;
+    QLabel *m_firstHeader;
+    QLabel *m_secondHeader;
+    std::array<Row, 4> m_rows;
+    StepBox *m_temperature;
+    StepBox *m_duv;
+    QCheckBox *m_holdWhite;
+    QCheckBox *m_lockPrimaries;
+    QCheckBox *m_snap;
+    int m_boxes = 0;
+};
+
+} // namespace gamutviewer
+
+#endif

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "exportdialog.h"
+#include "openfile.h"
+#include "recentfiles.h"
+#include "targetsession.h"
+#include "viewerwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QTabWidget>
+
+namespace gamutviewer {
+
+namespace {
+
+QString menuText(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
+void ViewerWindow::buildMenus()
+{
+    buildFileMenu();
+    buildEditMenu();
+    buildViewMenu();
+    buildHelpMenu();
+}
+
+void ViewerWindow::buildFileMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&File"));
+    menu->addAction(tr("&Open…"), this, &ViewerWindow::open, QKeySequence::Open);
+    m_recentMenu = menu->addMenu(tr("Open &recent"));
+    connect(m_recentMenu, &QMenu::aboutToShow, this, &ViewerWindow::fillRecentMenu);
+    menu->addSeparator();
+    menu->addAction(tr("&Save"), this, &ViewerWindow::save, QKeySequence::Save);
+    menu->addAction(tr("Save &as…"), this, &ViewerWindow::saveAs, QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_S));
+    menu->addSeparator();
+    menu->addAction(tr("&Export chart…"), this, &ViewerWindow::exportChartByDialog, QKeySequence(Qt::CTRL + Qt::Key_E));
+    menu->addSeparator();
+    QAction *close = menu->addAction(tr("&Quit"), this, &QWidget::close);
+    close->setShortcuts({QKeySequence(Qt::CTRL + Qt::Key_Q), QKeySequence(Qt::CTRL + Qt::Key_W)});
+}
+
+void ViewerWindow::buildEditMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Edit"));
+    const auto nameAfter = [](QAction *action, const QString &verb, const QString &step) {
+        action->setText(
+            step.isEmpty() ? verb : tr("%1 (%2)", "verb and step of the history").arg(verb, menuText(step)));
+    };
+    QUndoStack *history = m_document.history();
+    QAction *undoAction = menu->addAction(tr("&Undo"), this, &ViewerWindow::undo, QKeySequence::Undo);
+    undoAction->setEnabled(false);
+    connect(history, &QUndoStack::canUndoChanged, undoAction, &QAction::setEnabled);
+    connect(history, &QUndoStack::undoTextChanged, undoAction,
+        [=](const QString &step) { nameAfter(undoAction, tr("&Undo"), step); });
+    QAction *redoAction = menu->addAction(tr("&Redo"), this, &ViewerWindow::redo);
+    redoAction->setShortcuts({QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), QKeySequence(Qt::CTRL + Qt::Key_Y)});
+    redoAction->setEnabled(false);
+    connect(history, &QUndoStack::canRedoChanged, redoAction, &QAction::setEnabled);
+    connect(history, &QUndoStack::redoTextChanged, redoAction,
+        [=](const QString &step) { nameAfter(redoAction, tr("&Redo"), step); });
+    menu->addSeparator();
+    const auto addRule
+        = [&](const QString &text, void (TargetSession::*set)(bool), bool (TargetSession::*get)() const) {
+              QAction *action = menu->addAction(text);
+              action->setCheckable(true);
+              action->setChecked((m_session->*get)());
+              connect(action, &QAction::toggled, m_session, set);
+              connect(m_session, &TargetSession::rulesChanged, action,
+                  [this, action, get] { action->setChecked((m_session->*get)()); });
+          };
+    addRule(tr("&Hold white"), &TargetSession::setHoldWhite, &TargetSession::holdWhite);
+    addRule(tr("&Lock primaries"), &TargetSession::setLockPrimaries, &TargetSession::lockPrimaries);
+    addRule(tr("&Snap"), &TargetSession::setSnaps, &TargetSession::snaps);
+    menu->addSeparator();
+    menu->addAction(tr("&Copy chart"), this, &ViewerWindow::copyChart, QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C));
+}
+
+void ViewerWindow::buildViewMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&View"));
+    for (int page = 0; page < m_pages->count(); ++page) {
+        menu->addAction(
+            m_pages->tabText(page), this,
+            [this, page] {
+                m_pages->setCurrentIndex(page);
+                m_pages->currentWidget()->setFocus();
+            },
+            QKeySequence(Qt::CTRL + Qt::Key_1 + page));
+    }
+}
+
+void ViewerWindow::buildHelpMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    menu->addAction(tr("&Keys"), this, &ViewerWindow::showKeys, QKeySequence::HelpContents);
+    menu->addAction(tr("&About"), this, &ViewerWindow::about);
+}
+
+void ViewerWindow::open()
+{
+    const QString fileName = QFileDialog::getOpenFileName(this, tr("Open"), QFileInfo(m_document.fileName()).path(),
+        tr("Displays and gamuts (%1)").arg(openFilePatterns().join(QLatin1Char(' '))) + QStringLiteral(";;")
+            + tr("All files (*)"));
+    if (!fileName.isEmpty()) {
+        openPath(fileName);
+    }
+}
+
+bool ViewerWindow::save()
+{
+    return m_document.fileName().isEmpty() ? saveAs() : saveTo(m_document.fileName());
+}
+
+bool ViewerWindow::saveAs()
+{
+    QFileDialog dialog(
+        this, tr("Save as"), QFileInfo(m_document.fileName()).path(), tr("Display descriptions (*.json)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("json"));
+    dialog.selectFile(QFileInfo(m_document.fileName()).fileName());
+    return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().constFirst());
+}
+
+void ViewerWindow::exportChartByDialog()
+{
+    ExportDialog extent(this);
+    if (extent.exec() != QDialog::Accepted) {
+        return;
+    }
+    QFileDialog dialog(this, tr("Export chart"), QString(), tr("Pictures (*.png *.svg *.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("png"));
+    if (dialog.exec() == QDialog::Accepted) {
+        exportTo(dialog.selectedFiles().constFirst(), extent.extent());
+    }
+}
+
+void ViewerWindow::fillRecentMenu()
+{
+    m_recentMenu->clear();
+    const QStringList files = RecentFiles::list();
+    for (const QString &file : files) {
+        QAction *action
+            = m_recentMenu->addAction(menuText(QFileInfo(file).fileName()), this, [this, file] { openPath(file); });
+        action->setToolTip(file);
+        action->setStatusTip(file);
+    }
+    if (files.isEmpty()) {
+        m_recentMenu->addAction(tr("None"))->setEnabled(false);
+        return;
+    }
+    m_recentMenu->addSeparator();
+    m_recentMenu->addAction(tr("&Clear"), [] { RecentFiles::clear(); });
+}
+
+void ViewerWindow::undo()
+{
+    // In the middle of a drag there is a step that the history does not have yet.
+    if (m_document.isDragging()) {
+        m_session->cancelDrag();
+    } else {
+        m_document.breakMerging();
+        m_document.history()->undo();
+    }
+}
+
+void ViewerWindow::redo()
+{
+    if (!m_document.isDragging()) {
+        m_document.breakMerging();
+        m_document.history()->redo();
+    }
+}
+
+void ViewerWindow::showKeys()
+{
+    QMessageBox box(QMessageBox::NoIcon, tr("Keys"), QString(), QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(tr("Diagrams to edit on:\n"
+                   "R, G, B, W – select a primary or the white\n"
+                   "Arrow keys – move it by 0.001; with Shift by 0.0001, with Ctrl by 0.01\n"
+                   "Esc – cancel a drag\n\n"
+                   "Numbers:\n"
+                   "Up, Down – one step; with Shift a tenth, with Ctrl ten\n\n"
+                   "White point:\n"
+                   "+, −, 0 – closer, farther, show all whites\n\n"
+                   "Ctrl+1 to Ctrl+5 – pages"));
+    box.exec();
+}
+
+void ViewerWindow::about()
+{
+    QMessageBox::about(this, tr("About the gamut viewer"),
+        tr("Gamut viewer %1\n\nShows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.")
+            .arg(QApplication::applicationVersion()));
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,276 @@
+// SPDX-License-Identifier: MIT
+#include "viewerwindow.h"
+
+#include "chartpage.h"
+#include "chartscene.h"
+#include "chromaticity.h"
+#include "comparepage.h"
+#include "descriptionwriter.h"
+#include "editpage.h"
+#include "gamutparts.h"
+#include "lenspage.h"
+#include "messages.h"
+#include "openfile.h"
+#include "recentfiles.h"
+#include "samples.h"
+#include "settings.h"
+#include "sidepanel.h"
+#include "signallog.h"
+#include "targetsession.h"
+#include "whitepoint.h"
+
+#include <ceiechart/widgets/ceiegraphicsview.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr QSize firstSize(1024, 768);
+constexpr int messageMilliseconds = 6000;
+
+QString localFile(const QMimeData *data)
+{
+    const QList<QUrl> urls = data->urls();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+
+} // namespace
+
+ViewerWindow::ViewerWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_session(new TargetSession(&m_document, this))
+{
+    setAcceptDrops(true);
+    buildPages();
+    buildMenus();
+    m_readout = new QLabel(this);
+    m_readout->setAccessibleName(tr("Chromaticity under the pointer"));
+    statusBar()->addPermanentWidget(m_readout);
+
+    connect(&m_document, &Document::modifiedChanged, this, &QWidget::setWindowModified);
+    connect(&m_document, &Document::fileNameChanged, this, &ViewerWindow::refreshTitle);
+    connect(m_session, &TargetSession::refused, this,
+        [this](const QString &reason) { statusBar()->showMessage(reason, messageMilliseconds); });
+    connect(&m_document, &Document::changed, this, [this] { statusBar()->clearMessage(); });
+    refreshTitle();
+    resize(firstSize);
+    restoreSettings();
+}
+
+ViewerWindow::~ViewerWindow() = default;
+
+void ViewerWindow::buildPages()
+{
+    m_splitter = new QSplitter(this);
+    m_splitter->setChildrenCollapsible(false);
+    m_pages = new QTabWidget(m_splitter);
+    m_pages->setDocumentMode(true);
+    m_chartPage = new ChartPage(&m_document);
+    m_editPage = new EditPage(m_session, DrawCEIPicture::XyDiagram);
+    m_uvPage = new EditPage(m_session, DrawCEIPicture::UvDiagram);
+    m_lensPage = new LensPage(&m_document);
+    m_comparePage = new ComparePage(&m_document);
+    addPage(m_chartPage, tr("Chart"));
+    addPage(m_editPage, tr("Edit target"));
+    addPage(m_uvPage, tr("u′v′"));
+    addPage(m_lensPage, tr("White point"));
+    addPage(m_comparePage, tr("Compare"));
+    m_panel = new SidePanel(m_session, m_splitter);
+    m_splitter->addWidget(m_pages);
+    m_splitter->addWidget(m_panel);
+    m_splitter->setStretchFactor(0, 1);
+    m_splitter->setStretchFactor(1, 0);
+    setCentralWidget(m_splitter);
+    watchCharts();
+}
+
+void ViewerWindow::addPage(Page *page, const QString &title)
+{
+    m_pages->addTab(page, title);
+    connect(page, &Page::pointedAt, this, &ViewerWindow::showReadout);
+    connect(page, &Page::pointerLeft, this, [this] { m_readout->clear(); });
+}
+
+void ViewerWindow::watchCharts()
+{
+    m_panel->log()->watch(m_chartPage->chart(), tr("Chart"));
+    m_panel->log()->watch(m_editPage->chart(), tr("Edit target"));
+    m_panel->log()->watch(m_uvPage->chart(), tr("u′v′"));
+}
+
+void ViewerWindow::setDescription(const DisplayDescription &description, const QString &fileName)
+{
+    m_shownFile = fileName;
+    const bool isSample = !fileName.isEmpty() && QFileInfo(fileName) == QFileInfo(sampleFile());
+    m_document.open(description, isSample ? QString() : fileName);
+}
+
+bool ViewerWindow::openPath(const QString &fileName)
+{
+    const Outcome<OpenedFile> opened = openFile(fileName);
+    if (!opened) {
+        RecentFiles::remove(fileName);
+        warn(opened.error());
+        return false;
+    }
+    if (opened->content == OpenedFile::Content::Description) {
+        if (!mayLoseChanges()) {
+            return false;
+        }
+        setDescription(opened->description, fileName);
+    } else {
+        const DisplayDescription &open = m_document.description();
+        m_document.change(opened->appliedTo(open), tr("add %1").arg(oneLine(QFileInfo(fileName).fileName())));
+        refreshTitle();
+    }
+    RecentFiles::add(fileName);
+    return true;
+}
+
+bool ViewerWindow::saveTo(const QString &fileName)
+{
+    const QString error = writeDescription(m_document.description(), fileName);
+    if (!error.isEmpty()) {
+        warn(tr("%1: cannot be written: %2").arg(fileName, error));
+        return false;
+    }
+    m_shownFile = fileName;
+    m_document.markSaved(fileName);
+    RecentFiles::add(fileName);
+    statusBar()->showMessage(tr("Saved as %1").arg(oneLine(fileName)), messageMilliseconds);
+    return true;
+}
+
+bool ViewerWindow::exportTo(const QString &fileName, const ChartExtent &extent)
+{
+    const auto format = chartFormat(fileName);
+    if (!format) {
+        warn(tr("%1: the name has to end in .png, .svg or .pdf").arg(fileName));
+        return false;
+    }
+    const DisplayDescription &description = m_document.description();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const QString error = exportChart(chartScene(description), description.name, extent, *format, fileName);
+    QApplication::restoreOverrideCursor();
+    if (!error.isEmpty()) {
+        warn(tr("%1: cannot be written: %2").arg(fileName, error));
+        return false;
+    }
+    statusBar()->showMessage(tr("Exported to %1").arg(oneLine(fileName)), messageMilliseconds);
+    return true;
+}
+
+void ViewerWindow::copyChart()
+{
+    ChartExtent extent;
+    extent.devicePixelRatio = devicePixelRatioF();
+    const QImage picture = chartPicture(chartScene(m_document.description()), extent);
+    if (!picture.isNull()) {
+        QApplication::clipboard()->setImage(picture);
+        statusBar()->showMessage(tr("The chart has been copied to the clipboard."), messageMilliseconds);
+    }
+}
+
+bool ViewerWindow::mayLoseChanges()
+{
+    if (!m_document.isModified()) {
+        return true;
+    }
+    const auto answer
+        = QMessageBox::warning(this, tr("Unsaved changes"), tr("The description has been changed. Save the changes?"),
+            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    return answer == QMessageBox::Save ? save() : answer == QMessageBox::Discard;
+}
+
+void ViewerWindow::refreshTitle()
+{
+    const QString name = m_document.description().name;
+    const QString file = QFileInfo(m_document.fileName().isEmpty() ? m_shownFile : m_document.fileName()).fileName();
+    const QString shown = !name.isEmpty() ? name : !file.isEmpty() ? file : tr("Untitled");
+    setWindowTitle(tr("%1[*] – Gamut viewer").arg(oneLine(shown)));
+    setWindowFilePath(m_document.fileName());
+}
+
+void ViewerWindow::showReadout(const QPointF &xy)
+{
+    if (!isChromaticity(xy)) {
+        m_readout->clear();
+        return;
+    }
+    const QPointF uv = uvFromXy(xy);
+    QString text = tr("x %1  y %2   u′ %3  v′ %4")
+                       .arg(xy.x(), 0, 'f', 4)
+                       .arg(xy.y(), 0, 'f', 4)
+                       .arg(uv.x(), 0, 'f', 4)
+                       .arg(uv.y(), 0, 'f', 4);
+    const ColorTemperature white = colorTemperature(xy);
+    if (isCorrelated(white)) {
+        text += tr("   %1 K  Duv %2").arg(white.kelvin, 0, 'f', 0).arg(white.duv, 0, 'f', 4);
+    }
+    m_readout->setText(text);
+}
+
+void ViewerWindow::warn(const QString &text)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Gamut viewer"), oneLine(text), QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void ViewerWindow::closeEvent(QCloseEvent *event)
+{
+    if (!mayLoseChanges()) {
+        event->ignore();
+        return;
+    }
+    saveSettings();
+    event->accept();
+}
+
+void ViewerWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!localFile(event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void ViewerWindow::dropEvent(QDropEvent *event)
+{
+    const QString fileName = localFile(event->mimeData());
+    if (fileName.isEmpty()) {
+        return;
+    }
+    event->acceptProposedAction();
+    // The program that the file comes from waits for the drop to end, and a message may be shown.
+    QMetaObject::invokeMethod(
+        this, [this, fileName] { openPath(fileName); }, Qt::QueuedConnection);
+}
+
+void ViewerWindow::restoreSettings()
+{
+    const Settings settings;
+    restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray());
+    m_splitter->restoreState(settings.value(QStringLiteral("window/splitter")).toByteArray());
+    m_pages->setCurrentIndex(settings.value(QStringLiteral("window/page"), 0).toInt());
+}
+
+void ViewerWindow::saveSettings() const
+{
+    Settings settings;
+    settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("window/splitter"), m_splitter->saveState());
+    settings.setValue(QStringLiteral("window/page"), m_pages->currentIndex());
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+#include <gamutviewer/document.h>
+#include <gamutviewer/targetsession.h>
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace gamutviewer;
+
+class DocumentTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void changeIsUndoneAndRedone();
+    void aDragIsOneStep();
+    void aDragThatChangesNothingIsNoStep();
+    void aCancelledDragIsNoStep();
+    void stepsOfOneFieldMerge();
+    void mergingEndsWithTheEdit();
+    void savedDocumentIsNotModified();
+    void openForgetsTheHistory();
+    void trailFollowsTheWhiteAndTheHistory();
+    void refusalSaysWhy();
+    void lockedAndHeldAreRefused();
+    void dragSnapsUnlessToldNotTo();
+    void whiteByTemperature();
+};
+
+namespace {
+
+DisplayDescription description()
+{
+    DisplayDescription d;
+    d.gamuts.push_back(Model::ColorGamut("Wall",
+        {Model::Target::fromYxy(240, 0.700, 0.299), Model::Target::fromYxy(634, 0.189, 0.718),
+            Model::Target::fromYxy(126, 0.133, 0.075), Model::Target::fromYxy(1000, 0.2829, 0.2971)}));
+    d.original = QStringLiteral("Wall");
+    d.target = QStringLiteral("Rec.709");
+    return d;
+}
+
+struct Fixture {
+    Fixture() { document.open(description(), QStringLiteral("wall.json")); }
+    QPointF xy(Vertex vertex) { return xyOf(targetAt(document.target()->getTargets(), vertex)); }
+
+    Document document;
+    TargetSession session{&document};
+};
+
+} // namespace
+
+void DocumentTest::changeIsUndoneAndRedone()
+{
+    Fixture f;
+    QSignalSpy changed(&f.document, &Document::changed);
+    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.66);
+    QVERIFY(f.document.isModified());
+    f.document.history()->undo();
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.64);
+    QCOMPARE(f.document.description().target, QStringLiteral("Rec.709"));
+    QVERIFY(!f.document.isModified());
+    f.document.history()->redo();
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.66);
+    QCOMPARE(f.document.description().target, QStringLiteral("Rec.709 (edited)"));
+}
+
+void DocumentTest::aDragIsOneStep()
+{
+    Fixture f;
+    f.session.setSnaps(false);
+    f.session.beginDrag();
+    for (int i = 1; i <= 10; ++i) {
+        QVERIFY(f.session.dragTo(Vertex::Red, QPointF(0.64 + 0.002 * i, 0.33), 0.01));
+    }
+    QCOMPARE(f.document.history()->count(), 0);
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.66);
+    f.session.endDrag();
+    QCOMPARE(f.document.history()->count(), 1);
+    f.document.history()->undo();
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.64);
+    f.document.history()->redo();
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.66);
+}
+
+void DocumentTest::aDragThatChangesNothingIsNoStep()
+{
+    Fixture f;
+    f.session.beginDrag();
+    f.session.endDrag();
+    QCOMPARE(f.document.history()->count(), 0);
+    QVERIFY(!f.document.isModified());
+}
+
+void DocumentTest::aCancelledDragIsNoStep()
+{
+    Fixture f;
+    f.session.beginDrag();
+    f.session.dragTo(Vertex::Red, QPointF(0.66, 0.32), 0.0);
+    f.session.cancelDrag();
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.64);
+    QCOMPARE(f.document.history()->count(), 0);
+    f.document.drag(DisplayDescription());
+    QCOMPARE(f.document.description().target, QStringLiteral("Rec.709"));
+    f.session.endDrag();
+    QCOMPARE(f.document.history()->count(), 0);
+}
+
+void DocumentTest::stepsOfOneFieldMerge()
+{
+    Fixture f;
+    f.session.setChromaticity(Vertex::Red, QPointF(0.641, 0.33), 1);
+    f.session.setChromaticity(Vertex::Red, QPointF(0.642, 0.33), 1);
+    f.session.setChromaticity(Vertex::Red, QPointF(0.642, 0.331), 2);
+    QCOMPARE(f.document.history()->count(), 2);
+    f.document.history()->undo();
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.642);
+    f.document.history()->undo();
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.64);
+}
+
+void DocumentTest::mergingEndsWithTheEdit()
+{
+    Fixture f;
+    f.session.setChromaticity(Vertex::Red, QPointF(0.641, 0.33), 1);
+    f.document.breakMerging();
+    f.session.setChromaticity(Vertex::Red, QPointF(0.642, 0.33), 1);
+    QCOMPARE(f.document.history()->count(), 2);
+}
+
+void DocumentTest::savedDocumentIsNotModified()
+{
+    Fixture f;
+    QSignalSpy modified(&f.document, &Document::modifiedChanged);
+    f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32), 1);
+    QCOMPARE(modified.takeLast().at(0).toBool(), true);
+    f.document.markSaved(QStringLiteral("other.json"));
+    QCOMPARE(modified.takeLast().at(0).toBool(), false);
+    QCOMPARE(f.document.fileName(), QStringLiteral("other.json"));
+    // The same field again must not melt into what has been saved.
+    f.session.setChromaticity(Vertex::Red, QPointF(0.67, 0.32), 1);
+    QVERIFY(f.document.isModified());
+    f.document.history()->undo();
+    QVERIFY(!f.document.isModified());
+}
+
+void DocumentTest::openForgetsTheHistory()
+{
+    Fixture f;
+    f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32));
+    QSignalSpy opened(&f.document, &Document::opened);
+    f.document.open(description(), QString());
+    QCOMPARE(opened.size(), 1);
+    QCOMPARE(f.document.history()->count(), 0);
+    QVERIFY(!f.document.isModified());
+    QCOMPARE(f.document.whiteTrail().size(), 1);
+}
+
+void DocumentTest::trailFollowsTheWhiteAndTheHistory()
+{
+    Fixture f;
+    QCOMPARE(f.document.whiteTrail().size(), 1);
+    f.session.setChromaticity(Vertex::White, QPointF(0.31, 0.32));
+    f.session.setChromaticity(Vertex::White, QPointF(0.30, 0.31));
+    QCOMPARE(f.document.whiteTrail().size(), 3);
+    QCOMPARE(f.document.whiteTrail().first().x(), 0.3127);
+    QCOMPARE(f.document.whiteTrail().last().x(), 0.30);
+    f.document.history()->undo();
+    QCOMPARE(f.document.whiteTrail().size(), 2);
+    for (int i = 0; i < 30; ++i) {
+        f.session.setChromaticity(Vertex::White, QPointF(0.30 + 0.0005 * i, 0.32));
+    }
+    QVERIFY(f.document.whiteTrail().size() <= 12);
+}
+
+void DocumentTest::refusalSaysWhy()
+{
+    Fixture f;
+    QSignalSpy refused(&f.session, &TargetSession::refused);
+    QVERIFY(!f.session.setChromaticity(Vertex::Red, QPointF(0.7, 0.7)));
+    QVERIFY(!f.session.setChromaticity(Vertex::White, QPointF(0.6, 0.39)));
+    QVERIFY(!f.session.setLuminance(Vertex::Red, -1));
+    QVERIFY(!f.session.setWhiteTemperature(100, 0));
+    QCOMPARE(refused.size(), 4);
+    for (const QList<QVariant> &reason : refused) {
+        QVERIFY(!reason.at(0).toString().isEmpty());
+    }
+    QVERIFY(refused.at(0) != refused.at(1));
+    QCOMPARE(f.document.history()->count(), 0);
+}
+
+void DocumentTest::lockedAndHeldAreRefused()
+{
+    Fixture f;
+    f.session.setLockPrimaries(true);
+    QVERIFY(!f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    QVERIFY(f.session.setChromaticity(Vertex::White, QPointF(0.31, 0.32)));
+    f.session.setLockPrimaries(false);
+    f.session.setHoldWhite(true);
+    QVERIFY(!f.session.setChromaticity(Vertex::White, QPointF(0.30, 0.32)));
+    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    QCOMPARE(f.xy(Vertex::White).x(), 0.31);
+}
+
+void DocumentTest::dragSnapsUnlessToldNotTo()
+{
+    Fixture f;
+    f.session.beginDrag();
+    f.session.dragTo(Vertex::Red, QPointF(0.6815, 0.3205), 0.005);
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.68); // DCI-P3
+    f.session.dragTo(Vertex::Red, QPointF(0.6995, 0.2995), 0.005);
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.7); // the original's
+    f.session.setSnaps(false);
+    f.session.dragTo(Vertex::Red, QPointF(0.6815, 0.3105), 0.005);
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.6815);
+    f.session.endDrag();
+}
+
+void DocumentTest::whiteByTemperature()
+{
+    Fixture f;
+    QVERIFY(f.session.setWhiteTemperature(5000, 0.002));
+    // On the daylight side of the 5000 K point of the Planckian locus, (0.3451, 0.3516).
+    QVERIFY(qAbs(f.xy(Vertex::White).x() - 0.3451) < 0.005);
+    QVERIFY(f.xy(Vertex::White).y() > 0.3516);
+}
+
+QTEST_GUILESS_MAIN(DocumentTest)
+#include "documenttest.moc"

@@ -1,0 +1,482 @@
+// SPDX-License-Identifier: MIT
+#include "expectedchart.h"
+#include "gamutfiles.h"
+
+#include <reference/picturedifference.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+/*! Runs the program as a script would: with nothing in its environment, no display above all. */
+class GamutViewerTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void rendersTheSample();
+    void rendersAtARatio();
+    void rendersVectors();
+    void reports();
+    void reportsAndRenders();
+    void reportCannotBeWritten();
+    void opensEveryFormat();
+    void namesTheLineOfASyntaxError();
+    void rendersInTheSizeAskedFor_data();
+    void rendersInTheSizeAskedFor();
+    void rendersAGivenDescription();
+    void rendersWhateverThePlatformIsSaidToBe();
+    void readsFromAPipe();
+    void replacesAPicture();
+    void keepsAPictureWhenTheDescriptionIsWrong();
+    void refusesDescriptions_data();
+    void refusesDescriptions();
+    void refusesArguments_data();
+    void refusesArguments();
+    void cannotWrite_data();
+    void cannotWrite();
+    void leavesNothingOfAPictureThatDoesNotFit();
+    void writesToAPipe();
+    void helpAndVersion();
+    void saysThatThereIsNoDisplay();
+    void wrongDescriptionComesBeforeTheDisplay();
+    void showsAWindow();
+    void installedSampleIsFound();
+
+private:
+    struct Result {
+        int exitCode = -1;
+        QByteArray output;
+        QByteArray error;
+    };
+
+    Result run(const QStringList &arguments, const QProcessEnvironment &environment, const QByteArray &input = {},
+        const QString &program = QStringLiteral(GAMUTVIEWER_PROGRAM));
+    Result run(const QStringList &arguments, const QByteArray &input = {}) { return run(arguments, bare(), input); }
+    static QProcessEnvironment bare();
+    QString path(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
+    QString write(const char *name, const QByteArray &bytes);
+    QStringList entries() const { return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace {
+
+const QByteArray minimal = R"({"version": 1, "gamuts": [], "original": "Rec.2020", "target": "Rec.709"})";
+
+QImage pictureIn(const QByteArray &png)
+{
+    return QImage::fromData(png, "PNG").convertToFormat(QImage::Format_ARGB32);
+}
+
+QImage pictureInFile(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? pictureIn(file.readAll()) : QImage();
+}
+
+bool isOneLine(const QByteArray &text)
+{
+    return text.startsWith("gamutviewer: ") && text.endsWith('\n') && text.count('\n') == 1;
+}
+
+} // namespace
+
+QProcessEnvironment GamutViewerTest::bare()
+{
+    QProcessEnvironment environment;
+    // An instrumented program needs to be told about its instruments.
+    const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"}) {
+        if (own.contains(QLatin1String(name))) {
+            environment.insert(QLatin1String(name), own.value(QLatin1String(name)));
+        }
+    }
+    // They must not write where the program's own lines are expected.
+    const QString leaks = environment.value(QStringLiteral("LSAN_OPTIONS"));
+    environment.insert(QStringLiteral("LSAN_OPTIONS"), leaks + QStringLiteral(":print_suppressions=0"));
+    // QProcess takes an empty environment for "as here".
+    environment.insert(QStringLiteral("GAMUTVIEWERTEST"), QStringLiteral("1"));
+    return environment;
+}
+
+GamutViewerTest::Result GamutViewerTest::run(const QStringList &arguments, const QProcessEnvironment &environment,
+    const QByteArray &input, const QString &program)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(m_folder->path());
+    process.start(program, arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit) {
+        return {};
+    }
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+QString GamutViewerTest::write(const char *name, const QByteArray &bytes)
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        qFatal("cannot write %s", name);
+    }
+    return file.fileName();
+}
+
+void GamutViewerTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void GamutViewerTest::rendersTheSample()
+{
+    const Result result = run({"--render", "chart.png"});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(entries(), QStringList("chart.png"));
+    QCOMPARE(
+        reference::firstDifference(pictureInFile(path("chart.png")), expectedchart::draw(QSize(800, 800))), QString());
+}
+
+void GamutViewerTest::rendersAtARatio()
+{
+    const Result result = run({"--size", "200x100", "--dpr", "1.5", "--render", "chart.png"});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(pictureInFile(path("chart.png")).size(), QSize(300, 150));
+}
+
+void GamutViewerTest::rendersVectors()
+{
+    const auto start = [this](const char *name) {
+        const Result result = run({"--render", name, "--size", "9000x10"});
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(run({"--render", name}).exitCode, 0);
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.peek(100).startsWith(QByteArray(name).endsWith("svg") ? "<?xml" : "%PDF-"));
+    };
+    start("chart.svg");
+    start("chart.pdf");
+}
+
+void GamutViewerTest::reports()
+{
+    const Result result = run({"--report", "json", SAMPLE_FILE});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    const QJsonObject report = QJsonDocument::fromJson(result.output).object();
+    QCOMPARE(report.value("name").toString(), QStringLiteral("LED wall"));
+    const QJsonObject validity = report.value("validity").toObject();
+    QCOMPARE(validity.value("valid").toBool(true), false);
+    QCOMPARE(validity.value("outside").toArray(), (QJsonArray{"red", "green", "blue"}));
+    QVERIFY(entries().isEmpty());
+}
+
+void GamutViewerTest::reportsAndRenders()
+{
+    const Result result = run({"--report", "json", "--render", "chart.svg"});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(QJsonDocument::fromJson(result.output).isObject());
+    QCOMPARE(entries(), QStringList("chart.svg"));
+}
+
+void GamutViewerTest::reportCannotBeWritten()
+{
+#ifdef Q_OS_LINUX
+    const Result result = run(
+        {"-c", "exec \"$0\" --report json >/dev/full", GAMUTVIEWER_PROGRAM}, bare(), {}, QStringLiteral("/bin/sh"));
+    QCOMPARE(result.error, QByteArray("gamutviewer: the report cannot be written to the standard output\n"));
+    QCOMPARE(result.exitCode, 1);
+#endif
+}
+
+void GamutViewerTest::opensEveryFormat()
+{
+    write("monitor.bin", gamutfiles::edid());
+    write("profile.icc", gamutfiles::version4Profile());
+    write("meter.csv", "red,200,0.7,0.29\ngreen,700,0.2,0.7\nblue,100,0.15,0.05\nwhite,1000,0.28,0.29\n");
+    write("wall.json", minimal);
+    for (const char *name : {"monitor.bin", "profile.icc", "meter.csv", "wall.json"}) {
+        const Result result = run({"--report", "json", name});
+        QVERIFY2(result.exitCode == 0, result.error);
+        QVERIFY(QJsonDocument::fromJson(result.output).object().contains("original"));
+    }
+    const Result all = run({"--report", "json", "profile.icc", "meter.csv", "wall.json"});
+    QVERIFY2(all.exitCode == 0, all.error);
+    const QJsonObject report = QJsonDocument::fromJson(all.output).object();
+    for (const char *part : {"declared", "original", "measured", "target"}) {
+        QVERIFY2(report.contains(part), part);
+    }
+    write("grey.icc", gamutfiles::greyProfile());
+    const Result grey = run({"wall.json", "grey.icc", "--render", "chart.png"});
+    QCOMPARE(grey.error, QByteArray("gamutviewer: grey.icc: has no primaries: it is a grey profile\n"));
+    QCOMPARE(grey.exitCode, 2);
+    QVERIFY(!entries().contains("chart.png"));
+}
+
+void GamutViewerTest::namesTheLineOfASyntaxError()
+{
+    write("wall.json", "{\n  \"version\": 1,\n}");
+    const Result result = run({"wall.json", "--report", "json"});
+    QVERIFY2(isOneLine(result.error), result.error);
+    QVERIFY2(result.error.startsWith("gamutviewer: wall.json:3:"), result.error);
+    QCOMPARE(result.exitCode, 2);
+    QCOMPARE(result.output, QByteArray());
+}
+
+void GamutViewerTest::rendersInTheSizeAskedFor_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("wide") << QSize(640, 360);
+    QTest::newRow("odd") << QSize(333, 511);
+    QTest::newRow("smallest") << QSize(1, 1);
+    QTest::newRow("longest") << QSize(8192, 3);
+}
+
+void GamutViewerTest::rendersInTheSizeAskedFor()
+{
+    QFETCH(QSize, size);
+    const QString text = QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+    const Result result = run({"--size", text, SAMPLE_FILE, "--render", "chart"});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    const QImage picture = pictureInFile(path("chart"));
+    QCOMPARE(picture.size(), size);
+    if (size != QSize(1, 1)) { // whose mapping depends on what was drawn before
+        QCOMPARE(reference::firstDifference(picture, expectedchart::draw(size)), QString());
+    }
+}
+
+void GamutViewerTest::rendersAGivenDescription()
+{
+    write("wall.json", minimal);
+    const Result result = run({"wall.json", "--render", "chart.png", "--size", "200x200"});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    const QImage picture = pictureInFile(path("chart.png"));
+    QCOMPARE(picture.size(), QSize(200, 200));
+    QVERIFY(picture != expectedchart::draw(QSize(200, 200)));
+}
+
+void GamutViewerTest::rendersWhateverThePlatformIsSaidToBe()
+{
+    QProcessEnvironment environment = bare();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":9999"));
+    environment.insert(QStringLiteral("QT_QPA_PLATFORMTHEME"), QStringLiteral("gtk3"));
+    const Result result = run({"--render", "chart.png"}, environment);
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(!pictureInFile(path("chart.png")).isNull());
+}
+
+void GamutViewerTest::readsFromAPipe()
+{
+#ifdef Q_OS_UNIX
+    QCOMPARE(run({"/dev/stdin", "--render", "chart.png"}, minimal).exitCode, 0);
+    const Result result = run({"/dev/stdin", "--render", "other.png"}, "{\n 1}");
+    QCOMPARE(result.exitCode, 2);
+    QVERIFY2(isOneLine(result.error), result.error);
+    QVERIFY2(result.error.startsWith("gamutviewer: /dev/stdin:2:"), result.error);
+    QCOMPARE(entries(), QStringList("chart.png"));
+#endif
+}
+
+void GamutViewerTest::replacesAPicture()
+{
+    write("chart.png", QByteArray(1000000, 'x'));
+    QCOMPARE(run({"--render", "chart.png", "--size", "20x30"}).exitCode, 0);
+    QCOMPARE(pictureInFile(path("chart.png")).size(), QSize(20, 30));
+    QVERIFY(QFileInfo(path("chart.png")).size() < 10000);
+    QCOMPARE(entries(), QStringList("chart.png"));
+}
+
+void GamutViewerTest::keepsAPictureWhenTheDescriptionIsWrong()
+{
+    write("chart.png", "as it was");
+    write("wall.json", "{}");
+    QCOMPARE(run({"wall.json", "--render", "chart.png"}).exitCode, 2);
+    QFile file(path("chart.png"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("as it was"));
+}
+
+void GamutViewerTest::refusesDescriptions_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("message");
+    const auto row = [](const char *name, const QByteArray &text, const char *message) {
+        QTest::newRow(name) << text << QByteArray(message);
+    };
+    const auto change = [&row](const char *name, const char *what, const char *by, const char *message) {
+        row(name, QByteArray(minimal).replace(what, by), message);
+    };
+    row("empty", "", "wall.json: is empty");
+    change("wrong type", "[]", "{}", "wall.json: gamuts: expected an array, found an object");
+    change("unknown key", "version", "versoin", "wall.json: versoin: unknown key");
+    change("missing key", "\"version\": 1, ", "", "wall.json: version: missing");
+    change("unknown gamut", "Rec.709", "Rec.\\n709", "wall.json: target: no gamut is named \"Rec.\\u000a709\"");
+    row("huge", '{' + QByteArray(16 * 1024 * 1024, ' '),
+        "wall.json: is larger than 16384 KiB: not a display description");
+}
+
+void GamutViewerTest::refusesDescriptions()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, message);
+    write("wall.json", text);
+    const Result result = run({"wall.json", "--render", "chart.png"});
+    QCOMPARE(result.error, "gamutviewer: " + message + '\n');
+    QCOMPARE(result.output, QByteArray());
+    QCOMPARE(result.exitCode, 2);
+    QCOMPARE(entries(), QStringList("wall.json"));
+}
+
+void GamutViewerTest::refusesArguments_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("message");
+    QTest::newRow("unknown option") << QStringList{"--bogus"} << QByteArray("Unknown option 'bogus'.");
+    QTest::newRow("bad size") << QStringList{"--size", "12"} << QByteArray("Not a size from 1x1 to 8192x8192: 12");
+    QTest::newRow("negative size") << QStringList{"--size=-1x5"}
+                                   << QByteArray("Not a size from 1x1 to 8192x8192: -1x5");
+    QTest::newRow("two descriptions") << QStringList{
+        SAMPLE_FILE, SAMPLE_FILE} << QByteArray(SAMPLE_FILE ": is a second display description, after " SAMPLE_FILE);
+    QTest::newRow("missing file") << QStringList{"no.json"}
+                                  << QByteArray("no.json: cannot be read: No such file or directory");
+    QTest::newRow("folder") << QStringList{"."} << QByteArray(".: is a folder");
+}
+
+void GamutViewerTest::refusesArguments()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, message);
+    for (const QStringList &rendering : {QStringList(), QStringList{"--render", "chart.png"}}) {
+        const Result result = run(arguments + rendering);
+        QCOMPARE(result.error, "gamutviewer: " + message + '\n');
+        QCOMPARE(result.output, QByteArray());
+        QCOMPARE(result.exitCode, 2);
+        QVERIFY(entries().isEmpty());
+    }
+}
+
+void GamutViewerTest::cannotWrite_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("no such folder") << "no/chart.png";
+    QTest::newRow("a folder") << ".";
+    QTest::newRow("below a file") << QStringLiteral(GAMUTVIEWER_PROGRAM) + QStringLiteral("/chart.png");
+#ifdef Q_OS_LINUX
+    QTest::newRow("full device") << "/dev/full";
+#endif
+}
+
+void GamutViewerTest::cannotWrite()
+{
+    QFETCH(QString, name);
+    const Result result = run({"--render", name, "--size", "50x50"});
+    QVERIFY2(isOneLine(result.error), result.error);
+    QVERIFY2(result.error.startsWith(("gamutviewer: " + name + ": cannot be written: ").toLocal8Bit()), result.error);
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY(entries().isEmpty());
+}
+
+void GamutViewerTest::leavesNothingOfAPictureThatDoesNotFit()
+{
+#ifdef Q_OS_UNIX
+    // A limit on the size of files stands in for a full disk.
+    const QString script = QStringLiteral("trap '' XFSZ; ulimit -f 8; exec \"$0\" --render chart.png");
+    const Result result = run({"-c", script, GAMUTVIEWER_PROGRAM}, bare(), {}, QStringLiteral("/bin/sh"));
+    QVERIFY2(isOneLine(result.error), result.error);
+    QVERIFY2(result.error.startsWith("gamutviewer: chart.png: cannot be written: "), result.error);
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(entries().isEmpty(), qPrintable(entries().join(QLatin1Char(' '))));
+#endif
+}
+
+void GamutViewerTest::writesToAPipe()
+{
+#ifdef Q_OS_UNIX
+    const Result result = run({"--render", "/dev/stdout", "--size", "300x200"});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(reference::firstDifference(pictureIn(result.output), expectedchart::draw(QSize(300, 200))), QString());
+#endif
+}
+
+void GamutViewerTest::helpAndVersion()
+{
+    const Result help = run({"--help"});
+    QCOMPARE(help.exitCode, 0);
+    QCOMPARE(help.error, QByteArray());
+    for (const char *part : {"Usage: ", "--render <file>", "--size <width>x<height>", "--dpr <ratio>",
+             "--report <format>", "--version", "Exit status: 0 done, 1 ", "file"}) {
+        QVERIFY2(help.output.contains(part), part);
+    }
+    const Result version = run({"--version"});
+    QCOMPARE(version.exitCode, 0);
+    QCOMPARE(version.error, QByteArray());
+    QCOMPARE(version.output, QByteArray("gamutviewer " GAMUTVIEWER_VERSION "\n"));
+}
+
+void GamutViewerTest::saysThatThereIsNoDisplay()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    const Result result = run({});
+    QCOMPARE(result.error,
+        QByteArray("gamutviewer: there is no display for a window; --render writes a picture file and "
+                   "--report prints a report\n"));
+    QCOMPARE(result.exitCode, 1);
+#endif
+}
+
+void GamutViewerTest::wrongDescriptionComesBeforeTheDisplay()
+{
+    write("wall.json", "[]");
+    const Result result = run({"wall.json"});
+    QCOMPARE(result.error, QByteArray("gamutviewer: wall.json: expected an object, found an array\n"));
+    QCOMPARE(result.exitCode, 2);
+}
+
+void GamutViewerTest::showsAWindow()
+{
+    QProcess process;
+    QProcessEnvironment environment = bare();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(GAMUTVIEWER_PROGRAM), {SAMPLE_FILE});
+    QVERIFY(process.waitForStarted());
+    // It stays until its window is closed, which nobody does here.
+    QVERIFY(!process.waitForFinished(1500));
+    process.kill();
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+}
+
+void GamutViewerTest::installedSampleIsFound()
+{
+    // A copy of the program without the samples folder of the build tree beside it.
+    QDir folder(m_folder->path());
+    QVERIFY(folder.mkpath(QStringLiteral("bin")));
+    const QString program = path("bin/gamutviewer");
+    QVERIFY(QFile::copy(QStringLiteral(GAMUTVIEWER_PROGRAM), program));
+    Result result = run({"--render", "chart.png"}, bare(), {}, program);
+    QCOMPARE(result.exitCode, 2);
+    QVERIFY2(isOneLine(result.error), result.error);
+    QVERIFY2(result.error.contains("share/ceiechart/samples/led-wall.json: cannot be read"), result.error);
+
+    QVERIFY(folder.mkpath(QStringLiteral("share/ceiechart/samples")));
+    QVERIFY(QFile::copy(QStringLiteral(SAMPLE_FILE), path("share/ceiechart/samples/led-wall.json")));
+    result = run({"--render", "chart.png"}, bare(), {}, program);
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+}
+
+QTEST_MAIN(GamutViewerTest)
+#include "gamutviewertest.moc"

@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: MIT
+#include <gamutviewer/chromaticity.h>
+#include <gamutviewer/targetedits.h>
+
+#include <colortemperature/colortemperature.h>
+
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace gamutviewer;
+
+class TargetEditsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void movedPrimaryMixesAnotherWhite();
+    void heldWhiteIsLoweredInSteps();
+    void heldWhiteOfTheOriginalStays();
+    void movedWhiteRebalancesThePrimaries();
+    void whiteOutsideTheTriangleIsRefused();
+    void badChromaticitiesAreRefused_data();
+    void badChromaticitiesAreRefused();
+    void luminanceOfAPrimaryMixesAnotherWhite();
+    void luminanceOfTheWhiteScalesAll();
+    void luminanceScalesAllWhileTheWhiteIsHeld();
+    void editOfANamedGamutSaysSo();
+    void secondEditKeepsTheName();
+    void resetTakesTheEditedGamutAway();
+    void resetKeepsAnEditedGamutThatIsReferredTo();
+    void nearestTakesTheNearestInReach();
+    void roundsToFourDecimals();
+    void diagramsConvertThereAndBack();
+};
+
+namespace {
+
+Model::Targets wall()
+{
+    return {Model::Target::fromYxy(240, 0.700, 0.299), Model::Target::fromYxy(634, 0.189, 0.718),
+        Model::Target::fromYxy(126, 0.133, 0.075), Model::Target::fromYxy(1000, 0.2829, 0.2971)};
+}
+
+QPointF mixture(const Model::Targets &t)
+{
+    double Y = 0.0;
+    double x = 0.0;
+    double y = 0.0;
+    RGBCxCyToWhiteCxCy(
+        t.red.Y, t.red.x, t.red.y, t.green.Y, t.green.x, t.green.y, t.blue.Y, t.blue.x, t.blue.y, &Y, &x, &y);
+    return QPointF(x, y);
+}
+
+bool near(const QPointF &a, const QPointF &b, double tolerance = 1e-9)
+{
+    return std::hypot(a.x() - b.x(), a.y() - b.y()) < tolerance;
+}
+
+} // namespace
+
+void TargetEditsTest::movedPrimaryMixesAnotherWhite()
+{
+    const Model::Targets before = Model::rec709().getTargets();
+    const auto after = withPrimary(before, Vertex::Red, QPointF(0.66, 0.32), false, wall());
+    QVERIFY(after);
+    QVERIFY(near(xyOf(after->red), QPointF(0.66, 0.32)));
+    QCOMPARE(after->red.Y, before.red.Y);
+    QVERIFY(near(xyOf(after->white), mixture(*after)));
+    QVERIFY(!near(xyOf(after->white), xyOf(before.white), 1e-4));
+    QCOMPARE(after->white.Y, before.red.Y + before.green.Y + before.blue.Y);
+}
+
+void TargetEditsTest::heldWhiteIsLoweredInSteps()
+{
+    const Model::Targets before = Model::rec709().getTargets();
+    const auto after = withPrimary(before, Vertex::Red, QPointF(0.66, 0.32), true, wall());
+    QVERIFY(after);
+    QCOMPARE(after->white.x, before.white.x);
+    QCOMPARE(after->white.y, before.white.y);
+    // 1000 less a number of whole steps; one step more and a primary would exceed the original's.
+    const double steps = (1000.0 - after->white.Y) / 10.0;
+    QCOMPARE(steps, std::round(steps));
+    QVERIFY(steps > 0);
+    QVERIFY(after->red.Y <= 240 && after->green.Y <= 634 && after->blue.Y <= 126);
+    const double scale = (after->white.Y + 10.0) / after->white.Y;
+    QVERIFY(after->red.Y * scale > 240 || after->green.Y * scale > 634 || after->blue.Y * scale > 126);
+    QVERIFY(near(mixture(*after), xyOf(after->white)));
+}
+
+void TargetEditsTest::heldWhiteOfTheOriginalStays()
+{
+    Model::Targets original = wall();
+    original.white = Model::Target::fromYxy(1000, mixture(original).x(), mixture(original).y());
+    const auto after = withPrimary(original, Vertex::Red, xyOf(original.red), true, original);
+    QVERIFY(after);
+    QCOMPARE(after->white.Y, 1000.0);
+    QVERIFY(std::fabs(after->red.Y - 240) < 1e-6);
+}
+
+void TargetEditsTest::movedWhiteRebalancesThePrimaries()
+{
+    const Model::Targets before = Model::rec709().getTargets();
+    const auto after = withWhite(before, QPointF(0.30, 0.31));
+    QVERIFY(after);
+    QVERIFY(near(mixture(*after), QPointF(0.30, 0.31)));
+    QCOMPARE(after->white.Y, before.white.Y);
+    QVERIFY(after->blue.Y > before.blue.Y);
+    QVERIFY(near(xyOf(after->red), xyOf(before.red)));
+}
+
+void TargetEditsTest::whiteOutsideTheTriangleIsRefused()
+{
+    QVERIFY(!withWhite(Model::rec709().getTargets(), QPointF(0.6, 0.39)));
+    QVERIFY(!withPrimary(Model::rec709().getTargets(), Vertex::Green, QPointF(0.5, 0.2), true, wall()));
+}
+
+void TargetEditsTest::badChromaticitiesAreRefused_data()
+{
+    QTest::addColumn<QPointF>("xy");
+    QTest::newRow("y 0") << QPointF(0.3, 0.0);
+    QTest::newRow("negative x") << QPointF(-0.01, 0.3);
+    QTest::newRow("sum above 1") << QPointF(0.6, 0.41);
+    QTest::newRow("NaN") << QPointF(std::numeric_limits<double>::quiet_NaN(), 0.3);
+    QTest::newRow("infinite") << QPointF(0.3, std::numeric_limits<double>::infinity());
+}
+
+void TargetEditsTest::badChromaticitiesAreRefused()
+{
+    QFETCH(QPointF, xy);
+    QVERIFY(!withPrimary(wall(), Vertex::Red, xy, false, wall()));
+    QVERIFY(!withWhite(wall(), xy));
+}
+
+void TargetEditsTest::luminanceOfAPrimaryMixesAnotherWhite()
+{
+    const auto after = withLuminance(wall(), Vertex::Blue, 200, false);
+    QVERIFY(after);
+    QCOMPARE(after->blue.Y, 200.0);
+    QCOMPARE(after->red.Y, 240.0);
+    QCOMPARE(after->white.Y, 1074.0);
+    QVERIFY(near(xyOf(after->white), mixture(*after)));
+    QVERIFY(!withLuminance(wall(), Vertex::Blue, -1, false));
+    QVERIFY(!withLuminance(wall(), Vertex::Blue, std::numeric_limits<double>::infinity(), false));
+}
+
+void TargetEditsTest::luminanceOfTheWhiteScalesAll()
+{
+    const auto after = withLuminance(wall(), Vertex::White, 500, false);
+    QVERIFY(after);
+    QCOMPARE(after->white.Y, 500.0);
+    QCOMPARE(after->red.Y, 120.0);
+    QCOMPARE(after->green.Y, 317.0);
+    QCOMPARE(after->white.x, wall().white.x);
+}
+
+void TargetEditsTest::luminanceScalesAllWhileTheWhiteIsHeld()
+{
+    const auto after = withLuminance(wall(), Vertex::Red, 120, true);
+    QVERIFY(after);
+    QCOMPARE(after->green.Y, 317.0);
+    QCOMPARE(after->white.Y, 500.0);
+    QVERIFY(!withLuminance(Model::Targets(), Vertex::White, 1, false));
+}
+
+void TargetEditsTest::editOfANamedGamutSaysSo()
+{
+    DisplayDescription description;
+    description.target = QStringLiteral("Rec.709");
+    const DisplayDescription edited = withEditedTarget(description, wall());
+    QCOMPARE(edited.target, QStringLiteral("Rec.709 (edited)"));
+    QVERIFY(isEditedName(edited.target));
+    QCOMPARE(plainName(edited.target), QStringLiteral("Rec.709"));
+    QVERIFY(sameTargets(edited.gamut(edited.target)->getTargets(), wall()));
+    QVERIFY(sameTargets(edited.gamut(QStringLiteral("Rec.709"))->getTargets(), Model::rec709().getTargets()));
+}
+
+void TargetEditsTest::secondEditKeepsTheName()
+{
+    DisplayDescription description;
+    description.target = QStringLiteral("Rec.709");
+    description = withEditedTarget(description, wall());
+    description = withEditedTarget(description, Model::rec2020().getTargets());
+    QCOMPARE(description.target, QStringLiteral("Rec.709 (edited)"));
+    QCOMPARE(description.gamuts.size(), size_t(1));
+    QVERIFY(sameTargets(description.gamut(description.target)->getTargets(), Model::rec2020().getTargets()));
+}
+
+void TargetEditsTest::resetTakesTheEditedGamutAway()
+{
+    DisplayDescription description;
+    description.target = QStringLiteral("Rec.709");
+    description = withTargetNamed(withEditedTarget(description, wall()), QStringLiteral("Rec.2020"));
+    QCOMPARE(description.target, QStringLiteral("Rec.2020"));
+    QVERIFY(description.gamuts.empty());
+}
+
+void TargetEditsTest::resetKeepsAnEditedGamutThatIsReferredTo()
+{
+    DisplayDescription description;
+    description.target = QStringLiteral("Rec.709");
+    description = withEditedTarget(description, wall());
+    description.measured = description.target;
+    description = withTargetNamed(description, QStringLiteral("Rec.2020"));
+    QCOMPARE(description.gamuts.size(), size_t(1));
+}
+
+void TargetEditsTest::nearestTakesTheNearestInReach()
+{
+    const QVector<QPointF> candidates{QPointF(0.64, 0.33), QPointF(0.68, 0.32)};
+    QCOMPARE(nearest(QPointF(0.642, 0.33), candidates, 0.01)->x(), 0.64);
+    QCOMPARE(nearest(QPointF(0.675, 0.32), candidates, 0.1)->x(), 0.68);
+    QVERIFY(!nearest(QPointF(0.66, 0.33), candidates, 0.01));
+}
+
+void TargetEditsTest::roundsToFourDecimals()
+{
+    const QPointF rounded = roundedXy(QPointF(0.64004999, 0.32995001));
+    QCOMPARE(rounded.x(), 0.64);
+    QCOMPARE(rounded.y(), 0.33);
+}
+
+void TargetEditsTest::diagramsConvertThereAndBack()
+{
+    // D65: u' = 0.1978, v' = 0.4683
+    const QPointF uv = uvFromXy(QPointF(0.3127, 0.3290));
+    QVERIFY(near(uv, QPointF(0.1978, 0.4683), 1e-4));
+    QVERIFY(near(xyFromUv(uv), QPointF(0.3127, 0.3290), 1e-12));
+}
+
+QTEST_GUILESS_MAIN(TargetEditsTest)
+#include "targeteditstest.moc"

@@ -1,0 +1,520 @@
+// SPDX-License-Identifier: MIT
+#include "windowfixture.h"
+
+#include <gamutviewer/chartpage.h>
+#include <gamutviewer/chartscene.h>
+#include <gamutviewer/comparepage.h>
+#include <gamutviewer/descriptionreader.h>
+#include <gamutviewer/descriptionwriter.h>
+#include <gamutviewer/groupedtable.h>
+#include <gamutviewer/interfacetranslations.h>
+#include <gamutviewer/lenspage.h>
+#include <gamutviewer/lenswidget.h>
+#include <gamutviewer/recentfiles.h>
+#include <gamutviewer/sidepanel.h>
+#include <gamutviewer/targeteditor.h>
+#include <gamutviewer/targetsession.h>
+
+#include <ceiechart/widgets/ceiegraphicsview.h>
+
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <QtTest>
+
+using namespace gamutviewer;
+
+class ViewerWindowTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void titleNamesTheDisplayAndTheChange();
+    void titleNamesTheFileOfANamelessDisplay();
+    void closesByKeyboard();
+    void closeAsksBeforeChangesAreLost();
+    void savedFileReadsBackTheSame();
+    void saveThatFailsSaysSo();
+    void exportsEveryFormat();
+    void copiesTheChart();
+    void badFileLeavesWhatWasOpen_data();
+    void badFileLeavesWhatWasOpen();
+    void droppedFileIsOpened();
+    void addedMeasurementsCanBeUndone();
+    void openAsksBeforeChangesAreLost();
+    void recentFilesAreRemembered();
+    void geometryAndPageAreRemembered();
+    void pagesByKeyboard();
+    void everySwitchChangesTheChart_data();
+    void everySwitchChangesTheChart();
+    void chartFollowsTheSizeOfTheWindow();
+    void legendMoves();
+    void pointerIsReadOut();
+    void lensFollowsAndZooms();
+    void comparePageTellsWhatIsLost();
+    void fitsASmallScreen_data();
+    void fitsASmallScreen();
+    void everyFieldHasAName();
+    void everythingIsReachedByTab();
+    void speaksChinese();
+};
+
+namespace {
+
+QString write(const QTemporaryDir &folder, const QString &name, const QByteArray &bytes)
+{
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        return QString();
+    }
+    return file.fileName();
+}
+
+void change(WindowFixture &f)
+{
+    f.window->session()->setChromaticity(Vertex::Red, QPointF(0.66, 0.32));
+}
+
+QByteArray sample()
+{
+    QFile file(QStringLiteral(SAMPLE_FILE));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+void ViewerWindowTest::cleanup()
+{
+    installInterfaceTranslations(QLocale(QLocale::English));
+}
+
+void ViewerWindowTest::titleNamesTheDisplayAndTheChange()
+{
+    WindowFixture f;
+    QCOMPARE(f.window->windowTitle(), QString::fromUtf8("LED wall[*] – Gamut viewer"));
+    QVERIFY(!f.window->isWindowModified());
+    change(f);
+    QVERIFY(f.window->isWindowModified());
+    QTest::keyClick(f.window.get(), Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!f.window->isWindowModified());
+}
+
+void ViewerWindowTest::titleNamesTheFileOfANamelessDisplay()
+{
+    WindowFixture f;
+    DisplayDescription nameless = f.document().description();
+    nameless.name.clear();
+    f.window->setDescription(nameless, QStringLiteral("some/wall.json"));
+    QCOMPARE(f.window->windowTitle(), QString::fromUtf8("wall.json[*] – Gamut viewer"));
+}
+
+void ViewerWindowTest::closesByKeyboard()
+{
+    for (const Qt::Key key : {Qt::Key_W, Qt::Key_Q}) {
+        WindowFixture f;
+        QTest::keyClick(f.window.get(), key, Qt::ControlModifier);
+        QVERIFY(!f.window->isVisible());
+    }
+}
+
+void ViewerWindowTest::closeAsksBeforeChangesAreLost()
+{
+    WindowFixture f;
+    change(f);
+    {
+        const Answer cancel(QMessageBox::Cancel);
+        f.window->close();
+        QVERIFY(!cancel.text().isEmpty());
+        QVERIFY(f.window->isVisible());
+    }
+    const QString file = f.settings.filePath(QStringLiteral("saved.json"));
+    f.document().markSaved(file);
+    f.window->session()->setChromaticity(Vertex::Red, QPointF(0.67, 0.32));
+    {
+        const Answer save(QMessageBox::Save);
+        f.window->close();
+        QVERIFY(!save.text().isEmpty());
+        QVERIFY(!f.window->isVisible());
+        QVERIFY(QFile::exists(file));
+    }
+    f.window->show();
+    f.window->session()->setChromaticity(Vertex::Red, QPointF(0.66, 0.32));
+    const Answer discard(QMessageBox::Discard);
+    f.window->close();
+    QVERIFY(!f.window->isVisible());
+}
+
+void ViewerWindowTest::savedFileReadsBackTheSame()
+{
+    WindowFixture f;
+    change(f);
+    const QString file = f.settings.filePath(QStringLiteral("saved.json"));
+    QVERIFY(f.window->saveTo(file));
+    QVERIFY(!f.window->isWindowModified());
+    QCOMPARE(f.document().fileName(), file);
+    DescriptionReader reader;
+    const auto read = reader.readFile(file);
+    QVERIFY(read);
+    QCOMPARE(read->target, QStringLiteral("DCI-P3(D65) (edited)"));
+    QVERIFY(sameTargets(read->gamut(read->target)->getTargets(), f.document().target()->getTargets()));
+    // Saving again by keyboard needs no name.
+    f.window->session()->setChromaticity(Vertex::Red, QPointF(0.65, 0.32));
+    QTest::keyClick(f.window.get(), Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!f.window->isWindowModified());
+    const auto again = reader.readFile(file);
+    QVERIFY(again);
+    QCOMPARE(again->gamut(again->target)->getTargets().red.x, 0.65);
+}
+
+void ViewerWindowTest::saveThatFailsSaysSo()
+{
+    WindowFixture f;
+    change(f);
+    const Answer answer(QMessageBox::Ok);
+    QVERIFY(!f.window->saveTo(f.settings.filePath(QStringLiteral("no/such/folder/saved.json"))));
+    QVERIFY(answer.text().contains(QLatin1String("saved.json")));
+    QVERIFY(f.window->isWindowModified());
+}
+
+void ViewerWindowTest::exportsEveryFormat()
+{
+    WindowFixture f;
+    ChartExtent extent;
+    extent.size = QSize(300, 200);
+    extent.devicePixelRatio = 2;
+    const QString png = f.settings.filePath(QStringLiteral("chart.png"));
+    QVERIFY(f.window->exportTo(png, extent));
+    QCOMPARE(QImage(png).size(), QSize(600, 400));
+    for (const char *name : {"chart.svg", "chart.pdf"}) {
+        const QString file = f.settings.filePath(QLatin1String(name));
+        QVERIFY(f.window->exportTo(file, extent));
+        QVERIFY(QFileInfo(file).size() > 1000);
+    }
+    const Answer answer(QMessageBox::Ok);
+    QVERIFY(!f.window->exportTo(f.settings.filePath(QStringLiteral("chart.doc")), extent));
+    QVERIFY(answer.text().contains(QLatin1String(".svg")));
+}
+
+void ViewerWindowTest::copiesTheChart()
+{
+    WindowFixture f;
+    QApplication::clipboard()->clear();
+    QTest::keyClick(f.window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    const QImage copied = QApplication::clipboard()->image();
+    QVERIFY(copied.convertToFormat(QImage::Format_RGB32)
+        == chartPicture(chartScene(f.document().description()), ChartExtent()).convertToFormat(QImage::Format_RGB32));
+}
+
+void ViewerWindowTest::badFileLeavesWhatWasOpen_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("broken description") << QByteArray("{ \"version\": 1,");
+    QTest::newRow("nothing known") << QByteArray("\x89nothing\x00", 9);
+    QTest::newRow("empty") << QByteArray();
+}
+
+void ViewerWindowTest::badFileLeavesWhatWasOpen()
+{
+    QFETCH(QByteArray, bytes);
+    WindowFixture f;
+    change(f);
+    const QString file = write(f.settings, QStringLiteral("bad.json"), bytes);
+    QVERIFY(!file.isEmpty());
+    const Answer answer(QMessageBox::Ok);
+    QVERIFY(!f.window->openPath(file));
+    QVERIFY(answer.text().contains(QLatin1String("bad.json")));
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.66);
+    QVERIFY(f.window->isWindowModified());
+    QVERIFY(!RecentFiles::list().contains(file));
+}
+
+void ViewerWindowTest::droppedFileIsOpened()
+{
+    WindowFixture f;
+    const QString file
+        = write(f.settings, QStringLiteral("other.json"), sample().replace("\"DCI-P3(D65)\",", "\"Rec.709\","));
+    QVERIFY(!file.isEmpty());
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(file)});
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(f.window.get(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(f.window.get(), &drop);
+    QCoreApplication::processEvents();
+    QCOMPARE(f.document().fileName(), file);
+    QCOMPARE(f.document().description().target, QStringLiteral("Rec.709"));
+}
+
+void ViewerWindowTest::addedMeasurementsCanBeUndone()
+{
+    WindowFixture f;
+    const QString file = write(f.settings, QStringLiteral("meter.csv"),
+        "name,Y,x,y\nred,190,0.69,0.30\ngreen,600,0.2,0.7\nblue,120,0.14,0.08\nwhite,910,0.28,0.30\n");
+    QVERIFY(f.window->openPath(file));
+    QCOMPARE(f.document().measured()->getTargets().red.x, 0.69);
+    QVERIFY(f.window->isWindowModified());
+    QTest::keyClick(f.window.get(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(f.document().measured()->getTargets().red.x, 0.7031);
+}
+
+void ViewerWindowTest::openAsksBeforeChangesAreLost()
+{
+    WindowFixture f;
+    change(f);
+    const Answer cancel(QMessageBox::Cancel);
+    QVERIFY(!f.window->openPath(QStringLiteral(SAMPLE_FILE)));
+    QVERIFY(!cancel.text().isEmpty());
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.66);
+}
+
+void ViewerWindowTest::recentFilesAreRemembered()
+{
+    WindowFixture f;
+    QVERIFY(RecentFiles::list().isEmpty());
+    QVERIFY(f.window->openPath(QStringLiteral(SAMPLE_FILE)));
+    QCOMPARE(RecentFiles::list(), QStringList(QFileInfo(QStringLiteral(SAMPLE_FILE)).absoluteFilePath()));
+    for (int i = 0; i < 12; ++i) {
+        RecentFiles::add(f.settings.filePath(QString::number(i)));
+    }
+    QCOMPARE(RecentFiles::list().size(), RecentFiles::most);
+    QVERIFY(RecentFiles::list().first().endsWith(QLatin1String("11")));
+    RecentFiles::clear();
+    QVERIFY(RecentFiles::list().isEmpty());
+}
+
+void ViewerWindowTest::geometryAndPageAreRemembered()
+{
+    QTemporaryDir settings;
+    WindowFixture::useSettings(settings.path());
+    QSize size;
+    {
+        ViewerWindow window;
+        window.resize(1100, 790);
+        window.show();
+        window.pages()->setCurrentIndex(3);
+        size = window.size();
+        window.close();
+    }
+    ViewerWindow window;
+    window.show();
+    QCOMPARE(window.size(), size);
+    QCOMPARE(window.pages()->currentIndex(), 3);
+}
+
+void ViewerWindowTest::pagesByKeyboard()
+{
+    WindowFixture f;
+    for (int page = 4; page >= 0; --page) {
+        QTest::keyClick(f.window.get(), Qt::Key(Qt::Key_1 + page), Qt::ControlModifier);
+        QCOMPARE(f.window->pages()->currentIndex(), page);
+    }
+}
+
+void ViewerWindowTest::everySwitchChangesTheChart_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < 7; ++i) {
+        QTest::newRow(QByteArray::number(i).constData()) << i;
+    }
+}
+
+void ViewerWindowTest::everySwitchChangesTheChart()
+{
+    QFETCH(int, index);
+    WindowFixture f;
+    f.show(f.window->chartPage());
+    const QList<QCheckBox *> switches = f.window->chartPage()->findChildren<QCheckBox *>();
+    QCOMPARE(switches.size(), 7);
+    const auto picture = [&] { return f.window->chartPage()->chart()->view()->grab().toImage(); };
+    const QImage before = picture();
+    QTest::keyClick(switches.at(index), Qt::Key_Space);
+    QVERIFY2(picture() != before, qPrintable(switches.at(index)->text()));
+    QTest::keyClick(switches.at(index), Qt::Key_Space);
+    QVERIFY2(picture() == before, qPrintable(switches.at(index)->text()));
+}
+
+void ViewerWindowTest::chartFollowsTheSizeOfTheWindow()
+{
+    WindowFixture f;
+    f.show(f.window->chartPage());
+    const int before = f.window->chartPage()->chart()->view()->height();
+    f.window->resize(1024, 660);
+    QCoreApplication::processEvents();
+    QVERIFY(f.window->chartPage()->chart()->view()->height() < before);
+    f.window->resize(1024, 768);
+    QCoreApplication::processEvents();
+    QCOMPARE(f.window->chartPage()->chart()->view()->height(), before);
+    f.show(f.window->editPage());
+    const int edit = f.window->editPage()->chart()->imageHeight();
+    f.window->resize(1024, 660);
+    QCoreApplication::processEvents();
+    QVERIFY(f.window->editPage()->chart()->imageHeight() < edit);
+}
+
+void ViewerWindowTest::legendMoves()
+{
+    WindowFixture f;
+    f.show(f.window->chartPage());
+    NewCEIE::CEIEGraphicsView *chart = f.window->chartPage()->chart();
+    QVERIFY(chart->getLegend()->y() >= chart->view()->height());
+    auto *place = f.window->chartPage()->findChild<QComboBox *>();
+    QTest::keyClick(place, Qt::Key_Down);
+    QCoreApplication::processEvents();
+    QVERIFY(chart->getLegend()->x() >= chart->view()->width());
+    QVERIFY(chart->getLegend()->geometry().right() < chart->parentWidget()->width());
+}
+
+void ViewerWindowTest::pointerIsReadOut()
+{
+    WindowFixture f;
+    f.show(f.window->editPage());
+    ChartPointer pointer(f.window->editPage());
+    pointer.move(QPointF(0.3127, 0.3290), Qt::NoButton);
+    QVERIFY2(f.window->readout()->text().contains(QRegularExpression(QStringLiteral("x 0\\.3[012].* K"))),
+        qPrintable(f.window->readout()->text()));
+    pointer.move(QPointF(0.1, 0.8), Qt::NoButton);
+    QVERIFY(!f.window->readout()->text().contains(QLatin1String(" K")));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(f.window->editPage()->chart()->view()->viewport(), &leave);
+    QVERIFY(f.window->readout()->text().isEmpty());
+}
+
+void ViewerWindowTest::lensFollowsAndZooms()
+{
+    WindowFixture f;
+    f.show(f.window->lensPage());
+    LensWidget *lens = f.window->lensPage()->lens();
+    QVERIFY(lens->accessibleDescription().contains(QLatin1String("6504 K")));
+    const QImage before = lens->grab().toImage();
+    f.window->session()->setWhiteTemperature(7000, 0.0);
+    QVERIFY(lens->accessibleDescription().contains(QLatin1String("7000 K, Duv 0.0000")));
+    QVERIFY(lens->grab().toImage() != before);
+    const double reach = lens->reach();
+    lens->setFocus();
+    QTest::keyClick(lens, Qt::Key_Plus);
+    QVERIFY(lens->reach() < reach);
+    QTest::keyClick(lens, Qt::Key_0);
+    QCOMPARE(lens->reach(), reach);
+    // From then on whatever comes is shown.
+    f.window->session()->setWhiteTemperature(3500, 0.0);
+    QVERIFY(lens->reach() > reach);
+}
+
+void ViewerWindowTest::comparePageTellsWhatIsLost()
+{
+    WindowFixture f;
+    f.show(f.window->comparePage());
+    QCOMPARE(f.window->comparePage()->table()->columnCount(), 3);
+    f.window->session()->reset(QStringLiteral("LED wall"));
+    QVERIFY(f.window->comparePage()->loss()->text().contains(QLatin1String(" 0.0 %")));
+    // Both lie inside of Rec.2020: of it Rec.709 gives up 1 - 0.1120 / 0.2119 of the area in x, y.
+    const Model::Targets rec2020 = Model::rec2020().getTargets();
+    QVERIFY(qAbs(lostShare(rec2020, Model::rec709().getTargets(), Model::Diagram::Cie1931) - 0.4711) < 1e-3);
+    QVERIFY(qAbs(lostShare(Model::rec709().getTargets(), rec2020, Model::Diagram::Cie1976)) < 1e-9);
+    QCOMPARE(lostShare(Model::Targets(), rec2020, Model::Diagram::Cie1931), 0.0);
+}
+
+void ViewerWindowTest::fitsASmallScreen_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::newRow("English") << QLocale(QLocale::English);
+    QTest::newRow("Chinese") << QLocale(QLocale::Chinese);
+}
+
+void ViewerWindowTest::fitsASmallScreen()
+{
+    QFETCH(QLocale, locale);
+    installInterfaceTranslations(locale);
+    WindowFixture f;
+    QCOMPARE(f.window->size(), QSize(1024, 768));
+    auto *tables = f.window->panel()->findChild<QTabWidget *>();
+    for (const GroupedTable *table : {f.window->panel()->values(), f.window->panel()->coverage()}) {
+        tables->setCurrentIndex(table == f.window->panel()->values() ? 0 : 1);
+        QCoreApplication::processEvents();
+        QCOMPARE(table->horizontalScrollBar()->maximum(), 0);
+    }
+    for (int page = 0; page < f.window->pages()->count(); ++page) {
+        f.window->pages()->setCurrentIndex(page);
+        QCoreApplication::processEvents();
+        QCOMPARE(f.window->size(), QSize(1024, 768));
+        // No label or button is given less than its text needs.
+        for (QWidget *widget : f.window->findChildren<QWidget *>()) {
+            const bool hasText = qobject_cast<QAbstractButton *>(widget) || qobject_cast<QAbstractSpinBox *>(widget);
+            if (widget->isVisible() && hasText) {
+                QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), widget->metaObject()->className());
+                const QRect place(widget->mapTo(f.window.get(), QPoint()), widget->size());
+                QVERIFY2(f.window->rect().contains(place), widget->metaObject()->className());
+            }
+        }
+    }
+}
+
+void ViewerWindowTest::everyFieldHasAName()
+{
+    WindowFixture f;
+    int fields = 0;
+    for (QWidget *widget : f.window->findChildren<QWidget *>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || widget->focusProxy() || qobject_cast<QTabBar *>(widget)
+            || widget->objectName().startsWith(QLatin1String("qt_"))) {
+            continue;
+        }
+        ++fields;
+        const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY2(
+            interface && (!interface->text(QAccessible::Name).isEmpty() || qobject_cast<QMenuBar *>(widget) || qobject_cast<QTabWidget *>(widget)),
+            widget->metaObject()->className());
+    }
+    QVERIFY(fields > 30);
+}
+
+void ViewerWindowTest::everythingIsReachedByTab()
+{
+    WindowFixture f;
+    f.show(f.window->editPage());
+    QSet<QWidget *> reached;
+    for (int i = 0; i < 60; ++i) {
+        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : f.window.get(), Qt::Key_Tab);
+        reached.insert(QApplication::focusWidget());
+    }
+    TargetEditor *editor = f.window->panel()->editor();
+    QVERIFY(reached.contains(f.window->editPage()->chart()->view()));
+    for (const Vertex vertex : allVertices) {
+        QVERIFY(reached.contains(editor->firstCoordinate(vertex)));
+        QVERIFY(reached.contains(editor->secondCoordinate(vertex)));
+        QVERIFY(reached.contains(editor->luminance(vertex)));
+    }
+    QVERIFY(reached.contains(editor->temperature()));
+    QVERIFY(reached.contains(editor->duv()));
+    QVERIFY(reached.contains(editor->holdWhite()));
+    QVERIFY(reached.contains(editor->snap()));
+}
+
+void ViewerWindowTest::speaksChinese()
+{
+    installInterfaceTranslations(QLocale(QLocale::Chinese, QLocale::China));
+    WindowFixture f;
+    QCOMPARE(f.window->pages()->tabText(1), QString::fromUtf8("编辑目标"));
+    QCOMPARE(f.window->windowTitle(), QString::fromUtf8("LED wall[*] – 色域查看器"));
+    change(f);
+    const auto says = [&](const char *text) {
+        const QList<QLabel *> labels = f.window->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+            [&](const QLabel *label) { return label->text() == QString::fromUtf8(text); });
+    };
+    QVERIFY(says("DCI-P3(D65)（已修改）"));
+    QVERIFY(says("原始色域")); // the chart's own legend
+    // What is saved does not depend on the language.
+    QCOMPARE(f.document().description().target, QStringLiteral("DCI-P3(D65) (edited)"));
+}
+
+QTEST_MAIN(ViewerWindowTest)
+#include "viewerwindowtest.moc"

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#ifndef TESTS_APPS_WINDOWFIXTURE_H
+#define TESTS_APPS_WINDOWFIXTURE_H
+
+#include <gamutviewer/document.h>
+#include <gamutviewer/editpage.h>
+#include <gamutviewer/openfile.h>
+#include <gamutviewer/targetedits.h>
+#include <gamutviewer/viewerwindow.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+/*! A window on the sample, with settings of its own. */
+struct WindowFixture {
+    WindowFixture()
+    {
+        useSettings(settings.path());
+        window = std::make_unique<gamutviewer::ViewerWindow>();
+        const auto sample = gamutviewer::openFile(QStringLiteral(SAMPLE_FILE));
+        if (sample) {
+            window->setDescription(sample->description, QString());
+        }
+        window->resize(1024, 768);
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        if (!QTest::qWaitForWindowActive(window.get())) {
+            qFatal("the window does not become active");
+        }
+    }
+
+    static void useSettings(const QString &folder)
+    {
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+    }
+
+    gamutviewer::Document &document() { return *window->document(); }
+    QPointF xy(gamutviewer::Vertex vertex)
+    {
+        return gamutviewer::xyOf(gamutviewer::targetAt(document().target()->getTargets(), vertex));
+    }
+    void show(QWidget *page)
+    {
+        window->pages()->setCurrentWidget(page);
+        QCoreApplication::processEvents();
+    }
+
+    QTemporaryDir settings;
+    std::unique_ptr<gamutviewer::ViewerWindow> window;
+};
+
+/*! Answers the next message box with \a button, and keeps its text. */
+class Answer : public QObject {
+public:
+    explicit Answer(QMessageBox::StandardButton button)
+        : m_button(button)
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (box && m_text.isEmpty()) {
+                m_text = box->text();
+                QTest::mouseClick(box->button(m_button), Qt::LeftButton);
+            }
+        });
+        m_timer.start(1);
+    }
+
+    /*! Empty when no box came up. */
+    QString text() const { return m_text; }
+
+private:
+    QMessageBox::StandardButton m_button;
+    QString m_text;
+    QTimer m_timer;
+};
+
+/*! The pointer on a chart of an edit page. */
+class ChartPointer {
+public:
+    explicit ChartPointer(gamutviewer::EditPage *page)
+        : m_page(page)
+        , m_viewport(page->chart()->view()->viewport())
+    {
+    }
+
+    void press(const QPointF &xy) { QTest::mousePress(m_viewport, Qt::LeftButton, Qt::NoModifier, at(xy)); }
+    // QTest::mouseMove() tells of no button held.
+    void move(const QPointF &xy, Qt::MouseButtons buttons = Qt::LeftButton)
+    {
+        const QPoint position = at(xy);
+        QMouseEvent event(
+            QEvent::MouseMove, position, m_viewport->mapToGlobal(position), Qt::NoButton, buttons, Qt::NoModifier);
+        QApplication::sendEvent(m_viewport, &event);
+    }
+    void release(const QPointF &xy) { QTest::mouseRelease(m_viewport, Qt::LeftButton, Qt::NoModifier, at(xy)); }
+    void drag(const QPointF &from, const QPointF &to)
+    {
+        press(from);
+        move((from + to) / 2);
+        move(to);
+        release(to);
+    }
+
+private:
+    QPoint at(const QPointF &xy) const { return m_page->viewportPosition(xy); }
+
+    gamutviewer::EditPage *m_page;
+    QWidget *m_viewport;
+};
+
+#endif
