@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-# The CMake package that hosts find with find_package(CeieChart).
+# What hosts find the library with: the CMake package CeieChart and the pkg-config modules ceiechart, colortemperature
+# and gamutmodel. Neither knows where it is installed: an installed tree may be moved.
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/CeieChart)
@@ -9,3 +10,53 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/CeieChartConfigVersion.cm
 install(FILES ${PROJECT_BINARY_DIR}/CeieChartConfig.cmake ${PROJECT_BINARY_DIR}/CeieChartConfigVersion.cmake
     DESTINATION ${package_dir} COMPONENT dev)
 install(EXPORT CeieChartTargets NAMESPACE CeieChart:: DESTINATION ${package_dir} COMPONENT dev)
+
+set(version_header ${PROJECT_BINARY_DIR}/include/ceiechart/ceiechart_version.h)
+configure_file(${PROJECT_SOURCE_DIR}/cmake/ceiechart_version.h.in ${version_header} @ONLY)
+install(FILES ${version_header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ceiechart COMPONENT dev)
+
+set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH prefix_from_pkgconfig /${pkgconfig_dir} /)
+string(REGEX REPLACE "/$" "" prefix_from_pkgconfig "${prefix_from_pkgconfig}")
+set(colortemperature_libs "-L\${libdir} -lcolortemperature")
+if(CEIECHART_COLORTEMPERATURE_LIBRARY)
+    # Only the header is ours.
+    set(colortemperature_cflags " -DCOLORTEMPERATURE_STATIC_DEFINE")
+    if(IS_ABSOLUTE "${CEIECHART_COLORTEMPERATURE_LIBRARY}")
+        set(colortemperature_libs "${CEIECHART_COLORTEMPERATURE_LIBRARY}")
+    elseif(TARGET "${CEIECHART_COLORTEMPERATURE_LIBRARY}")
+        set(colortemperature_libs "")
+    else()
+        set(colortemperature_libs "-l${CEIECHART_COLORTEMPERATURE_LIBRARY}")
+    endif()
+endif()
+if(NOT BUILD_SHARED_LIBS)
+    set(ceiechart_cflags " -DCEIECHART_STATIC_DEFINE")
+    set(colortemperature_cflags " -DCOLORTEMPERATURE_STATIC_DEFINE")
+    set(gamutmodel_cflags " -DGAMUTMODEL_STATIC_DEFINE")
+    # What a linker has to be told when it is not the one of the C++ compiler.
+    list(TRANSFORM CMAKE_CXX_IMPLICIT_LINK_LIBRARIES PREPEND "-l" OUTPUT_VARIABLE cxx_libs)
+    list(FILTER cxx_libs INCLUDE REGEX "^-l(stdc\\+\\+|c\\+\\+|m)$")
+    list(REMOVE_DUPLICATES cxx_libs)
+    list(JOIN cxx_libs " " cxx_libs)
+endif()
+foreach(module ceiechart colortemperature gamutmodel)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/${module}.pc.in ${PROJECT_BINARY_DIR}/pkgconfig/${module}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${module}.pc DESTINATION ${pkgconfig_dir} COMPONENT dev)
+endforeach()
+
+# The documents, and the examples that they point to.
+set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/libceiechart-dev)
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md LICENSE DESTINATION ${doc_dir} COMPONENT dev)
+install(DIRECTORY docs examples DESTINATION ${doc_dir} COMPONENT dev
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.svg" PATTERN "main.cpp" PATTERN "CMakeLists.txt"
+    PATTERN "screenshots" EXCLUDE)
+
+if(CEIECHART_BUILD_APPS)
+    install(FILES packaging/gamutviewer.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT viewer)
+    install(FILES packaging/gamutviewer.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT viewer)
+    install(FILES packaging/gamutviewer.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT viewer)
+endif()
+
+include(CeieChartDebian)

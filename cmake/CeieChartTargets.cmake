@@ -62,6 +62,12 @@ endfunction()
 function(ceiechart_library target)
     add_library(CeieChart::${target} ALIAS ${target})
     set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL SHARED_LIBRARY AND UNIX AND NOT APPLE)
+        set(map ${PROJECT_SOURCE_DIR}/cmake/hidden-symbols.map)
+        target_link_options(${target} PRIVATE LINKER:--version-script=${map})
+        set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${map})
+    endif()
     install(TARGETS ${target} EXPORT CeieChartTargets
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev

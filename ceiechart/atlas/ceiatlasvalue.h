@@ -28,14 +28,14 @@ class CEIECHART_EXPORT CEIAtlasValue : public QObject {
 public:
     /*! \brief Chromaticities (x, y) of three primaries and a white point, in single precision. */
     struct TColorSystem {
-        float xRed = 0.0F;
-        float yRed = 0.0F;
-        float xGreen = 0.0F;
-        float yGreen = 0.0F;
-        float xBlue = 0.0F;
-        float yBlue = 0.0F;
-        float xWhite = 0.0F;
-        float yWhite = 0.0F;
+        float xRed = 0.0F; //!< x of the red primary
+        float yRed = 0.0F; //!< y of the red primary
+        float xGreen = 0.0F; //!< x of the green primary
+        float yGreen = 0.0F; //!< y of the green primary
+        float xBlue = 0.0F; //!< x of the blue primary
+        float yBlue = 0.0F; //!< y of the blue primary
+        float xWhite = 0.0F; //!< x of the white point
+        float yWhite = 0.0F; //!< y of the white point
     };
 
     /*!
@@ -46,17 +46,17 @@ public:
     class CEIAtlasCoordinate {
     public:
         int waveLength = 0; //!< nanometres
-        double X = 0.0;
-        double Y = 0.0;
-        double Z = 0.0;
+        double X = 0.0; //!< x̄(λ)
+        double Y = 0.0; //!< ȳ(λ)
+        double Z = 0.0; //!< z̄(λ)
     };
 
     /*! \brief Chromaticity of a black body, to three decimals. */
     class CEITemperatureCoordinate {
     public:
         int colorTemperature = 0; //!< kelvin
-        double x = 0.0;
-        double y = 0.0;
+        double x = 0.0; //!< CIE 1931 x
+        double y = 0.0; //!< CIE 1931 y
     };
 
     /*! \brief Fills all tables. */

@@ -26,24 +26,30 @@ public:
     ColorTriangleObject();
     /*! \brief Copies all fields; the copy's points have no parent object. */
     ColorTriangleObject(const ColorTriangleObject &other);
+    /*! \brief Takes over every field of \a other. */
     ColorTriangleObject &operator=(const ColorTriangleObject &other);
     ~ColorTriangleObject();
 
     /*! \brief The gamut's points and luminances. */
     TrianglePoint &trianglePoint();
+    /*! \brief The gamut's points and luminances. */
     const TrianglePoint &trianglePoint() const;
+    /*! \brief Copies \a trianglePoint, but not who its parent is. */
     void setTrianglePoint(const TrianglePoint &trianglePoint);
 
     /*! \brief Pen and fill colour. */
     QColor foreColor();
+    /*! \brief Sets pen and fill colour. */
     void setForeColor(const QColor &foreColor);
 
     /*! \brief Outline width in pixels. */
     int trigleLineWidth() const;
+    /*! \brief Sets the outline width in pixels. */
     void setTrigleLineWidth(int trigleLineWidth);
 
     /*! \brief For the host's own lists: the renderers draw what they are given, shown or not. */
     bool isShow() const;
+    /*! \brief Sets whether the gamut is drawn. */
     void setShow(bool isShow);
 
     /*!
@@ -53,6 +59,7 @@ public:
      * their own, are skipped.
      */
     int type() const;
+    /*! \brief Sets the kind of gamut. */
     void setType(int type);
 
     /*!
@@ -61,10 +68,12 @@ public:
      * 1.0 and above, and negative values, tint nothing.
      */
     double opacity() const;
+    /*! \brief Sets the fill opacity. */
     void setOpacity(double opacity);
 
     /*! \brief Display name, such as a standard's name; a copy. */
     std::string gamutName();
+    /*! \brief Sets the display name. */
     void setGamutName(const std::string &gamutName);
 
 private:

@@ -4,8 +4,8 @@
 
 /*! \brief A point in single precision: the form in which a triangle's vertices reach polygon code. */
 struct PointF {
-    float x = 0.0F;
-    float y = 0.0F;
+    float x = 0.0F; //!< unitless
+    float y = 0.0F; //!< unitless
 };
 
 #endif // CEIECHART_MODEL_POINTF_H

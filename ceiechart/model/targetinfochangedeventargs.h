@@ -20,24 +20,30 @@ class CEIECHART_EXPORT TargetInfoChangedEventArgs : public QObject {
 public:
     /*! \brief A default triangle, 0 K, no primary outside, not reasonable. */
     explicit TargetInfoChangedEventArgs(QObject *parent = nullptr);
+    /*! \brief Takes over the payload of \a other, not its parent. */
     TargetInfoChangedEventArgs(const TargetInfoChangedEventArgs &other);
+    /*! \brief Takes over the payload of \a other. */
     TargetInfoChangedEventArgs &operator=(const TargetInfoChangedEventArgs &other);
     ~TargetInfoChangedEventArgs() override;
 
     /*! \brief The target gamut after the change. */
     ColorTriangleObject colorTriangleObject() const;
+    /*! \brief Sets the target gamut. */
     void setColorTriangleObject(const ColorTriangleObject &colorTriangleObject);
 
     /*! \brief Correlated colour temperature of the target's white, a whole number of kelvin. */
     double colourTemperature() const;
+    /*! \brief Sets the temperature, in kelvin. */
     void setColourTemperature(double colourTemperature);
 
     /*! \brief The primary that lies outside the reference gamut. */
     baseCommon::LEDColorType beyondColorType() const;
+    /*! \brief Sets the primary that lies outside. */
     void setBeyondColorType(const baseCommon::LEDColorType &beyondColorType);
 
     /*! \brief True when every primary of the target lies inside the reference gamut, the original one. */
     bool isReasonableData() const;
+    /*! \brief Sets whether every primary lies inside. */
     void setIsReasonableData(bool isReasonableData);
 
 private:

@@ -21,20 +21,25 @@ class CEIECHART_EXPORT TriangleObjecIinitializedEventArgs : public QObject {
 public:
     /*! \brief An empty list and no primary outside. Call setIsEffectiveValue() before use. */
     explicit TriangleObjecIinitializedEventArgs(QObject *parent = nullptr);
+    /*! \brief Takes over the payload of \a other, not its parent. */
     TriangleObjecIinitializedEventArgs(const TriangleObjecIinitializedEventArgs &other);
+    /*! \brief Takes over the payload of \a other. */
     TriangleObjecIinitializedEventArgs &operator=(const TriangleObjecIinitializedEventArgs &other);
     ~TriangleObjecIinitializedEventArgs() override;
 
     /*! \brief The triangles as the scene now holds them. */
     QList<ColorTriangleObject> colorTriangleObjectList() const;
+    /*! \brief Sets the list of triangles. */
     void setColorTriangleObjectList(const QList<ColorTriangleObject> &colorTriangleObjectList);
 
     /*! \brief Whether the list is usable. */
     bool isEffectiveValue() const;
+    /*! \brief Sets whether the list is usable. */
     void setIsEffectiveValue(bool isEffectiveValue);
 
     /*! \brief The primary that lies outside the reference gamut. */
     baseCommon::LEDColorType beyondColorType() const;
+    /*! \brief Sets the primary that lies outside. */
     void setBeyondColorType(const baseCommon::LEDColorType &beyondColorType);
 
 private:

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/designer/legacycharts.h>
+
+namespace ceiechart {
+
+LegacyXyChart::LegacyXyChart(QWidget *parent)
+    : ::CEIEGraphicsView(parent, DrawCEIPicture::XyDiagram)
+{
+}
+
+LegacyXyChart::~LegacyXyChart() = default;
+
+LegacyUvChart::LegacyUvChart(QWidget *parent)
+    : ::CEIEGraphicsView(parent, DrawCEIPicture::UvDiagram)
+{
+}
+
+LegacyUvChart::~LegacyUvChart() = default;
+
+} // namespace ceiechart

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/designer/legacycharts.h>
+
+#include <QApplication>
+#include <QGraphicsView>
+#include <QPluginLoader>
+#include <QTest>
+#include <QXmlStreamReader>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+
+#include <memory>
+
+class DesignerPluginTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void offersBothChartsAndTheirLegends();
+    void makesEachWidget_data();
+    void makesEachWidget();
+    void domXmlNamesClassAndHeader_data();
+    void domXmlNamesClassAndHeader();
+    void chartsShowAPicture_data();
+    void chartsShowAPicture();
+
+private:
+    QDesignerCustomWidgetInterface *find(const QString &name) const;
+    static void rows();
+
+    QPluginLoader m_loader{QStringLiteral(DESIGNER_PLUGIN)};
+    QList<QDesignerCustomWidgetInterface *> m_widgets;
+};
+
+void DesignerPluginTest::initTestCase()
+{
+    QObject *plugin = m_loader.instance();
+    QVERIFY2(plugin, qPrintable(m_loader.errorString()));
+    auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(plugin);
+    QVERIFY(collection);
+    m_widgets = collection->customWidgets();
+}
+
+void DesignerPluginTest::cleanupTestCase()
+{
+    QVERIFY(m_loader.unload());
+}
+
+QDesignerCustomWidgetInterface *DesignerPluginTest::find(const QString &name) const
+{
+    for (QDesignerCustomWidgetInterface *widget : m_widgets) {
+        if (widget->name() == name) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
+void DesignerPluginTest::rows()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("header");
+    QTest::addColumn<QByteArray>("base");
+    const auto add = [](const char *name, const char *header, const char *base) {
+        QTest::newRow(name) << QString::fromLatin1(name) << QString::fromLatin1(header) << QByteArray(base);
+    };
+    add("NewCEIE::CEIEGraphicsView", "ceiechart/widgets/ceiegraphicsview.h", "QFrame");
+    add("NewCEIE::CEIELegend", "ceiechart/widgets/ceielegend.h", "QFrame");
+    add("ceiechart::LegacyXyChart", "ceiechart/designer/legacycharts.h", "CEIEGraphicsView");
+    add("ceiechart::LegacyUvChart", "ceiechart/designer/legacycharts.h", "CEIEGraphicsView");
+    add("CEIELegend", "ceiechart/legacy/ceielegend.h", "QFrame");
+}
+
+void DesignerPluginTest::offersBothChartsAndTheirLegends()
+{
+    QStringList names;
+    for (const QDesignerCustomWidgetInterface *widget : qAsConst(m_widgets)) {
+        names.append(widget->name());
+        QVERIFY(!widget->isContainer());
+        QVERIFY(!widget->group().isEmpty());
+        QVERIFY(!widget->toolTip().isEmpty());
+    }
+    QCOMPARE(names,
+        QStringList({"NewCEIE::CEIEGraphicsView", "NewCEIE::CEIELegend", "ceiechart::LegacyXyChart",
+            "ceiechart::LegacyUvChart", "CEIELegend"}));
+}
+
+void DesignerPluginTest::makesEachWidget_data()
+{
+    rows();
+}
+
+void DesignerPluginTest::makesEachWidget()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, base);
+    QDesignerCustomWidgetInterface *entry = find(name);
+    QVERIFY(entry);
+    QVERIFY(!entry->isInitialized());
+    entry->initialize(nullptr);
+    QVERIFY(entry->isInitialized());
+
+    QWidget form;
+    QWidget *widget = entry->createWidget(&form);
+    QVERIFY(widget);
+    QCOMPARE(widget->parentWidget(), &form);
+    // A form is written with the name that the widget's own meta-object has.
+    QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), name);
+    QCOMPARE(QByteArray(widget->metaObject()->superClass()->className()), base);
+}
+
+void DesignerPluginTest::domXmlNamesClassAndHeader_data()
+{
+    rows();
+}
+
+void DesignerPluginTest::domXmlNamesClassAndHeader()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, header);
+    QDesignerCustomWidgetInterface *entry = find(name);
+    QVERIFY(entry);
+    QCOMPARE(entry->includeFile(), header);
+
+    QString widgetClass;
+    QString headerInForm;
+    QXmlStreamReader xml(entry->domXml());
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        if (xml.name() == QLatin1String("widget")) {
+            widgetClass = xml.attributes().value(QStringLiteral("class")).toString();
+        } else if (xml.name() == QLatin1String("header")) {
+            QCOMPARE(xml.attributes().value(QStringLiteral("location")).toString(), QStringLiteral("global"));
+            headerInForm = xml.readElementText();
+        }
+    }
+    QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
+    QCOMPARE(widgetClass, name);
+    QCOMPARE(headerInForm, header);
+}
+
+void DesignerPluginTest::chartsShowAPicture_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("current") << QStringLiteral("NewCEIE::CEIEGraphicsView");
+    QTest::newRow("legacy x, y") << QStringLiteral("ceiechart::LegacyXyChart");
+    QTest::newRow("legacy u', v'") << QStringLiteral("ceiechart::LegacyUvChart");
+}
+
+void DesignerPluginTest::chartsShowAPicture()
+{
+    QFETCH(QString, name);
+    QDesignerCustomWidgetInterface *entry = find(name);
+    QVERIFY(entry);
+    const std::unique_ptr<QWidget> widget(entry->createWidget(nullptr));
+    widget->resize(500, 560);
+    widget->show();
+    QApplication::processEvents();
+    auto *view = widget->findChild<QGraphicsView *>();
+    QVERIFY(view);
+    const QImage picture = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QRect shown = view->geometry().intersected(picture.rect());
+    const QRgb background = picture.pixel(shown.center().x(), shown.top() + 3);
+    int drawn = 0;
+    for (int y = shown.top(); y <= shown.bottom(); ++y) {
+        for (int x = shown.left(); x <= shown.right(); ++x) {
+            drawn += picture.pixel(x, y) != background;
+        }
+    }
+    QVERIFY2(drawn > 5000, qPrintable(QString::number(drawn)));
+}
+
+QTEST_MAIN(DesignerPluginTest)
+
+#include "designerplugintest.moc"
