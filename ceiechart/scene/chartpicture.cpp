@@ -48,34 +48,30 @@ void ChartPicture::reset(QImage *picture)
 {
     const std::unique_ptr<QImage> owned(picture);
     m_image = owned ? std::move(*owned) : QImage();
+    m_opaque = m_image.format() == QImage::Format_ARGB32 && isOpaque(m_image);
     m_scaled = QImage();
     m_set = owned != nullptr;
-    m_ready = false;
 }
 
-void ChartPicture::makeReady()
+QImage ChartPicture::readyFor(const QPainter &painter) const
 {
-    if (m_ready || m_image.format() != QImage::Format_ARGB32) {
-        return;
+    // Of an opaque picture the premultiplied format has the same values. Turned or scaled it is sampled in another way.
+    if (m_opaque && painter.deviceTransform().type() <= QTransform::TxTranslate) {
+        return QImage(m_image.constBits(), m_image.width(), m_image.height(), m_image.bytesPerLine(),
+            QImage::Format_ARGB32_Premultiplied);
     }
-    if (isOpaque(m_image)) {
-        m_image.reinterpretAsFormat(QImage::Format_RGB32);
-    } else {
-        m_image.convertTo(QImage::Format_ARGB32_Premultiplied);
-    }
-    m_ready = true;
+    return m_image;
 }
 
 void ChartPicture::draw(QPainter *painter, const QRectF &target)
 {
-    makeReady();
     const QSize size = target.size().toSize();
     if (size == m_image.size() || !isCopyExact(*painter, target)) {
         drawPart(painter, target, m_image.rect());
         return;
     }
     if (m_scaled.size() != size) {
-        m_scaled = QImage(size, m_image.format());
+        m_scaled = QImage(size, QImage::Format_ARGB32_Premultiplied);
         if (m_scaled.isNull()) {
             drawPart(painter, target, m_image.rect());
             return;
@@ -89,10 +85,9 @@ void ChartPicture::draw(QPainter *painter, const QRectF &target)
 
 void ChartPicture::drawPart(QPainter *painter, const QRectF &target, const QRectF &source)
 {
-    makeReady();
     painter->save();
     painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);
-    painter->drawImage(target, m_image, source);
+    painter->drawImage(target, readyFor(*painter), source);
     painter->restore();
 }
 

@@ -12,7 +12,7 @@ namespace ceiechart {
  * \brief The rendered picture, kept ready for being painted over and over.
  *
  * A drag or a hover repaints a picture that has not changed: what the paint engine would have to do each time,
- * converting the picture and scaling it, is done at the first time.
+ * converting the picture and scaling it, is done once.
  */
 class ChartPicture {
 public:
@@ -30,12 +30,13 @@ public:
     void drawPart(QPainter *painter, const QRectF &target, const QRectF &source);
 
 private:
-    void makeReady();
+    //! The picture in the format that is painted fastest without changing a pixel; shares its data.
+    QImage readyFor(const QPainter &painter) const;
 
     QImage m_image;
     QImage m_scaled;
     bool m_set = false;
-    bool m_ready = false;
+    bool m_opaque = false;
 };
 
 } // namespace ceiechart

@@ -234,6 +234,7 @@ private Q_SLOTS:
     void releaseEndsSelections();
     void releaseTakesTheTemperatureFromDoubles();
     void whiteHandleIsASquareOfTwelve();
+    void whiteHandleGrowsWithTheZoom();
     void whiteDragReports_data();
     void whiteDragReports();
     void whiteOutsideTheTargetStopsFollowing();
@@ -911,6 +912,26 @@ void LegacySceneTest::whiteHandleIsASquareOfTwelve()
             bench.press(handle + offset);
             QCOMPARE(bench.names(), QStringList(valueChanged));
             QVERIFY(!stateOf(bench.scene).centreSelected);
+        }
+    }
+}
+
+// Int of one and a half times twelve, and of 1.1 times twelve.
+void LegacySceneTest::whiteHandleGrowsWithTheZoom()
+{
+    const QList<QPair<int, double>> halves{{5, 9.0}, {1, 6.5}};
+    for (const auto &half : halves) {
+        for (const bool within : {true, false}) {
+            Bench bench;
+            reference::setFunctionKeyMode(bench.scene, 1);
+            for (int i = 0; i < half.first; ++i) {
+                bench.scene.SetFunctionKeyShortcuts();
+            }
+            reference::setFunctionKeyMode(bench.scene, 0);
+            bench.scene.SetFunctionKeyShortcuts();
+            const double away = half.second + (within ? -0.8 : 0.8);
+            bench.press(bench.whiteHandle() + QPointF(away, -away));
+            QCOMPARE(bench.names(), QStringList(within ? targetInfo : valueChanged));
         }
     }
 }

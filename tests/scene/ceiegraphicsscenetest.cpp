@@ -33,8 +33,10 @@ using reference::describe;
 using Scene = NewCEIE::CEIEGraphicsScene;
 using SignalLog = reference::SceneSignalLog<Scene>;
 using Setter = std::function<void(Scene &)>;
+using Preparation = std::function<void(QPainter &)>;
 
 Q_DECLARE_METATYPE(Setter)
+Q_DECLARE_METATYPE(Preparation)
 Q_DECLARE_METATYPE(ColorTriangleObject)
 
 namespace {
@@ -90,26 +92,29 @@ QPolygonF verticesIn(NewCEIE::DrawCEIPicture &renderer, const TrianglePoint &poi
     return polygon;
 }
 
+QImage canvasWith(const QSize &size, const Preparation &paint)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(200, 120, 160));
+    QPainter painter(&image);
+    paint(painter);
+    return image;
+}
+
 // The background as a view of the given size shows it.
 QImage backgroundOf(Scene &scene, const QSize &viewSize, const QSize &canvas)
 {
     QGraphicsView view(&scene);
     view.resize(viewSize);
-    QImage image(canvas, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::magenta);
-    QPainter painter(&image);
-    scene.drawBackground(&painter, QRectF());
-    return image;
+    return canvasWith(canvas, [&](QPainter &painter) { scene.drawBackground(&painter, QRectF()); });
 }
 
 QImage painted(const QImage &picture, const QRectF &target, const QSize &canvas)
 {
-    QImage image(canvas, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::magenta);
-    QPainter painter(&image);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.drawImage(target, picture, QRectF(0, 0, picture.width(), picture.height()));
-    return image;
+    return canvasWith(canvas, [&](QPainter &painter) {
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.drawImage(target, picture, QRectF(0, 0, picture.width(), picture.height()));
+    });
 }
 
 } // namespace
@@ -152,6 +157,9 @@ private Q_SLOTS:
     void backgroundFollowsTheView_data();
     void backgroundFollowsTheView();
     void backgroundOfAMovedSceneRectangle();
+    void backgroundIsTheSameForAnyPainter_data();
+    void backgroundIsTheSameForAnyPainter();
+    void backgroundFollowsTheNewestPicture();
     void backgroundLeavesThePainterAsItWas();
     void gamutFormGetsEverything_data();
     void gamutFormGetsEverything();
@@ -631,6 +639,86 @@ void CEIEGraphicsSceneTest::backgroundOfAMovedSceneRectangle()
     QCOMPARE(reference::firstDifference(
                  backgroundOf(scene, QSize(340, 200), canvas), painted(*picture, QRectF(95, 0, 150, 200), canvas)),
         QString());
+}
+
+void CEIEGraphicsSceneTest::backgroundIsTheSameForAnyPainter_data()
+{
+    QTest::addColumn<Preparation>("prepare");
+    QTest::newRow("as it is") << Preparation([](QPainter &) {});
+    QTest::newRow("translated") << Preparation([](QPainter &painter) { painter.translate(-40, 25); });
+    QTest::newRow("translated by a fraction") << Preparation([](QPainter &painter) { painter.translate(0.3, 0.7); });
+    QTest::newRow("scaled") << Preparation([](QPainter &painter) { painter.scale(1.25, 1.25); });
+    QTest::newRow("scaled unevenly") << Preparation([](QPainter &painter) { painter.scale(0.5, 1.0); });
+    QTest::newRow("mirrored") << Preparation([](QPainter &painter) {
+        painter.translate(400, 0);
+        painter.scale(-1.0, 1.0);
+    });
+    QTest::newRow("rotated") << Preparation([](QPainter &painter) { painter.rotate(10); });
+    QTest::newRow("turned by a quarter") << Preparation([](QPainter &painter) {
+        painter.translate(400, 0);
+        painter.rotate(90);
+    });
+    QTest::newRow("translucent") << Preparation([](QPainter &painter) { painter.setOpacity(0.5); });
+    QTest::newRow("clipped") << Preparation([](QPainter &painter) { painter.setClipRect(50, 60, 120, 110); });
+    QTest::newRow("another mode") << Preparation(
+        [](QPainter &painter) { painter.setCompositionMode(QPainter::CompositionMode_Multiply); });
+    QTest::newRow("window and viewport") << Preparation([](QPainter &painter) { painter.setWindow(0, 0, 300, 350); });
+}
+
+// However often, after whatever, and with or without pixels to scale.
+void CEIEGraphicsSceneTest::backgroundIsTheSameForAnyPainter()
+{
+    QFETCH(Preparation, prepare);
+    const QSize canvas(420, 440);
+    for (const QSize &size : {QSize(336, 364), QSize(160, 120), QSize(500, 500)}) {
+        Scene scene({});
+        scene.setImageWidth(size.width());
+        scene.setImageHeight(size.height());
+        QGraphicsView view(&scene);
+        view.resize(400, 364); // half of the scene rectangle
+        NewCEIE::DrawCEIPicture renderer(nullptr);
+        const std::unique_ptr<QImage> picture(
+            renderer.drawCEIPicture(size.width(), size.height(), true, true, true, {}));
+        const QImage expected = canvasWith(canvas, [&](QPainter &painter) {
+            prepare(painter);
+            painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+            painter.drawImage(QRectF(32, 0, 336, 364), *picture, QRectF(QPointF(0, 0), size));
+        });
+        for (const bool prepared : {true, false, true, true}) {
+            const QImage actual = canvasWith(canvas, [&](QPainter &painter) {
+                if (prepared) {
+                    prepare(painter);
+                }
+                scene.drawBackground(&painter, QRectF());
+            });
+            if (prepared) {
+                QCOMPARE(reference::firstDifference(actual, expected), QString());
+            }
+        }
+    }
+}
+
+void CEIEGraphicsSceneTest::backgroundFollowsTheNewestPicture()
+{
+    Scene scene({});
+    scene.setImageWidth(160);
+    scene.setImageHeight(120);
+    NewCEIE::DrawCEIPicture renderer(nullptr);
+    const QSize canvas(400, 364);
+    for (const QColor &color : {QColor(0, 40, 80), QColor(80, 40, 0), QColor(0, 40, 80)}) {
+        scene.setGraphColor(Qt::yellow, color);
+        scene.getBitMap();
+        renderer.setGraphColor(Qt::yellow, color);
+        const std::unique_ptr<QImage> simple(renderer.drawCEIPicture(160, 120, true, true, true, {}));
+        QCOMPARE(reference::firstDifference(
+                     backgroundOf(scene, canvas, canvas), painted(*simple, QRectF(32, 0, 336, 364), canvas)),
+            QString());
+        scene.setLsColorTriangleObject({}, {}, TrianglePoint(), TrianglePoint(), true, QString());
+        const std::unique_ptr<QImage> gamut(renderer.drawCEIPicture(160, 120, true, {}, {}, QPolygonF(), true, {}));
+        QCOMPARE(reference::firstDifference(
+                     backgroundOf(scene, canvas, canvas), painted(*gamut, QRectF(32, 0, 336, 364), canvas)),
+            QString());
+    }
 }
 
 void CEIEGraphicsSceneTest::backgroundLeavesThePainterAsItWas()

@@ -171,6 +171,11 @@ void TargetMovesTest::regions_data()
     QTest::newRow("blue inside 7") << QPointF(0.0815, 0.1465) << 2;
     QTest::newRow("blue outside 7") << QPointF(0.0790, 0.1455) << 3;
     QTest::newRow("blue inside 8") << QPointF(0.0430, 0.2905) << 2;
+    // Where the blue fence's lower corners lie close together, a twentieth of a corner's height tells.
+    QTest::newRow("blue corner 2, in reach below") << QPointF(0.179, 0.00001) << 2;
+    QTest::newRow("blue just inside 3") << QPointF(0.16, 0.00205) << 2;
+    QTest::newRow("blue just inside 4") << QPointF(0.1511, 0.0071) << 2;
+    QTest::newRow("blue just inside 5") << QPointF(0.1451, 0.0143) << 2;
     QTest::newRow("blue outside 8") << QPointF(0.0400, 0.2910) << 3;
 }
 

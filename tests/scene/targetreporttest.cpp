@@ -101,6 +101,7 @@ private Q_SLOTS:
     void placementReportsTheWholeTarget();
     void placementInNoFenceStillRecomputesAndEmits();
     void heldWhiteStaysWhereItIs();
+    void equalTargetStopsAtOnce_data();
     void equalTargetStopsAtOnce();
     void unreachableWhiteFallsInStepsOfTen_data();
     void unreachableWhiteFallsInStepsOfTen();
@@ -172,19 +173,33 @@ void TargetReportTest::heldWhiteStaysWhereItIs()
     QCOMPARE(describe(points.blueLum()), describe(expected.blue));
 }
 
+void TargetReportTest::equalTargetStopsAtOnce_data()
+{
+    QTest::addColumn<double>("red");
+    QTest::addColumn<double>("green");
+    QTest::addColumn<double>("blue");
+    for (const double scale : {0.01, 1.0, 3.7, 1e6, 1e18}) {
+        QTest::newRow(qPrintable(QString::number(scale))) << 31.0 * scale << 62.0 * scale << 7.0 * scale;
+    }
+    QTest::newRow("hardly any red") << 0.005 << 70.0 << 20.0;
+    QTest::newRow("hardly any green") << 20.0 << 0.005 << 70.0;
+    QTest::newRow("hardly any blue") << 20.0 << 70.0 << 0.005;
+}
+
 void TargetReportTest::equalTargetStopsAtOnce()
 {
-    for (const double scale : {0.01, 1.0, 3.7, 1e6, 1e18}) {
-        const QList<ColorTriangleObject> pair = equalPair({0.31 * scale, 0.62 * scale, 0.07 * scale}, true);
-        Bench bench(pair, true);
-        const TrianglePoint points = bench.placed(inNoFence);
-        const double white = whiteOf(pair.first().trianglePoint()).luminance;
-        QCOMPARE(describe(points.whiteLum()), describe(white));
-        const Luminances expected = luminancesFor(pair.last().trianglePoint(), white);
-        QCOMPARE(describe(points.redLum()), describe(expected.red));
-        QCOMPARE(describe(points.greenLum()), describe(expected.green));
-        QCOMPARE(describe(points.blueLum()), describe(expected.blue));
-    }
+    QFETCH(double, red);
+    QFETCH(double, green);
+    QFETCH(double, blue);
+    const QList<ColorTriangleObject> pair = equalPair({red, green, blue}, true);
+    Bench bench(pair, true);
+    const TrianglePoint points = bench.placed(inNoFence);
+    const double white = whiteOf(pair.first().trianglePoint()).luminance;
+    QCOMPARE(describe(points.whiteLum()), describe(white));
+    const Luminances expected = luminancesFor(pair.last().trianglePoint(), white);
+    QCOMPARE(describe(points.redLum()), describe(expected.red));
+    QCOMPARE(describe(points.greenLum()), describe(expected.green));
+    QCOMPARE(describe(points.blueLum()), describe(expected.blue));
 }
 
 void TargetReportTest::unreachableWhiteFallsInStepsOfTen_data()
