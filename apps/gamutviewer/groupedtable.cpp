@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -76,6 +77,13 @@ void GroupedTable::fitColumns()
         }
         setColumnWidth(column, width + padding);
     }
+    updateGeometry();
+}
+
+QSize GroupedTable::sizeHint() const
+{
+    return {horizontalHeader()->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(),
+        QTableWidget::sizeHint().height()};
 }
 
 void GroupedTable::setCell(int row, int column, const QString &text, bool isTitle)

@@ -21,6 +21,8 @@ public:
     /*! \brief Shows \a groups; where the cells are as many as before they change in place. */
     void setGroups(const QVector<Group> &groups);
 
+    /*! \brief Wide enough for all columns. */
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return QSize(120, 80); }
 
 protected:

@@ -91,6 +91,7 @@ void ViewerWindow::buildPages()
     m_splitter->addWidget(m_panel);
     m_splitter->setStretchFactor(0, 1);
     m_splitter->setStretchFactor(1, 0);
+    connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_panelWidthIsChosen = true; });
     setCentralWidget(m_splitter);
     watchCharts();
 }
@@ -114,6 +115,21 @@ void ViewerWindow::setDescription(const DisplayDescription &description, const Q
     m_shownFile = fileName;
     const bool isSample = !fileName.isEmpty() && QFileInfo(fileName) == QFileInfo(sampleFile());
     m_document.open(description, isSample ? QString() : fileName);
+    fitPanel();
+}
+
+void ViewerWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    fitPanel();
+}
+
+void ViewerWindow::fitPanel()
+{
+    if (!m_panelWidthIsChosen && isVisible()) {
+        const int width = m_panel->sizeHint().width();
+        m_splitter->setSizes({m_splitter->width() - width, width});
+    }
 }
 
 bool ViewerWindow::openPath(const QString &fileName)
@@ -261,7 +277,7 @@ void ViewerWindow::restoreSettings()
 {
     const Settings settings;
     restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray());
-    m_splitter->restoreState(settings.value(QStringLiteral("window/splitter")).toByteArray());
+    m_panelWidthIsChosen = m_splitter->restoreState(settings.value(QStringLiteral("window/splitter")).toByteArray());
     m_pages->setCurrentIndex(settings.value(QStringLiteral("window/page"), 0).toInt());
 }
 

@@ -58,6 +58,7 @@ public:
     QLabel *readout() const { return m_readout; }
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -87,12 +88,15 @@ private:
     void refreshTitle();
     void showReadout(const QPointF &xy);
     void warn(const QString &text);
+    /*! \brief Makes the panel as wide as what it shows, until the user has chosen its width. */
+    void fitPanel();
     void restoreSettings();
     void saveSettings() const;
 
     Document m_document;
     QString m_shownFile; // what was opened, for the title
     TargetSession *m_session;
+    bool m_panelWidthIsChosen = false;
     QSplitter *m_splitter;
     QTabWidget *m_pages;
     ChartPage *m_chartPage;
