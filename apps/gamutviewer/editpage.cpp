@@ -3,13 +3,13 @@
 
 #include "chromaticity.h"
 #include "document.h"
+#include "pointerevent.h"
 #include "targetsession.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -249,8 +249,8 @@ void EditPage::pointerPressed(const QMouseEvent &event)
     }
     m_pointer = Pointer::Down;
     m_pointerHasMoved = false;
-    grabHandle(event.localPos());
-    m_pointerXy = chromaticityAt(event.localPos() + m_grabOffset);
+    grabHandle(pointerPosition(event));
+    m_pointerXy = chromaticityAt(pointerPosition(event) + m_grabOffset);
     m_session->beginDrag();
 }
 
@@ -263,7 +263,7 @@ void EditPage::pointerMoved(const QMouseEvent &event)
         m_grabOffset = QPointF();
         m_session->endDrag();
     }
-    m_pointerXy = chromaticityAt(event.localPos() + m_grabOffset);
+    m_pointerXy = chromaticityAt(pointerPosition(event) + m_grabOffset);
     m_pointerHasMoved = true;
     Q_EMIT pointedAt(m_pointerXy);
 }
@@ -299,12 +299,11 @@ void EditPage::grabHandle(const QPointF &position)
 // what the handle stands for, so the chart is given the place where it reads that.
 void EditPage::forward(QMouseEvent *event)
 {
-    QPointF position = event->localPos() + m_grabOffset;
+    QPointF position = pointerPosition(*event) + m_grabOffset;
     if (m_grabbed != Vertex::White) {
         position.rx() -= ceiechart::DiagramGeometry::xOffset;
     }
-    QMouseEvent shifted(event->type(), QPointF(position.toPoint()), event->windowPos(), event->screenPos(),
-        event->button(), event->buttons(), event->modifiers(), event->source());
+    QMouseEvent shifted = movedTo(*event, QPointF(position.toPoint()));
     m_forwarding = true;
     QCoreApplication::sendEvent(m_chart->view()->viewport(), &shifted);
     m_forwarding = false;
@@ -320,10 +319,12 @@ void EditPage::cancelDrag()
     // The chart has its drag ended; what the pointer does until its button is up is kept from it.
     m_session->cancelDrag();
     m_pointer = Pointer::Cancelled;
-    QMouseEvent release(
-        QEvent::MouseButtonRelease, viewportPosition(m_pointerXy), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    QWidget *viewport = m_chart->view()->viewport();
+    const QPointF position = viewportPosition(m_pointerXy);
+    QMouseEvent release(QEvent::MouseButtonRelease, position, viewport->mapToGlobal(position.toPoint()), Qt::LeftButton,
+        Qt::NoButton, Qt::NoModifier);
     m_forwarding = true;
-    QCoreApplication::sendEvent(m_chart->view()->viewport(), &release);
+    QCoreApplication::sendEvent(viewport, &release);
     m_forwarding = false;
     m_grabbed.reset();
     m_grabOffset = QPointF();

@@ -2,11 +2,11 @@
 #include "gamutdiagram.h"
 
 #include "chromaticity.h"
+#include "pointerevent.h"
 #include "targetedits.h"
 
 #include <ceiechart/atlas/ceiatlasvalue.h>
 
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -136,7 +136,7 @@ void GamutDiagram::paintEvent(QPaintEvent *)
 
 void GamutDiagram::mouseMoveEvent(QMouseEvent *event)
 {
-    Q_EMIT pointedAt(fromDiagram(m_diagram, placement().inverted().map(event->localPos())));
+    Q_EMIT pointedAt(fromDiagram(m_diagram, placement().inverted().map(pointerPosition(*event))));
 }
 
 } // namespace gamutviewer

@@ -48,8 +48,12 @@ void installInterfaceTranslations(const QLocale &locale)
         initTranslationResource();
         install(interface, QStringLiteral("gamutviewer_zh"), QStringLiteral(":/gamutviewer/translations"));
         // The toolkit's own, where the system has it.
-        install(
-            toolkit, QStringLiteral("qtbase_") + locale.name(), QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+        const QString toolkitTranslations = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+        const QString toolkitTranslations = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#endif
+        install(toolkit, QStringLiteral("qtbase_") + locale.name(), toolkitTranslations);
     }
 }
 

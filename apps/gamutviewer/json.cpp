@@ -11,8 +11,8 @@ namespace gamutviewer {
 TextPosition textPosition(const QByteArray &utf8, int offset)
 {
     const QByteArray before = utf8.left(std::max(offset, 0));
-    const int lineBegin = before.lastIndexOf('\n') + 1;
-    return {before.count('\n') + 1, QString::fromUtf8(before.mid(lineBegin)).toUcs4().size() + 1};
+    const int lineBegin = int(before.lastIndexOf('\n')) + 1;
+    return {int(before.count('\n')) + 1, int(QString::fromUtf8(before.mid(lineBegin)).toUcs4().size()) + 1};
 }
 
 ParsedJson parseJson(const QByteArray &utf8)

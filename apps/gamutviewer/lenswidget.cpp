@@ -3,11 +3,11 @@
 
 #include "chromaticity.h"
 #include "gamutdiagram.h"
+#include "pointerevent.h"
 #include "targetedits.h"
 #include "whitepoint.h"
 
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QWheelEvent>
@@ -130,7 +130,7 @@ const LensWidget::White *LensWidget::target() const
 {
     const auto found = std::find_if(
         m_whites.begin(), m_whites.end(), [](const White &white) { return white.role == GamutPart::Role::Target; });
-    return found == m_whites.end() ? nullptr : found;
+    return found == m_whites.end() ? nullptr : &*found;
 }
 
 void LensWidget::setWhites(const QVector<GamutPart> &parts, const QVector<QPointF> &trail)
@@ -393,7 +393,7 @@ void LensWidget::drawKey(QPainter &painter) const
 
 void LensWidget::mouseMoveEvent(QMouseEvent *event)
 {
-    Q_EMIT pointedAt(xyFromUv(uvAt(event->localPos())));
+    Q_EMIT pointedAt(xyFromUv(uvAt(pointerPosition(*event))));
 }
 
 void LensWidget::wheelEvent(QWheelEvent *event)

@@ -65,8 +65,10 @@ int main(int argc, char *argv[])
     // The error stream is for scripts and people; QT_LOGGING_RULES brings the toolkit's own warnings back.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     const bool canShow = choosePlatform(argc, argv);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("gamutviewer"));
     QApplication::setApplicationVersion(QStringLiteral(GAMUTVIEWER_VERSION));

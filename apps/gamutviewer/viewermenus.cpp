@@ -23,6 +23,14 @@ QString menuText(QString text)
     return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+template <typename Slot>
+QAction *addItem(QMenu *menu, const QString &text, const QKeySequence &shortcut, ViewerWindow *window, Slot slot)
+{
+    QAction *action = menu->addAction(text, window, slot);
+    action->setShortcut(shortcut);
+    return action;
+}
+
 } // namespace
 
 void ViewerWindow::buildMenus()
@@ -36,17 +44,17 @@ void ViewerWindow::buildMenus()
 void ViewerWindow::buildFileMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&File"));
-    menu->addAction(tr("&Open…"), this, &ViewerWindow::open, QKeySequence::Open);
+    addItem(menu, tr("&Open…"), QKeySequence::Open, this, &ViewerWindow::open);
     m_recentMenu = menu->addMenu(tr("Open &recent"));
     connect(m_recentMenu, &QMenu::aboutToShow, this, &ViewerWindow::fillRecentMenu);
     menu->addSeparator();
-    menu->addAction(tr("&Save"), this, &ViewerWindow::save, QKeySequence::Save);
-    menu->addAction(tr("Save &as…"), this, &ViewerWindow::saveAs, QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_S));
+    addItem(menu, tr("&Save"), QKeySequence::Save, this, &ViewerWindow::save);
+    addItem(menu, tr("Save &as…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, this, &ViewerWindow::saveAs);
     menu->addSeparator();
-    menu->addAction(tr("&Export chart…"), this, &ViewerWindow::exportChartByDialog, QKeySequence(Qt::CTRL + Qt::Key_E));
+    addItem(menu, tr("&Export chart…"), Qt::CTRL | Qt::Key_E, this, &ViewerWindow::exportChartByDialog);
     menu->addSeparator();
     QAction *close = menu->addAction(tr("&Quit"), this, &QWidget::close);
-    close->setShortcuts({QKeySequence(Qt::CTRL + Qt::Key_Q), QKeySequence(Qt::CTRL + Qt::Key_W)});
+    close->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence(Qt::CTRL | Qt::Key_W)});
 }
 
 void ViewerWindow::buildEditMenu()
@@ -57,13 +65,13 @@ void ViewerWindow::buildEditMenu()
             step.isEmpty() ? verb : tr("%1 (%2)", "verb and step of the history").arg(verb, menuText(step)));
     };
     QUndoStack *history = m_document.history();
-    QAction *undoAction = menu->addAction(tr("&Undo"), this, &ViewerWindow::undo, QKeySequence::Undo);
+    QAction *undoAction = addItem(menu, tr("&Undo"), QKeySequence::Undo, this, &ViewerWindow::undo);
     undoAction->setEnabled(false);
     connect(history, &QUndoStack::canUndoChanged, undoAction, &QAction::setEnabled);
     connect(history, &QUndoStack::undoTextChanged, undoAction,
         [=](const QString &step) { nameAfter(undoAction, tr("&Undo"), step); });
     QAction *redoAction = menu->addAction(tr("&Redo"), this, &ViewerWindow::redo);
-    redoAction->setShortcuts({QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), QKeySequence(Qt::CTRL + Qt::Key_Y)});
+    redoAction->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     redoAction->setEnabled(false);
     connect(history, &QUndoStack::canRedoChanged, redoAction, &QAction::setEnabled);
     connect(history, &QUndoStack::redoTextChanged, redoAction,
@@ -82,27 +90,24 @@ void ViewerWindow::buildEditMenu()
     addRule(tr("&Lock primaries"), &TargetSession::setLockPrimaries, &TargetSession::lockPrimaries);
     addRule(tr("&Snap"), &TargetSession::setSnaps, &TargetSession::snaps);
     menu->addSeparator();
-    menu->addAction(tr("&Copy chart"), this, &ViewerWindow::copyChart, QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C));
+    addItem(menu, tr("&Copy chart"), Qt::CTRL | Qt::SHIFT | Qt::Key_C, this, &ViewerWindow::copyChart);
 }
 
 void ViewerWindow::buildViewMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&View"));
     for (int page = 0; page < m_pages->count(); ++page) {
-        menu->addAction(
-            m_pages->tabText(page), this,
-            [this, page] {
-                m_pages->setCurrentIndex(page);
-                m_pages->currentWidget()->setFocus();
-            },
-            QKeySequence(Qt::CTRL + Qt::Key_1 + page));
+        addItem(menu, m_pages->tabText(page), Qt::CTRL | Qt::Key(Qt::Key_1 + page), this, [this, page] {
+            m_pages->setCurrentIndex(page);
+            m_pages->currentWidget()->setFocus();
+        });
     }
 }
 
 void ViewerWindow::buildHelpMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Help"));
-    menu->addAction(tr("&Keys"), this, &ViewerWindow::showKeys, QKeySequence::HelpContents);
+    addItem(menu, tr("&Keys"), QKeySequence::HelpContents, this, &ViewerWindow::showKeys);
     menu->addAction(tr("&About"), this, &ViewerWindow::about);
 }
 

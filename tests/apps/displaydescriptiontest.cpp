@@ -308,7 +308,7 @@ void DisplayDescriptionTest::everyNumberMustBeOne_data()
         for (const char *wrong : {"NaN", "nan", "Infinity", "-Infinity", "1e999", "-1e999", "\"0.3\"", "null", "[]"}) {
             QByteArray text = description;
             text.replace(match.capturedStart(1), match.capturedLength(1), wrong);
-            QTest::addRow("%s at %d", wrong, match.capturedStart(1)) << text;
+            QTest::addRow("%s at %d", wrong, int(match.capturedStart(1))) << text;
         }
     }
 }
