@@ -95,7 +95,7 @@ public:
 
         if (axes) {
             QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));
-            font.setWeight(63);
+            font.setWeight(QFont::DemiBold);
             font.setPixelSize(12);
             paintAxes(painter, size, Qt::DashLine, font);
         }
@@ -364,7 +364,7 @@ void LegacyDrawCEIPictureTest::picturesWithTitlesAreThePlainOnes()
     QImage expected = PlainDiagram(true).uvPicture(size, false, {});
     const Picture picture = drawn(renderer, size);
     QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));
-    font.setWeight(63);
+    font.setWeight(QFont::DemiBold);
     font.setPixelSize(12);
     QPainter painter(&expected);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);

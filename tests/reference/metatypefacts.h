@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_TESTS_REFERENCE_METATYPEFACTS_H
+#define CEIECHART_TESTS_REFERENCE_METATYPEFACTS_H
+
+#include <QMetaType>
+
+namespace reference {
+
+/*! \brief Whether the meta-type system knows a type of this name. */
+inline bool isRegistered(const char *type)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return QMetaType::fromName(type).isValid();
+#else
+    return QMetaType::type(type) != QMetaType::UnknownType;
+#endif
+}
+
+} // namespace reference
+
+#endif
