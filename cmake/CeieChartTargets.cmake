@@ -29,7 +29,9 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         $<$<COMPILE_LANGUAGE:CXX>:-Wshadow=local> $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>
         $<$<COMPILE_LANGUAGE:CXX>:-Wsuggest-override>)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-        target_compile_options(ceiechart_build_flags INTERFACE -Wno-unknown-warning-option)
+        # The latter is for a macro of QtTest.
+        target_compile_options(ceiechart_build_flags INTERFACE -Wno-unknown-warning-option
+            -Wno-gnu-zero-variadic-macro-arguments)
     else()
         # GCC's straight-line vectoriser folds double -> float -> double pairs into a plain copy and
         # loses the rounding to single precision that the chart's arithmetic relies on.

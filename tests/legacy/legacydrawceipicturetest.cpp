@@ -40,8 +40,7 @@ QPen axisPen(const QColor &color)
 class PlainDiagram {
 public:
     explicit PlainDiagram(bool uniform)
-        : m_uniform(uniform)
-        , m_range(uniform ? uvRange : xyRange)
+        : m_range(uniform ? uvRange : xyRange)
         , m_plain(m_range, uniform ? uvColors : CEIAtlasValue().colorSystem)
     {
     }
@@ -188,7 +187,6 @@ private:
         painter.restore();
     }
 
-    bool m_uniform;
     reference::ChromaRange m_range;
     reference::PlainRenderer m_plain;
     QColor m_line{255, 255, 255};

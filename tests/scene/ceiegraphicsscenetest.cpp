@@ -287,7 +287,7 @@ void CEIEGraphicsSceneTest::setterKeepsTheListItIsGiven()
     const QList<QPointF> points{QPointF(0.3, 0.3), QPointF(std::numeric_limits<double>::quiet_NaN(), 1.0)};
     scene.setOtherPoints(points, {Qt::red});
     QCOMPARE(describe(scene.getOtherPoints()), describe(points));
-    QCOMPARE(scene.getOtherPointsColor(), QList<QColor>({Qt::red}));
+    QCOMPARE(scene.getOtherPointsColor(), QList<QColor>{QColor(Qt::red)});
     scene.setOtherPoints({}, {Qt::blue, Qt::green});
     QVERIFY(scene.getOtherPoints().isEmpty());
     QCOMPARE(scene.getOtherPointsColor(), QList<QColor>({Qt::blue, Qt::green}));
