@@ -2,6 +2,7 @@
 #ifndef CEIECHART_MODEL_LEDCOLORTYPE_H
 #define CEIECHART_MODEL_LEDCOLORTYPE_H
 
+/*! \brief Types that are not only the chart's. */
 namespace baseCommon {
 
 /*!

@@ -21,8 +21,8 @@ namespace ceiechart {
 
 /*! \brief How the axes are drawn where the two generations differ. */
 struct AxesStyle {
-    Qt::PenStyle gridStyle;
-    QFont gridFont;
+    Qt::PenStyle gridStyle; //!< of the grid lines
+    QFont gridFont; //!< held by the painter while the grid is drawn
     QFont numberFont; //!< also gives the metrics that place the numbers
     QString xTitle; //!< none when empty
     QString yTitle; //!< none when empty

@@ -18,6 +18,7 @@
 
 class QLabel;
 
+/*! \brief The current generation of the chart: CIE 1931 x, y. The legacy generation is in the global namespace. */
 namespace NewCEIE {
 
 class CEIEGraphicsScene;

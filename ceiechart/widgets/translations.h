@@ -6,6 +6,7 @@
 
 #include <QLocale>
 
+/*! \brief What both generations share, and what the library offers besides the charts. */
 namespace ceiechart {
 
 /*!
