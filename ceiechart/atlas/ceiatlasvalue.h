@@ -70,7 +70,8 @@ public:
     QList<CEITemperatureCoordinate> temperatureCoordinates;
 
     /*!
-     * \brief The colour-matching functions of the CIE 1931 2 degree standard observer, 471 rows.
+     * \brief The colour-matching functions of the CIE 1931 2 degree standard observer (ISO/CIE 11664-1:2019), 471
+     *        rows.
      *
      * 360 nm to 830 nm in steps of 1 nm, ascending.
      */

@@ -15,8 +15,9 @@ public:
     /*!
      * \brief Correlated colour temperature of the chromaticity (\a x, \a y).
      *
-     * Stores the temperature in kelvin in \a colorTemperature, truncated toward zero: 6503.9 K gives 6503. A
-     * temperature beyond the range of int is not guarded.
+     * Stores the temperature in kelvin in \a colorTemperature, truncated toward zero: 6503.9 K gives 6503. What a
+     * chromaticity without a temperature gives, see GetColorTemperatureFromXY(); a vendor's library must stay within
+     * the range of int.
      *
      * \return The result of the colour-temperature library's function, truncated toward zero. Its meaning belongs
      *     to that library; nothing here depends on it.
@@ -26,7 +27,8 @@ public:
     /*!
      * \brief The white that three primaries mix to additively.
      *
-     * Stores the luminance and the chromaticity of the mixture in \a whiteLum, \a whiteX and \a whiteY.
+     * Stores the luminance and the chromaticity of the mixture in \a whiteLum, \a whiteX and \a whiteY. What
+     * primaries without luminance or with y = 0 give, see RGBCxCyToWhiteCxCy().
      */
     static void rgbCxCyToWhiteCxCy(double redLum, double redX, double redY, double greenLum, double greenX,
         double greenY, double blueLum, double blueX, double blueY, double &whiteLum, double &whiteX, double &whiteY);

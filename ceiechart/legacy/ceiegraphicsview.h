@@ -57,31 +57,48 @@ public:
     CEIEGraphicsView(bool, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent);
     ~CEIEGraphicsView() override;
 
-    /*! \brief Makes the list of gamuts original (white, 2 pixels wide) and target (black, 1 pixel wide). */
+    /*!
+     * \brief Makes the list of gamuts original (white, 2 pixels wide) and target (black, 1 pixel wide).
+     *
+     * The chart shows the target by its handles. It draws no outlines: colours and widths are for the host.
+     */
     void setColorGamut(const Model::ColorGamutInfo &target, const Model::ColorGamutInfo &original);
     /*! \brief Copies chromaticities and luminances of the primaries and the white of \a gamut to \a triangle. */
     void colorGamutToTriangle(const Model::ColorGamutInfo &gamut, TrianglePoint &triangle);
 
     /*! \brief Empties the list of gamuts. The points stay. */
     void clear() { m_parts.clear(); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::setColorGamutVisible */
+    /*!
+     * \brief Sets the mark ColorTriangleObject::isShow() of the gamut at \a index of the list. Ignores an index
+     *        outside it.
+     *
+     * The mark is the host's: nothing is shown or hidden. The scene is handed the list, which takes back what has
+     * been edited on the chart.
+     */
     void setColorGamutVisible(int index, bool shown) { m_parts.setTriangleVisible(index, shown); }
     /*! \brief Replaces the list of gamuts: the original, then the target. */
     void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles) { m_parts.setTriangles(triangles); }
     /*! \brief The list of gamuts as last set; what is edited on the chart is in the signals. */
     QList<ColorTriangleObject> lsColorTriangleObject() const { return m_parts.triangles(); }
 
-    /*! \brief Hands chromaticities of colour-temperature points to the scene and redraws. */
+    /*! \brief Hands chromaticities of colour-temperature points to the scene and redraws, but not with them. */
     void setLsColorTempertureValuePoints(const QList<QPointF> &points) { m_parts.setColorTemperaturePoints(points); }
     /*! \copydoc NewCEIE::CEIEGraphicsView::lsColorTempertureValuePoints */
     QList<QPointF> lsColorTempertureValuePoints() const { return m_parts.colorTemperaturePoints(); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::setOtherPoints */
+    /*!
+     * \brief Shows measurement points (CIE 1931 x, y) as dots over the picture, one colour for each.
+     *
+     * A point without a colour, or with an invalid one, is white.
+     */
     void setOtherPoints(QList<QPointF> points, QList<QColor> colors) { m_parts.setOtherPoints(points, colors); }
     /*! \copydoc NewCEIE::CEIEGraphicsView::getOtherPoints */
     QList<QPointF> getOtherPoints() const { return m_parts.otherPoints(); }
     /*! \copydoc NewCEIE::CEIEGraphicsView::getOtherPointsColor */
     QList<QColor> getOtherPointsColor() const { return m_parts.otherPointColors(); }
-    /*! \brief Hands u′, v′ pairs to the scene; a u′, v′ chart draws them with its next picture. */
+    /*!
+     * \brief Hands u′, v′ pairs to the scene; a u′, v′ chart draws them with its next picture, which a new size or
+     *        layer switch makes.
+     */
     void setMeasureValuePoints(const QList<QPointF> &points);
     /*! \brief The measure points as the scene holds them. */
     QList<QPointF> getMeasureValuePoints() const;
@@ -121,7 +138,7 @@ public:
     void setColorTempertureChecked(bool checked) { m_parts.setColorTempertureChecked(checked); }
     /*! \copydoc NewCEIE::CEIEGraphicsView::setRGBPointEnable */
     void setRGBPointEnable(bool enable) { m_parts.setRGBPointEnable(enable); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::setUseMouseOpertator */
+    /*! \brief Whether a mouse press may edit, as it may at first. */
     void setUseMouseOpertator(bool enable) { m_parts.setMouseEditing(enable); }
 
     /*! \copydoc NewCEIE::CEIEGraphicsView::setLegendAlignament */
@@ -132,17 +149,20 @@ public:
     NQCEIEGraphicsView *view() const { return m_parts.view(); }
 
 Q_SIGNALS:
-    /*! \brief A primary of the target has been placed; \a colorTriangleObject is the target. */
+    /*! \brief A primary of the target has been placed; \a colorTriangleObject is the target after that. */
     void signal_colorGamutValueChanged(ColorTriangleObject colorTriangleObject);
-    /*! \brief The target's white has changed; \a colorTriangleObject is the target. */
+    /*!
+     * \brief The white point has been released while the white is held; \a colorTriangleObject is the target.
+     * \see setColorTempertureChecked()
+     */
     void signal_colorGamutWhiteChanged(ColorTriangleObject colorTriangleObject);
     /*! \brief The colour temperature of the white-point handle, in kelvin, each time that it is drawn. */
     void signal_colorTempertrueValueChang(double colorTempertureValue);
     /*! \brief Never emitted. */
     void signal_mouseCursorChange(MouseCursorStyle mouseCursorStyle);
-    /*! \brief The target gamut has changed. */
+    /*! \brief A request to move the white point has been accepted, or the left button released. */
     void signal_targetInfoChanged(TargetInfoChangedEventArgs targetInfoChangedEventArgs);
-    /*! \brief The scene has been given its gamuts. */
+    /*! \brief A scene has been constructed with gamuts: not so the scene of a view, which gets them later. */
     void signal_triangleObjecIinitialized(TriangleObjecIinitializedEventArgs triangleObjecIinitializedEventArgs);
 
 private:

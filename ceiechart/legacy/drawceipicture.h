@@ -13,7 +13,8 @@
 /*!
  * \brief Draws the CIE 1931 x, y or the CIE 1976 u′, v′ chromaticity diagram into a new picture per call.
  *
- * The diagram type is chosen once, at construction. It draws no gamuts: the scene puts them over the picture.
+ * The diagram type is chosen once, at construction. It draws no gamuts: the scene puts the
+ * target's handles over the picture.
  *
  * \code
  * DrawCEIPicture renderer(DrawCEIPicture::UvDiagram, nullptr);
@@ -50,7 +51,7 @@ public:
      * \brief The u′, v′ picture: horseshoe inside the spectral locus, axes when \a drawCoordinate is set, and the
      * measure points.
      *
-     * \a drawBBRLine and \a drawWaveLength are accepted and ignored.
+     * \a drawBBRLine, \a drawWaveLength and \a points are accepted and ignored.
      */
     QImage *drawCEIEPicture(
         int width, int height, bool drawCoordinate, bool drawBBRLine, bool drawWaveLength, QList<QPointF> points);

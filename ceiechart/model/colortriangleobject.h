@@ -42,14 +42,14 @@ public:
     /*! \brief Sets pen and fill colour. */
     void setForeColor(const QColor &foreColor);
 
-    /*! \brief Outline width in pixels. */
+    /*! \brief Outline width in pixels. 0 is a line of one pixel; nothing negative is meant. */
     int trigleLineWidth() const;
     /*! \brief Sets the outline width in pixels. */
     void setTrigleLineWidth(int trigleLineWidth);
 
     /*! \brief For the host's own lists: the renderers draw what they are given, shown or not. */
     bool isShow() const;
-    /*! \brief Sets whether the gamut is drawn. */
+    /*! \brief Sets the host's mark. */
     void setShow(bool isShow);
 
     /*!

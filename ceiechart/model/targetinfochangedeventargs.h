@@ -9,7 +9,7 @@
 #include <QObject>
 
 /*!
- * \brief Payload of signal_targetInfoChanged(): the target gamut has changed.
+ * \brief Payload of signal_targetInfoChanged(): the target gamut as it stands.
  *
  * Copied by value: a copy is a fresh object without parent that takes over the payload only. The library
  * registers no meta-type for it: a host that receives it through a queued connection does so itself.
@@ -26,7 +26,7 @@ public:
     TargetInfoChangedEventArgs &operator=(const TargetInfoChangedEventArgs &other);
     ~TargetInfoChangedEventArgs() override;
 
-    /*! \brief The target gamut after the change. */
+    /*! \brief The target gamut. */
     ColorTriangleObject colorTriangleObject() const;
     /*! \brief Sets the target gamut. */
     void setColorTriangleObject(const ColorTriangleObject &colorTriangleObject);
@@ -36,12 +36,12 @@ public:
     /*! \brief Sets the temperature, in kelvin. */
     void setColourTemperature(double colourTemperature);
 
-    /*! \brief The primary that lies outside the reference gamut. */
+    /*! \brief The primary that lies outside the original gamut. The scenes leave it at None: see isReasonableData(). */
     baseCommon::LEDColorType beyondColorType() const;
     /*! \brief Sets the primary that lies outside. */
     void setBeyondColorType(const baseCommon::LEDColorType &beyondColorType);
 
-    /*! \brief True when every primary of the target lies inside the reference gamut, the original one. */
+    /*! \brief True when every primary of the target lies inside the original gamut. */
     bool isReasonableData() const;
     /*! \brief Sets whether every primary lies inside. */
     void setIsReasonableData(bool isReasonableData);

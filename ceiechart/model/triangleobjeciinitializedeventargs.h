@@ -10,7 +10,7 @@
 #include <QObject>
 
 /*!
- * \brief Payload of signal_triangleObjecIinitialized(): the scene's list of triangles has been set.
+ * \brief Payload of signal_triangleObjecIinitialized(): a scene has been constructed with gamuts.
  *
  * Copied by value: a copy is a fresh object without parent that takes over the payload only. The library
  * registers no meta-type for it: a host that receives it through a queued connection does so itself.
@@ -32,12 +32,12 @@ public:
     /*! \brief Sets the list of triangles. */
     void setColorTriangleObjectList(const QList<ColorTriangleObject> &colorTriangleObjectList);
 
-    /*! \brief Whether the list is usable. */
+    /*! \brief True when every primary of the target lies inside the original gamut. */
     bool isEffectiveValue() const;
-    /*! \brief Sets whether the list is usable. */
+    /*! \brief Sets whether every primary lies inside. */
     void setIsEffectiveValue(bool isEffectiveValue);
 
-    /*! \brief The primary that lies outside the reference gamut. */
+    /*! \brief The first primary of the target that lies outside the original gamut. */
     baseCommon::LEDColorType beyondColorType() const;
     /*! \brief Sets the primary that lies outside. */
     void setBeyondColorType(const baseCommon::LEDColorType &beyondColorType);

@@ -89,7 +89,12 @@ public:
 
     /*! \brief Empties the list of gamuts. Standards, the common area and the points stay. */
     void clear() { m_parts.clear(); }
-    /*! \brief Shows or hides the gamut at \a index of the list. Ignores an index outside it. */
+    /*!
+     * \brief Sets the mark ColorTriangleObject::isShow() of the gamut at \a index of the list and hands the list to
+     *        the scene. Ignores an index outside it.
+     *
+     * The mark is the host's: every gamut of the list is drawn. To leave one out, see setIsShowTarget() and the like.
+     */
     void setColorGamutVisible(int index, bool shown) { m_parts.setTriangleVisible(index, shown); }
     /*! \brief Replaces the list of gamuts; the picture shows it after the next updateLanGamut() or resize. */
     void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles) { m_parts.setTriangles(triangles); }
@@ -100,13 +105,23 @@ public:
     void setLsColorTempertureValuePoints(const QList<QPointF> &points) { m_parts.setColorTemperaturePoints(points); }
     /*! \brief The colour-temperature points as last set. */
     QList<QPointF> lsColorTempertureValuePoints() const { return m_parts.colorTemperaturePoints(); }
-    /*! \brief Hands measurement points to the scene, one colour for each. */
+    /*!
+     * \brief Hands measurement points (CIE 1931 x, y) to the scene, which keeps them for the host: this generation
+     *        does not draw them.
+     *
+     * A point without a colour, or with an invalid one, is meant to be white.
+     */
     void setOtherPoints(QList<QPointF> points, QList<QColor> colors) { m_parts.setOtherPoints(points, colors); }
     /*! \brief The measurement points as the scene holds them. */
     QList<QPointF> getOtherPoints() const { return m_parts.otherPoints(); }
     /*! \brief The colours of the measurement points as the scene holds them. */
     QList<QColor> getOtherPointsColor() const { return m_parts.otherPointColors(); }
-    /*! \brief Hands chromaticities of cyan, magenta, yellow and black to the scene; drawn with the next picture. */
+    /*!
+     * \brief Hands chromaticities (CIE 1931 x, y) of cyan, magenta, yellow and black to the scene; drawn with the
+     *        next picture of the gamuts.
+     *
+     * They are turned into places in the picture now: set the size first, and the points again after a new size.
+     */
     void setCMYPointData(const QList<QPointF> &points);
 
     /*! \brief Sets the colour behind the horseshoe, for the next picture. */
@@ -145,15 +160,23 @@ public:
     /*! \brief The switch last set. */
     bool isDrawWaveLength() const { return m_parts.isDrawWaveLength(); }
 
-    /*! \brief The scene's colour-temperature switch: when on, drawing the handles takes the target's white away. */
+    /*!
+     * \brief When on, as it is at first, drawing the handles takes the target's white away: position (0, 0), no
+     *        luminance.
+     */
     void setDrawColorTPoint(bool draw) { m_parts.setDrawColorTPoint(draw); }
     /*! \brief The scene's switch, on at first. */
     bool isDrawColorTPoint() const { return m_parts.isDrawColorTPoint(); }
-    /*! \brief Whether a moved primary leaves the target's white where it is and rebalances the luminances. */
+    /*!
+     * \brief Whether a moved primary leaves the target's white where it is and rebalances the luminances. Off at
+     *        first.
+     *
+     * It is the white as it stands that is held: use it together with setDrawColorTPoint(false).
+     */
     void setColorTempertureChecked(bool checked) { m_parts.setColorTempertureChecked(checked); }
-    /*! \brief Whether the target's primaries can be moved. */
+    /*! \brief Whether the target's primaries can be moved, as they can at first. */
     void setRGBPointEnable(bool enable) { m_parts.setRGBPointEnable(enable); }
-    /*! \brief Whether the scene allows editing with the mouse. */
+    /*! \brief Whether a mouse press may edit, as it may at first; in this generation none does. */
     void setUseMouseOpertator(bool enable) { m_parts.setMouseEditing(enable); }
 
     /*! \brief Whether the next setColorGamut() takes the standards. On at first, as are the following four. */
@@ -178,17 +201,17 @@ public:
     NQCEIEGraphicsView *view() const { return m_parts.view(); }
 
 Q_SIGNALS:
-    /*! \brief A vertex of the target has been placed; \a colorTriangleObject is the target. */
+    /*! \brief A primary of the target has been placed; \a colorTriangleObject is the target after that. */
     void signal_colorGamutValueChanged(ColorTriangleObject colorTriangleObject);
-    /*! \brief The target's white has changed; \a colorTriangleObject is the target. */
+    /*! \brief Never emitted in this generation. */
     void signal_colorGamutWhiteChanged(ColorTriangleObject colorTriangleObject);
-    /*! \brief The colour temperature of the white-point handle, in kelvin, each time that it is drawn. */
+    /*! \brief Never emitted in this generation, which draws no white-point handle. */
     void signal_colorTempertrueValueChang(double colorTempertureValue);
     /*! \brief Never emitted. */
     void signal_mouseCursorChange(NewCEIE::MouseCursorStyle mouseCursorStyle);
-    /*! \brief The target gamut has changed. */
+    /*! \brief The scene has accepted a request to move the white point. */
     void signal_targetInfoChanged(TargetInfoChangedEventArgs targetInfoChangedEventArgs);
-    /*! \brief The scene has been given its gamuts. */
+    /*! \brief A scene has been constructed with gamuts: not so the scene of a view, which gets them later. */
     void signal_triangleObjecIinitialized(TriangleObjecIinitializedEventArgs triangleObjecIinitializedEventArgs);
 
 protected:
