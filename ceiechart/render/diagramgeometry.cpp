@@ -8,7 +8,8 @@ namespace ceiechart {
 double mulDiv(int a, int b, int c) noexcept
 {
     const auto product = static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
-    return static_cast<double>(static_cast<long long>(product) / c) + 0.5;
+    const auto quotient = static_cast<long long>(product) / c;
+    return static_cast<double>(quotient) + 0.5;
 }
 
 double clamp(double v, double lo, double hi) noexcept

@@ -13,12 +13,12 @@ namespace ceiechart {
 
 Channels primaryAmounts(const CEIAtlasValue::TColorSystem &system, double x, double y, double z) noexcept
 {
-    const double xR = double(system.xRed);
-    const double yR = double(system.yRed);
-    const double xG = double(system.xGreen);
-    const double yG = double(system.yGreen);
-    const double xB = double(system.xBlue);
-    const double yB = double(system.yBlue);
+    const double xR = system.xRed;
+    const double yR = system.yRed;
+    const double xG = system.xGreen;
+    const double yG = system.yGreen;
+    const double xB = system.xBlue;
+    const double yB = system.yBlue;
     const double zR = 1 - xR - yR;
     const double zG = 1 - xG - yG;
     const double zB = 1 - xB - yB;

@@ -56,7 +56,7 @@ decideRun(const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
     const float below = 1.0F - run.margin;
     unsigned any = 0;
     for (int k = 0; k < count; ++k) {
-        const float step = static_cast<float>(k);
+        const auto step = static_cast<float>(k);
         float red = run.red + step * run.redStep;
         float green = run.green + step * run.greenStep;
         float blue = run.blue + step * run.blueStep;
