@@ -79,8 +79,18 @@ double quotient(double numerator, double denominator)
     return denominator > 0.0 ? finiteOrZero(numerator / denominator) : 0.0;
 }
 
+// Corners on a line have an area of 0 but for rounding.
+bool isFlat(const Triangle &triangle)
+{
+    constexpr double rounding = 1e-15;
+    return !(area(triangle) > rounding);
+}
+
 bool isOutside(const DiagramPoint &point, const Triangle &triangle)
 {
+    if (isFlat(triangle)) {
+        return true;
+    }
     const auto &[a, b, c] = triangle;
     const double excess = std::fabs(turn(point, b, c)) / 2.0 + std::fabs(turn(a, point, c)) / 2.0
         + std::fabs(turn(a, b, point)) / 2.0 - std::fabs(turn(a, b, c)) / 2.0;

@@ -67,7 +67,7 @@ GAMUTMODEL_EXPORT GamutCoverage gamutCoverage(const Targets &gamut, const Target
  *
  * A primary is outside when the triangles that it spans with the sides of the other gamut exceed that gamut's area
  * by 0.0001 or more in x, y: about 0.0002 beyond a side. This is the tolerance of the charts' own check. A primary
- * that is not finite is outside, and outside a gamut that is not finite everything is.
+ * that is not finite is outside, and outside a gamut that is not finite or has no area everything is.
  */
 struct PrimariesOutside {
     bool red = false; //!< the red primary is outside

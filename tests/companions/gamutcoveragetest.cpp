@@ -37,6 +37,7 @@ private Q_SLOTS:
     void primariesOutside();
     void primariesOutsideTolerance();
     void primariesOutsideNotFinite();
+    void primariesOutsideNoArea();
 };
 
 namespace {
@@ -323,6 +324,22 @@ void GamutCoverageTest::primariesOutsideNotFinite()
     QVERIFY(!outside.green);
     const PrimariesOutside ofBad = Model::primariesOutside(standard709, bad);
     QVERIFY(ofBad.red && ofBad.green && ofBad.blue);
+}
+
+void GamutCoverageTest::primariesOutsideNoArea()
+{
+    const auto allOutside = [](const Targets &container) {
+        const PrimariesOutside outside = Model::primariesOutside(standard709, container);
+        return outside.red && outside.green && outside.blue;
+    };
+    QVERIFY(allOutside(gamut(0.3, 0.3, 0.3, 0.3, 0.3, 0.3)));
+    QVERIFY(allOutside(gamut(0.1, 0.1, 0.1, 0.1, 0.6, 0.3)));
+    // On a line as far as doubles go, and the line of two of the primaries
+    QVERIFY(allOutside(gamut(0.64, 0.33, 0.47, 0.465, 0.3, 0.6)));
+    QVERIFY(allOutside(Targets()));
+    // The thinnest that files may hold is a container still.
+    const Targets thin = gamut(0.1, 0.1, 0.6, 0.1, 0.35, 0.10001);
+    QVERIFY(!Model::primariesOutside(thin, thin).any());
 }
 
 QTEST_GUILESS_MAIN(GamutCoverageTest)
