@@ -1,12 +1,60 @@
 // SPDX-License-Identifier: MIT
 #include "json.h"
 
+#include <QCoreApplication>
 #include <QJsonParseError>
 #include <QVector>
 
 #include <algorithm>
 
 namespace gamutviewer {
+
+namespace {
+
+struct JsonText {
+    Q_DECLARE_TR_FUNCTIONS(gamutviewer::Json)
+};
+
+//! Whether something is open at the end of the text: a string, an array, an object.
+bool isOpen(const QByteArray &utf8)
+{
+    QByteArray closing;
+    bool inString = false;
+    for (int i = 0; i < utf8.size(); ++i) {
+        const char c = utf8.at(i);
+        if (inString) {
+            i += c == '\\' ? 1 : 0;
+            inString = c != '"';
+        } else if (c == '"') {
+            inString = true;
+        } else if (c == '{' || c == '[') {
+            closing.append(c == '{' ? '}' : ']');
+        } else if (c == '}' || c == ']') {
+            if (!closing.endsWith(c)) {
+                return false;
+            }
+            closing.chop(1);
+            if (closing.isEmpty()) {
+                return false;
+            }
+        }
+    }
+    return inString || !closing.isEmpty();
+}
+
+//! Whether the text stops before it is complete, and what there is of it is right.
+bool endsTooEarly(const QByteArray &utf8, int errorOffset)
+{
+    // The error is found at the end, or where the word, the escape or the character begins that is cut.
+    constexpr int longestCut = 5;
+    int end = int(utf8.size());
+    while (end > 0 && QByteArray(" \t\r\n").contains(utf8.at(end - 1))) {
+        --end;
+    }
+    return errorOffset >= end - longestCut && isOpen(utf8);
+}
+
+} // namespace
 
 TextPosition textPosition(const QByteArray &utf8, int offset)
 {
@@ -21,7 +69,7 @@ ParsedJson parseJson(const QByteArray &utf8)
     ParsedJson parsed;
     parsed.document = QJsonDocument::fromJson(utf8, &error);
     if (parsed.document.isNull()) {
-        parsed.error = error.errorString();
+        parsed.error = endsTooEarly(utf8, error.offset) ? JsonText::tr("the file ends too early") : error.errorString();
         parsed.position = textPosition(utf8, error.offset);
     }
     return parsed;

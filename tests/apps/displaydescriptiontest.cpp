@@ -194,7 +194,7 @@ void DisplayDescriptionTest::refused_data()
     row("byte order mark only", "\xEF\xBB\xBF", "f: is empty");
     row("array", "[]", "f: expected an object, found an array");
     row("null", " null", "f:1:3: illegal value");
-    row("cut short", description.left(description.indexOf("0.72")), "f:9:49: unterminated object");
+    row("cut short", description.left(description.indexOf("0.72")), "f:9:49: the file ends too early");
     change("comma missing", "0.7, \"y\": 0.3}", "0.7 \"y\": 0.3}", "f:8:41: unterminated object");
 
     change("NaN", "0.72", "NaN", "f:9:49: illegal number");

@@ -17,6 +17,9 @@ private Q_SLOTS:
     void numbersAreExact();
     void refusals_data();
     void refusals();
+    void cutShort();
+    void otherErrorsAreNotTakenForCuts_data();
+    void otherErrorsAreNotTakenForCuts();
     void deepNesting();
     void positions_data();
     void positions();
@@ -88,6 +91,41 @@ void JsonTest::refusals()
     QVERIFY(!parsed.error.isEmpty());
     QCOMPARE(parsed.position.line, line);
     QVERIFY(parsed.position.column >= 1);
+}
+
+// Wherever a text is cut, that is what is said.
+void JsonTest::cutShort()
+{
+    const QByteArray whole
+        = " {\"a\": [1.5, -2e-3, true, false, null, \"x\\n\\u00e9\xC3\xA9\xF0\x9F\x98\x80\"],\n \"b\": {\"c\": {}, "
+          "\"d\": []}}";
+    QVERIFY(parseJson(whole).error.isEmpty());
+    for (int length = 2; length < whole.size(); ++length) {
+        for (const char *space : {"", "\n", " \r\n"}) {
+            const QByteArray cut = whole.left(length) + space;
+            QVERIFY2(parseJson(cut).error == QLatin1String("the file ends too early"), cut);
+        }
+    }
+}
+
+void JsonTest::otherErrorsAreNotTakenForCuts_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("comma missing") << QByteArray("{\"a\": [1\n2], \"b\": [");
+    QTest::newRow("trailing comma") << QByteArray("{\"a\": 1,}");
+    QTest::newRow("wrong bracket") << QByteArray("{\"a\": [1}");
+    QTest::newRow("other word") << QByteArray("[nul]");
+    QTest::newRow("other escape") << QByteArray("[\"\\u00x0\"]");
+    QTest::newRow("not UTF-8") << QByteArray("[\"\xFF\"]");
+    QTest::newRow("more after the end") << QByteArray("{} {");
+}
+
+void JsonTest::otherErrorsAreNotTakenForCuts()
+{
+    QFETCH(QByteArray, text);
+    const QString error = parseJson(text).error;
+    QVERIFY(!error.isEmpty());
+    QVERIFY(error != QLatin1String("the file ends too early"));
 }
 
 void JsonTest::deepNesting()
