@@ -20,13 +20,15 @@ CommandLine::CommandLine(const QStringList &arguments)
     const QCommandLineOption render(QStringLiteral("render"),
         tr("Write the chart to <file> and show nothing: PNG, SVG or PDF by its suffix, PNG without one."), tr("file"));
     const QCommandLineOption size(QStringLiteral("size"),
-        tr("Size of the chart in pixels, %1x%2 unless given; at most %3 a side.")
+        tr("Size of the chart in pixels, %1x%2 unless given; at most %3 a side, which goes for a PNG after "
+           "multiplication by the device pixel ratio. Without --render, size of the window.")
             .arg(m_extent.size.width())
             .arg(m_extent.size.height())
             .arg(maximumPictureSide),
         tr("width>x<height"));
     const QCommandLineOption ratio(QStringLiteral("dpr"),
-        tr("Device pixel ratio of the written chart, %1 to %2, 1 unless given: a PNG has this many times the pixels.")
+        tr("Device pixel ratio of the written chart, %1 to %2, 1 unless given: a PNG has this many times the pixels. "
+           "Only with --render.")
             .arg(leastRatio)
             .arg(greatestRatio),
         tr("ratio"));
@@ -69,6 +71,9 @@ CommandLine::CommandLine(const QStringList &arguments)
     }
     if (m_parser.isSet(ratio)) {
         readRatio(m_parser.value(ratio));
+        if (!m_parser.isSet(render)) {
+            refuse(tr("There is no chart for --dpr: it goes with --render."));
+        }
     }
     if (m_parser.isSet(render)) {
         readPicture(m_parser.value(render));

@@ -132,10 +132,11 @@ void CommandLineTest::ratios()
 {
     QFETCH(QString, text);
     QFETCH(double, ratio);
-    const CommandLine line({QStringLiteral("gamutviewer"), QStringLiteral("--dpr"), text});
+    const CommandLine line({QStringLiteral("gamutviewer"), QStringLiteral("--dpr"), text, QStringLiteral("--render"),
+        QStringLiteral("chart.svg")});
     if (ratio > 0.0) {
         QCOMPARE(line.extent().devicePixelRatio, ratio);
-        QCOMPARE(line.action(), Action::Show);
+        QCOMPARE(line.action(), Action::Write);
     } else {
         QCOMPARE(line.action(), Action::Refuse);
         QCOMPARE(line.error(), QStringLiteral("Not a device pixel ratio from 0.25 to 16: ") + text);
@@ -183,6 +184,10 @@ void CommandLineTest::refusals_data()
     QTest::newRow("no report format") << QStringList{"--report"} << "Missing value after '--report'.";
     QTest::newRow("too many pixels") << QStringList{"--render", "a.png", "--size", "4097x5", "--dpr", "2"}
                                      << "The picture would have more than 8192 pixels a side.";
+    QTest::newRow("ratio of a window") << QStringList{"--dpr", "2", "a.json"}
+                                       << "There is no chart for --dpr: it goes with --render.";
+    QTest::newRow("ratio of a report") << QStringList{"--dpr", "2", "--report", "json"}
+                                       << "There is no chart for --dpr: it goes with --render.";
     QTest::newRow("first reason") << QStringList{"--dpr", "0", "--size", "0x0"}
                                   << "Not a size from 1x1 to 8192x8192: 0x0";
 }

@@ -347,6 +347,8 @@ void GamutViewerTest::refusesArguments_data()
     QTest::newRow("bad size") << QStringList{"--size", "12"} << QByteArray("Not a size from 1x1 to 8192x8192: 12");
     QTest::newRow("negative size") << QStringList{"--size=-1x5"}
                                    << QByteArray("Not a size from 1x1 to 8192x8192: -1x5");
+    QTest::newRow("bad ratio") << QStringList{"--dpr", "0"}
+                               << QByteArray("Not a device pixel ratio from 0.25 to 16: 0");
     QTest::newRow("two descriptions") << QStringList{
         SAMPLE_FILE, SAMPLE_FILE} << QByteArray(SAMPLE_FILE ": is a second display description, after " SAMPLE_FILE);
     QTest::newRow("missing file") << QStringList{"no.json"}
