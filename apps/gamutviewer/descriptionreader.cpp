@@ -2,6 +2,7 @@
 #include "descriptionreader.h"
 
 #include "filebytes.h"
+#include "gamutfromprimaries.h"
 #include "messages.h"
 
 #include <QJsonArray>
@@ -131,6 +132,9 @@ Model::ColorGamut DescriptionReader::readGamut(const Node &node)
     targets.green = readTarget(member(node, QStringLiteral("green")));
     targets.blue = readTarget(member(node, QStringLiteral("blue")));
     targets.white = readTarget(member(node, QStringLiteral("white")));
+    if (!spanTriangle(targets)) {
+        fail(node, noTriangleText());
+    }
     return {name.toStdString(), targets};
 }
 

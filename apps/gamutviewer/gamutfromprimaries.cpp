@@ -2,6 +2,7 @@
 #include "gamutfromprimaries.h"
 
 #include <colortemperature/colortemperature.h>
+#include <gamutmodel/gamutcoverage.h>
 
 #include <QCoreApplication>
 
@@ -33,14 +34,17 @@ bool makeChromaticity(QPointF &xy)
     return xy.x() >= 0.0 && xy.y() > 0.0 && xy.x() + xy.y() <= 1.0;
 }
 
-double area(const Primaries &primaries)
+} // namespace
+
+bool spanTriangle(const Model::Targets &targets)
 {
-    const QPointF a = primaries.green - primaries.red;
-    const QPointF b = primaries.blue - primaries.red;
-    return std::fabs(a.x() * b.y() - a.y() * b.x()) / 2.0;
+    return Model::gamutArea(targets, Model::Diagram::Cie1931) >= leastArea;
 }
 
-} // namespace
+QString noTriangleText()
+{
+    return PrimariesText::tr("the primaries span no triangle");
+}
 
 Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries primaries, double whiteLuminance)
 {
@@ -60,8 +64,10 @@ Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries pri
                                         .arg(given.y()));
         }
     }
-    if (area(primaries) < leastArea) {
-        return Failure::failure(PrimariesText::tr("the primaries span no triangle"));
+    const auto target
+        = [](double luminance, const QPointF &xy) { return Model::Target::fromYxy(luminance, xy.x(), xy.y()); };
+    if (!spanTriangle({target(0.0, primaries.red), target(0.0, primaries.green), target(0.0, primaries.blue), {}})) {
+        return Failure::failure(noTriangleText());
     }
     double red = 0.0;
     double green = 0.0;
@@ -71,8 +77,6 @@ Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries pri
     if (!(red >= 0.0 && green >= 0.0 && blue >= 0.0 && std::isfinite(red + green + blue))) {
         return Failure::failure(PrimariesText::tr("the white point lies outside the triangle of the primaries"));
     }
-    const auto target
-        = [](double luminance, const QPointF &xy) { return Model::Target::fromYxy(luminance, xy.x(), xy.y()); };
     return Model::ColorGamut(name.toStdString(),
         {target(red, primaries.red), target(green, primaries.green), target(blue, primaries.blue),
             target(whiteLuminance, primaries.white)});

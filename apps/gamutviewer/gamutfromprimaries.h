@@ -26,6 +26,11 @@ struct Primaries {
  */
 Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries primaries, double whiteLuminance);
 
+/*! \brief Whether the primaries of \a targets are far enough from one line to mix anything. */
+bool spanTriangle(const Model::Targets &targets);
+/*! \brief What to say where they are not. */
+QString noTriangleText();
+
 } // namespace gamutviewer
 
 #endif

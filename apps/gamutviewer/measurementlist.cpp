@@ -2,6 +2,7 @@
 #include "measurementlist.h"
 
 #include "csv.h"
+#include "gamutfromprimaries.h"
 
 #include <QCoreApplication>
 
@@ -218,6 +219,10 @@ Outcome<MeasurementList> readMeasurementList(const QByteArray &utf8)
     }
     if (list.measurements.isEmpty()) {
         return Failure::failure(MeasurementText::tr("has no measurements"));
+    }
+    const auto gamut = list.gamut(QString());
+    if (gamut && !spanTriangle(gamut->getTargets())) {
+        return Failure::failure(noTriangleText());
     }
     return list;
 }

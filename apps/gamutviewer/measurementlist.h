@@ -39,6 +39,7 @@ struct MeasurementList {
  * A header line that names the columns is optional; with one, the columns may stand in any order and there may be
  * others. Fields are separated by commas, semicolons or tabs, whichever the first line has; with semicolons and tabs
  * a decimal comma is understood too. Empty lines and lines that begin with # are skipped. Errors name line and column.
+ * A list whose gamut() has primaries that span no triangle is refused.
  */
 Outcome<MeasurementList> readMeasurementList(const QByteArray &utf8);
 

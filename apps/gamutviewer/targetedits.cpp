@@ -2,6 +2,7 @@
 #include "targetedits.h"
 
 #include "chromaticity.h"
+#include "gamutfromprimaries.h"
 
 #include <colortemperature/colortemperature.h>
 
@@ -153,6 +154,9 @@ std::optional<Model::Targets> withPrimary(
     }
     Model::Targets edited = targets;
     setXy(targetAt(edited, primary), xy);
+    if (!spanTriangle(edited)) {
+        return std::nullopt;
+    }
     if (!holdWhite) {
         mixWhite(edited);
         return edited;

@@ -107,12 +107,14 @@ void DescriptionWriterTest::anyNumberSurvives()
     std::uniform_real_distribution<double> share(0.0, 1.0);
     std::uniform_real_distribution<double> exponent(-300.0, 300.0);
     DisplayDescription description = everything();
+    const Model::Target green = Model::Target::fromYxy(1.0, 0.2, 0.7);
+    const Model::Target blue = Model::Target::fromYxy(1.0, 0.15, 0.05);
     for (int i = 0; i < 2000; ++i) {
         const double x = share(random) * 0.9;
         const double y = (1.0 - x) * (0.01 + 0.98 * share(random));
         const double Y = i % 2 ? std::pow(10.0, exponent(random)) : std::floor(share(random) * 1e6);
         const Model::Target target = Model::Target::fromYxy(Y, x, y);
-        description.gamuts.emplace_back("n" + std::to_string(i), Model::Targets{target, target, target, target});
+        description.gamuts.emplace_back("n" + std::to_string(i), Model::Targets{target, green, blue, target});
     }
     verifySurvives(description);
 }

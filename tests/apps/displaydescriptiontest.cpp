@@ -254,6 +254,8 @@ void DisplayDescriptionTest::refused_data()
         "f: gamuts[0].green: the chromaticities x and y must not add up to more than 1");
     change("x a percentage", "0.17,", "17,",
         "f: gamuts[0].green: the chromaticities x and y must not add up to more than 1");
+    change("no triangle", "\"x\": 0.17, \"y\": 0.72", "\"x\": 0.7, \"y\": 0.3",
+        "f: gamuts[0]: the primaries span no triangle");
     change("x of a point", "0.44", "-0.44", "f: colorTemperaturePoints[0].x: a chromaticity must not be negative");
     change(
         "y of a point", "0.31}]", "0}]", "f: colorTemperaturePoints[1].y: the chromaticity y must be greater than 0");

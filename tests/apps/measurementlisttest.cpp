@@ -183,6 +183,8 @@ void MeasurementListTest::refusals_data()
     row("negative luminance", "a,-1,0.3,0.3", "line 1, column Y: a luminance must not be negative");
     row("negative x", "a,1,-0.3,0.3", "line 1, column x: a chromaticity must not be negative");
     row("y zero", "a,1,0.3,0", "line 1, column y: the chromaticity y must be greater than 0");
+    row("gamut of one point", "R,1,0.3,0.3\nG,1,0.3,0.3\nB,1,0.3,0.3\nW,3,0.3,0.3", "the primaries span no triangle");
+    row("gamut on a line", "R,1,0.6,0.3\nG,1,0.4,0.3\nB,1,0.2,0.3\nW,3,0.3,0.3", "the primaries span no triangle");
     row("beyond the diagram", "a,1,0.6,0.5",
         "line 1, column x: the chromaticities x and y must not add up to more than 1");
 }

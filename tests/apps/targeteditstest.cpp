@@ -6,6 +6,7 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void heldWhiteOfTheOriginalStays();
     void movedWhiteRebalancesThePrimaries();
     void whiteOutsideTheTriangleIsRefused();
+    void primariesOnALineAreRefused();
     void badChromaticitiesAreRefused_data();
     void badChromaticitiesAreRefused();
     void luminanceOfAPrimaryMixesAnotherWhite();
@@ -115,6 +117,13 @@ void TargetEditsTest::whiteOutsideTheTriangleIsRefused()
     QVERIFY(!withPrimary(Model::rec709().getTargets(), Vertex::Green, QPointF(0.5, 0.2), true, wall()));
 }
 
+void TargetEditsTest::primariesOnALineAreRefused()
+{
+    const Model::Targets rec709 = Model::rec709().getTargets();
+    QVERIFY(!withPrimary(rec709, Vertex::Red, xyOf(rec709.green), false, wall()));
+    QVERIFY(!withPrimary(rec709, Vertex::Red, (xyOf(rec709.green) + xyOf(rec709.blue)) / 2, false, wall()));
+}
+
 void TargetEditsTest::badChromaticitiesAreRefused_data()
 {
     QTest::addColumn<QPointF>("xy");
@@ -190,7 +199,8 @@ void TargetEditsTest::resetTakesTheEditedGamutAway()
 {
     DisplayDescription description;
     description.target = QStringLiteral("Rec.709");
-    description = withTargetNamed(withEditedTarget(description, wall()), QStringLiteral("Rec.2020"));
+    description
+        = withTargetNamed(withEditedTarget(description, Model::dciP3D65().getTargets()), QStringLiteral("Rec.2020"));
     QCOMPARE(description.target, QStringLiteral("Rec.2020"));
     QVERIFY(description.gamuts.empty());
 }
@@ -199,7 +209,7 @@ void TargetEditsTest::resetKeepsAnEditedGamutThatIsReferredTo()
 {
     DisplayDescription description;
     description.target = QStringLiteral("Rec.709");
-    description = withEditedTarget(description, wall());
+    description = withEditedTarget(description, Model::dciP3D65().getTargets());
     description.measured = description.target;
     description = withTargetNamed(description, QStringLiteral("Rec.2020"));
     QCOMPARE(description.gamuts.size(), size_t(1));
