@@ -132,10 +132,9 @@ void ComparePage::refresh()
         for (const Vertex vertex : allVertices) {
             setCell(RedRow + int(vertex), column, pairText(xyOf(targetAt(t, vertex))));
         }
-        const ColorTemperature white = colorTemperature(xyOf(t.white));
-        setCell(TemperatureRow, column,
-            isCorrelated(white) ? tr("%1 K").arg(white.kelvin, 0, 'f', 0) : QStringLiteral("–"));
-        setCell(DuvRow, column, QString::number(white.duv, 'f', 4));
+        const auto white = colorTemperature(xyOf(t.white));
+        setCell(TemperatureRow, column, white ? temperatureText(*white) : undefinedText());
+        setCell(DuvRow, column, white ? duvText(*white) : undefinedText());
         setCell(LuminanceRow, column, luminanceText(t.white.Y));
         setCell(AreaXyRow, column, QString::number(Model::gamutArea(t, Model::Diagram::Cie1931), 'f', 5));
         setCell(AreaUvRow, column, QString::number(Model::gamutArea(t, Model::Diagram::Cie1976), 'f', 5));

@@ -23,4 +23,20 @@ std::optional<Model::ColorGamut> DisplayDescription::gamut(const QString &gamutN
     return own ? own : find(Model::standardGamuts(), gamutName);
 }
 
+std::vector<Model::ColorGamut> DisplayDescription::allStandards() const
+{
+    QStringList names = standards;
+    for (const Model::ColorGamut &published : Model::standardGamuts()) {
+        names.append(QString::fromStdString(published.colorGamutName()));
+    }
+    names.removeDuplicates();
+    std::vector<Model::ColorGamut> found;
+    for (const QString &name : qAsConst(names)) {
+        if (const auto standard = gamut(name)) {
+            found.push_back(*standard);
+        }
+    }
+    return found;
+}
+
 } // namespace gamutviewer

@@ -47,6 +47,9 @@ struct DisplayDescription {
      * name (Model::standardGamuts()); nothing when there is neither.
      */
     std::optional<Model::ColorGamut> gamut(const QString &gamutName) const;
+
+    /*! \brief The gamuts to compare with: the description's standards, then each other published gamut. */
+    std::vector<Model::ColorGamut> allStandards() const;
 };
 
 } // namespace gamutviewer

@@ -46,12 +46,6 @@ QVector<GamutPart> gamutParts(const DisplayDescription &description)
     return parts;
 }
 
-bool isCorrelated(const ColorTemperature &temperature)
-{
-    constexpr double mostDuv = 0.05;
-    return temperature.kelvin > 1000.0 && temperature.kelvin < 100000.0 && std::fabs(temperature.duv) <= mostDuv;
-}
-
 QString percent(double value)
 {
     return QCoreApplication::translate("gamutviewer", "%1 %").arg(value * 100.0, 0, 'f', 1);

@@ -3,7 +3,6 @@
 #define GAMUTVIEWER_GAMUTPARTS_H
 
 #include "displaydescription.h"
-#include "whitepoint.h"
 
 namespace gamutviewer {
 
@@ -22,12 +21,6 @@ struct GamutPart {
 
 /*! \brief The parts of \a description that a gamut plays: declared, original, measured, target. */
 QVector<GamutPart> gamutParts(const DisplayDescription &description);
-
-/*!
- * \brief Whether \a temperature is a correlated colour temperature: not an end of the range, and no farther from the
- * Planckian locus than CIE 15:2018, 9.5, allows.
- */
-bool isCorrelated(const ColorTemperature &temperature);
 
 /*! \brief \a value as a percentage with one decimal. */
 QString percent(double value);

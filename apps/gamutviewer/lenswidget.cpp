@@ -156,8 +156,7 @@ void LensWidget::setWhites(const QVector<GamutPart> &parts, const QVector<QPoint
     }
     QStringList description;
     for (const White &white : qAsConst(m_whites)) {
-        const ColorTemperature t = colorTemperature(white.xy);
-        description.append(tr("%1: %2 K, Duv %3").arg(white.name).arg(t.kelvin, 0, 'f', 0).arg(t.duv, 0, 'f', 4));
+        description.append(whiteText(white));
     }
     setAccessibleDescription(description.join(QStringLiteral("; ")));
     update();
@@ -337,13 +336,19 @@ void LensWidget::drawWhites(QPainter &painter) const
     }
 }
 
+QString LensWidget::whiteText(const White &white)
+{
+    const auto temperature = colorTemperature(white.xy);
+    return temperature ? tr("%1: %2, Duv %3").arg(white.name, temperatureText(*temperature), duvText(*temperature))
+                       : tr("%1: no colour temperature").arg(white.name);
+}
+
 QStringList LensWidget::keyLines() const
 {
     QStringList lines;
     const White *reference = target();
     for (const White &white : m_whites) {
-        const ColorTemperature t = colorTemperature(white.xy);
-        QString line = tr("%1: %2 K, Duv %3").arg(white.name).arg(t.kelvin, 0, 'f', 0).arg(t.duv, 0, 'f', 4);
+        QString line = whiteText(white);
         if (reference && white.role != GamutPart::Role::Target) {
             line += tr(", Δu′v′ %1").arg(distance(white.uv, reference->uv), 0, 'f', 4);
         }

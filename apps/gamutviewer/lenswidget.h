@@ -57,6 +57,7 @@ private:
     void drawGrid(QPainter &painter) const;
     void drawLocus(QPainter &painter) const;
     void drawIsotherms(QPainter &painter) const;
+    static QString whiteText(const White &white);
     QStringList keyLines() const;
     QRectF keyBox() const;
     void drawRings(QPainter &painter) const;

@@ -25,14 +25,9 @@ QJsonObject colorObject(const Model::Target &target)
     const Model::DiagramPoint uv = Model::toDiagram(Model::Diagram::Cie1976, {target.x, target.y});
     QJsonObject object{{QStringLiteral("Y"), target.Y}, {QStringLiteral("x"), target.x},
         {QStringLiteral("y"), target.y}, {QStringLiteral("u"), uv.x}, {QStringLiteral("v"), uv.y}};
-    const ColorTemperature temperature = colorTemperature({target.x, target.y});
-    if (temperature.hasMeaning()) {
-        object.insert(QStringLiteral("cct"), temperature.kelvin);
-        object.insert(QStringLiteral("duv"), temperature.duv);
-    } else {
-        object.insert(QStringLiteral("cct"), QJsonValue::Null);
-        object.insert(QStringLiteral("duv"), QJsonValue::Null);
-    }
+    const auto temperature = colorTemperature({target.x, target.y});
+    object.insert(QStringLiteral("cct"), temperature ? QJsonValue(temperature->kelvin) : QJsonValue::Null);
+    object.insert(QStringLiteral("duv"), temperature ? QJsonValue(temperature->duv) : QJsonValue::Null);
     return object;
 }
 
@@ -56,25 +51,6 @@ QJsonObject standardObject(const Model::ColorGamut &gamut, const Model::ColorGam
     });
     object.insert(QStringLiteral("standard"), QString::fromStdString(standard.colorGamutName()));
     return object;
-}
-
-//! Those of the description, and the published ones that it does not name.
-std::vector<Model::ColorGamut> standards(const DisplayDescription &description)
-{
-    QStringList names = description.standards;
-    for (const Model::ColorGamut &standard : Model::standardGamuts()) {
-        const QString name = QString::fromStdString(standard.colorGamutName());
-        if (!names.contains(name)) {
-            names.append(name);
-        }
-    }
-    std::vector<Model::ColorGamut> gamuts;
-    for (const QString &name : qAsConst(names)) {
-        if (const auto gamut = description.gamut(name)) {
-            gamuts.push_back(*gamut);
-        }
-    }
-    return gamuts;
 }
 
 QJsonObject gamutObject(const Model::ColorGamut &gamut, const std::vector<Model::ColorGamut> &standards)
@@ -121,7 +97,7 @@ QJsonObject unusedObject(const Model::Targets &target, const Model::Targets &ori
 
 QJsonObject report(const DisplayDescription &description)
 {
-    const std::vector<Model::ColorGamut> comparedWith = standards(description);
+    const std::vector<Model::ColorGamut> comparedWith = description.allStandards();
     QJsonObject object{{QStringLiteral("version"), 1}, {QStringLiteral("name"), description.name}};
     const auto insertPart = [&](const QString &part, const QString &name) {
         if (const auto gamut = description.gamut(name)) {

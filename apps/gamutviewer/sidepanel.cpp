@@ -26,27 +26,10 @@ QString fixed(double value, int decimals = 4)
 QStringList valueCells(Vertex vertex, const Model::Target &t)
 {
     const QPointF uv = uvFromXy(xyOf(t));
-    const ColorTemperature temperature = colorTemperature(xyOf(t));
+    const auto temperature = colorTemperature(xyOf(t));
     return {vertexName(vertex), luminanceText(t.Y), fixed(t.x), fixed(t.y), fixed(uv.x()), fixed(uv.y()),
-        isCorrelated(temperature) ? fixed(temperature.kelvin, 0) : QStringLiteral("–"),
-        temperature.kelvin > 0.0 ? fixed(temperature.duv) : QStringLiteral("–")};
-}
-
-//! Those of the description, and each other published gamut.
-std::vector<Model::ColorGamut> standardsOf(const DisplayDescription &description)
-{
-    QStringList names = description.standards;
-    for (const Model::ColorGamut &published : Model::standardGamuts()) {
-        names.append(QString::fromStdString(published.colorGamutName()));
-    }
-    names.removeDuplicates();
-    std::vector<Model::ColorGamut> standards;
-    for (const QString &name : qAsConst(names)) {
-        if (const auto standard = description.gamut(name)) {
-            standards.push_back(*standard);
-        }
-    }
-    return standards;
+        temperature ? fixed(temperature->kelvin, 0) : undefinedText(),
+        temperature ? duvText(*temperature) : undefinedText()};
 }
 
 QStringList coverageCells(const Model::ColorGamut &gamut, const Model::ColorGamut &standard)
@@ -138,7 +121,7 @@ void SidePanel::refreshValues()
 
 void SidePanel::refreshCoverage()
 {
-    const std::vector<Model::ColorGamut> standards = standardsOf(m_document->description());
+    const std::vector<Model::ColorGamut> standards = m_document->description().allStandards();
     QVector<GroupedTable::Group> groups;
     for (const GamutPart &part : gamutParts(m_document->description())) {
         GroupedTable::Group group{part.title(), {}};

@@ -247,7 +247,7 @@ void TargetEditor::refresh()
         row.luminance->setSingleStep(targets.white.Y < 10.0 ? 0.01 : 1.0);
         row.luminance->setValue(t.Y);
     }
-    const ColorTemperature white = colorTemperature(xyOf(targets.white));
+    const ColorTemperature white = colorTemperature(xyOf(targets.white)).value_or(ColorTemperature());
     showValue(m_temperature, white.kelvin);
     showValue(m_duv, white.duv);
     setEnabled(target.has_value());
@@ -311,7 +311,7 @@ void TargetEditor::editTemperature(int mergeKey)
     if (!target) {
         return;
     }
-    const ColorTemperature white = colorTemperature(xyOf(target->getTargets().white));
+    const ColorTemperature white = colorTemperature(xyOf(target->getTargets().white)).value_or(ColorTemperature());
     const bool isTemperature = sender() == m_temperature;
     m_session->setWhiteTemperature(
         isTemperature ? m_temperature->value() : white.kelvin, isTemperature ? white.duv : m_duv->value(), mergeKey);

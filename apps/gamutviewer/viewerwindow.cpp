@@ -7,7 +7,6 @@
 #include "comparepage.h"
 #include "descriptionwriter.h"
 #include "editpage.h"
-#include "gamutparts.h"
 #include "lenspage.h"
 #include "messages.h"
 #include "openfile.h"
@@ -230,9 +229,8 @@ void ViewerWindow::showReadout(const QPointF &xy)
                        .arg(xy.y(), 0, 'f', 4)
                        .arg(uv.x(), 0, 'f', 4)
                        .arg(uv.y(), 0, 'f', 4);
-    const ColorTemperature white = colorTemperature(xy);
-    if (isCorrelated(white)) {
-        text += tr("   %1 K  Duv %2").arg(white.kelvin, 0, 'f', 0).arg(white.duv, 0, 'f', 4);
+    if (const auto white = colorTemperature(xy)) {
+        text += tr("   %1  Duv %2", "with the temperature").arg(temperatureText(*white), duvText(*white));
     }
     m_readout->setText(text);
 }

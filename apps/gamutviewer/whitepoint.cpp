@@ -4,15 +4,15 @@
 #include <ceiechart/atlas/ceiatlasvalue.h>
 #include <colortemperature/colortemperature.h>
 
+#include <QCoreApplication>
+
 #include <cmath>
 
 namespace gamutviewer {
 
 namespace {
 
-constexpr double lowestTemperature = 1000.0;
-constexpr double highestTemperature = 100000.0;
-constexpr double greatestDuv = 0.05;
+constexpr double rounding = 1e-9; // in Duv: what is set to the greatest counts as such when it is read back
 constexpr double secondRadiationConstant = 1.438776877e7; // nm K, CODATA 2018, as colorTemperature() has it
 
 //! Tristimulus values, or their derivatives by temperature.
@@ -31,11 +31,28 @@ struct Tristimulus {
 
 } // namespace
 
-ColorTemperature colorTemperature(const QPointF &xy)
+std::optional<ColorTemperature> colorTemperature(const QPointF &xy)
 {
     ColorTemperature result;
     result.duv = GetColorTemperatureFromXY(xy.x(), xy.y(), &result.kelvin);
-    return result;
+    // An end of the locus is all that is known of what lies beyond it.
+    const bool isInside = result.kelvin > lowestTemperature && result.kelvin < highestTemperature;
+    return isInside && std::fabs(result.duv) <= greatestDuv + rounding ? std::make_optional(result) : std::nullopt;
+}
+
+QString temperatureText(const ColorTemperature &temperature)
+{
+    return QCoreApplication::translate("gamutviewer", "%1 K").arg(temperature.kelvin, 0, 'f', 0);
+}
+
+QString duvText(const ColorTemperature &temperature)
+{
+    return QString::number(temperature.duv, 'f', 4);
+}
+
+QString undefinedText()
+{
+    return QStringLiteral("–");
 }
 
 std::optional<QPointF> chromaticityAt(double kelvin, double duv)

@@ -3,6 +3,7 @@
 #define GAMUTVIEWER_WHITEPOINT_H
 
 #include <QPointF>
+#include <QString>
 
 #include <optional>
 
@@ -10,22 +11,35 @@ namespace gamutviewer {
 
 /*! \brief Correlated colour temperature and distance from the Planckian locus in CIE 1960 u, v. */
 struct ColorTemperature {
-    double kelvin = 0.0; //!< 0 where the chromaticity has none
+    double kelvin = 0.0;
     double duv = 0.0; //!< positive above the locus
-
-    /*! \brief Whether the chromaticity is near enough to the locus for a colour temperature (CIE 15:2018, 9.5). */
-    bool hasMeaning() const { return kelvin > 0.0 && duv >= -0.05 && duv <= 0.05; }
 };
 
-/*! \brief The colour temperature of the CIE 1931 chromaticity \a xy. */
-ColorTemperature colorTemperature(const QPointF &xy);
+/*! \brief A temperature is defined above the first and below the second: the ends of the locus, in kelvin. */
+constexpr double lowestTemperature = 1000.0;
+constexpr double highestTemperature = 100000.0;
+/*! \brief The greatest distance from the locus at which a temperature is defined (CIE 15:2018, 9.5). */
+constexpr double greatestDuv = 0.05;
+
+/*!
+ * \brief The colour temperature of the CIE 1931 chromaticity \a xy; nothing where none is defined.
+ *
+ * That is farther from the locus than greatestDuv, and where the nearest point of the locus is one of its ends.
+ */
+std::optional<ColorTemperature> colorTemperature(const QPointF &xy);
+
+/*! \brief As the interface shows it, "6504 K". */
+QString temperatureText(const ColorTemperature &temperature);
+/*! \brief As the interface shows it, "0.0032". */
+QString duvText(const ColorTemperature &temperature);
+/*! \brief What the interface shows in the place of a value that is not defined. */
+QString undefinedText();
 
 /*!
  * \brief The CIE 1931 chromaticity of colour temperature \a kelvin, \a duv off the Planckian locus: the inverse of
  * colorTemperature(), to 1e-6 in mired and 1e-9 in Duv.
  *
- * Nothing for a temperature that is not above 1000 K and below 100 000 K, for |duv| above 0.05, beyond which no
- * colour temperature is defined (CIE 15:2018, 9.5), and where the result would not be a chromaticity.
+ * Nothing where colorTemperature() has nothing, and where the result would not be a chromaticity.
  */
 std::optional<QPointF> chromaticityAt(double kelvin, double duv);
 

@@ -96,6 +96,11 @@ void ReportTest::colorTemperatureOfThePrimaries()
     for (const char *path : {"target.green.cct", "target.green.duv", "target.blue.cct"}) {
         QVERIFY2(at(all, path).isNull(), path);
     }
+    // Beyond the end of the locus, and near it
+    DisplayDescription p3 = wall();
+    p3.target = QStringLiteral("DCI-P3(D65)");
+    QVERIFY(at(report(p3), "target.red.cct").isNull());
+    QVERIFY(at(report(p3), "target.red.duv").isNull());
 }
 
 void ReportTest::coverage()

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void legendMoves();
     void pointerIsReadOut();
     void lensFollowsAndZooms();
+    void undefinedTemperatureIsTold();
     void comparePageTellsWhatIsLost();
     void fitsASmallScreen_data();
     void fitsASmallScreen();
@@ -407,6 +408,36 @@ void ViewerWindowTest::lensFollowsAndZooms()
     // From then on whatever comes is shown.
     f.window->session()->setWhiteTemperature(3500, 0.0);
     QVERIFY(lens->reach() > reach);
+}
+
+void ViewerWindowTest::undefinedTemperatureIsTold()
+{
+    WindowFixture f;
+    QVERIFY(f.window->session()->setChromaticity(Vertex::White, QPointF(0.22, 0.329)));
+    const QString none = QString::fromUtf8("–");
+    // Everywhere in the same way: the lens, the table of the panel and that of the comparison.
+    f.show(f.window->lensPage());
+    QVERIFY(
+        f.window->lensPage()->lens()->accessibleDescription().contains(QLatin1String("Target: no colour temperature")));
+    f.show(f.window->comparePage());
+    const QTableWidget *table = f.window->comparePage()->table();
+    const int target = table->columnCount() - 1;
+    int undefined = 0;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        undefined += table->item(row, target)->text() == none;
+    }
+    QCOMPARE(undefined, 2);
+    const GroupedTable *values = f.window->panel()->values();
+    const int last = values->columnCount() - 1;
+    for (int row = 0; row < values->rowCount(); ++row) {
+        const QTableWidgetItem *temperature = values->item(row, last - 1);
+        const QTableWidgetItem *duv = values->item(row, last);
+        if (temperature && duv) {
+            QCOMPARE(temperature->text() == none, duv->text() == none);
+        }
+    }
+    // The target comes first: its title, red, green, blue and white.
+    QCOMPARE(values->item(4, last)->text(), none);
 }
 
 void ViewerWindowTest::comparePageTellsWhatIsLost()

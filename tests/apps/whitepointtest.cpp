@@ -16,23 +16,27 @@ private Q_SLOTS:
     void inverseOfColorTemperature();
     void outOfRange_data();
     void outOfRange();
-    void meaning();
+    void whereATemperatureIsDefined_data();
+    void whereATemperatureIsDefined();
+    void texts();
 };
 
 // Illuminants A (CIE 15:2018, table T.1) and D65.
 void WhitePointTest::publishedPoints()
 {
-    const ColorTemperature a = colorTemperature({0.44758, 0.40745});
-    QVERIFY(std::fabs(a.kelvin - 2856.0) < 1.0);
-    QVERIFY(std::fabs(a.duv) < 0.0001);
+    const auto a = colorTemperature({0.44758, 0.40745});
+    QVERIFY(a);
+    QVERIFY(std::fabs(a->kelvin - 2856.0) < 1.0);
+    QVERIFY(std::fabs(a->duv) < 0.0001);
     const auto back = chromaticityAt(2855.5, 0.0); // A was set when the second radiation constant was another
     QVERIFY(back);
     QVERIFY(std::fabs(back->x() - 0.44758) < 0.0001 && std::fabs(back->y() - 0.40745) < 0.0001);
-    const ColorTemperature d65 = colorTemperature({0.3127, 0.3290});
-    const auto white = chromaticityAt(d65.kelvin, d65.duv);
+    const auto d65 = colorTemperature({0.3127, 0.3290});
+    QVERIFY(d65);
+    const auto white = chromaticityAt(d65->kelvin, d65->duv);
     QVERIFY(white);
     QVERIFY(std::fabs(white->x() - 0.3127) < 1e-7 && std::fabs(white->y() - 0.3290) < 1e-7);
-    QVERIFY(d65.duv > 0.003 && d65.duv < 0.0035);
+    QVERIFY(d65->duv > 0.003 && d65->duv < 0.0035);
 }
 
 void WhitePointTest::inverseOfColorTemperature()
@@ -46,9 +50,10 @@ void WhitePointTest::inverseOfColorTemperature()
                 QVERIFY(mired > 250.0 && bounded > 0.0); // beyond the line of pure colours
                 continue;
             }
-            const ColorTemperature back = colorTemperature(*xy);
-            QVERIFY2(std::fabs(1e6 / back.kelvin - mired) < 1e-6, qPrintable(QString::number(mired)));
-            QVERIFY2(std::fabs(back.duv - bounded) < 1e-9, qPrintable(QString::number(back.duv - bounded)));
+            const auto back = colorTemperature(*xy);
+            QVERIFY2(back, qPrintable(QString::number(mired)));
+            QVERIFY2(std::fabs(1e6 / back->kelvin - mired) < 1e-6, qPrintable(QString::number(mired)));
+            QVERIFY2(std::fabs(back->duv - bounded) < 1e-9, qPrintable(QString::number(back->duv - bounded)));
             ++points;
         }
     }
@@ -79,13 +84,33 @@ void WhitePointTest::outOfRange()
     QVERIFY(!chromaticityAt(kelvin, duv));
 }
 
-void WhitePointTest::meaning()
+void WhitePointTest::whereATemperatureIsDefined_data()
 {
-    QVERIFY(colorTemperature({0.3127, 0.329}).hasMeaning());
-    QVERIFY(!colorTemperature({0.15, 0.06}).hasMeaning());
-    QVERIFY(!colorTemperature({0.3, 0.6}).hasMeaning());
-    QVERIFY(!colorTemperature({0.0, 0.0}).hasMeaning());
-    QVERIFY(!colorTemperature({std::numeric_limits<double>::quiet_NaN(), 0.3}).hasMeaning());
+    QTest::addColumn<QPointF>("xy");
+    QTest::addColumn<bool>("defined");
+    QTest::newRow("D65") << QPointF(0.3127, 0.329) << true;
+    QTest::newRow("just above 1000 K") << *chromaticityAt(1001.0, 0.0) << true;
+    QTest::newRow("blue") << QPointF(0.15, 0.06) << false;
+    QTest::newRow("green") << QPointF(0.3, 0.6) << false;
+    // Within 0.05 of the end of the locus, but beyond it
+    QTest::newRow("red") << QPointF(0.68, 0.32) << false;
+    QTest::newRow("hotter than the locus") << QPointF(0.2390, 0.2330) << false;
+    QTest::newRow("0.0546 above") << QPointF(0.22, 0.329) << false;
+    QTest::newRow("black") << QPointF(0.0, 0.0) << false;
+    QTest::newRow("not a number") << QPointF(std::numeric_limits<double>::quiet_NaN(), 0.3) << false;
+}
+
+void WhitePointTest::whereATemperatureIsDefined()
+{
+    QFETCH(QPointF, xy);
+    QFETCH(bool, defined);
+    QCOMPARE(colorTemperature(xy).has_value(), defined);
+}
+
+void WhitePointTest::texts()
+{
+    QCOMPARE(temperatureText({6503.6, 0.0}), QStringLiteral("6504 K"));
+    QCOMPARE(duvText({6503.6, -0.00316}), QStringLiteral("-0.0032"));
 }
 
 QTEST_GUILESS_MAIN(WhitePointTest)
