@@ -16,9 +16,6 @@ namespace {
 
 const QString editedMark = QStringLiteral(" (edited)");
 
-constexpr double luminanceStep = 10.0;
-constexpr double relativeTolerance = 1e-9;
-
 void setXy(Model::Target &target, const QPointF &xy)
 {
     target = Model::Target::fromYxy(target.Y, xy.x(), xy.y());
@@ -68,26 +65,22 @@ bool balance(Model::Targets &t, double whiteLuminance)
     return true;
 }
 
+//! What the primaries of \a original deliver of the white of \a t, and no more than they mix to.
 double heldWhiteLuminance(const Model::Targets &t, const Model::Targets &original)
 {
+    constexpr double rounding = 1e-9; // relative
     const double most = original.red.Y + original.green.Y + original.blue.Y;
-    const Luminances l = luminancesFor(t, 1.0);
-    double deliverable = std::numeric_limits<double>::infinity();
-    const auto limit = [&deliverable](double needed, double available) {
+    double luminance = most;
+    const Luminances share = luminancesFor(t, 1.0);
+    const auto limit = [&luminance](double needed, double available) {
         if (needed > 0.0) {
-            deliverable = std::min(deliverable, available * (1.0 + relativeTolerance) / needed);
+            luminance = std::min(luminance, available / needed);
         }
     };
-    limit(l.red, original.red.Y);
-    limit(l.green, original.green.Y);
-    limit(l.blue, original.blue.Y);
-    if (!(most > deliverable) || !std::isfinite(most)) {
-        return most;
-    }
-    // Not below the first luminance under one step.
-    const double steps = std::ceil((most - deliverable) / luminanceStep);
-    const double lastStep = std::floor(most / luminanceStep);
-    return most - std::min(steps, lastStep) * luminanceStep;
+    limit(share.red, original.red.Y);
+    limit(share.green, original.green.Y);
+    limit(share.blue, original.blue.Y);
+    return luminance < most * (1.0 - rounding) ? luminance : most;
 }
 
 bool isReferredTo(const DisplayDescription &d, const QString &name)

@@ -26,10 +26,9 @@ QPointF roundedXy(const QPointF &xy);
  * \name Edits of a gamut
  *
  * Primaries and white stay in balance: what is not edited is recalculated, so that the primaries mix to the white. When
- * the white is held, its chromaticity stays and its luminance is what the primaries of \a original deliver, lowered in
- * steps of 10 until none of them is exceeded, which is the rule of the chart. Each edit gives nothing when there is no
- * such gamut: for what is no chromaticity, primaries that span no triangle, a negative luminance, a white outside of
- * the triangle.
+ * the white is held, its chromaticity stays and its luminance is what the primaries of \a original deliver, lowered
+ * until none of them is exceeded. Each edit gives nothing when there is no such gamut: for what is no chromaticity,
+ * primaries that span no triangle, a negative luminance, a white outside of the triangle.
  * @{
  */
 std::optional<Model::Targets> withPrimary(

@@ -12,12 +12,15 @@
 
 using namespace gamutviewer;
 
+Q_DECLARE_METATYPE(Model::Targets)
+
 class TargetEditsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void movedPrimaryMixesAnotherWhite();
-    void heldWhiteIsLoweredInSteps();
+    void heldWhiteExceedsNoPrimary_data();
+    void heldWhiteExceedsNoPrimary();
     void heldWhiteOfTheOriginalStays();
     void movedWhiteRebalancesThePrimaries();
     void whiteOutsideTheTriangleIsRefused();
@@ -73,21 +76,40 @@ void TargetEditsTest::movedPrimaryMixesAnotherWhite()
     QCOMPARE(after->white.Y, before.red.Y + before.green.Y + before.blue.Y);
 }
 
-void TargetEditsTest::heldWhiteIsLoweredInSteps()
+void TargetEditsTest::heldWhiteExceedsNoPrimary_data()
 {
-    const Model::Targets before = Model::rec709().getTargets();
-    const auto after = withPrimary(before, Vertex::Red, QPointF(0.66, 0.32), true, wall());
+    QTest::addColumn<Model::Targets>("original");
+    QTest::addColumn<Model::Targets>("target");
+    QTest::addColumn<int>("primary");
+    QTest::addColumn<QPointF>("xy");
+    const Model::Targets rec709 = Model::rec709().getTargets();
+    QTest::newRow("1000 cd/m², red") << wall() << rec709 << int(Vertex::Red) << QPointF(0.66, 0.32);
+    QTest::newRow("1000 cd/m², green") << wall() << rec709 << int(Vertex::Green) << QPointF(0.32, 0.59);
+    QTest::newRow("relative, red") << rec709 << rec709 << int(Vertex::Red) << QPointF(0.62, 0.34);
+    QTest::newRow("relative, green") << rec709 << rec709 << int(Vertex::Green) << QPointF(0.32, 0.59);
+    QTest::newRow("relative, blue") << rec709 << rec709 << int(Vertex::Blue) << QPointF(0.16, 0.07);
+    Model::Targets dim = rec709;
+    dim.blue = Model::Target::fromYxy(1e-4, dim.blue.x, dim.blue.y);
+    QTest::newRow("hardly any blue") << dim << rec709 << int(Vertex::Green) << QPointF(0.32, 0.59);
+}
+
+void TargetEditsTest::heldWhiteExceedsNoPrimary()
+{
+    QFETCH(Model::Targets, original);
+    QFETCH(Model::Targets, target);
+    QFETCH(int, primary);
+    QFETCH(QPointF, xy);
+    const auto after = withPrimary(target, Vertex(primary), xy, true, original);
     QVERIFY(after);
-    QCOMPARE(after->white.x, before.white.x);
-    QCOMPARE(after->white.y, before.white.y);
-    // 1000 less a number of whole steps; one step more and a primary would exceed the original's.
-    const double steps = (1000.0 - after->white.Y) / 10.0;
-    QCOMPARE(steps, std::round(steps));
-    QVERIFY(steps > 0);
-    QVERIFY(after->red.Y <= 240 && after->green.Y <= 634 && after->blue.Y <= 126);
-    const double scale = (after->white.Y + 10.0) / after->white.Y;
-    QVERIFY(after->red.Y * scale > 240 || after->green.Y * scale > 634 || after->blue.Y * scale > 126);
+    QCOMPARE(after->white.x, target.white.x);
+    QCOMPARE(after->white.y, target.white.y);
     QVERIFY(near(mixture(*after), xyOf(after->white)));
+    // One primary is at its limit, and none beyond.
+    double most = 0.0;
+    for (const Vertex vertex : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
+        most = std::max(most, targetAt(*after, vertex).Y / targetAt(original, vertex).Y);
+    }
+    QVERIFY2(std::fabs(most - 1.0) < 2e-9, qPrintable(QString::number(most)));
 }
 
 void TargetEditsTest::heldWhiteOfTheOriginalStays()
