@@ -207,11 +207,18 @@ std::optional<QPointF> nearest(const QPointF &position, const QVector<QPointF> &
 QVector<QPointF> snapPoints(const DisplayDescription &description, Vertex vertex)
 {
     QVector<QPointF> points;
+    const auto add = [&](const Model::ColorGamut &gamut) {
+        const QString name = QString::fromStdString(gamut.colorGamutName());
+        // A target changed by hand would stick to where it is.
+        if (name != description.target || !isEditedName(name)) {
+            points.append(xyOf(targetAt(gamut.getTargets(), vertex)));
+        }
+    };
     if (const auto original = description.gamut(description.original)) {
-        points.append(xyOf(targetAt(original->getTargets(), vertex)));
+        add(*original);
     }
-    for (const Model::ColorGamut &standard : Model::standardGamuts()) {
-        points.append(xyOf(targetAt(standard.getTargets(), vertex)));
+    for (const Model::ColorGamut &standard : description.allStandards()) {
+        add(standard);
     }
     return points;
 }

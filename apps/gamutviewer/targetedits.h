@@ -43,7 +43,8 @@ std::optional<Model::Targets> withLuminance(
 /*! \brief The nearest of \a candidates within \a reach of \a position, in the units of both. */
 std::optional<QPointF> nearest(const QPointF &position, const QVector<QPointF> &candidates, double reach);
 
-/*! \brief The chromaticities that \a vertex snaps to: those of the original and of the published gamuts. */
+/*! \brief The chromaticities that \a vertex snaps to: those of the original, of the description's standards
+ * and of the published gamuts. */
 QVector<QPointF> snapPoints(const DisplayDescription &description, Vertex vertex);
 
 /*!

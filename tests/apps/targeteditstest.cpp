@@ -34,6 +34,7 @@ private Q_SLOTS:
     void secondEditKeepsTheName();
     void resetTakesTheEditedGamutAway();
     void resetKeepsAnEditedGamutThatIsReferredTo();
+    void snapsToStandardsAndTheOriginal();
     void nearestTakesTheNearestInReach();
     void roundsToFourDecimals();
     void diagramsConvertThereAndBack();
@@ -235,6 +236,31 @@ void TargetEditsTest::resetKeepsAnEditedGamutThatIsReferredTo()
     description.measured = description.target;
     description = withTargetNamed(description, QStringLiteral("Rec.2020"));
     QCOMPARE(description.gamuts.size(), size_t(1));
+}
+
+void TargetEditsTest::snapsToStandardsAndTheOriginal()
+{
+    DisplayDescription description;
+    description.gamuts.push_back(Model::ColorGamut("wall", wall()));
+    Model::Targets own = Model::rec709().getTargets();
+    own.red = Model::Target::fromYxy(0.3, 0.63, 0.34);
+    description.gamuts.push_back(Model::ColorGamut("house", own));
+    description.original = QStringLiteral("wall");
+    description.standards = QStringList{QStringLiteral("house"), QStringLiteral("Rec.709")};
+    description.target = QStringLiteral("Rec.709");
+    const auto contains = [&](const QPointF &xy) {
+        const QVector<QPointF> points = snapPoints(description, Vertex::Red);
+        return std::count(points.begin(), points.end(), xy) == 1;
+    };
+    QVERIFY(contains(QPointF(0.700, 0.299)));
+    QVERIFY(contains(QPointF(0.63, 0.34)));
+    QVERIFY(contains(QPointF(0.64, 0.33)));
+    QVERIFY(contains(QPointF(0.708, 0.292)));
+    // What is dragged does not stick to itself.
+    own.red = Model::Target::fromYxy(0.3, 0.61, 0.35);
+    description = withEditedTarget(description, own);
+    description.standards.append(description.target);
+    QVERIFY(!contains(QPointF(0.61, 0.35)));
 }
 
 void TargetEditsTest::nearestTakesTheNearestInReach()
