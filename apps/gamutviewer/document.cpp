@@ -68,6 +68,7 @@ void Document::open(const DisplayDescription &description, const QString &fileNa
     m_dragging = false;
     m_history.clear();
     m_fileName = fileName;
+    m_saved = description;
     m_whiteTrail.clear();
     show(description, trailWith(description));
     Q_EMIT fileNameChanged();
@@ -77,6 +78,7 @@ void Document::open(const DisplayDescription &description, const QString &fileNa
 void Document::markSaved(const QString &fileName)
 {
     m_fileName = fileName;
+    m_saved = m_description;
     breakMerging();
     m_history.setClean();
     Q_EMIT fileNameChanged();

@@ -29,6 +29,8 @@ public:
 
     /*! \brief The file that the description is saved in; empty when it has none yet. */
     const QString &fileName() const { return m_fileName; }
+    /*! \brief The description as it was opened or saved last. */
+    const DisplayDescription &saved() const { return m_saved; }
     bool isModified() const { return !m_history.isClean(); }
     QUndoStack *history() { return &m_history; }
 
@@ -73,6 +75,7 @@ private:
     QVector<QPointF> trailWith(const DisplayDescription &description) const;
 
     DisplayDescription m_description;
+    DisplayDescription m_saved;
     QString m_fileName;
     QUndoStack m_history;
     QVector<QPointF> m_whiteTrail;

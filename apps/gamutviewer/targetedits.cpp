@@ -6,6 +6,8 @@
 
 #include <colortemperature/colortemperature.h>
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -13,8 +15,6 @@
 namespace gamutviewer {
 
 namespace {
-
-const QString editedMark = QStringLiteral(" (edited)");
 
 void setXy(Model::Target &target, const QPointF &xy)
 {
@@ -89,11 +89,65 @@ bool isReferredTo(const DisplayDescription &d, const QString &name)
         || d.standards.contains(name);
 }
 
-std::vector<Model::ColorGamut>::iterator find(std::vector<Model::ColorGamut> &gamuts, const QString &name)
+bool isOnlyTheTarget(DisplayDescription d)
+{
+    const QString name = d.target;
+    d.target.clear();
+    return !isReferredTo(d, name);
+}
+
+template <typename Gamuts>
+auto find(Gamuts &gamuts, const QString &name)
 {
     const std::string wanted = name.toStdString();
     return std::find_if(gamuts.begin(), gamuts.end(),
         [&wanted](const Model::ColorGamut &gamut) { return gamut.colorGamutName() == wanted; });
+}
+
+bool contains(const std::vector<Model::ColorGamut> &gamuts, const QString &name)
+{
+    return find(gamuts, name) != gamuts.end();
+}
+
+void put(std::vector<Model::ColorGamut> &gamuts, const Model::ColorGamut &gamut)
+{
+    const auto existing = find(gamuts, QString::fromStdString(gamut.colorGamutName()));
+    if (existing != gamuts.end()) {
+        *existing = gamut;
+    } else {
+        gamuts.push_back(gamut);
+    }
+}
+
+void remove(std::vector<Model::ColorGamut> &gamuts, const QString &name)
+{
+    const auto existing = find(gamuts, name);
+    if (existing != gamuts.end()) {
+        gamuts.erase(existing);
+    }
+}
+
+//! "X (edited)", "X (edited 2)" and so on.
+QString editedName(const QString &plain, int number)
+{
+    return plain + (number < 2 ? QStringLiteral(" (edited)") : QStringLiteral(" (edited %1)").arg(number));
+}
+
+QString freeEditedName(const DisplayDescription &description)
+{
+    const QString plain = plainName(description.target);
+    int number = 1;
+    while (contains(description.gamuts, editedName(plain, number))) {
+        ++number;
+    }
+    return editedName(plain, number);
+}
+
+QRegularExpressionMatch editedMatch(const QString &gamutName)
+{
+    static const QRegularExpression form(
+        QStringLiteral("\\A(.*) \\(edited(?: ([0-9]{1,9}))?\\)\\z"), QRegularExpression::DotMatchesEverythingOption);
+    return form.match(gamutName);
 }
 
 } // namespace
@@ -225,39 +279,38 @@ QVector<QPointF> snapPoints(const DisplayDescription &description, Vertex vertex
 
 DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets)
 {
-    const QString name = isEditedName(description.target) ? description.target : description.target + editedMark;
-    const auto existing = find(description.gamuts, name);
-    const Model::ColorGamut gamut(name.toStdString(), targets);
-    if (existing != description.gamuts.end()) {
-        *existing = gamut;
-    } else {
-        description.gamuts.push_back(gamut);
+    if (!isEditedName(description.target) || !isOnlyTheTarget(description)) {
+        description.target = freeEditedName(description);
     }
-    description.target = name;
+    put(description.gamuts, Model::ColorGamut(description.target.toStdString(), targets));
     return description;
 }
 
-DisplayDescription withTargetNamed(DisplayDescription description, const QString &gamutName)
+DisplayDescription withTargetNamed(
+    DisplayDescription description, const QString &gamutName, const DisplayDescription &saved)
 {
     const QString before = description.target;
     description.target = gamutName;
-    if (isEditedName(before) && !isReferredTo(description, before)) {
-        const auto edited = find(description.gamuts, before);
-        if (edited != description.gamuts.end()) {
-            description.gamuts.erase(edited);
-        }
+    if (isEditedName(before) && !isReferredTo(description, before) && !contains(saved.gamuts, before)) {
+        remove(description.gamuts, before);
     }
     return description;
 }
 
 bool isEditedName(const QString &gamutName)
 {
-    return gamutName.endsWith(editedMark);
+    return editedMatch(gamutName).hasMatch();
 }
 
 QString plainName(const QString &gamutName)
 {
-    return isEditedName(gamutName) ? gamutName.chopped(editedMark.size()) : gamutName;
+    const QRegularExpressionMatch match = editedMatch(gamutName);
+    return match.hasMatch() ? match.captured(1) : gamutName;
+}
+
+int editNumber(const QString &gamutName)
+{
+    return std::max(1, editedMatch(gamutName).captured(2).toInt());
 }
 
 } // namespace gamutviewer

@@ -124,7 +124,8 @@ void TargetSession::reset(const QString &gamutName)
 {
     if (m_document->description().target != gamutName && m_document->description().gamut(gamutName)) {
         m_document->change(
-            withTargetNamed(m_document->description(), gamutName), tr("reset to %1").arg(shownGamutName(gamutName)));
+            withTargetNamed(m_document->description(), gamutName, m_document->saved()),
+            tr("reset to %1").arg(shownGamutName(gamutName)));
     }
 }
 
@@ -179,8 +180,13 @@ QString vertexName(Vertex vertex)
 
 QString shownGamutName(const QString &gamutName)
 {
-    return isEditedName(gamutName) ? QCoreApplication::translate("gamutviewer", "%1 (edited)").arg(plainName(gamutName))
-                                   : gamutName;
+    if (!isEditedName(gamutName)) {
+        return gamutName;
+    }
+    const int number = editNumber(gamutName);
+    return number < 2 ? QCoreApplication::translate("gamutviewer", "%1 (edited)").arg(plainName(gamutName))
+                      : QCoreApplication::translate("gamutviewer", "%1 (edited %2)")
+                            .arg(plainName(gamutName), QString::number(number));
 }
 
 } // namespace gamutviewer

@@ -32,7 +32,13 @@ private Q_SLOTS:
     void luminanceScalesAllWhileTheWhiteIsHeld();
     void editOfANamedGamutSaysSo();
     void secondEditKeepsTheName();
+    void editLeavesAGamutOfThatNameAlone_data();
+    void editLeavesAGamutOfThatNameAlone();
+    void editOfAGamutWithTwoPartsLeavesTheOther();
+    void editedNamesAreTold_data();
+    void editedNamesAreTold();
     void resetTakesTheEditedGamutAway();
+    void resetKeepsASavedEditedGamut();
     void resetKeepsAnEditedGamutThatIsReferredTo();
     void snapsToStandardsAndTheOriginal();
     void nearestTakesTheNearestInReach();
@@ -218,6 +224,73 @@ void TargetEditsTest::secondEditKeepsTheName()
     QVERIFY(sameTargets(description.gamut(description.target)->getTargets(), Model::rec2020().getTargets()));
 }
 
+void TargetEditsTest::editLeavesAGamutOfThatNameAlone_data()
+{
+    QTest::addColumn<QString>("part");
+    QTest::newRow("measured") << QStringLiteral("measured");
+    QTest::newRow("original") << QStringLiteral("original");
+    QTest::newRow("none") << QString();
+}
+
+void TargetEditsTest::editLeavesAGamutOfThatNameAlone()
+{
+    QFETCH(QString, part);
+    const QString taken = QStringLiteral("Rec.709 (edited)");
+    DisplayDescription description;
+    description.gamuts.push_back(Model::ColorGamut(taken.toStdString(), wall()));
+    description.measured = part == QLatin1String("measured") ? taken : QString();
+    description.original = part == QLatin1String("original") ? taken : QString();
+    description.target = QStringLiteral("Rec.709");
+    description = withEditedTarget(description, Model::rec2020().getTargets());
+    QCOMPARE(description.target, QStringLiteral("Rec.709 (edited 2)"));
+    description = withEditedTarget(description, Model::rec709().getTargets());
+    QCOMPARE(description.target, QStringLiteral("Rec.709 (edited 2)"));
+    QVERIFY(sameTargets(description.gamut(taken)->getTargets(), wall()));
+    description = withTargetNamed(description, QStringLiteral("Rec.2020"));
+    QVERIFY(sameTargets(description.gamut(taken)->getTargets(), wall()));
+    QVERIFY(!description.gamut(QStringLiteral("Rec.709 (edited 2)")));
+}
+
+void TargetEditsTest::editOfAGamutWithTwoPartsLeavesTheOther()
+{
+    DisplayDescription description;
+    description.target = QStringLiteral("Rec.709");
+    description = withEditedTarget(description, wall());
+    description.measured = description.target;
+    description = withEditedTarget(description, Model::rec2020().getTargets());
+    QCOMPARE(description.target, QStringLiteral("Rec.709 (edited 2)"));
+    QVERIFY(sameTargets(description.gamut(description.measured)->getTargets(), wall()));
+}
+
+void TargetEditsTest::editedNamesAreTold_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("plain");
+    QTest::addColumn<int>("number");
+    QTest::newRow("plain") << "Rec.709"
+                           << "Rec.709" << 1;
+    QTest::newRow("edited") << "Rec.709 (edited)"
+                            << "Rec.709" << 1;
+    QTest::newRow("second") << "Rec.709 (edited 2)"
+                            << "Rec.709" << 2;
+    QTest::newRow("placeholder") << "%1 (edited 12)"
+                                 << "%1" << 12;
+    QTest::newRow("two lines") << "a\nb (edited)"
+                               << "a\nb" << 1;
+    QTest::newRow("in between") << "a (edited) b"
+                                << "a (edited) b" << 1;
+}
+
+void TargetEditsTest::editedNamesAreTold()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, plain);
+    QFETCH(int, number);
+    QCOMPARE(plainName(name), plain);
+    QCOMPARE(isEditedName(name), name != plain);
+    QCOMPARE(editNumber(name), number);
+}
+
 void TargetEditsTest::resetTakesTheEditedGamutAway()
 {
     DisplayDescription description;
@@ -226,6 +299,15 @@ void TargetEditsTest::resetTakesTheEditedGamutAway()
         = withTargetNamed(withEditedTarget(description, Model::dciP3D65().getTargets()), QStringLiteral("Rec.2020"));
     QCOMPARE(description.target, QStringLiteral("Rec.2020"));
     QVERIFY(description.gamuts.empty());
+}
+
+void TargetEditsTest::resetKeepsASavedEditedGamut()
+{
+    DisplayDescription saved;
+    saved.target = QStringLiteral("Rec.709");
+    saved = withEditedTarget(saved, Model::dciP3D65().getTargets());
+    const DisplayDescription reset = withTargetNamed(saved, QStringLiteral("Rec.2020"), saved);
+    QVERIFY(reset.gamut(QStringLiteral("Rec.709 (edited)")));
 }
 
 void TargetEditsTest::resetKeepsAnEditedGamutThatIsReferredTo()
