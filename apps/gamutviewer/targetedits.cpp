@@ -89,6 +89,13 @@ bool isReferredTo(const DisplayDescription &d, const QString &name)
         || d.standards.contains(name);
 }
 
+bool playsAnotherPart(DisplayDescription d, const QString &name)
+{
+    d.target.clear();
+    d.standards.clear();
+    return isReferredTo(d, name);
+}
+
 bool isOnlyTheTarget(DisplayDescription d)
 {
     const QString name = d.target;
@@ -141,6 +148,38 @@ QString freeEditedName(const DisplayDescription &description)
         ++number;
     }
     return editedName(plain, number);
+}
+
+Model::Targets scaledTo(Model::Targets targets, double whiteLuminance)
+{
+    const double factor = whiteLuminance / targets.white.Y;
+    for (const Vertex vertex : allVertices) {
+        Model::Target &target = targetAt(targets, vertex);
+        setLuminance(target, target.Y * factor);
+    }
+    return targets;
+}
+
+//! Whether matchLuminance() may have made the gamut that \a description has under the name of \a published.
+bool isMadeToMatch(
+    const DisplayDescription &description, const Model::ColorGamut &published, const DisplayDescription &saved)
+{
+    const QString name = QString::fromStdString(published.colorGamutName());
+    const auto own = find(description.gamuts, name);
+    return own != description.gamuts.end() && !contains(saved.gamuts, name) && !playsAnotherPart(description, name)
+        && sameTargets(own->getTargets(), scaledTo(published.getTargets(), own->getTargets().white.Y));
+}
+
+//! Published gamuts are relative to a white of 1: the description gets one of its own for a target of \a luminance.
+void matchLuminance(DisplayDescription &description, double luminance)
+{
+    const std::vector<Model::ColorGamut> standards = Model::standardGamuts();
+    const auto published = find(standards, description.target);
+    const bool isFree
+        = !contains(description.gamuts, description.target) && !playsAnotherPart(description, description.target);
+    if (published != standards.end() && isFree && luminance > 0.0 && luminance != published->getTargets().white.Y) {
+        description.gamuts.emplace_back(description.target.toStdString(), scaledTo(published->getTargets(), luminance));
+    }
 }
 
 QRegularExpressionMatch editedMatch(const QString &gamutName)
@@ -290,7 +329,16 @@ DisplayDescription withTargetNamed(
     DisplayDescription description, const QString &gamutName, const DisplayDescription &saved)
 {
     const QString before = description.target;
+    const auto targetBefore = description.gamut(before);
     description.target = gamutName;
+    for (const Model::ColorGamut &published : Model::standardGamuts()) {
+        if (isMadeToMatch(description, published, saved)) {
+            remove(description.gamuts, QString::fromStdString(published.colorGamutName()));
+        }
+    }
+    if (targetBefore) {
+        matchLuminance(description, targetBefore->getTargets().white.Y);
+    }
     if (isEditedName(before) && !isReferredTo(description, before) && !contains(saved.gamuts, before)) {
         remove(description.gamuts, before);
     }

@@ -59,7 +59,9 @@ DisplayDescription withEditedTarget(DisplayDescription description, const Model:
 /*!
  * \brief \a description with \a gamutName for its target.
  *
- * An edited gamut that nothing refers to any more goes, unless \a saved, what the file has, has it.
+ * An edited gamut that nothing refers to any more goes, unless \a saved, what the file has, has it. A published gamut,
+ * relative to a white of 1, is taken at the luminance of the former target's white: the description gets a gamut of
+ * its name, unless it has one, or has the published one for another part.
  */
 DisplayDescription withTargetNamed(
     DisplayDescription description, const QString &gamutName, const DisplayDescription &saved = DisplayDescription());

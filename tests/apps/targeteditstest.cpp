@@ -39,6 +39,8 @@ private Q_SLOTS:
     void editedNamesAreTold();
     void resetTakesTheEditedGamutAway();
     void resetKeepsASavedEditedGamut();
+    void resetTakesTheLuminanceOfTheTarget();
+    void resetLeavesOtherPartsAsTheyAre();
     void resetKeepsAnEditedGamutThatIsReferredTo();
     void snapsToStandardsAndTheOriginal();
     void nearestTakesTheNearestInReach();
@@ -308,6 +310,47 @@ void TargetEditsTest::resetKeepsASavedEditedGamut()
     saved = withEditedTarget(saved, Model::dciP3D65().getTargets());
     const DisplayDescription reset = withTargetNamed(saved, QStringLiteral("Rec.2020"), saved);
     QVERIFY(reset.gamut(QStringLiteral("Rec.709 (edited)")));
+}
+
+void TargetEditsTest::resetTakesTheLuminanceOfTheTarget()
+{
+    DisplayDescription description;
+    description.gamuts.push_back(Model::ColorGamut("wall", wall()));
+    description.original = description.target = QStringLiteral("wall");
+    description.standards = QStringList{QStringLiteral("Rec.2020")};
+    const DisplayDescription saved = description;
+
+    description = withTargetNamed(description, QStringLiteral("Rec.2020"), saved);
+    QCOMPARE(description.target, QStringLiteral("Rec.2020"));
+    const Model::Targets rec2020 = Model::rec2020().getTargets();
+    const Model::Targets target = description.gamut(description.target)->getTargets();
+    QCOMPARE(target.white.Y, 1000.0);
+    QCOMPARE(target.red.Y, 1000.0 * rec2020.red.Y);
+    QCOMPARE(target.red.x, rec2020.red.x);
+    QVERIFY(near(mixture(target), xyOf(target.white)));
+
+    // From one standard to another, at another luminance, and back: nothing is left behind.
+    const auto half = withLuminance(target, Vertex::White, 500.0, false);
+    description = withTargetNamed(withEditedTarget(description, *half), QStringLiteral("Rec.709"), saved);
+    QCOMPARE(description.gamut(description.target)->getTargets().white.Y, 500.0);
+    QCOMPARE(description.gamut(QStringLiteral("Rec.2020"))->getTargets().white.Y, 1.0);
+    description = withTargetNamed(description, QStringLiteral("wall"), saved);
+    QCOMPARE(description.gamuts.size(), size_t(1));
+
+    // Luminances that a file gives are those of the file.
+    description.gamuts.push_back(Model::ColorGamut("Rec.709", *withLuminance(rec2020, Vertex::White, 100.0, false)));
+    description = withTargetNamed(description, QStringLiteral("Rec.709"), description);
+    QCOMPARE(description.gamut(description.target)->getTargets().white.Y, 100.0);
+}
+
+void TargetEditsTest::resetLeavesOtherPartsAsTheyAre()
+{
+    DisplayDescription description;
+    description.gamuts.push_back(Model::ColorGamut("wall", wall()));
+    description.target = QStringLiteral("wall");
+    description.original = QStringLiteral("Rec.709");
+    description = withTargetNamed(description, QStringLiteral("Rec.709"), description);
+    QCOMPARE(description.gamut(description.original)->getTargets().white.Y, 1.0);
 }
 
 void TargetEditsTest::resetKeepsAnEditedGamutThatIsReferredTo()
