@@ -2,26 +2,24 @@
 #include "targeteditor.h"
 
 #include "chromaticity.h"
+#include "coordinatepair.h"
 #include "document.h"
 #include "targetsession.h"
 #include "whitepoint.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QEvent>
-#include <QFontMetrics>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QSignalBlocker>
-#include <QStyle>
-#include <QStyleOptionSpinBox>
 #include <QToolButton>
 #include <QVBoxLayout>
-
-#include <cmath>
 
 namespace gamutviewer {
 
@@ -30,13 +28,9 @@ namespace {
 constexpr int chromaticityDecimals = 4;
 constexpr double chromaticityStep = 0.001;
 constexpr double highestLuminance = 1e6;
-constexpr double mostDuv = 0.05;
-
-void showValue(StepBox *box, double value)
-{
-    const QSignalBlocker blocker(box);
-    box->setValue(value);
-}
+// What the fields of the white start from where it has no colour temperature.
+constexpr double firstTemperature = 6500.0;
+constexpr double firstDuv = 0.0;
 
 //! Luminances are relative (a white of 1) or in cd/m²: as many decimals as either needs.
 int luminanceDecimals(double luminance)
@@ -45,36 +39,6 @@ int luminanceDecimals(double luminance)
 }
 
 } // namespace
-
-StepBox::StepBox(QWidget *parent)
-    : QDoubleSpinBox(parent)
-{
-    // An edit is made when the number is complete.
-    setKeyboardTracking(false);
-    setAccelerated(true);
-    setAlignment(Qt::AlignRight);
-}
-
-void StepBox::stepBy(int steps)
-{
-    if (QApplication::keyboardModifiers() & Qt::ShiftModifier) {
-        const double step = singleStep();
-        setSingleStep(step / 10.0);
-        QDoubleSpinBox::stepBy(steps);
-        setSingleStep(step);
-    } else {
-        QDoubleSpinBox::stepBy(steps);
-    }
-}
-
-QSize StepBox::sizeHint() const
-{
-    // The range of luminances is wide; what is usual must fit.
-    const QSize text(fontMetrics().horizontalAdvance(QStringLiteral("1000.0000")), QDoubleSpinBox::sizeHint().height());
-    QStyleOptionSpinBox option;
-    initStyleOption(&option);
-    return QSize(style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, this).width(), text.height());
-}
 
 TargetEditor::TargetEditor(TargetSession *session, QWidget *parent)
     : QWidget(parent)
@@ -123,9 +87,10 @@ TargetEditor::TargetEditor(TargetSession *session, QWidget *parent)
     connect(m_holdWhite, &QCheckBox::toggled, session, &TargetSession::setHoldWhite);
     connect(m_lockPrimaries, &QCheckBox::toggled, session, &TargetSession::setLockPrimaries);
     connect(m_snap, &QCheckBox::toggled, session, &TargetSession::setSnaps);
-    connect(m_coordinates, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &TargetEditor::refresh);
+    connect(m_coordinates, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &TargetEditor::dropWaiting);
     connect(m_resetMenu, &QMenu::aboutToShow, this, &TargetEditor::fillResetMenu);
-    connect(session->document(), &Document::changed, this, &TargetEditor::refresh);
+    connect(session->document(), &Document::changed, this, &TargetEditor::dropWaiting);
+    connect(qApp, &QApplication::focusChanged, this, &TargetEditor::dropUnlessFocused);
     connect(session, &TargetSession::rulesChanged, this, &TargetEditor::refreshRules);
     connect(session, &TargetSession::selectionChanged, this, &TargetEditor::refresh);
     // What was typed and refused gives way to what is.
@@ -186,9 +151,9 @@ void TargetEditor::buildRow(QGridLayout *grid, Vertex vertex)
     grid->addWidget(row.first, line, 1);
     grid->addWidget(row.second, line, 2);
     grid->addWidget(row.luminance, line, 3);
-    const auto editXy = [this, vertex](int mergeKey) { editChromaticity(vertex, mergeKey); };
-    connectBox(row.first, vertex, editXy);
-    connectBox(row.second, vertex, editXy);
+    for (StepBox *box : {row.first, row.second}) {
+        connectBox(box, vertex, [this, vertex, box](int mergeKey) { editCoordinate(vertex, box, mergeKey); });
+    }
     connectBox(row.luminance, vertex,
         [this, vertex](int mergeKey) { m_session->setLuminance(vertex, luminance(vertex)->value(), mergeKey); });
 }
@@ -198,9 +163,12 @@ void TargetEditor::buildTemperature(QGridLayout *grid)
     constexpr int line = 5;
     auto *label = new QLabel(tr("CCT, Duv"), this);
     label->setToolTip(tr("Correlated colour temperature of the white, and its distance from the Planckian locus"));
-    m_temperature = addBox(1000.0, 100000.0, 0, 10.0, tr("white: colour temperature"));
+    // The lowest value of each stands for none.
+    m_temperature = addBox(lowestTemperature - 1.0, highestTemperature, 0, 10.0, tr("white: colour temperature"));
     m_temperature->setSuffix(tr(" K"));
-    m_duv = addBox(-mostDuv, mostDuv, 4, 0.001, tr("white: Duv"));
+    m_temperature->setNoValue(undefinedText(), firstTemperature);
+    m_duv = addBox(-greatestDuv - 0.0001, greatestDuv, 4, 0.001, tr("white: Duv"));
+    m_duv->setNoValue(undefinedText(), firstDuv);
     label->setBuddy(m_temperature);
     grid->addWidget(label, line, 0);
     grid->addWidget(m_temperature, line, 1);
@@ -240,16 +208,19 @@ void TargetEditor::refresh()
         row.label->setFont(font);
         row.first->setAccessibleName(tr("%1: %2").arg(vertexName(vertex), m_firstHeader->text()));
         row.second->setAccessibleName(tr("%1: %2").arg(vertexName(vertex), m_secondHeader->text()));
-        showValue(row.first, shown.x());
-        showValue(row.second, shown.y());
+        const Waiting waiting = m_waiting && m_waiting->vertex == vertex ? *m_waiting : Waiting{vertex, {}, {}, {}};
+        row.first->showNumber(waiting.first.value_or(shown.x()));
+        row.first->setDoubt(waiting.first ? waiting.reason : QString());
+        row.second->showNumber(waiting.second.value_or(shown.y()));
+        row.second->setDoubt(waiting.second ? waiting.reason : QString());
         const QSignalBlocker blocker(row.luminance);
         row.luminance->setDecimals(luminanceDecimals(targets.white.Y));
         row.luminance->setSingleStep(targets.white.Y < 10.0 ? 0.01 : 1.0);
         row.luminance->setValue(t.Y);
     }
-    const ColorTemperature white = colorTemperature(xyOf(targets.white)).value_or(ColorTemperature());
-    showValue(m_temperature, white.kelvin);
-    showValue(m_duv, white.duv);
+    const auto white = colorTemperature(xyOf(targets.white));
+    m_temperature->showNumber(white ? std::make_optional(white->kelvin) : std::nullopt);
+    m_duv->showNumber(white ? std::make_optional(white->duv) : std::nullopt);
     setEnabled(target.has_value());
 }
 
@@ -288,21 +259,93 @@ void TargetEditor::fillResetMenu()
     }
 }
 
-void TargetEditor::editChromaticity(Vertex vertex, int mergeKey)
+bool TargetEditor::hasFocus(Vertex vertex) const
+{
+    // Of the window, which keeps it while another window is looked at.
+    const QWidget *focused = window()->focusWidget();
+    return focused && (focused == firstCoordinate(vertex) || focused == secondCoordinate(vertex));
+}
+
+void TargetEditor::editCoordinate(Vertex vertex, const StepBox *box, int mergeKey)
+{
+    Waiting typed = m_waiting && m_waiting->vertex == vertex ? *m_waiting : Waiting{vertex, {}, {}, {}};
+    (box == firstCoordinate(vertex) ? typed.first : typed.second) = box->value();
+    editCoordinates(typed, mergeKey);
+}
+
+void TargetEditor::editCoordinates(Waiting typed, int mergeKey)
 {
     const auto target = m_session->document()->target();
     if (!target) {
         return;
     }
     // Only what was edited is taken from its field: the other coordinate may have more digits than are shown.
-    const QPointF xy = xyOf(targetAt(target->getTargets(), vertex));
-    QPointF edited = showsUv() ? uvFromXy(xy) : xy;
-    if (sender() == firstCoordinate(vertex)) {
-        edited.setX(firstCoordinate(vertex)->value());
-    } else {
-        edited.setY(secondCoordinate(vertex)->value());
+    const QPointF xy = xyOf(targetAt(target->getTargets(), typed.vertex));
+    const QPointF present = showsUv() ? uvFromXy(xy) : xy;
+    const QPointF shown = roundedXy(present);
+    if (typed.first && *typed.first == shown.x()) {
+        typed.first.reset();
     }
-    m_session->setChromaticity(vertex, showsUv() ? xyFromUv(edited) : edited, mergeKey);
+    if (typed.second && *typed.second == shown.y()) {
+        typed.second.reset();
+    }
+    m_waiting.reset();
+    if (typed.first || typed.second) {
+        const QPointF wanted(typed.first.value_or(present.x()), typed.second.value_or(present.y()));
+        const QPointF wantedXy = showsUv() ? xyFromUv(wanted) : wanted;
+        typed.reason = m_session->whyNot(typed.vertex, wantedXy);
+        if (typed.reason.isEmpty()) {
+            m_session->setChromaticity(typed.vertex, wantedXy, mergeKey);
+        } else if (hasFocus(typed.vertex)) {
+            m_waiting = typed;
+            m_session->refuse(tr("%1 Waiting for the other coordinate; Esc drops it.").arg(typed.reason));
+        } else {
+            m_session->refuse(typed.reason);
+        }
+    }
+    refresh();
+}
+
+void TargetEditor::dropWaiting()
+{
+    m_waiting.reset();
+    refresh();
+}
+
+void TargetEditor::dropUnlessFocused()
+{
+    if (m_waiting && !hasFocus(m_waiting->vertex)) {
+        const QString reason = m_waiting->reason;
+        dropWaiting();
+        m_session->refuse(tr("Not applied: %1").arg(reason));
+    }
+}
+
+//! Returns whether that was all of it.
+bool TargetEditor::coordinateKey(StepBox *box, QKeyEvent *event)
+{
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if (isPress && event->key() == Qt::Key_Escape && (m_waiting || box->isBeingTyped())) {
+        dropWaiting();
+        return true;
+    }
+    if (event->matches(QKeySequence::Undo) && m_waiting && !box->isBeingTyped()) {
+        // What waits is the last thing done, and no step of the history yet.
+        event->accept();
+        if (isPress) {
+            dropWaiting();
+        }
+        return true;
+    }
+    const auto vertex = Vertex(box->property("vertex").toInt());
+    const bool isCoordinate = box == firstCoordinate(vertex) || box == secondCoordinate(vertex);
+    const auto pair = isPress && isCoordinate && event->matches(QKeySequence::Paste)
+        ? pairFromText(QApplication::clipboard()->text())
+        : std::nullopt;
+    if (pair) {
+        editCoordinates({vertex, pair->x(), pair->y(), QString()}, 0);
+    }
+    return pair.has_value();
 }
 
 void TargetEditor::editTemperature(int mergeKey)
@@ -311,16 +354,25 @@ void TargetEditor::editTemperature(int mergeKey)
     if (!target) {
         return;
     }
-    const ColorTemperature white = colorTemperature(xyOf(target->getTargets().white)).value_or(ColorTemperature());
-    const bool isTemperature = sender() == m_temperature;
-    m_session->setWhiteTemperature(
-        isTemperature ? m_temperature->value() : white.kelvin, isTemperature ? white.duv : m_duv->value(), mergeKey);
+    const auto present = colorTemperature(xyOf(target->getTargets().white));
+    ColorTemperature wanted = present.value_or(ColorTemperature{firstTemperature, firstDuv});
+    if (sender() == m_temperature) {
+        wanted.kelvin = m_temperature->value();
+    } else {
+        wanted.duv = m_duv->value();
+    }
+    m_session->setWhiteTemperature(wanted.kelvin, wanted.duv, mergeKey);
 }
 
 bool TargetEditor::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::FocusIn) {
-        m_session->select(Vertex(watched->property("vertex").toInt()));
+    auto *box = qobject_cast<StepBox *>(watched);
+    if (box && event->type() == QEvent::FocusIn) {
+        m_session->select(Vertex(box->property("vertex").toInt()));
+    }
+    if (box && (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
+        && coordinateKey(box, static_cast<QKeyEvent *>(event))) {
+        return true;
     }
     return QWidget::eventFilter(watched, event);
 }

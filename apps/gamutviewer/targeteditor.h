@@ -2,9 +2,9 @@
 #ifndef GAMUTVIEWER_TARGETEDITOR_H
 #define GAMUTVIEWER_TARGETEDITOR_H
 
+#include "stepbox.h"
 #include "targetedits.h"
 
-#include <QDoubleSpinBox>
 #include <QWidget>
 
 #include <array>
@@ -13,6 +13,7 @@
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
+class QKeyEvent;
 class QLabel;
 class QMenu;
 class QToolButton;
@@ -20,18 +21,6 @@ class QToolButton;
 namespace gamutviewer {
 
 class TargetSession;
-
-/*! \brief A number whose arrow keys take a tenth of the step while Shift is held, and ten steps with Ctrl. */
-class StepBox : public QDoubleSpinBox {
-    Q_OBJECT
-
-public:
-    explicit StepBox(QWidget *parent = nullptr);
-
-    void stepBy(int steps) override;
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
-};
 
 /*! \brief The target in numbers that can be edited, and the rules of editing. */
 class TargetEditor : public QWidget {
@@ -63,6 +52,14 @@ private:
         StepBox *luminance = nullptr;
     };
 
+    //! Coordinates, as shown, that make no point with the other one of their row: they wait for that to be entered.
+    struct Waiting {
+        Vertex vertex;
+        std::optional<double> first;
+        std::optional<double> second;
+        QString reason;
+    };
+
     void buildHeader(QGridLayout *grid);
     void buildRow(QGridLayout *grid, Vertex vertex);
     void buildTemperature(QGridLayout *grid);
@@ -74,7 +71,12 @@ private:
     void refreshRules();
     void fillResetMenu();
     bool showsUv() const;
-    void editChromaticity(Vertex vertex, int mergeKey);
+    bool hasFocus(Vertex vertex) const;
+    void editCoordinate(Vertex vertex, const StepBox *box, int mergeKey);
+    void editCoordinates(Waiting typed, int mergeKey);
+    void dropWaiting();
+    void dropUnlessFocused();
+    bool coordinateKey(StepBox *box, QKeyEvent *event);
     void editTemperature(int mergeKey);
 
     TargetSession *m_session;
@@ -85,6 +87,7 @@ private:
     QLabel *m_firstHeader;
     QLabel *m_secondHeader;
     std::array<Row, 4> m_rows;
+    std::optional<Waiting> m_waiting;
     StepBox *m_temperature;
     StepBox *m_duv;
     QCheckBox *m_holdWhite;

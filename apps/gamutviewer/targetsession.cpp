@@ -3,6 +3,7 @@
 
 #include "chromaticity.h"
 #include "document.h"
+#include "gamutfromprimaries.h"
 #include "whitepoint.h"
 
 #include <QCoreApplication>
@@ -78,25 +79,34 @@ bool TargetSession::apply(const std::optional<Model::Targets> &targets, const QS
     return true;
 }
 
-bool TargetSession::refuse(Vertex vertex, const QPointF &xy)
+QString TargetSession::whyNot(Vertex vertex, const QPointF &xy) const
 {
-    QString reason;
-    if (!m_document->target()) {
-        reason = tr("There is no target to edit.");
-    } else if (!isMovable(vertex)) {
-        reason = vertex == Vertex::White ? tr("The white is held.") : tr("The primaries are locked.");
-    } else if (!isChromaticity(xy)) {
-        reason = tr("That is no chromaticity: x and y are from 0 to 1, and so is their sum.");
-    } else {
-        reason = tr("The white would lie outside of the target.");
+    const auto target = m_document->target();
+    if (!target) {
+        return tr("There is no target to edit.");
     }
-    Q_EMIT refused(reason);
-    return false;
+    if (!isMovable(vertex)) {
+        return vertex == Vertex::White ? tr("The white is held.") : tr("The primaries are locked.");
+    }
+    if (!isChromaticity(xy)) {
+        return tr("That is no chromaticity: x and y are from 0 to 1, and so is their sum.");
+    }
+    if (edited(vertex, xy)) {
+        return QString();
+    }
+    Model::Targets moved = target->getTargets();
+    targetAt(moved, vertex) = Model::Target::fromYxy(1.0, xy.x(), xy.y());
+    return spanTriangle(moved) ? tr("The white would lie outside of the target.")
+                               : tr("The primaries would span no triangle.");
 }
 
 bool TargetSession::setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey)
 {
-    return apply(edited(vertex, xy), tr("move %1").arg(vertexName(vertex)), mergeKey) || refuse(vertex, xy);
+    if (apply(edited(vertex, xy), tr("move %1").arg(vertexName(vertex)), mergeKey)) {
+        return true;
+    }
+    refuse(whyNot(vertex, xy));
+    return false;
 }
 
 bool TargetSession::setLuminance(Vertex vertex, double luminance, int mergeKey)
@@ -107,7 +117,7 @@ bool TargetSession::setLuminance(Vertex vertex, double luminance, int mergeKey)
             tr("luminance of %1").arg(vertexName(vertex)), mergeKey)) {
         return true;
     }
-    Q_EMIT refused(tr("The target cannot have that luminance."));
+    refuse(tr("The target cannot have that luminance."));
     return false;
 }
 
@@ -116,15 +126,14 @@ bool TargetSession::setWhiteTemperature(double kelvin, double duv, int mergeKey)
     if (const auto xy = chromaticityAt(kelvin, duv)) {
         return setChromaticity(Vertex::White, *xy, mergeKey);
     }
-    Q_EMIT refused(tr("There is no white of that colour temperature and Duv."));
+    refuse(tr("There is no white of that colour temperature and Duv."));
     return false;
 }
 
 void TargetSession::reset(const QString &gamutName)
 {
     if (m_document->description().target != gamutName && m_document->description().gamut(gamutName)) {
-        m_document->change(
-            withTargetNamed(m_document->description(), gamutName, m_document->saved()),
+        m_document->change(withTargetNamed(m_document->description(), gamutName, m_document->saved()),
             tr("reset to %1").arg(shownGamutName(gamutName)));
     }
 }
@@ -143,7 +152,7 @@ bool TargetSession::dragTo(Vertex vertex, const QPointF &xy, double reach)
     const QPointF position = snapped ? *snapped : roundedXy(xy);
     const auto targets = edited(vertex, position);
     if (!targets) {
-        refuse(vertex, position);
+        refuse(whyNot(vertex, position));
         return false;
     }
     const auto before = m_document->target();

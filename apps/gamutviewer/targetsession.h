@@ -35,12 +35,18 @@ public:
     void setSnaps(bool snap);
     void select(Vertex vertex);
 
+    /*! \brief Why \a vertex cannot be moved to \a xy, for people; empty when it can. */
+    QString whyNot(Vertex vertex, const QPointF &xy) const;
+
     /*! \brief One step of the history; false, and refused(), when it cannot be made. */
     bool setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey = 0);
     bool setLuminance(Vertex vertex, double luminance, int mergeKey = 0);
     bool setWhiteTemperature(double kelvin, double duv, int mergeKey = 0);
     /*! \brief Puts the gamut called \a gamutName in place of the target. */
     void reset(const QString &gamutName);
+
+    /*! \brief Tells, as refused(), that an edit was not made. */
+    void refuse(const QString &reason) { Q_EMIT refused(reason); }
 
     void beginDrag();
     /*!
@@ -60,7 +66,6 @@ Q_SIGNALS:
 
 private:
     std::optional<Model::Targets> edited(Vertex vertex, const QPointF &xy) const;
-    bool refuse(Vertex vertex, const QPointF &xy);
     bool apply(const std::optional<Model::Targets> &targets, const QString &text, int mergeKey);
 
     Document *m_document;

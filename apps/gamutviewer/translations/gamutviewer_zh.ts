@@ -63,6 +63,14 @@
         <source>%1 (edited)</source>
         <translation>%1（已修改）</translation>
     </message>
+    <message>
+        <source>%1 (edited %2)</source>
+        <translation>%1（已修改 %2）</translation>
+    </message>
+    <message>
+        <source>%1 K</source>
+        <translation>%1 K</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::ChartPage</name>
@@ -180,10 +188,6 @@
     <message>
         <source>Area u′, v′</source>
         <translation>面积 u′, v′</translation>
-    </message>
-    <message>
-        <source>%1 K</source>
-        <translation>%1 K</translation>
     </message>
     <message>
         <source>The target gives up %1 of the original&apos;s area in x, y and %2 in u′, v′ (hatched).</source>
@@ -452,6 +456,13 @@
     </message>
 </context>
 <context>
+    <name>gamutviewer::Json</name>
+    <message>
+        <source>the file ends too early</source>
+        <translation>文件不完整，提前结束</translation>
+    </message>
+</context>
+<context>
     <name>gamutviewer::LensPage</name>
     <message>
         <source>Closer (+)</source>
@@ -485,16 +496,20 @@
         <translation>白点，CIE 1976 u′, v′</translation>
     </message>
     <message>
-        <source>%1: %2 K, Duv %3</source>
-        <translation>%1：%2 K，Duv %3</translation>
-    </message>
-    <message>
         <source>%1 K</source>
         <translation>%1 K</translation>
     </message>
     <message>
         <source>, Δu′v′ %1</source>
         <translation>，Δu′v′ %1</translation>
+    </message>
+    <message>
+        <source>%1: %2, Duv %3</source>
+        <translation>%1：%2，Duv %3</translation>
+    </message>
+    <message>
+        <source>%1: no colour temperature</source>
+        <translation>%1：无相关色温</translation>
     </message>
 </context>
 <context>
@@ -811,6 +826,14 @@
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
+    <message>
+        <source>%1 Waiting for the other coordinate; Esc drops it.</source>
+        <translation>%1 等待输入另一个坐标；按 Esc 放弃。</translation>
+    </message>
+    <message>
+        <source>Not applied: %1</source>
+        <translation>未采用：%1</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::TargetSession</name>
@@ -853,6 +876,10 @@
     <message>
         <source>reset to %1</source>
         <translation>重置为 %1</translation>
+    </message>
+    <message>
+        <source>The primaries would span no triangle.</source>
+        <translation>三基色将不能构成三角形。</translation>
     </message>
 </context>
 <context>
@@ -1081,12 +1108,13 @@ Shows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.<
         <translation>x %1  y %2   u′ %3  v′ %4</translation>
     </message>
     <message>
-        <source>   %1 K  Duv %2</source>
-        <translation>   %1 K  Duv %2</translation>
-    </message>
-    <message>
         <source>Gamut viewer</source>
         <translation>色域查看器</translation>
+    </message>
+    <message>
+        <source>   %1  Duv %2</source>
+        <comment>with the temperature</comment>
+        <translation>   %1  Duv %2</translation>
     </message>
 </context>
 <context>
