@@ -306,6 +306,14 @@ void TargetEditor::editCoordinates(Waiting typed, int mergeKey)
     refresh();
 }
 
+void TargetEditor::takeTyped()
+{
+    auto *box = qobject_cast<StepBox *>(window()->focusWidget());
+    if (box && isAncestorOf(box)) {
+        box->interpretText();
+    }
+}
+
 void TargetEditor::dropWaiting()
 {
     m_waiting.reset();

@@ -29,6 +29,9 @@ class TargetEditor : public QWidget {
 public:
     explicit TargetEditor(TargetSession *session, QWidget *parent = nullptr);
 
+    /*! \brief Takes the number that is being typed for complete, as leaving its field would. */
+    void takeTyped();
+
     // For tests and for keyboard shortcuts
     StepBox *firstCoordinate(Vertex vertex) const { return m_rows[size_t(vertex)].first; }
     StepBox *secondCoordinate(Vertex vertex) const { return m_rows[size_t(vertex)].second; }

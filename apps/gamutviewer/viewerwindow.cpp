@@ -15,6 +15,7 @@
 #include "settings.h"
 #include "sidepanel.h"
 #include "signallog.h"
+#include "targeteditor.h"
 #include "targetsession.h"
 #include "whitepoint.h"
 
@@ -67,7 +68,11 @@ ViewerWindow::ViewerWindow(QWidget *parent)
     restoreSettings();
 }
 
-ViewerWindow::~ViewerWindow() = default;
+ViewerWindow::~ViewerWindow()
+{
+    // A field that loses the focus may have an edit to make, of a document that is still there.
+    hide();
+}
 
 void ViewerWindow::buildPages()
 {
@@ -155,6 +160,7 @@ bool ViewerWindow::openPath(const QString &fileName)
 
 bool ViewerWindow::saveTo(const QString &fileName)
 {
+    m_panel->editor()->takeTyped();
     const QString error = writeDescription(m_document.description(), fileName);
     if (!error.isEmpty()) {
         warn(tr("%1: cannot be written: %2").arg(fileName, error));
@@ -188,6 +194,7 @@ bool ViewerWindow::exportTo(const QString &fileName, const ChartExtent &extent)
 
 void ViewerWindow::copyChart()
 {
+    m_panel->editor()->takeTyped();
     ChartExtent extent;
     extent.devicePixelRatio = devicePixelRatioF();
     const QImage picture = chartPicture(chartScene(m_document.description()), extent);
@@ -199,6 +206,7 @@ void ViewerWindow::copyChart()
 
 bool ViewerWindow::mayLoseChanges()
 {
+    m_panel->editor()->takeTyped();
     if (!m_document.isModified()) {
         return true;
     }

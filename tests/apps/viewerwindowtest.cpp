@@ -41,6 +41,8 @@ private Q_SLOTS:
     void titleNamesTheFileOfANamelessDisplay();
     void closesByKeyboard();
     void closeAsksBeforeChangesAreLost();
+    void numberThatIsBeingTypedCounts();
+    void windowGoesWhileANumberIsTyped();
     void savedFileReadsBackTheSame();
     void saveThatFailsSaysSo();
     void exportsEveryFormat();
@@ -151,6 +153,43 @@ void ViewerWindowTest::closeAsksBeforeChangesAreLost()
     const Answer discard(QMessageBox::Discard);
     f.window->close();
     QVERIFY(!f.window->isVisible());
+}
+
+void ViewerWindowTest::numberThatIsBeingTypedCounts()
+{
+    WindowFixture f;
+    const QString file = f.settings.filePath(QStringLiteral("saved.json"));
+    QVERIFY(f.window->saveTo(file));
+    StepBox *box = f.window->panel()->editor()->firstCoordinate(Vertex::Green);
+    const auto type = [&](const QString &text) {
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, text);
+    };
+    type(QStringLiteral("0.3"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::ControlModifier);
+    DescriptionReader reader;
+    const auto read = reader.readFile(file);
+    QVERIFY(read);
+    QCOMPARE(read->gamut(read->target)->getTargets().green.x, 0.3);
+    type(QStringLiteral("0.29"));
+    const Answer cancel(QMessageBox::Cancel);
+    f.window->close();
+    QVERIFY(!cancel.text().isEmpty());
+    QVERIFY(f.window->isVisible());
+}
+
+void ViewerWindowTest::windowGoesWhileANumberIsTyped()
+{
+    WindowFixture f;
+    StepBox *box = f.window->panel()->editor()->luminance(Vertex::Green);
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, QStringLiteral("12"));
+    bool isMade = false;
+    connect(&f.document(), &Document::changed, this, [&isMade] { isMade = true; });
+    f.window.reset();
+    QVERIFY(isMade);
 }
 
 void ViewerWindowTest::savedFileReadsBackTheSame()
