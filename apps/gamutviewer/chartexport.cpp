@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "chartexport.h"
 
+#include "chartkeypainter.h"
 #include "chartpainter.h"
 #include "chartrenderer.h"
+#include "diagrampainter.h"
 #include "filebytes.h"
 #include "messages.h"
 
@@ -66,6 +68,12 @@ bool paintPdf(const ChartScene &scene, const QString &title, const ChartExtent &
     return painter.end();
 }
 
+bool isThePictureOfTheLibrary(const ChartScene &scene, const QSize &size)
+{
+    return scene.diagram == Model::Diagram::Cie1931 && scene.wavelengths && scene.planckianLocus
+        && (!scene.wholeDigits || libraryDigitsFit(size));
+}
+
 } // namespace
 
 std::optional<ChartFormat> chartFormat(const QString &fileName)
@@ -92,8 +100,13 @@ QImage chartPicture(const ChartScene &scene, const ChartExtent &extent)
         return {};
     }
     QImage picture;
-    if (ratio == 1.0) {
+    if (ratio == 1.0 && isThePictureOfTheLibrary(scene, extent.size)) {
         picture = ChartRenderer().draw(scene, extent.size);
+        if (scene.key.isEmpty() || picture.isNull()) {
+            return picture;
+        }
+        QPainter painter(&picture);
+        paintChartKey(painter, scene.key, DiagramFrame(scene.diagram, extent.size));
     } else {
         picture = QImage(QSize(qRound(exact.width()), qRound(exact.height())), QImage::Format_ARGB32);
         if (picture.isNull()) {

@@ -34,8 +34,9 @@ std::optional<ChartFormat> chartFormat(const QString &fileName);
 /*!
  * \brief The chart as a picture, of size times device pixel ratio in pixels: what exportChart() writes as PNG.
  *
- * At ratio 1 it is the picture of the library's own renderer. A null image when there is no memory for it or a side
- * is less than 1 or more than maximumPictureSide pixels.
+ * At ratio 1 it is the picture of the library's own renderer, with the key over it, unless that draws something else:
+ * the u′, v′ diagram, or digits that do not fit into a small picture. A null image when there is no memory for it or a
+ * side is less than 1 or more than maximumPictureSide pixels.
  */
 QImage chartPicture(const ChartScene &scene, const ChartExtent &extent);
 

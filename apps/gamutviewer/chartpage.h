@@ -2,10 +2,13 @@
 #ifndef GAMUTVIEWER_CHARTPAGE_H
 #define GAMUTVIEWER_CHARTPAGE_H
 
+#include "diagramframe.h"
+#include "gamutoverlay.h"
 #include "page.h"
 
-class QCheckBox;
-class QComboBox;
+#include <QVector>
+
+#include <memory>
 
 namespace NewCEIE {
 class CEIEGraphicsView;
@@ -13,37 +16,39 @@ class CEIEGraphicsView;
 
 namespace gamutviewer {
 
+class DiagramKey;
+class LayerRow;
+
 /*! \brief The current chart, embedded as any host would, with a switch for each layer and gamut. */
 class ChartPage : public Page {
     Q_OBJECT
 
 public:
-    explicit ChartPage(Document *document, QWidget *parent = nullptr);
+    ChartPage(Document *document, LayerSwitches *switches, QWidget *parent = nullptr);
+    ~ChartPage() override;
 
     NewCEIE::CEIEGraphicsView *chart() const { return m_chart; }
+    DiagramKey *key() const { return m_key; }
+    /*! \brief Where on the chart's viewport the CIE 1931 chromaticity \a xy is shown. */
+    QPointF viewportPosition(const QPointF &xy) const;
 
 protected:
     void refresh() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QCheckBox *addSwitch(QLayout *layout, const QString &text, const QString &explanation);
     void fit();
-    QSize pictureRoom() const;
-    bool isLegendBeside() const;
-    QPointF chromaticityAt(const QPoint &position) const;
+    /*! Pixels of the chart's picture for each of its view. */
+    double pictureScale() const;
+    QPointF chromaticityAt(const QPointF &position) const;
 
-    NewCEIE::CEIEGraphicsView *m_chart;
+    LayerSwitches *m_switches;
+    QVector<LayerRow *> m_rows;
     ChartBox *m_box;
-    QCheckBox *m_axes;
-    QCheckBox *m_standards;
-    QCheckBox *m_original;
-    QCheckBox *m_measured;
-    QCheckBox *m_target;
-    QCheckBox *m_common;
-    QCheckBox *m_points;
-    QComboBox *m_legendPlace;
-    QSize m_pictureSize;
+    NewCEIE::CEIEGraphicsView *m_chart;
+    DiagramKey *m_key;
+    std::unique_ptr<GamutOverlay> m_overlay;
+    DiagramFrame m_frame;
 };
 
 } // namespace gamutviewer

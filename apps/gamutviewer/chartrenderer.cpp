@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "chartrenderer.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace gamutviewer {
 
 namespace {
 
-constexpr double markSize = 16.0; // pixels, of the library's measure and CMY marks
+const QRectF nowhere(-1000.0, -1000.0, 1.0, 1.0); // outside of every picture
 
 } // namespace
 
@@ -22,10 +23,10 @@ QImage ChartRenderer::draw(const ChartScene &scene, const QSize &size)
     delete m_renderer.drawCEIPicture(1, 1, false, false, false, scene.colorTemperaturePoints);
     takeUpGeometry(size);
 
-    m_renderer.setPointData(marks(scene.measurePoints));
+    m_renderer.setPointData(measureRectangles(scene.measurePoints));
     m_renderer.setCMYPointData(marks(scene.cmyPoints));
-    const std::unique_ptr<QImage> picture(m_renderer.drawCEIPicture(size.width(), size.height(), true, scene.triangles,
-        scene.standards, commonArea(scene.target, scene.original), false, QString()));
+    const std::unique_ptr<QImage> picture(m_renderer.drawCEIPicture(size.width(), size.height(), scene.axes,
+        scene.triangles, scene.standards, commonArea(scene.target, scene.original), false, QString()));
     return picture ? *picture : QImage();
 }
 
@@ -51,6 +52,23 @@ QPolygonF ChartRenderer::commonArea(const TrianglePoint &a, const TrianglePoint 
         return {};
     }
     return pixelTriangle(a).intersected(pixelTriangle(b));
+}
+
+//! The library colours measure points by their place in the list: red, green, blue, white, any further ones black.
+QList<QRectF> ChartRenderer::measureRectangles(const QVector<PointMark> &points)
+{
+    QList<QRectF> rectangles;
+    for (const Qt::GlobalColor color : {Qt::red, Qt::green, Qt::blue, Qt::white}) {
+        const auto found = std::find_if(
+            points.begin(), points.end(), [color](const PointMark &mark) { return mark.color == QColor(color); });
+        rectangles.append(found == points.end() ? nowhere : marks({found->xy}).first());
+    }
+    for (const PointMark &mark : points) {
+        if (mark.color == QColor(Qt::black)) {
+            rectangles.append(marks({mark.xy}));
+        }
+    }
+    return rectangles;
 }
 
 QList<QRectF> ChartRenderer::marks(const QList<QPointF> &points)

@@ -12,7 +12,7 @@
 namespace gamutviewer {
 
 /*!
- * \brief Draws chart scenes into pictures of any size.
+ * \brief Draws chart scenes on the x, y diagram into pictures of any size, without their keys.
  *
  * Clip polygon and marks are given to the library's renderer in picture pixels, which this class finds out.
  */
@@ -27,6 +27,7 @@ private:
     void takeUpGeometry(const QSize &size);
     QPolygonF pixelTriangle(const TrianglePoint &triangle);
     QPolygonF commonArea(const TrianglePoint &a, const TrianglePoint &b);
+    QList<QRectF> measureRectangles(const QVector<PointMark> &points);
     QList<QRectF> marks(const QList<QPointF> &points);
 
     NewCEIE::DrawCEIPicture m_renderer;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "chartscene.h"
 
-#include "displaydescription.h"
+#include "gamutcolors.h"
 
 #include <QColor>
 
@@ -11,31 +11,7 @@ namespace {
 
 enum GamutKind { StandardGamut = 0, TargetGamut = 1, OriginalGamut = 2, MeasuredGamut = 3 };
 
-const QColor targetColor(255, 163, 56);
-const QColor originalColor(22, 241, 255);
-// With a measured gamut beside it the original gives up its colour.
-const QColor originalBesideMeasuredColor(13, 189, 73);
-const QColor measuredColor(27, 241, 255);
-// The chart has no kind for what a display declares: it is drawn like a measured gamut in a colour of its own.
-const QColor declaredColor(196, 146, 255);
-
 constexpr int outlineWidth = 2;
-
-struct StandardStyle {
-    int outlineAlpha;
-    double fillOpacity;
-};
-
-StandardStyle standardStyle(const QString &name)
-{
-    if (name == QLatin1String("Rec.709")) {
-        return {17, 0.07};
-    }
-    if (name == QLatin1String("Rec.2020")) {
-        return {51, 0.1};
-    }
-    return {25, 0.05}; // DCI-P3(D65), and a gamut of the file that serves as a standard
-}
 
 QPointF chromaticity(const Model::Target &target)
 {
@@ -62,50 +38,68 @@ ColorTriangleObject gamutTriangle(const Model::ColorGamut &gamut, GamutKind kind
     return object;
 }
 
-QList<QPointF> positions(const QVector<NamedPoint> &points)
+GamutKind kindOf(GamutPart::Role role)
 {
-    QList<QPointF> xy;
-    for (const NamedPoint &point : points) {
-        xy.append(point.xy);
+    switch (role) {
+    case GamutPart::Role::Target:
+        return TargetGamut;
+    case GamutPart::Role::Original:
+        return OriginalGamut;
+    case GamutPart::Role::Measured:
+    case GamutPart::Role::Declared:
+        break;
     }
-    return xy;
+    // The chart has no kind for what a display declares: it is drawn like a measured gamut in a colour of its own.
+    return MeasuredGamut;
 }
 
 } // namespace
 
-ChartScene chartScene(const DisplayDescription &description)
+ChartScene chartScene(const DisplayDescription &description, Layers shown, Model::Diagram diagram)
 {
     ChartScene scene;
-    const auto original = description.gamut(description.original);
+    scene.diagram = diagram;
+    scene.axes = shown.testFlag(Layer::Axes);
+    scene.wavelengths = shown.testFlag(Layer::Wavelengths);
+    scene.planckianLocus = shown.testFlag(Layer::PlanckianLocus);
     const auto measured = description.gamut(description.measured);
-    const auto declared = description.gamut(description.declared);
-    const auto target = description.gamut(description.target);
-    if (original) {
-        scene.triangles.append(
-            gamutTriangle(*original, OriginalGamut, measured ? originalBesideMeasuredColor : originalColor));
-        scene.original = scene.triangles.last().trianglePoint();
-    }
-    if (measured) {
-        scene.triangles.append(gamutTriangle(*measured, MeasuredGamut, measuredColor));
-    }
-    if (declared) {
-        scene.triangles.append(gamutTriangle(*declared, MeasuredGamut, declaredColor));
-    }
-    if (target) {
-        scene.triangles.append(gamutTriangle(*target, TargetGamut, targetColor));
-        scene.target = scene.triangles.last().trianglePoint();
-    }
-
-    for (const QString &name : description.standards) {
-        if (const auto standard = description.gamut(name)) {
-            const StandardStyle style = standardStyle(name);
-            scene.standards.append(gamutTriangle(*standard, StandardGamut, QColor(255, 255, 255, style.outlineAlpha)));
-            scene.standards.last().setOpacity(style.fillOpacity);
+    for (const GamutPart::Role role :
+        {GamutPart::Role::Original, GamutPart::Role::Measured, GamutPart::Role::Declared, GamutPart::Role::Target}) {
+        for (const GamutPart &part : gamutParts(description)) {
+            if (part.role != role) {
+                continue;
+            }
+            const ColorTriangleObject triangle
+                = gamutTriangle(part.gamut, kindOf(role), chartColor(role, measured.has_value()));
+            if (shown.testFlag(layerOf(role))) {
+                scene.triangles.append(triangle);
+            }
+            if (role == GamutPart::Role::Original && shown.testFlag(Layer::CommonArea)) {
+                scene.original = triangle.trianglePoint();
+            }
+            if (role == GamutPart::Role::Target && shown.testFlag(Layer::CommonArea)) {
+                scene.target = triangle.trianglePoint();
+            }
         }
     }
-    scene.colorTemperaturePoints = positions(description.colorTemperaturePoints);
-    scene.measurePoints = positions(description.measurePoints);
-    scene.cmyPoints = positions(description.cmyPoints);
+    if (shown.testFlag(Layer::Standards)) {
+        for (const QString &name : description.standards) {
+            if (const auto standard = description.gamut(name)) {
+                const StandardStyle style = standardStyle(name);
+                scene.standards.append(gamutTriangle(*standard, StandardGamut, style.outline));
+                scene.standards.last().setOpacity(style.fillOpacity);
+            }
+        }
+    }
+    if (shown.testFlag(Layer::ColorTemperaturePoints)) {
+        scene.colorTemperaturePoints = positions(description.colorTemperaturePoints).toList();
+    }
+    if (shown.testFlag(Layer::MeasurePoints)) {
+        scene.measurePoints = measureMarks(description.measurePoints);
+    }
+    if (shown.testFlag(Layer::CmyPoints)) {
+        scene.cmyPoints = positions(description.cmyPoints).toList();
+    }
     return scene;
 }
 

@@ -2,6 +2,7 @@
 #include "comparepage.h"
 
 #include "chromaticity.h"
+#include "diagramkey.h"
 #include "document.h"
 #include "gamutdiagram.h"
 #include "targetsession.h"
@@ -10,7 +11,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPainter>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -23,20 +23,6 @@ enum Row { RedRow, GreenRow, BlueRow, WhiteRow, TemperatureRow, DuvRow, Luminanc
 QString pairText(const QPointF &point)
 {
     return QStringLiteral("%1, %2").arg(point.x(), 0, 'f', 4).arg(point.y(), 0, 'f', 4);
-}
-
-//! A piece of a gamut's line, for the head of its column.
-QPixmap lineSample(const GamutPart &part, const QWidget *widget)
-{
-    constexpr QSize size(36, 12);
-    QPixmap pixmap(size * widget->devicePixelRatioF());
-    pixmap.setDevicePixelRatio(widget->devicePixelRatioF());
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(partPen(part.role, widget->palette()));
-    painter.drawLine(QPointF(0, size.height() / 2.0), QPointF(size.width(), size.height() / 2.0));
-    return pixmap;
 }
 
 } // namespace
@@ -86,26 +72,9 @@ ComparePage::ComparePage(Document *document, QWidget *parent)
         connect(diagram, &GamutDiagram::pointedAt, this, &Page::pointedAt);
     }
     layout->addLayout(diagrams, 1);
-    m_key = new QHBoxLayout;
-    m_key->setSpacing(6);
-    layout->addLayout(m_key);
-}
-
-void ComparePage::refreshKey(const QVector<GamutPart> &parts)
-{
-    while (QLayoutItem *item = m_key->takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
-    m_key->addStretch();
-    for (const GamutPart &part : parts) {
-        auto *sample = new QLabel(this);
-        sample->setPixmap(lineSample(part, this));
-        m_key->addWidget(sample);
-        m_key->addWidget(new QLabel(part.roleName(), this));
-        m_key->addSpacing(12);
-    }
-    m_key->addStretch();
+    m_key = new DiagramKey(this);
+    layout->addWidget(m_key);
+    setFocusProxy(m_table);
 }
 
 void ComparePage::setCell(int row, int column, const QString &text)
@@ -152,7 +121,14 @@ void ComparePage::refresh()
                 .arg(percent(lostShare(original->getTargets(), target->getTargets(), Model::Diagram::Cie1931)),
                     percent(lostShare(original->getTargets(), target->getTargets(), Model::Diagram::Cie1976))));
     }
-    refreshKey(parts);
+    QVector<KeyEntry> key;
+    for (const GamutPart &part : parts) {
+        KeyEntry entry;
+        entry.name = part.roleName();
+        entry.pen = partPen(part.role, palette());
+        key.append(entry);
+    }
+    m_key->setEntries(key);
     m_xy->setParts(parts);
     m_uv->setParts(parts);
 }

@@ -7,12 +7,12 @@
 
 #include <gamutmodel/gamutcoverage.h>
 
-class QHBoxLayout;
 class QLabel;
 class QTableWidget;
 
 namespace gamutviewer {
 
+class DiagramKey;
 class GamutDiagram;
 
 /*! \brief Declared, original, measured and target side by side, and what the target gives up of the original. */
@@ -29,14 +29,13 @@ protected:
     void refresh() override;
 
 private:
-    void refreshKey(const QVector<GamutPart> &parts);
     void setCell(int row, int column, const QString &text);
 
     QTableWidget *m_table;
     QLabel *m_loss;
     GamutDiagram *m_xy;
     GamutDiagram *m_uv;
-    QHBoxLayout *m_key;
+    DiagramKey *m_key;
 };
 
 /*!

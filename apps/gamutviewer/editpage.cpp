@@ -2,13 +2,13 @@
 #include "editpage.h"
 
 #include "chromaticity.h"
+#include "diagramkey.h"
 #include "document.h"
+#include "layerrow.h"
 #include "pointerevent.h"
 #include "targetsession.h"
 
-#include <QCheckBox>
 #include <QCoreApplication>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -19,12 +19,7 @@ namespace gamutviewer {
 
 namespace {
 
-// What the chart's pictures show, and the margin around it.
-constexpr ceiechart::ChromaRange xyRange{0.0F, 0.84F, 0.0F, 0.94F};
-constexpr ceiechart::ChromaRange uvRange{0.0F, 0.65F, 0.0F, 0.68F};
-constexpr int xyMarginPercent = 5;
-constexpr int uvMarginPercent = 15;
-
+const QColor keyGround(50, 50, 56); // of the u′, v′ diagram, on which all lines show
 constexpr int smallestPicture = 160; // pixels
 constexpr double snapPixels = 8.0;
 constexpr double handleReach = 6.0; // pixels from the middle of a handle
@@ -62,35 +57,30 @@ bool differ(const QPointF &a, const QPointF &b)
 
 } // namespace
 
-EditPage::EditPage(TargetSession *session, DrawCEIPicture::CEIEType type, QWidget *parent)
+EditPage::EditPage(TargetSession *session, LayerSwitches *switches, DrawCEIPicture::CEIEType type, QWidget *parent)
     : Page(session->document(), parent)
     , m_session(session)
-    , m_type(type)
+    , m_switches(switches)
+    , m_diagram(type == DrawCEIPicture::XyDiagram ? Model::Diagram::Cie1931 : Model::Diagram::Cie1976)
 {
-    const bool isXy = type == DrawCEIPicture::XyDiagram;
     auto *layout = new QVBoxLayout(this);
-    auto *row = new QHBoxLayout;
-    row->setSpacing(12);
-    layout->addLayout(row);
-    m_axes = new QCheckBox(isXy ? tr("&Axes and Planckian locus") : tr("&Axes"), this);
-    m_axes->setChecked(true);
-    row->addWidget(m_axes);
-    if (isXy) {
-        m_wavelengths = new QCheckBox(tr("&Wavelengths"), this);
-        m_wavelengths->setChecked(true);
-        row->addWidget(m_wavelengths);
-    }
-    row->addStretch();
+    buildSwitches(layout);
     m_box = new ChartBox(this);
     layout->addWidget(m_box, 1);
+    m_key = new DiagramKey(this);
+    layout->addWidget(m_key);
     m_chart = new CEIEGraphicsView(m_box, type);
     // Otherwise each painting would take the target's white away.
     m_chart->setDrawColorTPoint(false);
-    m_chart->getLegend()->setLegendVisible(CEIELegend::CommonGamut, false);
+    // The overlay draws them, and the key names everything.
+    m_chart->setIsDrawCoordinate(false);
+    m_chart->setIsDrawWaveLength(false);
+    m_chart->getLegend()->hide();
     m_overlay = std::make_unique<GamutOverlay>(m_chart->view()->scene());
 
     NQCEIEGraphicsView *view = m_chart->view();
-    view->setAccessibleName(isXy ? tr("Editable diagram, CIE 1931 x, y") : tr("Editable diagram, CIE 1976 u′, v′"));
+    view->setAccessibleName(m_diagram == Model::Diagram::Cie1931 ? tr("Editable diagram, CIE 1931 x, y")
+                                                                 : tr("Editable diagram, CIE 1976 u′, v′"));
     view->setAccessibleDescription(tr("R, G, B, W select; arrow keys move; Esc cancels a drag"));
     view->setFocusPolicy(Qt::StrongFocus);
     view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -98,17 +88,28 @@ EditPage::EditPage(TargetSession *session, DrawCEIPicture::CEIEType type, QWidge
     view->viewport()->setMouseTracking(true);
     view->installEventFilter(this);
     view->viewport()->installEventFilter(this);
+    m_box->showFocusOf(view);
+    setFocusProxy(view);
 
     connect(m_box, &ChartBox::resized, this, &EditPage::refreshWhenShown);
-    connect(m_axes, &QCheckBox::toggled, m_chart, &CEIEGraphicsView::setIsDrawCoordinate);
-    if (m_wavelengths) {
-        connect(m_wavelengths, &QCheckBox::toggled, m_chart, &CEIEGraphicsView::setIsDrawWaveLength);
-    }
+    connect(switches, &LayerSwitches::changed, this, &EditPage::refreshWhenShown);
     connect(session, &TargetSession::rulesChanged, this, &EditPage::applyRules);
     connect(session, &TargetSession::selectionChanged, this, &EditPage::refreshWhenShown);
     connect(m_chart, &CEIEGraphicsView::signal_colorGamutValueChanged, this, &EditPage::targetMoved);
     connect(m_chart, &CEIEGraphicsView::signal_targetInfoChanged, this, &EditPage::whiteRequested);
     applyRules();
+}
+
+void EditPage::buildSwitches(QLayout *layout)
+{
+    const QVector<QVector<Layer>> rows{
+        {Layer::Original, Layer::Measured, Layer::Declared, Layer::Target, Layer::Standards},
+        {Layer::Axes, Layer::Wavelengths, Layer::PlanckianLocus},
+        {Layer::MeasurePoints, Layer::ColorTemperaturePoints, Layer::CmyPoints}};
+    for (const QVector<Layer> &row : rows) {
+        m_rows.append(new LayerRow(m_switches, row, this));
+        layout->addWidget(m_rows.last());
+    }
 }
 
 void EditPage::applyRules()
@@ -119,17 +120,14 @@ void EditPage::applyRules()
 
 void EditPage::fit()
 {
-    const bool isXy = m_type == DrawCEIPicture::XyDiagram;
-    const ceiechart::ChromaRange &range = isXy ? xyRange : uvRange;
-    const double aspect = double(range.xMax) / double(range.yMax);
-    const QSize room = m_box->size() - QSize(2, m_chart->getLegend()->sizeHint().height() + 2);
+    const double aspect = DiagramFrame::aspect(m_diagram);
+    const QSize room = m_box->room() - QSize(2, 2);
     const int height = std::max(smallestPicture, std::min(room.height(), int(room.width() / aspect)));
     const QSize picture(int(height * aspect), height);
-    if (picture != m_pictureSize) {
-        m_pictureSize = picture;
+    if (picture != m_frame.size()) {
+        m_frame = DiagramFrame(m_diagram, picture);
         m_chart->setImageWidth(picture.width());
         m_chart->setImageHeight(picture.height());
-        m_geometry.setPicture(picture.width(), picture.height(), isXy ? xyMarginPercent : uvMarginPercent, range);
     }
     m_chart->layout()->activate();
     m_box->place(m_chart);
@@ -138,52 +136,48 @@ void EditPage::fit()
 void EditPage::pushGamuts()
 {
     m_chart->setColorGamut(info(document()->target()), info(document()->original()));
-    m_overlay->show(
-        document()->description(), m_session->selected(), [this](const QPointF &xy) { return scenePosition(xy); });
+    m_overlay->showOnBareDiagram(document()->description(), m_switches->shown(), m_session->selected(), m_frame);
 }
 
 void EditPage::refresh()
 {
+    const DisplayDescription &description = document()->description();
+    Layers available = layersOf(description);
+    for (LayerRow *row : qAsConst(m_rows)) {
+        row->setAvailable(available);
+    }
+    m_key->setEntries(
+        keyEntries(description, m_switches->shown() & ~Layers(Layer::CommonArea), KeyStyle::Overlay), keyGround);
     fit();
     pushGamuts();
-    QVector<QPointF> points;
-    for (const NamedPoint &point : document()->description().measurePoints) {
-        points.append(m_type == DrawCEIPicture::XyDiagram ? point.xy : uvFromXy(point.xy));
-    }
-    if (points == m_shownPoints) {
-        return;
-    }
-    m_shownPoints = points;
-    if (m_type == DrawCEIPicture::XyDiagram) {
-        m_chart->setOtherPoints(points.toList(), {});
-    } else {
-        m_chart->setMeasureValuePoints(points.toList());
-        // The points are part of the picture, which this draws anew.
-        m_chart->setIsDrawCoordinate(m_axes->isChecked());
-    }
-}
-
-QPointF EditPage::scenePosition(const QPointF &xy) const
-{
-    const QPointF shown = m_type == DrawCEIPicture::XyDiagram ? xy : uvFromXy(xy);
-    return m_geometry.toExactPixel(shown.x(), shown.y());
 }
 
 QPoint EditPage::viewportPosition(const QPointF &xy) const
 {
-    return m_chart->view()->mapFromScene(scenePosition(xy));
+    return m_chart->view()->mapFromScene(m_frame.fromXy(xy));
 }
 
 QPointF EditPage::chromaticityAt(const QPointF &position) const
 {
-    const QPointF scene = m_chart->view()->mapToScene(QPoint()) + position;
-    const QPointF shown = m_geometry.toChroma(scene.x() - ceiechart::DiagramGeometry::xOffset, scene.y());
-    return m_type == DrawCEIPicture::XyDiagram ? shown : xyFromUv(shown);
+    return m_frame.toXy(m_chart->view()->mapToScene(QPoint()) + position);
 }
 
-double EditPage::snapReach() const
+// The reach of snapping is one of pixels, in every direction and on both diagrams.
+void EditPage::dragTo(Vertex vertex, const QPointF &xy)
 {
-    return snapPixels * m_geometry.unitsPerPixelX();
+    QPointF aim = xy;
+    if (m_session->snaps()) {
+        double nearest = snapPixels;
+        for (const QPointF &candidate : snapPoints(document()->description(), vertex)) {
+            const QPointF way = m_frame.fromXy(candidate) - m_frame.fromXy(xy);
+            const double distance = std::hypot(way.x(), way.y());
+            if (distance <= nearest) {
+                aim = candidate;
+                nearest = distance;
+            }
+        }
+    }
+    m_session->dragTo(vertex, aim, 0.0);
 }
 
 bool EditPage::eventFilter(QObject *watched, QEvent *event)
@@ -378,8 +372,8 @@ bool EditPage::nudge(QKeyEvent *event)
                                                        : nudgeStep;
     const Vertex vertex = m_session->selected();
     const QPointF before = xyOf(targetAt(target->getTargets(), vertex));
-    const QPointF after = m_type == DrawCEIPicture::XyDiagram ? roundedXy(before + direction * step)
-                                                              : xyFromUv(uvFromXy(before) + direction * step);
+    const QPointF after = m_diagram == Model::Diagram::Cie1931 ? roundedXy(before + direction * step)
+                                                               : xyFromUv(uvFromXy(before) + direction * step);
     m_session->setChromaticity(vertex, after, nudgeMergeKey + int(vertex));
     return true;
 }
@@ -401,7 +395,7 @@ void EditPage::targetMoved(const ColorTriangleObject &moved)
     for (const Vertex vertex : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
         const QPointF &position = positions[int(vertex)];
         if (differ(position, xyOf(targetAt(target->getTargets(), vertex)))) {
-            m_session->dragTo(vertex, position, snapReach());
+            dragTo(vertex, position);
             break;
         }
     }
@@ -415,7 +409,7 @@ void EditPage::whiteRequested()
         return;
     }
     if (m_pointerHasMoved) {
-        m_session->dragTo(Vertex::White, m_pointerXy, snapReach());
+        dragTo(Vertex::White, m_pointerXy);
     } else {
         m_session->select(Vertex::White);
     }

@@ -2,25 +2,29 @@
 #ifndef GAMUTVIEWER_EDITPAGE_H
 #define GAMUTVIEWER_EDITPAGE_H
 
+#include "diagramframe.h"
 #include "gamutoverlay.h"
 #include "page.h"
 
 #include <ceiechart/legacy/ceiegraphicsview.h>
-#include <ceiechart/render/diagramgeometry.h>
 
 #include <memory>
 #include <optional>
 
-class QCheckBox;
 class QKeyEvent;
 class QMouseEvent;
 
 namespace gamutviewer {
 
+class DiagramKey;
+class LayerRow;
 class TargetSession;
 
 /*!
  * \brief The legacy chart, on which the target is edited with mouse and keyboard, on the x, y or the u', v' diagram.
+ *
+ * The chart shows the colours and the handles of the target; lines, digits and points are drawn over it, sharp at every
+ * device pixel ratio and with a switch for each layer.
  *
  * The chart moves a primary and reports it; the page makes an edit of the document of that, which snaps and rounds,
  * and hands the result back. The chart itself keeps the white where it is, so a drag of the white is made here of the
@@ -30,9 +34,10 @@ class EditPage : public Page {
     Q_OBJECT
 
 public:
-    EditPage(TargetSession *session, DrawCEIPicture::CEIEType type, QWidget *parent = nullptr);
+    EditPage(TargetSession *session, LayerSwitches *switches, DrawCEIPicture::CEIEType type, QWidget *parent = nullptr);
 
     CEIEGraphicsView *chart() const { return m_chart; }
+    DiagramKey *key() const { return m_key; }
     /*! \brief Where on the chart's viewport the CIE 1931 chromaticity \a xy is shown. */
     QPoint viewportPosition(const QPointF &xy) const;
 
@@ -43,12 +48,13 @@ protected:
 private:
     enum class Pointer { Up, Down, Cancelled };
 
+    void buildSwitches(QLayout *layout);
     void fit();
     void applyRules();
     void pushGamuts();
     QPointF scenePosition(const QPointF &xy) const;
     QPointF chromaticityAt(const QPointF &position) const;
-    double snapReach() const;
+    void dragTo(Vertex vertex, const QPointF &xy);
 
     bool handlePointer(QMouseEvent *event);
     void pointerPressed(const QMouseEvent &event);
@@ -64,15 +70,14 @@ private:
     void whiteRequested();
 
     TargetSession *m_session;
-    DrawCEIPicture::CEIEType m_type;
+    LayerSwitches *m_switches;
+    Model::Diagram m_diagram;
+    QVector<LayerRow *> m_rows;
     ChartBox *m_box;
     CEIEGraphicsView *m_chart;
-    QCheckBox *m_axes;
-    QCheckBox *m_wavelengths = nullptr;
+    DiagramKey *m_key;
     std::unique_ptr<GamutOverlay> m_overlay;
-    ceiechart::DiagramGeometry m_geometry;
-    QSize m_pictureSize;
-    QVector<QPointF> m_shownPoints;
+    DiagramFrame m_frame;
     Pointer m_pointer = Pointer::Up;
     bool m_pointerHasMoved = false;
     QPointF m_pointerXy;

@@ -2,6 +2,7 @@
 #include "gamutdiagram.h"
 
 #include "chromaticity.h"
+#include "gamutcolors.h"
 #include "pointerevent.h"
 #include "targetedits.h"
 
@@ -33,16 +34,16 @@ QPen partPen(GamutPart::Role role, const QPalette &palette)
     QPen pen;
     switch (role) {
     case GamutPart::Role::Declared:
-        pen = QPen(dark ? QColor(230, 200, 90) : QColor(140, 105, 0), 1.5, Qt::DashDotDotLine);
+        pen = QPen(dark ? QColor(230, 200, 90) : QColor(140, 105, 0), 1.5, lineStyle(role));
         break;
     case GamutPart::Role::Original:
-        pen = QPen(dark ? QColor(90, 210, 120) : QColor(0, 120, 40), 1.8, Qt::DashLine);
+        pen = QPen(dark ? QColor(90, 210, 120) : QColor(0, 120, 40), 1.8, lineStyle(role));
         break;
     case GamutPart::Role::Measured:
-        pen = QPen(dark ? QColor(160, 160, 255) : QColor(70, 50, 190), 1.5, Qt::DashDotLine);
+        pen = QPen(dark ? QColor(160, 160, 255) : QColor(70, 50, 190), 1.5, lineStyle(role));
         break;
     case GamutPart::Role::Target:
-        pen = QPen(dark ? QColor(255, 170, 80) : QColor(190, 80, 0), 1.8, Qt::SolidLine);
+        pen = QPen(dark ? QColor(255, 170, 80) : QColor(190, 80, 0), 1.8, lineStyle(role));
         break;
     }
     pen.setJoinStyle(Qt::RoundJoin);

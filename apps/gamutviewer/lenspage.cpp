@@ -38,6 +38,7 @@ LensPage::LensPage(Document *document, QWidget *parent)
         tr("Distance from the target's white. The dotted line shows where it was before the last edits."));
     row->addWidget(explanation);
     layout->addWidget(m_lens, 1);
+    setFocusProxy(m_lens);
     connect(m_lens, &LensWidget::pointedAt, this, &Page::pointedAt);
 }
 

@@ -3,6 +3,7 @@
 
 #include "chromaticity.h"
 #include "gamutdiagram.h"
+#include "page.h"
 #include "pointerevent.h"
 #include "targetedits.h"
 #include "whitepoint.h"
@@ -209,6 +210,9 @@ void LensWidget::paintEvent(QPaintEvent *)
     drawTrail(painter);
     drawWhites(painter);
     drawKey(painter);
+    if (hasFocus()) {
+        paintFocusFrame(painter, rect(), palette());
+    }
 }
 
 void LensWidget::drawGrid(QPainter &painter) const

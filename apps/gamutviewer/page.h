@@ -36,6 +36,9 @@ private:
     bool m_stale = true;
 };
 
+/*! \brief Shows that what is inside of \a place has the keyboard. */
+void paintFocusFrame(QPainter &painter, const QRect &place, const QPalette &palette);
+
 /*! \brief The place of a chart in a page: says when its size changes, and keeps no minimum for the chart's sake. */
 class ChartBox : public QWidget {
     Q_OBJECT
@@ -46,14 +49,24 @@ public:
     QSize sizeHint() const override { return QSize(560, 600); }
     QSize minimumSizeHint() const override { return QSize(240, 260); }
 
+    /*! \brief What there is for a chart. */
+    QSize room() const;
     /*! \brief Puts \a chart into the middle of the upper edge. */
     void place(QWidget *chart);
+    /*! \brief Frames the chart while \a view, which is part of it, has the keyboard. */
+    void showFocusOf(QWidget *view);
 
 Q_SIGNALS:
     void resized();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QWidget *m_view = nullptr;
+    QRect m_place;
 };
 
 } // namespace gamutviewer

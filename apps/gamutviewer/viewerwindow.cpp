@@ -2,11 +2,11 @@
 #include "viewerwindow.h"
 
 #include "chartpage.h"
-#include "chartscene.h"
 #include "chromaticity.h"
 #include "comparepage.h"
 #include "descriptionwriter.h"
 #include "editpage.h"
+#include "layers.h"
 #include "lenspage.h"
 #include "messages.h"
 #include "openfile.h"
@@ -80,9 +80,10 @@ void ViewerWindow::buildPages()
     m_splitter->setChildrenCollapsible(false);
     m_pages = new QTabWidget(m_splitter);
     m_pages->setDocumentMode(true);
-    m_chartPage = new ChartPage(&m_document);
-    m_editPage = new EditPage(m_session, DrawCEIPicture::XyDiagram);
-    m_uvPage = new EditPage(m_session, DrawCEIPicture::UvDiagram);
+    m_switches = new LayerSwitches(this);
+    m_chartPage = new ChartPage(&m_document, m_switches);
+    m_editPage = new EditPage(m_session, m_switches, DrawCEIPicture::XyDiagram);
+    m_uvPage = new EditPage(m_session, m_switches, DrawCEIPicture::UvDiagram);
     m_lensPage = new LensPage(&m_document);
     m_comparePage = new ComparePage(&m_document);
     addPage(m_chartPage, tr("Chart"));
@@ -173,6 +174,23 @@ bool ViewerWindow::saveTo(const QString &fileName)
     return true;
 }
 
+ChartScene ViewerWindow::shownScene() const
+{
+    const DisplayDescription &description = m_document.description();
+    const QWidget *page = m_pages->currentWidget();
+    const bool isUv = page == m_uvPage;
+    Layers shown = m_switches->shown();
+    if (page != m_editPage && !isUv) {
+        // The chart page has no switches for them.
+        shown |= Layer::Wavelengths | Layer::PlanckianLocus;
+    }
+    ChartScene scene = chartScene(description, shown, isUv ? Model::Diagram::Cie1976 : Model::Diagram::Cie1931);
+    scene.wholeDigits = true;
+    // All of the u′, v′ chart is coloured.
+    scene.key = keyEntries(description, isUv ? shown & ~Layers(Layer::CommonArea) : shown, KeyStyle::Picture);
+    return scene;
+}
+
 bool ViewerWindow::exportTo(const QString &fileName, const ChartExtent &extent)
 {
     const auto format = chartFormat(fileName);
@@ -182,7 +200,7 @@ bool ViewerWindow::exportTo(const QString &fileName, const ChartExtent &extent)
     }
     const DisplayDescription &description = m_document.description();
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString error = exportChart(chartScene(description), description.name, extent, *format, fileName);
+    const QString error = exportChart(shownScene(), description.name, extent, *format, fileName);
     QApplication::restoreOverrideCursor();
     if (!error.isEmpty()) {
         warn(tr("%1: cannot be written: %2").arg(fileName, error));
@@ -197,7 +215,7 @@ void ViewerWindow::copyChart()
     m_panel->editor()->takeTyped();
     ChartExtent extent;
     extent.devicePixelRatio = devicePixelRatioF();
-    const QImage picture = chartPicture(chartScene(m_document.description()), extent);
+    const QImage picture = chartPicture(shownScene(), extent);
     if (!picture.isNull()) {
         QApplication::clipboard()->setImage(picture);
         statusBar()->showMessage(tr("The chart has been copied to the clipboard."), messageMilliseconds);

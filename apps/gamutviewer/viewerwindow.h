@@ -17,6 +17,7 @@ namespace gamutviewer {
 class ChartPage;
 class ComparePage;
 class EditPage;
+class LayerSwitches;
 class LensPage;
 class Page;
 class SidePanel;
@@ -45,6 +46,11 @@ public:
     /*! \brief Writes the chart in the format of \a fileName's suffix; false, with a message, when that fails. */
     bool exportTo(const QString &fileName, const ChartExtent &extent);
     void copyChart();
+    /*!
+     * \brief What is exported and copied: what the switches of the shown page let through, on its diagram where that is
+     * one of the charts, else on x, y.
+     */
+    ChartScene shownScene() const;
 
     Document *document() { return &m_document; }
     TargetSession *session() const { return m_session; }
@@ -96,6 +102,7 @@ private:
     Document m_document;
     QString m_shownFile; // what was opened, for the title
     TargetSession *m_session;
+    LayerSwitches *m_switches;
     bool m_panelWidthIsChosen = false;
     QSplitter *m_splitter;
     QTabWidget *m_pages;

@@ -2,8 +2,10 @@
 #include "expectedchart.h"
 
 #include <gamutviewer/chartexport.h>
+#include <gamutviewer/chartkeypainter.h>
 #include <gamutviewer/chartpainter.h>
 #include <gamutviewer/descriptionreader.h>
+#include <gamutviewer/diagrampainter.h>
 #include <reference/picturedifference.h>
 
 #include <QPainter>
@@ -25,7 +27,12 @@ private Q_SLOTS:
     void pictureSizes();
     void higherRatioShowsTheSame();
     void painterShowsWhatTheRendererShows();
+    void painterDrawsWhereTheRendererDraws();
     void numbersFitIntoASmallChart();
+    void smallPictureHasWholeDigits();
+    void keyStandsBesideTheDiagram_data();
+    void keyStandsBesideTheDiagram();
+    void uvChartShowsItsParts();
     void everyPartIsPainted();
     void svgIsVectors();
     void svgShowsTheChart();
@@ -63,6 +70,30 @@ double coarseDifference(const QImage &a, const QImage &b)
     }
     return sum / (3.0 * coarse.width() * coarse.height());
 }
+
+//! The share of pixels to which \a b has nothing alike within a pixel's distance.
+double strangePixels(const QImage &a, const QImage &b)
+{
+    constexpr int alike = 40; // difference of a channel, of 255
+    const auto isAlike = [&](QRgb color, int x, int y) {
+        const QRgb other = b.pixel(x, y);
+        return std::abs(qRed(color) - qRed(other)) <= alike && std::abs(qGreen(color) - qGreen(other)) <= alike
+            && std::abs(qBlue(color) - qBlue(other)) <= alike;
+    };
+    int strange = 0;
+    for (int y = 1; y + 1 < a.height(); ++y) {
+        for (int x = 1; x + 1 < a.width(); ++x) {
+            bool found = false;
+            for (int i = 0; i < 9 && !found; ++i) {
+                found = isAlike(a.pixel(x, y), x + i % 3 - 1, y + i / 3 - 1);
+            }
+            strange += !found;
+        }
+    }
+    return double(strange) / (a.width() * a.height());
+}
+
+constexpr double mostStrangePixels = 0.0035; // wavelengths have places of their own too
 
 } // namespace
 
@@ -169,9 +200,107 @@ void ChartExportTest::painterShowsWhatTheRendererShows()
     QVERIFY(coarseDifference(painted(other, QSize(800, 800)), expectedchart::draw(QSize(800, 800))) > 10.0);
 }
 
+void ChartExportTest::painterDrawsWhereTheRendererDraws()
+{
+    const QSize size(800, 800);
+    ChartScene scene = m_sample;
+    scene.axes = false; // whose digits have places of their own
+    const QImage own = painted(scene, size);
+    const QImage expected = chartPicture(scene, {size, 1.0});
+    const double share = strangePixels(own, expected);
+    QVERIFY2(share < mostStrangePixels, qPrintable(QString::number(share)));
+    // Three pixels beside is somewhere else.
+    const double elsewhere = strangePixels(own.copy(QRect(QPoint(3, 3), size)), expected);
+    QVERIFY2(elsewhere > 2 * mostStrangePixels, qPrintable(QString::number(elsewhere)));
+}
+
+void ChartExportTest::smallPictureHasWholeDigits()
+{
+    // The library's own digits are cut off by the edge of a small picture.
+    const QSize size(400, 300);
+    const auto reachesTheEdge = [&](const QImage &picture) {
+        for (int y = 0; y < size.height(); ++y) {
+            if (picture.pixelColor(0, y) != QColor(23, 23, 26)) {
+                return true;
+            }
+        }
+        return false;
+    };
+    ChartScene scene = m_sample;
+    QVERIFY(reachesTheEdge(chartPicture(scene, {size, 1.0})));
+    scene.wholeDigits = true;
+    QVERIFY(!reachesTheEdge(chartPicture(scene, {size, 1.0})));
+    // Where they fit it is the library's.
+    QCOMPARE(
+        reference::firstDifference(chartPicture(scene, {QSize(800, 800), 1.0}), expectedchart::draw(QSize(800, 800))),
+        QString());
+}
+
+void ChartExportTest::keyStandsBesideTheDiagram_data()
+{
+    QTest::addColumn<bool>("uv");
+    QTest::addColumn<QSize>("size");
+    for (const bool uv : {false, true}) {
+        for (const QSize &size : {QSize(1600, 1600), QSize(800, 800), QSize(1200, 500), QSize(500, 400)}) {
+            QTest::addRow("%s %dx%d", uv ? "u'v'" : "xy", size.width(), size.height()) << uv << size;
+        }
+    }
+}
+
+void ChartExportTest::keyStandsBesideTheDiagram()
+{
+    QFETCH(bool, uv);
+    QFETCH(QSize, size);
+    DescriptionReader reader;
+    const auto description = reader.readFile(QStringLiteral(SAMPLE_FILE));
+    const Model::Diagram diagram = uv ? Model::Diagram::Cie1976 : Model::Diagram::Cie1931;
+    ChartScene scene = chartScene(*description, allLayers, diagram);
+    const QImage without = chartPicture(scene, {size, 1.0});
+    scene.key = keyEntries(*description, allLayers, KeyStyle::Picture);
+    const QImage with = chartPicture(scene, {size, 1.0});
+    const DiagramFrame frame(diagram, size);
+    const QRectF place = chartKeyPlace(scene.key, frame);
+    QVERIFY(!place.isEmpty());
+    QVERIFY(QRectF(QPointF(), size).contains(place));
+    QVERIFY(spectralLocus(frame).intersected(place).isEmpty());
+    int changed = 0;
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            if (with.pixel(x, y) != without.pixel(x, y)) {
+                QVERIFY(place.adjusted(-2, -2, 2, 2).contains(QPointF(x, y)));
+                ++changed;
+            }
+        }
+    }
+    QVERIFY(changed > 300);
+    // No room: no key.
+    QVERIFY(chartKeyPlace(scene.key, DiagramFrame(diagram, QSize(60, 60))).isEmpty());
+}
+
+void ChartExportTest::uvChartShowsItsParts()
+{
+    DescriptionReader reader;
+    const auto description = reader.readFile(QStringLiteral(SAMPLE_FILE));
+    const ChartExtent extent{QSize(600, 600), 1.0};
+    const auto picture = [&](Layers layers) {
+        return chartPicture(chartScene(*description, layers, Model::Diagram::Cie1976), extent);
+    };
+    const QImage whole = picture(allLayers);
+    for (const Layer layer :
+        {Layer::Original, Layer::Measured, Layer::Target, Layer::Standards, Layer::Axes, Layer::Wavelengths,
+            Layer::PlanckianLocus, Layer::MeasurePoints, Layer::ColorTemperaturePoints, Layer::CmyPoints}) {
+        QVERIFY(picture(allLayers & ~Layers(layer)) != whole);
+    }
+    // The ground of the library's u', v' picture, and colours where Rec.2020 has its green.
+    QCOMPARE(whole.pixelColor(2, 2), QColor(50, 50, 56));
+    const QPointF cyan = DiagramFrame(Model::Diagram::Cie1976, extent.size).fromXy(QPointF(0.1, 0.3));
+    QVERIFY(whole.pixelColor(cyan.toPoint()).hsvSaturation() > 100);
+}
+
 void ChartExportTest::numbersFitIntoASmallChart()
 {
-    for (const QSize &size : {QSize(640, 480), QSize(400, 300), QSize(300, 300)}) {
+    for (const QSize &size :
+        {QSize(640, 480), QSize(400, 300), QSize(300, 300), QSize(1200, 400), QSize(200, 216)}) {
         const QImage picture = painted(m_sample, size);
         for (int y = 0; y < size.height(); ++y) {
             QCOMPARE(picture.pixelColor(0, y), QColor(23, 23, 26));

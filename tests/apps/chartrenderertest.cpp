@@ -3,6 +3,7 @@
 
 #include <gamutviewer/chartrenderer.h>
 #include <gamutviewer/descriptionreader.h>
+#include <gamutviewer/diagramframe.h>
 #include <reference/picturedifference.h>
 
 #include <QtTest>
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void drawsWhatTheLibraryDraws();
     void everyPartOfTheSceneShows();
     void historyLeavesNoTrace();
+    void measurePointsAreColoredByName();
     void commonAreaNeedsBothGamuts();
     void smallestPictures();
 
@@ -74,6 +76,22 @@ void ChartRendererTest::historyLeavesNoTrace()
     used.draw(other, QSize(123, 456));
     const QSize size(300, 200);
     QCOMPARE(reference::firstDifference(used.draw(m_sample, size), ChartRenderer().draw(m_sample, size)), QString());
+}
+
+void ChartRendererTest::measurePointsAreColoredByName()
+{
+    ChartScene scene;
+    scene.measurePoints = {{QPointF(0.1, 0.8), Qt::black}, {QPointF(0.3, 0.8), Qt::white},
+        {QPointF(0.5, 0.8), Qt::green}, {QPointF(0.7, 0.8), Qt::black}};
+    const QSize size(800, 800);
+    const QImage picture = ChartRenderer().draw(scene, size);
+    const DiagramFrame frame(Model::Diagram::Cie1931, size);
+    for (const PointMark &mark : scene.measurePoints) {
+        QCOMPARE(picture.pixelColor(frame.fromXy(mark.xy).toPoint()), mark.color);
+    }
+    // And there are no others.
+    scene.measurePoints.clear();
+    QCOMPARE(picture.pixelColor(0, 0), ChartRenderer().draw(scene, size).pixelColor(0, 0));
 }
 
 void ChartRendererTest::commonAreaNeedsBothGamuts()

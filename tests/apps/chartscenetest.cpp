@@ -17,6 +17,9 @@ private Q_SLOTS:
     void standards();
     void unknownPartsAreLeftOut();
     void pointsKeepTheirOrder();
+    void measurePointsAreColoredByName();
+    void layersThatAreOffAreLeftOut_data();
+    void layersThatAreOffAreLeftOut();
 };
 
 namespace {
@@ -141,9 +144,63 @@ void ChartSceneTest::pointsKeepTheirOrder()
     QCOMPARE(scene.colorTemperaturePoints.size(), 2);
     QVERIFY(isAt(scene.colorTemperaturePoints[1], 0.3, 0.31));
     QCOMPARE(scene.measurePoints.size(), 1);
-    QVERIFY(isAt(scene.measurePoints[0], 0.6, 0.3));
+    QVERIFY(isAt(scene.measurePoints[0].xy, 0.6, 0.3));
     QCOMPARE(scene.cmyPoints.size(), 3);
     QVERIFY(isAt(scene.cmyPoints[2], 0.4, 0.5));
+}
+
+void ChartSceneTest::measurePointsAreColoredByName()
+{
+    DisplayDescription description;
+    const QStringList names{"skin", "B", "Green", "grey", " red ", "white", "", "green", "W"};
+    for (const QString &name : names) {
+        description.measurePoints.append({name, {0.3, 0.3}});
+    }
+    QVector<QColor> colors;
+    for (const PointMark &mark : chartScene(description).measurePoints) {
+        colors.append(mark.color);
+    }
+    // Of two of the same name the first.
+    QCOMPARE(colors,
+        (QVector<QColor>{
+            Qt::black, Qt::blue, Qt::green, Qt::black, Qt::red, Qt::white, Qt::black, Qt::black, Qt::black}));
+}
+
+void ChartSceneTest::layersThatAreOffAreLeftOut_data()
+{
+    QTest::addColumn<int>("layer");
+    QTest::addColumn<int>("part"); // of describe()
+    QTest::newRow("original") << int(Layer::Original) << 0;
+    QTest::newRow("measured") << int(Layer::Measured) << 0;
+    QTest::newRow("declared") << int(Layer::Declared) << 0;
+    QTest::newRow("target") << int(Layer::Target) << 0;
+    QTest::newRow("standards") << int(Layer::Standards) << 1;
+    QTest::newRow("common area") << int(Layer::CommonArea) << 2;
+    QTest::newRow("axes") << int(Layer::Axes) << 3;
+    QTest::newRow("wavelengths") << int(Layer::Wavelengths) << 4;
+    QTest::newRow("Planckian locus") << int(Layer::PlanckianLocus) << 5;
+    QTest::newRow("measure points") << int(Layer::MeasurePoints) << 6;
+    QTest::newRow("colour temperatures") << int(Layer::ColorTemperaturePoints) << 7;
+    QTest::newRow("CMY points") << int(Layer::CmyPoints) << 8;
+}
+
+void ChartSceneTest::layersThatAreOffAreLeftOut()
+{
+    QFETCH(int, layer);
+    QFETCH(int, part);
+    DisplayDescription description = wall();
+    description.declared = QStringLiteral("DCI-P3(D65)");
+    description.standards = QStringList{"Rec.709"};
+    description.measurePoints = description.colorTemperaturePoints = description.cmyPoints = {{QString(), {0.3, 0.3}}};
+    const auto describe = [](const ChartScene &scene) {
+        return QVector<int>{int(scene.triangles.size()), int(scene.standards.size()),
+            !scene.original.isEmpty() && !scene.target.isEmpty(), scene.axes, scene.wavelengths, scene.planckianLocus,
+            int(scene.measurePoints.size()), int(scene.colorTemperaturePoints.size()), int(scene.cmyPoints.size())};
+    };
+    QVector<int> expected = describe(chartScene(description));
+    QCOMPARE(expected, (QVector<int>{4, 1, 1, 1, 1, 1, 1, 1, 1}));
+    --expected[part];
+    QCOMPARE(describe(chartScene(description, allLayers & ~Layers(Layer(layer)))), expected);
 }
 
 QTEST_GUILESS_MAIN(ChartSceneTest)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windowfixture.h"
 
+#include <gamutviewer/diagramkey.h>
 #include <gamutviewer/groupedtable.h>
 #include <gamutviewer/sidepanel.h>
 #include <gamutviewer/signallog.h>
@@ -33,6 +34,13 @@ private Q_SLOTS:
     void heldWhiteStays();
     void lockedPrimariesStay();
     void dragSnapsToAStandard();
+    void snapReachesAsFarOnBothDiagrams_data();
+    void snapReachesAsFarOnBothDiagrams();
+    void everySwitchChangesTheDiagram_data();
+    void everySwitchChangesTheDiagram();
+    void keyNamesWhatIsShown();
+    void digitsStayWithinTheDiagram();
+    void focusIsFramed();
     void keysSelectAndNudge();
     void heldKeyIsOneStep();
     void nudgeInUv();
@@ -50,6 +58,14 @@ constexpr double pointerTolerance = 0.003;
 bool near(const QPointF &a, const QPointF &b, double tolerance = pointerTolerance)
 {
     return std::hypot(a.x() - b.x(), a.y() - b.y()) < tolerance;
+}
+
+//! Goes to a page as its users do, and gives what has the keyboard then.
+QWidget *pageByKey(WindowFixture &f, Qt::Key key)
+{
+    QTest::keyClick(f.window.get(), key, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    return QApplication::focusWidget();
 }
 
 } // namespace
@@ -272,12 +288,130 @@ void EditPageTest::dragSnapsToAStandard()
     QVERIFY(f.xy(Vertex::Red).x() != 0.64);
 }
 
-void EditPageTest::keysSelectAndNudge()
+void EditPageTest::snapReachesAsFarOnBothDiagrams_data()
+{
+    QTest::addColumn<bool>("uv");
+    QTest::addColumn<int>("vertex");
+    for (const bool uv : {false, true}) {
+        for (const Vertex vertex : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
+            QTest::addRow("%s%d", uv ? "u'v' " : "xy ", int(vertex)) << uv << int(vertex);
+        }
+    }
+}
+
+void EditPageTest::snapReachesAsFarOnBothDiagrams()
+{
+    QFETCH(bool, uv);
+    QFETCH(int, vertex);
+    WindowFixture f;
+    DisplayDescription description = f.document().description();
+    description.original = QStringLiteral("Rec.709"); // that of the sample is near
+    f.window->setDescription(description, QString());
+    f.show(page(f, uv));
+    const QPointF standard = xyOf(targetAt(Model::rec2020().getTargets(), Vertex(vertex)));
+    QWidget *viewport = page(f, uv)->chart()->view()->viewport();
+    const QPoint middle = page(f, uv)->viewportPosition(standard);
+    // From the outside inwards, as what has snapped leaves the pointer where it is.
+    for (const int pixels : {12, 5}) {
+        const QPointF from = f.xy(Vertex(vertex));
+        QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, page(f, uv)->viewportPosition(from));
+        const QPoint inwards = page(f, uv)->viewportPosition(QPointF(0.3127, 0.329)) - middle;
+        const QPointF direction = QPointF(inwards) / std::hypot(inwards.x(), inwards.y());
+        const QPoint aim = middle + (direction * pixels).toPoint();
+        QMouseEvent move(
+            QEvent::MouseMove, aim, viewport->mapToGlobal(aim), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &move);
+        QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, aim);
+        QCOMPARE(near(f.xy(Vertex(vertex)), standard, 1e-9), pixels == 5);
+    }
+}
+
+void EditPageTest::everySwitchChangesTheDiagram_data()
+{
+    QTest::addColumn<bool>("uv");
+    QTest::newRow("xy") << false;
+    QTest::newRow("u'v'") << true;
+}
+
+void EditPageTest::everySwitchChangesTheDiagram()
+{
+    QFETCH(bool, uv);
+    WindowFixture f;
+    f.window->setDescription(withEverything(f.document().description()), QString());
+    f.window->resize(1800, 700); // the key has one line, and the diagram its size, whatever is shown
+    f.show(page(f, uv));
+    const QList<QCheckBox *> switches = page(f, uv)->findChildren<QCheckBox *>();
+    QCOMPARE(switches.size(), 11);
+    const auto picture = [&] { return page(f, uv)->chart()->view()->grab().toImage(); };
+    const auto key = [&] { return page(f, uv)->key()->entries().size(); };
+    const QImage before = picture();
+    const auto entries = key();
+    for (int index = 0; index < switches.size(); ++index) {
+        const QString name = switches.at(index)->text();
+        QTest::keyClick(switches.at(index), Qt::Key_Space);
+        const QImage without = picture();
+        QCOMPARE(without.size(), before.size());
+        QVERIFY2(without != before, qPrintable(name));
+        // Axes, wavelengths and Planckian locus explain themselves.
+        QCOMPARE(key(), index >= 5 && index < 8 ? entries : entries - 1);
+        QTest::keyClick(switches.at(index), Qt::Key_Space);
+        QVERIFY2(picture() == before, qPrintable(name));
+    }
+}
+
+void EditPageTest::keyNamesWhatIsShown()
+{
+    WindowFixture f;
+    f.window->setDescription(withEverything(f.document().description()), QString());
+    f.show(f.window->editPage());
+    QCOMPARE(f.window->editPage()->key()->accessibleDescription(),
+        QStringLiteral("Declared, Original, Measured, Target, Standards, Measure points, CCT points, CMY points"));
+    // All of it can be read.
+    const DiagramKey *key = f.window->editPage()->key();
+    QVERIFY(key->height() >= key->heightForWidth(key->width()));
+    QVERIFY(!f.window->editPage()->chart()->getLegend()->isVisible());
+}
+
+void EditPageTest::digitsStayWithinTheDiagram()
+{
+    for (const QSize &size : {QSize(1024, 768), QSize(1300, 900)}) {
+        WindowFixture f;
+        f.window->resize(size);
+        for (const bool uv : {false, true}) {
+            f.show(page(f, uv));
+            QWidget *view = page(f, uv)->chart()->view();
+            const QImage picture = view->grab(view->rect().adjusted(2, 2, -2, -2)).toImage();
+            const QRgb ground = picture.pixel(0, 0);
+            for (int y = 0; y < picture.height(); ++y) {
+                QCOMPARE(picture.pixel(0, y), ground);
+            }
+            for (int x = 0; x < picture.width(); ++x) {
+                QCOMPARE(picture.pixel(x, picture.height() - 1), ground);
+            }
+        }
+    }
+}
+
+void EditPageTest::focusIsFramed()
 {
     WindowFixture f;
     f.show(f.window->editPage());
-    QWidget *view = f.window->editPage()->chart()->view();
-    view->setFocus();
+    f.window->panel()->editor()->temperature()->setFocus();
+    const auto frame = [&] {
+        QWidget *chart = f.window->editPage()->chart();
+        return chart->parentWidget()->grab().toImage().pixelColor(chart->pos() - QPoint(2, 2));
+    };
+    const QColor without = frame();
+    pageByKey(f, Qt::Key_2);
+    QVERIFY(frame() != without);
+    QCOMPARE(frame(), f.window->palette().color(QPalette::Highlight));
+}
+
+void EditPageTest::keysSelectAndNudge()
+{
+    WindowFixture f;
+    QWidget *view = pageByKey(f, Qt::Key_2);
+    QCOMPARE(view, static_cast<QWidget *>(f.window->editPage()->chart()->view()));
     QTest::keyClick(view, Qt::Key_G);
     QCOMPARE(int(f.window->session()->selected()), int(Vertex::Green));
     QTest::keyClick(view, Qt::Key_Right);
@@ -297,9 +431,7 @@ void EditPageTest::keysSelectAndNudge()
 void EditPageTest::heldKeyIsOneStep()
 {
     WindowFixture f;
-    f.show(f.window->editPage());
-    QWidget *view = f.window->editPage()->chart()->view();
-    view->setFocus();
+    QWidget *view = pageByKey(f, Qt::Key_2);
     QTest::keyClick(view, Qt::Key_R);
     for (int i = 0; i < 5; ++i) {
         QKeyEvent press(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier, QString(), i > 0);
@@ -316,9 +448,7 @@ void EditPageTest::heldKeyIsOneStep()
 void EditPageTest::nudgeInUv()
 {
     WindowFixture f;
-    f.show(f.window->uvPage());
-    QWidget *view = f.window->uvPage()->chart()->view();
-    view->setFocus();
+    QWidget *view = pageByKey(f, Qt::Key_3);
     QTest::keyClick(view, Qt::Key_B);
     const Model::Target before = f.document().target()->getTargets().blue;
     QTest::keyClick(view, Qt::Key_Right);

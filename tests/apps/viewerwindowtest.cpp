@@ -6,6 +6,7 @@
 #include <gamutviewer/comparepage.h>
 #include <gamutviewer/descriptionreader.h>
 #include <gamutviewer/descriptionwriter.h>
+#include <gamutviewer/diagramkey.h>
 #include <gamutviewer/groupedtable.h>
 #include <gamutviewer/interfacetranslations.h>
 #include <gamutviewer/lenspage.h>
@@ -21,7 +22,6 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
-#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QMenuBar>
@@ -58,8 +58,14 @@ private Q_SLOTS:
     void everySwitchChangesTheChart_data();
     void everySwitchChangesTheChart();
     void chartFollowsTheSizeOfTheWindow();
-    void legendMoves();
+    void keyNamesWhatTheChartShows();
+    void switchesHoldForAllPages();
+    void exportsWhatIsShown();
+    void standardOfTheFileIsShown();
+    void keyboardGoesToThePage();
     void pointerIsReadOut();
+    void pointerIsReadOutWhereMarksAreDrawn_data();
+    void pointerIsReadOutWhereMarksAreDrawn();
     void lensFollowsAndZooms();
     void undefinedTemperatureIsTold();
     void comparePageTellsWhatIsLost();
@@ -250,7 +256,7 @@ void ViewerWindowTest::copiesTheChart()
     QTest::keyClick(f.window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     const QImage copied = QApplication::clipboard()->image();
     QVERIFY(copied.convertToFormat(QImage::Format_RGB32)
-        == chartPicture(chartScene(f.document().description()), ChartExtent()).convertToFormat(QImage::Format_RGB32));
+        == chartPicture(f.window->shownScene(), ChartExtent()).convertToFormat(QImage::Format_RGB32));
 }
 
 void ViewerWindowTest::badFileLeavesWhatWasOpen_data()
@@ -362,7 +368,7 @@ void ViewerWindowTest::pagesByKeyboard()
 void ViewerWindowTest::everySwitchChangesTheChart_data()
 {
     QTest::addColumn<int>("index");
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 10; ++i) {
         QTest::newRow(QByteArray::number(i).constData()) << i;
     }
 }
@@ -371,9 +377,11 @@ void ViewerWindowTest::everySwitchChangesTheChart()
 {
     QFETCH(int, index);
     WindowFixture f;
+    f.window->setDescription(withEverything(f.document().description()), QString());
+    f.window->resize(1800, 900); // the key has one line, and the chart its size, whatever is shown
     f.show(f.window->chartPage());
     const QList<QCheckBox *> switches = f.window->chartPage()->findChildren<QCheckBox *>();
-    QCOMPARE(switches.size(), 7);
+    QCOMPARE(switches.size(), 10);
     const auto picture = [&] { return f.window->chartPage()->chart()->view()->grab().toImage(); };
     const QImage before = picture();
     QTest::keyClick(switches.at(index), Qt::Key_Space);
@@ -400,17 +408,92 @@ void ViewerWindowTest::chartFollowsTheSizeOfTheWindow()
     QVERIFY(f.window->editPage()->chart()->imageHeight() < edit);
 }
 
-void ViewerWindowTest::legendMoves()
+void ViewerWindowTest::keyNamesWhatTheChartShows()
 {
     WindowFixture f;
     f.show(f.window->chartPage());
-    NewCEIE::CEIEGraphicsView *chart = f.window->chartPage()->chart();
-    QVERIFY(chart->getLegend()->y() >= chart->view()->height());
-    auto *place = f.window->chartPage()->findChild<QComboBox *>();
-    QTest::keyClick(place, Qt::Key_Down);
-    QCoreApplication::processEvents();
-    QVERIFY(chart->getLegend()->x() >= chart->view()->width());
-    QVERIFY(chart->getLegend()->geometry().right() < chart->parentWidget()->width());
+    const DiagramKey *key = f.window->chartPage()->key();
+    QVERIFY(!f.window->chartPage()->chart()->getLegend()->isVisible());
+    QCOMPARE(key->accessibleDescription(),
+        QStringLiteral("Original, Measured, Target, Standards, Common area, Measure points, CCT points, CMY points"));
+    QVERIFY(key->isVisible() && key->height() >= key->heightForWidth(key->width()));
+    // Each line in the colour that the chart draws it in.
+    QCOMPARE(key->entries().at(0).pen.color(), QColor(13, 189, 73));
+    QCOMPARE(key->entries().at(1).pen.color(), QColor(27, 241, 255));
+    QCOMPARE(key->entries().at(2).pen.color(), QColor(255, 163, 56));
+}
+
+void ViewerWindowTest::switchesHoldForAllPages()
+{
+    WindowFixture f;
+    f.show(f.window->chartPage());
+    QCheckBox *original = f.window->chartPage()->findChildren<QCheckBox *>().first();
+    QTest::keyClick(original, Qt::Key_Space);
+    QVERIFY(!original->isChecked());
+    for (const EditPage *page : {f.window->editPage(), f.window->uvPage()}) {
+        QCheckBox *other = page->findChildren<QCheckBox *>().first();
+        QCOMPARE(other->text(), original->text());
+        QVERIFY(!other->isChecked());
+    }
+}
+
+void ViewerWindowTest::exportsWhatIsShown()
+{
+    WindowFixture f;
+    f.show(f.window->chartPage());
+    const auto axes = [](const QWidget *page) {
+        const QList<QCheckBox *> switches = page->findChildren<QCheckBox *>();
+        return *std::find_if(switches.begin(), switches.end(),
+            [](const QCheckBox *box) { return box->text() == QLatin1String("&Axes"); });
+    };
+    const ChartScene whole = f.window->shownScene();
+    QCOMPARE(whole.triangles.size(), 3);
+    QCOMPARE(whole.key.size(), 8);
+    QTest::keyClick(axes(f.window->chartPage()), Qt::Key_Space);
+    QTest::keyClick(f.window->chartPage()->findChildren<QCheckBox *>().first(), Qt::Key_Space);
+    const ChartScene part = f.window->shownScene();
+    QVERIFY(!part.axes);
+    QCOMPARE(part.triangles.size(), 2);
+    QCOMPARE(part.key.size(), 7);
+    QTemporaryDir folder;
+    const ChartExtent extent{QSize(700, 700), 1.0};
+    QVERIFY(f.window->exportTo(folder.filePath("part.png"), extent));
+    QCOMPARE(QImage(folder.filePath("part.png")).convertToFormat(QImage::Format_RGB32),
+        chartPicture(part, extent).convertToFormat(QImage::Format_RGB32));
+    QVERIFY(chartPicture(part, extent) != chartPicture(whole, extent));
+    // The u', v' page exports its own diagram, and lets it go without wavelengths.
+    QVERIFY(part.diagram == Model::Diagram::Cie1931 && part.wavelengths);
+    f.show(f.window->uvPage());
+    QTest::keyClick(f.window->uvPage()->findChildren<QCheckBox *>().at(6), Qt::Key_Space);
+    const ChartScene uv = f.window->shownScene();
+    QVERIFY(uv.diagram == Model::Diagram::Cie1976 && !uv.wavelengths && uv.planckianLocus);
+    f.show(f.window->comparePage());
+    QVERIFY(f.window->shownScene().wavelengths);
+}
+
+void ViewerWindowTest::standardOfTheFileIsShown()
+{
+    WindowFixture f;
+    DisplayDescription description = f.document().description();
+    description.standards = QStringList{description.original};
+    f.window->setDescription(description, QString());
+    f.show(f.window->chartPage());
+    const auto picture = [&] { return f.window->chartPage()->chart()->view()->grab().toImage(); };
+    const QImage with = picture();
+    description.standards.clear();
+    f.window->setDescription(description, QString());
+    QVERIFY(picture() != with);
+}
+
+void ViewerWindowTest::keyboardGoesToThePage()
+{
+    WindowFixture f;
+    const QWidget *inside[] = {f.window->chartPage()->chart()->view(), f.window->editPage()->chart()->view(),
+        f.window->uvPage()->chart()->view(), f.window->lensPage()->lens(), f.window->comparePage()->table()};
+    for (int page = 4; page >= 0; --page) {
+        QTest::keyClick(f.window.get(), Qt::Key(Qt::Key_1 + page), Qt::ControlModifier);
+        QCOMPARE(static_cast<const QWidget *>(QApplication::focusWidget()), inside[page]);
+    }
 }
 
 void ViewerWindowTest::pointerIsReadOut()
@@ -426,6 +509,68 @@ void ViewerWindowTest::pointerIsReadOut()
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(f.window->editPage()->chart()->view()->viewport(), &leave);
     QVERIFY(f.window->readout()->text().isEmpty());
+}
+
+void ViewerWindowTest::pointerIsReadOutWhereMarksAreDrawn_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<int>("width");
+    for (const int page : {0, 1, 2}) {
+        for (const int width : {1024, 1500}) {
+            QTest::addRow("page %d, %d wide", page, width) << page << width;
+        }
+    }
+}
+
+void ViewerWindowTest::pointerIsReadOutWhereMarksAreDrawn()
+{
+    QFETCH(int, page);
+    QFETCH(int, width);
+    WindowFixture f;
+    f.window->resize(width, width * 3 / 4);
+    const QPointF marked(0.5, 0.4);
+    DisplayDescription description = f.document().description();
+    description.colorTemperaturePoints = {{QString(), marked}};
+    f.window->setDescription(description, QString());
+    f.window->pages()->setCurrentIndex(page);
+    QCoreApplication::processEvents();
+    QWidget *viewport = page == 0 ? f.window->chartPage()->chart()->view()->viewport()
+        : page == 1               ? f.window->editPage()->chart()->view()->viewport()
+                                  : f.window->uvPage()->chart()->view()->viewport();
+    const QImage with = viewport->grab().toImage();
+    description.colorTemperaturePoints = {{QString(), {0.15, 0.65}}}; // far to the left
+    f.window->setDescription(description, QString());
+    QCoreApplication::processEvents();
+    const QImage without = viewport->grab().toImage();
+    QPolygonF drawn;
+    for (int y = 0; y < with.height(); ++y) {
+        for (int x = with.width() * 35 / 100; x < with.width(); ++x) {
+            if (with.pixel(x, y) != without.pixel(x, y)) {
+                drawn.append(QPointF(x, y));
+            }
+        }
+    }
+    QVERIFY(drawn.size() > 20);
+    const QPoint middle = drawn.boundingRect().center().toPoint();
+    const auto readAt = [&](const QPoint &position) {
+        QMouseEvent move(
+            QEvent::MouseMove, position, viewport->mapToGlobal(position), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &move);
+        const QRegularExpression numbers(QStringLiteral("x (\\S+)  y (\\S+)"));
+        const QRegularExpressionMatch match = numbers.match(f.window->readout()->text());
+        return QPointF(match.captured(1).toDouble(), match.captured(2).toDouble());
+    };
+    // Within a pixel, by what the readout tells of pixels.
+    constexpr int step = 10;
+    const QPointF read = readAt(middle);
+    const QPointF perX = (readAt(middle + QPoint(step, 0)) - read) / step;
+    const QPointF perY = (readAt(middle + QPoint(0, step)) - read) / step;
+    bool isInvertible = false;
+    const QTransform toPixels = QTransform(perX.x(), perX.y(), perY.x(), perY.y(), 0, 0).inverted(&isInvertible);
+    QVERIFY(isInvertible);
+    const QPointF error = toPixels.map(marked - read);
+    QVERIFY2(qAbs(error.x()) <= 1.0 && qAbs(error.y()) <= 1.0,
+        qPrintable(QStringLiteral("%1, %2 pixels").arg(error.x()).arg(error.y())));
 }
 
 void ViewerWindowTest::lensFollowsAndZooms()

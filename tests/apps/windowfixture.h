@@ -17,6 +17,18 @@
 #include <QTimer>
 #include <QtTest>
 
+/*! \a description with something in every layer. */
+inline gamutviewer::DisplayDescription withEverything(gamutviewer::DisplayDescription description)
+{
+    Model::ColorGamut declared = *description.gamut(description.original);
+    Model::Targets targets = declared.getTargets();
+    targets.red = Model::Target::fromYxy(200, 0.6, 0.32);
+    description.gamuts.push_back(Model::ColorGamut("declared", targets));
+    description.declared = QStringLiteral("declared");
+    description.measurePoints.append({QStringLiteral("skin"), {0.4, 0.36}});
+    return description;
+}
+
 /*! A window on the sample, with settings of its own. */
 struct WindowFixture {
     WindowFixture()

@@ -71,77 +71,29 @@
         <source>%1 K</source>
         <translation>%1 K</translation>
     </message>
+    <message>
+        <source>Common area</source>
+        <translation>公共色域</translation>
+    </message>
+    <message>
+        <source>Standards</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>Measure points</source>
+        <translation>测量点</translation>
+    </message>
+    <message>
+        <source>CCT points</source>
+        <translation>色温点</translation>
+    </message>
+    <message>
+        <source>CMY points</source>
+        <translation>CMY 点</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::ChartPage</name>
-    <message>
-        <source>&amp;Original</source>
-        <translation>原始(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Show the original gamut</source>
-        <translation>显示原始色域</translation>
-    </message>
-    <message>
-        <source>&amp;Measured</source>
-        <translation>测量(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Show the measured gamut</source>
-        <translation>显示测量色域</translation>
-    </message>
-    <message>
-        <source>&amp;Target</source>
-        <translation>目标(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Show the target gamut</source>
-        <translation>显示目标色域</translation>
-    </message>
-    <message>
-        <source>&amp;Standards</source>
-        <translation>标准(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Show the standard gamuts</source>
-        <translation>显示标准色域</translation>
-    </message>
-    <message>
-        <source>&amp;Common area</source>
-        <translation>公共色域(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Colour the area that target and original have in common</source>
-        <translation>为目标与原始色域的公共部分着色</translation>
-    </message>
-    <message>
-        <source>&amp;Axes</source>
-        <translation>坐标轴(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Show axes and grid</source>
-        <translation>显示坐标轴和网格</translation>
-    </message>
-    <message>
-        <source>CM&amp;Y points</source>
-        <translation>CMY 点(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>Show the points of cyan, magenta and yellow</source>
-        <translation>显示青、品红、黄三点</translation>
-    </message>
-    <message>
-        <source>below</source>
-        <translation>下方</translation>
-    </message>
-    <message>
-        <source>beside</source>
-        <translation>旁边</translation>
-    </message>
-    <message>
-        <source>&amp;Legend</source>
-        <translation>图例(&amp;L)</translation>
-    </message>
     <message>
         <source>Chromaticity diagram, CIE 1931 x, y</source>
         <translation>CIE 1931 x, y 色度图</translation>
@@ -293,6 +245,13 @@
     </message>
 </context>
 <context>
+    <name>gamutviewer::DiagramKey</name>
+    <message>
+        <source>Key</source>
+        <translation>图例</translation>
+    </message>
+</context>
+<context>
     <name>gamutviewer::Edid</name>
     <message>
         <source>is a truncated EDID: %1 bytes of at least %2</source>
@@ -321,18 +280,6 @@
 </context>
 <context>
     <name>gamutviewer::EditPage</name>
-    <message>
-        <source>&amp;Axes and Planckian locus</source>
-        <translation>坐标轴和黑体轨迹(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Axes</source>
-        <translation>坐标轴(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Wavelengths</source>
-        <translation>波长(&amp;W)</translation>
-    </message>
     <message>
         <source>Editable diagram, CIE 1931 x, y</source>
         <translation>可编辑的 CIE 1931 x, y 色度图</translation>
@@ -460,6 +407,105 @@
     <message>
         <source>the file ends too early</source>
         <translation>文件不完整，提前结束</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::LayerRow</name>
+    <message>
+        <source>&amp;Original</source>
+        <translation>原始(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show the original gamut</source>
+        <translation>显示原始色域</translation>
+    </message>
+    <message>
+        <source>&amp;Measured</source>
+        <translation>测量(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Show the measured gamut</source>
+        <translation>显示测量色域</translation>
+    </message>
+    <message>
+        <source>&amp;Declared</source>
+        <translation>声明(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show the gamut that the display declares</source>
+        <translation>显示显示屏声明的色域</translation>
+    </message>
+    <message>
+        <source>&amp;Target</source>
+        <translation>目标(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Show the target gamut</source>
+        <translation>显示目标色域</translation>
+    </message>
+    <message>
+        <source>&amp;Standards</source>
+        <translation>标准(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show the standard gamuts</source>
+        <translation>显示标准色域</translation>
+    </message>
+    <message>
+        <source>&amp;Common area</source>
+        <translation>公共色域(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Colour the area that target and original have in common</source>
+        <translation>为目标与原始色域的公共部分着色</translation>
+    </message>
+    <message>
+        <source>&amp;Axes</source>
+        <translation>坐标轴(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Show axes and grid</source>
+        <translation>显示坐标轴和网格</translation>
+    </message>
+    <message>
+        <source>&amp;Wavelengths</source>
+        <translation>波长(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Show the wavelengths along the edge, in nanometres</source>
+        <translation>显示边缘上的波长（纳米）</translation>
+    </message>
+    <message>
+        <source>Planc&amp;kian locus</source>
+        <translation>黑体轨迹(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Show the colours of black bodies</source>
+        <translation>显示黑体的颜色</translation>
+    </message>
+    <message>
+        <source>Meas&amp;ure points</source>
+        <translation>测量点(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Show further measurements</source>
+        <translation>显示其他测量值</translation>
+    </message>
+    <message>
+        <source>CCT po&amp;ints</source>
+        <translation>色温点(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Show the points of colour temperatures</source>
+        <translation>显示各色温的点</translation>
+    </message>
+    <message>
+        <source>CM&amp;Y points</source>
+        <translation>CMY 点(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Show the points of cyan, magenta and yellow</source>
+        <translation>显示青、品红、黄三点</translation>
     </message>
 </context>
 <context>

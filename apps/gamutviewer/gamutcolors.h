@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_GAMUTCOLORS_H
+#define GAMUTVIEWER_GAMUTCOLORS_H
+
+#include "gamutparts.h"
+
+#include <QColor>
+
+namespace gamutviewer {
+
+/*!
+ * \brief The colour of a part's gamut on the charts, which are dark whatever the palette.
+ *
+ * It is the one that the current chart gives it; for what a display declares, which that chart does not know, it is
+ * the program's own. \a besideMeasured is whether there is a measured gamut too.
+ */
+QColor chartColor(GamutPart::Role role, bool besideMeasured);
+
+/*! \brief Its line where the program draws it itself: a style of its own beside the colour. */
+Qt::PenStyle lineStyle(GamutPart::Role role);
+
+/*! \brief How the charts show a standard. */
+struct StandardStyle {
+    QColor outline;
+    double fillOpacity;
+};
+StandardStyle standardStyle(const QString &name);
+
+} // namespace gamutviewer
+
+#endif
