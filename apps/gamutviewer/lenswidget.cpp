@@ -204,6 +204,7 @@ void LensWidget::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), palette().base());
     drawGrid(painter);
+    drawAxisNames(painter);
     drawLocus(painter);
     drawIsotherms(painter);
     drawRings(painter);
@@ -233,7 +234,7 @@ void LensWidget::drawGrid(QPainter &painter) const
         painter.setPen(faded(text, 30));
         painter.drawLine(QPointF(x, 0), QPointF(x, height()));
         painter.setPen(faded(text, 170));
-        if (x > 24 && x < width() - 24) {
+        if (x > 24 && x < width() - 48) {
             painter.drawText(
                 QRectF(x - 40, height() - textHeight - 2, 80, textHeight), Qt::AlignCenter, QString::number(u, 'f', 3));
         }
@@ -243,12 +244,21 @@ void LensWidget::drawGrid(QPainter &painter) const
         painter.setPen(faded(text, 30));
         painter.drawLine(QPointF(0, y), QPointF(width(), y));
         // Clear of the numbers below.
-        if (y > textHeight && y < height() - 2 * textHeight) {
+        if (y > 2 * textHeight + 4 && y < height() - 2 * textHeight) {
             painter.setPen(faded(text, 170));
             painter.drawText(
                 QRectF(4, y - textHeight, 80, textHeight), Qt::AlignLeft | Qt::AlignBottom, QString::number(v, 'f', 3));
         }
     }
+}
+
+void LensWidget::drawAxisNames(QPainter &painter) const
+{
+    painter.setPen(palette().color(QPalette::Text));
+    const int textHeight = painter.fontMetrics().height();
+    painter.drawText(QRectF(6, 4, 40, textHeight), Qt::AlignLeft, QStringLiteral("v′"));
+    painter.drawText(
+        QRectF(width() - 46, height() - textHeight - 2, 40, textHeight), Qt::AlignRight, QStringLiteral("u′"));
 }
 
 void LensWidget::drawLocus(QPainter &painter) const
@@ -265,28 +275,58 @@ void LensWidget::drawIsotherms(QPainter &painter) const
 {
     const QColor text = palette().color(QPalette::Text);
     const QFontMetrics metrics = painter.fontMetrics();
-    QVector<QRectF> taken{keyBox()};
+    painter.setPen(QPen(faded(text, 120), 1.0));
     for (const Isotherm &isotherm : isothermLines()) {
-        const QPointF below = place(isotherm.below);
-        const QPointF above = place(isotherm.above);
-        painter.setPen(QPen(faded(text, 120), 1.0));
-        painter.drawLine(below, above);
+        painter.drawLine(place(isotherm.below), place(isotherm.above));
+    }
+    QVector<QRectF> taken = marked();
+    const QRectF room = QRectF(rect()).adjusted(4, 2, -4, -2 - metrics.height());
+    for (const Isotherm &isotherm : isothermLines()) {
         const QString label = tr("%1 K").arg(isotherm.kelvin, 0, 'f', 0);
         const QSizeF size(metrics.horizontalAdvance(label), metrics.height());
-        // Beside an end or, where the line leaves the view, its last part inside.
-        for (const double share : {1.0, 0.9, 0.1, 0.0}) {
+        // Beyond an end, clear of the lines beside it, or on the last part inside of a line that leaves the view.
+        for (const double share : {1.0, 0.0, 0.9, 0.1}) {
+            const QPointF above = place(isotherm.above);
+            const QPointF below = place(isotherm.below);
             const QPointF at = below + (above - below) * share;
-            const QRectF box(at + QPointF(3, share > 0.5 ? -size.height() : 0), size);
+            const QPointF way = (share > 0.5 ? above - below : below - above) / distance(above, below);
+            const QPointF centre = at + QPointF(way.x() * (size.width() / 2 + 5), way.y() * (size.height() / 2 + 3));
+            const QRectF box(centre - QPointF(size.width(), size.height()) / 2, size);
             const bool isFree = std::none_of(taken.begin(), taken.end(),
                 [&](const QRectF &other) { return other.adjusted(-6, 0, 6, 0).intersects(box); });
-            if (isFree && QRectF(rect()).adjusted(4, 2, -4, -2 - metrics.height()).contains(box)) {
+            if (isFree && room.contains(box)) {
                 taken.append(box);
-                painter.setPen(faded(text, 200));
+                painter.fillRect(box, faded(palette().color(QPalette::Base), 200));
+                painter.setPen(faded(text, 220));
                 painter.drawText(box, Qt::AlignCenter, label);
                 break;
             }
         }
     }
+}
+
+//! Where no label must stand: key, whites, and the labels of the rings.
+QVector<QRectF> LensWidget::marked() const
+{
+    QVector<QRectF> places{keyBox()};
+    constexpr double reach = markSize + 4;
+    for (const White &white : m_whites) {
+        const QPointF at = place(white.uv);
+        places.append(QRectF(at.x() - reach, at.y() - reach, 2 * reach, 2 * reach));
+    }
+    if (target()) {
+        for (const double radius : ringRadii) {
+            places.append(ringLabelBox(radius));
+        }
+    }
+    return places;
+}
+
+QRectF LensWidget::ringLabelBox(double radius) const
+{
+    const QPointF centre = place(target()->uv);
+    const double width = fontMetrics().horizontalAdvance(QStringLiteral("0.000")) + 4;
+    return QRectF(centre.x() - width / 2, centre.y() + radius * pixelsPerUnit(), width, fontMetrics().height());
 }
 
 void LensWidget::drawRings(QPainter &painter) const
@@ -305,8 +345,8 @@ void LensWidget::drawRings(QPainter &painter) const
         const QString label = QString::number(radius, 'f', 3);
         if (pixels > 1.6 * painter.fontMetrics().height()) {
             painter.setPen(palette().color(QPalette::Text));
-            const QRectF box(centre.x() - 40, centre.y() + pixels, 80, painter.fontMetrics().height());
-            painter.drawText(box, Qt::AlignHCenter | Qt::AlignTop, label);
+            painter.fillRect(ringLabelBox(radius), faded(palette().color(QPalette::Base), 200));
+            painter.drawText(ringLabelBox(radius), Qt::AlignHCenter | Qt::AlignTop, label);
         }
     }
 }
@@ -316,12 +356,12 @@ void LensWidget::drawTrail(QPainter &painter) const
     const QColor color = partPen(GamutPart::Role::Target, palette()).color();
     for (int i = 0; i + 1 < m_trail.size(); ++i) {
         // The older, the fainter.
-        const int alpha = 70 + 150 * (i + 1) / m_trail.size();
-        painter.setPen(QPen(faded(color, alpha), 1.2, Qt::DotLine));
+        const int alpha = 130 + 125 * (i + 1) / m_trail.size();
+        painter.setPen(QPen(faded(color, alpha), 2.2, Qt::DotLine));
         painter.drawLine(place(m_trail.at(i)), place(m_trail.at(i + 1)));
         painter.setPen(Qt::NoPen);
         painter.setBrush(faded(color, alpha));
-        painter.drawEllipse(place(m_trail.at(i)), 2.5, 2.5);
+        painter.drawEllipse(place(m_trail.at(i)), 3.5, 3.5);
     }
 }
 

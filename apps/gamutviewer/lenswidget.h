@@ -54,7 +54,11 @@ private:
     QPointF uvAt(const QPointF &position) const;
     const White *target() const;
 
+    QVector<QRectF> marked() const;
+    QRectF ringLabelBox(double radius) const;
+
     void drawGrid(QPainter &painter) const;
+    void drawAxisNames(QPainter &painter) const;
     void drawLocus(QPainter &painter) const;
     void drawIsotherms(QPainter &painter) const;
     static QString whiteText(const White &white);
