@@ -7,17 +7,17 @@ Layers layersOf(const DisplayDescription &description)
 {
     const auto original = description.gamut(description.original);
     const auto target = description.gamut(description.target);
-    Layers layers = Layer::Axes | Layer::Wavelengths | Layer::PlanckianLocus;
-    layers.setFlag(Layer::Original, original.has_value());
-    layers.setFlag(Layer::Measured, description.gamut(description.measured).has_value());
-    layers.setFlag(Layer::Declared, description.gamut(description.declared).has_value());
-    layers.setFlag(Layer::Target, target.has_value());
-    layers.setFlag(Layer::Standards, !description.standards.isEmpty());
-    layers.setFlag(Layer::CommonArea, original && target);
-    layers.setFlag(Layer::MeasurePoints, !description.measurePoints.isEmpty());
-    layers.setFlag(Layer::ColorTemperaturePoints, !description.colorTemperaturePoints.isEmpty());
-    layers.setFlag(Layer::CmyPoints, !description.cmyPoints.isEmpty());
-    return layers;
+    Layers found = Layer::Axes | Layer::Wavelengths | Layer::PlanckianLocus;
+    found.setFlag(Layer::Original, original.has_value());
+    found.setFlag(Layer::Measured, description.gamut(description.measured).has_value());
+    found.setFlag(Layer::Declared, description.gamut(description.declared).has_value());
+    found.setFlag(Layer::Target, target.has_value());
+    found.setFlag(Layer::Standards, !description.standards.isEmpty());
+    found.setFlag(Layer::CommonArea, original && target);
+    found.setFlag(Layer::MeasurePoints, !description.measurePoints.isEmpty());
+    found.setFlag(Layer::ColorTemperaturePoints, !description.colorTemperaturePoints.isEmpty());
+    found.setFlag(Layer::CmyPoints, !description.cmyPoints.isEmpty());
+    return found;
 }
 
 Layer layerOf(GamutPart::Role role)

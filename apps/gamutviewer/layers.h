@@ -9,6 +9,9 @@
 
 namespace gamutviewer {
 
+// Operators declared in the namespace of the program would hide those of Qt's own flags from it.
+namespace diagramlayers {
+
 /*! \brief What a diagram shows over its ground, and can leave out. */
 enum class Layer {
     Original = 0x001,
@@ -26,6 +29,11 @@ enum class Layer {
 };
 Q_DECLARE_FLAGS(Layers, Layer)
 Q_DECLARE_OPERATORS_FOR_FLAGS(Layers)
+
+} // namespace diagramlayers
+
+using diagramlayers::Layer;
+using diagramlayers::Layers;
 
 constexpr Layers allLayers{0xfff};
 
