@@ -34,6 +34,8 @@ constexpr int highestMired = 999; // 1001 K
 constexpr int lowestMired = 67; // 14 925 K
 
 constexpr int smallestFontSize = 6;
+constexpr double edgeGap = 3.0; // pixels from the edge of the picture to digits
+constexpr double leastGap = 1.5; // and from digits to their axis
 
 QFont axisFont(const QSize &size)
 {
@@ -154,16 +156,18 @@ private:
     void yNumber(const QString &number, const QPointF &foot)
     {
         const QRectF place = yNumberPlace(number, foot);
-        if (place.left() >= 0.0 && place.top() >= 0.0) {
+        if (place.left() >= edgeGap && place.top() >= 0.0) {
             drawText(m_painter, number, place, Qt::AlignRight | Qt::AlignVCenter);
         }
     }
 
     QRectF yNumberPlace(const QString &number, const QPointF &foot) const
     {
-        const double gap = std::min(8.0, m_frame.size().width() * 0.01);
         const double width = m_metrics.horizontalAdvance(number);
-        return QRectF(foot.x() - gap - width, foot.y() - m_metrics.height() / 2.0, width, m_metrics.height());
+        const double natural = foot.x() - std::min(8.0, m_frame.size().width() * 0.01) - width;
+        // Nearer to the axis before it would touch the edge.
+        const double left = std::min(std::max(natural, edgeGap), foot.x() - leastGap - width);
+        return QRectF(left, foot.y() - m_metrics.height() / 2.0, width, m_metrics.height());
     }
 
     void paintTitles()
@@ -233,7 +237,7 @@ void paintWavelengths(QPainter &painter, const DiagramFrame &frame, bool besideA
         const QPointF way = (tip - foot) / std::hypot(tip.x() - foot.x(), tip.y() - foot.y());
         const QPointF center = tip + QPointF(way.x() * box.width(), way.y() * box.height()) / 2.0;
         QRectF place(center - QPointF(box.width(), box.height()) / 2.0, box);
-        place.moveLeft(std::max(place.left(), 0.0));
+        place.moveLeft(std::max(place.left(), 1.0));
         const QRectF digits = place.adjusted(2.0, metrics.descent(), -2.0, -metrics.descent());
         const bool isFree = std::none_of(
             taken.cbegin(), taken.cend(), [&digits](const QRectF &other) { return other.intersects(digits); });

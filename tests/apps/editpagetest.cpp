@@ -402,7 +402,9 @@ void EditPageTest::focusIsFramed()
         return chart->parentWidget()->grab().toImage().pixelColor(chart->pos() - QPoint(2, 2));
     };
     const QColor without = frame();
+    QVERIFY(!f.window->editPage()->chart()->view()->hasFocus());
     pageByKey(f, Qt::Key_2);
+    QVERIFY(f.window->editPage()->chart()->view()->hasFocus());
     QVERIFY(frame() != without);
     QCOMPARE(frame(), f.window->palette().color(QPalette::Highlight));
 }

@@ -649,7 +649,7 @@ void ViewerWindowTest::lensTrailIsSeen()
             for (int y = 0; y < with.height(); ++y) {
                 middle = std::max(middle, qAbs(qBlue(with.pixel(x + 3, y)) - qBlue(without.pixel(x + 3, y))));
             }
-            QVERIFY2(middle > 120, qPrintable(QString::number(middle)));
+            QVERIFY2(middle > 170, qPrintable(QString::number(middle)));
             return;
         }
     }
