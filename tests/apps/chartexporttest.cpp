@@ -299,8 +299,7 @@ void ChartExportTest::uvChartShowsItsParts()
 
 void ChartExportTest::numbersFitIntoASmallChart()
 {
-    for (const QSize &size :
-        {QSize(640, 480), QSize(400, 300), QSize(300, 300), QSize(1200, 400), QSize(200, 216)}) {
+    for (const QSize &size : {QSize(640, 480), QSize(400, 300), QSize(300, 300), QSize(1200, 400), QSize(200, 216)}) {
         const QImage picture = painted(m_sample, size);
         for (int y = 0; y < size.height(); ++y) {
             QCOMPARE(picture.pixelColor(0, y), QColor(23, 23, 26));
