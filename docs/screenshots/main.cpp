@@ -57,8 +57,8 @@ bool legacyChart(DrawCEIPicture::CEIEType type, const QString &file)
     const Model::ColorGamut p3 = Model::dciP3D65();
     const Model::Targets &t = p3.getTargets();
     CEIEGraphicsView chart(nullptr, type);
-    chart.setImageWidth(480);
-    chart.setImageHeight(480);
+    chart.setImageWidth(640);
+    chart.setImageHeight(640);
     chart.setDrawColorTPoint(false);
     chart.setColorGamut({t.red, t.green, t.blue, t.white}, original);
     return grab(chart, file);
