@@ -1,9 +1,20 @@
 # SPDX-License-Identifier: MIT
 # Debian packages, by cpack in a build tree that was configured with -DCMAKE_INSTALL_PREFIX=/usr: libceiechart1 has the
-# libraries, libceiechart-dev what hosts are built with, ceiechart-viewer the program.
-set(runtime_package libceiechart${PROJECT_VERSION_MAJOR})
-set(dev_package libceiechart-dev)
-set(viewer_package ceiechart-viewer)
+# libraries, libceiechart-dev what hosts are built with, ceiechart-viewer the program. Built with Qt 6 they have names of
+# their own, libceiechart1-qt6 and so on, and exclude those built with Qt 5: the libraries have the same files.
+set(qt5_packages libceiechart${PROJECT_VERSION_MAJOR} libceiechart-dev ceiechart-viewer)
+set(qt6_packages libceiechart${PROJECT_VERSION_MAJOR}-qt6 libceiechart-qt6-dev ceiechart-viewer-qt6)
+list(GET qt${CEIECHART_QT_VERSION}_packages 0 runtime_package)
+list(GET qt${CEIECHART_QT_VERSION}_packages 1 dev_package)
+list(GET qt${CEIECHART_QT_VERSION}_packages 2 viewer_package)
+if(CEIECHART_QT_VERSION EQUAL 5)
+    set(other_packages ${qt6_packages})
+else()
+    set(other_packages ${qt5_packages})
+endif()
+list(GET other_packages 0 CPACK_DEBIAN_RUNTIME_PACKAGE_CONFLICTS)
+list(GET other_packages 1 CPACK_DEBIAN_DEV_PACKAGE_CONFLICTS)
+list(GET other_packages 2 CPACK_DEBIAN_VIEWER_PACKAGE_CONFLICTS)
 foreach(component runtime dev viewer)
     if(NOT component STREQUAL viewer OR CEIECHART_BUILD_APPS)
         install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${${component}_package}
