@@ -184,6 +184,10 @@ ChartScene ViewerWindow::shownScene() const
         // The chart page has no switches for them.
         shown |= Layer::Wavelengths | Layer::PlanckianLocus;
     }
+    if (page == m_editPage) {
+        // Nor the page to edit on for this one, which is coloured as a whole.
+        shown |= Layer::CommonArea;
+    }
     ChartScene scene = chartScene(description, shown, isUv ? Model::Diagram::Cie1976 : Model::Diagram::Cie1931);
     scene.wholeDigits = true;
     // All of the u′, v′ chart is coloured.

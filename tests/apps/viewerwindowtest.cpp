@@ -61,6 +61,7 @@ private Q_SLOTS:
     void keyNamesWhatTheChartShows();
     void switchesHoldForAllPages();
     void exportsWhatIsShown();
+    void editPageExportsColours();
     void standardOfTheFileIsShown();
     void keyboardGoesToThePage();
     void pointerIsReadOut();
@@ -470,6 +471,21 @@ void ViewerWindowTest::exportsWhatIsShown()
     QVERIFY(uv.diagram == Model::Diagram::Cie1976 && !uv.wavelengths && uv.planckianLocus);
     f.show(f.window->comparePage());
     QVERIFY(f.window->shownScene().wavelengths);
+}
+
+void ViewerWindowTest::editPageExportsColours()
+{
+    WindowFixture f;
+    f.show(f.window->chartPage());
+    const QList<QCheckBox *> switches = f.window->chartPage()->findChildren<QCheckBox *>();
+    const auto common = std::find_if(switches.begin(), switches.end(),
+        [](const QCheckBox *box) { return box->text().contains(QLatin1String("ommon")); });
+    QVERIFY(common != switches.end());
+    QTest::keyClick(*common, Qt::Key_Space);
+    QVERIFY(f.window->shownScene().original.isEmpty());
+    // Its page has no switch that would bring them back.
+    f.show(f.window->editPage());
+    QVERIFY(!f.window->shownScene().original.isEmpty());
 }
 
 void ViewerWindowTest::standardOfTheFileIsShown()
