@@ -75,6 +75,9 @@ CommandLine::CommandLine(const QStringList &arguments)
             refuse(tr("There is no chart for --dpr: it goes with --render."));
         }
     }
+    if (m_parser.isSet(size) && m_parser.isSet(report) && !m_parser.isSet(render)) {
+        refuse(tr("There is no chart for --size: a report has none."));
+    }
     if (m_parser.isSet(render)) {
         readPicture(m_parser.value(render));
     }

@@ -196,9 +196,10 @@ void ViewerWindow::showKeys()
                    "Arrow keys – move it by 0.001; with Shift by 0.0001, with Ctrl by 0.01\n"
                    "Esc – cancel a drag\n\n"
                    "Numbers:\n"
-                   "Up, Down – one step; with Shift a tenth, with Ctrl ten\n\n"
+                   "Up, Down – one step; with Shift a tenth, with Ctrl ten\n"
+                   "Esc – bring back what the target has\n\n"
                    "White point:\n"
-                   "+, −, 0 – closer, farther, show all whites\n\n"
+                   "+, −, 0 or the wheel – closer, farther, show all whites\n\n"
                    "Ctrl+1 to Ctrl+5 – pages"));
     box.exec();
 }

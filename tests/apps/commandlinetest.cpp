@@ -188,6 +188,8 @@ void CommandLineTest::refusals_data()
                                        << "There is no chart for --dpr: it goes with --render.";
     QTest::newRow("ratio of a report") << QStringList{"--dpr", "2", "--report", "json"}
                                        << "There is no chart for --dpr: it goes with --render.";
+    QTest::newRow("size of a report") << QStringList{"--size", "20x10", "--report", "json"}
+                                      << "There is no chart for --size: a report has none.";
     QTest::newRow("first reason") << QStringList{"--dpr", "0", "--size", "0x0"}
                                   << "Not a size from 1x1 to 8192x8192: 0x0";
 }

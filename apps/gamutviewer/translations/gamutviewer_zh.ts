@@ -1055,9 +1055,10 @@ Esc – cancel a drag
 
 Numbers:
 Up, Down – one step; with Shift a tenth, with Ctrl ten
+Esc – bring back what the target has
 
 White point:
-+, −, 0 – closer, farther, show all whites
++, −, 0 or the wheel – closer, farther, show all whites
 
 Ctrl+1 to Ctrl+5 – pages</source>
         <translation>可编辑的色度图：
@@ -1067,9 +1068,10 @@ Esc – 取消拖动
 
 数值：
 上、下 – 一步；按住 Shift 为十分之一步，按住 Ctrl 为十步
+Esc – 恢复目标的数值
 
 白点：
-+、−、0 – 放大、缩小、显示所有白点
++、−、0 或滚轮 – 放大、缩小、显示所有白点
 
 Ctrl+1 到 Ctrl+5 – 切换页面</translation>
     </message>
