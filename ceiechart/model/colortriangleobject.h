@@ -42,7 +42,7 @@ public:
     /*! \brief Sets pen and fill colour. */
     void setForeColor(const QColor &foreColor);
 
-    /*! \brief Outline width in pixels. 0 is a line of one pixel; nothing negative is meant. */
+    /*! \brief Outline width in pixels. 0 is a line of one pixel; must not be negative. */
     int trigleLineWidth() const;
     /*! \brief Sets the outline width in pixels. */
     void setTrigleLineWidth(int trigleLineWidth);
