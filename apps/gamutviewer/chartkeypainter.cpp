@@ -49,6 +49,9 @@ struct KeyPlace {
 
 KeyPlace findPlace(const QVector<KeyEntry> &entries, const DiagramFrame &frame)
 {
+    if (entries.isEmpty()) {
+        return {};
+    }
     const QPolygonF diagram = spectralLocus(frame);
     const double axis = frame.fromPoint(QPointF()).y();
     const double axisTitle = frame.size().height() * 0.05;
@@ -72,16 +75,16 @@ KeyPlace findPlace(const QVector<KeyEntry> &entries, const DiagramFrame &frame)
 
 QRectF chartKeyPlace(const QVector<KeyEntry> &entries, const DiagramFrame &frame)
 {
-    return entries.isEmpty() ? QRectF() : findPlace(entries, frame).place;
+    return findPlace(entries, frame).place;
 }
 
 void paintChartKey(QPainter &painter, const QVector<KeyEntry> &entries, const DiagramFrame &frame)
 {
-    const QRectF place = chartKeyPlace(entries, frame);
+    const auto [fontSize, place] = findPlace(entries, frame);
     if (place.isEmpty()) {
         return;
     }
-    const KeyLook look(findPlace(entries, frame).fontSize);
+    const KeyLook look(fontSize);
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.setFont(look.font);

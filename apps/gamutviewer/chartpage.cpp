@@ -3,6 +3,7 @@
 
 #include "diagramkey.h"
 #include "document.h"
+#include "gamutcolors.h"
 #include "layerrow.h"
 #include "pointerevent.h"
 
@@ -21,8 +22,6 @@ constexpr int widthParts = 12;
 constexpr int heightParts = 13;
 constexpr int mostPixelsPerPart = 56;
 constexpr int fewestPixelsPerPart = 8;
-
-const QColor keyGround(23, 23, 26); // of the chart
 
 } // namespace
 
@@ -88,7 +87,7 @@ void ChartPage::refresh()
     for (LayerRow *row : qAsConst(m_rows)) {
         row->setAvailable(available);
     }
-    m_key->setEntries(keyEntries(description, shown, KeyStyle::Picture), keyGround);
+    m_key->setEntries(keyEntries(description, shown, KeyStyle::Picture), chartGround(Model::Diagram::Cie1931));
     fit();
 
     m_chart->setIsDrawCoordinate(shown.testFlag(Layer::Axes));

@@ -4,6 +4,7 @@
 #include "chartkeypainter.h"
 #include "diagramframe.h"
 #include "diagrampainter.h"
+#include "gamutcolors.h"
 
 #include <ceiechart/legacy/drawceipicture.h>
 #include <ceiechart/render/drawceipicture.h>
@@ -16,9 +17,6 @@ namespace gamutviewer {
 
 namespace {
 
-// Of the library's pictures
-const QColor xyBackground(23, 23, 26);
-const QColor uvBackground(50, 50, 56);
 const QColor dotColor(Qt::white);
 
 class ChartPainter {
@@ -38,7 +36,7 @@ public:
         m_painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform
             | QPainter::LosslessImageRendering);
         const bool isXy = m_scene.diagram == Model::Diagram::Cie1931;
-        m_painter.fillRect(QRectF(QPointF(), m_size), isXy ? xyBackground : uvBackground);
+        m_painter.fillRect(QRectF(QPointF(), m_size), chartGround(m_scene.diagram));
         if (!isXy) {
             paintUvHorseshoe();
         }
@@ -124,7 +122,7 @@ private:
         }
         NewCEIE::DrawCEIPicture renderer(nullptr);
         // On the default picture colour the simple form colours the whole picture, and the edge can be left out.
-        renderer.setGraphColor(Qt::transparent, xyBackground);
+        renderer.setGraphColor(Qt::transparent, chartGround(m_scene.diagram));
         const std::unique_ptr<QImage> colors(
             renderer.drawCEIPicture(pixels.width(), pixels.height(), false, false, false, {}));
         QImage image = colors->copy(part).convertToFormat(QImage::Format_ARGB32_Premultiplied);

@@ -72,9 +72,7 @@ KeyEntry standardsEntry(KeyStyle style)
     }
     // Of those in a picture the plainest.
     const StandardStyle standard = standardStyle(QStringLiteral("Rec.2020"));
-    QColor fill = standard.outline;
-    fill.setAlphaF(standard.fillOpacity);
-    return areaEntry(name, QPen(standard.outline, 2.0), fill);
+    return areaEntry(name, QPen(standard.outline, 2.0), standard.fill());
 }
 
 } // namespace

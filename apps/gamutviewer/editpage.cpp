@@ -4,6 +4,7 @@
 #include "chromaticity.h"
 #include "diagramkey.h"
 #include "document.h"
+#include "gamutcolors.h"
 #include "layerrow.h"
 #include "pointerevent.h"
 #include "targetsession.h"
@@ -19,7 +20,6 @@ namespace gamutviewer {
 
 namespace {
 
-const QColor keyGround(50, 50, 56); // of the u′, v′ diagram, on which all lines show
 constexpr int smallestPicture = 160; // pixels
 constexpr double snapPixels = 8.0;
 constexpr double handleReach = 6.0; // pixels from the middle of a handle
@@ -146,8 +146,9 @@ void EditPage::refresh()
     for (LayerRow *row : qAsConst(m_rows)) {
         row->setAvailable(available);
     }
-    m_key->setEntries(
-        keyEntries(description, m_switches->shown() & ~Layers(Layer::CommonArea), KeyStyle::Overlay), keyGround);
+    // On the ground of the u′, v′ diagram all lines show.
+    m_key->setEntries(keyEntries(description, m_switches->shown() & ~Layers(Layer::CommonArea), KeyStyle::Overlay),
+        chartGround(Model::Diagram::Cie1976));
     fit();
     pushGamuts();
 }

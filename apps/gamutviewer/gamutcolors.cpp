@@ -37,6 +37,18 @@ Qt::PenStyle lineStyle(GamutPart::Role role)
     return Qt::SolidLine;
 }
 
+QColor chartGround(Model::Diagram diagram)
+{
+    return diagram == Model::Diagram::Cie1931 ? QColor(23, 23, 26) : QColor(50, 50, 56);
+}
+
+QColor StandardStyle::fill() const
+{
+    QColor color = outline;
+    color.setAlpha(int(fillOpacity * 256.0));
+    return color;
+}
+
 StandardStyle standardStyle(const QString &name)
 {
     if (name == QLatin1String("Rec.709")) {

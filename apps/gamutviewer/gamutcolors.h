@@ -4,6 +4,8 @@
 
 #include "gamutparts.h"
 
+#include <gamutmodel/gamutcoverage.h>
+
 #include <QColor>
 
 namespace gamutviewer {
@@ -19,10 +21,16 @@ QColor chartColor(GamutPart::Role role, bool besideMeasured);
 /*! \brief Its line where the program draws it itself: a style of its own beside the colour. */
 Qt::PenStyle lineStyle(GamutPart::Role role);
 
+/*! \brief What fills the library's charts of \a diagram. */
+QColor chartGround(Model::Diagram diagram);
+
 /*! \brief How the charts show a standard. */
 struct StandardStyle {
     QColor outline;
     double fillOpacity;
+
+    /*! \brief The tint within the outline, truncated to steps of 1/256 as in the library's pictures. */
+    QColor fill() const;
 };
 StandardStyle standardStyle(const QString &name);
 

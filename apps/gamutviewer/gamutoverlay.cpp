@@ -200,10 +200,8 @@ void GamutOverlay::showOnChart(
             const auto standard = description.gamut(name);
             if (standard && !isShownByTheChart(name)) {
                 const StandardStyle style = standardStyle(name);
-                QColor fill = style.outline;
-                fill.setAlphaF(style.fillOpacity);
-                take(m_scene->addPolygon(
-                         triangle(*standard, frame, scale), outlinePen(style.outline, chartOutlineWidth / scale), fill),
+                take(m_scene->addPolygon(triangle(*standard, frame, scale),
+                         outlinePen(style.outline, chartOutlineWidth / scale), style.fill()),
                     StandardHeight);
             }
         }
