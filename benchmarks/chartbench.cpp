@@ -4,7 +4,7 @@
 #include <ceiechart/legacy/ceiegraphicsscene.h>
 #include <ceiechart/legacy/drawceipicture.h>
 #include <ceiechart/render/drawceipicture.h>
-#include <ceiechart/render/horseshoe_p.h>
+#include <ceiechart/diagram/horseshoefill_p.h>
 #include <ceiechart/scene/ceiegraphicsscene.h>
 #include <gamutmodel/colorgamut.h>
 #include <reference/plainrenderer.h>

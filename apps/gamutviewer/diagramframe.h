@@ -2,7 +2,7 @@
 #ifndef GAMUTVIEWER_DIAGRAMFRAME_H
 #define GAMUTVIEWER_DIAGRAMFRAME_H
 
-#include <ceiechart/render/diagramgeometry.h>
+#include <ceiechart/diagram/diagramgeometry.h>
 #include <gamutmodel/gamutcoverage.h>
 
 #include <QPointF>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/legacy/ceiegraphicsscene.h>
 
+#include <gamutmodel/diagram.h>
+
 #include <QGraphicsView>
 #include <QKeyEvent>
 
@@ -65,9 +67,8 @@ QPointF CEIEGraphicsScene::toChroma(const QPointF &position)
     if (m_type != DrawCEIPicture::UvDiagram) {
         return shown;
     }
-    // CIE 1976 u′, v′ back to x, y: x = 9u′ / d, y = 4v′ / d with d = 6u′ − 16v′ + 12.
-    const double d = 6 * shown.x() - 16 * shown.y() + 12;
-    return QPointF(9 * shown.x() / d, 4 * shown.y() / d);
+    const Model::DiagramPoint xy = Model::fromDiagram(Model::Diagram::Cie1976, {shown.x(), shown.y()});
+    return QPointF(xy.x, xy.y);
 }
 
 bool CEIEGraphicsScene::CheckOriginalAndTarget(

@@ -1,51 +1,36 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/chartstyle.h>
+#include <ceiechart/diagram/horseshoefill_p.h>
 #include <ceiechart/legacy/drawceipicture.h>
 #include <ceiechart/render/picture_p.h>
+
+#include <gamutmodel/diagram.h>
 
 #include <QPainter>
 #include <QPolygonF>
 
-#include <algorithm>
-
 namespace {
 
-constexpr ceiechart::ChromaRange xyRange{0.0F, 0.84F, 0.0F, 0.94F};
-constexpr ceiechart::ChromaRange uvRange{0.0F, 0.65F, 0.0F, 0.68F};
-constexpr int xyMarginPercent = 5;
-constexpr int uvMarginPercent = 15;
-
-//! What colours the u′, v′ diagram: chosen to look right there, not converted from the x, y primaries.
-constexpr CEIAtlasValue::TColorSystem uvColorSystem{
-    0.5222F, 0.5222F, 0.0111F, 0.7888F, 0.1888F, 0.1555F, 0.2333F, 0.4777F};
-
-QColor colorImageBackground()
+ceiechart::ChartKind chartKind(DrawCEIPicture::CEIEType type)
 {
-    return QColor(QStringLiteral("#323238"));
-}
-
-template <typename Real>
-void toUv(Real x, Real y, Real &u, Real &v)
-{
-    const Real d = -2 * x + 12 * y + 3;
-    u = 4 * x / d;
-    v = 9 * y / d;
+    return type == DrawCEIPicture::UvDiagram ? ceiechart::ChartKind::LegacyUv : ceiechart::ChartKind::LegacyXy;
 }
 
 } // namespace
 
 DrawCEIPicture::DrawCEIPicture(DrawCEIPicture::CEIEType type, QWidget *parent)
     : QWidget(parent)
-    , DiagramLayers(type == UvDiagram ? uvRange : xyRange)
+    , DiagramLayers(chartKind(type))
     , m_type(type)
-    , m_xTitle(type == UvDiagram ? QStringLiteral("u") : QStringLiteral("X"))
-    , m_yTitle(type == UvDiagram ? QStringLiteral("v") : QStringLiteral("Y"))
-    , m_backgroundColor(colorImageBackground())
+    , m_xTitle(QString::fromUtf8(ceiechart::chartStyle(chartKind(type)).xTitle))
+    , m_yTitle(QString::fromUtf8(ceiechart::chartStyle(chartKind(type)).yTitle))
+    , m_backgroundColor(ceiechart::chartStyle(chartKind(type)).horseshoeGround)
 {
     setAttribute(Qt::WA_TranslucentBackground);
     if (type == UvDiagram) {
         xy2uv(m_atlas.spectrumLocus, m_uvLocus);
         m_atlas.spectrumLocus = m_uvLocus;
-        m_atlas.colorSystem = uvColorSystem;
+        m_atlas.colorSystem = ceiechart::uvColorSystem;
     }
 }
 
@@ -60,21 +45,21 @@ QImage *DrawCEIPicture::drawCEIPicture(
     int width, int height, bool drawCoordinate, bool drawBBRLine, bool drawWaveLength, QList<QPointF> points)
 {
     m_colorTemperaturePoints = points;
-    beginDrawing(width, height, xyMarginPercent);
-    const QColor margins(0, 0, 0);
-    auto picture = ceiechart::newPicture(width, height, margins);
+    constexpr auto kind = ceiechart::ChartKind::LegacyXy;
+    const ceiechart::ChartStyle &style = ceiechart::chartStyle(kind);
+    beginDrawing(width, height, style.marginPercent);
+    auto picture = ceiechart::newPicture(width, height, style.ground);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
     }
 
     QPainter painter(picture.get());
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.fillRect(picture->rect(), margins);
+    painter.fillRect(picture->rect(), style.ground);
     paintCEIEdge(painter);
     painterPixColor(picture.get());
     if (drawCoordinate) {
-        painterCoordinate(Qt::SolidLine,
-            QFont(QStringLiteral("Arial"), std::max(ceiechart::truncated(mulDiv(height, 2, 100)), 1)), painter);
+        painterCoordinate(style.gridStyle, ceiechart::chartNumberFont(kind, height), painter);
     }
     if (drawWaveLength) {
         painterWaveLength(painter);
@@ -89,7 +74,9 @@ QImage *DrawCEIPicture::drawCEIPicture(
 QImage *DrawCEIPicture::drawCEIEPicture(int width, int height, bool drawCoordinate, bool, bool, QList<QPointF> points)
 {
     m_colorTemperaturePoints = points;
-    beginDrawing(width, height, uvMarginPercent);
+    constexpr auto kind = ceiechart::ChartKind::LegacyUv;
+    const ceiechart::ChartStyle &style = ceiechart::chartStyle(kind);
+    beginDrawing(width, height, style.marginPercent);
     auto picture = ceiechart::newPicture(width, height, m_backgroundColor);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
@@ -104,13 +91,10 @@ QImage *DrawCEIPicture::drawCEIEPicture(int width, int height, bool drawCoordina
     for (const QPointF &point : m_uvLocus) {
         locus.append(CoordinateTransformation(point));
     }
-    drawHorseshoeWithin(*picture, locus, ClipOutline::Drawn, colorImageBackground());
+    drawHorseshoeWithin(*picture, locus, ClipOutline::Drawn, style.horseshoeGround);
 
     if (drawCoordinate) {
-        QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));
-        font.setWeight(QFont::DemiBold);
-        font.setPixelSize(12);
-        painterCoordinate(Qt::DashLine, font, painter);
+        painterCoordinate(style.gridStyle, ceiechart::chartNumberFont(kind, height), painter);
     }
     painterPoints(painter, m_measurePoints);
     painter.end();
@@ -120,7 +104,7 @@ QImage *DrawCEIPicture::drawCEIEPicture(int width, int height, bool drawCoordina
 QImage DrawCEIPicture::getColorImage()
 {
     QImage colors(m_pictureWidth, m_pictureHeight, QImage::Format_ARGB32);
-    colors.fill(colorImageBackground());
+    colors.fill(ceiechart::chartStyle(chartKind(m_type)).horseshoeGround);
     painterPixColor(&colors);
     return colors;
 }
@@ -162,7 +146,7 @@ void DrawCEIPicture::painterPoints(QPainter &painter, QList<QPointF> points)
 
 void DrawCEIPicture::painterCoordinate(Qt::PenStyle style, const QFont &font, QPainter &painter)
 {
-    drawAxes(painter, {style, font, font, m_xTitle, m_yTitle});
+    drawAxes(painter, {style, font, m_xTitle, m_yTitle});
 }
 
 QPointF DrawCEIPicture::CurCoordinateToChroma(const QPointF &position)
@@ -172,12 +156,12 @@ QPointF DrawCEIPicture::CurCoordinateToChroma(const QPointF &position)
 
 void DrawCEIPicture::xy2uv(const float &x, const float &y, float &u, float &v)
 {
-    toUv(x, y, u, v);
+    Model::uvFromXy(x, y, u, v);
 }
 
 void DrawCEIPicture::xyconvertuv(const double &x, const double &y, double &u, double &v)
 {
-    toUv(x, y, u, v);
+    Model::uvFromXy(x, y, u, v);
 }
 
 void DrawCEIPicture::xy2uv(const std::vector<QPointF> &xy, std::vector<QPointF> &uv)
@@ -187,7 +171,7 @@ void DrawCEIPicture::xy2uv(const std::vector<QPointF> &xy, std::vector<QPointF> 
     for (const QPointF &point : xy) {
         double u = 0.0;
         double v = 0.0;
-        toUv(point.x(), point.y(), u, v);
+        Model::uvFromXy(point.x(), point.y(), u, v);
         uv.emplace_back(u, v);
     }
 }
@@ -198,7 +182,7 @@ void DrawCEIPicture::xy2uvList(
     for (std::size_t i = 0; i < xs.size(); ++i) {
         float u = 0.0F;
         float v = 0.0F;
-        toUv(xs[i], ys[i], u, v);
+        Model::uvFromXy(xs[i], ys[i], u, v);
         us.push_back(u);
         vs.push_back(v);
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/legacy/ceiegraphicsscene.h>
-#include <ceiechart/render/diagramgeometry.h>
 #include <ceiechart/scene/containment_p.h>
 
 #include <QCursor>

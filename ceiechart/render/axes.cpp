@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/arithmetic_p.h>
+#include <ceiechart/diagram/pens_p.h>
 #include <ceiechart/render/diagramlayers.h>
-#include <ceiechart/render/pens_p.h>
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -10,14 +11,13 @@ namespace ceiechart {
 
 namespace {
 
-constexpr double tickStep = 0.1; // in chromaticity units
 constexpr int numberDrop = 15; // pixels from the x axis down to its numbers
 constexpr int axisTop = 10; // the y axis begins this many pixels below the picture's top edge
 constexpr int titleGap = 6; // pixels between an axis line and its title
 
 QString numberText(int tick)
 {
-    return QString::number(tick * tickStep, 'g', 6);
+    return QString::number(tick * chartTickStep, 'g', 6);
 }
 
 //! Draws the axes of one drawing; holds what its four kinds of strokes and texts have in common.
@@ -38,7 +38,6 @@ public:
     {
         m_painter.save();
         m_painter.setOpacity(0.3);
-        m_painter.setFont(m_style.gridFont);
         QPen pen = m_painter.pen();
         pen.setColor(QColor(m_color.red(), m_color.green(), m_color.blue(), 80));
         pen.setStyle(m_style.gridStyle);
@@ -125,16 +124,16 @@ void DiagramLayers::drawAxes(QPainter &painter, const AxesStyle &style)
         m_current.y = y;
         return CoordinateTransformation();
     };
-    const auto [xMin, xMax, yMin, yMax] = m_range;
+    const auto [xMin, xMax, yMin, yMax] = chartStyle(m_kind).range;
 
-    for (int k = 0; k < (xMax - xMin) / tickStep; ++k) {
-        const QPointF low = map(k * tickStep, double(yMin));
-        axes.gridLine(low, map(k * tickStep, double(yMax)));
+    for (int k = 0; k < (xMax - xMin) / chartTickStep; ++k) {
+        const QPointF low = map(k * chartTickStep, double(yMin));
+        axes.gridLine(low, map(k * chartTickStep, double(yMax)));
         axes.xTick(k, truncated(low.x()), truncated(low.y()));
     }
-    for (int j = 0; j < (yMax - yMin) / tickStep; ++j) {
-        const QPointF left = map(double(xMin), j * tickStep);
-        axes.gridLine(left, map(double(xMax), j * tickStep));
+    for (int j = 0; j < (yMax - yMin) / chartTickStep; ++j) {
+        const QPointF left = map(double(xMin), j * chartTickStep);
+        axes.gridLine(left, map(double(xMax), j * chartTickStep));
         axes.yTick(j, truncated(left.x()), truncated(left.y()), m_pictureWidth);
     }
 }

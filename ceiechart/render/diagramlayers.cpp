@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/render/diagramlayers.h>
 
 namespace ceiechart {
 
-DiagramLayers::DiagramLayers(const ChromaRange &range)
-    : m_range(range)
+DiagramLayers::DiagramLayers(ChartKind kind)
+    : m_kind(kind)
 {
 }
 
@@ -52,7 +53,7 @@ void DiagramLayers::beginDrawing(int width, int height, int marginPercent)
 {
     m_pictureWidth = width;
     m_pictureHeight = height;
-    m_geometry.setPicture(width, height, marginPercent, m_range);
+    m_geometry.setPicture(width, height, marginPercent, chartStyle(m_kind).range);
     m_locus = m_atlas.atlasCoordinates;
 }
 

@@ -4,7 +4,8 @@
 
 #include <ceiechart/atlas/ceiatlasvalue.h>
 #include <ceiechart/ceiechart_export.h>
-#include <ceiechart/render/diagramgeometry.h>
+#include <ceiechart/diagram/chartstyle.h>
+#include <ceiechart/diagram/diagramgeometry.h>
 
 #include <QColor>
 #include <QFont>
@@ -22,7 +23,6 @@ namespace ceiechart {
 /*! \brief How the axes are drawn where the two generations differ. */
 struct AxesStyle {
     Qt::PenStyle gridStyle; //!< of the grid lines
-    QFont gridFont; //!< held by the painter while the grid is drawn
     QFont numberFont; //!< also gives the metrics that place the numbers
     QString xTitle; //!< none when empty
     QString yTitle; //!< none when empty
@@ -36,7 +36,7 @@ struct AxesStyle {
  */
 class CEIECHART_EXPORT DiagramLayers {
 protected:
-    explicit DiagramLayers(const ChromaRange &range);
+    explicit DiagramLayers(ChartKind kind);
     DiagramLayers(const DiagramLayers &) = delete;
     DiagramLayers &operator=(const DiagramLayers &) = delete;
     ~DiagramLayers() = default;
@@ -94,13 +94,13 @@ protected:
     QColor colorOfCurrentAmounts(int alpha);
     void makeColorOfPixelCurrent(int px, int py);
 
-    ChromaRange m_range;
+    ChartKind m_kind;
     DiagramGeometry m_geometry;
     CEIAtlasValue m_atlas;
     int m_pictureWidth = 0;
     int m_pictureHeight = 0;
     double m_gamma = 1.0;
-    QColor m_lineColor{255, 255, 255, 255};
+    QColor m_lineColor = chartLineColor();
     QList<QPointF> m_colorTemperaturePoints;
     QList<CEIAtlasValue::CEIAtlasCoordinate> m_locus;
     QList<CEIAtlasValue::CEITemperatureCoordinate> m_planckianPoints;

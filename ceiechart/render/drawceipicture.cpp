@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/render/picture_p.h>
 
@@ -8,21 +9,13 @@ namespace NewCEIE {
 
 namespace {
 
-constexpr ceiechart::ChromaRange shownRange{0.0F, 0.84F, 0.0F, 0.94F};
-constexpr int marginPercent = 5;
-
-QFont axisFont(int pixelSize)
-{
-    QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));
-    font.setPixelSize(pixelSize);
-    return font;
-}
+constexpr auto kind = ceiechart::ChartKind::CurrentXy;
 
 } // namespace
 
 DrawCEIPicture::DrawCEIPicture(QWidget *parent)
     : QWidget(parent)
-    , DiagramLayers(shownRange)
+    , DiagramLayers(kind)
 {
     setAttribute(Qt::WA_TranslucentBackground);
 }
@@ -33,7 +26,7 @@ QImage *DrawCEIPicture::drawCEIPicture(
     int w, int h, bool showCoordinate, bool, bool, QList<QPointF> colourTemperaturePoints)
 {
     m_colorTemperaturePoints = colourTemperaturePoints;
-    beginDrawing(w, h, marginPercent);
+    beginDrawing(w, h, ceiechart::chartStyle(kind).marginPercent);
     auto picture = ceiechart::newPicture(w, h, m_pictureColor);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
@@ -62,7 +55,7 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
     m_triangles = triangles;
     m_clipPolygon = clipPolygon;
     m_polygonFlag = polygonFlag;
-    beginDrawing(w, h, marginPercent);
+    beginDrawing(w, h, ceiechart::chartStyle(kind).marginPercent);
     auto picture = ceiechart::newPicture(w, h, m_pictureColor);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
@@ -135,7 +128,8 @@ void DrawCEIPicture::GetPointColorRGB(int px, int py, double alphaFactor, QImage
 
 void DrawCEIPicture::painterCoordinate(QPainter &painter)
 {
-    drawAxes(painter, {Qt::DashLine, axisFont(10), axisFont(16), QString(), QString()});
+    const QFont numberFont = ceiechart::chartNumberFont(kind, m_pictureHeight);
+    drawAxes(painter, {ceiechart::chartStyle(kind).gridStyle, numberFont, QString(), QString()});
 }
 
 } // namespace NewCEIE

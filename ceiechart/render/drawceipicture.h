@@ -119,8 +119,8 @@ private:
     bool m_showCoordinates = false;
     QPolygonF m_clipPolygon;
     bool m_polygonFlag = false;
-    QColor m_backgroundColor{23, 23, 26, 255};
-    QColor m_pictureColor{23, 23, 26, 255};
+    QColor m_backgroundColor = ceiechart::chartStyle(ceiechart::ChartKind::CurrentXy).horseshoeGround;
+    QColor m_pictureColor = ceiechart::chartStyle(ceiechart::ChartKind::CurrentXy).ground;
 };
 
 } // namespace NewCEIE

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/arithmetic_p.h>
+#include <ceiechart/diagram/pens_p.h>
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/render/largepaths_p.h>
-#include <ceiechart/render/pens_p.h>
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/pens_p.h>
 #include <ceiechart/render/diagramlayers.h>
-#include <ceiechart/render/pens_p.h>
 
 #include <QPainter>
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/render/diagramlayers.h>
 
 #include <QFontMetrics>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/render/diagramgeometry.h>
+#include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/scene/backgroundplacement_p.h>
 
 namespace ceiechart {

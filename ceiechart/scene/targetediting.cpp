@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/atlas/chromasets.h>
-#include <ceiechart/render/diagramgeometry.h>
 #include <ceiechart/scene/backgroundplacement_p.h>
 #include <ceiechart/scene/containment_p.h>
 #include <ceiechart/scene/targetediting.h>

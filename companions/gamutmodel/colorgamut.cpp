@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <gamutmodel/colorgamut.h>
+#include <gamutmodel/diagram.h>
 
 #include <cmath>
 #include <utility>
@@ -53,7 +54,8 @@ Target Target::fromYxy(double Y, double x, double y)
     target.y = y;
     target.X = quotient(x * Y, y);
     target.Z = quotient((1.0 - x - y) * Y, y);
-    const double denominator = -2.0 * x + 12.0 * y + 3.0;
+    // The quotients of uvFromXy(), but 0 where they would not be finite.
+    const double denominator = uniformDenominator(x, y);
     target.u = quotient(4.0 * x, denominator);
     target.v = quotient(9.0 * y, denominator);
     return target;

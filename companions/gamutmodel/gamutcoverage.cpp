@@ -99,24 +99,6 @@ bool isOutside(const DiagramPoint &point, const Triangle &triangle)
 
 } // namespace
 
-DiagramPoint toDiagram(Diagram diagram, DiagramPoint xy)
-{
-    if (diagram == Diagram::Cie1931) {
-        return xy;
-    }
-    const double denominator = -2.0 * xy.x + 12.0 * xy.y + 3.0;
-    return {4.0 * xy.x / denominator, 9.0 * xy.y / denominator};
-}
-
-DiagramPoint fromDiagram(Diagram diagram, DiagramPoint point)
-{
-    if (diagram == Diagram::Cie1931) {
-        return point;
-    }
-    const double denominator = 6.0 * point.x - 16.0 * point.y + 12.0;
-    return {9.0 * point.x / denominator, 4.0 * point.y / denominator};
-}
-
 double gamutArea(const Targets &gamut, Diagram diagram)
 {
     return area(corners(gamut, diagram));

@@ -3,6 +3,7 @@
 #define GAMUTMODEL_GAMUTCOVERAGE_H
 
 #include <gamutmodel/colorgamut.h>
+#include <gamutmodel/diagram.h>
 
 #include <vector>
 
@@ -16,26 +17,6 @@
  * whose corners lie on a line. In which direction the corners go round does not matter.
  */
 namespace Model {
-
-/*! \brief A chromaticity diagram. Areas depend on it. */
-enum class Diagram {
-    Cie1931, //!< x, y
-    Cie1976 //!< u' = 4 x / (-2 x + 12 y + 3), v' = 9 y / (-2 x + 12 y + 3) (CIE 15:2018, 8.2.1)
-};
-
-/*! \brief A point of a diagram: x, y or u', v'. */
-struct DiagramPoint {
-    double x = 0.0; //!< or u'
-    double y = 0.0; //!< or v'
-};
-
-/*! \brief The point of \a diagram at the CIE 1931 chromaticity \a xy. Not finite where the diagram has none. */
-GAMUTMODEL_EXPORT DiagramPoint toDiagram(Diagram diagram, DiagramPoint xy);
-
-/*!
- * \brief The inverse of toDiagram(): x = 9 u' / (6 u' - 16 v' + 12), y = 4 v' / (6 u' - 16 v' + 12).
- */
-GAMUTMODEL_EXPORT DiagramPoint fromDiagram(Diagram diagram, DiagramPoint point);
 
 /*! \brief The area of \a gamut in square units of \a diagram, never negative. */
 GAMUTMODEL_EXPORT double gamutArea(const Targets &gamut, Diagram diagram);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/render/drawceipicture.h>
-#include <ceiechart/render/horseshoe_p.h>
+#include <ceiechart/diagram/horseshoefill_p.h>
 #include <reference/plainrenderer.h>
 
 #include <QColor>

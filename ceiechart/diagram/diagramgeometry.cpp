@@ -1,31 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/render/diagramgeometry.h>
-
-#include <limits>
+#include <ceiechart/diagram/arithmetic_p.h>
+#include <ceiechart/diagram/diagramgeometry.h>
 
 namespace ceiechart {
-
-double mulDiv(int a, int b, int c) noexcept
-{
-    const auto product = static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
-    const auto quotient = static_cast<long long>(product) / c;
-    return static_cast<double>(quotient) + 0.5;
-}
-
-double clamp(double v, double lo, double hi) noexcept
-{
-    if (lo > v) {
-        return lo;
-    }
-    return v < hi ? v : hi;
-}
-
-int truncated(double v) noexcept
-{
-    constexpr double below = std::numeric_limits<int>::min() - 1.0;
-    constexpr double above = std::numeric_limits<int>::max() + 1.0;
-    return v > below && v < above ? static_cast<int>(v) : std::numeric_limits<int>::min();
-}
 
 bool DiagramGeometry::set(const QRectF &plot, const QRectF &chroma) noexcept
 {

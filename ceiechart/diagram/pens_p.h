@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef CEIECHART_RENDER_PENS_P_H
-#define CEIECHART_RENDER_PENS_P_H
+#ifndef CEIECHART_DIAGRAM_PENS_P_H
+#define CEIECHART_DIAGRAM_PENS_P_H
 
 #include <QPen>
 

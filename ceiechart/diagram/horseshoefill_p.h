@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#ifndef CEIECHART_RENDER_HORSESHOE_P_H
-#define CEIECHART_RENDER_HORSESHOE_P_H
+#ifndef CEIECHART_DIAGRAM_HORSESHOEFILL_P_H
+#define CEIECHART_DIAGRAM_HORSESHOEFILL_P_H
 
 #include <ceiechart/atlas/ceiatlasvalue.h>
-#include <ceiechart/render/diagramgeometry.h>
+#include <ceiechart/diagram/arithmetic_p.h>
+#include <ceiechart/diagram/diagramgeometry.h>
 
 #include <QRgb>
 
@@ -24,6 +25,13 @@ struct Channels {
  * no white-point normalisation; x + y + z = 1 makes the amounts sum to 1. A singular system gives NaN or infinities.
  */
 Channels primaryAmounts(const CEIAtlasValue::TColorSystem &system, double x, double y, double z) noexcept;
+
+/*!
+ * The primaries and the white that colour a CIE 1976 u′, v′ diagram, in u′, v′: chosen to look right there, not
+ * converted from those of the x, y diagram.
+ */
+constexpr CEIAtlasValue::TColorSystem uvColorSystem{
+    0.5222F, 0.5222F, 0.0111F, 0.7888F, 0.1888F, 0.1555F, 0.2333F, 0.4777F};
 
 /*! Clamps \a amounts to [0, 1] and scales them so that the largest is 255; \a gamma shapes the others. */
 Channels fullBrightness(const Channels &amounts, double gamma) noexcept;

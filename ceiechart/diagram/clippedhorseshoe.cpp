@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/render/horseshoe_p.h>
+#include <ceiechart/diagram/horseshoefill_p.h>
 
 #include <QColor>
 #include <QImage>

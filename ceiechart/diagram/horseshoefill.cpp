@@ -22,7 +22,7 @@
 // - The definition itself, in double precision, and the interpolation between the row's ends are off by less than
 //   1e-9 as long as the colour system is well-conditioned and M small; otherwise the whole row is done in double
 //   precision.
-#include <ceiechart/render/horseshoe_p.h>
+#include <ceiechart/diagram/horseshoefill_p.h>
 
 #include <QColor>
 #include <QImage>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef CEIECHART_RENDER_DIAGRAMGEOMETRY_H
-#define CEIECHART_RENDER_DIAGRAMGEOMETRY_H
+#ifndef CEIECHART_DIAGRAM_DIAGRAMGEOMETRY_H
+#define CEIECHART_DIAGRAM_DIAGRAMGEOMETRY_H
 
 #include <ceiechart/ceiechart_export.h>
 
@@ -16,15 +16,6 @@ struct ChromaRange {
     float yMin; //!< at the bottom edge
     float yMax; //!< at the top edge
 };
-
-/*! Integer a·b (32 bit, wrapping) divided by \a c, truncating toward zero, plus 0.5 always. \a c must not be 0. */
-CEIECHART_EXPORT double mulDiv(int a, int b, int c) noexcept;
-
-/*! \a lo when lo > v, else the smaller of \a hi and \a v; a NaN \a v gives \a hi. */
-CEIECHART_EXPORT double clamp(double v, double lo, double hi) noexcept;
-
-/*! Truncates toward zero to 32 bits. NaN and values outside the range of int give the smallest int. */
-CEIECHART_EXPORT int truncated(double v) noexcept;
 
 /*!
  * \brief The mapping between chromaticities (unitless, CIE 1931 x, y or CIE 1976 u′, v′) and picture pixels

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_DIAGRAM_ARITHMETIC_P_H
+#define CEIECHART_DIAGRAM_ARITHMETIC_P_H
+
+#include <limits>
+
+namespace ceiechart {
+
+/*! Integer a·b (32 bit, wrapping) divided by \a c, truncating toward zero, plus 0.5 always. \a c must not be 0. */
+inline double mulDiv(int a, int b, int c) noexcept
+{
+    const auto product = static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
+    const auto quotient = static_cast<long long>(product) / c;
+    return static_cast<double>(quotient) + 0.5;
+}
+
+/*! \a lo when lo > v, else the smaller of \a hi and \a v; a NaN \a v gives \a hi. */
+inline double clamp(double v, double lo, double hi) noexcept
+{
+    if (lo > v) {
+        return lo;
+    }
+    return v < hi ? v : hi;
+}
+
+/*! Truncates toward zero to 32 bits. NaN and values outside the range of int give the smallest int. */
+inline int truncated(double v) noexcept
+{
+    constexpr double below = std::numeric_limits<int>::min() - 1.0;
+    constexpr double above = std::numeric_limits<int>::max() + 1.0;
+    return v > below && v < above ? static_cast<int>(v) : std::numeric_limits<int>::min();
+}
+
+} // namespace ceiechart
+
+#endif
