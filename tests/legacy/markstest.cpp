@@ -43,7 +43,7 @@ struct Bench {
         scene.setDrawColorTPoint(false);
     }
 
-    QPointF handle(const QPointF &chroma) { return scene.toScene(chroma); }
+    QPointF handle(const QPointF &chroma) { return scene.GetEllipsePoint(chroma); }
     TrianglePoint target() { return scene.getLsColorTriangleObject().at(1).trianglePoint(); }
 
     void click(const QPointF &position)
@@ -172,7 +172,7 @@ void MarksTest::labelStandsAtTheSelectedVertex()
 {
     for (const int area : {LegacyColorAreaRed, LegacyColorAreaGreen, LegacyColorAreaBlue}) {
         Bench bench;
-        bench.scene.m_selectedVertex = area;
+        reference::selectVertex(bench.scene, area);
         const TrianglePoint points = bench.target();
         const QPointF handle = bench.handle(area == LegacyColorAreaRed ? points.redPos()
                 : area == LegacyColorAreaGreen                         ? points.greenPos()
@@ -187,10 +187,10 @@ void MarksTest::labelStandsAtTheSelectedVertex()
 void MarksTest::backgroundShowsTheLabel()
 {
     Bench bench(withRed(QPointF(0.4, 0.33))); // with the label on the horseshoe
-    bench.scene.m_selectedVertex = LegacyColorAreaRed;
+    reference::selectVertex(bench.scene, LegacyColorAreaRed);
     const QRect place = paintedPart(label(bench.scene));
     const QImage with = background(bench.scene);
-    bench.scene.m_selectedVertex = LegacyColorAreaNone;
+    reference::selectVertex(bench.scene, LegacyColorAreaNone);
     const QRect difference = changed(with, background(bench.scene));
     // Nearly: the box is the colour of the picture where its rim is faint.
     QVERIFY(difference.contains(place.adjusted(2, 2, -2, -2)));
@@ -200,7 +200,7 @@ void MarksTest::labelIsRoundedToThreeDecimals()
 {
     const auto labelOf = [](const QPointF &red) {
         Bench bench(withRed(red));
-        bench.scene.m_selectedVertex = LegacyColorAreaRed;
+        reference::selectVertex(bench.scene, LegacyColorAreaRed);
         return qMakePair(bench.handle(red), label(bench.scene));
     };
     const auto [place, shown] = labelOf(QPointF(0.64040, 0.33040));
@@ -221,7 +221,7 @@ void MarksTest::labelNumbersAreThoseOfTheDiagram()
     // 0.64, 0.33 in u', v' is 0.45070…, 0.52289…: the text is that of a label that says so.
     const auto textOf = [](const QList<ColorTriangleObject> &gamuts, DrawCEIPicture::CEIEType type) {
         Bench bench(gamuts, type);
-        bench.scene.m_selectedVertex = LegacyColorAreaRed;
+        reference::selectVertex(bench.scene, LegacyColorAreaRed);
         const QImage image = label(bench.scene);
         return image.copy(paintedPart(image));
     };
@@ -245,9 +245,9 @@ void MarksTest::labelLeavesTheHandleFree()
     QFETCH(float, zoom);
     for (const QPointF &red : {QPointF(0.4, 0.33), QPointF(0.64, 0.33), QPointF(0.83, 0.2), QPointF(0.8399, 0.2)}) {
         Bench bench(withRed(red));
-        bench.scene.m_zoom = zoom;
-        bench.scene.m_selectedVertex = LegacyColorAreaRed;
-        bench.scene.m_selectedTab = LegacyTabSelectedRed;
+        reference::setZoom(bench.scene, zoom);
+        reference::selectVertex(bench.scene, LegacyColorAreaRed);
+        reference::selectTab(bench.scene, LegacyTabSelectedRed);
         const QRect place = paintedPart(label(bench.scene));
         const QImage handle
             = painted(Qt::magenta, [&bench](QPainter *painter) { bench.scene.DrawVertexSign(painter); });
@@ -270,7 +270,7 @@ void MarksTest::labelTurnsLeftWhereThePictureEnds()
     for (double x = 0.6; x < 0.84; x += 0.01) {
         const QPointF red(x, 0.2);
         Bench bench(withRed(red));
-        bench.scene.m_selectedVertex = LegacyColorAreaRed;
+        reference::selectVertex(bench.scene, LegacyColorAreaRed);
         const QRect place = paintedPart(label(bench.scene, Qt::magenta, side + 200));
         QVERIFY(place.right() < side);
         const bool onTheRight = place.left() > bench.handle(red).x();
@@ -295,7 +295,7 @@ void MarksTest::labelIsLegible()
 {
     QFETCH(QColor, color);
     Bench bench;
-    bench.scene.m_selectedVertex = LegacyColorAreaRed;
+    reference::selectVertex(bench.scene, LegacyColorAreaRed);
     const QRect place = paintedPart(label(bench.scene));
     const QImage text = label(bench.scene, color).copy(place.adjusted(3, 3, -3, -3));
     const QRgb paper = commonest(text);
@@ -318,7 +318,7 @@ void MarksTest::magnifierOnlyWhenAsked()
     QVERIFY(!drawn);
     QVERIFY(paintedPart(untouched).isEmpty());
 
-    bench.scene.m_magnifier = true;
+    reference::setMagnifier(bench.scene, true);
     const QRect lens = changed(background(bench.scene), without);
     QVERIFY(lens.width() > 60 && lens.height() > 60);
     QVERIFY(QRect(0, 0, side, side).contains(lens));
@@ -326,7 +326,7 @@ void MarksTest::magnifierOnlyWhenAsked()
     const QPoint handle = bench.handle(bench.target().whitePos()).toPoint();
     QVERIFY(std::hypot(lens.center().x() - handle.x(), lens.center().y() - handle.y()) > lens.width() / 2.0 + 6);
 
-    bench.scene.m_magnifier = false;
+    reference::setMagnifier(bench.scene, false);
     QVERIFY(changed(background(bench.scene), without).isEmpty());
 }
 
@@ -338,7 +338,7 @@ void MarksTest::magnifierShowsWhatIsUnderTheWhite()
         return background(empty.scene);
     }();
     background(bench.scene);
-    bench.scene.m_magnifier = true;
+    reference::setMagnifier(bench.scene, true);
     const QImage lens = painted(Qt::magenta, [&bench](QPainter *painter) { bench.scene.IsMagnifyEllispse(painter); });
     const QPoint centre = paintedPart(lens).center();
     const QPoint handle = bench.handle(bench.target().whitePos()).toPoint();
@@ -424,8 +424,8 @@ void MarksTest::whiteHandleFollowsTheWhite()
 void MarksTest::noTargetNoMarks()
 {
     Bench bench(reference::gamutPair().mid(0, 1));
-    bench.scene.m_magnifier = true;
-    bench.scene.m_selectedVertex = LegacyColorAreaRed;
+    reference::setMagnifier(bench.scene, true);
+    reference::selectVertex(bench.scene, LegacyColorAreaRed);
     background(bench.scene);
     QSignalSpy temperature(&bench.scene, &Scene::signal_colorTempertrueValueChang);
     const QImage marks = painted(Qt::magenta, [&bench](QPainter *painter) {

@@ -64,6 +64,39 @@ void selectCentre(Scene &scene, const QPointF &handle)
 }
 
 template <typename Scene>
+void selectVertex(Scene &scene, int area)
+{
+    scene.m_selectedVertex = area;
+}
+
+template <typename Scene>
+void selectTab(Scene &scene, int tab)
+{
+    scene.m_selectedTab = tab;
+}
+
+template <typename Scene>
+void setMagnifier(Scene &scene, bool on)
+{
+    scene.m_magnifier = on;
+}
+
+template <typename Scene>
+void setZoom(Scene &scene, float zoom)
+{
+    scene.m_zoom = zoom;
+}
+
+/*! \brief Chromaticity (0, 0) goes to the scene's corner and 1.0 spans 100 pixels, so that positions are exact. */
+template <typename Scene>
+void placeCoordinates(Scene &scene)
+{
+    scene.m_originX = 0;
+    scene.m_originY = 0;
+    scene.m_unitLength = 100;
+}
+
+template <typename Scene>
 int hoverTab(const Scene &scene)
 {
     return scene.m_hoverTab;

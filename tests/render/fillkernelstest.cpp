@@ -2,6 +2,7 @@
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/diagram/horseshoefill_p.h>
 #include <reference/plainrenderer.h>
+#include <reference/rendererstate.h>
 
 #include <QColor>
 #include <QImage>
@@ -193,7 +194,7 @@ void FillKernelsTest::gammaOfTheRenderer()
     NewCEIE::DrawCEIPicture renderer(nullptr);
     std::unique_ptr<QImage>(renderer.drawCEIPicture(size.width(), size.height(), false, false, false, {}));
     for (const double gamma : {1.0, 2.2, 1.0009, 1.0011, 0.5}) {
-        renderer.m_gamma = gamma;
+        reference::setGamma(renderer, gamma);
         QImage actual = filled(size, QColor(23, 23, 26));
         QImage expected = actual;
         renderer.painterPixColor(&actual);

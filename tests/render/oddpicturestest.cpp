@@ -3,6 +3,7 @@
 #include <reference/picturedifference.h>
 #include <reference/plainrenderer.h>
 #include <reference/quietmessages.h>
+#include <reference/rendererstate.h>
 
 #include <QPainter>
 #include <QtTest>
@@ -143,8 +144,7 @@ void OddPicturesTest::zeroChordDrawsNoTick()
         QPainter painter(&picture);
         const CEIAtlasValue::CEIAtlasCoordinate row = CEIAtlasValue().atlasCoordinates.at(500 - 360);
         renderer.GetPointF(row);
-        renderer.m_previousLocusPoint = QPointF(renderer.m_current.x, renderer.m_current.y);
-        renderer.m_tickWeight = 1.0;
+        reference::startTickAtCurrentPoint(renderer);
         renderer.DrawEdgeCoordinates(painter, row);
     }
     QVERIFY(picture == before);

@@ -34,14 +34,6 @@ ColorTriangleObject gamut(const QPointF &red, const QPointF &green, const QPoint
     return reference::sampleGamut(red, green, blue, 200, 700, 100, 0);
 }
 
-// Chromaticity (0, 0) is the scene's corner and 1.0 spans 100 pixels, so that positions are exact.
-void placeCoordinates(Scene &scene)
-{
-    scene.m_originX = 0;
-    scene.m_originY = 0;
-    scene.m_unitLength = 100;
-}
-
 QPointF at(const QPointF &chroma)
 {
     return QPointF(100 * chroma.x(), -100 * chroma.y());
@@ -277,8 +269,8 @@ void StraightLinesTest::requestGoesToAnEdge()
     QFETCH(QPointF, vertex);
 
     Scene scene(gamuts());
-    placeCoordinates(scene);
-    scene.m_selectedTab = tab;
+    reference::placeCoordinates(scene);
+    reference::selectTab(scene, tab);
     reference::setRequestedPoint(scene, untouched);
     scene.GetSelectedEllipseSign(at(position));
 
@@ -302,8 +294,8 @@ void StraightLinesTest::otherTabsRequestNothing()
 {
     for (const int tab : {NewCEIE::TabSelectedNone, NewCEIE::TabSelectedWhite}) {
         Scene scene(gamuts());
-        placeCoordinates(scene);
-        scene.m_selectedTab = tab;
+        reference::placeCoordinates(scene);
+        reference::selectTab(scene, tab);
         reference::setRequestedPoint(scene, untouched);
         scene.GetSelectedEllipseSign(at(QPointF(0.6, 0.125)));
         const QPointF requested = reference::stateOf(scene).requested;
@@ -315,8 +307,8 @@ void StraightLinesTest::fewerThanTwoGamutsRequestNothing()
 {
     for (const QList<ColorTriangleObject> &list : {gamuts().mid(0, 1), QList<ColorTriangleObject>()}) {
         Scene scene(list);
-        placeCoordinates(scene);
-        scene.m_selectedTab = NewCEIE::TabSelectedRed;
+        reference::placeCoordinates(scene);
+        reference::selectTab(scene, NewCEIE::TabSelectedRed);
         reference::setRequestedPoint(scene, untouched);
         scene.GetSelectedEllipseSign(at(QPointF(0.6, 0.125)));
         const QPointF requested = reference::stateOf(scene).requested;

@@ -3,6 +3,7 @@
 #include <ceiechart/widgets/ceiegraphicsview.h>
 
 #include "chartviewtests.h"
+#include <reference/viewstate.h>
 
 using Legend = NewCEIE::CEIELegend;
 using Scene = NewCEIE::CEIEGraphicsScene;
@@ -217,7 +218,7 @@ void CEIEGraphicsViewTest::clearingKeepsTheStandards()
     const QImage kept = expected.rendered(
         {}, {standard(Model::rec709(), 17, 0.07)}, triangleOf(target.getTargets()), triangleOf(original.getTargets()));
     COMPARE_PICTURES(pictureOf(view), kept);
-    QVERIFY(!view.m_targetOrgIntersected.isEmpty());
+    QVERIFY(!reference::commonArea(view).isEmpty());
 }
 
 void CEIEGraphicsViewTest::gamutToTriangle()
@@ -238,7 +239,7 @@ void CEIEGraphicsViewTest::fourGamuts()
         listed(gamut("c", 3), QColor(27, 241, 255, 255), 3), listed(gamut("a", 1), orange, 1)};
     QCOMPARE(describe(view.lsColorTriangleObject()), describe(expected));
     QCOMPARE(describe(Tests::sceneOf(view)->getLsColorTriangleObject()), describe(expected));
-    QVERIFY(view.m_standardTriangles.isEmpty());
+    QVERIFY(reference::standardTriangles(view).isEmpty());
 }
 
 void CEIEGraphicsViewTest::threeGamuts()
@@ -249,7 +250,7 @@ void CEIEGraphicsViewTest::threeGamuts()
         = {listed(gamut("b", 2), QColor(22, 241, 255, 255), 2), listed(gamut("a", 1), orange, 1)};
     QCOMPARE(describe(view.lsColorTriangleObject()), describe(expected));
     QCOMPARE(describe(Tests::sceneOf(view)->getLsColorTriangleObject()), describe(expected));
-    QCOMPARE(describe(view.m_standardTriangles),
+    QCOMPARE(describe(reference::standardTriangles(view)),
         describe(QList<ColorTriangleObject>({standard(Model::rec709(), 17, 0.07)})));
 }
 
@@ -273,16 +274,16 @@ void CEIEGraphicsViewTest::standardsByName()
     const QString expected = describe(QList<ColorTriangleObject>{
         standard(gamut("", 1), 17, 0.07), standard(gamut("", 2), 51, 0.1), standard(gamut("", 3), 25, 0.05)});
     view.setColorGamut(target, original, measured, standards);
-    QCOMPARE(describe(view.m_standardTriangles), expected);
+    QCOMPARE(describe(reference::standardTriangles(view)), expected);
     view.setColorGamut(target, original, standards);
-    QCOMPARE(describe(view.m_standardTriangles), expected);
+    QCOMPARE(describe(reference::standardTriangles(view)), expected);
 }
 
 void CEIEGraphicsViewTest::standardsInTheirOrder()
 {
     View view(nullptr);
     view.setColorGamut(target, original, {gamut("DCI-P3(D65)", 3), gamut("Rec.709", 1), gamut("Rec.709", 2)});
-    QCOMPARE(describe(view.m_standardTriangles),
+    QCOMPARE(describe(reference::standardTriangles(view)),
         describe(QList<ColorTriangleObject>{
             standard(gamut("", 3), 25, 0.05), standard(gamut("", 1), 17, 0.07), standard(gamut("", 2), 17, 0.07)}));
 }
@@ -292,11 +293,11 @@ void CEIEGraphicsViewTest::standardsSwitchedOff()
     View view(nullptr);
     view.setColorGamut(target, original, {Model::rec709()});
     view.setIsShowStandard(false);
-    QCOMPARE(view.m_standardTriangles.size(), 1);
+    QCOMPARE(reference::standardTriangles(view).size(), 1);
     view.setColorGamut(target, original, {Model::rec709()});
-    QVERIFY(view.m_standardTriangles.isEmpty());
+    QVERIFY(reference::standardTriangles(view).isEmpty());
     view.setColorGamut(target, original, measured, {Model::rec709()});
-    QVERIFY(view.m_standardTriangles.isEmpty());
+    QVERIFY(reference::standardTriangles(view).isEmpty());
     QCOMPARE(view.lsColorTriangleObject().size(), 3);
 }
 
@@ -345,8 +346,8 @@ void CEIEGraphicsViewTest::switchesLeaveGamutsOut()
     view.setColorGamut(target, original, {});
     QCOMPARE(types(), three);
     // The common area does not depend on what is listed.
-    QCOMPARE(describe(view.m_targetTriangle), describe(triangleOf(target.getTargets())));
-    QCOMPARE(describe(view.m_originalTriangle), describe(triangleOf(original.getTargets())));
+    QCOMPARE(describe(reference::targetTriangle(view)), describe(triangleOf(target.getTargets())));
+    QCOMPARE(describe(reference::originalTriangle(view)), describe(triangleOf(original.getTargets())));
 }
 
 void CEIEGraphicsViewTest::switchesWaitForTheNextGamuts()
@@ -376,12 +377,12 @@ void CEIEGraphicsViewTest::gamutsReplaceTheOnesBefore()
     view.setColorGamut(target, original, measured, {Model::rec709(), Model::rec2020()});
     view.setColorGamut(gamut("a", 1), gamut("b", 2), {Model::rec2020()});
     QCOMPARE(view.lsColorTriangleObject().size(), 2);
-    QCOMPARE(view.m_standardTriangles.size(), 1);
+    QCOMPARE(reference::standardTriangles(view).size(), 1);
     view.setIsShowActual(false);
     view.setColorGamut(target, original, {});
-    QVERIFY(view.m_targetOrgIntersected.isEmpty());
-    QVERIFY(view.m_targetTriangle.isEmpty());
-    QVERIFY(view.m_originalTriangle.isEmpty());
+    QVERIFY(reference::commonArea(view).isEmpty());
+    QVERIFY(reference::targetTriangle(view).isEmpty());
+    QVERIFY(reference::originalTriangle(view).isEmpty());
 }
 
 // Rendering the background gives the scene its rectangle; drawing the gamuts over it does not.
@@ -410,12 +411,12 @@ void CEIEGraphicsViewTest::commonAreaWithAMeasuredGamut()
     resizeImage(view);
     view.setColorGamut(target, original, measured, {});
     // The polygon is the one with the measured gamut; what the scene is given is the original.
-    QCOMPARE(view.m_targetOrgIntersected,
+    QCOMPARE(reference::commonArea(view),
         view.getTargetOrgIntersected(triangleOf(target.getTargets()), triangleOf(measured.getTargets())));
-    QVERIFY(view.m_targetOrgIntersected
+    QVERIFY(reference::commonArea(view)
         != view.getTargetOrgIntersected(triangleOf(target.getTargets()), triangleOf(original.getTargets())));
-    QCOMPARE(describe(view.m_targetTriangle), describe(triangleOf(target.getTargets())));
-    QCOMPARE(describe(view.m_originalTriangle), describe(triangleOf(original.getTargets())));
+    QCOMPARE(describe(reference::targetTriangle(view)), describe(triangleOf(target.getTargets())));
+    QCOMPARE(describe(reference::originalTriangle(view)), describe(triangleOf(original.getTargets())));
 
     ExpectedScene expected(view);
     const QImage withOriginal = expected.rendered(
@@ -431,9 +432,9 @@ void CEIEGraphicsViewTest::commonAreaWithoutAMeasuredGamut()
     View view(nullptr);
     resizeImage(view);
     view.setColorGamut(target, original, {Model::rec709(), Model::rec2020()});
-    QCOMPARE(view.m_targetOrgIntersected,
+    QCOMPARE(reference::commonArea(view),
         view.getTargetOrgIntersected(triangleOf(target.getTargets()), triangleOf(original.getTargets())));
-    QVERIFY(!view.m_targetOrgIntersected.isEmpty());
+    QVERIFY(!reference::commonArea(view).isEmpty());
     ExpectedScene expected(view);
     const QImage picture = expected.rendered(view.lsColorTriangleObject(),
         {standard(Model::rec709(), 17, 0.07), standard(Model::rec2020(), 51, 0.1)}, triangleOf(target.getTargets()),
@@ -452,7 +453,7 @@ void CEIEGraphicsViewTest::commonAreaSwitchedOff()
         } else {
             view.setColorGamut(target, original, {});
         }
-        QVERIFY(view.m_targetOrgIntersected.isEmpty());
+        QVERIFY(reference::commonArea(view).isEmpty());
         ExpectedScene expected(view);
         const QImage without = expected.rendered(view.lsColorTriangleObject(), {}, TrianglePoint(), TrianglePoint());
         const QImage with = expected.rendered(

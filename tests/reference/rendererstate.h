@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_TESTS_REFERENCE_RENDERERSTATE_H
+#define CEIECHART_TESTS_REFERENCE_RENDERERSTATE_H
+
+#include <ceiechart/atlas/ceiatlasvalue.h>
+
+#include <QPointF>
+
+namespace reference {
+
+// White-box access to what the renderers keep between layers: the one place that knows the names of their members.
+
+template <typename Renderer>
+void setGamma(Renderer &renderer, double gamma)
+{
+    renderer.m_gamma = gamma;
+}
+
+/*! \brief The current point, as MapPixelToReal() and GetPointF() write it. */
+struct CurrentPoint {
+    double x;
+    double y;
+    double z;
+};
+
+template <typename Renderer>
+CurrentPoint currentPoint(const Renderer &renderer)
+{
+    return {renderer.m_current.x, renderer.m_current.y, renderer.m_current.z};
+}
+
+template <typename Renderer>
+void setCurrentPoint(Renderer &renderer, const CurrentPoint &point)
+{
+    renderer.m_current.x = point.x;
+    renderer.m_current.y = point.y;
+    renderer.m_current.z = point.z;
+}
+
+/*! \brief The next tick's chord has no length: it starts and ends at the current point. */
+template <typename Renderer>
+void startTickAtCurrentPoint(Renderer &renderer)
+{
+    renderer.m_previousLocusPoint = QPointF(renderer.m_current.x, renderer.m_current.y);
+    renderer.m_tickWeight = 1.0;
+}
+
+/*! \brief The tables that a renderer draws from. */
+template <typename Renderer>
+const CEIAtlasValue &atlasOf(const Renderer &renderer)
+{
+    return renderer.m_atlas;
+}
+
+} // namespace reference
+
+#endif // CEIECHART_TESTS_REFERENCE_RENDERERSTATE_H
