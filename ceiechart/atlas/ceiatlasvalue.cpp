@@ -7,6 +7,11 @@
 
 #include <iterator>
 
+CEIAtlasValue::CEIAtlasValue()
+    : CEIAtlasValue(nullptr)
+{
+}
+
 CEIAtlasValue::CEIAtlasValue(QObject *parent)
     : QObject(parent)
 {

@@ -60,7 +60,9 @@ public:
     };
 
     /*! \brief Fills all tables. */
-    explicit CEIAtlasValue(QObject *parent = nullptr);
+    CEIAtlasValue();
+    /*! \brief The same with \a parent, which owns the object when it is not null. */
+    explicit CEIAtlasValue(QObject *parent);
     ~CEIAtlasValue() override;
 
     /*! \brief The colour system that colours the horseshoe: the diagram's own primaries, white D65. */

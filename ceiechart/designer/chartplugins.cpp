@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/designer/chartplugins_p.h>
 
-#include <ceiechart/designer/legacycharts.h>
+#include <ceiechart/legacy/legacycharts.h>
 #include <ceiechart/widgets/ceiegraphicsview.h>
 #include <ceiechart/widgets/translations.h>
 
@@ -43,9 +43,9 @@ const Entry entries[] = {
         "CIE 1931 x, y chart with gamuts and legend", QSize(402, 440), makeChart<NewCEIE::CEIEGraphicsView>},
     {"NewCEIE::CEIELegend", "legend", "ceiechart/widgets/ceielegend.h", "Legend of a chart", QSize(360, 32),
         make<NewCEIE::CEIELegend>},
-    {"ceiechart::LegacyXyChart", "xyChart", "ceiechart/designer/legacycharts.h",
+    {"ceiechart::LegacyXyChart", "xyChart", "ceiechart/legacy/legacycharts.h",
         "Legacy CIE 1931 x, y chart, edited with the mouse", QSize(402, 440), makeChart<LegacyXyChart>},
-    {"ceiechart::LegacyUvChart", "uvChart", "ceiechart/designer/legacycharts.h",
+    {"ceiechart::LegacyUvChart", "uvChart", "ceiechart/legacy/legacycharts.h",
         "Legacy CIE 1976 u', v' chart, edited with the mouse", QSize(402, 440), makeChart<LegacyUvChart>},
     {"CEIELegend", "legacyLegend", "ceiechart/legacy/ceielegend.h", "Legend of a legacy chart", QSize(360, 32),
         make<::CEIELegend>},

@@ -1,53 +1,52 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/legacy/ceiegraphicsscene.h>
+#include <ceiechart/legacy/ceiegraphicsscene_p.h>
 
 #include <gamutmodel/diagram.h>
 
-#include <QGraphicsView>
 #include <QKeyEvent>
+#include <QPainter>
 
 CEIEGraphicsScene::CEIEGraphicsScene(DrawCEIPicture::CEIEType type, QList<ColorTriangleObject> triangles)
-    : m_type(type)
-    , m_renderer(type, nullptr)
+    : TargetScene(std::make_unique<Private>(type))
 {
-    begin(triangles);
+    d->begin(triangles);
 }
 
 CEIEGraphicsScene::~CEIEGraphicsScene() = default;
 
+CEIEGraphicsScene::Private &CEIEGraphicsScene::own() const
+{
+    return static_cast<Private &>(*d);
+}
+
 void CEIEGraphicsScene::setMeasureValuePoints(const QList<QPointF> &points)
 {
-    m_measurePoints = points;
+    own().measurePoints = points;
 }
 
 QList<QPointF> CEIEGraphicsScene::getMeasureValuePoints()
 {
-    return m_measurePoints;
+    return own().measurePoints;
 }
 
-void CEIEGraphicsScene::setGraphColor(QColor line, QColor background)
+QImage *CEIEGraphicsScene::Private::renderPicture()
 {
-    m_renderer.setGraphColor(line, background);
-}
-
-QImage *CEIEGraphicsScene::renderPicture()
-{
-    QImage *picture = nullptr;
-    if (m_type == DrawCEIPicture::UvDiagram) {
-        m_renderer.setMeasurePoints(m_measurePoints);
-        picture = m_renderer.drawCEIEPicture(
-            imageWidth(), imageHeight(), isDrawCoordinate(), isDrawCoordinate(), isDrawWaveLength(), QList<QPointF>());
+    QImage *rendered = nullptr;
+    if (type == DrawCEIPicture::UvDiagram) {
+        renderer.setMeasurePoints(measurePoints);
+        rendered = renderer.drawCEIEPicture(
+            imageWidth, imageHeight, drawCoordinate, drawCoordinate, drawWavelengths, QList<QPointF>());
     } else {
-        picture = m_renderer.drawCEIPicture(
-            imageWidth(), imageHeight(), isDrawCoordinate(), isDrawCoordinate(), isDrawWaveLength(), QList<QPointF>());
+        rendered = renderer.drawCEIPicture(
+            imageWidth, imageHeight, drawCoordinate, drawCoordinate, drawWavelengths, QList<QPointF>());
     }
-    setSceneRect(0, 0, imageWidth(), imageHeight());
-    return picture;
+    q->setSceneRect(0, 0, imageWidth, imageHeight);
+    return rendered;
 }
 
-QPointF CEIEGraphicsScene::toDiagram(const QPointF &chroma)
+QPointF CEIEGraphicsScene::Private::toDiagram(const QPointF &chroma)
 {
-    if (m_type != DrawCEIPicture::UvDiagram) {
+    if (type != DrawCEIPicture::UvDiagram) {
         return chroma;
     }
     double u = 0.0;
@@ -56,44 +55,44 @@ QPointF CEIEGraphicsScene::toDiagram(const QPointF &chroma)
     return QPointF(u, v);
 }
 
-QPointF CEIEGraphicsScene::toImage(const QPointF &chroma)
+QPointF CEIEGraphicsScene::Private::toImage(const QPointF &chroma)
 {
-    return m_renderer.CoordinateTransformation(toDiagram(chroma));
+    return renderer.CoordinateTransformation(toDiagram(chroma));
 }
 
-QPointF CEIEGraphicsScene::toChroma(const QPointF &position)
+QPointF CEIEGraphicsScene::Private::toChroma(const QPointF &position)
 {
-    const QPointF shown = m_renderer.CurCoordinateToChroma(position);
-    if (m_type != DrawCEIPicture::UvDiagram) {
+    const QPointF shown = renderer.CurCoordinateToChroma(position);
+    if (type != DrawCEIPicture::UvDiagram) {
         return shown;
     }
     const Model::DiagramPoint xy = Model::fromDiagram(Model::Diagram::Cie1976, {shown.x(), shown.y()});
     return QPointF(xy.x, xy.y);
 }
 
+void CEIEGraphicsScene::Private::drawFurtherSigns(QPainter *painter)
+{
+    scene()->IsMagnifyEllispse(painter);
+    scene()->DrawCenterEllipse(painter);
+    scene()->DrawOtherPoint(painter);
+}
+
 bool CEIEGraphicsScene::CheckOriginalAndTarget(
     const ColorTriangleObject &original, const ColorTriangleObject &target, const baseCommon::LEDColorType &)
 {
     baseCommon::LEDColorType beyond = baseCommon::None;
-    return checkTarget(original, target, beyond);
+    return d->checkTarget(original, target, beyond);
 }
 
 bool CEIEGraphicsScene::SetEllipseDieplay(
     QPainter *painter, QPointF chroma, QSize size, TabSelectedType tab, ColorArea area)
 {
-    return displayEllipse(painter, chroma, size, tab, area);
-}
-
-void CEIEGraphicsScene::drawFurtherSigns(QPainter *painter)
-{
-    IsMagnifyEllispse(painter);
-    DrawCenterEllipse(painter);
-    DrawOtherPoint(painter);
+    return d->displayEllipse(painter, chroma, size, ceiechart::handleOfTab(tab), ceiechart::handleOfArea(area));
 }
 
 void CEIEGraphicsScene::drawBackground(QPainter *painter, const QRectF &)
 {
-    drawPicture(painter, sceneRect(), views().isEmpty() ? sceneRect().size().toSize() : views().constFirst()->size());
+    d->drawPicture(painter);
     DrawEllipseSignPosition(painter);
     painter->save();
     refreshArea(painter);
@@ -102,12 +101,12 @@ void CEIEGraphicsScene::drawBackground(QPainter *painter, const QRectF &)
 
 void CEIEGraphicsScene::keyPressEvent(QKeyEvent *event)
 {
-    keyPressed(event->key());
+    d->keyPressed(event->key());
     // The hand stays while the space bar is held.
-    m_hand = event->key() == Qt::Key_Space;
+    d->hand = event->key() == Qt::Key_Space;
 }
 
 void CEIEGraphicsScene::keyReleaseEvent(QKeyEvent *event)
 {
-    keyReleased(event->key());
+    d->keyReleased(event->key());
 }

@@ -1,46 +1,71 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/legacy/ceiegraphicsview.h>
 
+#include <ceiechart/diagram/gamutstyle.h>
 #include <ceiechart/legacy/ceiegraphicsscene.h>
-#include <ceiechart/widgets/chartparts_p.h>
+#include <ceiechart/widgets/chartframe_p.h>
 
-template class ceiechart::ChartParts<CEIEGraphicsScene, NQCEIEGraphicsView, CEIELegend>;
+#include <QBoxLayout>
+
+namespace {
+
+//! Role and opacity are left at what a new object has: hosts see them in the list.
+template <class Record>
+ColorTriangleObject listedGamut(const Record &gamut, ceiechart::GamutKind kind)
+{
+    const ceiechart::GamutStyle style = ceiechart::legacyChartStyle(kind);
+    TrianglePoint triangle;
+    ceiechart::copyGamut(gamut, triangle);
+    ColorTriangleObject object;
+    object.setTrianglePoint(triangle);
+    object.setForeColor(style.color);
+    object.setTrigleLineWidth(style.width);
+    return object;
+}
+
+} // namespace
+
+class CEIEGraphicsView::Private : public ceiechart::ChartFrame::Private {
+public:
+    explicit Private(DrawCEIPicture::CEIEType diagramType)
+        : type(diagramType)
+    {
+    }
+
+    CEIEGraphicsScene *typedScene() const { return static_cast<CEIEGraphicsScene *>(scene.data()); }
+
+    DrawCEIPicture::CEIEType type;
+};
 
 CEIEGraphicsView::CEIEGraphicsView(QWidget *parent, DrawCEIPicture::CEIEType type)
-    : QFrame(parent)
-    , m_parts(this)
-    , m_type(type)
+    : ChartFrame(std::make_unique<Private>(type), parent)
 {
     buildUI(false, Qt::AlignBottom);
 }
 
 CEIEGraphicsView::CEIEGraphicsView(bool, QWidget *parent)
-    : QFrame(parent)
-    , m_parts(this)
-    , m_type(DrawCEIPicture::XyDiagram)
+    : ChartFrame(std::make_unique<Private>(DrawCEIPicture::XyDiagram), parent)
 {
     buildUI(true, Qt::AlignBottom);
 }
 
 CEIEGraphicsView::CEIEGraphicsView(bool, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent)
-    : QFrame(parent)
-    , m_parts(this)
-    , m_type(DrawCEIPicture::XyDiagram)
+    : ChartFrame(std::make_unique<Private>(DrawCEIPicture::XyDiagram), parent)
 {
     buildUI(true, alignment);
 }
 
 CEIEGraphicsView::~CEIEGraphicsView() = default;
 
+CEIEGraphicsView::Private &CEIEGraphicsView::own() const
+{
+    return static_cast<Private &>(*d);
+}
+
 void CEIEGraphicsView::setColorGamut(const Model::ColorGamutInfo &target, const Model::ColorGamutInfo &original)
 {
-    TrianglePoint originalTriangle;
-    colorGamutToTriangle(original, originalTriangle);
-    TrianglePoint targetTriangle;
-    colorGamutToTriangle(target, targetTriangle);
-    // The colours of the legend's swatches.
-    m_parts.setTriangles({ceiechart::gamutObject(originalTriangle, QColor(255, 255, 255, 255), 2),
-        ceiechart::gamutObject(targetTriangle, QColor(0, 0, 0, 255), 1)});
+    setLsColorTriangleObject(
+        {listedGamut(original, ceiechart::OriginalGamut), listedGamut(target, ceiechart::TargetGamut)});
     update();
 }
 
@@ -51,34 +76,58 @@ void CEIEGraphicsView::colorGamutToTriangle(const Model::ColorGamutInfo &gamut, 
 
 void CEIEGraphicsView::setMeasureValuePoints(const QList<QPointF> &points)
 {
-    m_parts.scene()->setMeasureValuePoints(points);
+    if (CEIEGraphicsScene *scene = own().typedScene()) {
+        scene->setMeasureValuePoints(points);
+    }
 }
 
 QList<QPointF> CEIEGraphicsView::getMeasureValuePoints() const
 {
-    return m_parts.scene()->getMeasureValuePoints();
+    CEIEGraphicsScene *scene = own().typedScene();
+    return scene ? scene->getMeasureValuePoints() : QList<QPointF>();
+}
+
+void CEIEGraphicsView::setGraphColor(QColor first, QColor second)
+{
+    d->tell(&ceiechart::TargetScene::setGraphColor, first, second);
 }
 
 void CEIEGraphicsView::setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment)
 {
     setLegendAlignamentCommon(alignment);
-    m_parts.legend()->setLegendAlignament(alignment);
+    getLegend()->setLegendAlignament(alignment);
+}
+
+CEIELegend *CEIEGraphicsView::getLegend() const
+{
+    return static_cast<CEIELegend *>(d->legend);
+}
+
+NQCEIEGraphicsView *CEIEGraphicsView::view() const
+{
+    return static_cast<NQCEIEGraphicsView *>(d->view);
 }
 
 void CEIEGraphicsView::buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignment)
 {
-    m_parts.makeView()->setStyleSheet(QStringLiteral("background: #323238"));
-    m_parts.prepareView();
-    m_parts.setScene(std::make_unique<CEIEGraphicsScene>(m_type, m_parts.triangles()));
-    m_parts.makeLegend(showPoints, alignment);
+    auto *innerView = new NQCEIEGraphicsView(this);
+    innerView->setStyleSheet(QStringLiteral("background: #323238"));
+    d->setView(innerView);
+    auto *scene = new CEIEGraphicsScene(own().type, d->triangles);
+    d->setScene(scene);
+    d->setLegend(new CEIELegend(showPoints, alignment, this));
     setLegendAlignamentCommon(alignment);
-    if (m_type == DrawCEIPicture::XyDiagram) {
-        m_parts.connectCursor();
+    if (own().type == DrawCEIPicture::XyDiagram) {
+        // Queued: the cursor changes after the scene has handled its event.
+        connect(scene, &CEIEGraphicsScene::signal_mouseCursorChange, innerView,
+            &NQCEIEGraphicsView::slot_mouseCursorChange, Qt::QueuedConnection);
     }
-    m_parts.relaySignals(this);
+    ceiechart::relaySignals(scene, this);
 }
 
 void CEIEGraphicsView::setLegendAlignamentCommon(QFlags<Qt::AlignmentFlag> alignment)
 {
-    m_parts.arrange(alignment)->addStretch(0);
+    d->arrange(this, alignment)->addStretch(0);
 }
+
+void CEIEGraphicsView::initData() { }

@@ -7,16 +7,11 @@
 #include <ceiechart/legacy/drawceipicture.h>
 #include <ceiechart/legacy/nqceiegraphicsview.h>
 #include <ceiechart/model/chartenums.h>
-#include <ceiechart/model/colortriangleobject.h>
 #include <ceiechart/model/targetinfochangedeventargs.h>
 #include <ceiechart/model/triangleobjeciinitializedeventargs.h>
-#include <ceiechart/widgets/chartparts.h>
+#include <ceiechart/widgets/chartframe.h>
 
 #include <gamutmodel/colorgamut.h>
-
-#include <QFrame>
-
-class CEIEGraphicsScene;
 
 /*!
  * \brief The legacy chart: the x, y or the u′, v′ diagram with two gamuts, whose target is edited with the mouse.
@@ -35,7 +30,7 @@ class CEIEGraphicsScene;
  * Inner view and legend are children of the chart. The scene has no parent; the chart deletes it. Gamuts are in
  * CIE 1931 x, y on both diagrams. Nothing reports an error: what cannot be used is ignored. GUI thread only.
  */
-class CEIECHART_EXPORT CEIEGraphicsView : public QFrame {
+class CEIECHART_EXPORT CEIEGraphicsView : public ceiechart::ChartFrame {
     Q_OBJECT
 
 public:
@@ -66,35 +61,6 @@ public:
     /*! \brief Copies chromaticities and luminances of the primaries and the white of \a gamut to \a triangle. */
     void colorGamutToTriangle(const Model::ColorGamutInfo &gamut, TrianglePoint &triangle);
 
-    /*! \brief Empties the list of gamuts. The points stay. */
-    void clear() { m_parts.clear(); }
-    /*!
-     * \brief Sets the mark ColorTriangleObject::isShow() of the gamut at \a index of the list. Ignores an index
-     *        outside it.
-     *
-     * The mark is the host's: nothing is shown or hidden. The scene is handed the list, which takes back what has
-     * been edited on the chart.
-     */
-    void setColorGamutVisible(int index, bool shown) { m_parts.setTriangleVisible(index, shown); }
-    /*! \brief Replaces the list of gamuts: the original, then the target. */
-    void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles) { m_parts.setTriangles(triangles); }
-    /*! \brief The list of gamuts as last set; what is edited on the chart is in the signals. */
-    QList<ColorTriangleObject> lsColorTriangleObject() const { return m_parts.triangles(); }
-
-    /*! \brief Hands chromaticities of colour-temperature points to the scene and redraws, but not with them. */
-    void setLsColorTempertureValuePoints(const QList<QPointF> &points) { m_parts.setColorTemperaturePoints(points); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::lsColorTempertureValuePoints */
-    QList<QPointF> lsColorTempertureValuePoints() const { return m_parts.colorTemperaturePoints(); }
-    /*!
-     * \brief Shows measurement points (CIE 1931 x, y) as dots over the picture, one colour for each.
-     *
-     * A point without a colour, or with an invalid one, is white.
-     */
-    void setOtherPoints(QList<QPointF> points, QList<QColor> colors) { m_parts.setOtherPoints(points, colors); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::getOtherPoints */
-    QList<QPointF> getOtherPoints() const { return m_parts.otherPoints(); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::getOtherPointsColor */
-    QList<QColor> getOtherPointsColor() const { return m_parts.otherPointColors(); }
     /*!
      * \brief Hands u′, v′ pairs to the scene; a u′, v′ chart draws them with its next picture, which a new size or
      *        layer switch makes.
@@ -104,49 +70,14 @@ public:
     QList<QPointF> getMeasureValuePoints() const;
 
     /*! \brief Sets the colour of edge and axes and the one that fills a u′, v′ picture, for the next picture. */
-    void setGraphColor(QColor first, QColor second) { m_parts.setGraphColor(first, second); }
-    /*!
-     * \brief Sets the picture's width in pixels, fixes the inner view's at two more, and redraws.
-     *
-     * No width is refused; one that no picture can have gives an empty chart.
-     */
-    void setImageWidth(int width) { m_parts.setImageWidth(width); }
-    /*! \brief As setImageWidth(), for the height. */
-    void setImageHeight(int height) { m_parts.setImageHeight(height); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::imageWidth */
-    int imageWidth() const { return m_parts.imageWidth(); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::imageHeight */
-    int imageHeight() const { return m_parts.imageHeight(); }
-    /*! \brief Switches axes, grid and Planckian locus, and redraws. On at first. */
-    void setIsDrawCoordinate(bool draw) { m_parts.setIsDrawCoordinate(draw); }
-    /*! \brief Stored, without effect on the picture: the Planckian locus comes and goes with the axes. */
-    void setIsDrawBBRLine(bool draw) { m_parts.setIsDrawBBRLine(draw); }
-    /*! \brief Switches the wavelengths along the edge of an x, y picture, and redraws. On at first. */
-    void setIsDrawWaveLength(bool draw) { m_parts.setIsDrawWaveLength(draw); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::isDrawCoordinate */
-    bool isDrawCoordinate() const { return m_parts.isDrawCoordinate(); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::isDrawBBRLine */
-    bool isDrawBBRLine() const { return m_parts.isDrawBBRLine(); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::isDrawWaveLength */
-    bool isDrawWaveLength() const { return m_parts.isDrawWaveLength(); }
-
-    /*! \copydoc NewCEIE::CEIEGraphicsView::setDrawColorTPoint */
-    void setDrawColorTPoint(bool draw) { m_parts.setDrawColorTPoint(draw); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::isDrawColorTPoint */
-    bool isDrawColorTPoint() const { return m_parts.isDrawColorTPoint(); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::setColorTempertureChecked */
-    void setColorTempertureChecked(bool checked) { m_parts.setColorTempertureChecked(checked); }
-    /*! \copydoc NewCEIE::CEIEGraphicsView::setRGBPointEnable */
-    void setRGBPointEnable(bool enable) { m_parts.setRGBPointEnable(enable); }
-    /*! \brief Whether a mouse press may edit, as it may at first. */
-    void setUseMouseOpertator(bool enable) { m_parts.setMouseEditing(enable); }
+    void setGraphColor(QColor first, QColor second);
 
     /*! \copydoc NewCEIE::CEIEGraphicsView::setLegendAlignament */
     void setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment);
     /*! \copydoc NewCEIE::CEIEGraphicsView::getLegend */
-    CEIELegend *getLegend() const { return m_parts.legend(); }
+    CEIELegend *getLegend() const;
     /*! \copydoc NewCEIE::CEIEGraphicsView::view */
-    NQCEIEGraphicsView *view() const { return m_parts.view(); }
+    NQCEIEGraphicsView *view() const;
 
 Q_SIGNALS:
     /*! \brief A primary of the target has been placed; \a colorTriangleObject is the target after that. */
@@ -168,10 +99,10 @@ Q_SIGNALS:
 private:
     void buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignment);
     void setLegendAlignamentCommon(QFlags<Qt::AlignmentFlag> alignment);
-    void initData() { }
+    void initData();
 
-    ceiechart::ChartParts<CEIEGraphicsScene, NQCEIEGraphicsView, CEIELegend> m_parts;
-    DrawCEIPicture::CEIEType m_type;
+    class Private;
+    Private &own() const;
 };
 
 #endif // CEIECHART_LEGACY_CEIEGRAPHICSVIEW_H

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/legacy/ceielegend.h>
 
+#include <ceiechart/widgets/legendentries_p.h>
+
 CEIELegend::CEIELegend(QWidget *parent)
     : CEIELegend(false, Qt::AlignBottom, parent)
 {
@@ -12,8 +14,7 @@ CEIELegend::CEIELegend(bool showPoint, QWidget *parent)
 }
 
 CEIELegend::CEIELegend(bool showPoint, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent)
-    : QFrame(parent)
-    , m_entries(this, showPoint)
+    : ChartLegend(showPoint, parent)
 {
     initUI(alignment);
 }
@@ -22,14 +23,13 @@ CEIELegend::~CEIELegend() = default;
 
 void CEIELegend::setLegendVisible(legendType type, bool visible)
 {
-    m_entries.setVisible(static_cast<ceiechart::LegendEntry>(type), visible);
+    d->setVisible(static_cast<ceiechart::LegendEntry>(type), visible);
 }
 
 void CEIELegend::initUI(QFlags<Qt::AlignmentFlag> alignment)
 {
-    setFrameShape(QFrame::NoFrame);
     drawColorLegend(alignment);
-    if (m_entries.withPoints()) {
+    if (d->withPoints()) {
         drawQCPoint(alignment);
     }
     setLegendAlignament(alignment);
@@ -37,10 +37,10 @@ void CEIELegend::initUI(QFlags<Qt::AlignmentFlag> alignment)
 
 void CEIELegend::drawColorLegend(QFlags<Qt::AlignmentFlag> alignment)
 {
-    m_entries.addGamuts(tr("公共色域"), tr("目标色域"), tr("原始色域"), alignment);
+    d->addGamuts(tr("公共色域"), tr("目标色域"), tr("原始色域"), alignment);
 }
 
 void CEIELegend::drawQCPoint(QFlags<Qt::AlignmentFlag> alignment)
 {
-    m_entries.addPoints(tr("目标点"), tr("原始点"), tr("管理后点"), alignment);
+    d->addPoints(tr("目标点"), tr("原始点"), tr("管理后点"), alignment);
 }

@@ -3,9 +3,7 @@
 #define CEIECHART_LEGACY_CEIELEGEND_H
 
 #include <ceiechart/ceiechart_export.h>
-#include <ceiechart/widgets/legendentries.h>
-
-#include <QFrame>
+#include <ceiechart/widgets/chartlegend.h>
 
 /*!
  * \brief The key to a legacy chart: as NewCEIE::CEIELegend, but its entries are numbered without a gap.
@@ -18,7 +16,7 @@
  *
  * All labels are children of the legend.
  */
-class CEIECHART_EXPORT CEIELegend : public QFrame {
+class CEIECHART_EXPORT CEIELegend : public ceiechart::ChartLegend {
     Q_OBJECT
 
 public:
@@ -40,23 +38,12 @@ public:
     CEIELegend(bool showPoint, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent);
     ~CEIELegend() override;
 
-    /*! \copydoc NewCEIE::CEIELegend::setLegendAlignament */
-    void setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment) { m_entries.arrange(alignment); }
     /*!
      * \brief Shows or hides swatch and caption of one entry.
      *
      * Values that are no legendType, and points on a legend without point entries, are ignored.
      */
     void setLegendVisible(legendType type, bool visible);
-    /*! \copydoc NewCEIE::CEIELegend::setShowOriginalText */
-    void setShowOriginalText(const QString &text) { m_entries.setCaption(ceiechart::LegendEntry::OriginalGamut, text); }
-    /*! \copydoc NewCEIE::CEIELegend::setShowTargetText */
-    void setShowTargetText(const QString &text) { m_entries.setCaption(ceiechart::LegendEntry::TargetGamut, text); }
-    /*! \copydoc NewCEIE::CEIELegend::setshowPointText */
-    void setshowPointText(const QString &target, const QString &original, const QString &managed)
-    {
-        m_entries.setPointCaptions(target, original, managed);
-    }
 
 protected:
     /*! \copydoc NewCEIE::CEIELegend::initUI */
@@ -65,9 +52,6 @@ protected:
     void drawColorLegend(QFlags<Qt::AlignmentFlag> alignment);
     /*! \copydoc NewCEIE::CEIELegend::drawQCPoint */
     void drawQCPoint(QFlags<Qt::AlignmentFlag> alignment);
-
-private:
-    ceiechart::LegendEntries m_entries;
 };
 
 #endif // CEIECHART_LEGACY_CEIELEGEND_H

@@ -2,6 +2,7 @@
 #include <ceiechart/diagram/chartstyle.h>
 #include <ceiechart/diagram/horseshoefill_p.h>
 #include <ceiechart/legacy/drawceipicture.h>
+#include <ceiechart/render/diagramrenderer_p.h>
 #include <ceiechart/render/picture_p.h>
 
 #include <gamutmodel/diagram.h>
@@ -18,36 +19,59 @@ ceiechart::ChartKind chartKind(DrawCEIPicture::CEIEType type)
 
 } // namespace
 
-DrawCEIPicture::DrawCEIPicture(DrawCEIPicture::CEIEType type, QWidget *parent)
-    : QWidget(parent)
-    , DiagramLayers(chartKind(type))
-    , m_type(type)
-    , m_xTitle(QString::fromUtf8(ceiechart::chartStyle(chartKind(type)).xTitle))
-    , m_yTitle(QString::fromUtf8(ceiechart::chartStyle(chartKind(type)).yTitle))
-    , m_backgroundColor(ceiechart::chartStyle(chartKind(type)).horseshoeGround)
-{
-    setAttribute(Qt::WA_TranslucentBackground);
-    if (type == UvDiagram) {
-        xy2uv(m_atlas.spectrumLocus, m_uvLocus);
-        m_atlas.spectrumLocus = m_uvLocus;
-        m_atlas.colorSystem = ceiechart::uvColorSystem;
+class DrawCEIPicture::Private : public ceiechart::DiagramRenderer::Private {
+public:
+    explicit Private(CEIEType diagramType)
+        : ceiechart::DiagramRenderer::Private(chartKind(diagramType))
+        , type(diagramType)
+        , xTitle(QString::fromUtf8(ceiechart::chartStyle(kind).xTitle))
+        , yTitle(QString::fromUtf8(ceiechart::chartStyle(kind).yTitle))
+        , backgroundColor(ceiechart::chartStyle(kind).horseshoeGround)
+    {
+        if (type == UvDiagram) {
+            xy2uv(atlas.spectrumLocus, uvLocus);
+            atlas.spectrumLocus = uvLocus;
+            atlas.colorSystem = ceiechart::uvColorSystem;
+        }
     }
+
+    CEIEType type;
+    QString xTitle;
+    QString yTitle;
+    std::vector<QPointF> uvLocus;
+    QColor backgroundColor;
+    QList<QPointF> measurePoints;
+};
+
+DrawCEIPicture::DrawCEIPicture(DrawCEIPicture::CEIEType type, QWidget *parent)
+    : DiagramRenderer(std::make_unique<Private>(type), parent)
+{
+}
+
+DrawCEIPicture::Private &DrawCEIPicture::own() const
+{
+    return static_cast<Private &>(*d);
+}
+
+QPointF DrawCEIPicture::CoordinateTransformation()
+{
+    return DiagramRenderer::CoordinateTransformation();
 }
 
 DrawCEIPicture::~DrawCEIPicture() = default;
 
 DrawCEIPicture::CEIEType DrawCEIPicture::type()
 {
-    return m_type;
+    return own().type;
 }
 
 QImage *DrawCEIPicture::drawCEIPicture(
     int width, int height, bool drawCoordinate, bool drawBBRLine, bool drawWaveLength, QList<QPointF> points)
 {
-    m_colorTemperaturePoints = points;
+    d->colorTemperaturePoints = points;
     constexpr auto kind = ceiechart::ChartKind::LegacyXy;
     const ceiechart::ChartStyle &style = ceiechart::chartStyle(kind);
-    beginDrawing(width, height, style.marginPercent);
+    d->beginDrawing(width, height, style.marginPercent);
     auto picture = ceiechart::newPicture(width, height, style.ground);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
@@ -73,61 +97,61 @@ QImage *DrawCEIPicture::drawCEIPicture(
 
 QImage *DrawCEIPicture::drawCEIEPicture(int width, int height, bool drawCoordinate, bool, bool, QList<QPointF> points)
 {
-    m_colorTemperaturePoints = points;
+    d->colorTemperaturePoints = points;
     constexpr auto kind = ceiechart::ChartKind::LegacyUv;
     const ceiechart::ChartStyle &style = ceiechart::chartStyle(kind);
-    beginDrawing(width, height, style.marginPercent);
-    auto picture = ceiechart::newPicture(width, height, m_backgroundColor);
+    d->beginDrawing(width, height, style.marginPercent);
+    auto picture = ceiechart::newPicture(width, height, own().backgroundColor);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
     }
 
     QPainter painter(picture.get());
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.fillRect(picture->rect(), m_backgroundColor);
+    painter.fillRect(picture->rect(), own().backgroundColor);
 
     QPolygonF locus;
-    locus.reserve(int(m_uvLocus.size()));
-    for (const QPointF &point : m_uvLocus) {
+    locus.reserve(int(own().uvLocus.size()));
+    for (const QPointF &point : own().uvLocus) {
         locus.append(CoordinateTransformation(point));
     }
-    drawHorseshoeWithin(*picture, locus, ClipOutline::Drawn, style.horseshoeGround);
+    d->drawHorseshoeWithin(*picture, locus, ceiechart::ClipOutline::Drawn, style.horseshoeGround);
 
     if (drawCoordinate) {
         painterCoordinate(style.gridStyle, ceiechart::chartNumberFont(kind, height), painter);
     }
-    painterPoints(painter, m_measurePoints);
+    painterPoints(painter, own().measurePoints);
     painter.end();
     return ceiechart::finished(std::move(picture));
 }
 
 QImage DrawCEIPicture::getColorImage()
 {
-    QImage colors(m_pictureWidth, m_pictureHeight, QImage::Format_ARGB32);
-    colors.fill(ceiechart::chartStyle(chartKind(m_type)).horseshoeGround);
+    QImage colors(d->pictureWidth, d->pictureHeight, QImage::Format_ARGB32);
+    colors.fill(ceiechart::chartStyle(d->kind).horseshoeGround);
     painterPixColor(&colors);
     return colors;
 }
 
 void DrawCEIPicture::setMeasurePoints(const QList<QPointF> &points)
 {
-    m_measurePoints = points;
+    own().measurePoints = points;
 }
 
 void DrawCEIPicture::setXTitle(const QString &title)
 {
-    m_xTitle = title;
+    own().xTitle = title;
 }
 
 void DrawCEIPicture::setYTitle(const QString &title)
 {
-    m_yTitle = title;
+    own().yTitle = title;
 }
 
 void DrawCEIPicture::setGraphColor(QColor line, QColor background)
 {
-    m_lineColor = line;
-    m_backgroundColor = background;
+    d->lineColor = line;
+    own().backgroundColor = background;
 }
 
 void DrawCEIPicture::painterPoints(QPainter &painter, QList<QPointF> points)
@@ -146,12 +170,12 @@ void DrawCEIPicture::painterPoints(QPainter &painter, QList<QPointF> points)
 
 void DrawCEIPicture::painterCoordinate(Qt::PenStyle style, const QFont &font, QPainter &painter)
 {
-    drawAxes(painter, {style, font, m_xTitle, m_yTitle});
+    d->drawAxes(painter, {style, font, own().xTitle, own().yTitle});
 }
 
 QPointF DrawCEIPicture::CurCoordinateToChroma(const QPointF &position)
 {
-    return m_geometry.toChroma(position.x(), position.y());
+    return d->geometry.toChroma(position.x(), position.y());
 }
 
 void DrawCEIPicture::xy2uv(const float &x, const float &y, float &u, float &v)

@@ -3,10 +3,10 @@
 #define CEIECHART_LEGACY_DRAWCEIPICTURE_H
 
 #include <ceiechart/ceiechart_export.h>
-#include <ceiechart/render/diagramlayers.h>
+#include <ceiechart/render/diagramrenderer.h>
 
+#include <QFont>
 #include <QImage>
-#include <QWidget>
 
 #include <vector>
 
@@ -25,7 +25,7 @@
  * Both drawing forms return a picture that the caller owns. A width or height of 0 gives a null image, and so do a
  * negative size and one that cannot be allocated. GUI thread only.
  */
-class CEIECHART_EXPORT DrawCEIPicture : public QWidget, public ceiechart::DiagramLayers {
+class CEIECHART_EXPORT DrawCEIPicture : public ceiechart::DiagramRenderer {
     Q_OBJECT
 
 public:
@@ -42,7 +42,9 @@ public:
     /*!
      * \brief The x, y picture on black: locus edge and horseshoe, and what the flags ask for.
      *
-     * \a points are the colour-temperature points (CIE 1931 x, y), dots on the Planckian locus.
+     * \a points are the colour-temperature points (CIE 1931 x, y), dots on the Planckian locus. On a renderer of the
+     * u′, v′ diagram it draws the same layers in that diagram's range, with the locus rows taken for u′, v′: a picture
+     * that means nothing.
      */
     QImage *drawCEIPicture(
         int width, int height, bool drawCoordinate, bool drawBBRLine, bool drawWaveLength, QList<QPointF> points);
@@ -51,7 +53,8 @@ public:
      * \brief The u′, v′ picture: horseshoe inside the spectral locus, axes when \a drawCoordinate is set, and the
      * measure points.
      *
-     * \a drawBBRLine, \a drawWaveLength and \a points are accepted and ignored.
+     * \a drawBBRLine, \a drawWaveLength and \a points are accepted and ignored. A renderer of the x, y diagram has no
+     * u′, v′ locus: there the picture shows axes and measure points, but no horseshoe.
      */
     QImage *drawCEIEPicture(
         int width, int height, bool drawCoordinate, bool drawBBRLine, bool drawWaveLength, QList<QPointF> points);
@@ -73,8 +76,7 @@ public:
     /*! Axes, grid in \a style, numbers and titles in \a font. */
     void painterCoordinate(Qt::PenStyle style, const QFont &font, QPainter &painter);
 
-    /*! Chromaticity to whole pixels of the last drawing. */
-    QPointF CoordinateTransformation(const QPointF &xy) { return DiagramLayers::CoordinateTransformation(xy); }
+    using DiagramRenderer::CoordinateTransformation;
     /*! Picture position to chromaticity; the x offset of the forward mapping is not taken off. */
     QPointF CurCoordinateToChroma(const QPointF &position);
 
@@ -82,6 +84,7 @@ public:
      * \name CIE 1931 x, y to CIE 1976 u′, v′
      * In single or double precision, one point or many. u′ = 4x / d, v′ = 9y / d with d = −2x + 12y + 3 (CIE
      * 15:2004, 8.2.1.1). d = 0 gives infinities or NaN.
+     * The list conversions read their input while they write: input and output must be different containers.
      * @{
      */
     static void xy2uv(const float &x, const float &y, float &u, float &v);
@@ -94,14 +97,27 @@ public:
     /*! @} */
 
 private:
-    QPointF CoordinateTransformation() { return DiagramLayers::CoordinateTransformation(); }
+    class Private;
+    Private &own() const;
 
-    CEIEType m_type;
-    QString m_xTitle;
-    QString m_yTitle;
-    std::vector<QPointF> m_uvLocus;
-    QColor m_backgroundColor;
-    QList<QPointF> m_measurePoints;
+    using DiagramRenderer::Clamp;
+    using DiagramRenderer::DrawColorTempreturePoint;
+    using DiagramRenderer::DrawEdgeCoordinates;
+    using DiagramRenderer::DrawPointFToLine;
+    using DiagramRenderer::GetCoordinateTransformationData;
+    using DiagramRenderer::GetPointColorRGB;
+    using DiagramRenderer::GetPointF;
+    using DiagramRenderer::GetPointRGB;
+    using DiagramRenderer::GetRGBValue;
+    using DiagramRenderer::MapPixelToReal;
+    using DiagramRenderer::mulDiv;
+    using DiagramRenderer::paintCEIEdge;
+    using DiagramRenderer::painterBBRLine;
+    using DiagramRenderer::painterPixColor;
+    using DiagramRenderer::painterWaveLength;
+    using DiagramRenderer::ShowAnnotation;
+
+    QPointF CoordinateTransformation();
 };
 
-#endif
+#endif // CEIECHART_LEGACY_DRAWCEIPICTURE_H

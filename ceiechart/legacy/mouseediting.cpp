@@ -1,126 +1,126 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/arithmetic_p.h>
-#include <ceiechart/legacy/ceiegraphicsscene.h>
+#include <ceiechart/legacy/ceiegraphicsscene_p.h>
 #include <ceiechart/scene/containment_p.h>
 
 #include <QCursor>
 #include <QGraphicsSceneMouseEvent>
 
-bool CEIEGraphicsScene::isInsideOriginal(const QPointF &position)
+bool CEIEGraphicsScene::Private::isInsideOriginal(const QPointF &position)
 {
-    return ceiechart::polygonContains(convertPointF(toChroma(position)), m_originalVertices.toArray());
+    return ceiechart::polygonContains(scene()->convertPointF(toChroma(position)), originalVertices.toArray());
 }
 
-void CEIEGraphicsScene::rememberMousePosition(const QPointF &position)
+void CEIEGraphicsScene::Private::rememberMousePosition(const QPointF &position)
 {
-    m_lastMousePosition = QPoint(ceiechart::truncated(position.x()), ceiechart::truncated(position.y()));
+    lastMousePosition = QPoint(ceiechart::truncated(position.x()), ceiechart::truncated(position.y()));
 }
 
 void CEIEGraphicsScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
-    if (!m_mouseAllowed) {
+    if (!d->mouseAllowed) {
         return;
     }
-    m_buttonDown = true;
-    rememberMousePosition(event->scenePos());
-    if (m_hand) {
+    own().buttonDown = true;
+    own().rememberMousePosition(event->scenePos());
+    if (d->hand) {
         return;
     }
-    if (m_magnifier) {
+    if (d->magnifier) {
         SetFunctionKeyShortcuts();
         return;
     }
-    m_requestedPoint = event->scenePos();
-    m_leftButton = event->button() == Qt::LeftButton;
-    if (!m_leftButton || m_triangles.isEmpty()) {
+    d->requestedPoint = event->scenePos();
+    own().leftButton = event->button() == Qt::LeftButton;
+    if (!own().leftButton || d->triangles.isEmpty()) {
         return;
     }
-    if (m_regionGate && !isInsideOriginal(m_requestedPoint) && !GetPointInFences(m_requestedPoint)) {
+    if (own().regionGate && !own().isInsideOriginal(d->requestedPoint) && !GetPointInFences(d->requestedPoint)) {
         return;
     }
-    m_vertexSelected = false;
-    m_savedPoint = m_requestedPoint;
-    MouseClickAire(m_requestedPoint);
-    MouseSelectedPoint(m_requestedPoint);
+    d->vertexSelected = false;
+    d->savedPoint = d->requestedPoint;
+    MouseClickAire(d->requestedPoint);
+    MouseSelectedPoint(d->requestedPoint);
 }
 
-void CEIEGraphicsScene::showHoverCursor(const QPointF &position)
+void CEIEGraphicsScene::Private::showHoverCursor(const QPointF &position)
 {
     // Not QPointF's own comparison: that takes small differences for none.
-    if (position.x() != m_lastHoverPosition.x() || position.y() != m_lastHoverPosition.y()) {
-        m_lastHoverPosition = position;
-        Q_EMIT signal_mouseCursorChange(QCursor(m_hand ? Qt::OpenHandCursor : Qt::CrossCursor));
+    if (position.x() != lastHoverPosition.x() || position.y() != lastHoverPosition.y()) {
+        lastHoverPosition = position;
+        Q_EMIT scene()->signal_mouseCursorChange(QCursor(hand ? Qt::OpenHandCursor : Qt::CrossCursor));
     }
 }
 
-bool CEIEGraphicsScene::followPointer(const QPointF &position)
+bool CEIEGraphicsScene::Private::followPointer(const QPointF &position)
 {
-    m_requestedPoint = position;
-    SetCentreTriangle();
-    m_whiteInside
-        = ceiechart::polygonContains(convertPointF(toChroma(position)), m_targetVertices.toArray()) && m_leftButton;
-    IsEllipseAire(position);
-    if (m_whiteMoved && m_whiteInside) {
-        repaint();
+    requestedPoint = position;
+    scene()->SetCentreTriangle();
+    whiteInside = ceiechart::polygonContains(scene()->convertPointF(toChroma(position)), targetVertices.toArray())
+        && leftButton;
+    scene()->IsEllipseAire(position);
+    if (whiteMoved && whiteInside) {
+        q->update();
     }
-    if (!m_leftButton) {
+    if (!leftButton) {
         return true;
     }
-    if (m_centreSelected && m_editMode != WhiteLocked) {
-        if (m_whiteMoved) {
-            MoveCentreTriangle();
+    if (centreSelected && editMode != WhiteLocked) {
+        if (whiteMoved) {
+            scene()->MoveCentreTriangle();
         }
         return false;
     }
-    m_centreSelected = false;
-    if (m_editMode != EverythingEditable) {
+    centreSelected = false;
+    if (editMode != EverythingEditable) {
         return false;
     }
-    m_vertexSelected = false;
-    if (m_regionGate && !isInsideOriginal(position)) {
-        ClearSpeedUpStep();
-        GetSelectedEllipseSign(position);
-        m_vertexSelected = true;
+    vertexSelected = false;
+    if (regionGate && !isInsideOriginal(position)) {
+        scene()->ClearSpeedUpStep();
+        scene()->GetSelectedEllipseSign(position);
+        vertexSelected = true;
     }
-    RefreshEllipseSignPosition();
+    scene()->RefreshEllipseSignPosition();
     return true;
 }
 
 void CEIEGraphicsScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    const bool panning = m_buttonDown && m_hand;
+    const bool panning = own().buttonDown && d->hand;
     if (!panning) {
-        if (m_magnifier) {
+        if (d->magnifier) {
             return;
         }
-        rememberMousePosition(event->scenePos());
-        showHoverCursor(event->scenePos());
-        if (!m_triangles.isEmpty() && !followPointer(event->scenePos())) {
+        own().rememberMousePosition(event->scenePos());
+        own().showHoverCursor(event->scenePos());
+        if (!d->triangles.isEmpty() && !own().followPointer(event->scenePos())) {
             return;
         }
     }
     event->accept();
-    repaint();
+    update();
 }
 
 void CEIEGraphicsScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
-    m_buttonDown = false;
-    m_vertexSelected = false;
+    own().buttonDown = false;
+    d->vertexSelected = false;
     if (event->button() == Qt::RightButton) {
-        m_whiteInside = false;
+        own().whiteInside = false;
     }
     if (event->button() == Qt::LeftButton) {
-        if (hasTarget()) {
-            refreshTargetReport();
+        if (d->hasTarget()) {
+            d->refreshTargetReport();
         }
-        Q_EMIT signal_targetInfoChanged(m_targetReport);
-        if (hasTarget() && m_centreSelected && m_whiteHeld) {
-            Q_EMIT signal_colorGamutWhiteChanged(m_triangles.at(1));
+        Q_EMIT signal_targetInfoChanged(d->targetReport);
+        if (d->hasTarget() && d->centreSelected && d->whiteHeld) {
+            Q_EMIT signal_colorGamutWhiteChanged(d->triangles.at(1));
         }
     }
-    repaint();
-    m_leftButton = false;
-    m_centreSelected = false;
+    update();
+    own().leftButton = false;
+    d->centreSelected = false;
     event->accept();
 }

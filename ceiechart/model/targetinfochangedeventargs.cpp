@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/model/targetinfochangedeventargs.h>
 
+TargetInfoChangedEventArgs::TargetInfoChangedEventArgs()
+    : TargetInfoChangedEventArgs(nullptr)
+{
+}
+
 TargetInfoChangedEventArgs::TargetInfoChangedEventArgs(QObject *parent)
     : QObject(parent)
 {

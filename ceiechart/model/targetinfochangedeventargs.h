@@ -19,7 +19,9 @@ class CEIECHART_EXPORT TargetInfoChangedEventArgs : public QObject {
 
 public:
     /*! \brief A default triangle, 0 K, no primary outside, not reasonable. */
-    explicit TargetInfoChangedEventArgs(QObject *parent = nullptr);
+    TargetInfoChangedEventArgs();
+    /*! \brief The same with \a parent, which owns the object when it is not null. */
+    explicit TargetInfoChangedEventArgs(QObject *parent);
     /*! \brief Takes over the payload of \a other, not its parent. */
     TargetInfoChangedEventArgs(const TargetInfoChangedEventArgs &other);
     /*! \brief Takes over the payload of \a other. */

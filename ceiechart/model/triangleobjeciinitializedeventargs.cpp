@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/model/triangleobjeciinitializedeventargs.h>
 
+TriangleObjecIinitializedEventArgs::TriangleObjecIinitializedEventArgs()
+    : TriangleObjecIinitializedEventArgs(nullptr)
+{
+}
+
 TriangleObjecIinitializedEventArgs::TriangleObjecIinitializedEventArgs(QObject *parent)
     : QObject(parent)
 {

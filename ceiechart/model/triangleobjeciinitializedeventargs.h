@@ -20,7 +20,9 @@ class CEIECHART_EXPORT TriangleObjecIinitializedEventArgs : public QObject {
 
 public:
     /*! \brief An empty list and no primary outside. Call setIsEffectiveValue() before use. */
-    explicit TriangleObjecIinitializedEventArgs(QObject *parent = nullptr);
+    TriangleObjecIinitializedEventArgs();
+    /*! \brief The same with \a parent, which owns the object when it is not null. */
+    explicit TriangleObjecIinitializedEventArgs(QObject *parent);
     /*! \brief Takes over the payload of \a other, not its parent. */
     TriangleObjecIinitializedEventArgs(const TriangleObjecIinitializedEventArgs &other);
     /*! \brief Takes over the payload of \a other. */

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/model/trianglepoint.h>
 
+TrianglePoint::TrianglePoint()
+    : TrianglePoint(nullptr)
+{
+}
+
 TrianglePoint::TrianglePoint(QObject *parent)
     : QObject(parent)
 {

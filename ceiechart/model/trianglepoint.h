@@ -23,7 +23,9 @@ class CEIECHART_EXPORT TrianglePoint : public QObject {
 
 public:
     /*! \brief All positions and luminances zero. */
-    explicit TrianglePoint(QObject *parent = nullptr);
+    TrianglePoint();
+    /*! \brief The same with \a parent, which owns the object when it is not null. */
+    explicit TrianglePoint(QObject *parent);
     /*! \brief Copies the eight fields; the copy has no parent. */
     TrianglePoint(const TrianglePoint &other);
     /*! \brief Takes over the eight fields of \a other. */

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/diagram/pens_p.h>
-#include <ceiechart/render/diagramlayers.h>
+#include <ceiechart/render/diagramrenderer_p.h>
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -116,15 +116,10 @@ private:
 
 } // namespace
 
-void DiagramLayers::drawAxes(QPainter &painter, const AxesStyle &style)
+void DiagramRenderer::Private::drawAxes(QPainter &painter, const AxesStyle &style)
 {
-    AxesPainter axes(painter, style, m_lineColor);
-    const auto map = [this](double x, double y) {
-        m_current.x = x;
-        m_current.y = y;
-        return CoordinateTransformation();
-    };
-    const auto [xMin, xMax, yMin, yMax] = chartStyle(m_kind).range;
+    AxesPainter axes(painter, style, lineColor);
+    const auto [xMin, xMax, yMin, yMax] = chartStyle(kind).range;
 
     for (int k = 0; k < (xMax - xMin) / chartTickStep; ++k) {
         const QPointF low = map(k * chartTickStep, double(yMin));
@@ -134,7 +129,7 @@ void DiagramLayers::drawAxes(QPainter &painter, const AxesStyle &style)
     for (int j = 0; j < (yMax - yMin) / chartTickStep; ++j) {
         const QPointF left = map(double(xMin), j * chartTickStep);
         axes.gridLine(left, map(double(xMax), j * chartTickStep));
-        axes.yTick(j, truncated(left.x()), truncated(left.y()), m_pictureWidth);
+        axes.yTick(j, truncated(left.x()), truncated(left.y()), pictureWidth);
     }
 }
 

@@ -1,44 +1,41 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/arithmetic_p.h>
-#include <ceiechart/render/drawceipicture.h>
+#include <ceiechart/render/drawceipicture_p.h>
 #include <ceiechart/render/picture_p.h>
 
 #include <QPainter>
 
 namespace NewCEIE {
 
-namespace {
-
-constexpr auto kind = ceiechart::ChartKind::CurrentXy;
-
-} // namespace
-
 DrawCEIPicture::DrawCEIPicture(QWidget *parent)
-    : QWidget(parent)
-    , DiagramLayers(kind)
+    : DiagramRenderer(std::make_unique<Private>(), parent)
 {
-    setAttribute(Qt::WA_TranslucentBackground);
 }
 
 DrawCEIPicture::~DrawCEIPicture() = default;
 
+DrawCEIPicture::Private &DrawCEIPicture::own() const
+{
+    return static_cast<Private &>(*d);
+}
+
 QImage *DrawCEIPicture::drawCEIPicture(
     int w, int h, bool showCoordinate, bool, bool, QList<QPointF> colourTemperaturePoints)
 {
-    m_colorTemperaturePoints = colourTemperaturePoints;
-    beginDrawing(w, h, ceiechart::chartStyle(kind).marginPercent);
-    auto picture = ceiechart::newPicture(w, h, m_pictureColor);
+    d->colorTemperaturePoints = colourTemperaturePoints;
+    d->beginDrawing(w, h, ceiechart::chartStyle(Private::chart).marginPercent);
+    auto picture = ceiechart::newPicture(w, h, own().pictureColor);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
     }
 
     QPainter painter(picture.get());
-    painter.fillRect(QRect(0, 0, w, h), m_pictureColor);
+    painter.fillRect(QRect(0, 0, w, h), own().pictureColor);
     if (showCoordinate) {
         painterCoordinate(painter);
     }
     paintCEIEdge(painter);
-    loadFirstLocusRow();
+    d->loadFirstLocusRow();
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);
     painterPixColor(picture.get());
@@ -51,32 +48,32 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
     const QList<ColorTriangleObject> &standards, const QPolygonF &clipPolygon, bool polygonFlag,
     const QString &skipText)
 {
-    m_showCoordinates = showCoordinate;
-    m_triangles = triangles;
-    m_clipPolygon = clipPolygon;
-    m_polygonFlag = polygonFlag;
-    beginDrawing(w, h, ceiechart::chartStyle(kind).marginPercent);
-    auto picture = ceiechart::newPicture(w, h, m_pictureColor);
+    own().showCoordinates = showCoordinate;
+    own().triangles = triangles;
+    own().clipPolygon = clipPolygon;
+    own().polygonFlag = polygonFlag;
+    d->beginDrawing(w, h, ceiechart::chartStyle(Private::chart).marginPercent);
+    auto picture = ceiechart::newPicture(w, h, own().pictureColor);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
     }
 
     QPainter painter(picture.get());
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.fillRect(QRect(0, 0, w, h), m_pictureColor);
+    painter.fillRect(QRect(0, 0, w, h), own().pictureColor);
     if (showCoordinate) {
         painterCoordinate(painter);
     }
     painterWaveLength(painter);
     if (skipText.isEmpty()) {
         paintCEIEdge(painter);
-        loadFirstLocusRow();
+        d->loadFirstLocusRow();
         painterStandard(painter, standards);
-        drawHorseshoeWithin(*picture, m_clipPolygon, ClipOutline::None, m_backgroundColor);
+        d->drawHorseshoeWithin(*picture, own().clipPolygon, ceiechart::ClipOutline::Hidden, own().backgroundColor);
         painterTriangle(painter, triangles);
     }
     painterBBRLine(painter);
-    drawMeasurePoints(painter);
+    own().drawMeasurePoints(painter);
     drawCMYPoint(painter);
     painter.end();
     return ceiechart::finished(std::move(picture));
@@ -84,28 +81,33 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
 
 QPolygonF DrawCEIPicture::intersectPolygon() const
 {
-    return m_clipPolygon;
+    return own().clipPolygon;
 }
 
 void DrawCEIPicture::setGraphColor(QColor line, QColor picture)
 {
-    m_lineColor = line;
-    m_pictureColor = picture;
+    d->lineColor = line;
+    own().pictureColor = picture;
 }
 
 void DrawCEIPicture::setBackgroudColor(const QColor &color)
 {
-    m_backgroundColor = color;
+    own().backgroundColor = color;
 }
 
 void DrawCEIPicture::setPointData(const QList<QRectF> &rectangles)
 {
-    m_measureRectangles = rectangles;
+    own().measureRectangles = rectangles;
 }
 
 void DrawCEIPicture::setCMYPointData(const QList<QRectF> &rectangles)
 {
-    m_cmyRectangles = rectangles;
+    own().cmyRectangles = rectangles;
+}
+
+QPointF DrawCEIPicture::CoordinateTransformation()
+{
+    return DiagramRenderer::CoordinateTransformation();
 }
 
 void DrawCEIPicture::updateTriangleOffsetPoint(QVector<QPointF> &pts)
@@ -117,19 +119,20 @@ void DrawCEIPicture::updateTriangleOffsetPoint(QVector<QPointF> &pts)
 
 void DrawCEIPicture::GetPointRGB(int px, int py, double alphaFactor, QImage *picture)
 {
-    makeColorOfPixelCurrent(px, py);
+    d->makeColorOfPixelCurrent(px, py);
     GetPointColorRGB(px, py, alphaFactor, picture);
 }
 
 void DrawCEIPicture::GetPointColorRGB(int px, int py, double alphaFactor, QImage *picture)
 {
-    picture->setPixelColor(px, py, colorOfCurrentAmounts(ceiechart::truncated(alphaFactor * 256.0)));
+    picture->setPixelColor(px, py, d->colorOfCurrentAmounts(ceiechart::truncated(alphaFactor * 256.0)));
 }
 
 void DrawCEIPicture::painterCoordinate(QPainter &painter)
 {
-    const QFont numberFont = ceiechart::chartNumberFont(kind, m_pictureHeight);
-    drawAxes(painter, {ceiechart::chartStyle(kind).gridStyle, numberFont, QString(), QString()});
+    const ceiechart::ChartStyle &style = ceiechart::chartStyle(Private::chart);
+    const QFont numberFont = ceiechart::chartNumberFont(Private::chart, d->pictureHeight);
+    d->drawAxes(painter, {style.gridStyle, numberFont, QString(), QString()});
 }
 
 } // namespace NewCEIE

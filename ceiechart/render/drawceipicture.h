@@ -4,12 +4,11 @@
 
 #include <ceiechart/ceiechart_export.h>
 #include <ceiechart/model/colortriangleobject.h>
-#include <ceiechart/render/diagramlayers.h>
+#include <ceiechart/render/diagramrenderer.h>
 
 #include <QPolygonF>
 #include <QRectF>
-#include <QSize>
-#include <QWidget>
+#include <QVector>
 
 namespace NewCEIE {
 
@@ -33,7 +32,7 @@ namespace NewCEIE {
  *
  * GUI thread only; one renderer draws one picture at a time.
  */
-class CEIECHART_EXPORT DrawCEIPicture : public QWidget, public ceiechart::DiagramLayers {
+class CEIECHART_EXPORT DrawCEIPicture : public ceiechart::DiagramRenderer {
     Q_OBJECT
 
 public:
@@ -71,12 +70,7 @@ public:
     /*! The clip polygon of the last gamut form, in picture pixels. */
     QPolygonF intersectPolygon() const;
 
-    /*!
-     * \brief Chromaticity to whole pixels of the last drawing.
-     *
-     * Before the first drawing every chromaticity maps to (4, 0).
-     */
-    QPointF CoordinateTransformation(const QPointF &xy) { return DiagramLayers::CoordinateTransformation(xy); }
+    using DiagramRenderer::CoordinateTransformation;
 
     /*! \a line colours the edge, the axes and the colour-temperature dots, \a picture fills the picture. */
     void setGraphColor(QColor line, QColor picture);
@@ -88,19 +82,31 @@ public:
     void setCMYPointData(const QList<QRectF> &rectangles);
 
 private:
-    using DiagramLayers::GetPointColorRGB;
-    using DiagramLayers::GetPointRGB;
+    class Private;
+    Private &own() const;
 
-    QPointF CoordinateTransformation() { return DiagramLayers::CoordinateTransformation(); }
+    using DiagramRenderer::Clamp;
+    using DiagramRenderer::DrawColorTempreturePoint;
+    using DiagramRenderer::DrawEdgeCoordinates;
+    using DiagramRenderer::DrawPointFToLine;
+    using DiagramRenderer::GetCoordinateTransformationData;
+    using DiagramRenderer::GetPointColorRGB;
+    using DiagramRenderer::GetPointF;
+    using DiagramRenderer::GetPointRGB;
+    using DiagramRenderer::GetRGBValue;
+    using DiagramRenderer::MapPixelToReal;
+    using DiagramRenderer::mulDiv;
+    using DiagramRenderer::paintCEIEdge;
+    using DiagramRenderer::painterBBRLine;
+    using DiagramRenderer::painterPixColor;
+    using DiagramRenderer::painterWaveLength;
+    using DiagramRenderer::ShowAnnotation;
+
+    QPointF CoordinateTransformation();
     void updateTriangleOffsetPoint(QVector<QPointF> &pts);
-
-    //! These two write the pixel with the alpha trunc(alphaFactor × 256); a colour out of range leaves it as it was.
     void GetPointRGB(int px, int py, double alphaFactor, QImage *picture);
     void GetPointColorRGB(int px, int py, double alphaFactor, QImage *picture);
-
     void painterCoordinate(QPainter &painter);
-
-    // Gamuts, in gamuts.cpp
     void painterStandard(QPainter &painter, const QList<ColorTriangleObject> &standards);
     void painterTriangle(QPainter &painter, const QList<ColorTriangleObject> &triangles);
     void painterTargetTriangle(QPainter &painter, const ColorTriangleObject &triangle);
@@ -108,21 +114,8 @@ private:
     void painterInputTriangle(QPainter &painter, const ColorTriangleObject &triangle);
     void painterIntersectsTriangle(QPainter &painter);
     void drawCMYPoint(QPainter &painter);
-
-    QPolygonF trianglePolygon(const ColorTriangleObject &triangle);
-    void drawOutline(QPainter &painter, const ColorTriangleObject &triangle);
-    void drawMeasurePoints(QPainter &painter);
-
-    QList<QRectF> m_measureRectangles;
-    QList<QRectF> m_cmyRectangles;
-    QList<ColorTriangleObject> m_triangles;
-    bool m_showCoordinates = false;
-    QPolygonF m_clipPolygon;
-    bool m_polygonFlag = false;
-    QColor m_backgroundColor = ceiechart::chartStyle(ceiechart::ChartKind::CurrentXy).horseshoeGround;
-    QColor m_pictureColor = ceiechart::chartStyle(ceiechart::ChartKind::CurrentXy).ground;
 };
 
 } // namespace NewCEIE
 
-#endif
+#endif // CEIECHART_RENDER_DRAWCEIPICTURE_H

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/diagram/pens_p.h>
-#include <ceiechart/render/drawceipicture.h>
+#include <ceiechart/model/gamutkind.h>
+#include <ceiechart/render/drawceipicture_p.h>
 #include <ceiechart/render/largepaths_p.h>
 
 #include <QPainter>
@@ -19,11 +20,11 @@ QColor tint(const QColor &color, double opacity)
 
 } // namespace
 
-QPolygonF DrawCEIPicture::trianglePolygon(const ColorTriangleObject &triangle)
+QPolygonF DrawCEIPicture::Private::trianglePolygon(const ColorTriangleObject &triangle) const
 {
     const TrianglePoint &points = triangle.trianglePoint();
-    return QPolygonF({CoordinateTransformation(points.redPos()), CoordinateTransformation(points.greenPos()),
-        CoordinateTransformation(points.bluePos())});
+    return QPolygonF(
+        {geometry.toPixel(points.redPos()), geometry.toPixel(points.greenPos()), geometry.toPixel(points.bluePos())});
 }
 
 void DrawCEIPicture::painterStandard(QPainter &painter, const QList<ColorTriangleObject> &standards)
@@ -33,7 +34,7 @@ void DrawCEIPicture::painterStandard(QPainter &painter, const QList<ColorTriangl
     for (ColorTriangleObject standard : standards) {
         const QColor color = standard.foreColor();
         painter.setPen(ceiechart::solidPen(color, standard.trigleLineWidth()));
-        const QPolygonF polygon = trianglePolygon(standard);
+        const QPolygonF polygon = own().trianglePolygon(standard);
         ceiechart::drawPolygonOutline(painter, polygon);
         QPainterPath path;
         path.addPolygon(polygon);
@@ -46,13 +47,13 @@ void DrawCEIPicture::painterTriangle(QPainter &painter, const QList<ColorTriangl
 {
     for (const ColorTriangleObject &triangle : triangles) {
         switch (triangle.type()) {
-        case 1:
+        case ceiechart::TargetGamut:
             painterTargetTriangle(painter, triangle);
             break;
-        case 2:
+        case ceiechart::OriginalGamut:
             painterOriginalTriangle(painter, triangle);
             break;
-        case 3:
+        case ceiechart::MeasuredGamut:
             painterInputTriangle(painter, triangle);
             break;
         default:
@@ -63,20 +64,20 @@ void DrawCEIPicture::painterTriangle(QPainter &painter, const QList<ColorTriangl
 
 void DrawCEIPicture::painterTargetTriangle(QPainter &painter, const ColorTriangleObject &triangle)
 {
-    drawOutline(painter, triangle);
+    own().drawOutline(painter, triangle);
 }
 
 void DrawCEIPicture::painterOriginalTriangle(QPainter &painter, const ColorTriangleObject &triangle)
 {
-    drawOutline(painter, triangle);
+    own().drawOutline(painter, triangle);
 }
 
 void DrawCEIPicture::painterInputTriangle(QPainter &painter, const ColorTriangleObject &triangle)
 {
-    drawOutline(painter, triangle);
+    own().drawOutline(painter, triangle);
 }
 
-void DrawCEIPicture::drawOutline(QPainter &painter, const ColorTriangleObject &triangle)
+void DrawCEIPicture::Private::drawOutline(QPainter &painter, const ColorTriangleObject &triangle) const
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
@@ -91,7 +92,7 @@ void DrawCEIPicture::painterIntersectsTriangle(QPainter &painter)
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(ceiechart::solidPen(QColor(255, 255, 255, 128), 1.0));
-    painter.drawPolygon(m_clipPolygon, Qt::OddEvenFill);
+    painter.drawPolygon(own().clipPolygon, Qt::OddEvenFill);
     painter.restore();
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/horseshoefill_p.h>
-#include <ceiechart/render/diagramlayers.h>
+#include <ceiechart/render/diagramrenderer_p.h>
 
 #include <QImage>
 #include <QPainter>
@@ -9,16 +9,33 @@
 
 namespace ceiechart {
 
-void DiagramLayers::painterPixColor(QImage *picture)
+void DiagramRenderer::painterPixColor(QImage *picture)
 {
-    fillHorseshoe(*picture, m_pictureWidth, m_pictureHeight, {m_geometry, m_atlas.colorSystem, m_gamma});
+    fillHorseshoe(*picture, d->pictureWidth, d->pictureHeight, {d->geometry, d->atlas.colorSystem, d->gamma});
 }
 
-void DiagramLayers::drawHorseshoeWithin(
+void DiagramRenderer::GetPointRGB(int px, int py, QImage *picture)
+{
+    d->makeColorOfPixelCurrent(px, py);
+    GetPointColorRGB(px, py, picture);
+}
+
+void DiagramRenderer::GetRGBValue(const CEIAtlasValue::TColorSystem &cs, double x, double y, double z)
+{
+    d->makeAmountsCurrent(cs, x, y, z);
+}
+
+void DiagramRenderer::GetPointColorRGB(int px, int py, QImage *picture)
+{
+    picture->setPixelColor(px, py, d->colorOfCurrentAmounts(255));
+}
+
+void DiagramRenderer::Private::drawHorseshoeWithin(
     QImage &picture, const QPolygonF &clip, ClipOutline outline, const QColor &background)
 {
-    // The engine rounds what it blends at the edge of a clip differently per format. What the colours look like there
-    // is defined for the straight format, so they are drawn into the picture seen as such.
+    // The engine rounds what it blends at the edge of a clip differently per format. How the colours look there is
+    // defined for the non-premultiplied format, so they are drawn through a non-premultiplied ARGB32 view of the
+    // picture.
     QImage straight(picture.bits(), picture.width(), picture.height(), picture.bytesPerLine(), QImage::Format_ARGB32);
     QPainter painter(&straight);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);
@@ -28,43 +45,32 @@ void DiagramLayers::drawHorseshoeWithin(
     if (outline == ClipOutline::Drawn) {
         painter.drawPath(path);
     }
-    drawHorseshoe(
-        painter, clip, m_pictureWidth, m_pictureHeight, {m_geometry, m_atlas.colorSystem, m_gamma}, background);
+    drawHorseshoe(painter, clip, pictureWidth, pictureHeight, {geometry, atlas.colorSystem, gamma}, background);
 }
 
-void DiagramLayers::makeColorOfPixelCurrent(int px, int py)
+void DiagramRenderer::Private::makeColorOfPixelCurrent(int px, int py)
 {
-    MapPixelToReal(px, py);
-    m_current.z = 1 - m_current.x - m_current.y;
-    GetRGBValue(m_atlas.colorSystem, m_current.x, m_current.y, m_current.z);
+    makePixelCurrent(px, py);
+    current.z = 1 - current.x - current.y;
+    makeAmountsCurrent(atlas.colorSystem, current.x, current.y, current.z);
 }
 
-void DiagramLayers::GetPointRGB(int px, int py, QImage *picture)
+void DiagramRenderer::Private::makeAmountsCurrent(
+    const CEIAtlasValue::TColorSystem &system, double x, double y, double z)
 {
-    makeColorOfPixelCurrent(px, py);
-    GetPointColorRGB(px, py, picture);
+    const Channels amounts = primaryAmounts(system, x, y, z);
+    red = amounts.red;
+    green = amounts.green;
+    blue = amounts.blue;
 }
 
-void DiagramLayers::GetRGBValue(const CEIAtlasValue::TColorSystem &cs, double x, double y, double z)
+QColor DiagramRenderer::Private::colorOfCurrentAmounts(int alpha)
 {
-    const Channels amounts = primaryAmounts(cs, x, y, z);
-    m_red = amounts.red;
-    m_green = amounts.green;
-    m_blue = amounts.blue;
-}
-
-QColor DiagramLayers::colorOfCurrentAmounts(int alpha)
-{
-    const Channels channels = fullBrightness({m_red, m_green, m_blue}, m_gamma);
-    m_red = channels.red;
-    m_green = channels.green;
-    m_blue = channels.blue;
-    return QColor::fromRgb(rounded(m_red), rounded(m_green), rounded(m_blue), alpha);
-}
-
-void DiagramLayers::GetPointColorRGB(int px, int py, QImage *picture)
-{
-    picture->setPixelColor(px, py, colorOfCurrentAmounts(255));
+    const Channels channels = fullBrightness({red, green, blue}, gamma);
+    red = channels.red;
+    green = channels.green;
+    blue = channels.blue;
+    return QColor::fromRgb(rounded(red), rounded(green), rounded(blue), alpha);
 }
 
 } // namespace ceiechart

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/pens_p.h>
-#include <ceiechart/render/diagramlayers.h>
+#include <ceiechart/render/diagramrenderer_p.h>
 
 #include <QPainter>
 
@@ -15,34 +15,34 @@ constexpr double edgeWidth = 2.0; // pixels
 
 } // namespace
 
-void DiagramLayers::paintCEIEdge(QPainter &painter)
+void DiagramRenderer::paintCEIEdge(QPainter &painter)
 {
-    for (const CEIAtlasValue::CEIAtlasCoordinate &row : qAsConst(m_locus)) {
+    for (const CEIAtlasValue::CEIAtlasCoordinate &row : qAsConst(d->locus)) {
         if (row.waveLength == firstWavelength) {
             GetPointF(row);
             const QPointF start = CoordinateTransformation();
-            m_pendingLine.setPoints(start, start);
+            d->pendingLine.setPoints(start, start);
         } else if (row.waveLength > firstWavelength && row.waveLength < lastWavelength) {
-            m_pendingLine.setP1(DrawPointFToLine(painter, row, m_pendingLine.p1()));
+            d->pendingLine.setP1(DrawPointFToLine(painter, row, d->pendingLine.p1()));
         }
     }
 
     // The pending line now runs from the red end back to the violet one: the line of purples.
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(solidPen(m_lineColor, edgeWidth));
-    painter.drawLine(m_pendingLine);
+    painter.setPen(solidPen(d->lineColor, edgeWidth));
+    painter.drawLine(d->pendingLine);
     painter.restore();
 }
 
-QPointF DiagramLayers::DrawPointFToLine(
+QPointF DiagramRenderer::DrawPointFToLine(
     QPainter &painter, const CEIAtlasValue::CEIAtlasCoordinate &row, const QPointF &previous)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
     GetPointF(row);
     const QPointF point = CoordinateTransformation();
-    painter.setPen(solidPen(m_lineColor, edgeWidth));
+    painter.setPen(solidPen(d->lineColor, edgeWidth));
     painter.drawLine(previous, point);
     painter.restore();
     return point;

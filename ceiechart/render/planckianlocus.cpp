@@ -1,44 +1,43 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/arithmetic_p.h>
-#include <ceiechart/render/diagramlayers.h>
+#include <ceiechart/diagram/finite_p.h>
+#include <ceiechart/render/diagramrenderer_p.h>
 
 #include <QPainter>
 #include <QPolygonF>
 
 namespace ceiechart {
 
-void DiagramLayers::painterBBRLine(QPainter &painter)
+void DiagramRenderer::painterBBRLine(QPainter &painter)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
-    m_planckianPoints = m_atlas.temperatureCoordinates;
+    d->planckianPoints = d->atlas.temperatureCoordinates;
     QPolygonF locus;
-    locus.reserve(m_planckianPoints.size());
-    for (const CEIAtlasValue::CEITemperatureCoordinate &row : qAsConst(m_planckianPoints)) {
-        m_current.x = row.x;
-        m_current.y = row.y;
-        locus.append(CoordinateTransformation());
+    locus.reserve(d->planckianPoints.size());
+    for (const CEIAtlasValue::CEITemperatureCoordinate &row : qAsConst(d->planckianPoints)) {
+        locus.append(d->map(row.x, row.y));
     }
     painter.drawPolyline(locus);
     painter.restore();
 
-    if (!m_colorTemperaturePoints.isEmpty()) {
-        DrawColorTempreturePoint(painter, m_colorTemperaturePoints, m_pictureHeight);
+    if (!d->colorTemperaturePoints.isEmpty()) {
+        DrawColorTempreturePoint(painter, d->colorTemperaturePoints, d->pictureHeight);
     }
 }
 
-void DiagramLayers::DrawColorTempreturePoint(QPainter &painter, QList<QPointF> points, int size)
+void DiagramRenderer::DrawColorTempreturePoint(QPainter &painter, QList<QPointF> points, int size)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setBrush(QBrush(m_lineColor));
+    painter.setBrush(QBrush(d->lineColor));
     const int diameter = truncated(mulDiv(size, 2, 100));
     const int half = diameter / 2;
     for (const QPointF &point : qAsConst(points)) {
-        m_current.x = point.x();
-        m_current.y = point.y();
-        const QPointF centre = CoordinateTransformation();
-        painter.drawEllipse(QRectF(centre.x() - half, centre.y() - half, diameter, diameter));
+        const QPointF centre = d->map(point.x(), point.y());
+        if (isFinite(centre)) {
+            painter.drawEllipse(QRectF(centre.x() - half, centre.y() - half, diameter, diameter));
+        }
     }
     painter.restore();
 }

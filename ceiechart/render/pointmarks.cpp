@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/render/drawceipicture.h>
+#include <ceiechart/diagram/finite_p.h>
+#include <ceiechart/render/drawceipicture_p.h>
 
 #include <QPainter>
 
@@ -16,14 +17,16 @@ QColor colorAt(const QColor (&colors)[N], int index)
 
 } // namespace
 
-void DrawCEIPicture::drawMeasurePoints(QPainter &painter)
+void DrawCEIPicture::Private::drawMeasurePoints(QPainter &painter) const
 {
     const QColor colors[] = {QColor(255, 0, 0), QColor(0, 255, 0), QColor(0, 0, 255), QColor(255, 255, 255)};
-    for (int i = 0; i < m_measureRectangles.size(); ++i) {
+    for (int i = 0; i < measureRectangles.size(); ++i) {
         painter.save();
         painter.setPen(QColor(255, 255, 255, 255));
         painter.setBrush(QBrush(colorAt(colors, i)));
-        painter.drawEllipse(m_measureRectangles.at(i));
+        if (ceiechart::isFinite(measureRectangles.at(i))) {
+            painter.drawEllipse(measureRectangles.at(i));
+        }
         painter.restore();
     }
 }
@@ -32,12 +35,14 @@ void DrawCEIPicture::drawCMYPoint(QPainter &painter)
 {
     const QColor colors[]
         = {QColor(QStringLiteral("#00FFFF")), QColor(QStringLiteral("#FF00FF")), QColor(QStringLiteral("#FFFF00"))};
-    for (int i = 0; i < m_cmyRectangles.size(); ++i) {
-        const QRectF &rectangle = m_cmyRectangles.at(i);
+    for (int i = 0; i < own().cmyRectangles.size(); ++i) {
+        const QRectF &rectangle = own().cmyRectangles.at(i);
         painter.save();
         painter.setPen(QColor(QStringLiteral("#FF00FF")));
         painter.setBrush(QBrush(colorAt(colors, i)));
-        painter.drawEllipse(QRectF(rectangle.x(), rectangle.y(), 16.0, 16.0));
+        if (ceiechart::isFinite(rectangle.topLeft())) {
+            painter.drawEllipse(QRectF(rectangle.x(), rectangle.y(), 16.0, 16.0));
+        }
         painter.restore();
     }
 }

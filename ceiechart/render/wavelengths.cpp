@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/arithmetic_p.h>
-#include <ceiechart/render/diagramlayers.h>
+#include <ceiechart/render/diagramrenderer_p.h>
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -55,34 +55,34 @@ QPoint textCorner(int octant, int x, int y, int w, int h)
 
 } // namespace
 
-void DiagramLayers::painterWaveLength(QPainter &painter)
+void DiagramRenderer::painterWaveLength(QPainter &painter)
 {
     painter.save();
     QPen pen = painter.pen();
     pen.setColor(Qt::white);
     painter.setPen(pen);
     painter.setFont(QFont(QStringLiteral("Arial"), 14));
-    for (const CEIAtlasValue::CEIAtlasCoordinate &row : qAsConst(m_locus)) {
+    for (const CEIAtlasValue::CEIAtlasCoordinate &row : qAsConst(d->locus)) {
         GetPointF(row);
         if (row.waveLength < 419 || row.waveLength > 680) {
             continue;
         }
         if (row.waveLength > 419) {
-            m_tickWeight = tickWeight(row.waveLength);
+            d->tickWeight = tickWeight(row.waveLength);
             DrawEdgeCoordinates(painter, row);
         }
-        m_previousLocusPoint = QPointF(m_current.x, m_current.y);
+        d->previousLocusPoint = QPointF(d->current.x, d->current.y);
     }
     painter.restore();
 }
 
-void DiagramLayers::DrawEdgeCoordinates(QPainter &painter, const CEIAtlasValue::CEIAtlasCoordinate &row)
+void DiagramRenderer::DrawEdgeCoordinates(QPainter &painter, const CEIAtlasValue::CEIAtlasCoordinate &row)
 {
-    if (m_tickWeight <= 0) {
+    if (d->tickWeight <= 0) {
         return;
     }
-    const double dx = m_current.x - m_previousLocusPoint.x();
-    const double dy = m_current.y - m_previousLocusPoint.y();
+    const double dx = d->current.x - d->previousLocusPoint.x();
+    const double dy = d->current.y - d->previousLocusPoint.y();
     const double length = std::sqrt(dx * dx + dy * dy);
     if (!(length > 0)) {
         return; // no chord, no direction
@@ -93,12 +93,12 @@ void DiagramLayers::DrawEdgeCoordinates(QPainter &painter, const CEIAtlasValue::
     const bool numbered = row.waveLength % 10 == 0;
     if (!numbered) {
         QPen pen = painter.pen();
-        pen.setWidthF(mulDiv(m_pictureHeight, tickWidthPerMille, 1000));
+        pen.setWidthF(mulDiv(d->pictureHeight, tickWidthPerMille, 1000));
         painter.setPen(pen);
     }
     const QPointF inner = CoordinateTransformation();
-    m_current.x += -m_tickWeight * tickLength * nx;
-    m_current.y += -m_tickWeight * tickLength * ny;
+    d->current.x += -d->tickWeight * tickLength * nx;
+    d->current.y += -d->tickWeight * tickLength * ny;
     const QPointF outer = CoordinateTransformation();
     const QPoint p0(truncated(inner.x()), truncated(inner.y()));
     const QPoint p1(truncated(outer.x()), truncated(outer.y()));
@@ -109,7 +109,7 @@ void DiagramLayers::DrawEdgeCoordinates(QPainter &painter, const CEIAtlasValue::
     }
 }
 
-void DiagramLayers::ShowAnnotation(QPainter &painter, int x1, int y1, int x2, int y2, QString text)
+void DiagramRenderer::ShowAnnotation(QPainter &painter, int x1, int y1, int x2, int y2, QString text)
 {
     painter.save();
     QFont font(QStringLiteral("Arial"), 8);

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/model/gamutkind.h>
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/scene/ceiegraphicsscene.h>
+#include <ceiechart/scene/scenesignals_p.h>
 
-#include <QGraphicsView>
 #include <QKeyEvent>
 #include <QPolygonF>
 
@@ -21,114 +22,131 @@ QRectF markAround(const QPointF &position)
 
 } // namespace
 
+class CEIEGraphicsScene::Private : public ceiechart::SceneSignals<CEIEGraphicsScene, ceiechart::TargetScene::Private> {
+public:
+    QPointF toScene(const QPointF &chroma) override
+    {
+        return QPointF(originX + unitLength * chroma.x(), originY - unitLength * chroma.y());
+    }
+
+    QPointF toChroma(const QPointF &position) override
+    {
+        return QPointF((position.x() - originX) / unitLength, (originY - position.y()) / unitLength);
+    }
+
+    QPointF toImage(const QPointF &chroma) override { return renderer.CoordinateTransformation(chroma); }
+
+    QImage *renderPicture() override
+    {
+        QImage *rendered = renderer.drawCEIPicture(
+            imageWidth, imageHeight, drawCoordinate, drawCoordinate, drawWavelengths, QList<QPointF>());
+        q->setSceneRect(0, 0, sceneSize.width(), sceneSize.height());
+        return rendered;
+    }
+
+    void setGraphColor(const QColor &line, const QColor &ground) override { renderer.setGraphColor(line, ground); }
+
+    QPolygonF imagePolygon(const TrianglePoint &triangle)
+    {
+        return QPolygonF({toImage(triangle.redPos()), toImage(triangle.greenPos()), toImage(triangle.bluePos())});
+    }
+
+    DrawCEIPicture renderer{nullptr};
+    QList<ColorTriangleObject> standards;
+    QList<QRectF> vertexRectangles;
+};
+
 CEIEGraphicsScene::CEIEGraphicsScene(QList<ColorTriangleObject> triangles)
-    : m_renderer(std::make_unique<DrawCEIPicture>(nullptr))
+    : TargetScene(std::make_unique<Private>())
 {
-    begin(triangles);
+    d->begin(triangles);
 }
 
 CEIEGraphicsScene::~CEIEGraphicsScene() = default;
+
+CEIEGraphicsScene::Private &CEIEGraphicsScene::own() const
+{
+    return static_cast<Private &>(*d);
+}
 
 void CEIEGraphicsScene::setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles,
     const QList<ColorTriangleObject> &second, const TrianglePoint &first, const TrianglePoint &other, bool flag,
     const QString &text)
 {
-    m_standards = second;
+    Private &scene = own();
+    scene.standards = second;
     setLsColorTriangleObject(triangles);
 
     QPolygonF common;
     if (!first.isEmpty() && !other.isEmpty()) {
-        common = imagePolygon(first).intersected(imagePolygon(other));
+        common = scene.imagePolygon(first).intersected(scene.imagePolygon(other));
     }
 
-    m_vertexRectangles.clear();
-    const auto target = std::find_if(
-        triangles.cbegin(), triangles.cend(), [](const ColorTriangleObject &triangle) { return triangle.type() == 1; });
+    scene.vertexRectangles.clear();
+    const auto target = std::find_if(triangles.cbegin(), triangles.cend(),
+        [](const ColorTriangleObject &triangle) { return triangle.type() == ceiechart::TargetGamut; });
     if (target != triangles.cend() && !target->trianglePoint().isEmpty()) {
         const TrianglePoint &points = target->trianglePoint();
         for (const QPointF &position : {points.redPos(), points.greenPos(), points.bluePos(), points.whitePos()}) {
-            m_vertexRectangles.append(markAround(toImage(position)));
+            scene.vertexRectangles.append(markAround(scene.toImage(position)));
         }
     }
-    m_renderer->setPointData(m_vertexRectangles);
-    m_picture.reset(m_renderer->drawCEIPicture(
+    scene.renderer.setPointData(scene.vertexRectangles);
+    scene.picture.reset(scene.renderer.drawCEIPicture(
         imageWidth(), imageHeight(), isDrawCoordinate(), triangles, second, common, flag, text));
-}
-
-QPolygonF CEIEGraphicsScene::imagePolygon(const TrianglePoint &triangle)
-{
-    return QPolygonF({toImage(triangle.redPos()), toImage(triangle.greenPos()), toImage(triangle.bluePos())});
-}
-
-QImage *CEIEGraphicsScene::renderPicture()
-{
-    QImage *picture = m_renderer->drawCEIPicture(
-        imageWidth(), imageHeight(), isDrawCoordinate(), isDrawCoordinate(), isDrawWaveLength(), QList<QPointF>());
-    setSceneRect(0, 0, sceneSize.width(), sceneSize.height());
-    return picture;
 }
 
 void CEIEGraphicsScene::setCMYPointData(const QList<QPointF> &points)
 {
     QList<QRectF> marks;
     for (const QPointF &point : points) {
-        marks.append(markAround(toImage(point)));
+        marks.append(markAround(d->toImage(point)));
     }
-    m_renderer->setCMYPointData(marks);
-}
-
-void CEIEGraphicsScene::setGraphColor(QColor line, QColor picture)
-{
-    m_renderer->setGraphColor(line, picture);
+    own().renderer.setCMYPointData(marks);
 }
 
 void CEIEGraphicsScene::setBackgroudColor(const QColor &color)
 {
-    m_renderer->setBackgroudColor(color);
+    own().renderer.setBackgroudColor(color);
 }
 
 void CEIEGraphicsScene::setTargetItemVisable(bool) { }
 
 void CEIEGraphicsScene::chromaToCurCoordinate(QPointF &p)
 {
-    p = ChromaToCurCoordinate(p);
+    p = d->toScene(p);
 }
 
 QPointF CEIEGraphicsScene::ChromaToCurCoordinate(QPointF chroma)
 {
-    return QPointF(m_originX + m_unitLength * chroma.x(), m_originY - m_unitLength * chroma.y());
+    return d->toScene(chroma);
 }
 
 QPointF CEIEGraphicsScene::CurCoordinateToChroma(QPointF position)
 {
-    return QPointF((position.x() - m_originX) / m_unitLength, (m_originY - position.y()) / m_unitLength);
-}
-
-QPointF CEIEGraphicsScene::toImage(const QPointF &chroma)
-{
-    return m_renderer->CoordinateTransformation(chroma);
+    return d->toChroma(position);
 }
 
 bool CEIEGraphicsScene::CheckOriginalAndTarget(
     ColorTriangleObject original, ColorTriangleObject target, baseCommon::LEDColorType &beyond)
 {
-    return checkTarget(original, target, beyond);
+    return d->checkTarget(original, target, beyond);
 }
 
 bool CEIEGraphicsScene::SetEllipseDieplay(
     QPainter *painter, QPointF chroma, QSize size, NewCEIE::TabSelectedType tab, NewCEIE::ColorArea area)
 {
-    return displayEllipse(painter, chroma, size, tab, area);
+    return d->displayEllipse(painter, chroma, size, ceiechart::handleOfTab(tab), ceiechart::handleOfArea(area));
 }
 
 void CEIEGraphicsScene::keyPressEvent(QKeyEvent *event)
 {
-    keyPressed(event->key());
+    d->keyPressed(event->key());
 }
 
 void CEIEGraphicsScene::keyReleaseEvent(QKeyEvent *event)
 {
-    keyReleased(event->key());
+    d->keyReleased(event->key());
 }
 
 void CEIEGraphicsScene::mousePressEvent(QGraphicsSceneMouseEvent *) { }
@@ -139,7 +157,7 @@ void CEIEGraphicsScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *) { }
 
 void CEIEGraphicsScene::drawBackground(QPainter *painter, const QRectF &)
 {
-    drawPicture(painter, sceneRect(), views().isEmpty() ? sceneRect().size().toSize() : views().constFirst()->size());
+    d->drawPicture(painter);
 }
 
 } // namespace NewCEIE

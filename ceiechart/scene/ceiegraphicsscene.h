@@ -4,15 +4,9 @@
 
 #include <ceiechart/ceiechart_export.h>
 #include <ceiechart/model/chartenums.h>
-#include <ceiechart/scene/scenesignals.h>
-
-#include <QGraphicsScene>
-
-#include <memory>
+#include <ceiechart/scene/targetscene.h>
 
 namespace NewCEIE {
-
-class DrawCEIPicture;
 
 /*!
  * \brief The chart's scene: shows the rendered diagram as its background, keeps the gamuts and moves the target's
@@ -23,18 +17,20 @@ class DrawCEIPicture;
  *
  * The scene owns its renderer and its last picture. GUI thread only.
  */
-class CEIECHART_EXPORT CEIEGraphicsScene : public QGraphicsScene, public ceiechart::SceneSignals<CEIEGraphicsScene> {
+class CEIECHART_EXPORT CEIEGraphicsScene : public ceiechart::TargetScene {
     Q_OBJECT
 
 public:
     /*!
+     * \brief A scene of \a triangles.
+     *
      * With two or more \a triangles (original, target) the construction emits signal_triangleObjecIinitialized().
      * Nothing is rendered before getBitMap() or a setter that calls it.
      */
     explicit CEIEGraphicsScene(QList<ColorTriangleObject> triangles);
     ~CEIEGraphicsScene() override;
 
-    using TargetEditing::setLsColorTriangleObject;
+    using TargetScene::setLsColorTriangleObject;
     /*!
      * \brief Takes the gamuts and renders them at once.
      *
@@ -46,29 +42,27 @@ public:
      */
     void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles, const QList<ColorTriangleObject> &second,
         const TrianglePoint &first, const TrianglePoint &other, bool flag, const QString &text);
-    //! Marks CMY points (chromaticities) from the next rendering on.
+    /*! \brief Marks CMY points (chromaticities) from the next rendering on. */
     void setCMYPointData(const QList<QPointF> &points);
-    //! The renderer's colours from the next rendering on: \a line of edge and axes, \a picture of the whole.
-    void setGraphColor(QColor line, QColor picture);
-    //! The colour behind the horseshoe from the next rendering on.
+    /*! \brief The colour behind the horseshoe from the next rendering on. */
     void setBackgroudColor(const QColor &color);
-    //! Does nothing.
+    /*! \brief Does nothing. */
     void setTargetItemVisable(bool visible);
-    //! Converts \a p in place from chromaticity to scene coordinates.
+    /*! \brief Converts \a p in place from chromaticity to scene coordinates. */
     void chromaToCurCoordinate(QPointF &p);
 
 Q_SIGNALS:
-    //! A primary has been placed; carries the target after the change.
+    /*! \brief A primary has been placed; carries the target after the change. */
     void signal_colorGamutValueChanged(ColorTriangleObject colorTriangleObject);
-    //! Declared for hosts; nothing in the scene emits it.
+    /*! \brief Declared for hosts; nothing in the scene emits it. */
     void signal_colorGamutWhiteChanged(ColorTriangleObject colorTriangleObject);
-    //! The white-point handle has been drawn; whole kelvin.
+    /*! \brief The white-point handle has been drawn; whole kelvin. */
     void signal_colorTempertrueValueChang(double colorTempertureValue);
-    //! The space bar asks for an open hand.
+    /*! \brief The space bar asks for an open hand. */
     void signal_mouseCursorChange(QCursor mouseCursorStyle);
-    //! A white-point request has been accepted.
+    /*! \brief A white-point request has been accepted. */
     void signal_targetInfoChanged(TargetInfoChangedEventArgs targetInfoChangedEventArgs);
-    //! The gamuts at construction, and whether the target lies inside the original.
+    /*! \brief The gamuts at construction, and whether the target lies inside the original. */
     void signal_triangleObjecIinitialized(TriangleObjecIinitializedEventArgs triangleObjecIinitializedEventArgs);
 
 protected:
@@ -87,18 +81,47 @@ private:
     bool SetEllipseDieplay(
         QPainter *painter, QPointF chroma, QSize size, NewCEIE::TabSelectedType tab, NewCEIE::ColorArea area);
 
-    QPointF toScene(const QPointF &chroma) override { return ChromaToCurCoordinate(chroma); }
-    QPointF toChroma(const QPointF &position) override { return CurCoordinateToChroma(position); }
-    QPointF toImage(const QPointF &chroma) override;
-    QImage *renderPicture() override;
-    void drawFurtherSigns(QPainter *) override { }
-    QPolygonF imagePolygon(const TrianglePoint &triangle);
+    class Private;
+    Private &own() const;
 
-    std::unique_ptr<DrawCEIPicture> m_renderer;
-    QList<ColorTriangleObject> m_standards;
-    QList<QRectF> m_vertexRectangles;
+    using TargetScene::AddLedColorAndPoint;
+    using TargetScene::ClearSpeedUpStep;
+    using TargetScene::CompareBrightValue;
+    using TargetScene::ComparePointPosition;
+    using TargetScene::CompareSetBrightValueIsValid;
+    using TargetScene::convertPointF;
+    using TargetScene::CoordinateTransformation;
+    using TargetScene::DrawCenterEllipse;
+    using TargetScene::DrawEllipseSign;
+    using TargetScene::DrawEllipseSignPosition;
+    using TargetScene::DrawOtherPoint;
+    using TargetScene::DrawThreeEllipseSign;
+    using TargetScene::DrawVertexSign;
+    using TargetScene::GetColourTemperatureValue;
+    using TargetScene::GetEllipsePoint;
+    using TargetScene::GetIntersectionPoint;
+    using TargetScene::GetOriginalWhiteLight;
+    using TargetScene::GetPointInFences;
+    using TargetScene::GetSelectedEllipseSign;
+    using TargetScene::GetStraightLine;
+    using TargetScene::IsClickEllipseSign;
+    using TargetScene::IsEllipseAire;
+    using TargetScene::IsMagnifyEllispse;
+    using TargetScene::IsSelectedCenterEllipes;
+    using TargetScene::LimitInRectangle;
+    using TargetScene::MouseClickAire;
+    using TargetScene::MouseSelectedPoint;
+    using TargetScene::MoveCentreTriangle;
+    using TargetScene::MoveEllipseSign;
+    using TargetScene::RefreshEllipseSignPosition;
+    using TargetScene::round;
+    using TargetScene::SetCentreTriangle;
+    using TargetScene::SetControlGraphData;
+    using TargetScene::SetFunctionKeyShortcuts;
+    using TargetScene::SolveLinearSystem;
+    using TargetScene::SpeedUpThePace;
 };
 
 } // namespace NewCEIE
 
-#endif
+#endif // CEIECHART_SCENE_CEIEGRAPHICSSCENE_H

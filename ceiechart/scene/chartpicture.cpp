@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/scene/chartpicture.h>
+#include <ceiechart/scene/chartpicture_p.h>
 
 #include <QPainter>
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/model/chartenums.h>
 #include <ceiechart/scene/containment_p.h>
 #include <ceiechart/scene/fences_p.h>
 #include <ceiechart/scene/handlesizes_p.h>
-#include <ceiechart/scene/targetediting.h>
+#include <ceiechart/scene/targetscene_p.h>
 
 #include <QPainter>
 
@@ -25,14 +24,14 @@ QColor crossColor(Region region)
 
 } // namespace
 
-bool TargetEditing::DrawVertexSign(QPainter *painter)
+bool TargetScene::DrawVertexSign(QPainter *painter)
 {
     return DrawThreeEllipseSign(painter);
 }
 
-bool TargetEditing::DrawThreeEllipseSign(QPainter *painter)
+bool TargetScene::DrawThreeEllipseSign(QPainter *painter)
 {
-    if (!hasTarget()) {
+    if (!d->hasTarget()) {
         return false;
     }
     painter->save();
@@ -41,39 +40,35 @@ bool TargetEditing::DrawThreeEllipseSign(QPainter *painter)
     pen.setWidth(1);
     painter->setPen(pen);
 
-    const TrianglePoint target = qAsConst(m_triangles).at(1).trianglePoint();
-    const int big = handleSide(vertexHandleSize, m_zoom);
-    const int small = handleSide(centreHandleSize, m_zoom);
-    const auto display = [&](const QPointF &vertex, int tab, int area) {
-        const int side = m_selectedVertex == area ? big : small;
-        return displayEllipse(painter, vertex, QSize(side, side), tab, area);
+    const int big = handleSide(vertexHandleSize, d->zoom);
+    const int small = handleSide(centreHandleSize, d->zoom);
+    const auto display = [&](Handle primary) {
+        const int side = d->selectedVertex == primary ? big : small;
+        return d->displayEllipse(painter, d->targetPosition(primary), QSize(side, side), primary, primary);
     };
-    if (!display(target.redPos(), NewCEIE::TabSelectedRed, NewCEIE::ColorAreaRed)
-        || !display(target.greenPos(), NewCEIE::TabSelectedGreen, NewCEIE::ColorAreaGreen)
-        || !display(target.bluePos(), NewCEIE::TabSelectedBlue, NewCEIE::ColorAreaBlue)) {
-        return false;
-    }
+    const bool drawn = display(Handle::Red) && display(Handle::Green) && display(Handle::Blue);
     painter->restore();
-    return true;
+    return drawn;
 }
 
-bool TargetEditing::displayEllipse(QPainter *painter, QPointF chroma, QSize size, int tab, int area)
+bool TargetScene::Private::displayEllipse(
+    QPainter *painter, QPointF chroma, QSize size, std::optional<Handle> tab, std::optional<Handle> area)
 {
     painter->save();
     bool drawn = false;
-    if (tab == m_selectedTab) {
+    if (tab == selectedTab) {
         setPenColor(painter, Qt::black);
-        const int side = handleSide(vertexHandleSize, m_zoom);
-        drawn = DrawEllipseSign(painter, chroma, QSize(side, side));
+        const int side = handleSide(vertexHandleSize, zoom);
+        drawn = q->DrawEllipseSign(painter, chroma, QSize(side, side));
     } else {
-        setPenColor(painter, area == m_selectedVertex ? Qt::black : Qt::gray);
-        drawn = DrawEllipseSign(painter, chroma, size);
+        setPenColor(painter, area == selectedVertex ? Qt::black : Qt::gray);
+        drawn = q->DrawEllipseSign(painter, chroma, size);
     }
     painter->restore();
     return drawn;
 }
 
-bool TargetEditing::DrawEllipseSign(QPainter *painter, QPointF chroma, QSize size)
+bool TargetScene::DrawEllipseSign(QPainter *painter, QPointF chroma, QSize size)
 {
     painter->save();
     const QPointF p = GetEllipsePoint(chroma);
@@ -90,9 +85,9 @@ bool TargetEditing::DrawEllipseSign(QPainter *painter, QPointF chroma, QSize siz
     return true;
 }
 
-QPointF TargetEditing::GetEllipsePoint(QPointF chroma)
+QPointF TargetScene::GetEllipsePoint(QPointF chroma)
 {
-    return toScene(chroma);
+    return d->toScene(chroma);
 }
 
 } // namespace ceiechart

@@ -2,7 +2,6 @@
 #ifndef CEIECHART_SCENE_HANDLESIZES_P_H
 #define CEIECHART_SCENE_HANDLESIZES_P_H
 
-
 #include <ceiechart/diagram/arithmetic_p.h>
 
 namespace ceiechart {

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/model/chartenums.h>
 #include <ceiechart/scene/containment_p.h>
 #include <ceiechart/scene/fences_p.h>
 #include <ceiechart/scene/handlesizes_p.h>
-#include <ceiechart/scene/targetediting.h>
+#include <ceiechart/scene/targetscene_p.h>
+
+#include <algorithm>
+#include <iterator>
 
 namespace ceiechart {
 
 namespace {
+
+constexpr Handle primaries[] = {Handle::Red, Handle::Green, Handle::Blue};
 
 //! A position that is no number hits nothing.
 bool hits(const QPointF &handle, int side, const QPointF &position)
@@ -19,76 +23,57 @@ bool hits(const QPointF &handle, int side, const QPointF &position)
 
 } // namespace
 
-int TargetEditing::handleHitSide() const
+int TargetScene::Private::handleHitSide() const
 {
-    return handleSide(vertexHandleSize, m_zoom);
+    return handleSide(vertexHandleSize, zoom);
 }
 
 //! Where the handle was painted last or, until it has been, where it would be.
-QPointF TargetEditing::whiteHandlePosition()
+QPointF TargetScene::Private::whiteHandlePosition()
 {
-    return m_centreHandleDrawn ? m_centreHandlePoint : toScene(targetPoints().whitePos());
+    return centreHandleDrawn ? centreHandlePoint : toScene(targetPoints().whitePos());
 }
 
-void TargetEditing::MouseClickAire(QPointF position)
+void TargetScene::MouseClickAire(QPointF position)
 {
-    if (!hasTarget()) {
+    if (!d->hasTarget()) {
         return;
     }
-    switch (regionOf(narrowed(toChroma(position)))) {
-    case RedRegion:
-        m_selectedTab = NewCEIE::TabSelectedRed;
-        break;
-    case GreenRegion:
-        m_selectedTab = NewCEIE::TabSelectedGreen;
-        break;
-    case BlueRegion:
-        m_selectedTab = NewCEIE::TabSelectedBlue;
-        break;
-    case NoRegion:
-        m_selectedTab = NewCEIE::TabSelectedNone;
-        break;
-    }
+    d->selectedTab = handleOfRegion(regionOf(narrowed(d->toChroma(position))));
 }
 
-bool TargetEditing::IsClickEllipseSign(QPointF position)
+bool TargetScene::IsClickEllipseSign(QPointF position)
 {
-    if (!hasTarget()) {
+    if (!d->hasTarget()) {
         return false;
     }
-    const TrianglePoint &target = targetPoints();
-    for (const QPointF &vertex : {target.redPos(), target.greenPos(), target.bluePos()}) {
-        if (hits(toScene(vertex), handleHitSide(), position)) {
+    return std::any_of(std::begin(primaries), std::end(primaries),
+        [&](Handle handle) { return hits(d->toScene(d->targetPosition(handle)), d->handleHitSide(), position); });
+}
+
+bool TargetScene::IsSelectedCenterEllipes(QPointF position)
+{
+    d->centreSelected = d->hasTarget() && hits(d->whiteHandlePosition(), d->handleHitSide(), position);
+    return d->centreSelected;
+}
+
+bool TargetScene::IsEllipseAire(QPointF position)
+{
+    d->hovered = Handle::None;
+    if (!d->hasTarget()) {
+        return false;
+    }
+    const int side = d->handleHitSide();
+    for (const Handle handle : primaries) {
+        if (hits(d->toScene(d->targetPosition(handle)), side, position)) {
+            d->hovered = handle;
             return true;
         }
     }
-    return false;
-}
-
-bool TargetEditing::IsSelectedCenterEllipes(QPointF position)
-{
-    m_centreSelected = hasTarget() && hits(whiteHandlePosition(), handleHitSide(), position);
-    return m_centreSelected;
-}
-
-bool TargetEditing::IsEllipseAire(QPointF position)
-{
-    m_hoverTab = NewCEIE::TabSelectedNone;
-    if (!hasTarget()) {
-        return false;
+    if (hits(d->whiteHandlePosition(), side, position)) {
+        d->hovered = Handle::White;
     }
-    const TrianglePoint &target = targetPoints();
-    const int side = handleHitSide();
-    if (hits(toScene(target.redPos()), side, position)) {
-        m_hoverTab = NewCEIE::TabSelectedRed;
-    } else if (hits(toScene(target.greenPos()), side, position)) {
-        m_hoverTab = NewCEIE::TabSelectedGreen;
-    } else if (hits(toScene(target.bluePos()), side, position)) {
-        m_hoverTab = NewCEIE::TabSelectedBlue;
-    } else if (hits(whiteHandlePosition(), side, position)) {
-        m_hoverTab = NewCEIE::TabSelectedWhite;
-    }
-    return m_hoverTab != NewCEIE::TabSelectedNone;
+    return d->hovered != Handle::None;
 }
 
 } // namespace ceiechart

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/scene/targetediting.h>
+#include <ceiechart/scene/targetscene_p.h>
 
 #include <QCursor>
 
@@ -35,81 +35,81 @@ QPointF stepped(const QPointF &from, const QPoint &direction, float step)
 
 } // namespace
 
-void TargetEditing::keyPressed(int key)
+void TargetScene::Private::keyPressed(int key)
 {
-    if (m_restorePending) {
-        m_currentPoint = m_savedPoint;
-        m_restorePending = false;
+    if (restorePending) {
+        currentPoint = savedPoint;
+        restorePending = false;
     }
     float step = nudge;
-    m_savedPoint = m_currentPoint;
+    savedPoint = currentPoint;
 
     const QPoint direction = arrowDirection(key);
     if (!direction.isNull()) {
-        SpeedUpThePace(step, Qt::Key(key));
-        m_keyStepper.setLastKey(Qt::Key(key));
-        m_requestedPoint = stepped(m_currentPoint, direction, step);
-        if (m_vertexSelected) {
-            MoveEllipseSign();
-        } else if (m_centreSelected) {
-            m_currentPoint = m_centreHandlePoint;
-            m_requestedPoint = stepped(m_currentPoint, direction, step);
-            MoveCentreTriangle();
+        q->SpeedUpThePace(step, Qt::Key(key));
+        keyStepper.setLastKey(Qt::Key(key));
+        requestedPoint = stepped(currentPoint, direction, step);
+        if (vertexSelected) {
+            q->MoveEllipseSign();
+        } else if (centreSelected) {
+            currentPoint = centreHandlePoint;
+            requestedPoint = stepped(currentPoint, direction, step);
+            q->MoveCentreTriangle();
         }
     } else if (key == Qt::Key_Space) {
         reportCursor(QCursor(Qt::OpenHandCursor));
-        m_hand = true;
-        repaint();
+        hand = true;
+        q->update();
     }
-    m_hand = false;
-    m_keyStepper.countPress();
+    hand = false;
+    keyStepper.countPress();
 }
 
-void TargetEditing::keyReleased(int key)
+void TargetScene::Private::keyReleased(int key)
 {
     if (key == Qt::Key_Space) {
-        m_hand = false;
-        repaint();
-    } else if (m_outOfBounds) {
-        m_outOfBounds = false;
-        repaint();
+        hand = false;
+        q->update();
+    } else if (outOfBounds) {
+        outOfBounds = false;
+        q->update();
     }
 }
 
-void TargetEditing::SpeedUpThePace(float &step, Qt::Key key)
+void TargetScene::SpeedUpThePace(float &step, Qt::Key key)
 {
-    m_keyStepper.speedUp(step, key);
+    d->keyStepper.speedUp(step, key);
 }
 
-void TargetEditing::ClearSpeedUpStep()
+void TargetScene::ClearSpeedUpStep()
 {
-    m_keyStepper.clear();
+    d->keyStepper.clear();
 }
 
-void TargetEditing::SetFunctionKeyShortcuts()
+void TargetScene::SetFunctionKeyShortcuts()
 {
-    switch (m_functionKeyMode) {
-    case NoFunction:
-        m_magnifier = false;
-        m_hand = false;
+    switch (d->functionKeyMode) {
+    case Private::NoFunction:
+        d->magnifier = false;
+        d->hand = false;
         break;
-    case ZoomIn:
-        if (m_zoom <= zoomLimit) {
-            m_zoom += zoomStep;
-            m_magnifier = true;
-            m_hand = false;
-            repaint();
+    case Private::ZoomIn:
+        if (d->zoom <= zoomLimit) {
+            d->zoom += zoomStep;
+            d->magnifier = true;
+            d->hand = false;
+            update();
         }
         break;
-    case ZoomOut:
-        m_zoom -= zoomStep;
-        m_magnifier = true;
-        m_hand = false;
-        repaint();
+    case Private::ZoomOut:
+        d->zoom -= zoomStep;
+        d->magnifier = true;
+        d->hand = false;
+        update();
         break;
-    case MagnifierHand:
-        m_magnifier = true;
-        m_hand = true;
+    case Private::MagnifierHand:
+        d->magnifier = true;
+        d->hand = true;
         break;
     default:
         break;

@@ -2,7 +2,9 @@
 #include <ceiechart/atlas/chromasets.h>
 #include <ceiechart/scene/luminancebalance_p.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace ceiechart {
 
@@ -23,17 +25,17 @@ White whiteOf(const TrianglePoint &t)
     return white;
 }
 
-void setLuminances(TrianglePoint &t, double white)
+struct Luminances {
+    double red = 0.0, green = 0.0, blue = 0.0;
+};
+
+//! The luminances at which the primaries of \a t mix to its white position with the luminance \a white.
+Luminances luminancesFor(const TrianglePoint &t, double white)
 {
-    double red = 0.0;
-    double green = 0.0;
-    double blue = 0.0;
-    ChromaSets::RGBCxCyFromWhiteCxCy(red, t.redPos().x(), t.redPos().y(), green, t.greenPos().x(), t.greenPos().y(),
-        blue, t.bluePos().x(), t.bluePos().y(), white, t.whitePos().x(), t.whitePos().y());
-    t.setRedLum(red);
-    t.setGreenLum(green);
-    t.setBlueLum(blue);
-    t.setWhiteLum(white);
+    Luminances found;
+    ChromaSets::RGBCxCyFromWhiteCxCy(found.red, t.redPos().x(), t.redPos().y(), found.green, t.greenPos().x(),
+        t.greenPos().y(), found.blue, t.bluePos().x(), t.bluePos().y(), white, t.whitePos().x(), t.whitePos().y());
+    return found;
 }
 
 bool outOfRange(double luminance, double limit)
@@ -41,10 +43,61 @@ bool outOfRange(double luminance, double limit)
     return luminance < 0 || luminance > limit + std::fabs(limit) * relativeTolerance;
 }
 
-bool deliverable(const TrianglePoint &target, const TrianglePoint &original)
+bool deliverable(const Luminances &wanted, const TrianglePoint &original)
 {
-    return !outOfRange(target.redLum(), original.redLum()) && !outOfRange(target.greenLum(), original.greenLum())
-        && !outOfRange(target.blueLum(), original.blueLum());
+    return !outOfRange(wanted.red, original.redLum()) && !outOfRange(wanted.green, original.greenLum())
+        && !outOfRange(wanted.blue, original.blueLum());
+}
+
+/*!
+ * \a white after \a steps subtractions of 10, each rounded to double precision.
+ *
+ * Up to 2^54 every one of them is exact. Above, the difference is rounded to a multiple of the spacing of the numbers,
+ * which makes equal steps of another size between two powers of two.
+ */
+double lowered(double white, std::uint64_t steps)
+{
+    constexpr double exactUpTo = 18014398509481984.0; // 2^54
+    while (steps > 0 && white > exactUpTo) {
+        white -= step;
+        --steps;
+        const double taken = white - (white - step);
+        const double room = white - std::ldexp(1.0, std::ilogb(white)) - step;
+        const auto alike = room < 0 ? 0 : std::min(steps, static_cast<std::uint64_t>(room / taken) + 1);
+        white -= static_cast<double>(alike) * taken;
+        steps -= alike;
+    }
+    return white - static_cast<double>(steps) * step;
+}
+
+//! The least number of steps from \a first to \a last for which \a holds; it holds for all later ones too.
+template <typename Predicate>
+std::uint64_t firstThat(std::uint64_t first, std::uint64_t last, const Predicate &holds)
+{
+    while (first < last) {
+        const std::uint64_t middle = first + (last - first) / 2;
+        if (holds(middle)) {
+            last = middle;
+        } else {
+            first = middle + 1;
+        }
+    }
+    return first;
+}
+
+//! The white luminance, lowered step by step from \a start, at which \a original can deliver the white of \a target.
+double balancedWhite(const TrianglePoint &target, const TrianglePoint &original, double start)
+{
+    const auto ends = [&](double white) {
+        return deliverable(luminancesFor(target, white), original) || white < step;
+    };
+    if (ends(start) || !std::isfinite(start) || start - step == start) {
+        return start;
+    }
+    // One step after the other finds the same end, but takes years when the luminance is absurd. No luminance that a
+    // step changes takes more steps than there are multiples of 4 up to 2^57.
+    constexpr std::uint64_t mostSteps = std::uint64_t(1) << 55;
+    return lowered(start, firstThat(1, mostSteps, [&](std::uint64_t steps) { return ends(lowered(start, steps)); }));
 }
 
 } // namespace
@@ -58,29 +111,12 @@ void mixWhite(TrianglePoint &target)
 
 void balanceHeldWhite(TrianglePoint &target, const TrianglePoint &original)
 {
-    const double start = whiteOf(original).luminance;
-    // Ends the lowering at this many steps; true for all later ones as the luminances fall with the white.
-    const auto endsAt = [&](double steps) {
-        const double white = start - steps * step;
-        setLuminances(target, white);
-        return deliverable(target, original) || white < step;
-    };
-    if (endsAt(0) || !std::isfinite(start) || start - step == start) {
-        return;
-    }
-
-    // One step after the other finds the same end, but takes minutes when the luminance is absurd.
-    double before = 0;
-    double end = 1;
-    while (!endsAt(end)) {
-        before = end;
-        end *= 2;
-    }
-    while (end - before > 1) {
-        const double middle = std::floor((before + end) / 2);
-        (endsAt(middle) ? end : before) = middle;
-    }
-    endsAt(end);
+    const double white = balancedWhite(target, original, whiteOf(original).luminance);
+    const Luminances luminances = luminancesFor(target, white);
+    target.setRedLum(luminances.red);
+    target.setGreenLum(luminances.green);
+    target.setBlueLum(luminances.blue);
+    target.setWhiteLum(white);
 }
 
 } // namespace ceiechart

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/atlas/chromasets.h>
-#include <ceiechart/model/chartenums.h>
+#include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/scene/containment_p.h>
 #include <ceiechart/scene/handlesizes_p.h>
-#include <ceiechart/scene/targetediting.h>
+#include <ceiechart/scene/targetscene_p.h>
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -32,7 +32,9 @@ void strokeLegibly(QPainter *painter, const QPainterPath &path)
 QPainterPath circle(const QPointF &centre, double radius)
 {
     QPainterPath path;
-    path.addEllipse(centre, radius, radius);
+    if (isFinite(centre)) {
+        path.addEllipse(centre, radius, radius);
+    }
     return path;
 }
 
@@ -40,6 +42,9 @@ QPainterPath circle(const QPointF &centre, double radius)
 QPainterPath crosshair(const QPointF &centre, double from, double to)
 {
     QPainterPath path;
+    if (!isFinite(centre)) {
+        return path;
+    }
     for (const QPointF &direction : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)}) {
         path.moveTo(centre + direction * from);
         path.lineTo(centre + direction * to);
@@ -49,51 +54,51 @@ QPainterPath crosshair(const QPointF &centre, double from, double to)
 
 } // namespace
 
-void TargetEditing::DrawCenterEllipse(QPainter *painter)
+void TargetScene::DrawCenterEllipse(QPainter *painter)
 {
-    if (!hasTarget()) {
+    if (!d->hasTarget()) {
         return;
     }
     // refreshArea() may have cleared the white since: the handle stays where the white was.
-    if (!targetPoints().whitePos().isNull()) {
-        m_centreHandleChroma = targetPoints().whitePos();
+    if (!d->targetPoints().whitePos().isNull()) {
+        d->centreHandleChroma = d->targetPoints().whitePos();
     }
-    if (m_centreHandleChroma.isNull()) {
+    if (d->centreHandleChroma.isNull()) {
         return;
     }
-    m_centreHandlePoint = toScene(m_centreHandleChroma);
-    m_centreHandleDrawn = true;
+    d->centreHandlePoint = d->toScene(d->centreHandleChroma);
+    d->centreHandleDrawn = true;
 
-    const double radius = std::max(handleSide(centreHandleSize, m_zoom), 0);
+    const double radius = std::max(handleSide(centreHandleSize, d->zoom), 0);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, true);
-    QPainterPath sign = circle(m_centreHandlePoint, radius);
-    sign.addPath(crosshair(m_centreHandlePoint, radius / 3, radius));
+    QPainterPath sign = circle(d->centreHandlePoint, radius);
+    sign.addPath(crosshair(d->centreHandlePoint, radius / 3, radius));
     strokeLegibly(painter, sign);
     painter->restore();
 
-    const PointF shown = narrowed(m_centreHandleChroma);
-    m_handleTemperature = 0;
-    ChromaSets::GetColorTemperatureNew(double(shown.x), double(shown.y), m_handleTemperature);
-    reportColorTemperature(m_handleTemperature);
+    const PointF shown = narrowed(d->centreHandleChroma);
+    d->handleTemperature = 0;
+    ChromaSets::GetColorTemperatureNew(double(shown.x), double(shown.y), d->handleTemperature);
+    d->reportColorTemperature(d->handleTemperature);
 }
 
-bool TargetEditing::IsMagnifyEllispse(QPainter *painter)
+bool TargetScene::IsMagnifyEllispse(QPainter *painter)
 {
-    if (!m_magnifier || !hasTarget() || m_picture.isNull() || m_backgroundTarget.isEmpty()) {
+    if (!d->magnifier || !d->hasTarget() || d->picture.isNull() || d->backgroundTarget.isEmpty()) {
         return false;
     }
-    const QPointF handle = whiteHandlePosition();
+    const QPointF handle = d->whiteHandlePosition();
     // Towards the middle of the picture, where there is room for the lens.
-    const QPointF middle = m_backgroundTarget.center();
+    const QPointF middle = d->backgroundTarget.center();
     const QPointF lens = handle
         + QPointF(handle.x() < middle.x() ? lensDistance : -lensDistance,
             handle.y() < middle.y() ? lensDistance : -lensDistance);
 
-    const double scaleX = m_picture.size().width() / m_backgroundTarget.width();
-    const double scaleY = m_picture.size().height() / m_backgroundTarget.height();
+    const double scaleX = d->picture.size().width() / d->backgroundTarget.width();
+    const double scaleY = d->picture.size().height() / d->backgroundTarget.height();
     const double reach = lensRadius / lensMagnification;
-    const QPointF seen = handle - m_backgroundTarget.topLeft();
+    const QPointF seen = handle - d->backgroundTarget.topLeft();
     const QRectF source(
         (seen.x() - reach) * scaleX, (seen.y() - reach) * scaleY, 2 * reach * scaleX, 2 * reach * scaleY);
 
@@ -102,7 +107,7 @@ bool TargetEditing::IsMagnifyEllispse(QPainter *painter)
     const QPainterPath rim = circle(lens, lensRadius);
     painter->setClipPath(rim, Qt::IntersectClip);
     painter->fillPath(rim, Qt::black);
-    m_picture.drawPart(
+    d->picture.drawPart(
         painter, QRectF(lens.x() - lensRadius, lens.y() - lensRadius, 2 * lensRadius, 2 * lensRadius), source);
     strokeLegibly(painter, crosshair(lens, 4, 12));
     painter->restore();
@@ -114,30 +119,27 @@ bool TargetEditing::IsMagnifyEllispse(QPainter *painter)
     return true;
 }
 
-void TargetEditing::DrawOtherPoint(QPainter *painter)
+void TargetScene::DrawOtherPoint(QPainter *painter)
 {
-    const double radius = std::max(handleSide(centreHandleSize, m_zoom), 0) / 2.0;
+    const double radius = std::max(handleSide(centreHandleSize, d->zoom), 0) / 2.0;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, true);
-    for (int i = 0; i < m_otherPoints.size(); ++i) {
-        const QColor color = i < m_otherPointColors.size() ? m_otherPointColors.at(i) : QColor(Qt::white);
-        const QPainterPath mark = circle(toScene(m_otherPoints.at(i)), radius);
+    for (int i = 0; i < d->otherPoints.size(); ++i) {
+        const QColor color = i < d->otherPointColors.size() ? d->otherPointColors.at(i) : QColor(Qt::white);
+        const QPainterPath mark = circle(d->toScene(d->otherPoints.at(i)), radius);
         strokeLegibly(painter, mark);
         painter->fillPath(mark, color.isValid() ? color : QColor(Qt::white));
     }
     painter->restore();
 }
 
-void TargetEditing::DrawEllipseSignPosition(QPainter *painter)
+void TargetScene::DrawEllipseSignPosition(QPainter *painter)
 {
-    if (!hasTarget() || m_selectedVertex == NewCEIE::ColorAreaNone) {
+    if (!d->hasTarget() || d->selectedVertex == Handle::None) {
         return;
     }
-    const TrianglePoint &target = targetPoints();
-    const QPointF chroma = m_selectedVertex == NewCEIE::ColorAreaRed ? target.redPos()
-        : m_selectedVertex == NewCEIE::ColorAreaGreen                ? target.greenPos()
-                                                                     : target.bluePos();
-    const QPointF shown = toDiagram(chroma);
+    const QPointF chroma = d->targetPosition(d->selectedVertex);
+    const QPointF shown = d->toDiagram(chroma);
     const QString text = QStringLiteral("(%1, %2)").arg(round(shown.x())).arg(round(shown.y()));
 
     painter->save();
@@ -148,9 +150,13 @@ void TargetEditing::DrawEllipseSignPosition(QPainter *painter)
     // Beside the handle, on the side where the picture has room, clear of it at every zoom.
     const QFontMetrics metrics(font);
     const QSizeF box(metrics.horizontalAdvance(text) + 8, metrics.height() + 4);
-    const double clearance = std::max(handleSide(vertexHandleSize, m_zoom), 0) / 2.0 + 6;
-    const QPointF handle = toScene(chroma);
-    const bool roomAtRight = handle.x() + clearance + box.width() <= m_imageWidth;
+    const double clearance = std::max(handleSide(vertexHandleSize, d->zoom), 0) / 2.0 + 6;
+    const QPointF handle = d->toScene(chroma);
+    if (!isFinite(handle)) {
+        painter->restore();
+        return;
+    }
+    const bool roomAtRight = handle.x() + clearance + box.width() <= d->imageWidth;
     const QRectF place(QPointF(roomAtRight ? handle.x() + clearance : handle.x() - clearance - box.width(),
                            handle.y() - box.height() / 2),
         box);

@@ -3,144 +3,139 @@
 #include <ceiechart/scene/fences_p.h>
 #include <ceiechart/scene/luminancebalance_p.h>
 #include <ceiechart/scene/straightlines_p.h>
-#include <ceiechart/scene/targetediting.h>
-
-#include <ceiechart/model/chartenums.h>
+#include <ceiechart/scene/targetscene_p.h>
 
 #include <algorithm>
 
 namespace ceiechart {
 
-PointF TargetEditing::convertPointF(QPointF point)
+PointF TargetScene::convertPointF(QPointF point)
 {
     return narrowed(point);
 }
 
-void TargetEditing::MoveEllipseSign()
+void TargetScene::MoveEllipseSign()
 {
-    const PointF requested = narrowed(toChroma(m_requestedPoint));
-    if (polygonContains(requested, m_originalVertices.toArray()) && m_editMode == EverythingEditable) {
-        m_outOfBounds = false;
+    const PointF requested = narrowed(d->toChroma(d->requestedPoint));
+    if (polygonContains(requested, d->originalVertices.toArray()) && d->editMode == Private::EverythingEditable) {
+        d->outOfBounds = false;
         RefreshEllipseSignPosition();
     } else {
-        m_outOfBounds = true;
-        repaint();
+        d->outOfBounds = true;
+        update();
     }
 }
 
-void TargetEditing::RefreshEllipseSignPosition()
+void TargetScene::RefreshEllipseSignPosition()
 {
-    if (hasTarget() && regionOf(narrowed(toChroma(m_requestedPoint))) == m_selectedRegion) {
+    if (d->hasTarget() && regionOf(narrowed(d->toChroma(d->requestedPoint))) == d->selectedRegion) {
         AddLedColorAndPoint();
     }
 }
 
-void TargetEditing::AddLedColorAndPoint()
+void TargetScene::AddLedColorAndPoint()
 {
-    const QPointF chroma = toChroma(m_requestedPoint);
-    m_selectedRegion = regionOf(narrowed(chroma));
-    m_currentPoint = m_requestedPoint;
-    if (!hasTarget()) {
+    const QPointF chroma = d->toChroma(d->requestedPoint);
+    d->selectedRegion = regionOf(narrowed(chroma));
+    d->currentPoint = d->requestedPoint;
+    if (!d->hasTarget()) {
         return;
     }
 
-    TrianglePoint &target = targetPoints();
-    switch (m_selectedRegion) {
+    TrianglePoint &target = d->targetPoints();
+    switch (d->selectedRegion) {
     case RedRegion:
         target.setRedPos(chroma);
-        m_selectedVertex = NewCEIE::ColorAreaRed;
         break;
     case GreenRegion:
         target.setGreenPos(chroma);
-        m_selectedVertex = NewCEIE::ColorAreaGreen;
         break;
     case BlueRegion:
         target.setBluePos(chroma);
-        m_selectedVertex = NewCEIE::ColorAreaBlue;
         break;
-    default:
-        m_selectedVertex = NewCEIE::ColorAreaNone;
+    case NoRegion:
         break;
     }
-    m_vertexSelected = m_selectedRegion != NoRegion;
+    d->selectedVertex = handleOfRegion(d->selectedRegion);
+    d->vertexSelected = d->selectedVertex != Handle::None;
 
-    if (m_whiteHeld) {
-        balanceHeldWhite(target, qAsConst(m_triangles).first().trianglePoint());
+    if (d->whiteHeld) {
+        balanceHeldWhite(target, qAsConst(d->triangles).first().trianglePoint());
     } else {
         mixWhite(target);
     }
-    repaint();
-    reportGamutValue(m_triangles.at(1));
+    update();
+    d->reportGamutValue(d->triangles.at(1));
 }
 
-void TargetEditing::MoveCentreTriangle()
+void TargetScene::MoveCentreTriangle()
 {
-    if (m_editMode == WhiteLocked) {
-        m_whiteMoved = false;
+    if (d->editMode == Private::WhiteLocked) {
+        d->whiteMoved = false;
         return;
     }
     SetCentreTriangle();
-    const bool inside = polygonContains(narrowed(toChroma(m_requestedPoint)), m_targetVertices.toArray());
-    if (!hasTarget()) {
+    const bool inside = polygonContains(narrowed(d->toChroma(d->requestedPoint)), d->targetVertices.toArray());
+    if (!d->hasTarget()) {
         return;
     }
     if (!inside && CompareBrightValue()) {
-        m_whiteMoved = false;
+        d->whiteMoved = false;
         return;
     }
-    m_whiteMoved = true;
-    repaint();
-    refreshTargetReport();
-    reportTarget(m_targetReport);
+    d->whiteMoved = true;
+    update();
+    d->refreshTargetReport();
+    d->reportTarget(d->targetReport);
 }
 
-void TargetEditing::MouseSelectedPoint(QPointF position)
+void TargetScene::MouseSelectedPoint(QPointF position)
 {
-    m_requestedPoint = position;
-    if (IsSelectedCenterEllipes(position) && m_editMode != WhiteLocked) {
+    d->requestedPoint = position;
+    if (IsSelectedCenterEllipes(position) && d->editMode != Private::WhiteLocked) {
         MoveCentreTriangle();
-        repaint();
-    } else if (m_editMode == EverythingEditable) {
+        update();
+    } else if (d->editMode == Private::EverythingEditable) {
         IsClickEllipseSign(position);
         AddLedColorAndPoint();
     }
 }
 
-bool TargetEditing::GetPointInFences(QPointF position)
+bool TargetScene::GetPointInFences(QPointF position)
 {
-    return regionOf(narrowed(toChroma(position))) != NoRegion;
+    return regionOf(narrowed(d->toChroma(position))) != NoRegion;
 }
 
-QPointF TargetEditing::LimitInRectangle(QPointF position)
+QPointF TargetScene::LimitInRectangle(QPointF position)
 {
-    return QPointF(std::clamp(position.x(), 0.0, double(std::max(m_imageWidth, 0))),
-        std::clamp(position.y(), 0.0, double(std::max(m_imageHeight, 0))));
+    return QPointF(std::clamp(position.x(), 0.0, double(std::max(d->imageWidth, 0))),
+        std::clamp(position.y(), 0.0, double(std::max(d->imageHeight, 0))));
 }
 
-void TargetEditing::GetSelectedEllipseSign(QPointF position)
+void TargetScene::GetSelectedEllipseSign(QPointF position)
 {
-    if (!hasTarget()) {
+    if (!d->hasTarget()) {
         return;
     }
-    const QPointF chroma = toChroma(position);
-    const TrianglePoint &original = qAsConst(m_triangles).at(0).trianglePoint();
-    const TrianglePoint &target = qAsConst(m_triangles).at(1).trianglePoint();
-    switch (m_selectedTab) {
-    case NewCEIE::TabSelectedRed:
+    const QPointF chroma = d->toChroma(position);
+    const TrianglePoint &original = qAsConst(d->triangles).at(0).trianglePoint();
+    const TrianglePoint &target = qAsConst(d->triangles).at(1).trianglePoint();
+    switch (d->selectedTab) {
+    case Handle::Red:
         if (original.redPos().y() > chroma.y()) {
             GetIntersectionPoint(original.bluePos(), original.redPos(), chroma, target.greenPos());
         } else {
             GetIntersectionPoint(original.greenPos(), original.redPos(), chroma, target.bluePos());
         }
         break;
-    case NewCEIE::TabSelectedGreen:
+    case Handle::Green:
         if (chroma.x() >= original.greenPos().x()) {
             GetIntersectionPoint(original.greenPos(), original.redPos(), chroma, target.bluePos());
         } else {
             GetIntersectionPoint(original.bluePos(), original.greenPos(), chroma, target.redPos());
         }
         break;
-    case NewCEIE::TabSelectedBlue:
+    case Handle::Blue:
         if (chroma.x() > original.bluePos().x()) {
             GetIntersectionPoint(original.redPos(), original.bluePos(), chroma, target.greenPos());
         } else {
@@ -152,27 +147,27 @@ void TargetEditing::GetSelectedEllipseSign(QPointF position)
     }
 }
 
-bool TargetEditing::GetIntersectionPoint(QPointF edgeFrom, QPointF edgeTo, QPointF position, QPointF vertex)
+bool TargetScene::GetIntersectionPoint(QPointF edgeFrom, QPointF edgeTo, QPointF position, QPointF vertex)
 {
     QPointF crossing;
     if (!intersection(edgeFrom, edgeTo, position, vertex, crossing)) {
         return false;
     }
-    m_requestedPoint = toScene(ComparePointPosition(crossing, edgeFrom, edgeTo));
+    d->requestedPoint = d->toScene(ComparePointPosition(crossing, edgeFrom, edgeTo));
     return true;
 }
 
-bool TargetEditing::GetStraightLine(QPointF p, QPointF q, double &k, double &b)
+bool TargetScene::GetStraightLine(QPointF p, QPointF q, double &k, double &b)
 {
     return straightLine(p, q, k, b);
 }
 
-bool TargetEditing::SolveLinearSystem(double k1, double b1, double k2, double b2, QPointF &result)
+bool TargetScene::SolveLinearSystem(double k1, double b1, double k2, double b2, QPointF &result)
 {
     return solveLinearSystem(k1, b1, k2, b2, result);
 }
 
-QPointF TargetEditing::ComparePointPosition(QPointF point, QPointF edgeFrom, QPointF edgeTo)
+QPointF TargetScene::ComparePointPosition(QPointF point, QPointF edgeFrom, QPointF edgeTo)
 {
     return heldToEdge(point, edgeFrom, edgeTo);
 }

@@ -1,43 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/widgets/ceiegraphicsview.h>
+#include <ceiechart/widgets/ceiegraphicsview_p.h>
 
-#include <ceiechart/scene/ceiegraphicsscene.h>
-#include <ceiechart/widgets/chartparts_p.h>
+#include <ceiechart/diagram/gamutstyle.h>
 
 #include <QLabel>
-
-#include <algorithm>
-#include <cmath>
-
-template class ceiechart::ChartParts<NewCEIE::CEIEGraphicsScene, NewCEIE::NQCEIEGraphicsView, NewCEIE::CEIELegend>;
 
 namespace NewCEIE {
 
 namespace {
 
-enum GamutKind { StandardGamut = 0, TargetGamut = 1, OriginalGamut = 2, MeasuredGamut = 3 };
-
-constexpr int outlineWidth = 2;
-
-struct StandardStyle {
-    const char *name;
-    int alpha;
-    double opacity;
-};
-
-constexpr StandardStyle standardStyles[] = {{"Rec.709", 17, 0.07}, {"Rec.2020", 51, 0.1}, {"DCI-P3(D65)", 25, 0.05}};
-
 QPolygonF vertices(const TrianglePoint &triangle)
 {
     return QPolygonF({triangle.redPos(), triangle.greenPos(), triangle.bluePos()});
-}
-
-//! Qt's clipper fails on coordinates that are no numbers, or so large that their squares are none.
-bool canBeClipped(const QPolygonF &polygon)
-{
-    constexpr double farthest = 1e6;
-    return std::all_of(polygon.cbegin(), polygon.cend(),
-        [](const QPointF &point) { return std::fabs(point.x()) <= farthest && std::fabs(point.y()) <= farthest; });
 }
 
 int centred(int outer, int inner)
@@ -45,44 +19,100 @@ int centred(int outer, int inner)
     return static_cast<int>((static_cast<qint64>(outer) - inner) / 2);
 }
 
+TrianglePoint triangleOf(const Model::ColorGamut &gamut)
+{
+    TrianglePoint triangle;
+    ceiechart::copyGamut(gamut.getTargets(), triangle);
+    return triangle;
+}
+
+ColorTriangleObject drawnGamut(
+    const TrianglePoint &triangle, ceiechart::GamutKind kind, const ceiechart::GamutStyle &style)
+{
+    ColorTriangleObject object;
+    object.setTrianglePoint(triangle);
+    object.setForeColor(style.color);
+    object.setTrigleLineWidth(style.width);
+    object.setType(kind);
+    object.setOpacity(style.opacity);
+    return object;
+}
+
 } // namespace
 
+void CEIEGraphicsView::Private::beginGamuts(const QList<Model::ColorGamut> &standards)
+{
+    triangles.clear();
+    standardTriangles.clear();
+    targetTriangle = TrianglePoint();
+    originalTriangle = TrianglePoint();
+    tell(&ceiechart::TargetScene::getBitMap);
+    if (!showStandard) {
+        return;
+    }
+    for (const Model::ColorGamut &standard : standards) {
+        if (const auto style = ceiechart::currentChartStandardStyle(standard.colorGamutName())) {
+            standardTriangles.append(drawnGamut(triangleOf(standard), ceiechart::StandardGamut, *style));
+        }
+    }
+}
+
+void CEIEGraphicsView::Private::addGamut(const TrianglePoint &triangle, ceiechart::GamutKind kind, bool besideMeasured)
+{
+    triangles.append(drawnGamut(triangle, kind, ceiechart::currentChartStyle(kind, besideMeasured)));
+}
+
+void CEIEGraphicsView::Private::addTarget(
+    const Model::ColorGamut &target, const TrianglePoint &triangle, bool besideMeasured)
+{
+    if (showTarget) {
+        addGamut(triangle, ceiechart::TargetGamut, besideMeasured);
+        triangles.last().setShow(!target.colorGamutName().empty());
+    }
+}
+
 CEIEGraphicsView::CEIEGraphicsView(QWidget *parent)
-    : QFrame(parent)
-    , m_parts(this)
+    : ChartFrame(std::make_unique<Private>(), parent)
 {
     buildUI(false, Qt::AlignBottom);
 }
 
 CEIEGraphicsView::CEIEGraphicsView(bool, QWidget *parent)
-    : QFrame(parent)
-    , m_parts(this)
+    : ChartFrame(std::make_unique<Private>(), parent)
 {
     buildUI(true, Qt::AlignBottom);
 }
 
 CEIEGraphicsView::CEIEGraphicsView(bool, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent)
-    : QFrame(parent)
-    , m_parts(this)
+    : ChartFrame(std::make_unique<Private>(), parent)
 {
     buildUI(true, alignment);
 }
 
 CEIEGraphicsView::~CEIEGraphicsView() = default;
 
+CEIEGraphicsView::Private &CEIEGraphicsView::own() const
+{
+    return static_cast<Private &>(*d);
+}
+
 void CEIEGraphicsView::setColorGamut(const Model::ColorGamut &target, const Model::ColorGamut &original,
     const Model::ColorGamut &measured, const QList<Model::ColorGamut> &standards)
 {
-    beginGamuts(standards);
-    const TrianglePoint originalTriangle
-        = addGamut(original, QColor(13, 189, 73, 255), OriginalGamut, m_isShowOriginal);
-    const TrianglePoint measuredTriangle
-        = addGamut(measured, QColor(27, 241, 255, 255), MeasuredGamut, m_isShowMeasure);
-    const TrianglePoint targetTriangle = addTarget(target);
-    if (m_isShowActual) {
-        m_targetOrgIntersected = getTargetOrgIntersected(targetTriangle, measuredTriangle);
-        m_targetTriangle = targetTriangle;
-        m_originalTriangle = originalTriangle;
+    Private &chart = own();
+    const TrianglePoint targetTriangle = triangleOf(target);
+    const TrianglePoint originalTriangle = triangleOf(original);
+    chart.beginGamuts(standards);
+    if (chart.showOriginal) {
+        chart.addGamut(originalTriangle, ceiechart::OriginalGamut, true);
+    }
+    if (chart.showMeasure) {
+        chart.addGamut(triangleOf(measured), ceiechart::MeasuredGamut, true);
+    }
+    chart.addTarget(target, targetTriangle, true);
+    if (chart.showActual) {
+        chart.targetTriangle = targetTriangle;
+        chart.originalTriangle = originalTriangle;
     }
     updateLanGamut(true, QString());
 }
@@ -90,14 +120,17 @@ void CEIEGraphicsView::setColorGamut(const Model::ColorGamut &target, const Mode
 void CEIEGraphicsView::setColorGamut(
     const Model::ColorGamut &target, const Model::ColorGamut &original, const QList<Model::ColorGamut> &standards)
 {
-    beginGamuts(standards);
-    const TrianglePoint originalTriangle
-        = addGamut(original, QColor(22, 241, 255, 255), OriginalGamut, m_isShowOriginal);
-    const TrianglePoint targetTriangle = addTarget(target);
-    if (m_isShowActual) {
-        m_targetOrgIntersected = getTargetOrgIntersected(targetTriangle, originalTriangle);
-        m_targetTriangle = targetTriangle;
-        m_originalTriangle = originalTriangle;
+    Private &chart = own();
+    const TrianglePoint targetTriangle = triangleOf(target);
+    const TrianglePoint originalTriangle = triangleOf(original);
+    chart.beginGamuts(standards);
+    if (chart.showOriginal) {
+        chart.addGamut(originalTriangle, ceiechart::OriginalGamut, false);
+    }
+    chart.addTarget(target, targetTriangle, false);
+    if (chart.showActual) {
+        chart.targetTriangle = targetTriangle;
+        chart.originalTriangle = originalTriangle;
     }
     updateLanGamut(true, QString());
 }
@@ -109,32 +142,74 @@ void CEIEGraphicsView::colorGamutToTriangle(const Model::ColorGamut &gamut, Tria
 
 void CEIEGraphicsView::updateLanGamut(bool flag, const QString &text)
 {
-    m_parts.scene()->setLsColorTriangleObject(
-        m_parts.triangles(), m_standardTriangles, m_targetTriangle, m_originalTriangle, flag, text);
-    m_parts.scene()->setTargetItemVisable(m_isShowTarget);
+    const Private &chart = own();
+    if (CEIEGraphicsScene *scene = chart.typedScene()) {
+        scene->setLsColorTriangleObject(
+            chart.triangles, chart.standardTriangles, chart.targetTriangle, chart.originalTriangle, flag, text);
+        scene->setTargetItemVisable(chart.showTarget);
+    }
     updateMixInfo(text);
 }
 
 void CEIEGraphicsView::setCMYPointData(const QList<QPointF> &points)
 {
-    m_parts.scene()->setCMYPointData(points);
+    if (CEIEGraphicsScene *scene = own().typedScene()) {
+        scene->setCMYPointData(points);
+    }
 }
 
 void CEIEGraphicsView::setBackgroudColor(const QColor &color)
 {
-    m_parts.scene()->setBackgroudColor(color);
+    if (CEIEGraphicsScene *scene = own().typedScene()) {
+        scene->setBackgroudColor(color);
+    }
 }
 
 void CEIEGraphicsView::setGraphColor(QColor first, QColor second)
 {
-    m_parts.setGraphColor(first, second);
-    m_parts.view()->setStyleSheet(QStringLiteral("background-color: white;"));
+    d->tell(&ceiechart::TargetScene::setGraphColor, first, second);
+    d->view->setStyleSheet(QStringLiteral("background-color: white;"));
+}
+
+void CEIEGraphicsView::setIsShowStandard(bool show)
+{
+    own().showStandard = show;
+}
+
+void CEIEGraphicsView::setIsShowTarget(bool show)
+{
+    own().showTarget = show;
+}
+
+void CEIEGraphicsView::setIsShowOriginal(bool show)
+{
+    own().showOriginal = show;
+}
+
+void CEIEGraphicsView::setIsShowActual(bool show)
+{
+    own().showActual = show;
+}
+
+void CEIEGraphicsView::setIsShowMeasure(bool show)
+{
+    own().showMeasure = show;
 }
 
 void CEIEGraphicsView::setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment)
 {
     setLegendAlignamentCommon(alignment);
-    m_parts.legend()->setLegendAlignament(alignment);
+    getLegend()->setLegendAlignament(alignment);
+}
+
+CEIELegend *CEIEGraphicsView::getLegend() const
+{
+    return static_cast<CEIELegend *>(d->legend);
+}
+
+NQCEIEGraphicsView *CEIEGraphicsView::view() const
+{
+    return static_cast<NQCEIEGraphicsView *>(d->view);
 }
 
 void CEIEGraphicsView::resizeEvent(QResizeEvent *event)
@@ -145,97 +220,53 @@ void CEIEGraphicsView::resizeEvent(QResizeEvent *event)
 
 void CEIEGraphicsView::buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignment)
 {
-    m_parts.makeView();
-    m_parts.prepareView();
-    m_parts.setScene(std::make_unique<CEIEGraphicsScene>(m_parts.triangles()));
-    m_parts.makeLegend(showPoints, alignment);
+    d->setView(new NQCEIEGraphicsView(this));
+    auto *scene = new CEIEGraphicsScene(d->triangles);
+    d->setScene(scene);
+    d->setLegend(new CEIELegend(showPoints, alignment, this));
 
-    m_mixInfoLabel = new QLabel(this);
-    m_mixInfoLabel->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    m_mixInfoLabel->setFixedWidth(200);
-    m_mixInfoLabel->setFixedHeight(400);
-    m_mixInfoLabel->setWordWrap(true);
-    m_mixInfoLabel->hide();
+    QLabel *label = own().mixInfoLabel = new QLabel(this);
+    label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    label->setFixedWidth(200);
+    label->setFixedHeight(400);
+    label->setWordWrap(true);
+    label->hide();
 
     setLegendAlignamentCommon(alignment);
-    m_parts.connectCursor();
-    m_parts.relaySignals(this);
+    // Queued: the cursor changes after the scene has handled its event.
+    connect(scene, &CEIEGraphicsScene::signal_mouseCursorChange, view(), &NQCEIEGraphicsView::slot_mouseCursorChange,
+        Qt::QueuedConnection);
+    ceiechart::relaySignals(scene, this);
 }
 
 void CEIEGraphicsView::setLegendAlignamentCommon(QFlags<Qt::AlignmentFlag> alignment)
 {
-    m_parts.arrange(alignment);
+    d->arrange(this, alignment);
 }
 
 void CEIEGraphicsView::updateMixInfo(const QString &text)
 {
-    m_mixInfoLabel->setVisible(!text.isEmpty());
-    m_mixInfoLabel->setText(text);
-    m_mixInfoLabel->move(centred(m_parts.imageWidth(), m_mixInfoLabel->width()),
-        centred(m_parts.imageHeight(), m_mixInfoLabel->height()));
+    QLabel *label = own().mixInfoLabel;
+    label->setVisible(!text.isEmpty());
+    label->setText(text);
+    label->move(centred(imageWidth(), label->width()), centred(imageHeight(), label->height()));
 }
 
 QPolygonF CEIEGraphicsView::getTargetOrgIntersected(const TrianglePoint &a, const TrianglePoint &b)
 {
-    const QPolygonF first = vertices(a);
-    const QPolygonF second = vertices(b);
-    return canBeClipped(first) && canBeClipped(second) ? first.intersected(second) : QPolygonF();
+    return vertices(a).intersected(vertices(b));
 }
 
 void CEIEGraphicsView::calcActualPos(TrianglePoint &triangle)
 {
-    for (QPointF *position : {&triangle.redPos(), &triangle.greenPos(), &triangle.bluePos(), &triangle.whitePos()}) {
-        m_parts.scene()->chromaToCurCoordinate(*position);
-    }
-}
-
-void CEIEGraphicsView::beginGamuts(const QList<Model::ColorGamut> &standards)
-{
-    m_parts.triangles().clear();
-    m_standardTriangles.clear();
-    m_targetOrgIntersected.clear();
-    m_targetTriangle = TrianglePoint();
-    m_originalTriangle = TrianglePoint();
-    m_parts.scene()->getBitMap();
-    if (m_isShowStandard) {
-        for (const Model::ColorGamut &standard : standards) {
-            addStandard(standard);
+    if (CEIEGraphicsScene *scene = own().typedScene()) {
+        for (QPointF *position :
+            {&triangle.redPos(), &triangle.greenPos(), &triangle.bluePos(), &triangle.whitePos()}) {
+            scene->chromaToCurCoordinate(*position);
         }
     }
 }
 
-void CEIEGraphicsView::addStandard(const Model::ColorGamut &standard)
-{
-    for (const StandardStyle &style : standardStyles) {
-        if (standard.colorGamutName() == style.name) {
-            TrianglePoint triangle;
-            colorGamutToTriangle(standard, triangle);
-            ColorTriangleObject object
-                = ceiechart::gamutObject(triangle, QColor(255, 255, 255, style.alpha), outlineWidth);
-            object.setType(StandardGamut);
-            object.setOpacity(style.opacity);
-            m_standardTriangles.append(object);
-        }
-    }
-}
-
-TrianglePoint CEIEGraphicsView::addGamut(
-    const Model::ColorGamut &gamut, const QColor &color, int type, bool add, bool shown)
-{
-    TrianglePoint triangle;
-    colorGamutToTriangle(gamut, triangle);
-    if (add) {
-        ColorTriangleObject object = ceiechart::gamutObject(triangle, color, outlineWidth);
-        object.setType(type);
-        object.setShow(shown);
-        m_parts.triangles().append(object);
-    }
-    return triangle;
-}
-
-TrianglePoint CEIEGraphicsView::addTarget(const Model::ColorGamut &target)
-{
-    return addGamut(target, QColor(255, 163, 56, 255), TargetGamut, m_isShowTarget, !target.colorGamutName().empty());
-}
+void CEIEGraphicsView::initData() { }
 
 } // namespace NewCEIE

@@ -4,24 +4,18 @@
 
 #include <ceiechart/ceiechart_export.h>
 #include <ceiechart/model/chartenums.h>
-#include <ceiechart/model/colortriangleobject.h>
 #include <ceiechart/model/targetinfochangedeventargs.h>
 #include <ceiechart/model/triangleobjeciinitializedeventargs.h>
 #include <ceiechart/widgets/ceielegend.h>
-#include <ceiechart/widgets/chartparts.h>
+#include <ceiechart/widgets/chartframe.h>
 #include <ceiechart/widgets/nqceiegraphicsview.h>
 
 #include <gamutmodel/colorgamut.h>
 
-#include <QFrame>
 #include <QPolygonF>
-
-class QLabel;
 
 /*! \brief The current generation of the chart: CIE 1931 x, y. The legacy generation is in the global namespace. */
 namespace NewCEIE {
-
-class CEIEGraphicsScene;
 
 /*!
  * \brief The chart that a host puts into its window: the CIE 1931 x, y diagram, the gamuts over it, and a legend.
@@ -44,7 +38,7 @@ class CEIEGraphicsScene;
  * Chromaticities are CIE 1931 x, y, luminances are in the host's units. Nothing reports an error: what cannot be
  * used is ignored. GUI thread only.
  */
-class CEIECHART_EXPORT CEIEGraphicsView : public QFrame {
+class CEIECHART_EXPORT CEIEGraphicsView : public ceiechart::ChartFrame {
     Q_OBJECT
 
 public:
@@ -87,35 +81,6 @@ public:
      */
     void updateLanGamut(bool flag, const QString &text);
 
-    /*! \brief Empties the list of gamuts. Standards, the common area and the points stay. */
-    void clear() { m_parts.clear(); }
-    /*!
-     * \brief Sets the mark ColorTriangleObject::isShow() of the gamut at \a index of the list and hands the list to
-     *        the scene. Ignores an index outside it.
-     *
-     * The mark is the host's: every gamut of the list is drawn. To leave one out, see setIsShowTarget() and the like.
-     */
-    void setColorGamutVisible(int index, bool shown) { m_parts.setTriangleVisible(index, shown); }
-    /*! \brief Replaces the list of gamuts; the picture shows it after the next updateLanGamut() or resize. */
-    void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles) { m_parts.setTriangles(triangles); }
-    /*! \brief The list of gamuts as last set here or by setColorGamut(). */
-    QList<ColorTriangleObject> lsColorTriangleObject() const { return m_parts.triangles(); }
-
-    /*! \brief Hands chromaticities of colour-temperature points to the scene and renders the bare diagram. */
-    void setLsColorTempertureValuePoints(const QList<QPointF> &points) { m_parts.setColorTemperaturePoints(points); }
-    /*! \brief The colour-temperature points as last set. */
-    QList<QPointF> lsColorTempertureValuePoints() const { return m_parts.colorTemperaturePoints(); }
-    /*!
-     * \brief Hands measurement points (CIE 1931 x, y) to the scene, which keeps them for the host: this generation
-     *        does not draw them.
-     *
-     * A point without a colour, or with an invalid one, is meant to be white.
-     */
-    void setOtherPoints(QList<QPointF> points, QList<QColor> colors) { m_parts.setOtherPoints(points, colors); }
-    /*! \brief The measurement points as the scene holds them. */
-    QList<QPointF> getOtherPoints() const { return m_parts.otherPoints(); }
-    /*! \brief The colours of the measurement points as the scene holds them. */
-    QList<QColor> getOtherPointsColor() const { return m_parts.otherPointColors(); }
     /*!
      * \brief Hands chromaticities (CIE 1931 x, y) of cyan, magenta, yellow and black to the scene; drawn with the
      *        next picture of the gamuts.
@@ -131,64 +96,17 @@ public:
      *        the chart stand on white.
      */
     void setGraphColor(QColor first, QColor second);
-    /*!
-     * \brief Sets the picture's width in pixels, fixes the inner view's at two more, and renders the bare diagram.
-     *
-     * No width is refused; one that no picture can have gives an empty chart.
-     */
-    void setImageWidth(int width) { m_parts.setImageWidth(width); }
-    /*! \brief As setImageWidth(), for the height. */
-    void setImageHeight(int height) { m_parts.setImageHeight(height); }
-    /*! \brief The width last set, 512 at first. */
-    int imageWidth() const { return m_parts.imageWidth(); }
-    /*! \brief The height last set, 512 at first. */
-    int imageHeight() const { return m_parts.imageHeight(); }
-    /*! \brief Switches axes and grid, and renders the bare diagram. On at first. */
-    void setIsDrawCoordinate(bool draw) { m_parts.setIsDrawCoordinate(draw); }
-    /*!
-     * \brief Stored, on at first, and renders the bare diagram.
-     *
-     * The picture of the gamuts has the Planckian locus whatever the switch, the bare diagram never has it.
-     */
-    void setIsDrawBBRLine(bool draw) { m_parts.setIsDrawBBRLine(draw); }
-    /*! \brief As setIsDrawBBRLine(), for the wavelengths along the edge. */
-    void setIsDrawWaveLength(bool draw) { m_parts.setIsDrawWaveLength(draw); }
-    /*! \brief The switch last set. */
-    bool isDrawCoordinate() const { return m_parts.isDrawCoordinate(); }
-    /*! \brief The switch last set. */
-    bool isDrawBBRLine() const { return m_parts.isDrawBBRLine(); }
-    /*! \brief The switch last set. */
-    bool isDrawWaveLength() const { return m_parts.isDrawWaveLength(); }
-
-    /*!
-     * \brief When on, as it is at first, drawing the handles takes the target's white away: position (0, 0), no
-     *        luminance.
-     */
-    void setDrawColorTPoint(bool draw) { m_parts.setDrawColorTPoint(draw); }
-    /*! \brief The scene's switch, on at first. */
-    bool isDrawColorTPoint() const { return m_parts.isDrawColorTPoint(); }
-    /*!
-     * \brief Whether a moved primary leaves the target's white where it is and rebalances the luminances. Off at
-     *        first.
-     *
-     * It is the white as it stands that is held: use it together with setDrawColorTPoint(false).
-     */
-    void setColorTempertureChecked(bool checked) { m_parts.setColorTempertureChecked(checked); }
-    /*! \brief Whether the target's primaries can be moved, as they can at first. */
-    void setRGBPointEnable(bool enable) { m_parts.setRGBPointEnable(enable); }
-    /*! \brief Whether a mouse press may edit, as it may at first; in this generation none does. */
-    void setUseMouseOpertator(bool enable) { m_parts.setMouseEditing(enable); }
 
     /*! \brief Whether the next setColorGamut() takes the standards. On at first, as are the following four. */
-    void setIsShowStandard(bool show) { m_isShowStandard = show; }
+    void setIsShowStandard(bool show);
     /*! \brief Whether the next setColorGamut() takes the target gamut. */
-    void setIsShowTarget(bool show) { m_isShowTarget = show; }
+    void setIsShowTarget(bool show);
     /*! \brief Whether the next setColorGamut() takes the original gamut. */
-    void setIsShowOriginal(bool show) { m_isShowOriginal = show; }
+    void setIsShowOriginal(bool show);
     /*! \brief Whether the next setColorGamut() takes the area that target and original have in common. */
-    void setIsShowActual(bool show) { m_isShowActual = show; }
+    void setIsShowActual(bool show);
     /*! \brief Whether the next setColorGamut() takes the measured gamut. */
-    void setIsShowMeasure(bool show) { m_isShowMeasure = show; }
+    void setIsShowMeasure(bool show);
 
     /*!
      * \brief Moves the legend: to the right of the chart for exactly Qt::AlignLeft or exactly Qt::AlignRight, below
@@ -196,9 +114,9 @@ public:
      */
     void setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment);
     /*! \brief The legend; the chart owns it. */
-    CEIELegend *getLegend() const { return m_parts.legend(); }
+    CEIELegend *getLegend() const;
     /*! \brief The view that shows the scene; the chart owns both. */
-    NQCEIEGraphicsView *view() const { return m_parts.view(); }
+    NQCEIEGraphicsView *view() const;
 
 Q_SIGNALS:
     /*! \brief A primary of the target has been placed; \a colorTriangleObject is the target after that. */
@@ -224,24 +142,10 @@ private:
     void updateMixInfo(const QString &text);
     QPolygonF getTargetOrgIntersected(const TrianglePoint &a, const TrianglePoint &b);
     void calcActualPos(TrianglePoint &triangle);
-    void initData() { }
+    void initData();
 
-    void beginGamuts(const QList<Model::ColorGamut> &standards);
-    void addStandard(const Model::ColorGamut &standard);
-    TrianglePoint addGamut(const Model::ColorGamut &gamut, const QColor &color, int type, bool add, bool shown = true);
-    TrianglePoint addTarget(const Model::ColorGamut &target);
-
-    ceiechart::ChartParts<CEIEGraphicsScene, NQCEIEGraphicsView, CEIELegend> m_parts;
-    QList<ColorTriangleObject> m_standardTriangles;
-    QPolygonF m_targetOrgIntersected;
-    TrianglePoint m_targetTriangle;
-    TrianglePoint m_originalTriangle;
-    QLabel *m_mixInfoLabel = nullptr;
-    bool m_isShowStandard = true;
-    bool m_isShowTarget = true;
-    bool m_isShowOriginal = true;
-    bool m_isShowActual = true;
-    bool m_isShowMeasure = true;
+    class Private;
+    Private &own() const;
 };
 
 } // namespace NewCEIE

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/widgets/ceielegend.h>
 
+#include <ceiechart/widgets/legendentries_p.h>
+
 namespace NewCEIE {
 
 CEIELegend::CEIELegend(QWidget *parent)
@@ -14,8 +16,7 @@ CEIELegend::CEIELegend(bool showPoint, QWidget *parent)
 }
 
 CEIELegend::CEIELegend(bool showPoint, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent)
-    : QFrame(parent)
-    , m_entries(this, showPoint)
+    : ChartLegend(showPoint, parent)
 {
     initUI(alignment);
 }
@@ -26,15 +27,14 @@ void CEIELegend::setLegendVisible(legendType type, bool visible)
 {
     // NoEntry stands between the gamuts and the points.
     if (type != NoEntry) {
-        m_entries.setVisible(static_cast<ceiechart::LegendEntry>(type < NoEntry ? type : type - 1), visible);
+        d->setVisible(static_cast<ceiechart::LegendEntry>(type < NoEntry ? type : type - 1), visible);
     }
 }
 
 void CEIELegend::initUI(QFlags<Qt::AlignmentFlag> alignment)
 {
-    setFrameShape(QFrame::NoFrame);
     drawColorLegend(alignment);
-    if (m_entries.withPoints()) {
+    if (d->withPoints()) {
         drawQCPoint(alignment);
     }
     setLegendAlignament(alignment);
@@ -42,12 +42,12 @@ void CEIELegend::initUI(QFlags<Qt::AlignmentFlag> alignment)
 
 void CEIELegend::drawColorLegend(QFlags<Qt::AlignmentFlag> alignment)
 {
-    m_entries.addGamuts(tr("公共色域"), tr("目标色域"), tr("原始色域"), alignment);
+    d->addGamuts(tr("公共色域"), tr("目标色域"), tr("原始色域"), alignment);
 }
 
 void CEIELegend::drawQCPoint(QFlags<Qt::AlignmentFlag> alignment)
 {
-    m_entries.addPoints(tr("目标点"), tr("原始点"), tr("管理后点"), alignment);
+    d->addPoints(tr("目标点"), tr("原始点"), tr("管理后点"), alignment);
 }
 
 } // namespace NewCEIE

@@ -3,9 +3,7 @@
 #define CEIECHART_WIDGETS_CEIELEGEND_H
 
 #include <ceiechart/ceiechart_export.h>
-#include <ceiechart/widgets/legendentries.h>
-
-#include <QFrame>
+#include <ceiechart/widgets/chartlegend.h>
 
 namespace NewCEIE {
 
@@ -25,7 +23,7 @@ namespace NewCEIE {
  *
  * All labels are children of the legend.
  */
-class CEIECHART_EXPORT CEIELegend : public QFrame {
+class CEIECHART_EXPORT CEIELegend : public ceiechart::ChartLegend {
     Q_OBJECT
 
 public:
@@ -55,32 +53,11 @@ public:
     ~CEIELegend() override;
 
     /*!
-     * \brief Lays the entries out in a column for exactly Qt::AlignLeft or exactly Qt::AlignRight, else in a row.
-     *
-     * May be called again at any time. In a column captions are centred and wrap between words. Captions that were
-     * made downwards, because the legend was constructed for a column, are written on one line while it is a row;
-     * captions made on one line, and those that the host has set, are never rewritten. So a legend that is moved
-     * beside the chart after its construction keeps captions that read across, for scripts that do not run
-     * downwards. Hidden entries stay hidden.
-     */
-    void setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment) { m_entries.arrange(alignment); }
-
-    /*!
      * \brief Shows or hides swatch and caption of one entry.
      *
      * NoEntry, values that are no legendType, and points on a legend without point entries are ignored.
      */
     void setLegendVisible(legendType type, bool visible);
-
-    /*! \brief Replaces the caption of the original gamut by \a text, as given: it is not written downwards. */
-    void setShowOriginalText(const QString &text) { m_entries.setCaption(ceiechart::LegendEntry::OriginalGamut, text); }
-    /*! \brief Replaces the caption of the target gamut by \a text, as given. */
-    void setShowTargetText(const QString &text) { m_entries.setCaption(ceiechart::LegendEntry::TargetGamut, text); }
-    /*! \brief Replaces the point captions, as given. Ignored on a legend without point entries. */
-    void setshowPointText(const QString &target, const QString &original, const QString &managed)
-    {
-        m_entries.setPointCaptions(target, original, managed);
-    }
 
 protected:
     /*! \brief Makes the entries and lays them out: the constructors' last step. */
@@ -89,9 +66,6 @@ protected:
     void drawColorLegend(QFlags<Qt::AlignmentFlag> alignment);
     /*! \brief Makes the three point entries. */
     void drawQCPoint(QFlags<Qt::AlignmentFlag> alignment);
-
-private:
-    ceiechart::LegendEntries m_entries;
 };
 
 } // namespace NewCEIE

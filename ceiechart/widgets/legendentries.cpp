@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/widgets/legendentries.h>
+#include <ceiechart/widgets/legendentries_p.h>
 
 #include <ceiechart/widgets/legendplacement_p.h>
 #include <ceiechart/widgets/legendswatches_p.h>
@@ -64,6 +64,7 @@ void LegendEntries::arrange(Qt::Alignment alignment)
     } else {
         layout = new QHBoxLayout;
     }
+    // Set before entries are added: only then does a shown legend learn that it has something to lay out.
     m_legend->setLayout(layout);
     layout->setContentsMargins(8, 8, 0, 8);
     layout->setSpacing(8);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/gamutstyle.h>
 #include <ceiechart/widgets/legendswatches_p.h>
 
 #include <QPainter>
@@ -28,7 +29,7 @@ QPixmap point(int side, const QPainterPath &shape, const QPen &pen, const QBrush
 
 QPixmap originalGamut()
 {
-    QPixmap swatch = filled(16, QColor(255, 255, 255));
+    QPixmap swatch = filled(16, legacyChartStyle(OriginalGamut).color);
     QPainter painter(&swatch);
     painter.setPen(QPen(Qt::gray, 1, Qt::SolidLine));
     painter.drawRect(0, 0, 15, 15);
@@ -68,7 +69,7 @@ QPixmap legendSwatch(LegendEntry entry)
     case LegendEntry::CommonGamut:
         return filled(16, QColor(255, 255, 0));
     case LegendEntry::TargetGamut:
-        return filled(16, QColor(0, 0, 0));
+        return filled(16, legacyChartStyle(TargetGamut).color);
     case LegendEntry::OriginalGamut:
         return originalGamut();
     case LegendEntry::TargetPoint:

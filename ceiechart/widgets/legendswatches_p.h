@@ -2,7 +2,7 @@
 #ifndef CEIECHART_WIDGETS_LEGENDSWATCHES_P_H
 #define CEIECHART_WIDGETS_LEGENDSWATCHES_P_H
 
-#include <ceiechart/widgets/legendentries.h>
+#include <ceiechart/widgets/legendentries_p.h>
 
 #include <QPixmap>
 

@@ -1,4 +1,4 @@
-// SPDX-License-Identifier: MIT
+/* SPDX-License-Identifier: MIT */
 #ifndef COLORTEMPERATURE_COLORTEMPERATURE_H
 #define COLORTEMPERATURE_COLORTEMPERATURE_H
 

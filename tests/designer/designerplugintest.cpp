@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/designer/legacycharts.h>
+#include <ceiechart/legacy/legacycharts.h>
 
 #include <QApplication>
 #include <QGraphicsView>
@@ -66,8 +66,8 @@ void DesignerPluginTest::rows()
     };
     add("NewCEIE::CEIEGraphicsView", "ceiechart/widgets/ceiegraphicsview.h", "QFrame");
     add("NewCEIE::CEIELegend", "ceiechart/widgets/ceielegend.h", "QFrame");
-    add("ceiechart::LegacyXyChart", "ceiechart/designer/legacycharts.h", "CEIEGraphicsView");
-    add("ceiechart::LegacyUvChart", "ceiechart/designer/legacycharts.h", "CEIEGraphicsView");
+    add("ceiechart::LegacyXyChart", "ceiechart/legacy/legacycharts.h", "CEIEGraphicsView");
+    add("ceiechart::LegacyUvChart", "ceiechart/legacy/legacycharts.h", "CEIEGraphicsView");
     add("CEIELegend", "ceiechart/legacy/ceielegend.h", "QFrame");
 }
 

@@ -2,7 +2,7 @@
 #ifndef CEIECHART_TESTS_REFERENCE_RENDERERSTATE_H
 #define CEIECHART_TESTS_REFERENCE_RENDERERSTATE_H
 
-#include <ceiechart/atlas/ceiatlasvalue.h>
+#include <ceiechart/render/diagramrenderer_p.h>
 
 #include <QPointF>
 
@@ -13,7 +13,7 @@ namespace reference {
 template <typename Renderer>
 void setGamma(Renderer &renderer, double gamma)
 {
-    renderer.m_gamma = gamma;
+    renderer.d->gamma = gamma;
 }
 
 /*! \brief The current point, as MapPixelToReal() and GetPointF() write it. */
@@ -26,30 +26,30 @@ struct CurrentPoint {
 template <typename Renderer>
 CurrentPoint currentPoint(const Renderer &renderer)
 {
-    return {renderer.m_current.x, renderer.m_current.y, renderer.m_current.z};
+    return {renderer.d->current.x, renderer.d->current.y, renderer.d->current.z};
 }
 
 template <typename Renderer>
 void setCurrentPoint(Renderer &renderer, const CurrentPoint &point)
 {
-    renderer.m_current.x = point.x;
-    renderer.m_current.y = point.y;
-    renderer.m_current.z = point.z;
+    renderer.d->current.x = point.x;
+    renderer.d->current.y = point.y;
+    renderer.d->current.z = point.z;
 }
 
 /*! \brief The next tick's chord has no length: it starts and ends at the current point. */
 template <typename Renderer>
 void startTickAtCurrentPoint(Renderer &renderer)
 {
-    renderer.m_previousLocusPoint = QPointF(renderer.m_current.x, renderer.m_current.y);
-    renderer.m_tickWeight = 1.0;
+    renderer.d->previousLocusPoint = QPointF(renderer.d->current.x, renderer.d->current.y);
+    renderer.d->tickWeight = 1.0;
 }
 
 /*! \brief The tables that a renderer draws from. */
 template <typename Renderer>
 const CEIAtlasValue &atlasOf(const Renderer &renderer)
 {
-    return renderer.m_atlas;
+    return renderer.d->atlas;
 }
 
 } // namespace reference

@@ -2,104 +2,116 @@
 #ifndef CEIECHART_TESTS_REFERENCE_SCENESTATE_H
 #define CEIECHART_TESTS_REFERENCE_SCENESTATE_H
 
+#include <ceiechart/scene/targetscene_p.h>
+
 #include <reference/scenemodel.h>
 
 namespace reference {
 
 // White-box access to what the scenes keep between events: the one place that knows the names of their members.
 
+inline int tabOf(ceiechart::Handle handle)
+{
+    return ceiechart::handleNumbers[std::size_t(handle)].tab;
+}
+
+inline int areaOf(ceiechart::Handle handle)
+{
+    return ceiechart::handleNumbers[std::size_t(handle)].area.value();
+}
+
 template <typename Scene>
 SceneState stateOf(const Scene &scene)
 {
     SceneState state;
-    state.requested = scene.m_requestedPoint;
-    state.current = scene.m_currentPoint;
-    state.saved = scene.m_savedPoint;
-    state.selectedRegion = scene.m_selectedRegion;
-    state.selectedVertex = scene.m_selectedVertex;
-    state.selectedTab = scene.m_selectedTab;
-    state.vertexSelected = scene.m_vertexSelected;
-    state.centreSelected = scene.m_centreSelected;
-    state.whiteMoved = scene.m_whiteMoved;
-    state.outOfBounds = scene.m_outOfBounds;
-    state.hand = scene.m_hand;
-    state.magnifier = scene.m_magnifier;
-    state.zoom = scene.m_zoom;
+    state.requested = scene.d->requestedPoint;
+    state.current = scene.d->currentPoint;
+    state.saved = scene.d->savedPoint;
+    state.selectedRegion = scene.d->selectedRegion;
+    state.selectedVertex = areaOf(scene.d->selectedVertex);
+    state.selectedTab = tabOf(scene.d->selectedTab);
+    state.vertexSelected = scene.d->vertexSelected;
+    state.centreSelected = scene.d->centreSelected;
+    state.whiteMoved = scene.d->whiteMoved;
+    state.outOfBounds = scene.d->outOfBounds;
+    state.hand = scene.d->hand;
+    state.magnifier = scene.d->magnifier;
+    state.zoom = scene.d->zoom;
     return state;
 }
 
 template <typename Scene>
 void setRequestedPoint(Scene &scene, const QPointF &point)
 {
-    scene.m_requestedPoint = point;
+    scene.d->requestedPoint = point;
 }
 
 template <typename Scene>
 void setFunctionKeyMode(Scene &scene, int mode)
 {
-    scene.m_functionKeyMode = mode;
+    scene.d->functionKeyMode = mode;
 }
 
 template <typename Scene>
 void setEditMode(Scene &scene, int mode)
 {
-    scene.m_editMode = static_cast<decltype(scene.m_editMode)>(mode);
+    scene.d->editMode = static_cast<decltype(scene.d->editMode)>(mode);
 }
 
 /*! \brief The next key press starts from \a point. */
 template <typename Scene>
 void restoreAtNextKey(Scene &scene, const QPointF &point)
 {
-    scene.m_savedPoint = point;
-    scene.m_restorePending = true;
+    scene.d->savedPoint = point;
+    scene.d->restorePending = true;
 }
 
 /*! \brief Picks the white point as if its handle had been painted at \a handle. */
 template <typename Scene>
 void selectCentre(Scene &scene, const QPointF &handle)
 {
-    scene.m_centreHandlePoint = handle;
-    scene.m_centreSelected = true;
-    scene.m_vertexSelected = false;
+    scene.d->centreHandlePoint = handle;
+    scene.d->centreSelected = true;
+    scene.d->vertexSelected = false;
 }
 
 template <typename Scene>
 void selectVertex(Scene &scene, int area)
 {
-    scene.m_selectedVertex = area;
+    scene.d->selectedVertex = ceiechart::handleOfArea(area).value();
 }
 
 template <typename Scene>
 void selectTab(Scene &scene, int tab)
 {
-    scene.m_selectedTab = tab;
+    scene.d->selectedTab = ceiechart::handleOfTab(tab).value();
 }
 
 template <typename Scene>
 void setMagnifier(Scene &scene, bool on)
 {
-    scene.m_magnifier = on;
+    scene.d->magnifier = on;
 }
 
 template <typename Scene>
 void setZoom(Scene &scene, float zoom)
 {
-    scene.m_zoom = zoom;
+    scene.d->zoom = zoom;
 }
 
 /*! \brief Chromaticity (0, 0) goes to the scene's corner and 1.0 spans 100 pixels, so that positions are exact. */
 template <typename Scene>
 void placeCoordinates(Scene &scene)
 {
-    scene.m_originX = 0;
-    scene.m_originY = 0;
-    scene.m_unitLength = 100;
+    scene.d->originX = 0;
+    scene.d->originY = 0;
+    scene.d->unitLength = 100;
 }
 
 template <typename Scene>
 int hoverTab(const Scene &scene)
 {
-    return scene.m_hoverTab;
+    return tabOf(scene.d->hovered);
 }
 
 } // namespace reference

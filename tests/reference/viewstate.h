@@ -2,38 +2,27 @@
 #ifndef CEIECHART_TESTS_REFERENCE_VIEWSTATE_H
 #define CEIECHART_TESTS_REFERENCE_VIEWSTATE_H
 
-#include <ceiechart/model/colortriangleobject.h>
+#include <ceiechart/widgets/ceiegraphicsview_p.h>
 
 #include <QList>
-#include <QPolygonF>
 
 namespace reference {
 
 // White-box access to what a chart's view keeps: the one place that knows the names of its members.
 
-template <typename View>
-QList<ColorTriangleObject> standardTriangles(const View &view)
+inline QList<ColorTriangleObject> standardTriangles(const NewCEIE::CEIEGraphicsView &view)
 {
-    return view.m_standardTriangles;
+    return view.own().standardTriangles;
 }
 
-/*! \brief What target and original have in common, in pixels. */
-template <typename View>
-QPolygonF commonArea(const View &view)
+inline TrianglePoint targetTriangle(const NewCEIE::CEIEGraphicsView &view)
 {
-    return view.m_targetOrgIntersected;
+    return view.own().targetTriangle;
 }
 
-template <typename View>
-TrianglePoint targetTriangle(const View &view)
+inline TrianglePoint originalTriangle(const NewCEIE::CEIEGraphicsView &view)
 {
-    return view.m_targetTriangle;
-}
-
-template <typename View>
-TrianglePoint originalTriangle(const View &view)
-{
-    return view.m_originalTriangle;
+    return view.own().originalTriangle;
 }
 
 } // namespace reference

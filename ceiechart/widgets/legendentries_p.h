@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef CEIECHART_WIDGETS_LEGENDENTRIES_H
-#define CEIECHART_WIDGETS_LEGENDENTRIES_H
-
-#include <ceiechart/ceiechart_export.h>
+#ifndef CEIECHART_WIDGETS_LEGENDENTRIES_P_H
+#define CEIECHART_WIDGETS_LEGENDENTRIES_P_H
 
 #include <QString>
 
@@ -19,10 +17,9 @@ enum class LegendEntry { CommonGamut, TargetGamut, OriginalGamut, TargetPoint, O
 /*!
  * \brief The entries of a legend: a swatch and a caption each, labels that are children of the legend's frame.
  *
- * Not a class for hosts: each `CEIELegend` holds one and passes its operations on to it. An entry that was not made
- * is skipped by every operation.
+ * An entry that was not made is skipped by every operation.
  */
-class CEIECHART_EXPORT LegendEntries {
+class LegendEntries {
 public:
     LegendEntries(QFrame *legend, bool withPoints);
 
@@ -61,4 +58,4 @@ private:
 
 } // namespace ceiechart
 
-#endif // CEIECHART_WIDGETS_LEGENDENTRIES_H
+#endif // CEIECHART_WIDGETS_LEGENDENTRIES_P_H

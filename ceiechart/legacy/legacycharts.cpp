@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/designer/legacycharts.h>
+#include <ceiechart/legacy/legacycharts.h>
 
 namespace ceiechart {
 

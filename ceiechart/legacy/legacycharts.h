@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef CEIECHART_DESIGNER_LEGACYCHARTS_H
-#define CEIECHART_DESIGNER_LEGACYCHARTS_H
+#ifndef CEIECHART_LEGACY_LEGACYCHARTS_H
+#define CEIECHART_LEGACY_LEGACYCHARTS_H
 
 #include <ceiechart/ceiechart_export.h>
 #include <ceiechart/legacy/ceiegraphicsview.h>
@@ -36,4 +36,4 @@ public:
 
 } // namespace ceiechart
 
-#endif // CEIECHART_DESIGNER_LEGACYCHARTS_H
+#endif // CEIECHART_LEGACY_LEGACYCHARTS_H

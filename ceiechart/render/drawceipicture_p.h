@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_RENDER_DRAWCEIPICTURE_P_H
+#define CEIECHART_RENDER_DRAWCEIPICTURE_P_H
+
+#include <ceiechart/render/diagramrenderer_p.h>
+#include <ceiechart/render/drawceipicture.h>
+
+#include <QRectF>
+
+namespace NewCEIE {
+
+class DrawCEIPicture::Private : public ceiechart::DiagramRenderer::Private {
+public:
+    static constexpr auto chart = ceiechart::ChartKind::CurrentXy;
+
+    Private()
+        : ceiechart::DiagramRenderer::Private(chart)
+    {
+    }
+
+    QPolygonF trianglePolygon(const ColorTriangleObject &triangle) const;
+    void drawOutline(QPainter &painter, const ColorTriangleObject &triangle) const;
+    void drawMeasurePoints(QPainter &painter) const;
+
+    QList<QRectF> measureRectangles;
+    QList<QRectF> cmyRectangles;
+    QList<ColorTriangleObject> triangles;
+    bool showCoordinates = false;
+    QPolygonF clipPolygon;
+    bool polygonFlag = false;
+    QColor backgroundColor = ceiechart::chartStyle(chart).horseshoeGround;
+    QColor pictureColor = ceiechart::chartStyle(chart).ground;
+};
+
+} // namespace NewCEIE
+
+#endif // CEIECHART_RENDER_DRAWCEIPICTURE_P_H

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_SCENE_HANDLE_P_H
+#define CEIECHART_SCENE_HANDLE_P_H
+
+#include <ceiechart/model/chartenums.h>
+#include <ceiechart/scene/fences_p.h>
+
+#include <array>
+#include <optional>
+
+namespace ceiechart {
+
+/*! A handle of the target gamut. The stated signatures have several numberings for it: see HandleNumbers. */
+enum class Handle { None, Red, Green, Blue, White };
+
+/*! What the numberings of the shared enums and of the colour regions are for one handle. */
+struct HandleNumbers {
+    Handle handle;
+    int tab; //!< a TabSelectedType
+    std::optional<int> area; //!< a ColorArea; the white point has none
+    std::optional<Region> region; //!< the colour region of a primary
+};
+
+constexpr std::array<HandleNumbers, 5> handleNumbers{{
+    {Handle::None, NewCEIE::TabSelectedNone, NewCEIE::ColorAreaNone, NoRegion},
+    {Handle::Red, NewCEIE::TabSelectedRed, NewCEIE::ColorAreaRed, RedRegion},
+    {Handle::Green, NewCEIE::TabSelectedGreen, NewCEIE::ColorAreaGreen, GreenRegion},
+    {Handle::Blue, NewCEIE::TabSelectedBlue, NewCEIE::ColorAreaBlue, BlueRegion},
+    {Handle::White, NewCEIE::TabSelectedWhite, std::nullopt, std::nullopt},
+}};
+
+/*! The handle with the TabSelectedType \a tab; none for a value that is no such type. */
+constexpr std::optional<Handle> handleOfTab(int tab)
+{
+    for (const HandleNumbers &numbers : handleNumbers) {
+        if (numbers.tab == tab) {
+            return numbers.handle;
+        }
+    }
+    return std::nullopt;
+}
+
+/*! The handle with the ColorArea \a area; none for a value that is no such area. */
+constexpr std::optional<Handle> handleOfArea(int area)
+{
+    for (const HandleNumbers &numbers : handleNumbers) {
+        if (numbers.area == area) {
+            return numbers.handle;
+        }
+    }
+    return std::nullopt;
+}
+
+/*! The handle of the primary that \a region keeps; Handle::None for no region. */
+constexpr Handle handleOfRegion(Region region)
+{
+    for (const HandleNumbers &numbers : handleNumbers) {
+        if (numbers.region == region) {
+            return numbers.handle;
+        }
+    }
+    return Handle::None;
+}
+
+} // namespace ceiechart
+
+#endif

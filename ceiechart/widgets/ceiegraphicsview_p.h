@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_WIDGETS_CEIEGRAPHICSVIEW_P_H
+#define CEIECHART_WIDGETS_CEIEGRAPHICSVIEW_P_H
+
+#include <ceiechart/model/gamutkind.h>
+#include <ceiechart/scene/ceiegraphicsscene.h>
+#include <ceiechart/widgets/ceiegraphicsview.h>
+#include <ceiechart/widgets/chartframe_p.h>
+
+class QLabel;
+
+namespace NewCEIE {
+
+class CEIEGraphicsView::Private : public ceiechart::ChartFrame::Private {
+public:
+    CEIEGraphicsScene *typedScene() const { return static_cast<CEIEGraphicsScene *>(scene.data()); }
+
+    void beginGamuts(const QList<Model::ColorGamut> &standards);
+    void addGamut(const TrianglePoint &triangle, ceiechart::GamutKind kind, bool besideMeasured);
+    void addTarget(const Model::ColorGamut &target, const TrianglePoint &triangle, bool besideMeasured);
+
+    QList<ColorTriangleObject> standardTriangles;
+    TrianglePoint targetTriangle;
+    TrianglePoint originalTriangle;
+    QLabel *mixInfoLabel = nullptr;
+    bool showStandard = true;
+    bool showTarget = true;
+    bool showOriginal = true;
+    bool showActual = true;
+    bool showMeasure = true;
+};
+
+} // namespace NewCEIE
+
+#endif // CEIECHART_WIDGETS_CEIEGRAPHICSVIEW_P_H
