@@ -4,6 +4,7 @@
 #include <reference/picturedifference.h>
 #include <reference/picturetestmain.h>
 #include <reference/quietmessages.h>
+#include <reference/rendererstate.h>
 
 #include <QFontMetrics>
 #include <QPaintDevice>
@@ -347,6 +348,7 @@ private Q_SLOTS:
     void intersectionOutline();
     void measurePoints();
     void measurePointsAreNormalized();
+    void pointsLeaveThePainterAsItWas();
     void cmyPoints();
     void cmyPointUsesTheCornerOnly();
     void cmyPointsCoverMeasurePoints();
@@ -1302,6 +1304,27 @@ void DrawCEIPictureTest::measurePointsAreNormalized()
     renderer.setPointData({QRectF(180, 30, 20, 30)});
     QCOMPARE(reference::firstDifference(skippedPicture(renderer, 320, 320), negative), QString());
     QCOMPARE(negative.pixel(190, 45), qRgb(255, 0, 0));
+}
+
+void DrawCEIPictureTest::pointsLeaveThePainterAsItWas()
+{
+    Renderer renderer(nullptr);
+    renderer.setPointData({QRectF(20, 20, 9, 9), QRectF(40, 20, 9, 9)});
+    renderer.setCMYPointData({QRectF(20, 60, 9, 9), QRectF(40, 60, 9, 9)});
+    QImage canvas(100, 100, QImage::Format_ARGB32);
+    canvas.fill(Qt::black);
+    QPainter painter(&canvas);
+    const QPen pen(Qt::darkYellow, 3, Qt::DashLine);
+    painter.setPen(pen);
+    painter.setBrush(Qt::darkBlue);
+    reference::drawMeasurePoints(renderer, painter);
+    QCOMPARE(canvas.pixel(24, 24), qRgb(255, 0, 0));
+    QCOMPARE(painter.pen(), pen);
+    QCOMPARE(painter.brush(), QBrush(Qt::darkBlue));
+    renderer.drawCMYPoint(painter);
+    QCOMPARE(canvas.pixel(28, 68), qRgb(0, 255, 255));
+    QCOMPARE(painter.pen(), pen);
+    QCOMPARE(painter.brush(), QBrush(Qt::darkBlue));
 }
 
 void DrawCEIPictureTest::cmyPoints()

@@ -5,6 +5,7 @@
 #include <reference/picturetestmain.h>
 #include <reference/plainrenderer.h>
 #include <reference/quietmessages.h>
+#include <reference/rendererstate.h>
 
 #include <QtTest>
 
@@ -108,6 +109,7 @@ private Q_SLOTS:
     void emptyAtlasCoordinateGivesNan();
     void currentPointMapsWithoutTruncation();
     void backwardMappingKeepsThePixelOffset();
+    void thirdCoordinateIsLeftAlone();
     void offsetPoints();
 
     void edgeBoundsEachRow();
@@ -367,6 +369,19 @@ void HorseshoeFillTest::backwardMappingKeepsThePixelOffset()
         QVERIFY(std::fabs(forward.x() - (any.x() + 4)) < 1e-9);
         QVERIFY(std::fabs(forward.y() - any.y()) < 1e-9);
     }
+}
+
+void HorseshoeFillTest::thirdCoordinateIsLeftAlone()
+{
+    Renderer renderer(nullptr);
+    drawOnce(renderer, 800, 800);
+    reference::setCurrentPoint(renderer, {7.0, 8.0, 0.125});
+    renderer.MapPixelToReal(100, 30);
+    QVERIFY(reference::currentPoint(renderer).x < 1.0 && reference::currentPoint(renderer).y < 1.0);
+    QCOMPARE(reference::currentPoint(renderer).z, 0.125);
+    renderer.GetPointF(atlas().atlasCoordinates.at(555 - 360));
+    QVERIFY(std::fabs(reference::currentPoint(renderer).y - 0.6589) < 1e-3);
+    QCOMPARE(reference::currentPoint(renderer).z, 0.125);
 }
 
 void HorseshoeFillTest::offsetPoints()

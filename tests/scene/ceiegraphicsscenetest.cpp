@@ -156,6 +156,7 @@ private Q_SLOTS:
     void simpleFormFollowsTheLayerFlags();
     void backgroundFollowsTheView_data();
     void backgroundFollowsTheView();
+    void backgroundGoesByTheFirstView();
     void backgroundOfAMovedSceneRectangle();
     void backgroundIsTheSameForAnyPainter_data();
     void backgroundIsTheSameForAnyPainter();
@@ -618,6 +619,22 @@ void CEIEGraphicsSceneTest::backgroundFollowsTheView()
     const QSize canvas(760, 860);
     QCOMPARE(
         reference::firstDifference(backgroundOf(scene, view, canvas), painted(*picture, target, canvas)), QString());
+}
+
+void CEIEGraphicsSceneTest::backgroundGoesByTheFirstView()
+{
+    Scene scene({});
+    scene.setImageWidth(160);
+    scene.setImageHeight(120);
+    NewCEIE::DrawCEIPicture renderer(nullptr);
+    const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(160, 120, true, true, true, {}));
+    QGraphicsView first(&scene);
+    first.resize(500, 364);
+    QGraphicsView last(&scene);
+    last.resize(700, 800);
+    const QSize canvas(720, 820);
+    const QImage actual = canvasWith(canvas, [&](QPainter &painter) { scene.drawBackground(&painter, QRectF()); });
+    QCOMPARE(reference::firstDifference(actual, painted(*picture, QRectF(82, 0, 336, 364), canvas)), QString());
 }
 
 // Unscaled it moves along, scaled it does not; as tall as the view counts as scaled.

@@ -519,7 +519,7 @@ void KeyboardTest::otherKeyClearsTheHand()
 {
     Bench bench;
     reference::setFunctionKeyMode(bench.scene, 3);
-    for (const int key : {Qt::Key_A, Qt::Key_Shift, Qt::Key_Space}) {
+    for (const int key : {Qt::Key_A, Qt::Key_Shift, Qt::Key_Left, Qt::Key_Space}) {
         bench.scene.SetFunctionKeyShortcuts();
         QVERIFY(stateOf(bench.scene).hand);
         bench.send(QEvent::KeyPress, key);
