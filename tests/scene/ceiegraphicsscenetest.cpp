@@ -2,6 +2,7 @@
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/scene/ceiegraphicsscene.h>
 
+#include <reference/mouseitem.h>
 #include <reference/picturedifference.h>
 #include <reference/samplegamuts.h>
 #include <reference/scenemodel.h>
@@ -548,6 +549,10 @@ void CEIEGraphicsSceneTest::mouseHandlersAreEmpty()
     SignalLog log(&scene);
     const QString before = describe(reference::stateOf(scene));
     const QPointF red = scene.ChromaToCurCoordinate(QPointF(0.64, 0.33));
+    auto *item = new reference::MouseItem(QRectF(0, 0, 300, 300));
+    scene.addItem(item);
+    item->grabMouse();
+    log.takeUpdate();
     for (const QEvent::Type type : {QEvent::GraphicsSceneMousePress, QEvent::GraphicsSceneMouseMove,
              QEvent::GraphicsSceneMouseRelease, QEvent::GraphicsSceneMouseMove}) {
         for (const bool accepted : {true, false}) {
@@ -560,6 +565,7 @@ void CEIEGraphicsSceneTest::mouseHandlersAreEmpty()
             QCOMPARE(event.isAccepted(), accepted);
         }
     }
+    QCOMPARE(item->events, 0);
     QVERIFY(log.takeSignals().isEmpty());
     QVERIFY(!log.takeUpdate());
     QCOMPARE(describe(reference::stateOf(scene)), before);
