@@ -87,15 +87,6 @@ void setZoom(Scene &scene, float zoom)
     scene.m_zoom = zoom;
 }
 
-/*! \brief Chromaticity (0, 0) goes to the scene's corner and 1.0 spans 100 pixels, so that positions are exact. */
-template <typename Scene>
-void placeCoordinates(Scene &scene)
-{
-    scene.m_originX = 0;
-    scene.m_originY = 0;
-    scene.m_unitLength = 100;
-}
-
 template <typename Scene>
 int hoverTab(const Scene &scene)
 {
