@@ -4,6 +4,7 @@
 // Both generations fit into one translation unit.
 #include <ceiechart/widgets/ceiegraphicsview.h>
 
+#include <reference/hasmember.h>
 #include <widgets/chartviewtests.h>
 
 using Tests = ChartViewTests<CEIEGraphicsView, CEIEGraphicsScene, NQCEIEGraphicsView, CEIELegend>;
@@ -38,6 +39,7 @@ private Q_SLOTS:
     void measurePoints();
 
     void gamutToTriangle();
+    void changedGamutsRepaintTheChart();
     void twoGamuts();
     void graphColors();
     void planckianLocusComesWithTheAxes();
@@ -46,7 +48,7 @@ private Q_SLOTS:
     void relaysKeepTheOrder() { Tests::relaysKeepTheOrder(); }
     void relaysWhatTheMouseDoes();
     void cursorChangesAfterTheEvent() { Tests::cursorChangesAfterTheEvent(); }
-    void cursorStaysOverAUvDiagram();
+    void cursorStaysOverOtherDiagrams();
     void cursorChangeOfADestroyedChart() { Tests::cursorChangeOfADestroyedChart(); }
     void operationsServeAsSlots() { Tests::operationsServeAsSlots(); }
     void ownership() { Tests::ownership(); }
@@ -150,15 +152,6 @@ void LegacyCEIEGraphicsViewTest::noInformationLabel()
     QVERIFY(view.findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly).isEmpty());
 }
 
-// A member of that name, public, private or inherited.
-#define DEFINE_HAS_MEMBER(name)                                                                                        \
-    template <class T, class = void>                                                                                   \
-    struct Has_##name : std::false_type {                                                                              \
-    };                                                                                                                 \
-    template <class T>                                                                                                 \
-    struct Has_##name<T, std::void_t<decltype(&T::name)>> : std::true_type {                                           \
-    };
-
 DEFINE_HAS_MEMBER(setIsShowStandard)
 DEFINE_HAS_MEMBER(setIsShowTarget)
 DEFINE_HAS_MEMBER(setIsShowOriginal)
@@ -174,41 +167,32 @@ DEFINE_HAS_MEMBER(setCMYPointData)
 template <class T, class... Arguments>
 using TakesGamuts = decltype(std::declval<T &>().setColorGamut(std::declval<const Arguments &>()...));
 
-template <class Void, template <class...> class Operation, class... Arguments>
-struct IsDetected : std::false_type {
-};
-template <template <class...> class Operation, class... Arguments>
-struct IsDetected<std::void_t<Operation<Arguments...>>, Operation, Arguments...> : std::true_type {
-};
-
 void LegacyCEIEGraphicsViewTest::absentOperations()
 {
     using Legacy = CEIEGraphicsView;
     using Current = NewCEIE::CEIEGraphicsView;
-#define ONLY_IN_THE_CURRENT_VIEW(name) static_assert(Has_##name<Current>::value && !Has_##name<Legacy>::value)
-    ONLY_IN_THE_CURRENT_VIEW(setIsShowStandard);
-    ONLY_IN_THE_CURRENT_VIEW(setIsShowTarget);
-    ONLY_IN_THE_CURRENT_VIEW(setIsShowOriginal);
-    ONLY_IN_THE_CURRENT_VIEW(setIsShowActual);
-    ONLY_IN_THE_CURRENT_VIEW(setIsShowMeasure);
-    ONLY_IN_THE_CURRENT_VIEW(updateLanGamut);
-    ONLY_IN_THE_CURRENT_VIEW(updateMixInfo);
-    ONLY_IN_THE_CURRENT_VIEW(getTargetOrgIntersected);
-    ONLY_IN_THE_CURRENT_VIEW(calcActualPos);
-    ONLY_IN_THE_CURRENT_VIEW(setBackgroudColor);
-    ONLY_IN_THE_CURRENT_VIEW(setCMYPointData);
-#undef ONLY_IN_THE_CURRENT_VIEW
+    ONLY_IN_THE_CURRENT_CLASS(setIsShowStandard, Current, Legacy);
+    ONLY_IN_THE_CURRENT_CLASS(setIsShowTarget, Current, Legacy);
+    ONLY_IN_THE_CURRENT_CLASS(setIsShowOriginal, Current, Legacy);
+    ONLY_IN_THE_CURRENT_CLASS(setIsShowActual, Current, Legacy);
+    ONLY_IN_THE_CURRENT_CLASS(setIsShowMeasure, Current, Legacy);
+    ONLY_IN_THE_CURRENT_CLASS(updateLanGamut, Current, Legacy);
+    ONLY_IN_THE_CURRENT_CLASS(updateMixInfo, Current, Legacy);
+    ONLY_IN_THE_CURRENT_CLASS(getTargetOrgIntersected, Current, Legacy);
+    ONLY_IN_THE_CURRENT_CLASS(calcActualPos, Current, Legacy);
+    ONLY_IN_THE_CURRENT_CLASS(setBackgroudColor, Current, Legacy);
+    ONLY_IN_THE_CURRENT_CLASS(setCMYPointData, Current, Legacy);
     static_assert(std::is_same_v<decltype(&Legacy::resizeEvent), decltype(&QFrame::resizeEvent)>);
     static_assert(!std::is_same_v<decltype(&Current::resizeEvent), decltype(&QFrame::resizeEvent)>);
 
     using Gamut = Model::ColorGamut;
     using Gamuts = QList<Model::ColorGamut>;
     using Info = Model::ColorGamutInfo;
-    static_assert(IsDetected<void, TakesGamuts, Legacy, Info, Info>::value);
-    static_assert(!IsDetected<void, TakesGamuts, Legacy, Gamut, Gamut, Gamuts>::value);
-    static_assert(!IsDetected<void, TakesGamuts, Legacy, Gamut, Gamut, Gamut, Gamuts>::value);
-    static_assert(IsDetected<void, TakesGamuts, Current, Gamut, Gamut, Gamuts>::value);
-    static_assert(IsDetected<void, TakesGamuts, Current, Gamut, Gamut, Gamut, Gamuts>::value);
+    static_assert(reference::isDetected<TakesGamuts, Legacy, Info, Info>);
+    static_assert(!reference::isDetected<TakesGamuts, Legacy, Gamut, Gamut, Gamuts>);
+    static_assert(!reference::isDetected<TakesGamuts, Legacy, Gamut, Gamut, Gamut, Gamuts>);
+    static_assert(reference::isDetected<TakesGamuts, Current, Gamut, Gamut, Gamuts>);
+    static_assert(reference::isDetected<TakesGamuts, Current, Gamut, Gamut, Gamut, Gamuts>);
     static_assert(!std::is_constructible_v<Legacy, QWidget *>);
     static_assert(!std::is_constructible_v<Current, QWidget *, DrawCEIPicture::CEIEType>);
 }
@@ -240,6 +224,14 @@ void LegacyCEIEGraphicsViewTest::gamutToTriangle()
     QCOMPARE(describe(triangle), describe(triangleOf(distinctTargets(3))));
     view.colorGamutToTriangle(Model::ColorGamutInfo(), triangle);
     QCOMPARE(describe(triangle), describe(TrianglePoint()));
+}
+
+void LegacyCEIEGraphicsViewTest::changedGamutsRepaintTheChart()
+{
+    Tests::changedGamutsRepaintTheChart();
+    CEIEGraphicsView view(true, nullptr);
+    QVERIFY(Tests::isRepaintedBy(view,
+        [](CEIEGraphicsView &shown) { shown.setColorGamut(info(distinctTargets(1)), info(distinctTargets(2))); }));
 }
 
 void LegacyCEIEGraphicsViewTest::twoGamuts()
@@ -328,13 +320,16 @@ void LegacyCEIEGraphicsViewTest::relaysWhatTheMouseDoes()
     QVERIFY(entries.filter(QStringLiteral("target ")).constFirst().contains(describe(edited)));
 }
 
-void LegacyCEIEGraphicsViewTest::cursorStaysOverAUvDiagram()
+// It follows the scene over the type XyDiagram only, though any other than UvDiagram shows x, y.
+void LegacyCEIEGraphicsViewTest::cursorStaysOverOtherDiagrams()
 {
-    const CEIEGraphicsView view(nullptr, DrawCEIPicture::UvDiagram);
-    Q_EMIT Tests::sceneOf(view)->signal_mouseCursorChange(QCursor(Qt::OpenHandCursor));
-    QCoreApplication::sendPostedEvents();
-    QVERIFY(!view.view()->testAttribute(Qt::WA_SetCursor));
-    QCOMPARE(view.view()->cursor().shape(), Qt::ArrowCursor);
+    for (const int type : {1, 2, -1}) {
+        const CEIEGraphicsView view(nullptr, static_cast<DrawCEIPicture::CEIEType>(type));
+        Q_EMIT Tests::sceneOf(view)->signal_mouseCursorChange(QCursor(Qt::OpenHandCursor));
+        QCoreApplication::sendPostedEvents();
+        QVERIFY(!view.view()->testAttribute(Qt::WA_SetCursor));
+        QCOMPARE(view.view()->cursor().shape(), Qt::ArrowCursor);
+    }
 }
 
 void LegacyCEIEGraphicsViewTest::bothGenerationsTogether()

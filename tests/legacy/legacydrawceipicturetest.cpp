@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/legacy/drawceipicture.h>
+#include <ceiechart/render/drawceipicture.h>
 
+#include <reference/hasmember.h>
 #include <reference/picturedifference.h>
 #include <reference/picturetestmain.h>
 #include <reference/plainrenderer.h>
 #include <reference/quietmessages.h>
+#include <reference/rendererstate.h>
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -26,6 +29,61 @@ const QColor blackMargins(0, 0, 0);
 const QColor greyMargins(0x32, 0x32, 0x38);
 
 using Picture = std::unique_ptr<QImage>;
+
+// What the legacy renderer must not have, not even by way of a base.
+DEFINE_HAS_MEMBER(painterStandard)
+DEFINE_HAS_MEMBER(painterOriginalTriangle)
+DEFINE_HAS_MEMBER(painterTargetTriangle)
+DEFINE_HAS_MEMBER(painterInputTriangle)
+DEFINE_HAS_MEMBER(painterTriangle)
+DEFINE_HAS_MEMBER(painterIntersectsTriangle)
+DEFINE_HAS_MEMBER(intersectPolygon)
+DEFINE_HAS_MEMBER(updateTriangleOffsetPoint)
+DEFINE_HAS_MEMBER(drawCMYPoint)
+DEFINE_HAS_MEMBER(setCMYPointData)
+DEFINE_HAS_MEMBER(setPointData)
+DEFINE_HAS_MEMBER(setBackgroudColor)
+
+using Current = NewCEIE::DrawCEIPicture;
+ONLY_IN_THE_CURRENT_CLASS(painterStandard, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(painterOriginalTriangle, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(painterTargetTriangle, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(painterInputTriangle, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(painterTriangle, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(painterIntersectsTriangle, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(intersectPolygon, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(updateTriangleOffsetPoint, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(drawCMYPoint, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(setCMYPointData, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(setPointData, Current, DrawCEIPicture);
+ONLY_IN_THE_CURRENT_CLASS(setBackgroudColor, Current, DrawCEIPicture);
+
+// Nor these forms of operations that it has.
+template <class T>
+using GamutForm = decltype(std::declval<T &>().drawCEIPicture(
+    1, 1, true, QList<ColorTriangleObject>(), QList<ColorTriangleObject>(), QPolygonF(), true, QString()));
+template <class T>
+using AlphaOfPoint = decltype(std::declval<T &>().GetPointRGB(1, 1, 0.5, static_cast<QImage *>(nullptr)));
+template <class T>
+using AlphaOfColor = decltype(std::declval<T &>().GetPointColorRGB(1, 1, 0.5, static_cast<QImage *>(nullptr)));
+static_assert(reference::isDetected<GamutForm, Current> && !reference::isDetected<GamutForm, DrawCEIPicture>);
+static_assert(reference::isDetected<AlphaOfPoint, Current> && !reference::isDetected<AlphaOfPoint, DrawCEIPicture>);
+static_assert(reference::isDetected<AlphaOfColor, Current> && !reference::isDetected<AlphaOfColor, DrawCEIPicture>);
+
+// With a third enumerator this does not compile.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic error "-Wswitch"
+bool isUniformDiagram(DrawCEIPicture::CEIEType type)
+{
+    switch (type) {
+    case DrawCEIPicture::XyDiagram:
+        return false;
+    case DrawCEIPicture::UvDiagram:
+        return true;
+    }
+    return false;
+}
+#pragma GCC diagnostic pop
 
 constexpr reference::ChromaRange xyRange{0.0F, 0.84F, 0.0F, 0.94F};
 constexpr reference::ChromaRange uvRange{0.0F, 0.65F, 0.0F, 0.68F};
@@ -269,6 +327,7 @@ private Q_SLOTS:
     void titlesStandClearOfTheNumbers_data();
     void titlesStandClearOfTheNumbers();
     void rangesPerType();
+    void tablesPerType();
     void marginsPerType();
     void secondGraphColorIsTheUvBackgroundOnly();
     void uvPictureIgnoresItsFlags();
@@ -292,6 +351,7 @@ void LegacyDrawCEIPictureTest::translucentWidget()
         QCOMPARE(renderer.metaObject()->className(), "DrawCEIPicture");
         QCOMPARE(renderer.metaObject()->superClass(), &QWidget::staticMetaObject);
         QCOMPARE(renderer.type(), type);
+        QCOMPARE(isUniformDiagram(type), type == uvDiagram);
     }
 }
 
@@ -451,6 +511,30 @@ void LegacyDrawCEIPictureTest::rangesPerType()
     const QPointF uvEnd = uv.CoordinateTransformation(QPointF(0.6501, 0.6801));
     QCOMPARE(uvEnd.x(), 684.0);
     QCOMPARE(uvEnd.y(), 120.0);
+}
+
+// Both the whole locus and all of the colour system are exchanged for what belongs to the diagram.
+void LegacyDrawCEIPictureTest::tablesPerType()
+{
+    const CEIAtlasValue plain;
+    for (const auto type : {xyDiagram, uvDiagram}) {
+        const DrawCEIPicture renderer(type, nullptr);
+        const CEIAtlasValue &atlas = reference::atlasOf(renderer);
+        std::vector<QPointF> locus = plain.spectrumLocus;
+        if (type == uvDiagram) {
+            DrawCEIPicture::xy2uv(plain.spectrumLocus, locus);
+        }
+        QCOMPARE(atlas.spectrumLocus.size(), std::size_t(62));
+        for (std::size_t i = 0; i < locus.size(); ++i) {
+            QVERIFY(atlas.spectrumLocus[i].x() == locus[i].x() && atlas.spectrumLocus[i].y() == locus[i].y());
+        }
+        const CEIAtlasValue::TColorSystem colors = type == uvDiagram ? uvColors : plain.colorSystem;
+        const CEIAtlasValue::TColorSystem &used = atlas.colorSystem;
+        QVERIFY(used.xRed == colors.xRed && used.yRed == colors.yRed);
+        QVERIFY(used.xGreen == colors.xGreen && used.yGreen == colors.yGreen);
+        QVERIFY(used.xBlue == colors.xBlue && used.yBlue == colors.yBlue);
+        QVERIFY(used.xWhite == colors.xWhite && used.yWhite == colors.yWhite);
+    }
 }
 
 void LegacyDrawCEIPictureTest::marginsPerType()

@@ -2,7 +2,10 @@
 #include <ceiechart/atlas/chromasets.h>
 #include <ceiechart/legacy/ceiegraphicsscene.h>
 #include <ceiechart/legacy/drawceipicture.h>
+#include <ceiechart/scene/ceiegraphicsscene.h>
 
+#include <reference/hasmember.h>
+#include <reference/mouseitem.h>
 #include <reference/picturedifference.h>
 #include <reference/samplegamuts.h>
 #include <reference/scenemodel.h>
@@ -157,32 +160,27 @@ void paintHandles(Scene &scene)
 }
 
 // What the legacy scene must not have, not even by way of a base.
-template <typename T, typename = void>
-struct HasGamutForm : std::false_type {
-};
-template <typename T>
-struct HasGamutForm<T,
-    std::void_t<decltype(std::declval<T &>().setLsColorTriangleObject(QList<ColorTriangleObject>(),
-        QList<ColorTriangleObject>(), TrianglePoint(), TrianglePoint(), true, QString()))>> : std::true_type {
-};
+DEFINE_HAS_MEMBER(setTargetItemVisable)
+DEFINE_HAS_MEMBER(setBackgroudColor)
+DEFINE_HAS_MEMBER(setCMYPointData)
+DEFINE_HAS_MEMBER(ChromaToCurCoordinate)
+DEFINE_HAS_MEMBER(CurCoordinateToChroma)
+DEFINE_HAS_MEMBER(chromaToCurCoordinate)
+DEFINE_HAS_MEMBER(painterTriangle)
 
-#define CHECK_FOR_MEMBER(Trait, member)                                                                                \
-    template <typename T, typename = void>                                                                             \
-    struct Trait : std::false_type {                                                                                   \
-    };                                                                                                                 \
-    template <typename T>                                                                                              \
-    struct Trait<T, std::void_t<decltype(&T::member)>> : std::true_type {                                              \
-    };
+ONLY_IN_THE_CURRENT_CLASS(setTargetItemVisable, NewCEIE::CEIEGraphicsScene, Scene);
+ONLY_IN_THE_CURRENT_CLASS(setBackgroudColor, NewCEIE::CEIEGraphicsScene, Scene);
+ONLY_IN_THE_CURRENT_CLASS(setCMYPointData, NewCEIE::CEIEGraphicsScene, Scene);
+ONLY_IN_THE_CURRENT_CLASS(ChromaToCurCoordinate, NewCEIE::CEIEGraphicsScene, Scene);
+ONLY_IN_THE_CURRENT_CLASS(CurCoordinateToChroma, NewCEIE::CEIEGraphicsScene, Scene);
+ONLY_IN_THE_CURRENT_CLASS(chromaToCurCoordinate, NewCEIE::CEIEGraphicsScene, Scene);
+static_assert(!Has_painterTriangle<Scene>::value);
 
-CHECK_FOR_MEMBER(HasTargetItemVisable, setTargetItemVisable)
-CHECK_FOR_MEMBER(HasBackgroudColor, setBackgroudColor)
-CHECK_FOR_MEMBER(HasCMYPointData, setCMYPointData)
-CHECK_FOR_MEMBER(HasToCurCoordinate, ChromaToCurCoordinate)
-CHECK_FOR_MEMBER(HasToChroma, CurCoordinateToChroma)
-CHECK_FOR_MEMBER(HasToCurCoordinateInPlace, chromaToCurCoordinate)
-CHECK_FOR_MEMBER(HasPainterTriangle, painterTriangle)
-CHECK_FOR_MEMBER(HasMeasureValuePoints, setMeasureValuePoints)
-#undef CHECK_FOR_MEMBER
+template <class T>
+using GamutForm = decltype(std::declval<T &>().setLsColorTriangleObject(
+    QList<ColorTriangleObject>(), QList<ColorTriangleObject>(), TrianglePoint(), TrianglePoint(), true, QString()));
+static_assert(reference::isDetected<GamutForm, NewCEIE::CEIEGraphicsScene>);
+static_assert(!reference::isDetected<GamutForm, Scene>);
 
 } // namespace
 
@@ -192,12 +190,13 @@ class LegacySceneTest : public QObject {
 private Q_SLOTS:
     void derivesFromGraphicsScene();
     void declaresTheSameSignals();
-    void lacksWhatTheCurrentSceneAdded();
     void checkTakesConstantReferences();
     void measurePointsAreKept();
     void sceneRectangleIsTheImage();
     void planckianLocusFollowsTheAxes();
     void uniformDiagramShowsMeasurePoints();
+    void renderingHandsOverNoColorTemperaturePoints();
+    void backgroundGoesByTheFirstView();
     void backgroundDrawsTheHandles();
     void handlesStandWhereTheRendererMaps();
     void temperatureSignalNarrowsTheWhite();
@@ -226,6 +225,7 @@ private Q_SLOTS:
     void hoverSetsTheTab();
     void hoverOrderIsRedGreenBlueWhite();
     void heldSpaceTurnsTheMouseIntoAHand();
+    void otherKeysEndTheHand();
     void spaceReleasedMidDragGoesOn();
     void magnifierRepeatsTheZoomStep();
     void releaseReportsTheTargetAsItStands();
@@ -245,6 +245,8 @@ private Q_SLOTS:
     void listReplacedMidDrag();
     void listShortenedMidDrag();
     void eventsAreAcceptedAsStated();
+    void itemsGetNoMouseEvents();
+    void keyEventsKeepTheirAcceptance();
     void meaninglessInputIsSurvived();
 };
 
@@ -259,19 +261,6 @@ void LegacySceneTest::derivesFromGraphicsScene()
 void LegacySceneTest::declaresTheSameSignals()
 {
     QCOMPARE(reference::declaredSignals(Scene::staticMetaObject), reference::sceneSignals());
-}
-
-void LegacySceneTest::lacksWhatTheCurrentSceneAdded()
-{
-    QVERIFY(!HasGamutForm<Scene>::value);
-    QVERIFY(!HasTargetItemVisable<Scene>::value);
-    QVERIFY(!HasBackgroudColor<Scene>::value);
-    QVERIFY(!HasCMYPointData<Scene>::value);
-    QVERIFY(!HasToCurCoordinate<Scene>::value);
-    QVERIFY(!HasToChroma<Scene>::value);
-    QVERIFY(!HasToCurCoordinateInPlace<Scene>::value);
-    QVERIFY(!HasPainterTriangle<Scene>::value);
-    QVERIFY(HasMeasureValuePoints<Scene>::value); // the check itself finds members
 }
 
 void LegacySceneTest::checkTakesConstantReferences()
@@ -346,6 +335,44 @@ void LegacySceneTest::uniformDiagramShowsMeasurePoints()
     scene.setMeasureValuePoints({});
     scene.getBitMap();
     QVERIFY(!reference::firstDifference(backgroundOf(scene), shown(*picture)).isEmpty());
+}
+
+// They are kept for the host, and no picture shows them.
+void LegacySceneTest::renderingHandsOverNoColorTemperaturePoints()
+{
+    const QList<QPointF> points{QPointF(0.3127, 0.329), QPointF(0.4, 0.4)};
+    Scene scene(xyDiagram, {});
+    scene.setImageWidth(240);
+    scene.setImageHeight(260);
+    scene.setLsColorTempertureValuePoints(points);
+    QCOMPARE(scene.getLsColorTempertureValuePoints(), points);
+    DrawCEIPicture renderer(xyDiagram, nullptr);
+    const std::unique_ptr<QImage> without(renderer.drawCEIPicture(240, 260, true, true, true, {}));
+    const std::unique_ptr<QImage> with(renderer.drawCEIPicture(240, 260, true, true, true, points));
+    QVERIFY(!reference::firstDifference(*with, *without).isEmpty());
+    QCOMPARE(reference::firstDifference(backgroundOf(scene), shown(*without)), QString());
+}
+
+void LegacySceneTest::backgroundGoesByTheFirstView()
+{
+    Scene scene(xyDiagram, {});
+    scene.setImageWidth(240);
+    scene.setImageHeight(260);
+    const auto drawn = [&scene] {
+        QImage image(400, 400, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::magenta);
+        QPainter painter(&image);
+        scene.drawBackground(&painter, QRectF());
+        return image;
+    };
+    QGraphicsView first(&scene);
+    first.resize(300, 130);
+    const QImage alone = drawn();
+    QGraphicsView last(&scene);
+    last.resize(300, 390);
+    QCOMPARE(reference::firstDifference(drawn(), alone), QString());
+    first.setScene(nullptr);
+    QVERIFY(!reference::firstDifference(drawn(), alone).isEmpty());
 }
 
 void LegacySceneTest::backgroundDrawsTheHandles()
@@ -773,6 +800,17 @@ void LegacySceneTest::heldSpaceTurnsTheMouseIntoAHand()
     QCOMPARE(bench.names(), QStringList(valueChanged));
 }
 
+void LegacySceneTest::otherKeysEndTheHand()
+{
+    for (const int code : {Qt::Key_A, Qt::Key_Shift, Qt::Key_Left}) {
+        Bench bench;
+        bench.key(QEvent::KeyPress, Qt::Key_Space);
+        QVERIFY(stateOf(bench.scene).hand);
+        bench.key(QEvent::KeyPress, code);
+        QVERIFY(!stateOf(bench.scene).hand);
+    }
+}
+
 void LegacySceneTest::spaceReleasedMidDragGoesOn()
 {
     Bench bench;
@@ -1066,6 +1104,37 @@ void LegacySceneTest::eventsAreAcceptedAsStated()
     QVERIFY(bench.move(Bench::at(QPointF(0.52, 0.3))));
     QVERIFY(bench.release());
     QVERIFY(bench.release(Qt::RightButton));
+}
+
+// The handlers of QGraphicsScene, which would hand the events on to items, are not called.
+void LegacySceneTest::itemsGetNoMouseEvents()
+{
+    Bench bench;
+    auto *item = new reference::MouseItem(QRectF(0, 0, 800, 800));
+    bench.scene.addItem(item);
+    bench.press(QPointF(300, 300));
+    QCOMPARE(item->events, 0);
+    item->grabMouse();
+    bench.move(QPointF(310, 300));
+    bench.release();
+    QCOMPARE(item->events, 0);
+    QCOMPARE(bench.scene.mouseGrabberItem(), item);
+}
+
+// Neither accepted nor ignored, and not handed on to the base, which would ignore them.
+void LegacySceneTest::keyEventsKeepTheirAcceptance()
+{
+    Bench bench;
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        for (const int key : {int(Qt::Key_Left), int(Qt::Key_Space), int(Qt::Key_A)}) {
+            for (const bool accepted : {true, false}) {
+                QKeyEvent event(type, key, Qt::NoModifier);
+                event.setAccepted(accepted);
+                QCoreApplication::sendEvent(&bench.scene, &event);
+                QCOMPARE(event.isAccepted(), accepted);
+            }
+        }
+    }
 }
 
 void LegacySceneTest::meaninglessInputIsSurvived()

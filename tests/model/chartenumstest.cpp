@@ -23,6 +23,79 @@ static_assert(!std::is_same_v<NewCEIE::TabSelectedType, ::TabSelectedType>);
 static_assert(!std::is_same_v<NewCEIE::ColorArea, ::ColorArea>);
 static_assert(!std::is_same_v<NewCEIE::MouseCursorStyle, ::MouseCursorStyle>);
 
+// With a further enumerator these do not compile.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic error "-Wswitch"
+
+static bool isPrimary(LEDColorType type)
+{
+    switch (type) {
+    case Red:
+    case Green:
+    case Blue:
+        return true;
+    case None:
+        return false;
+    }
+    return false;
+}
+
+static bool isHandle(NewCEIE::TabSelectedType tab)
+{
+    switch (tab) {
+    case TabSelectedGreen:
+    case TabSelectedWhite:
+    case TabSelectedBlue:
+    case TabSelectedRed:
+        return true;
+    case TabSelectedNone:
+        return false;
+    }
+    return false;
+}
+
+static bool isHandle(::TabSelectedType tab)
+{
+    switch (tab) {
+    case LegacyTabSelectedGreen:
+    case LegacyTabSelectedWhite:
+    case LegacyTabSelectedBlue:
+    case LegacyTabSelectedRed:
+        return true;
+    case LegacyTabSelectedNone:
+        return false;
+    }
+    return false;
+}
+
+static bool isPrimary(NewCEIE::ColorArea area)
+{
+    switch (area) {
+    case ColorAreaRed:
+    case ColorAreaGreen:
+    case ColorAreaBlue:
+        return true;
+    case ColorAreaNone:
+        return false;
+    }
+    return false;
+}
+
+static bool isPrimary(::ColorArea area)
+{
+    switch (area) {
+    case LegacyColorAreaRed:
+    case LegacyColorAreaGreen:
+    case LegacyColorAreaBlue:
+        return true;
+    case LegacyColorAreaNone:
+        return false;
+    }
+    return false;
+}
+
+#pragma GCC diagnostic pop
+
 class ChartEnumsTest : public QObject {
     Q_OBJECT
 
@@ -39,21 +112,7 @@ void ChartEnumsTest::ledColorType()
     QCOMPARE(int(baseCommon::Green), 1);
     QCOMPARE(int(baseCommon::Blue), 2);
     QCOMPARE(int(baseCommon::None), 3);
-
-    // A fifth enumerator would not be handled, which the compiler reports.
-    int primaries = 0;
-    for (int value = 0; value < 4; ++value) {
-        switch (static_cast<LEDColorType>(value)) {
-        case Red:
-        case Green:
-        case Blue:
-            ++primaries;
-            break;
-        case None:
-            break;
-        }
-    }
-    QCOMPARE(primaries, 3);
+    QVERIFY(isPrimary(baseCommon::Red) && !isPrimary(baseCommon::None));
 }
 
 void ChartEnumsTest::tabSelectedType()
@@ -68,6 +127,8 @@ void ChartEnumsTest::tabSelectedType()
     QCOMPARE(int(LegacyTabSelectedWhite), 2);
     QCOMPARE(int(LegacyTabSelectedBlue), 3);
     QCOMPARE(int(LegacyTabSelectedRed), 4);
+    QVERIFY(isHandle(TabSelectedRed) && !isHandle(TabSelectedNone));
+    QVERIFY(isHandle(LegacyTabSelectedRed) && !isHandle(LegacyTabSelectedNone));
 }
 
 void ChartEnumsTest::colorArea()
@@ -80,6 +141,8 @@ void ChartEnumsTest::colorArea()
     QCOMPARE(int(LegacyColorAreaRed), 1);
     QCOMPARE(int(LegacyColorAreaGreen), 2);
     QCOMPARE(int(LegacyColorAreaBlue), 3);
+    QVERIFY(isPrimary(ColorAreaRed) && !isPrimary(ColorAreaNone));
+    QVERIFY(isPrimary(LegacyColorAreaRed) && !isPrimary(LegacyColorAreaNone));
 }
 
 void ChartEnumsTest::mouseCursorStyle()

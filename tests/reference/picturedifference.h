@@ -3,6 +3,7 @@
 #define CEIECHART_TESTS_REFERENCE_PICTUREDIFFERENCE_H
 
 #include <QImage>
+#include <QRect>
 #include <QString>
 
 #include <cstring>
@@ -57,6 +58,20 @@ inline QString firstDifference(const QImage &actual, const QImage &expected)
         }
     }
     return QString();
+}
+
+/*! \brief The smallest rectangle of all pixels in which two pictures of one size differ; empty when they do not. */
+inline QRect changedPixels(const QImage &a, const QImage &b)
+{
+    QRect changed;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixel(x, y) != b.pixel(x, y)) {
+                changed |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return changed;
 }
 
 } // namespace reference

@@ -6,6 +6,8 @@
 
 #include <QPointF>
 
+class QPainter;
+
 namespace reference {
 
 // White-box access to what the renderers keep between layers: the one place that knows the names of their members.
@@ -43,6 +45,12 @@ void startTickAtCurrentPoint(Renderer &renderer)
 {
     renderer.d->previousLocusPoint = QPointF(renderer.d->current.x, renderer.d->current.y);
     renderer.d->tickWeight = 1.0;
+}
+
+template <typename Renderer>
+void drawMeasurePoints(Renderer &renderer, QPainter &painter)
+{
+    renderer.drawMeasurePoints(painter);
 }
 
 /*! \brief The tables that a renderer draws from. */

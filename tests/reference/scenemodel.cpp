@@ -251,23 +251,6 @@ int fenceRegion(const PointF &point)
     return 3;
 }
 
-QRectF backgroundTarget(const QRectF &sceneRectangle, int viewWidth, int viewHeight)
-{
-    const double hs = sceneRectangle.height();
-    const double ws = sceneRectangle.width();
-    const double ratio = hs / viewHeight;
-    if (ratio < 1.0) {
-        const int dy = truncateToInt((viewHeight - hs) * 0.5);
-        const int dx = truncateToInt((viewWidth - ws) * 0.5);
-        return sceneRectangle.translated(dx, dy);
-    }
-    const double w = ws / ratio;
-    const double h = hs / ratio;
-    const int dx = truncateToInt((viewWidth - w) * 0.5);
-    const int dy = truncateToInt((viewHeight - h) * 0.5);
-    return QRectF(dx, dy, w, h);
-}
-
 void PictureMapping::draw(int width, int height)
 {
     constexpr double xMax = static_cast<double>(0.84F);

@@ -53,9 +53,6 @@ const std::vector<PointF> &fence(int region);
 /*! \brief 0 red, 1 green, 2 blue fence, tested in that order; 3 for none of them. */
 int fenceRegion(const PointF &point);
 
-/*! \brief Where the background picture goes for a scene rectangle and the size of the view's widget. */
-QRectF backgroundTarget(const QRectF &sceneRectangle, int viewWidth, int viewHeight);
-
 /*! \brief What a scene keeps between events. */
 struct SceneState {
     QPointF requested;

@@ -99,15 +99,6 @@ void setZoom(Scene &scene, float zoom)
     scene.d->zoom = zoom;
 }
 
-/*! \brief Chromaticity (0, 0) goes to the scene's corner and 1.0 spans 100 pixels, so that positions are exact. */
-template <typename Scene>
-void placeCoordinates(Scene &scene)
-{
-    scene.d->originX = 0;
-    scene.d->originY = 0;
-    scene.d->unitLength = 100;
-}
-
 template <typename Scene>
 int hoverTab(const Scene &scene)
 {

@@ -3,7 +3,6 @@
 #include <reference/picturedifference.h>
 #include <reference/plainrenderer.h>
 #include <reference/quietmessages.h>
-#include <reference/rendererstate.h>
 
 #include <QPainter>
 #include <QtTest>
@@ -23,7 +22,6 @@ private Q_SLOTS:
     void clipsThatCannotBeBounded();
     void tallPictures();
     void chromaticitiesThatAreNoNumbers();
-    void zeroChordDrawsNoTick();
 };
 
 namespace {
@@ -131,23 +129,6 @@ void OddPicturesTest::chromaticitiesThatAreNoNumbers()
         // The picture colour is still where nothing else is drawn.
         QCOMPARE(gamuts->pixelColor(119, 0), QColor(23, 23, 26));
     }
-}
-
-void OddPicturesTest::zeroChordDrawsNoTick()
-{
-    NewCEIE::DrawCEIPicture renderer(nullptr);
-    std::unique_ptr<QImage>(renderer.drawCEIPicture(200, 200, false, {}, {}, QPolygonF(), false, QString()));
-    QImage picture(200, 200, QImage::Format_ARGB32);
-    picture.fill(Qt::black);
-    const QImage before = picture;
-    {
-        QPainter painter(&picture);
-        const CEIAtlasValue::CEIAtlasCoordinate row = CEIAtlasValue().atlasCoordinates.at(500 - 360);
-        renderer.GetPointF(row);
-        reference::startTickAtCurrentPoint(renderer);
-        renderer.DrawEdgeCoordinates(painter, row);
-    }
-    QVERIFY(picture == before);
 }
 
 QTEST_MAIN(OddPicturesTest)

@@ -2,6 +2,7 @@
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/scene/ceiegraphicsscene.h>
 
+#include <reference/mouseitem.h>
 #include <reference/picturedifference.h>
 #include <reference/samplegamuts.h>
 #include <reference/scenemodel.h>
@@ -153,9 +154,11 @@ private Q_SLOTS:
     void enablingPrimariesSetsTheEditMode();
     void setTargetItemVisableHasNoEffect();
     void mouseHandlersAreEmpty();
+    void itemsGetNoMouseEvents();
     void simpleFormFollowsTheLayerFlags();
     void backgroundFollowsTheView_data();
     void backgroundFollowsTheView();
+    void backgroundGoesByTheFirstView();
     void backgroundOfAMovedSceneRectangle();
     void backgroundIsTheSameForAnyPainter_data();
     void backgroundIsTheSameForAnyPainter();
@@ -565,6 +568,23 @@ void CEIEGraphicsSceneTest::mouseHandlersAreEmpty()
     QCOMPARE(describe(scene.getLsColorTriangleObject()), describe(reference::gamutPair()));
 }
 
+// The handlers of QGraphicsScene, which would hand the events on to items, are not called.
+void CEIEGraphicsSceneTest::itemsGetNoMouseEvents()
+{
+    Scene scene({});
+    auto *item = new reference::MouseItem(QRectF(0, 0, 300, 300));
+    scene.addItem(item);
+    item->grabMouse();
+    for (const QEvent::Type type :
+        {QEvent::GraphicsSceneMousePress, QEvent::GraphicsSceneMouseMove, QEvent::GraphicsSceneMouseRelease}) {
+        QGraphicsSceneMouseEvent event(type);
+        event.setScenePos(QPointF(100, 100));
+        event.setButton(Qt::LeftButton);
+        QCoreApplication::sendEvent(&scene, &event);
+    }
+    QCOMPARE(item->events, 0);
+}
+
 void CEIEGraphicsSceneTest::simpleFormFollowsTheLayerFlags()
 {
     for (const bool coordinate : {true, false}) {
@@ -589,27 +609,16 @@ void CEIEGraphicsSceneTest::backgroundFollowsTheView_data()
     QTest::addColumn<QSize>("view");
     QTest::addColumn<QRectF>("target");
     QTest::newRow("taller: centred unscaled") << QSize(700, 800) << QRectF(14, 36, 672, 728);
-    QTest::newRow("taller by an odd number") << QSize(701, 801) << QRectF(14, 36, 672, 728);
-    QTest::newRow("taller and narrower: toward zero") << QSize(601, 729) << QRectF(-35, 0, 672, 728);
-    QTest::newRow("as tall") << QSize(680, 728) << QRectF(4, 0, 672, 728);
     QTest::newRow("shorter: scaled down") << QSize(500, 364) << QRectF(82, 0, 336, 364);
-    QTest::newRow("shorter and narrow") << QSize(301, 364) << QRectF(-17, 0, 336, 364);
     const double slight = 728.0 / 700.0;
     QTest::newRow("a little shorter") << QSize(680, 700)
                                       << QRectF(std::trunc((680 - 672 / slight) * 0.5), 0, 672 / slight, 728 / slight);
-    const double ratio = 728.0 / 401.0;
-    QTest::newRow("shorter by an odd ratio")
-        << QSize(640, 401) << QRectF(std::trunc((640 - 672 / ratio) * 0.5), 0, 672 / ratio, 728 / ratio);
 }
 
 void CEIEGraphicsSceneTest::backgroundFollowsTheView()
 {
     QFETCH(QSize, view);
     QFETCH(QRectF, target);
-    const QRectF modelled = reference::backgroundTarget(QRectF(0, 0, 672, 728), view.width(), view.height());
-    QCOMPARE(describe(modelled.topLeft()), describe(target.topLeft()));
-    QCOMPARE(describe(modelled.bottomRight()), describe(target.bottomRight()));
-
     Scene scene(reference::gamutPair());
     scene.setImageWidth(160);
     scene.setImageHeight(120);
@@ -620,7 +629,22 @@ void CEIEGraphicsSceneTest::backgroundFollowsTheView()
         reference::firstDifference(backgroundOf(scene, view, canvas), painted(*picture, target, canvas)), QString());
 }
 
-// Unscaled it moves along, scaled it does not; as tall as the view counts as scaled.
+void CEIEGraphicsSceneTest::backgroundGoesByTheFirstView()
+{
+    Scene scene({});
+    scene.setImageWidth(160);
+    scene.setImageHeight(120);
+    NewCEIE::DrawCEIPicture renderer(nullptr);
+    const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(160, 120, true, true, true, {}));
+    QGraphicsView first(&scene);
+    first.resize(500, 364);
+    QGraphicsView last(&scene);
+    last.resize(700, 800);
+    const QSize canvas(720, 820);
+    const QImage actual = canvasWith(canvas, [&](QPainter &painter) { scene.drawBackground(&painter, QRectF()); });
+    QCOMPARE(reference::firstDifference(actual, painted(*picture, QRectF(82, 0, 336, 364), canvas)), QString());
+}
+
 void CEIEGraphicsSceneTest::backgroundOfAMovedSceneRectangle()
 {
     Scene scene({});
@@ -632,12 +656,6 @@ void CEIEGraphicsSceneTest::backgroundOfAMovedSceneRectangle()
     const QSize canvas(500, 600);
     QCOMPARE(reference::firstDifference(
                  backgroundOf(scene, QSize(340, 402), canvas), painted(*picture, QRectF(30, 21, 300, 400), canvas)),
-        QString());
-    QCOMPARE(reference::firstDifference(
-                 backgroundOf(scene, QSize(340, 400), canvas), painted(*picture, QRectF(20, 0, 300, 400), canvas)),
-        QString());
-    QCOMPARE(reference::firstDifference(
-                 backgroundOf(scene, QSize(340, 200), canvas), painted(*picture, QRectF(95, 0, 150, 200), canvas)),
         QString());
 }
 

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void coordinatesWithinToleranceAreEqual();
     void edgesAreHalfOpen();
     void firstThreeCornersReachFurther();
+    void degenerateTriangleHoldsItsCorners();
     void countsCrossings();
     void emptyContainsNothing();
     void areaTestTakesTheEdges();
@@ -39,6 +40,9 @@ void ContainmentTest::edgesAreHalfOpen()
     QVERIFY(!polygonContains(PointF{0.5F, 1.0F}, square));
     QVERIFY(polygonContains(PointF{0.0F, 0.5F}, square));
     QVERIFY(!polygonContains(PointF{1.0F, 0.5F}, square));
+    // Two y values within the corners' tolerance are still two.
+    constexpr std::array<PointF, 3> tilted{{{0.2F, 0.6F}, {0.6F, 0.6005F}, {0.4F, 0.2F}}};
+    QVERIFY(polygonContains(PointF{0.5F, 0.6002F}, tilted));
 }
 
 void ContainmentTest::firstThreeCornersReachFurther()
@@ -48,6 +52,15 @@ void ContainmentTest::firstThreeCornersReachFurther()
     QVERIFY(polygonContains(PointF{1.001F, 1.001F}, square));
     QVERIFY(!polygonContains(PointF{-0.001F, 1.001F}, square)); // the fourth
     QVERIFY(!polygonContains(PointF{-0.0011F, 0.0F}, square)); // one coordinate is not enough
+}
+
+void ContainmentTest::degenerateTriangleHoldsItsCorners()
+{
+    constexpr std::array<PointF, 3> point{{{0.3F, 0.3F}, {0.3F, 0.3F}, {0.3F, 0.3F}}};
+    QVERIFY(polygonContains(PointF{0.301F, 0.299F}, point));
+    QVERIFY(!polygonContains(PointF{0.302F, 0.3F}, point));
+    constexpr std::array<PointF, 3> flat{{{0.2F, 0.2F}, {0.6F, 0.6F}, {0.4F, 0.4F}}};
+    QVERIFY(!polygonContains(PointF{0.3F, 0.3F}, flat));
 }
 
 void ContainmentTest::countsCrossings()

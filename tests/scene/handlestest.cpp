@@ -117,6 +117,7 @@ private Q_SLOTS:
     void primaryInNoFenceShowsARedCross();
     void onlyThePenColourChanges();
     void refreshAreaSetsThePenWidth();
+    void handlesTakeThePaintersPen();
     void halvesAreIntegers();
     void positionsTruncateTowardZero();
     void painterIsRestored();
@@ -296,6 +297,26 @@ void HandlesTest::refreshAreaSetsThePenWidth()
         QCOMPARE(painter.pen(), QPen(Qt::blue, 9));
     });
     QCOMPARE(reference::firstDifference(direct, handles(bench, grey, grey, grey)), QString());
+}
+
+// In another colour and one pixel wide.
+void HandlesTest::handlesTakeThePaintersPen()
+{
+    Bench bench;
+    const TrianglePoint points = bench.target();
+    QPen pen(QBrush(Qt::blue), 9, Qt::DotLine, Qt::RoundCap, Qt::RoundJoin);
+    const QImage actual = canvas([&](QPainter &painter) {
+        painter.setPen(pen);
+        QVERIFY(bench.scene.DrawThreeEllipseSign(&painter));
+    });
+    pen.setWidth(1);
+    const QImage expected = canvas([&](QPainter &painter) {
+        painter.setPen(pen);
+        sign(painter, bench.position(points.redPos()), 6, 6, Qt::gray, greenCross);
+        sign(painter, bench.position(points.greenPos()), 6, 6, Qt::gray, redCross);
+        sign(painter, bench.position(points.bluePos()), 6, 6, Qt::gray, greenCross);
+    });
+    QCOMPARE(reference::firstDifference(actual, expected), QString());
 }
 
 void HandlesTest::halvesAreIntegers()

@@ -58,21 +58,50 @@ struct Bench {
     }
 };
 
+bool isAt(const QPointF &point, double x, double y)
+{
+    return point.x() == x && point.y() == y;
+}
+
+bool isNear(const QPointF &point, double x, double y)
+{
+    return std::fabs(point.x() - x) < 1e-5 && std::fabs(point.y() - y) < 1e-5;
+}
+
+// Before anything is rendered chromaticity (0, 0) is the scene's corner and 1.0 spans 100 pixels: exact positions.
+QPointF positionOf(const QPointF &chroma)
+{
+    return QPointF(100 * chroma.x(), -100 * chroma.y());
+}
+
+QPointF chromaOf(const QPointF &position)
+{
+    return QPointF(position.x() / 100, -position.y() / 100);
+}
+
+const QPointF originalRed(0.75, 0.25);
+const QPointF originalGreen(0.25, 0.75);
+const QPointF originalBlue(0.125, 0.0625);
+const QPointF targetRed(0.5, 0.3);
+const QPointF targetGreen(0.3, 0.5);
+const QPointF targetBlue(0.2, 0.3);
+
+QList<ColorTriangleObject> edgedGamuts()
+{
+    const auto gamut = [](const QPointF &red, const QPointF &green, const QPointF &blue) {
+        return reference::sampleGamut(red, green, blue, 200, 700, 100, 0);
+    };
+    return {gamut(originalRed, originalGreen, originalBlue), gamut(targetRed, targetGreen, targetBlue)};
+}
+
+const QPointF untouched(-7, -8);
+
 } // namespace
 
 class TargetMovesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void regions_data();
-    void regions();
-    void regionIsFoundInSinglePrecision_data();
-    void regionIsFoundInSinglePrecision();
-    void meaninglessPointsLieInNoFence();
-    void flatEdgesAreHalfOpen();
-    void uprightEdgesHoldTheirLeftOnly();
-    void cornersReachATolerance();
-    void degenerateTriangleHoldsItsCorners();
     void checkPassesForAnEqualTarget();
     void checkNamesTheFirstOffender_data();
     void checkNamesTheFirstOffender();
@@ -103,163 +132,17 @@ private Q_SLOTS:
     void clickSetsTheTab_data();
     void clickSetsTheTab();
     void clickWithoutTargetKeepsTheTab();
-    void linesIntersect();
+    void linesAreThoseOfThePlane();
+    void intersectionBecomesTheRequestedPoint();
+    void parallelsLeaveTheRequestedPoint();
+    void crossingIsHeldToTheEdge();
+    void rectangleHoldsPositions();
+    void fencesTellWhichPositionsAreInAny();
+    void requestGoesToAnEdge_data();
+    void requestGoesToAnEdge();
+    void otherTabsRequestNothing();
+    void fewerThanTwoGamutsRequestNothing();
 };
-
-void TargetMovesTest::regions_data()
-{
-    QTest::addColumn<QPointF>("chroma");
-    QTest::addColumn<int>("region");
-
-    QTest::newRow("corner of all fences is red") << QPointF(0.33, 0.33) << 0;
-    QTest::newRow("red") << QPointF(0.5, 0.2) << 0;
-    QTest::newRow("green") << QPointF(0.2, 0.6) << 1;
-    QTest::newRow("blue") << QPointF(0.15, 0.05) << 2;
-    QTest::newRow("none") << QPointF(0.6, 0.6) << 3;
-    QTest::newRow("none, between green and blue") << QPointF(0.16, 0.31) << 3;
-    QTest::newRow("Rec. 709 red") << QPointF(0.64, 0.33) << 0;
-    QTest::newRow("Rec. 709 green") << QPointF(0.30, 0.60) << 1;
-    QTest::newRow("Rec. 709 blue") << QPointF(0.15, 0.06) << 2;
-
-    QTest::newRow("shared edge's end is red") << QPointF(0.493, 0.517) << 0;
-    QTest::newRow("beside the shared end, still red") << QPointF(0.4925, 0.5175) << 0;
-
-    // The tolerance at the first three corners is 0.0010123456789, in each coordinate for itself.
-    QTest::newRow("red corner, in reach of x") << QPointF(0.745012, 0.262) << 0;
-    QTest::newRow("red corner, out of reach of x") << QPointF(0.745013, 0.262) << 3;
-    QTest::newRow("red corner, in reach of y") << QPointF(0.744, 0.260988) << 0;
-    QTest::newRow("red corner, out of reach of y") << QPointF(0.744, 0.260987) << 3;
-    QTest::newRow("red corner, in reach of both") << QPointF(0.745, 0.263) << 0;
-    QTest::newRow("green corner, in reach") << QPointF(0.2207, 0.7707) << 1;
-    QTest::newRow("blue corner, in reach") << QPointF(0.1795, 0.0002) << 2;
-    QTest::newRow("red fence's fourth corner has no reach") << QPointF(0.427, 0.1085) << 3;
-    QTest::newRow("green fence's fourth corner has no reach") << QPointF(0.1187, 0.8309) << 3;
-    QTest::newRow("blue fence's fourth corner has no reach") << QPointF(0.16, 0.0012) << 3;
-
-    // At the height of a corner one of its two edges counts, and none at the topmost one.
-    QTest::newRow("level with a corner") << QPointF(0.6, 0.262) << 0;
-    QTest::newRow("topmost corner") << QPointF(0.073, 0.84) << 3;
-    QTest::newRow("just below the topmost corner") << QPointF(0.073, 0.8395) << 1;
-
-    // Each corner of each fence: a point a little inside and a little outside of it.
-    QTest::newRow("red inside 1") << QPointF(0.4929, 0.514) << 0;
-    QTest::newRow("red outside 1") << QPointF(0.4945, 0.5185) << 3;
-    QTest::newRow("red inside 3") << QPointF(0.428, 0.114) << 0;
-    QTest::newRow("green inside 3") << QPointF(0.118, 0.828) << 1;
-    QTest::newRow("green outside 3") << QPointF(0.119, 0.831) << 3;
-    QTest::newRow("green inside 5") << QPointF(0.028, 0.793) << 1;
-    QTest::newRow("green outside 5") << QPointF(0.0245, 0.7945) << 3;
-    QTest::newRow("green inside 6") << QPointF(0.009, 0.726) << 1;
-    QTest::newRow("green outside 6") << QPointF(0.006, 0.727) << 3;
-    QTest::newRow("green inside 7") << QPointF(0.006, 0.598) << 1;
-    QTest::newRow("green outside 7") << QPointF(0.003, 0.598) << 3;
-    QTest::newRow("green inside 8") << QPointF(0.011, 0.503) << 1;
-    QTest::newRow("green outside 8") << QPointF(0.008, 0.501) << 3;
-    QTest::newRow("green inside 9") << QPointF(0.030, 0.361) << 1;
-    QTest::newRow("green outside 9") << QPointF(0.026, 0.361) << 3;
-    QTest::newRow("green inside 10") << QPointF(0.042, 0.311) << 1;
-    QTest::newRow("green outside 10") << QPointF(0.040, 0.308) << 3;
-    QTest::newRow("blue inside 1") << QPointF(0.424, 0.1105) << 2;
-    QTest::newRow("blue outside 1") << QPointF(0.4345, 0.1125) << 3;
-    QTest::newRow("blue inside 3") << QPointF(0.161, 0.0035) << 2;
-    QTest::newRow("blue inside 4") << QPointF(0.1525, 0.0075) << 2;
-    QTest::newRow("blue outside 4") << QPointF(0.1500, 0.0065) << 3;
-    QTest::newRow("blue inside 5") << QPointF(0.1465, 0.0145) << 2;
-    QTest::newRow("blue outside 5") << QPointF(0.1440, 0.0135) << 3;
-    QTest::newRow("blue inside 6") << QPointF(0.1245, 0.0435) << 2;
-    QTest::newRow("blue outside 6") << QPointF(0.1220, 0.0425) << 3;
-    QTest::newRow("blue inside 7") << QPointF(0.0815, 0.1465) << 2;
-    QTest::newRow("blue outside 7") << QPointF(0.0790, 0.1455) << 3;
-    QTest::newRow("blue inside 8") << QPointF(0.0430, 0.2905) << 2;
-    // Where the blue fence's lower corners lie close together, a twentieth of a corner's height tells.
-    QTest::newRow("blue corner 2, in reach below") << QPointF(0.179, 0.00001) << 2;
-    QTest::newRow("blue just inside 3") << QPointF(0.16, 0.00205) << 2;
-    QTest::newRow("blue just inside 4") << QPointF(0.1511, 0.0071) << 2;
-    QTest::newRow("blue just inside 5") << QPointF(0.1451, 0.0143) << 2;
-    QTest::newRow("blue outside 8") << QPointF(0.0400, 0.2910) << 3;
-}
-
-void TargetMovesTest::regions()
-{
-    QFETCH(QPointF, chroma);
-    QFETCH(int, region);
-    QCOMPARE(reference::fenceRegion(reference::narrowed(chroma)), region);
-    Bench bench;
-    bench.place(chroma);
-    QCOMPARE(stateOf(bench.scene).selectedRegion, region);
-}
-
-void TargetMovesTest::regionIsFoundInSinglePrecision_data()
-{
-    QTest::addColumn<QPointF>("chroma");
-    // On the edge that red and green share: as doubles, all of these lie on its green side.
-    QTest::newRow("the point is narrowed") << QPointF(0.34664582251053716, 0.34909674153263948);
-    QTest::newRow("the crossing is narrow") << QPointF(0.35087498904516295, 0.35394860877225931);
-    QTest::newRow("the crossing is narrow too") << QPointF(0.33118748965983585, 0.33136233436462126);
-}
-
-void TargetMovesTest::regionIsFoundInSinglePrecision()
-{
-    QFETCH(QPointF, chroma);
-    const double edge = (0.493 - 0.33) * (chroma.y() - 0.33) / (0.517 - 0.33) + 0.33;
-    QVERIFY(chroma.x() > edge - 1e-7 && chroma.x() < edge + 1e-7);
-    Bench bench;
-    bench.place(chroma);
-    QCOMPARE(stateOf(bench.scene).selectedRegion, 0);
-}
-
-void TargetMovesTest::meaninglessPointsLieInNoFence()
-{
-    const double inf = std::numeric_limits<double>::infinity();
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    for (const QPointF &chroma : {QPointF(nan, nan), QPointF(nan, 0.3), QPointF(0.3, nan), QPointF(inf, 0.3),
-             QPointF(-inf, 0.3), QPointF(0.3, inf), QPointF(0.3, -inf), QPointF(1e300, -1e300)}) {
-        Bench bench;
-        reference::setRequestedPoint(bench.scene, chroma);
-        bench.scene.AddLedColorAndPoint();
-        // Left of all fences at their height every edge counts twice.
-        QCOMPARE(stateOf(bench.scene).selectedRegion, 3);
-        QVERIFY(!stateOf(bench.scene).vertexSelected);
-    }
-}
-
-void TargetMovesTest::flatEdgesAreHalfOpen()
-{
-    Bench bench;
-    QVERIFY(bench.acceptsWhite(QPointF(0.2, 0.2), QPointF(0.6, 0.2), QPointF(0.4, 0.6), QPointF(0.4, 0.2)));
-    QVERIFY(!bench.acceptsWhite(QPointF(0.2, 0.6), QPointF(0.6, 0.6), QPointF(0.4, 0.2), QPointF(0.4, 0.6)));
-    // Two y values within the corners' tolerance are still two.
-    QVERIFY(bench.acceptsWhite(QPointF(0.2, 0.6), QPointF(0.6, 0.6005), QPointF(0.4, 0.2), QPointF(0.5, 0.6002)));
-}
-
-void TargetMovesTest::uprightEdgesHoldTheirLeftOnly()
-{
-    Bench bench;
-    QVERIFY(!bench.acceptsWhite(QPointF(0.5, 0.25), QPointF(0.5, 0.75), QPointF(0.25, 0.5), QPointF(0.5, 0.375)));
-    QVERIFY(bench.acceptsWhite(QPointF(0.25, 0.25), QPointF(0.25, 0.75), QPointF(0.5, 0.5), QPointF(0.25, 0.375)));
-}
-
-void TargetMovesTest::cornersReachATolerance()
-{
-    Bench bench;
-    const QPointF red(0.2, 0.2);
-    const QPointF green(0.6, 0.2);
-    const QPointF blue(0.4, 0.6);
-    for (const QPointF &corner : {red, green, blue}) {
-        const double outward = corner.x() < 0.3 ? -1.0 : 1.0;
-        QVERIFY(bench.acceptsWhite(red, green, blue, corner + QPointF(outward * 0.00101, 0.00101)));
-        QVERIFY(!bench.acceptsWhite(red, green, blue, corner + QPointF(outward * 0.00102, 0.0)));
-    }
-}
-
-void TargetMovesTest::degenerateTriangleHoldsItsCorners()
-{
-    Bench bench;
-    const QPointF point(0.3, 0.3);
-    QVERIFY(bench.acceptsWhite(point, point, point, QPointF(0.301, 0.299)));
-    QVERIFY(!bench.acceptsWhite(point, point, point, QPointF(0.302, 0.3)));
-    QVERIFY(!bench.acceptsWhite(QPointF(0.2, 0.2), QPointF(0.6, 0.6), QPointF(0.4, 0.4), QPointF(0.3, 0.3)));
-}
 
 void TargetMovesTest::checkPassesForAnEqualTarget()
 {
@@ -669,14 +552,158 @@ void TargetMovesTest::clickWithoutTargetKeepsTheTab()
     QCOMPARE(stateOf(bench.scene).selectedTab, 4);
 }
 
-void TargetMovesTest::linesIntersect()
+void TargetMovesTest::linesAreThoseOfThePlane()
 {
-    Bench bench;
+    Scene scene({});
     QPointF crossing;
-    QVERIFY(bench.scene.SolveLinearSystem(0.5, 0.1, -1.0, 0.4, crossing));
+    QVERIFY(scene.SolveLinearSystem(0.5, 0.1, -1.0, 0.4, crossing));
     QCOMPARE(describe(crossing), describe(QPointF(static_cast<double>(0.2F), static_cast<double>(0.2F))));
-    QVERIFY(!bench.scene.SolveLinearSystem(0.5, 0.1, 0.5, 0.4, crossing));
-    QVERIFY(!bench.scene.SolveLinearSystem(0.5, 0.1, 0.5, 0.1, crossing));
+    QVERIFY(!scene.SolveLinearSystem(0.5, 0.1, 0.5, 0.4, crossing));
+    double k = 0.0;
+    double b = 0.0;
+    QVERIFY(scene.GetStraightLine(QPointF(0.25, 0.5), QPointF(0.75, 0.25), k, b));
+    QVERIFY(k == -0.5 && b == 0.625);
+    QVERIFY(!scene.GetStraightLine(QPointF(0.25, 0.5), QPointF(0.25, 0.75), k, b));
+    const QPointF held = scene.ComparePointPosition(QPointF(1, 0), QPointF(0.25, 0.75), QPointF(0.75, 0.25));
+    QVERIFY(isAt(held, 0.75, 0.25));
+}
+
+void TargetMovesTest::intersectionBecomesTheRequestedPoint()
+{
+    Scene scene({});
+    reference::setRequestedPoint(scene, untouched);
+    QVERIFY(scene.GetIntersectionPoint(QPointF(0, 0), QPointF(1, 1), QPointF(0, 0.5), QPointF(0.5, 0)));
+    QVERIFY(isAt(reference::stateOf(scene).requested, 25, -25));
+}
+
+void TargetMovesTest::parallelsLeaveTheRequestedPoint()
+{
+    Scene scene({});
+    reference::setRequestedPoint(scene, untouched);
+    QVERIFY(!scene.GetIntersectionPoint(QPointF(0, 0), QPointF(1, 0.5), QPointF(0, 1), QPointF(1, 1.5)));
+    QVERIFY(!scene.GetIntersectionPoint(QPointF(1, 0), QPointF(1, 0.5), QPointF(2, 1), QPointF(2, 1.5)));
+    const QPointF requested = reference::stateOf(scene).requested;
+    QVERIFY(isAt(requested, untouched.x(), untouched.y()));
+}
+
+void TargetMovesTest::crossingIsHeldToTheEdge()
+{
+    Scene scene({});
+    const QPointF from(0.25, 0.25);
+    const QPointF to(0.5, 0.5);
+    QVERIFY(scene.GetIntersectionPoint(from, to, QPointF(0, 0.125), QPointF(0.125, 0)));
+    QVERIFY(isAt(reference::stateOf(scene).requested, 25, -25));
+    QVERIFY(scene.GetIntersectionPoint(from, to, QPointF(0, 2), QPointF(2, 0)));
+    QVERIFY(isAt(reference::stateOf(scene).requested, 50, -50));
+    QVERIFY(scene.GetIntersectionPoint(to, from, QPointF(0, 2), QPointF(2, 0)));
+    QVERIFY(isAt(reference::stateOf(scene).requested, 50, -50));
+}
+
+void TargetMovesTest::rectangleHoldsPositions()
+{
+    Scene scene({}); // 672 × 728
+    const auto held = [&scene](double x, double y) { return scene.LimitInRectangle(QPointF(x, y)); };
+    QVERIFY(isAt(held(0, 0), 0, 0));
+    QVERIFY(isAt(held(672, 728), 672, 728));
+    QVERIFY(isAt(held(12.25, 700.5), 12.25, 700.5));
+    QVERIFY(isAt(held(-0.5, 30), 0, 30));
+    QVERIFY(isAt(held(30, -0.5), 30, 0));
+    QVERIFY(isAt(held(672.5, 30), 672, 30));
+    QVERIFY(isAt(held(30, 728.5), 30, 728));
+    scene.setImageWidth(0);
+    QVERIFY(isAt(held(5, 5), 0, 5));
+    scene.setImageHeight(-40);
+    QVERIFY(isAt(held(5, 5), 0, 0));
+}
+
+void TargetMovesTest::fencesTellWhichPositionsAreInAny()
+{
+    Scene scene({});
+    for (const QPointF &inside : {QPointF(0.6, 0.3), QPointF(0.3, 0.6), QPointF(0.15, 0.1)}) {
+        QVERIFY(scene.GetPointInFences(positionOf(inside)));
+    }
+    for (const QPointF &outside : {QPointF(0.75, 0.5), QPointF(0.02, 0.1), QPointF(0.6, 0.02), QPointF(-1, -1)}) {
+        QVERIFY(!scene.GetPointInFences(positionOf(outside)));
+    }
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    QVERIFY(!scene.GetPointInFences(QPointF(nan, nan)));
+}
+
+void TargetMovesTest::requestGoesToAnEdge_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::addColumn<QPointF>("position");
+    QTest::addColumn<QPointF>("edgeFrom");
+    QTest::addColumn<QPointF>("edgeTo");
+    QTest::addColumn<QPointF>("vertex");
+    const int red = NewCEIE::TabSelectedRed;
+    const int green = NewCEIE::TabSelectedGreen;
+    const int blue = NewCEIE::TabSelectedBlue;
+    QTest::newRow("below red") << red << QPointF(0.6, 0.125) << originalBlue << originalRed << targetGreen;
+    QTest::newRow("level with red") << red << QPointF(0.8, 0.25) << originalGreen << originalRed << targetBlue;
+    QTest::newRow("above red") << red << QPointF(0.8, 0.375) << originalGreen << originalRed << targetBlue;
+    QTest::newRow("right of green") << green << QPointF(0.5, 0.75) << originalGreen << originalRed << targetBlue;
+    QTest::newRow("straight at green") << green << QPointF(0.25, 0.5) << originalGreen << originalRed << targetBlue;
+    QTest::newRow("left of green") << green << QPointF(0.1, 0.5) << originalBlue << originalGreen << targetRed;
+    QTest::newRow("right of blue") << blue << QPointF(0.4, 0.05) << originalRed << originalBlue << targetGreen;
+    QTest::newRow("straight at blue") << blue << QPointF(0.125, 0.25) << originalGreen << originalBlue << targetRed;
+    QTest::newRow("left of blue") << blue << QPointF(0.05, 0.3) << originalGreen << originalBlue << targetRed;
+}
+
+void TargetMovesTest::requestGoesToAnEdge()
+{
+    QFETCH(int, tab);
+    QFETCH(QPointF, position);
+    QFETCH(QPointF, edgeFrom);
+    QFETCH(QPointF, edgeTo);
+    QFETCH(QPointF, vertex);
+
+    Scene scene({});
+    scene.setLsColorTriangleObject(edgedGamuts());
+    reference::selectTab(scene, tab);
+    reference::setRequestedPoint(scene, untouched);
+    scene.GetSelectedEllipseSign(positionOf(position));
+
+    // The crossing, by how far along the edge it lies.
+    const QPointF edge = edgeTo - edgeFrom;
+    const QPointF line = vertex - position;
+    const QPointF gap = position - edgeFrom;
+    const double along = (gap.x() * line.y() - gap.y() * line.x()) / (edge.x() * line.y() - edge.y() * line.x());
+    QVERIFY(along > 0 && along < 1);
+    const QPointF expected = edgeFrom + edge * along;
+    const QPointF requested = chromaOf(reference::stateOf(scene).requested);
+    QVERIFY2(isNear(requested, expected.x(), expected.y()),
+        qPrintable(QStringLiteral("(%1, %2) instead of (%3, %4)")
+                       .arg(requested.x())
+                       .arg(requested.y())
+                       .arg(expected.x())
+                       .arg(expected.y())));
+}
+
+void TargetMovesTest::otherTabsRequestNothing()
+{
+    for (const int tab : {NewCEIE::TabSelectedNone, NewCEIE::TabSelectedWhite}) {
+        Scene scene({});
+        scene.setLsColorTriangleObject(edgedGamuts());
+        reference::selectTab(scene, tab);
+        reference::setRequestedPoint(scene, untouched);
+        scene.GetSelectedEllipseSign(positionOf(QPointF(0.6, 0.125)));
+        const QPointF requested = reference::stateOf(scene).requested;
+        QVERIFY(isAt(requested, untouched.x(), untouched.y()));
+    }
+}
+
+void TargetMovesTest::fewerThanTwoGamutsRequestNothing()
+{
+    for (const QList<ColorTriangleObject> &list : {edgedGamuts().mid(0, 1), QList<ColorTriangleObject>()}) {
+        Scene scene({});
+        scene.setLsColorTriangleObject(list);
+        reference::selectTab(scene, NewCEIE::TabSelectedRed);
+        reference::setRequestedPoint(scene, untouched);
+        scene.GetSelectedEllipseSign(positionOf(QPointF(0.6, 0.125)));
+        const QPointF requested = reference::stateOf(scene).requested;
+        QVERIFY(isAt(requested, untouched.x(), untouched.y()));
+    }
 }
 
 QTEST_MAIN(TargetMovesTest)

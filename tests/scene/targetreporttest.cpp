@@ -120,6 +120,7 @@ private Q_SLOTS:
     void whiteReportCarriesTheTarget();
     void whiteReportTakesTheTemperatureFromDoubles();
     void whiteReportLeavesTheBeyondType();
+    void updateComesBeforeTheReport();
     void reportsOutlastTheirCause();
     void getOriginalWhiteLightDoesNothing();
 };
@@ -414,6 +415,23 @@ void TargetReportTest::whiteReportLeavesTheBeyondType()
     reference::setRequestedPoint(bench.scene, bench.scene.ChromaToCurCoordinate(QPointF(0.4, 0.35)));
     bench.scene.MoveCentreTriangle();
     QVERIFY(bench.log.takeSignals().value(0).endsWith(QLatin1String(", beyond 3, unreasonable")));
+}
+
+// A receiver that repaints at once shows the scene as reported.
+void TargetReportTest::updateComesBeforeTheReport()
+{
+    Bench bench(reference::gamutPair(), false);
+    QList<bool> updated;
+    QObject context;
+    QObject::connect(
+        &bench.scene, &Scene::signal_colorGamutValueChanged, &context, [&] { updated << bench.log.takeUpdate(); });
+    QObject::connect(
+        &bench.scene, &Scene::signal_targetInfoChanged, &context, [&] { updated << bench.log.takeUpdate(); });
+    bench.placed(QPointF(0.55, 0.3));
+    reference::setRequestedPoint(bench.scene, bench.scene.ChromaToCurCoordinate(QPointF(0.33, 0.34)));
+    bench.scene.MoveCentreTriangle();
+    QCOMPARE(updated, QList<bool>({true, true}));
+    QVERIFY(!bench.log.takeUpdate());
 }
 
 // Signals carry copies: what a receiver keeps does not change with the scene.

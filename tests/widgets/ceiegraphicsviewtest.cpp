@@ -10,6 +10,14 @@ using Scene = NewCEIE::CEIEGraphicsScene;
 using View = NewCEIE::CEIEGraphicsView;
 using Tests = ChartViewTests<View, Scene, NewCEIE::NQCEIEGraphicsView, Legend>;
 
+static const QWidget *resizedByTheBase = nullptr;
+
+// In place of Qt's own, which does nothing: only so can it be seen to be called.
+void QWidget::resizeEvent(QResizeEvent *)
+{
+    resizedByTheBase = this;
+}
+
 class CEIEGraphicsViewTest : public QObject {
     Q_OBJECT
 
@@ -35,6 +43,7 @@ private Q_SLOTS:
     void gamutList() { Tests::gamutList(); }
     void clearing() { Tests::clearing(); }
     void clearingKeepsTheStandards();
+    void changedGamutsRepaintTheChart() { Tests::changedGamutsRepaintTheChart(); }
     void gamutVisibility() { Tests::gamutVisibility(); }
     void gamutVisibilityOutsideTheList() { Tests::gamutVisibilityOutsideTheList(); }
     void points() { Tests::points(); }
@@ -62,6 +71,7 @@ private Q_SLOTS:
     void textIsCentredOnTheImage();
     void resizeHidesTheText();
     void resizePushesTheGamuts();
+    void resizeGoesToTheBaseToo();
     void graphColors();
     void backgroundColor();
     void cmyPoints();
@@ -575,6 +585,15 @@ void CEIEGraphicsViewTest::resizeHidesTheText()
     view.resize(701, 700);
     QVERIFY(labelOf(view)->isHidden());
     QCOMPARE(labelOf(view)->text(), QString());
+}
+
+void CEIEGraphicsViewTest::resizeGoesToTheBaseToo()
+{
+    View view(nullptr);
+    resizedByTheBase = nullptr;
+    QResizeEvent event(QSize(5, 5), QSize(6, 6));
+    QCoreApplication::sendEvent(&view, &event);
+    QCOMPARE(resizedByTheBase, &view);
 }
 
 void CEIEGraphicsViewTest::resizePushesTheGamuts()

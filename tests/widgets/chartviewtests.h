@@ -20,11 +20,13 @@
 #include <QGraphicsView>
 #include <QLabel>
 #include <QMetaMethod>
+#include <QPaintEvent>
 #include <QPointer>
 #include <QSpinBox>
 #include <QTest>
 
 #include <algorithm>
+#include <functional>
 #include <limits>
 #include <memory>
 
@@ -361,6 +363,51 @@ struct ChartViewTests {
         QCOMPARE(view.getOtherPoints().size(), 1);
         view.clear();
         QVERIFY(view.lsColorTriangleObject().isEmpty());
+    }
+
+    /*! Whether \a act has the whole view painted anew, not only the chart in it. */
+    static bool isRepaintedBy(View &view, const std::function<void(View &)> &act)
+    {
+        class PaintedRegion : public QObject {
+        public:
+            QRegion region;
+
+        protected:
+            bool eventFilter(QObject *, QEvent *event) override
+            {
+                if (event->type() == QEvent::Paint) {
+                    region += static_cast<QPaintEvent *>(event)->region();
+                }
+                return false;
+            }
+        };
+        view.setImageWidth(60);
+        view.setImageHeight(60);
+        view.resize(500, 400);
+        view.show();
+        const auto settle = [] {
+            for (int i = 0; i < 5; ++i) {
+                QCoreApplication::processEvents();
+                QCoreApplication::sendPostedEvents();
+            }
+        };
+        settle();
+        PaintedRegion painted;
+        view.installEventFilter(&painted);
+        act(view);
+        settle();
+        view.removeEventFilter(&painted);
+        return painted.region.contains(view.rect().bottomRight());
+    }
+
+    static void changedGamutsRepaintTheChart()
+    {
+        View view(true, nullptr);
+        view.setLsColorTriangleObject(threeGamuts());
+        QVERIFY(isRepaintedBy(view, [](View &shown) { shown.setColorGamutVisible(1, false); }));
+        QVERIFY(isRepaintedBy(view, [](View &shown) { shown.clear(); }));
+        // The list alone goes to the scene, which repaints itself.
+        QVERIFY(!isRepaintedBy(view, [](View &shown) { shown.setLsColorTriangleObject(threeGamuts()); }));
     }
 
     static void gamutVisibility()

@@ -6,6 +6,14 @@
 #include <QMetaMethod>
 #include <QTest>
 
+inline const QWidget *leftByTheBase = nullptr;
+
+// In place of Qt's own, which does nothing: only so can it be seen to be called.
+void QWidget::leaveEvent(QEvent *)
+{
+    leftByTheBase = this;
+}
+
 /*! \brief What the inner views of both generations have in common. */
 template <class InnerView>
 struct InnerViewTests {
@@ -47,7 +55,9 @@ struct InnerViewTests {
         QVERIFY(QMetaObject::invokeMethod(&view, "slot_mouseCursorChange", Q_ARG(QCursor, QCursor(Qt::CrossCursor))));
         QCOMPARE(view.cursor().shape(), Qt::CrossCursor);
         QEvent leave(QEvent::Leave);
+        leftByTheBase = nullptr;
         QCoreApplication::sendEvent(&view, &leave);
+        QCOMPARE(leftByTheBase, &view);
         QVERIFY(!view.testAttribute(Qt::WA_SetCursor));
         QCOMPARE(view.cursor().shape(), Qt::ArrowCursor);
     }

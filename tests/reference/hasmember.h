@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_TESTS_REFERENCE_HASMEMBER_H
+#define CEIECHART_TESTS_REFERENCE_HASMEMBER_H
+
+#include <type_traits>
+
+/*!
+ * \brief Defines Has_name<T>: whether T has a member of that name, overloaded or not, public or private, its own or
+ *        inherited.
+ *
+ * Beside a member of a second base the name is ambiguous then, whatever it stands for.
+ */
+#define DEFINE_HAS_MEMBER(name)                                                                                        \
+    template <class T>                                                                                                 \
+    class Has_##name {                                                                                                 \
+        struct Other {                                                                                                 \
+            int name;                                                                                                  \
+        };                                                                                                             \
+        struct Both : T, Other { };                                                                                    \
+        template <class U>                                                                                             \
+        static std::false_type test(decltype(&U::name) *);                                                             \
+        template <class U>                                                                                             \
+        static std::true_type test(...);                                                                               \
+                                                                                                                       \
+    public:                                                                                                            \
+        static constexpr bool value = decltype(test<Both>(nullptr))::value;                                            \
+    };
+
+/*! \brief Refuses to compile unless only the current class of the two has a member \a name. */
+#define ONLY_IN_THE_CURRENT_CLASS(name, Current, Legacy)                                                               \
+    static_assert(Has_##name<Current>::value && !Has_##name<Legacy>::value, "only in the current class: " #name)
+
+namespace reference {
+
+template <class Void, template <class...> class Operation, class... Arguments>
+struct IsDetected : std::false_type {
+};
+template <template <class...> class Operation, class... Arguments>
+struct IsDetected<std::void_t<Operation<Arguments...>>, Operation, Arguments...> : std::true_type {
+};
+
+/*! \brief Whether \a Operation, an alias of the type of a call, can be formed with \a Arguments. */
+template <template <class...> class Operation, class... Arguments>
+constexpr bool isDetected = IsDetected<void, Operation, Arguments...>::value;
+
+} // namespace reference
+
+#endif // CEIECHART_TESTS_REFERENCE_HASMEMBER_H
