@@ -18,32 +18,36 @@ constexpr double greatestRatio = 16.0;
 CommandLine::CommandLine(const QStringList &arguments)
 {
     const QCommandLineOption render(QStringLiteral("render"),
-        tr("Write the chart to <file> and show nothing: PNG, SVG or PDF by its suffix, PNG without one."), tr("file"));
+        tr("Write the chart to <file> without opening a window. The suffix selects PNG, SVG or PDF; without one it is "
+           "a PNG."),
+        tr("file"));
     const QCommandLineOption size(QStringLiteral("size"),
-        tr("Size of the chart in pixels, %1x%2 unless given; at most %3 a side, which goes for a PNG after "
-           "multiplication by the device pixel ratio. Without --render, size of the window.")
+        tr("Size of the chart in pixels, %1x%2 by default, at most %3 per side. The limit applies to a PNG after "
+           "multiplication by the device pixel ratio. Without --render, the size of the window.")
             .arg(m_extent.size.width())
             .arg(m_extent.size.height())
             .arg(maximumPictureSide),
         tr("width>x<height"));
     const QCommandLineOption ratio(QStringLiteral("dpr"),
-        tr("Device pixel ratio of the written chart, %1 to %2, 1 unless given: a PNG has this many times the pixels. "
-           "Only with --render.")
+        tr("Device pixel ratio of the written chart, %1 to %2, 1 by default. A PNG has this many times the pixels in "
+           "each direction. Requires --render.")
             .arg(leastRatio)
             .arg(greatestRatio),
         tr("ratio"));
     const QCommandLineOption report(QStringLiteral("report"),
-        tr("Print coverage, colour temperatures and validity, and show nothing. The format is json."), tr("format"));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Print this text."));
+        tr("Print coverage, colour temperatures and validity without opening a window. The only format is json."),
+        tr("format"));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Print this help text."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Print the version."));
 
     m_parser.setApplicationDescription(
         tr("Shows and edits the colour gamuts of a display on CIE chromaticity diagrams.\n\n"
-           "Exit status: 0 done, 1 the chart or the report could not be shown or written, 2 wrong arguments or files.\n"
-           "Errors are one line on the standard error stream."));
+           "Exit status: 0 success, 1 the chart or the report could not be shown or written, 2 invalid arguments or "
+           "files.\n"
+           "Each error is one line on standard error."));
     m_parser.addPositionalArgument(tr("file"),
-        tr("Display description (JSON), measurement list (CSV), ICC profile or EDID; one description and any number "
-           "of the others, which add to it. A sample unless given."),
+        tr("Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any "
+           "number of the others, which are added to it. Without files, a sample is opened."),
         tr("[file...]"));
     m_parser.addOptions({render, size, ratio, report, help, version});
 
@@ -72,11 +76,11 @@ CommandLine::CommandLine(const QStringList &arguments)
     if (m_parser.isSet(ratio)) {
         readRatio(m_parser.value(ratio));
         if (!m_parser.isSet(render)) {
-            refuse(tr("There is no chart for --dpr: it goes with --render."));
+            refuse(tr("--dpr requires --render."));
         }
     }
     if (m_parser.isSet(size) && m_parser.isSet(report) && !m_parser.isSet(render)) {
-        refuse(tr("There is no chart for --size: a report has none."));
+        refuse(tr("--size requires --render when used with --report."));
     }
     if (m_parser.isSet(render)) {
         readPicture(m_parser.value(render));
@@ -99,7 +103,7 @@ void CommandLine::readFiles()
 {
     m_files = m_parser.positionalArguments();
     if (m_files.contains(QString())) {
-        refuse(tr("The name of a file to open is empty."));
+        refuse(tr("An input file name is empty."));
     }
 }
 
@@ -107,18 +111,18 @@ void CommandLine::readPicture(const QString &fileName)
 {
     m_pictureFile = fileName;
     if (fileName.isEmpty()) {
-        refuse(tr("The name of the picture file is empty."));
+        refuse(tr("The file name of --render is empty."));
         return;
     }
     const auto format = chartFormat(fileName);
     if (!format && !QFileInfo(fileName).suffix().isEmpty()) {
-        refuse(tr("Not a picture format (png, svg, pdf): %1").arg(fileName));
+        refuse(tr("Unsupported picture format, expected png, svg or pdf: %1").arg(fileName));
         return;
     }
     m_pictureFormat = format.value_or(ChartFormat::Png);
     const double side = std::max(m_extent.size.width(), m_extent.size.height()) * m_extent.devicePixelRatio;
     if (m_pictureFormat == ChartFormat::Png && side >= maximumPictureSide + 0.5) {
-        refuse(tr("The picture would have more than %1 pixels a side.").arg(maximumPictureSide));
+        refuse(tr("The picture would have more than %1 pixels per side.").arg(maximumPictureSide));
     }
 }
 
@@ -129,7 +133,7 @@ void CommandLine::readSize(const QString &text)
     const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
     const auto isSide = [](int side) { return side >= 1 && side <= maximumPictureSide; };
     if (!match.hasMatch() || !isSide(size.width()) || !isSide(size.height())) {
-        refuse(tr("Not a size from 1x1 to %1x%1: %2").arg(maximumPictureSide).arg(text));
+        refuse(tr("Invalid size, expected 1x1 to %1x%1: %2").arg(maximumPictureSide).arg(text));
         return;
     }
     m_extent.size = size;
@@ -141,7 +145,7 @@ void CommandLine::readRatio(const QString &text)
     bool ok = false;
     const double ratio = text.toDouble(&ok);
     if (!ok || !(ratio >= leastRatio && ratio <= greatestRatio)) {
-        refuse(tr("Not a device pixel ratio from %1 to %2: %3").arg(leastRatio).arg(greatestRatio).arg(text));
+        refuse(tr("Invalid device pixel ratio, expected %1 to %2: %3").arg(leastRatio).arg(greatestRatio).arg(text));
         return;
     }
     m_extent.devicePixelRatio = ratio;
@@ -151,7 +155,7 @@ void CommandLine::readReport(const QString &format)
 {
     m_wantsReport = format == QLatin1String("json");
     if (!m_wantsReport) {
-        refuse(tr("Not a report format (json): %1").arg(format));
+        refuse(tr("Unsupported report format, expected json: %1").arg(format));
     }
 }
 

@@ -58,7 +58,7 @@ ComparePage::ComparePage(Document *document, QWidget *parent)
     layout->addWidget(m_table);
 
     m_loss = new QLabel(this);
-    m_loss->setAccessibleName(tr("What the target gives up of the original"));
+    m_loss->setAccessibleName(tr("Part of the original that the target does not use"));
     m_loss->setWordWrap(true);
     m_loss->setTextFormat(Qt::PlainText);
     m_loss->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -117,7 +117,7 @@ void ComparePage::refresh()
     m_loss->setVisible(original && target);
     if (original && target) {
         m_loss->setText(
-            tr("The target gives up %1 of the original's area in x, y and %2 in u′, v′ (hatched).")
+            tr("The target leaves %1 of the original's area in x, y and %2 in u′, v′ unused (hatched).")
                 .arg(percent(lostShare(original->getTargets(), target->getTargets(), Model::Diagram::Cie1931)),
                     percent(lostShare(original->getTargets(), target->getTargets(), Model::Diagram::Cie1976))));
     }

@@ -54,7 +54,7 @@ Outcome<CsvTable> readCsv(const QByteArray &utf8)
     const QByteArray body = utf8.startsWith("\xEF\xBB\xBF") ? utf8.mid(3) : utf8;
     QString text = QString::fromUtf8(body.constData(), body.size());
     if (text.toUtf8() != body || text.contains(QChar(0))) {
-        return Outcome<CsvTable>::failure(CsvText::tr("is not a text in UTF-8"));
+        return Outcome<CsvTable>::failure(CsvText::tr("is not UTF-8 text"));
     }
     text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
 
@@ -86,7 +86,7 @@ Outcome<CsvTable> readCsv(const QByteArray &utf8)
             }
         }
         if (quoted) {
-            return Outcome<CsvTable>::failure(CsvText::tr("line %1: a quote is never closed").arg(row.line));
+            return Outcome<CsvTable>::failure(CsvText::tr("line %1: unterminated quote").arg(row.line));
         }
         table.rows.append(row);
         ++position;

@@ -61,7 +61,7 @@ std::optional<DisplayDescription> DescriptionReader::read(const QByteArray &utf8
     m_error = DescriptionError();
 
     if (utf8.size() > maximumBytes) {
-        fail(QString(), tr("is larger than %1 KiB: not a display description").arg(maximumBytes / 1024));
+        fail(QString(), tr("is too large for a display description (more than %1 KiB)").arg(maximumBytes / 1024));
         return std::nullopt;
     }
     if (QString::fromUtf8(utf8.constData(), utf8.size()).trimmed().isEmpty()) {
@@ -95,7 +95,7 @@ void DescriptionReader::readDescription(const Node &node)
     }
     const Node version = member(node, QStringLiteral("version"));
     if (readNumber(version) != knownVersion) {
-        fail(version, tr("only version %1 is known").arg(knownVersion));
+        fail(version, tr("only version %1 is supported").arg(knownVersion));
     }
     m_description.name = readString(member(node, QStringLiteral("name")));
     m_description.notes = readString(member(node, QStringLiteral("notes")));
@@ -105,7 +105,7 @@ void DescriptionReader::readDescription(const Node &node)
         m_description.gamuts.push_back(readGamut(element));
         const QString name = QString::fromStdString(m_description.gamuts.back().colorGamutName());
         if (names.contains(name)) {
-            fail(member(element, QStringLiteral("name")), tr("there is another gamut named %1").arg(quoted(name)));
+            fail(member(element, QStringLiteral("name")), tr("there is already a gamut named %1").arg(quoted(name)));
         }
         names.insert(name);
     }
@@ -146,7 +146,7 @@ Model::Target DescriptionReader::readTarget(const Node &node)
     const Node luminance = member(node, QStringLiteral("Y"));
     const double value = readNumber(luminance);
     if (value < 0.0) {
-        fail(luminance, tr("a luminance must not be negative"));
+        fail(luminance, tr("luminance must not be negative"));
     }
     const QPointF xy = readChromaticity(node);
     return Model::Target::fromYxy(value, xy.x(), xy.y());
@@ -171,7 +171,7 @@ QString DescriptionReader::readGamutReference(const Node &node)
     }
     QString name = readName(node);
     if (!m_failed && !m_description.gamut(name)) {
-        fail(node, tr("no gamut is named %1").arg(quoted(name)));
+        fail(node, tr("there is no gamut named %1").arg(quoted(name)));
     }
     return name;
 }
@@ -182,7 +182,7 @@ QStringList DescriptionReader::readStandards(const Node &node)
     for (const Node &element : elements(node)) {
         const QString name = readGamutReference(element);
         if (standards.contains(name)) {
-            fail(element, tr("%1 stands in the list twice").arg(quoted(name)));
+            fail(element, tr("%1 is listed twice").arg(quoted(name)));
         }
         standards.append(name);
         if (m_failed) {
@@ -198,13 +198,13 @@ QPointF DescriptionReader::readChromaticity(const Node &node)
     const Node y = member(node, QStringLiteral("y"));
     const QPointF xy(readNumber(x), readNumber(y));
     if (xy.x() < 0.0) {
-        fail(x, tr("a chromaticity must not be negative"));
+        fail(x, tr("a chromaticity coordinate must not be negative"));
     }
     if (xy.y() <= 0.0) {
-        fail(y, tr("the chromaticity y must be greater than 0"));
+        fail(y, tr("y must be greater than 0"));
     }
     if (xy.x() + xy.y() > 1.0) {
-        fail(node, tr("the chromaticities x and y must not add up to more than 1"));
+        fail(node, tr("x + y must not exceed 1"));
     }
     return xy;
 }
@@ -241,7 +241,7 @@ bool DescriptionReader::checkType(const Node &node, QJsonValue::Type type)
     const auto kind = [](QJsonValue::Type of) {
         switch (of) {
         case QJsonValue::Bool:
-            return tr("a truth value");
+            return tr("a boolean");
         case QJsonValue::Double:
             return tr("a number");
         case QJsonValue::String:
@@ -269,7 +269,7 @@ QString DescriptionReader::readName(const Node &node)
 {
     QString name = readString(node);
     if (name.trimmed().isEmpty()) {
-        fail(node, tr("a name must not be empty"));
+        fail(node, tr("the name must not be empty"));
     }
     return name;
 }

@@ -96,8 +96,8 @@ QVector<KeyEntry> keyEntries(const DisplayDescription &description, Layers shown
         entries.append(commonAreaEntry());
     }
     if (layers.testFlag(Layer::MeasurePoints)) {
-        entries.append(
-            discEntry(text(QT_TRANSLATE_NOOP("gamutviewer", "Measure points")), measureMarkOutline, QColor(Qt::black)));
+        entries.append(discEntry(
+            text(QT_TRANSLATE_NOOP("gamutviewer", "Measured points")), measureMarkOutline, QColor(Qt::black)));
     }
     if (layers.testFlag(Layer::ColorTemperaturePoints)) {
         entries.append(

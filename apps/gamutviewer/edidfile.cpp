@@ -56,7 +56,7 @@ Outcome<Model::ColorGamut> readEdid(const QByteArray &bytes)
 {
     if (bytes.size() < blockSize) {
         return Failure::failure(
-            EdidText::tr("is a truncated EDID: %1 bytes of at least %2").arg(bytes.size()).arg(int(blockSize)));
+            EdidText::tr("is a truncated EDID: %1 bytes instead of at least %2").arg(bytes.size()).arg(int(blockSize)));
     }
     if (!isEdid(bytes)) {
         return Failure::failure(EdidText::tr("is not an EDID"));
@@ -70,7 +70,8 @@ Outcome<Model::ColorGamut> readEdid(const QByteArray &bytes)
     GError *parseError = nullptr;
     if (!cd_edid_parse(edid.get(), data.get(), &parseError)) {
         const std::unique_ptr<GError, Release> error(parseError);
-        return Failure::failure(EdidText::tr("is not a readable EDID: %1").arg(QString::fromUtf8(error->message)));
+        return Failure::failure(
+            EdidText::tr("is an EDID that cannot be read: %1").arg(QString::fromUtf8(error->message)));
     }
     const Primaries primaries{chromaticity(cd_edid_get_red(edid.get())), chromaticity(cd_edid_get_green(edid.get())),
         chromaticity(cd_edid_get_blue(edid.get())), chromaticity(cd_edid_get_white(edid.get()))};

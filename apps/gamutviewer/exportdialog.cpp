@@ -33,7 +33,7 @@ ExportDialog::ExportDialog(QWidget *parent)
     m_ratio->setRange(0.5, 8.0);
     m_ratio->setSingleStep(0.5);
     m_ratio->setValue(extent.devicePixelRatio);
-    m_ratio->setToolTip(tr("Pixels of a PNG for each pixel of the size above"));
+    m_ratio->setToolTip(tr("Number of PNG pixels per pixel of the size above"));
     layout->addRow(tr("Device &pixel ratio:"), m_ratio);
     m_pixels = new QLabel(this);
     layout->addRow(m_pixels);
@@ -61,8 +61,8 @@ void ExportDialog::refresh()
         int(std::lround(m_width->value() * m_ratio->value())), int(std::lround(m_height->value() * m_ratio->value())));
     const bool fits = pixels.width() >= 1 && pixels.height() >= 1 && pixels.width() <= maximumPictureSide
         && pixels.height() <= maximumPictureSide;
-    m_pixels->setText(fits ? tr("A PNG has %1 × %2 pixels.").arg(pixels.width()).arg(pixels.height())
-                           : tr("At most %1 pixels a side.").arg(maximumPictureSide));
+    m_pixels->setText(fits ? tr("A PNG will have %1 × %2 pixels.").arg(pixels.width()).arg(pixels.height())
+                           : tr("At most %1 pixels per side.").arg(maximumPictureSide));
     m_accept->setEnabled(fits);
 }
 

@@ -43,7 +43,7 @@ bool spanTriangle(const Model::Targets &targets)
 
 QString noTriangleText()
 {
-    return PrimariesText::tr("the primaries span no triangle");
+    return PrimariesText::tr("the primaries do not form a triangle");
 }
 
 Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries primaries, double whiteLuminance)
@@ -58,7 +58,7 @@ Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries pri
     for (const auto &color : colors) {
         const QPointF given = color.xy;
         if (!makeChromaticity(color.xy)) {
-            return Failure::failure(PrimariesText::tr("%1 is not a chromaticity: x %2, y %3")
+            return Failure::failure(PrimariesText::tr("%1 is not a valid chromaticity: x %2, y %3")
                                         .arg(color.name)
                                         .arg(given.x())
                                         .arg(given.y()));

@@ -138,12 +138,13 @@ Outcome<Model::ColorGamut> readIccProfile(const QByteArray &bytes)
 {
     if (!isIccProfile(bytes)) {
         return Failure::failure(bytes.size() < headerSize
-                ? IccText::tr("is a truncated ICC profile: it ends in its header")
+                ? IccText::tr("is a truncated ICC profile: the header is incomplete")
                 : IccText::tr("is not an ICC profile"));
     }
     const auto size = bytes.size() < headerSize ? 0U : qFromBigEndian<quint32>(bytes.constData());
     if (bytes.size() < headerSize || quint32(bytes.size()) < size) {
-        return Failure::failure(IccText::tr("is a truncated ICC profile: %1 bytes of %2").arg(bytes.size()).arg(size));
+        return Failure::failure(
+            IccText::tr("is a truncated ICC profile: %1 bytes instead of %2").arg(bytes.size()).arg(size));
     }
     const Context context(cmsCreateContext(nullptr, nullptr));
     const Profile profile(cmsOpenProfileFromMemTHR(context.get(), bytes.constData(), cmsUInt32Number(bytes.size())));
@@ -158,7 +159,7 @@ Outcome<Model::ColorGamut> readIccProfile(const QByteArray &bytes)
     const auto *green = tag<cmsCIEXYZ>(profile, cmsSigGreenColorantTag);
     const auto *blue = tag<cmsCIEXYZ>(profile, cmsSigBlueColorantTag);
     if (!red || !green || !blue) {
-        return Failure::failure(IccText::tr("has no primaries: the ICC profile has no colorants"));
+        return Failure::failure(IccText::tr("has no primaries: the ICC profile has no colorant tags"));
     }
     const Matrix native = unadaptation(profile);
     const Primaries primaries{chromaticity(native * vector(*red)), chromaticity(native * vector(*green)),

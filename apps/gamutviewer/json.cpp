@@ -69,7 +69,7 @@ ParsedJson parseJson(const QByteArray &utf8)
     ParsedJson parsed;
     parsed.document = QJsonDocument::fromJson(utf8, &error);
     if (parsed.document.isNull()) {
-        parsed.error = endsTooEarly(utf8, error.offset) ? JsonText::tr("the file ends too early") : error.errorString();
+        parsed.error = endsTooEarly(utf8, error.offset) ? JsonText::tr("unexpected end of file") : error.errorString();
         parsed.position = textPosition(utf8, error.offset);
     }
     return parsed;

@@ -44,21 +44,21 @@ QCheckBox *LayerRow::makeBox(Layer layer)
     case Layer::Standards:
         return make(tr("&Standards"), tr("Show the standard gamuts"));
     case Layer::CommonArea:
-        return make(tr("&Common area"), tr("Colour the area that target and original have in common"));
+        return make(tr("&Common area"), tr("Colour the common area of target and original"));
     case Layer::Axes:
         return make(tr("&Axes"), tr("Show axes and grid"));
     case Layer::Wavelengths:
-        return make(tr("&Wavelengths"), tr("Show the wavelengths along the edge, in nanometres"));
+        return make(tr("&Wavelengths"), tr("Show wavelengths along the spectral locus, in nanometres"));
     case Layer::PlanckianLocus:
-        return make(tr("Planc&kian locus"), tr("Show the colours of black bodies"));
+        return make(tr("Planc&kian locus"), tr("Show the Planckian locus, the chromaticities of black bodies"));
     case Layer::MeasurePoints:
-        return make(tr("Meas&ure points"), tr("Show further measurements"));
+        return make(tr("Meas&ured points"), tr("Show the other measured colours"));
     case Layer::ColorTemperaturePoints:
-        return make(tr("CCT po&ints"), tr("Show the points of colour temperatures"));
+        return make(tr("CCT po&ints"), tr("Show the colour-temperature points"));
     case Layer::CmyPoints:
         break;
     }
-    return make(tr("CM&Y points"), tr("Show the points of cyan, magenta and yellow"));
+    return make(tr("CM&Y points"), tr("Show the cyan, magenta and yellow points"));
 }
 
 void LayerRow::setAvailable(Layers available)

@@ -27,15 +27,15 @@ LensPage::LensPage(Document *document, QWidget *parent)
         row->addWidget(button);
         return button;
     };
-    connect(
-        addButton(QStringLiteral("+"), tr("Closer (+)")), &QToolButton::clicked, m_lens, [this] { m_lens->zoom(0.8); });
-    connect(addButton(QStringLiteral("−"), tr("Farther (−)")), &QToolButton::clicked, m_lens,
+    connect(addButton(QStringLiteral("+"), tr("Zoom in (+)")), &QToolButton::clicked, m_lens,
+        [this] { m_lens->zoom(0.8); });
+    connect(addButton(QStringLiteral("−"), tr("Zoom out (−)")), &QToolButton::clicked, m_lens,
         [this] { m_lens->zoom(1.25); });
-    connect(addButton(tr("All"), tr("Show all whites (0)")), &QToolButton::clicked, m_lens, &LensWidget::showAll);
+    connect(addButton(tr("All"), tr("Show all white points (0)")), &QToolButton::clicked, m_lens, &LensWidget::showAll);
     row->addStretch();
     auto *explanation = new QLabel(tr("Rings: Δu′v′ 0.001, 0.003, 0.005"), this);
     explanation->setToolTip(
-        tr("Distance from the target's white. The dotted line shows where it was before the last edits."));
+        tr("Distance from the target's white point. The dotted line joins its positions before the last edits."));
     row->addWidget(explanation);
     layout->addWidget(m_lens, 1);
     setFocusProxy(m_lens);

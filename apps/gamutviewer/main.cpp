@@ -40,7 +40,7 @@ int write(const DisplayDescription &description, const CommandLine &commandLine)
         }
     }
     if (commandLine.wantsReport() && print(reportText(description)) != Done) {
-        printError(QApplication::translate("main", "the report cannot be written to the standard output"));
+        printError(QApplication::translate("main", "the report cannot be written to standard output"));
         return Failed;
     }
     return Done;
@@ -98,7 +98,7 @@ int main(int argc, char *argv[])
     }
     if (!canShow) {
         printError(QApplication::translate(
-            "main", "there is no display for a window; --render writes a picture file and --report prints a report"));
+            "main", "no display is available; use --render to write a picture or --report to print a report"));
         return Failed;
     }
     return show(*opened, commandLine);

@@ -66,22 +66,22 @@ public:
         m_error.clear();
         const QString name = text(Name);
         if (m_error.isEmpty() && name.isEmpty()) {
-            fail(Name, MeasurementText::tr("a name must not be empty"));
+            fail(Name, MeasurementText::tr("the name must not be empty"));
         }
         const double luminance = number(Luminance);
         const double x = number(X);
         const double y = number(Y);
         if (luminance < 0.0) {
-            fail(Luminance, MeasurementText::tr("a luminance must not be negative"));
+            fail(Luminance, MeasurementText::tr("luminance must not be negative"));
         }
         if (x < 0.0) {
-            fail(X, MeasurementText::tr("a chromaticity must not be negative"));
+            fail(X, MeasurementText::tr("a chromaticity coordinate must not be negative"));
         }
         if (y <= 0.0) {
-            fail(Y, MeasurementText::tr("the chromaticity y must be greater than 0"));
+            fail(Y, MeasurementText::tr("y must be greater than 0"));
         }
         if (x + y > 1.0) {
-            fail(X, MeasurementText::tr("the chromaticities x and y must not add up to more than 1"));
+            fail(X, MeasurementText::tr("x + y must not exceed 1"));
         }
         if (!m_error.isEmpty()) {
             return std::nullopt;
@@ -194,7 +194,7 @@ Outcome<MeasurementList> readMeasurementList(const QByteArray &utf8)
         return Failure::failure(table.error());
     }
     if (table->rows.isEmpty()) {
-        return Failure::failure(MeasurementText::tr("has no measurements"));
+        return Failure::failure(MeasurementText::tr("contains no measurements"));
     }
     Columns columns{0, 1, 2, 3};
     const QStringList &first = table->rows.first().fields;
@@ -203,7 +203,7 @@ Outcome<MeasurementList> readMeasurementList(const QByteArray &utf8)
         columns = columnsOf(first);
         const auto missing = std::find(columns.begin(), columns.end(), -1);
         if (missing != columns.end()) {
-            return Failure::failure(MeasurementText::tr("line %1: there is no column %2")
+            return Failure::failure(MeasurementText::tr("line %1: missing column %2")
                                         .arg(table->rows.first().line)
                                         .arg(columnName(int(missing - columns.begin()))));
         }
@@ -218,7 +218,7 @@ Outcome<MeasurementList> readMeasurementList(const QByteArray &utf8)
         list.measurements.append(*measurement);
     }
     if (list.measurements.isEmpty()) {
-        return Failure::failure(MeasurementText::tr("has no measurements"));
+        return Failure::failure(MeasurementText::tr("contains no measurements"));
     }
     const auto gamut = list.gamut(QString());
     if (gamut && !spanTriangle(gamut->getTargets())) {

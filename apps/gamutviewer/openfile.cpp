@@ -176,7 +176,8 @@ Outcome<OpenedFile> openFile(const QString &fileName)
     case Format::Measurements: {
         if (bytes->size() > maximumMeasurementBytes) {
             return withFile(fileName,
-                OpenText::tr("is larger than %1 KiB: not a measurement list").arg(maximumMeasurementBytes / 1024));
+                OpenText::tr("is too large for a measurement list (more than %1 KiB)")
+                    .arg(maximumMeasurementBytes / 1024));
         }
         const auto measurements = readMeasurementList(*bytes);
         if (!measurements) {
@@ -194,7 +195,7 @@ Outcome<OpenedFile> openFile(const QString &fileName)
         break;
     }
     return withFile(
-        fileName, OpenText::tr("is no display description (JSON), measurement list (CSV), ICC profile or EDID"));
+        fileName, OpenText::tr("is not a display description (JSON), measurement list (CSV), ICC profile or EDID"));
 }
 
 Outcome<OpenedFiles> openFiles(const QStringList &fileNames)
@@ -211,8 +212,9 @@ Outcome<OpenedFiles> openFiles(const QStringList &fileNames)
             continue;
         }
         if (!opened.descriptionFile.isEmpty()) {
-            return Outcome<OpenedFiles>::failure(oneLine(
-                OpenText::tr("%1: is a second display description, after %2").arg(fileName, opened.descriptionFile)));
+            return Outcome<OpenedFiles>::failure(
+                oneLine(OpenText::tr("%1: is a second display description; the first is %2")
+                            .arg(fileName, opened.descriptionFile)));
         }
         opened.descriptionFile = fileName;
         opened.description = file->description;

@@ -66,8 +66,8 @@ SidePanel::SidePanel(TargetSession *session, QWidget *parent)
         = new GroupedTable({tr("Standard"), tr("xy cov."), tr("xy ratio"), tr("u′v′ cov."), tr("u′v′ ratio")}, m_tabs);
     m_coverage->setAccessibleName(tr("Coverage of the standards"));
     m_coverage->setToolTip(
-        tr("Coverage: share of the standard's area that the gamut contains. Ratio: area of the gamut by the "
-           "standard's."));
+        tr("Coverage: share of the standard's area that the gamut contains. Ratio: area of the gamut divided by that "
+           "of the standard."));
     m_log = new SignalLog(m_tabs);
     m_tabs->addTab(m_values, tr("&Values"));
     m_tabs->addTab(m_coverage, tr("Covera&ge"));
@@ -103,7 +103,7 @@ void SidePanel::refreshValidity()
     }
     m_validity->setText(names.isEmpty()
             ? tr("✓ The display can show the target.")
-            : tr("✗ Outside of the original: %1").arg(names.join(tr(", ", "between names of colours"))));
+            : tr("✗ Outside the original: %1").arg(names.join(tr(", ", "between names of colours"))));
 }
 
 void SidePanel::refreshValues()

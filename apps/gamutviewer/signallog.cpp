@@ -22,7 +22,7 @@ SignalLog::SignalLog(QWidget *parent)
     setLineWrapMode(NoWrap);
     setTabChangesFocus(true);
     setAccessibleName(tr("Log of the charts' signals"));
-    setPlaceholderText(tr("What the charts report appears here."));
+    setPlaceholderText(tr("The signals of the charts appear here."));
 }
 
 void SignalLog::logTarget(const QString &chart, const char *signal, const ColorTriangleObject &target)
@@ -50,13 +50,13 @@ void SignalLog::logReport(const QString &chart, const TargetInfoChangedEventArgs
         QStringLiteral("targetInfoChanged W %1 %2 K, %3")
             .arg(shown(report.colorTriangleObject().trianglePoint().whitePos()))
             .arg(report.colourTemperature())
-            .arg(report.isReasonableData() ? tr("valid") : tr("not valid")));
+            .arg(report.isReasonableData() ? tr("valid") : tr("invalid")));
 }
 
 void SignalLog::logInitialized(const QString &chart, const TriangleObjecIinitializedEventArgs &report)
 {
     log(chart,
-        QStringLiteral("triangleObjecIinitialized %1").arg(report.isEffectiveValue() ? tr("valid") : tr("not valid")));
+        QStringLiteral("triangleObjecIinitialized %1").arg(report.isEffectiveValue() ? tr("valid") : tr("invalid")));
 }
 
 void SignalLog::log(const QString &chart, const QString &text)

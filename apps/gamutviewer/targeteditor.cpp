@@ -56,7 +56,7 @@ TargetEditor::TargetEditor(TargetSession *session, QWidget *parent)
     m_name->setFont(bold);
     m_reset = new QToolButton(this);
     m_reset->setText(tr("&Reset to"));
-    m_reset->setToolTip(tr("Put a standard or a gamut of this display in place of the target"));
+    m_reset->setToolTip(tr("Replace the target with a standard or with a gamut of this display"));
     m_reset->setPopupMode(QToolButton::InstantPopup);
     m_reset->setFocusPolicy(Qt::TabFocus);
     m_resetMenu = new QMenu(m_reset);
@@ -79,9 +79,10 @@ TargetEditor::TargetEditor(TargetSession *session, QWidget *parent)
 
     auto *rules = new QHBoxLayout;
     layout->addLayout(rules);
-    m_holdWhite = addRule(rules, tr("&Hold white"), tr("Moved primaries leave the white where it is"));
-    m_lockPrimaries = addRule(rules, tr("&Lock primaries"), tr("Only the white can be moved"));
-    m_snap = addRule(rules, tr("S&nap"), tr("Dragged points snap to those of standards and of the original"));
+    m_holdWhite = addRule(rules, tr("&Hold white"), tr("Moving a primary leaves the white point where it is"));
+    m_lockPrimaries = addRule(rules, tr("&Lock primaries"), tr("Only the white point can be moved"));
+    m_snap = addRule(
+        rules, tr("S&nap"), tr("Dragged points snap to the corresponding points of the standards and of the original"));
     rules->addStretch();
 
     connect(m_holdWhite, &QCheckBox::toggled, session, &TargetSession::setHoldWhite);
@@ -103,7 +104,7 @@ void TargetEditor::buildHeader(QGridLayout *grid)
 {
     m_coordinates = new QComboBox(this);
     m_coordinates->addItems({tr("x, y"), tr("u′, v′")});
-    m_coordinates->setToolTip(tr("Coordinates to show and to edit"));
+    m_coordinates->setToolTip(tr("Coordinates to display and edit"));
     m_coordinates->setAccessibleName(tr("Coordinates"));
     grid->addWidget(m_coordinates, 0, 0);
     m_firstHeader = new QLabel(this);
@@ -162,7 +163,7 @@ void TargetEditor::buildTemperature(QGridLayout *grid)
 {
     constexpr int line = 5;
     auto *label = new QLabel(tr("CCT, Duv"), this);
-    label->setToolTip(tr("Correlated colour temperature of the white, and its distance from the Planckian locus"));
+    label->setToolTip(tr("Correlated colour temperature of the white point and its distance from the Planckian locus"));
     // The lowest value of each stands for none.
     m_temperature = addBox(lowestTemperature - 1.0, highestTemperature, 0, 10.0, tr("white: colour temperature"));
     m_temperature->setSuffix(tr(" K"));
@@ -298,7 +299,7 @@ void TargetEditor::editCoordinates(Waiting typed, int mergeKey)
             m_session->setChromaticity(typed.vertex, wantedXy, mergeKey);
         } else if (hasFocus(typed.vertex)) {
             m_waiting = typed;
-            m_session->refuse(tr("%1 Waiting for the other coordinate; Esc drops it.").arg(typed.reason));
+            m_session->refuse(tr("%1 Waiting for the other coordinate; Esc discards it.").arg(typed.reason));
         } else {
             m_session->refuse(typed.reason);
         }

@@ -86,18 +86,18 @@ QString TargetSession::whyNot(Vertex vertex, const QPointF &xy) const
         return tr("There is no target to edit.");
     }
     if (!isMovable(vertex)) {
-        return vertex == Vertex::White ? tr("The white is held.") : tr("The primaries are locked.");
+        return vertex == Vertex::White ? tr("The white point is held.") : tr("The primaries are locked.");
     }
     if (!isChromaticity(xy)) {
-        return tr("That is no chromaticity: x and y are from 0 to 1, and so is their sum.");
+        return tr("Not a valid chromaticity: x must be at least 0, y greater than 0 and x + y at most 1.");
     }
     if (edited(vertex, xy)) {
         return QString();
     }
     Model::Targets moved = target->getTargets();
     targetAt(moved, vertex) = Model::Target::fromYxy(1.0, xy.x(), xy.y());
-    return spanTriangle(moved) ? tr("The white would lie outside of the target.")
-                               : tr("The primaries would span no triangle.");
+    return spanTriangle(moved) ? tr("The white point would lie outside the target.")
+                               : tr("The primaries would not form a triangle.");
 }
 
 bool TargetSession::setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey)
@@ -114,10 +114,10 @@ bool TargetSession::setLuminance(Vertex vertex, double luminance, int mergeKey)
     const auto target = m_document->target();
     if (target
         && apply(withLuminance(target->getTargets(), vertex, luminance, m_holdWhite),
-            tr("luminance of %1").arg(vertexName(vertex)), mergeKey)) {
+            tr("change luminance of %1").arg(vertexName(vertex)), mergeKey)) {
         return true;
     }
-    refuse(tr("The target cannot have that luminance."));
+    refuse(tr("That luminance is not possible for this target."));
     return false;
 }
 
@@ -126,7 +126,7 @@ bool TargetSession::setWhiteTemperature(double kelvin, double duv, int mergeKey)
     if (const auto xy = chromaticityAt(kelvin, duv)) {
         return setChromaticity(Vertex::White, *xy, mergeKey);
     }
-    refuse(tr("There is no white of that colour temperature and Duv."));
+    refuse(tr("No white point has that colour temperature and Duv."));
     return false;
 }
 

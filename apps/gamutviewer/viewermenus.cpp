@@ -191,16 +191,17 @@ void ViewerWindow::showKeys()
 {
     QMessageBox box(QMessageBox::NoIcon, tr("Keys"), QString(), QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
-    box.setText(tr("Diagrams to edit on:\n"
+    box.setText(tr("Editable diagrams:\n"
                    "R, G, B, W – select a primary or the white\n"
                    "Arrow keys – move it by 0.001; with Shift by 0.0001, with Ctrl by 0.01\n"
                    "Esc – cancel a drag\n\n"
                    "Numbers:\n"
-                   "Up, Down – one step; with Shift a tenth, with Ctrl ten\n"
-                   "Esc – bring back what the target has\n\n"
+                   "Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps\n"
+                   "Esc – restore the value of the target\n\n"
                    "White point:\n"
-                   "+, −, 0 or the wheel – closer, farther, show all whites\n\n"
-                   "Ctrl+1 to Ctrl+5 – pages"));
+                   "+, − or the wheel – zoom in or out\n"
+                   "0 – show all white points\n\n"
+                   "Ctrl+1 to Ctrl+5 – show a page"));
     box.exec();
 }
 

@@ -199,7 +199,7 @@ bool ViewerWindow::exportTo(const QString &fileName, const ChartExtent &extent)
 {
     const auto format = chartFormat(fileName);
     if (!format) {
-        warn(tr("%1: the name has to end in .png, .svg or .pdf").arg(fileName));
+        warn(tr("%1: the name must end in .png, .svg or .pdf").arg(fileName));
         return false;
     }
     const DisplayDescription &description = m_document.description();
@@ -232,9 +232,9 @@ bool ViewerWindow::mayLoseChanges()
     if (!m_document.isModified()) {
         return true;
     }
-    const auto answer
-        = QMessageBox::warning(this, tr("Unsaved changes"), tr("The description has been changed. Save the changes?"),
-            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    const auto answer = QMessageBox::warning(this, tr("Unsaved changes"),
+        tr("The display description has been modified. Save the changes?"),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     return answer == QMessageBox::Save ? save() : answer == QMessageBox::Discard;
 }
 

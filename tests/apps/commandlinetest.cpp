@@ -111,7 +111,7 @@ void CommandLineTest::sizes()
         QVERIFY(line.hasSize());
     } else {
         QCOMPARE(line.action(), Action::Refuse);
-        QCOMPARE(line.error(), QStringLiteral("Not a size from 1x1 to 8192x8192: ") + text);
+        QCOMPARE(line.error(), QStringLiteral("Invalid size, expected 1x1 to 8192x8192: ") + text);
     }
 }
 
@@ -139,7 +139,7 @@ void CommandLineTest::ratios()
         QCOMPARE(line.action(), Action::Write);
     } else {
         QCOMPARE(line.action(), Action::Refuse);
-        QCOMPARE(line.error(), QStringLiteral("Not a device pixel ratio from 0.25 to 16: ") + text);
+        QCOMPARE(line.error(), QStringLiteral("Invalid device pixel ratio, expected 0.25 to 16: ") + text);
     }
 }
 
@@ -176,22 +176,21 @@ void CommandLineTest::refusals_data()
     QTest::addColumn<QString>("error");
     QTest::newRow("unknown option") << QStringList{"--bogus"} << "Unknown option 'bogus'.";
     QTest::newRow("no picture file") << QStringList{"--render"} << "Missing value after '--render'.";
-    QTest::newRow("empty picture file") << QStringList{"--render", ""} << "The name of the picture file is empty.";
-    QTest::newRow("empty file name") << QStringList{"a", ""} << "The name of a file to open is empty.";
+    QTest::newRow("empty picture file") << QStringList{"--render", ""} << "The file name of --render is empty.";
+    QTest::newRow("empty file name") << QStringList{"a", ""} << "An input file name is empty.";
     QTest::newRow("unknown picture") << QStringList{"--render", "a.jpg"}
-                                     << "Not a picture format (png, svg, pdf): a.jpg";
-    QTest::newRow("unknown report") << QStringList{"--report", "xml"} << "Not a report format (json): xml";
+                                     << "Unsupported picture format, expected png, svg or pdf: a.jpg";
+    QTest::newRow("unknown report") << QStringList{"--report", "xml"}
+                                    << "Unsupported report format, expected json: xml";
     QTest::newRow("no report format") << QStringList{"--report"} << "Missing value after '--report'.";
     QTest::newRow("too many pixels") << QStringList{"--render", "a.png", "--size", "4097x5", "--dpr", "2"}
-                                     << "The picture would have more than 8192 pixels a side.";
-    QTest::newRow("ratio of a window") << QStringList{"--dpr", "2", "a.json"}
-                                       << "There is no chart for --dpr: it goes with --render.";
-    QTest::newRow("ratio of a report") << QStringList{"--dpr", "2", "--report", "json"}
-                                       << "There is no chart for --dpr: it goes with --render.";
+                                     << "The picture would have more than 8192 pixels per side.";
+    QTest::newRow("ratio of a window") << QStringList{"--dpr", "2", "a.json"} << "--dpr requires --render.";
+    QTest::newRow("ratio of a report") << QStringList{"--dpr", "2", "--report", "json"} << "--dpr requires --render.";
     QTest::newRow("size of a report") << QStringList{"--size", "20x10", "--report", "json"}
-                                      << "There is no chart for --size: a report has none.";
+                                      << "--size requires --render when used with --report.";
     QTest::newRow("first reason") << QStringList{"--dpr", "0", "--size", "0x0"}
-                                  << "Not a size from 1x1 to 8192x8192: 0x0";
+                                  << "Invalid size, expected 1x1 to 8192x8192: 0x0";
 }
 
 void CommandLineTest::refusals()

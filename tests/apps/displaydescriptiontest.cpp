@@ -194,7 +194,7 @@ void DisplayDescriptionTest::refused_data()
     row("byte order mark only", "\xEF\xBB\xBF", "f: is empty");
     row("array", "[]", "f: expected an object, found an array");
     row("null", " null", "f:1:3: illegal value");
-    row("cut short", description.left(description.indexOf("0.72")), "f:9:49: the file ends too early");
+    row("cut short", description.left(description.indexOf("0.72")), "f:9:49: unexpected end of file");
     change("comma missing", "0.7, \"y\": 0.3}", "0.7 \"y\": 0.3}", "f:8:41: unterminated object");
 
     change("NaN", "0.72", "NaN", "f:9:49: illegal number");
@@ -202,7 +202,7 @@ void DisplayDescriptionTest::refused_data()
     change("overflow", "0.72", "1e999", "f:9:54: illegal number");
     change("string for a number", "0.72", "\"0.72\"", "f: gamuts[0].green.y: expected a number, found a string");
     change("null for a number", "0.72", "null", "f: gamuts[0].green.y: expected a number, found null");
-    change("truth value for a number", "0.72", "true", "f: gamuts[0].green.y: expected a number, found a truth value");
+    change("truth value for a number", "0.72", "true", "f: gamuts[0].green.y: expected a number, found a boolean");
     change("array for a number", "0.72", "[0.72]", "f: gamuts[0].green.y: expected a number, found an array");
     change("object for a number", "0.72", "{}", "f: gamuts[0].green.y: expected a number, found an object");
     change("number for a string", "\"made up\"", "7", "f: notes: expected a string, found a number");
@@ -220,47 +220,43 @@ void DisplayDescriptionTest::refused_data()
     change("unknown key of a colour", "{\"Y\": 690", "{\"Z\": 0, \"Y\": 690", "f: gamuts[1].green.Z: unknown key");
     change("unknown key of a point", "{\"x\": 0.6,", "{\"Y\": 1, \"x\": 0.6,", "f: measurePoints[0].Y: unknown key");
     change("odd unknown key", "\"notes\"", "\"my notes\"", "f: [\"my notes\"]: unknown key");
-    change("other version", "\"version\": 1", "\"version\": 2", "f: version: only version 1 is known");
+    change("other version", "\"version\": 1", "\"version\": 2", "f: version: only version 1 is supported");
     change(
         "version as a string", "\"version\": 1", "\"version\": \"1\"", "f: version: expected a number, found a string");
     change("gamut name twice", "\"name\": \"as measured\"", "\"name\": \"native\"",
-        "f: gamuts[1].name: there is another gamut named \"native\"");
+        "f: gamuts[1].name: there is already a gamut named \"native\"");
     change("empty gamut name", "\"name\": \"as measured\"", "\"name\": \"\"",
-        "f: gamuts[1].name: a name must not be empty");
+        "f: gamuts[1].name: the name must not be empty");
     change("blank gamut name", "\"name\": \"as measured\"", "\"name\": \" \"",
-        "f: gamuts[1].name: a name must not be empty");
+        "f: gamuts[1].name: the name must not be empty");
     change("no such original", "\"original\": \"native\"", "\"original\": \"Native\"",
-        "f: original: no gamut is named \"Native\"");
-    change(
-        "no such declared", "\"declared\": \"native\"", "\"declared\": \"x\"", "f: declared: no gamut is named \"x\"");
+        "f: original: there is no gamut named \"Native\"");
+    change("no such declared", "\"declared\": \"native\"", "\"declared\": \"x\"",
+        "f: declared: there is no gamut named \"x\"");
     change("no such measured", "\"measured\": \"as measured\"", "\"measured\": \"x\"",
-        "f: measured: no gamut is named \"x\"");
+        "f: measured: there is no gamut named \"x\"");
     change("empty measured", "\"measured\": \"as measured\"", "\"measured\": \"\"",
-        "f: measured: a name must not be empty");
+        "f: measured: the name must not be empty");
     change("no such target", "\"target\": \"Rec.2020\"", "\"target\": \"Rec. 2020\"",
-        "f: target: no gamut is named \"Rec. 2020\"");
+        "f: target: there is no gamut named \"Rec. 2020\"");
     change("no such standard", "\"Rec.709\", \"native\"", "\"Rec.709\", \"sRGB\"",
-        "f: standards[1]: no gamut is named \"sRGB\"");
+        "f: standards[1]: there is no gamut named \"sRGB\"");
     change("standard twice", "\"Rec.709\", \"native\"", "\"Rec.709\", \"native\", \"Rec.709\"",
-        "f: standards[2]: \"Rec.709\" stands in the list twice");
+        "f: standards[2]: \"Rec.709\" is listed twice");
 
-    change(
-        "negative luminance", "\"Y\": 690", "\"Y\": -1e-9", "f: gamuts[1].green.Y: a luminance must not be negative");
-    change("negative x", "0.17,", "-0.01,", "f: gamuts[0].green.x: a chromaticity must not be negative");
-    change("y zero", "0.72", "0", "f: gamuts[0].green.y: the chromaticity y must be greater than 0");
-    change("y minus zero", "0.72", "-0.0", "f: gamuts[0].green.y: the chromaticity y must be greater than 0");
-    change("y negative", "0.72", "-0.1", "f: gamuts[0].green.y: the chromaticity y must be greater than 0");
-    change("x + y above 1", "0.72", "0.8300000001",
-        "f: gamuts[0].green: the chromaticities x and y must not add up to more than 1");
-    change("x a percentage", "0.17,", "17,",
-        "f: gamuts[0].green: the chromaticities x and y must not add up to more than 1");
+    change("negative luminance", "\"Y\": 690", "\"Y\": -1e-9", "f: gamuts[1].green.Y: luminance must not be negative");
+    change("negative x", "0.17,", "-0.01,", "f: gamuts[0].green.x: a chromaticity coordinate must not be negative");
+    change("y zero", "0.72", "0", "f: gamuts[0].green.y: y must be greater than 0");
+    change("y minus zero", "0.72", "-0.0", "f: gamuts[0].green.y: y must be greater than 0");
+    change("y negative", "0.72", "-0.1", "f: gamuts[0].green.y: y must be greater than 0");
+    change("x + y above 1", "0.72", "0.8300000001", "f: gamuts[0].green: x + y must not exceed 1");
+    change("x a percentage", "0.17,", "17,", "f: gamuts[0].green: x + y must not exceed 1");
     change("no triangle", "\"x\": 0.17, \"y\": 0.72", "\"x\": 0.7, \"y\": 0.3",
-        "f: gamuts[0]: the primaries span no triangle");
-    change("x of a point", "0.44", "-0.44", "f: colorTemperaturePoints[0].x: a chromaticity must not be negative");
-    change(
-        "y of a point", "0.31}]", "0}]", "f: colorTemperaturePoints[1].y: the chromaticity y must be greater than 0");
-    change("x + y of a point", "0.33", "0.81",
-        "f: cmyPoints[0]: the chromaticities x and y must not add up to more than 1");
+        "f: gamuts[0]: the primaries do not form a triangle");
+    change("x of a point", "0.44", "-0.44",
+        "f: colorTemperaturePoints[0].x: a chromaticity coordinate must not be negative");
+    change("y of a point", "0.31}]", "0}]", "f: colorTemperaturePoints[1].y: y must be greater than 0");
+    change("x + y of a point", "0.33", "0.81", "f: cmyPoints[0]: x + y must not exceed 1");
 }
 
 void DisplayDescriptionTest::refused()
@@ -379,7 +375,7 @@ void DisplayDescriptionTest::messageIsOneLine()
     DescriptionReader reader;
     QVERIFY(!reader.read(replaced("\"target\": \"Rec.2020\"", "\"target\": \"a\\nb\\u0000\\u2028\"")));
     QCOMPARE(reader.error().message(QStringLiteral("odd\nname")),
-        QStringLiteral("odd\\u000aname: target: no gamut is named \"a\\u000ab\\u0000\\u2028\""));
+        QStringLiteral("odd\\u000aname: target: there is no gamut named \"a\\u000ab\\u0000\\u2028\""));
 }
 
 void DisplayDescriptionTest::readerForgetsTheLastFile()

@@ -101,7 +101,7 @@ void EdidFileTest::refusals_data()
     const auto row = [](const char *name, const QByteArray &bytes, const char *error) {
         QTest::newRow(name) << bytes << QString::fromUtf8(error);
     };
-    row("empty", "", "is a truncated EDID: 0 bytes of at least 128");
+    row("empty", "", "is a truncated EDID: 0 bytes instead of at least 128");
     row("wrong header", gamutfiles::edid().replace(0, 1, "\x01"), "is not an EDID");
     row("wrong checksum", gamutfiles::edid().replace(30, 1, QByteArray(1, '\0')),
         "is a damaged EDID: its checksum is wrong");
@@ -109,11 +109,11 @@ void EdidFileTest::refusals_data()
     row("a white and no primaries", withColors(QByteArray("\x00\x01\x00\x00\x00\x00\x00\x00\x50\x54", 10)),
         "is an EDID without primaries");
     row("equal primaries", withColors(QByteArray("\x00\x00\x54\x54\x54\x54\x54\x54\x54\x54", 10)),
-        "is an EDID without usable primaries: the primaries span no triangle");
+        "is an EDID without usable primaries: the primaries do not form a triangle");
     row("white outside", withColors(QByteArray("\xEE\x91\xA3\x54\x4C\x99\x26\x0F\x10\x14", 10)),
         "is an EDID without usable primaries: the white point lies outside the triangle of the primaries");
     row("beyond the diagram", withColors(QByteArray(10, '\xFF')),
-        "is an EDID without usable primaries: the red primary is not a chromaticity: x 0.999023, y 0.999023");
+        "is an EDID without usable primaries: the red primary is not a valid chromaticity: x 0.999023, y 0.999023");
 }
 
 void EdidFileTest::refusals()

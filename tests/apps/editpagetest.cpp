@@ -365,7 +365,7 @@ void EditPageTest::keyNamesWhatIsShown()
     f.window->setDescription(withEverything(f.document().description()), QString());
     f.show(f.window->editPage());
     QCOMPARE(f.window->editPage()->key()->accessibleDescription(),
-        QStringLiteral("Declared, Original, Measured, Target, Standards, Measure points, CCT points, CMY points"));
+        QStringLiteral("Declared, Original, Measured, Target, Standards, Measured points, CCT points, CMY points"));
     // All of it can be read.
     const DiagramKey *key = f.window->editPage()->key();
     QVERIFY(key->height() >= key->heightForWidth(key->width()));

@@ -192,7 +192,7 @@ void GamutViewerTest::reportCannotBeWritten()
 #ifdef Q_OS_LINUX
     const Result result = run(
         {"-c", "exec \"$0\" --report json >/dev/full", GAMUTVIEWER_PROGRAM}, bare(), {}, QStringLiteral("/bin/sh"));
-    QCOMPARE(result.error, QByteArray("gamutviewer: the report cannot be written to the standard output\n"));
+    QCOMPARE(result.error, QByteArray("gamutviewer: the report cannot be written to standard output\n"));
     QCOMPARE(result.exitCode, 1);
 #endif
 }
@@ -322,9 +322,9 @@ void GamutViewerTest::refusesDescriptions_data()
     change("wrong type", "[]", "{}", "wall.json: gamuts: expected an array, found an object");
     change("unknown key", "version", "versoin", "wall.json: versoin: unknown key");
     change("missing key", "\"version\": 1, ", "", "wall.json: version: missing");
-    change("unknown gamut", "Rec.709", "Rec.\\n709", "wall.json: target: no gamut is named \"Rec.\\u000a709\"");
+    change("unknown gamut", "Rec.709", "Rec.\\n709", "wall.json: target: there is no gamut named \"Rec.\\u000a709\"");
     row("huge", '{' + QByteArray(16 * 1024 * 1024, ' '),
-        "wall.json: is larger than 16384 KiB: not a display description");
+        "wall.json: is too large for a display description (more than 16384 KiB)");
 }
 
 void GamutViewerTest::refusesDescriptions()
@@ -344,13 +344,14 @@ void GamutViewerTest::refusesArguments_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("message");
     QTest::newRow("unknown option") << QStringList{"--bogus"} << QByteArray("Unknown option 'bogus'.");
-    QTest::newRow("bad size") << QStringList{"--size", "12"} << QByteArray("Not a size from 1x1 to 8192x8192: 12");
+    QTest::newRow("bad size") << QStringList{"--size", "12"}
+                              << QByteArray("Invalid size, expected 1x1 to 8192x8192: 12");
     QTest::newRow("negative size") << QStringList{"--size=-1x5"}
-                                   << QByteArray("Not a size from 1x1 to 8192x8192: -1x5");
+                                   << QByteArray("Invalid size, expected 1x1 to 8192x8192: -1x5");
     QTest::newRow("bad ratio") << QStringList{"--dpr", "0"}
-                               << QByteArray("Not a device pixel ratio from 0.25 to 16: 0");
-    QTest::newRow("two descriptions") << QStringList{
-        SAMPLE_FILE, SAMPLE_FILE} << QByteArray(SAMPLE_FILE ": is a second display description, after " SAMPLE_FILE);
+                               << QByteArray("Invalid device pixel ratio, expected 0.25 to 16: 0");
+    QTest::newRow("two descriptions") << QStringList{SAMPLE_FILE,
+        SAMPLE_FILE} << QByteArray(SAMPLE_FILE ": is a second display description; the first is " SAMPLE_FILE);
     QTest::newRow("missing file") << QStringList{"no.json"}
                                   << QByteArray("no.json: cannot be read: No such file or directory");
     QTest::newRow("folder") << QStringList{"."} << QByteArray(".: is a folder");
@@ -418,7 +419,7 @@ void GamutViewerTest::helpAndVersion()
     QCOMPARE(help.exitCode, 0);
     QCOMPARE(help.error, QByteArray());
     for (const char *part : {"Usage: ", "--render <file>", "--size <width>x<height>", "--dpr <ratio>",
-             "--report <format>", "--version", "Exit status: 0 done, 1 ", "file"}) {
+             "--report <format>", "--version", "Exit status: 0 success, 1 ", "file"}) {
         QVERIFY2(help.output.contains(part), part);
     }
     const Result version = run({"--version"});
@@ -432,8 +433,8 @@ void GamutViewerTest::saysThatThereIsNoDisplay()
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
     const Result result = run({});
     QCOMPARE(result.error,
-        QByteArray("gamutviewer: there is no display for a window; --render writes a picture file and "
-                   "--report prints a report\n"));
+        QByteArray("gamutviewer: no display is available; use --render to write a picture or --report to print a "
+                   "report\n"));
     QCOMPARE(result.exitCode, 1);
 #endif
 }

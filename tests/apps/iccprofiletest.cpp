@@ -175,7 +175,7 @@ void IccProfileTest::refusals_data()
     const auto changed = [&row](const char *name, const gamutfiles::EditProfile &edit, const char *error) {
         row(name, gamutfiles::version2Profile(edit), error);
     };
-    row("empty", "", "is a truncated ICC profile: it ends in its header");
+    row("empty", "", "is a truncated ICC profile: the header is incomplete");
     row("wrong signature", gamutfiles::version2Profile().replace("acsp", "acsq"), "is not an ICC profile");
     row("grey", gamutfiles::greyProfile(), "has no primaries: it is a grey profile");
     changed(
@@ -189,33 +189,33 @@ void IccProfileTest::refusals_data()
         "has no primaries: it is not an RGB profile");
     changed(
         "no green", [](cmsHPROFILE profile) { cmsWriteTag(profile, cmsSigGreenColorantTag, nullptr); },
-        "has no primaries: the ICC profile has no colorants");
+        "has no primaries: the ICC profile has no colorant tags");
     changed(
         "black red",
         [](cmsHPROFILE profile) {
             const cmsCIEXYZ black{0.0, 0.0, 0.0};
             cmsWriteTag(profile, cmsSigRedColorantTag, &black);
         },
-        "is an ICC profile without usable primaries: the red primary is not a chromaticity: x 0, y 0");
+        "is an ICC profile without usable primaries: the red primary is not a valid chromaticity: x 0, y 0");
     changed(
         "two equal primaries",
         [](cmsHPROFILE profile) {
             const cmsCIEXYZ green{0.3850649, 0.7168786, 0.0971045};
             cmsWriteTag(profile, cmsSigRedColorantTag, &green);
         },
-        "is an ICC profile without usable primaries: the primaries span no triangle");
+        "is an ICC profile without usable primaries: the primaries do not form a triangle");
     changed(
         "dark media white",
         [](cmsHPROFILE profile) {
             const cmsCIEXYZ black{0.0, 0.0, 0.0};
             cmsWriteTag(profile, cmsSigMediaWhitePointTag, &black);
         },
-        "is an ICC profile without usable primaries: the red primary is not a chromaticity: x 0, y 0");
+        "is an ICC profile without usable primaries: the red primary is not a valid chromaticity: x 0, y 0");
     row("adaptation without inverse", gamutfiles::version4Profile([](cmsHPROFILE profile) {
         const cmsCIEXYZ rows[] = {{1, 1, 1}, {1, 1, 1}, {1, 1, 1}};
         cmsWriteTag(profile, cmsSigChromaticAdaptationTag, rows);
     }),
-        "is an ICC profile without usable primaries: the red primary is not a chromaticity: x 0, y 0");
+        "is an ICC profile without usable primaries: the red primary is not a valid chromaticity: x 0, y 0");
 }
 
 void IccProfileTest::refusals()

@@ -165,28 +165,29 @@ void MeasurementListTest::refusals_data()
     const auto row = [](const char *name, const QByteArray &text, const char *error) {
         QTest::newRow(name) << text << QString::fromUtf8(error);
     };
-    row("empty", "", "has no measurements");
-    row("comments only", "# nothing\n\n", "has no measurements");
-    row("header only", "name,Y,x,y\n", "has no measurements");
-    row("not UTF-8", "a,1,0.3,0.3\xFF", "is not a text in UTF-8");
-    row("binary", QByteArray("a,1,0.3,\0", 9), "is not a text in UTF-8");
-    row("quote not closed", "a,1,0.3,0.3\n\"b,1,0.3,0.3\n", "line 2: a quote is never closed");
-    row("column missing", "name,Y,x\na,1,0.3\n", "line 1: there is no column y");
-    row("luminance missing", "\nname,L,x,y\na,1,0.3,0.3\n", "line 2: there is no column Y");
+    row("empty", "", "contains no measurements");
+    row("comments only", "# nothing\n\n", "contains no measurements");
+    row("header only", "name,Y,x,y\n", "contains no measurements");
+    row("not UTF-8", "a,1,0.3,0.3\xFF", "is not UTF-8 text");
+    row("binary", QByteArray("a,1,0.3,\0", 9), "is not UTF-8 text");
+    row("quote not closed", "a,1,0.3,0.3\n\"b,1,0.3,0.3\n", "line 2: unterminated quote");
+    row("column missing", "name,Y,x\na,1,0.3\n", "line 1: missing column y");
+    row("luminance missing", "\nname,L,x,y\na,1,0.3,0.3\n", "line 2: missing column Y");
     row("cut short", "a,1,0.3,0.3\nb,1,0.", "line 2, column y: missing");
-    row("name missing", "a,1,0.3,0.3\n,1,0.3,0.3", "line 2, column name: a name must not be empty");
+    row("name missing", "a,1,0.3,0.3\n,1,0.3,0.3", "line 2, column name: the name must not be empty");
     row("word for a number", "a,1,0.3,0.3\nb,1,x,0.3", "line 2, column x: not a number: \"x\"");
     row("empty number", "a,,0.3,0.3", "line 1, column Y: not a number: \"\"");
     row("NaN", "a,1,nan,0.3", "line 1, column x: not a number: \"nan\"");
     row("infinite", "a,inf,0.3,0.3", "line 1, column Y: not a number: \"inf\"");
     row("overflow", "a,1e999,0.3,0.3", "line 1, column Y: not a number: \"1e999\"");
-    row("negative luminance", "a,-1,0.3,0.3", "line 1, column Y: a luminance must not be negative");
-    row("negative x", "a,1,-0.3,0.3", "line 1, column x: a chromaticity must not be negative");
-    row("y zero", "a,1,0.3,0", "line 1, column y: the chromaticity y must be greater than 0");
-    row("gamut of one point", "R,1,0.3,0.3\nG,1,0.3,0.3\nB,1,0.3,0.3\nW,3,0.3,0.3", "the primaries span no triangle");
-    row("gamut on a line", "R,1,0.6,0.3\nG,1,0.4,0.3\nB,1,0.2,0.3\nW,3,0.3,0.3", "the primaries span no triangle");
-    row("beyond the diagram", "a,1,0.6,0.5",
-        "line 1, column x: the chromaticities x and y must not add up to more than 1");
+    row("negative luminance", "a,-1,0.3,0.3", "line 1, column Y: luminance must not be negative");
+    row("negative x", "a,1,-0.3,0.3", "line 1, column x: a chromaticity coordinate must not be negative");
+    row("y zero", "a,1,0.3,0", "line 1, column y: y must be greater than 0");
+    row("gamut of one point", "R,1,0.3,0.3\nG,1,0.3,0.3\nB,1,0.3,0.3\nW,3,0.3,0.3",
+        "the primaries do not form a triangle");
+    row("gamut on a line", "R,1,0.6,0.3\nG,1,0.4,0.3\nB,1,0.2,0.3\nW,3,0.3,0.3",
+        "the primaries do not form a triangle");
+    row("beyond the diagram", "a,1,0.6,0.5", "line 1, column x: x + y must not exceed 1");
 }
 
 void MeasurementListTest::refusals()

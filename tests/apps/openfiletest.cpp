@@ -215,7 +215,7 @@ void OpenFileTest::secondDescriptionIsRefused()
     const QString second = write("b.json", minimal);
     const auto opened = openFiles({first, second});
     QVERIFY(!opened);
-    QCOMPARE(opened.error(), second + ": is a second display description, after " + first);
+    QCOMPARE(opened.error(), second + ": is a second display description; the first is " + first);
 }
 
 void OpenFileTest::errors_data()
@@ -227,24 +227,24 @@ void OpenFileTest::errors_data()
         QTest::newRow(name) << QString::fromLatin1(name).section(' ', 0, 0) << bytes << QString::fromUtf8(reason);
     };
     const QByteArray icc = gamutfiles::version2Profile();
-    const char *const unknown = ": is no display description (JSON), measurement list (CSV), ICC profile or EDID";
+    const char *const unknown = ": is not a display description (JSON), measurement list (CSV), ICC profile or EDID";
     row("empty", "", ": is empty");
     row("empty.icc", "", ": is empty");
     row("picture", QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16), unknown);
     row("text", "Dear all\nhello", unknown);
-    row("text, of commas", "Dear all, hello\nHow are you?\n", ": line 1: there is no column name");
+    row("text, of commas", "Dear all, hello\nHow are you?\n", ": line 1: missing column name");
     row("binary,with,commas", QByteArray("a,b,c\0d", 7), unknown);
     row("wall.json of no JSON", "hello", ":1:2: illegal value");
     row("wall.json with an error", "{\"version\": 2}", ": gamuts: missing");
-    row("list.csv of binary", "\x89PNG", ": is not a text in UTF-8");
-    row("list.csv of words", "hello", ": line 1: there is no column name");
-    row("short.icc", icc.left(20), ": is a truncated ICC profile: it ends in its header");
-    row("header.icm", icc.left(100), ": is a truncated ICC profile: 100 bytes of 0");
+    row("list.csv of binary", "\x89PNG", ": is not UTF-8 text");
+    row("list.csv of words", "hello", ": line 1: missing column name");
+    row("short.icc", icc.left(20), ": is a truncated ICC profile: the header is incomplete");
+    row("header.icm", icc.left(100), ": is a truncated ICC profile: 100 bytes instead of 0");
     row("long.icc", icc.left(200), nullptr);
     row("magic.icc", QByteArray(icc).replace("acsp", "xxxx"), ": is not an ICC profile");
     row("grey.icc", gamutfiles::greyProfile(), ": has no primaries: it is a grey profile");
-    row("short.edid", gamutfiles::edid().left(7), ": is a truncated EDID: 7 bytes of at least 128");
-    row("short.bin", gamutfiles::edid().left(100), ": is a truncated EDID: 100 bytes of at least 128");
+    row("short.edid", gamutfiles::edid().left(7), ": is a truncated EDID: 7 bytes instead of at least 128");
+    row("short.bin", gamutfiles::edid().left(100), ": is a truncated EDID: 100 bytes instead of at least 128");
     row("magic.edid", QByteArray(128, 'x'), ": is not an EDID");
 }
 
@@ -257,8 +257,8 @@ void OpenFileTest::errors()
     const auto opened = openFile(file);
     QVERIFY(!opened);
     if (reason.isEmpty()) {
-        reason
-            = QStringLiteral(": is a truncated ICC profile: 200 bytes of %1").arg(gamutfiles::version2Profile().size());
+        reason = QStringLiteral(": is a truncated ICC profile: 200 bytes instead of %1")
+                     .arg(gamutfiles::version2Profile().size());
     }
     QCOMPARE(opened.error(), file + reason);
 }
@@ -272,9 +272,9 @@ void OpenFileTest::hugeFiles()
     QVERIFY(openFile(file.fileName())); // what follows a profile is no matter
 
     const QString json = write("huge.json", QByteArray(16 * 1024 * 1024 + 1, '{'));
-    QCOMPARE(openFile(json).error(), json + ": is larger than 16384 KiB: not a display description");
+    QCOMPARE(openFile(json).error(), json + ": is too large for a display description (more than 16384 KiB)");
     const QString csv = write("huge.csv", QByteArray("a,1,0.3,0.3\n").repeated(1024 * 1024 / 12 + 1));
-    QCOMPARE(openFile(csv).error(), csv + ": is larger than 1024 KiB: not a measurement list");
+    QCOMPARE(openFile(csv).error(), csv + ": is too large for a measurement list (more than 1024 KiB)");
 #ifdef Q_OS_UNIX
     QCOMPARE(openFile("/dev/zero").error(), QStringLiteral("/dev/zero: is larger than 32768 KiB"));
 #endif

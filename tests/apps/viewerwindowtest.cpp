@@ -417,7 +417,7 @@ void ViewerWindowTest::keyNamesWhatTheChartShows()
     const DiagramKey *key = f.window->chartPage()->key();
     QVERIFY(!f.window->chartPage()->chart()->getLegend()->isVisible());
     QCOMPARE(key->accessibleDescription(),
-        QStringLiteral("Original, Measured, Target, Standards, Common area, Measure points, CCT points, CMY points"));
+        QStringLiteral("Original, Measured, Target, Standards, Common area, Measured points, CCT points, CMY points"));
     QVERIFY(key->isVisible() && key->height() >= key->heightForWidth(key->width()));
     // Each line in the colour that the chart draws it in.
     QCOMPARE(key->entries().at(0).pen.color(), QColor(13, 189, 73));

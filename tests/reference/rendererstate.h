@@ -2,7 +2,7 @@
 #ifndef CEIECHART_TESTS_REFERENCE_RENDERERSTATE_H
 #define CEIECHART_TESTS_REFERENCE_RENDERERSTATE_H
 
-#include <ceiechart/render/diagramrenderer_p.h>
+#include <ceiechart/render/drawceipicture_p.h>
 
 #include <QPointF>
 
@@ -47,10 +47,9 @@ void startTickAtCurrentPoint(Renderer &renderer)
     renderer.d->tickWeight = 1.0;
 }
 
-template <typename Renderer>
-void drawMeasurePoints(Renderer &renderer, QPainter &painter)
+inline void drawMeasurePoints(NewCEIE::DrawCEIPicture &renderer, QPainter &painter)
 {
-    renderer.drawMeasurePoints(painter);
+    renderer.own().drawMeasurePoints(painter);
 }
 
 /*! \brief The tables that a renderer draws from. */

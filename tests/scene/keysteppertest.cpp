@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/scene/keystepper.h>
+#include <ceiechart/scene/keystepper_p.h>
 
 #include <QTest>
 

@@ -80,7 +80,7 @@
         <translation>标准</translation>
     </message>
     <message>
-        <source>Measure points</source>
+        <source>Measured points</source>
         <translation>测量点</translation>
     </message>
     <message>
@@ -142,66 +142,66 @@
         <translation>面积 u′, v′</translation>
     </message>
     <message>
-        <source>The target gives up %1 of the original&apos;s area in x, y and %2 in u′, v′ (hatched).</source>
-        <translation>目标放弃了原始色域面积的 %1（x, y）和 %2（u′, v′），即阴影部分。</translation>
+        <source>The target leaves %1 of the original&apos;s area in x, y and %2 in u′, v′ unused (hatched).</source>
+        <translation>目标未使用原始色域面积的 %1（x, y）和 %2（u′, v′），即阴影部分。</translation>
     </message>
     <message>
-        <source>What the target gives up of the original</source>
-        <translation>目标放弃的原始色域</translation>
+        <source>Part of the original that the target does not use</source>
+        <translation>目标未使用的原始色域部分</translation>
     </message>
 </context>
 <context>
     <name>gamutviewer::CsvTable</name>
     <message>
-        <source>is not a text in UTF-8</source>
+        <source>is not UTF-8 text</source>
         <translation>不是 UTF-8 文本</translation>
     </message>
     <message>
-        <source>line %1: a quote is never closed</source>
+        <source>line %1: unterminated quote</source>
         <translation>第 %1 行：引号没有闭合</translation>
     </message>
 </context>
 <context>
     <name>gamutviewer::DescriptionReader</name>
     <message>
-        <source>is larger than %1 KiB: not a display description</source>
-        <translation>大于 %1 KiB：不是显示屏描述</translation>
+        <source>is too large for a display description (more than %1 KiB)</source>
+        <translation>对显示屏描述来说过大（大于 %1 KiB）</translation>
     </message>
     <message>
         <source>is empty</source>
         <translation>是空的</translation>
     </message>
     <message>
-        <source>only version %1 is known</source>
+        <source>only version %1 is supported</source>
         <translation>只支持版本 %1</translation>
     </message>
     <message>
-        <source>there is another gamut named %1</source>
+        <source>there is already a gamut named %1</source>
         <translation>已有名为 %1 的色域</translation>
     </message>
     <message>
-        <source>a luminance must not be negative</source>
+        <source>luminance must not be negative</source>
         <translation>亮度不能为负</translation>
     </message>
     <message>
-        <source>no gamut is named %1</source>
+        <source>there is no gamut named %1</source>
         <translation>没有名为 %1 的色域</translation>
     </message>
     <message>
-        <source>%1 stands in the list twice</source>
+        <source>%1 is listed twice</source>
         <translation>%1 在列表中重复</translation>
     </message>
     <message>
-        <source>a chromaticity must not be negative</source>
+        <source>a chromaticity coordinate must not be negative</source>
         <translation>色度坐标不能为负</translation>
     </message>
     <message>
-        <source>the chromaticity y must be greater than 0</source>
-        <translation>色度坐标 y 必须大于 0</translation>
+        <source>y must be greater than 0</source>
+        <translation>y 必须大于 0</translation>
     </message>
     <message>
-        <source>the chromaticities x and y must not add up to more than 1</source>
-        <translation>色度坐标 x 与 y 之和不能大于 1</translation>
+        <source>x + y must not exceed 1</source>
+        <translation>x + y 不能大于 1</translation>
     </message>
     <message>
         <source>unknown key</source>
@@ -212,7 +212,7 @@
         <translation>缺失</translation>
     </message>
     <message>
-        <source>a truth value</source>
+        <source>a boolean</source>
         <translation>布尔值</translation>
     </message>
     <message>
@@ -240,7 +240,7 @@
         <translation>应为%1，实为%2</translation>
     </message>
     <message>
-        <source>a name must not be empty</source>
+        <source>the name must not be empty</source>
         <translation>名称不能为空</translation>
     </message>
 </context>
@@ -254,7 +254,7 @@
 <context>
     <name>gamutviewer::Edid</name>
     <message>
-        <source>is a truncated EDID: %1 bytes of at least %2</source>
+        <source>is a truncated EDID: %1 bytes instead of at least %2</source>
         <translation>EDID 不完整：只有 %1 字节，至少应有 %2 字节</translation>
     </message>
     <message>
@@ -266,8 +266,8 @@
         <translation>EDID 已损坏：校验和错误</translation>
     </message>
     <message>
-        <source>is not a readable EDID: %1</source>
-        <translation>EDID 无法读取：%1</translation>
+        <source>is an EDID that cannot be read: %1</source>
+        <translation>无法读取的 EDID：%1</translation>
     </message>
     <message>
         <source>is an EDID without primaries</source>
@@ -312,7 +312,7 @@
         <translation>高度(&amp;H)：</translation>
     </message>
     <message>
-        <source>Pixels of a PNG for each pixel of the size above</source>
+        <source>Number of PNG pixels per pixel of the size above</source>
         <translation>上述尺寸中每个像素对应的 PNG 像素数</translation>
     </message>
     <message>
@@ -324,11 +324,11 @@
         <translation>导出(&amp;E)…</translation>
     </message>
     <message>
-        <source>A PNG has %1 × %2 pixels.</source>
-        <translation>PNG 为 %1 × %2 像素。</translation>
+        <source>A PNG will have %1 × %2 pixels.</source>
+        <translation>PNG 将为 %1 × %2 像素。</translation>
     </message>
     <message>
-        <source>At most %1 pixels a side.</source>
+        <source>At most %1 pixels per side.</source>
         <translation>每边最多 %1 像素。</translation>
     </message>
 </context>
@@ -374,15 +374,15 @@
         <translation>非 RGB 特性文件</translation>
     </message>
     <message>
-        <source>is a truncated ICC profile: it ends in its header</source>
-        <translation>ICC 特性文件不完整：文件头未结束</translation>
+        <source>is a truncated ICC profile: the header is incomplete</source>
+        <translation>ICC 特性文件不完整：文件头不完整</translation>
     </message>
     <message>
         <source>is not an ICC profile</source>
         <translation>不是 ICC 特性文件</translation>
     </message>
     <message>
-        <source>is a truncated ICC profile: %1 bytes of %2</source>
+        <source>is a truncated ICC profile: %1 bytes instead of %2</source>
         <translation>ICC 特性文件不完整：%2 字节中只有 %1 字节</translation>
     </message>
     <message>
@@ -394,8 +394,8 @@
         <translation>没有基色：这是%1</translation>
     </message>
     <message>
-        <source>has no primaries: the ICC profile has no colorants</source>
-        <translation>没有基色：ICC 特性文件中没有色料</translation>
+        <source>has no primaries: the ICC profile has no colorant tags</source>
+        <translation>没有基色：ICC 特性文件中没有色料标签</translation>
     </message>
     <message>
         <source>is an ICC profile without usable primaries: %1</source>
@@ -405,7 +405,7 @@
 <context>
     <name>gamutviewer::Json</name>
     <message>
-        <source>the file ends too early</source>
+        <source>unexpected end of file</source>
         <translation>文件不完整，提前结束</translation>
     </message>
 </context>
@@ -456,7 +456,7 @@
         <translation>公共色域(&amp;C)</translation>
     </message>
     <message>
-        <source>Colour the area that target and original have in common</source>
+        <source>Colour the common area of target and original</source>
         <translation>为目标与原始色域的公共部分着色</translation>
     </message>
     <message>
@@ -472,7 +472,7 @@
         <translation>波长(&amp;W)</translation>
     </message>
     <message>
-        <source>Show the wavelengths along the edge, in nanometres</source>
+        <source>Show wavelengths along the spectral locus, in nanometres</source>
         <translation>显示边缘上的波长（纳米）</translation>
     </message>
     <message>
@@ -480,23 +480,23 @@
         <translation>黑体轨迹(&amp;K)</translation>
     </message>
     <message>
-        <source>Show the colours of black bodies</source>
-        <translation>显示黑体的颜色</translation>
+        <source>Show the Planckian locus, the chromaticities of black bodies</source>
+        <translation>显示黑体轨迹，即黑体的色度</translation>
     </message>
     <message>
-        <source>Meas&amp;ure points</source>
+        <source>Meas&amp;ured points</source>
         <translation>测量点(&amp;U)</translation>
     </message>
     <message>
-        <source>Show further measurements</source>
-        <translation>显示其他测量值</translation>
+        <source>Show the other measured colours</source>
+        <translation>显示其他测得的颜色</translation>
     </message>
     <message>
         <source>CCT po&amp;ints</source>
         <translation>色温点(&amp;P)</translation>
     </message>
     <message>
-        <source>Show the points of colour temperatures</source>
+        <source>Show the colour-temperature points</source>
         <translation>显示各色温的点</translation>
     </message>
     <message>
@@ -504,18 +504,18 @@
         <translation>CMY 点(&amp;Y)</translation>
     </message>
     <message>
-        <source>Show the points of cyan, magenta and yellow</source>
+        <source>Show the cyan, magenta and yellow points</source>
         <translation>显示青、品红、黄三点</translation>
     </message>
 </context>
 <context>
     <name>gamutviewer::LensPage</name>
     <message>
-        <source>Closer (+)</source>
+        <source>Zoom in (+)</source>
         <translation>放大 (+)</translation>
     </message>
     <message>
-        <source>Farther (−)</source>
+        <source>Zoom out (−)</source>
         <translation>缩小 (−)</translation>
     </message>
     <message>
@@ -523,7 +523,7 @@
         <translation>全部</translation>
     </message>
     <message>
-        <source>Show all whites (0)</source>
+        <source>Show all white points (0)</source>
         <translation>显示所有白点 (0)</translation>
     </message>
     <message>
@@ -531,8 +531,8 @@
         <translation>圆环：Δu′v′ 0.001、0.003、0.005</translation>
     </message>
     <message>
-        <source>Distance from the target&apos;s white. The dotted line shows where it was before the last edits.</source>
-        <translation>到目标白点的距离。点线表示最近几次修改前白点的位置。</translation>
+        <source>Distance from the target&apos;s white point. The dotted line joins its positions before the last edits.</source>
+        <translation>到目标白点的距离。点线连接最近几次修改前白点的各个位置。</translation>
     </message>
 </context>
 <context>
@@ -561,24 +561,24 @@
 <context>
     <name>gamutviewer::MeasurementList</name>
     <message>
-        <source>a name must not be empty</source>
+        <source>the name must not be empty</source>
         <translation>名称不能为空</translation>
     </message>
     <message>
-        <source>a luminance must not be negative</source>
+        <source>luminance must not be negative</source>
         <translation>亮度不能为负</translation>
     </message>
     <message>
-        <source>a chromaticity must not be negative</source>
+        <source>a chromaticity coordinate must not be negative</source>
         <translation>色度坐标不能为负</translation>
     </message>
     <message>
-        <source>the chromaticity y must be greater than 0</source>
-        <translation>色度坐标 y 必须大于 0</translation>
+        <source>y must be greater than 0</source>
+        <translation>y 必须大于 0</translation>
     </message>
     <message>
-        <source>the chromaticities x and y must not add up to more than 1</source>
-        <translation>色度坐标 x 与 y 之和不能大于 1</translation>
+        <source>x + y must not exceed 1</source>
+        <translation>x + y 不能大于 1</translation>
     </message>
     <message>
         <source>missing</source>
@@ -593,11 +593,11 @@
         <translation>第 %1 行，第 %2 列：%3</translation>
     </message>
     <message>
-        <source>has no measurements</source>
+        <source>contains no measurements</source>
         <translation>没有测量数据</translation>
     </message>
     <message>
-        <source>line %1: there is no column %2</source>
+        <source>line %1: missing column %2</source>
         <translation>第 %1 行：缺少列 %2</translation>
     </message>
 </context>
@@ -612,16 +612,16 @@
         <translation>是空的</translation>
     </message>
     <message>
-        <source>is larger than %1 KiB: not a measurement list</source>
-        <translation>大于 %1 KiB：不是测量列表</translation>
+        <source>is too large for a measurement list (more than %1 KiB)</source>
+        <translation>对测量列表来说过大（大于 %1 KiB）</translation>
     </message>
     <message>
-        <source>is no display description (JSON), measurement list (CSV), ICC profile or EDID</source>
+        <source>is not a display description (JSON), measurement list (CSV), ICC profile or EDID</source>
         <translation>不是显示屏描述（JSON）、测量列表（CSV）、ICC 特性文件或 EDID</translation>
     </message>
     <message>
-        <source>%1: is a second display description, after %2</source>
-        <translation>%1：是 %2 之后的第二个显示屏描述</translation>
+        <source>%1: is a second display description; the first is %2</source>
+        <translation>%1：是第二个显示屏描述；第一个是 %2</translation>
     </message>
 </context>
 <context>
@@ -643,11 +643,11 @@
         <translation>白点</translation>
     </message>
     <message>
-        <source>%1 is not a chromaticity: x %2, y %3</source>
+        <source>%1 is not a valid chromaticity: x %2, y %3</source>
         <translation>%1不是有效色度：x %2，y %3</translation>
     </message>
     <message>
-        <source>the primaries span no triangle</source>
+        <source>the primaries do not form a triangle</source>
         <translation>三基色不能构成三角形</translation>
     </message>
     <message>
@@ -718,7 +718,7 @@
         <translation>标准色域覆盖率</translation>
     </message>
     <message>
-        <source>Coverage: share of the standard&apos;s area that the gamut contains. Ratio: area of the gamut by the standard&apos;s.</source>
+        <source>Coverage: share of the standard&apos;s area that the gamut contains. Ratio: area of the gamut divided by that of the standard.</source>
         <translation>覆盖：该色域包含的标准色域面积的比例。面积比：该色域面积与标准色域面积之比。</translation>
     </message>
     <message>
@@ -738,7 +738,7 @@
         <translation>✓ 显示屏可以显示目标色域。</translation>
     </message>
     <message>
-        <source>✗ Outside of the original: %1</source>
+        <source>✗ Outside the original: %1</source>
         <translation>✗ 超出原始色域：%1</translation>
     </message>
     <message>
@@ -754,15 +754,15 @@
         <translation>色度图信号日志</translation>
     </message>
     <message>
-        <source>What the charts report appears here.</source>
-        <translation>此处显示色度图报告的内容。</translation>
+        <source>The signals of the charts appear here.</source>
+        <translation>此处显示色度图发出的信号。</translation>
     </message>
     <message>
         <source>valid</source>
         <translation>有效</translation>
     </message>
     <message>
-        <source>not valid</source>
+        <source>invalid</source>
         <translation>无效</translation>
     </message>
 </context>
@@ -773,7 +773,7 @@
         <translation>重置为(&amp;R)</translation>
     </message>
     <message>
-        <source>Put a standard or a gamut of this display in place of the target</source>
+        <source>Replace the target with a standard or with a gamut of this display</source>
         <translation>用标准色域或本显示屏的色域替换目标</translation>
     </message>
     <message>
@@ -781,7 +781,7 @@
         <translation>保持白点(&amp;H)</translation>
     </message>
     <message>
-        <source>Moved primaries leave the white where it is</source>
+        <source>Moving a primary leaves the white point where it is</source>
         <translation>移动基色时白点不变</translation>
     </message>
     <message>
@@ -789,7 +789,7 @@
         <translation>锁定基色(&amp;L)</translation>
     </message>
     <message>
-        <source>Only the white can be moved</source>
+        <source>Only the white point can be moved</source>
         <translation>只能移动白点</translation>
     </message>
     <message>
@@ -797,7 +797,7 @@
         <translation>吸附(&amp;N)</translation>
     </message>
     <message>
-        <source>Dragged points snap to those of standards and of the original</source>
+        <source>Dragged points snap to the corresponding points of the standards and of the original</source>
         <translation>拖动时吸附到标准色域和原始色域的点</translation>
     </message>
     <message>
@@ -809,7 +809,7 @@
         <translation>u′, v′</translation>
     </message>
     <message>
-        <source>Coordinates to show and to edit</source>
+        <source>Coordinates to display and edit</source>
         <translation>显示和编辑所用的坐标</translation>
     </message>
     <message>
@@ -833,7 +833,7 @@
         <translation>色温, Duv</translation>
     </message>
     <message>
-        <source>Correlated colour temperature of the white, and its distance from the Planckian locus</source>
+        <source>Correlated colour temperature of the white point and its distance from the Planckian locus</source>
         <translation>白点的相关色温及其到黑体轨迹的距离</translation>
     </message>
     <message>
@@ -873,7 +873,7 @@
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>%1 Waiting for the other coordinate; Esc drops it.</source>
+        <source>%1 Waiting for the other coordinate; Esc discards it.</source>
         <translation>%1 等待输入另一个坐标；按 Esc 放弃。</translation>
     </message>
     <message>
@@ -888,7 +888,7 @@
         <translation>没有可编辑的目标。</translation>
     </message>
     <message>
-        <source>The white is held.</source>
+        <source>The white point is held.</source>
         <translation>白点已保持。</translation>
     </message>
     <message>
@@ -896,11 +896,11 @@
         <translation>基色已锁定。</translation>
     </message>
     <message>
-        <source>That is no chromaticity: x and y are from 0 to 1, and so is their sum.</source>
-        <translation>不是有效色度：x、y 及其和都应在 0 到 1 之间。</translation>
+        <source>Not a valid chromaticity: x must be at least 0, y greater than 0 and x + y at most 1.</source>
+        <translation>不是有效色度：x 不得小于 0，y 必须大于 0，x + y 不得大于 1。</translation>
     </message>
     <message>
-        <source>The white would lie outside of the target.</source>
+        <source>The white point would lie outside the target.</source>
         <translation>白点将落在目标色域之外。</translation>
     </message>
     <message>
@@ -908,15 +908,15 @@
         <translation>移动%1</translation>
     </message>
     <message>
-        <source>luminance of %1</source>
-        <translation>%1的亮度</translation>
+        <source>change luminance of %1</source>
+        <translation>修改%1的亮度</translation>
     </message>
     <message>
-        <source>The target cannot have that luminance.</source>
-        <translation>目标不能有这样的亮度。</translation>
+        <source>That luminance is not possible for this target.</source>
+        <translation>该目标不能有这样的亮度。</translation>
     </message>
     <message>
-        <source>There is no white of that colour temperature and Duv.</source>
+        <source>No white point has that colour temperature and Duv.</source>
         <translation>没有这种色温和 Duv 的白点。</translation>
     </message>
     <message>
@@ -924,7 +924,7 @@
         <translation>重置为 %1</translation>
     </message>
     <message>
-        <source>The primaries would span no triangle.</source>
+        <source>The primaries would not form a triangle.</source>
         <translation>三基色将不能构成三角形。</translation>
     </message>
 </context>
@@ -1048,19 +1048,20 @@
         <translation>按键</translation>
     </message>
     <message>
-        <source>Diagrams to edit on:
+        <source>Editable diagrams:
 R, G, B, W – select a primary or the white
 Arrow keys – move it by 0.001; with Shift by 0.0001, with Ctrl by 0.01
 Esc – cancel a drag
 
 Numbers:
-Up, Down – one step; with Shift a tenth, with Ctrl ten
-Esc – bring back what the target has
+Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps
+Esc – restore the value of the target
 
 White point:
-+, −, 0 or the wheel – closer, farther, show all whites
++, − or the wheel – zoom in or out
+0 – show all white points
 
-Ctrl+1 to Ctrl+5 – pages</source>
+Ctrl+1 to Ctrl+5 – show a page</source>
         <translation>可编辑的色度图：
 R、G、B、W – 选择基色或白点
 方向键 – 移动 0.001；按住 Shift 为 0.0001，按住 Ctrl 为 0.01
@@ -1071,7 +1072,8 @@ Esc – 取消拖动
 Esc – 恢复目标的数值
 
 白点：
-+、−、0 或滚轮 – 放大、缩小、显示所有白点
++、− 或滚轮 – 放大、缩小
+0 – 显示所有白点
 
 Ctrl+1 到 Ctrl+5 – 切换页面</translation>
     </message>
@@ -1124,7 +1126,7 @@ Shows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.<
         <translation>已保存为 %1</translation>
     </message>
     <message>
-        <source>%1: the name has to end in .png, .svg or .pdf</source>
+        <source>%1: the name must end in .png, .svg or .pdf</source>
         <translation>%1：文件名必须以 .png、.svg 或 .pdf 结尾</translation>
     </message>
     <message>
@@ -1140,8 +1142,8 @@ Shows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.<
         <translation>未保存的修改</translation>
     </message>
     <message>
-        <source>The description has been changed. Save the changes?</source>
-        <translation>描述已修改。是否保存？</translation>
+        <source>The display description has been modified. Save the changes?</source>
+        <translation>显示屏描述已修改。是否保存？</translation>
     </message>
     <message>
         <source>Untitled</source>
