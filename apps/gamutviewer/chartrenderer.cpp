@@ -21,7 +21,7 @@ QImage ChartRenderer::draw(const ChartScene &scene, const QSize &size)
 {
     // The colour-temperature points have no setter: the simple form takes them, at whatever size.
     delete m_renderer.drawCEIPicture(1, 1, false, false, false, scene.colorTemperaturePoints);
-    takeUpGeometry(size);
+    m_geometry = ceiechart::chartGeometry(ceiechart::ChartKind::CurrentXy, size.width(), size.height());
 
     m_renderer.setPointData(measureRectangles(scene.measurePoints));
     m_renderer.setCMYPointData(marks(scene.cmyPoints));
@@ -30,18 +30,11 @@ QImage ChartRenderer::draw(const ChartScene &scene, const QSize &size)
     return picture ? *picture : QImage();
 }
 
-//! The renderer maps for the size that it drew last, so it draws a picture without the gamuts, which is the cheapest.
-void ChartRenderer::takeUpGeometry(const QSize &size)
-{
-    delete m_renderer.drawCEIPicture(
-        size.width(), size.height(), false, {}, {}, QPolygonF(), false, QStringLiteral("no gamuts"));
-}
-
 QPolygonF ChartRenderer::pixelTriangle(const TrianglePoint &triangle)
 {
     QPolygonF polygon;
     for (const QPointF &vertex : {triangle.redPos(), triangle.greenPos(), triangle.bluePos()}) {
-        polygon << m_renderer.CoordinateTransformation(vertex);
+        polygon << m_geometry.toPixel(vertex);
     }
     return polygon;
 }
@@ -75,7 +68,7 @@ QList<QRectF> ChartRenderer::marks(const QList<QPointF> &points)
 {
     QList<QRectF> rectangles;
     for (const QPointF &point : points) {
-        const QPointF center = m_renderer.CoordinateTransformation(point);
+        const QPointF center = m_geometry.toPixel(point);
         rectangles.append(QRectF(center.x() - markSize / 2, center.y() - markSize / 2, markSize, markSize));
     }
     return rectangles;

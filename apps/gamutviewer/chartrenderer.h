@@ -4,6 +4,7 @@
 
 #include "chartscene.h"
 
+#include <ceiechart/diagram/chartstyle.h>
 #include <ceiechart/render/drawceipicture.h>
 
 #include <QImage>
@@ -14,7 +15,7 @@ namespace gamutviewer {
 /*!
  * \brief Draws chart scenes on the x, y diagram into pictures of any size, without their keys.
  *
- * Clip polygon and marks are given to the library's renderer in picture pixels, which this class finds out.
+ * Clip polygon and marks are given to the library's renderer in picture pixels.
  */
 class ChartRenderer {
 public:
@@ -24,13 +25,13 @@ public:
     QImage draw(const ChartScene &scene, const QSize &size);
 
 private:
-    void takeUpGeometry(const QSize &size);
     QPolygonF pixelTriangle(const TrianglePoint &triangle);
     QPolygonF commonArea(const TrianglePoint &a, const TrianglePoint &b);
     QList<QRectF> measureRectangles(const QVector<PointMark> &points);
     QList<QRectF> marks(const QList<QPointF> &points);
 
     NewCEIE::DrawCEIPicture m_renderer;
+    ceiechart::DiagramGeometry m_geometry;
 };
 
 } // namespace gamutviewer

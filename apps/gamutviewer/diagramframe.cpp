@@ -3,28 +3,29 @@
 
 #include "chromaticity.h"
 
+#include <ceiechart/diagram/chartstyle.h>
+
 namespace gamutviewer {
 
 namespace {
 
-constexpr ceiechart::ChromaRange xyRange{0.0F, 0.84F, 0.0F, 0.94F};
-constexpr ceiechart::ChromaRange uvRange{0.0F, 0.65F, 0.0F, 0.68F};
-constexpr int xyMarginPercent = 5;
-constexpr int uvMarginPercent = 15;
+ceiechart::ChartKind chartKind(Model::Diagram diagram)
+{
+    return diagram == Model::Diagram::Cie1931 ? ceiechart::ChartKind::CurrentXy : ceiechart::ChartKind::LegacyUv;
+}
 
 } // namespace
 
 DiagramFrame::DiagramFrame(Model::Diagram diagram, const QSize &size)
     : m_diagram(diagram)
     , m_size(size)
+    , m_geometry(ceiechart::chartGeometry(chartKind(diagram), size.width(), size.height()))
 {
-    m_geometry.setPicture(size.width(), size.height(),
-        diagram == Model::Diagram::Cie1931 ? xyMarginPercent : uvMarginPercent, range(diagram));
 }
 
 ceiechart::ChromaRange DiagramFrame::range(Model::Diagram diagram)
 {
-    return diagram == Model::Diagram::Cie1931 ? xyRange : uvRange;
+    return ceiechart::chartStyle(chartKind(diagram)).range;
 }
 
 double DiagramFrame::aspect(Model::Diagram diagram)

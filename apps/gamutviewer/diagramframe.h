@@ -10,11 +10,7 @@
 
 namespace gamutviewer {
 
-/*!
- * \brief Where the charts of the library show a chromaticity in a picture of some size.
- *
- * What the pictures show and the margins round it have no public home in the library: this is the program's one copy.
- */
+/*! \brief Where the charts of the library show a chromaticity in a picture of some size. */
 class DiagramFrame {
 public:
     DiagramFrame() = default;

@@ -5,6 +5,7 @@
 #include "whitepoint.h"
 
 #include <ceiechart/atlas/ceiatlasvalue.h>
+#include <ceiechart/diagram/chartstyle.h>
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -18,11 +19,9 @@ namespace gamutviewer {
 
 namespace {
 
-// As in the pictures of the library, which has no public home for them.
-const QColor lineColor(Qt::white);
-constexpr double gridStep = 0.1;
+const QColor lineColor = ceiechart::chartLineColor();
+constexpr double gridStep = ceiechart::chartTickStep;
 constexpr double gridOpacity = 80.0 / 255.0 * 0.3;
-constexpr int axisFontSize = 16; // pixels
 constexpr double numberDrop = 15.0; // from the x axis to its numbers
 constexpr double axisTop = 10.0;
 constexpr double titleGap = 6.0;
@@ -39,8 +38,9 @@ constexpr double leastGap = 1.5; // and from digits to their axis
 
 QFont axisFont(const QSize &size)
 {
-    QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));
-    font.setPixelSize(qBound(smallestFontSize, int(std::min(size.width() * 0.03, size.height() * 0.04)), axisFontSize));
+    QFont font = ceiechart::chartNumberFont(ceiechart::ChartKind::CurrentXy, size.height());
+    const int fitting = int(std::min(size.width() * 0.03, size.height() * 0.04));
+    font.setPixelSize(qBound(smallestFontSize, fitting, font.pixelSize()));
     return font;
 }
 

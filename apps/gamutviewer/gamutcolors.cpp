@@ -1,45 +1,56 @@
 // SPDX-License-Identifier: MIT
 #include "gamutcolors.h"
 
+#include <ceiechart/diagram/chartstyle.h>
+#include <ceiechart/diagram/gamutstyle.h>
+
 namespace gamutviewer {
 
-// What the library gives the gamuts of its host, and has no public home for: the exported pictures are compared with
-// its own in the tests.
+namespace {
+
+ceiechart::GamutRole gamutRole(GamutPart::Role role)
+{
+    switch (role) {
+    case GamutPart::Role::Declared:
+        return ceiechart::GamutRole::Declared;
+    case GamutPart::Role::Original:
+        return ceiechart::GamutRole::Original;
+    case GamutPart::Role::Measured:
+        return ceiechart::GamutRole::Measured;
+    case GamutPart::Role::Target:
+        break;
+    }
+    return ceiechart::GamutRole::Target;
+}
+
+} // namespace
 
 QColor chartColor(GamutPart::Role role, bool besideMeasured)
 {
     switch (role) {
     case GamutPart::Role::Declared:
-        return QColor(196, 146, 255);
-    case GamutPart::Role::Original:
-        // With a measured gamut beside it the original gives up its colour.
-        return besideMeasured ? QColor(13, 189, 73) : QColor(22, 241, 255);
-    case GamutPart::Role::Measured:
-        return QColor(27, 241, 255);
-    case GamutPart::Role::Target:
         break;
+    case GamutPart::Role::Original:
+        return ceiechart::currentChartStyle(ceiechart::OriginalGamut, besideMeasured).color;
+    case GamutPart::Role::Measured:
+        return ceiechart::currentChartStyle(ceiechart::MeasuredGamut, besideMeasured).color;
+    case GamutPart::Role::Target:
+        return ceiechart::currentChartStyle(ceiechart::TargetGamut, besideMeasured).color;
     }
-    return QColor(255, 163, 56);
+    // The library's chart knows no declared gamut.
+    return ceiechart::gamutStyle(ceiechart::GamutRole::Declared).color;
 }
 
 Qt::PenStyle lineStyle(GamutPart::Role role)
 {
-    switch (role) {
-    case GamutPart::Role::Declared:
-        return Qt::DashDotDotLine;
-    case GamutPart::Role::Original:
-        return Qt::DashLine;
-    case GamutPart::Role::Measured:
-        return Qt::DashDotLine;
-    case GamutPart::Role::Target:
-        break;
-    }
-    return Qt::SolidLine;
+    return ceiechart::gamutStyle(gamutRole(role)).line;
 }
 
 QColor chartGround(Model::Diagram diagram)
 {
-    return diagram == Model::Diagram::Cie1931 ? QColor(23, 23, 26) : QColor(50, 50, 56);
+    return ceiechart::chartStyle(
+        diagram == Model::Diagram::Cie1931 ? ceiechart::ChartKind::CurrentXy : ceiechart::ChartKind::LegacyUv)
+        .ground;
 }
 
 QColor StandardStyle::fill() const
@@ -51,13 +62,11 @@ QColor StandardStyle::fill() const
 
 StandardStyle standardStyle(const QString &name)
 {
-    if (name == QLatin1String("Rec.709")) {
-        return {QColor(255, 255, 255, 17), 0.07};
-    }
-    if (name == QLatin1String("Rec.2020")) {
-        return {QColor(255, 255, 255, 51), 0.1};
-    }
-    return {QColor(255, 255, 255, 25), 0.05}; // DCI-P3(D65), and a gamut of the file that serves as a standard
+    // A gamut of the file that serves as a standard looks like the last of the published ones.
+    static const char *const fallback = "DCI-P3(D65)";
+    const auto known = ceiechart::currentChartStandardStyle(name.toStdString());
+    const ceiechart::GamutStyle style = known ? *known : *ceiechart::currentChartStandardStyle(fallback);
+    return {style.color, style.opacity};
 }
 
 } // namespace gamutviewer

@@ -55,4 +55,27 @@
         <translation>Managed point</translation>
     </message>
 </context>
+<context>
+    <name>ceiechart::GamutRole</name>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>Target</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Measured</translation>
+    </message>
+    <message>
+        <source>Declared</source>
+        <translation>Declared</translation>
+    </message>
+</context>
 </TS>

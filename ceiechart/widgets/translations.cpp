@@ -17,10 +17,13 @@ namespace ceiechart {
 
 namespace {
 
-bool isChinese(const QLocale &locale)
+//! The language of \a locale, or the language that the user prefers to it.
+QString languageOf(const QLocale &locale)
 {
     const QStringList languages = locale.uiLanguages();
-    return (languages.isEmpty() ? locale : QLocale(languages.first())).language() == QLocale::Chinese;
+    return (languages.isEmpty() ? locale : QLocale(languages.first())).language() == QLocale::Chinese
+        ? QStringLiteral("zh")
+        : QStringLiteral("en");
 }
 
 } // namespace
@@ -33,17 +36,11 @@ bool installTranslations(const QLocale &locale)
         return false;
     }
     delete installed;
-    if (isChinese(locale)) {
-        return false;
-    }
     initTranslationResource();
     auto translator = std::make_unique<QTranslator>();
-    const QString directory = QStringLiteral(":/ceiechart/translations");
-    if (!translator->load(locale, QStringLiteral("ceiechart"), QStringLiteral("_"), directory)
-        && !translator->load(QStringLiteral("ceiechart_en"), directory)) {
-        return false;
-    }
-    if (!QCoreApplication::installTranslator(translator.get())) {
+    const QString name = QStringLiteral("ceiechart_") + languageOf(locale);
+    if (!translator->load(name, QStringLiteral(":/ceiechart/translations"))
+        || !QCoreApplication::installTranslator(translator.get())) {
         return false;
     }
     installed = translator.release();

@@ -12,20 +12,19 @@ namespace ceiechart {
 /*!
  * \brief Gives the library's captions the language of \a locale.
  *
- * The captions are Chinese in the source. A locale whose first user-interface language is Chinese keeps them; any
- * other gets the translation into its language or, where there is none, into English. Captions are made once:
- * call this before the first legend is.
+ * A locale whose first user-interface language is Chinese gets Chinese captions, any other locale English ones. A
+ * legend makes its captions at construction: call this function before the first chart is constructed.
  *
  * \code
  * QApplication app(argc, argv);
  * ceiechart::installTranslations();
  * \endcode
  *
- * The translations are built into the library. A later call takes back what the one before has installed; the
+ * The translations are built into the library. A later call replaces the translator that an earlier call installed; the
  * application owns the translator. Installed beside the library, in share/ceiechart/translations, the same files
  * serve hosts that load translations themselves.
  *
- * \return true when a translation has been installed; false for Chinese, and without an application object.
+ * \return whether a translation has been installed; false without an application object.
  */
 CEIECHART_EXPORT bool installTranslations(const QLocale &locale = QLocale());
 

@@ -1,0 +1,81 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh" sourcelanguage="zh_CN">
+<context>
+    <name>CEIELegend</name>
+    <message>
+        <source>公共色域</source>
+        <translation>公共色域</translation>
+    </message>
+    <message>
+        <source>目标色域</source>
+        <translation>目标色域</translation>
+    </message>
+    <message>
+        <source>原始色域</source>
+        <translation>原始色域</translation>
+    </message>
+    <message>
+        <source>目标点</source>
+        <translation>目标点</translation>
+    </message>
+    <message>
+        <source>原始点</source>
+        <translation>原始点</translation>
+    </message>
+    <message>
+        <source>管理后点</source>
+        <translation>管理后点</translation>
+    </message>
+</context>
+<context>
+    <name>NewCEIE::CEIELegend</name>
+    <message>
+        <source>公共色域</source>
+        <translation>公共色域</translation>
+    </message>
+    <message>
+        <source>目标色域</source>
+        <translation>目标色域</translation>
+    </message>
+    <message>
+        <source>原始色域</source>
+        <translation>原始色域</translation>
+    </message>
+    <message>
+        <source>目标点</source>
+        <translation>目标点</translation>
+    </message>
+    <message>
+        <source>原始点</source>
+        <translation>原始点</translation>
+    </message>
+    <message>
+        <source>管理后点</source>
+        <translation>管理后点</translation>
+    </message>
+</context>
+<context>
+    <name>ceiechart::GamutRole</name>
+    <message>
+        <source>Standard</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>目标</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>原始</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>实测</translation>
+    </message>
+    <message>
+        <source>Declared</source>
+        <translation>标称</translation>
+    </message>
+</context>
+</TS>
