@@ -2,7 +2,11 @@
 #ifndef CEIECHART_MODEL_LEDCOLORTYPE_H
 #define CEIECHART_MODEL_LEDCOLORTYPE_H
 
-/*! \brief Types that are not only the chart's. */
+// A host may have included headers of its window system that define the name of an enumerator as a macro.
+#pragma push_macro("None")
+#undef None
+
+/*! \brief Types that are not specific to the chart. */
 namespace baseCommon {
 
 /*!
@@ -18,5 +22,7 @@ enum LEDColorType {
 };
 
 } // namespace baseCommon
+
+#pragma pop_macro("None")
 
 #endif // CEIECHART_MODEL_LEDCOLORTYPE_H

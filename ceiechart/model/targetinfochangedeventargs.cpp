@@ -8,6 +8,7 @@ TargetInfoChangedEventArgs::TargetInfoChangedEventArgs()
 
 TargetInfoChangedEventArgs::TargetInfoChangedEventArgs(QObject *parent)
     : QObject(parent)
+    , m_beyondColorType(baseCommon::None)
 {
 }
 

@@ -51,7 +51,7 @@ public:
 private:
     ColorTriangleObject m_colorTriangleObject;
     double m_colourTemperature = 0.0;
-    baseCommon::LEDColorType m_beyondColorType = baseCommon::None;
+    baseCommon::LEDColorType m_beyondColorType;
     bool m_isReasonableData = false;
 };
 

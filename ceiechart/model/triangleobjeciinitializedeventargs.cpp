@@ -8,6 +8,7 @@ TriangleObjecIinitializedEventArgs::TriangleObjecIinitializedEventArgs()
 
 TriangleObjecIinitializedEventArgs::TriangleObjecIinitializedEventArgs(QObject *parent)
     : QObject(parent)
+    , m_beyondColorType(baseCommon::None)
 {
 }
 

@@ -47,7 +47,7 @@ public:
 private:
     QList<ColorTriangleObject> m_colorTriangleObjectList;
     bool m_isEffectiveValue = false;
-    baseCommon::LEDColorType m_beyondColorType = baseCommon::None;
+    baseCommon::LEDColorType m_beyondColorType;
 };
 
 #endif // CEIECHART_MODEL_TRIANGLEOBJECIINITIALIZEDEVENTARGS_H

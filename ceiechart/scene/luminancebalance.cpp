@@ -49,27 +49,6 @@ bool deliverable(const Luminances &wanted, const TrianglePoint &original)
         && !outOfRange(wanted.blue, original.blueLum());
 }
 
-/*!
- * \a white after \a steps subtractions of 10, each rounded to double precision.
- *
- * Up to 2^54 every one of them is exact. Above, the difference is rounded to a multiple of the spacing of the numbers,
- * which makes equal steps of another size between two powers of two.
- */
-double lowered(double white, std::uint64_t steps)
-{
-    constexpr double exactUpTo = 18014398509481984.0; // 2^54
-    while (steps > 0 && white > exactUpTo) {
-        white -= step;
-        --steps;
-        const double taken = white - (white - step);
-        const double room = white - std::ldexp(1.0, std::ilogb(white)) - step;
-        const auto alike = room < 0 ? 0 : std::min(steps, static_cast<std::uint64_t>(room / taken) + 1);
-        white -= static_cast<double>(alike) * taken;
-        steps -= alike;
-    }
-    return white - static_cast<double>(steps) * step;
-}
-
 //! The least number of steps from \a first to \a last for which \a holds; it holds for all later ones too.
 template <typename Predicate>
 std::uint64_t firstThat(std::uint64_t first, std::uint64_t last, const Predicate &holds)
@@ -88,9 +67,7 @@ std::uint64_t firstThat(std::uint64_t first, std::uint64_t last, const Predicate
 //! The white luminance, lowered step by step from \a start, at which \a original can deliver the white of \a target.
 double balancedWhite(const TrianglePoint &target, const TrianglePoint &original, double start)
 {
-    const auto ends = [&](double white) {
-        return deliverable(luminancesFor(target, white), original) || white < step;
-    };
+    const auto ends = [&](double white) { return deliverable(luminancesFor(target, white), original) || white < step; };
     if (ends(start) || !std::isfinite(start) || start - step == start) {
         return start;
     }
@@ -101,6 +78,21 @@ double balancedWhite(const TrianglePoint &target, const TrianglePoint &original,
 }
 
 } // namespace
+
+double lowered(double white, std::uint64_t steps)
+{
+    constexpr double exactUpTo = 18014398509481984.0; // 2^54
+    while (steps > 0 && white > exactUpTo) {
+        white -= step;
+        --steps;
+        const double taken = white - (white - step);
+        const double room = white - std::ldexp(1.0, std::ilogb(white)) - step;
+        const auto alike = room < 0 ? 0 : std::min(steps, static_cast<std::uint64_t>(room / taken) + 1);
+        white -= static_cast<double>(alike) * taken;
+        steps -= alike;
+    }
+    return white - static_cast<double>(steps) * step;
+}
 
 void mixWhite(TrianglePoint &target)
 {

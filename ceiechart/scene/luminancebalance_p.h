@@ -4,6 +4,8 @@
 
 #include <ceiechart/model/trianglepoint.h>
 
+#include <cstdint>
+
 namespace ceiechart {
 
 /*! Sets the white of \a target to what its primaries mix to. */
@@ -16,6 +18,14 @@ void mixWhite(TrianglePoint &target);
  * not lowered.
  */
 void balanceHeldWhite(TrianglePoint &target, const TrianglePoint &original);
+
+/*!
+ * \a white after \a steps subtractions of 10, each rounded to double precision.
+ *
+ * Up to 2^54 every one of them is exact. Above, the difference is rounded to a multiple of the spacing of the numbers,
+ * which makes equal steps of another size between two powers of two.
+ */
+double lowered(double white, std::uint64_t steps);
 
 } // namespace ceiechart
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/legacy/drawceipicture.h>
 #include <ceiechart/render/drawceipicture.h>
 #include <reference/picturedifference.h>
 #include <reference/plainrenderer.h>
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void clipsThatCannotBeBounded();
     void tallPictures();
     void chromaticitiesThatAreNoNumbers();
+    void pointsThatAreNotFinitePaintAndLogNothing();
 };
 
 namespace {
@@ -128,6 +130,57 @@ void OddPicturesTest::chromaticitiesThatAreNoNumbers()
         QCOMPARE(gamuts->size(), QSize(120, 100));
         // The picture colour is still where nothing else is drawn.
         QCOMPARE(gamuts->pixelColor(119, 0), QColor(23, 23, 26));
+    }
+}
+
+namespace {
+
+int loggedMessages = 0;
+
+void countMessage(QtMsgType, const QMessageLogContext &, const QString &)
+{
+    ++loggedMessages;
+}
+
+QImage currentPicture(const QList<QPointF> &temperatures, const QList<QRectF> &marks)
+{
+    NewCEIE::DrawCEIPicture renderer(nullptr);
+    delete renderer.drawCEIPicture(1, 1, false, false, false, temperatures);
+    renderer.setPointData(marks);
+    renderer.setCMYPointData(marks);
+    return *std::unique_ptr<QImage>(renderer.drawCEIPicture(160, 140, true, {}, {}, QPolygonF(), false, QString()));
+}
+
+QImage legacyPicture(DrawCEIPicture::CEIEType type, const QList<QPointF> &points)
+{
+    DrawCEIPicture renderer(type, nullptr);
+    renderer.setMeasurePoints(points);
+    return *std::unique_ptr<QImage>(type == DrawCEIPicture::UvDiagram
+            ? renderer.drawCEIEPicture(160, 140, true, true, true, points)
+            : renderer.drawCEIPicture(160, 140, true, true, true, points));
+}
+
+} // namespace
+
+void OddPicturesTest::pointsThatAreNotFinitePaintAndLogNothing()
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinity = std::numeric_limits<double>::infinity();
+    const QImage current = currentPicture({}, {});
+    const QImage xy = legacyPicture(DrawCEIPicture::XyDiagram, {});
+    const QImage uv = legacyPicture(DrawCEIPicture::UvDiagram, {});
+    for (const double bad : {nan, infinity, -infinity}) {
+        const QList<QPointF> points{QPointF(bad, 0.3), QPointF(0.3, bad), QPointF(bad, bad)};
+        const QList<QRectF> marks{QRectF(bad, 50, 16, 16), QRectF(50, bad, 16, 16), QRectF(bad, bad, bad, bad)};
+        loggedMessages = 0;
+        const QtMessageHandler previous = qInstallMessageHandler(countMessage);
+        const QImage pictures[] = {currentPicture(points, marks), legacyPicture(DrawCEIPicture::XyDiagram, points),
+            legacyPicture(DrawCEIPicture::UvDiagram, points)};
+        qInstallMessageHandler(previous);
+        QCOMPARE(loggedMessages, 0);
+        QCOMPARE(reference::firstDifference(pictures[0], current), QString());
+        QCOMPARE(reference::firstDifference(pictures[1], xy), QString());
+        QCOMPARE(reference::firstDifference(pictures[2], uv), QString());
     }
 }
 

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void findsTheEndOfThePlainLoop();
     void absurdLuminancesEnd_data();
     void absurdLuminancesEnd();
+    void everyStepIsRounded_data();
+    void everyStepIsRounded();
 };
 
 namespace {
@@ -52,8 +54,7 @@ void balancePlainly(TrianglePoint &t, const TrianglePoint &o)
     double y = 0.0;
     ChromaSets::rgbCxCyToWhiteCxCy(o.redLum(), o.redPos().x(), o.redPos().y(), o.greenLum(), o.greenPos().x(),
         o.greenPos().y(), o.blueLum(), o.bluePos().x(), o.bluePos().y(), start, x, y);
-    for (int i = 0;; ++i) {
-        const double white = start - i * 10.0;
+    for (double white = start;; white -= 10.0) {
         double red = 0.0;
         double green = 0.0;
         double blue = 0.0;
@@ -132,6 +133,10 @@ void LuminanceBalanceTest::absurdLuminancesEnd_data()
 {
     QTest::addColumn<double>("luminance");
     QTest::newRow("1e15") << 1e15;
+    // More than 2^53 steps of 10.
+    QTest::newRow("9.1e16") << 9.1e16;
+    QTest::newRow("1.2e17") << 1.2e17;
+    QTest::newRow("2^57") << 0x1p57;
     QTest::newRow("1e300") << 1e300;
     QTest::newRow("infinite") << std::numeric_limits<double>::infinity();
     QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN();
@@ -148,6 +153,30 @@ void LuminanceBalanceTest::absurdLuminancesEnd()
     const QPointF white = target.whitePos();
     ceiechart::balanceHeldWhite(target, original);
     QCOMPARE(target.whitePos(), white);
+}
+
+void LuminanceBalanceTest::everyStepIsRounded_data()
+{
+    QTest::addColumn<double>("first");
+    QTest::newRow("with decimals") << 41234.56789;
+    // From 2^54 on a step of 10 is no multiple of the distance between two numbers.
+    QTest::newRow("below 2^54") << 0x1p54 - 9000;
+    QTest::newRow("across 2^54") << 0x1p54 + 8004;
+    QTest::newRow("across 2^55") << 0x1p55 + 16008;
+    QTest::newRow("across 2^56") << 0x1p56 + 32016;
+    QTest::newRow("from 2^57") << 0x1p57;
+}
+
+void LuminanceBalanceTest::everyStepIsRounded()
+{
+    QFETCH(double, first);
+    for (const double start : {first, first - 4, first - 16, first - 1024}) {
+        double white = start;
+        for (std::uint64_t steps = 1; steps <= 4000; ++steps) {
+            white -= 10.0;
+            QCOMPARE(ceiechart::lowered(start, steps), white);
+        }
+    }
 }
 
 QTEST_APPLESS_MAIN(LuminanceBalanceTest)
