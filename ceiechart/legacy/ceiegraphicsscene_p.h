@@ -7,7 +7,8 @@
 
 #include <QPoint>
 
-class CEIEGraphicsScene::Private : public ceiechart::SceneSignals<CEIEGraphicsScene, ceiechart::TargetScene::Private> {
+class Q_DECL_HIDDEN CEIEGraphicsScene::Private
+    : public ceiechart::SceneSignals<CEIEGraphicsScene, ceiechart::TargetScene::Private> {
 public:
     explicit Private(DrawCEIPicture::CEIEType diagramType)
         : type(diagramType)

@@ -25,7 +25,7 @@ ColorTriangleObject listedGamut(const Record &gamut, ceiechart::GamutKind kind)
 
 } // namespace
 
-class CEIEGraphicsView::Private : public ceiechart::ChartFrame::Private {
+class Q_DECL_HIDDEN CEIEGraphicsView::Private : public ceiechart::ChartFrame::Private {
 public:
     explicit Private(DrawCEIPicture::CEIEType diagramType)
         : type(diagramType)

@@ -19,7 +19,7 @@ ceiechart::ChartKind chartKind(DrawCEIPicture::CEIEType type)
 
 } // namespace
 
-class DrawCEIPicture::Private : public ceiechart::DiagramRenderer::Private {
+class Q_DECL_HIDDEN DrawCEIPicture::Private : public ceiechart::DiagramRenderer::Private {
 public:
     explicit Private(CEIEType diagramType)
         : ceiechart::DiagramRenderer::Private(chartKind(diagramType))

@@ -29,7 +29,7 @@ enum class ClipOutline { Hidden, Drawn };
  *
  * A layer reads the geometry of the drawing under way. It leaves the painter as it found it, unless it says otherwise.
  */
-class DiagramRenderer::Private {
+class Q_DECL_HIDDEN DiagramRenderer::Private {
 public:
     explicit Private(ChartKind chartKind)
         : kind(chartKind)

@@ -9,7 +9,7 @@
 
 namespace NewCEIE {
 
-class DrawCEIPicture::Private : public ceiechart::DiagramRenderer::Private {
+class Q_DECL_HIDDEN DrawCEIPicture::Private : public ceiechart::DiagramRenderer::Private {
 public:
     static constexpr auto chart = ceiechart::ChartKind::CurrentXy;
 

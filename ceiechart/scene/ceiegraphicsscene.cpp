@@ -22,7 +22,8 @@ QRectF markAround(const QPointF &position)
 
 } // namespace
 
-class CEIEGraphicsScene::Private : public ceiechart::SceneSignals<CEIEGraphicsScene, ceiechart::TargetScene::Private> {
+class Q_DECL_HIDDEN CEIEGraphicsScene::Private
+    : public ceiechart::SceneSignals<CEIEGraphicsScene, ceiechart::TargetScene::Private> {
 public:
     QPointF toScene(const QPointF &chroma) override
     {

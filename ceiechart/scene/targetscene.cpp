@@ -224,11 +224,6 @@ void TargetScene::setRGBPointEnable(bool enable)
     d->editMode = enable ? Private::EverythingEditable : Private::VerticesLocked;
 }
 
-void TargetScene::setWhitePointEnable(bool enable)
-{
-    d->editMode = enable ? Private::EverythingEditable : Private::WhiteLocked;
-}
-
 void TargetScene::setFunctionKeyMode(int mode)
 {
     d->functionKeyMode = mode;

@@ -120,14 +120,8 @@ public:
      * The white is held where it is, so use it together with setDrawColorTPoint(false).
      */
     void setColorTempertureChecked(bool checked);
-    /*! \brief Allows moves of the primaries, and of the white point, or refuses those of the primaries. */
+    /*! \brief Whether the primaries can be moved, as they can at first. The white point can be moved either way. */
     void setRGBPointEnable(bool enable);
-    /*!
-     * \brief Allows moves of the white point, and of the primaries, or refuses those of the white point.
-     *
-     * The last call of this and setRGBPointEnable() holds.
-     */
-    void setWhitePointEnable(bool enable);
     /*! \brief Sets what applyFunctionKey() does: 0 magnifier off, 1 zoom in, 2 zoom out, 3 magnifier and hand. */
     void setFunctionKeyMode(int mode);
     /*!

@@ -15,7 +15,7 @@ namespace ceiechart {
  * \brief What a scene keeps between operations, and how a generation says where chromaticities lie and where its
  *        reports go.
  */
-class TargetScene::Private {
+class Q_DECL_HIDDEN TargetScene::Private {
 public:
     enum EditMode { EverythingEditable = 0, WhiteLocked = 1, VerticesLocked = 2 };
     enum FunctionKeyMode { NoFunction = 0, ZoomIn = 1, ZoomOut = 2, MagnifierHand = 3 };

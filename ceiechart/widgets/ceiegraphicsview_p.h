@@ -11,7 +11,7 @@ class QLabel;
 
 namespace NewCEIE {
 
-class CEIEGraphicsView::Private : public ceiechart::ChartFrame::Private {
+class Q_DECL_HIDDEN CEIEGraphicsView::Private : public ceiechart::ChartFrame::Private {
 public:
     CEIEGraphicsScene *typedScene() const { return static_cast<CEIEGraphicsScene *>(scene.data()); }
 

@@ -201,11 +201,6 @@ void ChartFrame::setRGBPointEnable(bool enable)
     d->tell(&TargetScene::setRGBPointEnable, enable);
 }
 
-void ChartFrame::setWhitePointEnable(bool enable)
-{
-    d->tell(&TargetScene::setWhitePointEnable, enable);
-}
-
 void ChartFrame::setUseMouseOpertator(bool enable)
 {
     d->tell(&TargetScene::setIsMouseOper, enable);

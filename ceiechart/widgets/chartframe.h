@@ -113,13 +113,6 @@ public:
     void setColorTempertureChecked(bool checked);
     /*! \brief Whether the target's primaries can be moved; they can at first. */
     void setRGBPointEnable(bool enable);
-    /*!
-     * \brief Whether the target's white point can be moved; it can at first.
-     *
-     * Of this and setRGBPointEnable() the last call holds: enabling either enables both, disabling one enables the
-     * other.
-     */
-    void setWhitePointEnable(bool enable);
     /*! \brief Whether a mouse press may start an edit; it may at first. In the current chart no press does. */
     void setUseMouseOpertator(bool enable);
 

@@ -21,7 +21,7 @@ namespace ceiechart {
  * The scene is deleted before the frame deletes its children: the inner view is then left without a scene, never with a
  * dead one.
  */
-class ChartFrame::Private {
+class Q_DECL_HIDDEN ChartFrame::Private {
 public:
     Private() = default;
     virtual ~Private();

@@ -7,6 +7,9 @@
 #include <reference/hasmember.h>
 #include <widgets/chartviewtests.h>
 
+#include <QPushButton>
+#include <QSignalSpy>
+
 using Tests = ChartViewTests<CEIEGraphicsView, CEIEGraphicsScene, NQCEIEGraphicsView, CEIELegend>;
 
 class LegacyCEIEGraphicsViewTest : public QObject {
@@ -47,6 +50,7 @@ private Q_SLOTS:
     void relays();
     void relaysKeepTheOrder() { Tests::relaysKeepTheOrder(); }
     void relaysWhatTheMouseDoes();
+    void functionKeys();
     void cursorChangesAfterTheEvent() { Tests::cursorChangesAfterTheEvent(); }
     void cursorStaysOverOtherDiagrams();
     void cursorChangeOfADestroyedChart() { Tests::cursorChangeOfADestroyedChart(); }
@@ -321,6 +325,45 @@ void LegacyCEIEGraphicsViewTest::relaysWhatTheMouseDoes()
 }
 
 // It follows the scene over the type XyDiagram only, though any other than UvDiagram shows x, y.
+// What a host's buttons for zoom and magnifier do, on a chart that is shown.
+void LegacyCEIEGraphicsViewTest::functionKeys()
+{
+    CEIEGraphicsView view(nullptr, DrawCEIPicture::XyDiagram);
+    resizeImage(view);
+    const Model::ColorGamut published = Model::dciP3D65();
+    view.setColorGamut(info(published.getTargets()), info(published.getTargets()));
+    view.setDrawColorTPoint(false);
+    auto *scene = qobject_cast<CEIEGraphicsScene *>(view.view()->scene());
+    QSignalSpy placed(&view, &CEIEGraphicsView::signal_colorGamutValueChanged);
+    const QImage plain = pictureOf(view);
+
+    enum Mode { NoFunction = 0, ZoomIn = 1, ZoomOut = 2 };
+    QPushButton zoomIn;
+    QObject::connect(&zoomIn, &QPushButton::clicked, scene, [scene] {
+        scene->setFunctionKeyMode(ZoomIn);
+        scene->applyFunctionKey();
+    });
+    zoomIn.click();
+    const QImage magnified = pictureOf(view);
+    QVERIFY(magnified != plain);
+
+    // While the magnifier is on a press repeats the step, which makes the handles larger, and edits nothing.
+    view.show();
+    QTest::mouseClick(view.view()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(80, 80));
+    QCOMPARE(placed.size(), 0);
+    QVERIFY(pictureOf(view) != magnified);
+
+    scene->setFunctionKeyMode(ZoomOut);
+    scene->applyFunctionKey();
+    scene->applyFunctionKey();
+    scene->setFunctionKeyMode(NoFunction);
+    scene->applyFunctionKey();
+    QCOMPARE(reference::firstDifference(pictureOf(view), plain), QString());
+    scene->setFunctionKeyMode(42);
+    scene->applyFunctionKey();
+    QCOMPARE(reference::firstDifference(pictureOf(view), plain), QString());
+}
+
 void LegacyCEIEGraphicsViewTest::cursorStaysOverOtherDiagrams()
 {
     for (const int type : {1, 2, -1}) {
