@@ -12,17 +12,9 @@
 #include <random>
 #include <vector>
 
-#if defined(__SANITIZE_ADDRESS__)
-#define CEIECHART_TEST_SANITIZED 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define CEIECHART_TEST_SANITIZED 1
-#endif
-#endif
-
 namespace {
 
-#ifdef CEIECHART_TEST_SANITIZED
+#ifdef CEIECHART_SHORT_TESTS
 constexpr int sequenceCount = 200;
 #else
 constexpr int sequenceCount = 4000;
