@@ -8,6 +8,7 @@
 #include <reference/plainrenderer.h>
 #include <reference/quietmessages.h>
 #include <reference/rendererstate.h>
+#include <reference/repeatablerandom.h>
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -17,7 +18,6 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
-#include <random>
 #include <vector>
 
 namespace {
@@ -251,13 +251,13 @@ private:
     QColor m_background = greyMargins;
 };
 
-// The standard distributions differ between standard libraries, the engine does not.
-class Random {
+class Random : public reference::RepeatableRandom {
 public:
-    int between(int low, int high)
+    Random()
+        : RepeatableRandom(20260)
     {
-        return low + static_cast<int>(m_engine() % static_cast<std::mt19937::result_type>(high - low + 1));
     }
+
     bool flag() { return between(0, 1) == 1; }
     QSize size()
     {
@@ -274,35 +274,12 @@ public:
         }
         return points;
     }
-    QColor opaqueColor()
-    {
-        const int red = between(0, 255);
-        const int green = between(0, 255);
-        return QColor(red, green, between(0, 255));
-    }
-
-private:
-    std::mt19937 m_engine{20260};
 };
 
 void removeTitles(DrawCEIPicture &renderer)
 {
     renderer.setXTitle(QString());
     renderer.setYTitle(QString());
-}
-
-// Where two pictures differ; empty when they do not.
-QRect changed(const QImage &one, const QImage &other)
-{
-    QRect place;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            if (one.pixel(x, y) != other.pixel(x, y)) {
-                place |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return place;
 }
 
 Picture drawn(DrawCEIPicture &renderer, const QSize &size, bool axes = true)
@@ -453,12 +430,12 @@ void LegacyDrawCEIPictureTest::titlesPerType()
     QCOMPARE(reference::firstDifference(*drawn(renderer, size), *initial), QString());
 
     renderer.setXTitle(QStringLiteral("W"));
-    QVERIFY(!changed(*drawn(renderer, size), *initial).isEmpty());
+    QVERIFY(!reference::changedPixels(*drawn(renderer, size), *initial).isEmpty());
     renderer.setXTitle(xTitle);
     renderer.setYTitle(QStringLiteral("W"));
-    QVERIFY(!changed(*drawn(renderer, size), *initial).isEmpty());
+    QVERIFY(!reference::changedPixels(*drawn(renderer, size), *initial).isEmpty());
     renderer.setYTitle(yTitle.toLower() == yTitle ? yTitle.toUpper() : yTitle.toLower());
-    QVERIFY(!changed(*drawn(renderer, size), *initial).isEmpty());
+    QVERIFY(!reference::changedPixels(*drawn(renderer, size), *initial).isEmpty());
 }
 
 void LegacyDrawCEIPictureTest::titlesStandClearOfTheNumbers_data()
@@ -482,10 +459,10 @@ void LegacyDrawCEIPictureTest::titlesStandClearOfTheNumbers()
     const Picture without = drawn(renderer, size);
     const QPointF origin = renderer.CoordinateTransformation(QPointF(0, 0));
     renderer.setXTitle(QStringLiteral("X"));
-    const QRect x = changed(*drawn(renderer, size), *without);
+    const QRect x = reference::changedPixels(*drawn(renderer, size), *without);
     renderer.setXTitle(QString());
     renderer.setYTitle(QStringLiteral("Y"));
-    const QRect y = changed(*drawn(renderer, size), *without);
+    const QRect y = reference::changedPixels(*drawn(renderer, size), *without);
     QVERIFY(!x.isEmpty() && !y.isEmpty());
     QVERIFY(x.bottom() < origin.y() && x.top() > side / 2 && x.left() > 3 * side / 4);
     QVERIFY(y.left() > origin.x() && y.right() < side / 2 && y.bottom() < side / 4);
@@ -597,7 +574,7 @@ void LegacyDrawCEIPictureTest::measurePointsAreRingedDots()
     const Picture with = drawn(renderer, QSize(400, 400), false);
     const QPoint centre = renderer.CoordinateTransformation(measured).toPoint();
     QCOMPARE(QColor(without->pixel(centre)), greyMargins);
-    QCOMPARE(changed(*with, *without), QRect(centre - QPoint(4, 4), QSize(8, 8)));
+    QCOMPARE(reference::changedPixels(*with, *without), QRect(centre - QPoint(4, 4), QSize(8, 8)));
     QCOMPARE(with->pixel(centre), QColor(Qt::black).rgba());
     for (const QPoint &side : {QPoint(2, 0), QPoint(-3, 0), QPoint(0, 2), QPoint(0, -3)}) {
         const QColor ring(with->pixel(centre + side));

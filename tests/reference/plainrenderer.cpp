@@ -17,7 +17,6 @@ namespace reference {
 namespace {
 
 constexpr double pi = 3.14159265358979323846;
-constexpr int xPixelOffset = 4;
 constexpr double pictureGamma = 1.0;
 
 QPen solidPen(const QColor &color, double width)
@@ -40,11 +39,6 @@ QFont axisFont(int pixelSize)
 
 } // namespace
 
-double mulDiv(int a, int b, int c)
-{
-    return static_cast<double>(a * b / c) + 0.5;
-}
-
 double clamp(double value, double low, double high)
 {
     if (low > value) {
@@ -54,45 +48,6 @@ double clamp(double value, double low, double high)
         return value;
     }
     return high;
-}
-
-bool Mapping::set(const QRectF &plotRectangle, const QRectF &chromaRectangle)
-{
-    plot = plotRectangle;
-    chroma = chromaRectangle;
-    pixelSpanX = plot.width() - plot.left();
-    pixelSpanY = plot.height() - plot.top();
-    chromaSpanX = chroma.right() - chroma.left();
-    chromaSpanY = chroma.bottom() - chroma.top();
-    if (pixelSpanX == 0.0 || pixelSpanY == 0.0 || chromaSpanX == 0.0 || chromaSpanY == 0.0) {
-        return false;
-    }
-    pixelsPerUnitX = pixelSpanX / chromaSpanX;
-    pixelsPerUnitY = pixelSpanY / chromaSpanY;
-    unitsPerPixelX = chromaSpanX / pixelSpanX;
-    unitsPerPixelY = chromaSpanY / pixelSpanY;
-    return true;
-}
-
-QPointF Mapping::toWholePixel(const QPointF &xy) const
-{
-    const double fx = plot.left() + (xy.x() - chroma.left()) * pixelsPerUnitX;
-    const int px = static_cast<int>(fx) + xPixelOffset;
-    const double fy = plot.top() - (xy.y() - chroma.bottom()) * pixelsPerUnitY;
-    const int py = static_cast<int>(fy);
-    return QPointF(px, py);
-}
-
-QPointF Mapping::toPixel(const QPointF &xy) const
-{
-    return QPointF(xPixelOffset + plot.left() + (xy.x() - chroma.left()) * pixelsPerUnitX,
-        plot.top() - (xy.y() - chroma.bottom()) * pixelsPerUnitY);
-}
-
-QPointF Mapping::toChroma(int px, int py) const
-{
-    return QPointF(
-        chroma.left() + (px - plot.left()) * unitsPerPixelX, chroma.bottom() - (py - plot.top()) * unitsPerPixelY);
 }
 
 QColor horseshoeColor(const CEIAtlasValue::TColorSystem &colorSystem, const QPointF &xy, double gamma)
@@ -202,10 +157,7 @@ void PlainRenderer::setPictureSize(int w, int h, int nearPercent, int farPercent
 {
     m_width = w;
     m_height = h;
-    m_mapping.set(QRectF(mulDiv(w, nearPercent, 100), mulDiv(h, nearPercent, 100), mulDiv(w, farPercent, 100),
-                      mulDiv(h, farPercent, 100)),
-        QRectF(static_cast<double>(m_range.xMin), static_cast<double>(m_range.yMin), static_cast<double>(m_range.xMax),
-            static_cast<double>(m_range.yMax)));
+    m_mapping.setPicture(w, h, m_range, nearPercent, farPercent);
 }
 
 QImage PlainRenderer::drawCEIPicture(int w, int h, bool showCoordinate, const QList<QPointF> &colorTemperaturePoints)

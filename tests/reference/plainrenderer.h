@@ -4,6 +4,7 @@
 
 #include <ceiechart/atlas/ceiatlasvalue.h>
 #include <ceiechart/model/colortriangleobject.h>
+#include <reference/mapping.h>
 
 #include <QColor>
 #include <QImage>
@@ -22,43 +23,6 @@ class QPainter;
  * painter call at a time, in the order in which the picture is defined.
  */
 namespace reference {
-
-/*! \brief The chromaticities shown: single precision, as the renderer keeps them. */
-struct ChromaRange {
-    float xMin = 0.0F;
-    float xMax = 0.84F;
-    float yMin = 0.0F;
-    float yMax = 0.94F;
-};
-
-/*! \brief The two rectangles of a drawing and the scales between them. */
-struct Mapping {
-    QRectF plot;
-    QRectF chroma;
-    double pixelSpanX = 0.0;
-    double pixelSpanY = 0.0;
-    double chromaSpanX = 0.0;
-    double chromaSpanY = 0.0;
-    double pixelsPerUnitX = 0.0;
-    double pixelsPerUnitY = 0.0;
-    double unitsPerPixelX = 0.0;
-    double unitsPerPixelY = 0.0;
-
-    /*! \brief Takes both rectangles; a zero span returns false and leaves the four scales as they were. */
-    bool set(const QRectF &plotRectangle, const QRectF &chromaRectangle);
-
-    /*! \brief Chromaticity to whole pixels. */
-    QPointF toWholePixel(const QPointF &xy) const;
-
-    /*! \brief Chromaticity to pixels without truncation. */
-    QPointF toPixel(const QPointF &xy) const;
-
-    /*! \brief Pixel to chromaticity; does not undo the pixel offset of the forward mappings. */
-    QPointF toChroma(int px, int py) const;
-};
-
-/*! \brief a·b, divided by c in integers, plus one half. */
-double mulDiv(int a, int b, int c);
 
 /*! \brief \a low when it is above \a value, else the smaller of \a high and \a value (\a high for NaN). */
 double clamp(double value, double low, double high);

@@ -3,7 +3,6 @@
 
 #include <reference/scenetwins.h>
 
-#include <QGraphicsSceneMouseEvent>
 #include <QtTest>
 
 #include <cmath>
@@ -305,11 +304,7 @@ void Twins::useMouse()
     const auto type = oneOf<QEvent::Type>(
         {QEvent::GraphicsSceneMousePress, QEvent::GraphicsSceneMouseMove, QEvent::GraphicsSceneMouseRelease});
     note(QStringLiteral("mouse event %1").arg(type));
-    QGraphicsSceneMouseEvent event(type);
-    event.setScenePos(reference::randomPoint(m_random, QRectF(0, 0, 80, 80)));
-    event.setButton(Qt::LeftButton);
-    event.setButtons(Qt::LeftButton);
-    QCoreApplication::sendEvent(m_scene.get(), &event);
+    reference::sendMouse(*m_scene, type, reference::randomPoint(m_random, QRectF(0, 0, 80, 80)), Qt::LeftButton);
 }
 
 } // namespace
