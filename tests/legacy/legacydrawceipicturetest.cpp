@@ -89,11 +89,6 @@ constexpr reference::ChromaRange xyRange{0.0F, 0.84F, 0.0F, 0.94F};
 constexpr reference::ChromaRange uvRange{0.0F, 0.65F, 0.0F, 0.68F};
 constexpr CEIAtlasValue::TColorSystem uvColors{0.5222F, 0.5222F, 0.0111F, 0.7888F, 0.1888F, 0.1555F, 0.2333F, 0.4777F};
 
-QPen axisPen(const QColor &color)
-{
-    return QPen(QBrush(color), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
-}
-
 // Both diagrams, one painter call at a time; axes without titles.
 class PlainDiagram {
 public:
@@ -118,8 +113,8 @@ public:
         m_plain.paintCEIEdge(painter);
         m_plain.painterPixColor(picture);
         if (axes) {
-            paintAxes(
-                painter, size, Qt::SolidLine, QFont(QStringLiteral("Arial"), std::max(size.height() * 2 / 100, 1)));
+            m_plain.painterCoordinate(
+                painter, Qt::SolidLine, QFont(QStringLiteral("Arial"), std::max(size.height() * 2 / 100, 1)));
         }
         if (wavelengths) {
             m_plain.painterWaveLength(painter);
@@ -154,7 +149,7 @@ public:
             QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));
             font.setWeight(QFont::DemiBold);
             font.setPixelSize(12);
-            paintAxes(painter, size, Qt::DashLine, font);
+            m_plain.painterCoordinate(painter, Qt::DashLine, font);
         }
         painter.setPen(Qt::NoPen);
         for (const QPointF &point : measurePoints) {
@@ -189,60 +184,6 @@ private:
         QImage picture(size, QImage::Format_ARGB32);
         picture.fill(margins);
         return picture;
-    }
-
-    void paintAxes(QPainter &painter, const QSize &size, Qt::PenStyle style, const QFont &font) const
-    {
-        const QFontMetrics metrics(font);
-        const int h = metrics.height();
-        const int w0 = metrics.horizontalAdvance(QStringLiteral("0.0"));
-        const int wz = metrics.horizontalAdvance(QStringLiteral("0"));
-        const auto xMax = static_cast<double>(m_range.xMax);
-        const auto yMax = static_cast<double>(m_range.yMax);
-        painter.save();
-        painter.setRenderHint(QPainter::TextAntialiasing, true);
-        painter.setFont(font);
-        for (int k = 0; k < xMax / 0.1; ++k) {
-            const QPointF low = m_plain.mapping().toPixel(QPointF(k * 0.1, 0));
-            paintGridLine(painter, style, low, m_plain.mapping().toPixel(QPointF(k * 0.1, yMax)));
-            const int tx = static_cast<int>(low.x());
-            const int ty = static_cast<int>(low.y());
-            painter.setPen(m_line);
-            if (k == 0) {
-                painter.drawText(QRectF(tx, ty + 15, wz, h), QStringLiteral("0"), QTextOption(Qt::AlignRight));
-                painter.setPen(axisPen(m_line));
-                painter.drawLine(tx, 10, tx, ty);
-            } else {
-                painter.drawText(QRectF(tx - w0 / 2, ty + 15, w0 + 12, h), QString::number(k * 0.1), QTextOption());
-            }
-        }
-        for (int j = 0; j < yMax / 0.1; ++j) {
-            const QPointF left = m_plain.mapping().toPixel(QPointF(0, j * 0.1));
-            paintGridLine(painter, style, left, m_plain.mapping().toPixel(QPointF(xMax, j * 0.1)));
-            const int tx = static_cast<int>(left.x());
-            const int ty = static_cast<int>(left.y());
-            if (j == 0) {
-                painter.setPen(axisPen(m_line));
-                painter.drawLine(tx, ty, size.width(), ty);
-                painter.drawText(QRectF(tx - wz - 15, ty - 3 * h / 4, wz, h), QStringLiteral("0"), QTextOption());
-            } else {
-                painter.setPen(m_line);
-                painter.drawText(QRectF(tx - 10 - w0, ty - h / 2, w0 + 12, h), QString::number(j * 0.1),
-                    QTextOption(Qt::AlignLeft | Qt::AlignVCenter));
-            }
-        }
-        painter.restore();
-    }
-
-    void paintGridLine(QPainter &painter, Qt::PenStyle style, const QPointF &from, const QPointF &to) const
-    {
-        painter.save();
-        painter.setOpacity(0.3);
-        QPen pen(style);
-        pen.setColor(QColor(m_line.red(), m_line.green(), m_line.blue(), 80));
-        painter.setPen(pen);
-        painter.drawLine(from, to);
-        painter.restore();
     }
 
     reference::ChromaRange m_range;

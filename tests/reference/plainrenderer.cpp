@@ -368,37 +368,42 @@ void PlainRenderer::paintLabelledTick(QPainter &painter, int x1, int y1, int x2,
 
 void PlainRenderer::painterCoordinate(QPainter &painter) const
 {
+    painterCoordinate(painter, Qt::DashLine, axisFont(16));
+}
+
+void PlainRenderer::painterCoordinate(QPainter &painter, Qt::PenStyle gridStyle, const QFont &numberFont) const
+{
     const double xRange = static_cast<double>(m_range.xMax - m_range.xMin);
     const double yRange = static_cast<double>(m_range.yMax - m_range.yMin);
     for (int k = 0; k < xRange / 0.1; ++k) {
-        paintGridLine(painter, m_mapping.toPixel(QPointF(k * 0.1, static_cast<double>(m_range.yMin))),
+        paintGridLine(painter, gridStyle, m_mapping.toPixel(QPointF(k * 0.1, static_cast<double>(m_range.yMin))),
             m_mapping.toPixel(QPointF(k * 0.1, static_cast<double>(m_range.yMax))));
-        paintHorizontalNumber(painter, k);
+        paintHorizontalNumber(painter, numberFont, k);
     }
     for (int j = 0; j < yRange / 0.1; ++j) {
-        paintGridLine(painter, m_mapping.toPixel(QPointF(static_cast<double>(m_range.xMin), j * 0.1)),
+        paintGridLine(painter, gridStyle, m_mapping.toPixel(QPointF(static_cast<double>(m_range.xMin), j * 0.1)),
             m_mapping.toPixel(QPointF(static_cast<double>(m_range.xMax), j * 0.1)));
-        paintVerticalNumber(painter, j);
+        paintVerticalNumber(painter, numberFont, j);
     }
 }
 
-void PlainRenderer::paintGridLine(QPainter &painter, const QPointF &from, const QPointF &to) const
+void PlainRenderer::paintGridLine(QPainter &painter, Qt::PenStyle style, const QPointF &from, const QPointF &to) const
 {
     painter.save();
     painter.setOpacity(0.3);
     painter.setFont(axisFont(10));
     QPen pen = painter.pen();
     pen.setColor(QColor(m_lineColor.red(), m_lineColor.green(), m_lineColor.blue(), 80));
-    pen.setStyle(Qt::DashLine);
+    pen.setStyle(style);
     painter.setPen(pen);
     painter.setBrush(QBrush(m_lineColor, Qt::SolidPattern));
     painter.drawLine(from, to);
     painter.restore();
 }
 
-void PlainRenderer::paintHorizontalNumber(QPainter &painter, int k) const
+void PlainRenderer::paintHorizontalNumber(QPainter &painter, const QFont &font, int k) const
 {
-    const QFontMetrics metrics(axisFont(16));
+    const QFontMetrics metrics(font);
     const int h = metrics.height();
     const int w0 = metrics.horizontalAdvance(QStringLiteral("0.0"));
     const int wz = metrics.horizontalAdvance(QStringLiteral("0"));
@@ -408,13 +413,12 @@ void PlainRenderer::paintHorizontalNumber(QPainter &painter, int k) const
 
     painter.save();
     painter.setRenderHint(QPainter::TextAntialiasing, true);
-    painter.setFont(axisFont(10));
     QPen pen = painter.pen();
     pen.setColor(m_lineColor);
     pen.setStyle(Qt::SolidLine);
     painter.setPen(pen);
     painter.save();
-    painter.setFont(axisFont(16));
+    painter.setFont(font);
     if (k == 0) {
         painter.drawText(QRect(tx, ty + 15, wz, h), Qt::AlignRight, QStringLiteral("0"));
         painter.setPen(solidPen(m_lineColor, 1.0));
@@ -426,9 +430,9 @@ void PlainRenderer::paintHorizontalNumber(QPainter &painter, int k) const
     painter.restore();
 }
 
-void PlainRenderer::paintVerticalNumber(QPainter &painter, int j) const
+void PlainRenderer::paintVerticalNumber(QPainter &painter, const QFont &font, int j) const
 {
-    const QFontMetrics metrics(axisFont(16));
+    const QFontMetrics metrics(font);
     const int h = metrics.height();
     const int w0 = metrics.horizontalAdvance(QStringLiteral("0.0"));
     const int wz = metrics.horizontalAdvance(QStringLiteral("0"));
@@ -438,7 +442,6 @@ void PlainRenderer::paintVerticalNumber(QPainter &painter, int j) const
 
     painter.save();
     painter.setRenderHint(QPainter::TextAntialiasing, true);
-    painter.setFont(axisFont(10));
     QPen pen = painter.pen();
     pen.setColor(m_lineColor);
     pen.setStyle(Qt::SolidLine);
@@ -446,14 +449,14 @@ void PlainRenderer::paintVerticalNumber(QPainter &painter, int j) const
     if (j == 0) {
         painter.save();
         painter.setPen(solidPen(m_lineColor, 1.0));
-        painter.setFont(axisFont(16));
+        painter.setFont(font);
         painter.drawLine(tx, ty, m_width, ty);
         ty = ty - 3 * h / 4;
         painter.drawText(QRectF(tx - wz - 15, ty, wz, h), QStringLiteral("0"), QTextOption());
         painter.restore();
     } else {
         ty = ty - h / 2;
-        painter.setFont(axisFont(16));
+        painter.setFont(font);
         tx = tx - 10 - w0;
         painter.drawText(QRect(tx, ty, w0 + 12, h), Qt::AlignLeft | Qt::AlignVCenter, QString::number(j * 0.1, 'g', 6));
     }

@@ -7,6 +7,7 @@
 #include <reference/mapping.h>
 
 #include <QColor>
+#include <QFont>
 #include <QImage>
 #include <QList>
 #include <QPointF>
@@ -64,6 +65,7 @@ public:
     void paintCEIEdge(QPainter &painter) const;
     void painterWaveLength(QPainter &painter) const;
     void painterCoordinate(QPainter &painter) const;
+    void painterCoordinate(QPainter &painter, Qt::PenStyle gridStyle, const QFont &numberFont) const; //!< no titles
     void painterBBRLine(QPainter &painter) const;
     void painterStandard(QPainter &painter, const QList<ColorTriangleObject> &standards) const;
     void painterTriangle(QPainter &painter, const QList<ColorTriangleObject> &triangles) const;
@@ -72,9 +74,9 @@ public:
     void painterPixColor(QImage &picture) const;
 
 private:
-    void paintGridLine(QPainter &painter, const QPointF &from, const QPointF &to) const;
-    void paintHorizontalNumber(QPainter &painter, int k) const;
-    void paintVerticalNumber(QPainter &painter, int j) const;
+    void paintGridLine(QPainter &painter, Qt::PenStyle style, const QPointF &from, const QPointF &to) const;
+    void paintHorizontalNumber(QPainter &painter, const QFont &font, int k) const;
+    void paintVerticalNumber(QPainter &painter, const QFont &font, int j) const;
     void paintLabelledTick(QPainter &painter, int x1, int y1, int x2, int y2, const QString &text) const;
     void paintColorTemperaturePoints(QPainter &painter) const;
     QPolygonF trianglePolygon(const ColorTriangleObject &triangle) const;
