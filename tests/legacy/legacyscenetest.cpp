@@ -200,6 +200,7 @@ private Q_SLOTS:
     void releaseOfOtherButtonsReportsNothing();
     void releaseEndsSelections();
     void whiteHandleIsASquareOfTwelve();
+    void whiteHandleOfNewGamutsIsWhereItWillBe();
     void whiteHandleGrowsWithTheZoom();
     void whiteDragReports_data();
     void whiteDragReports();
@@ -847,6 +848,23 @@ void LegacySceneTest::whiteHandleIsASquareOfTwelve()
             QCOMPARE(bench.names(), QStringList(valueChanged));
             QVERIFY(!stateOf(bench.scene).centreSelected);
         }
+    }
+}
+
+// Not where that of the gamuts before was painted.
+void LegacySceneTest::whiteHandleOfNewGamutsIsWhereItWillBe()
+{
+    for (const bool atTheNewOne : {true, false}) {
+        Bench bench;
+        const QPointF before = bench.whiteHandle();
+        paintHandles(bench.scene);
+        QList<ColorTriangleObject> pair = reference::gamutPair();
+        pair[1].trianglePoint().setWhitePos(QPointF(0.38, 0.38));
+        bench.scene.setLsColorTriangleObject(pair);
+        bench.names();
+        bench.press(atTheNewOne ? bench.whiteHandle() : before);
+        QCOMPARE(stateOf(bench.scene).centreSelected, atTheNewOne);
+        QCOMPARE(bench.names(), QStringList(atTheNewOne ? targetInfo : valueChanged));
     }
 }
 
