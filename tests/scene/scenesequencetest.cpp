@@ -41,7 +41,7 @@ private:
 
 bool Twins::act()
 {
-    switch (m_random.bounded(21)) {
+    switch (m_random.bounded(22)) {
     case 0:
         setImageSize();
         break;
@@ -91,9 +91,10 @@ bool Twins::act()
         useMouse();
         break;
     case 16:
+    case 17:
         setMode();
         break;
-    case 17:
+    case 18:
         drawHandles();
         break;
     default:
