@@ -8,6 +8,7 @@
 #include <reference/plainrenderer.h>
 #include <reference/quietmessages.h>
 #include <reference/rendererstate.h>
+#include <reference/repeatablerandom.h>
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -17,7 +18,6 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
-#include <random>
 #include <vector>
 
 namespace {
@@ -89,11 +89,6 @@ constexpr reference::ChromaRange xyRange{0.0F, 0.84F, 0.0F, 0.94F};
 constexpr reference::ChromaRange uvRange{0.0F, 0.65F, 0.0F, 0.68F};
 constexpr CEIAtlasValue::TColorSystem uvColors{0.5222F, 0.5222F, 0.0111F, 0.7888F, 0.1888F, 0.1555F, 0.2333F, 0.4777F};
 
-QPen axisPen(const QColor &color)
-{
-    return QPen(QBrush(color), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
-}
-
 // Both diagrams, one painter call at a time; axes without titles.
 class PlainDiagram {
 public:
@@ -118,8 +113,8 @@ public:
         m_plain.paintCEIEdge(painter);
         m_plain.painterPixColor(picture);
         if (axes) {
-            paintAxes(
-                painter, size, Qt::SolidLine, QFont(QStringLiteral("Arial"), std::max(size.height() * 2 / 100, 1)));
+            m_plain.painterCoordinate(
+                painter, Qt::SolidLine, QFont(QStringLiteral("Arial"), std::max(size.height() * 2 / 100, 1)));
         }
         if (wavelengths) {
             m_plain.painterWaveLength(painter);
@@ -154,7 +149,7 @@ public:
             QFont font(QStringLiteral("Lexend Deca,Microsoft YaHei"));
             font.setWeight(QFont::DemiBold);
             font.setPixelSize(12);
-            paintAxes(painter, size, Qt::DashLine, font);
+            m_plain.painterCoordinate(painter, Qt::DashLine, font);
         }
         painter.setPen(Qt::NoPen);
         for (const QPointF &point : measurePoints) {
@@ -191,73 +186,19 @@ private:
         return picture;
     }
 
-    void paintAxes(QPainter &painter, const QSize &size, Qt::PenStyle style, const QFont &font) const
-    {
-        const QFontMetrics metrics(font);
-        const int h = metrics.height();
-        const int w0 = metrics.horizontalAdvance(QStringLiteral("0.0"));
-        const int wz = metrics.horizontalAdvance(QStringLiteral("0"));
-        const auto xMax = static_cast<double>(m_range.xMax);
-        const auto yMax = static_cast<double>(m_range.yMax);
-        painter.save();
-        painter.setRenderHint(QPainter::TextAntialiasing, true);
-        painter.setFont(font);
-        for (int k = 0; k < xMax / 0.1; ++k) {
-            const QPointF low = m_plain.mapping().toPixel(QPointF(k * 0.1, 0));
-            paintGridLine(painter, style, low, m_plain.mapping().toPixel(QPointF(k * 0.1, yMax)));
-            const int tx = static_cast<int>(low.x());
-            const int ty = static_cast<int>(low.y());
-            painter.setPen(m_line);
-            if (k == 0) {
-                painter.drawText(QRectF(tx, ty + 15, wz, h), QStringLiteral("0"), QTextOption(Qt::AlignRight));
-                painter.setPen(axisPen(m_line));
-                painter.drawLine(tx, 10, tx, ty);
-            } else {
-                painter.drawText(QRectF(tx - w0 / 2, ty + 15, w0 + 12, h), QString::number(k * 0.1), QTextOption());
-            }
-        }
-        for (int j = 0; j < yMax / 0.1; ++j) {
-            const QPointF left = m_plain.mapping().toPixel(QPointF(0, j * 0.1));
-            paintGridLine(painter, style, left, m_plain.mapping().toPixel(QPointF(xMax, j * 0.1)));
-            const int tx = static_cast<int>(left.x());
-            const int ty = static_cast<int>(left.y());
-            if (j == 0) {
-                painter.setPen(axisPen(m_line));
-                painter.drawLine(tx, ty, size.width(), ty);
-                painter.drawText(QRectF(tx - wz - 15, ty - 3 * h / 4, wz, h), QStringLiteral("0"), QTextOption());
-            } else {
-                painter.setPen(m_line);
-                painter.drawText(QRectF(tx - 10 - w0, ty - h / 2, w0 + 12, h), QString::number(j * 0.1),
-                    QTextOption(Qt::AlignLeft | Qt::AlignVCenter));
-            }
-        }
-        painter.restore();
-    }
-
-    void paintGridLine(QPainter &painter, Qt::PenStyle style, const QPointF &from, const QPointF &to) const
-    {
-        painter.save();
-        painter.setOpacity(0.3);
-        QPen pen(style);
-        pen.setColor(QColor(m_line.red(), m_line.green(), m_line.blue(), 80));
-        painter.setPen(pen);
-        painter.drawLine(from, to);
-        painter.restore();
-    }
-
     reference::ChromaRange m_range;
     reference::PlainRenderer m_plain;
     QColor m_line{255, 255, 255};
     QColor m_background = greyMargins;
 };
 
-// The standard distributions differ between standard libraries, the engine does not.
-class Random {
+class Random : public reference::RepeatableRandom {
 public:
-    int between(int low, int high)
+    Random()
+        : RepeatableRandom(20260)
     {
-        return low + static_cast<int>(m_engine() % static_cast<std::mt19937::result_type>(high - low + 1));
     }
+
     bool flag() { return between(0, 1) == 1; }
     QSize size()
     {
@@ -274,35 +215,12 @@ public:
         }
         return points;
     }
-    QColor opaqueColor()
-    {
-        const int red = between(0, 255);
-        const int green = between(0, 255);
-        return QColor(red, green, between(0, 255));
-    }
-
-private:
-    std::mt19937 m_engine{20260};
 };
 
 void removeTitles(DrawCEIPicture &renderer)
 {
     renderer.setXTitle(QString());
     renderer.setYTitle(QString());
-}
-
-// Where two pictures differ; empty when they do not.
-QRect changed(const QImage &one, const QImage &other)
-{
-    QRect place;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            if (one.pixel(x, y) != other.pixel(x, y)) {
-                place |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return place;
 }
 
 Picture drawn(DrawCEIPicture &renderer, const QSize &size, bool axes = true)
@@ -453,12 +371,12 @@ void LegacyDrawCEIPictureTest::titlesPerType()
     QCOMPARE(reference::firstDifference(*drawn(renderer, size), *initial), QString());
 
     renderer.setXTitle(QStringLiteral("W"));
-    QVERIFY(!changed(*drawn(renderer, size), *initial).isEmpty());
+    QVERIFY(!reference::changedPixels(*drawn(renderer, size), *initial).isEmpty());
     renderer.setXTitle(xTitle);
     renderer.setYTitle(QStringLiteral("W"));
-    QVERIFY(!changed(*drawn(renderer, size), *initial).isEmpty());
+    QVERIFY(!reference::changedPixels(*drawn(renderer, size), *initial).isEmpty());
     renderer.setYTitle(yTitle.toLower() == yTitle ? yTitle.toUpper() : yTitle.toLower());
-    QVERIFY(!changed(*drawn(renderer, size), *initial).isEmpty());
+    QVERIFY(!reference::changedPixels(*drawn(renderer, size), *initial).isEmpty());
 }
 
 void LegacyDrawCEIPictureTest::titlesStandClearOfTheNumbers_data()
@@ -482,10 +400,10 @@ void LegacyDrawCEIPictureTest::titlesStandClearOfTheNumbers()
     const Picture without = drawn(renderer, size);
     const QPointF origin = renderer.CoordinateTransformation(QPointF(0, 0));
     renderer.setXTitle(QStringLiteral("X"));
-    const QRect x = changed(*drawn(renderer, size), *without);
+    const QRect x = reference::changedPixels(*drawn(renderer, size), *without);
     renderer.setXTitle(QString());
     renderer.setYTitle(QStringLiteral("Y"));
-    const QRect y = changed(*drawn(renderer, size), *without);
+    const QRect y = reference::changedPixels(*drawn(renderer, size), *without);
     QVERIFY(!x.isEmpty() && !y.isEmpty());
     QVERIFY(x.bottom() < origin.y() && x.top() > side / 2 && x.left() > 3 * side / 4);
     QVERIFY(y.left() > origin.x() && y.right() < side / 2 && y.bottom() < side / 4);
@@ -597,7 +515,7 @@ void LegacyDrawCEIPictureTest::measurePointsAreRingedDots()
     const Picture with = drawn(renderer, QSize(400, 400), false);
     const QPoint centre = renderer.CoordinateTransformation(measured).toPoint();
     QCOMPARE(QColor(without->pixel(centre)), greyMargins);
-    QCOMPARE(changed(*with, *without), QRect(centre - QPoint(4, 4), QSize(8, 8)));
+    QCOMPARE(reference::changedPixels(*with, *without), QRect(centre - QPoint(4, 4), QSize(8, 8)));
     QCOMPARE(with->pixel(centre), QColor(Qt::black).rgba());
     for (const QPoint &side : {QPoint(2, 0), QPoint(-3, 0), QPoint(0, 2), QPoint(0, -3)}) {
         const QColor ring(with->pixel(centre + side));

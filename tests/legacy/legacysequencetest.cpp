@@ -3,8 +3,6 @@
 
 #include <reference/scenetwins.h>
 
-#include <QGraphicsSceneMouseEvent>
-#include <QKeyEvent>
 #include <QtTest>
 
 #include <cmath>
@@ -19,19 +17,6 @@ constexpr int stepsPerSequence = 120;
 
 constexpr auto xyDiagram = static_cast<DrawCEIPicture::CEIEType>(0);
 constexpr auto uvDiagram = static_cast<DrawCEIPicture::CEIEType>(1);
-
-void sendMouse(CEIEGraphicsScene *scene, QEvent::Type type, const QPointF &position, Qt::MouseButton button,
-    bool *accepted = nullptr)
-{
-    QGraphicsSceneMouseEvent event(type);
-    event.setScenePos(position);
-    event.setButton(button);
-    event.setAccepted(false);
-    QCoreApplication::sendEvent(scene, &event);
-    if (accepted) {
-        *accepted = event.isAccepted();
-    }
-}
 
 class Twins : public reference::SceneTwins<CEIEGraphicsScene, reference::LegacySceneModel> {
 public:
@@ -166,7 +151,7 @@ void Twins::press(Qt::MouseButton button, const QPointF &position)
 {
     m_pointer = position;
     note(QStringLiteral("press %1 at %2").arg(button).arg(describe(m_pointer)));
-    sendMouse(m_scene.get(), QEvent::GraphicsSceneMousePress, m_pointer, button);
+    reference::sendMouse(*m_scene, QEvent::GraphicsSceneMousePress, m_pointer, button);
     m_model->mousePress(button, m_pointer);
 }
 
@@ -191,16 +176,14 @@ void Twins::move()
         m_pointer = somewhere();
     }
     note(QStringLiteral("move to %1").arg(describe(m_pointer)));
-    bool accepted = false;
-    sendMouse(m_scene.get(), QEvent::GraphicsSceneMouseMove, m_pointer, Qt::NoButton, &accepted);
+    const bool accepted = reference::sendMouse(*m_scene, QEvent::GraphicsSceneMouseMove, m_pointer, Qt::NoButton);
     expect(QStringLiteral("acceptance"), accepted, m_model->mouseMove(m_pointer));
 }
 
 void Twins::release(Qt::MouseButton button)
 {
     note(QStringLiteral("release %1").arg(button));
-    bool accepted = false;
-    sendMouse(m_scene.get(), QEvent::GraphicsSceneMouseRelease, m_pointer, button, &accepted);
+    const bool accepted = reference::sendMouse(*m_scene, QEvent::GraphicsSceneMouseRelease, m_pointer, button);
     expect(QStringLiteral("acceptance"), accepted, m_model->mouseRelease(button));
 }
 
@@ -281,16 +264,14 @@ void LegacySequenceTest::survivesOnUniformChromaticityDiagram()
             const QPointF position = reference::randomPoint(random, QRectF(-20, -20, 220, 220));
             switch (random.bounded(6)) {
             case 0:
-                sendMouse(&scene, QEvent::GraphicsSceneMousePress, position, Qt::LeftButton);
+                reference::sendMouse(scene, QEvent::GraphicsSceneMousePress, position, Qt::LeftButton);
                 break;
             case 1:
-                sendMouse(&scene, QEvent::GraphicsSceneMouseRelease, position, Qt::LeftButton);
+                reference::sendMouse(scene, QEvent::GraphicsSceneMouseRelease, position, Qt::LeftButton);
                 break;
-            case 2: {
-                QKeyEvent event(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
-                QCoreApplication::sendEvent(&scene, &event);
+            case 2:
+                reference::sendKey(scene, QEvent::KeyPress, Qt::Key_Right);
                 break;
-            }
             case 3:
                 scene.setImageWidth(40 + random.bounded(150));
                 break;
@@ -301,7 +282,7 @@ void LegacySequenceTest::survivesOnUniformChromaticityDiagram()
                 break;
             }
             default:
-                sendMouse(&scene, QEvent::GraphicsSceneMouseMove, position, Qt::NoButton);
+                reference::sendMouse(scene, QEvent::GraphicsSceneMouseMove, position, Qt::NoButton);
                 break;
             }
         }

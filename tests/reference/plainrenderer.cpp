@@ -17,7 +17,6 @@ namespace reference {
 namespace {
 
 constexpr double pi = 3.14159265358979323846;
-constexpr int xPixelOffset = 4;
 constexpr double pictureGamma = 1.0;
 
 QPen solidPen(const QColor &color, double width)
@@ -40,11 +39,6 @@ QFont axisFont(int pixelSize)
 
 } // namespace
 
-double mulDiv(int a, int b, int c)
-{
-    return static_cast<double>(a * b / c) + 0.5;
-}
-
 double clamp(double value, double low, double high)
 {
     if (low > value) {
@@ -54,45 +48,6 @@ double clamp(double value, double low, double high)
         return value;
     }
     return high;
-}
-
-bool Mapping::set(const QRectF &plotRectangle, const QRectF &chromaRectangle)
-{
-    plot = plotRectangle;
-    chroma = chromaRectangle;
-    pixelSpanX = plot.width() - plot.left();
-    pixelSpanY = plot.height() - plot.top();
-    chromaSpanX = chroma.right() - chroma.left();
-    chromaSpanY = chroma.bottom() - chroma.top();
-    if (pixelSpanX == 0.0 || pixelSpanY == 0.0 || chromaSpanX == 0.0 || chromaSpanY == 0.0) {
-        return false;
-    }
-    pixelsPerUnitX = pixelSpanX / chromaSpanX;
-    pixelsPerUnitY = pixelSpanY / chromaSpanY;
-    unitsPerPixelX = chromaSpanX / pixelSpanX;
-    unitsPerPixelY = chromaSpanY / pixelSpanY;
-    return true;
-}
-
-QPointF Mapping::toWholePixel(const QPointF &xy) const
-{
-    const double fx = plot.left() + (xy.x() - chroma.left()) * pixelsPerUnitX;
-    const int px = static_cast<int>(fx) + xPixelOffset;
-    const double fy = plot.top() - (xy.y() - chroma.bottom()) * pixelsPerUnitY;
-    const int py = static_cast<int>(fy);
-    return QPointF(px, py);
-}
-
-QPointF Mapping::toPixel(const QPointF &xy) const
-{
-    return QPointF(xPixelOffset + plot.left() + (xy.x() - chroma.left()) * pixelsPerUnitX,
-        plot.top() - (xy.y() - chroma.bottom()) * pixelsPerUnitY);
-}
-
-QPointF Mapping::toChroma(int px, int py) const
-{
-    return QPointF(
-        chroma.left() + (px - plot.left()) * unitsPerPixelX, chroma.bottom() - (py - plot.top()) * unitsPerPixelY);
 }
 
 QColor horseshoeColor(const CEIAtlasValue::TColorSystem &colorSystem, const QPointF &xy, double gamma)
@@ -202,10 +157,7 @@ void PlainRenderer::setPictureSize(int w, int h, int nearPercent, int farPercent
 {
     m_width = w;
     m_height = h;
-    m_mapping.set(QRectF(mulDiv(w, nearPercent, 100), mulDiv(h, nearPercent, 100), mulDiv(w, farPercent, 100),
-                      mulDiv(h, farPercent, 100)),
-        QRectF(static_cast<double>(m_range.xMin), static_cast<double>(m_range.yMin), static_cast<double>(m_range.xMax),
-            static_cast<double>(m_range.yMax)));
+    m_mapping.setPicture(w, h, m_range, nearPercent, farPercent);
 }
 
 QImage PlainRenderer::drawCEIPicture(int w, int h, bool showCoordinate, const QList<QPointF> &colorTemperaturePoints)
@@ -416,37 +368,42 @@ void PlainRenderer::paintLabelledTick(QPainter &painter, int x1, int y1, int x2,
 
 void PlainRenderer::painterCoordinate(QPainter &painter) const
 {
+    painterCoordinate(painter, Qt::DashLine, axisFont(16));
+}
+
+void PlainRenderer::painterCoordinate(QPainter &painter, Qt::PenStyle gridStyle, const QFont &numberFont) const
+{
     const double xRange = static_cast<double>(m_range.xMax - m_range.xMin);
     const double yRange = static_cast<double>(m_range.yMax - m_range.yMin);
     for (int k = 0; k < xRange / 0.1; ++k) {
-        paintGridLine(painter, m_mapping.toPixel(QPointF(k * 0.1, static_cast<double>(m_range.yMin))),
+        paintGridLine(painter, gridStyle, m_mapping.toPixel(QPointF(k * 0.1, static_cast<double>(m_range.yMin))),
             m_mapping.toPixel(QPointF(k * 0.1, static_cast<double>(m_range.yMax))));
-        paintHorizontalNumber(painter, k);
+        paintHorizontalNumber(painter, numberFont, k);
     }
     for (int j = 0; j < yRange / 0.1; ++j) {
-        paintGridLine(painter, m_mapping.toPixel(QPointF(static_cast<double>(m_range.xMin), j * 0.1)),
+        paintGridLine(painter, gridStyle, m_mapping.toPixel(QPointF(static_cast<double>(m_range.xMin), j * 0.1)),
             m_mapping.toPixel(QPointF(static_cast<double>(m_range.xMax), j * 0.1)));
-        paintVerticalNumber(painter, j);
+        paintVerticalNumber(painter, numberFont, j);
     }
 }
 
-void PlainRenderer::paintGridLine(QPainter &painter, const QPointF &from, const QPointF &to) const
+void PlainRenderer::paintGridLine(QPainter &painter, Qt::PenStyle style, const QPointF &from, const QPointF &to) const
 {
     painter.save();
     painter.setOpacity(0.3);
     painter.setFont(axisFont(10));
     QPen pen = painter.pen();
     pen.setColor(QColor(m_lineColor.red(), m_lineColor.green(), m_lineColor.blue(), 80));
-    pen.setStyle(Qt::DashLine);
+    pen.setStyle(style);
     painter.setPen(pen);
     painter.setBrush(QBrush(m_lineColor, Qt::SolidPattern));
     painter.drawLine(from, to);
     painter.restore();
 }
 
-void PlainRenderer::paintHorizontalNumber(QPainter &painter, int k) const
+void PlainRenderer::paintHorizontalNumber(QPainter &painter, const QFont &font, int k) const
 {
-    const QFontMetrics metrics(axisFont(16));
+    const QFontMetrics metrics(font);
     const int h = metrics.height();
     const int w0 = metrics.horizontalAdvance(QStringLiteral("0.0"));
     const int wz = metrics.horizontalAdvance(QStringLiteral("0"));
@@ -456,13 +413,12 @@ void PlainRenderer::paintHorizontalNumber(QPainter &painter, int k) const
 
     painter.save();
     painter.setRenderHint(QPainter::TextAntialiasing, true);
-    painter.setFont(axisFont(10));
     QPen pen = painter.pen();
     pen.setColor(m_lineColor);
     pen.setStyle(Qt::SolidLine);
     painter.setPen(pen);
     painter.save();
-    painter.setFont(axisFont(16));
+    painter.setFont(font);
     if (k == 0) {
         painter.drawText(QRect(tx, ty + 15, wz, h), Qt::AlignRight, QStringLiteral("0"));
         painter.setPen(solidPen(m_lineColor, 1.0));
@@ -474,9 +430,9 @@ void PlainRenderer::paintHorizontalNumber(QPainter &painter, int k) const
     painter.restore();
 }
 
-void PlainRenderer::paintVerticalNumber(QPainter &painter, int j) const
+void PlainRenderer::paintVerticalNumber(QPainter &painter, const QFont &font, int j) const
 {
-    const QFontMetrics metrics(axisFont(16));
+    const QFontMetrics metrics(font);
     const int h = metrics.height();
     const int w0 = metrics.horizontalAdvance(QStringLiteral("0.0"));
     const int wz = metrics.horizontalAdvance(QStringLiteral("0"));
@@ -486,7 +442,6 @@ void PlainRenderer::paintVerticalNumber(QPainter &painter, int j) const
 
     painter.save();
     painter.setRenderHint(QPainter::TextAntialiasing, true);
-    painter.setFont(axisFont(10));
     QPen pen = painter.pen();
     pen.setColor(m_lineColor);
     pen.setStyle(Qt::SolidLine);
@@ -494,14 +449,14 @@ void PlainRenderer::paintVerticalNumber(QPainter &painter, int j) const
     if (j == 0) {
         painter.save();
         painter.setPen(solidPen(m_lineColor, 1.0));
-        painter.setFont(axisFont(16));
+        painter.setFont(font);
         painter.drawLine(tx, ty, m_width, ty);
         ty = ty - 3 * h / 4;
         painter.drawText(QRectF(tx - wz - 15, ty, wz, h), QStringLiteral("0"), QTextOption());
         painter.restore();
     } else {
         ty = ty - h / 2;
-        painter.setFont(axisFont(16));
+        painter.setFont(font);
         tx = tx - 10 - w0;
         painter.drawText(QRect(tx, ty, w0 + 12, h), Qt::AlignLeft | Qt::AlignVCenter, QString::number(j * 0.1, 'g', 6));
     }

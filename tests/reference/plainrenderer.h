@@ -4,8 +4,10 @@
 
 #include <ceiechart/atlas/ceiatlasvalue.h>
 #include <ceiechart/model/colortriangleobject.h>
+#include <reference/mapping.h>
 
 #include <QColor>
+#include <QFont>
 #include <QImage>
 #include <QList>
 #include <QPointF>
@@ -22,43 +24,6 @@ class QPainter;
  * painter call at a time, in the order in which the picture is defined.
  */
 namespace reference {
-
-/*! \brief The chromaticities shown: single precision, as the renderer keeps them. */
-struct ChromaRange {
-    float xMin = 0.0F;
-    float xMax = 0.84F;
-    float yMin = 0.0F;
-    float yMax = 0.94F;
-};
-
-/*! \brief The two rectangles of a drawing and the scales between them. */
-struct Mapping {
-    QRectF plot;
-    QRectF chroma;
-    double pixelSpanX = 0.0;
-    double pixelSpanY = 0.0;
-    double chromaSpanX = 0.0;
-    double chromaSpanY = 0.0;
-    double pixelsPerUnitX = 0.0;
-    double pixelsPerUnitY = 0.0;
-    double unitsPerPixelX = 0.0;
-    double unitsPerPixelY = 0.0;
-
-    /*! \brief Takes both rectangles; a zero span returns false and leaves the four scales as they were. */
-    bool set(const QRectF &plotRectangle, const QRectF &chromaRectangle);
-
-    /*! \brief Chromaticity to whole pixels. */
-    QPointF toWholePixel(const QPointF &xy) const;
-
-    /*! \brief Chromaticity to pixels without truncation. */
-    QPointF toPixel(const QPointF &xy) const;
-
-    /*! \brief Pixel to chromaticity; does not undo the pixel offset of the forward mappings. */
-    QPointF toChroma(int px, int py) const;
-};
-
-/*! \brief a·b, divided by c in integers, plus one half. */
-double mulDiv(int a, int b, int c);
 
 /*! \brief \a low when it is above \a value, else the smaller of \a high and \a value (\a high for NaN). */
 double clamp(double value, double low, double high);
@@ -100,6 +65,7 @@ public:
     void paintCEIEdge(QPainter &painter) const;
     void painterWaveLength(QPainter &painter) const;
     void painterCoordinate(QPainter &painter) const;
+    void painterCoordinate(QPainter &painter, Qt::PenStyle gridStyle, const QFont &numberFont) const; //!< no titles
     void painterBBRLine(QPainter &painter) const;
     void painterStandard(QPainter &painter, const QList<ColorTriangleObject> &standards) const;
     void painterTriangle(QPainter &painter, const QList<ColorTriangleObject> &triangles) const;
@@ -108,9 +74,9 @@ public:
     void painterPixColor(QImage &picture) const;
 
 private:
-    void paintGridLine(QPainter &painter, const QPointF &from, const QPointF &to) const;
-    void paintHorizontalNumber(QPainter &painter, int k) const;
-    void paintVerticalNumber(QPainter &painter, int j) const;
+    void paintGridLine(QPainter &painter, Qt::PenStyle style, const QPointF &from, const QPointF &to) const;
+    void paintHorizontalNumber(QPainter &painter, const QFont &font, int k) const;
+    void paintVerticalNumber(QPainter &painter, const QFont &font, int j) const;
     void paintLabelledTick(QPainter &painter, int x1, int y1, int x2, int y2, const QString &text) const;
     void paintColorTemperaturePoints(QPainter &painter) const;
     QPolygonF trianglePolygon(const ColorTriangleObject &triangle) const;

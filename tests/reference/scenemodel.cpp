@@ -29,13 +29,6 @@ float toFloat(int value)
     return result;
 }
 
-// a·b / c in 32 bits that wrap, plus one half.
-double mulDiv(int a, int b, int c)
-{
-    const auto product = static_cast<qint32>(static_cast<quint32>(a) * static_cast<quint32>(b));
-    return static_cast<double>(product / c) + 0.5;
-}
-
 bool coincide(float a, float b)
 {
     return static_cast<double>(std::fabs(a - b)) < 0.0010123456789;
@@ -178,14 +171,6 @@ QString difference(const QString &what, const QString &actual, const QString &ex
     return QStringLiteral("%1: '...%2' instead of '...%3'\n").arg(what, actual.mid(from, 160), expected.mid(from, 160));
 }
 
-int truncateToInt(double value)
-{
-    if (value > -2147483649.0 && value < 2147483648.0) {
-        return static_cast<int>(value);
-    }
-    return std::numeric_limits<int>::min();
-}
-
 PointF narrowed(const QPointF &point)
 {
     return {toFloat(point.x()), toFloat(point.y())};
@@ -251,34 +236,6 @@ int fenceRegion(const PointF &point)
     return 3;
 }
 
-void PictureMapping::draw(int width, int height)
-{
-    constexpr double xMax = static_cast<double>(0.84F);
-    m_left = mulDiv(width, 5, 100);
-    m_top = mulDiv(height, 5, 100);
-    m_yMax = static_cast<double>(0.94F);
-    const double spanX = mulDiv(width, 95, 100) - m_left;
-    const double spanY = mulDiv(height, 95, 100) - m_top;
-    if (spanX == 0.0 || spanY == 0.0) {
-        return;
-    }
-    m_pixelsPerX = spanX / xMax;
-    m_pixelsPerY = spanY / m_yMax;
-    m_xPerPixel = xMax / spanX;
-    m_yPerPixel = m_yMax / spanY;
-}
-
-QPointF PictureMapping::toPixel(const QPointF &chroma) const
-{
-    const auto column = static_cast<quint32>(truncateToInt(m_left + chroma.x() * m_pixelsPerX)) + 4U;
-    return QPointF(static_cast<qint32>(column), truncateToInt(m_top - (chroma.y() - m_yMax) * m_pixelsPerY));
-}
-
-QPointF PictureMapping::toChroma(const QPointF &pixel) const
-{
-    return QPointF((pixel.x() - m_left) * m_xPerPixel, m_yMax - (pixel.y() - m_top) * m_yPerPixel);
-}
-
 SceneModel::SceneModel(const QList<ColorTriangleObject> &triangles)
     : m_triangles(triangles)
 {
@@ -320,9 +277,9 @@ void SceneModel::setLsColorTriangleObject(const QList<ColorTriangleObject> &tria
         return;
     }
     const TrianglePoint &original = m_triangles.at(0).trianglePoint();
-    m_originalVertices.setRedPos(m_mapping.toPixel(original.redPos()));
-    m_originalVertices.setGreenPos(m_mapping.toPixel(original.greenPos()));
-    m_originalVertices.setBluePos(m_mapping.toPixel(original.bluePos()));
+    m_originalVertices.setRedPos(m_mapping.toWholePixel(original.redPos()));
+    m_originalVertices.setGreenPos(m_mapping.toWholePixel(original.greenPos()));
+    m_originalVertices.setBluePos(m_mapping.toWholePixel(original.bluePos()));
 }
 
 void SceneModel::setAllTriangles(const QList<ColorTriangleObject> &triangles)
@@ -376,7 +333,7 @@ void SceneModel::scaleImage()
 void SceneModel::drawPicture()
 {
     m_hasPicture = true;
-    m_mapping.draw(m_imageWidth, m_imageHeight);
+    m_mapping.setPicture(m_imageWidth, m_imageHeight);
     const bool exists = m_imageWidth > 0 && m_imageHeight > 0;
     m_pictureWidth = exists ? m_imageWidth : 0;
     m_pictureHeight = exists ? m_imageHeight : 0;
@@ -866,12 +823,12 @@ LegacySceneModel::LegacySceneModel(const QList<ColorTriangleObject> &triangles)
 
 QPointF LegacySceneModel::toScene(const QPointF &chroma) const
 {
-    return m_mapping.toPixel(chroma);
+    return m_mapping.toWholePixel(chroma);
 }
 
 QPointF LegacySceneModel::toChroma(const QPointF &position) const
 {
-    return m_mapping.toChroma(position);
+    return m_mapping.toChroma(position.x(), position.y());
 }
 
 void LegacySceneModel::getBitMap()

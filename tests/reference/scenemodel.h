@@ -5,6 +5,7 @@
 #include <ceiechart/model/colortriangleobject.h>
 #include <ceiechart/model/targetinfochangedeventargs.h>
 #include <ceiechart/model/triangleobjeciinitializedeventargs.h>
+#include <reference/mapping.h>
 
 #include <QCursor>
 #include <QList>
@@ -40,9 +41,6 @@ QString describe(const QCursor &cursor);
 /*! \brief A line that shows where \a actual first departs from \a expected; empty when they are the same. */
 QString difference(const QString &what, const QString &actual, const QString &expected);
 
-/*! \brief Toward zero; the smallest int for what an int cannot hold. */
-int truncateToInt(double value);
-
 PointF narrowed(const QPointF &point);
 bool isInsidePolygon(const PointF &point, const std::vector<PointF> &polygon);
 bool isInsideTriangle(const PointF &point, const PointF &a, const PointF &b, const PointF &c);
@@ -71,25 +69,6 @@ struct SceneState {
 };
 
 QString describe(const SceneState &state);
-
-/*! \brief Where the renderer's drawing of a size places chromaticities. */
-class PictureMapping {
-public:
-    /*! \brief Takes a drawing's size; a plot without extent keeps the scales of the one before. */
-    void draw(int width, int height);
-
-    QPointF toPixel(const QPointF &chroma) const;
-    QPointF toChroma(const QPointF &pixel) const;
-
-private:
-    double m_left = 0.0;
-    double m_top = 0.0;
-    double m_yMax = 0.0;
-    double m_pixelsPerX = 0.0;
-    double m_pixelsPerY = 0.0;
-    double m_xPerPixel = 0.0;
-    double m_yPerPixel = 0.0;
-};
 
 /*! \brief NewCEIE::CEIEGraphicsScene, and what the legacy scene has in common with it. */
 class SceneModel {
@@ -189,7 +168,7 @@ protected:
     bool isInsideTarget(const QPointF &position) const;
 
     QList<ColorTriangleObject> m_triangles;
-    PictureMapping m_mapping;
+    Mapping m_mapping;
     TrianglePoint m_originalVertices;
     TrianglePoint m_targetReference;
     SceneState m_state;

@@ -4,11 +4,11 @@
 
 #include <reference/picturedifference.h>
 #include <reference/samplegamuts.h>
+#include <reference/sceneevents.h>
 #include <reference/scenemodel.h>
 #include <reference/scenesignallog.h>
 #include <reference/scenestate.h>
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QtTest>
@@ -270,8 +270,7 @@ void SceneTwins<Scene, Model>::setMode()
 template <class Scene, class Model>
 void SceneTwins<Scene, Model>::key(QEvent::Type type, int key, bool autoRepeat)
 {
-    QKeyEvent event(type, key, Qt::NoModifier, QString(), autoRepeat);
-    QCoreApplication::sendEvent(m_scene.get(), &event);
+    sendKey(*m_scene, type, key, autoRepeat);
     if (type == QEvent::KeyPress) {
         m_model->keyPress(key);
     } else {

@@ -1,39 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/render/drawceipicture.h>
+#include <ceiechart/render/diagramgeometry.h>
 
-#include <reference/plainrenderer.h>
-#include <reference/quietmessages.h>
-#include <reference/rendererstate.h>
+#include <reference/mapping.h>
 
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 #include <limits>
-#include <memory>
+
+using ceiechart::DiagramGeometry;
 
 namespace {
 
-using Renderer = NewCEIE::DrawCEIPicture;
-
-const CEIAtlasValue &atlas()
-{
-    static const CEIAtlasValue tables;
-    return tables;
-}
-
-// What the fill and the mappings work with is known only after a drawing.
-void drawOnce(Renderer &renderer, int w, int h)
-{
-    const reference::QuietMessages quiet;
-    const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(w, h, false, false, false, QList<QPointF>()));
-}
-
-reference::Mapping mappingOf(int w, int h)
-{
-    reference::PlainRenderer plain;
-    plain.setPictureSize(w, h);
-    return plain.mapping();
-}
+constexpr ceiechart::ChromaRange range{0.0F, 0.84F, 0.0F, 0.94F};
+constexpr int marginPercent = 5;
 
 } // namespace
 
@@ -45,7 +25,8 @@ private Q_SLOTS:
     void mulDivAddsAHalfAfterTheIntegerDivision();
     void clampKeepsTheRange();
     void clampOfNanIsTheUpperLimit();
-    void freshRendererMapsEverythingToOnePixel();
+    void truncationNeverOverflows();
+    void freshGeometryMapsEverythingToOnePixel();
     void plotOfAnOddWidth();
     void rangeCornersMapToPlotCorners();
     void workedExample();
@@ -53,12 +34,8 @@ private Q_SLOTS:
     void zeroSpanIsRefused_data();
     void zeroSpanIsRefused();
     void zeroSpanKeepsTheScales();
-    void atlasCoordinateBecomesTheCurrentPoint();
-    void emptyAtlasCoordinateGivesNan();
-    void currentPointMapsWithoutTruncation();
+    void exactPixelsAreNotTruncated();
     void backwardMappingKeepsThePixelOffset();
-    void thirdCoordinateIsLeftAlone();
-    void offsetPoints();
 };
 
 void DiagramGeometryTest::mulDivAddsAHalfAfterTheIntegerDivision_data()
@@ -82,37 +59,47 @@ void DiagramGeometryTest::mulDivAddsAHalfAfterTheIntegerDivision()
     QFETCH(int, a);
     QFETCH(int, b);
     QFETCH(int, c);
-    Renderer renderer(nullptr);
-    QTEST(renderer.mulDiv(a, b, c), "expected");
+    QTEST(ceiechart::mulDiv(a, b, c), "expected");
 }
 
 void DiagramGeometryTest::clampKeepsTheRange()
 {
-    Renderer renderer(nullptr);
-    QVERIFY(renderer.Clamp(-0.2, 0, 1) == 0.0);
-    QVERIFY(renderer.Clamp(1.7, 0, 1) == 1.0);
-    QVERIFY(renderer.Clamp(0.4, 0, 1) == 0.4);
-    QVERIFY(renderer.Clamp(0.0, 0, 1) == 0.0);
-    QVERIFY(renderer.Clamp(1.0, 0, 1) == 1.0);
-    QVERIFY(renderer.Clamp(-std::numeric_limits<double>::infinity(), -2, 3) == -2.0);
-    QVERIFY(renderer.Clamp(std::numeric_limits<double>::infinity(), -2, 3) == 3.0);
+    QVERIFY(ceiechart::clamp(-0.2, 0, 1) == 0.0);
+    QVERIFY(ceiechart::clamp(1.7, 0, 1) == 1.0);
+    QVERIFY(ceiechart::clamp(0.4, 0, 1) == 0.4);
+    QVERIFY(ceiechart::clamp(0.0, 0, 1) == 0.0);
+    QVERIFY(ceiechart::clamp(1.0, 0, 1) == 1.0);
+    QVERIFY(ceiechart::clamp(-std::numeric_limits<double>::infinity(), -2, 3) == -2.0);
+    QVERIFY(ceiechart::clamp(std::numeric_limits<double>::infinity(), -2, 3) == 3.0);
     // Limits the wrong way round: the lower one is looked at first.
-    QVERIFY(renderer.Clamp(0.5, 1, 0) == 1.0);
-    QVERIFY(renderer.Clamp(2.0, 1, 0) == 0.0);
+    QVERIFY(ceiechart::clamp(0.5, 1, 0) == 1.0);
+    QVERIFY(ceiechart::clamp(2.0, 1, 0) == 0.0);
 }
 
 void DiagramGeometryTest::clampOfNanIsTheUpperLimit()
 {
-    Renderer renderer(nullptr);
-    QVERIFY(renderer.Clamp(std::numeric_limits<double>::quiet_NaN(), 0, 1) == 1.0);
-    QVERIFY(renderer.Clamp(std::numeric_limits<double>::quiet_NaN(), -7, -5) == -5.0);
+    QVERIFY(ceiechart::clamp(std::numeric_limits<double>::quiet_NaN(), 0, 1) == 1.0);
+    QVERIFY(ceiechart::clamp(std::numeric_limits<double>::quiet_NaN(), -7, -5) == -5.0);
 }
 
-void DiagramGeometryTest::freshRendererMapsEverythingToOnePixel()
+void DiagramGeometryTest::truncationNeverOverflows()
 {
-    Renderer renderer(nullptr);
+    constexpr int smallest = std::numeric_limits<int>::min();
+    QCOMPARE(ceiechart::truncated(-0.7), 0);
+    QCOMPARE(ceiechart::truncated(1.9), 1);
+    QCOMPARE(ceiechart::truncated(2147483647.5), 2147483647);
+    QCOMPARE(ceiechart::truncated(-2147483648.5), smallest);
+    for (const double bad : {2147483648.0, -2147483649.0, 1e300, std::numeric_limits<double>::infinity(),
+             -std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
+        QCOMPARE(ceiechart::truncated(bad), smallest);
+    }
+}
+
+void DiagramGeometryTest::freshGeometryMapsEverythingToOnePixel()
+{
+    DiagramGeometry geometry;
     for (const QPointF &xy : {QPointF(0, 0), QPointF(0.3127, 0.3290), QPointF(-7, 12)}) {
-        const QPointF pixel = renderer.CoordinateTransformation(xy);
+        const QPointF pixel = geometry.toPixel(xy);
         QVERIFY(pixel.x() == 4.0);
         QVERIFY(pixel.y() == 0.0);
     }
@@ -120,31 +107,30 @@ void DiagramGeometryTest::freshRendererMapsEverythingToOnePixel()
 
 void DiagramGeometryTest::plotOfAnOddWidth()
 {
-    Renderer renderer(nullptr);
-    drawOnce(renderer, 801, 20);
+    DiagramGeometry geometry;
+    geometry.setPicture(801, 20, marginPercent, range);
     // 40.5 to 760.5, though 5 % and 95 % of 801 are 40.05 and 760.95.
-    QVERIFY(renderer.CoordinateTransformation(QPointF(0.0, 0.0)).x() == 44.0);
+    QVERIFY(geometry.toPixel(QPointF(0.0, 0.0)).x() == 44.0);
     const double perUnit = 720.0 / static_cast<double>(0.84F);
-    QVERIFY(renderer.CoordinateTransformation(QPointF(0.5 / perUnit + 1e-9, 0.0)).x() == 45.0);
-    QVERIFY(renderer.CoordinateTransformation(QPointF(0.5 / perUnit - 1e-9, 0.0)).x() == 44.0);
-    QVERIFY(renderer.CoordinateTransformation(QPointF(719.5 / perUnit + 1e-9, 0.0)).x() == 764.0);
-    QVERIFY(renderer.CoordinateTransformation(QPointF(719.5 / perUnit - 1e-9, 0.0)).x() == 763.0);
+    QVERIFY(geometry.toPixel(QPointF(0.5 / perUnit + 1e-9, 0.0)).x() == 45.0);
+    QVERIFY(geometry.toPixel(QPointF(0.5 / perUnit - 1e-9, 0.0)).x() == 44.0);
+    QVERIFY(geometry.toPixel(QPointF(719.5 / perUnit + 1e-9, 0.0)).x() == 764.0);
+    QVERIFY(geometry.toPixel(QPointF(719.5 / perUnit - 1e-9, 0.0)).x() == 763.0);
 }
 
 void DiagramGeometryTest::rangeCornersMapToPlotCorners()
 {
-    Renderer renderer(nullptr);
+    DiagramGeometry geometry;
     for (const QSize &size : {QSize(800, 800), QSize(801, 333), QSize(100, 50), QSize(20, 20), QSize(4000, 49)}) {
-        drawOnce(renderer, size.width(), size.height());
+        geometry.setPicture(size.width(), size.height(), marginPercent, range);
         const double left = size.width() * 5 / 100 + 0.5;
         const double top = size.height() * 5 / 100 + 0.5;
         const double spanX = size.width() * 95 / 100 - size.width() * 5 / 100;
         const double spanY = size.height() * 95 / 100 - size.height() * 5 / 100;
-        const QPointF origin = renderer.CoordinateTransformation(QPointF(0.0, 0.0));
+        const QPointF origin = geometry.toPixel(QPointF(0.0, 0.0));
         QVERIFY(origin.x() == std::trunc(left) + 4);
         QVERIFY(origin.y() == std::trunc(top + spanY));
-        const QPointF far
-            = renderer.CoordinateTransformation(QPointF(static_cast<double>(0.84F), static_cast<double>(0.94F)));
+        const QPointF far = geometry.toPixel(QPointF(static_cast<double>(0.84F), static_cast<double>(0.94F)));
         QVERIFY(far.x() == std::trunc(left + spanX) + 4);
         QVERIFY(far.y() == std::trunc(top));
     }
@@ -152,25 +138,25 @@ void DiagramGeometryTest::rangeCornersMapToPlotCorners()
 
 void DiagramGeometryTest::workedExample()
 {
-    Renderer renderer(nullptr);
-    drawOnce(renderer, 800, 800);
-    const QPointF pixel = renderer.CoordinateTransformation(QPointF(0.3127, 0.3290));
+    DiagramGeometry geometry;
+    geometry.setPicture(800, 800, marginPercent, range);
+    const QPointF pixel = geometry.toPixel(QPointF(0.3127, 0.3290));
     QVERIFY(pixel.x() == 312.0);
     QVERIFY(pixel.y() == 508.0);
 }
 
 void DiagramGeometryTest::wholePixelsTruncateTowardZero()
 {
-    Renderer renderer(nullptr);
-    drawOnce(renderer, 800, 800);
+    DiagramGeometry geometry;
+    geometry.setPicture(800, 800, marginPercent, range);
     const double perUnitX = 720.0 / static_cast<double>(0.84F);
     const double perUnitY = 720.0 / static_cast<double>(0.94F);
     const double yMax = static_cast<double>(0.94F);
     // -0.7 becomes 0, -1.2 becomes -1.
-    QPointF pixel = renderer.CoordinateTransformation(QPointF((-0.7 - 40.5) / perUnitX, yMax + 41.2 / perUnitY));
+    QPointF pixel = geometry.toPixel(QPointF((-0.7 - 40.5) / perUnitX, yMax + 41.2 / perUnitY));
     QVERIFY(pixel.x() == 4.0);
     QVERIFY(pixel.y() == 0.0);
-    pixel = renderer.CoordinateTransformation(QPointF((-1.2 - 40.5) / perUnitX, yMax + 41.7 / perUnitY));
+    pixel = geometry.toPixel(QPointF((-1.2 - 40.5) / perUnitX, yMax + 41.7 / perUnitY));
     QVERIFY(pixel.x() == 3.0);
     QVERIFY(pixel.y() == -1.0);
 }
@@ -197,130 +183,61 @@ void DiagramGeometryTest::zeroSpanIsRefused()
 {
     QFETCH(QRectF, plot);
     QFETCH(QRectF, chroma);
-    Renderer renderer(nullptr);
-    QTEST(renderer.GetCoordinateTransformationData(plot, chroma), "accepted");
+    DiagramGeometry geometry;
+    QTEST(geometry.set(plot, chroma), "accepted");
 }
 
 void DiagramGeometryTest::zeroSpanKeepsTheScales()
 {
-    Renderer renderer(nullptr);
-    drawOnce(renderer, 800, 800);
-    drawOnce(renderer, 1, 400);
+    DiagramGeometry geometry;
+    geometry.setPicture(800, 800, marginPercent, range);
+    geometry.setPicture(1, 400, marginPercent, range);
     // The rectangles are those of 1 x 400, all four scales those of 800 x 800.
-    QPointF pixel = renderer.CoordinateTransformation(QPointF(0.3127, 0.3290));
+    QPointF pixel = geometry.toPixel(QPointF(0.3127, 0.3290));
     QVERIFY(pixel.x() == std::trunc(0.5 + 0.3127 * 720 / static_cast<double>(0.84F)) + 4);
     QVERIFY(pixel.x() == 272.0);
     QVERIFY(pixel.y() == 488.0);
-    drawOnce(renderer, 400, 1);
-    pixel = renderer.CoordinateTransformation(QPointF(0.3127, 0.3290));
+    geometry.setPicture(400, 1, marginPercent, range);
+    pixel = geometry.toPixel(QPointF(0.3127, 0.3290));
     QVERIFY(pixel.x() == 292.0);
     QVERIFY(pixel.y() == 468.0);
-    // The backward scales stay as well: the current point is where 800 x 800 has it from these rectangles.
-    renderer.MapPixelToReal(100, 30);
-    const QPointF back = renderer.CoordinateTransformation();
-    QVERIFY(std::fabs(back.x() - 104.0) < 1e-9);
-    QVERIFY(std::fabs(back.y() - 30.0) < 1e-9);
+    // The backward scales stay as well.
+    const QPointF back = geometry.toChroma(100, 30);
+    const QPointF forward = geometry.toExactPixel(back.x(), back.y());
+    QVERIFY(std::fabs(forward.x() - 104.0) < 1e-9);
+    QVERIFY(std::fabs(forward.y() - 30.0) < 1e-9);
 }
 
-void DiagramGeometryTest::atlasCoordinateBecomesTheCurrentPoint()
+void DiagramGeometryTest::exactPixelsAreNotTruncated()
 {
-    Renderer renderer(nullptr);
-    drawOnce(renderer, 800, 800);
-    CEIAtlasValue::CEIAtlasCoordinate coordinate;
-    coordinate.waveLength = 555;
-    coordinate.X = 0.5120501;
-    coordinate.Y = 1.0;
-    coordinate.Z = 0.005749999;
-    renderer.GetPointF(coordinate);
-    const QPointF pixel = renderer.CoordinateTransformation();
-    const double sum = coordinate.X + coordinate.Y + coordinate.Z;
-    const QPointF expected = mappingOf(800, 800).toPixel(QPointF(coordinate.X / sum, coordinate.Y / sum));
-    QVERIFY(pixel.x() == expected.x());
-    QVERIFY(pixel.y() == expected.y());
-    // x = 0.3373..., y = 0.6588... on 720 pixels
-    QVERIFY(std::fabs(pixel.x() - (44.5 + 0.3373 * 857.1429)) < 0.1);
-    QVERIFY(std::fabs(pixel.y() - (760.5 - 0.6589 * 765.9575)) < 0.1);
-}
-
-void DiagramGeometryTest::emptyAtlasCoordinateGivesNan()
-{
-    Renderer renderer(nullptr);
-    drawOnce(renderer, 800, 800);
-    renderer.GetPointF(CEIAtlasValue::CEIAtlasCoordinate());
-    const QPointF pixel = renderer.CoordinateTransformation();
-    QVERIFY(std::isnan(pixel.x()));
-    QVERIFY(std::isnan(pixel.y()));
-}
-
-void DiagramGeometryTest::currentPointMapsWithoutTruncation()
-{
-    Renderer renderer(nullptr);
+    DiagramGeometry geometry;
     for (const QSize &size : {QSize(800, 800), QSize(801, 333), QSize(97, 211)}) {
-        drawOnce(renderer, size.width(), size.height());
-        const reference::Mapping mapping = mappingOf(size.width(), size.height());
-        for (const CEIAtlasValue::CEIAtlasCoordinate &row : atlas().atlasCoordinates) {
-            renderer.GetPointF(row);
-            const QPointF pixel = renderer.CoordinateTransformation();
-            const double sum = row.X + row.Y + row.Z;
-            const QPointF expected = mapping.toPixel(QPointF(row.X / sum, row.Y / sum));
-            QVERIFY(pixel.x() == expected.x());
-            QVERIFY(pixel.y() == expected.y());
-            const QPointF whole = renderer.CoordinateTransformation(QPointF(row.X / sum, row.Y / sum));
-            QVERIFY(whole.x() == std::trunc(expected.x()));
-            QVERIFY(whole.y() == std::trunc(expected.y()));
+        geometry.setPicture(size.width(), size.height(), marginPercent, range);
+        reference::Mapping mapping;
+        mapping.setPicture(size.width(), size.height());
+        for (double x = -0.1; x < 1.0; x += 0.0371) {
+            const QPointF chroma(x, 0.9 - 1.1 * x);
+            const QPointF exact = geometry.toExactPixel(chroma.x(), chroma.y());
+            const QPointF expected = mapping.toPixel(chroma);
+            QVERIFY(exact.x() == expected.x() && exact.y() == expected.y());
+            const QPointF whole = geometry.toPixel(chroma);
+            const QPointF expectedWhole = mapping.toWholePixel(chroma);
+            QVERIFY(whole.x() == expectedWhole.x() && whole.y() == expectedWhole.y());
         }
     }
 }
 
 void DiagramGeometryTest::backwardMappingKeepsThePixelOffset()
 {
-    Renderer renderer(nullptr);
-    drawOnce(renderer, 800, 800);
-    const QPointF p(0.3127, 0.3290);
-    const QPointF pixel = renderer.CoordinateTransformation(p);
-    renderer.MapPixelToReal(static_cast<int>(pixel.x()), static_cast<int>(pixel.y()));
-    // Seen through the forward mapping, the current point lies four pixels to the right of its pixel.
-    const QPointF again = renderer.CoordinateTransformation();
-    QVERIFY(std::fabs(again.x() - (pixel.x() + 4)) < 1e-9);
-    QVERIFY(std::fabs(again.y() - pixel.y()) < 1e-9);
-
-    for (const QPoint &any : {QPoint(0, 0), QPoint(-5, 900), QPoint(799, 799)}) {
-        renderer.MapPixelToReal(any.x(), any.y());
-        const QPointF forward = renderer.CoordinateTransformation();
+    DiagramGeometry geometry;
+    geometry.setPicture(800, 800, marginPercent, range);
+    for (const QPointF &any : {QPointF(0, 0), QPointF(-5, 900), QPointF(799, 799), QPointF(0.25, 100.75)}) {
+        const QPointF chroma = geometry.toChroma(any.x(), any.y());
+        const QPointF forward = geometry.toExactPixel(chroma.x(), chroma.y());
         QVERIFY(std::fabs(forward.x() - (any.x() + 4)) < 1e-9);
         QVERIFY(std::fabs(forward.y() - any.y()) < 1e-9);
     }
 }
 
-void DiagramGeometryTest::thirdCoordinateIsLeftAlone()
-{
-    Renderer renderer(nullptr);
-    drawOnce(renderer, 800, 800);
-    reference::setCurrentPoint(renderer, {7.0, 8.0, 0.125});
-    renderer.MapPixelToReal(100, 30);
-    QVERIFY(reference::currentPoint(renderer).x < 1.0 && reference::currentPoint(renderer).y < 1.0);
-    QCOMPARE(reference::currentPoint(renderer).z, 0.125);
-    renderer.GetPointF(atlas().atlasCoordinates.at(555 - 360));
-    QVERIFY(std::fabs(reference::currentPoint(renderer).y - 0.6589) < 1e-3);
-    QCOMPARE(reference::currentPoint(renderer).z, 0.125);
-}
-
-void DiagramGeometryTest::offsetPoints()
-{
-    Renderer renderer(nullptr);
-    QVector<QPointF> points;
-    renderer.updateTriangleOffsetPoint(points);
-    QVERIFY(points.isEmpty());
-    points = {QPointF(0, 0), QPointF(-7.25, 3.5), QPointF(100, -1)};
-    renderer.updateTriangleOffsetPoint(points);
-    QCOMPARE(points.size(), 3);
-    QVERIFY(points.at(0).x() == 4.0);
-    QVERIFY(points.at(0).y() == 0.0);
-    QVERIFY(points.at(1).x() == -3.25);
-    QVERIFY(points.at(1).y() == 3.5);
-    QVERIFY(points.at(2).x() == 104.0);
-    QVERIFY(points.at(2).y() == -1.0);
-}
-
-QTEST_MAIN(DiagramGeometryTest)
+QTEST_APPLESS_MAIN(DiagramGeometryTest)
 #include "diagramgeometrytest.moc"

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/diagram/horseshoefill_p.h>
 #include <reference/plainrenderer.h>
-#include <reference/rendererstate.h>
 
 #include <QColor>
 #include <QImage>
@@ -23,7 +21,6 @@ private Q_SLOTS:
     void sameBytesInOtherFormats();
     void sameBytesForOtherColorSystems_data();
     void sameBytesForOtherColorSystems();
-    void gammaOfTheRenderer();
     void errorsStayWithinTheMargin();
     void mostPixelsAreDecidedAtOnce();
     void aBaselineKernelIsAlwaysThere();
@@ -44,12 +41,9 @@ struct Diagram {
 
 Diagram diagramOf(int width, int height)
 {
-    const QRectF plot(reference::mulDiv(width, 5, 100), reference::mulDiv(height, 5, 100),
-        reference::mulDiv(width, 95, 100), reference::mulDiv(height, 95, 100));
-    const QRectF chroma(0.0, 0.0, double(0.84F), double(0.94F));
     Diagram diagram;
-    diagram.mapping.set(plot, chroma);
-    diagram.geometry.set(plot, chroma);
+    diagram.mapping.setPicture(width, height);
+    diagram.geometry.set(diagram.mapping.plot, diagram.mapping.chroma);
     return diagram;
 }
 
@@ -187,22 +181,6 @@ void FillKernelsTest::sameBytesForOtherColorSystems()
     QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }
 
-void FillKernelsTest::gammaOfTheRenderer()
-{
-    const QSize size(157, 83);
-    const Diagram diagram = diagramOf(size.width(), size.height());
-    NewCEIE::DrawCEIPicture renderer(nullptr);
-    std::unique_ptr<QImage>(renderer.drawCEIPicture(size.width(), size.height(), false, false, false, {}));
-    for (const double gamma : {1.0, 2.2, 1.0009, 1.0011, 0.5}) {
-        reference::setGamma(renderer, gamma);
-        QImage actual = filled(size, QColor(23, 23, 26));
-        QImage expected = actual;
-        renderer.painterPixColor(&actual);
-        reference::fillPlain(expected, size.width(), size.height(), diagram.mapping, atlasColors, gamma);
-        QVERIFY2(actual == expected, qPrintable(QString::number(gamma)));
-    }
-}
-
 void FillKernelsTest::errorsStayWithinTheMargin()
 {
     // Without a margin a kernel errs; wherever it does, the exact channel lies within the margin of a boundary.
@@ -292,6 +270,6 @@ void FillKernelsTest::nothingToFill()
     QVERIFY(picture == before);
 }
 
-QTEST_MAIN(FillKernelsTest)
+QTEST_APPLESS_MAIN(FillKernelsTest)
 
 #include "fillkernelstest.moc"

@@ -5,6 +5,7 @@
 #include <reference/picturetestmain.h>
 #include <reference/plainrenderer.h>
 #include <reference/quietmessages.h>
+#include <reference/rendererstate.h>
 
 #include <QtTest>
 
@@ -98,6 +99,7 @@ private Q_SLOTS:
     void oneRedPixelRecolorsItself();
     void onlyRedCounts();
     void rowsDoNotInfluenceEachOther();
+    void gammaOfTheRenderer();
     void pictureOnePixelWideIsNeverColored();
     void noRowsWithoutHeight();
     void sizeIsTheRenderersNotTheImages();
@@ -222,6 +224,21 @@ void HorseshoeFillTest::rowsDoNotInfluenceEachOther()
     for (int x = 0; x < width; ++x) {
         QCOMPARE(picture.pixel(x, 1), 0U);
         QCOMPARE(picture.pixel(x, 2), x >= 20 && x <= 25 ? expectedColor(x, 2).rgba() : 0U);
+    }
+}
+
+void HorseshoeFillTest::gammaOfTheRenderer()
+{
+    Renderer renderer(nullptr);
+    drawOnce(renderer, width, height);
+    for (const double gamma : {1.0, 2.2, 1.0009, 1.0011, 0.5}) {
+        reference::setGamma(renderer, gamma);
+        QImage actual = transparentPicture();
+        actual.fill(QColor(23, 23, 26));
+        QImage expected = actual;
+        renderer.painterPixColor(&actual);
+        reference::fillPlain(expected, width, height, mappingOf(width, height), colorSystem(), gamma);
+        QVERIFY2(actual == expected, qPrintable(QString::number(gamma)));
     }
 }
 

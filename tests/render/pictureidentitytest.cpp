@@ -5,11 +5,11 @@
 #include <reference/picturetestmain.h>
 #include <reference/plainrenderer.h>
 #include <reference/quietmessages.h>
+#include <reference/repeatablerandom.h>
 
 #include <QtTest>
 
 #include <memory>
-#include <random>
 #include <vector>
 
 namespace {
@@ -28,31 +28,15 @@ const std::vector<QSize> &sizes()
     return all;
 }
 
-// The standard distributions differ between standard libraries, the engine does not.
-class Random {
+class Random : public reference::RepeatableRandom {
 public:
-    explicit Random(unsigned seed)
-        : m_engine(seed)
-    {
-    }
+    using RepeatableRandom::RepeatableRandom;
 
-    int between(int low, int high)
-    {
-        return low + static_cast<int>(m_engine() % static_cast<std::mt19937::result_type>(high - low + 1));
-    }
-    bool chance(int percent) { return between(1, 100) <= percent; }
-    double real(double low, double high)
-    {
-        return low + (high - low) * (static_cast<double>(m_engine()) / 4294967296.0);
-    }
     double coordinate(double low, double high)
     {
         const double value = real(low, high);
         return chance(50) ? std::floor(value) : value;
     }
-
-private:
-    std::mt19937 m_engine;
 };
 
 QColor randomColor(Random &random)

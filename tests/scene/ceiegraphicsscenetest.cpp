@@ -2,9 +2,10 @@
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/scene/ceiegraphicsscene.h>
 
-#include <reference/mouseitem.h>
+#include <reference/canvas.h>
 #include <reference/picturedifference.h>
 #include <reference/samplegamuts.h>
+#include <reference/sceneevents.h>
 #include <reference/scenemodel.h>
 #include <reference/scenesignalfacts.h>
 #include <reference/scenesignallog.h>
@@ -93,31 +94,6 @@ QPolygonF verticesIn(NewCEIE::DrawCEIPicture &renderer, const TrianglePoint &poi
     return polygon;
 }
 
-QImage canvasWith(const QSize &size, const Preparation &paint)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(200, 120, 160));
-    QPainter painter(&image);
-    paint(painter);
-    return image;
-}
-
-// The background as a view of the given size shows it.
-QImage backgroundOf(Scene &scene, const QSize &viewSize, const QSize &canvas)
-{
-    QGraphicsView view(&scene);
-    view.resize(viewSize);
-    return canvasWith(canvas, [&](QPainter &painter) { scene.drawBackground(&painter, QRectF()); });
-}
-
-QImage painted(const QImage &picture, const QRectF &target, const QSize &canvas)
-{
-    return canvasWith(canvas, [&](QPainter &painter) {
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        painter.drawImage(target, picture, QRectF(0, 0, picture.width(), picture.height()));
-    });
-}
-
 } // namespace
 
 class CEIEGraphicsSceneTest : public QObject {
@@ -154,7 +130,11 @@ private Q_SLOTS:
     void enablingPrimariesSetsTheEditMode();
     void setTargetItemVisableHasNoEffect();
     void mouseHandlersAreEmpty();
-    void itemsGetNoMouseEvents();
+    void itemsGetNoMouseEvents()
+    {
+        Scene scene({});
+        reference::verifyItemsGetNoMouseEvents(scene);
+    }
     void simpleFormFollowsTheLayerFlags();
     void backgroundFollowsTheView_data();
     void backgroundFollowsTheView();
@@ -535,10 +515,11 @@ void CEIEGraphicsSceneTest::setTargetItemVisableHasNoEffect()
     scene.setImageWidth(100);
     scene.setImageHeight(100);
     SignalLog log(&scene);
-    const QImage before = backgroundOf(scene, QSize(672, 728), QSize(672, 728));
+    const QImage before = reference::backgroundOf(scene, QSize(672, 728), QSize(672, 728));
     scene.setTargetItemVisable(false);
     QCOMPARE(describe(scene.getLsColorTriangleObject()), describe(reference::gamutPair()));
-    QCOMPARE(reference::firstDifference(backgroundOf(scene, QSize(672, 728), QSize(672, 728)), before), QString());
+    QCOMPARE(reference::firstDifference(reference::backgroundOf(scene, QSize(672, 728), QSize(672, 728)), before),
+        QString());
     QVERIFY(log.takeSignals().isEmpty());
 }
 
@@ -568,23 +549,6 @@ void CEIEGraphicsSceneTest::mouseHandlersAreEmpty()
     QCOMPARE(describe(scene.getLsColorTriangleObject()), describe(reference::gamutPair()));
 }
 
-// The handlers of QGraphicsScene, which would hand the events on to items, are not called.
-void CEIEGraphicsSceneTest::itemsGetNoMouseEvents()
-{
-    Scene scene({});
-    auto *item = new reference::MouseItem(QRectF(0, 0, 300, 300));
-    scene.addItem(item);
-    item->grabMouse();
-    for (const QEvent::Type type :
-        {QEvent::GraphicsSceneMousePress, QEvent::GraphicsSceneMouseMove, QEvent::GraphicsSceneMouseRelease}) {
-        QGraphicsSceneMouseEvent event(type);
-        event.setScenePos(QPointF(100, 100));
-        event.setButton(Qt::LeftButton);
-        QCoreApplication::sendEvent(&scene, &event);
-    }
-    QCOMPARE(item->events, 0);
-}
-
 void CEIEGraphicsSceneTest::simpleFormFollowsTheLayerFlags()
 {
     for (const bool coordinate : {true, false}) {
@@ -598,8 +562,8 @@ void CEIEGraphicsSceneTest::simpleFormFollowsTheLayerFlags()
         NewCEIE::DrawCEIPicture renderer(nullptr);
         renderer.setGraphColor(Qt::yellow, QColor(0, 40, 80));
         const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(200, 220, coordinate, coordinate, true, {}));
-        QCOMPARE(reference::firstDifference(backgroundOf(scene, QSize(672, 728), QSize(672, 728)),
-                     painted(*picture, QRectF(0, 0, 672, 728), QSize(672, 728))),
+        QCOMPARE(reference::firstDifference(reference::backgroundOf(scene, QSize(672, 728), QSize(672, 728)),
+                     reference::shownPicture(*picture, QRectF(0, 0, 672, 728), QSize(672, 728))),
             QString());
     }
 }
@@ -625,8 +589,9 @@ void CEIEGraphicsSceneTest::backgroundFollowsTheView()
     NewCEIE::DrawCEIPicture renderer(nullptr);
     const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(160, 120, true, true, true, {}));
     const QSize canvas(760, 860);
-    QCOMPARE(
-        reference::firstDifference(backgroundOf(scene, view, canvas), painted(*picture, target, canvas)), QString());
+    QCOMPARE(reference::firstDifference(
+                 reference::backgroundOf(scene, view, canvas), reference::shownPicture(*picture, target, canvas)),
+        QString());
 }
 
 void CEIEGraphicsSceneTest::backgroundGoesByTheFirstView()
@@ -641,8 +606,10 @@ void CEIEGraphicsSceneTest::backgroundGoesByTheFirstView()
     QGraphicsView last(&scene);
     last.resize(700, 800);
     const QSize canvas(720, 820);
-    const QImage actual = canvasWith(canvas, [&](QPainter &painter) { scene.drawBackground(&painter, QRectF()); });
-    QCOMPARE(reference::firstDifference(actual, painted(*picture, QRectF(82, 0, 336, 364), canvas)), QString());
+    const QImage actual
+        = reference::canvas(canvas, [&](QPainter &painter) { scene.drawBackground(&painter, QRectF()); });
+    QCOMPARE(reference::firstDifference(actual, reference::shownPicture(*picture, QRectF(82, 0, 336, 364), canvas)),
+        QString());
 }
 
 void CEIEGraphicsSceneTest::backgroundOfAMovedSceneRectangle()
@@ -654,8 +621,8 @@ void CEIEGraphicsSceneTest::backgroundOfAMovedSceneRectangle()
     NewCEIE::DrawCEIPicture renderer(nullptr);
     const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(160, 120, true, true, true, {}));
     const QSize canvas(500, 600);
-    QCOMPARE(reference::firstDifference(
-                 backgroundOf(scene, QSize(340, 402), canvas), painted(*picture, QRectF(30, 21, 300, 400), canvas)),
+    QCOMPARE(reference::firstDifference(reference::backgroundOf(scene, QSize(340, 402), canvas),
+                 reference::shownPicture(*picture, QRectF(30, 21, 300, 400), canvas)),
         QString());
 }
 
@@ -697,13 +664,13 @@ void CEIEGraphicsSceneTest::backgroundIsTheSameForAnyPainter()
         NewCEIE::DrawCEIPicture renderer(nullptr);
         const std::unique_ptr<QImage> picture(
             renderer.drawCEIPicture(size.width(), size.height(), true, true, true, {}));
-        const QImage expected = canvasWith(canvas, [&](QPainter &painter) {
+        const QImage expected = reference::canvas(canvas, [&](QPainter &painter) {
             prepare(painter);
             painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
             painter.drawImage(QRectF(32, 0, 336, 364), *picture, QRectF(QPointF(0, 0), size));
         });
         for (const bool prepared : {true, false, true, true}) {
-            const QImage actual = canvasWith(canvas, [&](QPainter &painter) {
+            const QImage actual = reference::canvas(canvas, [&](QPainter &painter) {
                 if (prepared) {
                     prepare(painter);
                 }
@@ -728,13 +695,13 @@ void CEIEGraphicsSceneTest::backgroundFollowsTheNewestPicture()
         scene.getBitMap();
         renderer.setGraphColor(Qt::yellow, color);
         const std::unique_ptr<QImage> simple(renderer.drawCEIPicture(160, 120, true, true, true, {}));
-        QCOMPARE(reference::firstDifference(
-                     backgroundOf(scene, canvas, canvas), painted(*simple, QRectF(32, 0, 336, 364), canvas)),
+        QCOMPARE(reference::firstDifference(reference::backgroundOf(scene, canvas, canvas),
+                     reference::shownPicture(*simple, QRectF(32, 0, 336, 364), canvas)),
             QString());
         scene.setLsColorTriangleObject({}, {}, TrianglePoint(), TrianglePoint(), true, QString());
         const std::unique_ptr<QImage> gamut(renderer.drawCEIPicture(160, 120, true, {}, {}, QPolygonF(), true, {}));
-        QCOMPARE(reference::firstDifference(
-                     backgroundOf(scene, canvas, canvas), painted(*gamut, QRectF(32, 0, 336, 364), canvas)),
+        QCOMPARE(reference::firstDifference(reference::backgroundOf(scene, canvas, canvas),
+                     reference::shownPicture(*gamut, QRectF(32, 0, 336, 364), canvas)),
             QString());
     }
 }
@@ -827,8 +794,8 @@ void CEIEGraphicsSceneTest::gamutFormGetsEverything()
     const std::unique_ptr<QImage> picture(
         renderer.drawCEIPicture(300, 280, true, triangles, {standard}, common, true, text));
     const QSize canvas(672, 728);
-    QCOMPARE(reference::firstDifference(
-                 backgroundOf(scene, canvas, canvas), painted(*picture, QRectF(0, 0, 672, 728), canvas)),
+    QCOMPARE(reference::firstDifference(reference::backgroundOf(scene, canvas, canvas),
+                 reference::shownPicture(*picture, QRectF(0, 0, 672, 728), canvas)),
         QString());
 }
 
@@ -848,8 +815,8 @@ void CEIEGraphicsSceneTest::gamutFormMapsBeforeItDraws()
     const std::unique_ptr<QImage> picture(
         renderer.drawCEIPicture(672, 728, true, reference::gamutPair(), {}, common, true, QString()));
     const QSize canvas(672, 728);
-    QCOMPARE(reference::firstDifference(
-                 backgroundOf(scene, canvas, canvas), painted(*picture, QRectF(0, 0, 672, 728), canvas)),
+    QCOMPARE(reference::firstDifference(reference::backgroundOf(scene, canvas, canvas),
+                 reference::shownPicture(*picture, QRectF(0, 0, 672, 728), canvas)),
         QString());
 }
 
@@ -976,9 +943,9 @@ void CEIEGraphicsSceneTest::renderingHandsOverNoColorTemperaturePoints()
         renderer.setPointData(vertices);
         const std::unique_ptr<QImage> picture(
             renderer.drawCEIPicture(300, 280, true, triangles, {}, QPolygonF(), true, QString()));
-        return painted(*picture, QRectF(0, 0, 672, 728), canvas);
+        return reference::shownPicture(*picture, QRectF(0, 0, 672, 728), canvas);
     };
-    const QImage shown = backgroundOf(scene, canvas, canvas);
+    const QImage shown = reference::backgroundOf(scene, canvas, canvas);
     QCOMPARE(reference::firstDifference(shown, expected({})), QString());
     QVERIFY(!reference::firstDifference(shown, expected(points)).isEmpty());
 }
@@ -1001,8 +968,8 @@ void CEIEGraphicsSceneTest::emptyTargetHasNoVertexRectangles()
     delete renderer.drawCEIPicture(300, 280, true, true, true, {});
     const std::unique_ptr<QImage> picture(
         renderer.drawCEIPicture(300, 280, true, triangles, {}, QPolygonF(), true, QString()));
-    QCOMPARE(reference::firstDifference(
-                 backgroundOf(scene, canvas, canvas), painted(*picture, QRectF(0, 0, 672, 728), canvas)),
+    QCOMPARE(reference::firstDifference(reference::backgroundOf(scene, canvas, canvas),
+                 reference::shownPicture(*picture, QRectF(0, 0, 672, 728), canvas)),
         QString());
 }
 

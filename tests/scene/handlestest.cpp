@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/scene/ceiegraphicsscene.h>
 
+#include <reference/canvas.h>
 #include <reference/picturedifference.h>
 #include <reference/samplegamuts.h>
 #include <reference/scenemodel.h>
@@ -52,11 +53,7 @@ struct Bench {
 
 QImage canvas(const std::function<void(QPainter &)> &paint)
 {
-    QImage image(260, 260, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::darkCyan);
-    QPainter painter(&image);
-    paint(painter);
-    return image;
+    return reference::canvas(QSize(260, 260), paint, Qt::darkCyan);
 }
 
 // A handle as painted over a pen: circle and cross at a scene position.

@@ -2,11 +2,11 @@
 #include <ceiechart/scene/ceiegraphicsscene.h>
 
 #include <reference/samplegamuts.h>
+#include <reference/sceneevents.h>
 #include <reference/scenemodel.h>
 #include <reference/scenesignallog.h>
 #include <reference/scenestate.h>
 
-#include <QKeyEvent>
 #include <QtTest>
 
 using reference::describe;
@@ -43,11 +43,7 @@ struct Bench {
         log.takeUpdate();
     }
 
-    void send(QEvent::Type type, int key, bool autoRepeat = false)
-    {
-        QKeyEvent event(type, key, Qt::NoModifier, QString(), autoRepeat);
-        QCoreApplication::sendEvent(&scene, &event);
-    }
+    void send(QEvent::Type type, int key, bool autoRepeat = false) { reference::sendKey(scene, type, key, autoRepeat); }
 
     // How far a press moves the current point, in x and y.
     QPointF moved(int key)
@@ -91,7 +87,11 @@ private Q_SLOTS:
     void spaceReleaseUpdates();
     void refusedMoveIsForgottenAtRelease();
     void refusedMoveLeavesTheHandle();
-    void eventsKeepTheirAcceptance();
+    void eventsKeepTheirAcceptance()
+    {
+        Bench bench;
+        reference::verifyKeyEventsKeepTheirAcceptance(bench.scene);
+    }
     void zoomInStopsPastItsLimit();
     void zoomOutHasNoFloor();
     void functionModes_data();
@@ -360,23 +360,6 @@ void KeyboardTest::refusedMoveLeavesTheHandle()
     QVERIFY(bench.log.takeSignals().isEmpty());
     QCOMPARE(describe(bench.scene.getLsColorTriangleObject()), before);
     QCOMPARE(describe(stateOf(bench.scene).current), describe(current));
-}
-
-// Neither accepted nor ignored, and not handed on to the base, which would ignore them.
-void KeyboardTest::eventsKeepTheirAcceptance()
-{
-    Bench bench;
-    bench.pick();
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        for (const int key : {int(Qt::Key_Left), int(Qt::Key_Space), int(Qt::Key_A)}) {
-            for (const bool accepted : {true, false}) {
-                QKeyEvent event(type, key, Qt::NoModifier);
-                event.setAccepted(accepted);
-                QCoreApplication::sendEvent(&bench.scene, &event);
-                QCOMPARE(event.isAccepted(), accepted);
-            }
-        }
-    }
 }
 
 void KeyboardTest::zoomInStopsPastItsLimit()

@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+#include <array>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -15,8 +16,18 @@ class LuminanceBalanceTest : public QObject {
 
 private Q_SLOTS:
     void mixesTheWhite();
-    void targetLikeTheOriginalKeepsItsLuminances();
-    void lowersInStepsOfTen();
+    void equalTargetStopsAtOnce_data();
+    void equalTargetStopsAtOnce();
+    void unreachableWhiteFallsInStepsOfTen_data();
+    void unreachableWhiteFallsInStepsOfTen();
+    void noPrimaryMayBeNegative_data();
+    void noPrimaryMayBeNegative();
+    void reducedWhiteStopsWhereTheOriginalCanDeliver();
+    void startsFromTheWhiteOfTheOriginal();
+    void eachLimitCounts_data();
+    void eachLimitCounts();
+    void limitsHaveARelativeTolerance_data();
+    void limitsHaveARelativeTolerance();
     void findsTheEndOfThePlainLoop();
     void absurdLuminancesEnd_data();
     void absurdLuminancesEnd();
@@ -44,22 +55,72 @@ TrianglePoint rec709(double y)
     return gamut({0.64, 0.33}, {0.30, 0.60}, {0.15, 0.06}, y);
 }
 
+struct Luminances {
+    double red = 0.0;
+    double green = 0.0;
+    double blue = 0.0;
+};
+
+Luminances luminancesFor(const TrianglePoint &points, double white)
+{
+    Luminances found;
+    ChromaSets::RGBCxCyFromWhiteCxCy(found.red, points.redPos().x(), points.redPos().y(), found.green,
+        points.greenPos().x(), points.greenPos().y(), found.blue, points.bluePos().x(), points.bluePos().y(), white,
+        points.whitePos().x(), points.whitePos().y());
+    return found;
+}
+
+struct White {
+    double luminance = 0.0;
+    double x = 0.0;
+    double y = 0.0;
+};
+
+White whiteOf(const TrianglePoint &points)
+{
+    White white;
+    ChromaSets::rgbCxCyToWhiteCxCy(points.redLum(), points.redPos().x(), points.redPos().y(), points.greenLum(),
+        points.greenPos().x(), points.greenPos().y(), points.blueLum(), points.bluePos().x(), points.bluePos().y(),
+        white.luminance, white.x, white.y);
+    return white;
+}
+
+struct Pair {
+    TrianglePoint original;
+    TrianglePoint target;
+};
+
+// Of the same primaries; the target's white is theirs, or lies outside of them.
+Pair equalPair(const std::array<double, 3> &luminances, bool whiteInReach)
+{
+    TrianglePoint points;
+    points.setRedPos(QPointF(0.708, 0.292));
+    points.setGreenPos(QPointF(0.170, 0.797));
+    points.setBluePos(QPointF(0.131, 0.046));
+    points.setRedLum(luminances[0]);
+    points.setGreenLum(luminances[1]);
+    points.setBlueLum(luminances[2]);
+    Pair pair{points, points};
+    const White white = whiteOf(points);
+    pair.target.setWhitePos(whiteInReach ? QPointF(white.x, white.y) : QPointF(0.6, 0.6));
+    return pair;
+}
+
+TrianglePoint balanced(const Pair &pair)
+{
+    TrianglePoint target = pair.target;
+    ceiechart::balanceHeldWhite(target, pair.original);
+    return target;
+}
+
 // One step after the other. The limits have the same allowance for rounding.
 void balancePlainly(TrianglePoint &t, const TrianglePoint &o)
 {
     const auto beyond
         = [](double luminance, double limit) { return luminance < 0 || luminance > limit + std::fabs(limit) * 1e-9; };
-    double start = 0.0;
-    double x = 0.0;
-    double y = 0.0;
-    ChromaSets::rgbCxCyToWhiteCxCy(o.redLum(), o.redPos().x(), o.redPos().y(), o.greenLum(), o.greenPos().x(),
-        o.greenPos().y(), o.blueLum(), o.bluePos().x(), o.bluePos().y(), start, x, y);
+    const double start = whiteOf(o).luminance;
     for (double white = start;; white -= 10.0) {
-        double red = 0.0;
-        double green = 0.0;
-        double blue = 0.0;
-        ChromaSets::RGBCxCyFromWhiteCxCy(red, t.redPos().x(), t.redPos().y(), green, t.greenPos().x(), t.greenPos().y(),
-            blue, t.bluePos().x(), t.bluePos().y(), white, t.whitePos().x(), t.whitePos().y());
+        const auto [red, green, blue] = luminancesFor(t, white);
         t.setRedLum(red);
         t.setGreenLum(green);
         t.setBlueLum(blue);
@@ -80,33 +141,146 @@ void LuminanceBalanceTest::mixesTheWhite()
     QVERIFY(qAbs(points.whitePos().y() - 0.3290) < 1e-4);
 }
 
-void LuminanceBalanceTest::targetLikeTheOriginalKeepsItsLuminances()
+void LuminanceBalanceTest::equalTargetStopsAtOnce_data()
 {
-    const TrianglePoint original = rec709(1000);
-    TrianglePoint target = original;
-    ceiechart::balanceHeldWhite(target, original);
-    QVERIFY(qAbs(target.redLum() - original.redLum()) < 1e-6);
-    QVERIFY(qAbs(target.greenLum() - original.greenLum()) < 1e-6);
-    QVERIFY(qAbs(target.blueLum() - original.blueLum()) < 1e-6);
-    QCOMPARE(target.whitePos(), original.whitePos());
+    QTest::addColumn<double>("red");
+    QTest::addColumn<double>("green");
+    QTest::addColumn<double>("blue");
+    for (const double scale : {0.01, 1.0, 3.7, 1e6, 1e18}) {
+        QTest::newRow(qPrintable(QString::number(scale))) << 31.0 * scale << 62.0 * scale << 7.0 * scale;
+    }
+    QTest::newRow("hardly any red") << 0.005 << 70.0 << 20.0;
+    QTest::newRow("hardly any green") << 20.0 << 0.005 << 70.0;
+    QTest::newRow("hardly any blue") << 20.0 << 70.0 << 0.005;
 }
 
-void LuminanceBalanceTest::lowersInStepsOfTen()
+void LuminanceBalanceTest::equalTargetStopsAtOnce()
 {
-    const TrianglePoint original = rec709(1000);
-    TrianglePoint target = original;
-    target.setGreenPos(QPointF(0.31, 0.55));
-    const QPointF white = target.whitePos();
-    ceiechart::balanceHeldWhite(target, original);
-    QCOMPARE(target.whitePos(), white);
-    QVERIFY(target.whiteLum() < 1000);
-    const double steps = (original.whiteLum() - target.whiteLum()) / 10;
-    QVERIFY(qAbs(steps - std::round(steps)) < 1e-9);
-    QVERIFY(target.greenLum() <= original.greenLum() * (1 + 1e-9));
-    // The step before was too much.
-    QVERIFY(target.greenLum() * (target.whiteLum() + 10) / target.whiteLum() > original.greenLum()
-        || target.redLum() * (target.whiteLum() + 10) / target.whiteLum() > original.redLum()
-        || target.blueLum() * (target.whiteLum() + 10) / target.whiteLum() > original.blueLum());
+    QFETCH(double, red);
+    QFETCH(double, green);
+    QFETCH(double, blue);
+    const Pair pair = equalPair({red, green, blue}, true);
+    const TrianglePoint points = balanced(pair);
+    const double white = whiteOf(pair.original).luminance;
+    QVERIFY(points.whiteLum() == white);
+    const Luminances expected = luminancesFor(pair.target, white);
+    QVERIFY(points.redLum() == expected.red);
+    QVERIFY(points.greenLum() == expected.green);
+    QVERIFY(points.blueLum() == expected.blue);
+}
+
+void LuminanceBalanceTest::unreachableWhiteFallsInStepsOfTen_data()
+{
+    QTest::addColumn<double>("start");
+    QTest::addColumn<double>("end");
+    QTest::newRow("35 ends at 5") << 35.0 << 5.0;
+    QTest::newRow("just above 10") << 10.5 << 0.5;
+    QTest::newRow("10 is not below 10") << 10.0 << 0.0;
+    QTest::newRow("below 10 stays") << 9.5 << 9.5;
+    QTest::newRow("30 ends where nothing is asked for") << 30.0 << 0.0;
+    QTest::newRow("a thousand") << 1000.25 << 0.25;
+}
+
+void LuminanceBalanceTest::unreachableWhiteFallsInStepsOfTen()
+{
+    QFETCH(double, start);
+    QFETCH(double, end);
+    const TrianglePoint points = balanced(equalPair({start / 4, start / 2, start / 4}, false));
+    QVERIFY(points.whiteLum() == end);
+    const Luminances expected = luminancesFor(points, end);
+    QVERIFY(points.redLum() == expected.red);
+    QVERIFY(points.blueLum() == expected.blue);
+    QVERIFY(points.blueLum() < 0.0 || end == 0.0);
+}
+
+void LuminanceBalanceTest::noPrimaryMayBeNegative_data()
+{
+    QTest::addColumn<QPointF>("white");
+    QTest::newRow("red") << QPointF(0.05, 0.3);
+    QTest::newRow("green") << QPointF(0.4, 0.05);
+    QTest::newRow("blue") << QPointF(0.6, 0.6);
+}
+
+// However low the white, one primary stays negative, while the others soon are within their limits.
+void LuminanceBalanceTest::noPrimaryMayBeNegative()
+{
+    QFETCH(QPointF, white);
+    Pair pair = equalPair({100.0, 300.0, 50.0}, true);
+    pair.target.setWhitePos(white);
+    const Luminances within = luminancesFor(pair.target, 10.0);
+    QVERIFY(within.red <= 100.0 && within.green <= 300.0 && within.blue <= 50.0);
+    QCOMPARE(int(within.red < 0.0) + int(within.green < 0.0) + int(within.blue < 0.0), 1);
+    QVERIFY(balanced(pair).whiteLum() == 0.0);
+}
+
+// With green half as strong as the target's white needs, the white stops at the first step that green can deliver.
+void LuminanceBalanceTest::reducedWhiteStopsWhereTheOriginalCanDeliver()
+{
+    Pair pair = equalPair({262.7, 678.0, 59.3}, true);
+    pair.original.setGreenLum(339.0);
+    const TrianglePoint points = balanced(pair);
+    QVERIFY(points.whiteLum() == 661.0 - 10.0 * 17);
+    QVERIFY(points.greenLum() <= 339.0);
+    QVERIFY(luminancesFor(points, points.whiteLum() + 10.0).green > 339.0);
+}
+
+void LuminanceBalanceTest::startsFromTheWhiteOfTheOriginal()
+{
+    Pair pair = equalPair({20.0, 70.0, 10.0}, true);
+    pair.original.setWhiteLum(12345.0); // not read
+    pair.target.setWhiteLum(54321.0);
+    pair.target.setRedLum(1.0);
+    pair.target.setGreenLum(1.0);
+    pair.target.setBlueLum(1.0);
+    QVERIFY(balanced(pair).whiteLum() == 100.0);
+}
+
+void LuminanceBalanceTest::eachLimitCounts_data()
+{
+    QTest::addColumn<int>("primary");
+    QTest::newRow("red") << 0;
+    QTest::newRow("green") << 1;
+    QTest::newRow("blue") << 2;
+}
+
+// A white a little on the side of one primary asks more of that primary than the original has.
+void LuminanceBalanceTest::eachLimitCounts()
+{
+    QFETCH(int, primary);
+    Pair pair = equalPair({100.0, 300.0, 50.0}, true);
+    TrianglePoint more(pair.target);
+    more.setRedLum(primary == 0 ? 101.0 : 100.0);
+    more.setGreenLum(primary == 1 ? 303.0 : 300.0);
+    more.setBlueLum(primary == 2 ? 50.5 : 50.0);
+    const White white = whiteOf(more);
+    pair.target.setWhitePos(QPointF(white.x, white.y));
+    QVERIFY(balanced(pair).whiteLum() == 440.0);
+}
+
+void LuminanceBalanceTest::limitsHaveARelativeTolerance_data()
+{
+    QTest::addColumn<double>("excess");
+    QTest::addColumn<bool>("stopsAtOnce");
+    QTest::newRow("within") << 0.8e-9 << true;
+    QTest::newRow("beyond") << 1.2e-9 << false;
+    QTest::newRow("far beyond") << 1e-7 << false;
+}
+
+// The white is asked to be so much on the red side that red exceeds the original's by a given fraction.
+void LuminanceBalanceTest::limitsHaveARelativeTolerance()
+{
+    QFETCH(double, excess);
+    QFETCH(bool, stopsAtOnce);
+    for (const double scale : {0.2, 1.0, 5000.0}) {
+        Pair pair = equalPair({100.0 * scale, 300.0 * scale, 50.0 * scale}, true);
+        TrianglePoint more(pair.target);
+        more.setRedLum(100.0 * scale * (1.0 + excess * 450.0 / 350.0)); // the white's luminance stays the same
+        const White white = whiteOf(more);
+        pair.target.setWhitePos(QPointF(white.x, white.y));
+        const Luminances first = luminancesFor(pair.target, 450.0 * scale);
+        QVERIFY(qAbs((first.red / (100.0 * scale) - 1.0) / excess - 1.0) < 0.01);
+        QVERIFY(balanced(pair).whiteLum() == (stopsAtOnce ? 450.0 * scale : 450.0 * scale - 10.0));
+    }
 }
 
 void LuminanceBalanceTest::findsTheEndOfThePlainLoop()

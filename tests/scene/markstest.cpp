@@ -2,11 +2,12 @@
 #include <ceiechart/atlas/chromasets.h>
 #include <ceiechart/legacy/ceiegraphicsscene.h>
 
+#include <reference/canvas.h>
+#include <reference/picturedifference.h>
 #include <reference/samplegamuts.h>
+#include <reference/sceneevents.h>
 #include <reference/scenestate.h>
 
-#include <QGraphicsSceneMouseEvent>
-#include <QGraphicsView>
 #include <QHash>
 #include <QPainter>
 #include <QSignalSpy>
@@ -49,21 +50,15 @@ struct Bench {
     void click(const QPointF &position)
     {
         for (const auto type : {QEvent::GraphicsSceneMousePress, QEvent::GraphicsSceneMouseRelease}) {
-            QGraphicsSceneMouseEvent event(type);
-            event.setScenePos(position);
-            event.setButton(Qt::LeftButton);
-            QCoreApplication::sendEvent(&scene, &event);
+            reference::sendMouse(scene, type, position, Qt::LeftButton);
         }
     }
 };
 
 QImage painted(const QColor &background, const std::function<void(QPainter *)> &paint, int width = side)
 {
-    QImage image(width, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(background);
-    QPainter painter(&image);
-    paint(&painter);
-    return image;
+    return reference::canvas(
+        QSize(width, side), [&paint](QPainter &painter) { paint(&painter); }, background);
 }
 
 QImage label(Scene &scene, const QColor &background = Qt::magenta, int width = side)
@@ -72,35 +67,11 @@ QImage label(Scene &scene, const QColor &background = Qt::magenta, int width = s
         background, [&scene](QPainter *painter) { scene.DrawEllipseSignPosition(painter); }, width);
 }
 
-QImage background(Scene &scene)
-{
-    QGraphicsView view(&scene);
-    view.resize(int(scene.width()), int(scene.height()));
-    QImage image(view.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::magenta);
-    QPainter painter(&image);
-    scene.drawBackground(&painter, QRectF());
-    return image;
-}
-
-QRect changed(const QImage &one, const QImage &other)
-{
-    QRect place;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            if (one.pixel(x, y) != other.pixel(x, y)) {
-                place |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return place;
-}
-
 QRect paintedPart(const QImage &image, const QColor &background = Qt::magenta)
 {
     QImage blank(image.size(), image.format());
     blank.fill(background);
-    return changed(image, blank);
+    return reference::changedPixels(image, blank);
 }
 
 // WCAG 2.1, relative luminance and contrast ratio
@@ -189,9 +160,9 @@ void MarksTest::backgroundShowsTheLabel()
     Bench bench(withRed(QPointF(0.4, 0.33))); // with the label on the horseshoe
     reference::selectVertex(bench.scene, LegacyColorAreaRed);
     const QRect place = paintedPart(label(bench.scene));
-    const QImage with = background(bench.scene);
+    const QImage with = reference::backgroundOf(bench.scene);
     reference::selectVertex(bench.scene, LegacyColorAreaNone);
-    const QRect difference = changed(with, background(bench.scene));
+    const QRect difference = reference::changedPixels(with, reference::backgroundOf(bench.scene));
     // Nearly: the box is the colour of the picture where its rim is faint.
     QVERIFY(difference.contains(place.adjusted(2, 2, -2, -2)));
 }
@@ -256,7 +227,7 @@ void MarksTest::labelLeavesTheHandleFree()
         const QRect around(centre.toPoint() - QPoint(reach, reach), QSize(2 * reach + 1, 2 * reach + 1));
         QImage blank = handle.copy(around);
         blank.fill(Qt::magenta);
-        const QRect drawn = changed(handle.copy(around), blank).translated(around.topLeft());
+        const QRect drawn = reference::changedPixels(handle.copy(around), blank).translated(around.topLeft());
         QVERIFY(!place.isEmpty());
         QVERIFY(drawn.width() >= static_cast<int>(12.0F * zoom));
         QVERIFY(!place.intersects(drawn));
@@ -311,7 +282,7 @@ void MarksTest::labelIsLegible()
 void MarksTest::magnifierOnlyWhenAsked()
 {
     Bench bench;
-    const QImage without = background(bench.scene);
+    const QImage without = reference::backgroundOf(bench.scene);
     bool drawn = true;
     const QImage untouched
         = painted(Qt::magenta, [&](QPainter *painter) { drawn = bench.scene.IsMagnifyEllispse(painter); });
@@ -319,7 +290,7 @@ void MarksTest::magnifierOnlyWhenAsked()
     QVERIFY(paintedPart(untouched).isEmpty());
 
     reference::setMagnifier(bench.scene, true);
-    const QRect lens = changed(background(bench.scene), without);
+    const QRect lens = reference::changedPixels(reference::backgroundOf(bench.scene), without);
     QVERIFY(lens.width() > 60 && lens.height() > 60);
     QVERIFY(QRect(0, 0, side, side).contains(lens));
     // It covers neither the handle nor what is around it.
@@ -327,7 +298,7 @@ void MarksTest::magnifierOnlyWhenAsked()
     QVERIFY(std::hypot(lens.center().x() - handle.x(), lens.center().y() - handle.y()) > lens.width() / 2.0 + 6);
 
     reference::setMagnifier(bench.scene, false);
-    QVERIFY(changed(background(bench.scene), without).isEmpty());
+    QVERIFY(reference::changedPixels(reference::backgroundOf(bench.scene), without).isEmpty());
 }
 
 void MarksTest::magnifierShowsWhatIsUnderTheWhite()
@@ -335,9 +306,9 @@ void MarksTest::magnifierShowsWhatIsUnderTheWhite()
     Bench bench;
     const QImage picture = [] {
         Bench empty(QList<ColorTriangleObject>{});
-        return background(empty.scene);
+        return reference::backgroundOf(empty.scene);
     }();
-    background(bench.scene);
+    reference::backgroundOf(bench.scene);
     reference::setMagnifier(bench.scene, true);
     const QImage lens = painted(Qt::magenta, [&bench](QPainter *painter) { bench.scene.IsMagnifyEllispse(painter); });
     const QPoint centre = paintedPart(lens).center();
@@ -355,7 +326,7 @@ void MarksTest::otherPointsInTheirColors()
     Bench bench;
     bench.scene.setOtherPoints(points, colors);
     const QImage marks = painted(Qt::magenta, [&bench](QPainter *painter) { bench.scene.DrawOtherPoint(painter); });
-    const QImage shown = background(bench.scene);
+    const QImage shown = reference::backgroundOf(bench.scene);
     for (int i = 0; i < points.size(); ++i) {
         const QPoint centre = bench.handle(points.at(i)).toPoint();
         QCOMPARE(marks.pixelColor(centre), colors.at(i));
@@ -426,7 +397,7 @@ void MarksTest::noTargetNoMarks()
     Bench bench(reference::gamutPair().mid(0, 1));
     reference::setMagnifier(bench.scene, true);
     reference::selectVertex(bench.scene, LegacyColorAreaRed);
-    background(bench.scene);
+    reference::backgroundOf(bench.scene);
     QSignalSpy temperature(&bench.scene, &Scene::signal_colorTempertrueValueChang);
     const QImage marks = painted(Qt::magenta, [&bench](QPainter *painter) {
         bench.scene.DrawEllipseSignPosition(painter);

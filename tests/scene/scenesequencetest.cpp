@@ -3,7 +3,6 @@
 
 #include <reference/scenetwins.h>
 
-#include <QGraphicsSceneMouseEvent>
 #include <QtTest>
 
 #include <cmath>
@@ -42,7 +41,7 @@ private:
 
 bool Twins::act()
 {
-    switch (m_random.bounded(21)) {
+    switch (m_random.bounded(22)) {
     case 0:
         setImageSize();
         break;
@@ -92,9 +91,10 @@ bool Twins::act()
         useMouse();
         break;
     case 16:
+    case 17:
         setMode();
         break;
-    case 17:
+    case 18:
         drawHandles();
         break;
     default:
@@ -305,11 +305,7 @@ void Twins::useMouse()
     const auto type = oneOf<QEvent::Type>(
         {QEvent::GraphicsSceneMousePress, QEvent::GraphicsSceneMouseMove, QEvent::GraphicsSceneMouseRelease});
     note(QStringLiteral("mouse event %1").arg(type));
-    QGraphicsSceneMouseEvent event(type);
-    event.setScenePos(reference::randomPoint(m_random, QRectF(0, 0, 80, 80)));
-    event.setButton(Qt::LeftButton);
-    event.setButtons(Qt::LeftButton);
-    QCoreApplication::sendEvent(m_scene.get(), &event);
+    reference::sendMouse(*m_scene, type, reference::randomPoint(m_random, QRectF(0, 0, 80, 80)), Qt::LeftButton);
 }
 
 } // namespace
