@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/render/diagramgeometry.h>
+#include <ceiechart/diagram/arithmetic_p.h>
+#include <ceiechart/diagram/diagramgeometry.h>
 
 #include <reference/mapping.h>
 
