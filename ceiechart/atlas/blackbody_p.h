@@ -6,8 +6,12 @@
 
 namespace ceiechart {
 
-// Chromaticities of black bodies, to three decimals: steps of 200 K to 1400 K, 100 K to 5000 K and 200 K to 6000 K,
-// then wider, with 3250 K and 9300 K between as common whites.
+/*!
+ * \brief Chromaticities of black bodies, rounded to three decimals.
+ *
+ * The steps are 200 K up to 1400 K, 100 K up to 5000 K, 200 K up to 6000 K and wider above. 3250 K and 9300 K are added
+ * because they are common whites.
+ */
 inline constexpr CEIAtlasValue::CEITemperatureCoordinate blackBodies[] = {
     {1000, 0.653, 0.344},
     {1200, 0.625, 0.367},
