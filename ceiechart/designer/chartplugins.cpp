@@ -12,7 +12,7 @@ namespace ceiechart {
 
 namespace {
 
-//! A widget of the box: what to call it, and how to make one.
+/*! \brief A widget of the box: what to call it, and how to make one. */
 struct Entry {
     const char *name;
     const char *objectName;

@@ -27,7 +27,7 @@ public:
     bool isInsideOriginal(const QPointF &position);
     void rememberMousePosition(const QPointF &position);
     void showHoverCursor(const QPointF &position);
-    //! Lets what was picked follow the pointer. False when the move needs no further repaint.
+    /*! \brief Lets what was picked follow the pointer. False when the move needs no further repaint. */
     bool followPointer(const QPointF &position);
 
     DrawCEIPicture::CEIEType type;
@@ -37,7 +37,7 @@ public:
     bool buttonDown = false;
     bool leftButton = false;
     bool whiteInside = false;
-    //! Would keep presses outside the original gamut to the colour regions. Nothing sets it.
+    /*! \brief Would keep presses outside the original gamut to the colour regions. Nothing sets it. */
     bool regionGate = false;
     QPoint lastMousePosition;
     QPointF lastHoverPosition;

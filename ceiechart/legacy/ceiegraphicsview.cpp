@@ -9,7 +9,7 @@
 
 namespace {
 
-//! Role and opacity are left at what a new object has: hosts see them in the list.
+/*! \brief Role and opacity are left at what a new object has: hosts see them in the list. */
 template <class Record>
 ColorTriangleObject listedGamut(const Record &gamut, ceiechart::GamutKind kind)
 {

@@ -29,14 +29,14 @@ class CEIECHART_EXPORT DrawCEIPicture : public ceiechart::DiagramRenderer {
     Q_OBJECT
 
 public:
-    //! Any value other than UvDiagram makes an x, y renderer.
+    /*! \brief Any value other than UvDiagram makes an x, y renderer. */
     enum CEIEType : int { XyDiagram = 0, UvDiagram = 1 };
 
     /*! \param parent owns the renderer when not null. */
     DrawCEIPicture(DrawCEIPicture::CEIEType type, QWidget *parent);
     ~DrawCEIPicture() override;
 
-    /*! As given to the constructor. */
+    /*! \brief As given to the constructor. */
     DrawCEIPicture::CEIEType type();
 
     /*!
@@ -59,25 +59,25 @@ public:
     QImage *drawCEIEPicture(
         int width, int height, bool drawCoordinate, bool drawBBRLine, bool drawWaveLength, QList<QPointF> points);
 
-    /*! The horseshoe colours of the last drawing's size and geometry, on "#323238"; null before the first. */
+    /*! \brief The horseshoe colours of the last drawing's size and geometry, on "#323238"; null before the first. */
     QImage getColorImage();
 
-    /*! Chromaticities in the diagram's own coordinates, drawn by the u′, v′ picture. */
+    /*! \brief Chromaticities in the diagram's own coordinates, drawn by the u′, v′ picture. */
     void setMeasurePoints(const QList<QPointF> &points);
-    /*! At the ends of the axes; an empty title is not drawn. "X" and "Y", or "u" and "v", until set. */
+    /*! \brief At the ends of the axes; an empty title is not drawn. "X" and "Y", or "u" and "v", until set. */
     void setXTitle(const QString &title);
     /*! \copydoc setXTitle */
     void setYTitle(const QString &title);
     /*! \a line colours the edge, the axes and the dots, \a background the u′, v′ picture. */
     void setGraphColor(QColor line, QColor background);
 
-    /*! Measure points: a black dot of radius 2 pixels on a translucent white one of radius 4. */
+    /*! \brief Measure points: a black dot of radius 2 pixels on a translucent white one of radius 4. */
     void painterPoints(QPainter &painter, QList<QPointF> points);
-    /*! Axes, grid in \a style, numbers and titles in \a font. */
+    /*! \brief Axes, grid in \a style, numbers and titles in \a font. */
     void painterCoordinate(Qt::PenStyle style, const QFont &font, QPainter &painter);
 
     using DiagramRenderer::CoordinateTransformation;
-    /*! Picture position to chromaticity; the x offset of the forward mapping is not taken off. */
+    /*! \brief Picture position to chromaticity; the x offset of the forward mapping is not taken off. */
     QPointF CurCoordinateToChroma(const QPointF &position);
 
     /*!
@@ -89,9 +89,9 @@ public:
      */
     static void xy2uv(const float &x, const float &y, float &u, float &v);
     static void xyconvertuv(const double &x, const double &y, double &u, double &v);
-    //! Replaces what \a uv holds.
+    /*! \brief Replaces what \a uv holds. */
     static void xy2uv(const std::vector<QPointF> &xy, std::vector<QPointF> &uv);
-    //! Appends to \a us and \a vs. \a ys must be at least as long as \a xs.
+    /*! \brief Appends to \a us and \a vs. \a ys must be at least as long as \a xs. */
     static void xy2uvList(
         std::vector<float> &xs, std::vector<float> &ys, std::vector<float> &us, std::vector<float> &vs);
     /*! @} */

@@ -11,16 +11,16 @@ namespace ceiechart {
 
 namespace {
 
-constexpr int numberDrop = 15; // pixels from the x axis down to its numbers
-constexpr int axisTop = 10; // the y axis begins this many pixels below the picture's top edge
-constexpr int titleGap = 6; // pixels between an axis line and its title
+constexpr int numberDrop = 15; //!< pixels from the x axis down to its numbers
+constexpr int axisTop = 10; //!< the y axis begins this many pixels below the picture's top edge
+constexpr int titleGap = 6; //!< pixels between an axis line and its title
 
 QString numberText(int tick)
 {
     return QString::number(tick * chartTickStep, 'g', 6);
 }
 
-//! Draws the axes of one drawing; holds what its four kinds of strokes and texts have in common.
+/*! \brief Draws the axes of one drawing; holds what its four kinds of strokes and texts have in common. */
 class AxesPainter {
 public:
     AxesPainter(QPainter &painter, const AxesStyle &style, const QColor &color)
@@ -97,7 +97,7 @@ private:
         m_painter.drawText(QRectF(place), text, QTextOption(alignment));
     }
 
-    //! A title stands at the end of its axis, on the side away from the numbers.
+    /*! \brief A title stands at the end of its axis, on the side away from the numbers. */
     void title(const QString &title, const QPoint &corner)
     {
         if (!title.isEmpty()) {

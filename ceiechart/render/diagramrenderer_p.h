@@ -37,27 +37,27 @@ public:
     }
     virtual ~Private();
 
-    //! Takes the size of a new drawing, derives the geometry and refreshes the locus rows from the atlas.
+    /*! \brief Takes the size of a new drawing, derives the geometry and refreshes the locus rows from the atlas. */
     void beginDrawing(int width, int height, int marginPercent);
-    //! Makes the first locus row current and maps it, as every drawing does once.
+    /*! \brief Makes the first locus row current and maps it, as every drawing does once. */
     void loadFirstLocusRow();
-    //! Makes the chromaticity of a locus row the current one; the third coordinate is left alone.
+    /*! \brief Makes the chromaticity of a locus row the current one; the third coordinate is left alone. */
     void makeCurrent(const CEIAtlasValue::CEIAtlasCoordinate &row);
-    //! Makes the chromaticity of a pixel the current one; the third coordinate is left alone.
+    /*! \brief Makes the chromaticity of a pixel the current one; the third coordinate is left alone. */
     void makePixelCurrent(int px, int py);
-    //! Maps the current chromaticity, without truncation, to the current pixel point.
+    /*! \brief Maps the current chromaticity, without truncation, to the current pixel point. */
     QPointF mapCurrent();
-    //! Makes (\a x, \a y) the current chromaticity and maps it.
+    /*! \brief Makes (\a x, \a y) the current chromaticity and maps it. */
     QPointF map(double x, double y);
 
-    //! Grid, axis lines, numbers and titles, in axes.cpp.
+    /*! \brief Grid, axis lines, numbers and titles, in axes.cpp. */
     void drawAxes(QPainter &painter, const AxesStyle &style);
 
-    //! Draws into \a picture what painterPixColor() makes of one in \a background, clipped to \a clip.
+    /*! \brief Draws into \a picture what painterPixColor() makes of one in \a background, clipped to \a clip. */
     void drawHorseshoeWithin(QImage &picture, const QPolygonF &clip, ClipOutline outline, const QColor &background);
     void makeColorOfPixelCurrent(int px, int py);
     void makeAmountsCurrent(const CEIAtlasValue::TColorSystem &system, double x, double y, double z);
-    //! Clamps and scales the current amounts and returns the colour they give with \a alpha, perhaps invalid.
+    /*! \brief Clamps and scales the current amounts and returns the colour they give with \a alpha, perhaps invalid. */
     QColor colorOfCurrentAmounts(int alpha);
 
     ChartKind kind;

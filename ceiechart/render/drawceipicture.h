@@ -67,18 +67,19 @@ public:
         const QList<ColorTriangleObject> &standards, const QPolygonF &clipPolygon, bool polygonFlag,
         const QString &skipText);
 
-    /*! The clip polygon of the last gamut form, in picture pixels. */
+    /*! \brief The clip polygon of the last gamut form, in picture pixels. */
     QPolygonF intersectPolygon() const;
 
     using DiagramRenderer::CoordinateTransformation;
 
     /*! \a line colours the edge, the axes and the colour-temperature dots, \a picture fills the picture. */
     void setGraphColor(QColor line, QColor picture);
-    /*! The colour behind the horseshoe of the gamut form. With no red in it the horseshoe stays uncoloured. */
+    /*! \brief The colour behind the horseshoe of the gamut form. With no red in it the horseshoe stays uncoloured. */
     void setBackgroudColor(const QColor &color);
-    /*! Where measure points are drawn: red, green, blue and white, further ones black, with a white outline. */
+    /*! \brief Where measure points are drawn: red, green, blue and white, further ones black, with a white outline. */
     void setPointData(const QList<QRectF> &rectangles);
-    /*! CMY points are drawn 16 × 16 pixels from each rectangle's top-left corner: cyan, magenta, yellow, black. */
+    /*! \brief CMY points are drawn 16 × 16 pixels from each rectangle's top-left corner: cyan, magenta, yellow, black.
+     */
     void setCMYPointData(const QList<QRectF> &rectangles);
 
 private:

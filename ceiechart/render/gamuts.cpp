@@ -12,7 +12,7 @@ namespace NewCEIE {
 
 namespace {
 
-//! Opacity counts in 256ths: 1.0 gives the invalid alpha 256, and with it a colour that paints nothing.
+/*! \brief Opacity counts in 256ths: 1.0 gives the invalid alpha 256, and with it a colour that paints nothing. */
 QColor tint(const QColor &color, double opacity)
 {
     return QColor(color.red(), color.green(), color.blue(), ceiechart::truncated(opacity * 256.0));

@@ -15,8 +15,8 @@ namespace ceiechart {
 
 namespace {
 
-constexpr double tall = 1200.0; // pixels; below, the larger pool costs more than it saves
-constexpr int zigzagWidth = 256; // pixels
+constexpr double tall = 1200.0; //!< pixels; below, the larger pool costs more than it saves
+constexpr int zigzagWidth = 256; //!< pixels
 
 bool isTall(const QPainter &painter, const QRectF &bounds)
 {

@@ -8,10 +8,10 @@ namespace ceiechart {
 
 namespace {
 
-constexpr int firstWavelength = 360; // nm
-constexpr int lastWavelength = 830; // nm; the outline itself ends one row earlier
+constexpr int firstWavelength = 360; //!< nm
+constexpr int lastWavelength = 830; //!< nm; the outline itself ends one row earlier
 
-constexpr double edgeWidth = 2.0; // pixels
+constexpr double edgeWidth = 2.0; //!< pixels
 
 } // namespace
 

@@ -11,8 +11,8 @@
 namespace ceiechart {
 
 /*!
- * A picture to draw into, null when the size is empty, negative or cannot be allocated; it is going to be filled with
- * \a background first.
+ * \brief A picture to draw into, null when the size is empty, negative or cannot be allocated; it is going to be filled
+ * with \a background first.
  *
  * With an opaque background every pixel stays opaque, so that the straight and the premultiplied format hold the
  * same values: drawing in the premultiplied one, which the paint engine is at home in, is several times as fast. The
@@ -30,7 +30,7 @@ inline std::unique_ptr<QImage> newPicture(int width, int height, const QColor &b
     return picture;
 }
 
-/*! Hands out a picture that is no longer drawn into, in Format_ARGB32. */
+/*! \brief Hands out a picture that is no longer drawn into, in Format_ARGB32. */
 inline QImage *finished(std::unique_ptr<QImage> picture)
 {
     picture->reinterpretAsFormat(QImage::Format_ARGB32);

@@ -14,10 +14,10 @@ namespace ceiechart {
 
 namespace {
 
-constexpr double tickLength = 0.0168; // in chromaticity units
-constexpr int tickWidthPerMille = 2; // of the picture's height
+constexpr double tickLength = 0.0168; //!< in chromaticity units
+constexpr int tickWidthPerMille = 2; //!< of the picture's height
 
-//! 1 for a numbered tick, 0.5 for a plain one, 0 for none: the crowded ends of the locus stay bare.
+/*! \brief 1 for a numbered tick, 0.5 for a plain one, 0 for none: the crowded ends of the locus stay bare. */
 double tickWeight(int wavelength)
 {
     if ((wavelength >= 421 && wavelength <= 449) || (wavelength >= 631 && wavelength <= 679)) {
@@ -29,7 +29,7 @@ double tickWeight(int wavelength)
     return wavelength % 5 == 0 ? 0.5 : 0.0;
 }
 
-//! Moves the corner of a \a w × \a h text box so that the box stands off a tick that points to \a octant.
+/*! \brief Moves the corner of a \a w × \a h text box so that the box stands off a tick that points to \a octant. */
 QPoint textCorner(int octant, int x, int y, int w, int h)
 {
     switch (octant) {

@@ -31,8 +31,8 @@ bool isWhole(double value)
 }
 
 /*!
- * Whether painting into \a rect touches whole device pixels only, one for each unit, and begins inside the device:
- * the engine's sampling positions are rounded from where a row begins, so that only then a copy is the same.
+ * \brief Whether painting into \a rect touches whole device pixels only, one for each unit, and begins inside the
+ * device: the engine's sampling positions are rounded from where a row begins, so that only then a copy is the same.
  */
 bool isCopyExact(const QPainter &painter, const QRectF &rect)
 {

@@ -16,21 +16,21 @@ namespace ceiechart {
  */
 class ChartPicture {
 public:
-    //! Takes ownership of \a picture, which may be null.
+    /*! \brief Takes ownership of \a picture, which may be null. */
     void reset(QImage *picture = nullptr);
 
-    //! False until a picture was set, even a null one.
+    /*! \brief False until a picture was set, even a null one. */
     bool isSet() const { return m_set; }
     bool isNull() const { return m_image.isNull(); }
     QSize size() const { return m_image.size(); }
 
-    //! The whole picture, smoothly scaled to \a target.
+    /*! \brief The whole picture, smoothly scaled to \a target. */
     void draw(QPainter *painter, const QRectF &target);
-    //! The part \a source of the picture, smoothly scaled to \a target.
+    /*! \brief The part \a source of the picture, smoothly scaled to \a target. */
     void drawPart(QPainter *painter, const QRectF &target, const QRectF &source);
 
 private:
-    //! The picture in the format that is painted fastest without changing a pixel; shares its data.
+    /*! \brief The picture in the format that is painted fastest without changing a pixel; shares its data. */
     QImage readyFor(const QPainter &painter) const;
 
     QImage m_image;

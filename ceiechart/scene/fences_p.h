@@ -6,10 +6,10 @@
 
 namespace ceiechart {
 
-/*! The colour region that a primary is kept in. */
+/*! \brief The colour region that a primary is kept in. */
 enum Region { RedRegion = 0, GreenRegion = 1, BlueRegion = 2, NoRegion = 3 };
 
-/*! The first of the red, green and blue fences that contains \a chroma, or NoRegion. */
+/*! \brief The first of the red, green and blue fences that contains \a chroma, or NoRegion. */
 Region regionOf(const PointF &chroma) noexcept;
 
 } // namespace ceiechart

@@ -7,11 +7,11 @@ namespace ceiechart {
 
 namespace {
 
-constexpr float nudge = 0.1F; // scene pixels
-constexpr float zoomLimit = 1.5F; // tested before a step is taken
+constexpr float nudge = 0.1F; //!< scene pixels
+constexpr float zoomLimit = 1.5F; //!< tested before a step is taken
 constexpr float zoomStep = 0.1F;
 
-//! (0, 0) for what is no arrow key.
+/*! \brief (0, 0) for what is no arrow key. */
 QPoint arrowDirection(int key)
 {
     switch (key) {

@@ -10,8 +10,8 @@ namespace ceiechart {
 class KeyStepper {
 public:
     /*!
-     * Multiplies \a step by what the presses before this one have earned: 1 for the first eleven, then 1, 2, … 11
-     * and 11 from there on. Another \a key than the last arrow starts over.
+     * \brief Multiplies \a step by what the presses before this one have earned: 1 for the first eleven, then 1, 2, …
+     * 11 and 11 from there on. Another \a key than the last arrow starts over.
      */
     void speedUp(float &step, Qt::Key key)
     {
@@ -30,7 +30,7 @@ public:
     }
 
     void setLastKey(Qt::Key key) { m_lastKey = key; }
-    //! Every key counts, not only arrows.
+    /*! \brief Every key counts, not only arrows. */
     void countPress() { ++m_presses; }
 
 private:

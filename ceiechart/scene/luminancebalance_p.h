@@ -6,11 +6,11 @@
 
 namespace ceiechart {
 
-/*! Sets the white of \a target to what its primaries mix to. */
+/*! \brief Sets the white of \a target to what its primaries mix to. */
 void mixWhite(TrianglePoint &target);
 
 /*!
- * Holds the white position of \a target and sets the luminances that give it: the white luminance starts at what
+ * \brief Holds the white position of \a target and sets the luminances that give it: the white luminance starts at what
  * \a original's primaries mix to and is lowered in steps of 10 until no primary has to be negative or brighter than
  * the original's, or until it is below 10. A luminance that is not finite, or too large for a step to change, is
  * not lowered.

@@ -15,11 +15,11 @@ namespace ceiechart {
 
 namespace {
 
-constexpr double lensRadius = 48.0; // scene pixels
+constexpr double lensRadius = 48.0; //!< scene pixels
 constexpr double lensMagnification = 4.0;
-constexpr double lensDistance = 72.0; // from the handle's centre to the lens's
+constexpr double lensDistance = 72.0; //!< from the handle's centre to the lens's
 
-//! Black under white: an outline that shows on every colour of the diagram.
+/*! \brief Black under white: an outline that shows on every colour of the diagram. */
 void strokeLegibly(QPainter *painter, const QPainterPath &path)
 {
     painter->setBrush(Qt::NoBrush);
@@ -38,7 +38,7 @@ QPainterPath circle(const QPointF &centre, double radius)
     return path;
 }
 
-//! Four ticks round \a centre that leave the middle free.
+/*! \brief Four ticks round \a centre that leave the middle free. */
 QPainterPath crosshair(const QPointF &centre, double from, double to)
 {
     QPainterPath path;

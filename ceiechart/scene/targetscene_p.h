@@ -24,18 +24,18 @@ public:
     virtual ~Private();
 
     // What a generation adds
-    //! Scene position of a chromaticity.
+    /*! \brief Scene position of a chromaticity. */
     virtual QPointF toScene(const QPointF &chroma) = 0;
-    //! Chromaticity at a scene position.
+    /*! \brief Chromaticity at a scene position. */
     virtual QPointF toChroma(const QPointF &position) = 0;
-    //! The diagram's own coordinates of a chromaticity, as its axes number them.
+    /*! \brief The diagram's own coordinates of a chromaticity, as its axes number them. */
     virtual QPointF toDiagram(const QPointF &chroma) { return chroma; }
-    //! Position of a chromaticity in the picture, in pixels.
+    /*! \brief Position of a chromaticity in the picture, in pixels. */
     virtual QPointF toImage(const QPointF &chroma) = 0;
-    //! A new picture of the stored size, for which the scene's rectangle is set.
+    /*! \brief A new picture of the stored size, for which the scene's rectangle is set. */
     virtual QImage *renderPicture() = 0;
     virtual void setGraphColor(const QColor &line, const QColor &picture) = 0;
-    //! What refreshArea() draws besides the vertex handles.
+    /*! \brief What refreshArea() draws besides the vertex handles. */
     virtual void drawFurtherSigns(QPainter *) { }
 
     virtual void reportGamutValue(const ColorTriangleObject &target) = 0;
@@ -45,7 +45,7 @@ public:
     virtual void reportInitialized(const TriangleObjecIinitializedEventArgs &report) = 0;
 
     // Set-up and reports, in targetscene.cpp
-    //! The last step of a scene's constructor.
+    /*! \brief The last step of a scene's constructor. */
     void begin(const QList<ColorTriangleObject> &initialTriangles);
     void drawPicture(QPainter *painter);
     bool checkTarget(
@@ -83,7 +83,7 @@ public:
 
     // Gamuts and points
     QList<ColorTriangleObject> triangles;
-    //! Chromaticities after construction, image positions after a setter: compared as they stand.
+    /*! \brief Chromaticities after construction, image positions after a setter: compared as they stand. */
     TrianglePoint originalVertices;
     TrianglePoint targetVertices;
     QList<QPointF> colorTemperaturePoints;

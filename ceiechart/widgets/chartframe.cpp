@@ -12,7 +12,7 @@ namespace ceiechart {
 
 namespace {
 
-//! The fixed extent of an inner view that shows a picture of \a extent pixels, within what widgets can have.
+/*! \brief The fixed extent of an inner view that shows a picture of \a extent pixels, within what widgets can have. */
 int viewExtent(int extent)
 {
     return static_cast<int>(std::clamp<qint64>(static_cast<qint64>(extent) + 2, 0, QWIDGETSIZE_MAX));

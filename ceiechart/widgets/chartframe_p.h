@@ -30,10 +30,10 @@ public:
     void setView(QGraphicsView *innerView);
     void setScene(TargetScene *innerScene);
     void setLegend(ChartLegend *chartLegend);
-    //! Puts inner view and legend into a new layout of \a frame, in place of the one it may have.
+    /*! \brief Puts inner view and legend into a new layout of \a frame, in place of the one it may have. */
     QBoxLayout *arrange(QFrame *frame, Qt::Alignment alignment);
 
-    //! Calls \a operation of the scene, unless a host has deleted it.
+    /*! \brief Calls \a operation of the scene, unless a host has deleted it. */
     template <typename... Parameters, typename... Arguments>
     void tell(void (TargetScene::*operation)(Parameters...), Arguments &&...arguments)
     {
@@ -54,7 +54,7 @@ public:
     QList<QPointF> colorTemperaturePoints;
 };
 
-/*! Relays the signals of \a scene to those of \a view that have the same names. */
+/*! \brief Relays the signals of \a scene to those of \a view that have the same names. */
 template <class Scene, class View>
 void relaySignals(const Scene *scene, View *view)
 {
@@ -65,7 +65,7 @@ void relaySignals(const Scene *scene, View *view)
     QObject::connect(scene, &Scene::signal_colorGamutWhiteChanged, view, &View::signal_colorGamutWhiteChanged);
 }
 
-/*! Copies chromaticities and luminances of a gamut record with the members red, green, blue and white. */
+/*! \brief Copies chromaticities and luminances of a gamut record with the members red, green, blue and white. */
 template <class Record>
 void copyGamut(const Record &gamut, TrianglePoint &triangle)
 {

@@ -6,7 +6,7 @@ class QGraphicsView;
 
 namespace ceiechart {
 
-/*! Frameless and smooth, as the inner view of either generation starts. */
+/*! \brief Frameless and smooth, as the inner view of either generation starts. */
 void initInnerView(QGraphicsView &view);
 
 } // namespace ceiechart

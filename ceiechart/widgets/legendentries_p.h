@@ -25,17 +25,17 @@ public:
 
     bool withPoints() const { return m_withPoints; }
 
-    /*! Makes the three gamut entries. Beside the chart, captions are written downwards. */
+    /*! \brief Makes the three gamut entries. Beside the chart, captions are written downwards. */
     void addGamuts(const QString &common, const QString &target, const QString &original, Qt::Alignment alignment);
-    /*! Makes the three point entries, likewise. */
+    /*! \brief Makes the three point entries, likewise. */
     void addPoints(const QString &target, const QString &original, const QString &managed, Qt::Alignment alignment);
 
-    /*! Lays the entries out anew, as a column beside the chart or as a row below it. */
+    /*! \brief Lays the entries out anew, as a column beside the chart or as a row below it. */
     void arrange(Qt::Alignment alignment);
 
-    /*! Ignores a value that is no LegendEntry. */
+    /*! \brief Ignores a value that is no LegendEntry. */
     void setVisible(LegendEntry entry, bool visible);
-    /*! Replaces a caption for good: from now on it is shown as given. */
+    /*! \brief Replaces a caption for good: from now on it is shown as given. */
     void setCaption(LegendEntry entry, const QString &text);
     void setPointCaptions(const QString &target, const QString &original, const QString &managed);
 

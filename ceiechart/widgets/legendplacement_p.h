@@ -6,7 +6,7 @@
 
 namespace ceiechart {
 
-/*! True for exactly Qt::AlignLeft and exactly Qt::AlignRight: a combination puts the legend below the chart. */
+/*! \brief True for exactly Qt::AlignLeft and exactly Qt::AlignRight: a combination puts the legend below the chart. */
 inline bool standsBesideChart(Qt::Alignment alignment)
 {
     return alignment == Qt::AlignLeft || alignment == Qt::AlignRight;

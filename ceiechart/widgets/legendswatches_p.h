@@ -8,7 +8,8 @@
 
 namespace ceiechart {
 
-/*! The swatch of a legend entry: 16 × 16 pixels, the target point's 17 × 17. Points stand on transparent ground. */
+/*! \brief The swatch of a legend entry: 16 × 16 pixels, the target point's 17 × 17. Points stand on transparent ground.
+ */
 QPixmap legendSwatch(LegendEntry entry);
 
 } // namespace ceiechart

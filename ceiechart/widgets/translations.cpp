@@ -17,7 +17,7 @@ namespace ceiechart {
 
 namespace {
 
-//! The language of \a locale, or the language that the user prefers to it.
+/*! \brief The language of \a locale, or the language that the user prefers to it. */
 QString languageOf(const QLocale &locale)
 {
     const QStringList languages = locale.uiLanguages();

@@ -34,7 +34,7 @@ public:
     virtual ~SceneTwins() = default;
     Q_DISABLE_COPY(SceneTwins)
 
-    /*! One step. Empty when both did the same, otherwise what differs. */
+    /*! \brief One step. Empty when both did the same, otherwise what differs. */
     QString step()
     {
         const bool updatesAgree = act();
@@ -60,9 +60,9 @@ protected:
         note(QStringLiteral("constructed from ") + describe(triangles));
     }
 
-    //! Does something. False when what it repaints is its own affair.
+    /*! \brief Does something. False when what it repaints is its own affair. */
     virtual bool act() = 0;
-    //! Compares what a generation has besides.
+    /*! \brief Compares what a generation has besides. */
     virtual void compareOwn() { }
 
     void note(const QString &what) { m_history << what; }
@@ -88,7 +88,7 @@ protected:
         return choices[static_cast<std::size_t>(m_random.bounded(static_cast<int>(choices.size())))];
     }
 
-    //! Every rendering scales the stored size by the zoom again.
+    /*! \brief Every rendering scales the stored size by the zoom again. */
     bool isRenderable() const
     {
         const double growth = std::max(1.0, std::fabs(static_cast<double>(m_model->state().zoom)));
@@ -244,7 +244,7 @@ void SceneTwins<Scene, Model>::setPoints()
     }
 }
 
-//! What only the scene's owner would set; mostly none.
+/*! \brief What only the scene's owner would set; mostly none. */
 template <class Scene, class Model>
 void SceneTwins<Scene, Model>::setMode()
 {
@@ -291,7 +291,7 @@ void SceneTwins<Scene, Model>::holdKey(int code, int count, bool release)
     }
 }
 
-//! So far that a painter's coordinates reach.
+/*! \brief So far that a painter's coordinates reach. */
 template <class Scene, class Model>
 bool SceneTwins<Scene, Model>::handlesAreInReach() const
 {
