@@ -7,7 +7,7 @@
 
 namespace reference {
 
-/*! \brief An item that takes and counts the mouse events that QGraphicsScene's own handlers hand on to items. */
+/*! \brief An item that accepts and counts the mouse events that the handlers of QGraphicsScene pass to items. */
 class MouseItem : public QGraphicsRectItem {
 public:
     using QGraphicsRectItem::QGraphicsRectItem;
