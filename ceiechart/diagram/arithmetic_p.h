@@ -16,7 +16,7 @@ inline double mulDiv(int a, int b, int c) noexcept
     return static_cast<double>(quotient) + 0.5;
 }
 
-/*! \a v limited to the range from \a lo to \a hi; \a hi if \a v is NaN. */
+/*! \brief \a v limited to the range from \a lo to \a hi; \a hi if \a v is NaN. */
 inline double clamp(double v, double lo, double hi) noexcept
 {
     if (lo > v) {
@@ -25,7 +25,7 @@ inline double clamp(double v, double lo, double hi) noexcept
     return v < hi ? v : hi;
 }
 
-/*! \a v truncated toward zero. NaN and values that an int cannot hold give the smallest int. */
+/*! \brief \a v truncated toward zero. NaN and values that an int cannot hold give the smallest int. */
 inline int truncated(double v) noexcept
 {
     constexpr double below = std::numeric_limits<int>::min() - 1.0;

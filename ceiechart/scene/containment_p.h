@@ -11,7 +11,7 @@
 
 namespace ceiechart {
 
-/*! \a point in single precision, each coordinate rounded to nearest. */
+/*! \brief \a point in single precision, each coordinate rounded to nearest. */
 inline PointF narrowed(const QPointF &point) noexcept
 {
     return {static_cast<float>(point.x()), static_cast<float>(point.y())};

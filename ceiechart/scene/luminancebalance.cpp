@@ -50,10 +50,10 @@ bool deliverable(const Luminances &wanted, const TrianglePoint &original)
 }
 
 /*!
- * \a white after \a steps subtractions of 10, each rounded to double precision.
+ * \brief \a white after \a steps subtractions of 10, each rounded to double precision.
  *
- * Up to 2^54 every one of them is exact. Above, the difference is rounded to a multiple of the spacing of the numbers,
- * which makes equal steps of another size between two powers of two.
+ * Up to 2^54 each subtraction is exact. Above, the result is rounded to a multiple of the distance between neighbouring
+ * numbers, so that the steps between two powers of two have the same size, but not 10.
  */
 double lowered(double white, std::uint64_t steps)
 {

@@ -24,7 +24,7 @@ bool solveLinearSystem(double k1, double b1, double k2, double b2, QPointF &resu
  */
 bool intersection(const QPointF &p1, const QPointF &q1, const QPointF &p2, const QPointF &q2, QPointF &result) noexcept;
 
-/*! \a point, or the end of the edge from \a p to \a q if it lies beyond that end. */
+/*! \brief \a point, or the end of the edge from \a p to \a q if it lies beyond that end. */
 QPointF heldToEdge(const QPointF &point, const QPointF &p, const QPointF &q) noexcept;
 
 } // namespace ceiechart

@@ -60,7 +60,7 @@ struct Mapping {
 /*! \brief a·b divided by c in integers, plus 0.5. */
 double mulDiv(int a, int b, int c);
 
-/*! \a value limited to the range from \a low to \a high; \a high for NaN. */
+/*! \brief \a value limited to the range from \a low to \a high; \a high for NaN. */
 double clamp(double value, double low, double high);
 
 /*! \brief The colour of a chromaticity in the horseshoe. */

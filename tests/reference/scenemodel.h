@@ -40,7 +40,7 @@ QString describe(const QCursor &cursor);
 /*! \brief The first difference between \a actual and \a expected, as a line of text; empty if they are equal. */
 QString difference(const QString &what, const QString &actual, const QString &expected);
 
-/*! \a value truncated toward zero; the smallest int for values that an int cannot hold. */
+/*! \brief \a value truncated toward zero; the smallest int for values that an int cannot hold. */
 int truncateToInt(double value);
 
 PointF narrowed(const QPointF &point);
