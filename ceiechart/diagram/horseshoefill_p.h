@@ -44,8 +44,9 @@ constexpr CEIAtlasValue::TColorSystem uvColorSystem{
  */
 Channels fullBrightness(const Channels &amounts, double gamma) noexcept;
 
-/*! \brief \a channel rounded to nearest, with halves rounded up; \a channel is not negative. NaN gives the smallest
- * int. */
+/*!
+ * \brief \a channel rounded to nearest, with halves rounded up; \a channel is not negative. NaN gives the smallest int.
+ */
 inline int rounded(double channel) noexcept
 {
     return truncated(channel + 0.5);

@@ -108,8 +108,10 @@ public:
      */
     void setGraphColor(QColor first, QColor second);
 
-    /*! \brief Sets whether the next setColorGamut() includes the standards. True by default, like the following four
-     * switches. */
+    /*!
+     * \brief Sets whether the next setColorGamut() includes the standards. True by default, like the following four
+     * switches.
+     */
     void setIsShowStandard(bool show);
     /*! \brief Sets whether the next setColorGamut() includes the target gamut. */
     void setIsShowTarget(bool show);
