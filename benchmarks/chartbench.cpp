@@ -79,7 +79,7 @@ ColorTriangleObject gamut(const Model::ColorGamut &record, int type, const QColo
     return object;
 }
 
-//! DCI-P3(D65) inside an LED wall's gamut, with the three standards.
+/*! \brief A target DCI-P3(D65) inside the gamut of an LED wall, with the three standards. */
 struct Gamuts {
     Model::ColorGamut wall{"wall",
         {Model::Target::fromYxy(210, 0.692, 0.306), Model::Target::fromYxy(620, 0.172, 0.742),
@@ -124,7 +124,7 @@ void gamutForm(benchmark::State &state, QSize size)
 
 void plainUvPicture(benchmark::State &state, QSize size)
 {
-    // The definition colours the whole picture, pixel by pixel, and shows it through the locus.
+    // The definition fills the whole picture pixel by pixel and draws it inside the locus.
     DrawCEIPicture renderer(DrawCEIPicture::UvDiagram, nullptr);
     std::unique_ptr<QImage>(renderer.drawCEIEPicture(size.width(), size.height(), true, false, false, {}));
     std::vector<QPointF> uv;
@@ -171,7 +171,7 @@ void uvPicture(benchmark::State &state, QSize size)
     }
 }
 
-//! A chart of \a size in a view that shows it, repainted as by a drag step or a hover.
+/*! \brief A chart of \a size in a visible view, repainted as for a drag or a move of the mouse. */
 template <typename Scene>
 void repaintScene(benchmark::State &state, Scene &scene, const QSize &size)
 {

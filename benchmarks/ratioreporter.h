@@ -10,8 +10,8 @@
 /*!
  * \brief Prints the benchmarks as usual and, after them, how much faster each is than its plain definition.
  *
- * Machines differ and are noisy; ratios of one run travel. "<work>/<what>" is compared with "<work>/plain" by their
- * median times.
+ * Times differ between machines and between runs; the ratios of a run are comparable. "<work>/<what>" is compared with
+ * "<work>/plain" by the median times.
  */
 class RatioReporter : public benchmark::ConsoleReporter {
 public:
@@ -19,7 +19,7 @@ public:
     void Finalize() override;
 
 private:
-    std::map<std::string, double> m_medians; // by name, in seconds
+    std::map<std::string, double> m_medians; //!< median times in seconds, by name
 };
 
 #endif

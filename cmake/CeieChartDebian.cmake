@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
-# Debian packages, by cpack in a build tree that was configured with -DCMAKE_INSTALL_PREFIX=/usr: libceiechart1 has the
-# libraries, libceiechart-dev what hosts are built with, ceiechart-viewer the program. Built with Qt 6 they have names of
-# their own, libceiechart1-qt6 and so on, and exclude those built with Qt 5: the libraries have the same files.
+# Debian packages, created by cpack in a build tree that was configured with -DCMAKE_INSTALL_PREFIX=/usr. libceiechart1
+# contains the libraries, libceiechart-dev the files that are needed to build hosts, and ceiechart-viewer the program.
+# The packages for Qt 6 have other names (libceiechart1-qt6 and so on) and conflict with those for Qt 5, because the
+# libraries have the same file names.
 set(qt5_packages libceiechart${PROJECT_VERSION_MAJOR} libceiechart-dev ceiechart-viewer)
 set(qt6_packages libceiechart${PROJECT_VERSION_MAJOR}-qt6 libceiechart-qt6-dev ceiechart-viewer-qt6)
 list(GET qt${CEIECHART_QT_VERSION}_packages 0 runtime_package)

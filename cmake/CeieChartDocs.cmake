@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# The target docs: the reference of the public classes, in reference/html of the build tree. A public member without a
-# comment is an error.
+# The target docs: generates the reference of the public classes into reference/html of the build tree. A public member
+# without a comment is an error.
 find_package(Doxygen QUIET)
 if(DOXYGEN_FOUND)
     configure_file(${PROJECT_SOURCE_DIR}/docs/Doxyfile.in ${PROJECT_BINARY_DIR}/Doxyfile @ONLY)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What hosts find the library with: the CMake package CeieChart and the pkg-config modules ceiechart, colortemperature
-# and gamutmodel. Neither knows where it is installed: an installed tree may be moved.
+# The files with which hosts find the library: the CMake package CeieChart and the pkg-config modules ceiechart,
+# colortemperature and gamutmodel. They contain no absolute paths, so that an installed tree can be moved.
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/CeieChart)
@@ -20,7 +20,7 @@ file(RELATIVE_PATH prefix_from_pkgconfig /${pkgconfig_dir} /)
 string(REGEX REPLACE "/$" "" prefix_from_pkgconfig "${prefix_from_pkgconfig}")
 set(colortemperature_libs "-L\${libdir} -lcolortemperature")
 if(CEIECHART_COLORTEMPERATURE_LIBRARY)
-    # Only the header is ours.
+    # Only the header of the companion is installed.
     set(colortemperature_cflags " -DCOLORTEMPERATURE_STATIC_DEFINE")
     if(IS_ABSOLUTE "${CEIECHART_COLORTEMPERATURE_LIBRARY}")
         set(colortemperature_libs "${CEIECHART_COLORTEMPERATURE_LIBRARY}")
@@ -34,7 +34,7 @@ if(NOT BUILD_SHARED_LIBS)
     set(ceiechart_cflags " -DCEIECHART_STATIC_DEFINE")
     set(colortemperature_cflags " -DCOLORTEMPERATURE_STATIC_DEFINE")
     set(gamutmodel_cflags " -DGAMUTMODEL_STATIC_DEFINE")
-    # What a linker has to be told when it is not the one of the C++ compiler.
+    # Libraries that a host must link if it does not link with the C++ compiler.
     list(TRANSFORM CMAKE_CXX_IMPLICIT_LINK_LIBRARIES PREPEND "-l" OUTPUT_VARIABLE cxx_libs)
     list(FILTER cxx_libs INCLUDE REGEX "^-l(stdc\\+\\+|c\\+\\+|m)$")
     list(REMOVE_DUPLICATES cxx_libs)
@@ -45,7 +45,7 @@ foreach(module ceiechart colortemperature gamutmodel)
     install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${module}.pc DESTINATION ${pkgconfig_dir} COMPONENT dev)
 endforeach()
 
-# The documents, and the examples that they point to.
+# The documentation, and the examples to which it refers.
 set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/libceiechart-dev)
 install(FILES README.md CHANGELOG.md CONTRIBUTING.md LICENSE DESTINATION ${doc_dir} COMPONENT dev)
 install(DIRECTORY docs examples DESTINATION ${doc_dir} COMPONENT dev

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What every target of this project has in common: language level, warnings, floating-point rules,
-# where headers are found, and how a library is exported and installed.
+# Settings of all targets of this project: language level, warnings, floating-point rules, include paths, and the export
+# and installation of libraries.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -23,18 +23,18 @@ endif()
 add_library(ceiechart_build_flags INTERFACE)
 target_compile_definitions(ceiechart_build_flags INTERFACE QT_NO_FOREACH QT_NO_KEYWORDS)
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
-    # Results must not depend on the optimiser: no fused multiply-add behind our back.
+    # Results must not depend on the optimiser: fused multiply-add is disabled.
     target_compile_options(ceiechart_build_flags INTERFACE -ffp-contract=off)
     target_compile_options(ceiechart_build_flags INTERFACE -Wall -Wextra -Wpedantic
         $<$<COMPILE_LANGUAGE:CXX>:-Wshadow=local> $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>
         $<$<COMPILE_LANGUAGE:CXX>:-Wsuggest-override>)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-        # The latter is for a macro of QtTest.
+        # The second option is needed for a macro of QtTest.
         target_compile_options(ceiechart_build_flags INTERFACE -Wno-unknown-warning-option
             -Wno-gnu-zero-variadic-macro-arguments)
     else()
-        # GCC's straight-line vectoriser folds double -> float -> double pairs into a plain copy and
-        # loses the rounding to single precision that the chart's arithmetic relies on.
+        # The straight-line vectoriser of GCC replaces pairs of conversions double -> float -> double by a copy. This
+        # removes the rounding to single precision on which the arithmetic of the chart depends.
         target_compile_options(ceiechart_build_flags INTERFACE -fno-tree-slp-vectorize)
     endif()
     if(CEIECHART_WERROR)
@@ -52,15 +52,15 @@ elseif(MSVC)
     endif()
 endif()
 
-# ceiechart_export_header(<target> <folder>): writes <folder>/<target>_export.h with the export macro
-# and installs it beside the target's other headers.
+# ceiechart_export_header(<target> <folder>): generates <folder>/<target>_export.h with the export macro and installs it
+# with the other headers of the target.
 function(ceiechart_export_header target folder)
     set(header ${PROJECT_BINARY_DIR}/include/${folder}/${target}_export.h)
     generate_export_header(${target} BASE_NAME ${target} EXPORT_FILE_NAME ${header})
     install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder} COMPONENT dev)
 endfunction()
 
-# ceiechart_library(<target>): version, include path and installation of one of the product's libraries.
+# ceiechart_library(<target>): sets the version, the exported symbols and the installation of a library.
 function(ceiechart_library target)
     add_library(CeieChart::${target} ALIAS ${target})
     set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})

@@ -11,14 +11,14 @@
 #include <vector>
 
 /*!
- * \brief The fixed chromaticity data of the diagram.
+ * \brief The fixed chromaticity data of the diagrams.
  *
- * Filled once by the constructor; readers use the members directly. All chromaticities are CIE 1931 x, y.
- * A renderer owns one atlas by value:
+ * The constructor fills the tables once; users read the members directly. All chromaticities are CIE 1931 x, y
+ * (unitless). Each renderer holds an atlas of its own by value:
  *
  * \code
  * CEIAtlasValue atlas;
- * const CEIAtlasValue::CEIAtlasCoordinate &row = atlas.atlasCoordinates.at(555 - 360);
+ * const CEIAtlasValue::CEIAtlasCoordinate &row = atlas.atlasCoordinates.at(555 - 360); // 555 nm
  * const double x = row.X / (row.X + row.Y + row.Z);
  * \endcode
  */
@@ -45,49 +45,48 @@ public:
      */
     class CEIAtlasCoordinate {
     public:
-        int waveLength = 0; //!< nanometres
-        double X = 0.0; //!< x̄(λ)
-        double Y = 0.0; //!< ȳ(λ)
-        double Z = 0.0; //!< z̄(λ)
+        int waveLength = 0; //!< wavelength in nanometres
+        double X = 0.0; //!< x̄(λ), unitless
+        double Y = 0.0; //!< ȳ(λ), unitless
+        double Z = 0.0; //!< z̄(λ), unitless
     };
 
-    /*! \brief Chromaticity of a black body, to three decimals. */
+    /*! \brief Chromaticity of a black body, rounded to three decimals. */
     class CEITemperatureCoordinate {
     public:
-        int colorTemperature = 0; //!< kelvin
+        int colorTemperature = 0; //!< temperature in kelvin
         double x = 0.0; //!< CIE 1931 x
         double y = 0.0; //!< CIE 1931 y
     };
 
-    /*! \brief Fills all tables. */
+    /*! \brief Creates an atlas without a parent and fills all tables. */
     CEIAtlasValue();
-    /*! \brief The same with \a parent, which owns the object when it is not null. */
+    /*! \brief Creates an atlas and fills all tables. \a parent owns the object if it is not null. */
     explicit CEIAtlasValue(QObject *parent);
     ~CEIAtlasValue() override;
 
-    /*! \brief The colour system that colours the horseshoe: the diagram's own primaries, white D65. */
+    /*! \brief The primaries that colour the horseshoe; they are specific to the diagram. The white is D65. */
     TColorSystem colorSystem;
 
-    /*! \brief The Planckian locus, 54 rows from 1000 K to 15000 K, ascending, irregular steps. */
+    /*! \brief The Planckian locus: 54 rows from 1000 K to 15000 K in ascending order, unevenly spaced. */
     QList<CEITemperatureCoordinate> temperatureCoordinates;
 
     /*!
-     * \brief The colour-matching functions of the CIE 1931 2 degree standard observer (ISO/CIE 11664-1:2019), 471
-     *        rows.
+     * \brief The colour-matching functions of the CIE 1931 2° standard observer (ISO/CIE 11664-1:2019).
      *
-     * 360 nm to 830 nm in steps of 1 nm, ascending.
+     * 471 rows from 360 nm to 830 nm in steps of 1 nm, in ascending order.
      */
     QList<CEIAtlasCoordinate> atlasCoordinates;
 
     /*!
-     * \brief The spectral locus from its violet to its red end, 62 points, not evenly spaced.
+     * \brief The spectral locus from its violet end to its red end: 62 points, unevenly spaced.
      *
-     * The polyline is open: the line of purples is not part of it.
+     * The polyline is open; it does not contain the line of purples.
      */
     std::vector<QPointF> spectrumLocus;
 
 private:
-    // Appends to the lists: for the constructor only.
+    /*! \brief Appends the rows to the lists, which must be empty. Called by the constructors only. */
     void initData();
 };
 

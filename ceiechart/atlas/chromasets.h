@@ -5,30 +5,32 @@
 #include <ceiechart/ceiechart_export.h>
 
 /*!
- * \brief Colour temperature and white-point maths, as used by the scenes.
+ * \brief The colour-temperature and white-point calculations of the scenes.
  *
- * A thin façade over the colour-temperature library. Chromaticities are CIE 1931 x, y. Luminances are in the
- * host's units, such as cd/m²: the maths is linear in them. No function reports an error.
+ * The functions call the colour-temperature library (colortemperature.h) and add nothing but the conversions of types.
+ * Chromaticities are CIE 1931 x, y (unitless). Luminances can have any unit, for example cd/m², but all luminances of a
+ * call must have the same. The functions have no state and do not report errors; each documents its result for invalid
+ * input.
  */
 class CEIECHART_EXPORT ChromaSets {
 public:
     /*!
      * \brief Correlated colour temperature of the chromaticity (\a x, \a y).
      *
-     * Stores the temperature in kelvin in \a colorTemperature, truncated toward zero: 6503.9 K gives 6503. What a
-     * chromaticity without a temperature gives, see GetColorTemperatureFromXY(); a vendor's library must stay within
-     * the range of int.
+     * Stores the temperature in kelvin in \a colorTemperature, truncated toward zero: 6503.9 K gives 6503. For
+     * chromaticities without a temperature see GetColorTemperatureFromXY(). If another colour-temperature library is
+     * used in its place, the temperatures that it returns must fit an int.
      *
-     * \return The result of the colour-temperature library's function, truncated toward zero. Its meaning belongs
-     *     to that library; nothing here depends on it.
+     * \return the result of the colour-temperature library's function (Duv), truncated toward zero. The library does
+     * not use it.
      */
     static int GetColorTemperatureNew(double x, double y, int &colorTemperature);
 
     /*!
-     * \brief The white that three primaries mix to additively.
+     * \brief The white point of three primaries: their additive mixture.
      *
-     * Stores the luminance and the chromaticity of the mixture in \a whiteLum, \a whiteX and \a whiteY. What
-     * primaries without luminance or with y = 0 give, see RGBCxCyToWhiteCxCy().
+     * Stores the luminance and the chromaticity of the mixture in \a whiteLum, \a whiteX and \a whiteY. For primaries
+     * without luminance or with y = 0 see RGBCxCyToWhiteCxCy().
      */
     static void rgbCxCyToWhiteCxCy(double redLum, double redX, double redY, double greenLum, double greenX,
         double greenY, double blueLum, double blueX, double blueY, double &whiteLum, double &whiteX, double &whiteY);
@@ -36,15 +38,18 @@ public:
     /*!
      * \brief The luminances at which three primaries mix to a given white: the inverse of rgbCxCyToWhiteCxCy().
      *
-     * Stores them in \a redLum, \a greenLum and \a blueLum. A luminance may come out negative when the white lies
-     * outside the triangle of the primaries, and unbounded when the triangle is degenerate: callers check.
+     * Stores the luminances in \a redLum, \a greenLum and \a blueLum. Luminances are negative if the white lies outside
+     * the triangle, and infinite if the triangle is degenerate; callers must check.
      */
     static void RGBCxCyFromWhiteCxCy(double &redLum, double redX, double redY, double &greenLum, double greenX,
         double greenY, double &blueLum, double blueX, double blueY, double whiteLum, double whiteX, double whiteY);
 
 private:
-    // Isotemperature lines, 71 rows of (temperature in kelvin, u, v, slope dv/du) in CIE 1960 uv. Reference data
-    // only: temperatures come from the colour-temperature library.
+    /*!
+     * \brief Isotemperature lines: 71 rows of temperature (kelvin), u, v and slope dv/du in CIE 1960 u, v.
+     *
+     * Reference data only; temperatures are computed by the colour-temperature library.
+     */
     static const double A[71][4];
 };
 

@@ -6,8 +6,11 @@
 
 namespace ceiechart {
 
-// The spectral locus in CIE 1931 x, y at selected wavelengths, 408 nm to 698 nm, denser where it bends. Each point
-// lies within 1e-4 of the chromaticity that the colour-matching functions give at its wavelength.
+/*!
+ * \brief The spectral locus in CIE 1931 x, y at selected wavelengths from 408 nm to 698 nm, denser where it bends.
+ *
+ * Each point lies within 1e-4 of the chromaticity that the colour-matching functions give at its wavelength.
+ */
 inline constexpr QPointF spectralLocus[] = {
     {0.172787, 0.0048},
     {0.170806, 0.005472},

@@ -12,7 +12,7 @@ namespace ceiechart {
 
 namespace {
 
-//! A widget of the box: what to call it, and how to make one.
+/*! \brief The description of a widget in the widget box, and a function that creates it. */
 struct Entry {
     const char *name;
     const char *objectName;
@@ -25,7 +25,7 @@ struct Entry {
 template <typename Chart>
 QWidget *makeChart(QWidget *parent)
 {
-    // A chart renders nothing until it has a size.
+    // A chart draws no picture before it has a size.
     auto *chart = new Chart(parent);
     chart->setImageWidth(400);
     chart->setImageHeight(400);

@@ -9,7 +9,7 @@
 
 namespace ceiechart {
 
-/*! The charts and legends of both generations, for Qt Designer. */
+/*! \brief The widgets that the plugin provides to Qt Designer: the charts and legends of both generations. */
 class ChartPlugins : public QObject, public QDesignerCustomWidgetCollectionInterface {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface")

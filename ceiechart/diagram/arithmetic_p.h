@@ -6,7 +6,9 @@
 
 namespace ceiechart {
 
-/*! Integer a·b (32 bit, wrapping) divided by \a c, truncating toward zero, plus 0.5 always. \a c must not be 0. */
+/*!
+ * \brief a·b in 32-bit integers (wrapping), divided by \a c and truncated toward zero, plus 0.5. \a c must not be 0.
+ */
 inline double mulDiv(int a, int b, int c) noexcept
 {
     const auto product = static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
@@ -14,7 +16,7 @@ inline double mulDiv(int a, int b, int c) noexcept
     return static_cast<double>(quotient) + 0.5;
 }
 
-/*! \a lo when lo > v, else the smaller of \a hi and \a v; a NaN \a v gives \a hi. */
+/*! \brief \a v limited to the range from \a lo to \a hi; \a hi if \a v is NaN. */
 inline double clamp(double v, double lo, double hi) noexcept
 {
     if (lo > v) {
@@ -23,7 +25,7 @@ inline double clamp(double v, double lo, double hi) noexcept
     return v < hi ? v : hi;
 }
 
-/*! Truncates toward zero to 32 bits. NaN and values outside the range of int give the smallest int. */
+/*! \brief \a v truncated toward zero. NaN and values that an int cannot hold give the smallest int. */
 inline int truncated(double v) noexcept
 {
     constexpr double below = std::numeric_limits<int>::min() - 1.0;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr ChromaRange xyRange{0.0F, 0.84F, 0.0F, 0.94F};
 constexpr ChromaRange uvRange{0.0F, 0.65F, 0.0F, 0.68F};
-constexpr int numberHeightPercent = 2; // of the picture's height, in points
+constexpr int numberHeightPercent = 2; //!< of the picture's height, in points
 
 QFont axesFont(int pixelSize)
 {

@@ -13,47 +13,48 @@
 
 /*!
  * \file
- * \brief What the pictures of the two chart generations show: ranges, margins, axes, fonts and colours.
+ * \brief The appearance of the pictures of both chart generations: ranges, margins, axes, fonts and colours.
  *
- * Everything that draws or places something on such a picture reads it here.
+ * Everything that draws such a picture, or positions something on it, takes these values from here.
  */
 namespace ceiechart {
 
-/*! \brief The pictures that the renderers of the two generations draw. */
+/*! \brief The pictures that the renderers of both generations draw. */
 enum class ChartKind {
     CurrentXy, //!< NewCEIE::DrawCEIPicture
-    LegacyXy, //!< DrawCEIPicture of the type XyDiagram
-    LegacyUv //!< DrawCEIPicture of the type UvDiagram
+    LegacyXy, //!< the legacy DrawCEIPicture of type XyDiagram
+    LegacyUv //!< the legacy DrawCEIPicture of type UvDiagram
 };
 
-/*! \brief What one kind of picture looks like, apart from the gamuts on it. */
+/*! \brief The appearance of a kind of picture, apart from the gamuts on it. */
 struct ChartStyle {
-    Model::Diagram diagram; //!< the coordinates in which it is drawn
-    ChromaRange range; //!< the chromaticities from edge to edge of the plot, in those coordinates
-    int marginPercent; //!< of the picture's width and height, on each side of the plot
-    QColor ground; //!< fills the picture
-    QColor horseshoeGround; //!< lies behind the coloured horseshoe
-    Qt::PenStyle gridStyle; //!< of the grid lines
-    const char *xTitle; //!< at the end of the first axis; empty for none
-    const char *yTitle; //!< at the end of the second axis; empty for none
+    Model::Diagram diagram; //!< the chromaticity diagram that the picture shows
+    ChromaRange range; //!< the chromaticities that the plot shows, in the coordinates of the diagram
+    int marginPercent; //!< margin on each side of the plot, in percent of the picture's width or height
+    QColor ground; //!< background colour of the picture
+    QColor horseshoeGround; //!< background colour of the horseshoe
+    Qt::PenStyle gridStyle; //!< pen style of the grid lines
+    const char *xTitle; //!< title of the first axis in UTF-8; empty for none
+    const char *yTitle; //!< title of the second axis in UTF-8; empty for none
 };
 
-/*! \brief The style of \a kind; that of ChartKind::CurrentXy for a value that is no kind. */
+/*! \brief The style of \a kind; that of ChartKind::CurrentXy if \a kind is not a ChartKind. */
 CEIECHART_EXPORT const ChartStyle &chartStyle(ChartKind kind);
 
-/*! \brief The distance between ticks and between grid lines, in units of the diagram's coordinates. */
+/*! \brief The distance between ticks, and between grid lines, in the coordinates of the diagram. */
 constexpr double chartTickStep = 0.1;
 
-/*! \brief The colour of locus edge, axes and wavelengths until a host sets another. */
+/*! \brief The default colour of the locus edge and the axes. */
 CEIECHART_EXPORT QColor chartLineColor();
 
-/*! \brief The font of the numbers at the axes of a picture \a pictureHeight pixels high. */
+/*! \brief The font of the axis numbers of a picture that is \a pictureHeight pixels high. */
 CEIECHART_EXPORT QFont chartNumberFont(ChartKind kind, int pictureHeight);
 
 /*!
- * \brief The mapping between the chromaticities and the pixels of a \a width x \a height picture of \a kind.
+ * \brief The mapping between chromaticities and pixels of a picture of \a kind with \a width × \a height pixels.
  *
- * A width or height of 0 or 1 has no span to map: then every chromaticity maps to the plot's corner.
+ * A picture that is 0 or 1 pixel wide or high has no extent to map: every chromaticity then maps to the corner of the
+ * plot.
  */
 CEIECHART_EXPORT DiagramGeometry chartGeometry(ChartKind kind, int width, int height);
 

@@ -14,10 +14,14 @@ namespace ceiechart {
 
 namespace {
 
-constexpr int bandHeight = 32; // low enough to follow slanting edges, high enough to be few
-constexpr double reach = 1.0; // pixels beyond the polygon that antialiasing may touch
+constexpr int bandHeight = 32; //!< rows: few enough to follow slanting edges, enough to keep the number of bands small
+constexpr double reach = 1.0; //!< distance in pixels up to which antialiasing can change pixels outside the polygon
 
-//! False as well for coordinates that are no numbers, or so large that the columns would be lost in rounding.
+/*!
+ * \brief Whether the columns of \a polygon can be computed.
+ *
+ * False for coordinates that are not numbers or so large that rounding would make the columns wrong.
+ */
 bool canBeBounded(const QPolygonF &polygon)
 {
     constexpr double farthest = 1e6;
@@ -25,14 +29,14 @@ bool canBeBounded(const QPolygonF &polygon)
         [](const QPointF &point) { return std::fabs(point.x()) <= farthest && std::fabs(point.y()) <= farthest; });
 }
 
-//! Where the edge \a a \a b is at height \a y, or its end that is nearer to it.
+/*! \brief The x coordinate of the edge from \a a to \a b at the height \a y, or that of its nearer end. */
 double edgeAt(const QPointF &a, const QPointF &b, double y)
 {
     const double along = b.y() == a.y() ? 0.0 : std::clamp((y - a.y()) / (b.y() - a.y()), 0.0, 1.0);
     return a.x() + along * (b.x() - a.x());
 }
 
-//! The columns of \a band in which \a polygon can show; empty when it passes the band by.
+/*! \brief The part of \a band in which \a polygon can be visible; empty if there is none. */
 QRect columnsWithin(const QPolygonF &polygon, const QRect &band)
 {
     const double top = band.top() - reach;
@@ -55,7 +59,7 @@ QRect columnsWithin(const QPolygonF &polygon, const QRect &band)
     return left > right ? QRect() : QRect(int(left), band.top(), int(right) - int(left) + 1, band.height());
 }
 
-//! The first rows of the picture in its background colour: before the fill, every row is like every other.
+/*! \brief The first rows of the picture in its background colour. Before the fill, all rows are alike. */
 QImage backgroundBand(int width, int height, const QColor &background)
 {
     QImage band(width, std::min(bandHeight, height), QImage::Format_ARGB32);
@@ -75,7 +79,7 @@ void drawHorseshoe(QPainter &painter, const QPolygonF &clip, int width, int heig
     if (band.isNull()) {
         return;
     }
-    // The fill either colours every row from end to end or leaves them all as they are.
+    // The fill either fills every row from end to end or leaves all rows unchanged.
     const QRgb plain = band.pixel(0, 0);
     const bool colored = width > 1 && qRed(plain) > 0;
     if (colored) {

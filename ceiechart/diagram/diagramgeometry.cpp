@@ -33,7 +33,7 @@ QPointF DiagramGeometry::toPixel(const QPointF &chroma) const noexcept
 {
     const double fx = m_plot.left() + (chroma.x() - m_chroma.left()) * m_pixelsPerUnitX;
     const double fy = m_plot.top() - (chroma.y() - m_chroma.bottom()) * m_pixelsPerUnitY;
-    // The sum wraps for positions at the edge of the int range instead of trapping.
+    // The unsigned sum wraps at the end of the range of int, where a signed sum would be undefined.
     const auto px = static_cast<int>(static_cast<unsigned>(truncated(fx)) + unsigned(xOffset));
     return QPointF(px, truncated(fy));
 }

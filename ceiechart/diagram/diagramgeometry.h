@@ -9,51 +9,71 @@
 
 namespace ceiechart {
 
-/*! \brief What part of the chromaticity plane a diagram shows. Single precision is part of the arithmetic. */
+/*! \brief The range of chromaticities that a diagram shows. The mapping depends on their single precision. */
 struct ChromaRange {
-    float xMin; //!< at the left edge
-    float xMax; //!< at the right edge
-    float yMin; //!< at the bottom edge
-    float yMax; //!< at the top edge
+    float xMin; //!< chromaticity at the left edge of the plot
+    float xMax; //!< chromaticity at the right edge
+    float yMin; //!< chromaticity at the bottom edge
+    float yMax; //!< chromaticity at the top edge
 };
 
 /*!
- * \brief The mapping between chromaticities (unitless, CIE 1931 x, y or CIE 1976 u′, v′) and picture pixels
- * (y growing downwards).
+ * \brief The mapping between chromaticities and picture pixels.
  *
- * The plot and chroma rectangles carry their right and bottom edges in the width and height places of QRectF,
- * and the pixel spans subtract left and top from them again. Forward mapping adds xOffset pixels to x, backward
- * mapping does not take them off: the coloured fill and the outlines over it are placed by that pairing.
+ * Chromaticities are unitless, in the coordinates of the diagram: CIE 1931 x, y or CIE 1976 u′, v′. Pixels have y
+ * growing downwards.
+ *
+ * The rectangle of the plot contains the right and bottom edges in place of width and height. The forward mapping adds
+ * xOffset pixels to x, and the backward mapping does not subtract them. The colours of the horseshoe are positioned
+ * with the backward mapping and the lines over it with the forward mapping.
+ *
+ * \code
+ * ceiechart::DiagramGeometry geometry;
+ * geometry.setPicture(800, 800, 5, {0.0F, 0.84F, 0.0F, 0.94F});
+ * const QPointF d65 = geometry.toPixel(QPointF(0.3127, 0.3290));
+ * \endcode
  */
 class CEIECHART_EXPORT DiagramGeometry {
 public:
-    //! Added to every forward-mapped x, in pixels.
+    /*! \brief The number of pixels that the forward mapping adds to x. */
     static constexpr int xOffset = 4;
 
     /*!
-     * Takes both rectangles and derives the spans and scales. When a span is zero it returns false and leaves the
-     * four scales as they were; on a fresh object they are zero, so that every chromaticity maps to the plot's
-     * corner.
+     * \brief Sets both rectangles and computes the scales from them.
+     *
+     * If the plot or the range of chromaticities has no extent in x or y, the scales keep their previous values and the
+     * function returns false. The scales of a new object are 0, so that every chromaticity maps to the corner of the
+     * plot.
+     *
+     * \param plot the plot in pixels: left, top, right and bottom edge
+     * \param chroma the chromaticities of the plot: x minimum, y minimum, x extent and y extent
+     * \return whether the scales were computed
      */
     bool set(const QRectF &plot, const QRectF &chroma) noexcept;
 
-    /*! Plot from \a percent % to 100 − \a percent % of a \a width × \a height picture, showing \a range. */
+    /*!
+     * \brief Sets the mapping of a picture of \a width × \a height pixels.
+     *
+     * The plot extends from \a percent % to 100 − \a percent % of the width and of the height, and shows \a range. The
+     * minima of \a range must be 0. See set() for pictures without an extent.
+     * \return whether the scales were computed
+     */
     bool setPicture(int width, int height, int percent, const ChromaRange &range) noexcept;
 
-    /*! Chromaticity to whole pixels (truncated toward zero), offset added. */
+    /*! \brief The pixel position of \a chroma, truncated toward zero to whole pixels, including the offset. */
     QPointF toPixel(const QPointF &chroma) const noexcept;
-    /*! Chromaticity to pixels without truncation, offset added. */
+    /*! \brief The pixel position of the chromaticity (\a x, \a y), not truncated, including the offset. */
     QPointF toExactPixel(double x, double y) const noexcept;
-    /*! Picture position to chromaticity, offset not subtracted. */
+    /*! \brief The chromaticity at the pixel position (\a px, \a py). The offset is not subtracted. */
     QPointF toChroma(double px, double py) const noexcept;
 
-    //! Pixels; right and bottom edge in the place of width and height.
+    /*! \brief The plot in pixels. Width and height contain the right and bottom edges. */
     const QRectF &plot() const noexcept { return m_plot; }
-    //! Chromaticities; the maxima in the place of width and height.
+    /*! \brief The chromaticities that the plot shows. */
     const QRectF &chroma() const noexcept { return m_chroma; }
-    //! What one pixel is in chromaticity; 0 before the first drawing.
+    /*! \brief The width of a pixel in units of chromaticity; 0 before the scales were first computed. */
     double unitsPerPixelX() const noexcept { return m_unitsPerPixelX; }
-    //! \copydoc unitsPerPixelX
+    /*! \brief The height of a pixel in units of chromaticity; 0 before the scales were first computed. */
     double unitsPerPixelY() const noexcept { return m_unitsPerPixelY; }
 
 private:

@@ -9,13 +9,17 @@
 
 namespace ceiechart {
 
-/*! Whether \a point can be drawn. The paint engine logs a warning for arcs with coordinates that are not finite. */
+/*!
+ * \brief Whether both coordinates of \a point are finite.
+ *
+ * The paint engine logs a warning when an ellipse with other coordinates is drawn.
+ */
 inline bool isFinite(const QPointF &point)
 {
     return std::isfinite(point.x()) && std::isfinite(point.y());
 }
 
-/*! \copydoc isFinite(const QPointF &) */
+/*! \brief Whether the position and the size of \a rectangle are finite. */
 inline bool isFinite(const QRectF &rectangle)
 {
     return isFinite(rectangle.topLeft()) && std::isfinite(rectangle.width()) && std::isfinite(rectangle.height());

@@ -77,7 +77,7 @@ std::optional<GamutStyle> currentChartStandardStyle(const std::string &name)
 
 GamutStyle legacyChartStyle(GamutKind kind)
 {
-    // The colours of the legend's swatches.
+    // These are the colours of the swatches in the legend.
     if (kind == OriginalGamut) {
         return {QColor(255, 255, 255, 255), 2, 1.0, Qt::SolidLine};
     }

@@ -13,49 +13,53 @@
 
 /*!
  * \file
- * \brief The roles that gamuts play and what each of them looks like, on the charts of both generations and on
- *        diagrams of a program's own.
+ * \brief The roles of gamuts and the appearance of each role on the charts and on other diagrams.
  */
 namespace ceiechart {
 
 /*! \brief The role of a gamut. */
 enum class GamutRole {
-    Standard, //!< a published gamut to compare with
-    Target, //!< the gamut that is asked for, and edited
-    Original, //!< what the display can show
-    Measured, //!< what a measurement has found
-    Declared //!< what the display says of itself
+    Standard, //!< a published gamut, for comparison
+    Target, //!< the gamut that the display shall have after calibration
+    Original, //!< the gamut of the display before calibration
+    Measured, //!< the gamut that was measured
+    Declared //!< the gamut that the display declares, for example in its EDID
 };
 
-/*! \brief How the outline and the area of a gamut are drawn. */
+/*! \brief The appearance of the outline and the area of a gamut. */
 struct GamutStyle {
-    QColor color; //!< of the outline; its tint has the same red, green and blue
-    int width; //!< of the outline, in pixels
-    double opacity; //!< of the tint within the outline; 0 for none
-    Qt::PenStyle line; //!< of the outline
+    QColor color; //!< colour of the outline and, apart from its alpha, of the tint
+    int width; //!< width of the outline in pixels
+    double opacity; //!< opacity of the tint inside the outline, below 1; 0 or 1 for no tint
+    Qt::PenStyle line; //!< pen style of the outline
 };
 
-/*! \brief The name of \a role for a key or a table, in the language of the interface. */
+/*! \brief The translated name of \a role, for legends and tables; empty if \a role is not a GamutRole. */
 CEIECHART_EXPORT QString gamutRoleName(GamutRole role);
 
 /*!
- * \brief The style of \a role on a diagram that tells roles apart by colour and by line style.
+ * \brief The style of \a role on a diagram that distinguishes roles by colour and by line style.
  *
  * The charts of the two generations have styles of their own: see currentChartStyle() and legacyChartStyle().
  */
 CEIECHART_EXPORT GamutStyle gamutStyle(GamutRole role);
 
 /*!
- * \brief The style that NewCEIE::CEIEGraphicsView gives to a gamut of \a kind.
+ * \brief The style of a gamut of \a kind on the chart NewCEIE::CEIEGraphicsView.
  *
- * \param besideMeasured whether there is a measured gamut too, which takes the original's cyan
+ * \param kind the original, measured or target gamut; any other value gives the style of the target. For standards see
+ * currentChartStandardStyle().
+ * \param besideMeasured whether the chart also shows a measured gamut. The original gamut is then green instead of
+ * cyan.
  */
 CEIECHART_EXPORT GamutStyle currentChartStyle(GamutKind kind, bool besideMeasured);
 
-/*! \brief The style that NewCEIE::CEIEGraphicsView gives to the standard \a name; none for one that it leaves out. */
+/*!
+ * \brief The style of the standard \a name on the chart NewCEIE::CEIEGraphicsView; none if the chart does not show it.
+ */
 CEIECHART_EXPORT std::optional<GamutStyle> currentChartStandardStyle(const std::string &name);
 
-/*! \brief The style that the legacy CEIEGraphicsView gives to the original and to the target. */
+/*! \brief The style of a gamut on the legacy chart; any \a kind other than OriginalGamut gives that of the target. */
 CEIECHART_EXPORT GamutStyle legacyChartStyle(GamutKind kind);
 
 } // namespace ceiechart

@@ -1,26 +1,26 @@
 // SPDX-License-Identifier: MIT
 //
-// The fill of the horseshoe, pixel for pixel what the definition gives:
+// The fill gives exactly the pixels of this definition:
 //
 //     amounts  = primaryAmounts(chromaticity of the pixel)        affine along a row
 //     channels = fullBrightness(amounts)                          v = 255 c / L, L the largest amount
 //     colour   = rounded(channels)                                trunc(v + 0.5)
 //
-// A kernel follows this in single precision and leaves every pixel undecided of which a channel comes out nearer to
-// a rounding boundary than the error of that can be. Undecided pixels are done in double precision, in the order of
-// arithmetic of the definition.
+// A kernel computes this in single precision. If a channel of a pixel is nearer to a rounding boundary than the error
+// of the computation, the kernel leaves the pixel undecided. Undecided pixels are computed in double precision, in the
+// order of arithmetic of the definition.
 //
-// The error, with u = 2^-24 and M the largest magnitude of an amount on the row (it is affine, so at one of its
-// ends):
+// The error, where u = 2^-24 and M is the largest magnitude of an amount on the row (amounts are affine, so that M is
+// reached at an end of the row):
 //
-// - An amount is base + k · step. Rounding the base costs uM, rounding the step and multiplying it 2u |k · step|,
-//   which is at most 4uM, and adding uM. Clamping to [0, 1] enlarges no error. Together 6uM; 7uM covers what is of
-//   second order.
-// - The amounts sum to 1, so L ≥ 1/3, and c ≤ L. An error e of the amounts shifts v by 255 (e / L + c e / L²) at
-//   the most, which is no more than 1530 e.
-// - The quotient 255 / L, its product with c and the sum with 0.5 are rounded: less than 900u together.
-// - The definition itself, in double precision, and the interpolation between the row's ends are off by less than
-//   1e-9 as long as the colour system is well-conditioned and M small; otherwise the whole row is done in double
+// - An amount is base + k · step. Rounding the base gives an error of at most uM. Rounding the step and multiplying it
+//   give at most 2u |k · step|, which is at most 4uM. The addition gives at most uM. Clamping to [0, 1] increases no
+//   error. The sum is 6uM; 7uM includes the terms of second order.
+// - The sum of the amounts is 1, therefore L ≥ 1/3, and c ≤ L. An error e of the amounts changes v by at most
+//   255 (e / L + c e / L²), which is at most 1530 e.
+// - The rounding of the quotient 255 / L, of its product with c and of the sum with 0.5 gives less than 900u in total.
+// - The errors of the definition in double precision, and of the interpolation between the ends of the row, are below
+//   1e-9 if the colour system is well-conditioned and M is small. Otherwise the whole row is computed in double
 //   precision.
 #include <ceiechart/diagram/horseshoefill_p.h>
 
@@ -42,8 +42,8 @@ namespace ceiechart {
 
 namespace {
 
-constexpr int runLength = 64; // pixels
-constexpr double largestAmount = 8.0; // for which the error is argued
+constexpr int runLength = 64; //!< pixels
+constexpr double largestAmount = 8.0; //!< the error estimate holds up to this amount
 constexpr double roundingUnit = 1.0 / (1 << 24);
 
 #ifdef __GNUC__
@@ -117,7 +117,10 @@ Channels amountsAt(const HorseshoeFill &fill, int x, int y)
     return primaryAmounts(fill.colorSystem, chroma.x(), chroma.y(), 1 - chroma.x() - chroma.y());
 }
 
-//! False for a colour that cannot be written, of a singular colour system.
+/*!
+ * \brief The colour of a pixel by the definition. False if it has none because the colour system's primaries lie on a
+ * line.
+ */
 bool exactColor(const HorseshoeFill &fill, int x, int y, QRgb &color)
 {
     const Channels channels = fullBrightness(amountsAt(fill, x, y), fill.gamma);
@@ -126,7 +129,7 @@ bool exactColor(const HorseshoeFill &fill, int x, int y, QRgb &color)
     return exact.isValid();
 }
 
-//! Whether the error of the definition in double precision can be neglected.
+/*! \brief Whether the error of the definition in double precision can be neglected for \a system. */
 bool wellConditioned(const CEIAtlasValue::TColorSystem &system)
 {
     for (const float coordinate :
@@ -140,7 +143,7 @@ bool wellConditioned(const CEIAtlasValue::TColorSystem &system)
     return std::fabs(twiceArea) >= 1e-3;
 }
 
-//! First and last column to be coloured, or 0 and 0.
+/*! \brief The first and the last column to fill, or 0 and 0 for none. */
 template <typename HasRed>
 std::pair<int, int> columnsToColor(int width, HasRed hasRed)
 {
@@ -155,7 +158,10 @@ std::pair<int, int> columnsToColor(int width, HasRed hasRed)
     return {left < width ? left : 0, right};
 }
 
-//! Formats in which an opaque colour is its QRgb, and red is above zero in the pixel when it is in the colour.
+/*!
+ * \brief Whether a pixel of \a format stores an opaque colour as its QRgb, and stores a red component above zero for
+ * every colour that has one.
+ */
 bool holdsRgb(QImage::Format format)
 {
     return format == QImage::Format_ARGB32 || format == QImage::Format_RGB32
@@ -237,7 +243,7 @@ void RowFill::exact(QRgb &pixel, int x, int y) const
 
 void fillHorseshoe(QImage &picture, int width, int height, const HorseshoeFill &fill, const FillKernel &kernel)
 {
-    // Where the picture ends there is no red, and nothing to colour.
+    // There is nothing to fill outside the picture.
     width = std::min(width, picture.width());
     height = std::min(height, picture.height());
     if (width < 1 || height < 1) {

@@ -15,41 +15,54 @@ class QPolygonF;
 
 namespace ceiechart {
 
-//! Three channel values: linear amounts of the primaries, or what becomes of them on the way to a colour.
+/*! \brief Three channel values: amounts of the primaries, or the components of a colour. */
 struct Channels {
     double red, green, blue;
 };
 
 /*!
- * The amounts of the three primaries of \a system that mix to chromaticity (x, y, z), by Cramer's rule. There is
- * no white-point normalisation; x + y + z = 1 makes the amounts sum to 1. A singular system gives NaN or infinities.
+ * \brief The amounts of the three primaries of \a system that mix to the chromaticity (x, y, z).
+ *
+ * They are computed by Cramer's rule, without normalisation to the white point. If x + y + z = 1, the sum of the
+ * amounts is 1. If the primaries lie on a line, the amounts are infinite or NaN.
  */
 Channels primaryAmounts(const CEIAtlasValue::TColorSystem &system, double x, double y, double z) noexcept;
 
 /*!
- * The primaries and the white that colour a CIE 1976 u′, v′ diagram, in u′, v′: chosen to look right there, not
- * converted from those of the x, y diagram.
+ * \brief The primaries and the white that colour a CIE 1976 u′, v′ diagram, in u′, v′.
+ *
+ * They are chosen for the appearance of the diagram and are not converted from the primaries of the x, y diagram.
  */
 constexpr CEIAtlasValue::TColorSystem uvColorSystem{
     0.5222F, 0.5222F, 0.0111F, 0.7888F, 0.1888F, 0.1555F, 0.2333F, 0.4777F};
 
-/*! Clamps \a amounts to [0, 1] and scales them so that the largest is 255; \a gamma shapes the others. */
+/*!
+ * \brief The components of the colour with \a amounts, from 0 to 255.
+ *
+ * The amounts are clamped to [0, 1] and scaled so that the largest becomes 255. \a gamma is applied to the scaled
+ * amounts.
+ */
 Channels fullBrightness(const Channels &amounts, double gamma) noexcept;
 
-/*! Half away from zero for what is not negative; NaN gives the smallest int. */
+/*!
+ * \brief \a channel rounded to nearest, with halves rounded up; \a channel is not negative. NaN gives the smallest int.
+ */
 inline int rounded(double channel) noexcept
 {
     return truncated(channel + 0.5);
 }
 
-/*! What every pixel of a fill has in common. */
+/*! \brief The parameters of a fill, the same for all pixels. */
 struct HorseshoeFill {
     DiagramGeometry geometry;
     CEIAtlasValue::TColorSystem colorSystem;
     double gamma;
 };
 
-/*! A run of pixels: amounts at its first pixel, their steps from pixel to pixel, and the margin of decision. */
+/*!
+ * \brief A run of pixels in a row: the amounts at its first pixel, their steps from pixel to pixel, and the margin with
+ * which a channel must miss a rounding boundary to be decided.
+ */
 struct PixelRun {
     float red, green, blue;
     float redStep, greenStep, blueStep;
@@ -57,44 +70,57 @@ struct PixelRun {
 };
 
 /*!
- * How a run of pixels is decided at once; see horseshoefill.cpp. Every kernel gives the same colours, and the fill
- * takes the fastest that the processor has.
+ * \brief A function that colours runs of pixels, and whether the processor supports it; see horseshoefill.cpp.
+ *
+ * All kernels give the same colours. The fill uses the fastest one that the processor supports.
  */
 struct FillKernel {
     const char *name;
     bool (*supported)();
-    //! Colours \a count pixels; true when any is left \a undecided.
+    /*!
+     * \brief Colours \a count pixels and marks in \a undecided those that must be computed in double precision.
+     * \return whether any pixel is undecided
+     */
     bool (*decide)(const PixelRun &run, int count, QRgb *colors, unsigned *undecided);
 };
 
-//! The margin by which a channel has to miss a rounding boundary, when no amount on the row exceeds \a magnitude.
+/*!
+ * \brief The distance from a rounding boundary below which a channel is undecided.
+ * \param magnitude the largest magnitude of an amount on the row
+ */
 double decisionMargin(double magnitude);
 
-//! All kernels, the fastest first; the last one runs everywhere.
+/*! \brief All kernels, from the fastest to the slowest. Every processor supports the last one. */
 extern const FillKernel fillKernels[];
 extern const int fillKernelCount;
+/*! \brief The fastest kernel that the processor supports. */
 const FillKernel &fastestFillKernel();
 
 /*!
- * Colours each row of \a picture, in the first \a width columns and \a height rows, from its first to its last
- * pixel whose red is above zero. Column 0 counts as first but not as last.
+ * \brief Fills the horseshoe in the first \a width columns and \a height rows of \a picture.
+ *
+ * Each row is filled from its first to its last pixel whose red component is above zero. A row in which at most the
+ * pixel of column 0 has such a red component is not filled.
  */
 void fillHorseshoe(
     QImage &picture, int width, int height, const HorseshoeFill &fill, const FillKernel &kernel = fastestFillKernel());
 
-/*! \brief Colours rows of pixels, whatever they lie in. */
+/*! \brief Fills parts of rows, in a picture or in a buffer. */
 class RowFill {
 public:
-    //! Both must outlive the object.
+    /*! \brief Creates a fill. \a fill and \a kernel must outlive it. */
     RowFill(const HorseshoeFill &fill, const FillKernel &kernel);
 
     /*!
-     * Colours row \a y of the diagram from column \a left to \a right inclusive; \a line begins at column \a left.
-     * Of a singular colour system, pixels that have no colour are left as they are.
+     * \brief Fills row \a y of the diagram from column \a left to column \a right inclusive.
+     *
+     * \a line points to the pixel of column \a left. Pixels that have no valid colour, which a colour system with
+     * primaries on a line can give, are not changed.
      */
     void color(QRgb *line, int left, int right, int y) const;
 
 private:
+    /*! \brief Computes the colour of a pixel in double precision. */
     void exact(QRgb &pixel, int x, int y) const;
 
     const HorseshoeFill &m_fill;
@@ -103,8 +129,10 @@ private:
 };
 
 /*!
- * Draws what fillHorseshoe() makes of a \a width × \a height picture in \a background, as far as it can show inside
- * \a clip, to which \a painter is clipped. It is made in bands, so that it takes little memory.
+ * \brief Draws the horseshoe inside \a clip.
+ *
+ * The result is that of drawing a picture of \a width × \a height pixels, filled with \a background and then by
+ * fillHorseshoe(), with a \a painter that is clipped to \a clip. To save memory, the picture is drawn in bands of rows.
  */
 void drawHorseshoe(QPainter &painter, const QPolygonF &clip, int width, int height, const HorseshoeFill &fill,
     const QColor &background);

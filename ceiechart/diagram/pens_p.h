@@ -6,7 +6,7 @@
 
 namespace ceiechart {
 
-/*! The pen of all outlines: solid, with square caps and bevelled joins. */
+/*! \brief The pen of all outlines: a solid line with square caps and bevelled joins. \a width is in pixels. */
 inline QPen solidPen(const QColor &color, double width)
 {
     return QPen(QBrush(color), width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);

@@ -102,7 +102,7 @@ void CEIEGraphicsScene::drawBackground(QPainter *painter, const QRectF &)
 void CEIEGraphicsScene::keyPressEvent(QKeyEvent *event)
 {
     d->keyPressed(event->key());
-    // The hand stays while the space bar is held.
+    // The hand remains while the space bar is held.
     d->hand = event->key() == Qt::Key_Space;
 }
 

@@ -8,53 +8,72 @@
 #include <ceiechart/scene/targetscene.h>
 
 /*!
- * \brief The legacy chart's scene: shows the diagram with the handles of the target gamut and edits them with mouse
- * and keyboard.
+ * \brief The scene of the legacy chart: shows the diagram with the handles of the target gamut, which is edited with
+ * mouse and keyboard.
  *
- * A left press picks the white-point handle, or else places the primary of the colour region under the pointer; a
- * drag moves what was picked, inside its bounds; the release reports the result. On the u′, v′ diagram gamuts,
- * regions and reports stay in CIE 1931 x, y: positions are converted on the way in and out, so that a handle is
- * drawn and dragged where its chromaticity lies on the diagram.
+ * A left press selects the white-point handle, or sets the primary whose colour region is under the pointer. Dragging
+ * moves the selected point within its limits, and the release reports the result. Gamuts, colour regions and reports
+ * are in CIE 1931 x, y (unitless) on both diagrams: on the u′, v′ diagram, positions are converted in both directions,
+ * so that a handle is drawn and dragged where its chromaticity is on the diagram.
  *
- * Handles are placed in the scene, whose rectangle is that of the picture, but the picture is placed in the view
- * (scaled down, or centred, when their sizes differ). So an inner view that is not fixed to the picture's size, as
- * the chart's is, can show handles beside the places that they stand for.
+ * \code
+ * CEIEGraphicsScene scene(DrawCEIPicture::XyDiagram, {original, target});
+ * scene.setImageWidth(600);
+ * scene.setImageHeight(600);
+ * QObject::connect(&scene, &CEIEGraphicsScene::signal_targetInfoChanged, &window, &Window::showTarget);
+ * \endcode
  *
- * The press handler neither accepts nor ignores its event; move and release accept theirs, where they do not return
- * early.
+ * The press event is not accepted: it also reaches the widgets that contain the view. Release events are accepted, and
+ * so are move events, except while the magnifier is on, while the white point is dragged, and during a drag of a
+ * primary that is not allowed.
  *
- * The scene owns its renderer and its last picture. GUI thread only.
+ * Handles are positioned in the scene, which has the size of the picture. The picture is positioned in the view: if the
+ * view is larger or smaller than the picture, the picture is centred or scaled, and the handles are not at the
+ * positions of their chromaticities in it. The inner view of the chart has a fixed size, with which they differ by one
+ * pixel.
+ *
+ * The scene owns its renderer and its picture. A view does not own its scene; the chart CEIEGraphicsView does. Use a
+ * scene on the GUI thread only.
  */
 class CEIECHART_EXPORT CEIEGraphicsScene : public ceiechart::TargetScene {
     Q_OBJECT
 
 public:
     /*!
-     * \brief A scene of \a triangles on the diagram \a type.
+     * \brief Creates a scene with \a triangles (original, target) on the diagram \a type.
      *
-     * With two or more \a triangles (original, target) the construction emits signal_triangleObjecIinitialized().
-     * Nothing is rendered before getBitMap() or a setter that calls it.
+     * With two or more gamuts the constructor emits signal_triangleObjecIinitialized(), before a host can connect to
+     * it. No picture is rendered before getBitMap() or a setter that renders.
      */
     CEIEGraphicsScene(DrawCEIPicture::CEIEType type, QList<ColorTriangleObject> triangles);
     ~CEIEGraphicsScene() override;
 
-    /*! \brief Drawn by the u′, v′ picture from its next rendering on; u′, v′ pairs. */
+    /*!
+     * \brief Sets the measurement points of the next u′, v′ picture, as pairs of CIE 1976 u′, v′. An x, y picture does
+     * not show them.
+     */
     void setMeasureValuePoints(const QList<QPointF> &points);
-    /*! \brief A copy of the measure points. */
+    /*! \brief A copy of the measurement points of setMeasureValuePoints(). Not const, like the other getters. */
     QList<QPointF> getMeasureValuePoints();
 
 Q_SIGNALS:
-    /*! \brief A primary has been placed; carries the target after the change. */
+    /*! \brief Emitted when a primary of the target has been set; \a colorTriangleObject is the changed target. */
     void signal_colorGamutValueChanged(ColorTriangleObject colorTriangleObject);
-    /*! \brief A drag of the held white point has ended. */
+    /*!
+     * \brief Emitted when the white point has been released while setColorTempertureChecked() is set; carries the
+     * target.
+     */
     void signal_colorGamutWhiteChanged(ColorTriangleObject colorTriangleObject);
-    /*! \brief The white-point handle has been drawn; whole kelvin. */
+    /*! \brief Emitted when the white-point handle has been drawn, with its colour temperature in whole kelvin. */
     void signal_colorTempertrueValueChang(double colorTempertureValue);
-    /*! \brief The pointer has moved, or the space bar asks for an open hand. */
+    /*! \brief Emitted when the pointer has moved, with a cross, or when the space bar is pressed, with an open hand. */
     void signal_mouseCursorChange(QCursor mouseCursorStyle);
-    /*! \brief A white-point request has been accepted, or a drag has ended. */
+    /*! \brief Emitted when a move of the white point has been accepted, and when the left mouse button is released. */
     void signal_targetInfoChanged(TargetInfoChangedEventArgs targetInfoChangedEventArgs);
-    /*! \brief The gamuts at construction, and whether the target lies inside the original. */
+    /*!
+     * \brief Emitted by the constructor, with the original and the target and whether the target lies inside the
+     * original.
+     */
     void signal_triangleObjecIinitialized(TriangleObjecIinitializedEventArgs triangleObjecIinitializedEventArgs);
 
 protected:
@@ -66,7 +85,7 @@ protected:
     void drawBackground(QPainter *painter, const QRectF &rect) override;
 
 private:
-    /*! \brief The verdict alone: \a beyond cannot be written back. */
+    /*! \brief Whether all primaries of \a target lie inside \a original. \a beyond is constant and receives nothing. */
     bool CheckOriginalAndTarget(
         const ColorTriangleObject &original, const ColorTriangleObject &target, const baseCommon::LEDColorType &beyond);
     bool SetEllipseDieplay(QPainter *painter, QPointF chroma, QSize size, TabSelectedType tab, ColorArea area);

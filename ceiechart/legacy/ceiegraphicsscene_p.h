@@ -7,8 +7,8 @@
 
 #include <QPoint>
 
-class Q_DECL_HIDDEN CEIEGraphicsScene::Private
-    : public ceiechart::SceneSignals<CEIEGraphicsScene, ceiechart::TargetScene::Private> {
+/*! \brief The mapping and the rendering of the legacy scene, and the state of mouse editing. */
+class Q_DECL_HIDDEN CEIEGraphicsScene::Private : public ceiechart::SceneSignals<CEIEGraphicsScene, ceiechart::TargetScene::Private> {
 public:
     explicit Private(DrawCEIPicture::CEIEType diagramType)
         : type(diagramType)
@@ -25,10 +25,13 @@ public:
     void drawFurtherSigns(QPainter *painter) override;
 
     // Mouse editing, in mouseediting.cpp
+    /*! \brief Whether the chromaticity at \a position lies inside the original gamut. */
     bool isInsideOriginal(const QPointF &position);
+    /*! \brief Stores \a position, truncated to whole pixels. */
     void rememberMousePosition(const QPointF &position);
+    /*! \brief Emits the cursor for \a position if the pointer has moved. */
     void showHoverCursor(const QPointF &position);
-    //! Lets what was picked follow the pointer. False when the move needs no further repaint.
+    /*! \brief Moves the selected point to \a position, if it can be moved. False if no further repaint is needed. */
     bool followPointer(const QPointF &position);
 
     DrawCEIPicture::CEIEType type;
@@ -38,7 +41,7 @@ public:
     bool buttonDown = false;
     bool leftButton = false;
     bool whiteInside = false;
-    //! Would keep presses outside the original gamut to the colour regions. Nothing sets it.
+    /*! \brief Would restrict presses outside the original gamut to the colour regions. It is never set. */
     bool regionGate = false;
     QPoint lastMousePosition;
     QPointF lastHoverPosition;

@@ -9,7 +9,10 @@
 
 namespace {
 
-//! Role and opacity are left at what a new object has: hosts see them in the list.
+/*!
+ * \brief The gamut as it is put into the list. Kind and opacity remain those of a new object, which hosts see in the
+ * list.
+ */
 template <class Record>
 ColorTriangleObject listedGamut(const Record &gamut, ceiechart::GamutKind kind)
 {
@@ -118,7 +121,7 @@ void CEIEGraphicsView::buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignm
     d->setLegend(new CEIELegend(showPoints, alignment, this));
     setLegendAlignamentCommon(alignment);
     if (own().type == DrawCEIPicture::XyDiagram) {
-        // Queued: the cursor changes after the scene has handled its event.
+        // The connection is queued so that the cursor changes after the scene has handled its event.
         connect(scene, &CEIEGraphicsScene::signal_mouseCursorChange, innerView,
             &NQCEIEGraphicsView::slot_mouseCursorChange, Qt::QueuedConnection);
     }

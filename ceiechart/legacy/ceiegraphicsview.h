@@ -14,10 +14,11 @@
 #include <gamutmodel/colorgamut.h>
 
 /*!
- * \brief The legacy chart: the x, y or the u′, v′ diagram with two gamuts, whose target is edited with the mouse.
+ * \brief The legacy chart: the CIE 1931 x, y or the CIE 1976 u′, v′ diagram with a legend, on which the user edits the
+ * target gamut with the mouse.
  *
- * A host hands over the original and the target gamut; the user drags the target's primaries and white on the
- * chart; the signals report every change. The diagram is chosen at construction.
+ * A host sets the original and the target gamut. The user drags the primaries and the white point of the target, and
+ * the signals report every change. The diagram is chosen in the constructor.
  *
  * \code
  * auto *chart = new CEIEGraphicsView(this, DrawCEIPicture::XyDiagram);
@@ -27,49 +28,63 @@
  * connect(chart, &CEIEGraphicsView::signal_targetInfoChanged, this, &Window::showTarget);
  * \endcode
  *
- * Inner view and legend are children of the chart. The scene has no parent; the chart deletes it. Gamuts are in
- * CIE 1931 x, y on both diagrams. Nothing reports an error: what cannot be used is ignored. GUI thread only.
+ * The inner view and the legend are children of the chart. The scene has no parent; the chart deletes it. Gamuts are in
+ * CIE 1931 x, y (unitless) on both diagrams, luminances have the host's unit. Invalid input is ignored, and no function
+ * reports an error. Use a chart on the GUI thread only.
  */
 class CEIECHART_EXPORT CEIEGraphicsView : public ceiechart::ChartFrame {
     Q_OBJECT
 
 public:
     /*!
-     * \brief A chart of the diagram \a type whose legend stands below it and names the gamuts only.
+     * \brief Creates a chart of the diagram \a type. The legend is below the chart and has the gamut entries only.
      *
-     * The pointer keeps its shape over a u′, v′ diagram.
-     * \param parent owns the chart when not null.
+     * Over a u′, v′ diagram the pointer does not change its shape.
+     * \param parent owns the chart if it is not null
+     * \param type the diagram; any value other than DrawCEIPicture::UvDiagram gives the x, y diagram
      */
     CEIEGraphicsView(QWidget *parent, DrawCEIPicture::CEIEType type);
-    /*! \brief An x, y chart whose legend stands below it and names the points too, whatever the flag. */
+    /*!
+     * \brief Creates an x, y chart. The legend is below the chart and also has the point entries. The flag is ignored.
+     */
     CEIEGraphicsView(bool, QWidget *parent);
     /*!
-     * \brief An x, y chart whose legend names the points too, whatever the flag.
+     * \brief Creates an x, y chart. The legend also has the point entries. The flag is ignored.
      *
-     * The legend stands to the right of the chart, in a column with captions written downwards, if \a alignment is
-     * exactly Qt::AlignLeft or exactly Qt::AlignRight; for any other value, combinations included, it stands below.
+     * If \a alignment is exactly Qt::AlignLeft or exactly Qt::AlignRight, the legend is a column to the right of the
+     * chart, and its captions are written downwards. With any other value, including combinations, the legend is a row
+     * below the chart. \a parent owns the chart if it is not null.
      */
     CEIEGraphicsView(bool, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent);
     ~CEIEGraphicsView() override;
 
     /*!
-     * \brief Makes the list of gamuts original (white, 2 pixels wide) and target (black, 1 pixel wide).
+     * \brief Replaces the gamuts by \a original (white, 2 pixels wide) and \a target (black, 1 pixel wide).
      *
-     * The chart shows the target by its handles. It draws no outlines: colours and widths are for the host.
+     * The chart shows the target by its handles. It does not draw outlines; colours and widths are for the host.
      */
     void setColorGamut(const Model::ColorGamutInfo &target, const Model::ColorGamutInfo &original);
-    /*! \brief Copies chromaticities and luminances of the primaries and the white of \a gamut to \a triangle. */
+    /*!
+     * \brief Copies the chromaticities and luminances of the primaries and the white point of \a gamut to \a triangle.
+     */
     void colorGamutToTriangle(const Model::ColorGamutInfo &gamut, TrianglePoint &triangle);
 
     /*!
-     * \brief Hands u′, v′ pairs to the scene; a u′, v′ chart draws them with its next picture, which a new size or
-     *        layer switch makes.
+     * \brief Sets measurement points, as pairs of CIE 1976 u′, v′.
+     *
+     * A u′, v′ chart shows them in its next picture, which is rendered after a change of the size or of a layer switch.
+     * An x, y chart does not show them.
      */
     void setMeasureValuePoints(const QList<QPointF> &points);
-    /*! \brief The measure points as the scene holds them. */
+    /*! \brief The measurement points of setMeasureValuePoints(); empty if the scene has been deleted. */
     QList<QPointF> getMeasureValuePoints() const;
 
-    /*! \brief Sets the colour of edge and axes and the one that fills a u′, v′ picture, for the next picture. */
+    /*!
+     * \brief Sets the colours of the next picture.
+     *
+     * \param first colour of the locus edge and the axes
+     * \param second background colour of a u′, v′ picture; an x, y picture has a black background
+     */
     void setGraphColor(QColor first, QColor second);
 
     /*! \copydoc NewCEIE::CEIEGraphicsView::setLegendAlignament */
@@ -80,20 +95,20 @@ public:
     NQCEIEGraphicsView *view() const;
 
 Q_SIGNALS:
-    /*! \brief A primary of the target has been placed; \a colorTriangleObject is the target after that. */
+    /*! \brief Emitted when a primary of the target has been set; \a colorTriangleObject is the changed target. */
     void signal_colorGamutValueChanged(ColorTriangleObject colorTriangleObject);
     /*!
-     * \brief The white point has been released while the white is held; \a colorTriangleObject is the target.
-     * \see setColorTempertureChecked()
+     * \brief Emitted when the white point has been released while setColorTempertureChecked() is set; \a
+     * colorTriangleObject is the target.
      */
     void signal_colorGamutWhiteChanged(ColorTriangleObject colorTriangleObject);
-    /*! \brief The colour temperature of the white-point handle, in kelvin, each time that it is drawn. */
+    /*! \brief Emitted each time the white-point handle is drawn, with its colour temperature in kelvin. */
     void signal_colorTempertrueValueChang(double colorTempertureValue);
     /*! \brief Never emitted. */
     void signal_mouseCursorChange(MouseCursorStyle mouseCursorStyle);
-    /*! \brief A request to move the white point has been accepted, or the left button released. */
+    /*! \brief Emitted when a move of the white point has been accepted, and when the left mouse button is released. */
     void signal_targetInfoChanged(TargetInfoChangedEventArgs targetInfoChangedEventArgs);
-    /*! \brief A scene has been constructed with gamuts: not so the scene of a view, which gets them later. */
+    /*! \brief Emitted when the scene has been constructed with gamuts. The scene of a chart gets its gamuts later. */
     void signal_triangleObjecIinitialized(TriangleObjecIinitializedEventArgs triangleObjecIinitializedEventArgs);
 
 private:

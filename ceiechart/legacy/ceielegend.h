@@ -6,7 +6,7 @@
 #include <ceiechart/widgets/chartlegend.h>
 
 /*!
- * \brief The key to a legacy chart: as NewCEIE::CEIELegend, but its entries are numbered without a gap.
+ * \brief The legend of a legacy chart: like NewCEIE::CEIELegend, but the values of its entries have no gap.
  *
  * Its captions have a translation context of their own, CEIELegend.
  *
@@ -39,9 +39,9 @@ public:
     ~CEIELegend() override;
 
     /*!
-     * \brief Shows or hides swatch and caption of one entry.
+     * \brief Shows or hides the swatch and the caption of an entry.
      *
-     * Values that are no legendType, and points on a legend without point entries, are ignored.
+     * Values that are not a legendType, and points in a legend without point entries, are ignored.
      */
     void setLegendVisible(legendType type, bool visible);
 

@@ -11,10 +11,10 @@
 #include <vector>
 
 /*!
- * \brief Draws the CIE 1931 x, y or the CIE 1976 u′, v′ chromaticity diagram into a new picture per call.
+ * \brief Draws the CIE 1931 x, y or the CIE 1976 u′, v′ chromaticity diagram. Each call draws a new picture.
  *
- * The diagram type is chosen once, at construction. It draws no gamuts: the scene puts the
- * target's handles over the picture.
+ * The diagram is chosen in the constructor. The renderer draws no gamuts: the scene draws the handles of the target
+ * over the picture. Create a renderer once and use it for all pictures.
  *
  * \code
  * DrawCEIPicture renderer(DrawCEIPicture::UvDiagram, nullptr);
@@ -22,76 +22,116 @@
  * std::unique_ptr<QImage> picture(renderer.drawCEIEPicture(800, 800, true, false, false, {}));
  * \endcode
  *
- * Both drawing forms return a picture that the caller owns. A width or height of 0 gives a null image, and so do a
- * negative size and one that cannot be allocated. GUI thread only.
+ * Both drawing functions return a picture that the caller owns and that shares no data with the renderer. If the width
+ * or height is 0 or negative, or the picture cannot be allocated, the picture is a null image; the pointer never is
+ * null. Sizes are in pixels, with y growing downwards. Use a renderer on the GUI thread only.
  */
 class CEIECHART_EXPORT DrawCEIPicture : public ceiechart::DiagramRenderer {
     Q_OBJECT
 
 public:
-    //! Any value other than UvDiagram makes an x, y renderer.
+    /*! \brief The diagram of a renderer. Any value other than UvDiagram gives the x, y diagram. */
     enum CEIEType : int { XyDiagram = 0, UvDiagram = 1 };
 
-    /*! \param parent owns the renderer when not null. */
+    /*! \brief Creates a renderer for the diagram \a type. \a parent owns it if it is not null. */
     DrawCEIPicture(DrawCEIPicture::CEIEType type, QWidget *parent);
     ~DrawCEIPicture() override;
 
-    /*! As given to the constructor. */
+    /*! \brief The diagram that was passed to the constructor. Not const, like CurCoordinateToChroma(). */
     DrawCEIPicture::CEIEType type();
 
     /*!
-     * \brief The x, y picture on black: locus edge and horseshoe, and what the flags ask for.
+     * \brief Draws the x, y picture on a black background: the locus edge, the horseshoe and the layers of the flags.
      *
-     * \a points are the colour-temperature points (CIE 1931 x, y), dots on the Planckian locus. On a renderer of the
-     * u′, v′ diagram it draws the same layers in that diagram's range, with the locus rows taken for u′, v′: a picture
-     * that means nothing.
+     * For a renderer of the x, y diagram. A renderer of the u′, v′ diagram plots the x, y data of these layers on the
+     * axes of u′, v′: such a picture is wrong.
+     *
+     * \param width, height size of the picture in pixels
+     * \param drawCoordinate whether axes and grid are drawn
+     * \param drawBBRLine whether the Planckian locus and \a points are drawn
+     * \param drawWaveLength whether the wavelengths are drawn
+     * \param points colour-temperature points (CIE 1931 x, y), drawn as dots
      */
     QImage *drawCEIPicture(
         int width, int height, bool drawCoordinate, bool drawBBRLine, bool drawWaveLength, QList<QPointF> points);
 
     /*!
-     * \brief The u′, v′ picture: horseshoe inside the spectral locus, axes when \a drawCoordinate is set, and the
-     * measure points.
+     * \brief Draws the u′, v′ picture: the horseshoe inside the spectral locus, and the measurement points.
      *
-     * \a drawBBRLine, \a drawWaveLength and \a points are accepted and ignored. A renderer of the x, y diagram has no
-     * u′, v′ locus: there the picture shows axes and measure points, but no horseshoe.
+     * For a renderer of the u′, v′ diagram. A renderer of the x, y diagram has no u′, v′ locus: it draws no horseshoe,
+     * but axes and measurement points, both in x, y.
+     *
+     * \param width, height size of the picture in pixels
+     * \param drawCoordinate whether axes and grid are drawn
+     * \param drawBBRLine, drawWaveLength, points are ignored
      */
     QImage *drawCEIEPicture(
         int width, int height, bool drawCoordinate, bool drawBBRLine, bool drawWaveLength, QList<QPointF> points);
 
-    /*! The horseshoe colours of the last drawing's size and geometry, on "#323238"; null before the first. */
+    /*!
+     * \brief The colours of the horseshoe, on the background "#323238", in the size and mapping of the last picture.
+     *
+     * A null image before the first picture.
+     */
     QImage getColorImage();
 
-    /*! Chromaticities in the diagram's own coordinates, drawn by the u′, v′ picture. */
+    /*! \brief Sets the measurement points of the u′, v′ picture, in the coordinates of the diagram. */
     void setMeasurePoints(const QList<QPointF> &points);
-    /*! At the ends of the axes; an empty title is not drawn. "X" and "Y", or "u" and "v", until set. */
+    /*!
+     * \brief Sets the title at the end of the first axis. An empty title is not drawn.
+     *
+     * "X" by default, "u" on a u′, v′ diagram.
+     */
     void setXTitle(const QString &title);
-    /*! \copydoc setXTitle */
+    /*!
+     * \brief Sets the title at the end of the second axis. An empty title is not drawn.
+     *
+     * "Y" by default, "v" on a u′, v′ diagram.
+     */
     void setYTitle(const QString &title);
-    /*! \a line colours the edge, the axes and the dots, \a background the u′, v′ picture. */
+    /*!
+     * \brief Sets the colours of the next pictures.
+     *
+     * \param line colour of the locus edge, the axes and the colour-temperature points; white by default
+     * \param background colour that fills the u′, v′ picture; "#323238" by default. The x, y picture has a black
+     * background.
+     */
     void setGraphColor(QColor line, QColor background);
 
-    /*! Measure points: a black dot of radius 2 pixels on a translucent white one of radius 4. */
+    /*!
+     * \brief Draws \a points, in the coordinates of the diagram: black dots of radius 2 pixels on translucent white
+     * ones of radius 4.
+     */
     void painterPoints(QPainter &painter, QList<QPointF> points);
-    /*! Axes, grid in \a style, numbers and titles in \a font. */
+    /*!
+     * \brief Draws the axes, the grid in \a style, and the numbers and titles in \a font, in the mapping of the last
+     * picture.
+     */
     void painterCoordinate(Qt::PenStyle style, const QFont &font, QPainter &painter);
 
     using DiagramRenderer::CoordinateTransformation;
-    /*! Picture position to chromaticity; the x offset of the forward mapping is not taken off. */
+    /*!
+     * \brief The chromaticity, in the coordinates of the diagram, at \a position in the last picture. The x offset of
+     * CoordinateTransformation() is not subtracted.
+     */
     QPointF CurCoordinateToChroma(const QPointF &position);
 
     /*!
      * \name CIE 1931 x, y to CIE 1976 u′, v′
-     * In single or double precision, one point or many. u′ = 4x / d, v′ = 9y / d with d = −2x + 12y + 3 (CIE
-     * 15:2004, 8.2.1.1). d = 0 gives infinities or NaN.
+     * u′ = 4x / d and v′ = 9y / d with d = −2x + 12y + 3 (ISO 11664-5:2009). If d is 0 the results are infinite or NaN.
+     *
      * The list conversions read their input while they write: input and output must be different containers.
      * @{
      */
+    /*! \brief Converts a chromaticity in single precision. */
     static void xy2uv(const float &x, const float &y, float &u, float &v);
+    /*! \brief Converts a chromaticity in double precision. */
     static void xyconvertuv(const double &x, const double &y, double &u, double &v);
-    //! Replaces what \a uv holds.
+    /*! \brief Converts a list in double precision. Replaces the contents of \a uv. */
     static void xy2uv(const std::vector<QPointF> &xy, std::vector<QPointF> &uv);
-    //! Appends to \a us and \a vs. \a ys must be at least as long as \a xs.
+    /*!
+     * \brief Converts lists in single precision. Appends to \a us and \a vs. \a ys must be at least as long as \a xs.
+     */
     static void xy2uvList(
         std::vector<float> &xs, std::vector<float> &ys, std::vector<float> &us, std::vector<float> &vs);
     /*! @} */

@@ -7,10 +7,10 @@
 
 /*!
  * \file
- * \brief The legacy chart as forms can have it.
+ * \brief The legacy charts as widgets for Qt Designer.
  *
- * The code that is made from a form constructs a widget with its parent only, but the legacy chart also wants the kind
- * of its diagram. So there is one class for each.
+ * Code generated from a form passes only the parent to a constructor, but the legacy chart also needs its diagram.
+ * Therefore there is a class for each diagram.
  */
 namespace ceiechart {
 
@@ -19,7 +19,7 @@ class CEIECHART_EXPORT LegacyXyChart : public ::CEIEGraphicsView {
     Q_OBJECT
 
 public:
-    /*! \param parent owns the chart when not null. */
+    /*! \brief Creates a chart. \a parent owns it if it is not null. */
     explicit LegacyXyChart(QWidget *parent);
     ~LegacyXyChart() override;
 };
@@ -29,7 +29,7 @@ class CEIECHART_EXPORT LegacyUvChart : public ::CEIEGraphicsView {
     Q_OBJECT
 
 public:
-    /*! \param parent owns the chart when not null. */
+    /*! \brief Creates a chart. \a parent owns it if it is not null. */
     explicit LegacyUvChart(QWidget *parent);
     ~LegacyUvChart() override;
 };

@@ -46,7 +46,7 @@ void CEIEGraphicsScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
 
 void CEIEGraphicsScene::Private::showHoverCursor(const QPointF &position)
 {
-    // Not QPointF's own comparison: that takes small differences for none.
+    // QPointF's comparison is not used because it ignores small differences.
     if (position.x() != lastHoverPosition.x() || position.y() != lastHoverPosition.y()) {
         lastHoverPosition = position;
         Q_EMIT scene()->signal_mouseCursorChange(QCursor(hand ? Qt::OpenHandCursor : Qt::CrossCursor));

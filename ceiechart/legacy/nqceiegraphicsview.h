@@ -8,9 +8,10 @@
 #include <QGraphicsView>
 
 /*!
- * \brief The inner view of a legacy chart: shows the scene without frame, in the scene's own rectangle.
+ * \brief The inner view of a legacy chart: shows the scene without a frame.
  *
- * The legacy CEIEGraphicsView makes one and hands it out with CEIEGraphicsView::view().
+ * The legacy CEIEGraphicsView creates and owns one and returns it by CEIEGraphicsView::view(). The view does not own
+ * the scene.
  *
  * \code
  * chart->view()->setCursor(Qt::CrossCursor);
@@ -21,18 +22,18 @@ class CEIECHART_EXPORT NQCEIEGraphicsView : public QGraphicsView {
 
 public:
     /*!
-     * \brief An antialiasing view without frame or scene.
-     * \param parent owns the view when not null.
+     * \brief Creates a view without a frame and without a scene. It draws with antialiasing.
+     * \param parent owns the view if it is not null
      */
     explicit NQCEIEGraphicsView(QWidget *parent);
     ~NQCEIEGraphicsView() override;
 
 public Q_SLOTS:
-    /*! \brief Shows \a mouseCursorStyle while the pointer is over the view, until it leaves. */
+    /*! \brief Sets the cursor over the view to \a mouseCursorStyle until the pointer leaves the view. */
     void slot_mouseCursorChange(QCursor mouseCursorStyle);
 
 protected:
-    /*! \brief Gives up the cursor that slot_mouseCursorChange() has set. */
+    /*! \brief Resets the cursor that slot_mouseCursorChange() has set. */
     void leaveEvent(QEvent *event) override;
 };
 

@@ -4,15 +4,15 @@
 
 /*!
  * \file
- * \brief The enums that scenes, views and legends share, once per generation of the classes.
+ * \brief The enums that scenes and views share, once for each generation of the classes.
  *
- * The enums of the two generations are types of their own with the same values. Their enumerators differ in
- * name, so that a host may use both generations, and using-directives, in one translation unit.
+ * The enums of the two generations are separate types with the same values. The enumerators have different names so
+ * that a host can use both generations in one translation unit, even with using-directives.
  */
 
 namespace NewCEIE {
 
-/*! \brief The handle of the target gamut that is selected for keyboard editing. */
+/*! \brief A handle of the target gamut: the one selected for editing. */
 enum TabSelectedType {
     TabSelectedNone = 0,
     TabSelectedGreen = 1,
@@ -21,10 +21,10 @@ enum TabSelectedType {
     TabSelectedRed = 4
 };
 
-/*! \brief The primary's handle that the pointer is over or drags; the white point is tracked apart. */
+/*! \brief A primary of the target gamut, as its handle is drawn. The white point is not one of them. */
 enum ColorArea { ColorAreaNone = 0, ColorAreaRed = 1, ColorAreaGreen = 2, ColorAreaBlue = 3 };
 
-/*! \brief Pointer shapes: the parameter of the view's signal_mouseCursorChange(), which nothing emits. */
+/*! \brief Pointer shapes: the parameter of signal_mouseCursorChange() of the view, which is never emitted. */
 enum MouseCursorStyle {
     MouseCursorArrow = 0,
     MouseCursorCross = 1,
@@ -36,7 +36,7 @@ enum MouseCursorStyle {
 
 } // namespace NewCEIE
 
-/*! \brief As NewCEIE::TabSelectedType, for the legacy classes. */
+/*! \brief Like NewCEIE::TabSelectedType, for the legacy classes. */
 enum TabSelectedType {
     LegacyTabSelectedNone = 0,
     LegacyTabSelectedGreen = 1,
@@ -45,10 +45,10 @@ enum TabSelectedType {
     LegacyTabSelectedRed = 4
 };
 
-/*! \brief As NewCEIE::ColorArea, for the legacy classes. */
+/*! \brief Like NewCEIE::ColorArea, for the legacy classes. */
 enum ColorArea { LegacyColorAreaNone = 0, LegacyColorAreaRed = 1, LegacyColorAreaGreen = 2, LegacyColorAreaBlue = 3 };
 
-/*! \brief As NewCEIE::MouseCursorStyle, for the legacy classes. */
+/*! \brief Like NewCEIE::MouseCursorStyle, for the legacy classes. */
 enum MouseCursorStyle {
     LegacyMouseCursorArrow = 0,
     LegacyMouseCursorCross = 1,

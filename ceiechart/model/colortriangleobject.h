@@ -10,70 +10,82 @@
 #include <string>
 
 /*!
- * \brief A gamut and how it is drawn.
+ * \brief A gamut and its appearance on the chart.
  *
- * A value type, copied memberwise; its triangle never has a parent. Setters store what they are given.
+ * A value type: copies are independent, and the triangle never has a parent object. Setters store their argument
+ * without checking it. foreColor() and gamutName() are not const.
  *
- * The library registers no meta-type for it: a host that receives it through a queued connection does so itself.
+ * \code
+ * ColorTriangleObject target;
+ * target.setType(1); // the target
+ * target.setForeColor(QColor(255, 163, 56));
+ * target.trianglePoint().setRedPos(QPointF(0.64, 0.33));
+ * \endcode
+ *
+ * The library does not register a meta-type for the class. A host that receives it through a queued connection must
+ * register it.
  */
 class CEIECHART_EXPORT ColorTriangleObject {
 public:
     /*!
-     * \brief An empty triangle, opaque white, one pixel wide, shown, fully opaque, without a name.
+     * \brief Creates an empty triangle: opaque white, one pixel wide, shown, opacity 1.0, without a name.
      *
-     * Call setType() before use: there is no meaningful default kind.
+     * The kind is 0, standard. Call setType() for any other.
      */
     ColorTriangleObject();
-    /*! \brief Copies all fields; the copy's points have no parent object. */
+    /*! \brief Copies all fields of \a other. The triangle of the copy has no parent object. */
     ColorTriangleObject(const ColorTriangleObject &other);
-    /*! \brief Takes over every field of \a other. */
+    /*! \brief Copies all fields of \a other. */
     ColorTriangleObject &operator=(const ColorTriangleObject &other);
     ~ColorTriangleObject();
 
-    /*! \brief The gamut's points and luminances. */
+    /*! \brief The chromaticities and luminances of the gamut. */
     TrianglePoint &trianglePoint();
-    /*! \brief The gamut's points and luminances. */
+    /*! \brief The chromaticities and luminances of the gamut. */
     const TrianglePoint &trianglePoint() const;
-    /*! \brief Copies \a trianglePoint, but not who its parent is. */
+    /*! \brief Copies the eight fields of \a trianglePoint. Its parent object is not copied. */
     void setTrianglePoint(const TrianglePoint &trianglePoint);
 
-    /*! \brief Pen and fill colour. */
+    /*! \brief The colour of the outline and of the tint. */
     QColor foreColor();
-    /*! \brief Sets pen and fill colour. */
+    /*! \brief Sets the colour of the outline and of the tint. */
     void setForeColor(const QColor &foreColor);
 
-    /*! \brief Outline width in pixels. 0 is a line of one pixel; must not be negative. */
+    /*! \brief The width of the outline in pixels. 0 gives a line one pixel wide; negative values are invalid. */
     int trigleLineWidth() const;
-    /*! \brief Sets the outline width in pixels. */
+    /*! \brief Sets the width of the outline in pixels, 0 or more. */
     void setTrigleLineWidth(int trigleLineWidth);
 
-    /*! \brief For the host's own lists: the renderers draw what they are given, shown or not. */
+    /*!
+     * \brief Whether the host marks the gamut as shown. The renderers ignore this: they draw all gamuts that they are
+     * given.
+     */
     bool isShow() const;
-    /*! \brief Sets the host's mark. */
+    /*! \brief Sets whether the host marks the gamut as shown. */
     void setShow(bool isShow);
 
     /*!
-     * \brief Kind of gamut: 0 standard, 1 target, 2 original, 3 measured.
+     * \brief The kind of gamut: 0 standard, 1 target, 2 original, 3 measured (see ceiechart::GamutKind).
      *
-     * Lists of triangles are painted by kind; elements of any other kind, and standards, which have a list of
-     * their own, are skipped.
+     * The renderer draws a list of gamuts by kind. It ignores standards, which have a list of their own, and gamuts of
+     * any other kind.
      */
     int type() const;
-    /*! \brief Sets the kind of gamut. */
+    /*! \brief Sets the kind of gamut; see type(). */
     void setType(int type);
 
     /*!
-     * \brief Opacity of a standard's tint, 0.0 to below 1.0, in steps of 1/256.
+     * \brief The opacity of the tint of a standard, from 0.0 to below 1.0, in steps of 1/256.
      *
-     * 1.0 and above, and negative values, tint nothing.
+     * With 1.0 and above, and with negative values, there is no tint.
      */
     double opacity() const;
-    /*! \brief Sets the fill opacity. */
+    /*! \brief Sets the opacity of the tint; see opacity(). */
     void setOpacity(double opacity);
 
-    /*! \brief Display name, such as a standard's name; a copy. */
+    /*! \brief A copy of the name, for example that of a standard. */
     std::string gamutName();
-    /*! \brief Sets the display name. */
+    /*! \brief Sets the name. */
     void setGamutName(const std::string &gamutName);
 
 private:

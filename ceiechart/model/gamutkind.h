@@ -4,12 +4,12 @@
 
 namespace ceiechart {
 
-/*! \brief What a gamut is to the chart: the values of ColorTriangleObject::type(). */
+/*! \brief The kind of a gamut on the chart: the values of ColorTriangleObject::type(). */
 enum GamutKind : int {
-    StandardGamut = 0, //!< drawn from the list of standards only
+    StandardGamut = 0, //!< a published gamut; drawn only from the list of standards
     TargetGamut = 1, //!< the gamut that is edited
-    OriginalGamut = 2, //!< the gamut of the display as it is
-    MeasuredGamut = 3 //!< a measured gamut beside the original
+    OriginalGamut = 2, //!< the gamut of the display before calibration
+    MeasuredGamut = 3 //!< a measured gamut, in addition to the original
 };
 
 } // namespace ceiechart

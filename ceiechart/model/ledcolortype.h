@@ -10,15 +10,15 @@
 namespace baseCommon {
 
 /*!
- * \brief The primary of the target gamut that lies outside the reference gamut.
+ * \brief The primary of the target gamut that lies outside the original gamut.
  *
- * Tested in the order red, green, blue; only the first that lies outside is reported.
+ * The primaries are tested in the order red, green, blue, and only the first one outside is reported.
  */
 enum LEDColorType {
     Red = 0,
     Green = 1,
     Blue = 2,
-    None = 3 //!< all three lie inside
+    None = 3 //!< all three primaries lie inside
 };
 
 } // namespace baseCommon

@@ -2,10 +2,10 @@
 #ifndef CEIECHART_MODEL_POINTF_H
 #define CEIECHART_MODEL_POINTF_H
 
-/*! \brief A point in single precision: the form in which a triangle's vertices reach polygon code. */
+/*! \brief A chromaticity in single precision, the precision of the scenes' containment tests. */
 struct PointF {
-    float x = 0.0F; //!< unitless
-    float y = 0.0F; //!< unitless
+    float x = 0.0F; //!< CIE 1931 x, unitless
+    float y = 0.0F; //!< CIE 1931 y, unitless
 };
 
 #endif // CEIECHART_MODEL_POINTF_H

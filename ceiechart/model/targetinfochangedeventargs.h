@@ -9,22 +9,23 @@
 #include <QObject>
 
 /*!
- * \brief Payload of signal_targetInfoChanged(): the target gamut as it stands.
+ * \brief Payload of signal_targetInfoChanged(): the current target gamut.
  *
- * Copied by value: a copy is a fresh object without parent that takes over the payload only. The library
- * registers no meta-type for it: a host that receives it through a queued connection does so itself.
+ * Although the class is a QObject, it is copied by value: a copy is a new object without parent that has the same
+ * payload. The library does not register a meta-type for it. A host that receives it through a queued connection must
+ * register it.
  */
 class CEIECHART_EXPORT TargetInfoChangedEventArgs : public QObject {
     Q_OBJECT
 
 public:
-    /*! \brief A default triangle, 0 K, no primary outside, not reasonable. */
+    /*! \brief Creates a payload with an empty target, 0 K, baseCommon::None, and isReasonableData() false. */
     TargetInfoChangedEventArgs();
-    /*! \brief The same with \a parent, which owns the object when it is not null. */
+    /*! \brief Creates the same payload. \a parent owns the object if it is not null. */
     explicit TargetInfoChangedEventArgs(QObject *parent);
-    /*! \brief Takes over the payload of \a other, not its parent. */
+    /*! \brief Copies the payload of \a other, but not its parent. */
     TargetInfoChangedEventArgs(const TargetInfoChangedEventArgs &other);
-    /*! \brief Takes over the payload of \a other. */
+    /*! \brief Copies the payload of \a other. */
     TargetInfoChangedEventArgs &operator=(const TargetInfoChangedEventArgs &other);
     ~TargetInfoChangedEventArgs() override;
 
@@ -33,19 +34,25 @@ public:
     /*! \brief Sets the target gamut. */
     void setColorTriangleObject(const ColorTriangleObject &colorTriangleObject);
 
-    /*! \brief Correlated colour temperature of the target's white, a whole number of kelvin. */
+    /*!
+     * \brief The correlated colour temperature of the target's white point: a whole number of kelvin, 0 if it has none.
+     */
     double colourTemperature() const;
-    /*! \brief Sets the temperature, in kelvin. */
+    /*! \brief Sets the correlated colour temperature in kelvin. */
     void setColourTemperature(double colourTemperature);
 
-    /*! \brief The primary that lies outside the original gamut. The scenes leave it at None: see isReasonableData(). */
+    /*!
+     * \brief The primary that lies outside the original gamut.
+     *
+     * The scenes always report baseCommon::None here. Use isReasonableData() instead.
+     */
     baseCommon::LEDColorType beyondColorType() const;
-    /*! \brief Sets the primary that lies outside. */
+    /*! \brief Sets the primary that lies outside the original gamut. */
     void setBeyondColorType(const baseCommon::LEDColorType &beyondColorType);
 
-    /*! \brief True when every primary of the target lies inside the original gamut. */
+    /*! \brief Whether every primary of the target lies inside the original gamut. */
     bool isReasonableData() const;
-    /*! \brief Sets whether every primary lies inside. */
+    /*! \brief Sets whether every primary of the target lies inside the original gamut. */
     void setIsReasonableData(bool isReasonableData);
 
 private:

@@ -10,38 +10,39 @@
 #include <QObject>
 
 /*!
- * \brief Payload of signal_triangleObjecIinitialized(): a scene has been constructed with gamuts.
+ * \brief Payload of signal_triangleObjecIinitialized(): the gamuts with which a scene has been constructed.
  *
- * Copied by value: a copy is a fresh object without parent that takes over the payload only. The library
- * registers no meta-type for it: a host that receives it through a queued connection does so itself.
+ * Although the class is a QObject, it is copied by value: a copy is a new object without parent that has the same
+ * payload. The library does not register a meta-type for it. A host that receives it through a queued connection must
+ * register it.
  */
 class CEIECHART_EXPORT TriangleObjecIinitializedEventArgs : public QObject {
     Q_OBJECT
 
 public:
-    /*! \brief An empty list and no primary outside. Call setIsEffectiveValue() before use. */
+    /*! \brief Creates a payload with an empty list, baseCommon::None, and isEffectiveValue() false. */
     TriangleObjecIinitializedEventArgs();
-    /*! \brief The same with \a parent, which owns the object when it is not null. */
+    /*! \brief Creates the same payload. \a parent owns the object if it is not null. */
     explicit TriangleObjecIinitializedEventArgs(QObject *parent);
-    /*! \brief Takes over the payload of \a other, not its parent. */
+    /*! \brief Copies the payload of \a other, but not its parent. */
     TriangleObjecIinitializedEventArgs(const TriangleObjecIinitializedEventArgs &other);
-    /*! \brief Takes over the payload of \a other. */
+    /*! \brief Copies the payload of \a other. */
     TriangleObjecIinitializedEventArgs &operator=(const TriangleObjecIinitializedEventArgs &other);
     ~TriangleObjecIinitializedEventArgs() override;
 
-    /*! \brief The triangles as the scene now holds them. */
+    /*! \brief The gamuts that the scene holds: the original and the target. */
     QList<ColorTriangleObject> colorTriangleObjectList() const;
-    /*! \brief Sets the list of triangles. */
+    /*! \brief Sets the list of gamuts. */
     void setColorTriangleObjectList(const QList<ColorTriangleObject> &colorTriangleObjectList);
 
-    /*! \brief True when every primary of the target lies inside the original gamut. */
+    /*! \brief Whether every primary of the target lies inside the original gamut. */
     bool isEffectiveValue() const;
-    /*! \brief Sets whether every primary lies inside. */
+    /*! \brief Sets whether every primary of the target lies inside the original gamut. */
     void setIsEffectiveValue(bool isEffectiveValue);
 
-    /*! \brief The first primary of the target that lies outside the original gamut. */
+    /*! \brief The first primary of the target that lies outside the original gamut, in the order red, green, blue. */
     baseCommon::LEDColorType beyondColorType() const;
-    /*! \brief Sets the primary that lies outside. */
+    /*! \brief Sets the primary that lies outside the original gamut. */
     void setBeyondColorType(const baseCommon::LEDColorType &beyondColorType);
 
 private:

@@ -11,82 +11,83 @@
 #include <vector>
 
 /*!
- * \brief Chromaticities and luminances of one display's red, green and blue primaries and of its white point.
+ * \brief Chromaticities and luminances of the red, green and blue primaries and of the white point of a gamut.
  *
- * Positions are CIE 1931 (x, y), luminances are in the host's units; values are stored as given.
+ * Chromaticities are CIE 1931 x, y (unitless). Luminances can have any unit, for example cd/m², but all must have the
+ * same. Setters store their argument without checking it.
  *
- * Although a QObject, it is copied by value: a copy is a fresh object without parent, name or dynamic properties
- * that takes over the eight fields only.
+ * Although the class is a QObject, it is copied by value: a copy is a new object without parent, name or dynamic
+ * properties that has the same four chromaticities and four luminances. convertPointF() and toArray() are not const.
  */
 class CEIECHART_EXPORT TrianglePoint : public QObject {
     Q_OBJECT
 
 public:
-    /*! \brief All positions and luminances zero. */
+    /*! \brief Creates a gamut whose chromaticities and luminances are all 0. */
     TrianglePoint();
-    /*! \brief The same with \a parent, which owns the object when it is not null. */
+    /*! \brief Creates the same gamut. \a parent owns the object if it is not null. */
     explicit TrianglePoint(QObject *parent);
-    /*! \brief Copies the eight fields; the copy has no parent. */
+    /*! \brief Copies the chromaticities and luminances of \a other. The copy has no parent. */
     TrianglePoint(const TrianglePoint &other);
-    /*! \brief Takes over the eight fields of \a other. */
+    /*! \brief Copies the chromaticities and luminances of \a other. */
     TrianglePoint &operator=(const TrianglePoint &other);
     ~TrianglePoint() override;
 
-    /*! \brief CIE 1931 (x, y) of the red primary. */
+    /*! \brief The chromaticity (CIE 1931 x, y) of the red primary. */
     const QPointF &redPos() const;
-    /*! \brief The same, to change in place. */
+    /*! \brief The same chromaticity; it can be changed through the reference. */
     QPointF &redPos();
-    /*! \brief Sets the position of the red primary. */
+    /*! \brief Sets the chromaticity (CIE 1931 x, y) of the red primary. */
     void setRedPos(const QPointF &redPos);
 
-    /*! \brief CIE 1931 (x, y) of the green primary. */
+    /*! \brief The chromaticity (CIE 1931 x, y) of the green primary. */
     const QPointF &greenPos() const;
-    /*! \brief The same, to change in place. */
+    /*! \brief The same chromaticity; it can be changed through the reference. */
     QPointF &greenPos();
-    /*! \brief Sets the position of the green primary. */
+    /*! \brief Sets the chromaticity (CIE 1931 x, y) of the green primary. */
     void setGreenPos(const QPointF &greenPos);
 
-    /*! \brief CIE 1931 (x, y) of the blue primary. */
+    /*! \brief The chromaticity (CIE 1931 x, y) of the blue primary. */
     const QPointF &bluePos() const;
-    /*! \brief The same, to change in place. */
+    /*! \brief The same chromaticity; it can be changed through the reference. */
     QPointF &bluePos();
-    /*! \brief Sets the position of the blue primary. */
+    /*! \brief Sets the chromaticity (CIE 1931 x, y) of the blue primary. */
     void setBluePos(const QPointF &bluePos);
 
-    /*! \brief CIE 1931 (x, y) of the white point. */
+    /*! \brief The chromaticity (CIE 1931 x, y) of the white point. */
     const QPointF &whitePos() const;
-    /*! \brief The same, to change in place. */
+    /*! \brief The same chromaticity; it can be changed through the reference. */
     QPointF &whitePos();
-    /*! \brief Sets the position of the white point. */
+    /*! \brief Sets the chromaticity (CIE 1931 x, y) of the white point. */
     void setWhitePos(const QPointF &whitePos);
 
-    /*! \brief Luminance of the red primary, in the host's unit. */
+    /*! \brief The luminance of the red primary, in the host's unit. */
     double redLum() const;
-    /*! \brief Sets the luminance of the red primary. */
+    /*! \brief Sets the luminance of the red primary, in the host's unit. */
     void setRedLum(const double &redLum);
 
-    /*! \brief Luminance of the green primary, in the host's unit. */
+    /*! \brief The luminance of the green primary, in the host's unit. */
     double greenLum() const;
-    /*! \brief Sets the luminance of the green primary. */
+    /*! \brief Sets the luminance of the green primary, in the host's unit. */
     void setGreenLum(const double &greenLum);
 
-    /*! \brief Luminance of the blue primary, in the host's unit. */
+    /*! \brief The luminance of the blue primary, in the host's unit. */
     double blueLum() const;
-    /*! \brief Sets the luminance of the blue primary. */
+    /*! \brief Sets the luminance of the blue primary, in the host's unit. */
     void setBlueLum(const double &blueLum);
 
-    /*! \brief Luminance of the white point, in the host's unit. */
+    /*! \brief The luminance of the white point, in the host's unit. */
     double whiteLum() const;
-    /*! \brief Sets the luminance of the white point. */
+    /*! \brief Sets the luminance of the white point, in the host's unit. */
     void setWhiteLum(const double &whiteLum);
 
-    /*! \brief True when all four positions are null points; luminances do not count. */
+    /*! \brief Whether all four chromaticities are (0, 0). The luminances are not considered. */
     bool isEmpty() const;
 
-    /*! \brief \a point in single precision, each coordinate rounded to nearest. */
+    /*! \brief Converts \a point to single precision. Each coordinate is rounded to nearest. */
     PointF convertPointF(QPointF point);
 
-    /*! \brief The three vertices in the order red, green, blue. */
+    /*! \brief The chromaticities of the primaries in single precision, in the order red, green, blue. */
     std::vector<PointF> toArray();
 
 private:

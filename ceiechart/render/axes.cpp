@@ -11,16 +11,16 @@ namespace ceiechart {
 
 namespace {
 
-constexpr int numberDrop = 15; // pixels from the x axis down to its numbers
-constexpr int axisTop = 10; // the y axis begins this many pixels below the picture's top edge
-constexpr int titleGap = 6; // pixels between an axis line and its title
+constexpr int numberDrop = 15; //!< distance of the numbers below the x axis, in pixels
+constexpr int axisTop = 10; //!< distance of the y axis from the top edge of the picture, in pixels
+constexpr int titleGap = 6; //!< distance between an axis line and its title, in pixels
 
 QString numberText(int tick)
 {
     return QString::number(tick * chartTickStep, 'g', 6);
 }
 
-//! Draws the axes of one drawing; holds what its four kinds of strokes and texts have in common.
+/*! \brief Draws the axes of a picture. The members are common to grid, axis lines, numbers and titles. */
 class AxesPainter {
 public:
     AxesPainter(QPainter &painter, const AxesStyle &style, const QColor &color)
@@ -97,7 +97,7 @@ private:
         m_painter.drawText(QRectF(place), text, QTextOption(alignment));
     }
 
-    //! A title stands at the end of its axis, on the side away from the numbers.
+    /*! \brief Draws a title at the end of its axis, on the side opposite to the numbers. */
     void title(const QString &title, const QPoint &corner)
     {
         if (!title.isEmpty()) {

@@ -21,17 +21,19 @@ namespace ceiechart {
 /*!
  * \brief The layers of a chromaticity diagram that the renderers of both generations draw.
  *
- * The base of both `DrawCEIPicture` classes. Hosts use those classes; there is nothing to derive from this one for.
+ * The base class of both `DrawCEIPicture` classes. Hosts use those classes and need not derive from this one. A
+ * renderer is a widget only so that it can have a parent; it is never shown. Use it on the GUI thread.
  */
 class CEIECHART_EXPORT DiagramRenderer : public QWidget {
 public:
     ~DiagramRenderer() override;
 
     /*!
-     * \brief Chromaticity, in the coordinates of the diagram, to whole pixels of the last drawing.
+     * \brief The position of the chromaticity \a xy in the last picture, in whole pixels.
      *
-     * Before the first drawing every chromaticity maps to (4, 0). A drawing 0 or 1 pixel wide or high has no span to
-     * map: the scales stay those of the drawing before, the plot's corner moves.
+     * \a xy is in the coordinates of the diagram: CIE 1931 x, y or CIE 1976 u′, v′. Before the first drawing, every
+     * chromaticity maps to (4, 0). A picture that is 0 or 1 pixel wide or high has no extent to map: after it, the
+     * scales remain those of the previous picture, and only the corner of the plot has moved.
      */
     QPointF CoordinateTransformation(const QPointF &xy);
 

@@ -13,21 +13,21 @@ class QPolygonF;
 
 namespace ceiechart {
 
-/*! \brief How the axes are drawn where the two generations differ. */
+/*! \brief The appearance of the axes, which differs between the generations. */
 struct AxesStyle {
-    Qt::PenStyle gridStyle; //!< of the grid lines
-    QFont numberFont; //!< also gives the metrics that place the numbers
-    QString xTitle; //!< none when empty
-    QString yTitle; //!< none when empty
+    Qt::PenStyle gridStyle; //!< pen style of the grid lines
+    QFont numberFont; //!< font of the numbers; its metrics also determine their positions
+    QString xTitle; //!< title of the axis; empty for none
+    QString yTitle; //!< title of the axis; empty for none
 };
 
-/*! \brief Whether the clip of the horseshoe is outlined, in the painter's default pen, under the colours. */
+/*! \brief Whether the clip of the horseshoe is outlined under the colours, with the default pen of the painter. */
 enum class ClipOutline { Hidden, Drawn };
 
 /*!
- * \brief The state that the layers share, and what drawings are made of.
+ * \brief The state that the layers share, and the steps of a drawing that both renderers need.
  *
- * A layer reads the geometry of the drawing under way. It leaves the painter as it found it, unless it says otherwise.
+ * A layer reads the geometry of the current drawing. It restores the painter's state unless its comment says otherwise.
  */
 class Q_DECL_HIDDEN DiagramRenderer::Private {
 public:
@@ -37,27 +37,36 @@ public:
     }
     virtual ~Private();
 
-    //! Takes the size of a new drawing, derives the geometry and refreshes the locus rows from the atlas.
+    /*!
+     * \brief Begins a drawing: stores its size, computes its geometry and copies the rows of the locus from the atlas.
+     */
     void beginDrawing(int width, int height, int marginPercent);
-    //! Makes the first locus row current and maps it, as every drawing does once.
+    /*! \brief Makes the first row of the locus current and maps it, as every drawing does once. */
     void loadFirstLocusRow();
-    //! Makes the chromaticity of a locus row the current one; the third coordinate is left alone.
+    /*! \brief Makes the chromaticity of \a row the current one. The third coordinate is not changed. */
     void makeCurrent(const CEIAtlasValue::CEIAtlasCoordinate &row);
-    //! Makes the chromaticity of a pixel the current one; the third coordinate is left alone.
+    /*! \brief Makes the chromaticity of a pixel the current one. The third coordinate is not changed. */
     void makePixelCurrent(int px, int py);
-    //! Maps the current chromaticity, without truncation, to the current pixel point.
+    /*! \brief Maps the current chromaticity to the current pixel position, without truncation. */
     QPointF mapCurrent();
-    //! Makes (\a x, \a y) the current chromaticity and maps it.
+    /*! \brief Makes (\a x, \a y) the current chromaticity and maps it. */
     QPointF map(double x, double y);
 
-    //! Grid, axis lines, numbers and titles, in axes.cpp.
+    /*! \brief Draws grid, axis lines, numbers and titles. Implemented in axes.cpp. */
     void drawAxes(QPainter &painter, const AxesStyle &style);
 
-    //! Draws into \a picture what painterPixColor() makes of one in \a background, clipped to \a clip.
+    /*!
+     * \brief Draws the horseshoe inside \a clip: the part of a picture in \a background that painterPixColor() has
+     * filled.
+     */
     void drawHorseshoeWithin(QImage &picture, const QPolygonF &clip, ClipOutline outline, const QColor &background);
+    /*! \brief Makes the amounts of the primaries at a pixel the current ones. */
     void makeColorOfPixelCurrent(int px, int py);
+    /*!
+     * \brief Makes the amounts of the primaries of \a system at the chromaticity (\a x, \a y, \a z) the current ones.
+     */
     void makeAmountsCurrent(const CEIAtlasValue::TColorSystem &system, double x, double y, double z);
-    //! Clamps and scales the current amounts and returns the colour they give with \a alpha, perhaps invalid.
+    /*! \brief The colour of the current amounts with \a alpha; it can be invalid. The amounts become its components. */
     QColor colorOfCurrentAmounts(int alpha);
 
     ChartKind kind;
@@ -71,7 +80,7 @@ public:
     QList<CEIAtlasValue::CEIAtlasCoordinate> locus;
     QList<CEIAtlasValue::CEITemperatureCoordinate> planckianPoints;
 
-    // What one operation leaves for the next
+    // Results of an operation that the next one reads
     struct Chromaticity {
         double x = 0.0, y = 0.0, z = 0.0;
     };

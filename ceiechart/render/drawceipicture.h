@@ -13,10 +13,11 @@
 namespace NewCEIE {
 
 /*!
- * \brief Draws the CIE 1931 x, y chromaticity diagram, and the gamuts over it, into a new picture per call.
+ * \brief Draws the CIE 1931 x, y chromaticity diagram and the gamuts on it. Each call draws a new picture.
  *
- * A renderer is made once and reused for every redraw; it is a widget only for the sake of ownership and is never
- * shown. Chromaticities are CIE 1931 x, y (unitless); rectangles are in picture pixels, y growing downwards.
+ * Create a renderer once and use it for all pictures. It is a widget only so that it can have a parent; it is never
+ * shown. Chromaticities are CIE 1931 x, y (unitless). Rectangles and polygons are in pixels of the picture, with y
+ * growing downwards.
  *
  * \code
  * NewCEIE::DrawCEIPicture renderer(nullptr);
@@ -24,61 +25,87 @@ namespace NewCEIE {
  *     renderer.drawCEIPicture(800, 800, true, triangles, standards, common, false, QString()));
  * \endcode
  *
- * Both drawing forms return a picture that the caller owns and that shares no data with the renderer. A width or
- * height of 0 gives a null image, and so do a negative size and one that cannot be allocated.
+ * Both drawing functions return a picture that the caller owns and that shares no data with the renderer. If the width
+ * or height is 0 or negative, or the picture cannot be allocated, the picture is a null image; the pointer never is
+ * null.
  *
- * The Planckian curve and the outlines of the colour-temperature dots are drawn with the pen that the painter
- * holds when their layer begins, which after the layers below is the default: black, one pixel wide.
+ * The Planckian locus and the outlines of the colour-temperature points are drawn with the pen that the painter has
+ * after the layers below: black, one pixel wide.
  *
- * GUI thread only; one renderer draws one picture at a time.
+ * Use a renderer on the GUI thread only, for one picture at a time.
  */
 class CEIECHART_EXPORT DrawCEIPicture : public ceiechart::DiagramRenderer {
     Q_OBJECT
 
 public:
-    /*! \param parent owns the renderer when not null. */
+    /*! \brief Creates a renderer. \a parent owns it if it is not null. */
     explicit DrawCEIPicture(QWidget *parent);
     ~DrawCEIPicture() override;
 
     /*!
-     * \brief The simple form: coloured horseshoe and locus edge, with axes when \a showCoordinate is set.
+     * \brief The simple form: draws the coloured horseshoe and the locus edge, and the axes if \a showCoordinate is
+     * set.
      *
-     * The two flags after it are accepted and ignored. \a colourTemperaturePoints are kept and drawn by the next
-     * gamut form. Each row is coloured between its first and last pixel with a red component above zero, so that
-     * with the default picture colour the colours cover the whole picture, the axes and the edge included.
+     * The two unnamed flags are ignored. \a colourTemperaturePoints are drawn by the gamut form, until the next call.
+     *
+     * Each row is filled between its first and last pixel whose red component is above zero; with the default picture
+     * colour this is the whole picture, including axes and edge.
+     *
+     * \param w, h width and height of the picture in pixels
      */
     QImage *drawCEIPicture(int w, int h, bool showCoordinate, bool, bool, QList<QPointF> colourTemperaturePoints);
 
     /*!
-     * \brief The gamut form: all layers.
+     * \brief The gamut form: draws all layers.
      *
-     * Bottom to top: picture colour, axes (when \a showCoordinate is set), wavelengths, locus edge, \a standards,
-     * the coloured horseshoe on the background colour inside \a clipPolygon, \a triangles by kind, Planckian locus
-     * with the colour-temperature points of the last simple form, measure points, CMY points.
+     * The layers from bottom to top: picture colour, axes, wavelengths, locus edge, \a standards, coloured horseshoe,
+     * \a triangles, Planckian locus, colour-temperature points of the last simple form, measurement points, CMY points.
      *
-     * \param w, h        pixels
-     * \param triangles   drawn as outlines: kinds 1, 2 and 3; any other kind is skipped
-     * \param standards   drawn as tinted outlines, whatever their kind; an opacity of 1.0 tints nothing
-     * \param clipPolygon where the horseshoe colours show, in picture pixels; when empty, nowhere
-     * \param polygonFlag stored, not used
-     * \param skipText    when not empty, the edge, the standards, the horseshoe and the triangles are left out
+     * \param w, h width and height of the picture in pixels
+     * \param showCoordinate whether the axes are drawn
+     * \param triangles gamuts, drawn as outlines: kinds 1, 2 and 3. Gamuts of any other kind are ignored.
+     * \param standards gamuts of any kind, drawn as tinted outlines. With an opacity of 1.0 there is no tint.
+     * \param clipPolygon where the horseshoe is coloured, in pixels of the picture. If it is empty, the horseshoe is
+     * not drawn.
+     * \param polygonFlag is ignored
+     * \param skipText if it is not empty, the locus edge, the standards, the horseshoe and the triangles are not drawn
      */
     QImage *drawCEIPicture(int w, int h, bool showCoordinate, const QList<ColorTriangleObject> &triangles,
         const QList<ColorTriangleObject> &standards, const QPolygonF &clipPolygon, bool polygonFlag,
         const QString &skipText);
 
-    /*! The clip polygon of the last gamut form, in picture pixels. */
+    /*! \brief The clip polygon of the last picture of the gamut form, in pixels of the picture. */
     QPolygonF intersectPolygon() const;
 
     using DiagramRenderer::CoordinateTransformation;
 
-    /*! \a line colours the edge, the axes and the colour-temperature dots, \a picture fills the picture. */
+    /*!
+     * \brief Sets the colours of the next pictures.
+     *
+     * \param line colour of the locus edge, the axes and the colour-temperature points; white by default
+     * \param picture colour that fills the picture; rgb(23, 23, 26) by default
+     */
     void setGraphColor(QColor line, QColor picture);
-    /*! The colour behind the horseshoe of the gamut form. With no red in it the horseshoe stays uncoloured. */
+    /*!
+     * \brief Sets the background colour of the horseshoe in the next pictures of the gamut form; rgb(23, 23, 26) by
+     * default.
+     *
+     * If its red component is 0, the horseshoe is not coloured.
+     */
     void setBackgroudColor(const QColor &color);
-    /*! Where measure points are drawn: red, green, blue and white, further ones black, with a white outline. */
+    /*!
+     * \brief Sets the measurement points of the next pictures of the gamut form, in pixels of the picture.
+     *
+     * Each is drawn as an ellipse in its rectangle: red, green, blue and white in this order, further ones black, all
+     * with a white outline. Rectangles with values that are not finite are ignored.
+     */
     void setPointData(const QList<QRectF> &rectangles);
-    /*! CMY points are drawn 16 × 16 pixels from each rectangle's top-left corner: cyan, magenta, yellow, black. */
+    /*!
+     * \brief Sets the CMY points of the next pictures of the gamut form, in pixels of the picture.
+     *
+     * Each is drawn as a disc of 16 × 16 pixels at the top-left corner of its rectangle: cyan, magenta and yellow in
+     * this order, further ones black, all with a magenta outline. Points with a corner that is not finite are ignored.
+     */
     void setCMYPointData(const QList<QRectF> &rectangles);
 
 private:

@@ -9,6 +9,7 @@
 
 namespace NewCEIE {
 
+/*! \brief The gamuts, points and colours that the current renderer keeps in addition. */
 class Q_DECL_HIDDEN DrawCEIPicture::Private : public ceiechart::DiagramRenderer::Private {
 public:
     static constexpr auto chart = ceiechart::ChartKind::CurrentXy;
@@ -18,7 +19,9 @@ public:
     {
     }
 
+    /*! \brief The primaries of \a triangle in pixels of the picture. */
     QPolygonF trianglePolygon(const ColorTriangleObject &triangle) const;
+    /*! \brief Draws the outline of \a triangle in its own colour and width. */
     void drawOutline(QPainter &painter, const ColorTriangleObject &triangle) const;
     void drawMeasurePoints(QPainter &painter) const;
 

@@ -12,7 +12,11 @@ namespace NewCEIE {
 
 namespace {
 
-//! Opacity counts in 256ths: 1.0 gives the invalid alpha 256, and with it a colour that paints nothing.
+/*!
+ * \brief The colour of a tint: \a color with an alpha of \a opacity × 256, truncated.
+ *
+ * An opacity of 1.0 gives an alpha of 256, which is invalid: such a colour paints nothing.
+ */
 QColor tint(const QColor &color, double opacity)
 {
     return QColor(color.red(), color.green(), color.blue(), ceiechart::truncated(opacity * 256.0));

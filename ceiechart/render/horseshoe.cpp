@@ -33,9 +33,8 @@ void DiagramRenderer::GetPointColorRGB(int px, int py, QImage *picture)
 void DiagramRenderer::Private::drawHorseshoeWithin(
     QImage &picture, const QPolygonF &clip, ClipOutline outline, const QColor &background)
 {
-    // The engine rounds what it blends at the edge of a clip differently per format. How the colours look there is
-    // defined for the non-premultiplied format, so they are drawn through a non-premultiplied ARGB32 view of the
-    // picture.
+    // At the edge of a clip, the paint engine rounds differently for each format. The colours there are defined for the
+    // non-premultiplied format, so that they are drawn through a view of the picture in non-premultiplied ARGB32.
     QImage straight(picture.bits(), picture.width(), picture.height(), picture.bytesPerLine(), QImage::Format_ARGB32);
     QPainter painter(&straight);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);

@@ -1,10 +1,9 @@
-// SPDX-License-Identifier: MIT
-//
-// The antialiasing rasteriser of the paint engine works in bands of rows whose height follows the size of its cell
-// pool, and walks all edges of a path for every band: with its smallest pool a tall path is walked a hundred times.
-// It takes a larger pool when a single row does not fit. So a tall path is led by a flat zigzag that fills many cells
-// of the topmost row and returns on its own track. Its slope is a whole number of subpixels per pixel, so that what
-// it adds to a cell on the way out it takes off exactly on the way back: it covers nothing.
+// The antialiasing rasteriser of the paint engine works in bands of rows. The height of a band depends on the size of
+// the cell pool, and all edges of a path are visited for every band: with the smallest pool, the edges of a tall path
+// are visited a hundred times. The engine uses a larger pool if a single row does not fit into the smallest one.
+// Therefore a tall path is preceded by a flat zigzag that needs many cells of the topmost row and that returns on the
+// same way. Its slope is a whole number of subpixels per pixel, so that the cells contain exactly the same amounts with
+// opposite signs on both ways: the zigzag covers nothing.
 #include <ceiechart/render/largepaths_p.h>
 
 #include <QPainter>
@@ -15,8 +14,8 @@ namespace ceiechart {
 
 namespace {
 
-constexpr double tall = 1200.0; // pixels; below, the larger pool costs more than it saves
-constexpr int zigzagWidth = 256; // pixels
+constexpr double tall = 1200.0; //!< height in pixels below which the larger pool costs more time than it saves
+constexpr int zigzagWidth = 256; //!< width in pixels
 
 bool isTall(const QPainter &painter, const QRectF &bounds)
 {
@@ -44,7 +43,7 @@ QPainterPath ledByZigzag(const QPainterPath &path)
 void drawPolygonOutline(QPainter &painter, const QPolygonF &polygon)
 {
     const QPen pen = painter.pen();
-    // Thinner pens are drawn by another part of the engine, which has no bands.
+    // Thinner pens are drawn by another part of the engine, which does not work in bands.
     if (pen.widthF() < 2.0 || painter.brush().style() != Qt::NoBrush || !isTall(painter, polygon.boundingRect())) {
         painter.drawPolygon(polygon, Qt::OddEvenFill);
         return;

@@ -9,10 +9,10 @@ class QPolygonF;
 
 namespace ceiechart {
 
-/*! What painter.drawPolygon(polygon, Qt::OddEvenFill) draws, pixel for pixel; less slow for a large polygon. */
+/*! \brief Draws exactly what painter.drawPolygon(polygon, Qt::OddEvenFill) draws, but faster for a large polygon. */
 void drawPolygonOutline(QPainter &painter, const QPolygonF &polygon);
 
-/*! What painter.fillPath(path, brush) draws, pixel for pixel; less slow for a large path. */
+/*! \brief Draws exactly what painter.fillPath(path, brush) draws, but faster for a large path. */
 void fillLargePath(QPainter &painter, const QPainterPath &path, const QBrush &brush);
 
 } // namespace ceiechart

@@ -8,10 +8,10 @@ namespace ceiechart {
 
 namespace {
 
-constexpr int firstWavelength = 360; // nm
-constexpr int lastWavelength = 830; // nm; the outline itself ends one row earlier
+constexpr int firstWavelength = 360; //!< in nm
+constexpr int lastWavelength = 830; //!< in nm; the outline itself ends one row earlier
 
-constexpr double edgeWidth = 2.0; // pixels
+constexpr double edgeWidth = 2.0; //!< in pixels
 
 } // namespace
 
@@ -27,7 +27,7 @@ void DiagramRenderer::paintCEIEdge(QPainter &painter)
         }
     }
 
-    // The pending line now runs from the red end back to the violet one: the line of purples.
+    // The pending line now leads from the red end to the violet end: the line of purples.
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(solidPen(d->lineColor, edgeWidth));

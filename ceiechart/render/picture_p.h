@@ -11,12 +11,12 @@
 namespace ceiechart {
 
 /*!
- * A picture to draw into, null when the size is empty, negative or cannot be allocated; it is going to be filled with
- * \a background first.
+ * \brief Creates a picture to draw into; a null image if the size is empty or negative or cannot be allocated.
  *
- * With an opaque background every pixel stays opaque, so that the straight and the premultiplied format hold the
- * same values: drawing in the premultiplied one, which the paint engine is at home in, is several times as fast. The
- * engine fills no farther than its coordinates reach; what lies beyond stays transparent.
+ * The caller must first fill it with \a background. If that colour is opaque, every pixel remains opaque, so that the
+ * straight and the premultiplied format hold the same values. The picture then has the premultiplied format, in which
+ * the paint engine draws several times faster. The engine cannot fill a picture beyond the range of its coordinates;
+ * such a picture is transparent there and has the straight format.
  */
 inline std::unique_ptr<QImage> newPicture(int width, int height, const QColor &background)
 {
@@ -30,7 +30,7 @@ inline std::unique_ptr<QImage> newPicture(int width, int height, const QColor &b
     return picture;
 }
 
-/*! Hands out a picture that is no longer drawn into, in Format_ARGB32. */
+/*! \brief Releases a finished picture to the caller, in Format_ARGB32. */
 inline QImage *finished(std::unique_ptr<QImage> picture)
 {
     picture->reinterpretAsFormat(QImage::Format_ARGB32);

@@ -8,7 +8,10 @@ namespace NewCEIE {
 
 namespace {
 
-//! Beyond the last colour a default-constructed one, which a solid brush paints opaque black.
+/*!
+ * \brief The colour at \a index; beyond the last one a default-constructed colour, which a solid brush paints opaque
+ * black.
+ */
 template <std::size_t N>
 QColor colorAt(const QColor (&colors)[N], int index)
 {

@@ -14,10 +14,13 @@ namespace ceiechart {
 
 namespace {
 
-constexpr double tickLength = 0.0168; // in chromaticity units
-constexpr int tickWidthPerMille = 2; // of the picture's height
+constexpr double tickLength = 0.0168; //!< in units of chromaticity
+constexpr int tickWidthPerMille = 2; //!< in thousandths of the picture's height
 
-//! 1 for a numbered tick, 0.5 for a plain one, 0 for none: the crowded ends of the locus stay bare.
+/*!
+ * \brief The weight of a tick: 1 with a number, 0.5 without one, 0 for no tick. The crowded ends of the locus have
+ * none.
+ */
 double tickWeight(int wavelength)
 {
     if ((wavelength >= 421 && wavelength <= 449) || (wavelength >= 631 && wavelength <= 679)) {
@@ -29,7 +32,7 @@ double tickWeight(int wavelength)
     return wavelength % 5 == 0 ? 0.5 : 0.0;
 }
 
-//! Moves the corner of a \a w × \a h text box so that the box stands off a tick that points to \a octant.
+/*! \brief Moves the corner of a \a w × \a h text box so that the box does not touch a tick that points to \a octant. */
 QPoint textCorner(int octant, int x, int y, int w, int h)
 {
     switch (octant) {
@@ -85,7 +88,7 @@ void DiagramRenderer::DrawEdgeCoordinates(QPainter &painter, const CEIAtlasValue
     const double dy = d->current.y - d->previousLocusPoint.y();
     const double length = std::sqrt(dx * dx + dy * dy);
     if (!(length > 0)) {
-        return; // no chord, no direction
+        return; // the chord has no direction
     }
     const double nx = dy / length;
     const double ny = -dx / length;

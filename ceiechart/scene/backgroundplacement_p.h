@@ -8,8 +8,10 @@
 namespace ceiechart {
 
 /*!
- * Where a picture that fills \a scene is painted for a view of size \a view: unscaled and centred when the view is
- * taller than the scene, else scaled to the view's height and centred. An empty view gives an empty rectangle.
+ * \brief The rectangle in which a picture that fills \a scene is painted in a view of size \a view.
+ *
+ * If the view is taller than the scene, the picture is centred and not scaled. Otherwise it is scaled to the height of
+ * the view and centred. For an empty view the rectangle is empty.
  */
 QRectF backgroundPlacement(const QRectF &scene, const QSize &view) noexcept;
 

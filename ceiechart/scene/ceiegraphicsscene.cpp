@@ -13,7 +13,7 @@ namespace NewCEIE {
 
 namespace {
 
-constexpr QSize sceneSize(672, 728); // pixels, whatever the picture's size
+constexpr QSize sceneSize(672, 728); //!< in pixels, independent of the size of the picture
 
 QRectF markAround(const QPointF &position)
 {

@@ -9,60 +9,74 @@
 namespace NewCEIE {
 
 /*!
- * \brief The chart's scene: shows the rendered diagram as its background, keeps the gamuts and moves the target's
- * handles.
+ * \brief The scene of the current chart: shows the diagram as its background and keeps the gamuts.
  *
- * In this generation the mouse edits nothing and the handles are drawn only when a host calls refreshArea() with a
- * painter in scene coordinates. Reports are emitted synchronously, from inside the operation that causes them.
+ * In this generation the mouse edits nothing, and handles are drawn only if the host calls refreshArea() with a painter
+ * in scene coordinates. Signals are emitted synchronously, by the function that causes them.
  *
- * The scene owns its renderer and its last picture. GUI thread only.
+ * \code
+ * NewCEIE::CEIEGraphicsScene scene({original, target});
+ * scene.setImageWidth(600);
+ * scene.setImageHeight(600);
+ * QObject::connect(&scene, &NewCEIE::CEIEGraphicsScene::signal_targetInfoChanged, &window, &Window::showTarget);
+ * \endcode
+ *
+ * The scene owns its renderer and its picture. A view does not own its scene; the chart NewCEIE::CEIEGraphicsView does.
+ * Chromaticities are CIE 1931 x, y (unitless). Use a scene on the GUI thread only.
  */
 class CEIECHART_EXPORT CEIEGraphicsScene : public ceiechart::TargetScene {
     Q_OBJECT
 
 public:
     /*!
-     * \brief A scene of \a triangles.
+     * \brief Creates a scene with \a triangles: original, target.
      *
-     * With two or more \a triangles (original, target) the construction emits signal_triangleObjecIinitialized().
-     * Nothing is rendered before getBitMap() or a setter that calls it.
+     * With two or more gamuts the constructor emits signal_triangleObjecIinitialized(), before a host can connect to
+     * it. No picture is rendered before getBitMap() or a setter that renders.
      */
     explicit CEIEGraphicsScene(QList<ColorTriangleObject> triangles);
     ~CEIEGraphicsScene() override;
 
     using TargetScene::setLsColorTriangleObject;
     /*!
-     * \brief Takes the gamuts and renders them at once.
+     * \brief Replaces the gamuts and renders them.
      *
+     * \param triangles the gamuts: original, target and others
      * \param second the standard gamuts
-     * \param first  with \a other, gives the common area to which the colours are confined; none when either is
-     *               empty
-     * \param flag   handed on to the renderer, which stores it
-     * \param text   when not empty, the renderer leaves out horseshoe and gamuts
+     * \param first, other the gamuts whose common area shows the horseshoe. If either is empty, the horseshoe is not
+     * drawn.
+     * \param flag is ignored
+     * \param text if it is not empty, the picture has no horseshoe and no gamuts
      */
     void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles, const QList<ColorTriangleObject> &second,
         const TrianglePoint &first, const TrianglePoint &other, bool flag, const QString &text);
-    /*! \brief Marks CMY points (chromaticities) from the next rendering on. */
+    /*!
+     * \brief Sets the CMY points (CIE 1931 x, y) of the next picture of gamuts. They are converted to pixels at once;
+     * set the size first.
+     */
     void setCMYPointData(const QList<QPointF> &points);
-    /*! \brief The colour behind the horseshoe from the next rendering on. */
+    /*! \brief Sets the background colour of the horseshoe in the next picture of gamuts. */
     void setBackgroudColor(const QColor &color);
-    /*! \brief Does nothing. */
+    /*! \brief Does nothing; kept for hosts that call it. */
     void setTargetItemVisable(bool visible);
-    /*! \brief Converts \a p in place from chromaticity to scene coordinates. */
+    /*! \brief Converts \a p from CIE 1931 x, y to scene coordinates. */
     void chromaToCurCoordinate(QPointF &p);
 
 Q_SIGNALS:
-    /*! \brief A primary has been placed; carries the target after the change. */
+    /*! \brief Emitted when a primary of the target has been set; \a colorTriangleObject is the changed target. */
     void signal_colorGamutValueChanged(ColorTriangleObject colorTriangleObject);
-    /*! \brief Declared for hosts; nothing in the scene emits it. */
+    /*! \brief Never emitted in this generation. */
     void signal_colorGamutWhiteChanged(ColorTriangleObject colorTriangleObject);
-    /*! \brief The white-point handle has been drawn; whole kelvin. */
+    /*! \brief Emitted when the white-point handle has been drawn, with its colour temperature in whole kelvin. */
     void signal_colorTempertrueValueChang(double colorTempertureValue);
-    /*! \brief The space bar asks for an open hand. */
+    /*! \brief Emitted when the space bar is pressed, with an open hand. */
     void signal_mouseCursorChange(QCursor mouseCursorStyle);
-    /*! \brief A white-point request has been accepted. */
+    /*! \brief Emitted when a move of the white point has been accepted. */
     void signal_targetInfoChanged(TargetInfoChangedEventArgs targetInfoChangedEventArgs);
-    /*! \brief The gamuts at construction, and whether the target lies inside the original. */
+    /*!
+     * \brief Emitted by the constructor, with the original and the target and whether the target lies inside the
+     * original.
+     */
     void signal_triangleObjecIinitialized(TriangleObjecIinitializedEventArgs triangleObjecIinitializedEventArgs);
 
 protected:

@@ -31,8 +31,10 @@ bool isWhole(double value)
 }
 
 /*!
- * Whether painting into \a rect touches whole device pixels only, one for each unit, and begins inside the device:
- * the engine's sampling positions are rounded from where a row begins, so that only then a copy is the same.
+ * \brief Whether \a rect covers whole device pixels, one for each unit, and begins inside the device.
+ *
+ * The engine rounds its sampling positions relative to the beginning of a row. Only under these conditions does it draw
+ * the same pixels as a copy of the scaled picture.
  */
 bool isCopyExact(const QPainter &painter, const QRectF &rect)
 {
@@ -55,7 +57,8 @@ void ChartPicture::reset(QImage *picture)
 
 QImage ChartPicture::readyFor(const QPainter &painter) const
 {
-    // Of an opaque picture the premultiplied format has the same values. Turned or scaled it is sampled in another way.
+    // For an opaque picture both formats have the same values. A picture that is rotated or scaled is sampled
+    // differently in the premultiplied format.
     if (m_opaque && painter.deviceTransform().type() <= QTransform::TxTranslate) {
         return QImage(m_image.constBits(), m_image.width(), m_image.height(), m_image.bytesPerLine(),
             QImage::Format_ARGB32_Premultiplied);

@@ -9,28 +9,30 @@ class QPainter;
 namespace ceiechart {
 
 /*!
- * \brief The rendered picture, kept ready for being painted over and over.
+ * \brief The rendered picture, cached for repeated painting.
  *
- * A drag or a hover repaints a picture that has not changed: what the paint engine would have to do each time,
- * converting the picture and scaling it, is done once.
+ * While the user drags or moves the mouse, an unchanged picture is painted repeatedly. The conversion and scaling that
+ * the paint engine would repeat each time are done once.
  */
 class ChartPicture {
 public:
-    //! Takes ownership of \a picture, which may be null.
+    /*! \brief Replaces the picture and takes ownership of \a picture, which can be null. */
     void reset(QImage *picture = nullptr);
 
-    //! False until a picture was set, even a null one.
+    /*! \brief Whether a picture has been set, even a null image. */
     bool isSet() const { return m_set; }
+    /*! \brief Whether there is no picture or the picture is a null image. */
     bool isNull() const { return m_image.isNull(); }
+    /*! \brief The size of the picture in pixels. */
     QSize size() const { return m_image.size(); }
 
-    //! The whole picture, smoothly scaled to \a target.
+    /*! \brief Draws the whole picture, smoothly scaled to \a target. */
     void draw(QPainter *painter, const QRectF &target);
-    //! The part \a source of the picture, smoothly scaled to \a target.
+    /*! \brief Draws the part \a source of the picture, smoothly scaled to \a target. */
     void drawPart(QPainter *painter, const QRectF &target, const QRectF &source);
 
 private:
-    //! The picture in the format that is painted fastest without changing a pixel; shares its data.
+    /*! \brief The picture, sharing its data, in the format that is painted fastest with the same result. */
     QImage readyFor(const QPainter &painter) const;
 
     QImage m_image;

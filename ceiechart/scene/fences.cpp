@@ -8,7 +8,10 @@ namespace ceiechart {
 
 namespace {
 
-// CIE 1931 x, y. All three share their first corner near the equal-energy white.
+/*!
+ * \brief The corners of the regions in CIE 1931 x, y. All three regions share their first corner, near the equal-energy
+ * white.
+ */
 constexpr std::array<PointF, 4> redFence{{{0.33F, 0.33F}, {0.493F, 0.517F}, {0.744F, 0.262F}, {0.427F, 0.109F}}};
 
 constexpr std::array<PointF, 11> greenFence{

@@ -6,10 +6,12 @@
 
 namespace ceiechart {
 
-/*! The colour region that a primary is kept in. */
+/*! \brief The colour regions; each primary stays inside its own. */
 enum Region { RedRegion = 0, GreenRegion = 1, BlueRegion = 2, NoRegion = 3 };
 
-/*! The first of the red, green and blue fences that contains \a chroma, or NoRegion. */
+/*!
+ * \brief The colour region that contains \a chroma, tested in the order red, green, blue; NoRegion if there is none.
+ */
 Region regionOf(const PointF &chroma) noexcept;
 
 } // namespace ceiechart

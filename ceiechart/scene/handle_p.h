@@ -10,10 +10,10 @@
 
 namespace ceiechart {
 
-/*! A handle of the target gamut. The stated signatures have several numberings for it: see HandleNumbers. */
+/*! \brief A handle of the target gamut. Signatures number the handles in several ways; see HandleNumbers. */
 enum class Handle { None, Red, Green, Blue, White };
 
-/*! What the numberings of the shared enums and of the colour regions are for one handle. */
+/*! \brief The numbers of a handle in the shared enums and in the colour regions. */
 struct HandleNumbers {
     Handle handle;
     int tab; //!< a TabSelectedType
@@ -29,7 +29,7 @@ constexpr std::array<HandleNumbers, 5> handleNumbers{{
     {Handle::White, NewCEIE::TabSelectedWhite, std::nullopt, std::nullopt},
 }};
 
-/*! The handle with the TabSelectedType \a tab; none for a value that is no such type. */
+/*! \brief The handle with the TabSelectedType \a tab; none if \a tab is not a TabSelectedType. */
 constexpr std::optional<Handle> handleOfTab(int tab)
 {
     for (const HandleNumbers &numbers : handleNumbers) {
@@ -40,7 +40,7 @@ constexpr std::optional<Handle> handleOfTab(int tab)
     return std::nullopt;
 }
 
-/*! The handle with the ColorArea \a area; none for a value that is no such area. */
+/*! \brief The handle with the ColorArea \a area; none if \a area is not a ColorArea. */
 constexpr std::optional<Handle> handleOfArea(int area)
 {
     for (const HandleNumbers &numbers : handleNumbers) {
@@ -51,7 +51,7 @@ constexpr std::optional<Handle> handleOfArea(int area)
     return std::nullopt;
 }
 
-/*! The handle of the primary that \a region keeps; Handle::None for no region. */
+/*! \brief The handle of the primary that belongs to \a region; Handle::None for NoRegion. */
 constexpr Handle handleOfRegion(Region region)
 {
     for (const HandleNumbers &numbers : handleNumbers) {

@@ -6,10 +6,10 @@
 
 namespace ceiechart {
 
-// Diameters in scene pixels before zoom
-constexpr float vertexHandleSize = 12.0F;
-constexpr float centreHandleSize = 6.0F;
+constexpr float vertexHandleSize = 12.0F; //!< diameter of a selected handle, in scene pixels before zoom
+constexpr float centreHandleSize = 6.0F; //!< diameter of any other handle, in scene pixels before zoom
 
+/*! \brief The diameter \a size multiplied by \a zoom, truncated to whole pixels. */
 inline int handleSide(float size, float zoom)
 {
     return truncated(double(size * zoom));

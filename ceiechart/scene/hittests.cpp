@@ -13,7 +13,7 @@ namespace {
 
 constexpr Handle primaries[] = {Handle::Red, Handle::Green, Handle::Blue};
 
-//! A position that is no number hits nothing.
+/*! \brief Whether \a position is in the square of \a side pixels around \a handle; false if it is not a number. */
 bool hits(const QPointF &handle, int side, const QPointF &position)
 {
     const double half = side / 2.0;
@@ -28,7 +28,6 @@ int TargetScene::Private::handleHitSide() const
     return handleSide(vertexHandleSize, zoom);
 }
 
-//! Where the handle was painted last or, until it has been, where it would be.
 QPointF TargetScene::Private::whiteHandlePosition()
 {
     return centreHandleDrawn ? centreHandlePoint : toScene(targetPoints().whitePos());

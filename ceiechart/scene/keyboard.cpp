@@ -7,11 +7,11 @@ namespace ceiechart {
 
 namespace {
 
-constexpr float nudge = 0.1F; // scene pixels
-constexpr float zoomLimit = 1.5F; // tested before a step is taken
+constexpr float nudge = 0.1F; //!< smallest step of an arrow key, in scene pixels
+constexpr float zoomLimit = 1.5F; //!< tested before a step: the zoom can exceed it by one step
 constexpr float zoomStep = 0.1F;
 
-//! (0, 0) for what is no arrow key.
+/*! \brief The direction of an arrow key; (0, 0) for any other key. */
 QPoint arrowDirection(int key)
 {
     switch (key) {

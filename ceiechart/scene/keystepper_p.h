@@ -6,12 +6,14 @@
 
 namespace ceiechart {
 
-/*! \brief How far an arrow key moves a handle: a small step that grows while the same arrow is pressed again. */
+/*! \brief The step width of the arrow keys, which grows while the same arrow key is pressed repeatedly. */
 class KeyStepper {
 public:
     /*!
-     * Multiplies \a step by what the presses before this one have earned: 1 for the first eleven, then 1, 2, … 11
-     * and 11 from there on. Another \a key than the last arrow starts over.
+     * \brief Multiplies \a step by a factor that depends on the number of preceding presses.
+     *
+     * The factor is 1 for the first eleven presses. It then grows by 1 with each press, from 1 to 11, and remains 11. A
+     * \a key other than the last arrow key starts again.
      */
     void speedUp(float &step, Qt::Key key)
     {
@@ -23,14 +25,16 @@ public:
         }
     }
 
+    /*! \brief Starts again with a factor of 1. */
     void clear()
     {
         m_presses = 0;
         m_acceleration = 0;
     }
 
+    /*! \brief Stores the arrow key that was pressed last. */
     void setLastKey(Qt::Key key) { m_lastKey = key; }
-    //! Every key counts, not only arrows.
+    /*! \brief Counts a key press. All keys are counted, not only arrow keys. */
     void countPress() { ++m_presses; }
 
 private:

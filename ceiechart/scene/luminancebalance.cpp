@@ -11,7 +11,7 @@ namespace ceiechart {
 namespace {
 
 constexpr double step = 10.0;
-constexpr double relativeTolerance = 1e-9; // a target equal to the original must pass in spite of rounding
+constexpr double relativeTolerance = 1e-9; //!< a target equal to the original must be accepted in spite of rounding
 
 struct White {
     double luminance = 0.0, x = 0.0, y = 0.0;
@@ -29,7 +29,7 @@ struct Luminances {
     double red = 0.0, green = 0.0, blue = 0.0;
 };
 
-//! The luminances at which the primaries of \a t mix to its white position with the luminance \a white.
+/*! \brief The luminances at which the primaries of \a t mix to its white point with the luminance \a white. */
 Luminances luminancesFor(const TrianglePoint &t, double white)
 {
     Luminances found;
@@ -49,7 +49,10 @@ bool deliverable(const Luminances &wanted, const TrianglePoint &original)
         && !outOfRange(wanted.blue, original.blueLum());
 }
 
-//! The least number of steps from \a first to \a last for which \a holds; it holds for all later ones too.
+/*!
+ * \brief The smallest number of steps from \a first to \a last for which \a holds is true; it must be true for all
+ * larger ones.
+ */
 template <typename Predicate>
 std::uint64_t firstThat(std::uint64_t first, std::uint64_t last, const Predicate &holds)
 {
@@ -64,15 +67,18 @@ std::uint64_t firstThat(std::uint64_t first, std::uint64_t last, const Predicate
     return first;
 }
 
-//! The white luminance, lowered step by step from \a start, at which \a original can deliver the white of \a target.
+/*!
+ * \brief The luminance of the white, decreased in steps from \a start, at which \a original can reproduce the white of
+ * \a target.
+ */
 double balancedWhite(const TrianglePoint &target, const TrianglePoint &original, double start)
 {
     const auto ends = [&](double white) { return deliverable(luminancesFor(target, white), original) || white < step; };
     if (ends(start) || !std::isfinite(start) || start - step == start) {
         return start;
     }
-    // One step after the other finds the same end, but takes years when the luminance is absurd. No luminance that a
-    // step changes takes more steps than there are multiples of 4 up to 2^57.
+    // Trying one step after the other gives the same result, but would take years for an absurd luminance. A luminance
+    // that a step changes takes at most as many steps as there are multiples of 4 up to 2^57.
     constexpr std::uint64_t mostSteps = std::uint64_t(1) << 55;
     return lowered(start, firstThat(1, mostSteps, [&](std::uint64_t steps) { return ends(lowered(start, steps)); }));
 }

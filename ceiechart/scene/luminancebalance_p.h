@@ -8,22 +8,23 @@
 
 namespace ceiechart {
 
-/*! Sets the white of \a target to what its primaries mix to. */
+/*! \brief Sets the white point of \a target, with its luminance, to the additive mixture of the primaries. */
 void mixWhite(TrianglePoint &target);
 
 /*!
- * Holds the white position of \a target and sets the luminances that give it: the white luminance starts at what
- * \a original's primaries mix to and is lowered in steps of 10 until no primary has to be negative or brighter than
- * the original's, or until it is below 10. A luminance that is not finite, or too large for a step to change, is
- * not lowered.
+ * \brief Keeps the white point of \a target and sets the luminances of white and primaries.
+ *
+ * The luminance of the white starts at that of the additive mixture of the primaries of \a original. It is decreased in
+ * steps of 10 until no primary needs a negative luminance or one above that of the original, or until it is below 10. A
+ * luminance that is not finite, or so large that a step does not change it, is not decreased.
  */
 void balanceHeldWhite(TrianglePoint &target, const TrianglePoint &original);
 
 /*!
- * \a white after \a steps subtractions of 10, each rounded to double precision.
+ * \brief \a white after \a steps subtractions of 10, each rounded to double precision.
  *
- * Up to 2^54 every one of them is exact. Above, the difference is rounded to a multiple of the spacing of the numbers,
- * which makes equal steps of another size between two powers of two.
+ * Up to 2^54 each subtraction is exact. Above, the result is rounded to a multiple of the distance between neighbouring
+ * numbers, so that the steps between two powers of two have the same size, but not 10.
  */
 double lowered(double white, std::uint64_t steps);
 

@@ -15,11 +15,11 @@ namespace ceiechart {
 
 namespace {
 
-constexpr double lensRadius = 48.0; // scene pixels
+constexpr double lensRadius = 48.0; //!< in scene pixels
 constexpr double lensMagnification = 4.0;
-constexpr double lensDistance = 72.0; // from the handle's centre to the lens's
+constexpr double lensDistance = 72.0; //!< distance between the centres of handle and lens, in scene pixels
 
-//! Black under white: an outline that shows on every colour of the diagram.
+/*! \brief Draws a white line on a wider black one, which is visible on every colour of the diagram. */
 void strokeLegibly(QPainter *painter, const QPainterPath &path)
 {
     painter->setBrush(Qt::NoBrush);
@@ -38,7 +38,7 @@ QPainterPath circle(const QPointF &centre, double radius)
     return path;
 }
 
-//! Four ticks round \a centre that leave the middle free.
+/*! \brief Four ticks around \a centre, between the distances \a from and \a to. */
 QPainterPath crosshair(const QPointF &centre, double from, double to)
 {
     QPainterPath path;
@@ -59,7 +59,7 @@ void TargetScene::DrawCenterEllipse(QPainter *painter)
     if (!d->hasTarget()) {
         return;
     }
-    // refreshArea() may have cleared the white since: the handle stays where the white was.
+    // The handle remains at the last white point if refreshArea() has reset the white point since.
     if (!d->targetPoints().whitePos().isNull()) {
         d->centreHandleChroma = d->targetPoints().whitePos();
     }
@@ -89,7 +89,7 @@ bool TargetScene::IsMagnifyEllispse(QPainter *painter)
         return false;
     }
     const QPointF handle = d->whiteHandlePosition();
-    // Towards the middle of the picture, where there is room for the lens.
+    // The lens is drawn towards the middle of the picture, where there is room for it.
     const QPointF middle = d->backgroundTarget.center();
     const QPointF lens = handle
         + QPointF(handle.x() < middle.x() ? lensDistance : -lensDistance,
@@ -147,7 +147,7 @@ void TargetScene::DrawEllipseSignPosition(QPainter *painter)
     painter->setFont(font);
     painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing, true);
 
-    // Beside the handle, on the side where the picture has room, clear of it at every zoom.
+    // The label is drawn beside the handle, on the side where the picture has room, and does not cover it at any zoom.
     const QFontMetrics metrics(font);
     const QSizeF box(metrics.horizontalAdvance(text) + 8, metrics.height() + 4);
     const double clearance = std::max(handleSide(vertexHandleSize, d->zoom), 0) / 2.0 + 6;

@@ -6,7 +6,7 @@
 
 namespace ceiechart {
 
-/*! \brief Turns the reports of the editing into the signals of \a Scene, which both generations name alike. */
+/*! \brief Emits the reports of a scene as signals of \a Scene. The signals have the same names in both generations. */
 template <typename Scene, typename Base>
 class SceneSignals : public Base {
 public:

@@ -12,7 +12,7 @@ namespace ceiechart {
 
 namespace {
 
-//! Where the axes lie in a picture, in 512ths of its width or height.
+/*! \brief The position of the axes in a picture, computed in 512ths of its width or height. */
 struct AxesPlacement {
     double originX, originY;
     int unitLength;

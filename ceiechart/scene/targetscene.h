@@ -23,16 +23,17 @@ class QPainter;
 namespace ceiechart {
 
 /*!
- * \brief What the scenes of both generations hold and do: the gamuts, the picture, the handles of the target gamut
- *        and the moves of them.
+ * \brief The gamuts, the picture and the handles of a chart, and the editing of the target gamut.
  *
- * The base of both `CEIEGraphicsScene` classes. Hosts use those classes; there is nothing to derive from this one for.
+ * The base class of both `CEIEGraphicsScene` classes. Hosts use those classes and need not derive from this one.
  *
- * Triangle 0 of the list is the original gamut, triangle 1 the target that is edited. With fewer than two triangles
- * nothing is edited. A primary stays in the colour region in which it was picked, the white point inside the target.
- * Chromaticities are CIE 1931 x, y. Invalid input is ignored; no operation reports an error.
+ * Gamut 0 of the list is the original gamut, and gamut 1 is the target, which is edited. With fewer than two gamuts
+ * nothing is edited. Each primary stays inside the colour region in which it was selected, and the white point stays
+ * inside the target. Chromaticities are CIE 1931 x, y (unitless), luminances have the host's unit, and sizes are in
+ * pixels.
  *
- * Getters are not const where hosts' pointers to members expect them so.
+ * The scene owns its renderer and its picture. Invalid input is ignored, and no function reports an error. Getters are
+ * not const because the pointers to members that hosts use expect it. Use a scene on the GUI thread only.
  */
 class CEIECHART_EXPORT TargetScene : public QGraphicsScene {
 public:
@@ -42,23 +43,25 @@ public:
      * \name Gamuts and points
      * @{
      */
-    /*! \brief Replaces the gamuts and repaints. Neither re-renders nor reports. */
+    /*!
+     * \brief Replaces the gamuts and repaints the scene. The picture is not rendered again, and no signal is emitted.
+     */
     void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles);
-    /*! \brief A copy of the gamuts as they stand, edits included. */
+    /*! \brief A copy of the gamuts in their current state, including edits. */
     QList<ColorTriangleObject> getLsColorTriangleObject();
-    /*! \brief Stores the colour-temperature points (CIE 1931 x, y) and re-renders. */
+    /*! \brief Sets the colour-temperature points (CIE 1931 x, y) and renders the picture. */
     void setLsColorTempertureValuePoints(const QList<QPointF> &points);
     /*! \brief A copy of the colour-temperature points. */
     QList<QPointF> getLsColorTempertureValuePoints();
     /*!
-     * \brief Stores further measurement points (CIE 1931 x, y) and their colours, one per point, and repaints.
+     * \brief Sets the measurement points (CIE 1931 x, y) and their colours, one for each point, and repaints the scene.
      *
-     * A point without a colour, or with an invalid one, is marked in white.
+     * A point without a colour, or with an invalid one, is white.
      */
     void setOtherPoints(const QList<QPointF> &points, const QList<QColor> &colours);
-    /*! \brief A copy of the further points. */
+    /*! \brief A copy of the measurement points. */
     QList<QPointF> getOtherPoints();
-    /*! \brief A copy of the further points' colours. */
+    /*! \brief A copy of the colours of the measurement points. */
     QList<QColor> getOtherPointsColor();
     /*! @} */
 
@@ -67,33 +70,41 @@ public:
      * @{
      */
     /*!
-     * \brief Sets the renderer's colours from the next rendering on.
+     * \brief Sets the colours of the next picture.
      *
-     * \param line    of the locus edge and the axes
-     * \param picture of the ground: the whole picture, in a legacy u′, v′ scene the ground around the horseshoe
+     * \param line colour of the locus edge and the axes
+     * \param picture background colour: fills the picture of the current scene and the u′, v′ picture of the legacy
+     * scene. The legacy x, y picture has a black background.
      */
     void setGraphColor(QColor line, QColor picture);
-    /*! \brief Sets the picture's width in pixels and re-renders. Below 1 there is no picture. */
+    /*! \brief Sets the width of the picture in pixels and renders it. With a width below 1 the picture is empty. */
     void setImageWidth(int width);
-    /*! \brief Sets the picture's height in pixels and re-renders. Below 1 there is no picture. */
+    /*! \brief Sets the height of the picture in pixels and renders it. With a height below 1 the picture is empty. */
     void setImageHeight(int height);
-    /*! \brief The picture's width in pixels, multiplied by the zoom at each rendering. */
+    /*! \brief The width of the picture in pixels; 672 by default. Each rendering multiplies it by the zoom. */
     int imageWidth();
-    /*! \brief The picture's height in pixels, multiplied by the zoom at each rendering. */
+    /*! \brief The height of the picture in pixels; 728 by default. Each rendering multiplies it by the zoom. */
     int imageHeight();
-    /*! \brief Switches axes and grid on or off and re-renders. */
+    /*!
+     * \brief Sets whether axes and grid are drawn, in a legacy x, y picture also the Planckian locus, and renders the
+     * picture.
+     */
     void setIsDrawCoordinate(bool draw);
-    /*! \brief Stores the switch and re-renders. No picture depends on it. */
+    /*! \brief Stores the switch and renders the picture, which does not depend on it. */
     void setIsDrawBBRLine(bool draw);
-    /*! \brief Switches the wavelengths on or off, in pictures that have a choice, and re-renders. */
+    /*!
+     * \brief Sets whether the legacy x, y picture has wavelengths, and renders the picture.
+     *
+     * No other picture depends on the switch.
+     */
     void setIsDrawWaveLength(bool draw);
-    /*! \brief The switch of setIsDrawCoordinate(); on at first. */
+    /*! \brief The switch of setIsDrawCoordinate(); true by default. */
     bool isDrawCoordinate();
-    /*! \brief The switch of setIsDrawBBRLine(); on at first. */
+    /*! \brief The switch of setIsDrawBBRLine(); true by default. */
     bool isDrawBBRLine();
-    /*! \brief The switch of setIsDrawWaveLength(); on at first. */
+    /*! \brief The switch of setIsDrawWaveLength(); true by default. */
     bool isDrawWaveLength();
-    /*! \brief Renders the picture again. Each call first multiplies the stored size by the zoom. */
+    /*! \brief Renders the bare diagram. Each call first multiplies the stored size by the zoom. */
     void getBitMap();
     /*! @} */
 
@@ -102,33 +113,45 @@ public:
      * @{
      */
     /*!
-     * \brief Whether refreshArea() resets the target's white point to (0, 0), and its luminance to 0, after drawing
-     *        the handles. On at first.
+     * \brief Sets whether refreshArea() resets the target's white point to (0, 0), and its luminance to 0, after
+     * drawing the handles. True by default.
      *
-     * A host that edits or reports the white point switches it off.
+     * A host that edits or displays the white point must set it to false.
      */
     void setDrawColorTPoint(bool draw);
     /*! \brief The switch of setDrawColorTPoint(). */
     bool isDrawColorTPoint();
-    /*! \brief Whether a mouse press may start an edit, in a scene that edits with the mouse. On at first. */
+    /*!
+     * \brief Sets whether a mouse press can start an edit, in a scene that is edited with the mouse. True by default.
+     */
     void setIsMouseOper(bool allowed);
     /*! \brief The switch of setIsMouseOper(). */
     bool getIsMouseOper();
     /*!
-     * \brief Whether the target's white is held, so that moving a primary rebalances luminances instead. Off at first.
+     * \brief Sets whether moving a primary keeps the target's white point and changes the luminances instead. False by
+     * default.
      *
-     * The white is held where it is, so use it together with setDrawColorTPoint(false).
+     * setDrawColorTPoint() must be false: otherwise drawing the handles resets the white point.
      */
     void setColorTempertureChecked(bool checked);
-    /*! \brief Whether the primaries can be moved, as they can at first. The white point can be moved either way. */
+    /*!
+     * \brief Sets whether the primaries of the target can be moved.
+     *
+     * True allows moves of the primaries and of the white point. False allows moves of the white point only.
+     */
     void setRGBPointEnable(bool enable);
-    /*! \brief Sets what applyFunctionKey() does: 0 magnifier off, 1 zoom in, 2 zoom out, 3 magnifier and hand. */
+    /*!
+     * \brief Sets what applyFunctionKey() does: 0 magnifier off, 1 zoom in, 2 zoom out, 3 magnifier and hand.
+     *
+     * With any other value it does nothing.
+     */
     void setFunctionKeyMode(int mode);
     /*!
-     * \brief Applies the function-key mode once: for a host's own keys or buttons.
+     * \brief Applies the mode of setFunctionKeyMode() once; for keys or buttons of the host.
      *
-     * While the magnifier is on, each mouse press on a legacy scene applies it again instead of starting an edit.
-     * Zooming in stops at 1.5, zooming out has no limit. A mode that is none of 0 to 3 does nothing.
+     * While the magnifier is on, each mouse press in a legacy scene applies the mode again instead of starting an edit.
+     * The zoom starts at 1 and changes by 0.1. It can be increased until it exceeds 1.5; it can be decreased without
+     * limit.
      */
     void applyFunctionKey();
     /*! @} */
@@ -136,8 +159,8 @@ public:
     /*!
      * \brief Draws the handles with \a painter in scene coordinates.
      *
-     * \return false when there is exactly one triangle, or no painter; nothing is drawn then. With no triangles
-     *         nothing is drawn either, but the result is true.
+     * \return false if \a painter is null or there is exactly one gamut. Without gamuts nothing is drawn and the result
+     * is true.
      */
     bool refreshArea(QPainter *painter);
 

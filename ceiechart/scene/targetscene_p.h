@@ -12,8 +12,8 @@
 namespace ceiechart {
 
 /*!
- * \brief What a scene keeps between operations, and how a generation says where chromaticities lie and where its
- *        reports go.
+ * \brief The state of a scene, and the functions that each generation implements: the mapping of chromaticities, the
+ * rendering and the emission of signals.
  */
 class Q_DECL_HIDDEN TargetScene::Private {
 public:
@@ -23,47 +23,66 @@ public:
     Private() = default;
     virtual ~Private();
 
-    // What a generation adds
-    //! Scene position of a chromaticity.
+    // Implemented by each generation
+    /*! \brief The scene position of a chromaticity. */
     virtual QPointF toScene(const QPointF &chroma) = 0;
-    //! Chromaticity at a scene position.
+    /*! \brief The chromaticity at a scene position. */
     virtual QPointF toChroma(const QPointF &position) = 0;
-    //! The diagram's own coordinates of a chromaticity, as its axes number them.
+    /*! \brief The coordinates of a chromaticity in the diagram, as on its axes. */
     virtual QPointF toDiagram(const QPointF &chroma) { return chroma; }
-    //! Position of a chromaticity in the picture, in pixels.
+    /*! \brief The position of a chromaticity in the picture, in pixels. */
     virtual QPointF toImage(const QPointF &chroma) = 0;
-    //! A new picture of the stored size, for which the scene's rectangle is set.
+    /*! \brief Renders a new picture of the stored size and sets the scene rectangle. The caller owns the picture. */
     virtual QImage *renderPicture() = 0;
+    /*! \brief See TargetScene::setGraphColor(). */
     virtual void setGraphColor(const QColor &line, const QColor &picture) = 0;
-    //! What refreshArea() draws besides the vertex handles.
+    /*! \brief Draws the signs that refreshArea() draws in addition to the handles of the primaries. */
     virtual void drawFurtherSigns(QPainter *) { }
 
+    /*! \brief Emits signal_colorGamutValueChanged(). */
     virtual void reportGamutValue(const ColorTriangleObject &target) = 0;
+    /*! \brief Emits signal_colorTempertrueValueChang(). */
     virtual void reportColorTemperature(double kelvin) = 0;
+    /*! \brief Emits signal_mouseCursorChange(). */
     virtual void reportCursor(const QCursor &cursor) = 0;
+    /*! \brief Emits signal_targetInfoChanged(). */
     virtual void reportTarget(const TargetInfoChangedEventArgs &report) = 0;
+    /*! \brief Emits signal_triangleObjecIinitialized(). */
     virtual void reportInitialized(const TriangleObjecIinitializedEventArgs &report) = 0;
 
     // Set-up and reports, in targetscene.cpp
-    //! The last step of a scene's constructor.
+    /*! \brief Stores the gamuts and reports them. The last step of the constructor of a scene. */
     void begin(const QList<ColorTriangleObject> &initialTriangles);
+    /*! \brief Draws the picture as the background of the scene. */
     void drawPicture(QPainter *painter);
+    /*!
+     * \brief Whether all primaries of \a target lie inside \a original; \a beyond receives the first one that does not.
+     */
     bool checkTarget(
         const ColorTriangleObject &original, const ColorTriangleObject &target, baseCommon::LEDColorType &beyond);
+    /*! \brief Updates the target report. There must be a target. */
     void refreshTargetReport();
+    /*! \brief Whether there is a target gamut. */
     bool hasTarget() const { return triangles.size() >= 2; }
+    /*! \brief The chromaticities and luminances of the target. There must be a target. */
     TrianglePoint &targetPoints() { return triangles[1].trianglePoint(); }
+    /*! \brief The chromaticity of a primary or of the white point of the target; (0, 0) for Handle::None. */
     QPointF targetPosition(Handle handle);
 
     // Hit tests, in hittests.cpp
+    /*! \brief The side of the square around a handle in which it can be selected, in scene pixels. */
     int handleHitSide() const;
+    /*! \brief The scene position at which the white-point handle was last drawn or, before that, would be drawn. */
     QPointF whiteHandlePosition();
 
     // Keyboard, in keyboard.cpp
+    /*! \brief Handles a key press; \a key is a Qt::Key. */
     void keyPressed(int key);
+    /*! \brief Handles a key release; \a key is a Qt::Key. */
     void keyReleased(int key);
 
     // Handles, in handles.cpp
+    /*! \brief Draws the handle of a primary; the selected one is larger. See SetEllipseDieplay() of the scenes. */
     bool displayEllipse(
         QPainter *painter, QPointF chroma, QSize size, std::optional<Handle> tab, std::optional<Handle> area);
 
@@ -76,14 +95,17 @@ public:
     bool drawCoordinate = true;
     bool drawPlanckianLocus = true;
     bool drawWavelengths = true;
-    double originX = 0.0; // scene position of chromaticity (0, 0)
+    double originX = 0.0; //!< scene position of chromaticity (0, 0)
     double originY = 0.0;
-    int unitLength = 100; // scene pixels per 1.0 of chromaticity
+    int unitLength = 100; //!< scene pixels per 1.0 of chromaticity
     QRectF backgroundTarget;
 
     // Gamuts and points
     QList<ColorTriangleObject> triangles;
-    //! Chromaticities after construction, image positions after a setter: compared as they stand.
+    /*!
+     * \brief Chromaticities after construction, image positions after a setter. They are compared with chromaticities
+     * in both cases.
+     */
     TrianglePoint originalVertices;
     TrianglePoint targetVertices;
     QList<QPointF> colorTemperaturePoints;
@@ -99,8 +121,8 @@ public:
     QPointF currentPoint;
     QPointF savedPoint;
     Region selectedRegion = NoRegion;
-    Handle selectedVertex = Handle::None; //!< the primary that was placed last
-    Handle selectedTab = Handle::None; //!< of the region that was clicked last
+    Handle selectedVertex = Handle::None; //!< the primary that was moved last
+    Handle selectedTab = Handle::None; //!< the primary of the region in which the mouse was last pressed
     Handle hovered = Handle::None;
     bool vertexSelected = false;
     bool centreSelected = false;
@@ -117,10 +139,10 @@ public:
     float zoom = 1.0F;
 
     // The white-point handle
-    QPointF centreHandlePoint; // scene position at which it was last drawn
-    QPointF centreHandleChroma; // where the white was when last known
+    QPointF centreHandlePoint; //!< scene position at which it was last drawn
+    QPointF centreHandleChroma; //!< last white point of the target other than (0, 0)
     bool centreHandleDrawn = false;
-    int handleTemperature = 0; // kelvin
+    int handleTemperature = 0; //!< colour temperature in kelvin
 };
 
 } // namespace ceiechart

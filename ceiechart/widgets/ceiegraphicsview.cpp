@@ -233,7 +233,7 @@ void CEIEGraphicsView::buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignm
     label->hide();
 
     setLegendAlignamentCommon(alignment);
-    // Queued: the cursor changes after the scene has handled its event.
+    // The connection is queued so that the cursor changes after the scene has handled its event.
     connect(scene, &CEIEGraphicsScene::signal_mouseCursorChange, view(), &NQCEIEGraphicsView::slot_mouseCursorChange,
         Qt::QueuedConnection);
     ceiechart::relaySignals(scene, this);

@@ -18,10 +18,10 @@
 namespace NewCEIE {
 
 /*!
- * \brief The chart that a host puts into its window: the CIE 1931 x, y diagram, the gamuts over it, and a legend.
+ * \brief The current chart: the CIE 1931 x, y diagram with gamuts and a legend.
  *
- * A host talks to this class only. It hands gamuts over as records, and the chart gives them their colours and
- * kinds, shows what they have in common, and reports through its signals what the scene reports.
+ * A host uses only this class. It passes gamuts as records; the chart assigns colours and kinds to them, shows the area
+ * that target and original have in common, and relays the signals of the scene.
  *
  * \code
  * auto *chart = new NewCEIE::CEIEGraphicsView(true, Qt::AlignRight, this);
@@ -31,109 +31,125 @@ namespace NewCEIE {
  * connect(chart, &NewCEIE::CEIEGraphicsView::signal_targetInfoChanged, this, &Window::showTarget);
  * \endcode
  *
- * A new size or a layer switch renders the bare diagram at once; the gamuts come back with the next updateLanGamut(),
- * setColorGamut() or resize. So set the size first, the gamuts last.
+ * A new size or layer switch renders the bare diagram; the next updateLanGamut(), setColorGamut() or resize draws the
+ * gamuts again. Therefore set the size first and the gamuts last.
  *
- * Inner view, legend and message label are children of the chart. The scene has no parent; the chart deletes it.
- * Chromaticities are CIE 1931 x, y, luminances are in the host's units. Nothing reports an error: what cannot be
- * used is ignored. GUI thread only.
+ * The inner view, the legend and a label for messages are children of the chart. The scene has no parent; the chart
+ * deletes it. Chromaticities are CIE 1931 x, y (unitless), luminances have the host's unit. Invalid input is ignored,
+ * and no function reports an error. Use a chart on the GUI thread only.
  */
 class CEIECHART_EXPORT CEIEGraphicsView : public ceiechart::ChartFrame {
     Q_OBJECT
 
 public:
     /*!
-     * \brief A chart whose legend stands below it and names the gamuts only.
-     * \param parent owns the chart when not null.
+     * \brief Creates a chart. The legend is below the chart and has the gamut entries only.
+     * \param parent owns the chart if it is not null
      */
     explicit CEIEGraphicsView(QWidget *parent);
-    /*! \brief A chart whose legend stands below it and names the points too, whatever the flag. */
+    /*! \brief Creates a chart. The legend is below the chart and also has the point entries. The flag is ignored. */
     CEIEGraphicsView(bool, QWidget *parent);
     /*!
-     * \brief A chart whose legend names the points too, whatever the flag.
+     * \brief Creates a chart. The legend also has the point entries. The flag is ignored.
      *
-     * The legend stands to the right of the chart, in a column with captions written downwards, if \a alignment is
-     * exactly Qt::AlignLeft or exactly Qt::AlignRight; for any other value, combinations included, it stands below.
+     * If \a alignment is exactly Qt::AlignLeft or exactly Qt::AlignRight, the legend is a column to the right of the
+     * chart, and its captions are written downwards. With any other value, including combinations, the legend is a row
+     * below the chart. \a parent owns the chart if it is not null.
      */
     CEIEGraphicsView(bool, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent);
     ~CEIEGraphicsView() override;
 
     /*!
-     * \brief Shows all gamuts anew.
+     * \brief Replaces all gamuts and draws them.
      *
-     * The list of gamuts becomes original (green), measured (cyan), target (orange), each 2 pixels wide and left
-     * out if its setIsShow switch is off. The target is kept but not shown when its record has no name. Of
-     * \a standards those named exactly "Rec.709", "Rec.2020" and "DCI-P3(D65)" are shown, in the given order; any
-     * other is left out. The horseshoe is coloured where target and original overlap, unless setIsShowActual() is off.
+     * The list of gamuts becomes original (green), measured (cyan) and target (orange), each 2 pixels wide. A gamut is
+     * left out if its setIsShow switch is off. If the record of the target has no name, the target is marked as not
+     * shown (see setColorGamutVisible()). The horseshoe is coloured where target and original overlap, unless
+     * setIsShowActual() is false.
+     *
+     * \param target, original, measured the gamuts
+     * \param standards published gamuts. Those named exactly "Rec.709", "Rec.2020" and "DCI-P3(D65)" are drawn in the
+     * given order; all others are ignored.
      */
     void setColorGamut(const Model::ColorGamut &target, const Model::ColorGamut &original,
         const Model::ColorGamut &measured, const QList<Model::ColorGamut> &standards);
-    /*! \brief The same without a measured gamut: the list becomes original, which is cyan here, and target. */
+    /*! \brief Replaces all gamuts and draws them, without a measured gamut. The original is cyan instead of green. */
     void setColorGamut(
         const Model::ColorGamut &target, const Model::ColorGamut &original, const QList<Model::ColorGamut> &standards);
-    /*! \brief Copies chromaticities and luminances of the primaries and the white of \a gamut to \a triangle. */
+    /*!
+     * \brief Copies the chromaticities and luminances of the primaries and the white point of \a gamut to \a triangle.
+     */
     void colorGamutToTriangle(const Model::ColorGamut &gamut, TrianglePoint &triangle);
     /*!
-     * \brief Has the scene draw the chart's gamuts again, and shows \a text over the chart.
+     * \brief Draws the gamuts again and shows \a text over the chart.
      *
-     * A text that is not empty also keeps edge, horseshoe and gamuts out of the picture. The next resize hides it.
-     * \param flag passed to the scene, which draws the same for both values
+     * \param flag is ignored
+     * \param text a message. If it is not empty, the picture has no locus edge, horseshoe and gamuts. The next resize
+     * removes it.
      */
     void updateLanGamut(bool flag, const QString &text);
 
     /*!
-     * \brief Hands chromaticities (CIE 1931 x, y) of cyan, magenta, yellow and black to the scene; drawn with the
-     *        next picture of the gamuts.
+     * \brief Sets the chromaticities (CIE 1931 x, y) of cyan, magenta, yellow and black. The next picture of gamuts
+     * shows them.
      *
-     * They are turned into places in the picture now: set the size first, and the points again after a new size.
+     * They are converted to positions in the picture at once: set the size first, and set the points again after a new
+     * size.
      */
     void setCMYPointData(const QList<QPointF> &points);
 
-    /*! \brief Sets the colour behind the horseshoe, for the next picture. */
+    /*! \brief Sets the background colour of the horseshoe in the next picture of gamuts. */
     void setBackgroudColor(const QColor &color);
     /*!
-     * \brief Sets the colour of edge and axes and the one that fills the picture, for the next picture, and makes
-     *        the chart stand on white.
+     * \brief Sets the colours of the next picture, and makes the background of the inner view white.
+     *
+     * \param first colour of the locus edge, the axes and the colour-temperature points
+     * \param second colour that fills the picture
      */
     void setGraphColor(QColor first, QColor second);
 
-    /*! \brief Whether the next setColorGamut() takes the standards. On at first, as are the following four. */
+    /*!
+     * \brief Sets whether the next setColorGamut() includes the standards. True by default, like the following four
+     * switches.
+     */
     void setIsShowStandard(bool show);
-    /*! \brief Whether the next setColorGamut() takes the target gamut. */
+    /*! \brief Sets whether the next setColorGamut() includes the target gamut. */
     void setIsShowTarget(bool show);
-    /*! \brief Whether the next setColorGamut() takes the original gamut. */
+    /*! \brief Sets whether the next setColorGamut() includes the original gamut. */
     void setIsShowOriginal(bool show);
-    /*! \brief Whether the next setColorGamut() takes the area that target and original have in common. */
+    /*! \brief Sets whether the next setColorGamut() includes the area that target and original have in common. */
     void setIsShowActual(bool show);
-    /*! \brief Whether the next setColorGamut() takes the measured gamut. */
+    /*! \brief Sets whether the next setColorGamut() includes the measured gamut. */
     void setIsShowMeasure(bool show);
 
     /*!
-     * \brief Moves the legend: to the right of the chart for exactly Qt::AlignLeft or exactly Qt::AlignRight, below
-     *        it for any other value. May be called again at any time; see CEIELegend::setLegendAlignament().
+     * \brief Moves the legend to the right of the chart if \a alignment is exactly Qt::AlignLeft or exactly
+     * Qt::AlignRight, otherwise below the chart.
+     *
+     * Can be called repeatedly, on the GUI thread. See CEIELegend::setLegendAlignament().
      */
     void setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment);
     /*! \brief The legend; the chart owns it. */
     CEIELegend *getLegend() const;
-    /*! \brief The view that shows the scene; the chart owns both. */
+    /*! \brief The inner view, which shows the scene; the chart owns both. */
     NQCEIEGraphicsView *view() const;
 
 Q_SIGNALS:
-    /*! \brief A primary of the target has been placed; \a colorTriangleObject is the target after that. */
+    /*! \brief Emitted when a primary of the target has been set; \a colorTriangleObject is the changed target. */
     void signal_colorGamutValueChanged(ColorTriangleObject colorTriangleObject);
     /*! \brief Never emitted in this generation. */
     void signal_colorGamutWhiteChanged(ColorTriangleObject colorTriangleObject);
-    /*! \brief Never emitted in this generation, which draws no white-point handle. */
+    /*! \brief Never emitted in this generation, which does not draw a white-point handle. */
     void signal_colorTempertrueValueChang(double colorTempertureValue);
     /*! \brief Never emitted. */
     void signal_mouseCursorChange(NewCEIE::MouseCursorStyle mouseCursorStyle);
-    /*! \brief The scene has accepted a request to move the white point. */
+    /*! \brief Emitted when the scene has accepted a move of the white point. */
     void signal_targetInfoChanged(TargetInfoChangedEventArgs targetInfoChangedEventArgs);
-    /*! \brief A scene has been constructed with gamuts: not so the scene of a view, which gets them later. */
+    /*! \brief Emitted when the scene has been constructed with gamuts. The scene of a chart gets its gamuts later. */
     void signal_triangleObjecIinitialized(TriangleObjecIinitializedEventArgs triangleObjecIinitializedEventArgs);
 
 protected:
-    /*! \brief Draws the gamuts again, as updateLanGamut() without a text. */
+    /*! \brief Draws the gamuts again, like updateLanGamut() without a text. */
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -11,12 +11,17 @@ class QLabel;
 
 namespace NewCEIE {
 
+/*! \brief The gamuts and switches that the current chart keeps in addition. */
 class Q_DECL_HIDDEN CEIEGraphicsView::Private : public ceiechart::ChartFrame::Private {
 public:
+    /*! \brief The scene; null if a host has deleted it. */
     CEIEGraphicsScene *typedScene() const { return static_cast<CEIEGraphicsScene *>(scene.data()); }
 
+    /*! \brief Removes all gamuts and adds those of \a standards that the chart shows. */
     void beginGamuts(const QList<Model::ColorGamut> &standards);
+    /*! \brief Adds \a triangle to the list of gamuts, in the style of its kind. */
     void addGamut(const TrianglePoint &triangle, ceiechart::GamutKind kind, bool besideMeasured);
+    /*! \brief Adds the target gamut, if it is switched on. */
     void addTarget(const Model::ColorGamut &target, const TrianglePoint &triangle, bool besideMeasured);
 
     QList<ColorTriangleObject> standardTriangles;

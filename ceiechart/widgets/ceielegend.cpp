@@ -25,7 +25,7 @@ CEIELegend::~CEIELegend() = default;
 
 void CEIELegend::setLegendVisible(legendType type, bool visible)
 {
-    // NoEntry stands between the gamuts and the points.
+    // NoEntry is between the gamuts and the points.
     if (type != NoEntry) {
         d->setVisible(static_cast<ceiechart::LegendEntry>(type < NoEntry ? type : type - 1), visible);
     }

@@ -8,13 +8,13 @@
 namespace NewCEIE {
 
 /*!
- * \brief The key to a chart: a swatch and a caption for each gamut layer and, on request, for each kind of point.
+ * \brief The legend of a chart: a swatch and a caption for each kind of gamut and, on request, for each kind of point.
  *
- * Entries stand in a row, or in a column when the legend is beside the chart, in the order original gamut, target
- * gamut, common gamut, target point, original point, managed point. The captions are Chinese in the source and
- * pass through tr() once, at construction: install a translator before (see ceiechart::installTranslations()).
+ * The entries form a row, or a column if the legend is beside the chart. Their order is original gamut, target gamut,
+ * common gamut, target point, original point, managed point. The captions are Chinese in the source code. They are
+ * translated by tr() in the constructor: install a translator before (see ceiechart::installTranslations()).
  *
- * A chart view makes its legend; a host changes it there:
+ * A chart creates its legend. A host changes it there:
  *
  * \code
  * chart->getLegend()->setShowOriginalText(QStringLiteral("Factory gamut"));
@@ -39,32 +39,35 @@ public:
     };
 
     /*!
-     * \brief A row with the three gamut entries.
-     * \param parent owns the legend when not null.
+     * \brief Creates a row with the three gamut entries.
+     * \param parent owns the legend if it is not null
      */
     explicit CEIELegend(QWidget *parent);
-    /*! \brief A row with the three gamut entries and, if \a showPoint, the three point entries. */
+    /*! \brief Creates a row with the three gamut entries and, if \a showPoint is set, the three point entries. */
     CEIELegend(bool showPoint, QWidget *parent);
     /*!
-     * \brief As above, a column with captions written downwards, one character a line, if \a alignment is exactly
-     *        Qt::AlignLeft or exactly Qt::AlignRight. Any other value, combinations included, gives a row.
+     * \brief Creates a legend with the three gamut entries and, if \a showPoint is set, the three point entries.
+     *
+     * If \a alignment is exactly Qt::AlignLeft or exactly Qt::AlignRight, the entries form a column and their captions
+     * are written downwards, one character on each line. With any other value, including combinations, the entries form
+     * a row. \a parent owns the legend if it is not null.
      */
     CEIELegend(bool showPoint, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent);
     ~CEIELegend() override;
 
     /*!
-     * \brief Shows or hides swatch and caption of one entry.
+     * \brief Shows or hides the swatch and the caption of an entry.
      *
-     * NoEntry, values that are no legendType, and points on a legend without point entries are ignored.
+     * NoEntry, values that are not a legendType, and points in a legend without point entries are ignored.
      */
     void setLegendVisible(legendType type, bool visible);
 
 protected:
-    /*! \brief Makes the entries and lays them out: the constructors' last step. */
+    /*! \brief Creates the entries and arranges them. The last step of the constructors. */
     void initUI(QFlags<Qt::AlignmentFlag> alignment);
-    /*! \brief Makes the three gamut entries. */
+    /*! \brief Creates the three gamut entries. */
     void drawColorLegend(QFlags<Qt::AlignmentFlag> alignment);
-    /*! \brief Makes the three point entries. */
+    /*! \brief Creates the three point entries. */
     void drawQCPoint(QFlags<Qt::AlignmentFlag> alignment);
 };
 

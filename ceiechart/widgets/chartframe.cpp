@@ -12,7 +12,9 @@ namespace ceiechart {
 
 namespace {
 
-//! The fixed extent of an inner view that shows a picture of \a extent pixels, within what widgets can have.
+/*!
+ * \brief The fixed width or height of an inner view for a picture of \a extent pixels, within the limits of widgets.
+ */
 int viewExtent(int extent)
 {
     return static_cast<int>(std::clamp<qint64>(static_cast<qint64>(extent) + 2, 0, QWIDGETSIZE_MAX));
@@ -45,7 +47,7 @@ void ChartFrame::Private::setLegend(ChartLegend *chartLegend)
 
 QBoxLayout *ChartFrame::Private::arrange(QFrame *frame, Qt::Alignment alignment)
 {
-    // A widget refuses a second layout.
+    // A widget does not accept a second layout.
     delete frame->layout();
     QBoxLayout *layout = nullptr;
     if (standsBesideChart(alignment)) {
@@ -55,7 +57,7 @@ QBoxLayout *ChartFrame::Private::arrange(QFrame *frame, Qt::Alignment alignment)
     }
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
-    // Set before widgets are added: only then does a shown frame learn that it has something to lay out.
+    // A visible frame is laid out only if its layout is set before widgets are added.
     frame->setLayout(layout);
     layout->addWidget(view);
     layout->addWidget(legend);

@@ -15,105 +15,130 @@
 namespace ceiechart {
 
 /*!
- * \brief A frame with an inner view, a scene and a legend: what the chart views of both generations have in common.
+ * \brief A chart: an inner view that shows a scene, and a legend.
  *
- * The base of both `CEIEGraphicsView` classes. Hosts use those classes; there is nothing to derive from this one for.
+ * The base class of both `CEIEGraphicsView` classes. Hosts use those classes and need not derive from this one.
  *
- * Inner view and legend are children of the frame. The scene has no parent; the frame deletes it. If a host deletes
- * the scene before, what would reach it is ignored from then on.
+ * The inner view and the legend are children of the chart. The scene has no parent; the chart deletes it. If a host
+ * deletes the scene earlier, calls that would reach it are ignored. Chromaticities are CIE 1931 x, y (unitless), sizes
+ * are in pixels. Invalid input is ignored, and no function reports an error. Use a chart on the GUI thread only.
  */
 class CEIECHART_EXPORT ChartFrame : public QFrame {
 public:
     ~ChartFrame() override;
 
-    /*! \brief Empties the list of gamuts. Standards, the common area and the points stay. */
+    /*! \brief Removes all gamuts from the list. The standards, the common area and the points remain. */
     void clear();
     /*!
-     * \brief Sets the mark ColorTriangleObject::isShow() of the gamut at \a index of the list and hands the list to
-     *        the scene. An index outside the list is ignored.
+     * \brief Sets whether the gamut at \a index is marked as shown, and passes the list to the scene. An index outside
+     * the list is ignored.
      *
-     * The mark is for the host: every gamut of the list is drawn. In a legacy chart, handing over the list also undoes
-     * what has been edited.
+     * The mark (ColorTriangleObject::isShow()) is for the host: all gamuts of the list are drawn. Passing the list to
+     * the scene of a legacy chart discards the edits of the user.
      */
     void setColorGamutVisible(int index, bool shown);
     /*!
      * \brief Replaces the list of gamuts.
      *
-     * The current chart shows it after the next updateLanGamut() or resize. The legacy chart expects the original and
-     * the target, in this order.
+     * The current chart shows the new list after the next updateLanGamut() or resize. The legacy chart requires the
+     * original and the target, in this order.
      */
     void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles);
-    /*! \brief The list of gamuts as last set. Edits made on the chart are in the signals only. */
+    /*!
+     * \brief The list of gamuts that was last set. It does not contain the edits of the user, which only the signals
+     * report.
+     */
     QList<ColorTriangleObject> lsColorTriangleObject() const;
 
-    /*! \brief Hands colour-temperature points (CIE 1931 x, y) to the scene, which renders the bare diagram. */
+    /*! \brief Sets the colour-temperature points (CIE 1931 x, y) of the scene, which renders the bare diagram. */
     void setLsColorTempertureValuePoints(const QList<QPointF> &points);
-    /*! \brief The colour-temperature points as last set. */
+    /*! \brief The colour-temperature points that were last set. */
     QList<QPointF> lsColorTempertureValuePoints() const;
     /*!
-     * \brief Hands measurement points (CIE 1931 x, y) and their colours, one per point, to the scene.
+     * \brief Sets the measurement points (CIE 1931 x, y) of the scene, and their colours, one for each point.
      *
-     * The legacy chart shows them as dots over the picture; a point without a colour, or with an invalid one, is
-     * white. The current chart keeps them for the host and draws none.
+     * The legacy chart shows them as dots over the picture; a point without a colour, or with an invalid one, is white.
+     * The current chart stores them for the host and does not draw them.
      */
     void setOtherPoints(QList<QPointF> points, QList<QColor> colors);
-    /*! \brief The measurement points as the scene holds them. */
+    /*! \brief The measurement points of the scene; empty if the scene has been deleted. */
     QList<QPointF> getOtherPoints() const;
-    /*! \brief The colours of the measurement points as the scene holds them. */
+    /*! \brief The colours of the measurement points; empty if the scene has been deleted. */
     QList<QColor> getOtherPointsColor() const;
 
     /*!
-     * \brief Sets the picture's width in pixels, fixes the inner view's width at two more, and renders the bare
-     * diagram.
+     * \brief Sets the width of the picture in pixels and renders the bare diagram. The inner view gets a fixed width of
+     * 2 pixels more.
      *
-     * No width is refused. A width that no picture can have gives an empty chart.
+     * All values are accepted. With a width that no picture can have, the chart is empty.
      */
     void setImageWidth(int width);
-    /*! \brief As setImageWidth(), for the height. */
+    /*!
+     * \brief Sets the height of the picture in pixels and renders the bare diagram. The inner view gets a fixed height
+     * of 2 pixels more.
+     *
+     * All values are accepted. With a height that no picture can have, the chart is empty.
+     */
     void setImageHeight(int height);
-    /*! \brief The width last set, in pixels; 512 at first. */
+    /*!
+     * \brief The width that was last set, in pixels; 512 by default. Until a width is set, the scene renders 672
+     * pixels.
+     */
     int imageWidth() const;
-    /*! \brief The height last set, in pixels; 512 at first. */
+    /*!
+     * \brief The height that was last set, in pixels; 512 by default. Until a height is set, the scene renders 728
+     * pixels.
+     */
     int imageHeight() const;
-    /*! \brief Switches axes and grid, in a legacy chart the Planckian locus too, and renders the bare diagram. */
+    /*!
+     * \brief Sets whether axes and grid are drawn, in a legacy x, y chart also the Planckian locus, and renders the
+     * bare diagram.
+     */
     void setIsDrawCoordinate(bool draw);
     /*!
-     * \brief Stores the switch and renders the bare diagram. No picture depends on it.
+     * \brief Stores the switch and renders the bare diagram. No picture depends on the switch.
      *
-     * The current chart's picture of gamuts always has the Planckian locus, its bare diagram never. In a legacy chart
-     * the locus is drawn together with the axes.
+     * The current chart draws the Planckian locus in every picture of gamuts, and never in the bare diagram. A legacy
+     * x, y chart draws it together with the axes.
      */
     void setIsDrawBBRLine(bool draw);
     /*!
-     * \brief Stores the switch and renders the bare diagram.
+     * \brief Sets whether a legacy x, y chart draws the wavelengths, and renders the bare diagram.
      *
-     * A legacy x, y chart draws the wavelengths when it is on. The current chart's picture of gamuts always has them,
-     * its bare diagram never, nor has a legacy u′, v′ chart.
+     * Other charts do not depend on the switch: the current chart draws the wavelengths in every picture of gamuts and
+     * never in the bare diagram, and a legacy u′, v′ chart never draws them.
      */
     void setIsDrawWaveLength(bool draw);
-    /*! \brief The switch of setIsDrawCoordinate(); on at first. */
+    /*! \brief The switch of setIsDrawCoordinate(); true by default. */
     bool isDrawCoordinate() const;
-    /*! \brief The switch of setIsDrawBBRLine(); on at first. */
+    /*! \brief The switch of setIsDrawBBRLine(); true by default. */
     bool isDrawBBRLine() const;
-    /*! \brief The switch of setIsDrawWaveLength(); on at first. */
+    /*! \brief The switch of setIsDrawWaveLength(); true by default. */
     bool isDrawWaveLength() const;
 
     /*!
-     * \brief Whether drawing the handles resets the target's white point to (0, 0) and its luminance to 0. On at first.
+     * \brief Sets whether drawing the handles resets the target's white point to (0, 0) and its luminance to 0. True by
+     * default.
+     *
+     * A host that lets the user edit the white point must set it to false.
      */
     void setDrawColorTPoint(bool draw);
-    /*! \brief The scene's switch of setDrawColorTPoint(); false once the scene has been deleted. */
+    /*! \brief The switch of setDrawColorTPoint(); false if the scene has been deleted. */
     bool isDrawColorTPoint() const;
     /*!
-     * \brief Whether moving a primary leaves the target's white where it is and rebalances the luminances. Off at
-     *        first.
+     * \brief Sets whether moving a primary keeps the target's white point and changes the luminances instead. False by
+     * default.
      *
-     * The white is held where it is, so use it together with setDrawColorTPoint(false).
+     * setDrawColorTPoint() must be false: otherwise drawing the handles resets the white point.
      */
     void setColorTempertureChecked(bool checked);
-    /*! \brief Whether the target's primaries can be moved; they can at first. */
+    /*!
+     * \brief Sets whether the primaries of the target can be moved; true by default.
+     *
+     * True allows moves of the primaries and of the white point. False allows moves of the white point only.
+     */
     void setRGBPointEnable(bool enable);
-    /*! \brief Whether a mouse press may start an edit; it may at first. In the current chart no press does. */
+    /*! \brief Sets whether a mouse press can start an edit; true by default. In the current chart no press does. */
     void setUseMouseOpertator(bool enable);
 
 protected:

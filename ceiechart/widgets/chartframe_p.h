@@ -16,24 +16,23 @@ class QBoxLayout;
 namespace ceiechart {
 
 /*!
- * \brief The parts of a chart, and the lists and switches that it keeps beside its scene.
+ * \brief The parts of a chart, and the lists and switches that it keeps in addition to those of the scene.
  *
- * The scene is deleted before the frame deletes its children: the inner view is then left without a scene, never with a
- * dead one.
+ * The scene is deleted before the children of the frame. The inner view then has no scene.
  */
 class Q_DECL_HIDDEN ChartFrame::Private {
 public:
     Private() = default;
     virtual ~Private();
 
-    // Building, in this order; the frame's subclass makes the parts
+    // Called in this order by the subclass of the frame, which creates the parts
     void setView(QGraphicsView *innerView);
     void setScene(TargetScene *innerScene);
     void setLegend(ChartLegend *chartLegend);
-    //! Puts inner view and legend into a new layout of \a frame, in place of the one it may have.
+    /*! \brief Puts the inner view and the legend into a new layout of \a frame, which replaces the previous layout. */
     QBoxLayout *arrange(QFrame *frame, Qt::Alignment alignment);
 
-    //! Calls \a operation of the scene, unless a host has deleted it.
+    /*! \brief Calls \a operation of the scene, unless a host has deleted the scene. */
     template <typename... Parameters, typename... Arguments>
     void tell(void (TargetScene::*operation)(Parameters...), Arguments &&...arguments)
     {
@@ -54,7 +53,7 @@ public:
     QList<QPointF> colorTemperaturePoints;
 };
 
-/*! Relays the signals of \a scene to those of \a view that have the same names. */
+/*! \brief Connects the signals of \a scene to the signals of \a view with the same names. */
 template <class Scene, class View>
 void relaySignals(const Scene *scene, View *view)
 {
@@ -65,7 +64,7 @@ void relaySignals(const Scene *scene, View *view)
     QObject::connect(scene, &Scene::signal_colorGamutWhiteChanged, view, &View::signal_colorGamutWhiteChanged);
 }
 
-/*! Copies chromaticities and luminances of a gamut record with the members red, green, blue and white. */
+/*! \brief Copies the chromaticities and luminances of a record with the members red, green, blue and white. */
 template <class Record>
 void copyGamut(const Record &gamut, TrianglePoint &triangle)
 {

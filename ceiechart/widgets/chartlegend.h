@@ -13,28 +13,33 @@ namespace ceiechart {
 class LegendEntries;
 
 /*!
- * \brief The legend of a chart, apart from the numbering of its entries and the translations of its captions.
+ * \brief The legend of a chart, without the values of its entries and the translations of its captions.
  *
- * The base of both `CEIELegend` classes. Hosts use those classes; there is nothing to derive from this one for.
+ * The base class of both `CEIELegend` classes. Hosts use those classes and need not derive from this one. The labels
+ * are children of the legend. Use a legend on the GUI thread only.
  */
 class CEIECHART_EXPORT ChartLegend : public QFrame {
 public:
     ~ChartLegend() override;
 
     /*!
-     * \brief Lays the entries out in a column for exactly Qt::AlignLeft or exactly Qt::AlignRight, else in a row.
+     * \brief Arranges the entries in a column if \a alignment is exactly Qt::AlignLeft or exactly Qt::AlignRight,
+     * otherwise in a row.
      *
-     * May be called again. In a column captions are centred and wrap between words. Captions that were written
-     * downwards at construction are written across in a row, and downwards again in a column. A legend that is moved
-     * beside the chart after its construction keeps captions that read across, for scripts that do not run downwards.
-     * Hidden entries stay hidden.
+     * Can be called repeatedly. In a column, captions are centred and wrap between words. Captions that were written
+     * downwards by the constructor are written across in a row and downwards again in a column. If a legend becomes a
+     * column only after its construction, its captions remain written across, for scripts that are not written
+     * downwards. Hidden entries remain hidden.
      */
     void setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment);
-    /*! \brief Replaces the caption of the original gamut by \a text, as given: it is not written downwards. */
+    /*! \brief Replaces the caption of the original gamut by \a text, which is never written downwards. */
     void setShowOriginalText(const QString &text);
-    /*! \brief Replaces the caption of the target gamut by \a text, as given. */
+    /*! \brief Replaces the caption of the target gamut by \a text, which is never written downwards. */
     void setShowTargetText(const QString &text);
-    /*! \brief Replaces the point captions, as given. Ignored on a legend without point entries. */
+    /*!
+     * \brief Replaces the captions of the three point entries; they are never written downwards. Ignored by a legend
+     * without them.
+     */
     void setshowPointText(const QString &target, const QString &original, const QString &managed);
 
 protected:

@@ -6,7 +6,7 @@ class QGraphicsView;
 
 namespace ceiechart {
 
-/*! Frameless and smooth, as the inner view of either generation starts. */
+/*! \brief Sets up an inner view of either generation: no frame, antialiasing and smooth scaling. */
 void initInnerView(QGraphicsView &view);
 
 } // namespace ceiechart

@@ -56,7 +56,7 @@ void LegendEntries::arrange(Qt::Alignment alignment)
     const bool wasBesideChart = m_besideChart;
     m_besideChart = standsBesideChart(alignment);
 
-    // A widget refuses a second layout.
+    // A widget does not accept a second layout.
     delete m_legend->layout();
     QBoxLayout *layout = nullptr;
     if (m_besideChart) {
@@ -64,7 +64,7 @@ void LegendEntries::arrange(Qt::Alignment alignment)
     } else {
         layout = new QHBoxLayout;
     }
-    // Set before entries are added: only then does a shown legend learn that it has something to lay out.
+    // A visible legend is laid out only if its layout is set before entries are added.
     m_legend->setLayout(layout);
     layout->setContentsMargins(8, 8, 0, 8);
     layout->setSpacing(8);

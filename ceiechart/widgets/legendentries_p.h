@@ -15,9 +15,9 @@ namespace ceiechart {
 enum class LegendEntry { CommonGamut, TargetGamut, OriginalGamut, TargetPoint, OriginalPoint, ManagedPoint };
 
 /*!
- * \brief The entries of a legend: a swatch and a caption each, labels that are children of the legend's frame.
+ * \brief The entries of a legend: a swatch and a caption each. Both are labels and children of the legend.
  *
- * An entry that was not made is skipped by every operation.
+ * All functions ignore entries that have not been created.
  */
 class LegendEntries {
 public:
@@ -25,17 +25,17 @@ public:
 
     bool withPoints() const { return m_withPoints; }
 
-    /*! Makes the three gamut entries. Beside the chart, captions are written downwards. */
+    /*! \brief Creates the three gamut entries. Beside the chart, captions are written downwards. */
     void addGamuts(const QString &common, const QString &target, const QString &original, Qt::Alignment alignment);
-    /*! Makes the three point entries, likewise. */
+    /*! \brief Creates the three point entries. Beside the chart, captions are written downwards. */
     void addPoints(const QString &target, const QString &original, const QString &managed, Qt::Alignment alignment);
 
-    /*! Lays the entries out anew, as a column beside the chart or as a row below it. */
+    /*! \brief Arranges the entries in a new layout: a column beside the chart or a row below it. */
     void arrange(Qt::Alignment alignment);
 
-    /*! Ignores a value that is no LegendEntry. */
+    /*! \brief Shows or hides an entry. A value that is not a LegendEntry is ignored. */
     void setVisible(LegendEntry entry, bool visible);
-    /*! Replaces a caption for good: from now on it is shown as given. */
+    /*! \brief Replaces a caption. It is never written downwards from then on. */
     void setCaption(LegendEntry entry, const QString &text);
     void setPointCaptions(const QString &target, const QString &original, const QString &managed);
 
@@ -43,7 +43,7 @@ private:
     struct Labels {
         QLabel *swatch = nullptr;
         QLabel *caption = nullptr;
-        QString verticalCaption; //!< the caption as made, before it was written downwards; null for any other
+        QString verticalCaption; //!< the original text of a caption that is written downwards; null for all others
     };
 
     void add(LegendEntry entry, const QString &caption, Qt::Alignment alignment);

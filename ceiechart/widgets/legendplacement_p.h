@@ -6,7 +6,9 @@
 
 namespace ceiechart {
 
-/*! True for exactly Qt::AlignLeft and exactly Qt::AlignRight: a combination puts the legend below the chart. */
+/*!
+ * \brief Whether a legend with \a alignment is beside the chart: for exactly Qt::AlignLeft or exactly Qt::AlignRight.
+ */
 inline bool standsBesideChart(Qt::Alignment alignment)
 {
     return alignment == Qt::AlignLeft || alignment == Qt::AlignRight;

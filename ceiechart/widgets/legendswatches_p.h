@@ -8,7 +8,9 @@
 
 namespace ceiechart {
 
-/*! The swatch of a legend entry: 16 × 16 pixels, the target point's 17 × 17. Points stand on transparent ground. */
+/*!
+ * \brief The swatch of an entry: 16 × 16 pixels, for the target point 17 × 17. Points have a transparent background.
+ */
 QPixmap legendSwatch(LegendEntry entry);
 
 } // namespace ceiechart

@@ -10,10 +10,11 @@
 namespace NewCEIE {
 
 /*!
- * \brief The inner view of a chart: shows the scene, one scene unit to a pixel, without frame or scroll bars.
+ * \brief The inner view of a chart: shows the scene without a frame, at one pixel for each unit of the scene.
  *
- * CEIEGraphicsView makes one and hands it out with CEIEGraphicsView::view(). A host may show the scene of a chart
- * in a second one; the scene stays the chart's.
+ * The scene rectangle follows the size of the view, so that there are no scroll bars. CEIEGraphicsView creates and owns
+ * a view and returns it by CEIEGraphicsView::view(). A host can show the scene in another view as well; the chart
+ * remains the owner of the scene.
  *
  * \code
  * auto *second = new NewCEIE::NQCEIEGraphicsView(parent);
@@ -25,22 +26,22 @@ class CEIECHART_EXPORT NQCEIEGraphicsView : public QGraphicsView {
 
 public:
     /*!
-     * \brief An antialiasing view without frame or scene.
-     * \param parent owns the view when not null.
+     * \brief Creates a view without a frame and without a scene. It draws with antialiasing.
+     * \param parent owns the view if it is not null
      */
     explicit NQCEIEGraphicsView(QWidget *parent);
     ~NQCEIEGraphicsView() override;
 
 public Q_SLOTS:
-    /*! \brief Shows \a mouseCursorStyle while the pointer is over the view, until it leaves. */
+    /*! \brief Sets the cursor over the view to \a mouseCursorStyle until the pointer leaves the view. */
     void slot_mouseCursorChange(QCursor mouseCursorStyle);
 
 protected:
-    /*! \brief Makes the view's scene rectangle its own: (0, 0, width(), height()). */
+    /*! \brief Sets the scene rectangle of the view to (0, 0, width(), height()). */
     void showEvent(QShowEvent *event) override;
-    /*! \brief As showEvent(); this alone lays the view out, the base class is not asked. */
+    /*! \brief Sets the scene rectangle like showEvent(). The base class is not called. */
     void resizeEvent(QResizeEvent *event) override;
-    /*! \brief Gives up the cursor that slot_mouseCursorChange() has set. */
+    /*! \brief Resets the cursor that slot_mouseCursorChange() has set. */
     void leaveEvent(QEvent *event) override;
 
 private:

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-// Outside of any namespace, as Qt wants it; a static library needs the call.
+/*! \brief Initialises the resource, as a static library must. Q_INIT_RESOURCE works outside of namespaces only. */
 static void initTranslationResource()
 {
     Q_INIT_RESOURCE(ceiechart_translations);
@@ -17,7 +17,7 @@ namespace ceiechart {
 
 namespace {
 
-//! The language of \a locale, or the language that the user prefers to it.
+/*! \brief The language of the translations for \a locale. */
 QString languageOf(const QLocale &locale)
 {
     const QStringList languages = locale.uiLanguages();

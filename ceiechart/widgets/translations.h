@@ -6,25 +6,24 @@
 
 #include <QLocale>
 
-/*! \brief What both generations share, and what the library offers besides the charts. */
+/*! \brief The classes that both generations of the chart share, and functions of the library besides the charts. */
 namespace ceiechart {
 
 /*!
- * \brief Gives the library's captions the language of \a locale.
+ * \brief Installs the translations of the library for the language of \a locale.
  *
- * A locale whose first user-interface language is Chinese gets Chinese captions, any other locale English ones. A
- * legend makes its captions at construction: call this function before the first chart is constructed.
+ * If the first user-interface language of \a locale is Chinese, captions are Chinese, otherwise English. Legends
+ * translate their captions in the constructor: call this function before the first chart is constructed.
  *
  * \code
  * QApplication app(argc, argv);
  * ceiechart::installTranslations();
  * \endcode
  *
- * The translations are built into the library. A later call replaces the translator that an earlier call installed; the
- * application owns the translator. Installed beside the library, in share/ceiechart/translations, the same files
- * serve hosts that load translations themselves.
+ * The translations are built into the library. The application owns the translator; another call replaces it. For hosts
+ * that load translations themselves, the same files are installed in share/ceiechart/translations.
  *
- * \return whether a translation has been installed; false without an application object.
+ * \return whether a translation has been installed; false if there is no application object
  */
 CEIECHART_EXPORT bool installTranslations(const QLocale &locale = QLocale());
 

@@ -6,8 +6,11 @@
 
 namespace {
 
-// Bounds that keep u and v small and their denominator -2x + 12y + 3 above 1. The comparisons come after the tests
-// for finite numbers, so that nothing here raises a floating-point exception.
+/*!
+ * \brief Whether x and y are in the range in which u and v are small and their denominator -2x + 12y + 3 is above 1.
+ *
+ * The range is compared only after the tests for finite numbers, so that no floating-point exception is raised.
+ */
 bool isUsable(double x, double y)
 {
     return std::isfinite(x) && std::isfinite(y) && x >= -1.0 && x <= 1.0 && y > 0.0 && y <= 1.0;

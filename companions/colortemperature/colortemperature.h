@@ -7,11 +7,11 @@
 /*!
  * \file
  * \brief Colour temperature of a chromaticity, white point of three primaries, and luminances of three primaries for a
- *        white point.
+ * white point.
  *
- * Plain C functions without state: any thread may call any of them at any time. Chromaticities are CIE 1931 x, y (2°
- * observer). Luminances may have any unit, the same for all of a call. No function reports an error: what bad input
- * gives is said with each. A null pointer discards that result.
+ * Plain C functions without state; they can be called from any thread. Chromaticities are CIE 1931 x, y (2° observer,
+ * unitless). Luminances can have any unit, but all luminances of a call must have the same. No function reports an
+ * error. Each function documents its result for invalid input. A null pointer discards that result.
  *
  * \code
  * double kelvin;
@@ -31,25 +31,26 @@ extern "C" {
  *
  * The correlated colour temperature of a chromaticity is the temperature of the nearest point of the Planckian locus in
  * the CIE 1960 UCS diagram, u = 4x / (-2x + 12y + 3), v = 6y / (-2x + 12y + 3) (CIE 15:2018, 9.5). The locus is that of
- * Planck's radiator with the second radiation constant c2 = 1.438776877e-2 m·K (CODATA 2018), summed with the CIE 1931
- * colour-matching functions (ISO/CIE 11664-1) from 360 nm to 830 nm at 1 nm.
+ * Planck's radiator, with the second radiation constant c2 = 1.438776877e-2 m·K (CODATA 2018) and with a refractive
+ * index of 1, the CIE convention. It is summed with the CIE 1931 colour-matching functions (ISO/CIE 11664-1) from 360
+ * nm to 830 nm at 1 nm.
  *
- * Most published temperatures rest on the older c2 = 1.4388e-2 m·K. They are 16 ppm higher: multiply by
- * 1.4388 / 1.438776877 to compare.
+ * Most other programs use c2 = 1.4388e-2 m·K, the value of IPTS-68. Their temperatures are 16 ppm higher: to compare,
+ * multiply the result of this function by 1.4388 / 1.438776877.
  *
- * Within |Duv| <= 0.05 the temperature is at most 0.0001 K from the exact one up to 50 000 K, and at most 0.001 K up to
- * 100 000 K; Duv is at most 1e-12 from the exact one. Farther away it is still the nearest point whose temperature is
- * given, although the CIE calls no temperature correlated there. About 0.1 below the locus are the centres of its
- * curvature: towards them the temperature becomes ever more sensitive, and beyond them two points of the locus may be
- * equally near. Then either may be returned.
+ * Within |Duv| <= 0.05 the error of the temperature is at most 0.0001 K up to 50 000 K and at most 0.001 K up to 100
+ * 000 K, and the error of Duv is at most 1e-12. Farther away the function still returns the temperature of the nearest
+ * point, although the CIE does not define a correlated colour temperature there. The centres of curvature of the locus
+ * are about 0.1 below it. The nearer a chromaticity is to them, the more the temperature depends on it. Beyond them,
+ * two points of the locus can be equally near; the function then returns either.
  *
- * The locus runs from 1000 K to 100 000 K. A chromaticity whose nearest point is an end gets exactly that temperature,
- * and its distance from that end as Duv, with the sign of the side of the tangent there.
+ * The locus extends from 1000 K to 100 000 K. If the nearest point is an end of the locus, the temperature is exactly
+ * that of the end. Duv is then the distance from the end, with the sign of the side of the tangent there.
  *
- * \param x            CIE 1931 x, from -1 to 1.
- * \param y            CIE 1931 y, above 0 and up to 1. Both ranges take in all of the diagram and more.
- * \param temperature  Receives the temperature in kelvin, from 1000 to 100000, or 0 if x or y is out of its range,
- *                     infinite or not a number. Either way it fits an int.
+ * \param x CIE 1931 x, from -1 to 1.
+ * \param y CIE 1931 y, above 0 and up to 1. Both ranges contain the whole diagram and more.
+ * \param temperature Receives the temperature in kelvin, from 1000 to 100000, or 0 if x or y is out of its range,
+ * infinite or not a number. In both cases the value fits an int.
  * \return Duv, the distance from the locus in u, v: positive above the locus (towards green), negative below it
  * (towards magenta), 0 if x or y is out of its range, infinite or not a number.
  */
@@ -58,17 +59,17 @@ COLORTEMPERATURE_EXPORT double GetColorTemperatureFromXY(double x, double y, dou
 /*!
  * \brief White point of three primaries: their additive mixture.
  *
- * Each primary contributes X = x·Y / y, Y and Z = (1 - x - y)·Y / y, and the white has the chromaticity of the sums,
- * x = X / (X + Y + Z), y = Y / (X + Y + Z). A primary of luminance 0 contributes nothing, even one with y = 0.
+ * Each primary contributes X = x·Y / y, Y and Z = (1 - x - y)·Y / y. The chromaticity of the white is that of the sums,
+ * x = X / (X + Y + Z), y = Y / (X + Y + Z). A primary of luminance 0 contributes nothing, even if its y is 0.
  *
- * All three results are always finite: if an argument is infinite or not a number, or if a sum overflows, all three
- * receive 0.
+ * All three results are always finite: if an argument is infinite or not a number, or if a sum overflows, all three are
+ * 0.
  *
- * \param redLuminance, greenLuminance, blueLuminance  Luminances Y of the primaries.
- * \param redX, redY, greenX, greenY, blueX, blueY     Chromaticities of the primaries.
- * \param whiteLuminance  Receives the sum of the luminances.
- * \param whiteX, whiteY  Receive the chromaticity of the white. Both receive 0 if it has none: no light at all, light
- *                        from a primary with y = 0, or contributions X + Y + Z that cancel out.
+ * \param redLuminance, greenLuminance, blueLuminance Luminances Y of the primaries.
+ * \param redX, redY, greenX, greenY, blueX, blueY Chromaticities of the primaries.
+ * \param whiteLuminance Receives the sum of the luminances.
+ * \param whiteX, whiteY Receive the chromaticity of the white. Both are 0 if it has none: if there is no light, if a
+ * primary with y = 0 has light, or if the contributions X + Y + Z cancel out.
  */
 COLORTEMPERATURE_EXPORT void RGBCxCyToWhiteCxCy(double redLuminance, double redX, double redY, double greenLuminance,
     double greenX, double greenY, double blueLuminance, double blueX, double blueY, double *whiteLuminance,
@@ -77,17 +78,15 @@ COLORTEMPERATURE_EXPORT void RGBCxCyToWhiteCxCy(double redLuminance, double redX
 /*!
  * \brief Luminances of three primaries for a white point: the inverse of RGBCxCyToWhiteCxCy().
  *
- * Where there are no such luminances, or none that are unique and finite, all three receive positive infinity, which
- * exceeds any limit: for a triangle whose height is at most 1e-12 of its longest side, a primary with y = 0, a white
- * with y = 0 that is not dark, an argument that is infinite or not a number, an overflow.
+ * If there are no such luminances, or if they are not unique or not finite, all three are positive infinity, which
+ * exceeds any limit. This is the case for a triangle whose height is at most 1e-12 of its longest side, a primary with
+ * y = 0, a white with y = 0 and a luminance other than 0, an argument that is infinite or not a number, and an
+ * overflow.
  *
- * \param redLuminance, greenLuminance, blueLuminance Receive the luminances Y whose additive mixture is the white.
- * Some are negative if the white lies outside the triangle of the primaries.
- *
+ * \param redLuminance, greenLuminance, blueLuminance Receive the luminances Y whose additive mixture is the white. Some
+ * are negative if the white lies outside the triangle of the primaries.
  * \param redX, redY, greenX, greenY, blueX, blueY Chromaticities of the primaries.
- *
- * \param whiteLuminance Luminance Y of the white. Of a dark one, with luminance 0, the primaries have luminance 0.
- *
+ * \param whiteLuminance Luminance Y of the white. If it is 0, the luminances of the primaries are 0.
  * \param whiteX, whiteY Chromaticity of the white.
  */
 COLORTEMPERATURE_EXPORT void RGBCxCyFromWhiteCxCy(double *redLuminance, double redX, double redY,

@@ -24,7 +24,7 @@ struct LocusNode {
 
 /*! \brief Reciprocal temperature of the first node, in mired (1e6 / K). */
 constexpr double locusFirstMired = 10;
-/*! \brief Distance of the nodes, in mired. */
+/*! \brief Distance between neighbouring nodes, in mired. */
 constexpr double locusMiredStep = 5;
 /*! \brief Number of nodes. */
 constexpr int locusNodeCount = 199;

@@ -11,8 +11,12 @@ namespace {
 
 constexpr int lastNode = locusNodeCount - 1;
 
-// A coordinate between two nodes: the polynomial of degree five in s = 0..1 that has the value and the first two
-// derivatives of both nodes. The pieces join with continuous curvature, so Newton's method meets no kinks.
+/*!
+ * \brief A coordinate between two nodes: the polynomial of degree five in s = 0..1 that has the value and the first two
+ * derivatives of both nodes.
+ *
+ * The curvature is continuous at the nodes, so that Newton's method converges across them.
+ */
 class HermitePiece {
 public:
     HermitePiece(const LocusCoordinate &from, const LocusCoordinate &to)
@@ -39,8 +43,13 @@ private:
     double m_c0, m_c1, m_c2, m_c3, m_c4, m_c5;
 };
 
-// How far the chromaticity lies ahead, in the direction of falling temperature, of the normal through a point of the
-// locus. The distance has a minimum where this changes from positive to negative, and at an end that it points out of.
+/*!
+ * \brief The distance by which a chromaticity is ahead of the normal through a point of the locus, in the direction of
+ * falling temperature, multiplied by the length of the tangent vector.
+ *
+ * The distance from the locus has a minimum where this lead changes from positive to negative, and at an end of the
+ * locus if the chromaticity is beyond it.
+ */
 double lead(double u, double v, const LocusNode &point)
 {
     return (u - point.u.value) * point.u.first + (v - point.v.value) * point.v.first;
@@ -53,16 +62,16 @@ double squaredDistance(double u, double v, const LocusNode &point)
     return du * du + dv * dv;
 }
 
-// The side of the locus is that of its tangent, which also decides beyond the ends.
+/*! \brief The distance with the sign of the side of the tangent, which is also defined beyond the ends of the locus. */
 double signedDistance(double u, double v, const LocusNode &point)
 {
     const double side = point.u.first * (v - point.v.value) - point.v.first * (u - point.u.value);
     return std::copysign(std::sqrt(squaredDistance(u, v, point)), side);
 }
 
-// A local minimum of the distance.
+/*! \brief A local minimum of the distance. */
 struct Minimum {
-    double nodes; // position on the locus, in nodes from its hot end
+    double nodes; //!< position on the locus, in nodes from its hot end
     LocusNode point;
 };
 
@@ -71,12 +80,15 @@ Minimum endNode(int node)
     return {static_cast<double>(node), locusNodes[node]};
 }
 
-// The minimum between neighbouring nodes, the first with a positive lead and the second without: Newton's method for
-// the zero of the lead, kept inside the bracket.
+/*!
+ * \brief The minimum between two neighbouring nodes, of which only the first has a positive lead.
+ *
+ * It is the zero of the lead, computed by Newton's method within the interval.
+ */
 Minimum minimumAfterNode(double u, double v, int node)
 {
-    constexpr double tolerance = 1e-8; // as the convergence is quadratic, what remains after such a step is rounding
-    constexpr int mostSteps = 60; // three suffice, except next to a centre of curvature
+    constexpr double tolerance = 1e-8; // convergence is quadratic: after such a step only the rounding error remains
+    constexpr int mostSteps = 60; // three are enough, except near a centre of curvature
 
     const LocusNode &from = locusNodes[node];
     const LocusNode &to = locusNodes[node + 1];
@@ -110,7 +122,7 @@ Minimum minimumAfterNode(double u, double v, int node)
     return {node + s, {pieceU.at(s), pieceV.at(s)}};
 }
 
-// One of the minima, found by bisection: that at the hot end, if there is one.
+/*! \brief One of the minima, found by bisection. If there is a minimum at the hot end, it is that one. */
 Minimum anyMinimum(double u, double v)
 {
     int low = 0;
@@ -132,7 +144,7 @@ Minimum anyMinimum(double u, double v)
     return minimumAfterNode(u, v, low);
 }
 
-// The least of all minima, given what anyMinimum() found.
+/*! \brief The smallest of all minima; \a any is the result of anyMinimum(). */
 Minimum leastMinimum(double u, double v, Minimum least)
 {
     const auto consider = [&](const Minimum &minimum) {

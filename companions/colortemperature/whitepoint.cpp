@@ -24,7 +24,7 @@ void store(double *destination, double value)
     }
 }
 
-// a * b - c * d without the cancellation of rounded products (Kahan): what matters in thin triangles.
+/*! \brief a * b - c * d without cancellation of the rounded products (Kahan). It is needed for thin triangles. */
 double differenceOfProducts(double a, double b, double c, double d)
 {
     const double cd = c * d;
@@ -32,7 +32,7 @@ double differenceOfProducts(double a, double b, double c, double d)
     return std::fma(a, b, -cd) + error;
 }
 
-// Twice the signed area of a triangle.
+/*! \brief Twice the signed area of a triangle. */
 double doubleArea(const Chromaticity &a, const Chromaticity &b, const Chromaticity &c)
 {
     return differenceOfProducts(b.x - a.x, c.y - a.y, c.x - a.x, b.y - a.y);
@@ -43,10 +43,12 @@ double squaredSide(const Chromaticity &a, const Chromaticity &b)
     return (b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y);
 }
 
-// Too flat for three luminances that mean anything: decimal chromaticities on a line are this flat after rounding.
+/*!
+ * \brief Whether a triangle is too flat for meaningful luminances. Points on a line are as flat as this after rounding.
+ */
 bool isDegenerate(const Chromaticity &a, const Chromaticity &b, const Chromaticity &c)
 {
-    constexpr double leastHeight = 1e-12; // of the longest side
+    constexpr double leastHeight = 1e-12; // relative to the longest side
     const double longest = std::max({squaredSide(a, b), squaredSide(b, c), squaredSide(c, a)});
     return !(std::fabs(doubleArea(a, b, c)) > leastHeight * longest);
 }
@@ -109,8 +111,8 @@ void RGBCxCyFromWhiteCxCy(double *redLuminance, double redX, double redY, double
         if (whiteLuminance == 0.0) {
             std::fill_n(luminances, 3, 0.0);
         } else if (whiteY != 0.0) {
-            // In terms of S = X + Y + Z = Y / y the mixture is linear: the white divides the triangle into three whose
-            // areas are to the whole as the sums S of the primaries are to that of the white.
+            // The mixture is linear in S = X + Y + Z = Y / y. The white divides the triangle into three; the ratio of
+            // their areas to the whole area is the ratio of the S of the primaries to that of the white.
             const double perArea = whiteLuminance / whiteY / doubleArea(red, green, blue);
             luminances[0] = doubleArea(white, green, blue) * perArea * redY;
             luminances[1] = doubleArea(red, white, blue) * perArea * greenY;

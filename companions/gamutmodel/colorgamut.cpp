@@ -14,10 +14,13 @@ struct Chromaticity {
     double y;
 };
 
-// D65 as all three standards give it.
+/*! \brief The chromaticity of D65 in all three standards. */
 constexpr Chromaticity d65{0.3127, 0.3290};
 
-// 0 where there is no finite quotient; a host may have division by zero trapped.
+/*!
+ * \brief The quotient, or 0 if it would not be finite. It does not divide by zero, because a host may have that
+ * trapped.
+ */
 double quotient(double numerator, double denominator)
 {
     if (denominator == 0.0) {
@@ -27,11 +30,12 @@ double quotient(double numerator, double denominator)
     return std::isfinite(result) ? result : 0.0;
 }
 
-// The gamut whose primaries mix to a white of luminance 1.
+/*! \brief The gamut of the given primaries, whose luminances mix to a white of luminance 1. */
 ColorGamut gamut(const char *name, Chromaticity red, Chromaticity green, Chromaticity blue, Chromaticity white)
 {
-    // With S = X + Y + Z of each colour the mixture reads: the sums of x S, y S and S are those of the white. A
-    // primary's share of the white's S is then the area of the triangle in which the white takes its place.
+    // With S = X + Y + Z of each colour, the mixture requires that the sums of x S, y S and S over the primaries equal
+    // those of the white. The share of a primary in the S of the white is therefore the area of the triangle in which
+    // the white replaces that primary, divided by the area of the whole triangle.
     const auto area = [](Chromaticity a, Chromaticity b, Chromaticity c) {
         return (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
     };
@@ -54,7 +58,7 @@ Target Target::fromYxy(double Y, double x, double y)
     target.y = y;
     target.X = quotient(x * Y, y);
     target.Z = quotient((1.0 - x - y) * Y, y);
-    // The quotients of uvFromXy(), but 0 where they would not be finite.
+    // The same quotients as in uvFromXy(), but 0 if they would not be finite.
     const double denominator = uniformDenominator(x, y);
     target.u = quotient(4.0 * x, denominator);
     target.v = quotient(9.0 * y, denominator);

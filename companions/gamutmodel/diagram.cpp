@@ -10,7 +10,7 @@ namespace {
 
 constexpr double cie1976Factor = 9.0;
 
-// A further diagram of this family is one more row.
+/*! \brief The diagrams. Another uniform diagram is another row. */
 constexpr DiagramTraits allTraits[] = {
     {Diagram::Cie1931, "CIE 1931 x, y", "x", "y", 0.0},
     {Diagram::Cie1976, "CIE 1976 u\xE2\x80\xB2, v\xE2\x80\xB2", "u\xE2\x80\xB2", "v\xE2\x80\xB2", cie1976Factor},

@@ -8,8 +8,12 @@
  * \file
  * \brief The chromaticity diagrams and the conversions between their coordinates.
  *
- * Every uniform diagram here is a projective transformation of CIE 1931 x, y with one common denominator,
- * d = -2x + 12y + 3: the first coordinate is 4x / d, the second a multiple of y / d.
+ * All uniform diagrams here are projective transformations of CIE 1931 x, y with the same denominator d = -2x + 12y +
+ * 3: the first coordinate is 4x / d, the second a multiple of y / d.
+ *
+ * \code
+ * const Model::DiagramPoint d65 = Model::toDiagram(Model::Diagram::Cie1976, {0.3127, 0.3290}); // 0.1978, 0.4683
+ * \endcode
  */
 namespace Model {
 
@@ -26,19 +30,19 @@ struct DiagramPoint {
     double y = 0.0; //!< the second coordinate: y, v' or v
 };
 
-/*! \brief What tells one diagram from another. */
+/*! \brief The properties of a diagram. */
 struct DiagramTraits {
-    Diagram diagram; //!< which diagram it is
-    const char *name; //!< "CIE 1931 x, y", UTF-8, not translated
-    const char *xName; //!< of the first coordinate: "x", "u′" or "u", UTF-8
-    const char *yName; //!< of the second coordinate: "y", "v′" or "v", UTF-8
-    double yFactor; //!< k in k y / d, or 0 for the diagram of x, y itself
+    Diagram diagram; //!< the diagram
+    const char *name; //!< name, for example "CIE 1931 x, y"; UTF-8, not translated
+    const char *xName; //!< name of the first coordinate: "x", "u′" or "u"; UTF-8
+    const char *yName; //!< name of the second coordinate: "y", "v′" or "v"; UTF-8
+    double yFactor; //!< k in the second coordinate k y / d; 0 for the x, y diagram
 };
 
-/*! \brief The traits of \a diagram; those of CIE 1931 for a value that is no diagram. */
+/*! \brief The properties of \a diagram; those of Diagram::Cie1931 if \a diagram is not a Diagram. */
 GAMUTMODEL_EXPORT const DiagramTraits &diagramTraits(Diagram diagram);
 
-/*! \brief The denominator d that the uniform diagrams share. */
+/*! \brief The common denominator d of the uniform diagrams. */
 template <typename Real>
 constexpr Real uniformDenominator(Real x, Real y)
 {
@@ -46,9 +50,10 @@ constexpr Real uniformDenominator(Real x, Real y)
 }
 
 /*!
- * \brief CIE 1976 u', v' of the CIE 1931 chromaticity (\a x, \a y), in the precision of \a Real.
+ * \brief Converts the CIE 1931 chromaticity (\a x, \a y) to CIE 1976 u', v' (ISO 11664-5:2009), in the precision of \a
+ * Real.
  *
- * A denominator of 0 gives infinities or NaN.
+ * If the denominator is 0 the results are infinite or NaN.
  */
 template <typename Real>
 constexpr void uvFromXy(Real x, Real y, Real &u, Real &v)
@@ -58,14 +63,14 @@ constexpr void uvFromXy(Real x, Real y, Real &u, Real &v)
     v = 9 * y / d;
 }
 
-/*! \brief The point of \a diagram at the CIE 1931 chromaticity \a xy. Not finite where the diagram has none. */
+/*! \brief The point of \a diagram for the CIE 1931 chromaticity \a xy. Infinite or NaN if the denominator is 0. */
 GAMUTMODEL_EXPORT DiagramPoint toDiagram(Diagram diagram, DiagramPoint xy);
 
 /*!
- * \brief The CIE 1931 chromaticity at \a point of \a diagram: the inverse of toDiagram().
+ * \brief The CIE 1931 chromaticity of \a point of \a diagram: the inverse of toDiagram().
  *
- * With v' = 9v / k of the diagram's second coordinate, x = 9u' / (6u' - 16v' + 12) and y = 4v' / (6u' - 16v' + 12).
- * Not finite where the diagram has none.
+ * x = 9u' / (6u' - 16v' + 12) and y = 4v' / (6u' - 16v' + 12), with v' = 9v / k for a diagram with the second
+ * coordinate v = k y / d. The results are infinite or NaN if the denominator is 0.
  */
 GAMUTMODEL_EXPORT DiagramPoint fromDiagram(Diagram diagram, DiagramPoint point);
 

@@ -9,7 +9,7 @@ namespace Model {
 
 namespace {
 
-// Of the charts' check, in square units of x, y.
+/*! \brief The tolerance of the charts' test, in square units of x, y. */
 constexpr double containmentTolerance = 0.0001;
 
 using Triangle = std::array<DiagramPoint, 3>;
@@ -20,7 +20,7 @@ Triangle corners(const Targets &gamut, Diagram diagram)
         toDiagram(diagram, {gamut.blue.x, gamut.blue.y})};
 }
 
-// Twice the signed area of the triangle a, b, c: positive when c lies left of the way from a to b.
+/*! \brief Twice the signed area of the triangle a, b, c: positive if c is left of the line from a to b. */
 double turn(const DiagramPoint &a, const DiagramPoint &b, const DiagramPoint &c)
 {
     return (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
@@ -53,7 +53,10 @@ Triangle counterClockwise(Triangle triangle)
     return triangle;
 }
 
-// What of the convex polygon lies left of the line from one point to another (Sutherland and Hodgman 1974).
+/*!
+ * \brief The part of a convex polygon that lies left of the line from one point to another (Sutherland and Hodgman
+ * 1974).
+ */
 std::vector<DiagramPoint> leftOf(
     const std::vector<DiagramPoint> &polygon, const DiagramPoint &from, const DiagramPoint &to)
 {
@@ -79,7 +82,7 @@ double quotient(double numerator, double denominator)
     return denominator > 0.0 ? finiteOrZero(numerator / denominator) : 0.0;
 }
 
-// Corners on a line have an area of 0 but for rounding.
+/*! \brief Whether the corners lie on a line: the area is then 0, apart from rounding. */
 bool isFlat(const Triangle &triangle)
 {
     constexpr double rounding = 1e-15;
@@ -125,7 +128,7 @@ std::vector<DiagramPoint> commonPolygon(const Targets &a, const Targets &b, Diag
 
 double commonArea(const Targets &a, const Targets &b, Diagram diagram)
 {
-    // Rounding must not make a part greater than the whole.
+    // Rounding must not make the common area larger than either gamut.
     return std::min({area(commonPolygon(a, b, diagram)), gamutArea(a, diagram), gamutArea(b, diagram)});
 }
 

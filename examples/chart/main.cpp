@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The smallest host: a chart with the gamuts of an LED display, and a line that says what the chart reports.
+// A minimal host: a chart with the gamuts of an LED display, and a line with the reports of the chart.
 #include <ceiechart/widgets/ceiegraphicsview.h>
 #include <ceiechart/widgets/translations.h>
 
@@ -21,11 +21,11 @@ int main(int argc, char **argv)
     layout->addWidget(chart);
     layout->addWidget(report);
 
-    // The size that the chart shows without scaling.
+    // The size at which the chart is not scaled.
     chart->setImageWidth(672);
     chart->setImageHeight(728);
 
-    // What the display can show, and what was measured of it when it had warmed up.
+    // The gamut of the display, and the gamut measured after it had warmed up.
     const Model::ColorGamut original("LED wall",
         {Target::fromYxy(240, 0.700, 0.299), Target::fromYxy(634, 0.189, 0.718), Target::fromYxy(126, 0.133, 0.075),
             Target::fromYxy(1000, 0.2829, 0.2971)});

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The smallest host of the legacy chart: drag the target's primaries and its white with the mouse.
+// A minimal host of the legacy chart: drag the target's primaries and its white with the mouse.
 #include <ceiechart/legacy/ceiegraphicsview.h>
 #include <ceiechart/widgets/translations.h>
 
@@ -18,7 +18,7 @@ int main(int argc, char **argv)
     auto *chart = new CEIEGraphicsView(&window, DrawCEIPicture::XyDiagram);
     window.setCentralWidget(chart);
 
-    // Or else painting the handles takes the white away.
+    // Otherwise drawing the handles resets the white point.
     chart->setDrawColorTPoint(false);
     chart->setImageWidth(640);
     chart->setImageHeight(640);

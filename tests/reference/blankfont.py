@@ -1,15 +1,14 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Writes a TrueType font whose glyphs all have the same width and show nothing: blankfont.py FILE
+"""Writes a TrueType font whose glyphs all have the same width and are empty: blankfont.py FILE
 
-With it as the only font, pictures are compared without their text, which every version of the toolkit draws in its
-own way.
+If it is the only font, pictures can be compared without their text, which each version of Qt draws differently.
 """
 import struct
 import sys
 
-FIRST, LAST = 0x20, 0x2FFF  # what has a glyph
-UNITS = 1024  # of an em
+FIRST, LAST = 0x20, 0x2FFF  # the characters that have a glyph
+UNITS = 1024  # units of an em
 ADVANCE = UNITS // 2
 
 

@@ -5,10 +5,10 @@
 #include <type_traits>
 
 /*!
- * \brief Defines Has_name<T>: whether T has a member of that name, overloaded or not, public or private, its own or
- *        inherited.
+ * \brief Defines Has_name<T>: whether T has a member of that name.
  *
- * Beside a member of a second base the name is ambiguous then, whatever it stands for.
+ * The member can be overloaded, public or private, declared in T or inherited. The test derives from T and from a class
+ * with a member of the same name: the name is ambiguous if T has it, whatever kind of member it is.
  */
 #define DEFINE_HAS_MEMBER(name)                                                                                        \
     template <class T>                                                                                                 \
@@ -26,7 +26,7 @@
         static constexpr bool value = decltype(test<Both>(nullptr))::value;                                            \
     };
 
-/*! \brief Refuses to compile unless only the current class of the two has a member \a name. */
+/*! \brief Compilation fails unless the current class has a member \a name and the legacy class has none. */
 #define ONLY_IN_THE_CURRENT_CLASS(name, Current, Legacy)                                                               \
     static_assert(Has_##name<Current>::value && !Has_##name<Legacy>::value, "only in the current class: " #name)
 
@@ -39,7 +39,7 @@ template <template <class...> class Operation, class... Arguments>
 struct IsDetected<std::void_t<Operation<Arguments...>>, Operation, Arguments...> : std::true_type {
 };
 
-/*! \brief Whether \a Operation, an alias of the type of a call, can be formed with \a Arguments. */
+/*! \brief Whether \a Operation, an alias for the type of a call, can be formed with \a Arguments. */
 template <template <class...> class Operation, class... Arguments>
 constexpr bool isDetected = IsDetected<void, Operation, Arguments...>::value;
 

@@ -6,7 +6,7 @@
 
 namespace reference {
 
-/*! \brief Whether the meta-type system knows a type of this name. */
+/*! \brief Whether a type of this name is registered as a meta-type. */
 inline bool isRegistered(const char *type)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)

@@ -11,11 +11,11 @@
 namespace reference {
 
 /*!
- * \brief What first tells \a actual from \a expected: null-ness, size, format, or the first pixel whose stored
- *        value differs. Empty for identical pictures.
+ * \brief The first difference between \a actual and \a expected: null image, size, format, or the first pixel with a
+ * different stored value. Empty for identical pictures.
  *
- * For pictures of 32 bits a pixel; stored values are compared, so two fully transparent pixels of different
- * colour differ.
+ * For pictures with 32 bits per pixel. Stored values are compared: two fully transparent pixels of different colours
+ * are different.
  */
 inline QString firstDifference(const QImage &actual, const QImage &expected)
 {
@@ -60,7 +60,10 @@ inline QString firstDifference(const QImage &actual, const QImage &expected)
     return QString();
 }
 
-/*! \brief The smallest rectangle of all pixels in which two pictures of one size differ; empty when they do not. */
+/*!
+ * \brief The smallest rectangle that contains all different pixels of two pictures of the same size; empty if there are
+ * none.
+ */
 inline QRect changedPixels(const QImage &a, const QImage &b)
 {
     QRect changed;

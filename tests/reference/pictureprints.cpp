@@ -1,8 +1,7 @@
-// SPDX-License-Identifier: MIT
-// Prints the checksums of pictures and charts of both generations, a line each: what two builds of the library print
-// differs where their pictures do. With a folder as argument the pictures are written there, to be looked at.
+// Prints the checksums of pictures and charts of both generations, one on each line. The output of two builds of the
+// library differs where their pictures differ. If a folder is passed as an argument, the pictures are written to it.
 //
-// Text is drawn by each version of the toolkit in its own way: give both a font without it, by blankfont.py.
+// Each version of Qt draws text differently. For a comparison use a font without visible glyphs, see blankfont.py.
 #include <ceiechart/legacy/ceiegraphicsview.h>
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/widgets/ceiegraphicsview.h>

@@ -7,7 +7,7 @@
 #include <QApplication>
 #include <QtTest>
 
-/*! \brief QTEST_MAIN for tests that compare pictures. */
+/*! \brief Like QTEST_MAIN, for tests that compare pictures. */
 #define CEIECHART_PICTURE_TEST_MAIN(TestObject)                                                                        \
     int main(int argc, char *argv[])                                                                                   \
     {                                                                                                                  \

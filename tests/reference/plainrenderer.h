@@ -18,30 +18,32 @@
 class QPainter;
 
 /*!
- * \brief The renderer's definition, written down as plainly as possible: what every picture is compared with.
+ * \brief The definition of the picture, written as plainly as possible. The tests compare every picture with it.
  *
- * Nothing here is shared with the library's renderer and nothing is made fast: one pixel, one line and one
- * painter call at a time, in the order in which the picture is defined.
+ * Nothing here is shared with the renderer of the library, and nothing is optimised: pixels, lines and calls of the
+ * painter follow each other one by one, in the order in which the picture is defined.
  */
 namespace reference {
 
-/*! \brief \a low when it is above \a value, else the smaller of \a high and \a value (\a high for NaN). */
+/*! \brief \a value limited to the range from \a low to \a high; \a high for NaN. */
 double clamp(double value, double low, double high);
 
-/*! \brief The colour that the horseshoe shows for a chromaticity. */
+/*! \brief The colour of a chromaticity in the horseshoe. */
 QColor horseshoeColor(const CEIAtlasValue::TColorSystem &colorSystem, const QPointF &xy, double gamma);
 
-/*! \brief Colours the first \a width × \a height pixels of \a picture, row by row between its red pixels. */
+/*!
+ * \brief Fills the first \a width × \a height pixels of \a picture, each row between its first and last pixel with red.
+ */
 void fillPlain(QImage &picture, int width, int height, const Mapping &mapping,
     const CEIAtlasValue::TColorSystem &colorSystem, double gamma);
 
-/*! \brief Draws the diagrams of NewCEIE::DrawCEIPicture, keeping the same state from drawing to drawing. */
+/*! \brief Draws the diagrams of NewCEIE::DrawCEIPicture. It keeps the same state from picture to picture. */
 class PlainRenderer {
 public:
-    /*! \brief Ranges and colours of the CIE 1931 diagram. */
+    /*! \brief Creates a renderer with the ranges and colours of the CIE 1931 diagram. */
     PlainRenderer();
 
-    /*! \brief Other ranges, or horseshoe colours from other primaries. */
+    /*! \brief Creates a renderer with another range or other primaries for the horseshoe. */
     PlainRenderer(const ChromaRange &range, const CEIAtlasValue::TColorSystem &colorSystem);
 
     QImage drawCEIPicture(int w, int h, bool showCoordinate, const QList<QPointF> &colorTemperaturePoints);
@@ -54,14 +56,14 @@ public:
     void setCMYPointData(const QList<QRectF> &rectangles);
 
     /*!
-     * \brief Takes the picture's size and derives the mapping from it, as at the start of every drawing.
+     * \brief Sets the size of the picture and computes its mapping, as at the start of every drawing.
      *
-     * The percentages are those of the plot's near and far edges.
+     * The percentages are the positions of the near and the far edges of the plot.
      */
     void setPictureSize(int w, int h, int nearPercent = 5, int farPercent = 95);
     const Mapping &mapping() const { return m_mapping; }
 
-    // The layers, each drawing in the state in which it finds the painter.
+    // The layers. Each draws in the state in which it receives the painter.
     void paintCEIEdge(QPainter &painter) const;
     void painterWaveLength(QPainter &painter) const;
     void painterCoordinate(QPainter &painter) const;

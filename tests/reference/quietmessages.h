@@ -6,7 +6,9 @@
 
 namespace reference {
 
-/*! \brief Drops Qt's warnings while in scope: painting on a null picture warns at every call. */
+/*!
+ * \brief Suppresses the warnings of Qt during its lifetime. Painting on a null picture logs a warning at every call.
+ */
 class QuietMessages {
 public:
     QuietMessages()

@@ -10,7 +10,7 @@ class QPainter;
 
 namespace reference {
 
-// White-box access to what the renderers keep between layers: the one place that knows the names of their members.
+// Access to the state that the renderers keep between layers. Only this file knows the names of the members.
 
 template <typename Renderer>
 void setGamma(Renderer &renderer, double gamma)
@@ -18,7 +18,7 @@ void setGamma(Renderer &renderer, double gamma)
     renderer.d->gamma = gamma;
 }
 
-/*! \brief The current point, as MapPixelToReal() and GetPointF() write it. */
+/*! \brief The current point as set by MapPixelToReal() and GetPointF(). */
 struct CurrentPoint {
     double x;
     double y;
@@ -39,7 +39,7 @@ void setCurrentPoint(Renderer &renderer, const CurrentPoint &point)
     renderer.d->current.z = point.z;
 }
 
-/*! \brief The next tick's chord has no length: it starts and ends at the current point. */
+/*! \brief Gives the chord of the next tick no length: it starts and ends at the current point. */
 template <typename Renderer>
 void startTickAtCurrentPoint(Renderer &renderer)
 {
@@ -52,7 +52,7 @@ inline void drawMeasurePoints(NewCEIE::DrawCEIPicture &renderer, QPainter &paint
     renderer.own().drawMeasurePoints(painter);
 }
 
-/*! \brief The tables that a renderer draws from. */
+/*! \brief The tables of a renderer. */
 template <typename Renderer>
 const CEIAtlasValue &atlasOf(const Renderer &renderer)
 {

@@ -11,11 +11,11 @@
 namespace reference {
 
 /*!
- * \brief Starts the program again, once, with Qt's AVX2 code switched off.
+ * \brief Restarts the program once, with the AVX2 code of Qt switched off.
  *
- * That code blends translucent pixels in buffers on the stack and rounds by their address modulo 32: the same
- * painter calls on the same picture can differ by one in a channel when they come from another depth of the
- * stack. Pictures can be compared bit by bit only without it, and Qt asks for the switch before main() begins.
+ * That code blends translucent pixels in buffers on the stack and rounds depending on their address modulo 32. The same
+ * calls of a painter on the same picture can therefore differ by one in a channel if they come from another depth of
+ * the stack. Pictures can be compared bit by bit only without this code. Qt reads the switch before main() begins.
  */
 inline void restartWithRepeatableBlending([[maybe_unused]] char *argv[])
 {

@@ -18,7 +18,10 @@ T oneOf(QRandomGenerator &random, const std::array<T, Size> &choices)
     return choices.at(random.bounded(static_cast<quint32>(Size)));
 }
 
-// Steps of 10 count up to a million; beyond that only values that a step of 10 no longer lowers.
+/*!
+ * \brief A random luminance. Finite values are either small, so that few steps of 10 are needed, or so large that a
+ * step does not change them.
+ */
 double randomLuminance(QRandomGenerator &random)
 {
     switch (random.bounded(12)) {
@@ -38,7 +41,7 @@ QPointF jittered(QRandomGenerator &random, const QPointF &point, double reach)
     return point + randomPoint(random, QRectF(-reach, -reach, 2.0 * reach, 2.0 * reach));
 }
 
-// Of the red, green and blue regions, with the edges from each to the next.
+/*! \brief The corners of the red, green and blue colour regions; an edge leads from each corner to the next. */
 const std::array<QPointF, 13> fenceCorners{QPointF(0.427, 0.109), QPointF(0.33, 0.33), QPointF(0.493, 0.517),
     QPointF(0.744, 0.262), QPointF(0.427, 0.109), QPointF(0.118, 0.83), QPointF(0.22, 0.77), QPointF(0.493, 0.517),
     QPointF(0.33, 0.33), QPointF(0.041, 0.309), QPointF(0.041, 0.291), QPointF(0.33, 0.33), QPointF(0.433, 0.113)};
@@ -101,7 +104,7 @@ QPointF closeTo(QRandomGenerator &random, const QPointF &point)
     return point + QPointF(dx, oneOf(random, distances));
 }
 
-// The coordinates in this order with every compiler.
+// The coordinates are generated in this order with every compiler.
 QPointF randomPoint(QRandomGenerator &random, const QRectF &area)
 {
     const double x = randomReal(random, area.left(), area.right());
@@ -119,7 +122,7 @@ QPointF randomChroma(QRandomGenerator &random)
     }
     case 2:
         return closeTo(random, oneOf(random, fenceCorners));
-    case 3: { // on an edge, to a rounding
+    case 3: { // on an edge, apart from rounding
         const quint32 corner = random.bounded(static_cast<quint32>(fenceCorners.size() - 1));
         const QPointF start = fenceCorners.at(corner);
         const double along = random.generateDouble();

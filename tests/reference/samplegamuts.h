@@ -11,29 +11,29 @@
 
 namespace reference {
 
-/*! \brief A gamut that mixes to a D65 white, with the luminances of its primaries. */
+/*! \brief A gamut whose primaries, with their luminances, mix to a D65 white. */
 ColorTriangleObject sampleGamut(const QPointF &red, const QPointF &green, const QPointF &blue, double redLum,
     double greenLum, double blueLum, int type);
 
-ColorTriangleObject wideGamut(); //!< an original: Rec. 2020 primaries in 1000 cd/m²
-ColorTriangleObject narrowGamut(); //!< a target: Rec. 709 primaries in 1000 cd/m², inside the wide one
+ColorTriangleObject wideGamut(); //!< an original gamut: Rec. 2020 primaries, white of 1000 cd/m²
+ColorTriangleObject narrowGamut(); //!< a target inside it: Rec. 709 primaries, white of 1000 cd/m²
 
-/*! \brief The wide and the narrow gamut: what a scene edits in the ordinary case. */
+/*! \brief The wide and the narrow gamut: an ordinary original and target of a scene. */
 QList<ColorTriangleObject> gamutPair();
 
 double randomReal(QRandomGenerator &random, double low, double high);
 QPointF randomPoint(QRandomGenerator &random, const QRectF &area);
 
-/*! \brief At a point or next to it, a little more or less than the corners' tolerance away. */
+/*! \brief A random point at \a point or near it, inside and outside the tolerance of the corners. */
 QPointF closeTo(QRandomGenerator &random, const QPointF &point);
 
-/*! \brief Mostly near the fences; seldom far out, infinite or not a number. */
+/*! \brief A random chromaticity, mostly near the colour regions, rarely far away, infinite or not a number. */
 QPointF randomChroma(QRandomGenerator &random);
 
-/*! \brief Ordinary, inverted, flat or meaningless. */
+/*! \brief A random gamut: ordinary, inverted, flat or meaningless. */
 ColorTriangleObject randomGamut(QRandomGenerator &random, int type);
 
-/*! \brief None to four gamuts, mostly a pair with a target inside the original. */
+/*! \brief A random list of none to four gamuts, mostly an original with a target inside it. */
 QList<ColorTriangleObject> randomGamuts(QRandomGenerator &random);
 
 } // namespace reference

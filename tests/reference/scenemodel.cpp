@@ -16,7 +16,7 @@ namespace reference {
 
 namespace {
 
-// Volatile keeps the rounding to single precision from being optimised away.
+// The variable is volatile so that the compiler does not optimise away the rounding to single precision.
 float toFloat(double value)
 {
     const volatile float result = static_cast<float>(value);
@@ -57,7 +57,7 @@ struct Proportions {
     int unitLength;
 };
 
-// Where the axes stand in a picture, of every 512 pixels.
+/*! \brief The position of the axes in a picture, in 512ths of its width or height. */
 Proportions proportions(int width, int height)
 {
     const float step = 1.0F / 512.0F;
@@ -537,7 +537,7 @@ void SceneModel::refreshTargetReport()
 
 void SceneModel::emitTargetInfo()
 {
-    TargetInfoChangedEventArgs report; // its beyond-colour type is never written
+    TargetInfoChangedEventArgs report; // its beyond-colour type is never set
     report.setColorTriangleObject(m_reportTriangle);
     report.setColourTemperature(m_reportTemperature);
     report.setIsReasonableData(m_reportReasonable);

@@ -19,15 +19,15 @@
 class QPainter;
 
 /*!
- * \brief The scenes' behaviour written down step by step, without Qt's event loop, widgets or pictures: what the
- *        real scenes are compared with, signal by signal.
+ * \brief The behaviour of the scenes, written step by step and without Qt's event loop, widgets or pictures. The tests
+ * compare the scenes with it, signal by signal.
  *
- * Operations bear the names of the scenes' own. Nothing here is shared with the library but the value types and
- * the colour maths.
+ * The operations have the names of those of the scenes. Only the value types and the colour calculations are shared
+ * with the library.
  */
 namespace reference {
 
-// Everything that a signal carries as text, numbers to the last bit: equal texts are equal payloads.
+// The payloads of signals as text, with numbers to the last bit: equal texts mean equal payloads.
 QString describe(double value);
 QString describe(const QPointF &point);
 QString describe(const TrianglePoint &points);
@@ -38,20 +38,22 @@ QString describe(const TargetInfoChangedEventArgs &report);
 QString describe(const TriangleObjecIinitializedEventArgs &report);
 QString describe(const QCursor &cursor);
 
-/*! \brief A line that shows where \a actual first departs from \a expected; empty when they are the same. */
+/*! \brief The first difference between \a actual and \a expected, as a line of text; empty if they are equal. */
 QString difference(const QString &what, const QString &actual, const QString &expected);
 
 PointF narrowed(const QPointF &point);
 bool isInsidePolygon(const PointF &point, const std::vector<PointF> &polygon);
 bool isInsideTriangle(const PointF &point, const PointF &a, const PointF &b, const PointF &c);
 
-/*! \brief The fixed polygons of the primaries: 0 red, 1 green, 2 blue. */
+/*! \brief The polygons of the colour regions: 0 red, 1 green, 2 blue. */
 const std::vector<PointF> &fence(int region);
 
-/*! \brief 0 red, 1 green, 2 blue fence, tested in that order; 3 for none of them. */
+/*!
+ * \brief The colour region that contains \a point, tested in this order: 0 red, 1 green, 2 blue; 3 if there is none.
+ */
 int fenceRegion(const PointF &point);
 
-/*! \brief What a scene keeps between events. */
+/*! \brief The state of a scene between events. */
 struct SceneState {
     QPointF requested;
     QPointF current;
@@ -70,7 +72,7 @@ struct SceneState {
 
 QString describe(const SceneState &state);
 
-/*! \brief NewCEIE::CEIEGraphicsScene, and what the legacy scene has in common with it. */
+/*! \brief The model of NewCEIE::CEIEGraphicsScene, and of the behaviour that the legacy scene shares. */
 class SceneModel {
 public:
     explicit SceneModel(const QList<ColorTriangleObject> &triangles);
@@ -80,12 +82,13 @@ public:
     /*! \brief The signals emitted since the last call, in order. */
     QStringList takeSignals();
 
-    /*! \brief Whether the whole scene was asked to repaint since the last call. */
+    /*! \brief Whether a repaint of the whole scene has been requested since the last call. */
     bool takeUpdate();
 
     // Data
     void setLsColorTriangleObject(const QList<ColorTriangleObject> &triangles);
-    void setAllTriangles(const QList<ColorTriangleObject> &triangles); //!< as the form with six arguments
+    void setAllTriangles(
+        const QList<ColorTriangleObject> &triangles); //!< like the function of the scene with six arguments
     void setImageWidth(int width);
     void setImageHeight(int height);
     void setRGBPointEnable(bool enable);
@@ -129,15 +132,15 @@ public:
     bool hasPicture() const { return m_hasPicture; }
 
     /*!
-     * \brief Whether \a position picks the white point's handle.
+     * \brief Whether \a position selects the handle of the white point.
      *
-     * Uncertain close to the square's edge, and where the handle as it was last painted and as it would be painted
-     * now do not agree: a scene repaints before the next press.
+     * The result is uncertain near the edge of the square, and if the handle was last painted at another position than
+     * it would be now: a scene repaints before the next press.
      */
     enum Pick { Missed, Picked, Uncertain };
     Pick pickWhite(const QPointF &position) const;
 
-    /*! \brief Where the white point's handle is, when there is a target. */
+    /*! \brief The position of the handle of the white point, if there is a target. */
     QPointF whiteHandle() const;
 
     // Keyboard
@@ -211,7 +214,7 @@ private:
     bool m_reportReasonable = false;
 };
 
-/*! \brief The global-namespace CEIEGraphicsScene with the x, y diagram. */
+/*! \brief The model of the legacy CEIEGraphicsScene with the x, y diagram. */
 class LegacySceneModel : public SceneModel {
 public:
     explicit LegacySceneModel(const QList<ColorTriangleObject> &triangles);
@@ -220,7 +223,7 @@ public:
     QPointF toChroma(const QPointF &position) const override;
     void getBitMap() override;
 
-    // Moves and releases return whether they accept the event and repaint at their end.
+    // Moves and releases return whether they accept the event and request a repaint at their end.
     void mousePress(Qt::MouseButton button, const QPointF &position);
     bool mouseMove(const QPointF &position);
     bool mouseRelease(Qt::MouseButton button);
@@ -231,7 +234,7 @@ protected:
     void paintWhiteHandle() override;
 
 private:
-    bool drag(); //!< false when the move ends there
+    bool drag(); //!< false if the handling of the move ends there
 
     QPointF m_lastHover;
     bool m_buttonDown = false;

@@ -8,7 +8,7 @@
 
 namespace reference {
 
-/*! \brief The signals that a class itself declares, as "name(type parameter)", in order of declaration. */
+/*! \brief The signals that a class itself declares, as "name(type parameter)", in the order of declaration. */
 inline QStringList declaredSignals(const QMetaObject &meta)
 {
     QStringList found;
@@ -27,7 +27,7 @@ inline QStringList declaredSignals(const QMetaObject &meta)
     return found;
 }
 
-/*! \brief What both generations' scenes declare: hosts connect by these very names. */
+/*! \brief The signals of the scenes of both generations. Hosts connect to exactly these names. */
 inline QStringList sceneSignals()
 {
     return {

@@ -10,7 +10,7 @@
 
 namespace reference {
 
-/*! \brief Writes down what a scene of either generation emits, in the words of SceneModel::takeSignals(). */
+/*! \brief Records the signals of a scene of either generation, in the format of SceneModel::takeSignals(). */
 template <typename Scene>
 class SceneSignalLog {
 public:

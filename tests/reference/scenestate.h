@@ -8,7 +8,7 @@
 
 namespace reference {
 
-// White-box access to what the scenes keep between events: the one place that knows the names of their members.
+// Access to the state that the scenes keep between events. Only this file knows the names of the members.
 
 inline int tabOf(ceiechart::Handle handle)
 {
@@ -58,7 +58,7 @@ void setEditMode(Scene &scene, int mode)
     scene.d->editMode = static_cast<decltype(scene.d->editMode)>(mode);
 }
 
-/*! \brief The next key press starts from \a point. */
+/*! \brief Makes the next key press start from \a point. */
 template <typename Scene>
 void restoreAtNextKey(Scene &scene, const QPointF &point)
 {
@@ -66,7 +66,7 @@ void restoreAtNextKey(Scene &scene, const QPointF &point)
     scene.d->restorePending = true;
 }
 
-/*! \brief Picks the white point as if its handle had been painted at \a handle. */
+/*! \brief Selects the white point as if its handle had been painted at \a handle. */
 template <typename Scene>
 void selectCentre(Scene &scene, const QPointF &handle)
 {

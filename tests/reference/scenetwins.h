@@ -23,10 +23,11 @@
 namespace reference {
 
 /*!
- * \brief A scene of either generation and its model, always doing the same at random, and compared after every step.
+ * \brief A scene of either generation and its model, to which the same random operations are applied. They are compared
+ * after every step.
  *
- * What both generations can be asked to do stands here; a generation's own twins say in act() which of it they do how
- * often, and add what is their own.
+ * This class contains the operations that both generations have. The subclass for a generation defines in act() how
+ * often each of them is applied, and adds its own.
  */
 template <class Scene, class Model>
 class SceneTwins {
@@ -34,7 +35,7 @@ public:
     virtual ~SceneTwins() = default;
     Q_DISABLE_COPY(SceneTwins)
 
-    /*! One step. Empty when both did the same, otherwise what differs. */
+    /*! \brief Applies a random operation. Returns the difference between scene and model, empty if there is none. */
     QString step()
     {
         const bool updatesAgree = act();
@@ -45,7 +46,13 @@ public:
     QStringList history() const { return m_history.mid(qMax(0, m_history.size() - 12)); }
 
 protected:
-    /*! \a makeScene makes the scene of a list of gamuts; \a largestPicture is the side up to which it renders. */
+    /*!
+     * \brief Creates the twins.
+     *
+     * \param seed the seed of the random operations
+     * \param largestPicture the side in pixels up to which pictures are rendered
+     * \param makeScene a function that creates the scene from a list of gamuts
+     */
     template <class MakeScene>
     SceneTwins(quint32 seed, double largestPicture, MakeScene makeScene)
         : m_random(seed)
@@ -55,14 +62,14 @@ protected:
         m_scene = makeScene(triangles);
         m_model = std::make_unique<Model>(triangles);
         m_log = std::make_unique<SceneSignalLog<Scene>>(m_scene.get());
-        m_model->takeSignals(); // nobody can listen to a scene under construction
+        m_model->takeSignals(); // the signals of the constructor cannot be recorded
         m_model->takeUpdate();
         note(QStringLiteral("constructed from ") + describe(triangles));
     }
 
-    //! Does something. False when what it repaints is its own affair.
+    /*! \brief Applies a random operation. False if the repaints of the scene must not be compared. */
     virtual bool act() = 0;
-    //! Compares what a generation has besides.
+    /*! \brief Compares the properties that only one generation has. */
     virtual void compareOwn() { }
 
     void note(const QString &what) { m_history << what; }
@@ -88,7 +95,7 @@ protected:
         return choices[static_cast<std::size_t>(m_random.bounded(static_cast<int>(choices.size())))];
     }
 
-    //! Every rendering scales the stored size by the zoom again.
+    /*! \brief Whether the next renderings are not too large. Each of them multiplies the stored size by the zoom. */
     bool isRenderable() const
     {
         const double growth = std::max(1.0, std::fabs(static_cast<double>(m_model->state().zoom)));
@@ -244,7 +251,7 @@ void SceneTwins<Scene, Model>::setPoints()
     }
 }
 
-//! What only the scene's owner would set; mostly none.
+/*! \brief Sets a random mode that only the owner of a scene can set. */
 template <class Scene, class Model>
 void SceneTwins<Scene, Model>::setMode()
 {
@@ -290,7 +297,7 @@ void SceneTwins<Scene, Model>::holdKey(int code, int count, bool release)
     }
 }
 
-//! So far that a painter's coordinates reach.
+/*! \brief Whether the handles are within the range of the coordinates of a painter. */
 template <class Scene, class Model>
 bool SceneTwins<Scene, Model>::handlesAreInReach() const
 {
@@ -352,7 +359,7 @@ void SceneTwins<Scene, Model>::drawHandles()
     }
 }
 
-/*! \brief Rows for compareSequences(), each of \a sequences sequences. */
+/*! \brief Adds the rows for compareSequences(), each with \a sequences sequences. */
 inline void addSequenceRows(int rows, int sequences)
 {
     QTest::addColumn<int>("firstSeed");
@@ -362,7 +369,9 @@ inline void addSequenceRows(int rows, int sequences)
     }
 }
 
-/*! \brief Runs a row's sequences, each until its twins differ; then it says what and after which steps. */
+/*!
+ * \brief Runs the sequences of a row. If the twins differ, the test fails with the difference and the preceding steps.
+ */
 template <class Twins>
 void compareSequences(int sequences, int steps)
 {

@@ -8,7 +8,7 @@
 
 namespace reference {
 
-// White-box access to what a chart's view keeps: the one place that knows the names of its members.
+// Access to the state of the view of a chart. Only this file knows the names of the members.
 
 inline QList<ColorTriangleObject> standardTriangles(const NewCEIE::CEIEGraphicsView &view)
 {
