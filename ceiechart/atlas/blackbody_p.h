@@ -11,7 +11,8 @@ namespace ceiechart {
  *
  * Planck's radiator with c2 = 1.438776877e-2 m K (CODATA 2018), summed with the CIE 1931 colour-matching functions
  * (ISO/CIE 11664-1) from 360 nm to 830 nm in steps of 1 nm. The temperatures rise in steps of 200 K up to 1400 K, 100 K
- * up to 5000 K, 200 K up to 6000 K, and in wider steps above. 3250 K and 9300 K are added because they are common whites.
+ * up to 5000 K, 200 K up to 6000 K, and in wider steps above. 3250 K and 9300 K are added because they are common
+ * whites.
  */
 inline constexpr CEIAtlasValue::CEITemperatureCoordinate blackBodies[] = {
     {1000, 0.653, 0.344},

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/horseshoefill_p.h>
 
 #include <QColor>
@@ -16,18 +17,6 @@ namespace {
 
 constexpr int bandHeight = 32; //!< rows: few enough to follow slanting edges, enough to keep the number of bands small
 constexpr double reach = 1.0; //!< distance in pixels up to which antialiasing can change pixels outside the polygon
-
-/*!
- * \brief Whether the columns of \a polygon can be computed.
- *
- * False for coordinates that are not numbers or so large that rounding would make the columns wrong.
- */
-bool canBeBounded(const QPolygonF &polygon)
-{
-    constexpr double farthest = 1e6;
-    return std::all_of(polygon.cbegin(), polygon.cend(),
-        [](const QPointF &point) { return std::fabs(point.x()) <= farthest && std::fabs(point.y()) <= farthest; });
-}
 
 /*! \brief The x coordinate of the edge from \a a to \a b at the height \a y, or that of its nearer end. */
 double edgeAt(const QPointF &a, const QPointF &b, double y)
@@ -88,7 +77,7 @@ void drawHorseshoe(QPainter &painter, const QPolygonF &clip, int width, int heig
         band = band.convertToFormat(qAlpha(plain) == 255 ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
     }
 
-    const bool bounded = canBeBounded(clip);
+    const bool bounded = canBeClipped(clip);
     const RowFill rows(fill, fastestFillKernel());
     for (int top = 0; top < height; top += band.height()) {
         const QRect whole(0, top, width, std::min(band.height(), height - top));

@@ -71,10 +71,6 @@ public:
     const QRectF &plot() const noexcept { return m_plot; }
     /*! \brief The chromaticities that the plot shows. */
     const QRectF &chroma() const noexcept { return m_chroma; }
-    /*! \brief The width of a pixel in units of chromaticity; 0 before the scales were first computed. */
-    double unitsPerPixelX() const noexcept { return m_unitsPerPixelX; }
-    /*! \brief The height of a pixel in units of chromaticity; 0 before the scales were first computed. */
-    double unitsPerPixelY() const noexcept { return m_unitsPerPixelY; }
 
 private:
     QRectF m_plot;

@@ -3,8 +3,10 @@
 #define CEIECHART_DIAGRAM_FINITE_P_H
 
 #include <QPointF>
+#include <QPolygonF>
 #include <QRectF>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ceiechart {
@@ -23,6 +25,19 @@ inline bool isFinite(const QPointF &point)
 inline bool isFinite(const QRectF &rectangle)
 {
     return isFinite(rectangle.topLeft()) && std::isfinite(rectangle.width()) && std::isfinite(rectangle.height());
+}
+
+/*!
+ * \brief Whether \a polygon can be clipped, and the columns that it covers be computed.
+ *
+ * Qt's clipper fails for coordinates that are not numbers or so large that their squares are not, and rounding makes
+ * columns wrong long before.
+ */
+inline bool canBeClipped(const QPolygonF &polygon)
+{
+    constexpr double farthest = 1e6;
+    return std::all_of(polygon.cbegin(), polygon.cend(),
+        [](const QPointF &point) { return std::fabs(point.x()) <= farthest && std::fabs(point.y()) <= farthest; });
 }
 
 } // namespace ceiechart

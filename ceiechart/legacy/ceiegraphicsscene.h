@@ -5,7 +5,11 @@
 #include <ceiechart/ceiechart_export.h>
 #include <ceiechart/legacy/drawceipicture.h>
 #include <ceiechart/model/chartenums.h>
+#include <ceiechart/model/targetinfochangedeventargs.h>
+#include <ceiechart/model/triangleobjeciinitializedeventargs.h>
 #include <ceiechart/scene/targetscene.h>
+
+#include <QCursor>
 
 /*!
  * \brief The scene of the legacy chart: shows the diagram with the handles of the target gamut, which is edited with

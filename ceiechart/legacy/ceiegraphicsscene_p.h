@@ -8,7 +8,8 @@
 #include <QPoint>
 
 /*! \brief The mapping and the rendering of the legacy scene, and the state of mouse editing. */
-class Q_DECL_HIDDEN CEIEGraphicsScene::Private : public ceiechart::SceneSignals<CEIEGraphicsScene, ceiechart::TargetScene::Private> {
+class Q_DECL_HIDDEN CEIEGraphicsScene::Private
+    : public ceiechart::SceneSignals<CEIEGraphicsScene, ceiechart::TargetScene::Private> {
 public:
     explicit Private(DrawCEIPicture::CEIEType diagramType)
         : type(diagramType)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/legacy/ceiegraphicsview.h>
 
+#include <ceiechart/diagram/chartstyle.h>
 #include <ceiechart/diagram/gamutstyle.h>
 #include <ceiechart/legacy/ceiegraphicsscene.h>
 #include <ceiechart/widgets/chartframe_p.h>
@@ -114,7 +115,8 @@ NQCEIEGraphicsView *CEIEGraphicsView::view() const
 void CEIEGraphicsView::buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignment)
 {
     auto *innerView = new NQCEIEGraphicsView(this);
-    innerView->setStyleSheet(QStringLiteral("background: #323238"));
+    const ceiechart::ChartStyle &style = ceiechart::chartStyle(ceiechart::ChartKind::LegacyUv);
+    innerView->setStyleSheet(QStringLiteral("background: ") + style.ground.name());
     d->setView(innerView);
     auto *scene = new CEIEGraphicsScene(own().type, d->triangles);
     d->setScene(scene);

@@ -13,8 +13,6 @@ namespace NewCEIE {
 
 namespace {
 
-constexpr QSize sceneSize(672, 728); //!< in pixels, independent of the size of the picture
-
 QRectF markAround(const QPointF &position)
 {
     return QRectF(position.x() - 8, position.y() - 8, 16, 16);
@@ -41,7 +39,7 @@ public:
     {
         QImage *rendered = renderer.drawCEIPicture(
             imageWidth, imageHeight, drawCoordinate, drawCoordinate, drawWavelengths, QList<QPointF>());
-        q->setSceneRect(0, 0, sceneSize.width(), sceneSize.height());
+        q->setSceneRect(0, 0, ceiechart::defaultPictureSize.width(), ceiechart::defaultPictureSize.height());
         return rendered;
     }
 
@@ -80,6 +78,7 @@ void CEIEGraphicsScene::setLsColorTriangleObject(const QList<ColorTriangleObject
 
     QPolygonF common;
     if (!first.isEmpty() && !other.isEmpty()) {
+        // Positions are whole pixels within the range of int, which the clipper can take.
         common = scene.imagePolygon(first).intersected(scene.imagePolygon(other));
     }
 

@@ -4,7 +4,11 @@
 
 #include <ceiechart/ceiechart_export.h>
 #include <ceiechart/model/chartenums.h>
+#include <ceiechart/model/targetinfochangedeventargs.h>
+#include <ceiechart/model/triangleobjeciinitializedeventargs.h>
 #include <ceiechart/scene/targetscene.h>
+
+#include <QCursor>
 
 namespace NewCEIE {
 

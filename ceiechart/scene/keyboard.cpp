@@ -89,11 +89,11 @@ void TargetScene::ClearSpeedUpStep()
 void TargetScene::SetFunctionKeyShortcuts()
 {
     switch (d->functionKeyMode) {
-    case Private::NoFunction:
+    case NoFunction:
         d->magnifier = false;
         d->hand = false;
         break;
-    case Private::ZoomIn:
+    case ZoomIn:
         if (d->zoom <= zoomLimit) {
             d->zoom += zoomStep;
             d->magnifier = true;
@@ -101,13 +101,13 @@ void TargetScene::SetFunctionKeyShortcuts()
             update();
         }
         break;
-    case Private::ZoomOut:
+    case ZoomOut:
         d->zoom -= zoomStep;
         d->magnifier = true;
         d->hand = false;
         update();
         break;
-    case Private::MagnifierHand:
+    case MagnifierHand:
         d->magnifier = true;
         d->hand = true;
         break;

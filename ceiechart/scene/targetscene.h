@@ -5,12 +5,8 @@
 #include <ceiechart/ceiechart_export.h>
 #include <ceiechart/model/colortriangleobject.h>
 #include <ceiechart/model/pointf.h>
-#include <ceiechart/model/targetinfochangedeventargs.h>
-#include <ceiechart/model/triangleobjeciinitializedeventargs.h>
-#include <ceiechart/model/trianglepoint.h>
 
 #include <QColor>
-#include <QCursor>
 #include <QGraphicsScene>
 #include <QList>
 #include <QPointF>
@@ -37,6 +33,14 @@ namespace ceiechart {
  */
 class CEIECHART_EXPORT TargetScene : public QGraphicsScene {
 public:
+    /*! \brief What applyFunctionKey() does. */
+    enum FunctionKeyMode {
+        NoFunction = 0, //!< switches the magnifier off
+        ZoomIn = 1, //!< enlarges the handles and switches the magnifier on
+        ZoomOut = 2, //!< reduces the handles and switches the magnifier on
+        MagnifierHand = 3 //!< switches the magnifier and the hand on
+    };
+
     ~TargetScene() override;
 
     /*!
@@ -141,9 +145,9 @@ public:
      */
     void setRGBPointEnable(bool enable);
     /*!
-     * \brief Sets what applyFunctionKey() does: 0 magnifier off, 1 zoom in, 2 zoom out, 3 magnifier and hand.
+     * \brief Sets the FunctionKeyMode that applyFunctionKey() applies; NoFunction by default.
      *
-     * With any other value it does nothing.
+     * With a value that is none of the modes it does nothing.
      */
     void setFunctionKeyMode(int mode);
     /*!

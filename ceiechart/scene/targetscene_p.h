@@ -2,14 +2,21 @@
 #ifndef CEIECHART_SCENE_TARGETSCENE_P_H
 #define CEIECHART_SCENE_TARGETSCENE_P_H
 
+#include <ceiechart/model/targetinfochangedeventargs.h>
+#include <ceiechart/model/triangleobjeciinitializedeventargs.h>
 #include <ceiechart/scene/chartpicture_p.h>
 #include <ceiechart/scene/handle_p.h>
 #include <ceiechart/scene/keystepper_p.h>
 #include <ceiechart/scene/targetscene.h>
 
+#include <QCursor>
 #include <QRectF>
+#include <QSize>
 
 namespace ceiechart {
+
+/*! \brief The picture's size until a host sets another, and the size of the current scene for good. In pixels. */
+constexpr QSize defaultPictureSize(672, 728);
 
 /*!
  * \brief The state of a scene, and the functions that each generation implements: the mapping of chromaticities, the
@@ -18,7 +25,6 @@ namespace ceiechart {
 class Q_DECL_HIDDEN TargetScene::Private {
 public:
     enum EditMode { EverythingEditable = 0, WhiteLocked = 1, VerticesLocked = 2 };
-    enum FunctionKeyMode { NoFunction = 0, ZoomIn = 1, ZoomOut = 2, MagnifierHand = 3 };
 
     Private() = default;
     virtual ~Private();
@@ -90,8 +96,8 @@ public:
 
     // Picture
     ChartPicture picture;
-    int imageWidth = 672;
-    int imageHeight = 728;
+    int imageWidth = defaultPictureSize.width();
+    int imageHeight = defaultPictureSize.height();
     bool drawCoordinate = true;
     bool drawPlanckianLocus = true;
     bool drawWavelengths = true;
@@ -135,7 +141,7 @@ public:
     bool restorePending = false;
     bool hand = false;
     bool magnifier = false;
-    int functionKeyMode = NoFunction;
+    int functionKeyMode = TargetScene::NoFunction;
     float zoom = 1.0F;
 
     // The white-point handle

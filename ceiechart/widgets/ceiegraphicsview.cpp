@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/widgets/ceiegraphicsview_p.h>
 
+#include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/gamutstyle.h>
 
 #include <QLabel>
@@ -254,7 +255,9 @@ void CEIEGraphicsView::updateMixInfo(const QString &text)
 
 QPolygonF CEIEGraphicsView::getTargetOrgIntersected(const TrianglePoint &a, const TrianglePoint &b)
 {
-    return vertices(a).intersected(vertices(b));
+    const QPolygonF first = vertices(a);
+    const QPolygonF second = vertices(b);
+    return ceiechart::canBeClipped(first) && ceiechart::canBeClipped(second) ? first.intersected(second) : QPolygonF();
 }
 
 void CEIEGraphicsView::calcActualPos(TrianglePoint &triangle)

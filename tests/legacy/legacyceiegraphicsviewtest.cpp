@@ -337,10 +337,9 @@ void LegacyCEIEGraphicsViewTest::functionKeys()
     QSignalSpy placed(&view, &CEIEGraphicsView::signal_colorGamutValueChanged);
     const QImage plain = pictureOf(view);
 
-    enum Mode { NoFunction = 0, ZoomIn = 1, ZoomOut = 2 };
     QPushButton zoomIn;
     QObject::connect(&zoomIn, &QPushButton::clicked, scene, [scene] {
-        scene->setFunctionKeyMode(ZoomIn);
+        scene->setFunctionKeyMode(CEIEGraphicsScene::ZoomIn);
         scene->applyFunctionKey();
     });
     zoomIn.click();
@@ -353,10 +352,10 @@ void LegacyCEIEGraphicsViewTest::functionKeys()
     QCOMPARE(placed.size(), 0);
     QVERIFY(pictureOf(view) != magnified);
 
-    scene->setFunctionKeyMode(ZoomOut);
+    scene->setFunctionKeyMode(CEIEGraphicsScene::ZoomOut);
     scene->applyFunctionKey();
     scene->applyFunctionKey();
-    scene->setFunctionKeyMode(NoFunction);
+    scene->setFunctionKeyMode(CEIEGraphicsScene::NoFunction);
     scene->applyFunctionKey();
     QCOMPARE(reference::firstDifference(pictureOf(view), plain), QString());
     scene->setFunctionKeyMode(42);
