@@ -75,8 +75,8 @@ const QPolygonF &planckianLocusXy()
     static const QPolygonF locus = [] {
         constexpr double kelvinTimesMired = 1e6;
         QPolygonF points;
-        for (double mired = kelvinTimesMired / lowestTemperature - 1.0;
-             mired > kelvinTimesMired / highestTemperature; mired -= 1.0) {
+        for (double mired = kelvinTimesMired / lowestTemperature - 1.0; mired > kelvinTimesMired / highestTemperature;
+             mired -= 1.0) {
             if (const auto xy = chromaticityAt(kelvinTimesMired / mired, 0.0)) {
                 points.append(*xy);
             }
