@@ -48,7 +48,7 @@ CEIECHART_EXPORT std::optional<QPointF> chromaticityAt(double kelvin, double duv
 /*!
  * \brief The Planckian locus in CIE 1931 x, y from the lowest to the highest temperature, one point for each mired.
  *
- * The straight lines between the points are less than 3e-7 from the locus.
+ * The straight lines between the points are less than 2e-7 from the locus in CIE 1960 u, v.
  */
 CEIECHART_EXPORT const QPolygonF &planckianLocusXy();
 
