@@ -49,8 +49,8 @@ const DiagramGamut *DiagramContent::find(GamutRole role) const
 
 const DiagramGamut *DiagramContent::display() const
 {
-    const DiagramGamut *measured = find(GamutRole::Measured);
-    return measured ? measured : find(GamutRole::Original);
+    const DiagramGamut *original = find(GamutRole::Original);
+    return original ? original : find(GamutRole::Measured);
 }
 
 } // namespace ceiechart

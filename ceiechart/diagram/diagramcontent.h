@@ -93,8 +93,8 @@ struct DiagramGamut {
 /*! \brief A point that is marked on the diagram. */
 struct DiagramMark {
     QPointF xy; //!< CIE 1931 x, y
-    QString name; //!< stands beside the mark; empty for none
-    QColor color; //!< fills the mark; when invalid, the colour of its kind
+    QString name{}; //!< stands beside the mark; empty for none
+    QColor color{}; //!< fills the mark; when invalid, the colour of its kind
 };
 
 /*! \brief Circles of equal colour difference round a chromaticity. */
@@ -134,9 +134,9 @@ struct CEIECHART_EXPORT DiagramContent {
     const DiagramGamut *find(GamutRole role) const;
 
     /*!
-     * \brief What the display can show: the measured gamut if there is one, otherwise the original; null for neither.
+     * \brief What the display can show: the original if there is one, otherwise the measured gamut; null for neither.
      *
-     * What the common area and the lost area compare the target with.
+     * What the common area and the lost area compare the target with, switched on or not.
      */
     const DiagramGamut *display() const;
 };

@@ -26,6 +26,12 @@ QPointF spectralChromaticity(double wavelength);
  */
 const QPolygonF &spectralLocusIn(Model::Diagram diagram, int perNanometre);
 
+/*! \brief The points for each nanometre that make the locus look smooth at \a scale pixels per unit. */
+constexpr int spectrumDetail(double scale)
+{
+    return scale < 1000.0 ? 1 : 10;
+}
+
 /*! \brief The bounds of the spectral locus in \a diagram; top is the least of the second coordinate. */
 const QRectF &spectrumBounds(Model::Diagram diagram);
 
