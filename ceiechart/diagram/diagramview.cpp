@@ -99,7 +99,7 @@ void DiagramView::Private::change(const DiagramContent &changed)
     content = changed;
     content.ground = groundOf(q->palette());
     painter->setContent(content);
-    pictureIsReady = false;
+    linesAreReady = false;
     if (hand == Hand::Dragging && !hasHandles()) {
         hand = Hand::Spent;
         edit.reset();
@@ -139,8 +139,14 @@ void DiagramView::Private::putTarget(const Model::Targets &targets)
     const QVector<DiagramLabel> labels = painter->labels();
     found->gamut = Model::ColorGamut(found->gamut.colorGamutName(), targets);
     painter->setContent(content);
-    colorsChanged = true;
-    QRegion changed = old + editedRegion(former, targets);
+    QRegion changed = old;
+    if (meetsAnother(former) || meetsAnother(targets)) {
+        // A line that equals another gamut's is drawn otherwise, and that gamut's too.
+        linesAreReady = false;
+        changed = q->rect();
+    } else {
+        changed += editedRegion(former, targets);
+    }
     // Names give way to one another.
     const QVector<DiagramLabel> newLabels = painter->labels();
     const auto same
@@ -190,7 +196,7 @@ void DiagramView::Private::look(DiagramViewport wanted, const QPointF &anchor)
         return;
     }
     viewport = wanted;
-    pictureIsReady = false;
+    linesAreReady = false;
     refreshOverlay();
     q->update();
     Q_EMIT q->viewChanged();
@@ -239,48 +245,28 @@ void DiagramView::Private::forgetPictures()
     fresh->setContent(content);
     fresh->setViewport(viewport);
     painter = std::move(fresh);
-    picture = QPixmap();
-    pictureIsReady = false;
+    lines = QPixmap();
+    linesAreReady = false;
 }
 
-const QPixmap &DiagramView::Private::staticPicture()
+const QPixmap &DiagramView::Private::linesPicture()
 {
     const double ratio = q->devicePixelRatioF();
     const QSize size(int(std::ceil(q->width() * ratio)), int(std::ceil(q->height() * ratio)));
-    if (picture.size() != size || picture.devicePixelRatio() != ratio) {
-        picture = QPixmap(size);
-        picture.setDevicePixelRatio(ratio);
-        pictureIsReady = false;
+    if (lines.size() != size || lines.devicePixelRatio() != ratio) {
+        lines = QPixmap(size);
+        lines.setDevicePixelRatio(ratio);
+        linesAreReady = false;
     }
-    if (pictureIsReady && !colorsChanged) {
-        return picture;
+    if (!linesAreReady) {
+        lines.fill(Qt::transparent);
+        QPainter p(&lines);
+        p.setRenderHint(QPainter::Antialiasing);
+        painter->paintScale(&p);
+        painter->paintGamuts(&p);
+        linesAreReady = true;
     }
-    QRegion changed;
-    QPoint scrolled;
-    const QImage &colors = painter->colors(ratio, &changed, &scrolled);
-    const bool isPart = pictureIsReady;
-    if (isPart && changed.isEmpty()) {
-        colorsChanged = false;
-        return picture;
-    }
-    QPainter p(&picture);
-    if (isPart) {
-        QRegion logical;
-        for (const QRect &part : changed) {
-            logical += QRectF(part.x() / ratio, part.y() / ratio, part.width() / ratio, part.height() / ratio)
-                           .toAlignedRect();
-        }
-        p.setClipRegion(logical);
-    }
-    p.setCompositionMode(QPainter::CompositionMode_Source);
-    p.drawImage(QPointF(), colors);
-    p.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    p.setRenderHint(QPainter::Antialiasing);
-    painter->paintScale(&p);
-    painter->paintGamuts(&p);
-    pictureIsReady = true;
-    colorsChanged = false;
-    return picture;
+    return lines;
 }
 
 void DiagramView::Private::refreshOverlay()
@@ -396,6 +382,24 @@ QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
     return region & q->rect();
 }
 
+bool DiagramView::Private::meetsAnother(const Model::Targets &targets) const
+{
+    const QPolygonF line = viewport.outline(targets);
+    return std::any_of(content.gamuts.begin(), content.gamuts.end(), [&](const DiagramGamut &gamut) {
+        if (gamut.role == GamutRole::Target) {
+            return false;
+        }
+        const QPolygonF other = viewport.outline(gamut.gamut.getTargets());
+        for (int i = 0; i < line.size() && i < other.size(); ++i) {
+            const QPointF away = line[i] - other[i];
+            if (!(std::hypot(away.x(), away.y()) < markRoom)) {
+                return false;
+            }
+        }
+        return true;
+    });
+}
+
 QRegion DiagramView::Private::editedRegion(const Model::Targets &former, const Model::Targets &latter) const
 {
     const QPolygonF old = viewport.outline(former);
@@ -403,24 +407,6 @@ QRegion DiagramView::Private::editedRegion(const Model::Targets &former, const M
     const QRectF whole = QRectF(q->rect());
     if (old.size() < 3 || now.size() < 3 || !isFinite(old) || !isFinite(now)) {
         return q->rect();
-    }
-    // A line that equals another gamut's is drawn otherwise, and that gamut's too.
-    for (const DiagramGamut &gamut : content.gamuts) {
-        if (gamut.role != GamutRole::Target) {
-            const QPolygonF other = viewport.outline(gamut.gamut.getTargets());
-            const auto touches = [&](const QPolygonF &line) {
-                for (int i = 0; i < 3; ++i) {
-                    const QPointF away = line[i] - other[i];
-                    if (!(std::hypot(away.x(), away.y()) < markRoom)) {
-                        return false;
-                    }
-                }
-                return true;
-            };
-            if (other.size() >= 3 && (touches(old) || touches(now))) {
-                return q->rect();
-            }
-        }
     }
     // Everything that changes lies between the old and the new lines, edge by edge.
     QRegion region;
@@ -736,7 +722,7 @@ void DiagramView::setDiagram(Model::Diagram diagram)
     }
     cancelEditing();
     d->look(d->viewport.withDiagram(diagram));
-    d->pictureIsReady = false;
+    d->linesAreReady = false;
     update();
     Q_EMIT diagramChanged();
 }
@@ -904,7 +890,8 @@ void DiagramView::paintEvent(QPaintEvent *event)
         && event->region().subtracted(d->overlay.readoutPlace.toAlignedRect()).isEmpty();
     if (!isReadoutOnly) {
         p.setClipRegion(event->region());
-        p.drawPixmap(QPointF(), d->staticPicture());
+        p.drawImage(QPointF(), d->painter->colors(devicePixelRatioF()));
+        p.drawPixmap(QPointF(), d->linesPicture());
         p.setRenderHint(QPainter::Antialiasing);
         d->painter->paintEdited(&p);
         d->overlay.paint(p, d->viewport.plot(), palette, font());

@@ -74,9 +74,10 @@ public:
 
     // Painting
     void forgetPictures();
-    const QPixmap &staticPicture();
+    const QPixmap &linesPicture();
     void refreshOverlay();
     QRegion overlayRegion(const DiagramOverlay &overlay) const;
+    bool meetsAnother(const Model::Targets &targets) const;
     QRegion editedRegion(const Model::Targets &before, const Model::Targets &after) const;
     void placeLabel();
 
@@ -111,9 +112,8 @@ public:
     QString editNote;
     std::optional<GamutVertex> selected;
 
-    QPixmap picture; //!< ground, colours, scale and gamuts: what an edit changes in parts only
-    bool pictureIsReady = false;
-    bool colorsChanged = false; //!< what the target changes of the picture is still to be painted
+    QPixmap lines; //!< scale and gamuts, which no edit changes, on nothing; the colours below are the painter's
+    bool linesAreReady = false;
 
     Hand hand = Hand::Idle;
     Qt::MouseButton button = Qt::NoButton;
