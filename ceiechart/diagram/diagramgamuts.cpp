@@ -22,6 +22,10 @@ constexpr double equalWidening = 3.0; // of the lower of two equal lines
 constexpr double hatchDistance = 8.0;
 constexpr double nameGap = 6.0; // between a line and its name
 constexpr double labelGap = 3.0; // round any text
+constexpr double platePadding = 4.0; // beside a name
+constexpr double plateRadius = 3.0;
+constexpr double plateOpacity = 0.86;
+constexpr double namedMarks = 30.0; // least distance of marks that have names beside them
 constexpr double handleRoom = 11.0; // round the corners of a target, where handles are
 constexpr double markRadius = 4.0;
 constexpr double whiteRadius = 5.0;
@@ -51,12 +55,6 @@ QPointF xyOf(const Model::Target &target)
 QString nameOf(const DiagramGamut &gamut)
 {
     return QString::fromStdString(gamut.gamut.colorGamutName());
-}
-
-bool areEqual(const QPolygonF &a, const QPolygonF &b)
-{
-    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(),
-        [](const QPointF &p, const QPointF &q) { return length(p - q) < equalWithin; });
 }
 
 QColor faded(QColor color, double share)
@@ -139,7 +137,7 @@ public:
     {
         for (size_t i = 0; i < m_shown.size(); ++i) {
             if (m_shown[i].role != GamutRole::Target) {
-                drawOutline(m_shown[i], equalsAbove(i, false));
+                drawOutline(i, false);
             }
         }
         return std::move(m_step);
@@ -155,7 +153,7 @@ public:
             const bool isTarget = m_shown[i].role == GamutRole::Target;
             // What the target would cover comes out on both sides of it.
             if (isTarget || equalsAbove(i, false) != equalsAbove(i, true)) {
-                drawOutline(m_shown[i], equalsAbove(i, true));
+                drawOutline(i, true);
             }
         }
         if (m_sheet.shows(DiagramLayer::Rings)) {
@@ -186,29 +184,47 @@ private:
         QPolygonF corners;
     };
 
+    //! Whether the outlines number \a i and \a k fall on one another.
+    bool areEqual(size_t i, size_t k) const
+    {
+        const QPolygonF &a = m_shown[i].corners;
+        const QPolygonF &b = m_shown[k].corners;
+        return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(),
+            [](const QPointF &p, const QPointF &q) { return length(p - q) < equalWithin; });
+    }
+
+    bool isDrawn(size_t i, bool targetsToo) const { return targetsToo || m_shown[i].role != GamutRole::Target; }
+
     //! How many gamuts that are drawn later equal number \a i.
     int equalsAbove(size_t i, bool targetsToo) const
     {
         int count = 0;
         for (size_t k = i + 1; k < m_shown.size(); ++k) {
-            count += (targetsToo || m_shown[k].role != GamutRole::Target)
-                    && areEqual(m_shown[i].corners, m_shown[k].corners)
-                ? 1
-                : 0;
+            count += isDrawn(k, targetsToo) && areEqual(i, k) ? 1 : 0;
         }
         return count;
     }
 
-    void drawOutline(const Shown &gamut, int equals)
+    bool hasEqualBelow(size_t i) const
     {
-        QPen pen = DiagramPainter::gamutPen(gamut.role);
-        pen.setWidthF(pen.widthF() + equals * equalWidening);
-        if (equals > 0) {
-            // Dashes of the same length, not of the same number of widths: a wide line shows beside the gaps too.
-            pen.setStyle(Qt::SolidLine);
-            pen.setCapStyle(Qt::FlatCap);
+        for (size_t k = 0; k < i; ++k) {
+            if (areEqual(i, k)) {
+                return true;
+            }
         }
-        drawCased(m_step.drawing, gamut.corners, true, m_plot, pen, m_palette.casing);
+        return false;
+    }
+
+    //! Of gamuts that equal one another the lower ones are wider, so that each shows on both sides of the next.
+    void drawOutline(size_t i, bool targetsToo)
+    {
+        QPen pen = DiagramPainter::gamutPen(m_shown[i].role);
+        const int equals = equalsAbove(i, targetsToo);
+        if (equals > 0) {
+            pen = QPen(pen.color(), pen.widthF() + equals * equalWidening, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+        }
+        drawCased(m_step.drawing, m_shown[i].corners, true, m_plot, pen,
+            hasEqualBelow(i) ? QColor(Qt::transparent) : m_palette.casing);
     }
 
     void drawCommonArea()
@@ -247,7 +263,7 @@ private:
         const QPointF origin = m_sheet.viewport.fromPoint(QPointF());
         const double phase = std::fmod(origin.x() + origin.y(), hatchDistance);
         const double last = m_plot.right() + m_plot.bottom();
-        QPainterPath hatch;
+        QVector<QLineF> hatch;
         for (double sum = phase - hatchDistance; sum < last; sum += hatchDistance) {
             const auto line
                 = partWithin(QLineF(m_plot.left(), sum - m_plot.left(), m_plot.right(), sum - m_plot.right()), m_plot);
@@ -257,8 +273,7 @@ private:
             }
             const auto drawPart = [&](double from, double to) {
                 if (to > from) {
-                    hatch.moveTo(line->pointAt(from));
-                    hatch.lineTo(line->pointAt(to));
+                    hatch.append(QLineF(line->pointAt(from), line->pointAt(to)));
                 }
             };
             const auto hidden = sharesWithin(*line, kept);
@@ -267,7 +282,7 @@ private:
                 drawPart(std::max(within->first, hidden->second), within->second);
             }
         }
-        m_step.drawing.shape(hatch, QPen(m_palette.hatch, 1.0, Qt::SolidLine, Qt::FlatCap), Qt::NoBrush);
+        m_step.drawing.lines(hatch, QPen(m_palette.hatch, 1.0, Qt::SolidLine, Qt::FlatCap));
     }
 
     void drawRings(const DiagramRings &rings)
@@ -299,11 +314,13 @@ private:
             if (bounds.height() < 3.2 * size.height()) {
                 continue;
             }
-            for (const double y : {bounds.bottom(), bounds.top()}) {
-                const QRectF place(QPointF(centre.x(), y) - QPointF(size.width(), size.height()) / 2.0, size);
+            const auto ends = std::minmax_element(
+                curve.cbegin(), curve.cend(), [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
+            for (const QPointF &end : {*ends.second, *ends.first}) {
+                const QRectF place(end - QPointF(size.width(), size.height()) / 2.0, size);
                 if (m_step.places.isFree(place, m_plot, labelGap)) {
                     m_step.places.add(DiagramLabel::Kind::Ring, number, place);
-                    m_step.drawing.textIn(place, number, style, color, m_palette.ground);
+                    m_step.texts.textIn(place, number, style, color, m_palette.ground);
                     break;
                 }
             }
@@ -478,7 +495,8 @@ private:
             const TextStyle &style = gamut->role == GamutRole::Standard ? m_sheet.fonts.texts : m_sheet.fonts.names;
             QRectF best;
             int least = std::numeric_limits<int>::max();
-            for (const QRectF &place : namePlaces(*gamut, style.size(name))) {
+            const QSizeF size = style.size(name) + QSizeF(2.0 * platePadding, 0.0);
+            for (const QRectF &place : namePlaces(*gamut, size)) {
                 const bool isOnHandle = std::any_of(handles.cbegin(), handles.cend(),
                     [&place](const QRectF &handle) { return handle.intersects(place); });
                 if (isOnHandle || !m_step.places.isFree(place, m_plot, labelGap)) {
@@ -495,14 +513,24 @@ private:
             }
             if (!best.isNull()) {
                 m_step.places.add(DiagramLabel::Kind::Gamut, name, best, gamut->index);
-                m_step.drawing.textIn(
-                    best, name, style, DiagramPainter::gamutPen(gamut->role).color(), m_palette.ground);
+                QPainterPath plate;
+                plate.addRoundedRect(best, plateRadius, plateRadius);
+                m_step.texts.shape(plate, Qt::NoPen, faded(m_palette.ground, plateOpacity));
+                m_step.texts.textIn(best.adjusted(platePadding, 0.0, -platePadding, 0.0), name, style,
+                    DiagramPainter::gamutPen(gamut->role).color());
             }
         }
     }
 
     void drawMarkName(const QPointF &at, const QString &name)
     {
+        const auto isNear = [&at](const QRectF &mark) {
+            const double distance = length(mark.center() - at);
+            return distance > 0.5 && distance < namedMarks;
+        };
+        if (std::any_of(m_marks.cbegin(), m_marks.cend(), isNear)) {
+            return;
+        }
         const TextStyle &style = m_sheet.fonts.texts;
         const QSizeF size = style.size(name);
         for (const QPointF &way : {QPointF(1.0, 0.0), QPointF(-1.0, 0.0), QPointF(0.0, -1.0), QPointF(0.0, 1.0)}) {
@@ -514,7 +542,7 @@ private:
                 m_marks.cbegin(), m_marks.cend(), [&place](const QRectF &mark) { return mark.intersects(place); });
             if (!coversMark && m_step.places.isFree(place, m_plot, labelGap)) {
                 m_step.places.add(DiagramLabel::Kind::Mark, name, place);
-                m_step.drawing.textIn(place, name, style, m_palette.text, m_palette.casing);
+                m_step.texts.textIn(place, name, style, m_palette.text, m_palette.casing);
                 return;
             }
         }
@@ -536,7 +564,7 @@ void drawCased(DrawList &list, const QPolygonF &points, bool closed, const QRect
     const QColor &casingColor)
 {
     const std::vector<LinePart> parts = partsWithin(points, closed, area);
-    for (const LinePart &part : parts) {
+    for (const LinePart &part : casingColor.alpha() > 0 ? parts : std::vector<LinePart>()) {
         const QPen under(casingColor, pen.widthF() + casing, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
         list.line(part.points, part.closed, under);
     }

@@ -55,7 +55,7 @@ QFont weighted(QFont font, QFont::Weight weight)
 
 DiagramFonts::DiagramFonts(const QFont &font, const QPaintDevice *device, double unit)
     : numbers(scaled(font, numbersShare), device, unit)
-    , names(weighted(font, QFont::DemiBold), device, unit)
+    , names(weighted(font, QFont::Bold), device, unit)
     , texts(scaled(font, numbersShare), device, unit)
     , axes(weighted(font, QFont::Bold), device, unit)
 {
@@ -229,6 +229,8 @@ void DiagramPainter::paint(QPainter *painter, const QRectF &place) const
     scale.drawing.paint(painter);
     gamuts.drawing.paint(painter);
     edited.drawing.paint(painter);
+    scale.texts.paint(painter);
+    edited.texts.paint(painter);
     painter->restore();
 }
 
@@ -250,6 +252,8 @@ void DiagramPainter::paintGamuts(QPainter *painter) const
 void DiagramPainter::paintEdited(QPainter *painter) const
 {
     d->editedLayout().drawing.paint(painter);
+    d->scaleLayout().texts.paint(painter);
+    d->editedLayout().texts.paint(painter);
 }
 
 QVector<DiagramLabel> DiagramPainter::labels() const

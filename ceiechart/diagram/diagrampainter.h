@@ -111,7 +111,7 @@ public:
      */
     const QImage &colors(qreal devicePixelRatio, QRegion *changed = nullptr, QPoint *scrolled = nullptr);
 
-    /*! \brief Grid, axes, locus, wavelengths, Planckian locus, isotherms: what no edit changes. */
+    /*! \brief Grid, axes, locus, wavelengths, Planckian locus, isotherms without temperatures: what no edit changes. */
     void paintScale(QPainter *painter) const;
     /*! \brief Outlines of all gamuts but targets. */
     void paintGamuts(QPainter *painter) const;

@@ -18,18 +18,22 @@ constexpr double numberGap = 6.0; // between an axis and its numbers
 constexpr double edgeGap = 4.0; // between texts and the edge of the whole
 constexpr double tickRoom = 14.0; // beside a number on the level axis, at least
 constexpr double rowsPerTick = 2.8; // heights of a text from tick to tick on the upright axis, at least
+constexpr double mostTicks = 12.0; // on the shorter axis: more are not read better
 constexpr double locusWidth = 1.5;
 constexpr double tickWidth = 1.0;
+constexpr double casingOfTicks = 2.0; // on both sides together
 constexpr double shortTick = 4.0;
 constexpr double longTick = 7.0;
 constexpr double tickGap = 3.0; // between a tick and its number
 constexpr double wavelengthTicks = 7.0; // least distance of ticks
 constexpr double wavelengthNumbers = 34.0; // least distance of the middles of numbers
 constexpr double isothermLines = 30.0; // least distance of isotherms
+constexpr double mostIsotherms = 24.0; // side by side on the shorter side of the plot
 constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
 constexpr double labelGap = 3.0; // round any text
 
-constexpr double isothermDuv = 0.02; // of the ends of isotherms
+constexpr double isothermDuv = 0.02; // of the ends of isotherms, at most
+constexpr double wholeIsothermDuv = 0.011; // where the whole horseshoe is seen, lest they cover it
 constexpr double coolest = 998.0; // mired, of the isotherms
 constexpr double hottest = 12.0;
 constexpr double closestIsotherms = 1.0; // kelvin
@@ -55,6 +59,13 @@ QRectF besides(const QPointF &at, const QPointF &way, const QSizeF &size)
         way.y() != 0.0 ? size.height() / 2.0 / std::fabs(way.y()) : HUGE_VAL);
     const QPointF centre = at + way * reach;
     return QRectF(centre - QPointF(size.width(), size.height()) / 2.0, size);
+}
+
+//! Steps of 2 nm and less would look restless beside those of 5.
+TickScale wavelengthScale(double least)
+{
+    const TickScale scale = ticksAtLeast(least);
+    return scale.digit == 2 && scale.exponent < 1 ? TickScale{5, scale.exponent} : scale;
 }
 
 bool isApart(const QVector<QPointF> &centres, const QPointF &centre, double distance)
@@ -98,11 +109,13 @@ private:
     TickScale ticks() const
     {
         const TextStyle &style = m_sheet.fonts.numbers;
-        TickScale scale = ticksAtLeast(rowsPerTick * style.height() / m_viewport.scale());
+        const double rows
+            = std::max(rowsPerTick * style.height(), std::min(m_plot.width(), m_plot.height()) / mostTicks);
+        TickScale scale = ticksAtLeast(rows / m_viewport.scale());
         // More decimals need more room, and may be more for it: once more is enough.
         for (int round = 0; round < 2; ++round) {
             const QString number = QString::number(0.0, 'f', scale.decimals());
-            const double least = std::max(rowsPerTick * style.height(), style.width(number) + tickRoom);
+            const double least = std::max(rows, style.width(number) + tickRoom);
             scale = ticksAtLeast(least / m_viewport.scale());
         }
         return scale;
@@ -197,6 +210,7 @@ private:
         double nanometres;
         QPointF foot;
         QPointF outwards; // of length 1
+        bool mayBeNumbered;
     };
 
     //! What has a tick, from the roundest on.
@@ -210,15 +224,19 @@ private:
             const QPointF way = to - from;
             const QRectF bounds = QRectF(from, to).normalized().adjusted(-1.0, -1.0, 1.0, 1.0);
             if (bounds.intersects(near) && length(way) > 0.0) {
-                const double step = std::max(closestWavelengths, roundStep(wavelengthTicks / length(way)));
-                const TickScale scale = ticksAtLeast(step);
-                for (const qint64 number : scale.within(whole, whole + 1.0 - step / 2.0)) {
+                const TickScale scale = wavelengthScale(std::max(closestWavelengths, wavelengthTicks / length(way)));
+                const TickScale numbers
+                    = wavelengthScale(std::max(closestWavelengths, wavelengthNumbers / length(way)));
+                const double step = scale.step();
+                for (const qint64 number : scale.within(whole, whole + std::max(0.5, 1.0 - step / 2.0))) {
                     const double nanometres = scale.value(number);
                     const QPointF along
                         = spectralPosition(nanometres + step / 8.0) - spectralPosition(nanometres - step / 8.0);
                     const QPointF foot = spectralPosition(nanometres);
                     if (near.contains(foot)) {
-                        result.append({nanometres, foot, unit(QPointF(along.y(), -along.x()))});
+                        const double numbered = nanometres / numbers.step();
+                        result.append({nanometres, foot, unit(QPointF(along.y(), -along.x())),
+                            std::fabs(numbered - std::round(numbered)) < 1e-6});
                     }
                 }
             }
@@ -237,8 +255,8 @@ private:
             const QPointF tip = wavelength.foot + wavelength.outwards * longTick;
             const QString number = QString::number(wavelength.nanometres, 'g', 6);
             const QRectF place = besides(tip + wavelength.outwards * tickGap, wavelength.outwards, style.size(number));
-            const bool isNumbered
-                = isApart(numbered, place.center(), wavelengthNumbers) && m_step.places.isFree(place, m_plot, labelGap);
+            const bool isNumbered = wavelength.mayBeNumbered && isApart(numbered, place.center(), wavelengthNumbers)
+                && m_step.places.isFree(place, m_plot, labelGap);
             if (isNumbered) {
                 numbered.append(place.center());
                 m_step.places.add(DiagramLabel::Kind::Wavelength, number, place);
@@ -267,7 +285,8 @@ private:
         const LocusPoint foot = planckianPoint(mired);
         const auto at
             = [&](double duv) { return toPosition(fromUv1960(m_viewport.diagram(), foot.uv + foot.normal * duv)); };
-        return QLineF(at(-isothermDuv), at(isothermDuv));
+        const double reach = std::min(isothermDuv, wholeIsothermDuv * std::sqrt(m_viewport.zoom()));
+        return QLineF(at(-reach), at(reach));
     }
 
     //! The reciprocal temperatures of which isotherms can be seen.
@@ -318,7 +337,8 @@ private:
             };
             const double perMired = length(at(mired + 1.0) - at(mired));
             const double perKelvin = perMired * kelvinTimesMired / (kelvin * kelvin);
-            return std::max(closestIsotherms, roundStep(isothermLines / perKelvin));
+            const double distance = std::max(isothermLines, std::min(m_plot.width(), m_plot.height()) / mostIsotherms);
+            return std::max(closestIsotherms, roundStep(distance / perKelvin));
         };
         double kelvin = kelvinTimesMired / seen->second;
         while (true) {
@@ -344,10 +364,12 @@ private:
     {
         const TextStyle &style = m_sheet.fonts.numbers;
         const QVector<Isotherm> lines = isotherms();
+        QVector<QLineF> drawn;
         for (const Isotherm &isotherm : lines) {
-            drawCased(m_step.drawing, QPolygonF(QVector<QPointF>{isotherm.line.p1(), isotherm.line.p2()}), false,
-                m_plot, pen(m_palette.planckian, tickWidth), m_palette.casing);
+            drawn.append(isotherm.line);
         }
+        m_step.drawing.lines(drawn, QPen(m_palette.casing, tickWidth + casingOfTicks, Qt::SolidLine, Qt::FlatCap));
+        m_step.drawing.lines(drawn, QPen(m_palette.planckian, tickWidth, Qt::SolidLine, Qt::FlatCap));
         QVector<QPointF> numbered;
         for (const Isotherm &isotherm : lines) {
             const QString number = QString::number(isotherm.kelvin, 'f', 0) + QStringLiteral(" K");
@@ -364,7 +386,7 @@ private:
                     && m_step.places.isFree(place, m_plot, labelGap)) {
                     numbered.append(place.center());
                     m_step.places.add(DiagramLabel::Kind::Isotherm, number, place);
-                    m_step.drawing.textIn(place, number, style, m_palette.planckian, m_palette.casing);
+                    m_step.texts.textIn(place, number, style, m_palette.planckian, m_palette.casing);
                     break;
                 }
             }
@@ -386,10 +408,11 @@ QMarginsF diagramMargins(const DiagramContent &content, const DiagramFonts &font
     if (!content.layers.testFlag(DiagramLayer::Axes)) {
         return QMarginsF();
     }
-    const double height = std::max(fonts.numbers.height(), fonts.axes.height());
-    return QMarginsF(std::ceil(edgeGap + fonts.numbers.width(widestNumber) + numberGap),
-        std::ceil(edgeGap + height / 2.0), std::ceil(2.0 * edgeGap + fonts.axes.width(QStringLiteral("m")) / 2.0),
-        std::ceil(2.0 * edgeGap + height));
+    const QSizeF number = fonts.numbers.designedSize(widestNumber);
+    const QSizeF name = fonts.axes.designedSize(QStringLiteral("m"));
+    const double height = std::ceil(std::max(number.height(), name.height()));
+    return QMarginsF(std::ceil(edgeGap + number.width() + numberGap), std::ceil(edgeGap + height / 2.0),
+        std::ceil(2.0 * edgeGap + name.width() / 2.0), std::ceil(2.0 * edgeGap + height));
 }
 
 DiagramStep scaleStep(const DiagramSheet &sheet)

@@ -47,7 +47,8 @@ QMarginsF diagramMargins(const DiagramContent &content, const DiagramFonts &font
 
 /*! \brief What is painted and the texts in it. */
 struct DiagramStep {
-    DrawList drawing;
+    DrawList drawing; //!< lines and marks
+    DrawList texts; //!< what no line of a later step may cross
     LabelPlaces places; //!< those of the steps before as well
 };
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/drawlist_p.h>
+#include <ceiechart/diagram/polylines_p.h>
 
 #include <QGuiApplication>
 #include <QPaintEngine>
@@ -15,7 +16,7 @@ namespace {
 
 constexpr double pointsPerInch = 72.0;
 constexpr double casingWidth = 3.0; // of texts, logical pixels
-constexpr double pathPixelSize = 100.0; // at which hinting plays no part
+constexpr int designPixelSize = 100; // large enough for rounding to play no part
 
 double dotsPerInch(const QPaintDevice *device)
 {
@@ -30,6 +31,13 @@ QFontMetricsF metricsOf(const QFont &font, const QPaintDevice *device)
 {
     // Not all versions of Qt take a device that is constant.
     return device ? QFontMetricsF(font, const_cast<QPaintDevice *>(device)) : QFontMetricsF(font);
+}
+
+QFont designed(QFont font)
+{
+    font.setPixelSize(designPixelSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
 }
 
 //! Whether positions on the device are whole pixels of a picture that is looked at as it is.
@@ -47,6 +55,75 @@ bool hasPixels(const QPainter &painter)
     }
 }
 
+bool isRaster(const QPainter &painter)
+{
+    return painter.paintEngine()->type() == QPaintEngine::Raster
+        && painter.deviceTransform().type() <= QTransform::TxScale;
+}
+
+/*!
+ * Adds the pieces of the line through \a points, each a little longer so that no seam shows.
+ *
+ * The raster engine paints straight lines with flat ends many times faster than the outline of a polygon.
+ */
+void addPieces(QVector<QLineF> &pieces, const QPolygonF &points, bool closed)
+{
+    constexpr double overlap = 0.3;
+    const int count = int(points.size()) - (closed ? 0 : 1);
+    for (int i = 0; i < count; ++i) {
+        const QPointF &from = points.at(i);
+        const QPointF &to = points.at((i + 1) % points.size());
+        const double length = std::hypot(to.x() - from.x(), to.y() - from.y());
+        if (length > 0.0) {
+            const QPointF more = (to - from) * (overlap / length);
+            pieces.append(QLineF(closed || i > 0 ? from - more : from, closed || i + 1 < count ? to + more : to));
+        }
+    }
+}
+
+//! Rounds corners that are sharp enough to show a notch between two pieces.
+void addCorners(QVector<QPointF> &corners, const QPolygonF &points, bool closed)
+{
+    constexpr double straight = 0.98; // cosine
+    const int count = int(points.size());
+    for (int i = closed ? 0 : 1; i < count - (closed ? 0 : 1); ++i) {
+        const QPointF in = points.at(i) - points.at((i + count - 1) % count);
+        const QPointF out = points.at((i + 1) % count) - points.at(i);
+        const double lengths = std::hypot(in.x(), in.y()) * std::hypot(out.x(), out.y());
+        if (QPointF::dotProduct(in, out) < straight * lengths) {
+            corners.append(points.at(i));
+        }
+    }
+}
+
+void paintPieces(QPainter &painter, const QPolygonF &points, bool closed, QPen pen)
+{
+    QVector<QLineF> pieces;
+    QVector<QPointF> corners;
+    if (pen.style() == Qt::SolidLine) {
+        addPieces(pieces, points, closed);
+        addCorners(corners, points, closed);
+    } else {
+        std::vector<double> pattern;
+        for (const qreal part : pen.dashPattern()) {
+            pattern.push_back(part * pen.widthF());
+        }
+        for (const QPolygonF &dash : dashesOf(points, closed, pattern, pen.dashOffset() * pen.widthF())) {
+            addPieces(pieces, dash, false);
+            addCorners(corners, dash, false);
+        }
+        pen.setStyle(Qt::SolidLine);
+    }
+    pen.setCapStyle(Qt::FlatCap);
+    painter.setPen(pen);
+    painter.drawLines(pieces);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(pen.color());
+    for (const QPointF &corner : corners) {
+        painter.drawEllipse(corner, pen.widthF() / 2.0, pen.widthF() / 2.0);
+    }
+}
+
 } // namespace
 
 TextStyle::TextStyle(const QFont &font, const QPaintDevice *device, double unit)
@@ -57,6 +134,13 @@ TextStyle::TextStyle(const QFont &font, const QPaintDevice *device, double unit)
 {
 }
 
+QSizeF TextStyle::designedSize(const QString &text) const
+{
+    const QFontMetricsF metrics(designed(m_font));
+    return QSizeF(metrics.horizontalAdvance(text), metrics.ascent() + metrics.descent())
+        * (m_pixelSize / designPixelSize);
+}
+
 void DrawList::hairline(const QLineF &line, const QColor &color)
 {
     m_items.push_back(Hairline{line, color});
@@ -65,6 +149,11 @@ void DrawList::hairline(const QLineF &line, const QColor &color)
 void DrawList::line(const QPolygonF &points, bool closed, const QPen &pen)
 {
     m_items.push_back(Line{points, closed, pen});
+}
+
+void DrawList::lines(const QVector<QLineF> &lines, const QPen &pen)
+{
+    m_items.push_back(Lines{lines, pen});
 }
 
 void DrawList::shape(const QPainterPath &path, const QPen &pen, const QBrush &brush)
@@ -126,6 +215,10 @@ void DrawList::paintItem(QPainter *painter, const Hairline &item)
 
 void DrawList::paintItem(QPainter *painter, const Line &item)
 {
+    if (isRaster(*painter)) {
+        paintPieces(*painter, item.points, item.closed, item.pen);
+        return;
+    }
     painter->setPen(item.pen);
     painter->setBrush(Qt::NoBrush);
     if (item.closed) {
@@ -133,6 +226,12 @@ void DrawList::paintItem(QPainter *painter, const Line &item)
     } else {
         painter->drawPolyline(item.points);
     }
+}
+
+void DrawList::paintItem(QPainter *painter, const Lines &item)
+{
+    painter->setPen(item.pen);
+    painter->drawLines(item.lines);
 }
 
 void DrawList::paintItem(QPainter *painter, const Shape &item)
@@ -144,6 +243,17 @@ void DrawList::paintItem(QPainter *painter, const Shape &item)
 
 void DrawList::paintItem(QPainter *painter, const Ellipse &item)
 {
+    constexpr double large = 20.0;
+    if (item.brush == Qt::NoBrush && isRaster(*painter) && std::max(item.radiusX, item.radiusY) > large) {
+        QPolygonF points;
+        const int count = int(std::min(2000.0, 4.0 * std::max(item.radiusX, item.radiusY)));
+        for (int i = 0; i < count; ++i) {
+            const double angle = 2.0 * M_PI * i / count;
+            points.append(item.centre + QPointF(item.radiusX * std::cos(angle), item.radiusY * std::sin(angle)));
+        }
+        paintPieces(*painter, points, true, item.pen);
+        return;
+    }
     painter->setPen(item.pen);
     painter->setBrush(item.brush);
     painter->drawEllipse(item.centre, item.radiusX, item.radiusY);
@@ -151,12 +261,21 @@ void DrawList::paintItem(QPainter *painter, const Ellipse &item)
 
 void DrawList::paintItem(QPainter *painter, const Text &item)
 {
-    if (item.casing.isValid()) {
-        QFont font = item.font;
-        font.setPixelSize(int(pathPixelSize));
+    if (item.casing.isValid() && isRaster(*painter) && item.unit == 1.0) {
+        // The glyphs are kept as pictures: to put them down eight times is faster than to stroke their outlines once.
+        constexpr double reach = casingWidth / 2.0;
+        constexpr double aslant = reach * 0.7;
+        painter->setPen(item.casing);
+        painter->setFont(item.font);
+        for (const QPointF &way : {QPointF(reach, 0.0), QPointF(-reach, 0.0), QPointF(0.0, reach), QPointF(0.0, -reach),
+                 QPointF(aslant, aslant), QPointF(-aslant, aslant), QPointF(aslant, -aslant),
+                 QPointF(-aslant, -aslant)}) {
+            painter->drawText(item.at + way, item.text);
+        }
+    } else if (item.casing.isValid()) {
         QPainterPath glyphs;
-        glyphs.addText(QPointF(), font, item.text);
-        const double scale = item.pixelSize / pathPixelSize;
+        glyphs.addText(QPointF(), designed(item.font), item.text);
+        const double scale = item.pixelSize / designPixelSize;
         const QTransform place(scale, 0.0, 0.0, scale, item.at.x(), item.at.y());
         painter->setPen(QPen(item.casing, casingWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter->setBrush(Qt::NoBrush);

@@ -38,6 +38,8 @@ public:
     QSizeF size(const QString &text) const { return QSizeF(width(text), height()); }
     //! The size of an em in logical pixels.
     double pixelSize() const { return m_pixelSize; }
+    //! The size of \a text as designed, which is the same on every device: hinting plays no part.
+    QSizeF designedSize(const QString &text) const;
 
 private:
     QFont m_font;
@@ -53,6 +55,8 @@ public:
     void hairline(const QLineF &line, const QColor &color);
     //! A line, or the outline of a polygon.
     void line(const QPolygonF &points, bool closed, const QPen &pen);
+    //! Lines that do not hang together.
+    void lines(const QVector<QLineF> &lines, const QPen &pen);
     //! Any shape.
     void shape(const QPainterPath &path, const QPen &pen, const QBrush &brush);
     //! An ellipse with level and upright axes.
@@ -74,6 +78,10 @@ private:
     struct Line {
         QPolygonF points;
         bool closed;
+        QPen pen;
+    };
+    struct Lines {
+        QVector<QLineF> lines;
         QPen pen;
     };
     struct Shape {
@@ -99,11 +107,12 @@ private:
     };
     static void paintItem(QPainter *painter, const Hairline &item);
     static void paintItem(QPainter *painter, const Line &item);
+    static void paintItem(QPainter *painter, const Lines &item);
     static void paintItem(QPainter *painter, const Shape &item);
     static void paintItem(QPainter *painter, const Ellipse &item);
     static void paintItem(QPainter *painter, const Text &item);
 
-    std::vector<std::variant<Hairline, Line, Shape, Ellipse, Text>> m_items;
+    std::vector<std::variant<Hairline, Line, Lines, Shape, Ellipse, Text>> m_items;
 };
 
 } // namespace ceiechart

@@ -103,4 +103,50 @@ std::optional<std::pair<double, double>> sharesWithin(const QLineF &line, const 
     return area != 0.0 && first < last ? std::make_optional(std::make_pair(first, last)) : std::nullopt;
 }
 
+std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std::vector<double> &pattern, double begin)
+{
+    std::vector<QPolygonF> dashes;
+    double period = 0.0;
+    for (const double part : pattern) {
+        period += part;
+    }
+    if (!(period > 0.0) || points.size() < 2) {
+        return dashes;
+    }
+    size_t part = 0;
+    double left = std::fmod(begin, period); // of the dash or gap at hand
+    while (left >= pattern[part]) {
+        left -= pattern[part];
+        part = (part + 1) % pattern.size();
+    }
+    left = pattern[part] - left;
+    const auto isDash = [&part] { return part % 2 == 0; };
+    if (isDash()) {
+        dashes.push_back(QPolygonF() << points.first());
+    }
+    for (int i = 0; i + (closed ? 0 : 1) < points.size(); ++i) {
+        const QPointF &from = points.at(i);
+        const QPointF way = points.at((i + 1) % points.size()) - from;
+        const double length = std::hypot(way.x(), way.y());
+        double done = 0.0;
+        while (length - done >= left) {
+            done += left;
+            const QPointF at = from + way * (length > 0.0 ? done / length : 0.0);
+            if (isDash()) {
+                dashes.back().append(at);
+            }
+            part = (part + 1) % pattern.size();
+            left = pattern[part];
+            if (isDash()) {
+                dashes.push_back(QPolygonF() << at);
+            }
+        }
+        left -= length - done;
+        if (isDash()) {
+            dashes.back().append(from + way);
+        }
+    }
+    return dashes;
+}
+
 } // namespace ceiechart

@@ -32,6 +32,14 @@ std::optional<QLineF> partWithin(const QLineF &line, const QRectF &area);
 /*! \brief The part of \a line within the convex \a polygon, as shares of its length from 0 to 1, if any. */
 std::optional<std::pair<double, double>> sharesWithin(const QLineF &line, const QPolygonF &polygon);
 
+/*!
+ * \brief The dashes of the line through \a points.
+ *
+ * \param pattern the lengths of dashes and gaps in turn, an even number
+ * \param begin the length in the pattern at the first point
+ */
+std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std::vector<double> &pattern, double begin);
+
 } // namespace ceiechart
 
 #endif // CEIECHART_DIAGRAM_POLYLINES_P_H
