@@ -118,6 +118,7 @@ public:
         , m_content(sheet.content)
         , m_palette(sheet.palette())
         , m_plot(sheet.viewport.plot())
+        , m_inner(m_plot.adjusted(labelGap, labelGap, -labelGap, -labelGap))
     {
         m_step.places = places;
         for (const GamutRole role : drawingOrder) {
@@ -318,7 +319,7 @@ private:
                 curve.cbegin(), curve.cend(), [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
             for (const QPointF &end : {*ends.second, *ends.first}) {
                 const QRectF place(end - QPointF(size.width(), size.height()) / 2.0, size);
-                if (m_step.places.isFree(place, m_plot, labelGap)) {
+                if (m_step.places.isFree(place, m_inner, labelGap)) {
                     m_step.places.add(DiagramLabel::Kind::Ring, number, place);
                     m_step.texts.textIn(place, number, style, color, m_palette.ground);
                     break;
@@ -499,7 +500,7 @@ private:
             for (const QRectF &place : namePlaces(*gamut, size)) {
                 const bool isOnHandle = std::any_of(handles.cbegin(), handles.cend(),
                     [&place](const QRectF &handle) { return handle.intersects(place); });
-                if (isOnHandle || !m_step.places.isFree(place, m_plot, labelGap)) {
+                if (isOnHandle || !m_step.places.isFree(place, m_inner, labelGap)) {
                     continue;
                 }
                 const int cost = covered(place);
@@ -540,7 +541,7 @@ private:
             const QRectF place(centre - QPointF(size.width(), size.height()) / 2.0, size);
             const bool coversMark = std::any_of(
                 m_marks.cbegin(), m_marks.cend(), [&place](const QRectF &mark) { return mark.intersects(place); });
-            if (!coversMark && m_step.places.isFree(place, m_plot, labelGap)) {
+            if (!coversMark && m_step.places.isFree(place, m_inner, labelGap)) {
                 m_step.places.add(DiagramLabel::Kind::Mark, name, place);
                 m_step.texts.textIn(place, name, style, m_palette.text, m_palette.casing);
                 return;
@@ -552,6 +553,7 @@ private:
     const DiagramContent &m_content;
     const DiagramPalette &m_palette;
     QRectF m_plot;
+    QRectF m_inner; // where texts may stand
     std::vector<Shown> m_shown; // from bottom to top
     QVector<QRectF> m_marks;
     std::vector<std::pair<QPointF, QString>> m_named;

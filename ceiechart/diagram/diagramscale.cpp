@@ -16,7 +16,7 @@ namespace {
 // Logical pixels
 constexpr double numberGap = 6.0; // between an axis and its numbers
 constexpr double edgeGap = 4.0; // between texts and the edge of the whole
-constexpr double tickRoom = 14.0; // beside a number on the level axis, at least
+constexpr double tickRoom = 8.0; // beside a number on the level axis, at least
 constexpr double rowsPerTick = 2.8; // heights of a text from tick to tick on the upright axis, at least
 constexpr double mostTicks = 12.0; // on the shorter axis: more are not read better
 constexpr double locusWidth = 1.5;
@@ -81,6 +81,7 @@ public:
         , m_viewport(sheet.viewport)
         , m_palette(sheet.palette())
         , m_plot(sheet.viewport.plot())
+        , m_inner(m_plot.adjusted(labelGap, labelGap, -labelGap, -labelGap))
         , m_whole(QPointF(), sheet.viewport.size())
     {
     }
@@ -106,17 +107,22 @@ public:
 private:
     QPointF toPosition(const QPointF &point) const { return m_viewport.fromPoint(point); }
 
-    TickScale ticks() const
+    double tickRows() const
+    {
+        return std::max(
+            rowsPerTick * m_sheet.fonts.numbers.height(), std::min(m_plot.width(), m_plot.height()) / mostTicks);
+    }
+
+    TickScale ticksUp() const { return ticksAtLeast(tickRows() / m_viewport.scale()); }
+
+    TickScale ticksAcross() const
     {
         const TextStyle &style = m_sheet.fonts.numbers;
-        const double rows
-            = std::max(rowsPerTick * style.height(), std::min(m_plot.width(), m_plot.height()) / mostTicks);
-        TickScale scale = ticksAtLeast(rows / m_viewport.scale());
+        TickScale scale = ticksUp();
         // More decimals need more room, and may be more for it: once more is enough.
         for (int round = 0; round < 2; ++round) {
             const QString number = QString::number(0.0, 'f', scale.decimals());
-            const double least = std::max(rows, style.width(number) + tickRoom);
-            scale = ticksAtLeast(least / m_viewport.scale());
+            scale = ticksAtLeast(std::max(tickRows(), style.width(number) + tickRoom) / m_viewport.scale());
         }
         return scale;
     }
@@ -128,17 +134,18 @@ private:
         if (!isGrid && !isNumbered) {
             return;
         }
-        const TickScale scale = ticks();
+        const TickScale acrossScale = ticksAcross();
+        const TickScale upScale = ticksUp();
         const QRectF range = m_viewport.range();
-        const QVector<qint64> across = scale.within(range.left(), range.right());
-        const QVector<qint64> up = scale.within(range.top(), range.bottom());
+        const QVector<qint64> across = acrossScale.within(range.left(), range.right());
+        const QVector<qint64> up = upScale.within(range.top(), range.bottom());
         if (isGrid) {
             for (const qint64 tick : across) {
-                const double x = toPosition(QPointF(scale.value(tick), 0.0)).x();
+                const double x = toPosition(QPointF(acrossScale.value(tick), 0.0)).x();
                 m_step.drawing.hairline(QLineF(x, m_plot.top(), x, m_plot.bottom()), m_palette.grid);
             }
             for (const qint64 tick : up) {
-                const double y = toPosition(QPointF(0.0, scale.value(tick))).y();
+                const double y = toPosition(QPointF(0.0, upScale.value(tick))).y();
                 m_step.drawing.hairline(QLineF(m_plot.left(), y, m_plot.right(), y), m_palette.grid);
             }
         }
@@ -150,14 +157,15 @@ private:
         drawNames();
         const TextStyle &style = m_sheet.fonts.numbers;
         for (const qint64 tick : across) {
-            const double x = toPosition(QPointF(scale.value(tick), 0.0)).x();
-            const QSizeF size = style.size(scale.text(tick));
-            drawNumber(scale.text(tick), QRectF(QPointF(x - size.width() / 2.0, m_plot.bottom() + edgeGap), size));
+            const double x = toPosition(QPointF(acrossScale.value(tick), 0.0)).x();
+            const QSizeF size = style.size(acrossScale.text(tick));
+            drawNumber(
+                acrossScale.text(tick), QRectF(QPointF(x - size.width() / 2.0, m_plot.bottom() + edgeGap), size));
         }
         for (const qint64 tick : up) {
-            const double y = toPosition(QPointF(0.0, scale.value(tick))).y();
-            const QSizeF size = style.size(scale.text(tick));
-            drawNumber(scale.text(tick),
+            const double y = toPosition(QPointF(0.0, upScale.value(tick))).y();
+            const QSizeF size = style.size(upScale.text(tick));
+            drawNumber(upScale.text(tick),
                 QRectF(QPointF(m_plot.left() - numberGap - size.width(), y - size.height() / 2.0), size));
         }
     }
@@ -256,7 +264,7 @@ private:
             const QString number = QString::number(wavelength.nanometres, 'g', 6);
             const QRectF place = besides(tip + wavelength.outwards * tickGap, wavelength.outwards, style.size(number));
             const bool isNumbered = wavelength.mayBeNumbered && isApart(numbered, place.center(), wavelengthNumbers)
-                && m_step.places.isFree(place, m_plot, labelGap);
+                && m_step.places.isFree(place, m_inner, labelGap);
             if (isNumbered) {
                 numbered.append(place.center());
                 m_step.places.add(DiagramLabel::Kind::Wavelength, number, place);
@@ -383,7 +391,7 @@ private:
                 const QRectF place = isEnd ? besides(at + way * tickGap, way, size)
                                            : QRectF(at - QPointF(size.width(), size.height()) / 2.0, size);
                 if (isApart(numbered, place.center(), isothermNumbers)
-                    && m_step.places.isFree(place, m_plot, labelGap)) {
+                    && m_step.places.isFree(place, m_inner, labelGap)) {
                     numbered.append(place.center());
                     m_step.places.add(DiagramLabel::Kind::Isotherm, number, place);
                     m_step.texts.textIn(place, number, style, m_palette.planckian, m_palette.casing);
@@ -397,6 +405,7 @@ private:
     const DiagramViewport &m_viewport;
     const DiagramPalette &m_palette;
     QRectF m_plot;
+    QRectF m_inner; // where texts may stand
     QRectF m_whole;
     DiagramStep m_step;
 };

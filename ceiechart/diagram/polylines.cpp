@@ -142,9 +142,12 @@ std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std:
             }
         }
         left -= length - done;
-        if (isDash()) {
+        if (isDash() && done < length) {
             dashes.back().append(from + way);
         }
+    }
+    if (!dashes.empty() && dashes.back().size() < 2) {
+        dashes.pop_back(); // it would begin where the line ends
     }
     return dashes;
 }
