@@ -17,7 +17,7 @@ namespace {
 constexpr double numberGap = 6.0; // between an axis and its numbers
 constexpr double edgeGap = 4.0; // between texts and the edge of the whole
 constexpr double tickRoom = 8.0; // beside a number on the level axis, at least
-constexpr double rowsPerTick = 2.8; // heights of a text from tick to tick on the upright axis, at least
+constexpr double rowsPerTick = 2.6; // heights of a text from tick to tick on the upright axis, at least
 constexpr double mostTicks = 12.0; // on the shorter axis: more are not read better
 constexpr double locusWidth = 1.5;
 constexpr double tickWidth = 1.0;
