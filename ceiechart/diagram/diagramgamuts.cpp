@@ -32,6 +32,7 @@ constexpr double whiteRadius = 5.0;
 constexpr double whiteArm = 4.0; // of the cross through the target's white
 constexpr double trailRadius = 2.5;
 constexpr double ringWidth = 1.2;
+constexpr double curvePieces = 2.0; // lengths of the pieces of rings, at least
 
 // From bottom to top
 constexpr std::array drawingOrder{
@@ -308,7 +309,7 @@ private:
                     QPen(m_palette.casing, ringWidth + casing), Qt::NoBrush);
                 m_step.drawing.ellipse(bounds.center(), bounds.width() / 2.0, bounds.height() / 2.0, pen, Qt::NoBrush);
             } else {
-                drawCased(m_step.drawing, curve, true, m_plot, pen, m_palette.casing);
+                drawCased(m_step.drawing, thinned(curve, curvePieces), true, m_plot, pen, m_palette.casing);
             }
             const QString number = QString::number(radius, 'g', 6);
             const QSizeF size = style.size(number);

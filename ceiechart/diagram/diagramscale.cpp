@@ -20,6 +20,7 @@ constexpr double tickRoom = 8.0; // beside a number on the level axis, at least
 constexpr double rowsPerTick = 2.6; // heights of a text from tick to tick on the upright axis, at least
 constexpr double mostTicks = 12.0; // on the shorter axis: more are not read better
 constexpr double locusWidth = 1.5;
+constexpr double curvePieces = 3.0; // lengths of the pieces of curves, where there are shorter ones
 constexpr double tickWidth = 1.0;
 constexpr double casingOfTicks = 2.0; // on both sides together
 constexpr double shortTick = 4.0;
@@ -28,7 +29,7 @@ constexpr double tickGap = 3.0; // between a tick and its number
 constexpr double wavelengthTicks = 7.0; // least distance of ticks
 constexpr double wavelengthNumbers = 34.0; // least distance of the middles of numbers
 constexpr double isothermLines = 30.0; // least distance of isotherms
-constexpr double mostIsotherms = 24.0; // side by side on the shorter side of the plot
+constexpr double mostIsotherms = 18.0; // side by side on the shorter side of the plot
 constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
 constexpr double labelGap = 3.0; // round any text
 
@@ -204,7 +205,7 @@ private:
         for (const QPointF &point : spectralLocusIn(m_viewport.diagram(), spectrumDetail(m_viewport.scale()))) {
             points.append(toPosition(point));
         }
-        for (const LinePart &part : partsWithin(points, true, m_plot)) {
+        for (const LinePart &part : partsWithin(thinned(points, curvePieces), true, m_plot)) {
             m_step.drawing.line(part.points, part.closed, pen(m_palette.locus, locusWidth));
         }
     }
@@ -219,6 +220,7 @@ private:
         QPointF foot;
         QPointF outwards; // of length 1
         bool mayBeNumbered;
+        int roundness;
     };
 
     //! What has a tick, from the roundest on.
@@ -226,9 +228,11 @@ private:
     {
         QVector<Wavelength> result;
         const QRectF near = m_plot.adjusted(-longTick, -longTick, longTick, longTick);
-        QPointF from = spectralPosition(shortestWavelength);
-        for (double whole = shortestWavelength; whole < longestWavelength; whole += 1.0) {
-            const QPointF to = spectralPosition(whole + 1.0);
+        const QPolygonF &locus = spectralLocusIn(m_viewport.diagram(), 1);
+        QPointF from = toPosition(locus.first());
+        for (int i = 1; i < locus.size(); ++i) {
+            const double whole = shortestWavelength + i - 1;
+            const QPointF to = toPosition(locus.at(i));
             const QPointF way = to - from;
             const QRectF bounds = QRectF(from, to).normalized().adjusted(-1.0, -1.0, 1.0, 1.0);
             if (bounds.intersects(near) && length(way) > 0.0) {
@@ -244,7 +248,7 @@ private:
                     if (near.contains(foot)) {
                         const double numbered = nanometres / numbers.step();
                         result.append({nanometres, foot, unit(QPointF(along.y(), -along.x())),
-                            std::fabs(numbered - std::round(numbered)) < 1e-6});
+                            std::fabs(numbered - std::round(numbered)) < 1e-6, roundness(nanometres)});
                     }
                 }
             }
@@ -284,7 +288,8 @@ private:
         for (const QPointF &point : planckianLocusIn(m_viewport.diagram())) {
             points.append(toPosition(point));
         }
-        drawCased(m_step.drawing, points, false, m_plot, pen(m_palette.planckian, locusWidth), m_palette.casing);
+        drawCased(m_step.drawing, thinned(points, curvePieces), false, m_plot, pen(m_palette.planckian, locusWidth),
+            m_palette.casing);
     }
 
     //! From below the locus to above it.
