@@ -24,7 +24,7 @@ constexpr double nameGap = 6.0; // between a line and its name
 constexpr double labelGap = 3.0; // round any text
 constexpr double platePadding = 4.0; // beside a name
 constexpr double plateRadius = 3.0;
-constexpr double plateOpacity = 0.86;
+constexpr double plateOpacity = 0.94; // leaves names a contrast of 3:1 on every colour
 constexpr double namedMarks = 30.0; // least distance of marks that have names beside them
 constexpr double handleRoom = 11.0; // round the corners of a target, where handles are
 constexpr double markRadius = 4.0;
@@ -118,6 +118,7 @@ public:
         : m_sheet(sheet)
         , m_content(sheet.content)
         , m_palette(sheet.palette())
+        , m_innerPalette(sheet.innerPalette())
         , m_plot(sheet.viewport.plot())
         , m_inner(m_plot.adjusted(labelGap, labelGap, -labelGap, -labelGap))
     {
@@ -306,10 +307,10 @@ private:
             if (m_plot.contains(bounds) && m_sheet.viewport.diagram() != Model::Diagram::Cie1931) {
                 // As an ellipse, which files keep as one.
                 m_step.drawing.ellipse(bounds.center(), bounds.width() / 2.0, bounds.height() / 2.0,
-                    QPen(m_palette.casing, ringWidth + casing), Qt::NoBrush);
+                    QPen(m_innerPalette.casing, ringWidth + casing), Qt::NoBrush);
                 m_step.drawing.ellipse(bounds.center(), bounds.width() / 2.0, bounds.height() / 2.0, pen, Qt::NoBrush);
             } else {
-                drawCased(m_step.drawing, thinned(curve, curvePieces), true, m_plot, pen, m_palette.casing);
+                drawCased(m_step.drawing, thinned(curve, curvePieces), true, m_plot, pen, m_innerPalette.casing);
             }
             const QString number = QString::number(radius, 'g', 6);
             const QSizeF size = style.size(number);
@@ -322,11 +323,19 @@ private:
                 const QRectF place(end - QPointF(size.width(), size.height()) / 2.0, size);
                 if (m_step.places.isFree(place, m_inner, labelGap)) {
                     m_step.places.add(DiagramLabel::Kind::Ring, number, place);
-                    m_step.texts.textIn(place, number, style, color, m_palette.ground);
+                    drawPlate(place, m_innerPalette);
+                    m_step.texts.textIn(place, number, style, color);
                     break;
                 }
             }
         }
+    }
+
+    void drawPlate(const QRectF &place, const DiagramPalette &palette)
+    {
+        QPainterPath plate;
+        plate.addRoundedRect(place, plateRadius, plateRadius);
+        m_step.texts.shape(plate, Qt::NoPen, faded(palette.ground, plateOpacity));
     }
 
     void drawTrail()
@@ -338,7 +347,8 @@ private:
             if (const auto part = isFinite(at(i)) && isFinite(at(i + 1)) ? partWithin(QLineF(at(i), at(i + 1)), m_plot)
                                                                          : std::nullopt) {
                 const QPolygonF points(QVector<QPointF>{part->p1(), part->p2()});
-                m_step.drawing.line(points, false, QPen(m_palette.casing, 1.5 + casing, Qt::SolidLine, Qt::RoundCap));
+                m_step.drawing.line(
+                    points, false, QPen(m_innerPalette.casing, 1.5 + casing, Qt::SolidLine, Qt::RoundCap));
                 m_step.drawing.line(points, false, QPen(color, 1.5, Qt::SolidLine, Qt::RoundCap));
             }
         }
@@ -346,7 +356,7 @@ private:
             if (isSeen(at(i), trailRadius)) {
                 // The older, the smaller.
                 const double radius = trailRadius * (0.6 + 0.4 * (i + 1) / count);
-                m_step.drawing.ellipse(at(i), radius, radius, QPen(m_palette.casing, 1.0), color);
+                m_step.drawing.ellipse(at(i), radius, radius, QPen(m_innerPalette.casing, 1.0), color);
             }
         }
     }
@@ -408,7 +418,7 @@ private:
             const QPainterPath shape = whiteShape(gamut.role, at);
             QPen pen = DiagramPainter::gamutPen(gamut.role);
             pen.setStyle(Qt::SolidLine);
-            m_step.drawing.shape(shape, QPen(m_palette.casing, pen.widthF() + casing), Qt::NoBrush);
+            m_step.drawing.shape(shape, QPen(m_innerPalette.casing, pen.widthF() + casing), Qt::NoBrush);
             m_step.drawing.shape(shape, pen, Qt::NoBrush);
             const QPointF reach(whiteRadius + whiteArm, whiteRadius + whiteArm);
             m_marks.append(QRectF(at - reach, at + reach));
@@ -515,9 +525,7 @@ private:
             }
             if (!best.isNull()) {
                 m_step.places.add(DiagramLabel::Kind::Gamut, name, best, gamut->index);
-                QPainterPath plate;
-                plate.addRoundedRect(best, plateRadius, plateRadius);
-                m_step.texts.shape(plate, Qt::NoPen, faded(m_palette.ground, plateOpacity));
+                drawPlate(best, m_palette);
                 m_step.texts.textIn(best.adjusted(platePadding, 0.0, -platePadding, 0.0), name, style,
                     DiagramPainter::gamutPen(gamut->role).color());
             }
@@ -544,7 +552,7 @@ private:
                 m_marks.cbegin(), m_marks.cend(), [&place](const QRectF &mark) { return mark.intersects(place); });
             if (!coversMark && m_step.places.isFree(place, m_inner, labelGap)) {
                 m_step.places.add(DiagramLabel::Kind::Mark, name, place);
-                m_step.texts.textIn(place, name, style, m_palette.text, m_palette.casing);
+                m_step.texts.textIn(place, name, style, m_innerPalette.text, m_innerPalette.casing);
                 return;
             }
         }
@@ -553,6 +561,7 @@ private:
     const DiagramSheet &m_sheet;
     const DiagramContent &m_content;
     const DiagramPalette &m_palette;
+    const DiagramPalette &m_innerPalette;
     QRectF m_plot;
     QRectF m_inner; // where texts may stand
     std::vector<Shown> m_shown; // from bottom to top

@@ -156,10 +156,11 @@ void DiagramPainter::setContent(const DiagramContent &content)
 {
     const auto scaleLayers = [](const DiagramContent &which) {
         return which.layers
-            & (DiagramLayer::Locus | DiagramLayer::Wavelengths | DiagramLayer::PlanckianLocus | DiagramLayer::Isotherms
-                | DiagramLayer::Axes | DiagramLayer::Grid);
+            & (DiagramLayer::Colors | DiagramLayer::Locus | DiagramLayer::Wavelengths | DiagramLayer::PlanckianLocus
+                | DiagramLayer::Isotherms | DiagramLayer::Axes | DiagramLayer::Grid);
     };
-    if (content.ground != d->content.ground || scaleLayers(content) != scaleLayers(d->content)) {
+    if (content.ground != d->content.ground || content.colors != d->content.colors
+        || scaleLayers(content) != scaleLayers(d->content)) {
         d->scale.reset();
     }
     d->gamuts.reset();
@@ -330,7 +331,9 @@ QPen DiagramPainter::gamutPen(GamutRole role)
 void DiagramPainter::paintKeyLine(QPainter *painter, const QRectF &place, GamutRole role, DiagramGround ground)
 {
     DrawList list;
-    const double y = place.center().y();
+    // On whole pixels, so that thin lines are not washed out.
+    const bool isOdd = qRound(gamutPen(role).widthF()) % 2 == 1;
+    const double y = isOdd ? std::floor(place.center().y()) + 0.5 : std::round(place.center().y());
     const double length = std::min(place.width(), dashesOfKey);
     const QPointF from(place.center().x() - length / 2.0, y);
     drawCased(list, QPolygonF(QVector<QPointF>{from, from + QPointF(length, 0.0)}), false, place, gamutPen(role),

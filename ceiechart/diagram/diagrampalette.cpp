@@ -14,7 +14,7 @@ const DiagramPalette &diagramPalette(DiagramGround ground)
         QColor(44, 48, 56), // locus
         QColor(24, 26, 30), // planckian
         QColor(40, 44, 52, 190), // hatch
-        QColor(255, 255, 255, 205), // casing
+        QColor(255, 255, 255, 240), // casing
         QColor(59, 91, 219), // accent
     };
     static const DiagramPalette dark{
@@ -26,7 +26,7 @@ const DiagramPalette &diagramPalette(DiagramGround ground)
         QColor(214, 218, 226), // locus
         QColor(245, 246, 248), // planckian
         QColor(228, 231, 236, 190), // hatch
-        QColor(20, 21, 24, 205), // casing
+        QColor(20, 21, 24, 238), // casing
         QColor(116, 143, 252), // accent
     };
     return ground == DiagramGround::Dark ? dark : light;

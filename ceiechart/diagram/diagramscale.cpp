@@ -81,6 +81,7 @@ public:
         : m_sheet(sheet)
         , m_viewport(sheet.viewport)
         , m_palette(sheet.palette())
+        , m_innerPalette(sheet.innerPalette())
         , m_plot(sheet.viewport.plot())
         , m_inner(m_plot.adjusted(labelGap, labelGap, -labelGap, -labelGap))
         , m_whole(QPointF(), sheet.viewport.size())
@@ -288,8 +289,8 @@ private:
         for (const QPointF &point : planckianLocusIn(m_viewport.diagram())) {
             points.append(toPosition(point));
         }
-        drawCased(m_step.drawing, thinned(points, curvePieces), false, m_plot, pen(m_palette.planckian, locusWidth),
-            m_palette.casing);
+        drawCased(m_step.drawing, thinned(points, curvePieces), false, m_plot,
+            pen(m_innerPalette.planckian, locusWidth), m_innerPalette.casing);
     }
 
     //! From below the locus to above it.
@@ -381,8 +382,8 @@ private:
         for (const Isotherm &isotherm : lines) {
             drawn.append(isotherm.line);
         }
-        m_step.drawing.lines(drawn, QPen(m_palette.casing, tickWidth + casingOfTicks, Qt::SolidLine, Qt::FlatCap));
-        m_step.drawing.lines(drawn, QPen(m_palette.planckian, tickWidth, Qt::SolidLine, Qt::FlatCap));
+        m_step.drawing.lines(drawn, QPen(m_innerPalette.casing, tickWidth + casingOfTicks, Qt::SolidLine, Qt::FlatCap));
+        m_step.drawing.lines(drawn, QPen(m_innerPalette.planckian, tickWidth, Qt::SolidLine, Qt::FlatCap));
         QVector<QPointF> numbered;
         for (const Isotherm &isotherm : lines) {
             const QString number = QString::number(isotherm.kelvin, 'f', 0) + QStringLiteral(" K");
@@ -399,7 +400,7 @@ private:
                     && m_step.places.isFree(place, m_inner, labelGap)) {
                     numbered.append(place.center());
                     m_step.places.add(DiagramLabel::Kind::Isotherm, number, place);
-                    m_step.texts.textIn(place, number, style, m_palette.planckian, m_palette.casing);
+                    m_step.texts.textIn(place, number, style, m_innerPalette.planckian, m_innerPalette.casing);
                     break;
                 }
             }
@@ -409,6 +410,7 @@ private:
     const DiagramSheet &m_sheet;
     const DiagramViewport &m_viewport;
     const DiagramPalette &m_palette;
+    const DiagramPalette &m_innerPalette;
     QRectF m_plot;
     QRectF m_inner; // where texts may stand
     QRectF m_whole;

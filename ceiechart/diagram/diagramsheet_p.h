@@ -27,6 +27,11 @@ struct DiagramSheet {
 
     bool shows(DiagramLayer layer) const { return content.layers.testFlag(layer); }
     const DiagramPalette &palette() const { return diagramPalette(content.ground); }
+    //! Of what lies in the midst of the colours, which are bright on dark ground too.
+    const DiagramPalette &innerPalette() const
+    {
+        return diagramPalette(colors() == HorseshoeColors::None ? content.ground : DiagramGround::Light);
+    }
     HorseshoeColors colors() const { return shows(DiagramLayer::Colors) ? content.colors : HorseshoeColors::None; }
 };
 

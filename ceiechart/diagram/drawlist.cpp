@@ -47,7 +47,6 @@ bool hasPixels(const QPainter &painter)
     case QPaintEngine::SVG:
     case QPaintEngine::Pdf:
     case QPaintEngine::Picture:
-    case QPaintEngine::PostScript:
     case QPaintEngine::MacPrinter:
         return false;
     default:

@@ -150,6 +150,8 @@ private Q_SLOTS:
     void oddContentIsLeftOut();
     void freePlaceAvoidsWhatItIsTold();
     void devicesOfHighResolution();
+    void keyLinesAreThoseOfTheDiagram();
+    void changedContentIsAsPaintedAnew();
 };
 
 void DiagramPainterTest::labelsStandApart_data()
@@ -284,6 +286,13 @@ void DiagramPainterTest::contrastIsEnough()
         // Within the horseshoe lines and texts stand on their casing, whatever the colour below.
         for (const QColor &below : {QColor(Qt::red), QColor(Qt::green), QColor(Qt::blue), QColor(Qt::yellow),
                  QColor(Qt::cyan), QColor(Qt::magenta), QColor(Qt::white)}) {
+            for (const GamutRole role : allRoles) {
+                const QColor color = DiagramPainter::gamutPen(role).color();
+                QVERIFY2(contrast(color, over(palette.casing, below)) >= 3.0, qPrintable(color.name()));
+                QColor plate = palette.ground;
+                plate.setAlphaF(0.94);
+                QVERIFY2(contrast(color, over(plate, below)) >= 3.0, qPrintable(color.name()));
+            }
             QVERIFY(contrast(palette.planckian, over(palette.casing, below)) >= 3.0);
             QVERIFY(contrast(palette.text, over(palette.casing, below)) >= 3.0);
         }
@@ -488,10 +497,11 @@ void DiagramPainterTest::ringsAreRound()
     const double expected = 0.003 * painter.viewport().scale();
     const QColor color = DiagramPainter::gamutPen(GamutRole::Target).color();
     QVERIFY(expected > 80.0 && expected < 340.0);
+    const QVector<DiagramLabel> labels = painter.labels();
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            const bool isLabel = std::any_of(painter.labels().cbegin(), painter.labels().cend(),
+            const bool isLabel = std::any_of(labels.cbegin(), labels.cend(),
                 [&](const DiagramLabel &label) { return label.place.adjusted(-3, -3, 3, 3).contains(x, y); });
             const QColor pixel = image.pixelColor(x, y);
             if (!isLabel && std::abs(pixel.red() - color.red()) + std::abs(pixel.blue() - color.blue()) < 60) {
@@ -704,6 +714,45 @@ void DiagramPainterTest::devicesOfHighResolution()
         }
     }
     QVERIFY2(differing < 0.02 * screen.width() * screen.height(), qPrintable(QString::number(differing)));
+}
+
+void DiagramPainterTest::keyLinesAreThoseOfTheDiagram()
+{
+    for (const GamutRole role : allRoles) {
+        for (const DiagramGround ground : {DiagramGround::Light, DiagramGround::Dark}) {
+            QImage image(40, 16, QImage::Format_RGB32);
+            image.fill(diagramPalette(ground).ground);
+            {
+                QPainter onto(&image);
+                DiagramPainter::paintKeyLine(&onto, QRectF(4, 2, 32, 12), role, ground);
+            }
+            QVERIFY(countOf(image, DiagramPainter::gamutPen(role).color(), 60) >= 10);
+            // Dashes leave gaps, in which the casing or the ground shows.
+            const int covered = countOf(image.copy(0, 7, 40, 2), DiagramPainter::gamutPen(role).color(), 60);
+            QCOMPARE(
+                covered < 60, DiagramPainter::gamutPen(role).style() != Qt::SolidLine || role == GamutRole::Standard);
+        }
+    }
+}
+
+void DiagramPainterTest::changedContentIsAsPaintedAnew()
+{
+    DiagramPainter kept;
+    QVector<DiagramContent> contents(6, fullContent());
+    contents[1].ground = DiagramGround::Dark;
+    contents[2].ground = DiagramGround::Dark;
+    contents[2].colors = HorseshoeColors::None;
+    contents[3].layers.setFlag(DiagramLayer::Colors, false);
+    contents[4].gamuts.removeLast();
+    contents[5].rings.clear();
+    for (const double zoom : {1.0, 30.0}) {
+        for (const DiagramContent &content : contents) {
+            prepare(kept, content, Model::Diagram::Cie1931, QSizeF(420, 380), zoom);
+            DiagramPainter anew;
+            prepare(anew, content, Model::Diagram::Cie1931, QSizeF(420, 380), zoom);
+            QCOMPARE(painted(kept, 1.5), painted(anew, 1.5));
+        }
+    }
 }
 
 int main(int argc, char *argv[])
