@@ -30,9 +30,13 @@ double screenDotsPerInch()
     return screen ? screen->logicalDotsPerInchY() : logicalPixelsPerInch;
 }
 
-//! Fonts that are sized in pixels do not grow with the resolution of a device.
-QFont sizedInPoints(QFont font)
+/*!
+ * Fonts that are sized in pixels do not grow with the resolution of a device, and coloured edges of glyphs look one way
+ * on an opaque picture and another way on a layer over it.
+ */
+QFont fontForDiagrams(QFont font)
 {
+    font.setStyleStrategy(QFont::StyleStrategy(font.styleStrategy() | QFont::NoSubpixelAntialias));
     if (font.pointSizeF() <= 0.0) {
         font.setPointSizeF(font.pixelSize() * pointsPerInch / screenDotsPerInch());
     }
@@ -78,7 +82,7 @@ class DiagramPainter::Private {
 public:
     DiagramContent content;
     DiagramViewport viewport;
-    QFont font = sizedInPoints(QFont());
+    QFont font = fontForDiagrams(QFont());
     DiagramColors colors;
 
     // What has been laid out for the screen; gone when something changes on which it depends.
@@ -188,7 +192,7 @@ QFont DiagramPainter::font() const
 
 void DiagramPainter::setFont(const QFont &font)
 {
-    d->font = sizedInPoints(font);
+    d->font = fontForDiagrams(font);
     d->fonts.reset();
     d->forgetLayout();
 }
@@ -345,7 +349,7 @@ void DiagramPainter::paintText(
     QPainter *painter, const QPointF &at, const QString &text, const QColor &color, const QColor &casing)
 {
     DrawList list;
-    list.text(at, text, TextStyle(sizedInPoints(painter->font()), painter->device(), 1.0), color, casing);
+    list.text(at, text, TextStyle(fontForDiagrams(painter->font()), painter->device(), 1.0), color, casing);
     list.paint(painter);
 }
 

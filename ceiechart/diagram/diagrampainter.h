@@ -81,7 +81,7 @@ public:
     void setContent(const DiagramContent &content); //!< \copydoc content()
     const DiagramViewport &viewport() const; //!< which part of the diagram, and where
     void setViewport(const DiagramViewport &viewport); //!< \copydoc viewport()
-    QFont font() const; //!< of all texts; numbers are a little smaller
+    QFont font() const; //!< of all texts, sized in points; numbers are a little smaller
     void setFont(const QFont &font); //!< \copydoc font()
 
     /*!
@@ -117,7 +117,8 @@ public:
     void paintGamuts(QPainter *painter) const;
     /*!
      * \brief What depends on the target, and what must not be covered by it: lost and common area, outlines of targets
-     *        and of what equals them, rings, trail, marks, whites, names.
+     *        and of what equals them, rings, trail, marks, whites, names; and the temperatures of isotherms, above all
+     * lines.
      */
     void paintEdited(QPainter *painter) const;
 
