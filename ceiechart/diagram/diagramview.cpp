@@ -68,6 +68,14 @@ void addBoxesAlong(QVector<QRectF> &boxes, const QPointF &from, const QPointF &t
     }
 }
 
+//! Sizes in points are the same on \a image as on \a widget.
+void takeResolution(QImage &image, const QWidget &widget)
+{
+    constexpr double inchesPerMetre = 1.0 / 0.0254;
+    image.setDotsPerMeterX(int(std::lround(widget.logicalDpiX() * inchesPerMetre)));
+    image.setDotsPerMeterY(int(std::lround(widget.logicalDpiY() * inchesPerMetre)));
+}
+
 } // namespace
 
 DiagramView::Private::Private(DiagramView *view)
@@ -182,6 +190,14 @@ void DiagramView::Private::followPalette()
     }
 }
 
+QFont DiagramView::Private::textFont() const
+{
+    // The same whether it is painted on the widget or on a picture that lets through what is behind.
+    QFont font = q->font();
+    font.setStyleStrategy(QFont::StyleStrategy(font.styleStrategy() | QFont::NoSubpixelAntialias));
+    return font;
+}
+
 int DiagramView::Private::decimals() const
 {
     return digits == automaticDigits ? decimalsFor(viewport.scale()) : digits;
@@ -256,17 +272,18 @@ void DiagramView::Private::forgetPictures()
     fresh->setContent(content);
     fresh->setViewport(viewport);
     painter = std::move(fresh);
-    lines = QPixmap();
+    lines = QImage();
     linesAreReady = false;
 }
 
-const QPixmap &DiagramView::Private::linesPicture()
+const QImage &DiagramView::Private::linesPicture()
 {
     const double ratio = q->devicePixelRatioF();
     const QSize size(int(std::ceil(q->width() * ratio)), int(std::ceil(q->height() * ratio)));
     if (lines.size() != size || lines.devicePixelRatio() != ratio) {
-        lines = QPixmap(size);
+        lines = QImage(size, QImage::Format_ARGB32_Premultiplied);
         lines.setDevicePixelRatio(ratio);
+        takeResolution(lines, *q);
         linesAreReady = false;
     }
     if (!linesAreReady) {
@@ -501,7 +518,7 @@ DiagramView::DiagramView(QWidget *parent)
     connect(&d->labelTimer, &QTimer::timeout, this, [this] { d->dropLabel(); });
     d->content.ground = groundOf(palette());
     d->painter->setContent(d->content);
-    d->painter->setFont(font());
+    d->painter->setFont(d->textFont());
     d->viewport = DiagramViewport(Model::Diagram::Cie1931, QSizeF(size()));
     d->look(d->viewport.fittedToAll());
 }
@@ -743,6 +760,7 @@ QImage DiagramView::toImage(const QSize &size, qreal devicePixelRatio) const
         return image;
     }
     image.setDevicePixelRatio(devicePixelRatio);
+    takeResolution(image, *this);
     image.fill(diagramPalette(d->content.ground).ground);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -936,8 +954,14 @@ void DiagramView::paintEvent(QPaintEvent *event)
     if (!isReadoutOnly) {
         p.setClipRegion(event->region());
         p.drawImage(QPointF(), d->painter->colors(devicePixelRatioF()));
-        p.drawPixmap(QPointF(), d->linesPicture());
         p.setRenderHint(QPainter::Antialiasing);
+        if (!d->linesAreReady && event->region() == QRegion(rect())) {
+            // As the view moves, lines that are kept would have to be made, laid over and dropped for each picture.
+            d->painter->paintScale(&p);
+            d->painter->paintGamuts(&p);
+        } else {
+            p.drawImage(QPointF(), d->linesPicture());
+        }
         d->painter->paintEdited(&p);
         d->overlay.paint(p, d->viewport.plot(), palette, font());
     }
@@ -969,7 +993,7 @@ void DiagramView::changeEvent(QEvent *event)
         d->followPalette();
         break;
     case QEvent::FontChange:
-        d->painter->setFont(font());
+        d->painter->setFont(d->textFont());
         d->change(d->content);
         break;
     case QEvent::LanguageChange:

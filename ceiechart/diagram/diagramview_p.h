@@ -6,7 +6,6 @@
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramview.h>
 
-#include <QPixmap>
 #include <QTimer>
 
 class QAccessibleEvent;
@@ -65,6 +64,7 @@ public:
     void replace(GamutRole role, const std::vector<Model::ColorGamut> &gamuts);
     void putTarget(const Model::Targets &targets);
     void followPalette();
+    QFont textFont() const;
     int decimals() const;
 
     // The view
@@ -77,7 +77,7 @@ public:
 
     // Painting
     void forgetPictures();
-    const QPixmap &linesPicture();
+    const QImage &linesPicture();
     void refreshOverlay();
     QRegion overlayRegion(const DiagramOverlay &overlay) const;
     bool meetsAnother(const Model::Targets &targets) const;
@@ -116,7 +116,7 @@ public:
     QString editNote;
     std::optional<GamutVertex> selected;
 
-    QPixmap lines; //!< scale and gamuts, which no edit changes, on nothing; the colours below are the painter's
+    QImage lines; //!< scale and gamuts, which no edit changes, on nothing; made for the first step of an edit
     bool linesAreReady = false;
 
     Hand hand = Hand::Idle;
