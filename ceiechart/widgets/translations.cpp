@@ -15,16 +15,6 @@ static void initTranslationResource()
 
 namespace ceiechart {
 
-namespace {
-
-bool isChinese(const QLocale &locale)
-{
-    const QStringList languages = locale.uiLanguages();
-    return (languages.isEmpty() ? locale : QLocale(languages.first())).language() == QLocale::Chinese;
-}
-
-} // namespace
-
 bool installTranslations(const QLocale &locale)
 {
     static QPointer<QTranslator> installed;
@@ -33,9 +23,6 @@ bool installTranslations(const QLocale &locale)
         return false;
     }
     delete installed;
-    if (isChinese(locale)) {
-        return false;
-    }
     initTranslationResource();
     auto translator = std::make_unique<QTranslator>();
     const QString directory = QStringLiteral(":/ceiechart/translations");

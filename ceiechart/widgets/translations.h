@@ -12,9 +12,9 @@ namespace ceiechart {
 /*!
  * \brief Gives the library's captions the language of \a locale.
  *
- * The captions are Chinese in the source. A locale whose first user-interface language is Chinese keeps them; any
- * other gets the translation into its language or, where there is none, into English. Captions are made once:
- * call this before the first legend is.
+ * The captions of legends are Chinese in the source, all other texts are English. A locale gets the translation into
+ * its language, which is complete for Chinese and English, or, where there is none, into English. Captions of legends
+ * are made once: call this before the first legend is.
  *
  * \code
  * QApplication app(argc, argv);
@@ -25,7 +25,7 @@ namespace ceiechart {
  * application owns the translator. Installed beside the library, in share/ceiechart/translations, the same files
  * serve hosts that load translations themselves.
  *
- * \return true when a translation has been installed; false for Chinese, and without an application object.
+ * \return true when a translation has been installed; false without an application object.
  */
 CEIECHART_EXPORT bool installTranslations(const QLocale &locale = QLocale());
 

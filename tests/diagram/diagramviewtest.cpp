@@ -632,7 +632,7 @@ void DiagramViewTest::nativeGesturesZoom()
     QNativeGestureEvent event(Qt::ZoomNativeGesture, nullptr, pointer, pointer, global, 0.5, 0, 0);
 #else
     QNativeGestureEvent event(
-        Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), pointer, pointer, global, 0.5, 0, 0);
+        Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), 2, pointer, pointer, global, 0.5, QPointF());
 #endif
     QCoreApplication::sendEvent(&view, &event);
     QCOMPARE(view.zoomFactor(), 1.5);
