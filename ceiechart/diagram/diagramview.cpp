@@ -363,6 +363,13 @@ void DiagramView::Private::placeLabel()
     for (const DiagramOverlay::Handle &handle : qAsConst(overlay.handles)) {
         avoid.append(DiagramOverlay::bounds(handle));
     }
+    // What the hand is likely to move to must be seen as well.
+    for (const DiagramGamut &gamut : content.gamuts) {
+        if (gamut.role != GamutRole::Target && content.shows(gamut)) {
+            const QPointF corner = viewport.toPosition(xyOf(targetAt(gamut.gamut.getTargets(), *selected)));
+            avoid.append(QRectF(corner - QPointF(lineRoom, lineRoom), QSizeF(2.0 * lineRoom, 2.0 * lineRoom)));
+        }
+    }
     // No line leads to the white: it is mixed from the primaries.
     if (*selected != GamutVertex::White) {
         for (const GamutVertex other : {GamutVertex::Red, GamutVertex::Green, GamutVertex::Blue}) {

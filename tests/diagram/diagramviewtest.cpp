@@ -7,9 +7,11 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QBackingStore>
+#include <QGestureEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
+#include <QPinchGesture>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -199,6 +201,7 @@ private Q_SLOTS:
     void doubleClickShowsAll();
     void views();
     void nativeGesturesZoom();
+    void pinchesOnAPadZoomAndPan();
     void twoFingersZoomAndPan();
     void oneFingerDragsAHandle();
     void secondFingerTakesADragBack();
@@ -637,6 +640,24 @@ void DiagramViewTest::nativeGesturesZoom()
     QCoreApplication::sendEvent(&view, &event);
     QCOMPARE(view.zoomFactor(), 1.5);
     QVERIFY(length(view.at(xy) - pointer) < 0.5);
+}
+
+void DiagramViewTest::pinchesOnAPadZoomAndPan()
+{
+    View view;
+    const QPointF middle = view.viewport().plot().center() + QPointF(40, -30);
+    const QPointF xy = view.viewport().toChromaticity(middle);
+    const QPointF global = view.mapToGlobal(middle.toPoint());
+    QPinchGesture pinch;
+    pinch.setCenterPoint(global);
+    pinch.setLastCenterPoint(global);
+    pinch.setScaleFactor(1.6);
+    pinch.setChangeFlags(QPinchGesture::ScaleFactorChanged);
+    QGestureEvent event({&pinch});
+    event.setWidget(&view);
+    QCoreApplication::sendEvent(&view, &event);
+    QVERIFY(std::fabs(view.zoomFactor() - 1.6) < 1e-9);
+    QVERIFY(length(view.at(xy) - middle.toPoint()) < 1.0);
 }
 
 void DiagramViewTest::twoFingersZoomAndPan()
