@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/gamutstyle.h>
+#include <ceiechart/diagram/targetrules.h>
 #include <ceiechart/legacy/ceielegend.h>
 #include <ceiechart/widgets/ceielegend.h>
 #include <ceiechart/widgets/translations.h>
@@ -17,6 +19,7 @@ private Q_SLOTS:
     void theLastLanguageHolds();
     void translatorsDoNotPileUp();
     void builtIntoTheLibrary();
+    void textsOfTheDiagram();
 };
 
 static QStringList chineseCaptions()
@@ -101,6 +104,16 @@ void TranslationsTest::builtIntoTheLibrary()
     QVERIFY(translator.load(QStringLiteral(":/ceiechart/translations/ceiechart_en.qm")));
     QCOMPARE(translator.translate("NewCEIE::CEIELegend", "公共色域"), QStringLiteral("Common gamut"));
     QCOMPARE(translator.translate("CEIELegend", "公共色域"), QStringLiteral("Common gamut"));
+}
+
+void TranslationsTest::textsOfTheDiagram()
+{
+    ceiechart::installTranslations(QLocale(QLocale::Chinese));
+    QCOMPARE(ceiechart::gamutRoleName(ceiechart::GamutRole::Target), QStringLiteral("目标"));
+    QCOMPARE(ceiechart::gamutVertexName(ceiechart::GamutVertex::Green), QStringLiteral("绿"));
+    ceiechart::installTranslations(QLocale(QLocale::English));
+    QCOMPARE(ceiechart::gamutRoleName(ceiechart::GamutRole::Target), QStringLiteral("Target"));
+    QCOMPARE(ceiechart::gamutVertexName(ceiechart::GamutVertex::Green), QStringLiteral("green"));
 }
 
 QTEST_MAIN(TranslationsTest)
