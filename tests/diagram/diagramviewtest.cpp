@@ -127,8 +127,8 @@ QImage shownBy(const View &view)
 }
 
 /*!
- * What of two pictures differs by more than rounding does, in pixels: of lines that a clip cuts, and of lines that were
- * painted on a picture of their own.
+ * What of two pictures differs by more than rounding does, in pixels: of lines that a clip cuts, of lines that were
+ * painted on a picture of their own, and of texts whose glyphs were drawn at another ratio before.
  */
 QRect difference(const QImage &one, const QImage &other)
 {
@@ -1605,9 +1605,13 @@ void DiagramViewTest::imagesShowNoHands()
     const QImage before = view.toImage(QSize(500, 500));
     view.setSelectedVertex(GamutVertex::Red);
     view.hover(freeGround(view));
-    QCOMPARE(view.toImage(QSize(500, 500)), before);
+    QCOMPARE(difference(view.toImage(QSize(500, 500)), before), QRect());
+    // As the widget shows itself, there are some.
+    QVERIFY(!difference(
+        view.grab().toImage(), view.toImage(view.size() * view.devicePixelRatioF(), view.devicePixelRatioF()))
+                 .isEmpty());
     view.setReadOnly(true);
-    QCOMPARE(view.toImage(QSize(500, 500)), before);
+    QCOMPARE(difference(view.toImage(QSize(500, 500)), before), QRect());
 }
 
 void DiagramViewTest::readoutStandsOnTheOtherSideFromRightToLeft()
