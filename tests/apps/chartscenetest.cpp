@@ -86,7 +86,7 @@ void ChartSceneTest::declaredGamutHasItsOwnColor()
     description.declared = QStringLiteral("DCI-P3(D65)");
     const ChartScene scene = chartScene(description);
     QCOMPARE(scene.triangles.size(), 4);
-    verify(scene.triangles[2], 3, QColor(196, 146, 255), "DCI-P3(D65)");
+    verify(scene.triangles[2], 3, QColor(154, 88, 216), "DCI-P3(D65)");
     verify(scene.triangles[3], 1, QColor(255, 163, 56, 255), "wanted");
     QVERIFY(isAt(scene.target.redPos(), 0.64 + 0.02, 0.33));
 }

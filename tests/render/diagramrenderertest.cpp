@@ -37,7 +37,7 @@ reference::Mapping mappingOf(int w, int h)
 
 } // namespace
 
-class DiagramLayersTest : public QObject {
+class DiagramRendererTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -52,7 +52,7 @@ private Q_SLOTS:
     void offsetPoints();
 };
 
-void DiagramLayersTest::roundingIsThatOfTheGeometry()
+void DiagramRendererTest::roundingIsThatOfTheGeometry()
 {
     Renderer renderer(nullptr);
     QCOMPARE(renderer.mulDiv(801, 5, 100), 40.5);
@@ -63,7 +63,7 @@ void DiagramLayersTest::roundingIsThatOfTheGeometry()
     QVERIFY(renderer.Clamp(std::numeric_limits<double>::quiet_NaN(), -7, -5) == -5.0);
 }
 
-void DiagramLayersTest::mappingIsThatOfTheLastDrawing()
+void DiagramRendererTest::mappingIsThatOfTheLastDrawing()
 {
     Renderer renderer(nullptr);
     QVERIFY(renderer.CoordinateTransformation(QPointF(0.3127, 0.3290)) == QPointF(4, 0));
@@ -78,7 +78,7 @@ void DiagramLayersTest::mappingIsThatOfTheLastDrawing()
     QVERIFY(std::fabs(back.y() - 30.0) < 1e-9);
 }
 
-void DiagramLayersTest::zeroSpanIsRefused()
+void DiagramRendererTest::zeroSpanIsRefused()
 {
     Renderer renderer(nullptr);
     const QRectF chroma(0, 0, 0.84, 0.94);
@@ -86,7 +86,7 @@ void DiagramLayersTest::zeroSpanIsRefused()
     QVERIFY(!renderer.GetCoordinateTransformationData(QRectF(40.5, 0.5, 760.5, 0.5), chroma));
 }
 
-void DiagramLayersTest::atlasCoordinateBecomesTheCurrentPoint()
+void DiagramRendererTest::atlasCoordinateBecomesTheCurrentPoint()
 {
     Renderer renderer(nullptr);
     drawOnce(renderer, 800, 800);
@@ -106,7 +106,7 @@ void DiagramLayersTest::atlasCoordinateBecomesTheCurrentPoint()
     QVERIFY(std::fabs(pixel.y() - (760.5 - 0.6589 * 765.9575)) < 0.1);
 }
 
-void DiagramLayersTest::emptyAtlasCoordinateGivesNan()
+void DiagramRendererTest::emptyAtlasCoordinateGivesNan()
 {
     Renderer renderer(nullptr);
     drawOnce(renderer, 800, 800);
@@ -116,7 +116,7 @@ void DiagramLayersTest::emptyAtlasCoordinateGivesNan()
     QVERIFY(std::isnan(pixel.y()));
 }
 
-void DiagramLayersTest::currentPointMapsWithoutTruncation()
+void DiagramRendererTest::currentPointMapsWithoutTruncation()
 {
     Renderer renderer(nullptr);
     for (const QSize &size : {QSize(800, 800), QSize(801, 333), QSize(97, 211)}) {
@@ -136,7 +136,7 @@ void DiagramLayersTest::currentPointMapsWithoutTruncation()
     }
 }
 
-void DiagramLayersTest::backwardMappingKeepsThePixelOffset()
+void DiagramRendererTest::backwardMappingKeepsThePixelOffset()
 {
     Renderer renderer(nullptr);
     drawOnce(renderer, 800, 800);
@@ -156,7 +156,7 @@ void DiagramLayersTest::backwardMappingKeepsThePixelOffset()
     }
 }
 
-void DiagramLayersTest::thirdCoordinateIsLeftAlone()
+void DiagramRendererTest::thirdCoordinateIsLeftAlone()
 {
     Renderer renderer(nullptr);
     drawOnce(renderer, 800, 800);
@@ -169,7 +169,7 @@ void DiagramLayersTest::thirdCoordinateIsLeftAlone()
     QCOMPARE(reference::currentPoint(renderer).z, 0.125);
 }
 
-void DiagramLayersTest::offsetPoints()
+void DiagramRendererTest::offsetPoints()
 {
     Renderer renderer(nullptr);
     QVector<QPointF> points;
@@ -186,5 +186,5 @@ void DiagramLayersTest::offsetPoints()
     QVERIFY(points.at(2).y() == -1.0);
 }
 
-QTEST_MAIN(DiagramLayersTest)
-#include "diagramlayerstest.moc"
+QTEST_MAIN(DiagramRendererTest)
+#include "diagramrenderertest.moc"
