@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ratioreporter.h"
 
+#include <ceiechart/diagram/horseshoefill_p.h>
 #include <ceiechart/legacy/ceiegraphicsscene.h>
 #include <ceiechart/legacy/drawceipicture.h>
 #include <ceiechart/render/drawceipicture.h>
-#include <ceiechart/diagram/horseshoefill_p.h>
 #include <ceiechart/scene/ceiegraphicsscene.h>
 #include <gamutmodel/colorgamut.h>
 #include <reference/plainrenderer.h>

@@ -454,7 +454,7 @@ void CEIEGraphicsViewTest::commonAreaSwitchedOff()
         } else {
             view.setColorGamut(target, original, {});
         }
-            ExpectedScene expected(view);
+        ExpectedScene expected(view);
         const QImage without = expected.rendered(view.lsColorTriangleObject(), {}, TrianglePoint(), TrianglePoint());
         const QImage with = expected.rendered(
             view.lsColorTriangleObject(), {}, triangleOf(target.getTargets()), triangleOf(original.getTargets()));
