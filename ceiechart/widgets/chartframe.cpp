@@ -55,10 +55,11 @@ QBoxLayout *ChartFrame::Private::arrange(QFrame *frame, Qt::Alignment alignment)
     } else {
         layout = new QVBoxLayout;
     }
+    // Set before anything else is done to it: a layout asks a shown frame only once to be laid out, and before it has a
+    // frame it asks nobody.
+    frame->setLayout(layout);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
-    // A visible frame is laid out only if its layout is set before widgets are added.
-    frame->setLayout(layout);
     layout->addWidget(view);
     layout->addWidget(legend);
     return layout;

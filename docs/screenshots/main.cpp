@@ -3,6 +3,8 @@
 //
 //     screenshots FOLDER          writes them
 //     screenshots --screen FILE   writes what is on the screen
+#include <ceiechart/diagram/chartstyle.h>
+#include <ceiechart/diagram/diagramview.h>
 #include <ceiechart/legacy/ceiegraphicsview.h>
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/widgets/ceiegraphicsview.h>
@@ -50,6 +52,16 @@ bool currentChart(const QString &file)
     return grab(chart, file);
 }
 
+bool diagram(const QString &file)
+{
+    ceiechart::DiagramView view;
+    view.resize(760, 780);
+    view.setOriginal(wall);
+    view.setStandards({Model::rec709(), Model::rec2020()});
+    view.setTarget(Model::dciP3D65());
+    return grab(view, file);
+}
+
 bool legacyChart(DrawCEIPicture::CEIEType type, const QString &file)
 {
     const Model::ColorGamutInfo original{
@@ -73,10 +85,10 @@ bool bareDiagram(const QString &file)
         return std::unique_ptr<QImage>(
             renderer.drawCEIPicture(size.width(), size.height(), true, {}, {}, clip, false, QString()));
     };
-    draw({}); // gives the renderer its mapping
+    const auto geometry = ceiechart::chartGeometry(ceiechart::ChartKind::CurrentXy, size.width(), size.height());
     QPolygonF locus;
     for (const QPointF &point : CEIAtlasValue().spectrumLocus) {
-        locus.append(renderer.CoordinateTransformation(point));
+        locus.append(geometry.toPixel(point));
     }
     return save(*draw(locus), file);
 }
@@ -99,6 +111,7 @@ int main(int argc, char **argv)
     return currentChart(folder + QStringLiteral("chart.png"))
             && legacyChart(DrawCEIPicture::XyDiagram, folder + QStringLiteral("legacy-xy.png"))
             && legacyChart(DrawCEIPicture::UvDiagram, folder + QStringLiteral("legacy-uv.png"))
+            && diagram(folder + QStringLiteral("diagram.png"))
             && bareDiagram(folder + QStringLiteral("picture-layers.png"))
         ? 0
         : 1;

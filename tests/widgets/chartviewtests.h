@@ -213,7 +213,7 @@ struct ChartViewTests {
             {Qt::AlignRight, true}, {Qt::AlignLeft | Qt::AlignTop, false}, {Qt::AlignLeft, true}};
         for (const auto &[alignment, right] : places) {
             view.setLegendAlignament(alignment);
-            view.layout()->activate();
+            QCoreApplication::processEvents();
             verifyPlace(right);
         }
     }
