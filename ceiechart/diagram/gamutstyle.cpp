@@ -31,19 +31,20 @@ QString gamutRoleName(GamutRole role)
 
 GamutStyle gamutStyle(GamutRole role)
 {
+    // Of middle luminance: a contrast of 3:1 or more with light and with dark ground alike.
     switch (role) {
     case GamutRole::Standard:
-        return {QColor(150, 150, 150), 1, 0.0, Qt::SolidLine};
+        return {QColor(116, 120, 128), 1, 0.0, Qt::SolidLine};
     case GamutRole::Target:
-        return {QColor(targetOrange), outlineWidth, 0.0, Qt::SolidLine};
+        return {QColor(224, 84, 14), outlineWidth, 0.0, Qt::SolidLine};
     case GamutRole::Original:
-        return {QColor(74, 144, 255), outlineWidth, 0.0, Qt::DashLine};
+        return {QColor(40, 118, 222), outlineWidth, 0.0, Qt::DashLine};
     case GamutRole::Measured:
-        return {QColor(13, 189, 73), outlineWidth, 0.0, Qt::DashDotLine};
+        return {QColor(14, 138, 84), outlineWidth, 0.0, Qt::DashDotLine};
     case GamutRole::Declared:
-        return {QColor(196, 146, 255), outlineWidth, 0.0, Qt::DotLine};
+        return {QColor(154, 88, 216), outlineWidth, 0.0, Qt::DotLine};
     }
-    return {QColor(Qt::white), 1, 0.0, Qt::SolidLine};
+    return {QColor(116, 120, 128), 1, 0.0, Qt::SolidLine};
 }
 
 GamutStyle currentChartStyle(GamutKind kind, bool besideMeasured)

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+// What the diagram costs at the size of a large screen: a step of the hands against showing a ready picture, a step of
+// the view against filling the horseshoe pixel by pixel.
+#include "ratioreporter.h"
+
+#include <ceiechart/diagram/diagramview.h>
+#include <gamutmodel/colorgamut.h>
+#include <reference/plainrenderer.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace {
+
+constexpr QSize largeScreen(3840, 2160);
+
+void fillPlain(benchmark::State &state)
+{
+    static const CEIAtlasValue atlas;
+    reference::Mapping mapping;
+    mapping.set(QRectF(QPointF(), QSizeF(largeScreen)), QRectF(0.0, 0.0, double(0.84F), double(0.94F)));
+    QImage picture(largeScreen, QImage::Format_ARGB32);
+    picture.fill(QColor(23, 23, 26)); // a ground without red would stay as it is
+    for (auto _ : state) {
+        reference::fillPlain(picture, picture.width(), picture.height(), mapping, atlas.colorSystem, 1.0);
+        benchmark::DoNotOptimize(picture.bits());
+    }
+}
+
+//! Shows a ready picture, and nothing else.
+class Picture : public QWidget {
+public:
+    Picture()
+        : m_pixmap(largeScreen)
+    {
+        m_pixmap.fill(Qt::darkCyan);
+        setAttribute(Qt::WA_OpaquePaintEvent);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override { QPainter(this).drawPixmap(0, 0, m_pixmap); }
+
+private:
+    QPixmap m_pixmap;
+};
+
+void paintWhatIsDue()
+{
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+}
+
+void showReady(QWidget &widget)
+{
+    widget.resize(largeScreen);
+    widget.show();
+    paintWhatIsDue();
+}
+
+void showPicture(benchmark::State &state)
+{
+    Picture picture;
+    showReady(picture);
+    for (auto _ : state) {
+        picture.update();
+        paintWhatIsDue();
+    }
+}
+
+//! A view with the gamuts of a wall, a target and two standards, and hands to work it.
+class Desk {
+public:
+    explicit Desk(ceiechart::HorseshoeColors colors = ceiechart::HorseshoeColors::Dimmed)
+    {
+        m_view.setHorseshoeColors(colors);
+        m_view.setOriginal(Model::ColorGamut("LED wall",
+            {Model::Target::fromYxy(240, 0.700, 0.299), Model::Target::fromYxy(634, 0.189, 0.718),
+                Model::Target::fromYxy(126, 0.133, 0.075), Model::Target::fromYxy(1000, 0.2829, 0.2971)}));
+        m_view.setStandards({Model::rec709(), Model::rec2020()});
+        m_view.setTarget(Model::dciP3D65());
+        showReady(m_view);
+    }
+
+    ceiechart::DiagramView &view() { return m_view; }
+
+    void mouse(QEvent::Type type, const QPointF &at, Qt::MouseButton button, Qt::MouseButtons buttons)
+    {
+        QMouseEvent event(type, at, m_view.mapToGlobal(at.toPoint()), button, buttons, Qt::NoModifier);
+        QCoreApplication::sendEvent(&m_view, &event);
+    }
+
+    void wheel(const QPointF &at, int notches)
+    {
+        QWheelEvent event(at, m_view.mapToGlobal(at.toPoint()), QPoint(), QPoint(0, 120 * notches), Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&m_view, &event);
+    }
+
+private:
+    ceiechart::DiagramView m_view;
+};
+
+void hover(benchmark::State &state)
+{
+    Desk desk;
+    int step = 0;
+    for (auto _ : state) {
+        desk.mouse(QEvent::MouseMove, QPointF(1200 + step++ % 400, 900), Qt::NoButton, Qt::NoButton);
+        paintWhatIsDue();
+    }
+}
+
+void drag(benchmark::State &state, ceiechart::HorseshoeColors colors, ceiechart::GamutVertex vertex)
+{
+    Desk desk(colors);
+    const Model::Targets targets = Model::dciP3D65().getTargets();
+    const QPointF start = desk.view().viewport().toPosition(ceiechart::xyOf(ceiechart::targetAt(targets, vertex)));
+    desk.mouse(QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
+    int step = 0;
+    for (auto _ : state) {
+        // Some ten pixels from event to event, as a quick hand does it.
+        const double angle = 0.2 * step++;
+        const QPointF at = start + QPointF(50.0 * std::cos(angle), 50.0 * std::sin(angle));
+        desk.mouse(QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton);
+        paintWhatIsDue();
+    }
+    desk.mouse(QEvent::MouseButtonRelease, start, Qt::LeftButton, Qt::NoButton);
+}
+
+void pan(benchmark::State &state, double zoom)
+{
+    Desk desk;
+    desk.view().setZoomFactor(zoom);
+    paintWhatIsDue();
+    QPointF at(300, 300);
+    desk.mouse(QEvent::MouseButtonPress, at, Qt::MiddleButton, Qt::MiddleButton);
+    int step = 0;
+    for (auto _ : state) {
+        at += step++ % 60 < 30 ? QPointF(13, 7) : QPointF(-13, -7);
+        desk.mouse(QEvent::MouseMove, at, Qt::NoButton, Qt::MiddleButton);
+        paintWhatIsDue();
+    }
+}
+
+void zoom(benchmark::State &state, int deepest)
+{
+    Desk desk;
+    const QPointF white = desk.view().viewport().toPosition(QPointF(0.3127, 0.3290));
+    int step = 0;
+    for (auto _ : state) {
+        desk.wheel(white, step++ % (2 * deepest) < deepest ? 1 : -1);
+        paintWhatIsDue();
+    }
+}
+
+template <typename... Arguments>
+void add(const char *name, Arguments... arguments)
+{
+    benchmark::RegisterBenchmark(name, arguments...)
+        ->Unit(benchmark::kMillisecond)
+        ->MinTime(0.3)
+        ->Repetitions(5)
+        ->ReportAggregatesOnly();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    using ceiechart::GamutVertex;
+    using ceiechart::HorseshoeColors;
+    // The goals: a half or more for the hands, 15 or more for the view.
+    add("hands 3840x2160/plain", showPicture);
+    add("hands 3840x2160/hover", hover);
+    add("hands 3840x2160/drag green, dimmed", drag, HorseshoeColors::Dimmed, GamutVertex::Green);
+    add("hands 3840x2160/drag green, full", drag, HorseshoeColors::Full, GamutVertex::Green);
+    add("hands 3840x2160/drag white", drag, HorseshoeColors::Dimmed, GamutVertex::White);
+    add("view 3840x2160/plain", fillPlain);
+    add("view 3840x2160/pan", pan, 1.0);
+    add("view 3840x2160/pan, zoomed 5", pan, 5.0);
+    add("view 3840x2160/pan, zoomed 500", pan, 500.0);
+    add("view 3840x2160/zoom", zoom, 20);
+    benchmark::Initialize(&argc, argv);
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return 0;
+}

@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/diagramcolors_p.h>
+#include <ceiechart/diagram/horseshoefill_p.h>
+#include <ceiechart/diagram/rowcoverage_p.h>
+#include <ceiechart/diagram/spectrum_p.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace ceiechart {
+
+namespace {
+
+const CEIAtlasValue::TColorSystem &colorSystemOf(const Model::DiagramTraits &traits)
+{
+    static const CEIAtlasValue atlas;
+    return traits.yFactor == 0.0 ? atlas.colorSystem : uvColorSystem;
+}
+
+//! The fill for a picture of \a size of which the middles of the pixels count.
+HorseshoeFill fillFor(const ColorsRequest &request, const QSize &size)
+{
+    const Model::DiagramTraits &traits = Model::diagramTraits(request.viewport.diagram());
+    // The uniform diagrams are coloured in u′, v′ and differ in the scale of the second coordinate only.
+    const double yScale
+        = traits.yFactor == 0.0 ? 1.0 : Model::diagramTraits(Model::Diagram::Cie1976).yFactor / traits.yFactor;
+    const double ratio = request.devicePixelRatio;
+    const QPointF topLeft = request.viewport.toPoint(QPointF());
+    const QPointF bottomRight = request.viewport.toPoint(QPointF(size.width() / ratio, size.height() / ratio));
+    HorseshoeFill fill{DiagramGeometry(), colorSystemOf(traits), 1.0};
+    fill.geometry.set(QRectF(-0.5, -0.5, size.width() - 0.5, size.height() - 0.5),
+        QRectF(topLeft.x(), bottomRight.y() * yScale, bottomRight.x() - topLeft.x(),
+            (topLeft.y() - bottomRight.y()) * yScale));
+    return fill;
+}
+
+QPolygonF inPixels(const ColorsRequest &request, const QPolygonF &points)
+{
+    QPolygonF pixels;
+    pixels.reserve(points.size());
+    for (const QPointF &point : points) {
+        pixels.append(request.viewport.fromPoint(point) * request.devicePixelRatio);
+    }
+    return pixels;
+}
+
+inline QRgb mean(QRgb a, QRgb b)
+{
+    return (a & b) + (((a ^ b) & 0xfefefefeU) >> 1);
+}
+
+inline QRgb mixed(QRgb a, QRgb b, int alphaOfA)
+{
+    const auto channel = [=](int shift) {
+        const int first = int(a >> shift & 0xffU);
+        const int second = int(b >> shift & 0xffU);
+        return QRgb((first * alphaOfA + second * (255 - alphaOfA) + 127) / 255) << shift;
+    };
+    return 0xff000000U | channel(16) | channel(8) | channel(0);
+}
+
+//! Colours any part of the picture.
+class Filler {
+public:
+    Filler(const ColorsRequest &request, QImage &image)
+        : m_image(image)
+        , m_plot(request.plot())
+        , m_ground(request.ground.rgb())
+        , m_colored(request.colors != HorseshoeColors::None)
+        , m_dimmed(request.colors == HorseshoeColors::Dimmed)
+        , m_fill(fillFor(request, image.size()))
+        , m_rows(m_fill, fastestFillKernel())
+    {
+        if (m_colored) {
+            m_locus = RowCoverage(
+                inPixels(
+                    request, spectralLocusIn(request.viewport.diagram(), spectrumDetail(request.viewport.scale()))),
+                image.width(), image.height());
+        }
+        if (m_dimmed) {
+            m_full = RowCoverage(inPixels(request, request.full), image.width(), image.height());
+        }
+    }
+
+    void fill(const QRect &area)
+    {
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            fill(y, area.left(), area.right() + 1);
+        }
+    }
+
+    //! The row \a y from column \a left to before \a right, as far as it lies in the plot.
+    void fill(int y, int left, int right)
+    {
+        auto *line = reinterpret_cast<QRgb *>(m_image.bits() + qsizetype(y) * m_image.bytesPerLine());
+        if (!m_colored || y < m_plot.top() || y > m_plot.bottom()) {
+            std::fill(line + left, line + right, m_ground);
+            return;
+        }
+        const int first = std::clamp(m_plot.left(), left, right);
+        const int end = std::clamp(m_plot.right() + 1, first, right);
+        std::fill(line + left, line + first, m_ground);
+        std::fill(line + end, line + right, m_ground);
+
+        const std::vector<CoveredRun> &locus = m_locus.row(y);
+        int begin = end;
+        int stop = first;
+        for (const CoveredRun &run : locus) {
+            if (run.alpha > 0) {
+                begin = std::min(begin, run.left);
+                stop = std::max(stop, run.right);
+            }
+        }
+        begin = std::clamp(begin, first, end);
+        stop = std::clamp(stop, begin, end);
+        std::fill(line + first, line + begin, m_ground);
+        std::fill(line + stop, line + end, m_ground);
+        if (begin == stop) {
+            return;
+        }
+        m_rows.color(line + begin, begin, stop - 1, y);
+        if (m_dimmed) {
+            dim(line, y, begin, stop);
+        }
+        for (const CoveredRun &run : locus) {
+            const int to = std::min(run.right, stop);
+            for (int x = std::max(run.left, begin); run.alpha < 255 && x < to; ++x) {
+                line[x] = mixed(line[x], m_ground, run.alpha);
+            }
+        }
+    }
+
+    RowCoverage &full() { return m_full; }
+
+private:
+    void dim(QRgb *line, int y, int left, int right)
+    {
+        for (const CoveredRun &run : m_full.row(y)) {
+            const int from = std::max(run.left, left);
+            const int to = std::min(run.right, right);
+            if (run.alpha == 0) {
+                for (int x = from; x < to; ++x) {
+                    line[x] = mean(line[x], m_ground);
+                }
+            } else if (run.alpha < 255) {
+                for (int x = from; x < to; ++x) {
+                    line[x] = mixed(line[x], mean(line[x], m_ground), run.alpha);
+                }
+            }
+        }
+    }
+
+    QImage &m_image;
+    QRect m_plot;
+    QRgb m_ground;
+    bool m_colored;
+    bool m_dimmed;
+    HorseshoeFill m_fill;
+    RowFill m_rows;
+    RowCoverage m_locus;
+    RowCoverage m_full;
+};
+
+bool sameExceptPlace(const ColorsRequest &a, const ColorsRequest &b)
+{
+    return a.devicePixelRatio == b.devicePixelRatio && a.colors == b.colors && a.ground == b.ground
+        && a.viewport.diagram() == b.viewport.diagram() && a.viewport.size() == b.viewport.size()
+        && a.viewport.margins() == b.viewport.margins() && a.viewport.zoom() == b.viewport.zoom();
+}
+
+//! By how many whole device pixels the diagram moves from \a from to \a to, if it is that.
+std::optional<QPoint> wholePixels(const ColorsRequest &from, const ColorsRequest &to)
+{
+    constexpr double tolerance = 1e-6; // pixels: so little that thousands of scrolls do not add up to anything seen
+    constexpr double farthest = 1e6;
+    const QPointF middle = to.viewport.plot().center();
+    const QPointF way = (to.viewport.fromPoint(from.viewport.toPoint(middle)) - middle) * to.devicePixelRatio;
+    if (!(std::fabs(way.x()) < farthest && std::fabs(way.y()) < farthest)) {
+        return std::nullopt;
+    }
+    const QPoint whole = way.toPoint();
+    const QPointF rest = way - whole;
+    return std::max(std::fabs(rest.x()), std::fabs(rest.y())) < tolerance ? std::make_optional(whole) : std::nullopt;
+}
+
+void scroll(QImage &image, const QRect &area, const QPoint &way)
+{
+    const QRect kept = area.translated(way).intersected(area);
+    const qsizetype bytesPerLine = image.bytesPerLine();
+    const size_t length = size_t(kept.width()) * sizeof(QRgb);
+    uchar *bits = image.bits();
+    const auto move = [&](int y) {
+        std::memmove(bits + y * bytesPerLine + kept.left() * qsizetype(sizeof(QRgb)),
+            bits + (y - way.y()) * bytesPerLine + (kept.left() - way.x()) * qsizetype(sizeof(QRgb)), length);
+    };
+    if (way.y() > 0) {
+        for (int y = kept.bottom(); y >= kept.top(); --y) {
+            move(y);
+        }
+    } else {
+        for (int y = kept.top(); y <= kept.bottom(); ++y) {
+            move(y);
+        }
+    }
+}
+
+//! Fills where the coverage by \a before and that of the filler's own differ.
+void fillDifference(Filler &filler, RowCoverage &before, const QRect &plot, QRegion &changed)
+{
+    QRect bounds;
+    for (int y = plot.top(); y <= plot.bottom(); ++y) {
+        // Filling asks for the row again.
+        const std::vector<CoveredRun> now = filler.full().row(y);
+        const std::vector<CoveredRun> &then = before.row(y);
+        size_t i = 0;
+        size_t k = 0;
+        int x = 0;
+        while (i < now.size() && k < then.size()) {
+            const int end = std::min(now[i].right, then[k].right);
+            if (now[i].alpha != then[k].alpha) {
+                const QRect part = QRect(x, y, end - x, 1).intersected(plot);
+                if (!part.isEmpty()) {
+                    filler.fill(y, part.left(), part.right() + 1);
+                    bounds |= part;
+                }
+            }
+            x = end;
+            i += now[i].right == end ? 1 : 0;
+            k += then[k].right == end ? 1 : 0;
+        }
+    }
+    changed += bounds;
+}
+
+} // namespace
+
+QSize ColorsRequest::size() const
+{
+    return QSize(std::max(1, qRound(viewport.size().width() * devicePixelRatio)),
+        std::max(1, qRound(viewport.size().height() * devicePixelRatio)));
+}
+
+QRect ColorsRequest::plot() const
+{
+    const QRectF area = viewport.plot();
+    const QPoint topLeft = (area.topLeft() * devicePixelRatio).toPoint();
+    const QPoint end = (area.bottomRight() * devicePixelRatio).toPoint();
+    return QRect(topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())).intersected(QRect(QPoint(), size()));
+}
+
+const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *changed, QPoint *scrolled)
+{
+    QRegion filled;
+    QPoint way;
+    const QSize size = request.size();
+    const QRect plot = request.plot();
+    const auto distance = m_image.size() == size && sameExceptPlace(m_request, request)
+        ? wholePixels(m_request, request)
+        : std::nullopt;
+    if (!distance) {
+        if (m_image.size() != size) {
+            m_image = QImage(size, QImage::Format_RGB32);
+        }
+        m_image.setDevicePixelRatio(request.devicePixelRatio);
+        Filler(request, m_image).fill(m_image.rect());
+        filled = m_image.rect();
+    } else if (!distance->isNull() || m_request.full != request.full) {
+        Filler filler(request, m_image);
+        if (!distance->isNull()) {
+            way = *distance;
+            scroll(m_image, plot, way);
+            const QRegion exposed = QRegion(plot) - plot.translated(way);
+            for (const QRect &strip : exposed) {
+                filler.fill(strip);
+            }
+            filled += exposed;
+        }
+        if (m_request.full != request.full && request.colors == HorseshoeColors::Dimmed) {
+            RowCoverage before(inPixels(request, m_request.full), size.width(), size.height());
+            fillDifference(filler, before, plot, filled);
+        }
+    }
+    m_request = request;
+    if (changed) {
+        *changed = filled;
+    }
+    if (scrolled) {
+        *scrolled = way;
+    }
+    return m_image;
+}
+
+} // namespace ceiechart

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_DIAGRAM_DIAGRAMCOLORS_P_H
+#define CEIECHART_DIAGRAM_DIAGRAMCOLORS_P_H
+
+#include <ceiechart/diagram/diagramcontent.h>
+#include <ceiechart/diagram/diagramviewport.h>
+
+#include <QColor>
+#include <QImage>
+#include <QPoint>
+#include <QPolygonF>
+#include <QRegion>
+
+namespace ceiechart {
+
+/*! \brief What the picture of a diagram's colours depends on. */
+struct ColorsRequest {
+    DiagramViewport viewport; //!< which part of the diagram
+    qreal devicePixelRatio = 1.0; //!< device pixels per logical pixel
+    HorseshoeColors colors = HorseshoeColors::Full; //!< how the horseshoe is coloured
+    QColor ground; //!< opaque
+    QPolygonF full; //!< what is not dimmed, in the diagram's own coordinates; convex, may be empty
+
+    /*! \brief The picture's size in device pixels. */
+    QSize size() const;
+    /*! \brief The plot in device pixels of the picture. */
+    QRect plot() const;
+};
+
+/*!
+ * \brief A picture of a diagram's ground and horseshoe that is kept and repaired.
+ *
+ * The colour of a pixel is that of the chromaticity in its middle, as the pictures of the stated charts have it: in
+ * x, y by the atlas's colour system, in the uniform diagrams by that of their own. A dimmed colour is the mean of the
+ * colour and the ground. Edges are smooth by the area that they cover.
+ */
+class DiagramColors {
+public:
+    /*!
+     * \brief The picture for \a request, by as little work as leads to it.
+     *
+     * \param changed receives the filled device pixels, after the scroll; may be null
+     * \param scrolled receives the distance by which the plot was scrolled; may be null
+     */
+    const QImage &update(const ColorsRequest &request, QRegion *changed, QPoint *scrolled);
+
+private:
+    QImage m_image;
+    ColorsRequest m_request;
+};
+
+} // namespace ceiechart
+
+#endif // CEIECHART_DIAGRAM_DIAGRAMCOLORS_P_H

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/diagramview_p.h>
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ceiechart {
+
+namespace {
+
+// All in logical pixels.
+constexpr double radius = 7.0; // of a handle
+constexpr double hoveredRadius = 8.5;
+constexpr double lockedRadius = 5.0;
+constexpr double ringRadius = 13.0; // of the ring round the one that is selected
+constexpr double crossReach = 12.0; // of the arms at the white
+constexpr double outlineWidth = 2.5;
+constexpr double labelPadding = 6.0;
+constexpr double guideWidth = 1.5;
+
+double radiusOf(const DiagramOverlay::Handle &handle)
+{
+    return !handle.isMovable ? lockedRadius : handle.isHovered ? hoveredRadius : radius;
+}
+
+//! The shape of a handle: a circle, and a diamond with four arms for the white.
+QPainterPath shapeOf(const DiagramOverlay::Handle &handle)
+{
+    const double r = radiusOf(handle);
+    QPainterPath path;
+    if (handle.vertex != GamutVertex::White) {
+        path.addEllipse(handle.at, r, r);
+        return path;
+    }
+    path.addPolygon(QPolygonF(QVector<QPointF>{handle.at - QPointF(0.0, r), handle.at + QPointF(r, 0.0),
+        handle.at + QPointF(0.0, r), handle.at - QPointF(r, 0.0)}));
+    path.closeSubpath();
+    return path;
+}
+
+QPainterPath armsOf(const DiagramOverlay::Handle &handle)
+{
+    QPainterPath path;
+    if (handle.vertex == GamutVertex::White) {
+        const double r = radiusOf(handle);
+        for (const QPointF &way : {QPointF(1.0, 0.0), QPointF(0.0, 1.0), QPointF(-1.0, 0.0), QPointF(0.0, -1.0)}) {
+            path.moveTo(handle.at + way * r);
+            path.lineTo(handle.at + way * crossReach);
+        }
+    }
+    return path;
+}
+
+QFont boldOf(QFont font)
+{
+    font.setBold(true);
+    return font;
+}
+
+} // namespace
+
+QRectF DiagramOverlay::bounds(const Handle &handle)
+{
+    const double reach = ringRadius + outlineWidth;
+    return QRectF(handle.at.x() - reach, handle.at.y() - reach, 2.0 * reach, 2.0 * reach);
+}
+
+QSizeF DiagramOverlay::labelSize(const QStringList &lines, const QFont &font)
+{
+    double width = 0.0;
+    for (int i = 0; i < lines.size(); ++i) {
+        width = std::max(width, QFontMetricsF(i == 0 ? boldOf(font) : font).horizontalAdvance(lines[i]));
+    }
+    const double height = QFontMetricsF(boldOf(font)).height() * lines.size();
+    return QSizeF(std::ceil(width + 2.0 * labelPadding), std::ceil(height + labelPadding));
+}
+
+void DiagramOverlay::paintHandle(QPainter &painter, const Handle &handle, const DiagramPalette &palette)
+{
+    const QColor line = DiagramPainter::gamutPen(GamutRole::Target).color();
+    const QPainterPath shape = shapeOf(handle);
+    const QPainterPath arms = armsOf(handle);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette.casing, outlineWidth + 2.0));
+    painter.drawPath(arms);
+    painter.drawPath(shape);
+    painter.setPen(QPen(line, outlineWidth));
+    painter.drawPath(arms);
+    painter.setBrush(handle.isMovable ? QColor(Qt::white) : palette.ground);
+    painter.drawPath(shape);
+    if (!handle.isMovable) {
+        // Not only paler: a bar across says that it stays.
+        const double r = lockedRadius * 0.7;
+        painter.drawLine(handle.at - QPointF(r, r), handle.at + QPointF(r, r));
+    }
+    if (handle.isSelected) {
+        painter.setBrush(Qt::NoBrush);
+        const double width = handle.hasFocus ? outlineWidth : 1.0;
+        painter.setPen(QPen(palette.casing, width + 2.0));
+        painter.drawEllipse(handle.at, ringRadius, ringRadius);
+        painter.setPen(QPen(palette.accent, width));
+        painter.drawEllipse(handle.at, ringRadius, ringRadius);
+    }
+}
+
+void DiagramOverlay::paintReadout(QPainter &painter, const DiagramPalette &palette) const
+{
+    if (readout.isEmpty()) {
+        return;
+    }
+    // On whole pixels, and opaque: what is behind it need not be painted when only the numbers change.
+    const QRect box = readoutPlace.toAlignedRect();
+    painter.fillRect(box, palette.ground);
+    painter.setPen(palette.text);
+    painter.drawText(box, Qt::AlignCenter, readout);
+}
+
+void DiagramOverlay::paint(
+    QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const QFont &font) const
+{
+    if (!guides.isEmpty()) {
+        painter.save();
+        painter.setClipRect(plot, Qt::IntersectClip);
+        painter.setBrush(Qt::NoBrush);
+        for (const QPolygonF &guide : guides) {
+            for (const bool isCasing : {true, false}) {
+                QPen pen(isCasing ? palette.casing : palette.accent, isCasing ? guideWidth + 2.0 : guideWidth);
+                pen.setStyle(isCasing ? Qt::SolidLine : Qt::DashLine);
+                painter.setPen(pen);
+                if (guide.size() == 1) {
+                    painter.drawRect(QRectF(guide.first().x() - crossReach, guide.first().y() - crossReach,
+                        2.0 * crossReach, 2.0 * crossReach));
+                } else {
+                    painter.drawPolyline(guide);
+                }
+            }
+        }
+        painter.restore();
+    }
+    if (!label.isEmpty() && !handles.isEmpty()) {
+        // From the label to the handle, short of both.
+        const QPointF at = handles.last().at;
+        const QPointF from(std::clamp(at.x(), labelPlace.left(), labelPlace.right()),
+            std::clamp(at.y(), labelPlace.top(), labelPlace.bottom()));
+        const QPointF way = at - from;
+        const double length = std::hypot(way.x(), way.y());
+        if (length > ringRadius + outlineWidth) {
+            painter.setPen(QPen(palette.numbers, 1.0));
+            painter.drawLine(from, at - way * ((ringRadius + outlineWidth) / length));
+        }
+    }
+    for (const Handle &handle : handles) {
+        paintHandle(painter, handle, palette);
+    }
+    if (!label.isEmpty()) {
+        QPainterPath box;
+        box.addRoundedRect(labelPlace.adjusted(0.5, 0.5, -0.5, -0.5), 4.0, 4.0);
+        painter.setPen(QPen(palette.frame, 1.0));
+        painter.setBrush(palette.ground);
+        painter.drawPath(box);
+        const double lineHeight = QFontMetricsF(boldOf(font)).height();
+        QRectF line(labelPlace.left() + labelPadding, labelPlace.top() + labelPadding / 2.0,
+            labelPlace.width() - 2.0 * labelPadding, lineHeight);
+        for (int i = 0; i < label.size(); ++i) {
+            painter.setFont(i == 0 ? boldOf(font) : font);
+            painter.setPen(i == 0 ? palette.text : palette.accent);
+            painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeading, label[i]);
+            line.translate(0.0, lineHeight);
+        }
+        painter.setFont(font);
+    }
+    if (showsFocusFrame) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(palette.accent, 2.0));
+        painter.drawRect(plot.adjusted(1.0, 1.0, -1.0, -1.0));
+    }
+}
+
+} // namespace ceiechart

@@ -1,0 +1,366 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/diagramcolors_p.h>
+#include <ceiechart/diagram/diagrampainter.h>
+#include <ceiechart/diagram/diagramsheet_p.h>
+
+#include <QGuiApplication>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace ceiechart {
+
+namespace {
+
+constexpr double logicalPixelsPerInch = 96.0;
+constexpr double pointsPerInch = 72.0;
+constexpr double numbersShare = 0.88; // of the size of the font
+constexpr double dashesOfKey = 32.0; // logical pixels, at most: enough for any dash pattern to be known by
+constexpr double pictureRatioOfFiles = 2.0; // pixels of the colours for each logical pixel of a file
+constexpr double mostPicturePixels = 3e7;
+constexpr int ringCorners = 720;
+
+double screenDotsPerInch()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->logicalDotsPerInchY() : logicalPixelsPerInch;
+}
+
+//! Fonts that are sized in pixels do not grow with the resolution of a device.
+QFont sizedInPoints(QFont font)
+{
+    if (font.pointSizeF() <= 0.0) {
+        font.setPointSizeF(font.pixelSize() * pointsPerInch / screenDotsPerInch());
+    }
+    return font;
+}
+
+QFont scaled(QFont font, double share)
+{
+    font.setPointSizeF(font.pointSizeF() * share);
+    return font;
+}
+
+QFont weighted(QFont font, QFont::Weight weight)
+{
+    font.setWeight(weight);
+    return font;
+}
+
+} // namespace
+
+DiagramFonts::DiagramFonts(const QFont &font, const QPaintDevice *device, double unit)
+    : numbers(scaled(font, numbersShare), device, unit)
+    , names(weighted(font, QFont::Bold), device, unit)
+    , texts(scaled(font, numbersShare), device, unit)
+    , axes(weighted(font, QFont::Bold), device, unit)
+{
+}
+
+bool LabelPlaces::isFree(const QRectF &place, const QRectF &area, double gap) const
+{
+    const QRectF roomy = place.adjusted(-gap, -gap, gap, gap);
+    return area.contains(place)
+        && std::none_of(m_labels.cbegin(), m_labels.cend(),
+            [&roomy](const DiagramLabel &label) { return label.place.intersects(roomy); });
+}
+
+void LabelPlaces::add(DiagramLabel::Kind kind, const QString &text, const QRectF &place, int index)
+{
+    m_labels.append({kind, index, text, place});
+}
+
+class DiagramPainter::Private {
+public:
+    DiagramContent content;
+    DiagramViewport viewport;
+    QFont font = sizedInPoints(QFont());
+    DiagramColors colors;
+
+    // What has been laid out for the screen; gone when something changes on which it depends.
+    std::optional<DiagramFonts> fonts;
+    std::optional<DiagramStep> scale;
+    std::optional<DiagramStep> gamuts;
+    std::optional<DiagramStep> edited;
+
+    const DiagramFonts &screenFonts()
+    {
+        if (!fonts) {
+            fonts.emplace(font, nullptr, 1.0);
+        }
+        return *fonts;
+    }
+
+    DiagramSheet sheet() { return {content, viewport, screenFonts()}; }
+
+    const DiagramStep &scaleLayout()
+    {
+        if (!scale) {
+            scale = scaleStep(sheet());
+        }
+        return *scale;
+    }
+
+    const DiagramStep &gamutsLayout()
+    {
+        if (!gamuts) {
+            gamuts = gamutsStep(sheet(), scaleLayout().places);
+        }
+        return *gamuts;
+    }
+
+    const DiagramStep &editedLayout()
+    {
+        if (!edited) {
+            edited = editedStep(sheet(), gamutsLayout().places);
+        }
+        return *edited;
+    }
+
+    void forgetLayout()
+    {
+        scale.reset();
+        gamuts.reset();
+        edited.reset();
+    }
+
+    static ColorsRequest colorsRequest(const DiagramContent &content, const DiagramViewport &viewport, double ratio)
+    {
+        ColorsRequest request;
+        request.viewport = viewport;
+        request.devicePixelRatio = ratio;
+        request.colors = content.layers.testFlag(DiagramLayer::Colors) ? content.colors : HorseshoeColors::None;
+        request.ground = diagramPalette(content.ground).ground;
+        request.full = commonArea(content, viewport.diagram());
+        return request;
+    }
+};
+
+DiagramPainter::DiagramPainter()
+    : d(std::make_unique<Private>())
+{
+}
+
+DiagramPainter::~DiagramPainter() = default;
+
+const DiagramContent &DiagramPainter::content() const
+{
+    return d->content;
+}
+
+void DiagramPainter::setContent(const DiagramContent &content)
+{
+    const auto scaleLayers = [](const DiagramContent &which) {
+        return which.layers
+            & (DiagramLayer::Locus | DiagramLayer::Wavelengths | DiagramLayer::PlanckianLocus | DiagramLayer::Isotherms
+                | DiagramLayer::Axes | DiagramLayer::Grid);
+    };
+    if (content.ground != d->content.ground || scaleLayers(content) != scaleLayers(d->content)) {
+        d->scale.reset();
+    }
+    d->gamuts.reset();
+    d->edited.reset();
+    d->content = content;
+}
+
+const DiagramViewport &DiagramPainter::viewport() const
+{
+    return d->viewport;
+}
+
+void DiagramPainter::setViewport(const DiagramViewport &viewport)
+{
+    if (viewport != d->viewport) {
+        d->viewport = viewport;
+        d->forgetLayout();
+    }
+}
+
+QFont DiagramPainter::font() const
+{
+    return d->font;
+}
+
+void DiagramPainter::setFont(const QFont &font)
+{
+    d->font = sizedInPoints(font);
+    d->fonts.reset();
+    d->forgetLayout();
+}
+
+QMarginsF DiagramPainter::margins(const QPaintDevice *device) const
+{
+    return device ? diagramMargins(d->content, DiagramFonts(d->font, device, 1.0))
+                  : diagramMargins(d->content, d->screenFonts());
+}
+
+void DiagramPainter::paint(QPainter *painter, const QRectF &place) const
+{
+    const QPaintDevice *device = painter->device();
+    const double unit = device->logicalDpiY() / logicalPixelsPerInch;
+    const DiagramFonts fonts(d->font, device, unit);
+    const DiagramViewport viewport
+        = d->viewport.withMargins(diagramMargins(d->content, fonts)).resized(place.size() / unit);
+    const DiagramSheet sheet{d->content, viewport, fonts};
+
+    painter->save();
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform
+        | QPainter::LosslessImageRendering);
+    painter->translate(place.topLeft());
+    painter->scale(unit, unit);
+    const QRectF whole(QPointF(), viewport.size());
+    if (sheet.colors() == HorseshoeColors::None) {
+        painter->fillRect(whole, sheet.palette().ground);
+    } else {
+        const bool isPicture = painter->paintEngine()->type() == QPaintEngine::Raster;
+        const double ratio = isPicture ? std::fabs(painter->deviceTransform().m22()) : pictureRatioOfFiles;
+        const double most = std::sqrt(mostPicturePixels / std::max(1.0, whole.width() * whole.height()));
+        DiagramColors colors;
+        painter->drawImage(whole,
+            colors.update(Private::colorsRequest(d->content, viewport, std::min(ratio, most)), nullptr, nullptr));
+    }
+    const DiagramStep scale = scaleStep(sheet);
+    const DiagramStep gamuts = gamutsStep(sheet, scale.places);
+    const DiagramStep edited = editedStep(sheet, gamuts.places);
+    scale.drawing.paint(painter);
+    gamuts.drawing.paint(painter);
+    edited.drawing.paint(painter);
+    scale.texts.paint(painter);
+    edited.texts.paint(painter);
+    painter->restore();
+}
+
+const QImage &DiagramPainter::colors(qreal devicePixelRatio, QRegion *changed, QPoint *scrolled)
+{
+    return d->colors.update(Private::colorsRequest(d->content, d->viewport, devicePixelRatio), changed, scrolled);
+}
+
+void DiagramPainter::paintScale(QPainter *painter) const
+{
+    d->scaleLayout().drawing.paint(painter);
+}
+
+void DiagramPainter::paintGamuts(QPainter *painter) const
+{
+    d->gamutsLayout().drawing.paint(painter);
+}
+
+void DiagramPainter::paintEdited(QPainter *painter) const
+{
+    d->editedLayout().drawing.paint(painter);
+    d->scaleLayout().texts.paint(painter);
+    d->editedLayout().texts.paint(painter);
+}
+
+QVector<DiagramLabel> DiagramPainter::labels() const
+{
+    return d->editedLayout().places.labels();
+}
+
+QRectF DiagramPainter::freePlace(
+    const QSizeF &size, const QPointF &at, double distance, const QVector<QRectF> &avoid) const
+{
+    const QRectF plot = d->viewport.plot();
+    const QVector<DiagramLabel> &labels = d->editedLayout().places.labels();
+    QRectF best;
+    int least = std::numeric_limits<int>::max();
+    // To the upper right first, as a hand on the pointer covers what is below.
+    for (const QPointF &way : {QPointF(1.0, -1.0), QPointF(-1.0, -1.0), QPointF(1.0, 1.0), QPointF(-1.0, 1.0),
+             QPointF(0.0, -1.0), QPointF(1.0, 0.0), QPointF(-1.0, 0.0), QPointF(0.0, 1.0)}) {
+        const double step = way.x() != 0.0 && way.y() != 0.0 ? distance * M_SQRT1_2 : distance;
+        QRectF place(QPointF(), size);
+        place.moveCenter(at + QPointF(way.x() * (step + size.width() / 2.0), way.y() * (step + size.height() / 2.0)));
+        const auto isCovered = [&place](const QRectF &other) { return other.intersects(place); };
+        if (!plot.contains(place) || std::any_of(avoid.cbegin(), avoid.cend(), isCovered)) {
+            continue;
+        }
+        const auto count = int(std::count_if(labels.cbegin(), labels.cend(),
+            [&place](const DiagramLabel &label) { return label.place.intersects(place); }));
+        if (count < least) {
+            least = count;
+            best = place;
+        }
+    }
+    return best;
+}
+
+QPolygonF DiagramPainter::outline(int index) const
+{
+    if (index < 0 || index >= d->content.gamuts.size()) {
+        return QPolygonF();
+    }
+    const QPolygonF corners = d->viewport.outline(d->content.gamuts.at(index).gamut.getTargets());
+    const bool isFinite = std::all_of(corners.cbegin(), corners.cend(),
+        [](const QPointF &corner) { return std::isfinite(corner.x()) && std::isfinite(corner.y()); });
+    return isFinite ? corners : QPolygonF();
+}
+
+QRectF DiagramPainter::namePlace(int index) const
+{
+    const QVector<DiagramLabel> &labels = d->editedLayout().places.labels();
+    const auto found = std::find_if(labels.cbegin(), labels.cend(),
+        [index](const DiagramLabel &label) { return label.kind == DiagramLabel::Kind::Gamut && label.index == index; });
+    return found != labels.cend() ? found->place : QRectF();
+}
+
+QPen DiagramPainter::gamutPen(GamutRole role)
+{
+    const GamutStyle style = gamutStyle(role);
+    QPen pen(style.color, style.width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+    switch (style.line) {
+    case Qt::DashLine:
+        pen.setDashPattern({5.0, 2.5});
+        break;
+    case Qt::DashDotLine:
+        pen.setDashPattern({5.0, 2.0, 1.5, 2.0});
+        break;
+    case Qt::DotLine:
+        pen.setDashPattern({1.5, 1.5});
+        break;
+    default:
+        break;
+    }
+    return pen;
+}
+
+void DiagramPainter::paintKeyLine(QPainter *painter, const QRectF &place, GamutRole role, DiagramGround ground)
+{
+    DrawList list;
+    const double y = place.center().y();
+    const double length = std::min(place.width(), dashesOfKey);
+    const QPointF from(place.center().x() - length / 2.0, y);
+    drawCased(list, QPolygonF(QVector<QPointF>{from, from + QPointF(length, 0.0)}), false, place, gamutPen(role),
+        diagramPalette(ground).casing);
+    list.paint(painter);
+}
+
+void DiagramPainter::paintText(
+    QPainter *painter, const QPointF &at, const QString &text, const QColor &color, const QColor &casing)
+{
+    DrawList list;
+    list.text(at, text, TextStyle(sizedInPoints(painter->font()), painter->device(), 1.0), color, casing);
+    list.paint(painter);
+}
+
+QPolygonF DiagramPainter::ring(const DiagramViewport &viewport, const QPointF &xy, double radius)
+{
+    QPolygonF curve;
+    if (!(radius > 0.0)) {
+        return curve;
+    }
+    const Model::DiagramPoint centre = Model::toDiagram(Model::Diagram::Cie1976, {xy.x(), xy.y()});
+    curve.reserve(ringCorners);
+    for (int i = 0; i < ringCorners; ++i) {
+        const double angle = 2.0 * M_PI * i / ringCorners;
+        const Model::DiagramPoint at = Model::fromDiagram(
+            Model::Diagram::Cie1976, {centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)});
+        curve.append(viewport.toPosition(QPointF(at.x, at.y)));
+    }
+    return curve;
+}
+
+} // namespace ceiechart

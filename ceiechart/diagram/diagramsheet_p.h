@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_DIAGRAM_DIAGRAMSHEET_P_H
+#define CEIECHART_DIAGRAM_DIAGRAMSHEET_P_H
+
+#include <ceiechart/diagram/diagrampainter.h>
+#include <ceiechart/diagram/drawlist_p.h>
+
+#include <QVector>
+
+namespace ceiechart {
+
+/*! \brief The fonts of a diagram on one device. */
+struct DiagramFonts {
+    DiagramFonts(const QFont &font, const QPaintDevice *device, double unit);
+
+    TextStyle numbers; //!< at axes, wavelengths, isotherms, rings
+    TextStyle names; //!< of gamuts
+    TextStyle texts; //!< of marks
+    TextStyle axes; //!< names of the coordinates
+};
+
+/*! \brief What is painted, and on what. */
+struct DiagramSheet {
+    const DiagramContent &content;
+    const DiagramViewport &viewport;
+    const DiagramFonts &fonts;
+
+    bool shows(DiagramLayer layer) const { return content.layers.testFlag(layer); }
+    const DiagramPalette &palette() const { return diagramPalette(content.ground); }
+    HorseshoeColors colors() const { return shows(DiagramLayer::Colors) ? content.colors : HorseshoeColors::None; }
+};
+
+/*! \brief The texts on a diagram, none of which stands on another. */
+class LabelPlaces {
+public:
+    //! Whether \a place, with \a gap round it, is within \a area and on no label.
+    bool isFree(const QRectF &place, const QRectF &area, double gap) const;
+    void add(DiagramLabel::Kind kind, const QString &text, const QRectF &place, int index = -1);
+    const QVector<DiagramLabel> &labels() const { return m_labels; }
+
+private:
+    QVector<DiagramLabel> m_labels;
+};
+
+/*! \brief The margins that numbers of \a fonts need. */
+QMarginsF diagramMargins(const DiagramContent &content, const DiagramFonts &fonts);
+
+/*! \brief What is painted and the texts in it. */
+struct DiagramStep {
+    DrawList drawing; //!< lines and marks
+    DrawList texts; //!< what no line of a later step may cross
+    LabelPlaces places; //!< those of the steps before as well
+};
+
+/*! \name The steps of painting
+ * @{
+ */
+DiagramStep scaleStep(const DiagramSheet &sheet);
+DiagramStep gamutsStep(const DiagramSheet &sheet, const LabelPlaces &places);
+DiagramStep editedStep(const DiagramSheet &sheet, const LabelPlaces &places);
+/*! @} */
+
+/*! \brief A line of \a pen with a casing of \a casing under it, as far as it is within \a area. */
+void drawCased(
+    DrawList &list, const QPolygonF &points, bool closed, const QRectF &area, const QPen &pen, const QColor &casing);
+
+/*!
+ * \brief The common area of target and display in the diagram's own coordinates, or the one of them that there is.
+ *
+ * Empty when there is neither, or the layer of the common area is off.
+ */
+QPolygonF commonArea(const DiagramContent &content, Model::Diagram diagram);
+
+} // namespace ceiechart
+
+#endif // CEIECHART_DIAGRAM_DIAGRAMSHEET_P_H

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_DIAGRAM_DIAGRAMVIEW_P_H
+#define CEIECHART_DIAGRAM_DIAGRAMVIEW_P_H
+
+#include <ceiechart/diagram/diagramedit_p.h>
+#include <ceiechart/diagram/diagrampainter.h>
+#include <ceiechart/diagram/diagramview.h>
+
+#include <QPixmap>
+#include <QTimer>
+
+class QGestureEvent;
+class QNativeGestureEvent;
+class QTouchEvent;
+
+namespace ceiechart {
+
+/*! What lies over the diagram and comes and goes with hands and focus. */
+struct DiagramOverlay {
+    //! A handle as it is drawn.
+    struct Handle {
+        GamutVertex vertex = GamutVertex::Red;
+        QPointF at;
+        bool isMovable = true;
+        bool isSelected = false;
+        bool isHovered = false;
+        bool hasFocus = false;
+    };
+    QVector<Handle> handles;
+    QVector<QPolygonF> guides; //!< what was snapped to and what movement is locked to; a single point is a place
+    QStringList label; //!< lines of the label at what is edited; empty for none
+    QRectF labelPlace;
+    QString readout; //!< empty for none
+    QRectF readoutPlace;
+    bool showsFocusFrame = false;
+
+    //! What \a handle covers, with its ring.
+    static QRectF bounds(const Handle &handle);
+    static QSizeF labelSize(const QStringList &lines, const QFont &font);
+    static void paintHandle(QPainter &painter, const Handle &handle, const DiagramPalette &palette);
+    void paintReadout(QPainter &painter, const DiagramPalette &palette) const;
+    void paint(QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const QFont &font) const;
+};
+
+class DiagramView::Private {
+public:
+    enum class Hand {
+        Idle,
+        Panning,
+        Holding, //!< pressed on a handle that has not moved yet
+        Dragging,
+        Spent //!< the button is down, but what it did is over
+    };
+
+    explicit Private(DiagramView *view);
+
+    // Content
+    const DiagramGamut *target() const;
+    bool hasHandles() const;
+    TargetContext context() const;
+    void change(const DiagramContent &changed);
+    void replace(GamutRole role, const std::vector<Model::ColorGamut> &gamuts);
+    void putTarget(const Model::Targets &targets);
+    void followPalette();
+    int decimals() const;
+
+    // The view
+    //! Takes \a wanted, with the margins that its numbers need, so that what is at \a anchor stays there.
+    void look(DiagramViewport wanted, const QPointF &anchor);
+    void look(const DiagramViewport &wanted);
+    void zoom(double factor, const QPointF &anchor);
+    void pan(const QPointF &delta);
+    QPointF zoomAnchor() const;
+
+    // Painting
+    void forgetPictures();
+    const QPixmap &linesPicture();
+    void refreshOverlay();
+    QRegion overlayRegion(const DiagramOverlay &overlay) const;
+    bool meetsAnother(const Model::Targets &targets) const;
+    QRegion editedRegion(const Model::Targets &before, const Model::Targets &after) const;
+    void placeLabel();
+
+    // Hands
+    std::optional<GamutVertex> handleAt(const QPointF &position) const;
+    QPointF positionOf(GamutVertex vertex) const;
+    void press(const QPointF &position, Qt::MouseButton button);
+    void moveTo(const QPointF &position, Qt::KeyboardModifiers modifiers);
+    void release(Qt::MouseButton button);
+    void hover(const QPointF &position);
+    void endHover();
+    void drag(const QPointF &way, Qt::KeyboardModifiers modifiers);
+    bool apply(const EditStep &step);
+    void finishEditing();
+    void finishKeys();
+    void dropLabel();
+    void updateCursor();
+    bool nudge(QKeyEvent *event);
+    bool wants(const QKeyEvent &event) const;
+    bool touch(QTouchEvent *event);
+    bool gesture(QGestureEvent *event);
+    bool nativeGesture(QNativeGestureEvent *event);
+
+    DiagramView *const q;
+    std::unique_ptr<DiagramPainter> painter;
+    DiagramContent content;
+    DiagramViewport viewport;
+    std::shared_ptr<const TargetRules> rules;
+    bool readOnly = false;
+    int digits = automaticDigits;
+    bool readoutShown = true;
+    QString editNote;
+    std::optional<GamutVertex> selected;
+
+    QPixmap lines; //!< scale and gamuts, which no edit changes, on nothing; the colours below are the painter's
+    bool linesAreReady = false;
+
+    Hand hand = Hand::Idle;
+    Qt::MouseButton button = Qt::NoButton;
+    QPointF lastPosition;
+    QPointF panRest; //!< what is left of a pan by whole device pixels
+    std::optional<TargetEdit> edit;
+    Model::Targets before; //!< what Esc brings back
+    bool keysAreEditing = false;
+    QString lastReason;
+    QStringList label;
+    QVector<QPolygonF> guidesXy;
+    QTimer labelTimer;
+
+    std::optional<QPointF> pointer; //!< over the widget
+    std::optional<GamutVertex> hovered;
+    bool isHovering = false;
+    bool touching = false;
+    bool pinching = false;
+    QPointF pinchMiddle;
+    double pinchLength = 0.0;
+
+    DiagramOverlay overlay;
+};
+
+//! Makes the view's accessible objects known; once is enough.
+void installDiagramAccessibility();
+//! Tells accessibility clients that the handle of \a vertex has got the focus, or has moved by keyboard.
+void announceFocus(DiagramView *view, GamutVertex vertex);
+void announceMove(DiagramView *view, GamutVertex vertex);
+//! Tells them that the gamuts are others.
+void announceGamuts(DiagramView *view);
+
+} // namespace ceiechart
+
+#endif

@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/drawlist_p.h>
+#include <ceiechart/diagram/polylines_p.h>
+
+#include <QGuiApplication>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ceiechart {
+
+namespace {
+
+constexpr double pointsPerInch = 72.0;
+constexpr double casingWidth = 3.0; // of texts, logical pixels
+constexpr int designPixelSize = 100; // large enough for rounding to play no part
+
+double dotsPerInch(const QPaintDevice *device)
+{
+    if (device) {
+        return device->logicalDpiY();
+    }
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->logicalDotsPerInchY() : 96.0;
+}
+
+QFontMetricsF metricsOf(const QFont &font, const QPaintDevice *device)
+{
+    // Not all versions of Qt take a device that is constant.
+    return device ? QFontMetricsF(font, const_cast<QPaintDevice *>(device)) : QFontMetricsF(font);
+}
+
+QFont designed(QFont font)
+{
+    font.setPixelSize(designPixelSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+//! Whether positions on the device are whole pixels of a picture that is looked at as it is.
+bool hasPixels(const QPainter &painter)
+{
+    switch (painter.paintEngine()->type()) {
+    case QPaintEngine::SVG:
+    case QPaintEngine::Pdf:
+    case QPaintEngine::Picture:
+    case QPaintEngine::PostScript:
+    case QPaintEngine::MacPrinter:
+        return false;
+    default:
+        return painter.deviceTransform().type() <= QTransform::TxScale;
+    }
+}
+
+bool isRaster(const QPainter &painter)
+{
+    return painter.paintEngine()->type() == QPaintEngine::Raster
+        && painter.deviceTransform().type() <= QTransform::TxScale;
+}
+
+/*!
+ * Adds the pieces of the line through \a points, each a little longer so that no seam shows.
+ *
+ * The raster engine paints straight lines with flat ends many times faster than the outline of a polygon.
+ */
+void addPieces(QVector<QLineF> &pieces, const QPolygonF &points, bool closed)
+{
+    constexpr double overlap = 0.3;
+    const int count = int(points.size()) - (closed ? 0 : 1);
+    for (int i = 0; i < count; ++i) {
+        const QPointF &from = points.at(i);
+        const QPointF &to = points.at((i + 1) % points.size());
+        const double length = std::hypot(to.x() - from.x(), to.y() - from.y());
+        if (length > 0.0) {
+            const QPointF more = (to - from) * (overlap / length);
+            pieces.append(QLineF(closed || i > 0 ? from - more : from, closed || i + 1 < count ? to + more : to));
+        }
+    }
+}
+
+//! Rounds corners that are sharp enough to show a notch between two pieces.
+void addCorners(QVector<QPointF> &corners, const QPolygonF &points, bool closed)
+{
+    constexpr double straight = 0.98; // cosine
+    const int count = int(points.size());
+    for (int i = closed ? 0 : 1; i < count - (closed ? 0 : 1); ++i) {
+        const QPointF in = points.at(i) - points.at((i + count - 1) % count);
+        const QPointF out = points.at((i + 1) % count) - points.at(i);
+        const double lengths = std::hypot(in.x(), in.y()) * std::hypot(out.x(), out.y());
+        if (QPointF::dotProduct(in, out) < straight * lengths) {
+            corners.append(points.at(i));
+        }
+    }
+}
+
+void paintPieces(QPainter &painter, const QPolygonF &points, bool closed, QPen pen)
+{
+    QVector<QLineF> pieces;
+    QVector<QPointF> corners;
+    if (pen.style() == Qt::SolidLine) {
+        addPieces(pieces, points, closed);
+        addCorners(corners, points, closed);
+    } else {
+        std::vector<double> pattern;
+        for (const qreal part : pen.dashPattern()) {
+            pattern.push_back(part * pen.widthF());
+        }
+        for (const QPolygonF &dash : dashesOf(points, closed, pattern, pen.dashOffset() * pen.widthF())) {
+            addPieces(pieces, dash, false);
+            addCorners(corners, dash, false);
+        }
+        pen.setStyle(Qt::SolidLine);
+    }
+    pen.setCapStyle(Qt::FlatCap);
+    painter.setPen(pen);
+    painter.drawLines(pieces);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(pen.color());
+    for (const QPointF &corner : corners) {
+        painter.drawEllipse(corner, pen.widthF() / 2.0, pen.widthF() / 2.0);
+    }
+}
+
+} // namespace
+
+TextStyle::TextStyle(const QFont &font, const QPaintDevice *device, double unit)
+    : m_font(font)
+    , m_metrics(metricsOf(font, device))
+    , m_unit(unit)
+    , m_pixelSize(font.pointSizeF() * dotsPerInch(device) / pointsPerInch / unit)
+{
+}
+
+QSizeF TextStyle::designedSize(const QString &text) const
+{
+    const QFontMetricsF metrics(designed(m_font));
+    return QSizeF(metrics.horizontalAdvance(text), metrics.ascent() + metrics.descent())
+        * (m_pixelSize / designPixelSize);
+}
+
+void DrawList::hairline(const QLineF &line, const QColor &color)
+{
+    m_items.push_back(Hairline{line, color});
+}
+
+void DrawList::line(const QPolygonF &points, bool closed, const QPen &pen)
+{
+    m_items.push_back(Line{points, closed, pen});
+}
+
+void DrawList::lines(const QVector<QLineF> &lines, const QPen &pen)
+{
+    m_items.push_back(Lines{lines, pen});
+}
+
+void DrawList::shape(const QPainterPath &path, const QPen &pen, const QBrush &brush)
+{
+    m_items.push_back(Shape{path, pen, brush});
+}
+
+void DrawList::ellipse(const QPointF &centre, double radiusX, double radiusY, const QPen &pen, const QBrush &brush)
+{
+    m_items.push_back(Ellipse{centre, radiusX, radiusY, pen, brush});
+}
+
+void DrawList::text(
+    const QPointF &at, const QString &text, const TextStyle &style, const QColor &color, const QColor &casing)
+{
+    m_items.push_back(Text{at, text, style.font(), style.unit(), style.pixelSize(), color, casing});
+}
+
+void DrawList::textIn(
+    const QRectF &place, const QString &text, const TextStyle &style, const QColor &color, const QColor &casing)
+{
+    this->text(QPointF(place.left(), place.top() + style.ascent()), text, style, color, casing);
+}
+
+void DrawList::paint(QPainter *painter) const
+{
+    painter->save();
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    for (const auto &item : m_items) {
+        std::visit([painter](const auto &which) { paintItem(painter, which); }, item);
+    }
+    painter->restore();
+}
+
+void DrawList::paintItem(QPainter *painter, const Hairline &item)
+{
+    if (!hasPixels(*painter)) {
+        painter->setPen(QPen(item.color, 1.0, Qt::SolidLine, Qt::FlatCap));
+        painter->drawLine(item.line);
+        return;
+    }
+    const QTransform transform = painter->deviceTransform();
+    const bool isLevel = std::fabs(item.line.dy()) < std::fabs(item.line.dx());
+    const double scale = std::fabs(isLevel ? transform.m22() : transform.m11());
+    const double thickness = std::max(1.0, std::floor(scale));
+    const QRectF along = transform.mapRect(QRectF(item.line.p1(), item.line.p2()).normalized());
+    QRectF pixels;
+    if (isLevel) {
+        const double left = std::round(along.left());
+        pixels = QRectF(left, std::floor(along.center().y() - (thickness - 1.0) / 2.0),
+            std::round(along.right()) - left, thickness);
+    } else {
+        const double top = std::round(along.top());
+        pixels = QRectF(
+            std::floor(along.center().x() - (thickness - 1.0) / 2.0), top, thickness, std::round(along.bottom()) - top);
+    }
+    painter->fillRect(transform.inverted().mapRect(pixels), item.color);
+}
+
+void DrawList::paintItem(QPainter *painter, const Line &item)
+{
+    if (isRaster(*painter)) {
+        paintPieces(*painter, item.points, item.closed, item.pen);
+        return;
+    }
+    painter->setPen(item.pen);
+    painter->setBrush(Qt::NoBrush);
+    if (item.closed) {
+        painter->drawPolygon(item.points);
+    } else {
+        painter->drawPolyline(item.points);
+    }
+}
+
+void DrawList::paintItem(QPainter *painter, const Lines &item)
+{
+    painter->setPen(item.pen);
+    painter->drawLines(item.lines);
+}
+
+void DrawList::paintItem(QPainter *painter, const Shape &item)
+{
+    painter->setPen(item.pen);
+    painter->setBrush(item.brush);
+    painter->drawPath(item.path);
+}
+
+void DrawList::paintItem(QPainter *painter, const Ellipse &item)
+{
+    constexpr double large = 20.0;
+    if (item.brush == Qt::NoBrush && isRaster(*painter) && std::max(item.radiusX, item.radiusY) > large) {
+        QPolygonF points;
+        const int count = int(std::min(2000.0, 4.0 * std::max(item.radiusX, item.radiusY)));
+        for (int i = 0; i < count; ++i) {
+            const double angle = 2.0 * M_PI * i / count;
+            points.append(item.centre + QPointF(item.radiusX * std::cos(angle), item.radiusY * std::sin(angle)));
+        }
+        paintPieces(*painter, points, true, item.pen);
+        return;
+    }
+    painter->setPen(item.pen);
+    painter->setBrush(item.brush);
+    painter->drawEllipse(item.centre, item.radiusX, item.radiusY);
+}
+
+void DrawList::paintItem(QPainter *painter, const Text &item)
+{
+    if (item.casing.isValid() && isRaster(*painter) && item.unit == 1.0) {
+        // The glyphs are kept as pictures: to put them down eight times is faster than to stroke their outlines once.
+        constexpr double reach = casingWidth / 2.0;
+        constexpr double aslant = reach * 0.7;
+        painter->setPen(item.casing);
+        painter->setFont(item.font);
+        for (const QPointF &way : {QPointF(reach, 0.0), QPointF(-reach, 0.0), QPointF(0.0, reach), QPointF(0.0, -reach),
+                 QPointF(aslant, aslant), QPointF(-aslant, aslant), QPointF(aslant, -aslant),
+                 QPointF(-aslant, -aslant)}) {
+            painter->drawText(item.at + way, item.text);
+        }
+    } else if (item.casing.isValid()) {
+        QPainterPath glyphs;
+        glyphs.addText(QPointF(), designed(item.font), item.text);
+        const double scale = item.pixelSize / designPixelSize;
+        const QTransform place(scale, 0.0, 0.0, scale, item.at.x(), item.at.y());
+        painter->setPen(QPen(item.casing, casingWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawPath(place.map(glyphs));
+    }
+    painter->setPen(item.color);
+    painter->setFont(item.font);
+    if (item.unit == 1.0) {
+        painter->drawText(item.at, item.text);
+        return;
+    }
+    painter->save();
+    painter->translate(item.at);
+    painter->scale(1.0 / item.unit, 1.0 / item.unit);
+    painter->drawText(QPointF(), item.text);
+    painter->restore();
+}
+
+} // namespace ceiechart

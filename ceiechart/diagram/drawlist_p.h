@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_DIAGRAM_DRAWLIST_P_H
+#define CEIECHART_DIAGRAM_DRAWLIST_P_H
+
+#include <QBrush>
+#include <QColor>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QLineF>
+#include <QPainterPath>
+#include <QPen>
+#include <QPolygonF>
+#include <QString>
+
+#include <variant>
+#include <vector>
+
+class QPaintDevice;
+class QPainter;
+
+namespace ceiechart {
+
+/*! \brief A font and its measures in logical pixels. */
+class TextStyle {
+public:
+    /*!
+     * \param font  sized in points
+     * \param device  what is painted on; null for the screen
+     * \param unit  device pixels of the device's own coordinates per logical pixel
+     */
+    TextStyle(const QFont &font, const QPaintDevice *device, double unit);
+
+    const QFont &font() const { return m_font; }
+    double unit() const { return m_unit; }
+    double width(const QString &text) const { return m_metrics.horizontalAdvance(text) / m_unit; }
+    double ascent() const { return m_metrics.ascent() / m_unit; }
+    double height() const { return (m_metrics.ascent() + m_metrics.descent()) / m_unit; }
+    QSizeF size(const QString &text) const { return QSizeF(width(text), height()); }
+    //! The size of an em in logical pixels.
+    double pixelSize() const { return m_pixelSize; }
+    //! The size of \a text as designed, which is the same on every device: hinting plays no part.
+    QSizeF designedSize(const QString &text) const;
+
+private:
+    QFont m_font;
+    QFontMetricsF m_metrics;
+    double m_unit;
+    double m_pixelSize;
+};
+
+/*! \brief What is to be painted, in order, in logical pixels. */
+class DrawList {
+public:
+    //! A level or upright line as thin as can be, on whole device pixels where the device has such.
+    void hairline(const QLineF &line, const QColor &color);
+    //! A line, or the outline of a polygon.
+    void line(const QPolygonF &points, bool closed, const QPen &pen);
+    //! Lines that do not hang together.
+    void lines(const QVector<QLineF> &lines, const QPen &pen);
+    //! Any shape.
+    void shape(const QPainterPath &path, const QPen &pen, const QBrush &brush);
+    //! An ellipse with level and upright axes.
+    void ellipse(const QPointF &centre, double radiusX, double radiusY, const QPen &pen, const QBrush &brush);
+    //! A text with the left end of its base line at \a at; a \a casing that is no colour is left out.
+    void text(const QPointF &at, const QString &text, const TextStyle &style, const QColor &color,
+        const QColor &casing = QColor());
+    //! A text that covers \a place.
+    void textIn(const QRectF &place, const QString &text, const TextStyle &style, const QColor &color,
+        const QColor &casing = QColor());
+
+    void paint(QPainter *painter) const;
+
+private:
+    struct Hairline {
+        QLineF line;
+        QColor color;
+    };
+    struct Line {
+        QPolygonF points;
+        bool closed;
+        QPen pen;
+    };
+    struct Lines {
+        QVector<QLineF> lines;
+        QPen pen;
+    };
+    struct Shape {
+        QPainterPath path;
+        QPen pen;
+        QBrush brush;
+    };
+    struct Ellipse {
+        QPointF centre;
+        double radiusX;
+        double radiusY;
+        QPen pen;
+        QBrush brush;
+    };
+    struct Text {
+        QPointF at;
+        QString text;
+        QFont font;
+        double unit;
+        double pixelSize;
+        QColor color;
+        QColor casing;
+    };
+    static void paintItem(QPainter *painter, const Hairline &item);
+    static void paintItem(QPainter *painter, const Line &item);
+    static void paintItem(QPainter *painter, const Lines &item);
+    static void paintItem(QPainter *painter, const Shape &item);
+    static void paintItem(QPainter *painter, const Ellipse &item);
+    static void paintItem(QPainter *painter, const Text &item);
+
+    std::vector<std::variant<Hairline, Line, Lines, Shape, Ellipse, Text>> m_items;
+};
+
+} // namespace ceiechart
+
+#endif // CEIECHART_DIAGRAM_DRAWLIST_P_H

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_DIAGRAM_POLYLINES_P_H
+#define CEIECHART_DIAGRAM_POLYLINES_P_H
+
+#include <QLineF>
+#include <QPolygonF>
+#include <QRectF>
+
+#include <optional>
+#include <vector>
+
+namespace ceiechart {
+
+/*! \brief A part of a line that lies within a rectangle. */
+struct LinePart {
+    QPolygonF points; //!< from where it enters to where it leaves
+    double begin = 0.0; //!< the length of the line before its first point, for dashes that do not move with the view
+    bool closed = false; //!< the whole of a closed line
+};
+
+/*!
+ * \brief The parts of the line through \a points within \a area.
+ *
+ * Lines are cut here and not by a clip of the painter, which files do not take everywhere, and which would leave the
+ * painter with lines of millions of pixels.
+ */
+std::vector<LinePart> partsWithin(const QPolygonF &points, bool closed, const QRectF &area);
+
+/*! \brief The part of \a line within \a area, if any. */
+std::optional<QLineF> partWithin(const QLineF &line, const QRectF &area);
+
+/*! \brief The part of \a line within the convex \a polygon, as shares of its length from 0 to 1, if any. */
+std::optional<std::pair<double, double>> sharesWithin(const QLineF &line, const QPolygonF &polygon);
+
+/*!
+ * \brief The dashes of the line through \a points.
+ *
+ * \param pattern the lengths of dashes and gaps in turn, an even number
+ * \param begin the length in the pattern at the first point
+ */
+std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std::vector<double> &pattern, double begin);
+
+} // namespace ceiechart
+
+#endif // CEIECHART_DIAGRAM_POLYLINES_P_H

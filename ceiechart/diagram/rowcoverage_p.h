@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_DIAGRAM_ROWCOVERAGE_P_H
+#define CEIECHART_DIAGRAM_ROWCOVERAGE_P_H
+
+#include <QPolygonF>
+
+#include <vector>
+
+namespace ceiechart {
+
+/*! \brief Pixels beside one another of which a polygon covers the same share. */
+struct CoveredRun {
+    int left; //!< the first column
+    int right; //!< the column behind the last
+    int alpha; //!< the share, 0 to 255
+};
+
+/*!
+ * \brief How much of each pixel a simple polygon covers: the exact area, rounded to 1/255.
+ *
+ * Works row by row and touches only what is near the edges, so that a part of a picture costs no more than its share.
+ */
+class RowCoverage {
+public:
+    RowCoverage() = default;
+    /*! \brief Of \a polygon in pixels, on a picture of \a width x \a height. */
+    RowCoverage(const QPolygonF &polygon, int width, int height);
+
+    /*! \brief The runs of row \a y, from column 0 to the last without a gap. Valid until the next call. */
+    const std::vector<CoveredRun> &row(int y);
+
+private:
+    struct Edge {
+        double x; // at the upper end
+        double top;
+        double bottom;
+        double slope; // columns per row
+        double sign;
+    };
+    void add(double from, double to, double height);
+    void touch(int first, int last);
+
+    int m_width = 0;
+    int m_height = 0;
+    std::vector<Edge> m_edges;
+    std::vector<int> m_first; // of each row in m_crossing
+    std::vector<int> m_crossing; // edges by row
+    std::vector<double> m_change; // of the coverage from column to column, in the row at hand
+    std::vector<std::pair<int, int>> m_touched; // first and last column
+    std::vector<CoveredRun> m_runs;
+};
+
+} // namespace ceiechart
+
+#endif // CEIECHART_DIAGRAM_ROWCOVERAGE_P_H

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/atlas/cie1931_p.h>
+#include <ceiechart/diagram/spectrum_p.h>
+#include <ceiechart/diagram/whitepoint.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iterator>
+
+namespace ceiechart {
+
+namespace {
+
+constexpr std::array allDiagrams{Model::Diagram::Cie1931, Model::Diagram::Cie1976, Model::Diagram::Cie1960};
+
+int indexOf(Model::Diagram diagram)
+{
+    const auto found = std::find(allDiagrams.begin(), allDiagrams.end(), diagram);
+    return found != allDiagrams.end() ? int(found - allDiagrams.begin()) : 0;
+}
+
+//! One value for each diagram, made once.
+template <typename Make>
+auto forEachDiagram(Make make)
+{
+    std::array<decltype(make(allDiagrams[0])), allDiagrams.size()> values;
+    std::transform(allDiagrams.begin(), allDiagrams.end(), values.begin(), make);
+    return values;
+}
+
+QPointF inDiagram(Model::Diagram diagram, const QPointF &xy)
+{
+    const Model::DiagramPoint point = Model::toDiagram(diagram, {xy.x(), xy.y()});
+    return QPointF(point.x, point.y);
+}
+
+//! Between p1 and p2, with the slopes that the neighbours give (Catmull-Rom).
+template <typename Value>
+Value cubic(const Value &p0, const Value &p1, const Value &p2, const Value &p3, double s)
+{
+    return p1 + ((p2 - p0) + ((p0 * 2.0 - p1 * 5.0 + p2 * 4.0 - p3) + ((p1 - p2) * 3.0 + p3 - p0) * s) * s) * (0.5 * s);
+}
+
+//! The derivative of cubic() by \a s.
+template <typename Value>
+Value cubicSlope(const Value &p0, const Value &p1, const Value &p2, const Value &p3, double s)
+{
+    return ((p2 - p0) + ((p0 * 2.0 - p1 * 5.0 + p2 * 4.0 - p3) * 2.0 + ((p1 - p2) * 3.0 + p3 - p0) * (3.0 * s)) * s)
+        * 0.5;
+}
+
+QPolygonF spectrum(Model::Diagram diagram, int perNanometre)
+{
+    QPolygonF points;
+    const int count = int((longestWavelength - shortestWavelength) * perNanometre);
+    for (int i = 0; i <= count; ++i) {
+        points.append(inDiagram(diagram, spectralChromaticity(shortestWavelength + double(i) / perNanometre)));
+    }
+    return points;
+}
+
+//! CIE 1960 u, v from the hottest to the coolest.
+const QPolygonF &planckianUv()
+{
+    static const QPolygonF locus = [] {
+        QPolygonF points;
+        for (const QPointF &xy : planckianLocusXy()) {
+            points.prepend(inDiagram(Model::Diagram::Cie1960, xy));
+        }
+        return points;
+    }();
+    return locus;
+}
+
+constexpr double firstMired = 11.0; // of planckianLocusXy()
+
+} // namespace
+
+QPointF spectralChromaticity(double wavelength)
+{
+    constexpr int count = int(std::size(cie1931));
+    const double place = wavelength - cie1931[0].waveLength;
+    const int node = std::clamp(int(std::floor(place)), 1, count - 3);
+    const auto at = [node, s = place - node](double CEIAtlasValue::CEIAtlasCoordinate::*value) {
+        const auto *row = cie1931 + node;
+        return cubic(row[-1].*value, row[0].*value, row[1].*value, row[2].*value, s);
+    };
+    const double x = at(&CEIAtlasValue::CEIAtlasCoordinate::X);
+    const double y = at(&CEIAtlasValue::CEIAtlasCoordinate::Y);
+    const double z = at(&CEIAtlasValue::CEIAtlasCoordinate::Z);
+    return QPointF(x, y) / (x + y + z);
+}
+
+const QPolygonF &spectralLocusIn(Model::Diagram diagram, int perNanometre)
+{
+    static const auto coarse = forEachDiagram([](Model::Diagram which) { return spectrum(which, 1); });
+    if (perNanometre == 1) {
+        return coarse[size_t(indexOf(diagram))];
+    }
+    static const auto fine = forEachDiagram([](Model::Diagram which) { return spectrum(which, 10); });
+    return fine[size_t(indexOf(diagram))];
+}
+
+const QRectF &spectrumBounds(Model::Diagram diagram)
+{
+    static const auto bounds
+        = forEachDiagram([](Model::Diagram which) { return spectralLocusIn(which, 1).boundingRect(); });
+    return bounds[size_t(indexOf(diagram))];
+}
+
+LocusPoint planckianPoint(double mired)
+{
+    const QPolygonF &locus = planckianUv();
+    const double place = mired - firstMired;
+    const int node = std::clamp(int(std::floor(place)), 1, int(locus.size()) - 3);
+    const double s = place - node;
+    const QPointF &p0 = locus.at(node - 1);
+    const QPointF &p1 = locus.at(node);
+    const QPointF &p2 = locus.at(node + 1);
+    const QPointF &p3 = locus.at(node + 2);
+    const QPointF way = cubicSlope(p0, p1, p2, p3, s);
+    const double length = std::hypot(way.x(), way.y());
+    // Towards falling temperature u grows: to the left of it is greater v.
+    return {cubic(p0, p1, p2, p3, s), QPointF(-way.y(), way.x()) / length};
+}
+
+const QPolygonF &planckianLocusIn(Model::Diagram diagram)
+{
+    static const auto loci = forEachDiagram([](Model::Diagram which) {
+        QPolygonF points;
+        for (const QPointF &uv : planckianUv()) {
+            points.append(fromUv1960(which, uv));
+        }
+        return points;
+    });
+    return loci[size_t(indexOf(diagram))];
+}
+
+QPointF fromUv1960(Model::Diagram diagram, const QPointF &uv)
+{
+    const Model::DiagramPoint xy = Model::fromDiagram(Model::Diagram::Cie1960, {uv.x(), uv.y()});
+    return inDiagram(diagram, QPointF(xy.x, xy.y));
+}
+
+} // namespace ceiechart
