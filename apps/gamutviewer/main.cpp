@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "chartexport.h"
-#include "commandline.h"
-#include "interfacetranslations.h"
-#include "messages.h"
-#include "openfile.h"
-#include "platform.h"
-#include "report.h"
-#include "samples.h"
-#include "viewerwindow.h"
+#include "display/messages.h"
+#include "display/openfile.h"
+#include "display/report.h"
+#include "display/samples.h"
+#include "drawing/chartexport.h"
+#include "program/commandline.h"
+#include "program/interfacetranslations.h"
+#include "program/platform.h"
+#include "window/viewerwindow.h"
 
 #include <QApplication>
 #include <QLoggingCategory>

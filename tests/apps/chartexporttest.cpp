@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "expectedchart.h"
 
-#include <gamutviewer/chartexport.h>
-#include <gamutviewer/chartkeypainter.h>
-#include <gamutviewer/chartpainter.h>
-#include <gamutviewer/descriptionreader.h>
-#include <gamutviewer/diagrampainter.h>
+#include "display/descriptionreader.h"
+#include "drawing/chartexport.h"
+#include "drawing/chartkeypainter.h"
+#include "drawing/chartpainter.h"
+#include "drawing/diagrampainter.h"
 #include <reference/picturedifference.h>
 
 #include <QPainter>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "expectedchart.h"
 
-#include <gamutviewer/chartrenderer.h>
-#include <gamutviewer/descriptionreader.h>
-#include <gamutviewer/diagramframe.h>
+#include "display/descriptionreader.h"
+#include "drawing/chartrenderer.h"
+#include "drawing/diagramframe.h"
 #include <reference/picturedifference.h>
 
 #include <QtTest>

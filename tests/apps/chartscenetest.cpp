@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/chartscene.h>
-#include <gamutviewer/displaydescription.h>
+#include "drawing/chartscene.h"
+#include "display/displaydescription.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/commandline.h>
+#include "program/commandline.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/document.h>
-#include <gamutviewer/targetsession.h>
+#include "editing/document.h"
+#include "editing/targetsession.h"
 
 #include <QSignalSpy>
 #include <QtTest>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "windowfixture.h"
 
-#include <gamutviewer/diagramkey.h>
-#include <gamutviewer/groupedtable.h>
-#include <gamutviewer/sidepanel.h>
-#include <gamutviewer/signallog.h>
-#include <gamutviewer/targeteditor.h>
-#include <gamutviewer/targetsession.h>
+#include "drawing/diagramkey.h"
+#include "editing/targetsession.h"
+#include "panel/groupedtable.h"
+#include "panel/sidepanel.h"
+#include "panel/signallog.h"
+#include "panel/targeteditor.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "windowfixture.h"
 
-#include <gamutviewer/chromaticity.h>
-#include <gamutviewer/sidepanel.h>
-#include <gamutviewer/targeteditor.h>
-#include <gamutviewer/targetsession.h>
+#include "display/chromaticity.h"
+#include "editing/targetsession.h"
+#include "panel/sidepanel.h"
+#include "panel/targeteditor.h"
 
 #include <QCheckBox>
 #include <QClipboard>

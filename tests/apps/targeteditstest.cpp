@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/chromaticity.h>
-#include <gamutviewer/targetedits.h>
+#include "editing/targetedits.h"
+#include "display/chromaticity.h"
 
 #include <colortemperature/colortemperature.h>
 

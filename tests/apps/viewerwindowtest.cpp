@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "windowfixture.h"
 
-#include <gamutviewer/chartpage.h>
-#include <gamutviewer/chartscene.h>
-#include <gamutviewer/comparepage.h>
-#include <gamutviewer/descriptionreader.h>
-#include <gamutviewer/descriptionwriter.h>
-#include <gamutviewer/diagramkey.h>
-#include <gamutviewer/groupedtable.h>
-#include <gamutviewer/interfacetranslations.h>
-#include <gamutviewer/lenspage.h>
-#include <gamutviewer/lenswidget.h>
-#include <gamutviewer/recentfiles.h>
-#include <gamutviewer/sidepanel.h>
-#include <gamutviewer/targeteditor.h>
-#include <gamutviewer/targetsession.h>
+#include "display/descriptionreader.h"
+#include "display/descriptionwriter.h"
+#include "drawing/chartscene.h"
+#include "drawing/diagramkey.h"
+#include "drawing/lenswidget.h"
+#include "editing/targetsession.h"
+#include "panel/groupedtable.h"
+#include "panel/sidepanel.h"
+#include "panel/targeteditor.h"
+#include "program/interfacetranslations.h"
+#include "window/chartpage.h"
+#include "window/comparepage.h"
+#include "window/lenspage.h"
+#include "window/recentfiles.h"
 
 #include <ceiechart/widgets/ceiegraphicsview.h>
 

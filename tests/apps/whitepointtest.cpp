@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/whitepoint.h>
+#include "display/whitepoint.h"
 
 #include <QtTest>
 

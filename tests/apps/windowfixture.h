@@ -2,11 +2,11 @@
 #ifndef TESTS_APPS_WINDOWFIXTURE_H
 #define TESTS_APPS_WINDOWFIXTURE_H
 
-#include <gamutviewer/document.h>
-#include <gamutviewer/editpage.h>
-#include <gamutviewer/openfile.h>
-#include <gamutviewer/targetedits.h>
-#include <gamutviewer/viewerwindow.h>
+#include "display/openfile.h"
+#include "editing/document.h"
+#include "editing/targetedits.h"
+#include "window/editpage.h"
+#include "window/viewerwindow.h"
 
 #include <QAbstractButton>
 #include <QApplication>

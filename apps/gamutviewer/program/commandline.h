@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_COMMANDLINE_H
+#define GAMUTVIEWER_COMMANDLINE_H
+
+#include "drawing/chartexport.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+
+namespace gamutviewer {
+
+/*! \brief What the program was asked to do. */
+class CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(gamutviewer::CommandLine)
+
+public:
+    enum class Action {
+        Show,
+        Write, //!< a chart, a report or both, and no window
+        Help,
+        Version,
+        Refuse
+    };
+
+    /*! \brief Reads \a arguments, the first of which is the program itself. There need be no application yet. */
+    explicit CommandLine(const QStringList &arguments);
+
+    Action action() const { return m_action; }
+    /*! \brief Why the arguments were refused. */
+    QString error() const { return m_error; }
+    /*! \brief The files to open; empty for the sample. */
+    QStringList files() const { return m_files; }
+    /*! \brief Where Write writes the chart to; empty for no chart. */
+    QString pictureFile() const { return m_pictureFile; }
+    ChartFormat pictureFormat() const { return m_pictureFormat; }
+    /*! \brief Of the picture, or of the window. */
+    const ChartExtent &extent() const { return m_extent; }
+    /*! \brief Whether a size was asked for; otherwise a window may have the one that it had. */
+    bool hasSize() const { return m_hasSize; }
+    /*! \brief Whether Write writes the report to the standard output. */
+    bool wantsReport() const { return m_wantsReport; }
+    /*! \brief Needs the application to exist. */
+    QString helpText() const { return m_parser.helpText(); }
+    /*! \brief Whether a window is wanted; also known of refused arguments. */
+    bool needsDisplay() const { return m_needsDisplay; }
+
+private:
+    void refuse(const QString &error);
+    void readFiles();
+    void readPicture(const QString &fileName);
+    void readSize(const QString &text);
+    void readRatio(const QString &text);
+    void readReport(const QString &format);
+
+    QCommandLineParser m_parser;
+    Action m_action = Action::Show;
+    QString m_error;
+    QStringList m_files;
+    QString m_pictureFile;
+    ChartFormat m_pictureFormat = ChartFormat::Png;
+    ChartExtent m_extent;
+    bool m_hasSize = false;
+    bool m_wantsReport = false;
+    bool m_needsDisplay = true;
+};
+
+} // namespace gamutviewer
+
+#endif
