@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/designer/chartplugins_p.h>
 
+#include <ceiechart/diagram/diagramview.h>
 #include <ceiechart/legacy/legacycharts.h>
 #include <ceiechart/widgets/ceiegraphicsview.h>
 #include <ceiechart/widgets/translations.h>
@@ -16,7 +17,9 @@ namespace {
 struct Entry {
     const char *name;
     const char *objectName;
+    const char *base;
     const char *header;
+    const char *icon;
     const char *toolTip;
     QSize size;
     QWidget *(*make)(QWidget *parent);
@@ -38,17 +41,22 @@ QWidget *make(QWidget *parent)
     return new Widget(parent);
 }
 
+constexpr char chartIcon[] = ":/ceiechart/designer/chart.svg";
+
 const Entry entries[] = {
-    {"NewCEIE::CEIEGraphicsView", "chart", "ceiechart/widgets/ceiegraphicsview.h",
+    {"ceiechart::DiagramView", "diagramView", "QWidget", "ceiechart/diagram/diagramview.h",
+        ":/ceiechart/designer/diagram.svg", "Chromaticity diagram to look at and to edit a target on", QSize(480, 480),
+        make<DiagramView>},
+    {"NewCEIE::CEIEGraphicsView", "chart", "QFrame", "ceiechart/widgets/ceiegraphicsview.h", chartIcon,
         "CIE 1931 x, y chart with gamuts and legend", QSize(402, 440), makeChart<NewCEIE::CEIEGraphicsView>},
-    {"NewCEIE::CEIELegend", "legend", "ceiechart/widgets/ceielegend.h", "Legend of a chart", QSize(360, 32),
-        make<NewCEIE::CEIELegend>},
-    {"ceiechart::LegacyXyChart", "xyChart", "ceiechart/legacy/legacycharts.h",
+    {"NewCEIE::CEIELegend", "legend", "QFrame", "ceiechart/widgets/ceielegend.h", chartIcon, "Legend of a chart",
+        QSize(360, 32), make<NewCEIE::CEIELegend>},
+    {"ceiechart::LegacyXyChart", "xyChart", "QFrame", "ceiechart/legacy/legacycharts.h", chartIcon,
         "Legacy CIE 1931 x, y chart, edited with the mouse", QSize(402, 440), makeChart<LegacyXyChart>},
-    {"ceiechart::LegacyUvChart", "uvChart", "ceiechart/legacy/legacycharts.h",
+    {"ceiechart::LegacyUvChart", "uvChart", "QFrame", "ceiechart/legacy/legacycharts.h", chartIcon,
         "Legacy CIE 1976 u', v' chart, edited with the mouse", QSize(402, 440), makeChart<LegacyUvChart>},
-    {"CEIELegend", "legacyLegend", "ceiechart/legacy/ceielegend.h", "Legend of a legacy chart", QSize(360, 32),
-        make<::CEIELegend>},
+    {"CEIELegend", "legacyLegend", "QFrame", "ceiechart/legacy/ceielegend.h", chartIcon, "Legend of a legacy chart",
+        QSize(360, 32), make<::CEIELegend>},
 };
 
 class ChartPlugin : public QDesignerCustomWidgetInterface {
@@ -63,7 +71,7 @@ public:
     QString toolTip() const override { return QString::fromLatin1(m_entry.toolTip); }
     QString whatsThis() const override { return toolTip(); }
     QString includeFile() const override { return QString::fromLatin1(m_entry.header); }
-    QIcon icon() const override { return QIcon(QStringLiteral(":/ceiechart/designer/chart.svg")); }
+    QIcon icon() const override { return QIcon(QString::fromLatin1(m_entry.icon)); }
     bool isContainer() const override { return false; }
     QWidget *createWidget(QWidget *parent) override { return m_entry.make(parent); }
     bool isInitialized() const override { return m_initialized; }
@@ -79,12 +87,12 @@ public:
     {
         return QStringLiteral("<ui language=\"c++\"><widget class=\"%1\" name=\"%2\"><property name=\"geometry\"><rect>"
                               "<x>0</x><y>0</y><width>%3</width><height>%4</height></rect></property></widget>"
-                              "<customwidgets><customwidget><class>%1</class><extends>QFrame</extends>"
+                              "<customwidgets><customwidget><class>%1</class><extends>%6</extends>"
                               "<header location=\"global\">%5</header></customwidget></customwidgets></ui>")
             .arg(name(), QString::fromLatin1(m_entry.objectName))
             .arg(m_entry.size.width())
             .arg(m_entry.size.height())
-            .arg(includeFile());
+            .arg(includeFile(), QString::fromLatin1(m_entry.base));
     }
 
 private:

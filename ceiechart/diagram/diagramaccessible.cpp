@@ -471,6 +471,8 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
 
 } // namespace
 
+void (*sendAccessibilityEvent)(QAccessibleEvent *event) = QAccessible::updateAccessibility;
+
 void installDiagramAccessibility()
 {
     static const bool installed = [] {
@@ -484,7 +486,7 @@ void announceFocus(DiagramView *view, GamutVertex vertex)
 {
     if (const DiagramAccessible *diagram = DiagramAccessible::of(view)) {
         QAccessibleEvent focus(diagram->handle(vertex), QAccessible::Focus);
-        QAccessible::updateAccessibility(&focus);
+        sendAccessibilityEvent(&focus);
     }
 }
 
@@ -497,20 +499,20 @@ void announceMove(DiagramView *view, GamutVertex vertex)
     for (QAccessibleInterface *moved :
         {diagram->handle(vertex), diagram->coordinate(vertex, true), diagram->coordinate(vertex, false)}) {
         QAccessibleValueChangeEvent change(moved, moved->valueInterface()->currentValue());
-        QAccessible::updateAccessibility(&change);
+        sendAccessibilityEvent(&change);
     }
     QAccessibleEvent description(diagram->handle(vertex), QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&description);
+    sendAccessibilityEvent(&description);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     QAccessibleAnnouncementEvent announcement(view, diagram->handle(vertex)->text(QAccessible::Value));
-    QAccessible::updateAccessibility(&announcement);
+    sendAccessibilityEvent(&announcement);
 #endif
 }
 
 void announceGamuts(DiagramView *view)
 {
     QAccessibleEvent reorder(view, QAccessible::ObjectReorder);
-    QAccessible::updateAccessibility(&reorder);
+    sendAccessibilityEvent(&reorder);
 }
 
 } // namespace ceiechart

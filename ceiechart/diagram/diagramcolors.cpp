@@ -213,8 +213,7 @@ void fillDifference(Filler &filler, RowCoverage &before, const QRect &plot, QReg
 {
     QRect bounds;
     for (int y = plot.top(); y <= plot.bottom(); ++y) {
-        // Filling asks for the row again.
-        const std::vector<CoveredRun> now = filler.full().row(y);
+        const std::vector<CoveredRun> &now = filler.full().row(y);
         const std::vector<CoveredRun> &then = before.row(y);
         size_t i = 0;
         size_t k = 0;

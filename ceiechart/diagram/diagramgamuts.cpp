@@ -32,6 +32,7 @@ constexpr double whiteRadius = 5.0;
 constexpr double whiteArm = 4.0; // of the cross through the target's white
 constexpr double trailRadius = 2.5;
 constexpr double ringWidth = 1.2;
+constexpr double curvePieces = 2.0; // lengths of the pieces of rings, at least
 
 // From bottom to top
 constexpr std::array drawingOrder{
@@ -118,6 +119,7 @@ public:
         , m_content(sheet.content)
         , m_palette(sheet.palette())
         , m_plot(sheet.viewport.plot())
+        , m_inner(m_plot.adjusted(labelGap, labelGap, -labelGap, -labelGap))
     {
         m_step.places = places;
         for (const GamutRole role : drawingOrder) {
@@ -307,7 +309,7 @@ private:
                     QPen(m_palette.casing, ringWidth + casing), Qt::NoBrush);
                 m_step.drawing.ellipse(bounds.center(), bounds.width() / 2.0, bounds.height() / 2.0, pen, Qt::NoBrush);
             } else {
-                drawCased(m_step.drawing, curve, true, m_plot, pen, m_palette.casing);
+                drawCased(m_step.drawing, thinned(curve, curvePieces), true, m_plot, pen, m_palette.casing);
             }
             const QString number = QString::number(radius, 'g', 6);
             const QSizeF size = style.size(number);
@@ -318,7 +320,7 @@ private:
                 curve.cbegin(), curve.cend(), [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
             for (const QPointF &end : {*ends.second, *ends.first}) {
                 const QRectF place(end - QPointF(size.width(), size.height()) / 2.0, size);
-                if (m_step.places.isFree(place, m_plot, labelGap)) {
+                if (m_step.places.isFree(place, m_inner, labelGap)) {
                     m_step.places.add(DiagramLabel::Kind::Ring, number, place);
                     m_step.texts.textIn(place, number, style, color, m_palette.ground);
                     break;
@@ -499,7 +501,7 @@ private:
             for (const QRectF &place : namePlaces(*gamut, size)) {
                 const bool isOnHandle = std::any_of(handles.cbegin(), handles.cend(),
                     [&place](const QRectF &handle) { return handle.intersects(place); });
-                if (isOnHandle || !m_step.places.isFree(place, m_plot, labelGap)) {
+                if (isOnHandle || !m_step.places.isFree(place, m_inner, labelGap)) {
                     continue;
                 }
                 const int cost = covered(place);
@@ -540,7 +542,7 @@ private:
             const QRectF place(centre - QPointF(size.width(), size.height()) / 2.0, size);
             const bool coversMark = std::any_of(
                 m_marks.cbegin(), m_marks.cend(), [&place](const QRectF &mark) { return mark.intersects(place); });
-            if (!coversMark && m_step.places.isFree(place, m_plot, labelGap)) {
+            if (!coversMark && m_step.places.isFree(place, m_inner, labelGap)) {
                 m_step.places.add(DiagramLabel::Kind::Mark, name, place);
                 m_step.texts.textIn(place, name, style, m_palette.text, m_palette.casing);
                 return;
@@ -552,6 +554,7 @@ private:
     const DiagramContent &m_content;
     const DiagramPalette &m_palette;
     QRectF m_plot;
+    QRectF m_inner; // where texts may stand
     std::vector<Shown> m_shown; // from bottom to top
     QVector<QRectF> m_marks;
     std::vector<std::pair<QPointF, QString>> m_named;

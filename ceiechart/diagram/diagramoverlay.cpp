@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -67,6 +68,28 @@ QRectF DiagramOverlay::bounds(const Handle &handle)
 {
     const double reach = ringRadius + outlineWidth;
     return QRectF(handle.at.x() - reach, handle.at.y() - reach, 2.0 * reach, 2.0 * reach);
+}
+
+QStringList DiagramOverlay::wrapped(const QStringList &lines, const QFont &font, double width)
+{
+    QStringList result;
+    for (int i = 0; i < lines.size(); ++i) {
+        QTextLayout layout(lines[i], i == 0 ? boldOf(font) : font);
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(width);
+            // Only the first line of all is bold: coordinates that do not fit stay in one.
+            if (i == 0) {
+                line.setNumColumns(lines[i].size());
+            }
+            result.append(lines[i].mid(line.textStart(), line.textLength()).trimmed());
+        }
+        layout.endLayout();
+    }
+    return result;
 }
 
 QSizeF DiagramOverlay::labelSize(const QStringList &lines, const QFont &font)

@@ -16,10 +16,11 @@ namespace {
 // Logical pixels
 constexpr double numberGap = 6.0; // between an axis and its numbers
 constexpr double edgeGap = 4.0; // between texts and the edge of the whole
-constexpr double tickRoom = 14.0; // beside a number on the level axis, at least
-constexpr double rowsPerTick = 2.8; // heights of a text from tick to tick on the upright axis, at least
+constexpr double tickRoom = 8.0; // beside a number on the level axis, at least
+constexpr double rowsPerTick = 2.6; // heights of a text from tick to tick on the upright axis, at least
 constexpr double mostTicks = 12.0; // on the shorter axis: more are not read better
 constexpr double locusWidth = 1.5;
+constexpr double curvePieces = 3.0; // lengths of the pieces of curves, where there are shorter ones
 constexpr double tickWidth = 1.0;
 constexpr double casingOfTicks = 2.0; // on both sides together
 constexpr double shortTick = 4.0;
@@ -28,7 +29,7 @@ constexpr double tickGap = 3.0; // between a tick and its number
 constexpr double wavelengthTicks = 7.0; // least distance of ticks
 constexpr double wavelengthNumbers = 34.0; // least distance of the middles of numbers
 constexpr double isothermLines = 30.0; // least distance of isotherms
-constexpr double mostIsotherms = 24.0; // side by side on the shorter side of the plot
+constexpr double mostIsotherms = 18.0; // side by side on the shorter side of the plot
 constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
 constexpr double labelGap = 3.0; // round any text
 
@@ -81,6 +82,7 @@ public:
         , m_viewport(sheet.viewport)
         , m_palette(sheet.palette())
         , m_plot(sheet.viewport.plot())
+        , m_inner(m_plot.adjusted(labelGap, labelGap, -labelGap, -labelGap))
         , m_whole(QPointF(), sheet.viewport.size())
     {
     }
@@ -106,17 +108,22 @@ public:
 private:
     QPointF toPosition(const QPointF &point) const { return m_viewport.fromPoint(point); }
 
-    TickScale ticks() const
+    double tickRows() const
+    {
+        return std::max(
+            rowsPerTick * m_sheet.fonts.numbers.height(), std::min(m_plot.width(), m_plot.height()) / mostTicks);
+    }
+
+    TickScale ticksUp() const { return ticksAtLeast(tickRows() / m_viewport.scale()); }
+
+    TickScale ticksAcross() const
     {
         const TextStyle &style = m_sheet.fonts.numbers;
-        const double rows
-            = std::max(rowsPerTick * style.height(), std::min(m_plot.width(), m_plot.height()) / mostTicks);
-        TickScale scale = ticksAtLeast(rows / m_viewport.scale());
+        TickScale scale = ticksUp();
         // More decimals need more room, and may be more for it: once more is enough.
         for (int round = 0; round < 2; ++round) {
             const QString number = QString::number(0.0, 'f', scale.decimals());
-            const double least = std::max(rows, style.width(number) + tickRoom);
-            scale = ticksAtLeast(least / m_viewport.scale());
+            scale = ticksAtLeast(std::max(tickRows(), style.width(number) + tickRoom) / m_viewport.scale());
         }
         return scale;
     }
@@ -128,17 +135,18 @@ private:
         if (!isGrid && !isNumbered) {
             return;
         }
-        const TickScale scale = ticks();
+        const TickScale acrossScale = ticksAcross();
+        const TickScale upScale = ticksUp();
         const QRectF range = m_viewport.range();
-        const QVector<qint64> across = scale.within(range.left(), range.right());
-        const QVector<qint64> up = scale.within(range.top(), range.bottom());
+        const QVector<qint64> across = acrossScale.within(range.left(), range.right());
+        const QVector<qint64> up = upScale.within(range.top(), range.bottom());
         if (isGrid) {
             for (const qint64 tick : across) {
-                const double x = toPosition(QPointF(scale.value(tick), 0.0)).x();
+                const double x = toPosition(QPointF(acrossScale.value(tick), 0.0)).x();
                 m_step.drawing.hairline(QLineF(x, m_plot.top(), x, m_plot.bottom()), m_palette.grid);
             }
             for (const qint64 tick : up) {
-                const double y = toPosition(QPointF(0.0, scale.value(tick))).y();
+                const double y = toPosition(QPointF(0.0, upScale.value(tick))).y();
                 m_step.drawing.hairline(QLineF(m_plot.left(), y, m_plot.right(), y), m_palette.grid);
             }
         }
@@ -150,14 +158,15 @@ private:
         drawNames();
         const TextStyle &style = m_sheet.fonts.numbers;
         for (const qint64 tick : across) {
-            const double x = toPosition(QPointF(scale.value(tick), 0.0)).x();
-            const QSizeF size = style.size(scale.text(tick));
-            drawNumber(scale.text(tick), QRectF(QPointF(x - size.width() / 2.0, m_plot.bottom() + edgeGap), size));
+            const double x = toPosition(QPointF(acrossScale.value(tick), 0.0)).x();
+            const QSizeF size = style.size(acrossScale.text(tick));
+            drawNumber(
+                acrossScale.text(tick), QRectF(QPointF(x - size.width() / 2.0, m_plot.bottom() + edgeGap), size));
         }
         for (const qint64 tick : up) {
-            const double y = toPosition(QPointF(0.0, scale.value(tick))).y();
-            const QSizeF size = style.size(scale.text(tick));
-            drawNumber(scale.text(tick),
+            const double y = toPosition(QPointF(0.0, upScale.value(tick))).y();
+            const QSizeF size = style.size(upScale.text(tick));
+            drawNumber(upScale.text(tick),
                 QRectF(QPointF(m_plot.left() - numberGap - size.width(), y - size.height() / 2.0), size));
         }
     }
@@ -196,7 +205,7 @@ private:
         for (const QPointF &point : spectralLocusIn(m_viewport.diagram(), spectrumDetail(m_viewport.scale()))) {
             points.append(toPosition(point));
         }
-        for (const LinePart &part : partsWithin(points, true, m_plot)) {
+        for (const LinePart &part : partsWithin(thinned(points, curvePieces), true, m_plot)) {
             m_step.drawing.line(part.points, part.closed, pen(m_palette.locus, locusWidth));
         }
     }
@@ -211,6 +220,7 @@ private:
         QPointF foot;
         QPointF outwards; // of length 1
         bool mayBeNumbered;
+        int roundness;
     };
 
     //! What has a tick, from the roundest on.
@@ -218,9 +228,11 @@ private:
     {
         QVector<Wavelength> result;
         const QRectF near = m_plot.adjusted(-longTick, -longTick, longTick, longTick);
-        QPointF from = spectralPosition(shortestWavelength);
-        for (double whole = shortestWavelength; whole < longestWavelength; whole += 1.0) {
-            const QPointF to = spectralPosition(whole + 1.0);
+        const QPolygonF &locus = spectralLocusIn(m_viewport.diagram(), 1);
+        QPointF from = toPosition(locus.first());
+        for (int i = 1; i < locus.size(); ++i) {
+            const double whole = shortestWavelength + i - 1;
+            const QPointF to = toPosition(locus.at(i));
             const QPointF way = to - from;
             const QRectF bounds = QRectF(from, to).normalized().adjusted(-1.0, -1.0, 1.0, 1.0);
             if (bounds.intersects(near) && length(way) > 0.0) {
@@ -236,7 +248,7 @@ private:
                     if (near.contains(foot)) {
                         const double numbered = nanometres / numbers.step();
                         result.append({nanometres, foot, unit(QPointF(along.y(), -along.x())),
-                            std::fabs(numbered - std::round(numbered)) < 1e-6});
+                            std::fabs(numbered - std::round(numbered)) < 1e-6, roundness(nanometres)});
                     }
                 }
             }
@@ -256,7 +268,7 @@ private:
             const QString number = QString::number(wavelength.nanometres, 'g', 6);
             const QRectF place = besides(tip + wavelength.outwards * tickGap, wavelength.outwards, style.size(number));
             const bool isNumbered = wavelength.mayBeNumbered && isApart(numbered, place.center(), wavelengthNumbers)
-                && m_step.places.isFree(place, m_plot, labelGap);
+                && m_step.places.isFree(place, m_inner, labelGap);
             if (isNumbered) {
                 numbered.append(place.center());
                 m_step.places.add(DiagramLabel::Kind::Wavelength, number, place);
@@ -276,7 +288,8 @@ private:
         for (const QPointF &point : planckianLocusIn(m_viewport.diagram())) {
             points.append(toPosition(point));
         }
-        drawCased(m_step.drawing, points, false, m_plot, pen(m_palette.planckian, locusWidth), m_palette.casing);
+        drawCased(m_step.drawing, thinned(points, curvePieces), false, m_plot, pen(m_palette.planckian, locusWidth),
+            m_palette.casing);
     }
 
     //! From below the locus to above it.
@@ -383,7 +396,7 @@ private:
                 const QRectF place = isEnd ? besides(at + way * tickGap, way, size)
                                            : QRectF(at - QPointF(size.width(), size.height()) / 2.0, size);
                 if (isApart(numbered, place.center(), isothermNumbers)
-                    && m_step.places.isFree(place, m_plot, labelGap)) {
+                    && m_step.places.isFree(place, m_inner, labelGap)) {
                     numbered.append(place.center());
                     m_step.places.add(DiagramLabel::Kind::Isotherm, number, place);
                     m_step.texts.textIn(place, number, style, m_palette.planckian, m_palette.casing);
@@ -397,6 +410,7 @@ private:
     const DiagramViewport &m_viewport;
     const DiagramPalette &m_palette;
     QRectF m_plot;
+    QRectF m_inner; // where texts may stand
     QRectF m_whole;
     DiagramStep m_step;
 };

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace ceiechart {
 
@@ -17,6 +18,7 @@ namespace {
 constexpr double zoomStep = 1.5; // of a key or a button
 constexpr double labelDistance = 26.0; // logical pixels from the middle of a handle to its label
 constexpr int edgePieces = 24; // in which the surroundings of an edge are repainted
+constexpr int guidePieces = 64; // which are longer
 constexpr double lineRoom = 6.0; // logical pixels on either side of a line, for its width and casing
 constexpr double markRoom = 16.0; // logical pixels round a white
 
@@ -42,17 +44,26 @@ bool isFinite(const QPolygonF &polygon)
         [](const QPointF &point) { return std::isfinite(point.x()) && std::isfinite(point.y()); });
 }
 
-//! Small boxes along the line from \a from to \a to, as far as it lies near \a middle.
-void addBoxesAlong(QVector<QRectF> &boxes, const QPointF &from, const QPointF &to, double length)
+double distanceTo(const QRectF &place, const QPointF &point)
+{
+    const double x = std::max({place.left() - point.x(), 0.0, point.x() - place.right()});
+    const double y = std::max({place.top() - point.y(), 0.0, point.y() - place.bottom()});
+    return std::hypot(x, y);
+}
+
+//! Small boxes along the line from \a from to \a to.
+void addBoxesAlong(QVector<QRectF> &boxes, const QPointF &from, const QPointF &to)
 {
     constexpr double side = 8.0;
-    const double whole = std::hypot(to.x() - from.x(), to.y() - from.y());
-    if (!(whole > 0.0) || !std::isfinite(whole)) {
+    constexpr int most = 1000; // of the whole line, which may lead far beyond what is seen
+    const double length = std::hypot(to.x() - from.x(), to.y() - from.y());
+    if (!(length > 0.0) || !std::isfinite(length)) {
         return;
     }
-    const QPointF way = (to - from) / whole;
-    for (double done = 0.0; done <= std::min(whole, length); done += side) {
-        const QPointF at = from + way * done;
+    const QPointF step = (to - from) * (side / length);
+    const int count = int(std::min(double(most), length / side));
+    for (int i = 0; i <= count; ++i) {
+        const QPointF at = from + step * i;
         boxes.append(QRectF(at.x() - side / 2.0, at.y() - side / 2.0, side, side));
     }
 }
@@ -327,23 +338,54 @@ void DiagramView::Private::placeLabel()
         overlay.label.clear();
         return;
     }
-    QFont font = q->font();
-    const QSizeF size = DiagramOverlay::labelSize(overlay.label, font);
+    constexpr double widest = 260.0; // of the lines after the first, in logical pixels
+    const QFont font = q->font();
+    overlay.label = DiagramOverlay::wrapped(overlay.label, font, std::min(widest, plot.width() / 2.0));
     QVector<QRectF> avoid;
     for (const DiagramOverlay::Handle &handle : qAsConst(overlay.handles)) {
         avoid.append(DiagramOverlay::bounds(handle));
     }
-    const double length = size.width() + size.height() + 2.0 * labelDistance;
-    if (*selected == GamutVertex::White) {
-        // The white is mixed from the primaries: no line leads to it.
-    } else {
+    // No line leads to the white: it is mixed from the primaries.
+    if (*selected != GamutVertex::White) {
         for (const GamutVertex other : {GamutVertex::Red, GamutVertex::Green, GamutVertex::Blue}) {
             if (other != *selected) {
-                addBoxesAlong(avoid, at, positionOf(other), length);
+                addBoxesAlong(avoid, at, positionOf(other));
             }
         }
     }
-    overlay.labelPlace = painter->freePlace(size, at, labelDistance, avoid);
+    // Where there is no room for all of it, the coordinates are what matters.
+    for (; !overlay.label.isEmpty(); overlay.label.removeLast()) {
+        overlay.labelPlace = labelPlace(DiagramOverlay::labelSize(overlay.label, font), at, avoid);
+        if (!overlay.labelPlace.isEmpty()) {
+            return;
+        }
+    }
+}
+
+QRectF DiagramView::Private::labelPlace(const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid) const
+{
+    QRectF best = painter->freePlace(size, at, labelDistance, avoid);
+    if (!best.isEmpty()) {
+        return best;
+    }
+    // Farther away where there is no room beside it; a line leads from the label to the handle.
+    constexpr int tries = 40; // each way
+    const QRectF plot = viewport.plot();
+    const QSizeF room(plot.width() - size.width(), plot.height() - size.height());
+    double least = std::numeric_limits<double>::max();
+    for (int row = 0; row <= tries && room.isValid(); ++row) {
+        for (int column = 0; column <= tries; ++column) {
+            const QPointF corner(plot.left() + room.width() * column / tries, plot.top() + room.height() * row / tries);
+            const QRectF place(corner, size);
+            const double away = distanceTo(place, at);
+            const auto covers = [&place](const QRectF &box) { return box.intersects(place); };
+            if (away >= labelDistance && away < least && std::none_of(avoid.cbegin(), avoid.cend(), covers)) {
+                least = away;
+                best = place;
+            }
+        }
+    }
+    return best;
 }
 
 QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
@@ -362,16 +404,19 @@ QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
         if (guide.size() == 1) {
             region += around(guide.boundingRect(), markRoom);
         }
+        // A few pieces are enough for a short line; a long one would cover much with one.
+        constexpr double shortLine = 100.0;
+        const QRectF whole = QRectF(q->rect()).adjusted(-lineRoom, -lineRoom, lineRoom, lineRoom);
         for (int i = 1; i < guide.size(); ++i) {
-            const QRectF box = boxOf({guide[i - 1], guide[i]});
-            const int pieces = box.width() + box.height() > 100.0 ? edgePieces : 1;
+            const QPointF way = guide[i] - guide[i - 1];
+            const int pieces = std::hypot(way.x(), way.y()) > shortLine ? guidePieces : 1;
             for (int piece = 0; piece < pieces; ++piece) {
-                const QPointF way = guide[i] - guide[i - 1];
-                const QRectF part = boxOf(
-                    {guide[i - 1] + way * (double(piece) / pieces), guide[i - 1] + way * (double(piece + 1) / pieces)});
-                if (part.intersects(QRectF(q->rect()).adjusted(-lineRoom, -lineRoom, lineRoom, lineRoom))
-                    || part.isEmpty()) {
-                    region += around(part & QRectF(q->rect()).adjusted(-20.0, -20.0, 20.0, 20.0), lineRoom);
+                const QRectF part = boxOf({guide[i - 1] + way * (double(piece) / pieces),
+                                              guide[i - 1] + way * (double(piece + 1) / pieces)})
+                                        .adjusted(-lineRoom, -lineRoom, lineRoom, lineRoom)
+                    & whole;
+                if (!part.isEmpty()) {
+                    region += part.toAlignedRect();
                 }
             }
         }

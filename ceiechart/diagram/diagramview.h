@@ -49,9 +49,10 @@ namespace ceiechart {
 class CEIECHART_EXPORT DiagramView : public QWidget {
     Q_OBJECT
     Q_PROPERTY(DiagramKind diagram READ diagramKind WRITE setDiagram NOTIFY diagramChanged)
-    Q_PROPERTY(ceiechart::ShownLayers layers READ layers WRITE setLayers NOTIFY layersChanged DESIGNABLE false)
-    Q_PROPERTY(ceiechart::HorseshoeColors horseshoeColors READ horseshoeColors WRITE setHorseshoeColors NOTIFY
-            horseshoeColorsChanged DESIGNABLE false)
+    Q_PROPERTY(
+        ceiechart::diagramlayers::ShownLayers layers READ layers WRITE setLayers NOTIFY layersChanged DESIGNABLE false)
+    Q_PROPERTY(ceiechart::diagramlayers::HorseshoeColors horseshoeColors READ horseshoeColors WRITE setHorseshoeColors
+            NOTIFY horseshoeColorsChanged DESIGNABLE false)
     Q_PROPERTY(double zoomFactor READ zoomFactor WRITE setZoomFactor NOTIFY viewChanged)
     Q_PROPERTY(QPointF centre READ centre WRITE setCentre NOTIFY viewChanged DESIGNABLE false)
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged)

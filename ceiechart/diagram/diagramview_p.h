@@ -9,6 +9,7 @@
 #include <QPixmap>
 #include <QTimer>
 
+class QAccessibleEvent;
 class QGestureEvent;
 class QNativeGestureEvent;
 class QTouchEvent;
@@ -36,6 +37,8 @@ struct DiagramOverlay {
 
     //! What \a handle covers, with its ring.
     static QRectF bounds(const Handle &handle);
+    //! \a lines, the first as it is, the others broken where they are wider than \a width.
+    static QStringList wrapped(const QStringList &lines, const QFont &font, double width);
     static QSizeF labelSize(const QStringList &lines, const QFont &font);
     static void paintHandle(QPainter &painter, const Handle &handle, const DiagramPalette &palette);
     void paintReadout(QPainter &painter, const DiagramPalette &palette) const;
@@ -80,6 +83,7 @@ public:
     bool meetsAnother(const Model::Targets &targets) const;
     QRegion editedRegion(const Model::Targets &before, const Model::Targets &after) const;
     void placeLabel();
+    QRectF labelPlace(const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid) const;
 
     // Hands
     std::optional<GamutVertex> handleAt(const QPointF &position) const;
@@ -140,6 +144,8 @@ public:
 
 //! Makes the view's accessible objects known; once is enough.
 void installDiagramAccessibility();
+//! The way of all events to accessibility clients. Tests listen here: without a client, Qt passes nothing on.
+extern void (*sendAccessibilityEvent)(QAccessibleEvent *event);
 //! Tells accessibility clients that the handle of \a vertex has got the focus, or has moved by keyboard.
 void announceFocus(DiagramView *view, GamutVertex vertex);
 void announceMove(DiagramView *view, GamutVertex vertex);

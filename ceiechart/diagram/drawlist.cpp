@@ -246,7 +246,7 @@ void DrawList::paintItem(QPainter *painter, const Ellipse &item)
     constexpr double large = 20.0;
     if (item.brush == Qt::NoBrush && isRaster(*painter) && std::max(item.radiusX, item.radiusY) > large) {
         QPolygonF points;
-        const int count = int(std::min(2000.0, 4.0 * std::max(item.radiusX, item.radiusY)));
+        const int count = int(std::min(2000.0, 3.0 * std::max(item.radiusX, item.radiusY)));
         for (int i = 0; i < count; ++i) {
             const double angle = 2.0 * M_PI * i / count;
             points.append(item.centre + QPointF(item.radiusX * std::cos(angle), item.radiusY * std::sin(angle)));

@@ -103,6 +103,19 @@ std::optional<std::pair<double, double>> sharesWithin(const QLineF &line, const 
     return area != 0.0 && first < last ? std::make_optional(std::make_pair(first, last)) : std::nullopt;
 }
 
+QPolygonF thinned(const QPolygonF &points, double least)
+{
+    QPolygonF kept;
+    for (int i = 0; i < points.size(); ++i) {
+        const QPointF &point = points.at(i);
+        if (kept.isEmpty() || i + 1 == points.size()
+            || std::hypot(point.x() - kept.last().x(), point.y() - kept.last().y()) >= least) {
+            kept.append(point);
+        }
+    }
+    return kept;
+}
+
 std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std::vector<double> &pattern, double begin)
 {
     std::vector<QPolygonF> dashes;
@@ -142,9 +155,12 @@ std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std:
             }
         }
         left -= length - done;
-        if (isDash()) {
+        if (isDash() && done < length) {
             dashes.back().append(from + way);
         }
+    }
+    if (!dashes.empty() && dashes.back().size() < 2) {
+        dashes.pop_back(); // it would begin where the line ends
     }
     return dashes;
 }

@@ -33,6 +33,13 @@ std::optional<QLineF> partWithin(const QLineF &line, const QRectF &area);
 std::optional<std::pair<double, double>> sharesWithin(const QLineF &line, const QPolygonF &polygon);
 
 /*!
+ * \brief \a points without those that are nearer than \a least to the one before them; the last one stays.
+ *
+ * Of a curve that turns by little from point to point nothing is lost that could be seen.
+ */
+QPolygonF thinned(const QPolygonF &points, double least);
+
+/*!
  * \brief The dashes of the line through \a points.
  *
  * \param pattern the lengths of dashes and gaps in turn, an even number

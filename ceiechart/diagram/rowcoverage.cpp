@@ -12,7 +12,6 @@ namespace ceiechart {
 
 RowCoverage::RowCoverage(const QPolygonF &polygon, int width, int height)
     : m_width(width)
-    , m_height(height)
     , m_first(size_t(height) + 1, 0)
     , m_change(size_t(width) + 2, 0.0)
 {
@@ -75,6 +74,10 @@ void RowCoverage::add(double from, double to, double height)
 
 const std::vector<CoveredRun> &RowCoverage::row(int y)
 {
+    if (y == m_row) {
+        return m_runs;
+    }
+    m_row = y;
     m_touched.clear();
     m_runs.clear();
     for (int i = m_first[size_t(y)]; i < m_first[size_t(y) + 1]; ++i) {

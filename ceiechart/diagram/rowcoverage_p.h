@@ -26,7 +26,7 @@ public:
     /*! \brief Of \a polygon in pixels, on a picture of \a width x \a height. */
     RowCoverage(const QPolygonF &polygon, int width, int height);
 
-    /*! \brief The runs of row \a y, from column 0 to the last without a gap. Valid until the next call. */
+    /*! \brief The runs of row \a y, from column 0 to the last without a gap. Valid until another row is asked for. */
     const std::vector<CoveredRun> &row(int y);
 
 private:
@@ -41,7 +41,7 @@ private:
     void touch(int first, int last);
 
     int m_width = 0;
-    int m_height = 0;
+    int m_row = -1; // that of the runs
     std::vector<Edge> m_edges;
     std::vector<int> m_first; // of each row in m_crossing
     std::vector<int> m_crossing; // edges by row

@@ -42,14 +42,6 @@ Value cubic(const Value &p0, const Value &p1, const Value &p2, const Value &p3, 
     return p1 + ((p2 - p0) + ((p0 * 2.0 - p1 * 5.0 + p2 * 4.0 - p3) + ((p1 - p2) * 3.0 + p3 - p0) * s) * s) * (0.5 * s);
 }
 
-//! The derivative of cubic() by \a s.
-template <typename Value>
-Value cubicSlope(const Value &p0, const Value &p1, const Value &p2, const Value &p3, double s)
-{
-    return ((p2 - p0) + ((p0 * 2.0 - p1 * 5.0 + p2 * 4.0 - p3) * 2.0 + ((p1 - p2) * 3.0 + p3 - p0) * (3.0 * s)) * s)
-        * 0.5;
-}
-
 QPolygonF spectrum(Model::Diagram diagram, int perNanometre)
 {
     QPolygonF points;
@@ -115,14 +107,19 @@ LocusPoint planckianPoint(double mired)
     const double place = mired - firstMired;
     const int node = std::clamp(int(std::floor(place)), 1, int(locus.size()) - 3);
     const double s = place - node;
-    const QPointF &p0 = locus.at(node - 1);
-    const QPointF &p1 = locus.at(node);
-    const QPointF &p2 = locus.at(node + 1);
-    const QPointF &p3 = locus.at(node + 2);
-    const QPointF way = cubicSlope(p0, p1, p2, p3, s);
-    const double length = std::hypot(way.x(), way.y());
+    // Lagrange's cubic through the four nodes round it, and its derivative.
+    const double weights[] = {-s * (s - 1.0) * (s - 2.0) / 6.0, (s + 1.0) * (s - 1.0) * (s - 2.0) / 2.0,
+        -(s + 1.0) * s * (s - 2.0) / 2.0, (s + 1.0) * s * (s - 1.0) / 6.0};
+    const double slopes[] = {-(3.0 * s * s - 6.0 * s + 2.0) / 6.0, (3.0 * s * s - 4.0 * s - 1.0) / 2.0,
+        -(3.0 * s * s - 2.0 * s - 2.0) / 2.0, (3.0 * s * s - 1.0) / 6.0};
+    QPointF at;
+    QPointF way;
+    for (int i = 0; i < 4; ++i) {
+        at += locus.at(node - 1 + i) * weights[i];
+        way += locus.at(node - 1 + i) * slopes[i];
+    }
     // Towards falling temperature u grows: to the left of it is greater v.
-    return {cubic(p0, p1, p2, p3, s), QPointF(-way.y(), way.x()) / length};
+    return {at, QPointF(-way.y(), way.x()) / std::hypot(way.x(), way.y())};
 }
 
 const QPolygonF &planckianLocusIn(Model::Diagram diagram)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Both generations in one source file: renderers, charts, and a form made by Qt Designer.
+// Both generations and the diagram in one source file: renderers, charts, and a form made by Qt Designer.
 #include "ui_charts.h"
 
 #include <ceiechart/ceiechart_version.h>
@@ -54,6 +54,14 @@ int main(int argc, char **argv)
     form.chart->setColorGamut(Model::dciP3D65(), Model::rec2020(), {Model::rec709()});
     check(form.chart->lsColorTriangleObject().size() == 2, "current list of gamuts");
     check(qobject_cast<NewCEIE::CEIEGraphicsScene *>(form.chart->view()->scene()) != nullptr, "current scene");
+
+    check(form.diagramView->diagram() == Model::Diagram::Cie1976 && form.diagramView->zoomFactor() == 2.0
+            && form.diagramView->isReadOnly(),
+        "diagram view as the form has it");
+    form.diagramView->setTarget(Model::dciP3D65());
+    check(!form.diagramView->toImage(QSize(200, 200)).isNull(), "picture of the diagram view");
+    form.diagramView->setReadOnly(false);
+    check(form.diagramView->moveVertex(ceiechart::GamutVertex::White, QPointF(0.31, 0.33)), "edit of the diagram view");
 
     const Model::ColorGamut published = Model::dciP3D65();
     const Model::Targets &p3 = published.getTargets();

@@ -16,11 +16,13 @@ class DesignerPluginTest : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase();
-    void offersBothChartsAndTheirLegends();
+    void offersTheDiagramTheChartsAndTheirLegends();
     void makesEachWidget_data();
     void makesEachWidget();
     void domXmlNamesClassAndHeader_data();
     void domXmlNamesClassAndHeader();
+    void diagramHasAnIconOfItsOwn();
+    void diagramIsEditedByProperties();
     void chartsShowAPicture_data();
     void chartsShowAPicture();
 
@@ -64,6 +66,7 @@ void DesignerPluginTest::rows()
     const auto add = [](const char *name, const char *header, const char *base) {
         QTest::newRow(name) << QString::fromLatin1(name) << QString::fromLatin1(header) << QByteArray(base);
     };
+    add("ceiechart::DiagramView", "ceiechart/diagram/diagramview.h", "QWidget");
     add("NewCEIE::CEIEGraphicsView", "ceiechart/widgets/ceiegraphicsview.h", "QFrame");
     add("NewCEIE::CEIELegend", "ceiechart/widgets/ceielegend.h", "QFrame");
     add("ceiechart::LegacyXyChart", "ceiechart/legacy/legacycharts.h", "CEIEGraphicsView");
@@ -71,7 +74,7 @@ void DesignerPluginTest::rows()
     add("CEIELegend", "ceiechart/legacy/ceielegend.h", "QFrame");
 }
 
-void DesignerPluginTest::offersBothChartsAndTheirLegends()
+void DesignerPluginTest::offersTheDiagramTheChartsAndTheirLegends()
 {
     QStringList names;
     for (const QDesignerCustomWidgetInterface *widget : qAsConst(m_widgets)) {
@@ -79,10 +82,11 @@ void DesignerPluginTest::offersBothChartsAndTheirLegends()
         QVERIFY(!widget->isContainer());
         QVERIFY(!widget->group().isEmpty());
         QVERIFY(!widget->toolTip().isEmpty());
+        QVERIFY(!widget->icon().pixmap(22, 22).isNull());
     }
     QCOMPARE(names,
-        QStringList({"NewCEIE::CEIEGraphicsView", "NewCEIE::CEIELegend", "ceiechart::LegacyXyChart",
-            "ceiechart::LegacyUvChart", "CEIELegend"}));
+        QStringList({"ceiechart::DiagramView", "NewCEIE::CEIEGraphicsView", "NewCEIE::CEIELegend",
+            "ceiechart::LegacyXyChart", "ceiechart::LegacyUvChart", "CEIELegend"}));
 }
 
 void DesignerPluginTest::makesEachWidget_data()
@@ -139,6 +143,34 @@ void DesignerPluginTest::domXmlNamesClassAndHeader()
     QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
     QCOMPARE(widgetClass, name);
     QCOMPARE(headerInForm, header);
+}
+
+void DesignerPluginTest::diagramHasAnIconOfItsOwn()
+{
+    const QImage diagram = find(QStringLiteral("ceiechart::DiagramView"))->icon().pixmap(32, 32).toImage();
+    const QImage chart = find(QStringLiteral("NewCEIE::CEIEGraphicsView"))->icon().pixmap(32, 32).toImage();
+    QVERIFY(!diagram.isNull());
+    QVERIFY(diagram != chart);
+}
+
+void DesignerPluginTest::diagramIsEditedByProperties()
+{
+    const std::unique_ptr<QWidget> view(find(QStringLiteral("ceiechart::DiagramView"))->createWidget(nullptr));
+    view->resize(300, 300);
+    const QImage before = view->grab().toImage();
+    // What the property editor of Qt Designer offers is what it can write into a form.
+    QStringList offered;
+    const QMetaObject *meta = view->metaObject();
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
+        if (meta->property(i).isDesignable()) {
+            offered.append(QString::fromLatin1(meta->property(i).name()));
+        }
+    }
+    QCOMPARE(offered,
+        QStringList({QStringLiteral("diagram"), QStringLiteral("zoomFactor"), QStringLiteral("readOnly"),
+            QStringLiteral("digits"), QStringLiteral("readoutShown")}));
+    QVERIFY(view->setProperty("diagram", QStringLiteral("Cie1976")));
+    QVERIFY(view->grab().toImage() != before);
 }
 
 void DesignerPluginTest::chartsShowAPicture_data()

@@ -1,0 +1,340 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/diagramcolors_p.h>
+#include <ceiechart/diagram/horseshoefill_p.h>
+#include <ceiechart/diagram/rowcoverage_p.h>
+#include <ceiechart/diagram/spectrum_p.h>
+#include <ceiechart/diagram/whitepoint.h>
+
+#include <reference/plainrenderer.h>
+
+#include <QtTest>
+
+#include <cmath>
+
+using namespace ceiechart;
+
+namespace {
+
+constexpr Model::Diagram allDiagrams[] = {Model::Diagram::Cie1931, Model::Diagram::Cie1976, Model::Diagram::Cie1960};
+
+//! The share of a pixel that a polygon covers, by many points in it: plain, but for looking at near edges only.
+class PlainShare {
+public:
+    explicit PlainShare(const QPolygonF &polygon)
+        : m_polygon(polygon)
+    {
+    }
+
+    double at(int x, int y)
+    {
+        if (y != m_row) {
+            m_row = y;
+            m_edges.clear();
+            for (int i = 0; i < m_polygon.size(); ++i) {
+                const QLineF edge(m_polygon.at(i), m_polygon.at((i + 1) % m_polygon.size()));
+                if (std::min(edge.y1(), edge.y2()) <= y + 1 && std::max(edge.y1(), edge.y2()) >= y) {
+                    m_edges.append(edge);
+                }
+            }
+        }
+        constexpr int points = 12;
+        int count = 0;
+        for (int i = 0; i < points * points; ++i) {
+            count += contains(QPointF(x + (i % points + 0.5) / points, y + (i / points + 0.5) / points)) ? 1 : 0;
+        }
+        return double(count) / (points * points);
+    }
+
+private:
+    //! Half-open: a point on an edge counts once.
+    bool contains(const QPointF &at) const
+    {
+        bool inside = false;
+        for (const QLineF &edge : m_edges) {
+            if ((edge.y1() > at.y()) != (edge.y2() > at.y())
+                && at.x() < edge.dx() * (at.y() - edge.y1()) / edge.dy() + edge.x1()) {
+                inside = !inside;
+            }
+        }
+        return inside;
+    }
+
+    QPolygonF m_polygon;
+    QVector<QLineF> m_edges; // near the row
+    int m_row = -1;
+};
+
+ColorsRequest requestFor(Model::Diagram diagram, HorseshoeColors colors, double zoom, double ratio = 1.0)
+{
+    ColorsRequest request;
+    request.viewport
+        = DiagramViewport(diagram, QSizeF(160, 130), QMarginsF(20, 4, 6, 10)).centredOn(QPointF(0.33, 0.34), zoom);
+    if (zoom == 1.0) {
+        request.viewport = request.viewport.fittedToAll();
+    }
+    request.devicePixelRatio = ratio;
+    request.colors = colors;
+    request.ground = QColor(252, 251, 40);
+    if (diagram == Model::Diagram::Cie1931) {
+        request.full = QPolygonF() << QPointF(0.64, 0.33) << QPointF(0.30, 0.60) << QPointF(0.15, 0.06);
+    } else {
+        request.full = QPolygonF() << QPointF(0.45, 0.30) << QPointF(0.12, 0.38) << QPointF(0.18, 0.16);
+    }
+    return request;
+}
+
+QPolygonF inPixels(const ColorsRequest &request, const QPolygonF &points)
+{
+    QPolygonF pixels;
+    for (const QPointF &point : points) {
+        pixels.append(request.viewport.fromPoint(point) * request.devicePixelRatio);
+    }
+    return pixels;
+}
+
+QColor mixed(const QColor &a, const QColor &b, double share)
+{
+    const auto channel = [share](int p, int q) { return int(std::lround(p * share + q * (1.0 - share))); };
+    return QColor(channel(a.red(), b.red()), channel(a.green(), b.green()), channel(a.blue(), b.blue()));
+}
+
+int difference(const QColor &a, const QColor &b)
+{
+    return std::max({std::abs(a.red() - b.red()), std::abs(a.green() - b.green()), std::abs(a.blue() - b.blue())});
+}
+
+} // namespace
+
+class DiagramColorsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pixelsAreThoseOfTheDefinition_data();
+    void pixelsAreThoseOfTheDefinition();
+    void scrolledIsAsFilledAnew_data();
+    void scrolledIsAsFilledAnew();
+    void editedIsAsFilledAnew();
+    void nothingChangedFillsNothing();
+    void halfPixelsAreFilledAnew();
+    void noneIsGround();
+    void coverageOfAPolygon();
+    void spectrumPassesItsTable();
+    void planckianPointsAreOnTheLocus();
+};
+
+void DiagramColorsTest::pixelsAreThoseOfTheDefinition_data()
+{
+    QTest::addColumn<int>("diagram");
+    QTest::addColumn<int>("colors");
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<double>("ratio");
+    for (const Model::Diagram diagram : allDiagrams) {
+        for (const HorseshoeColors colors : {HorseshoeColors::Full, HorseshoeColors::Dimmed}) {
+            for (const auto &[zoom, ratio] : {std::pair(1.0, 1.0), std::pair(1.0, 1.5), std::pair(5.0, 2.0),
+                     std::pair(300.0, 1.0), std::pair(2000.0, 1.25)}) {
+                QTest::addRow("%s %d %g %g", Model::diagramTraits(diagram).xName, int(colors), zoom, ratio)
+                    << int(diagram) << int(colors) << zoom << ratio;
+            }
+        }
+    }
+}
+
+void DiagramColorsTest::pixelsAreThoseOfTheDefinition()
+{
+    QFETCH(int, diagram);
+    QFETCH(int, colors);
+    QFETCH(double, zoom);
+    QFETCH(double, ratio);
+    const ColorsRequest request = requestFor(Model::Diagram(diagram), HorseshoeColors(colors), zoom, ratio);
+    DiagramColors kept;
+    const QImage &image = kept.update(request, nullptr, nullptr);
+    QCOMPARE(image.size(), request.size());
+    QCOMPARE(image.devicePixelRatio(), ratio);
+
+    static const CEIAtlasValue atlas;
+    const bool isXy = Model::Diagram(diagram) == Model::Diagram::Cie1931;
+    PlainShare locus(
+        inPixels(request, spectralLocusIn(request.viewport.diagram(), spectrumDetail(request.viewport.scale()))));
+    PlainShare full(inPixels(request, request.full));
+    int exact = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor color = image.pixelColor(x, y);
+            if (!request.plot().contains(x, y)) {
+                QCOMPARE(color, request.ground);
+                continue;
+            }
+            QPointF point = request.viewport.toPoint(QPointF(x + 0.5, y + 0.5) / ratio);
+            if (Model::Diagram(diagram) == Model::Diagram::Cie1960) {
+                point.setY(point.y() * 1.5);
+            }
+            const QColor plain = reference::horseshoeColor(isXy ? atlas.colorSystem : uvColorSystem, point, 1.0);
+            const QColor half((plain.red() + request.ground.red()) / 2, (plain.green() + request.ground.green()) / 2,
+                (plain.blue() + request.ground.blue()) / 2);
+            const bool isDimmed = HorseshoeColors(colors) == HorseshoeColors::Dimmed;
+            const double share = locus.at(x, y);
+            const double bright = isDimmed ? full.at(x, y) : 1.0;
+            const QColor expected = mixed(mixed(plain, half, bright), request.ground, share);
+            // A share by points misses slivers of less than a 24th of a pixel, and is off by a little more where two
+            // edges meet.
+            const bool isWhole = (share == 0.0 || share == 1.0) && (bright == 0.0 || bright == 1.0);
+            const int allowed = isWhole ? 255 / 24 : 14;
+            QVERIFY2(difference(color, expected) <= allowed,
+                qPrintable(QStringLiteral("%1, %2: %3 for %4").arg(x).arg(y).arg(color.name(), expected.name())));
+            exact += color == expected ? 1 : 0;
+        }
+    }
+    // Nearly everywhere there is no edge.
+    QVERIFY2(exact > 0.93 * request.plot().width() * request.plot().height(), qPrintable(QString::number(exact)));
+}
+
+void DiagramColorsTest::scrolledIsAsFilledAnew_data()
+{
+    QTest::addColumn<int>("diagram");
+    QTest::addColumn<QPoint>("way");
+    QTest::addColumn<double>("zoom");
+    for (const Model::Diagram diagram : allDiagrams) {
+        for (const QPoint &way : {QPoint(7, 0), QPoint(0, -5), QPoint(-11, 9), QPoint(3, 4), QPoint(500, 2)}) {
+            QTest::addRow("%s %d %d", Model::diagramTraits(diagram).xName, way.x(), way.y())
+                << int(diagram) << way << 4.0;
+        }
+    }
+}
+
+void DiagramColorsTest::scrolledIsAsFilledAnew()
+{
+    QFETCH(int, diagram);
+    QFETCH(QPoint, way);
+    QFETCH(double, zoom);
+    constexpr double ratio = 1.5;
+    ColorsRequest request = requestFor(Model::Diagram(diagram), HorseshoeColors::Dimmed, zoom, ratio);
+    DiagramColors kept;
+    kept.update(request, nullptr, nullptr);
+    request.viewport = request.viewport.panned(QPointF(way) / ratio);
+    QRegion changed;
+    QPoint scrolled;
+    const QImage image = kept.update(request, &changed, &scrolled);
+    DiagramColors anew;
+    QCOMPARE(image, anew.update(request, nullptr, nullptr));
+    if (std::abs(way.x()) < 100) {
+        QCOMPARE(scrolled, way);
+        int pixels = 0;
+        for (const QRect &part : changed) {
+            pixels += part.width() * part.height();
+        }
+        QCOMPARE(pixels,
+            std::abs(way.x()) * request.plot().height() + std::abs(way.y()) * request.plot().width()
+                - std::abs(way.x() * way.y()));
+    }
+}
+
+void DiagramColorsTest::editedIsAsFilledAnew()
+{
+    ColorsRequest request = requestFor(Model::Diagram::Cie1931, HorseshoeColors::Dimmed, 1.0, 2.0);
+    DiagramColors kept;
+    const QImage before = kept.update(request, nullptr, nullptr);
+    for (const QPointF &green : {QPointF(0.28, 0.62), QPointF(0.10, 0.80), QPointF(-0.1, 1.2), QPointF(0.4, 0.4)}) {
+        request.full[1] = green;
+        QRegion changed;
+        const QImage image = kept.update(request, &changed, nullptr);
+        DiagramColors anew;
+        QCOMPARE(image, anew.update(request, nullptr, nullptr));
+        QVERIFY(!changed.isEmpty());
+    }
+    request.full.clear();
+    const QImage none = kept.update(request, nullptr, nullptr);
+    DiagramColors anew;
+    QCOMPARE(none, anew.update(request, nullptr, nullptr));
+    QVERIFY(none != before);
+}
+
+void DiagramColorsTest::nothingChangedFillsNothing()
+{
+    const ColorsRequest request = requestFor(Model::Diagram::Cie1976, HorseshoeColors::Dimmed, 3.0);
+    DiagramColors kept;
+    QRegion changed;
+    kept.update(request, &changed, nullptr);
+    QCOMPARE(changed, QRegion(QRect(QPoint(), request.size())));
+    kept.update(request, &changed, nullptr);
+    QVERIFY(changed.isEmpty());
+}
+
+void DiagramColorsTest::halfPixelsAreFilledAnew()
+{
+    ColorsRequest request = requestFor(Model::Diagram::Cie1976, HorseshoeColors::Full, 3.0);
+    DiagramColors kept;
+    kept.update(request, nullptr, nullptr);
+    request.viewport = request.viewport.panned(QPointF(2.5, 0.0));
+    QRegion changed;
+    const QImage image = kept.update(request, &changed, nullptr);
+    DiagramColors anew;
+    QCOMPARE(image, anew.update(request, nullptr, nullptr));
+    QCOMPARE(changed, QRegion(image.rect()));
+}
+
+void DiagramColorsTest::noneIsGround()
+{
+    const ColorsRequest request = requestFor(Model::Diagram::Cie1931, HorseshoeColors::None, 1.0);
+    DiagramColors kept;
+    QImage expected(request.size(), QImage::Format_RGB32);
+    expected.fill(request.ground);
+    QCOMPARE(kept.update(request, nullptr, nullptr), expected);
+}
+
+void DiagramColorsTest::coverageOfAPolygon()
+{
+    // Parts beyond all four sides, and one within.
+    for (const QVector<QPointF> &polygon :
+        {QPolygonF() << QPointF(3.3, 2.1) << QPointF(17.4, 5.7) << QPointF(8.2, 13.9),
+            QPolygonF() << QPointF(-9, 7) << QPointF(12, -8) << QPointF(40, 6) << QPointF(11, 30),
+            QPolygonF() << QPointF(2, 3) << QPointF(2, 9) << QPointF(12, 9) << QPointF(12, 3),
+            QPolygonF() << QPointF(-30, -30) << QPointF(90, -30) << QPointF(90, 90) << QPointF(-30, 90)}) {
+        RowCoverage coverage(QPolygonF(polygon), 20, 16);
+        PlainShare plain{QPolygonF(polygon)};
+        for (int y = 0; y < 16; ++y) {
+            int column = 0;
+            for (const CoveredRun &run : coverage.row(y)) {
+                QCOMPARE(run.left, column);
+                for (; column < run.right; ++column) {
+                    const double share = plain.at(column, y);
+                    QVERIFY2(std::fabs(run.alpha / 255.0 - share) < 0.06,
+                        qPrintable(QStringLiteral("%1 %2: %3 for %4").arg(column).arg(y).arg(run.alpha).arg(share)));
+                }
+            }
+            QCOMPARE(column, 20);
+        }
+    }
+    RowCoverage nothing(QPolygonF(), 5, 5);
+    QCOMPARE(int(nothing.row(2).size()), 1);
+    QCOMPARE(nothing.row(2).front().alpha, 0);
+}
+
+void DiagramColorsTest::spectrumPassesItsTable()
+{
+    const CEIAtlasValue atlas;
+    for (const CEIAtlasValue::CEIAtlasCoordinate &row : atlas.atlasCoordinates) {
+        if (row.waveLength > 361 && row.waveLength < 828) {
+            const double sum = row.X + row.Y + row.Z;
+            const QPointF xy = spectralChromaticity(row.waveLength);
+            QVERIFY(std::fabs(xy.x() - row.X / sum) < 1e-12 && std::fabs(xy.y() - row.Y / sum) < 1e-12);
+        }
+    }
+}
+
+void DiagramColorsTest::planckianPointsAreOnTheLocus()
+{
+    for (double mired = 13.0; mired < 990.0; mired += 7.3) {
+        const LocusPoint point = planckianPoint(mired);
+        for (const double duv : {-0.02, 0.0, 0.02}) {
+            const QPointF uv = point.uv + point.normal * duv;
+            const Model::DiagramPoint xy = Model::fromDiagram(Model::Diagram::Cie1960, {uv.x(), uv.y()});
+            const auto temperature = colorTemperature(QPointF(xy.x, xy.y));
+            QVERIFY(temperature);
+            QVERIFY(std::fabs(1e6 / temperature->kelvin - mired) < 2e-4);
+            QVERIFY(std::fabs(temperature->duv - duv) < 1e-7);
+        }
+    }
+}
+
+QTEST_APPLESS_MAIN(DiagramColorsTest)
+#include "diagramcolorstest.moc"
