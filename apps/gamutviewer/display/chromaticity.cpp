@@ -14,11 +14,6 @@ QPointF finite(const Model::DiagramPoint &point)
 
 } // namespace
 
-bool isChromaticity(const QPointF &xy)
-{
-    return xy.x() >= 0.0 && xy.y() > 0.0 && xy.x() + xy.y() <= 1.0;
-}
-
 QPointF toDiagram(Model::Diagram diagram, const QPointF &xy)
 {
     return finite(Model::toDiagram(diagram, {xy.x(), xy.y()}));

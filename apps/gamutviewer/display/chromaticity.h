@@ -8,9 +8,6 @@
 
 namespace gamutviewer {
 
-/*! \brief Whether \a xy is a chromaticity that three non-negative tristimulus values can have, with Y above 0. */
-bool isChromaticity(const QPointF &xy);
-
 /*! \brief The point of \a diagram at the CIE 1931 chromaticity \a xy; (0, 0) where the diagram has none. */
 QPointF toDiagram(Model::Diagram diagram, const QPointF &xy);
 /*! \brief The inverse of toDiagram(). */

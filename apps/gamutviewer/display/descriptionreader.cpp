@@ -9,6 +9,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QSet>
+#include <ceiechart/diagram/targetrules.h>
 
 #include <algorithm>
 
@@ -132,7 +133,7 @@ Model::ColorGamut DescriptionReader::readGamut(const Node &node)
     targets.green = readTarget(member(node, QStringLiteral("green")));
     targets.blue = readTarget(member(node, QStringLiteral("blue")));
     targets.white = readTarget(member(node, QStringLiteral("white")));
-    if (!spanTriangle(targets)) {
+    if (!ceiechart::spanTriangle(targets)) {
         fail(node, noTriangleText());
     }
     return {name.toStdString(), targets};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/gamutfromprimaries.h"
 
+#include <ceiechart/diagram/targetrules.h>
 #include <colortemperature/colortemperature.h>
 #include <gamutmodel/gamutcoverage.h>
 
@@ -13,7 +14,6 @@ namespace gamutviewer {
 namespace {
 
 constexpr double roundingTolerance = 0.0005;
-constexpr double leastArea = 1e-6; // of the triangle, in x, y
 
 using Failure = Outcome<Model::ColorGamut>;
 
@@ -35,11 +35,6 @@ bool makeChromaticity(QPointF &xy)
 }
 
 } // namespace
-
-bool spanTriangle(const Model::Targets &targets)
-{
-    return Model::gamutArea(targets, Model::Diagram::Cie1931) >= leastArea;
-}
 
 QString noTriangleText()
 {
@@ -66,7 +61,8 @@ Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries pri
     }
     const auto target
         = [](double luminance, const QPointF &xy) { return Model::Target::fromYxy(luminance, xy.x(), xy.y()); };
-    if (!spanTriangle({target(0.0, primaries.red), target(0.0, primaries.green), target(0.0, primaries.blue), {}})) {
+    if (!ceiechart::spanTriangle(
+            {target(0.0, primaries.red), target(0.0, primaries.green), target(0.0, primaries.blue), {}})) {
         return Failure::failure(noTriangleText());
     }
     double red = 0.0;

@@ -26,9 +26,7 @@ struct Primaries {
  */
 Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries primaries, double whiteLuminance);
 
-/*! \brief Whether the primaries of \a targets are far enough from one line to mix anything. */
-bool spanTriangle(const Model::Targets &targets);
-/*! \brief What to say where they are not. */
+/*! \brief What to say of primaries that are too near to one line to mix anything. */
 QString noTriangleText();
 
 } // namespace gamutviewer

@@ -5,6 +5,7 @@
 #include "display/gamutfromprimaries.h"
 
 #include <QCoreApplication>
+#include <ceiechart/diagram/targetrules.h>
 
 #include <algorithm>
 #include <array>
@@ -221,7 +222,7 @@ Outcome<MeasurementList> readMeasurementList(const QByteArray &utf8)
         return Failure::failure(MeasurementText::tr("contains no measurements"));
     }
     const auto gamut = list.gamut(QString());
-    if (gamut && !spanTriangle(gamut->getTargets())) {
+    if (gamut && !ceiechart::spanTriangle(gamut->getTargets())) {
         return Failure::failure(noTriangleText());
     }
     return list;

@@ -2,7 +2,7 @@
 #include "display/report.h"
 
 #include "display/displaydescription.h"
-#include "display/whitepoint.h"
+#include "display/valuetexts.h"
 
 #include <gamutmodel/gamutcoverage.h>
 
@@ -25,7 +25,7 @@ QJsonObject colorObject(const Model::Target &target)
     const Model::DiagramPoint uv = Model::toDiagram(Model::Diagram::Cie1976, {target.x, target.y});
     QJsonObject object{{QStringLiteral("Y"), target.Y}, {QStringLiteral("x"), target.x},
         {QStringLiteral("y"), target.y}, {QStringLiteral("u"), uv.x}, {QStringLiteral("v"), uv.y}};
-    const auto temperature = colorTemperature({target.x, target.y});
+    const auto temperature = ceiechart::colorTemperature({target.x, target.y});
     object.insert(QStringLiteral("cct"), temperature ? QJsonValue(temperature->kelvin) : QJsonValue::Null);
     object.insert(QStringLiteral("duv"), temperature ? QJsonValue(temperature->duv) : QJsonValue::Null);
     return object;

@@ -4,26 +4,11 @@
 #include "display/messages.h"
 #include "editing/targetsession.h"
 
+#include <gamutmodel/gamutcoverage.h>
+
 #include <QCoreApplication>
 
-#include <cmath>
-
 namespace gamutviewer {
-
-QString GamutPart::roleName() const
-{
-    switch (role) {
-    case Role::Declared:
-        return QCoreApplication::translate("gamutviewer", "Declared");
-    case Role::Original:
-        return QCoreApplication::translate("gamutviewer", "Original");
-    case Role::Measured:
-        return QCoreApplication::translate("gamutviewer", "Measured");
-    case Role::Target:
-        break;
-    }
-    return QCoreApplication::translate("gamutviewer", "Target");
-}
 
 QString GamutPart::title() const
 {
@@ -33,27 +18,24 @@ QString GamutPart::title() const
 
 QVector<GamutPart> gamutParts(const DisplayDescription &description)
 {
+    using ceiechart::GamutRole;
     QVector<GamutPart> parts;
-    const auto add = [&](GamutPart::Role role, const QString &name) {
+    const auto add = [&](GamutRole role, const QString &name) {
         if (const auto gamut = description.gamut(name)) {
             parts.append({role, *gamut});
         }
     };
-    add(GamutPart::Role::Declared, description.declared);
-    add(GamutPart::Role::Original, description.original);
-    add(GamutPart::Role::Measured, description.measured);
-    add(GamutPart::Role::Target, description.target);
+    add(GamutRole::Declared, description.declared);
+    add(GamutRole::Original, description.original);
+    add(GamutRole::Measured, description.measured);
+    add(GamutRole::Target, description.target);
     return parts;
 }
 
-QString percent(double value)
+double lostShare(const Model::Targets &original, const Model::Targets &target, Model::Diagram diagram)
 {
-    return QCoreApplication::translate("gamutviewer", "%1 %").arg(value * 100.0, 0, 'f', 1);
-}
-
-QString luminanceText(double luminance)
-{
-    return QString::number(luminance, 'f', std::fabs(luminance) < 10.0 ? 4 : 1);
+    const double area = Model::gamutArea(original, diagram);
+    return area > 0.0 ? 1.0 - Model::commonArea(original, target, diagram) / area : 0.0;
 }
 
 } // namespace gamutviewer

@@ -4,29 +4,30 @@
 
 #include "display/displaydescription.h"
 
+#include <ceiechart/diagram/gamutstyle.h>
+#include <gamutmodel/diagram.h>
+
 namespace gamutviewer {
 
 /*! \brief A gamut of a description and the part that it plays. */
 struct GamutPart {
-    enum class Role { Declared, Original, Measured, Target };
-
-    Role role = Role::Target;
+    ceiechart::GamutRole role = ceiechart::GamutRole::Target;
     Model::ColorGamut gamut;
 
     /*! \brief "Target: Rec.709 (edited)", in the language of the interface. */
     QString title() const;
     /*! \brief "Target". */
-    QString roleName() const;
+    QString roleName() const { return ceiechart::gamutRoleName(role); }
 };
 
 /*! \brief The parts of \a description that a gamut plays: declared, original, measured, target. */
 QVector<GamutPart> gamutParts(const DisplayDescription &description);
 
-/*! \brief \a value as a percentage with one decimal. */
-QString percent(double value);
-
-/*! \brief \a luminance with the decimals that a relative (a white of 1) or an absolute one needs. */
-QString luminanceText(double luminance);
+/*!
+ * \brief The share of \a original's area on \a diagram that \a target does not contain, 0 to 1; 0 for an original
+ * without area.
+ */
+double lostShare(const Model::Targets &original, const Model::Targets &target, Model::Diagram diagram);
 
 } // namespace gamutviewer
 

@@ -4,48 +4,15 @@
 
 #include "display/displaydescription.h"
 
-#include <array>
-#include <optional>
+#include <ceiechart/diagram/targetrules.h>
 
 namespace gamutviewer {
 
-/*! \brief What of a gamut is edited. */
-enum class Vertex { Red, Green, Blue, White };
-
-constexpr std::array<Vertex, 4> allVertices{Vertex::Red, Vertex::Green, Vertex::Blue, Vertex::White};
-
-Model::Target &targetAt(Model::Targets &targets, Vertex vertex);
-const Model::Target &targetAt(const Model::Targets &targets, Vertex vertex);
-QPointF xyOf(const Model::Target &target);
-bool sameTargets(const Model::Targets &a, const Model::Targets &b);
-
-/*! \brief \a xy to four decimals, which is what the interface shows and what a drag leaves behind. */
-QPointF roundedXy(const QPointF &xy);
-
-/*!
- * \name Edits of a gamut
- *
- * Primaries and white stay in balance: what is not edited is recalculated, so that the primaries mix to the white. When
- * the white is held, its chromaticity stays and its luminance is what the primaries of \a original deliver, lowered
- * until none of them is exceeded. Each edit gives nothing when there is no such gamut: for what is no chromaticity,
- * primaries that span no triangle, a negative luminance, a white outside of the triangle.
- * @{
- */
-std::optional<Model::Targets> withPrimary(
-    const Model::Targets &targets, Vertex primary, const QPointF &xy, bool holdWhite, const Model::Targets &original);
-/*! The luminance of the white stays. */
-std::optional<Model::Targets> withWhite(const Model::Targets &targets, const QPointF &xy);
-/*! For the white, or when it is held, all luminances change in proportion. */
-std::optional<Model::Targets> withLuminance(
-    const Model::Targets &targets, Vertex vertex, double luminance, bool holdWhite);
-/*! @} */
-
-/*! \brief The nearest of \a candidates within \a reach of \a position, in the units of both. */
-std::optional<QPointF> nearest(const QPointF &position, const QVector<QPointF> &candidates, double reach);
-
-/*! \brief The chromaticities that \a vertex snaps to: those of the original, of the description's standards
- * and of the published gamuts. */
-QVector<QPointF> snapPoints(const DisplayDescription &description, Vertex vertex);
+using Vertex = ceiechart::GamutVertex;
+using ceiechart::sameTargets;
+using ceiechart::targetAt;
+using ceiechart::xyOf;
+constexpr auto allVertices = ceiechart::allGamutVertices;
 
 /*!
  * \brief \a description with the target changed by hand to \a targets.

@@ -1,14 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "editing/targetsession.h"
 
-#include "display/chromaticity.h"
-#include "display/gamutfromprimaries.h"
-#include "display/whitepoint.h"
 #include "editing/document.h"
+
+#include <ceiechart/diagram/whitepoint.h>
 
 #include <QCoreApplication>
 
+#include <cmath>
+
 namespace gamutviewer {
+
+namespace {
+
+constexpr Vertex primaries[] = {Vertex::Red, Vertex::Green, Vertex::Blue};
+
+} // namespace
 
 TargetSession::TargetSession(Document *document, QObject *parent)
     : QObject(parent)
@@ -16,31 +23,27 @@ TargetSession::TargetSession(Document *document, QObject *parent)
 {
 }
 
-bool TargetSession::isMovable(Vertex vertex) const
-{
-    return vertex == Vertex::White ? !m_holdWhite : !m_lockPrimaries;
-}
-
 void TargetSession::setHoldWhite(bool hold)
 {
-    if (m_holdWhite != hold) {
-        m_holdWhite = hold;
+    if (holdWhite() != hold) {
+        m_rules->setHoldsWhite(hold);
+        m_rules->setLocksWhite(hold);
         Q_EMIT rulesChanged();
     }
 }
 
 void TargetSession::setLockPrimaries(bool lock)
 {
-    if (m_lockPrimaries != lock) {
-        m_lockPrimaries = lock;
+    if (lockPrimaries() != lock) {
+        m_rules->setLocksPrimaries(lock);
         Q_EMIT rulesChanged();
     }
 }
 
 void TargetSession::setSnaps(bool snap)
 {
-    if (m_snaps != snap) {
-        m_snaps = snap;
+    if (snaps() != snap) {
+        m_rules->setSnaps(snap);
         Q_EMIT rulesChanged();
     }
 }
@@ -53,18 +56,18 @@ void TargetSession::select(Vertex vertex)
     }
 }
 
-std::optional<Model::Targets> TargetSession::edited(Vertex vertex, const QPointF &xy) const
+ceiechart::TargetMove TargetSession::edited(Vertex vertex, const QPointF &xy) const
 {
     const auto target = m_document->target();
-    if (!target || !isMovable(vertex)) {
-        return std::nullopt;
+    if (!target) {
+        return {std::nullopt, tr("There is no target to edit.")};
     }
-    if (vertex == Vertex::White) {
-        return withWhite(target->getTargets(), xy);
+    ceiechart::TargetContext context;
+    context.target = target->getTargets();
+    if (const auto original = m_document->original()) {
+        context.original = original->getTargets();
     }
-    const auto original = m_document->original();
-    return withPrimary(
-        target->getTargets(), vertex, xy, m_holdWhite, original ? original->getTargets() : target->getTargets());
+    return m_rules->move(context, vertex, xy);
 }
 
 bool TargetSession::apply(const std::optional<Model::Targets> &targets, const QString &text, int mergeKey)
@@ -81,31 +84,33 @@ bool TargetSession::apply(const std::optional<Model::Targets> &targets, const QS
 
 QString TargetSession::whyNot(Vertex vertex, const QPointF &xy) const
 {
+    const ceiechart::TargetMove move = edited(vertex, xy);
+    return move.targets ? QString() : move.reason;
+}
+
+double TargetSession::distanceOutside(Vertex primary) const
+{
+    constexpr double rounding = 1e-9;
     const auto target = m_document->target();
-    if (!target) {
-        return tr("There is no target to edit.");
+    const auto original = m_document->original();
+    if (!target || !original) {
+        return 0.0;
     }
-    if (!isMovable(vertex)) {
-        return vertex == Vertex::White ? tr("The white point is held.") : tr("The primaries are locked.");
-    }
-    if (!isChromaticity(xy)) {
-        return tr("Not a valid chromaticity: x must be at least 0, y greater than 0 and x + y at most 1.");
-    }
-    if (edited(vertex, xy)) {
-        return QString();
-    }
-    Model::Targets moved = target->getTargets();
-    targetAt(moved, vertex) = Model::Target::fromYxy(1.0, xy.x(), xy.y());
-    return spanTriangle(moved) ? tr("The white point would lie outside the target.")
-                               : tr("The primaries would not form a triangle.");
+    const QPointF xy = xyOf(targetAt(target->getTargets(), primary));
+    const QPointF inside = ceiechart::nearestInside(original->getTargets(), xy, Model::Diagram::Cie1976);
+    const Model::DiagramPoint from = Model::toDiagram(Model::Diagram::Cie1976, {inside.x(), inside.y()});
+    const Model::DiagramPoint to = Model::toDiagram(Model::Diagram::Cie1976, {xy.x(), xy.y()});
+    const double distance = std::hypot(to.x - from.x, to.y - from.y);
+    return distance > rounding ? distance : 0.0;
 }
 
 bool TargetSession::setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey)
 {
-    if (apply(edited(vertex, xy), tr("move %1").arg(vertexName(vertex)), mergeKey)) {
+    const ceiechart::TargetMove move = edited(vertex, xy);
+    if (apply(move.targets, tr("move %1").arg(ceiechart::gamutVertexName(vertex)), mergeKey)) {
         return true;
     }
-    refuse(whyNot(vertex, xy));
+    refuse(move.reason);
     return false;
 }
 
@@ -113,8 +118,8 @@ bool TargetSession::setLuminance(Vertex vertex, double luminance, int mergeKey)
 {
     const auto target = m_document->target();
     if (target
-        && apply(withLuminance(target->getTargets(), vertex, luminance, m_holdWhite),
-            tr("change luminance of %1").arg(vertexName(vertex)), mergeKey)) {
+        && apply(ceiechart::withLuminance(target->getTargets(), vertex, luminance, holdWhite()),
+            tr("change luminance of %1").arg(ceiechart::gamutVertexName(vertex)), mergeKey)) {
         return true;
     }
     refuse(tr("That luminance is not possible for this target."));
@@ -123,7 +128,7 @@ bool TargetSession::setLuminance(Vertex vertex, double luminance, int mergeKey)
 
 bool TargetSession::setWhiteTemperature(double kelvin, double duv, int mergeKey)
 {
-    if (const auto xy = chromaticityAt(kelvin, duv)) {
+    if (const auto xy = ceiechart::chromaticityAt(kelvin, duv)) {
         return setChromaticity(Vertex::White, *xy, mergeKey);
     }
     refuse(tr("No white point has that colour temperature and Duv."));
@@ -138,53 +143,54 @@ void TargetSession::reset(const QString &gamutName)
     }
 }
 
-void TargetSession::beginDrag()
+void TargetSession::fitToOriginal()
 {
+    const auto target = m_document->target();
+    const auto original = m_document->original();
+    if (!target || !original) {
+        return;
+    }
+    std::optional<Model::Targets> fitted = target->getTargets();
+    for (const Vertex primary : primaries) {
+        if (!fitted || distanceOutside(primary) == 0.0) {
+            continue;
+        }
+        const QPointF xy = ceiechart::nearestInside(
+            original->getTargets(), xyOf(targetAt(*fitted, primary)), Model::Diagram::Cie1976);
+        fitted = holdWhite() ? ceiechart::withPrimaryHoldingWhite(*fitted, primary, xy, original->getTargets())
+                             : ceiechart::withPrimary(*fitted, primary, xy);
+    }
+    if (!apply(fitted, tr("fit to the display"), 0)) {
+        refuse(tr("The white would lie outside of the target."));
+    }
+}
+
+void TargetSession::beginDrag(Vertex vertex)
+{
+    m_dragged = vertex;
+    m_document->breakMerging();
     m_document->beginDrag();
 }
 
-bool TargetSession::dragTo(Vertex vertex, const QPointF &xy, double reach)
+void TargetSession::dragTo(const Model::Targets &targets)
 {
-    select(vertex);
-    m_dragged = vertex;
-    const auto snapped
-        = m_snaps ? nearest(xy, snapPoints(m_document->description(), vertex), reach) : std::optional<QPointF>();
-    const QPointF position = snapped ? *snapped : roundedXy(xy);
-    const auto targets = edited(vertex, position);
-    if (!targets) {
-        refuse(whyNot(vertex, position));
-        return false;
-    }
     const auto before = m_document->target();
-    if (!sameTargets(before->getTargets(), *targets)) {
-        m_document->drag(withEditedTarget(m_document->description(), *targets));
+    if (m_document->isDragging() && before && !sameTargets(before->getTargets(), targets)) {
+        m_document->drag(withEditedTarget(m_document->description(), targets));
     }
-    return true;
 }
 
 void TargetSession::endDrag()
 {
-    m_document->endDrag(tr("move %1").arg(vertexName(m_dragged)));
+    m_document->endDrag(tr("move %1").arg(ceiechart::gamutVertexName(m_dragged)));
 }
 
 void TargetSession::cancelDrag()
 {
-    m_document->cancelDrag();
-}
-
-QString vertexName(Vertex vertex)
-{
-    switch (vertex) {
-    case Vertex::Red:
-        return QCoreApplication::translate("gamutviewer", "red");
-    case Vertex::Green:
-        return QCoreApplication::translate("gamutviewer", "green");
-    case Vertex::Blue:
-        return QCoreApplication::translate("gamutviewer", "blue");
-    case Vertex::White:
-        break;
+    if (m_document->isDragging()) {
+        m_document->cancelDrag();
+        Q_EMIT dragCanceled();
     }
-    return QCoreApplication::translate("gamutviewer", "white");
 }
 
 QString shownGamutName(const QString &gamutName)

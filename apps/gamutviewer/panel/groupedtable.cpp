@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/groupedtable.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -12,7 +9,7 @@
 namespace gamutviewer {
 
 GroupedTable::GroupedTable(const QStringList &header, QWidget *parent)
-    : QTableWidget(0, header.size(), parent)
+    : CopyTable(0, header.size(), parent)
 {
     setHorizontalHeaderLabels(header);
     horizontalHeader()->setMinimumSectionSize(10);
@@ -24,9 +21,7 @@ GroupedTable::GroupedTable(const QStringList &header, QWidget *parent)
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(10);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
-    setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
-    setTabKeyNavigation(false);
     setShowGrid(false);
     setWordWrap(false);
     setHorizontalScrollMode(ScrollPerPixel);
@@ -83,7 +78,7 @@ void GroupedTable::fitColumns()
 QSize GroupedTable::sizeHint() const
 {
     return {horizontalHeader()->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(),
-        QTableWidget::sizeHint().height()};
+        CopyTable::sizeHint().height()};
 }
 
 void GroupedTable::setCell(int row, int column, const QString &text, bool isTitle)
@@ -101,35 +96,6 @@ void GroupedTable::setCell(int row, int column, const QString &text, bool isTitl
     cell->setFont(bold);
     cell->setTextAlignment((isTitle || column == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     cell->setText(text);
-}
-
-void GroupedTable::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::Copy)) {
-        copySelection();
-        event->accept();
-        return;
-    }
-    QTableWidget::keyPressEvent(event);
-}
-
-void GroupedTable::copySelection() const
-{
-    QStringList lines;
-    for (int row = 0; row < rowCount(); ++row) {
-        if (!selectionModel()->isRowSelected(row, QModelIndex())) {
-            continue;
-        }
-        QStringList cells;
-        for (int column = 0; column < columnCount(); ++column) {
-            const QTableWidgetItem *cell = item(row, column);
-            cells.append(cell ? cell->text() : QString());
-        }
-        lines.append(cells.join(QLatin1Char('\t')));
-    }
-    if (!lines.isEmpty()) {
-        QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
-    }
 }
 
 } // namespace gamutviewer

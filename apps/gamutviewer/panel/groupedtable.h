@@ -2,12 +2,12 @@
 #ifndef GAMUTVIEWER_GROUPEDTABLE_H
 #define GAMUTVIEWER_GROUPEDTABLE_H
 
-#include <QTableWidget>
+#include "panel/copytable.h"
 
 namespace gamutviewer {
 
 /*! \brief A table to read whose rows stand in groups under a title. */
-class GroupedTable : public QTableWidget {
+class GroupedTable : public CopyTable {
     Q_OBJECT
 
 public:
@@ -25,13 +25,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return QSize(120, 80); }
 
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
-
 private:
     void setCell(int row, int column, const QString &text, bool isTitle);
     void fitColumns();
-    void copySelection() const;
 };
 
 } // namespace gamutviewer

@@ -2,15 +2,14 @@
 #include "panel/sidepanel.h"
 
 #include "display/chromaticity.h"
-#include "display/whitepoint.h"
+#include "display/valuetexts.h"
 #include "editing/document.h"
 #include "editing/gamutparts.h"
 #include "editing/targetsession.h"
 #include "panel/groupedtable.h"
-#include "panel/signallog.h"
 #include "panel/targeteditor.h"
+#include "panel/verdict.h"
 
-#include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -18,17 +17,12 @@ namespace gamutviewer {
 
 namespace {
 
-QString fixed(double value, int decimals = 4)
-{
-    return QString::number(value, 'f', decimals);
-}
-
 QStringList valueCells(Vertex vertex, const Model::Target &t)
 {
     const QPointF uv = uvFromXy(xyOf(t));
-    const auto temperature = colorTemperature(xyOf(t));
-    return {vertexName(vertex), luminanceText(t.Y), fixed(t.x), fixed(t.y), fixed(uv.x()), fixed(uv.y()),
-        temperature ? fixed(temperature->kelvin, 0) : undefinedText(),
+    const auto temperature = ceiechart::colorTemperature(xyOf(t));
+    return {ceiechart::gamutVertexName(vertex), luminanceText(t.Y), fixedText(t.x, 4), fixedText(t.y, 4),
+        fixedText(uv.x(), 4), fixedText(uv.y(), 4), temperature ? fixedText(temperature->kelvin, 0) : undefinedText(),
         temperature ? duvText(*temperature) : undefinedText()};
 }
 
@@ -48,14 +42,14 @@ SidePanel::SidePanel(TargetSession *session, QWidget *parent)
     : QWidget(parent)
     , m_document(session->document())
 {
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * 0.9);
+    setFont(small);
     auto *layout = new QVBoxLayout(this);
+    m_verdict = new Verdict(session, this);
+    layout->addWidget(m_verdict);
     m_editor = new TargetEditor(session, this);
     layout->addWidget(m_editor);
-    m_validity = new QLabel(this);
-    m_validity->setTextFormat(Qt::PlainText);
-    m_validity->setWordWrap(true);
-    m_validity->setAccessibleName(tr("Validity of the target"));
-    layout->addWidget(m_validity);
 
     m_tabs = new QTabWidget(this);
     m_tabs->setDocumentMode(true);
@@ -68,10 +62,8 @@ SidePanel::SidePanel(TargetSession *session, QWidget *parent)
     m_coverage->setToolTip(
         tr("Coverage: share of the standard's area that the gamut contains. Ratio: area of the gamut divided by that "
            "of the standard."));
-    m_log = new SignalLog(m_tabs);
-    m_tabs->addTab(m_values, tr("&Values"));
+    m_tabs->addTab(m_values, tr("V&alues"));
     m_tabs->addTab(m_coverage, tr("Covera&ge"));
-    m_tabs->addTab(m_log, tr("Si&gnals"));
     layout->addWidget(m_tabs, 1);
 
     connect(m_document, &Document::changed, this, &SidePanel::refresh);
@@ -80,30 +72,8 @@ SidePanel::SidePanel(TargetSession *session, QWidget *parent)
 
 void SidePanel::refresh()
 {
-    refreshValidity();
     refreshValues();
     refreshCoverage();
-}
-
-void SidePanel::refreshValidity()
-{
-    const auto original = m_document->original();
-    const auto target = m_document->target();
-    if (!original || !target) {
-        m_validity->clear();
-        return;
-    }
-    const Model::PrimariesOutside outside = Model::primariesOutside(target->getTargets(), original->getTargets());
-    QStringList names;
-    for (const auto &primary : {std::make_pair(outside.red, Vertex::Red), std::make_pair(outside.green, Vertex::Green),
-             std::make_pair(outside.blue, Vertex::Blue)}) {
-        if (primary.first) {
-            names.append(vertexName(primary.second));
-        }
-    }
-    m_validity->setText(names.isEmpty()
-            ? tr("✓ The display can show the target.")
-            : tr("✗ Outside the original: %1").arg(names.join(tr(", ", "between names of colours"))));
 }
 
 void SidePanel::refreshValues()

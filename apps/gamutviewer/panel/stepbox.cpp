@@ -130,10 +130,17 @@ double StepBox::valueFromText(const QString &text) const
     return QDoubleSpinBox::valueFromText(text);
 }
 
+QString StepBox::textFromValue(double value) const
+{
+    // Not a zero with a sign.
+    const bool isZero = QString::number(std::fabs(value), 'f', decimals()).toDouble() == 0.0;
+    return QDoubleSpinBox::textFromValue(isZero ? 0.0 : value);
+}
+
 QSize StepBox::sizeHint() const
 {
     // The range of luminances is wide; what is usual must fit.
-    const QSize text(fontMetrics().horizontalAdvance(QStringLiteral("1000.0000")), QDoubleSpinBox::sizeHint().height());
+    const QSize text(fontMetrics().horizontalAdvance(QStringLiteral("1000.00")), QDoubleSpinBox::sizeHint().height());
     QStyleOptionSpinBox option;
     initStyleOption(&option);
     return QSize(style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, this).width(), text.height());

@@ -41,6 +41,7 @@ public:
     void stepBy(int steps) override;
     QValidator::State validate(QString &text, int &position) const override;
     double valueFromText(const QString &text) const override;
+    QString textFromValue(double value) const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

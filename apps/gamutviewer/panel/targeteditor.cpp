@@ -2,7 +2,7 @@
 #include "panel/targeteditor.h"
 
 #include "display/chromaticity.h"
-#include "display/whitepoint.h"
+#include "display/valuetexts.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
 #include "panel/coordinatepair.h"
@@ -31,6 +31,13 @@ constexpr double highestLuminance = 1e6;
 // What the fields of the white start from where it has no colour temperature.
 constexpr double firstTemperature = 6500.0;
 constexpr double firstDuv = 0.0;
+
+//! As its fields show it. Through decimal text: the double nearest to the decimals, as the fields give it.
+QPointF rounded(const QPointF &point)
+{
+    const auto number = [](double value) { return QString::number(value, 'f', chromaticityDecimals).toDouble(); };
+    return QPointF(number(point.x()), number(point.y()));
+}
 
 //! Luminances are relative (a white of 1) or in cd/m²: as many decimals as either needs.
 int luminanceDecimals(double luminance)
@@ -79,7 +86,7 @@ TargetEditor::TargetEditor(TargetSession *session, QWidget *parent)
 
     auto *rules = new QHBoxLayout;
     layout->addLayout(rules);
-    m_holdWhite = addRule(rules, tr("&Hold white"), tr("Moving a primary leaves the white point where it is"));
+    m_holdWhite = addRule(rules, tr("Hold &white"), tr("Moving a primary leaves the white point where it is"));
     m_lockPrimaries = addRule(rules, tr("&Lock primaries"), tr("Only the white point can be moved"));
     m_snap = addRule(
         rules, tr("S&nap"), tr("Dragged points snap to the corresponding points of the standards and of the original"));
@@ -140,7 +147,7 @@ void TargetEditor::connectBox(StepBox *box, Vertex vertex, const std::function<v
 
 void TargetEditor::buildRow(QGridLayout *grid, Vertex vertex)
 {
-    const QString name = vertexName(vertex);
+    const QString name = ceiechart::gamutVertexName(vertex);
     Row &row = m_rows[size_t(vertex)];
     row.label = new QLabel(name, this);
     row.first = addBox(0.0, 1.0, chromaticityDecimals, chromaticityStep, QString());
@@ -165,10 +172,11 @@ void TargetEditor::buildTemperature(QGridLayout *grid)
     auto *label = new QLabel(tr("CCT, Duv"), this);
     label->setToolTip(tr("Correlated colour temperature of the white point and its distance from the Planckian locus"));
     // The lowest value of each stands for none.
-    m_temperature = addBox(lowestTemperature - 1.0, highestTemperature, 0, 10.0, tr("white: colour temperature"));
+    m_temperature = addBox(
+        ceiechart::lowestTemperature - 1.0, ceiechart::highestTemperature, 0, 10.0, tr("white: colour temperature"));
     m_temperature->setSuffix(tr(" K"));
     m_temperature->setNoValue(undefinedText(), firstTemperature);
-    m_duv = addBox(-greatestDuv - 0.0001, greatestDuv, 4, 0.001, tr("white: Duv"));
+    m_duv = addBox(-ceiechart::greatestDuv - 0.0001, ceiechart::greatestDuv, 4, 0.001, tr("white: Duv"));
     m_duv->setNoValue(undefinedText(), firstDuv);
     label->setBuddy(m_temperature);
     grid->addWidget(label, line, 0);
@@ -207,8 +215,8 @@ void TargetEditor::refresh()
         QFont font = row.label->font();
         font.setBold(vertex == m_session->selected());
         row.label->setFont(font);
-        row.first->setAccessibleName(tr("%1: %2").arg(vertexName(vertex), m_firstHeader->text()));
-        row.second->setAccessibleName(tr("%1: %2").arg(vertexName(vertex), m_secondHeader->text()));
+        row.first->setAccessibleName(tr("%1: %2").arg(ceiechart::gamutVertexName(vertex), m_firstHeader->text()));
+        row.second->setAccessibleName(tr("%1: %2").arg(ceiechart::gamutVertexName(vertex), m_secondHeader->text()));
         const Waiting waiting = m_waiting && m_waiting->vertex == vertex ? *m_waiting : Waiting{vertex, {}, {}, {}};
         row.first->showNumber(waiting.first.value_or(shown.x()));
         row.first->setDoubt(waiting.first ? waiting.reason : QString());
@@ -219,7 +227,7 @@ void TargetEditor::refresh()
         row.luminance->setSingleStep(targets.white.Y < 10.0 ? 0.01 : 1.0);
         row.luminance->setValue(t.Y);
     }
-    const auto white = colorTemperature(xyOf(targets.white));
+    const auto white = ceiechart::colorTemperature(xyOf(targets.white));
     m_temperature->showNumber(white ? std::make_optional(white->kelvin) : std::nullopt);
     m_duv->showNumber(white ? std::make_optional(white->duv) : std::nullopt);
     setEnabled(target.has_value());
@@ -283,7 +291,7 @@ void TargetEditor::editCoordinates(Waiting typed, int mergeKey)
     // Only what was edited is taken from its field: the other coordinate may have more digits than are shown.
     const QPointF xy = xyOf(targetAt(target->getTargets(), typed.vertex));
     const QPointF present = showsUv() ? uvFromXy(xy) : xy;
-    const QPointF shown = roundedXy(present);
+    const QPointF shown = rounded(present);
     if (typed.first && *typed.first == shown.x()) {
         typed.first.reset();
     }
@@ -363,8 +371,8 @@ void TargetEditor::editTemperature(int mergeKey)
     if (!target) {
         return;
     }
-    const auto present = colorTemperature(xyOf(target->getTargets().white));
-    ColorTemperature wanted = present.value_or(ColorTemperature{firstTemperature, firstDuv});
+    const auto present = ceiechart::colorTemperature(xyOf(target->getTargets().white));
+    ceiechart::ColorTemperature wanted = present.value_or(ceiechart::ColorTemperature{firstTemperature, firstDuv});
     if (sender() == m_temperature) {
         wanted.kelvin = m_temperature->value();
     } else {

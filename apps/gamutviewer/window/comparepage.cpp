@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "window/comparepage.h"
 
-#include "display/chromaticity.h"
-#include "display/whitepoint.h"
-#include "drawing/diagramkey.h"
-#include "drawing/gamutdiagram.h"
+#include "display/valuetexts.h"
+#include "drawing/documentview.h"
+#include "drawing/layerswitches.h"
 #include "editing/document.h"
+#include "editing/gamutparts.h"
 #include "editing/targetsession.h"
+#include "panel/copytable.h"
+
+#include <gamutmodel/gamutcoverage.h>
 
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace gamutviewer {
@@ -22,22 +24,16 @@ enum Row { RedRow, GreenRow, BlueRow, WhiteRow, TemperatureRow, DuvRow, Luminanc
 
 QString pairText(const QPointF &point)
 {
-    return QStringLiteral("%1, %2").arg(point.x(), 0, 'f', 4).arg(point.y(), 0, 'f', 4);
+    return QStringLiteral("%1, %2").arg(fixedText(point.x(), 4), fixedText(point.y(), 4));
 }
 
 } // namespace
 
-double lostShare(const Model::Targets &original, const Model::Targets &target, Model::Diagram diagram)
-{
-    const double area = Model::gamutArea(original, diagram);
-    return area > 0.0 ? 1.0 - Model::commonArea(original, target, diagram) / area : 0.0;
-}
-
-ComparePage::ComparePage(Document *document, QWidget *parent)
-    : Page(document, parent)
+ComparePage::ComparePage(TargetSession *session, QWidget *parent)
+    : Page(session->document(), parent)
 {
     auto *layout = new QVBoxLayout(this);
-    m_table = new QTableWidget(RowCount, 0, this);
+    m_table = new CopyTable(RowCount, 0, this);
     m_table->setAccessibleName(tr("Gamuts side by side"));
     m_table->setVerticalHeaderLabels({tr("Red"), tr("Green"), tr("Blue"), tr("White"), tr("CCT"), tr("Duv"),
         tr("Luminance"), tr("Area x, y"), tr("Area u′, v′")});
@@ -46,8 +42,6 @@ ComparePage::ComparePage(Document *document, QWidget *parent)
     m_table->setFont(small);
     m_table->horizontalHeader()->setFont(small);
     m_table->verticalHeader()->setFont(small);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setTabKeyNavigation(false);
     m_table->setSelectionBehavior(QAbstractItemView::SelectColumns);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_table->horizontalHeader()->setHighlightSections(false);
@@ -64,16 +58,25 @@ ComparePage::ComparePage(Document *document, QWidget *parent)
     m_loss->setTextInteractionFlags(Qt::TextSelectableByMouse);
     layout->addWidget(m_loss);
 
+    using ceiechart::DiagramLayer;
+    m_switches = new LayerSwitches(this);
+    LayerSwitches::State state;
+    state.layers &= ~(DiagramLayer::Isotherms | DiagramLayer::Wavelengths | DiagramLayer::Rings | DiagramLayer::Trail
+        | DiagramLayer::Standards);
+    m_switches->setState(state);
     auto *diagrams = new QHBoxLayout;
-    m_xy = new GamutDiagram(Model::Diagram::Cie1931, this);
-    m_uv = new GamutDiagram(Model::Diagram::Cie1976, this);
-    for (GamutDiagram *diagram : {m_xy, m_uv}) {
+    m_xy = new DocumentView(session, m_switches, this);
+    m_xy->setAccessibleName(tr("CIE 1931 x, y diagram"));
+    m_uv = new DocumentView(session, m_switches, this);
+    m_uv->setAccessibleName(tr("CIE 1976 u′, v′ diagram"));
+    m_uv->setDiagram(ceiechart::DiagramView::Cie1976);
+    for (DocumentView *diagram : {m_xy, m_uv}) {
+        diagram->setReadOnly(true);
         diagrams->addWidget(diagram);
-        connect(diagram, &GamutDiagram::pointedAt, this, &Page::pointedAt);
+        connect(diagram, &ceiechart::DiagramView::hovered, this, &Page::pointedAt);
+        connect(diagram, &ceiechart::DiagramView::hoverEnded, this, &Page::pointerLeft);
     }
     layout->addLayout(diagrams, 1);
-    m_key = new DiagramKey(this);
-    layout->addWidget(m_key);
     setFocusProxy(m_table);
 }
 
@@ -94,14 +97,14 @@ void ComparePage::refresh()
     m_table->setColumnCount(parts.size());
     for (int column = 0; column < parts.size(); ++column) {
         const GamutPart &part = parts.at(column);
-        auto *header = new QTableWidgetItem(part.roleName());
+        auto *header = new QTableWidgetItem(part.title());
         header->setToolTip(part.title());
         m_table->setHorizontalHeaderItem(column, header);
         const Model::Targets &t = part.gamut.getTargets();
         for (const Vertex vertex : allVertices) {
             setCell(RedRow + int(vertex), column, pairText(xyOf(targetAt(t, vertex))));
         }
-        const auto white = colorTemperature(xyOf(t.white));
+        const auto white = ceiechart::colorTemperature(xyOf(t.white));
         setCell(TemperatureRow, column, white ? temperatureText(*white) : undefinedText());
         setCell(DuvRow, column, white ? duvText(*white) : undefinedText());
         setCell(LuminanceRow, column, luminanceText(t.white.Y));
@@ -121,16 +124,8 @@ void ComparePage::refresh()
                 .arg(percent(lostShare(original->getTargets(), target->getTargets(), Model::Diagram::Cie1931)),
                     percent(lostShare(original->getTargets(), target->getTargets(), Model::Diagram::Cie1976))));
     }
-    QVector<KeyEntry> key;
-    for (const GamutPart &part : parts) {
-        KeyEntry entry;
-        entry.name = part.roleName();
-        entry.pen = partPen(part.role, palette());
-        key.append(entry);
-    }
-    m_key->setEntries(key);
-    m_xy->setParts(parts);
-    m_uv->setParts(parts);
+    m_xy->refresh();
+    m_uv->refresh();
 }
 
 } // namespace gamutviewer

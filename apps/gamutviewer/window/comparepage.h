@@ -2,27 +2,27 @@
 #ifndef GAMUTVIEWER_COMPAREPAGE_H
 #define GAMUTVIEWER_COMPAREPAGE_H
 
-#include "editing/gamutparts.h"
 #include "window/page.h"
 
-#include <gamutmodel/gamutcoverage.h>
-
 class QLabel;
-class QTableWidget;
 
 namespace gamutviewer {
 
-class DiagramKey;
-class GamutDiagram;
+class CopyTable;
+class DocumentView;
+class LayerSwitches;
+class TargetSession;
 
 /*! \brief Declared, original, measured and target side by side, and what the target gives up of the original. */
 class ComparePage : public Page {
     Q_OBJECT
 
 public:
-    explicit ComparePage(Document *document, QWidget *parent = nullptr);
+    explicit ComparePage(TargetSession *session, QWidget *parent = nullptr);
 
-    QTableWidget *table() const { return m_table; }
+    QString title() const override { return tr("&Compare"); }
+
+    CopyTable *table() const { return m_table; }
     QLabel *loss() const { return m_loss; }
 
 protected:
@@ -31,18 +31,12 @@ protected:
 private:
     void setCell(int row, int column, const QString &text);
 
-    QTableWidget *m_table;
+    CopyTable *m_table;
     QLabel *m_loss;
-    GamutDiagram *m_xy;
-    GamutDiagram *m_uv;
-    DiagramKey *m_key;
+    LayerSwitches *m_switches;
+    DocumentView *m_xy;
+    DocumentView *m_uv;
 };
-
-/*!
- * \brief The share of \a original's area on \a diagram that \a target does not contain, 0 to 1; 0 for an original
- * without area.
- */
-double lostShare(const Model::Targets &original, const Model::Targets &target, Model::Diagram diagram);
 
 } // namespace gamutviewer
 

@@ -2,6 +2,8 @@
 #ifndef GAMUTVIEWER_PAGE_H
 #define GAMUTVIEWER_PAGE_H
 
+#include "drawing/picture.h"
+
 #include <QPointF>
 #include <QWidget>
 
@@ -17,6 +19,13 @@ public:
     Page(Document *document, QWidget *parent);
 
     Document *document() const { return m_document; }
+
+    /*! \brief What the page is called, with a mnemonic. */
+    virtual QString title() const = 0;
+    /*! \brief What hands and modifiers do on the page, in a few words. */
+    virtual QString hints() const { return QString(); }
+    /*! \brief What is exported and copied while the page is shown; all of the document unless the page says more. */
+    virtual Picture picture() const;
 
 Q_SIGNALS:
     /*! \brief The pointer is over the CIE 1931 chromaticity \a xy. */
@@ -34,39 +43,6 @@ protected:
 private:
     Document *m_document;
     bool m_stale = true;
-};
-
-/*! \brief Shows that what is inside of \a place has the keyboard. */
-void paintFocusFrame(QPainter &painter, const QRect &place, const QPalette &palette);
-
-/*! \brief The place of a chart in a page: says when its size changes, and keeps no minimum for the chart's sake. */
-class ChartBox : public QWidget {
-    Q_OBJECT
-
-public:
-    explicit ChartBox(QWidget *parent = nullptr);
-
-    QSize sizeHint() const override { return QSize(560, 600); }
-    QSize minimumSizeHint() const override { return QSize(240, 260); }
-
-    /*! \brief What there is for a chart. */
-    QSize room() const;
-    /*! \brief Puts \a chart into the middle of the upper edge. */
-    void place(QWidget *chart);
-    /*! \brief Frames the chart while \a view, which is part of it, has the keyboard. */
-    void showFocusOf(QWidget *view);
-
-Q_SIGNALS:
-    void resized();
-
-protected:
-    void resizeEvent(QResizeEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-private:
-    QWidget *m_view = nullptr;
-    QRect m_place;
 };
 
 } // namespace gamutviewer

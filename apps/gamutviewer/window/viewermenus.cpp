@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "display/openfile.h"
 #include "editing/targetsession.h"
+#include "panel/sidepanel.h"
+#include "panel/targeteditor.h"
+#include "window/diagrampage.h"
 #include "window/exportdialog.h"
 #include "window/recentfiles.h"
 #include "window/viewerwindow.h"
@@ -51,7 +54,7 @@ void ViewerWindow::buildFileMenu()
     addItem(menu, tr("&Save"), QKeySequence::Save, this, &ViewerWindow::save);
     addItem(menu, tr("Save &as…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, this, &ViewerWindow::saveAs);
     menu->addSeparator();
-    addItem(menu, tr("&Export chart…"), Qt::CTRL | Qt::Key_E, this, &ViewerWindow::exportChartByDialog);
+    addItem(menu, tr("&Export picture…"), Qt::CTRL | Qt::Key_E, this, &ViewerWindow::exportByDialog);
     menu->addSeparator();
     QAction *close = menu->addAction(tr("&Quit"), this, &QWidget::close);
     close->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence(Qt::CTRL | Qt::Key_W)});
@@ -86,11 +89,11 @@ void ViewerWindow::buildEditMenu()
               connect(m_session, &TargetSession::rulesChanged, action,
                   [this, action, get] { action->setChecked((m_session->*get)()); });
           };
-    addRule(tr("&Hold white"), &TargetSession::setHoldWhite, &TargetSession::holdWhite);
+    addRule(tr("Hold &white"), &TargetSession::setHoldWhite, &TargetSession::holdWhite);
     addRule(tr("&Lock primaries"), &TargetSession::setLockPrimaries, &TargetSession::lockPrimaries);
     addRule(tr("&Snap"), &TargetSession::setSnaps, &TargetSession::snaps);
     menu->addSeparator();
-    addItem(menu, tr("&Copy chart"), Qt::CTRL | Qt::SHIFT | Qt::Key_C, this, &ViewerWindow::copyChart);
+    addItem(menu, tr("&Copy picture"), Qt::CTRL | Qt::SHIFT | Qt::Key_C, this, &ViewerWindow::copyPicture);
 }
 
 void ViewerWindow::buildViewMenu()
@@ -102,6 +105,8 @@ void ViewerWindow::buildViewMenu()
             m_pages->currentWidget()->setFocus();
         });
     }
+    menu->addSeparator();
+    menu->addActions(m_diagramPage->actions());
 }
 
 void ViewerWindow::buildHelpMenu()
@@ -136,17 +141,18 @@ bool ViewerWindow::saveAs()
     return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().constFirst());
 }
 
-void ViewerWindow::exportChartByDialog()
+void ViewerWindow::exportByDialog()
 {
-    ExportDialog extent(this);
-    if (extent.exec() != QDialog::Accepted) {
+    m_panel->editor()->takeTyped();
+    ExportDialog picture(currentPage()->picture(), this);
+    if (picture.exec() != QDialog::Accepted) {
         return;
     }
-    QFileDialog dialog(this, tr("Export chart"), QString(), tr("Pictures (*.png *.svg *.pdf)"));
+    QFileDialog dialog(this, tr("Export picture"), QString(), tr("Pictures (*.png *.svg *.pdf)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("png"));
     if (dialog.exec() == QDialog::Accepted) {
-        exportTo(dialog.selectedFiles().constFirst(), extent.extent());
+        exportTo(dialog.selectedFiles().constFirst(), picture.picture(), picture.extent());
     }
 }
 
@@ -191,17 +197,23 @@ void ViewerWindow::showKeys()
 {
     QMessageBox box(QMessageBox::NoIcon, tr("Keys"), QString(), QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
-    box.setText(tr("Editable diagrams:\n"
-                   "R, G, B, W – select a primary or the white\n"
-                   "Arrow keys – move it by 0.001; with Shift by 0.0001, with Ctrl by 0.01\n"
+    box.setText(tr("Diagram:\n"
+                   "Wheel, + and − – zoom about the pointer; 0 – all of it\n"
+                   "Drag on free ground, middle button, Alt+arrows – move the view\n"
+                   "R, G, B, W or Tab – select a primary or the white\n"
+                   "Drag or arrow keys – move it; with Shift a tenth as far\n"
+                   "Ctrl – towards the white; the white at its colour temperature\n"
+                   "Alt – along an axis; Ctrl+Alt – without snapping\n"
                    "Esc – cancel a drag\n\n"
+                   "Key:\n"
+                   "Click or Space – show or hide an entry\n"
+                   "Double click or Return – show it alone\n\n"
                    "Numbers:\n"
                    "Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps\n"
                    "Esc – restore the value of the target\n\n"
-                   "White point:\n"
-                   "+, − or the wheel – zoom in or out\n"
-                   "0 – show all white points\n\n"
-                   "Ctrl+1 to Ctrl+5 – show a page"));
+                   "Tables:\n"
+                   "Ctrl+C – copy all of the table\n\n"
+                   "Ctrl+1 to Ctrl+3 – show a page"));
     box.exec();
 }
 

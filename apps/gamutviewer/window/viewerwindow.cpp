@@ -6,20 +6,17 @@
 #include "display/messages.h"
 #include "display/openfile.h"
 #include "display/samples.h"
-#include "display/whitepoint.h"
-#include "drawing/layers.h"
+#include "display/valuetexts.h"
 #include "editing/targetsession.h"
 #include "panel/sidepanel.h"
-#include "panel/signallog.h"
 #include "panel/targeteditor.h"
-#include "window/chartpage.h"
 #include "window/comparepage.h"
-#include "window/editpage.h"
-#include "window/lenspage.h"
+#include "window/diagrampage.h"
+#include "window/librarypage.h"
 #include "window/recentfiles.h"
 #include "window/settings.h"
 
-#include <ceiechart/widgets/ceiegraphicsview.h>
+#include <ceiechart/diagram/targetrules.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -54,9 +51,7 @@ ViewerWindow::ViewerWindow(QWidget *parent)
     setAcceptDrops(true);
     buildPages();
     buildMenus();
-    m_readout = new QLabel(this);
-    m_readout->setAccessibleName(tr("Chromaticity under the pointer"));
-    statusBar()->addPermanentWidget(m_readout);
+    buildStatusBar();
 
     connect(&m_document, &Document::modifiedChanged, this, &QWidget::setWindowModified);
     connect(&m_document, &Document::fileNameChanged, this, &ViewerWindow::refreshTitle);
@@ -80,17 +75,13 @@ void ViewerWindow::buildPages()
     m_splitter->setChildrenCollapsible(false);
     m_pages = new QTabWidget(m_splitter);
     m_pages->setDocumentMode(true);
-    m_switches = new LayerSwitches(this);
-    m_chartPage = new ChartPage(&m_document, m_switches);
-    m_editPage = new EditPage(m_session, m_switches, DrawCEIPicture::XyDiagram);
-    m_uvPage = new EditPage(m_session, m_switches, DrawCEIPicture::UvDiagram);
-    m_lensPage = new LensPage(&m_document);
-    m_comparePage = new ComparePage(&m_document);
-    addPage(m_chartPage, tr("Chart"));
-    addPage(m_editPage, tr("Edit target"));
-    addPage(m_uvPage, tr("u′v′"));
-    addPage(m_lensPage, tr("White point"));
-    addPage(m_comparePage, tr("Compare"));
+    m_diagramPage = new DiagramPage(m_session);
+    m_comparePage = new ComparePage(m_session);
+    m_libraryPage = new LibraryPage(&m_document);
+    for (Page *page :
+        {static_cast<Page *>(m_diagramPage), static_cast<Page *>(m_comparePage), static_cast<Page *>(m_libraryPage)}) {
+        addPage(page);
+    }
     m_panel = new SidePanel(m_session, m_splitter);
     m_splitter->addWidget(m_pages);
     m_splitter->addWidget(m_panel);
@@ -98,21 +89,38 @@ void ViewerWindow::buildPages()
     m_splitter->setStretchFactor(1, 0);
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_panelWidthIsChosen = true; });
     setCentralWidget(m_splitter);
-    watchCharts();
 }
 
-void ViewerWindow::addPage(Page *page, const QString &title)
+void ViewerWindow::addPage(Page *page)
 {
-    m_pages->addTab(page, title);
+    m_pages->addTab(page, page->title());
     connect(page, &Page::pointedAt, this, &ViewerWindow::showReadout);
-    connect(page, &Page::pointerLeft, this, [this] { m_readout->clear(); });
+    connect(page, &Page::pointerLeft, this, [this] { setReadout(QString()); });
 }
 
-void ViewerWindow::watchCharts()
+void ViewerWindow::buildStatusBar()
 {
-    m_panel->log()->watch(m_chartPage->chart(), tr("Chart"));
-    m_panel->log()->watch(m_editPage->chart(), tr("Edit target"));
-    m_panel->log()->watch(m_uvPage->chart(), tr("u′v′"));
+    // A message takes the place of the hints, never that of the readout.
+    m_hints = new QLabel(this);
+    m_hints->setMinimumWidth(1);
+    statusBar()->addWidget(m_hints, 1);
+    m_readout = new QLabel(this);
+    m_readout->setTextFormat(Qt::PlainText);
+    statusBar()->addPermanentWidget(m_readout);
+    setReadout(QString());
+    connect(m_pages, &QTabWidget::currentChanged, this, &ViewerWindow::followPage);
+    followPage();
+}
+
+Page *ViewerWindow::currentPage() const
+{
+    return static_cast<Page *>(m_pages->currentWidget());
+}
+
+void ViewerWindow::followPage()
+{
+    m_hints->setText(currentPage()->hints());
+    setReadout(QString());
 }
 
 void ViewerWindow::setDescription(const DisplayDescription &description, const QString &fileName)
@@ -174,55 +182,35 @@ bool ViewerWindow::saveTo(const QString &fileName)
     return true;
 }
 
-ChartScene ViewerWindow::shownScene() const
+bool ViewerWindow::exportTo(const QString &fileName, const Picture &picture, const PictureExtent &extent)
 {
-    const DisplayDescription &description = m_document.description();
-    const QWidget *page = m_pages->currentWidget();
-    const bool isUv = page == m_uvPage;
-    Layers shown = m_switches->shown();
-    if (page != m_editPage && !isUv) {
-        // The chart page has no switches for them.
-        shown |= Layer::Wavelengths | Layer::PlanckianLocus;
-    }
-    if (page == m_editPage) {
-        // Nor the page to edit on for this one, which is coloured as a whole.
-        shown |= Layer::CommonArea;
-    }
-    ChartScene scene = chartScene(description, shown, isUv ? Model::Diagram::Cie1976 : Model::Diagram::Cie1931);
-    scene.wholeDigits = true;
-    // All of the u′, v′ chart is coloured.
-    scene.key = keyEntries(description, isUv ? shown & ~Layers(Layer::CommonArea) : shown, KeyStyle::Picture);
-    return scene;
-}
-
-bool ViewerWindow::exportTo(const QString &fileName, const ChartExtent &extent)
-{
-    const auto format = chartFormat(fileName);
+    const auto format = pictureFormat(fileName);
     if (!format) {
         warn(tr("%1: the name must end in .png, .svg or .pdf").arg(fileName));
         return false;
     }
-    const DisplayDescription &description = m_document.description();
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString error = exportChart(shownScene(), description.name, extent, *format, fileName);
+    const QString error = exportPicture(picture, m_document.description().name, extent, *format, fileName);
     QApplication::restoreOverrideCursor();
     if (!error.isEmpty()) {
         warn(tr("%1: cannot be written: %2").arg(fileName, error));
         return false;
     }
-    statusBar()->showMessage(tr("Exported to %1").arg(oneLine(fileName)), messageMilliseconds);
+    statusBar()->showMessage(
+        (lacksRoomForKey(picture, extent.size) ? tr("Exported to %1, without a key for lack of room")
+                                               : tr("Exported to %1"))
+            .arg(oneLine(fileName)),
+        messageMilliseconds);
     return true;
 }
 
-void ViewerWindow::copyChart()
+void ViewerWindow::copyPicture()
 {
     m_panel->editor()->takeTyped();
-    ChartExtent extent;
-    extent.devicePixelRatio = devicePixelRatioF();
-    const QImage picture = chartPicture(shownScene(), extent);
+    const QImage picture = pixelsOf(currentPage()->picture(), PictureExtent());
     if (!picture.isNull()) {
         QApplication::clipboard()->setImage(picture);
-        statusBar()->showMessage(tr("The chart has been copied to the clipboard."), messageMilliseconds);
+        statusBar()->showMessage(tr("The picture has been copied to the clipboard."), messageMilliseconds);
     }
 }
 
@@ -249,20 +237,25 @@ void ViewerWindow::refreshTitle()
 
 void ViewerWindow::showReadout(const QPointF &xy)
 {
-    if (!isChromaticity(xy)) {
-        m_readout->clear();
+    if (!ceiechart::isChromaticity(xy)) {
+        setReadout(QString());
         return;
     }
     const QPointF uv = uvFromXy(xy);
     QString text = tr("x %1  y %2   u′ %3  v′ %4")
-                       .arg(xy.x(), 0, 'f', 4)
-                       .arg(xy.y(), 0, 'f', 4)
-                       .arg(uv.x(), 0, 'f', 4)
-                       .arg(uv.y(), 0, 'f', 4);
-    if (const auto white = colorTemperature(xy)) {
+                       .arg(fixedText(xy.x(), 4), fixedText(xy.y(), 4), fixedText(uv.x(), 4), fixedText(uv.y(), 4));
+    if (const auto white = ceiechart::colorTemperature(xy)) {
         text += tr("   %1  Duv %2", "with the temperature").arg(temperatureText(*white), duvText(*white));
     }
+    setReadout(text);
+}
+
+void ViewerWindow::setReadout(const QString &text)
+{
     m_readout->setText(text);
+    // The name is what a screen reader reads, and it hears of its changes.
+    m_readout->setAccessibleName(
+        text.isEmpty() ? tr("Chromaticity under the pointer") : tr("Chromaticity under the pointer: %1").arg(text));
 }
 
 void ViewerWindow::warn(const QString &text)

@@ -2,7 +2,7 @@
 #ifndef GAMUTVIEWER_VIEWERWINDOW_H
 #define GAMUTVIEWER_VIEWERWINDOW_H
 
-#include "drawing/chartexport.h"
+#include "drawing/picture.h"
 #include "editing/document.h"
 
 #include <QMainWindow>
@@ -14,11 +14,9 @@ class QTabWidget;
 
 namespace gamutviewer {
 
-class ChartPage;
 class ComparePage;
-class EditPage;
-class LayerSwitches;
-class LensPage;
+class DiagramPage;
+class LibraryPage;
 class Page;
 class SidePanel;
 class TargetSession;
@@ -43,23 +41,19 @@ public:
     bool openPath(const QString &fileName);
     /*! \brief Writes the description; false, with a message, when that fails. */
     bool saveTo(const QString &fileName);
-    /*! \brief Writes the chart in the format of \a fileName's suffix; false, with a message, when that fails. */
-    bool exportTo(const QString &fileName, const ChartExtent &extent);
-    void copyChart();
-    /*!
-     * \brief What is exported and copied: what the switches of the shown page let through, on its diagram where that is
-     * one of the charts, else on x, y.
-     */
-    ChartScene shownScene() const;
+    /*! \brief Writes \a picture in the format of \a fileName's suffix; false, with a message, when that fails. */
+    bool exportTo(const QString &fileName, const Picture &picture, const PictureExtent &extent);
+    /*! \brief Copies the picture of the page to the clipboard. */
+    void copyPicture();
+    /*! \brief The page that is shown. */
+    Page *currentPage() const;
 
     Document *document() { return &m_document; }
     TargetSession *session() const { return m_session; }
     QTabWidget *pages() const { return m_pages; }
-    ChartPage *chartPage() const { return m_chartPage; }
-    EditPage *editPage() const { return m_editPage; }
-    EditPage *uvPage() const { return m_uvPage; }
-    LensPage *lensPage() const { return m_lensPage; }
+    DiagramPage *diagramPage() const { return m_diagramPage; }
     ComparePage *comparePage() const { return m_comparePage; }
+    LibraryPage *libraryPage() const { return m_libraryPage; }
     SidePanel *panel() const { return m_panel; }
     QLabel *readout() const { return m_readout; }
 
@@ -76,13 +70,13 @@ private:
     void buildEditMenu();
     void buildViewMenu();
     void buildHelpMenu();
-    void addPage(Page *page, const QString &title);
-    void watchCharts();
+    void buildStatusBar();
+    void addPage(Page *page);
 
     void open();
     bool save();
     bool saveAs();
-    void exportChartByDialog();
+    void exportByDialog();
     void fillRecentMenu();
     void undo();
     void redo();
@@ -93,6 +87,8 @@ private:
     bool mayLoseChanges();
     void refreshTitle();
     void showReadout(const QPointF &xy);
+    void setReadout(const QString &text);
+    void followPage();
     void warn(const QString &text);
     /*! \brief Makes the panel as wide as what it shows, until the user has chosen its width. */
     void fitPanel();
@@ -102,17 +98,15 @@ private:
     Document m_document;
     QString m_shownFile; // what was opened, for the title
     TargetSession *m_session;
-    LayerSwitches *m_switches;
     bool m_panelWidthIsChosen = false;
     QSplitter *m_splitter;
     QTabWidget *m_pages;
-    ChartPage *m_chartPage;
-    EditPage *m_editPage;
-    EditPage *m_uvPage;
-    LensPage *m_lensPage;
+    DiagramPage *m_diagramPage;
     ComparePage *m_comparePage;
+    LibraryPage *m_libraryPage;
     SidePanel *m_panel;
     QLabel *m_readout;
+    QLabel *m_hints;
     QMenu *m_recentMenu;
 };
 
