@@ -94,9 +94,15 @@ public:
         QList<ColorTriangleObject> standards;
         QList<ColorTriangleObject> others;
         const bool besideMeasured = m_content.find(GamutRole::Measured) != nullptr;
-        for (const DiagramGamut &gamut : m_content.gamuts) {
-            auto &list = gamut.role == GamutRole::Standard ? standards : others;
-            list.append(triangle(gamut.gamut, kindOf(gamut.role), chartStyleOf(gamut, besideMeasured)));
+        // The target comes last, as the chart has it.
+        for (const GamutRole role :
+            {GamutRole::Standard, GamutRole::Original, GamutRole::Measured, GamutRole::Declared, GamutRole::Target}) {
+            for (const DiagramGamut &gamut : m_content.gamuts) {
+                if (gamut.role == role) {
+                    auto &list = role == GamutRole::Standard ? standards : others;
+                    list.append(triangle(gamut.gamut, kindOf(role), chartStyleOf(gamut, besideMeasured)));
+                }
+            }
         }
         const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(
             m_size.width(), m_size.height(), true, others, standards, commonArea(), false, QString()));

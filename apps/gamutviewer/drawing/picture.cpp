@@ -16,6 +16,8 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
+#include <algorithm>
+
 namespace gamutviewer {
 
 namespace {
@@ -23,19 +25,32 @@ namespace {
 constexpr int dotsPerInch = 96;
 constexpr int dotsPerMeter = 3780; // the same
 constexpr double pointsPerDot = 72.0 / dotsPerInch;
+constexpr int leastSideWithTexts = 200;
+
+//! The content without the texts, which would cover a small diagram and leave no room for it.
+ceiechart::DiagramContent contentOn(const QSize &size, ceiechart::DiagramContent content)
+{
+    using ceiechart::DiagramLayer;
+    if (std::min(size.width(), size.height()) < leastSideWithTexts) {
+        content.layers
+            &= ~(DiagramLayer::Axes | DiagramLayer::Wavelengths | DiagramLayer::Isotherms | DiagramLayer::Names);
+    }
+    return content;
+}
 
 //! Paints the diagram and its key; the painter's units are pixels of 1/96 inch.
 void paintDiagram(QPainter &painter, const Picture &picture, const QSize &size)
 {
+    const ceiechart::DiagramContent content = contentOn(size, picture.content);
     PictureLayout layout;
     layout.diagram = QRectF(QPointF(), size);
     if (picture.hasKey) {
-        layout = layOutPicture(picture.content, picture.view, size);
+        layout = layOutPicture(content, picture.view, size);
     }
     ceiechart::DiagramPainter diagram;
-    diagram.setContent(picture.content);
+    diagram.setContent(content);
     diagram.setViewport(picture.view);
-    painter.fillRect(QRectF(QPointF(), size), ceiechart::diagramPalette(picture.content.ground).ground);
+    painter.fillRect(QRectF(QPointF(), size), ceiechart::diagramPalette(content.ground).ground);
     diagram.paint(&painter, layout.diagram);
     layout.key.paint(&painter, layout.keyPlace);
 }
@@ -96,7 +111,7 @@ std::optional<PictureFormat> pictureFormat(const QString &fileName)
 bool lacksRoomForKey(const Picture &picture, const QSize &size)
 {
     return picture.hasKey && !picture.isLibraryChart && !PictureKey(picture.content, 1).isEmpty()
-        && layOutPicture(picture.content, picture.view, size).key.isEmpty();
+        && layOutPicture(contentOn(size, picture.content), picture.view, size).key.isEmpty();
 }
 
 QImage pixelsOf(const Picture &picture, const PictureExtent &extent)

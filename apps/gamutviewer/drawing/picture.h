@@ -13,7 +13,11 @@
 
 namespace gamutviewer {
 
-/*! \brief What a picture for a file, the clipboard or paper shows. */
+/*!
+ * \brief What a picture for a file, the clipboard or paper shows.
+ *
+ * The diagram on one with a side of less than 200 pixels has no texts, as on an icon.
+ */
 struct Picture {
     ceiechart::DiagramContent content; //!< what is drawn
     ceiechart::DiagramViewport view; //!< which diagram and which part of it, on an area of any size

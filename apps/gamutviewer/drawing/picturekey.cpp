@@ -177,7 +177,8 @@ void PictureKey::paint(QPainter *painter, const QPointF &at) const
     painter->save();
     painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter->setFont(m_font);
-    painter->fillRect(QRectF(at, m_size), palette.ground); // over the lines of the grid
+    painter->fillRect(
+        QRectF(at, m_size).adjusted(-gap / 2.0, -gap / 2.0, gap / 2.0, gap / 2.0), palette.ground); // over the grid
     QRectF row(at, QSizeF(m_size.width(), m_rowHeight));
     for (const Row &entry : m_rows) {
         DiagramPainter::paintKeyLine(

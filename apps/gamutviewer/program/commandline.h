@@ -2,7 +2,8 @@
 #ifndef GAMUTVIEWER_COMMANDLINE_H
 #define GAMUTVIEWER_COMMANDLINE_H
 
-#include "drawing/chartexport.h"
+#include "display/displaydescription.h"
+#include "drawing/picture.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -18,7 +19,7 @@ class CommandLine {
 public:
     enum class Action {
         Show,
-        Write, //!< a chart, a report or both, and no window
+        Write, //!< a picture, a report or both, and no window
         Help,
         Version,
         Refuse
@@ -32,11 +33,13 @@ public:
     QString error() const { return m_error; }
     /*! \brief The files to open; empty for the sample. */
     QStringList files() const { return m_files; }
-    /*! \brief Where Write writes the chart to; empty for no chart. */
+    /*! \brief Where Write writes the picture to; empty for no picture. */
     QString pictureFile() const { return m_pictureFile; }
-    ChartFormat pictureFormat() const { return m_pictureFormat; }
+    PictureFormat pictureFormat() const { return m_pictureFormat; }
     /*! \brief Of the picture, or of the window. */
-    const ChartExtent &extent() const { return m_extent; }
+    const PictureExtent &extent() const { return m_extent; }
+    /*! \brief What Write writes of \a description. */
+    Picture picture(const DisplayDescription &description) const;
     /*! \brief Whether a size was asked for; otherwise a window may have the one that it had. */
     bool hasSize() const { return m_hasSize; }
     /*! \brief Whether Write writes the report to the standard output. */
@@ -47,11 +50,16 @@ public:
     bool needsDisplay() const { return m_needsDisplay; }
 
 private:
+    enum class Part { All, Target, White };
+
     void refuse(const QString &error);
     void readFiles();
     void readPicture(const QString &fileName);
     void readSize(const QString &text);
     void readRatio(const QString &text);
+    void readDiagram(const QString &name);
+    void readPart(const QString &name);
+    void readLayers(const QString &list);
     void readReport(const QString &format);
 
     QCommandLineParser m_parser;
@@ -59,8 +67,13 @@ private:
     QString m_error;
     QStringList m_files;
     QString m_pictureFile;
-    ChartFormat m_pictureFormat = ChartFormat::Png;
-    ChartExtent m_extent;
+    PictureFormat m_pictureFormat = PictureFormat::Png;
+    PictureExtent m_extent;
+    Model::Diagram m_diagram = Model::Diagram::Cie1931;
+    bool m_isLibraryChart = false;
+    Part m_part = Part::All;
+    ceiechart::ShownLayers m_layers = ceiechart::allDiagramLayers;
+    bool m_hasKey = true;
     bool m_hasSize = false;
     bool m_wantsReport = false;
     bool m_needsDisplay = true;
