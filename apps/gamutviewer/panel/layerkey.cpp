@@ -227,11 +227,6 @@ void LayerKey::addColors()
         layout->addWidget(button);
     }
     setItemWidget(row, box);
-    QWidget *before = this;
-    for (QAbstractButton *button : m_colors->buttons()) {
-        setTabOrder(before, button);
-        before = button;
-    }
     row->setSizeHint(box->sizeHint());
     m_leastWidth = box->sizeHint().width();
 }

@@ -77,7 +77,7 @@ ComparePage::ComparePage(TargetSession *session, QWidget *parent)
         connect(diagram, &ceiechart::DiagramView::hoverEnded, this, &Page::pointerLeft);
     }
     layout->addLayout(diagrams, 1);
-    setFocusProxy(m_table);
+    setFocusInside(m_table);
 }
 
 void ComparePage::setCell(int row, int column, const QString &text)

@@ -55,9 +55,7 @@ DiagramPage::DiagramPage(TargetSession *session, QWidget *parent)
     m_lens = new Lens(session, m_switches, m_stage);
     m_stage->installEventFilter(this);
     buildBar(bar);
-    setFocusProxy(m_view);
-    setTabOrder(m_key, m_view);
-    setTabOrder(m_view, m_lens->view());
+    setFocusInside(m_view);
 
     for (const DocumentView *view : {m_view, m_lens->view()}) {
         connect(view, &DiagramView::hovered, this, &Page::pointedAt);

@@ -4,6 +4,8 @@
 #include "drawing/documentcontent.h"
 #include "editing/document.h"
 
+#include <QFocusEvent>
+
 namespace gamutviewer {
 
 Page::Page(Document *document, QWidget *parent)
@@ -34,6 +36,14 @@ void Page::showEvent(QShowEvent *event)
     if (m_stale) {
         m_stale = false;
         refresh();
+    }
+}
+
+void Page::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    if (m_inside) {
+        m_inside->setFocus(event->reason());
     }
 }
 

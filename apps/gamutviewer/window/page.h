@@ -38,10 +38,19 @@ protected:
     /*! \brief Calls refresh() now, or else when the page is shown next. */
     void refreshWhenShown();
 
+    /*!
+     * \brief Where the focus goes that the page is given.
+     *
+     * Not by a focus proxy: with one, Tab would go from what is before the page to \a inside, past what precedes it.
+     */
+    void setFocusInside(QWidget *inside) { m_inside = inside; }
+
     void showEvent(QShowEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     Document *m_document;
+    QWidget *m_inside = nullptr;
     bool m_stale = true;
 };
 

@@ -148,9 +148,10 @@ void ViewerWindow::exportByDialog()
     if (picture.exec() != QDialog::Accepted) {
         return;
     }
-    QFileDialog dialog(this, tr("Export picture"), QString(), tr("Pictures (*.png *.svg *.pdf)"));
+    const QString suffix = pictureSuffix(picture.format());
+    QFileDialog dialog(this, tr("Export picture"), QString(), tr("Pictures (*.%1)").arg(suffix));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("png"));
+    dialog.setDefaultSuffix(suffix);
     if (dialog.exec() == QDialog::Accepted) {
         exportTo(dialog.selectedFiles().constFirst(), picture.picture(), picture.extent());
     }
