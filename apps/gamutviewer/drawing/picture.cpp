@@ -93,17 +93,26 @@ bool writePdf(const Picture &picture, const QString &title, const QSize &size, Q
 
 } // namespace
 
+QString pictureSuffix(PictureFormat format)
+{
+    switch (format) {
+    case PictureFormat::Png:
+        break;
+    case PictureFormat::Svg:
+        return QStringLiteral("svg");
+    case PictureFormat::Pdf:
+        return QStringLiteral("pdf");
+    }
+    return QStringLiteral("png");
+}
+
 std::optional<PictureFormat> pictureFormat(const QString &fileName)
 {
     const QString suffix = QFileInfo(fileName).suffix().toLower();
-    if (suffix == QLatin1String("png")) {
-        return PictureFormat::Png;
-    }
-    if (suffix == QLatin1String("svg")) {
-        return PictureFormat::Svg;
-    }
-    if (suffix == QLatin1String("pdf")) {
-        return PictureFormat::Pdf;
+    for (const PictureFormat format : {PictureFormat::Png, PictureFormat::Svg, PictureFormat::Pdf}) {
+        if (suffix == pictureSuffix(format)) {
+            return format;
+        }
     }
     return std::nullopt;
 }
@@ -143,6 +152,9 @@ QImage pixelsOf(const Picture &picture, const PictureExtent &extent)
 QString exportPicture(const Picture &picture, const QString &title, const PictureExtent &extent, PictureFormat format,
     const QString &fileName)
 {
+    if (picture.isLibraryChart && format != PictureFormat::Png) {
+        return QCoreApplication::translate("gamutviewer", "the library's chart is written as PNG only");
+    }
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -152,10 +164,10 @@ QString exportPicture(const Picture &picture, const QString &title, const Pictur
         done = writePng(picture, extent, buffer);
         break;
     case PictureFormat::Svg:
-        done = !picture.isLibraryChart && writeSvg(picture, title, extent.size, buffer);
+        done = writeSvg(picture, title, extent.size, buffer);
         break;
     case PictureFormat::Pdf:
-        done = !picture.isLibraryChart && writePdf(picture, title, extent.size, buffer);
+        done = writePdf(picture, title, extent.size, buffer);
         break;
     }
     if (!done) {

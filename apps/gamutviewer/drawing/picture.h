@@ -41,6 +41,9 @@ struct PictureExtent {
 /*! \brief Longest side of a picture, in pixels. */
 constexpr int maximumPictureSide = 8192;
 
+/*! \brief The suffix of files in \a format: "png", "svg" or "pdf". */
+QString pictureSuffix(PictureFormat format);
+
 /*! \brief The format that the suffix of \a fileName stands for, in any case; nothing when it is none of them. */
 std::optional<PictureFormat> pictureFormat(const QString &fileName);
 

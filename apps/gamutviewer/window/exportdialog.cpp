@@ -42,9 +42,9 @@ ExportDialog::ExportDialog(const Picture &shown, QWidget *parent)
     m_key->setChecked(shown.hasKey);
     layout->addRow(QString(), m_key);
     m_format = new QComboBox(this);
-    m_format->addItem(QStringLiteral("PNG"), int(PictureFormat::Png));
-    m_format->addItem(QStringLiteral("SVG"), int(PictureFormat::Svg));
-    m_format->addItem(QStringLiteral("PDF"), int(PictureFormat::Pdf));
+    for (const PictureFormat format : {PictureFormat::Png, PictureFormat::Svg, PictureFormat::Pdf}) {
+        m_format->addItem(pictureSuffix(format).toUpper(), int(format));
+    }
     layout->addRow(tr("&Format:"), m_format);
 
     // As large as in the window, so that "as in the window" is just that.
