@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "chartexport.h"
-#include "commandline.h"
-#include "interfacetranslations.h"
-#include "messages.h"
-#include "openfile.h"
-#include "platform.h"
-#include "report.h"
-#include "samples.h"
-#include "viewerwindow.h"
+#include "display/messages.h"
+#include "display/openfile.h"
+#include "display/report.h"
+#include "display/samples.h"
+#include "drawing/picture.h"
+#include "program/commandline.h"
+#include "program/interfacetranslations.h"
+#include "program/platform.h"
+#include "window/viewerwindow.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -32,11 +32,15 @@ int write(const DisplayDescription &description, const CommandLine &commandLine)
 {
     const QString picture = commandLine.pictureFile();
     if (!picture.isEmpty()) {
-        const QString error = exportChart(
-            chartScene(description), description.name, commandLine.extent(), commandLine.pictureFormat(), picture);
+        const Picture content = commandLine.picture(description);
+        const QString error
+            = exportPicture(content, description.name, commandLine.extent(), commandLine.pictureFormat(), picture);
         if (!error.isEmpty()) {
             printError(QApplication::translate("main", "%1: cannot be written: %2").arg(picture, error));
             return Failed;
+        }
+        if (lacksRoomForKey(content, commandLine.extent().size)) {
+            printError(QApplication::translate("main", "%1: has no room for the key").arg(picture));
         }
     }
     if (commandLine.wantsReport() && print(reportText(description)) != Done) {

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/commandline.h>
+#include "program/commandline.h"
 
 #include <QtTest>
 
-using gamutviewer::ChartFormat;
+using ceiechart::DiagramLayer;
+using ceiechart::ShownLayers;
 using gamutviewer::CommandLine;
+using gamutviewer::DisplayDescription;
+using gamutviewer::Picture;
+using gamutviewer::PictureFormat;
 using Action = CommandLine::Action;
 
 Q_DECLARE_METATYPE(CommandLine::Action)
@@ -22,6 +26,14 @@ private Q_SLOTS:
     void ratios();
     void pictureFormats_data();
     void pictureFormats();
+    void pictureOfADescription();
+    void diagrams_data();
+    void diagrams();
+    void parts();
+    void layerLists_data();
+    void layerLists();
+    void unknownLayersNameTheKnownOnes();
+    void layersAreDocumented();
     void severalFiles();
     void refusals_data();
     void refusals();
@@ -32,6 +44,23 @@ namespace {
 QStringList withProgram(const QString &arguments)
 {
     return QStringList(QStringLiteral("gamutviewer")) + arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+DisplayDescription wall()
+{
+    DisplayDescription description;
+    description.original = QStringLiteral("Rec.2020");
+    description.target = QStringLiteral("Rec.709");
+    return description;
+}
+
+Picture picture(const QString &arguments)
+{
+    const CommandLine line(withProgram(QStringLiteral("--render a.png ") + arguments));
+    if (line.action() != Action::Write) {
+        qFatal("%s", qPrintable(line.error()));
+    }
+    return line.picture(wall());
 }
 
 } // namespace
@@ -147,11 +176,11 @@ void CommandLineTest::pictureFormats_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("format");
-    QTest::newRow("png") << "wall.png" << int(ChartFormat::Png);
-    QTest::newRow("svg") << "wall.svg" << int(ChartFormat::Svg);
-    QTest::newRow("pdf") << "wall.PDF" << int(ChartFormat::Pdf);
-    QTest::newRow("no suffix") << "wall" << int(ChartFormat::Png);
-    QTest::newRow("device") << "/dev/stdout" << int(ChartFormat::Png);
+    QTest::newRow("png") << "wall.png" << int(PictureFormat::Png);
+    QTest::newRow("svg") << "wall.svg" << int(PictureFormat::Svg);
+    QTest::newRow("pdf") << "wall.PDF" << int(PictureFormat::Pdf);
+    QTest::newRow("no suffix") << "wall" << int(PictureFormat::Png);
+    QTest::newRow("device") << "/dev/stdout" << int(PictureFormat::Png);
 }
 
 void CommandLineTest::pictureFormats()
@@ -161,6 +190,116 @@ void CommandLineTest::pictureFormats()
     const CommandLine line({QStringLiteral("gamutviewer"), QStringLiteral("--render"), name});
     QCOMPARE(line.action(), Action::Write);
     QCOMPARE(int(line.pictureFormat()), format);
+}
+
+void CommandLineTest::pictureOfADescription()
+{
+    const Picture all = picture(QString());
+    QCOMPARE(all.content.gamuts.size(), 2);
+    QCOMPARE(all.content.layers, ceiechart::allDiagramLayers);
+    QCOMPARE(all.view.diagram(), Model::Diagram::Cie1931);
+    QVERIFY(all.view.showsAll());
+    QVERIFY(all.hasKey && !all.isLibraryChart);
+}
+
+void CommandLineTest::diagrams_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("diagram");
+    QTest::newRow("xy") << "xy" << int(Model::Diagram::Cie1931);
+    QTest::newRow("uv") << "uv" << int(Model::Diagram::Cie1976);
+    QTest::newRow("uv1960") << "uv1960" << int(Model::Diagram::Cie1960);
+}
+
+void CommandLineTest::diagrams()
+{
+    QFETCH(QString, name);
+    QFETCH(int, diagram);
+    QCOMPARE(int(picture(QStringLiteral("--diagram ") + name).view.diagram()), diagram);
+    QVERIFY(!picture(QStringLiteral("--diagram ") + name).isLibraryChart);
+    QVERIFY(picture(QStringLiteral("--diagram chart")).isLibraryChart);
+}
+
+void CommandLineTest::parts()
+{
+    QVERIFY(picture(QStringLiteral("--view all")).view.showsAll());
+    const Model::Targets targets = Model::rec709().getTargets();
+    const ceiechart::DiagramViewport whole(Model::Diagram::Cie1976, QSizeF(300, 200));
+    const QString uv = QStringLiteral("--diagram uv --size 300x200 --view ");
+    QCOMPARE(picture(uv + "target").view, whole.fittedTo(targets));
+    QCOMPARE(picture(uv + "white").view, whole.fittedToWhite(QPointF(targets.white.x, targets.white.y)));
+    const CommandLine line(withProgram("--render a.png --view white"));
+    QVERIFY(line.picture(DisplayDescription()).view.showsAll());
+}
+
+void CommandLineTest::layerLists_data()
+{
+    const ShownLayers all = ceiechart::allDiagramLayers;
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<int>("layers");
+    QTest::addColumn<bool>("hasKey");
+    const auto row = [](const char *list, ShownLayers layers, bool hasKey = true) {
+        QTest::newRow(list) << QString::fromLatin1(list) << int(layers) << hasKey;
+    };
+    row("all", all);
+    row("none", ShownLayers());
+    row("targets", DiagramLayer::Targets);
+    row("target,grid", DiagramLayer::Targets | DiagramLayer::Grid);
+    row("-grid", all & ~ShownLayers(DiagramLayer::Grid));
+    row("-grid,-cmy", all & ~(DiagramLayer::Grid | DiagramLayer::CmyPoints));
+    row("all,-planckian-locus", all & ~ShownLayers(DiagramLayer::PlanckianLocus));
+    row("none,lost", DiagramLayer::LostArea);
+    row("grid,-grid,axes", DiagramLayer::Axes);
+    row("color-temp,measure-points,measured",
+        DiagramLayer::ColorTemperaturePoints | DiagramLayer::MeasurePoints | DiagramLayer::MeasuredGamuts);
+    row("-key", all, false);
+    row("original,-key", DiagramLayer::Originals, false);
+    row("-key,-axes,key", all & ~ShownLayers(DiagramLayer::Axes));
+}
+
+void CommandLineTest::layerLists()
+{
+    QFETCH(QString, list);
+    QFETCH(int, layers);
+    QFETCH(bool, hasKey);
+    for (const QString &arguments : {QStringLiteral("--layers ") + list, QStringLiteral("--layers=") + list}) {
+        const Picture found = picture(arguments);
+        QCOMPARE(int(found.content.layers), layers);
+        QCOMPARE(found.hasKey, hasKey);
+    }
+}
+
+void CommandLineTest::unknownLayersNameTheKnownOnes()
+{
+    for (const char *wrong :
+        {"bogus", "", "-", "--grid", "Grid", " grid", "measure", "all,,grid", "targetss", "trail"}) {
+        const CommandLine line({"gamutviewer", "--render", "a.png", "--layers", QString::fromLatin1(wrong)});
+        QCOMPARE(line.action(), Action::Refuse);
+        const QString item = QString::fromLatin1(wrong).section(QLatin1Char(','), 1, 1);
+        QCOMPARE(line.error(),
+            QStringLiteral("Unknown layer, expected all, none, key, colors, locus, wavelengths, planckian-locus, "
+                           "isotherms, axes, grid, common-area, lost-area, standards, originals, measured-gamuts, "
+                           "declared-gamuts, targets, names, whites, measure-points, color-temperature-points, "
+                           "cmy-points, rings: ")
+                + (QByteArray(wrong).contains(',') ? item : QString::fromLatin1(wrong)));
+    }
+}
+
+void CommandLineTest::layersAreDocumented()
+{
+    const CommandLine line(withProgram("--render a.png --layers bogus"));
+    const QString names = line.error().section(QLatin1String("expected "), 1).section(QLatin1Char(':'), 0, 0);
+    QFile guide(QStringLiteral(VIEWER_DOCUMENTATION));
+    QFile manual(QStringLiteral(VIEWER_MANUAL));
+    QVERIFY(guide.open(QIODevice::ReadOnly) && manual.open(QIODevice::ReadOnly));
+    const QByteArray guideText = guide.readAll();
+    const QByteArray manualText = manual.readAll();
+    const QStringList list = names.split(QStringLiteral(", "));
+    QVERIFY(list.size() > 20);
+    for (const QString &name : list) {
+        QVERIFY2(guideText.contains('`' + name.toUtf8() + '`'), qPrintable(name));
+        QVERIFY2(manualText.contains(".BR " + name.toUtf8().replace('-', "\\-") + ' '), qPrintable(name));
+    }
 }
 
 void CommandLineTest::severalFiles()
@@ -187,6 +326,22 @@ void CommandLineTest::refusals_data()
                                      << "The picture would have more than 8192 pixels per side.";
     QTest::newRow("ratio of a window") << QStringList{"--dpr", "2", "a.json"} << "--dpr requires --render.";
     QTest::newRow("ratio of a report") << QStringList{"--dpr", "2", "--report", "json"} << "--dpr requires --render.";
+    QTest::newRow("diagram of a window") << QStringList{"--diagram", "uv"} << "--diagram requires --render.";
+    QTest::newRow("view of a window") << QStringList{"--view", "white"} << "--view requires --render.";
+    QTest::newRow("layers of a report") << QStringList{"--layers", "none", "--report", "json"}
+                                        << "--layers requires --render.";
+    QTest::newRow("unknown diagram") << QStringList{"--render", "a.png", "--diagram", "XY"}
+                                     << "Unknown diagram, expected xy, uv, uv1960 or chart: XY";
+    QTest::newRow("unknown view") << QStringList{"--render", "a.png", "--view", "red"}
+                                  << "Unknown view, expected all, target or white: red";
+    QTest::newRow("layers of the chart") << QStringList{"--render", "a.png", "--diagram", "chart", "--layers", "all"}
+                                         << "--layers does not apply to --diagram chart.";
+    QTest::newRow("view of the chart") << QStringList{"--render", "a.png", "--diagram", "chart", "--view", "all"}
+                                       << "--view does not apply to --diagram chart.";
+    QTest::newRow("ratio of the chart") << QStringList{"--render", "a.png", "--diagram", "chart", "--dpr", "2"}
+                                        << "--dpr does not apply to --diagram chart.";
+    QTest::newRow("chart as svg") << QStringList{"--render", "a.svg", "--diagram", "chart"}
+                                  << "--diagram chart is written as png only: a.svg";
     QTest::newRow("size of a report") << QStringList{"--size", "20x10", "--report", "json"}
                                       << "--size requires --render when used with --report.";
     QTest::newRow("first reason") << QStringList{"--dpr", "0", "--size", "0x0"}

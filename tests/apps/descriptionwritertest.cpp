@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/descriptionreader.h>
-#include <gamutviewer/descriptionwriter.h>
+#include "display/descriptionwriter.h"
+#include "display/descriptionreader.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/descriptionreader.h>
+#include "display/descriptionreader.h"
 
 #include <QtTest>
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/document.h>
-#include <gamutviewer/targetsession.h>
+#include "editing/document.h"
+#include "editing/targetsession.h"
+
+#include <gamutmodel/gamutcoverage.h>
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -22,7 +24,7 @@ private Q_SLOTS:
     void trailFollowsTheWhiteAndTheHistory();
     void refusalSaysWhy();
     void lockedAndHeldAreRefused();
-    void dragSnapsUnlessToldNotTo();
+    void fitsToTheOriginal();
     void whiteByTemperature();
 };
 
@@ -41,6 +43,10 @@ DisplayDescription description()
 
 struct Fixture {
     Fixture() { document.open(description(), QStringLiteral("wall.json")); }
+    Model::Targets withRed(const QPointF &red)
+    {
+        return *ceiechart::withPrimary(document.target()->getTargets(), Vertex::Red, red);
+    }
     QPointF xy(Vertex vertex) { return xyOf(targetAt(document.target()->getTargets(), vertex)); }
 
     Document document;
@@ -70,9 +76,9 @@ void DocumentTest::aDragIsOneStep()
 {
     Fixture f;
     f.session.setSnaps(false);
-    f.session.beginDrag();
+    f.session.beginDrag(Vertex::Red);
     for (int i = 1; i <= 10; ++i) {
-        QVERIFY(f.session.dragTo(Vertex::Red, QPointF(0.64 + 0.002 * i, 0.33), 0.01));
+        f.session.dragTo(f.withRed(QPointF(0.64 + 0.002 * i, 0.33)));
     }
     QCOMPARE(f.document.history()->count(), 0);
     QCOMPARE(f.xy(Vertex::Red).x(), 0.66);
@@ -87,7 +93,7 @@ void DocumentTest::aDragIsOneStep()
 void DocumentTest::aDragThatChangesNothingIsNoStep()
 {
     Fixture f;
-    f.session.beginDrag();
+    f.session.beginDrag(Vertex::Red);
     f.session.endDrag();
     QCOMPARE(f.document.history()->count(), 0);
     QVERIFY(!f.document.isModified());
@@ -96,8 +102,8 @@ void DocumentTest::aDragThatChangesNothingIsNoStep()
 void DocumentTest::aCancelledDragIsNoStep()
 {
     Fixture f;
-    f.session.beginDrag();
-    f.session.dragTo(Vertex::Red, QPointF(0.66, 0.32), 0.0);
+    f.session.beginDrag(Vertex::Red);
+    f.session.dragTo(f.withRed(QPointF(0.66, 0.32)));
     f.session.cancelDrag();
     QCOMPARE(f.xy(Vertex::Red).x(), 0.64);
     QCOMPARE(f.document.history()->count(), 0);
@@ -203,18 +209,20 @@ void DocumentTest::lockedAndHeldAreRefused()
     QCOMPARE(f.xy(Vertex::White).x(), 0.31);
 }
 
-void DocumentTest::dragSnapsUnlessToldNotTo()
+void DocumentTest::fitsToTheOriginal()
 {
     Fixture f;
-    f.session.beginDrag();
-    f.session.dragTo(Vertex::Red, QPointF(0.6815, 0.3205), 0.005);
-    QCOMPARE(f.xy(Vertex::Red).x(), 0.68); // DCI-P3
-    f.session.dragTo(Vertex::Red, QPointF(0.6995, 0.2995), 0.005);
-    QCOMPARE(f.xy(Vertex::Red).x(), 0.7); // the original's
-    f.session.setSnaps(false);
-    f.session.dragTo(Vertex::Red, QPointF(0.6815, 0.3105), 0.005);
-    QCOMPARE(f.xy(Vertex::Red).x(), 0.6815);
-    f.session.endDrag();
+    QVERIFY(f.session.setChromaticity(Vertex::Green, QPointF(0.17, 0.78)));
+    QVERIFY(f.session.distanceOutside(Vertex::Green) > 0.005);
+    const int steps = f.document.history()->count();
+    f.session.fitToOriginal();
+    QCOMPARE(f.document.history()->count(), steps + 1);
+    for (const Vertex primary : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
+        QCOMPARE(f.session.distanceOutside(primary), 0.0);
+    }
+    const Model::PrimariesOutside outside
+        = Model::primariesOutside(f.document.target()->getTargets(), f.document.original()->getTargets());
+    QVERIFY(!outside.red && !outside.green && !outside.blue);
 }
 
 void DocumentTest::whiteByTemperature()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gamutfiles.h"
 
-#include <gamutviewer/edidfile.h>
+#include "display/edidfile.h"
 
 #include <QtTest>
 

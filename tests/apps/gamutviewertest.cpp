@@ -16,6 +16,10 @@ class GamutViewerTest : public QObject {
 private Q_SLOTS:
     void init();
     void rendersTheSample();
+    void rendersTheLibraryChart();
+    void rendersWhatIsAskedFor();
+    void namesTheGamuts();
+    void tellsOfAKeyWithoutRoom();
     void rendersAtARatio();
     void rendersVectors();
     void reports();
@@ -139,13 +143,55 @@ void GamutViewerTest::rendersTheSample()
     QCOMPARE(result.output, QByteArray());
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(entries(), QStringList("chart.png"));
+    QCOMPARE(pictureInFile(path("chart.png")).size(), QSize(800, 800));
+}
+
+void GamutViewerTest::rendersTheLibraryChart()
+{
+    const Result result = run({"--render", "chart.png", "--diagram", "chart"});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
     QCOMPARE(
         reference::firstDifference(pictureInFile(path("chart.png")), expectedchart::draw(QSize(800, 800))), QString());
 }
 
+void GamutViewerTest::rendersWhatIsAskedFor()
+{
+    QVector<QImage> pictures;
+    for (const QStringList &asked : {QStringList(), QStringList{"--diagram", "uv"}, QStringList{"--diagram", "uv1960"},
+             QStringList{"--layers", "-names"}, QStringList{"--layers", "-key"}, QStringList{"--view", "white"}}) {
+        const Result result = run(QStringList{"--render", "chart.png", "--size", "600x600"} + asked);
+        QCOMPARE(result.error, QByteArray());
+        QCOMPARE(result.exitCode, 0);
+        const QImage picture = pictureInFile(path("chart.png"));
+        QVERIFY(!pictures.contains(picture));
+        pictures.append(picture);
+    }
+}
+
+void GamutViewerTest::namesTheGamuts()
+{
+    QCOMPARE(run({"--render", "chart.svg", "--layers", "-names"}).exitCode, 0);
+    QFile file(path("chart.svg"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray svg = file.readAll();
+    for (const char *text :
+        {"DCI-P3(D65)", "LED wall", "LED wall, warm", "Rec.2020", "Target", "Original", "Measured"}) {
+        QVERIFY2(svg.contains(text), text);
+    }
+}
+
+void GamutViewerTest::tellsOfAKeyWithoutRoom()
+{
+    const Result result = run({"--render", "icon.png", "--size", "64x64"});
+    QCOMPARE(result.error, QByteArray("gamutviewer: icon.png: has no room for the key\n"));
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(pictureInFile(path("icon.png")).size(), QSize(64, 64));
+}
+
 void GamutViewerTest::rendersAtARatio()
 {
-    const Result result = run({"--size", "200x100", "--dpr", "1.5", "--render", "chart.png"});
+    const Result result = run({"--size", "200x100", "--dpr", "1.5", "--layers", "-key", "--render", "chart.png"});
     QCOMPARE(result.error, QByteArray());
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(pictureInFile(path("chart.png")).size(), QSize(300, 150));
@@ -244,7 +290,7 @@ void GamutViewerTest::rendersInTheSizeAskedFor()
 {
     QFETCH(QSize, size);
     const QString text = QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
-    const Result result = run({"--size", text, SAMPLE_FILE, "--render", "chart"});
+    const Result result = run({"--size", text, SAMPLE_FILE, "--render", "chart", "--diagram", "chart"});
     QCOMPARE(result.error, QByteArray());
     QCOMPARE(result.exitCode, 0);
     const QImage picture = pictureInFile(path("chart"));
@@ -262,7 +308,8 @@ void GamutViewerTest::rendersAGivenDescription()
     QCOMPARE(result.exitCode, 0);
     const QImage picture = pictureInFile(path("chart.png"));
     QCOMPARE(picture.size(), QSize(200, 200));
-    QVERIFY(picture != expectedchart::draw(QSize(200, 200)));
+    QVERIFY(run({"--render", "sample.png", "--size", "200x200"}).exitCode == 0);
+    QVERIFY(picture != pictureInFile(path("sample.png")));
 }
 
 void GamutViewerTest::rendersWhateverThePlatformIsSaidToBe()
@@ -350,6 +397,8 @@ void GamutViewerTest::refusesArguments_data()
                                    << QByteArray("Invalid size, expected 1x1 to 8192x8192: -1x5");
     QTest::newRow("bad ratio") << QStringList{"--dpr", "0"}
                                << QByteArray("Invalid device pixel ratio, expected 0.25 to 16: 0");
+    QTest::newRow("bad diagram") << QStringList{"--diagram", "lab", "--render", "a.png"}
+                                 << QByteArray("Unknown diagram, expected xy, uv, uv1960 or chart: lab");
     QTest::newRow("two descriptions") << QStringList{SAMPLE_FILE,
         SAMPLE_FILE} << QByteArray(SAMPLE_FILE ": is a second display description; the first is " SAMPLE_FILE);
     QTest::newRow("missing file") << QStringList{"no.json"}
@@ -407,7 +456,7 @@ void GamutViewerTest::leavesNothingOfAPictureThatDoesNotFit()
 void GamutViewerTest::writesToAPipe()
 {
 #ifdef Q_OS_UNIX
-    const Result result = run({"--render", "/dev/stdout", "--size", "300x200"});
+    const Result result = run({"--render", "/dev/stdout", "--size", "300x200", "--diagram", "chart"});
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(reference::firstDifference(pictureIn(result.output), expectedchart::draw(QSize(300, 200))), QString());
 #endif
@@ -418,8 +467,9 @@ void GamutViewerTest::helpAndVersion()
     const Result help = run({"--help"});
     QCOMPARE(help.exitCode, 0);
     QCOMPARE(help.error, QByteArray());
-    for (const char *part : {"Usage: ", "--render <file>", "--size <width>x<height>", "--dpr <ratio>",
-             "--report <format>", "--version", "Exit status: 0 success, 1 ", "file"}) {
+    for (const char *part : {"Usage: ", "--render <file>", "--diagram <diagram>", "--view <part>", "--layers <list>",
+             "common-area", "--size <width>x<height>", "--dpr <ratio>", "--report <format>", "--version",
+             "Exit status: 0 success, 1 ", "file"}) {
         QVERIFY2(help.output.contains(part), part);
     }
     const Result version = run({"--version"});

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gamutfiles.h"
 
-#include <gamutviewer/iccprofile.h>
+#include "display/iccprofile.h"
 
 #include <QtTest>
 

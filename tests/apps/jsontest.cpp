@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/json.h>
+#include "display/json.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "expectedchart.h"
 
+#include "display/descriptionreader.h"
 #include <ceiechart/atlas/ceiatlasvalue.h>
 #include <colortemperature/colortemperature.h>
-#include <gamutviewer/descriptionreader.h>
 
 #include <QtTest>
 

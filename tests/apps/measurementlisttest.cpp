@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/csv.h>
-#include <gamutviewer/measurementlist.h>
+#include "display/measurementlist.h"
+#include "display/csv.h"
 
 #include <QtTest>
 

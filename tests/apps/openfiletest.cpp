@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gamutfiles.h"
 
-#include <gamutviewer/openfile.h>
+#include "display/openfile.h"
 
 #include <QtTest>
 

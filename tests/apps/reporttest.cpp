@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <gamutviewer/displaydescription.h>
-#include <gamutviewer/report.h>
+#include "display/report.h"
+#include "display/displaydescription.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "windowfixture.h"
 
-#include <gamutviewer/chromaticity.h>
-#include <gamutviewer/sidepanel.h>
-#include <gamutviewer/targeteditor.h>
-#include <gamutviewer/targetsession.h>
+#include "display/chromaticity.h"
+#include "editing/targetsession.h"
+#include "panel/sidepanel.h"
+#include "panel/targeteditor.h"
+#include "panel/verdict.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -443,12 +444,12 @@ void TargetEditorTest::validityNamesThePrimary()
 {
     WindowFixture f;
     f.window->session()->reset(QStringLiteral("LED wall"));
-    QLabel *validity = f.window->panel()->validity();
-    QVERIFY(validity->text().startsWith(QString::fromUtf8("✓")));
+    const Verdict *verdict = f.window->panel()->verdict();
+    QVERIFY(verdict->text().startsWith(QString::fromUtf8("✓")));
     type(editor(f)->firstCoordinate(Vertex::Green), QStringLiteral("0.15"));
-    QVERIFY(validity->text().startsWith(QString::fromUtf8("✗")));
-    QVERIFY(validity->text().contains(QLatin1String("green")));
-    QVERIFY(!validity->text().contains(QLatin1String("red")));
+    QVERIFY(verdict->text().startsWith(QString::fromUtf8("✗")));
+    QVERIFY(verdict->text().contains(QLatin1String("green")));
+    QVERIFY(!verdict->text().contains(QLatin1String("red")));
 }
 
 QTEST_MAIN(TargetEditorTest)

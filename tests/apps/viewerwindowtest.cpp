@@ -1,32 +1,40 @@
 // SPDX-License-Identifier: MIT
 #include "windowfixture.h"
 
-#include <gamutviewer/chartpage.h>
-#include <gamutviewer/chartscene.h>
-#include <gamutviewer/comparepage.h>
-#include <gamutviewer/descriptionreader.h>
-#include <gamutviewer/descriptionwriter.h>
-#include <gamutviewer/diagramkey.h>
-#include <gamutviewer/groupedtable.h>
-#include <gamutviewer/interfacetranslations.h>
-#include <gamutviewer/lenspage.h>
-#include <gamutviewer/lenswidget.h>
-#include <gamutviewer/recentfiles.h>
-#include <gamutviewer/sidepanel.h>
-#include <gamutviewer/targeteditor.h>
-#include <gamutviewer/targetsession.h>
+#include "display/descriptionreader.h"
+#include "display/descriptionwriter.h"
+#include "display/valuetexts.h"
+#include "drawing/layerswitches.h"
+#include "editing/gamutparts.h"
+#include "editing/targetsession.h"
+#include "panel/copytable.h"
+#include "panel/groupedtable.h"
+#include "panel/layerkey.h"
+#include "panel/sidepanel.h"
+#include "panel/signallog.h"
+#include "panel/targeteditor.h"
+#include "program/interfacetranslations.h"
+#include "window/comparepage.h"
+#include "window/lens.h"
+#include "window/librarypage.h"
+#include "window/recentfiles.h"
 
+#include <ceiechart/diagram/chartstyle.h>
+#include <ceiechart/legacy/ceiegraphicsview.h>
 #include <ceiechart/widgets/ceiegraphicsview.h>
 
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFile>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -45,8 +53,8 @@ private Q_SLOTS:
     void windowGoesWhileANumberIsTyped();
     void savedFileReadsBackTheSame();
     void saveThatFailsSaysSo();
-    void exportsEveryFormat();
-    void copiesTheChart();
+    void exportsWhatThePageShows();
+    void copiesThePicture();
     void badFileLeavesWhatWasOpen_data();
     void badFileLeavesWhatWasOpen();
     void droppedFileIsOpened();
@@ -55,21 +63,15 @@ private Q_SLOTS:
     void recentFilesAreRemembered();
     void geometryAndPageAreRemembered();
     void pagesByKeyboard();
-    void everySwitchChangesTheChart_data();
-    void everySwitchChangesTheChart();
-    void chartFollowsTheSizeOfTheWindow();
-    void keyNamesWhatTheChartShows();
-    void switchesHoldForAllPages();
-    void exportsWhatIsShown();
-    void editPageExportsColours();
-    void standardOfTheFileIsShown();
     void keyboardGoesToThePage();
     void pointerIsReadOut();
-    void pointerIsReadOutWhereMarksAreDrawn_data();
-    void pointerIsReadOutWhereMarksAreDrawn();
-    void lensFollowsAndZooms();
+    void hintsAreThoseOfThePage();
+    void mnemonicsAreUnique_data();
+    void mnemonicsAreUnique();
+    void tablesAreCopiedWhole();
+    void zeroHasNoSign();
+    void libraryChartsShowTheDocument();
     void undefinedTemperatureIsTold();
-    void lensTrailIsSeen();
     void comparePageTellsWhatIsLost();
     void fitsASmallScreen_data();
     void fitsASmallScreen();
@@ -232,33 +234,43 @@ void ViewerWindowTest::saveThatFailsSaysSo()
     QVERIFY(f.window->isWindowModified());
 }
 
-void ViewerWindowTest::exportsEveryFormat()
+void ViewerWindowTest::exportsWhatThePageShows()
 {
     WindowFixture f;
-    ChartExtent extent;
-    extent.size = QSize(300, 200);
-    extent.devicePixelRatio = 2;
+    const PictureExtent extent{QSize(300, 200), 2.0};
+    const Picture picture = f.window->currentPage()->picture();
     const QString png = f.settings.filePath(QStringLiteral("chart.png"));
-    QVERIFY(f.window->exportTo(png, extent));
+    QVERIFY(f.window->exportTo(png, picture, extent));
     QCOMPARE(QImage(png).size(), QSize(600, 400));
+    QImage expected = pixelsOf(picture, extent).convertToFormat(QImage::Format_RGB32);
+    expected.setDevicePixelRatio(1.0);
+    QCOMPARE(QImage(png).convertToFormat(QImage::Format_RGB32), expected);
     for (const char *name : {"chart.svg", "chart.pdf"}) {
         const QString file = f.settings.filePath(QLatin1String(name));
-        QVERIFY(f.window->exportTo(file, extent));
+        QVERIFY(f.window->exportTo(file, picture, extent));
         QVERIFY(QFileInfo(file).size() > 1000);
     }
     const Answer answer(QMessageBox::Ok);
-    QVERIFY(!f.window->exportTo(f.settings.filePath(QStringLiteral("chart.doc")), extent));
+    QVERIFY(!f.window->exportTo(f.settings.filePath(QStringLiteral("chart.doc")), picture, extent));
     QVERIFY(answer.text().contains(QLatin1String(".svg")));
+    // What the switches and the view let through, and each page its own.
+    f.window->diagramPage()->switches()->setShown(ceiechart::DiagramLayer::Grid, false);
+    f.window->diagramPage()->view()->setDiagram(Model::Diagram::Cie1976);
+    const Picture other = f.window->currentPage()->picture();
+    QVERIFY(!other.content.layers.testFlag(ceiechart::DiagramLayer::Grid));
+    QCOMPARE(other.view.diagram(), Model::Diagram::Cie1976);
+    f.show(f.window->libraryPage());
+    QVERIFY(f.window->currentPage()->picture().isLibraryChart);
 }
 
-void ViewerWindowTest::copiesTheChart()
+void ViewerWindowTest::copiesThePicture()
 {
     WindowFixture f;
     QApplication::clipboard()->clear();
     QTest::keyClick(f.window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     const QImage copied = QApplication::clipboard()->image();
     QVERIFY(copied.convertToFormat(QImage::Format_RGB32)
-        == chartPicture(f.window->shownScene(), ChartExtent()).convertToFormat(QImage::Format_RGB32));
+        == pixelsOf(f.window->currentPage()->picture(), PictureExtent()).convertToFormat(QImage::Format_RGB32));
 }
 
 void ViewerWindowTest::badFileLeavesWhatWasOpen_data()
@@ -348,166 +360,31 @@ void ViewerWindowTest::geometryAndPageAreRemembered()
         ViewerWindow window;
         window.resize(1100, 790);
         window.show();
-        window.pages()->setCurrentIndex(3);
+        window.pages()->setCurrentIndex(2);
         size = window.size();
         window.close();
     }
     ViewerWindow window;
     window.show();
     QCOMPARE(window.size(), size);
-    QCOMPARE(window.pages()->currentIndex(), 3);
+    QCOMPARE(window.pages()->currentIndex(), 2);
 }
 
 void ViewerWindowTest::pagesByKeyboard()
 {
     WindowFixture f;
-    for (int page = 4; page >= 0; --page) {
+    for (int page = 2; page >= 0; --page) {
         QTest::keyClick(f.window.get(), Qt::Key(Qt::Key_1 + page), Qt::ControlModifier);
         QCOMPARE(f.window->pages()->currentIndex(), page);
     }
 }
 
-void ViewerWindowTest::everySwitchChangesTheChart_data()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < 10; ++i) {
-        QTest::newRow(QByteArray::number(i).constData()) << i;
-    }
-}
-
-void ViewerWindowTest::everySwitchChangesTheChart()
-{
-    QFETCH(int, index);
-    WindowFixture f;
-    f.window->setDescription(withEverything(f.document().description()), QString());
-    f.window->resize(1800, 900); // the key has one line, and the chart its size, whatever is shown
-    f.show(f.window->chartPage());
-    const QList<QCheckBox *> switches = f.window->chartPage()->findChildren<QCheckBox *>();
-    QCOMPARE(switches.size(), 10);
-    const auto picture = [&] { return f.window->chartPage()->chart()->view()->grab().toImage(); };
-    const QImage before = picture();
-    QTest::keyClick(switches.at(index), Qt::Key_Space);
-    QVERIFY2(picture() != before, qPrintable(switches.at(index)->text()));
-    QTest::keyClick(switches.at(index), Qt::Key_Space);
-    QVERIFY2(picture() == before, qPrintable(switches.at(index)->text()));
-}
-
-void ViewerWindowTest::chartFollowsTheSizeOfTheWindow()
-{
-    WindowFixture f;
-    f.show(f.window->chartPage());
-    const int before = f.window->chartPage()->chart()->view()->height();
-    f.window->resize(1024, 660);
-    QCoreApplication::processEvents();
-    QVERIFY(f.window->chartPage()->chart()->view()->height() < before);
-    f.window->resize(1024, 768);
-    QCoreApplication::processEvents();
-    QCOMPARE(f.window->chartPage()->chart()->view()->height(), before);
-    f.show(f.window->editPage());
-    const int edit = f.window->editPage()->chart()->imageHeight();
-    f.window->resize(1024, 660);
-    QCoreApplication::processEvents();
-    QVERIFY(f.window->editPage()->chart()->imageHeight() < edit);
-}
-
-void ViewerWindowTest::keyNamesWhatTheChartShows()
-{
-    WindowFixture f;
-    f.show(f.window->chartPage());
-    const DiagramKey *key = f.window->chartPage()->key();
-    QVERIFY(!f.window->chartPage()->chart()->getLegend()->isVisible());
-    QCOMPARE(key->accessibleDescription(),
-        QStringLiteral("Original, Measured, Target, Standards, Common area, Measured points, CCT points, CMY points"));
-    QVERIFY(key->isVisible() && key->height() >= key->heightForWidth(key->width()));
-    // Each line in the colour that the chart draws it in.
-    QCOMPARE(key->entries().at(0).pen.color(), QColor(13, 189, 73));
-    QCOMPARE(key->entries().at(1).pen.color(), QColor(27, 241, 255));
-    QCOMPARE(key->entries().at(2).pen.color(), QColor(255, 163, 56));
-}
-
-void ViewerWindowTest::switchesHoldForAllPages()
-{
-    WindowFixture f;
-    f.show(f.window->chartPage());
-    QCheckBox *original = f.window->chartPage()->findChildren<QCheckBox *>().first();
-    QTest::keyClick(original, Qt::Key_Space);
-    QVERIFY(!original->isChecked());
-    for (const EditPage *page : {f.window->editPage(), f.window->uvPage()}) {
-        QCheckBox *other = page->findChildren<QCheckBox *>().first();
-        QCOMPARE(other->text(), original->text());
-        QVERIFY(!other->isChecked());
-    }
-}
-
-void ViewerWindowTest::exportsWhatIsShown()
-{
-    WindowFixture f;
-    f.show(f.window->chartPage());
-    const auto axes = [](const QWidget *page) {
-        const QList<QCheckBox *> switches = page->findChildren<QCheckBox *>();
-        return *std::find_if(switches.begin(), switches.end(),
-            [](const QCheckBox *box) { return box->text() == QLatin1String("&Axes"); });
-    };
-    const ChartScene whole = f.window->shownScene();
-    QCOMPARE(whole.triangles.size(), 3);
-    QCOMPARE(whole.key.size(), 8);
-    QTest::keyClick(axes(f.window->chartPage()), Qt::Key_Space);
-    QTest::keyClick(f.window->chartPage()->findChildren<QCheckBox *>().first(), Qt::Key_Space);
-    const ChartScene part = f.window->shownScene();
-    QVERIFY(!part.axes);
-    QCOMPARE(part.triangles.size(), 2);
-    QCOMPARE(part.key.size(), 7);
-    QTemporaryDir folder;
-    const ChartExtent extent{QSize(700, 700), 1.0};
-    QVERIFY(f.window->exportTo(folder.filePath("part.png"), extent));
-    QCOMPARE(QImage(folder.filePath("part.png")).convertToFormat(QImage::Format_RGB32),
-        chartPicture(part, extent).convertToFormat(QImage::Format_RGB32));
-    QVERIFY(chartPicture(part, extent) != chartPicture(whole, extent));
-    // The u', v' page exports its own diagram, and lets it go without wavelengths.
-    QVERIFY(part.diagram == Model::Diagram::Cie1931 && part.wavelengths);
-    f.show(f.window->uvPage());
-    QTest::keyClick(f.window->uvPage()->findChildren<QCheckBox *>().at(6), Qt::Key_Space);
-    const ChartScene uv = f.window->shownScene();
-    QVERIFY(uv.diagram == Model::Diagram::Cie1976 && !uv.wavelengths && uv.planckianLocus);
-    f.show(f.window->comparePage());
-    QVERIFY(f.window->shownScene().wavelengths);
-}
-
-void ViewerWindowTest::editPageExportsColours()
-{
-    WindowFixture f;
-    f.show(f.window->chartPage());
-    const QList<QCheckBox *> switches = f.window->chartPage()->findChildren<QCheckBox *>();
-    const auto common = std::find_if(switches.begin(), switches.end(),
-        [](const QCheckBox *box) { return box->text().contains(QLatin1String("ommon")); });
-    QVERIFY(common != switches.end());
-    QTest::keyClick(*common, Qt::Key_Space);
-    QVERIFY(f.window->shownScene().original.isEmpty());
-    // Its page has no switch that would bring them back.
-    f.show(f.window->editPage());
-    QVERIFY(!f.window->shownScene().original.isEmpty());
-}
-
-void ViewerWindowTest::standardOfTheFileIsShown()
-{
-    WindowFixture f;
-    DisplayDescription description = f.document().description();
-    description.standards = QStringList{description.original};
-    f.window->setDescription(description, QString());
-    f.show(f.window->chartPage());
-    const auto picture = [&] { return f.window->chartPage()->chart()->view()->grab().toImage(); };
-    const QImage with = picture();
-    description.standards.clear();
-    f.window->setDescription(description, QString());
-    QVERIFY(picture() != with);
-}
-
 void ViewerWindowTest::keyboardGoesToThePage()
 {
     WindowFixture f;
-    const QWidget *inside[] = {f.window->chartPage()->chart()->view(), f.window->editPage()->chart()->view(),
-        f.window->uvPage()->chart()->view(), f.window->lensPage()->lens(), f.window->comparePage()->table()};
-    for (int page = 4; page >= 0; --page) {
+    const QWidget *inside[] = {f.window->diagramPage()->view(), f.window->comparePage()->table(),
+        f.window->libraryPage()->currentChart()->view()};
+    for (int page = 2; page >= 0; --page) {
         QTest::keyClick(f.window.get(), Qt::Key(Qt::Key_1 + page), Qt::ControlModifier);
         QCOMPARE(static_cast<const QWidget *>(QApplication::focusWidget()), inside[page]);
     }
@@ -516,99 +393,154 @@ void ViewerWindowTest::keyboardGoesToThePage()
 void ViewerWindowTest::pointerIsReadOut()
 {
     WindowFixture f;
-    f.show(f.window->editPage());
-    ChartPointer pointer(f.window->editPage());
-    pointer.move(QPointF(0.3127, 0.3290), Qt::NoButton);
-    QVERIFY2(f.window->readout()->text().contains(QRegularExpression(QStringLiteral("x 0\\.3[012].* K"))),
-        qPrintable(f.window->readout()->text()));
+    for (DocumentView *view : {f.window->diagramPage()->view(), f.window->diagramPage()->lens()->view()}) {
+        DiagramPointer pointer(view);
+        pointer.move(QPointF(0.3127, 0.3290), Qt::NoButton);
+        const QString text = f.window->readout()->text();
+        QVERIFY2(text.contains(QRegularExpression(QStringLiteral("x 0\\.31.* K"))), qPrintable(text));
+        QVERIFY(f.window->readout()->accessibleName().contains(text));
+        // Within a pixel of where the diagram shows it.
+        const QRegularExpressionMatch read = QRegularExpression(QStringLiteral("x (\\S+)  y (\\S+)")).match(text);
+        QVERIFY(qAbs(read.captured(1).toDouble() - 0.3127) < pointer.pixel() + 1e-4);
+        QVERIFY(qAbs(read.captured(2).toDouble() - 0.3290) < pointer.pixel() + 1e-4);
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(view, &leave);
+        QVERIFY(f.window->readout()->text().isEmpty());
+    }
+    DiagramPointer pointer(f.window->diagramPage()->view());
     pointer.move(QPointF(0.1, 0.8), Qt::NoButton);
+    QVERIFY(!f.window->readout()->text().isEmpty());
     QVERIFY(!f.window->readout()->text().contains(QLatin1String(" K")));
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(f.window->editPage()->chart()->view()->viewport(), &leave);
-    QVERIFY(f.window->readout()->text().isEmpty());
 }
 
-void ViewerWindowTest::pointerIsReadOutWhereMarksAreDrawn_data()
+void ViewerWindowTest::hintsAreThoseOfThePage()
 {
-    QTest::addColumn<int>("page");
-    QTest::addColumn<int>("width");
-    for (const int page : {0, 1, 2}) {
-        for (const int width : {1024, 1500}) {
-            QTest::addRow("page %d, %d wide", page, width) << page << width;
-        }
-    }
-}
-
-void ViewerWindowTest::pointerIsReadOutWhereMarksAreDrawn()
-{
-    QFETCH(int, page);
-    QFETCH(int, width);
     WindowFixture f;
-    f.window->resize(width, width * 3 / 4);
-    const QPointF marked(0.5, 0.4);
-    DisplayDescription description = f.document().description();
-    description.colorTemperaturePoints = {{QString(), marked}};
-    f.window->setDescription(description, QString());
-    f.window->pages()->setCurrentIndex(page);
-    QCoreApplication::processEvents();
-    QWidget *viewport = page == 0 ? f.window->chartPage()->chart()->view()->viewport()
-        : page == 1               ? f.window->editPage()->chart()->view()->viewport()
-                                  : f.window->uvPage()->chart()->view()->viewport();
-    const QImage with = viewport->grab().toImage();
-    description.colorTemperaturePoints = {{QString(), {0.15, 0.65}}}; // far to the left
-    f.window->setDescription(description, QString());
-    QCoreApplication::processEvents();
-    const QImage without = viewport->grab().toImage();
-    QPolygonF drawn;
-    for (int y = 0; y < with.height(); ++y) {
-        for (int x = with.width() * 35 / 100; x < with.width(); ++x) {
-            if (with.pixel(x, y) != without.pixel(x, y)) {
-                drawn.append(QPointF(x, y));
-            }
-        }
-    }
-    QVERIFY(drawn.size() > 20);
-    const QPoint middle = drawn.boundingRect().center().toPoint();
-    const auto readAt = [&](const QPoint &position) {
-        QMouseEvent move(
-            QEvent::MouseMove, position, viewport->mapToGlobal(position), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-        QApplication::sendEvent(viewport, &move);
-        const QRegularExpression numbers(QStringLiteral("x (\\S+)  y (\\S+)"));
-        const QRegularExpressionMatch match = numbers.match(f.window->readout()->text());
-        return QPointF(match.captured(1).toDouble(), match.captured(2).toDouble());
+    const auto says = [&] {
+        const QList<QLabel *> labels = f.window->statusBar()->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+            [](const QLabel *label) { return label->text().contains(QLatin1String("Shift")); });
     };
-    // Within a pixel, by what the readout tells of pixels.
-    constexpr int step = 10;
-    const QPointF read = readAt(middle);
-    const QPointF perX = (readAt(middle + QPoint(step, 0)) - read) / step;
-    const QPointF perY = (readAt(middle + QPoint(0, step)) - read) / step;
-    bool isInvertible = false;
-    const QTransform toPixels = QTransform(perX.x(), perX.y(), perY.x(), perY.y(), 0, 0).inverted(&isInvertible);
-    QVERIFY(isInvertible);
-    const QPointF error = toPixels.map(marked - read);
-    QVERIFY2(qAbs(error.x()) <= 1.0 && qAbs(error.y()) <= 1.0,
-        qPrintable(QStringLiteral("%1, %2 pixels").arg(error.x()).arg(error.y())));
+    QVERIFY(says());
+    f.show(f.window->comparePage());
+    QVERIFY(!says());
 }
 
-void ViewerWindowTest::lensFollowsAndZooms()
+void ViewerWindowTest::mnemonicsAreUnique_data()
+{
+    fitsASmallScreen_data();
+}
+
+void ViewerWindowTest::mnemonicsAreUnique()
+{
+    QFETCH(QLocale, locale);
+    installInterfaceTranslations(locale);
+    WindowFixture f;
+    QStringList found;
+    const auto add = [&found](const QString &text) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (!key.isEmpty()) {
+            found.append(key.toString());
+        }
+    };
+    for (const QAction *action : f.window->menuBar()->actions()) {
+        add(action->text());
+    }
+    for (const QAbstractButton *button : f.window->findChildren<QAbstractButton *>()) {
+        add(button->text());
+    }
+    for (const QTabWidget *tabs : f.window->findChildren<QTabWidget *>()) {
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            add(tabs->tabText(tab));
+        }
+    }
+    QVERIFY(found.size() > 10);
+    QStringList once = found;
+    QVERIFY2(once.removeDuplicates() == 0, qPrintable(found.join(QLatin1Char(' '))));
+    for (const QAction *action : f.window->menuBar()->actions()) {
+        found.clear();
+        for (const QAction *item : action->menu()->actions()) {
+            add(item->text());
+        }
+        once = found;
+        QVERIFY2(once.removeDuplicates() == 0, qPrintable(action->text() + found.join(QLatin1Char(' '))));
+    }
+}
+
+void ViewerWindowTest::tablesAreCopiedWhole()
 {
     WindowFixture f;
-    f.show(f.window->lensPage());
-    LensWidget *lens = f.window->lensPage()->lens();
-    QVERIFY(lens->accessibleDescription().contains(QLatin1String("6504 K")));
-    const QImage before = lens->grab().toImage();
-    f.window->session()->setWhiteTemperature(7000, 0.0);
-    QVERIFY(lens->accessibleDescription().contains(QLatin1String("7000 K, Duv 0.0000")));
-    QVERIFY(lens->grab().toImage() != before);
-    const double reach = lens->reach();
-    lens->setFocus();
-    QTest::keyClick(lens, Qt::Key_Plus);
-    QVERIFY(lens->reach() < reach);
-    QTest::keyClick(lens, Qt::Key_0);
-    QCOMPARE(lens->reach(), reach);
-    // From then on whatever comes is shown.
-    f.window->session()->setWhiteTemperature(3500, 0.0);
-    QVERIFY(lens->reach() > reach);
+    f.show(f.window->comparePage());
+    for (CopyTable *table : {f.window->comparePage()->table(), static_cast<CopyTable *>(f.window->panel()->values()),
+             static_cast<CopyTable *>(f.window->panel()->coverage())}) {
+        QApplication::clipboard()->clear();
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+        const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), table->rowCount() + 1);
+        const int rowHeaders = table == f.window->comparePage()->table();
+        for (const QString &line : lines) {
+            QCOMPARE(line.count(QLatin1Char('\t')), table->columnCount() - 1 + rowHeaders);
+        }
+        QVERIFY(lines.at(0).contains(table->horizontalHeaderItem(table->columnCount() - 1)->text()));
+        QVERIFY(lines.last().endsWith(table->item(table->rowCount() - 1, table->columnCount() - 1)->text()));
+        // And by the menu.
+        QApplication::clipboard()->clear();
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), table->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(table, &event);
+        auto *menu = table->findChild<QMenu *>();
+        QVERIFY(menu);
+        menu->actions().first()->trigger();
+        QCOMPARE(QApplication::clipboard()->text(), table->text());
+        delete menu;
+    }
+}
+
+void ViewerWindowTest::zeroHasNoSign()
+{
+    QCOMPARE(fixedText(-0.00004, 4), QStringLiteral("0.0000"));
+    QCOMPARE(fixedText(-0.4, 0), QStringLiteral("0"));
+    QCOMPARE(fixedText(-0.00006, 4), QStringLiteral("-0.0001"));
+    WindowFixture f;
+    QVERIFY(f.window->session()->setWhiteTemperature(6500, -0.00001));
+    QCOMPARE(f.window->panel()->editor()->duv()->text(), QStringLiteral("0.0000"));
+    const GroupedTable *values = f.window->panel()->values();
+    for (int row = 0; row < values->rowCount(); ++row) {
+        for (int column = 0; column < values->columnCount(); ++column) {
+            QVERIFY(!values->item(row, column) || values->item(row, column)->text() != QLatin1String("-0.0000"));
+        }
+    }
+}
+
+void ViewerWindowTest::libraryChartsShowTheDocument()
+{
+    WindowFixture f;
+    f.show(f.window->libraryPage());
+    auto *current = f.window->libraryPage()->currentChart()->view();
+    auto *legacy = f.window->libraryPage()->legacyChart()->view();
+    const QImage currentBefore = current->grab().toImage();
+    const QImage legacyBefore = legacy->grab().toImage();
+    QVERIFY(f.window->session()->setChromaticity(Vertex::Green, QPointF(0.4, 0.5)));
+    QCoreApplication::processEvents();
+    QVERIFY(current->grab().toImage() != currentBefore);
+    QVERIFY(legacy->grab().toImage() != legacyBefore);
+    // What is moved in a chart is logged, and nothing else.
+    const Model::Targets before = f.document().target()->getTargets();
+    const int lines = f.window->libraryPage()->log()->blockCount();
+    QWidget *viewport = legacy->viewport();
+    const ceiechart::DiagramGeometry geometry = ceiechart::chartGeometry(ceiechart::ChartKind::LegacyXy, 400, 433);
+    const QPoint green = legacy->mapFromScene(geometry.toPixel(QPointF(0.4, 0.5)));
+    QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, green);
+    for (int i = 1; i < 20; ++i) {
+        const QPoint position = green + QPoint(i, i);
+        QMouseEvent move(
+            QEvent::MouseMove, position, viewport->mapToGlobal(position), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &move);
+    }
+    QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, green + QPoint(20, 20));
+    QCoreApplication::processEvents();
+    QVERIFY(f.window->libraryPage()->log()->blockCount() > lines);
+    QVERIFY(sameTargets(f.document().target()->getTargets(), before));
 }
 
 void ViewerWindowTest::undefinedTemperatureIsTold()
@@ -617,9 +549,8 @@ void ViewerWindowTest::undefinedTemperatureIsTold()
     QVERIFY(f.window->session()->setChromaticity(Vertex::White, QPointF(0.22, 0.329)));
     const QString none = QString::fromUtf8("–");
     // Everywhere in the same way: the lens, the table of the panel and that of the comparison.
-    f.show(f.window->lensPage());
-    QVERIFY(
-        f.window->lensPage()->lens()->accessibleDescription().contains(QLatin1String("Target: no colour temperature")));
+    QVERIFY(f.window->diagramPage()->lens()->view()->accessibleDescription().contains(
+        QLatin1String("no colour temperature")));
     f.show(f.window->comparePage());
     const QTableWidget *table = f.window->comparePage()->table();
     const int target = table->columnCount() - 1;
@@ -639,37 +570,6 @@ void ViewerWindowTest::undefinedTemperatureIsTold()
     }
     // The target comes first: its title, red, green, blue and white.
     QCOMPARE(values->item(4, last)->text(), none);
-}
-
-void ViewerWindowTest::lensTrailIsSeen()
-{
-    const QVector<GamutPart> parts{{GamutPart::Role::Target, Model::dciP3D65()}};
-    QVector<QPointF> trail;
-    for (int i = 8; i > 0; --i) {
-        trail.append(QPointF(0.3127 - 0.0006 * i, 0.329));
-    }
-    LensWidget lens;
-    lens.resize(500, 500);
-    lens.setWhites(parts, {});
-    const QImage without = lens.grab().toImage();
-    lens.setWhites(parts, trail);
-    const QImage with = lens.grab().toImage();
-    // The oldest stands farthest to the left.
-    for (int x = 0; x < with.width(); ++x) {
-        int strongest = 0;
-        for (int y = 0; y < with.height(); ++y) {
-            strongest = std::max(strongest, qAbs(qBlue(with.pixel(x, y)) - qBlue(without.pixel(x, y))));
-        }
-        if (strongest > 0 && x + 3 < with.width()) {
-            int middle = 0;
-            for (int y = 0; y < with.height(); ++y) {
-                middle = std::max(middle, qAbs(qBlue(with.pixel(x + 3, y)) - qBlue(without.pixel(x + 3, y))));
-            }
-            QVERIFY2(middle > 170, qPrintable(QString::number(middle)));
-            return;
-        }
-    }
-    QFAIL("there is no trail");
 }
 
 void ViewerWindowTest::comparePageTellsWhatIsLost()
@@ -742,14 +642,15 @@ void ViewerWindowTest::everyFieldHasAName()
 void ViewerWindowTest::everythingIsReachedByTab()
 {
     WindowFixture f;
-    f.show(f.window->editPage());
     QSet<QWidget *> reached;
     for (int i = 0; i < 60; ++i) {
         QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : f.window.get(), Qt::Key_Tab);
         reached.insert(QApplication::focusWidget());
     }
     TargetEditor *editor = f.window->panel()->editor();
-    QVERIFY(reached.contains(f.window->editPage()->chart()->view()));
+    QVERIFY(reached.contains(f.window->diagramPage()->view()));
+    QVERIFY(reached.contains(f.window->diagramPage()->lens()->view()));
+    QVERIFY(reached.contains(f.window->diagramPage()->key()));
     for (const Vertex vertex : allVertices) {
         QVERIFY(reached.contains(editor->firstCoordinate(vertex)));
         QVERIFY(reached.contains(editor->secondCoordinate(vertex)));
@@ -765,7 +666,7 @@ void ViewerWindowTest::speaksChinese()
 {
     installInterfaceTranslations(QLocale(QLocale::Chinese, QLocale::China));
     WindowFixture f;
-    QCOMPARE(f.window->pages()->tabText(1), QString::fromUtf8("编辑目标"));
+    QCOMPARE(f.window->pages()->tabText(1), QString::fromUtf8("比较(&C)"));
     QCOMPARE(f.window->windowTitle(), QString::fromUtf8("LED wall[*] – 色域查看器"));
     change(f);
     const auto says = [&](const char *text) {
@@ -774,8 +675,7 @@ void ViewerWindowTest::speaksChinese()
             [&](const QLabel *label) { return label->text() == QString::fromUtf8(text); });
     };
     QVERIFY(says("DCI-P3(D65)（已修改）"));
-    f.show(f.window->chartPage());
-    QVERIFY(f.window->chartPage()->key()->accessibleDescription().startsWith(QString::fromUtf8("原始")));
+    QVERIFY(f.window->diagramPage()->key()->entry(QString::fromUtf8("公共区域")));
     // What is saved does not depend on the language.
     QCOMPARE(f.document().description().target, QStringLiteral("DCI-P3(D65) (edited)"));
 }

@@ -2,11 +2,12 @@
 #ifndef TESTS_APPS_WINDOWFIXTURE_H
 #define TESTS_APPS_WINDOWFIXTURE_H
 
-#include <gamutviewer/document.h>
-#include <gamutviewer/editpage.h>
-#include <gamutviewer/openfile.h>
-#include <gamutviewer/targetedits.h>
-#include <gamutviewer/viewerwindow.h>
+#include "display/openfile.h"
+#include "drawing/documentview.h"
+#include "editing/document.h"
+#include "editing/targetedits.h"
+#include "window/diagrampage.h"
+#include "window/viewerwindow.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -16,18 +17,6 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
-
-/*! \a description with something in every layer. */
-inline gamutviewer::DisplayDescription withEverything(gamutviewer::DisplayDescription description)
-{
-    Model::ColorGamut declared = *description.gamut(description.original);
-    Model::Targets targets = declared.getTargets();
-    targets.red = Model::Target::fromYxy(200, 0.6, 0.32);
-    description.gamuts.push_back(Model::ColorGamut("declared", targets));
-    description.declared = QStringLiteral("declared");
-    description.measurePoints.append({QStringLiteral("skin"), {0.4, 0.36}});
-    return description;
-}
 
 /*! A window on the sample, with settings of its own. */
 struct WindowFixture {
@@ -92,25 +81,24 @@ private:
     QTimer m_timer;
 };
 
-/*! The pointer on a chart of an edit page. */
-class ChartPointer {
+/*! The pointer on a diagram. */
+class DiagramPointer {
 public:
-    explicit ChartPointer(gamutviewer::EditPage *page)
-        : m_page(page)
-        , m_viewport(page->chart()->view()->viewport())
+    explicit DiagramPointer(gamutviewer::DocumentView *view)
+        : m_view(view)
     {
     }
 
-    void press(const QPointF &xy) { QTest::mousePress(m_viewport, Qt::LeftButton, Qt::NoModifier, at(xy)); }
+    void press(const QPointF &xy) { QTest::mousePress(m_view, Qt::LeftButton, Qt::NoModifier, at(xy)); }
     // QTest::mouseMove() tells of no button held.
     void move(const QPointF &xy, Qt::MouseButtons buttons = Qt::LeftButton)
     {
         const QPoint position = at(xy);
         QMouseEvent event(
-            QEvent::MouseMove, position, m_viewport->mapToGlobal(position), Qt::NoButton, buttons, Qt::NoModifier);
-        QApplication::sendEvent(m_viewport, &event);
+            QEvent::MouseMove, position, m_view->mapToGlobal(position), Qt::NoButton, buttons, Qt::NoModifier);
+        QApplication::sendEvent(m_view, &event);
     }
-    void release(const QPointF &xy) { QTest::mouseRelease(m_viewport, Qt::LeftButton, Qt::NoModifier, at(xy)); }
+    void release(const QPointF &xy) { QTest::mouseRelease(m_view, Qt::LeftButton, Qt::NoModifier, at(xy)); }
     void drag(const QPointF &from, const QPointF &to)
     {
         press(from);
@@ -118,12 +106,13 @@ public:
         move(to);
         release(to);
     }
+    /*! What a pixel is worth, in x, y. */
+    double pixel() const { return 1.0 / m_view->viewport().scale(); }
 
 private:
-    QPoint at(const QPointF &xy) const { return m_page->viewportPosition(xy); }
+    QPoint at(const QPointF &xy) const { return m_view->viewport().toPosition(xy).toPoint(); }
 
-    gamutviewer::EditPage *m_page;
-    QWidget *m_viewport;
+    gamutviewer::DocumentView *m_view;
 };
 
 #endif

@@ -20,44 +20,12 @@
         <translation>大于 %1 KiB</translation>
     </message>
     <message>
-        <source>Declared</source>
-        <translation>声明</translation>
-    </message>
-    <message>
-        <source>Original</source>
-        <translation>原始</translation>
-    </message>
-    <message>
-        <source>Measured</source>
-        <translation>测量</translation>
-    </message>
-    <message>
-        <source>Target</source>
-        <translation>目标</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>red</source>
-        <translation>红</translation>
-    </message>
-    <message>
-        <source>green</source>
-        <translation>绿</translation>
-    </message>
-    <message>
-        <source>blue</source>
-        <translation>蓝</translation>
-    </message>
-    <message>
-        <source>white</source>
-        <translation>白</translation>
     </message>
     <message>
         <source>%1 (edited)</source>
@@ -72,31 +40,149 @@
         <translation>%1 K</translation>
     </message>
     <message>
-        <source>Common area</source>
-        <translation>公共色域</translation>
-    </message>
-    <message>
-        <source>Standards</source>
-        <translation>标准</translation>
-    </message>
-    <message>
-        <source>Measured points</source>
-        <translation>测量点</translation>
-    </message>
-    <message>
-        <source>CCT points</source>
-        <translation>色温点</translation>
-    </message>
-    <message>
-        <source>CMY points</source>
-        <translation>CMY 点</translation>
+        <source>the library&apos;s chart is written as PNG only</source>
+        <translation>库色度图只能写为 PNG</translation>
     </message>
 </context>
 <context>
-    <name>gamutviewer::ChartPage</name>
+    <name>gamutviewer::CommandLine</name>
     <message>
-        <source>Chromaticity diagram, CIE 1931 x, y</source>
-        <translation>CIE 1931 x, y 色度图</translation>
+        <source>Write a picture to &lt;file&gt; without opening a window. The suffix selects PNG, SVG or PDF; without one it is a PNG.</source>
+        <translation>不打开窗口，将图片写入 &lt;file&gt;。扩展名决定 PNG、SVG 或 PDF；没有扩展名时为 PNG。</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Size of the picture in pixels, %1x%2 by default, at most %3 per side. The limit applies to a PNG after multiplication by the device pixel ratio. Without --render, the size of the window.</source>
+        <translation>图片的像素尺寸，默认 %1x%2，每边最多 %3。对于 PNG，该限制适用于乘以设备像素比之后的尺寸。不带 --render 时为窗口的尺寸。</translation>
+    </message>
+    <message>
+        <source>width&gt;x&lt;height</source>
+        <translation>宽&gt;x&lt;高</translation>
+    </message>
+    <message>
+        <source>Device pixel ratio of the written picture, %1 to %2, 1 by default. A PNG has this many times the pixels in each direction. Requires --render.</source>
+        <translation>所写图片的设备像素比，%1 到 %2，默认 1。PNG 在每个方向上的像素数为此倍数。需要 --render。</translation>
+    </message>
+    <message>
+        <source>ratio</source>
+        <translation>比例</translation>
+    </message>
+    <message>
+        <source>What the picture shows: the diagram xy (the default), uv (CIE 1976 u&apos;, v&apos;) or uv1960, or chart, the library&apos;s own chart, as PNG. Requires --render.</source>
+        <translation>图片的内容：色度图 xy（默认）、uv（CIE 1976 u', v'）或 uv1960，或 chart，即库自带的图表，格式为 PNG。需要 --render。</translation>
+    </message>
+    <message>
+        <source>diagram</source>
+        <translation>色度图</translation>
+    </message>
+    <message>
+        <source>Part of the diagram: all (the default), target, or white, the surroundings of the target&apos;s white. Requires --render.</source>
+        <translation>色度图的部分：all（默认）、target（目标）或 white，即目标白点的周围。需要 --render。</translation>
+    </message>
+    <message>
+        <source>part</source>
+        <translation>部分</translation>
+    </message>
+    <message>
+        <source>Layers of the diagram, separated by commas; a - before a name leaves that layer out, and a name can be shortened: all, none, key, %1. Requires --render.</source>
+        <translation>色度图的图层，以逗号分隔；名称前的 - 表示去除该图层，名称可以缩写：all、none、key、%1。需要 --render。</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>Print coverage, colour temperatures and validity without opening a window. The only format is json.</source>
+        <translation>不打开窗口，打印覆盖率、色温和有效性。唯一的格式是 json。</translation>
+    </message>
+    <message>
+        <source>format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Print this help text.</source>
+        <translation>打印此帮助。</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>打印版本。</translation>
+    </message>
+    <message>
+        <source>Shows and edits the colour gamuts of a display on CIE chromaticity diagrams.
+
+Exit status: 0 success, 1 the picture or the report could not be shown or written, 2 invalid arguments or files.
+Each error is one line on standard error.</source>
+        <translation>在 CIE 色度图上显示和编辑显示屏的色域。
+
+退出状态：0 成功，1 图片或报告无法显示或写入，2 参数或文件无效。
+每个错误在标准错误输出上占一行。</translation>
+    </message>
+    <message>
+        <source>Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any number of the others, which are added to it. Without files, a sample is opened.</source>
+        <translation>显示屏描述（JSON）、测量列表（CSV）、ICC 配置文件或 EDID：最多一个描述，其余数量不限，并加入描述中。没有文件时打开示例。</translation>
+    </message>
+    <message>
+        <source>[file...]</source>
+        <translation>[文件...]</translation>
+    </message>
+    <message>
+        <source>--%1 requires --render.</source>
+        <translation>--%1 需要 --render。</translation>
+    </message>
+    <message>
+        <source>--%1 does not apply to --diagram chart.</source>
+        <translation>--%1 不适用于 --diagram chart。</translation>
+    </message>
+    <message>
+        <source>--size requires --render when used with --report.</source>
+        <translation>与 --report 同用时，--size 需要 --render。</translation>
+    </message>
+    <message>
+        <source>An input file name is empty.</source>
+        <translation>某个输入文件名为空。</translation>
+    </message>
+    <message>
+        <source>The file name of --render is empty.</source>
+        <translation>--render 的文件名为空。</translation>
+    </message>
+    <message>
+        <source>Unsupported picture format, expected png, svg or pdf: %1</source>
+        <translation>不支持的图片格式，应为 png、svg 或 pdf：%1</translation>
+    </message>
+    <message>
+        <source>--diagram chart is written as png only: %1</source>
+        <translation>--diagram chart 只能写为 png：%1</translation>
+    </message>
+    <message>
+        <source>The picture would have more than %1 pixels per side.</source>
+        <translation>图片每边将超过 %1 像素。</translation>
+    </message>
+    <message>
+        <source>Invalid size, expected 1x1 to %1x%1: %2</source>
+        <translation>尺寸无效，应为 1x1 到 %1x%1：%2</translation>
+    </message>
+    <message>
+        <source>Invalid device pixel ratio, expected %1 to %2: %3</source>
+        <translation>设备像素比无效，应为 %1 到 %2：%3</translation>
+    </message>
+    <message>
+        <source>Unknown diagram, expected xy, uv, uv1960 or chart: %1</source>
+        <translation>未知的色度图，应为 xy、uv、uv1960 或 chart：%1</translation>
+    </message>
+    <message>
+        <source>Unknown view, expected all, target or white: %1</source>
+        <translation>未知的部分，应为 all、target 或 white：%1</translation>
+    </message>
+    <message>
+        <source>Unknown layer, expected all, none, key, %1: %2</source>
+        <translation>未知的图层，应为 all、none、key、%1：%2</translation>
+    </message>
+    <message>
+        <source>Unsupported report format, expected json: %1</source>
+        <translation>不支持的报告格式，应为 json：%1</translation>
     </message>
 </context>
 <context>
@@ -148,6 +234,29 @@
     <message>
         <source>Part of the original that the target does not use</source>
         <translation>目标未使用的原始色域部分</translation>
+    </message>
+    <message>
+        <source>CIE 1931 x, y diagram</source>
+        <translation>CIE 1931 x, y 色度图</translation>
+    </message>
+    <message>
+        <source>CIE 1976 u′, v′ diagram</source>
+        <translation>CIE 1976 u′, v′ 色度图</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>比较(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::CopyTable</name>
+    <message>
+        <source>&amp;Copy table</source>
+        <translation>复制表格(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;selected cells</source>
+        <translation>复制所选单元格(&amp;S)</translation>
     </message>
 </context>
 <context>
@@ -245,10 +354,77 @@
     </message>
 </context>
 <context>
-    <name>gamutviewer::DiagramKey</name>
+    <name>gamutviewer::DiagramPage</name>
     <message>
-        <source>Key</source>
-        <translation>图例</translation>
+        <source>x, y</source>
+        <translation>x, y</translation>
+    </message>
+    <message>
+        <source>u′, v′</source>
+        <translation>u′, v′</translation>
+    </message>
+    <message>
+        <source>u, v</source>
+        <translation>u, v</translation>
+    </message>
+    <message>
+        <source>CIE 1931 x, y diagram</source>
+        <translation>CIE 1931 x, y 色度图</translation>
+    </message>
+    <message>
+        <source>CIE 1976 u′, v′ diagram</source>
+        <translation>CIE 1976 u′, v′ 色度图</translation>
+    </message>
+    <message>
+        <source>CIE 1960 u, v diagram</source>
+        <translation>CIE 1960 u, v 色度图</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Show all of the diagram</source>
+        <translation>显示整个色度图</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>目标</translation>
+    </message>
+    <message>
+        <source>Show the target</source>
+        <translation>显示目标</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白点</translation>
+    </message>
+    <message>
+        <source>Show the white point closely</source>
+        <translation>放大显示白点</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>放大镜</translation>
+    </message>
+    <message>
+        <source>Enlarge the white point in a corner of the diagram</source>
+        <translation>在色度图一角放大白点</translation>
+    </message>
+    <message>
+        <source>Shift: slow   Ctrl: towards white   Alt: along an axis   Esc: cancel</source>
+        <translation>Shift：慢速   Ctrl：朝向白点   Alt：沿坐标轴   Esc：取消</translation>
+    </message>
+    <message>
+        <source>&amp;Diagram</source>
+        <translation>色度图(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::DocumentView</name>
+    <message>
+        <source>outside by Δu′v′ %1</source>
+        <translation>超出 Δu′v′ %1</translation>
     </message>
 </context>
 <context>
@@ -279,26 +455,7 @@
     </message>
 </context>
 <context>
-    <name>gamutviewer::EditPage</name>
-    <message>
-        <source>Editable diagram, CIE 1931 x, y</source>
-        <translation>可编辑的 CIE 1931 x, y 色度图</translation>
-    </message>
-    <message>
-        <source>Editable diagram, CIE 1976 u′, v′</source>
-        <translation>可编辑的 CIE 1976 u′, v′ 色度图</translation>
-    </message>
-    <message>
-        <source>R, G, B, W select; arrow keys move; Esc cancels a drag</source>
-        <translation>R、G、B、W 选择；方向键移动；Esc 取消拖动</translation>
-    </message>
-</context>
-<context>
     <name>gamutviewer::ExportDialog</name>
-    <message>
-        <source>Export chart</source>
-        <translation>导出色度图</translation>
-    </message>
     <message>
         <source> px</source>
         <translation> 像素</translation>
@@ -324,31 +481,44 @@
         <translation>导出(&amp;E)…</translation>
     </message>
     <message>
-        <source>A PNG will have %1 × %2 pixels.</source>
-        <translation>PNG 将为 %1 × %2 像素。</translation>
-    </message>
-    <message>
         <source>At most %1 pixels per side.</source>
         <translation>每边最多 %1 像素。</translation>
     </message>
-</context>
-<context>
-    <name>gamutviewer::GamutDiagram</name>
     <message>
-        <source>Gamuts on CIE 1931 x, y</source>
-        <translation>CIE 1931 x, y 图上的色域</translation>
+        <source>Export picture</source>
+        <translation>导出图片</translation>
     </message>
     <message>
-        <source>Gamuts on CIE 1976 u′, v′</source>
-        <translation>CIE 1976 u′, v′ 图上的色域</translation>
+        <source>As in the window</source>
+        <translation>与窗口相同</translation>
     </message>
     <message>
-        <source>x, y</source>
-        <translation>x, y</translation>
+        <source>Library chart</source>
+        <translation>库色度图</translation>
     </message>
     <message>
-        <source>u′, v′</source>
-        <translation>u′, v′</translation>
+        <source>&amp;Show:</source>
+        <translation>显示(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>Names in a &amp;key</source>
+        <translation>带名称的图例(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>格式(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Too small for the key, which will be left out.</source>
+        <translation>尺寸太小，放不下图例，将省略图例。</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 像素</translation>
+    </message>
+    <message>
+        <source>Lines and texts as vectors, the colours as one image</source>
+        <translation>线条和文字为矢量，颜色为一幅图像</translation>
     </message>
 </context>
 <context>
@@ -410,152 +580,166 @@
     </message>
 </context>
 <context>
-    <name>gamutviewer::LayerRow</name>
+    <name>gamutviewer::LayerKey</name>
     <message>
-        <source>&amp;Original</source>
-        <translation>原始(&amp;O)</translation>
+        <source>Key: what the diagram shows</source>
+        <translation>图例：色度图显示的内容</translation>
     </message>
     <message>
-        <source>Show the original gamut</source>
-        <translation>显示原始色域</translation>
+        <source>Space switches an entry, Return shows it alone</source>
+        <translation>空格键开关条目，回车键单独显示</translation>
     </message>
     <message>
-        <source>&amp;Measured</source>
-        <translation>测量(&amp;M)</translation>
+        <source>Colours</source>
+        <translation>颜色</translation>
     </message>
     <message>
-        <source>Show the measured gamut</source>
-        <translation>显示测量色域</translation>
+        <source>full</source>
+        <comment>colours of the horseshoe</comment>
+        <translation>全</translation>
     </message>
     <message>
-        <source>&amp;Declared</source>
-        <translation>声明(&amp;D)</translation>
+        <source>dim</source>
+        <comment>colours of the horseshoe</comment>
+        <translation>淡</translation>
     </message>
     <message>
-        <source>Show the gamut that the display declares</source>
-        <translation>显示显示屏声明的色域</translation>
+        <source>off</source>
+        <comment>colours of the horseshoe</comment>
+        <translation>无</translation>
     </message>
     <message>
-        <source>&amp;Target</source>
-        <translation>目标(&amp;T)</translation>
+        <source>Colours: %1</source>
+        <translation>颜色：%1</translation>
     </message>
     <message>
-        <source>Show the target gamut</source>
-        <translation>显示目标色域</translation>
+        <source>%1: %2</source>
+        <comment>role and name of a gamut</comment>
+        <translation>%1：%2</translation>
     </message>
     <message>
-        <source>&amp;Standards</source>
-        <translation>标准(&amp;S)</translation>
+        <source>%1, %2</source>
+        <comment>name of a gamut, and its role</comment>
+        <translation>%1，%2</translation>
     </message>
     <message>
-        <source>Show the standard gamuts</source>
-        <translation>显示标准色域</translation>
+        <source>Gamuts</source>
+        <translation>色域</translation>
     </message>
     <message>
-        <source>&amp;Common area</source>
-        <translation>公共色域(&amp;C)</translation>
+        <source>Standards</source>
+        <translation>标准</translation>
     </message>
     <message>
-        <source>Colour the common area of target and original</source>
-        <translation>为目标与原始色域的公共部分着色</translation>
+        <source>Layers</source>
+        <translation>图层</translation>
     </message>
     <message>
-        <source>&amp;Axes</source>
-        <translation>坐标轴(&amp;A)</translation>
+        <source>Common area</source>
+        <translation>公共区域</translation>
     </message>
     <message>
-        <source>Show axes and grid</source>
-        <translation>显示坐标轴和网格</translation>
+        <source>Given up</source>
+        <translation>放弃的区域</translation>
     </message>
     <message>
-        <source>&amp;Wavelengths</source>
-        <translation>波长(&amp;W)</translation>
+        <source>Planckian locus</source>
+        <translation>黑体轨迹</translation>
     </message>
     <message>
-        <source>Show wavelengths along the spectral locus, in nanometres</source>
-        <translation>显示边缘上的波长（纳米）</translation>
+        <source>Isotherms</source>
+        <translation>等温线</translation>
     </message>
     <message>
-        <source>Planc&amp;kian locus</source>
-        <translation>黑体轨迹(&amp;K)</translation>
+        <source>Wavelengths</source>
+        <translation>波长</translation>
     </message>
     <message>
-        <source>Show the Planckian locus, the chromaticities of black bodies</source>
-        <translation>显示黑体轨迹，即黑体的色度</translation>
+        <source>Measure points</source>
+        <translation>测量点</translation>
     </message>
     <message>
-        <source>Meas&amp;ured points</source>
-        <translation>测量点(&amp;U)</translation>
+        <source>CCT points</source>
+        <translation>色温点</translation>
     </message>
     <message>
-        <source>Show the other measured colours</source>
-        <translation>显示其他测得的颜色</translation>
+        <source>CMY points</source>
+        <translation>CMY 点</translation>
     </message>
     <message>
-        <source>CCT po&amp;ints</source>
-        <translation>色温点(&amp;P)</translation>
+        <source>Tolerance rings</source>
+        <translation>容差圈</translation>
     </message>
     <message>
-        <source>Show the colour-temperature points</source>
-        <translation>显示各色温的点</translation>
+        <source>Trail of the white</source>
+        <translation>白点轨迹</translation>
     </message>
     <message>
-        <source>CM&amp;Y points</source>
-        <translation>CMY 点(&amp;Y)</translation>
+        <source>Names</source>
+        <translation>名称</translation>
     </message>
     <message>
-        <source>Show the cyan, magenta and yellow points</source>
-        <translation>显示青、品红、黄三点</translation>
-    </message>
-</context>
-<context>
-    <name>gamutviewer::LensPage</name>
-    <message>
-        <source>Zoom in (+)</source>
-        <translation>放大 (+)</translation>
+        <source>Axes</source>
+        <translation>坐标轴</translation>
     </message>
     <message>
-        <source>Zoom out (−)</source>
-        <translation>缩小 (−)</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>全部</translation>
-    </message>
-    <message>
-        <source>Show all white points (0)</source>
-        <translation>显示所有白点 (0)</translation>
-    </message>
-    <message>
-        <source>Rings: Δu′v′ 0.001, 0.003, 0.005</source>
-        <translation>圆环：Δu′v′ 0.001、0.003、0.005</translation>
-    </message>
-    <message>
-        <source>Distance from the target&apos;s white point. The dotted line joins its positions before the last edits.</source>
-        <translation>到目标白点的距离。点线连接最近几次修改前白点的各个位置。</translation>
+        <source>Grid</source>
+        <translation>网格</translation>
     </message>
 </context>
 <context>
-    <name>gamutviewer::LensWidget</name>
+    <name>gamutviewer::Lens</name>
     <message>
-        <source>White points, CIE 1976 u′, v′</source>
-        <translation>白点，CIE 1976 u′, v′</translation>
+        <source>White point, enlarged</source>
+        <translation>放大的白点</translation>
     </message>
     <message>
-        <source>%1 K</source>
-        <translation>%1 K</translation>
+        <source>White %1  Duv %2</source>
+        <comment>colour temperature of the white</comment>
+        <translation>白点 %1  Duv %2</translation>
     </message>
     <message>
-        <source>, Δu′v′ %1</source>
-        <translation>，Δu′v′ %1</translation>
+        <source>White: no colour temperature</source>
+        <translation>白点：无色温</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::LibraryPage</name>
+    <message>
+        <source>Current chart, CIE 1931 x, y</source>
+        <translation>当前色度图，CIE 1931 x, y</translation>
     </message>
     <message>
-        <source>%1: %2, Duv %3</source>
-        <translation>%1：%2，Duv %3</translation>
+        <source>Legacy chart, CIE 1931 x, y</source>
+        <translation>旧版色度图，CIE 1931 x, y</translation>
     </message>
     <message>
-        <source>%1: no colour temperature</source>
-        <translation>%1：无相关色温</translation>
+        <source>Current: NewCEIE::CEIEGraphicsView</source>
+        <translation>当前：NewCEIE::CEIEGraphicsView</translation>
+    </message>
+    <message>
+        <source>Legacy: CEIEGraphicsView</source>
+        <translation>旧版：CEIEGraphicsView</translation>
+    </message>
+    <message>
+        <source>Charts of the library</source>
+        <translation>库的色度图</translation>
+    </message>
+    <message>
+        <source>The charts show the document. What is moved in them is logged, and leaves it as it is.</source>
+        <translation>这里的色度图显示文档的内容。在其中移动的点只写入日志，文档不变。</translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>Legacy</source>
+        <translation>旧版</translation>
+    </message>
+    <message>
+        <source>Library char&amp;ts</source>
+        <translation>库色度图(&amp;T)</translation>
     </message>
 </context>
 <context>
@@ -658,10 +842,6 @@
 <context>
     <name>gamutviewer::SidePanel</name>
     <message>
-        <source>Validity of the target</source>
-        <translation>目标是否有效</translation>
-    </message>
-    <message>
         <source>Y</source>
         <translation>Y</translation>
     </message>
@@ -722,29 +902,12 @@
         <translation>覆盖：该色域包含的标准色域面积的比例。面积比：该色域面积与标准色域面积之比。</translation>
     </message>
     <message>
-        <source>&amp;Values</source>
-        <translation>数值(&amp;V)</translation>
-    </message>
-    <message>
         <source>Covera&amp;ge</source>
         <translation>覆盖率(&amp;G)</translation>
     </message>
     <message>
-        <source>Si&amp;gnals</source>
-        <translation>信号(&amp;I)</translation>
-    </message>
-    <message>
-        <source>✓ The display can show the target.</source>
-        <translation>✓ 显示屏可以显示目标色域。</translation>
-    </message>
-    <message>
-        <source>✗ Outside the original: %1</source>
-        <translation>✗ 超出原始色域：%1</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between names of colours</comment>
-        <translation>、</translation>
+        <source>V&amp;alues</source>
+        <translation>数值(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -775,10 +938,6 @@
     <message>
         <source>Replace the target with a standard or with a gamut of this display</source>
         <translation>用标准色域或本显示屏的色域替换目标</translation>
-    </message>
-    <message>
-        <source>&amp;Hold white</source>
-        <translation>保持白点(&amp;H)</translation>
     </message>
     <message>
         <source>Moving a primary leaves the white point where it is</source>
@@ -880,28 +1039,16 @@
         <source>Not applied: %1</source>
         <translation>未采用：%1</translation>
     </message>
+    <message>
+        <source>Hold &amp;white</source>
+        <translation>保持白点(&amp;W)</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::TargetSession</name>
     <message>
         <source>There is no target to edit.</source>
         <translation>没有可编辑的目标。</translation>
-    </message>
-    <message>
-        <source>The white point is held.</source>
-        <translation>白点已保持。</translation>
-    </message>
-    <message>
-        <source>The primaries are locked.</source>
-        <translation>基色已锁定。</translation>
-    </message>
-    <message>
-        <source>Not a valid chromaticity: x must be at least 0, y greater than 0 and x + y at most 1.</source>
-        <translation>不是有效色度：x 不得小于 0，y 必须大于 0，x + y 不得大于 1。</translation>
-    </message>
-    <message>
-        <source>The white point would lie outside the target.</source>
-        <translation>白点将落在目标色域之外。</translation>
     </message>
     <message>
         <source>move %1</source>
@@ -924,8 +1071,56 @@
         <translation>重置为 %1</translation>
     </message>
     <message>
-        <source>The primaries would not form a triangle.</source>
-        <translation>三基色将不能构成三角形。</translation>
+        <source>fit to the display</source>
+        <translation>移入显示屏色域</translation>
+    </message>
+    <message>
+        <source>The white would lie outside of the target.</source>
+        <translation>白点将位于目标之外。</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::Verdict</name>
+    <message>
+        <source>&amp;Move inside the original</source>
+        <translation>移入原始色域(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Moves each primary that lies outside to the nearest colour that the display can show</source>
+        <translation>把位于外面的每个基色移到显示屏能显示的最近的颜色</translation>
+    </message>
+    <message>
+        <source>Nothing to compare</source>
+        <translation>无可比较</translation>
+    </message>
+    <message>
+        <source>There is no target.</source>
+        <translation>没有目标。</translation>
+    </message>
+    <message>
+        <source>What the display can show is not known.</source>
+        <translation>不知道显示屏能显示什么。</translation>
+    </message>
+    <message>
+        <source>✗ The display cannot show the target</source>
+        <translation>✗ 显示屏无法显示目标</translation>
+    </message>
+    <message>
+        <source>✓ The display can show the target</source>
+        <translation>✓ 显示屏可以显示目标</translation>
+    </message>
+    <message>
+        <source>Outside by Δu′v′: %1</source>
+        <translation>超出 Δu′v′：%1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between names of colours</comment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>All primaries lie inside the original.</source>
+        <translation>所有基色都在原始色域之内。</translation>
     </message>
 </context>
 <context>
@@ -951,10 +1146,6 @@
         <translation>另存为(&amp;A)…</translation>
     </message>
     <message>
-        <source>&amp;Export chart…</source>
-        <translation>导出色度图(&amp;E)…</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>退出(&amp;Q)</translation>
     </message>
@@ -976,20 +1167,12 @@
         <translation>重做(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Hold white</source>
-        <translation>保持白点(&amp;H)</translation>
-    </message>
-    <message>
         <source>&amp;Lock primaries</source>
         <translation>锁定基色(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Snap</source>
         <translation>吸附(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Copy chart</source>
-        <translation>复制色度图(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -1028,14 +1211,6 @@
         <translation>显示屏描述 (*.json)</translation>
     </message>
     <message>
-        <source>Export chart</source>
-        <translation>导出色度图</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.svg *.pdf)</source>
-        <translation>图片 (*.png *.svg *.pdf)</translation>
-    </message>
-    <message>
         <source>None</source>
         <translation>无</translation>
     </message>
@@ -1046,36 +1221,6 @@
     <message>
         <source>Keys</source>
         <translation>按键</translation>
-    </message>
-    <message>
-        <source>Editable diagrams:
-R, G, B, W – select a primary or the white
-Arrow keys – move it by 0.001; with Shift by 0.0001, with Ctrl by 0.01
-Esc – cancel a drag
-
-Numbers:
-Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps
-Esc – restore the value of the target
-
-White point:
-+, − or the wheel – zoom in or out
-0 – show all white points
-
-Ctrl+1 to Ctrl+5 – show a page</source>
-        <translation>可编辑的色度图：
-R、G、B、W – 选择基色或白点
-方向键 – 移动 0.001；按住 Shift 为 0.0001，按住 Ctrl 为 0.01
-Esc – 取消拖动
-
-数值：
-上、下 – 一步；按住 Shift 为十分之一步，按住 Ctrl 为十步
-Esc – 恢复目标的数值
-
-白点：
-+、− 或滚轮 – 放大、缩小
-0 – 显示所有白点
-
-Ctrl+1 到 Ctrl+5 – 切换页面</translation>
     </message>
     <message>
         <source>About the gamut viewer</source>
@@ -1092,26 +1237,6 @@ Shows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.<
     <message>
         <source>Chromaticity under the pointer</source>
         <translation>指针处的色度</translation>
-    </message>
-    <message>
-        <source>Chart</source>
-        <translation>色度图</translation>
-    </message>
-    <message>
-        <source>Edit target</source>
-        <translation>编辑目标</translation>
-    </message>
-    <message>
-        <source>u′v′</source>
-        <translation>u′v′</translation>
-    </message>
-    <message>
-        <source>White point</source>
-        <translation>白点</translation>
-    </message>
-    <message>
-        <source>Compare</source>
-        <translation>比较</translation>
     </message>
     <message>
         <source>add %1</source>
@@ -1132,10 +1257,6 @@ Shows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.<
     <message>
         <source>Exported to %1</source>
         <translation>已导出到 %1</translation>
-    </message>
-    <message>
-        <source>The chart has been copied to the clipboard.</source>
-        <translation>色度图已复制到剪贴板。</translation>
     </message>
     <message>
         <source>Unsaved changes</source>
@@ -1166,12 +1287,100 @@ Shows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.<
         <comment>with the temperature</comment>
         <translation>   %1  Duv %2</translation>
     </message>
+    <message>
+        <source>&amp;Export picture…</source>
+        <translation>导出图片(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Hold &amp;white</source>
+        <translation>保持白点(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy picture</source>
+        <translation>复制图片(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Export picture</source>
+        <translation>导出图片</translation>
+    </message>
+    <message>
+        <source>Pictures (*.%1)</source>
+        <translation>图片 (*.%1)</translation>
+    </message>
+    <message>
+        <source>Diagram:
+Wheel, + and − – zoom about the pointer; 0 – all of it
+Drag on free ground, middle button, Alt+arrows – move the view
+R, G, B, W or Tab – select a primary or the white
+Drag or arrow keys – move it; with Shift a tenth as far
+Ctrl – towards the white; the white at its colour temperature
+Alt – along an axis; Ctrl+Alt – without snapping
+Esc – cancel a drag
+
+Key:
+Click or Space – show or hide an entry
+Double click or Return – show it alone
+
+Numbers:
+Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps
+Esc – restore the value of the target
+
+Tables:
+Ctrl+C – copy all of the table
+
+Ctrl+1 to Ctrl+3 – show a page</source>
+        <translation>色度图：
+滚轮、+ 和 − – 以指针为中心缩放；0 – 全部
+在空白处拖动、鼠标中键、Alt+方向键 – 平移
+R、G、B、W 或 Tab – 选择基色或白点
+拖动或方向键 – 移动；按住 Shift 为十分之一
+Ctrl – 朝向白点；白点保持其色温
+Alt – 沿坐标轴；Ctrl+Alt – 不吸附
+Esc – 取消拖动
+
+图例：
+单击或空格键 – 显示或隐藏条目
+双击或回车键 – 单独显示
+
+数值：
+上、下方向键 – 一步；按住 Shift 为十分之一步，按住 Ctrl 为十步
+Esc – 恢复目标的数值
+
+表格：
+Ctrl+C – 复制整个表格
+
+Ctrl+1 到 Ctrl+3 – 显示页面</translation>
+    </message>
+    <message>
+        <source>Exported to %1, without a key for lack of room</source>
+        <translation>已导出到 %1，因空间不足没有图例</translation>
+    </message>
+    <message>
+        <source>The picture has been copied to the clipboard.</source>
+        <translation>图片已复制到剪贴板。</translation>
+    </message>
+    <message>
+        <source>Chromaticity under the pointer: %1</source>
+        <translation>指针处的色度：%1</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>%1: cannot be written: %2</source>
         <translation>%1：无法写入：%2</translation>
+    </message>
+    <message>
+        <source>%1: has no room for the key</source>
+        <translation>%1：没有放置图例的空间</translation>
+    </message>
+    <message>
+        <source>the report cannot be written to standard output</source>
+        <translation>无法将报告写入标准输出</translation>
+    </message>
+    <message>
+        <source>no display is available; use --render to write a picture or --report to print a report</source>
+        <translation>没有可用的显示；请用 --render 写入图片，或用 --report 打印报告</translation>
     </message>
 </context>
 </TS>

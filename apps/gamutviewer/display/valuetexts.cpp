@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "display/valuetexts.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace gamutviewer {
+
+QString fixedText(double value, int decimals)
+{
+    QString text = QString::number(value, 'f', decimals);
+    const bool isZero = !text.contains(QRegularExpression(QStringLiteral("[1-9a-z]")));
+    if (isZero && text.startsWith(QLatin1Char('-'))) {
+        text.remove(0, 1);
+    }
+    return text;
+}
+
+QString temperatureText(const ceiechart::ColorTemperature &temperature)
+{
+    return QCoreApplication::translate("gamutviewer", "%1 K").arg(fixedText(temperature.kelvin, 0));
+}
+
+QString duvText(const ceiechart::ColorTemperature &temperature)
+{
+    return fixedText(temperature.duv, 4);
+}
+
+QString undefinedText()
+{
+    return QStringLiteral("–");
+}
+
+QString percent(double value)
+{
+    return QCoreApplication::translate("gamutviewer", "%1 %").arg(fixedText(value * 100.0, 1));
+}
+
+QString luminanceText(double luminance)
+{
+    return fixedText(luminance, std::fabs(luminance) < 10.0 ? 4 : 1);
+}
+
+} // namespace gamutviewer

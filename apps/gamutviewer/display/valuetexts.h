@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_VALUETEXTS_H
+#define GAMUTVIEWER_VALUETEXTS_H
+
+#include <ceiechart/diagram/whitepoint.h>
+
+#include <QString>
+
+/*!
+ * \file
+ * \brief How the interface shows values: the same in panel, tables, status bar and pictures.
+ */
+namespace gamutviewer {
+
+/*! \brief \a value with \a decimals, and without a sign where all digits that are shown are 0. */
+QString fixedText(double value, int decimals);
+
+/*! \brief "6504 K". */
+QString temperatureText(const ceiechart::ColorTemperature &temperature);
+/*! \brief "0.0032". */
+QString duvText(const ceiechart::ColorTemperature &temperature);
+/*! \brief What is shown in the place of a value that is not defined. */
+QString undefinedText();
+
+/*! \brief \a value as a percentage with one decimal. */
+QString percent(double value);
+
+/*! \brief \a luminance with the decimals that a relative (a white of 1) or an absolute one needs. */
+QString luminanceText(double luminance);
+
+} // namespace gamutviewer
+
+#endif

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "drawing/documentcontent.h"
+
+#include "display/messages.h"
+#include "editing/targetsession.h"
+
+namespace gamutviewer {
+
+namespace {
+
+QVector<ceiechart::DiagramMark> marks(const QVector<NamedPoint> &points)
+{
+    QVector<ceiechart::DiagramMark> found;
+    for (const NamedPoint &point : points) {
+        found.append({point.xy, oneLine(point.name)});
+    }
+    return found;
+}
+
+} // namespace
+
+ceiechart::DiagramContent documentContent(const DisplayDescription &description)
+{
+    using ceiechart::GamutRole;
+    ceiechart::DiagramContent content;
+    const auto add = [&](GamutRole role, const QString &name) {
+        if (const auto gamut = description.gamut(name)) {
+            content.gamuts.append(
+                {Model::ColorGamut(oneLine(shownGamutName(name)).toStdString(), gamut->getTargets()), role});
+        }
+    };
+    add(GamutRole::Target, description.target);
+    add(GamutRole::Original, description.original);
+    add(GamutRole::Measured, description.measured);
+    add(GamutRole::Declared, description.declared);
+    for (const QString &name : description.standards) {
+        add(GamutRole::Standard, name);
+    }
+    content.measurePoints = marks(description.measurePoints);
+    content.colorTemperaturePoints = marks(description.colorTemperaturePoints);
+    content.cmyPoints = marks(description.cmyPoints);
+    if (const ceiechart::DiagramGamut *target = content.find(GamutRole::Target)) {
+        const Model::Target &white = target->gamut.getTargets().white;
+        content.rings.append({QPointF(white.x, white.y)});
+    }
+    return content;
+}
+
+} // namespace gamutviewer

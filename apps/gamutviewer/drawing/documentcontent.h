@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_DOCUMENTCONTENT_H
+#define GAMUTVIEWER_DOCUMENTCONTENT_H
+
+#include "display/displaydescription.h"
+
+#include <ceiechart/diagram/diagramcontent.h>
+
+namespace gamutviewer {
+
+/*!
+ * \brief What a diagram shows of \a description: its gamuts in their parts, its points, and tolerances round the
+ * target's white. All layers are on, and there is no trail.
+ *
+ * Gamuts have the names that the interface shows. A part that no gamut plays is left out.
+ */
+ceiechart::DiagramContent documentContent(const DisplayDescription &description);
+
+} // namespace gamutviewer
+
+#endif

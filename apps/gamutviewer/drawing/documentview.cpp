@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "drawing/documentview.h"
+
+#include "display/valuetexts.h"
+#include "drawing/layerswitches.h"
+#include "editing/document.h"
+#include "editing/targetsession.h"
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr int chromaticityDigits = 4; // as the panel and files show them
+
+} // namespace
+
+DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches, QWidget *parent)
+    : DiagramView(parent)
+    , m_session(session)
+    , m_switches(switches)
+{
+    setDigits(chromaticityDigits);
+    setReadoutShown(false); // the window has it for all views
+    connect(this, &DiagramView::editingStarted, this,
+        [this] { m_session->beginDrag(selectedVertex().value_or(m_session->selected())); });
+    connect(this, &DiagramView::targetEdited, this,
+        [this](const Model::ColorGamut &gamut) { m_session->dragTo(gamut.getTargets()); });
+    connect(this, &DiagramView::editingCanceled, m_session, &TargetSession::cancelDrag);
+    connect(this, &DiagramView::editingFinished, m_session, &TargetSession::endDrag);
+    // What came with the drag, such as the name of an edited target, is shown from then on.
+    connect(this, &DiagramView::editingFinished, this, &DocumentView::refresh);
+    connect(this, &DiagramView::editRefused, m_session, &TargetSession::refuse);
+    connect(this, &DiagramView::selectedVertexChanged, this, [this] {
+        if (const auto vertex = selectedVertex()) {
+            m_session->select(*vertex);
+        }
+    });
+    connect(session, &TargetSession::selectionChanged, this, [this] {
+        if (!isReadOnly()) {
+            setSelectedVertex(m_session->selected());
+        }
+    });
+    connect(session, &TargetSession::rulesChanged, this, &DocumentView::applyRules);
+    connect(session, &TargetSession::dragCanceled, this, &DiagramView::cancelEditing);
+    applyRules();
+}
+
+void DocumentView::applyRules()
+{
+    setRules(m_session->rules());
+}
+
+void DocumentView::note()
+{
+    const double outside = m_session->distanceOutside(m_session->selected());
+    const bool isOutside = m_session->selected() != ceiechart::GamutVertex::White && outside > 0.0;
+    setEditNote(isOutside ? tr("outside by Δu′v′ %1").arg(fixedText(outside, 4)) : QString());
+}
+
+void DocumentView::refresh()
+{
+    const Document *document = m_session->document();
+    note();
+    if (isEditing()) {
+        const auto shown = gamut(ceiechart::GamutRole::Target);
+        const auto target = document->target();
+        if (shown && target && !ceiechart::sameTargets(shown->getTargets(), target->getTargets())) {
+            setTarget(*target);
+        }
+        return;
+    }
+    ceiechart::DiagramContent content = m_switches->content(document->description());
+    content.trail = document->whiteTrail();
+    setContent(content);
+    if (!isReadOnly()) {
+        setSelectedVertex(m_session->selected());
+    }
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "drawing/layerswitches.h"
+
+#include "drawing/documentcontent.h"
+
+namespace gamutviewer {
+
+void LayerSwitches::setState(const State &state)
+{
+    m_state = state;
+    Q_EMIT changed();
+}
+
+void LayerSwitches::setShown(ceiechart::DiagramLayer layer, bool shown)
+{
+    if (isShown(layer) != shown) {
+        m_state.layers.setFlag(layer, shown);
+        Q_EMIT changed();
+    }
+}
+
+void LayerSwitches::setColors(ceiechart::HorseshoeColors colors)
+{
+    if (m_state.colors != colors) {
+        m_state.colors = colors;
+        Q_EMIT changed();
+    }
+}
+
+bool LayerSwitches::isStandardShown(const QString &gamutName, const DisplayDescription &description) const
+{
+    return isShown(ceiechart::DiagramLayer::Standards)
+        && m_state.standards.value(gamutName, description.standards.contains(gamutName));
+}
+
+void LayerSwitches::setStandardShown(const QString &gamutName, bool shown)
+{
+    m_state.standards.insert(gamutName, shown);
+    Q_EMIT changed();
+}
+
+void LayerSwitches::forgetStandards()
+{
+    m_state.standards.clear();
+    Q_EMIT changed();
+}
+
+ceiechart::DiagramContent LayerSwitches::content(const DisplayDescription &description) const
+{
+    DisplayDescription shown = description;
+    shown.standards.clear();
+    for (const Model::ColorGamut &standard : description.allStandards()) {
+        const QString name = QString::fromStdString(standard.colorGamutName());
+        if (isStandardShown(name, description)) {
+            shown.standards.append(name);
+        }
+    }
+    ceiechart::DiagramContent content = documentContent(shown);
+    content.layers = m_state.layers;
+    content.colors = m_state.colors;
+    return content;
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_LAYERSWITCHES_H
+#define GAMUTVIEWER_LAYERSWITCHES_H
+
+#include "display/displaydescription.h"
+
+#include <ceiechart/diagram/diagramcontent.h>
+
+#include <QHash>
+#include <QObject>
+
+namespace gamutviewer {
+
+/*! \brief What of a description diagrams show: layers, standards and how the horseshoe is coloured. */
+class LayerSwitches : public QObject {
+    Q_OBJECT
+
+public:
+    /*! \brief What the switches say, as one value. */
+    struct State {
+        ceiechart::ShownLayers layers = ceiechart::allDiagramLayers;
+        ceiechart::HorseshoeColors colors = ceiechart::HorseshoeColors::Dimmed;
+        //! Of standards that were switched by hand; the others are shown when the description names them.
+        QHash<QString, bool> standards;
+    };
+
+    using QObject::QObject;
+
+    const State &state() const { return m_state; }
+    void setState(const State &state);
+
+    bool isShown(ceiechart::DiagramLayer layer) const { return m_state.layers.testFlag(layer); }
+    void setShown(ceiechart::DiagramLayer layer, bool shown);
+    void setColors(ceiechart::HorseshoeColors colors);
+    bool isStandardShown(const QString &gamutName, const DisplayDescription &description) const;
+    void setStandardShown(const QString &gamutName, bool shown);
+    /*! \brief Shows the standards that the description names, as for another description. */
+    void forgetStandards();
+
+    /*! \brief What a diagram shows of \a description. */
+    ceiechart::DiagramContent content(const DisplayDescription &description) const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    State m_state;
+};
+
+} // namespace gamutviewer
+
+#endif

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "drawing/picture.h"
+
+#include "display/filebytes.h"
+#include "display/messages.h"
+#include "drawing/librarychart.h"
+#include "drawing/picturekey.h"
+
+#include <ceiechart/diagram/diagrampainter.h>
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr int dotsPerInch = 96;
+constexpr int dotsPerMeter = 3780; // the same
+constexpr double pointsPerDot = 72.0 / dotsPerInch;
+constexpr int leastSideWithTexts = 200;
+
+//! The content without the texts, which would cover a small diagram and leave no room for it.
+ceiechart::DiagramContent contentOn(const QSize &size, ceiechart::DiagramContent content)
+{
+    using ceiechart::DiagramLayer;
+    if (std::min(size.width(), size.height()) < leastSideWithTexts) {
+        content.layers
+            &= ~(DiagramLayer::Axes | DiagramLayer::Wavelengths | DiagramLayer::Isotherms | DiagramLayer::Names);
+    }
+    return content;
+}
+
+//! Paints the diagram and its key; the painter's units are pixels of 1/96 inch.
+void paintDiagram(QPainter &painter, const Picture &picture, const QSize &size)
+{
+    const ceiechart::DiagramContent content = contentOn(size, picture.content);
+    PictureLayout layout;
+    layout.diagram = QRectF(QPointF(), size);
+    if (picture.hasKey) {
+        layout = layOutPicture(content, picture.view, size);
+    }
+    ceiechart::DiagramPainter diagram;
+    diagram.setContent(content);
+    diagram.setViewport(picture.view);
+    painter.fillRect(QRectF(QPointF(), size), ceiechart::diagramPalette(content.ground).ground);
+    diagram.paint(&painter, layout.diagram);
+    layout.key.paint(&painter, layout.keyPlace);
+}
+
+bool writePng(const Picture &picture, const PictureExtent &extent, QIODevice &device)
+{
+    return pixelsOf(picture, extent).save(&device, "PNG");
+}
+
+bool writeSvg(const Picture &picture, const QString &title, const QSize &size, QIODevice &device)
+{
+    QSvgGenerator generator;
+    generator.setOutputDevice(&device);
+    generator.setResolution(dotsPerInch);
+    generator.setSize(size);
+    generator.setViewBox(QRect(QPoint(), size));
+    generator.setTitle(oneLine(title).toHtmlEscaped()); // which the generator takes for XML as it is
+    QPainter painter;
+    if (!painter.begin(&generator)) {
+        return false;
+    }
+    paintDiagram(painter, picture, size);
+    return painter.end();
+}
+
+bool writePdf(const Picture &picture, const QString &title, const QSize &size, QIODevice &device)
+{
+    QPdfWriter writer(&device);
+    writer.setTitle(title);
+    writer.setResolution(dotsPerInch);
+    const QPageSize page(QSizeF(size) * pointsPerDot, QPageSize::Point, QString(), QPageSize::ExactMatch);
+    writer.setPageLayout(QPageLayout(page, QPageLayout::Portrait, QMarginsF()));
+    QPainter painter;
+    if (!painter.begin(&writer)) {
+        return false;
+    }
+    paintDiagram(painter, picture, size);
+    return painter.end();
+}
+
+} // namespace
+
+QString pictureSuffix(PictureFormat format)
+{
+    switch (format) {
+    case PictureFormat::Png:
+        break;
+    case PictureFormat::Svg:
+        return QStringLiteral("svg");
+    case PictureFormat::Pdf:
+        return QStringLiteral("pdf");
+    }
+    return QStringLiteral("png");
+}
+
+std::optional<PictureFormat> pictureFormat(const QString &fileName)
+{
+    const QString suffix = QFileInfo(fileName).suffix().toLower();
+    for (const PictureFormat format : {PictureFormat::Png, PictureFormat::Svg, PictureFormat::Pdf}) {
+        if (suffix == pictureSuffix(format)) {
+            return format;
+        }
+    }
+    return std::nullopt;
+}
+
+bool lacksRoomForKey(const Picture &picture, const QSize &size)
+{
+    return picture.hasKey && !picture.isLibraryChart && !PictureKey(picture.content, 1).isEmpty()
+        && layOutPicture(contentOn(size, picture.content), picture.view, size).key.isEmpty();
+}
+
+QImage pixelsOf(const Picture &picture, const PictureExtent &extent)
+{
+    const qreal ratio = extent.devicePixelRatio;
+    const QSizeF exact = QSizeF(extent.size) * ratio;
+    const auto isSide = [](qreal side) { return side >= 0.5 && side < maximumPictureSide + 0.5; };
+    if (extent.size.isEmpty() || !isSide(exact.width()) || !isSide(exact.height())) {
+        return {};
+    }
+    if (picture.isLibraryChart) {
+        return libraryChart(picture.content, extent.size);
+    }
+    QImage image(QSize(qRound(exact.width()), qRound(exact.height())), QImage::Format_RGB32);
+    if (image.isNull()) {
+        return image;
+    }
+    // The same on every screen.
+    image.setDotsPerMeterX(dotsPerMeter);
+    image.setDotsPerMeterY(dotsPerMeter);
+    QPainter painter(&image);
+    painter.scale(image.width() / qreal(extent.size.width()), image.height() / qreal(extent.size.height()));
+    paintDiagram(painter, picture, extent.size);
+    painter.end();
+    image.setDevicePixelRatio(ratio);
+    return image;
+}
+
+QString exportPicture(const Picture &picture, const QString &title, const PictureExtent &extent, PictureFormat format,
+    const QString &fileName)
+{
+    if (picture.isLibraryChart && format != PictureFormat::Png) {
+        return QCoreApplication::translate("gamutviewer", "the library's chart is written as PNG only");
+    }
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    bool done = false;
+    switch (format) {
+    case PictureFormat::Png:
+        done = writePng(picture, extent, buffer);
+        break;
+    case PictureFormat::Svg:
+        done = writeSvg(picture, title, extent.size, buffer);
+        break;
+    case PictureFormat::Pdf:
+        done = writePdf(picture, title, extent.size, buffer);
+        break;
+    }
+    if (!done) {
+        return QCoreApplication::translate("gamutviewer", "the picture cannot be encoded");
+    }
+    return writeBytes(bytes, fileName);
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: MIT
+#include "drawing/picturekey.h"
+
+#include <ceiechart/diagram/diagrampainter.h>
+
+#include <QFontMetricsF>
+#include <QImage>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <vector>
+
+namespace gamutviewer {
+
+namespace {
+
+using ceiechart::DiagramContent;
+using ceiechart::DiagramLayer;
+using ceiechart::DiagramPainter;
+using ceiechart::DiagramViewport;
+using ceiechart::GamutRole;
+
+// Pixels of 1/96 inch
+constexpr int letterSizes[] = {13, 11, 9};
+constexpr double lineLength = 32.0;
+constexpr double gap = 8.0; // between columns, and between the key and what is round it
+constexpr double longestName = 22.0; // in heights of a letter
+constexpr double mostMaskSide = 1000.0;
+constexpr int placeStep = 2;
+constexpr double leastShare = 0.75; // of the diagram's scale, which a key beside it must leave
+constexpr int dotsPerMeter = 3780; // 96 dpi
+
+constexpr GamutRole order[]
+    = {GamutRole::Target, GamutRole::Original, GamutRole::Measured, GamutRole::Declared, GamutRole::Standard};
+
+//! Where a diagram leaves its ground free.
+class FreeGround {
+public:
+    FreeGround(const DiagramContent &content, const DiagramViewport &view, const QSizeF &size)
+        : m_scale(std::min(1.0, mostMaskSide / std::max(size.width(), size.height())))
+        , m_width(std::max(1, int(size.width() * m_scale)))
+        , m_height(std::max(1, int(size.height() * m_scale)))
+        , m_sums(std::size_t(m_width + 1) * std::size_t(m_height + 1), 0)
+    {
+        // The grid may be covered, the horseshoe not even where it has no colours.
+        DiagramContent covering = content;
+        covering.layers.setFlag(DiagramLayer::Grid, false);
+        covering.layers.setFlag(DiagramLayer::Colors);
+        covering.colors = ceiechart::HorseshoeColors::Full;
+        DiagramPainter diagram;
+        diagram.setContent(covering);
+        diagram.setViewport(view);
+        QImage image(m_width, m_height, QImage::Format_RGB32);
+        if (image.isNull()) {
+            return;
+        }
+        image.setDotsPerMeterX(dotsPerMeter);
+        image.setDotsPerMeterY(dotsPerMeter);
+        QPainter painter(&image);
+        painter.scale(m_scale, m_scale);
+        diagram.paint(&painter, QRectF(QPointF(), size));
+        const QMarginsF margins = diagram.margins(&image);
+        painter.end();
+
+        m_plot = QRectF(QPointF(), size).marginsRemoved(margins);
+        const QRgb ground = ceiechart::diagramPalette(content.ground).ground.rgb();
+        for (int y = 0; y < m_height; ++y) {
+            const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+            for (int x = 0; x < m_width; ++x) {
+                m_sums[at(x + 1, y + 1)]
+                    = m_sums[at(x, y + 1)] + m_sums[at(x + 1, y)] - m_sums[at(x, y)] + (line[x] != ground);
+            }
+        }
+    }
+
+    //! The place of \a size nearest to a corner of the plot, the upper right one first of all.
+    std::optional<QPointF> place(const QSizeF &size) const
+    {
+        const QRectF room = m_plot.adjusted(gap, gap, -gap, -gap);
+        const double right = room.right() - size.width();
+        const double bottom = room.bottom() - size.height();
+        std::optional<QPointF> best;
+        double least = HUGE_VAL;
+        const double step = placeStep / m_scale;
+        for (double fromBottom = 0.0; bottom - fromBottom >= room.top(); fromBottom += step) {
+            for (double fromRight = 0.0; right - fromRight >= room.left(); fromRight += step) {
+                const QPointF corner(right - fromRight, bottom - fromBottom);
+                const double fromTop = corner.y() - room.top();
+                const double fromLeft = corner.x() - room.left();
+                const double distance = 2.0 * std::min(fromRight, fromLeft) + (fromLeft < fromRight ? 2.0 * gap : 0.0)
+                    + std::min(fromTop, fromBottom) + (fromBottom < fromTop ? gap : 0.0);
+                if (distance < least && isFree(QRectF(corner, size).adjusted(-gap, -gap, gap, gap))) {
+                    least = distance;
+                    best = corner;
+                }
+            }
+        }
+        return best;
+    }
+
+private:
+    std::size_t at(int x, int y) const { return std::size_t(y) * std::size_t(m_width + 1) + std::size_t(x); }
+
+    bool isFree(const QRectF &place) const
+    {
+        const int left = std::clamp(int(std::floor(place.left() * m_scale)), 0, m_width);
+        const int right = std::clamp(int(std::ceil(place.right() * m_scale)), 0, m_width);
+        const int top = std::clamp(int(std::floor(place.top() * m_scale)), 0, m_height);
+        const int bottom = std::clamp(int(std::ceil(place.bottom() * m_scale)), 0, m_height);
+        return m_sums[at(right, bottom)] - m_sums[at(left, bottom)] - m_sums[at(right, top)] + m_sums[at(left, top)]
+            == 0;
+    }
+
+    double m_scale;
+    int m_width;
+    int m_height;
+    std::vector<int> m_sums; // of what is drawn above and to the left of a pixel
+    QRectF m_plot;
+};
+
+//! The picture without a strip for the key, on the side where that leaves the diagram larger.
+std::optional<PictureLayout> keyBeside(const PictureKey &key, const DiagramViewport &view, const QSizeF &size)
+{
+    PictureLayout right;
+    right.key = key;
+    right.diagram = QRectF(0.0, 0.0, size.width() - key.size().width() - gap, size.height());
+    right.keyPlace = QPointF(right.diagram.right(), gap);
+    PictureLayout below = right;
+    below.diagram = QRectF(0.0, 0.0, size.width(), size.height() - key.size().height() - gap);
+    below.keyPlace = QPointF(gap, below.diagram.bottom());
+    const auto share = [&](const PictureLayout &layout) {
+        const bool fits = QRectF(QPointF(), size)
+                              .adjusted(gap, gap, -gap, -gap)
+                              .intersected(QRectF(layout.keyPlace, key.size()))
+                              .size()
+            == key.size();
+        return fits && layout.diagram.isValid()
+            ? view.resized(layout.diagram.size()).scale() / view.resized(size).scale()
+            : 0.0;
+    };
+    const PictureLayout &better = share(right) >= share(below) ? right : below;
+    return share(better) >= leastShare ? std::make_optional(better) : std::nullopt;
+}
+
+} // namespace
+
+PictureKey::PictureKey(const DiagramContent &content, int pixelSize)
+    : m_ground(content.ground)
+{
+    m_font.setPixelSize(pixelSize);
+    const QFontMetricsF metrics(m_font);
+    m_rowHeight = std::ceil(1.5 * pixelSize);
+    double roleWidth = 0.0;
+    for (const GamutRole role : order) {
+        for (const ceiechart::DiagramGamut &gamut : content.gamuts) {
+            if (gamut.role != role || !content.shows(gamut)) {
+                continue;
+            }
+            const QString name = metrics.elidedText(
+                QString::fromStdString(gamut.gamut.colorGamutName()), Qt::ElideMiddle, longestName * pixelSize);
+            m_rows.append({role, name, ceiechart::gamutRoleName(role)});
+            m_nameWidth = std::max(m_nameWidth, std::ceil(metrics.horizontalAdvance(name)));
+            roleWidth = std::max(roleWidth, std::ceil(metrics.horizontalAdvance(m_rows.last().roleName)));
+        }
+    }
+    if (!m_rows.isEmpty()) {
+        m_size = QSizeF(lineLength + m_nameWidth + roleWidth + 2.0 * gap, m_rowHeight * m_rows.size());
+    }
+}
+
+void PictureKey::paint(QPainter *painter, const QPointF &at) const
+{
+    const ceiechart::DiagramPalette &palette = ceiechart::diagramPalette(m_ground);
+    const QFontMetricsF metrics(m_font);
+    painter->save();
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter->setFont(m_font);
+    painter->fillRect(
+        QRectF(at, m_size).adjusted(-gap / 2.0, -gap / 2.0, gap / 2.0, gap / 2.0), palette.ground); // over the grid
+    QRectF row(at, QSizeF(m_size.width(), m_rowHeight));
+    for (const Row &entry : m_rows) {
+        DiagramPainter::paintKeyLine(
+            painter, QRectF(row.topLeft(), QSizeF(lineLength, m_rowHeight)), entry.role, m_ground);
+        const double base = row.top() + (m_rowHeight + metrics.ascent() - metrics.descent()) / 2.0;
+        const double name = row.left() + lineLength + gap;
+        painter->setPen(palette.text);
+        painter->drawText(QPointF(name, base), entry.name);
+        painter->setPen(palette.numbers);
+        painter->drawText(QPointF(name + m_nameWidth + gap, base), entry.roleName);
+        row.translate(0.0, m_rowHeight);
+    }
+    painter->restore();
+}
+
+PictureLayout layOutPicture(const DiagramContent &content, const DiagramViewport &view, const QSizeF &size)
+{
+    PictureLayout layout;
+    layout.diagram = QRectF(QPointF(), size);
+    if (PictureKey(content, letterSizes[0]).isEmpty()) {
+        return layout;
+    }
+    const FreeGround ground(content, view, size);
+    for (const int letterSize : letterSizes) {
+        const PictureKey key(content, letterSize);
+        if (const auto place = ground.place(key.size())) {
+            layout.key = key;
+            layout.keyPlace = *place;
+            return layout;
+        }
+        if (const auto beside = keyBeside(key, view, size)) {
+            return *beside;
+        }
+    }
+    return layout;
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "editing/document.h"
+
+#include "editing/targetedits.h"
+
+#include <QUndoCommand>
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr int trailLength = 12;
+constexpr int mergeable = 1;
+
+} // namespace
+
+class Document::Step : public QUndoCommand {
+public:
+    Step(Document *document, const DisplayDescription &before, const DisplayDescription &after, const QString &text,
+        int mergeKey)
+        : QUndoCommand(text)
+        , m_document(document)
+        , m_before(before)
+        , m_after(after)
+        , m_trailBefore(document->m_whiteTrail)
+        , m_trailAfter(document->trailWith(after))
+        , m_mergeKey(mergeKey)
+        , m_mergeRun(document->m_mergeRun)
+    {
+    }
+
+    void undo() override { m_document->show(m_before, m_trailBefore); }
+    void redo() override { m_document->show(m_after, m_trailAfter); }
+    int id() const override { return m_mergeKey == 0 ? -1 : mergeable; }
+
+    bool mergeWith(const QUndoCommand *other) override
+    {
+        const auto *next = static_cast<const Step *>(other);
+        if (next->m_mergeKey != m_mergeKey || next->m_mergeRun != m_mergeRun) {
+            return false;
+        }
+        m_after = next->m_after;
+        m_trailAfter = m_trailBefore;
+        if (!next->m_trailAfter.isEmpty()) {
+            m_trailAfter.append(next->m_trailAfter.last());
+        }
+        return true;
+    }
+
+private:
+    Document *m_document;
+    DisplayDescription m_before;
+    DisplayDescription m_after;
+    QVector<QPointF> m_trailBefore;
+    QVector<QPointF> m_trailAfter;
+    int m_mergeKey;
+    int m_mergeRun;
+};
+
+Document::Document(QObject *parent)
+    : QObject(parent)
+{
+    connect(&m_history, &QUndoStack::cleanChanged, this, [this](bool clean) { Q_EMIT modifiedChanged(!clean); });
+}
+
+void Document::open(const DisplayDescription &description, const QString &fileName)
+{
+    m_dragging = false;
+    m_history.clear();
+    m_fileName = fileName;
+    m_saved = description;
+    m_whiteTrail.clear();
+    show(description, trailWith(description));
+    Q_EMIT fileNameChanged();
+    Q_EMIT opened();
+}
+
+void Document::markSaved(const QString &fileName)
+{
+    m_fileName = fileName;
+    m_saved = m_description;
+    breakMerging();
+    m_history.setClean();
+    Q_EMIT fileNameChanged();
+}
+
+void Document::change(const DisplayDescription &description, const QString &text, int mergeKey)
+{
+    if (m_dragging) {
+        cancelDrag();
+    }
+    m_history.push(new Step(this, m_description, description, text, mergeKey));
+}
+
+void Document::beginDrag()
+{
+    m_dragging = true;
+    m_beforeDrag = m_description;
+}
+
+void Document::drag(const DisplayDescription &description)
+{
+    if (m_dragging) {
+        show(description);
+    }
+}
+
+void Document::endDrag(const QString &text)
+{
+    if (!m_dragging) {
+        return;
+    }
+    m_dragging = false;
+    const auto before = m_beforeDrag.gamut(m_beforeDrag.target);
+    const auto after = target();
+    if (m_beforeDrag.target == m_description.target
+        && (!before || !after || sameTargets(before->getTargets(), after->getTargets()))) {
+        return;
+    }
+    const DisplayDescription dragged = m_description;
+    m_history.push(new Step(this, m_beforeDrag, dragged, text, 0));
+}
+
+void Document::cancelDrag()
+{
+    if (m_dragging) {
+        m_dragging = false;
+        show(m_beforeDrag);
+    }
+}
+
+void Document::show(const DisplayDescription &description)
+{
+    m_description = description;
+    Q_EMIT changed();
+}
+
+void Document::show(const DisplayDescription &description, const QVector<QPointF> &trail)
+{
+    m_whiteTrail = trail;
+    show(description);
+}
+
+QVector<QPointF> Document::trailWith(const DisplayDescription &description) const
+{
+    QVector<QPointF> trail = m_whiteTrail;
+    if (const auto gamut = description.gamut(description.target)) {
+        const QPointF white = xyOf(gamut->getTargets().white);
+        if (trail.isEmpty() || trail.last().x() != white.x() || trail.last().y() != white.y()) {
+            trail.append(white);
+        }
+    }
+    return trail.size() > trailLength ? trail.mid(trail.size() - trailLength) : trail;
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_GAMUTPARTS_H
+#define GAMUTVIEWER_GAMUTPARTS_H
+
+#include "display/displaydescription.h"
+
+#include <ceiechart/diagram/gamutstyle.h>
+#include <gamutmodel/diagram.h>
+
+namespace gamutviewer {
+
+/*! \brief A gamut of a description and the part that it plays. */
+struct GamutPart {
+    ceiechart::GamutRole role = ceiechart::GamutRole::Target;
+    Model::ColorGamut gamut;
+
+    /*! \brief "Target: Rec.709 (edited)", in the language of the interface. */
+    QString title() const;
+    /*! \brief "Target". */
+    QString roleName() const { return ceiechart::gamutRoleName(role); }
+};
+
+/*! \brief The parts of \a description that a gamut plays: declared, original, measured, target. */
+QVector<GamutPart> gamutParts(const DisplayDescription &description);
+
+/*!
+ * \brief The share of \a original's area on \a diagram that \a target does not contain, 0 to 1; 0 for an original
+ * without area.
+ */
+double lostShare(const Model::Targets &original, const Model::Targets &target, Model::Diagram diagram);
+
+} // namespace gamutviewer
+
+#endif

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "editing/targetedits.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+namespace {
+
+void setLuminance(Model::Target &target, double luminance)
+{
+    target = Model::Target::fromYxy(luminance, target.x, target.y);
+}
+
+bool isReferredTo(const DisplayDescription &d, const QString &name)
+{
+    return d.target == name || d.original == name || d.measured == name || d.declared == name
+        || d.standards.contains(name);
+}
+
+bool playsAnotherPart(DisplayDescription d, const QString &name)
+{
+    d.target.clear();
+    d.standards.clear();
+    return isReferredTo(d, name);
+}
+
+bool isOnlyTheTarget(DisplayDescription d)
+{
+    const QString name = d.target;
+    d.target.clear();
+    return !isReferredTo(d, name);
+}
+
+template <typename Gamuts>
+auto find(Gamuts &gamuts, const QString &name)
+{
+    const std::string wanted = name.toStdString();
+    return std::find_if(gamuts.begin(), gamuts.end(),
+        [&wanted](const Model::ColorGamut &gamut) { return gamut.colorGamutName() == wanted; });
+}
+
+bool contains(const std::vector<Model::ColorGamut> &gamuts, const QString &name)
+{
+    return find(gamuts, name) != gamuts.end();
+}
+
+void put(std::vector<Model::ColorGamut> &gamuts, const Model::ColorGamut &gamut)
+{
+    const auto existing = find(gamuts, QString::fromStdString(gamut.colorGamutName()));
+    if (existing != gamuts.end()) {
+        *existing = gamut;
+    } else {
+        gamuts.push_back(gamut);
+    }
+}
+
+void remove(std::vector<Model::ColorGamut> &gamuts, const QString &name)
+{
+    const auto existing = find(gamuts, name);
+    if (existing != gamuts.end()) {
+        gamuts.erase(existing);
+    }
+}
+
+//! "X (edited)", "X (edited 2)" and so on.
+QString editedName(const QString &plain, int number)
+{
+    return plain + (number < 2 ? QStringLiteral(" (edited)") : QStringLiteral(" (edited %1)").arg(number));
+}
+
+QString freeEditedName(const DisplayDescription &description)
+{
+    const QString plain = plainName(description.target);
+    int number = 1;
+    while (contains(description.gamuts, editedName(plain, number))) {
+        ++number;
+    }
+    return editedName(plain, number);
+}
+
+Model::Targets scaledTo(Model::Targets targets, double whiteLuminance)
+{
+    const double factor = whiteLuminance / targets.white.Y;
+    for (const Vertex vertex : allVertices) {
+        Model::Target &target = targetAt(targets, vertex);
+        setLuminance(target, target.Y * factor);
+    }
+    return targets;
+}
+
+//! Whether matchLuminance() may have made the gamut that \a description has under the name of \a published.
+bool isMadeToMatch(
+    const DisplayDescription &description, const Model::ColorGamut &published, const DisplayDescription &saved)
+{
+    const QString name = QString::fromStdString(published.colorGamutName());
+    const auto own = find(description.gamuts, name);
+    return own != description.gamuts.end() && !contains(saved.gamuts, name) && !playsAnotherPart(description, name)
+        && sameTargets(own->getTargets(), scaledTo(published.getTargets(), own->getTargets().white.Y));
+}
+
+//! Published gamuts are relative to a white of 1: the description gets one of its own for a target of \a luminance.
+void matchLuminance(DisplayDescription &description, double luminance)
+{
+    const std::vector<Model::ColorGamut> standards = Model::standardGamuts();
+    const auto published = find(standards, description.target);
+    const bool isFree
+        = !contains(description.gamuts, description.target) && !playsAnotherPart(description, description.target);
+    if (published != standards.end() && isFree && luminance > 0.0 && luminance != published->getTargets().white.Y) {
+        description.gamuts.emplace_back(description.target.toStdString(), scaledTo(published->getTargets(), luminance));
+    }
+}
+
+QRegularExpressionMatch editedMatch(const QString &gamutName)
+{
+    static const QRegularExpression form(
+        QStringLiteral("\\A(.*) \\(edited(?: ([0-9]{1,9}))?\\)\\z"), QRegularExpression::DotMatchesEverythingOption);
+    return form.match(gamutName);
+}
+
+} // namespace
+
+DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets)
+{
+    if (!isEditedName(description.target) || !isOnlyTheTarget(description)) {
+        description.target = freeEditedName(description);
+    }
+    put(description.gamuts, Model::ColorGamut(description.target.toStdString(), targets));
+    return description;
+}
+
+DisplayDescription withTargetNamed(
+    DisplayDescription description, const QString &gamutName, const DisplayDescription &saved)
+{
+    const QString before = description.target;
+    const auto targetBefore = description.gamut(before);
+    description.target = gamutName;
+    for (const Model::ColorGamut &published : Model::standardGamuts()) {
+        if (isMadeToMatch(description, published, saved)) {
+            remove(description.gamuts, QString::fromStdString(published.colorGamutName()));
+        }
+    }
+    if (targetBefore) {
+        matchLuminance(description, targetBefore->getTargets().white.Y);
+    }
+    if (isEditedName(before) && !isReferredTo(description, before) && !contains(saved.gamuts, before)) {
+        remove(description.gamuts, before);
+    }
+    return description;
+}
+
+bool isEditedName(const QString &gamutName)
+{
+    return editedMatch(gamutName).hasMatch();
+}
+
+QString plainName(const QString &gamutName)
+{
+    const QRegularExpressionMatch match = editedMatch(gamutName);
+    return match.hasMatch() ? match.captured(1) : gamutName;
+}
+
+int editNumber(const QString &gamutName)
+{
+    return std::max(1, editedMatch(gamutName).captured(2).toInt());
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_TARGETEDITS_H
+#define GAMUTVIEWER_TARGETEDITS_H
+
+#include "display/displaydescription.h"
+
+#include <ceiechart/diagram/targetrules.h>
+
+namespace gamutviewer {
+
+using Vertex = ceiechart::GamutVertex;
+using ceiechart::sameTargets;
+using ceiechart::targetAt;
+using ceiechart::xyOf;
+constexpr auto allVertices = ceiechart::allGamutVertices;
+
+/*!
+ * \brief \a description with the target changed by hand to \a targets.
+ *
+ * A gamut that has a name of its own is left as it is: the target becomes a gamut of the description that is called
+ * after it, "Rec.709 (edited)", and later edits change that one. Where that name is taken, or where the edited gamut
+ * plays another part too, it is "Rec.709 (edited 2)".
+ */
+DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets);
+
+/*!
+ * \brief \a description with \a gamutName for its target.
+ *
+ * An edited gamut that nothing refers to any more goes, unless \a saved, what the file has, has it. A published gamut,
+ * relative to a white of 1, is taken at the luminance of the former target's white: the description gets a gamut of
+ * its name, unless it has one, or has the published one for another part.
+ */
+DisplayDescription withTargetNamed(
+    DisplayDescription description, const QString &gamutName, const DisplayDescription &saved = DisplayDescription());
+
+/*! \brief Whether \a gamutName is that of a gamut changed by hand. */
+bool isEditedName(const QString &gamutName);
+
+/*! \brief \a gamutName without the mark of a gamut changed by hand. */
+QString plainName(const QString &gamutName);
+
+/*! \brief The number in the mark of a gamut changed by hand; 1 without one. */
+int editNumber(const QString &gamutName);
+
+} // namespace gamutviewer
+
+#endif

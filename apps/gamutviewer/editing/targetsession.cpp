@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+#include "editing/targetsession.h"
+
+#include "editing/document.h"
+
+#include <ceiechart/diagram/whitepoint.h>
+
+#include <QCoreApplication>
+
+#include <cmath>
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr Vertex primaries[] = {Vertex::Red, Vertex::Green, Vertex::Blue};
+
+} // namespace
+
+TargetSession::TargetSession(Document *document, QObject *parent)
+    : QObject(parent)
+    , m_document(document)
+{
+}
+
+void TargetSession::setHoldWhite(bool hold)
+{
+    if (holdWhite() != hold) {
+        m_rules->setHoldsWhite(hold);
+        m_rules->setLocksWhite(hold);
+        Q_EMIT rulesChanged();
+    }
+}
+
+void TargetSession::setLockPrimaries(bool lock)
+{
+    if (lockPrimaries() != lock) {
+        m_rules->setLocksPrimaries(lock);
+        Q_EMIT rulesChanged();
+    }
+}
+
+void TargetSession::setSnaps(bool snap)
+{
+    if (snaps() != snap) {
+        m_rules->setSnaps(snap);
+        Q_EMIT rulesChanged();
+    }
+}
+
+void TargetSession::select(Vertex vertex)
+{
+    if (m_selected != vertex) {
+        m_selected = vertex;
+        Q_EMIT selectionChanged();
+    }
+}
+
+ceiechart::TargetMove TargetSession::edited(Vertex vertex, const QPointF &xy) const
+{
+    const auto target = m_document->target();
+    if (!target) {
+        return {std::nullopt, tr("There is no target to edit.")};
+    }
+    ceiechart::TargetContext context;
+    context.target = target->getTargets();
+    if (const auto original = m_document->original()) {
+        context.original = original->getTargets();
+    }
+    return m_rules->move(context, vertex, xy);
+}
+
+bool TargetSession::apply(const std::optional<Model::Targets> &targets, const QString &text, int mergeKey)
+{
+    if (!targets) {
+        return false;
+    }
+    const auto before = m_document->target();
+    if (!before || !sameTargets(before->getTargets(), *targets)) {
+        m_document->change(withEditedTarget(m_document->description(), *targets), text, mergeKey);
+    }
+    return true;
+}
+
+QString TargetSession::whyNot(Vertex vertex, const QPointF &xy) const
+{
+    const ceiechart::TargetMove move = edited(vertex, xy);
+    return move.targets ? QString() : move.reason;
+}
+
+double TargetSession::distanceOutside(Vertex primary) const
+{
+    constexpr double rounding = 1e-9;
+    const auto target = m_document->target();
+    const auto original = m_document->original();
+    if (!target || !original) {
+        return 0.0;
+    }
+    const QPointF xy = xyOf(targetAt(target->getTargets(), primary));
+    const QPointF inside = ceiechart::nearestInside(original->getTargets(), xy, Model::Diagram::Cie1976);
+    const Model::DiagramPoint from = Model::toDiagram(Model::Diagram::Cie1976, {inside.x(), inside.y()});
+    const Model::DiagramPoint to = Model::toDiagram(Model::Diagram::Cie1976, {xy.x(), xy.y()});
+    const double distance = std::hypot(to.x - from.x, to.y - from.y);
+    return distance > rounding ? distance : 0.0;
+}
+
+bool TargetSession::setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey)
+{
+    const ceiechart::TargetMove move = edited(vertex, xy);
+    if (apply(move.targets, tr("move %1").arg(ceiechart::gamutVertexName(vertex)), mergeKey)) {
+        return true;
+    }
+    refuse(move.reason);
+    return false;
+}
+
+bool TargetSession::setLuminance(Vertex vertex, double luminance, int mergeKey)
+{
+    const auto target = m_document->target();
+    if (target
+        && apply(ceiechart::withLuminance(target->getTargets(), vertex, luminance, holdWhite()),
+            tr("change luminance of %1").arg(ceiechart::gamutVertexName(vertex)), mergeKey)) {
+        return true;
+    }
+    refuse(tr("That luminance is not possible for this target."));
+    return false;
+}
+
+bool TargetSession::setWhiteTemperature(double kelvin, double duv, int mergeKey)
+{
+    if (const auto xy = ceiechart::chromaticityAt(kelvin, duv)) {
+        return setChromaticity(Vertex::White, *xy, mergeKey);
+    }
+    refuse(tr("No white point has that colour temperature and Duv."));
+    return false;
+}
+
+void TargetSession::reset(const QString &gamutName)
+{
+    if (m_document->description().target != gamutName && m_document->description().gamut(gamutName)) {
+        m_document->change(withTargetNamed(m_document->description(), gamutName, m_document->saved()),
+            tr("reset to %1").arg(shownGamutName(gamutName)));
+    }
+}
+
+void TargetSession::fitToOriginal()
+{
+    const auto target = m_document->target();
+    const auto original = m_document->original();
+    if (!target || !original) {
+        return;
+    }
+    std::optional<Model::Targets> fitted = target->getTargets();
+    for (const Vertex primary : primaries) {
+        if (!fitted || distanceOutside(primary) == 0.0) {
+            continue;
+        }
+        const QPointF xy = ceiechart::nearestInside(
+            original->getTargets(), xyOf(targetAt(*fitted, primary)), Model::Diagram::Cie1976);
+        fitted = holdWhite() ? ceiechart::withPrimaryHoldingWhite(*fitted, primary, xy, original->getTargets())
+                             : ceiechart::withPrimary(*fitted, primary, xy);
+    }
+    if (!apply(fitted, tr("fit to the display"), 0)) {
+        refuse(tr("The white would lie outside of the target."));
+    }
+}
+
+void TargetSession::beginDrag(Vertex vertex)
+{
+    m_dragged = vertex;
+    m_document->breakMerging();
+    m_document->beginDrag();
+}
+
+void TargetSession::dragTo(const Model::Targets &targets)
+{
+    const auto before = m_document->target();
+    if (m_document->isDragging() && before && !sameTargets(before->getTargets(), targets)) {
+        m_document->drag(withEditedTarget(m_document->description(), targets));
+    }
+}
+
+void TargetSession::endDrag()
+{
+    m_document->endDrag(tr("move %1").arg(ceiechart::gamutVertexName(m_dragged)));
+}
+
+void TargetSession::cancelDrag()
+{
+    if (m_document->isDragging()) {
+        m_document->cancelDrag();
+        Q_EMIT dragCanceled();
+    }
+}
+
+QString shownGamutName(const QString &gamutName)
+{
+    if (!isEditedName(gamutName)) {
+        return gamutName;
+    }
+    const int number = editNumber(gamutName);
+    return number < 2 ? QCoreApplication::translate("gamutviewer", "%1 (edited)").arg(plainName(gamutName))
+                      : QCoreApplication::translate("gamutviewer", "%1 (edited %2)")
+                            .arg(plainName(gamutName), QString::number(number));
+}
+
+} // namespace gamutviewer

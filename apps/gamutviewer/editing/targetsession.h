@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_TARGETSESSION_H
+#define GAMUTVIEWER_TARGETSESSION_H
+
+#include "editing/targetedits.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace gamutviewer {
+
+class Document;
+
+/*!
+ * \brief Editing of the document's target, the same for diagrams and numbers: which vertex is selected, what is held or
+ * locked, and what an edit that cannot be made is answered with.
+ */
+class TargetSession : public QObject {
+    Q_OBJECT
+
+public:
+    /*! \param document must outlive the session */
+    explicit TargetSession(Document *document, QObject *parent = nullptr);
+
+    Document *document() const { return m_document; }
+
+    /*! \brief The rules of editing as diagrams take them. Holding the white locks it, too. */
+    std::shared_ptr<const ceiechart::TargetRules> rules() const { return m_rules; }
+    bool holdWhite() const { return m_rules->holdsWhite(); }
+    bool lockPrimaries() const { return m_rules->locksPrimaries(); }
+    bool snaps() const { return m_rules->snaps(); }
+    Vertex selected() const { return m_selected; }
+    /*! \brief Whether the rules let \a vertex be moved. */
+    bool isMovable(Vertex vertex) const { return m_rules->isMovable(vertex); }
+
+    void setHoldWhite(bool hold);
+    void setLockPrimaries(bool lock);
+    void setSnaps(bool snap);
+    void select(Vertex vertex);
+
+    /*! \brief Why \a vertex cannot be moved to \a xy, for people; empty when it can. */
+    QString whyNot(Vertex vertex, const QPointF &xy) const;
+    /*! \brief By how much \a primary of the target lies outside of the original, in Δu′v′; 0 when it does not. */
+    double distanceOutside(Vertex primary) const;
+
+    /*! \brief One step of the history; false, and refused(), when it cannot be made. */
+    bool setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey = 0);
+    bool setLuminance(Vertex vertex, double luminance, int mergeKey = 0);
+    bool setWhiteTemperature(double kelvin, double duv, int mergeKey = 0);
+    /*! \brief Puts the gamut called \a gamutName in place of the target. */
+    void reset(const QString &gamutName);
+    /*!
+     * \brief Moves each primary that lies outside of the original to the nearest chromaticity in u′, v′ that the
+     * original can show.
+     */
+    void fitToOriginal();
+
+    /*! \brief Tells, as refused(), that an edit was not made. */
+    void refuse(const QString &reason) { Q_EMIT refused(reason); }
+
+    void beginDrag(Vertex vertex);
+    /*! \brief Shows \a targets, which a diagram made by rules(), while a drag lasts. */
+    void dragTo(const Model::Targets &targets);
+    void endDrag();
+    void cancelDrag();
+
+Q_SIGNALS:
+    void rulesChanged();
+    void selectionChanged();
+    /*! \brief The drag was ended from elsewhere than from where it is made. */
+    void dragCanceled();
+    /*! \brief An edit was not made; \a reason is for people. */
+    void refused(const QString &reason);
+
+private:
+    ceiechart::TargetMove edited(Vertex vertex, const QPointF &xy) const;
+    bool apply(const std::optional<Model::Targets> &targets, const QString &text, int mergeKey);
+
+    Document *m_document;
+    std::shared_ptr<ceiechart::StandardTargetRules> m_rules = std::make_shared<ceiechart::StandardTargetRules>();
+    Vertex m_selected = Vertex::Red;
+    Vertex m_dragged = Vertex::Red;
+};
+
+/*! \brief \a gamutName as the interface shows it: that a gamut was changed by hand is said in its language. */
+QString shownGamutName(const QString &gamutName);
+
+} // namespace gamutviewer
+
+#endif

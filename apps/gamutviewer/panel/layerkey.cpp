@@ -1,0 +1,439 @@
+// SPDX-License-Identifier: MIT
+#include "panel/layerkey.h"
+
+#include "display/messages.h"
+#include "editing/document.h"
+#include "editing/gamutparts.h"
+#include "editing/targetsession.h"
+
+#include <ceiechart/diagram/diagrampainter.h>
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QStyledItemDelegate>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+namespace {
+
+using ceiechart::DiagramLayer;
+using ceiechart::GamutRole;
+
+enum ItemRole { NameRole = Qt::UserRole, DetailRole, GamutRoleRole, LayerRole };
+
+constexpr int margin = 6; // pixels
+constexpr int gap = 6;
+constexpr int lineWidth = 28;
+constexpr double sectionScale = 0.82;
+constexpr double detailScale = 0.85;
+constexpr int widestKey = 215;
+constexpr double keyScale = 0.85;
+
+QFont scaled(QFont font, double factor)
+{
+    font.setPointSizeF(font.pointSizeF() * factor);
+    return font;
+}
+
+bool isSection(const QModelIndex &index)
+{
+    return !index.data(NameRole).isValid();
+}
+
+bool isPart(const QModelIndex &index)
+{
+    return !index.data(DetailRole).toString().isEmpty();
+}
+
+//! Paints entries: check box, line, name and, below it, what the gamut is here.
+class EntryDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const QFontMetrics metrics(option.font);
+        if (isSection(index)) {
+            return {60, metrics.height() + 2 * gap};
+        }
+        const int box = QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth);
+        int height = metrics.height() + 4;
+        int width = metrics.horizontalAdvance(index.data(NameRole).toString());
+        if (isPart(index)) {
+            QFont bold = option.font;
+            bold.setBold(true);
+            width = QFontMetrics(bold).horizontalAdvance(index.data(NameRole).toString());
+            height += QFontMetrics(scaled(option.font, detailScale)).height();
+        }
+        const int line = index.data(GamutRoleRole).isValid() ? lineWidth + gap : 0;
+        return {2 * margin + box + gap + line + width, height};
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &item, const QModelIndex &index) const override
+    {
+        QStyleOptionViewItem option = item;
+        initStyleOption(&option, index);
+        painter->save();
+        QRect place = option.rect.adjusted(margin, 0, -margin, 0);
+        if (isSection(index)) {
+            paintSection(painter, option, place, index);
+        } else if (index.data(Qt::CheckStateRole).isValid()) {
+            paintEntry(painter, option, place, index);
+        }
+        painter->restore();
+    }
+
+    bool editorEvent(QEvent *, QAbstractItemModel *, const QStyleOptionViewItem &, const QModelIndex &) override
+    {
+        return false; // the key switches
+    }
+
+private:
+    static void paintSection(
+        QPainter *painter, const QStyleOptionViewItem &option, const QRect &place, const QModelIndex &index)
+    {
+        QFont font = scaled(option.font, sectionScale);
+        font.setCapitalization(QFont::AllUppercase);
+        font.setBold(true);
+        painter->setFont(font);
+        QColor color = option.palette.color(QPalette::Text);
+        color.setAlphaF(0.65);
+        painter->setPen(color);
+        painter->drawText(place.adjusted(0, 0, 0, -2), Qt::AlignLeft | Qt::AlignBottom, index.data().toString());
+    }
+
+    static void paintEntry(QPainter *painter, const QStyleOptionViewItem &option, QRect place, const QModelIndex &index)
+    {
+        const QStyle *style = option.widget->style();
+        const bool isChecked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        const QFontMetrics metrics(option.font);
+        const int firstLine = isPart(index) ? metrics.height() + 4 : place.height();
+        QStyleOptionViewItem box = option;
+        const int side = style->pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget);
+        box.rect = QRect(place.left(), place.top() + (firstLine - side) / 2, side, side);
+        box.state = (option.state & ~(QStyle::State_HasFocus | QStyle::State_On | QStyle::State_Off))
+            | (isChecked ? QStyle::State_On : QStyle::State_Off);
+        style->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
+        place.setLeft(box.rect.right() + 1 + gap);
+        const QVariant role = index.data(GamutRoleRole);
+        if (role.isValid()) {
+            const bool isDark = option.palette.color(QPalette::Base).lightness() < 128;
+            painter->setOpacity(isChecked ? 1.0 : 0.4);
+            ceiechart::DiagramPainter::paintKeyLine(painter, QRectF(place.left(), place.top(), lineWidth, firstLine),
+                GamutRole(role.toInt()), isDark ? ceiechart::DiagramGround::Dark : ceiechart::DiagramGround::Light);
+            painter->setOpacity(1.0);
+            place.setLeft(place.left() + lineWidth + gap);
+        }
+        QFont font = option.font;
+        font.setBold(isPart(index));
+        painter->setFont(font);
+        painter->setPen(option.palette.color(isChecked ? QPalette::Normal : QPalette::Disabled, QPalette::Text));
+        const QRect nameLine(place.left(), place.top(), place.width(), firstLine);
+        painter->drawText(nameLine, Qt::AlignLeft | Qt::AlignVCenter,
+            QFontMetrics(font).elidedText(index.data(NameRole).toString(), Qt::ElideRight, place.width()));
+        if (isPart(index)) {
+            painter->setFont(scaled(option.font, detailScale));
+            painter->drawText(QRect(place.left(), place.top() + firstLine - 3, place.width(), place.height()),
+                Qt::AlignLeft | Qt::AlignTop, index.data(DetailRole).toString());
+        }
+        if (option.state & QStyle::State_HasFocus) {
+            QStyleOptionFocusRect focus;
+            focus.QStyleOption::operator=(option);
+            focus.rect = option.rect;
+            focus.backgroundColor = option.palette.color(QPalette::Base);
+            style->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, option.widget);
+        }
+    }
+};
+
+} // namespace
+
+LayerKey::LayerKey(Document *document, LayerSwitches *switches, QWidget *parent)
+    : QListWidget(parent)
+    , m_document(document)
+    , m_switches(switches)
+    , m_colors(new QButtonGroup(this))
+{
+    setAccessibleName(tr("Key: what the diagram shows"));
+    setAccessibleDescription(tr("Space switches an entry, Return shows it alone"));
+    setItemDelegate(new EntryDelegate(this));
+    setFont(scaled(font(), keyScale));
+    setFrameShape(NoFrame);
+    setSelectionMode(NoSelection);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerPixel);
+    setTabKeyNavigation(false);
+    connect(document, &Document::changed, this, &LayerKey::refresh);
+    connect(document, &Document::opened, switches, &LayerSwitches::forgetStandards);
+    connect(switches, &LayerSwitches::changed, this, &LayerKey::refresh);
+    connect(m_colors, &QButtonGroup::idClicked, this,
+        [this](int colors) { m_switches->setColors(ceiechart::HorseshoeColors(colors)); });
+    refresh();
+}
+
+QListWidgetItem *LayerKey::entry(const QString &name) const
+{
+    for (int row = 0; row < count(); ++row) {
+        if (item(row)->data(NameRole) == name) {
+            return item(row);
+        }
+    }
+    return nullptr;
+}
+
+QSize LayerKey::sizeHint() const
+{
+    const int width = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    // The colours have buttons, which cannot be elided.
+    return {std::max(std::min(width, widestKey), m_leastWidth + 2 * frameWidth()), 480};
+}
+
+void LayerKey::addSection(const QString &title)
+{
+    auto *section = new QListWidgetItem(title, this);
+    section->setFlags(Qt::NoItemFlags);
+}
+
+void LayerKey::addColors()
+{
+    auto *row = new QListWidgetItem(this);
+    row->setFlags(Qt::ItemIsEnabled);
+    row->setData(NameRole, QString());
+    auto *box = new QWidget;
+    auto *layout = new QHBoxLayout(box);
+    layout->setContentsMargins(margin, 0, margin, 0);
+    layout->setSpacing(0);
+    layout->addWidget(new QLabel(tr("Colours"), box), 1);
+    const std::pair<ceiechart::HorseshoeColors, QString> choices[]
+        = {{ceiechart::HorseshoeColors::Full, tr("full", "colours of the horseshoe")},
+            {ceiechart::HorseshoeColors::Dimmed, tr("dim", "colours of the horseshoe")},
+            {ceiechart::HorseshoeColors::None, tr("off", "colours of the horseshoe")}};
+    for (const auto &choice : choices) {
+        auto *button = new QToolButton(box);
+        button->setText(choice.second);
+        button->setCheckable(true);
+        button->setFont(scaled(font(), detailScale));
+        button->setAccessibleName(tr("Colours: %1").arg(choice.second));
+        m_colors->addButton(button, int(choice.first));
+        layout->addWidget(button);
+    }
+    setItemWidget(row, box);
+    row->setSizeHint(box->sizeHint());
+    m_leastWidth = box->sizeHint().width();
+}
+
+QListWidgetItem *LayerKey::addEntry(
+    const QString &name, const QString &detail, std::optional<GamutRole> role, DiagramLayer layer)
+{
+    auto *item = new QListWidgetItem(this);
+    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable | Qt::ItemIsSelectable);
+    item->setData(NameRole, name);
+    item->setData(LayerRole, int(layer));
+    if (role) {
+        item->setData(DetailRole, detail);
+        item->setData(GamutRoleRole, int(*role));
+    }
+    item->setCheckState(Qt::Checked);
+    item->setToolTip(detail.isEmpty() ? name : tr("%1: %2", "role and name of a gamut").arg(detail, name));
+    item->setData(Qt::AccessibleTextRole,
+        detail.isEmpty() ? name : tr("%1, %2", "name of a gamut, and its role").arg(name, detail));
+    return item;
+}
+
+void LayerKey::build()
+{
+    const DisplayDescription &description = m_document->description();
+    for (QAbstractButton *button : m_colors->buttons()) {
+        m_colors->removeButton(button);
+    }
+    clear();
+    m_pressed = nullptr;
+    m_beforeClick.reset();
+    addSection(tr("Gamuts"));
+    for (const GamutRole role : {GamutRole::Target, GamutRole::Original, GamutRole::Measured, GamutRole::Declared}) {
+        for (const GamutPart &part : gamutParts(description)) {
+            if (part.role == role) {
+                const QString name = oneLine(shownGamutName(QString::fromStdString(part.gamut.colorGamutName())));
+                addEntry(name, part.roleName(), role, ceiechart::layerOf(role));
+            }
+        }
+    }
+    addSection(tr("Standards"));
+    for (const Model::ColorGamut &standard : description.allStandards()) {
+        addEntry(
+            QString::fromStdString(standard.colorGamutName()), QString(), GamutRole::Standard, DiagramLayer::Standards);
+    }
+    addSection(tr("Layers"));
+    addColors();
+    const auto addLayer = [this](const QString &name, DiagramLayer layer) { addEntry(name, QString(), {}, layer); };
+    addLayer(tr("Common area"), DiagramLayer::CommonArea);
+    addLayer(tr("Given up"), DiagramLayer::LostArea);
+    addLayer(tr("Planckian locus"), DiagramLayer::PlanckianLocus);
+    addLayer(tr("Isotherms"), DiagramLayer::Isotherms);
+    addLayer(tr("Wavelengths"), DiagramLayer::Wavelengths);
+    if (!description.measurePoints.isEmpty()) {
+        addLayer(tr("Measure points"), DiagramLayer::MeasurePoints);
+    }
+    if (!description.colorTemperaturePoints.isEmpty()) {
+        addLayer(tr("CCT points"), DiagramLayer::ColorTemperaturePoints);
+    }
+    if (!description.cmyPoints.isEmpty()) {
+        addLayer(tr("CMY points"), DiagramLayer::CmyPoints);
+    }
+    addLayer(tr("Tolerance rings"), DiagramLayer::Rings);
+    addLayer(tr("Trail of the white"), DiagramLayer::Trail);
+    addLayer(tr("Names"), DiagramLayer::Names);
+    addLayer(tr("Axes"), DiagramLayer::Axes);
+    addLayer(tr("Grid"), DiagramLayer::Grid);
+    updateGeometry();
+}
+
+void LayerKey::refresh()
+{
+    const DisplayDescription &description = m_document->description();
+    QStringList made;
+    for (const GamutPart &part : gamutParts(description)) {
+        made.append(part.title());
+    }
+    for (const Model::ColorGamut &standard : description.allStandards()) {
+        made.append(QString::fromStdString(standard.colorGamutName()));
+    }
+    made.append(QStringLiteral("%1 %2 %3")
+                    .arg(description.measurePoints.isEmpty())
+                    .arg(description.colorTemperaturePoints.isEmpty())
+                    .arg(description.cmyPoints.isEmpty()));
+    if (made != m_built) {
+        m_built = made;
+        build();
+    }
+    const QSignalBlocker blocker(this);
+    for (int row = 0; row < count(); ++row) {
+        if (item(row)->flags() & Qt::ItemIsUserCheckable) {
+            item(row)->setCheckState(isShown(item(row)) ? Qt::Checked : Qt::Unchecked);
+        }
+    }
+    if (QAbstractButton *button = m_colors->button(int(m_switches->state().colors))) {
+        button->setChecked(true);
+    }
+    viewport()->update();
+}
+
+bool LayerKey::isShown(const QListWidgetItem *entry) const
+{
+    const auto layer = DiagramLayer(entry->data(LayerRole).toInt());
+    return layer == DiagramLayer::Standards
+        ? m_switches->isStandardShown(entry->data(NameRole).toString(), m_document->description())
+        : m_switches->isShown(layer);
+}
+
+void LayerKey::toggle(QListWidgetItem *entry)
+{
+    if (!entry || !(entry->flags() & Qt::ItemIsUserCheckable)) {
+        return;
+    }
+    m_beforeAlone.reset();
+    const bool show = !isShown(entry);
+    const auto layer = DiagramLayer(entry->data(LayerRole).toInt());
+    if (layer == DiagramLayer::Standards) {
+        m_switches->setStandardShown(entry->data(NameRole).toString(), show);
+    } else {
+        m_switches->setShown(layer, show);
+    }
+}
+
+void LayerKey::showAlone(const QListWidgetItem *entry)
+{
+    if (!entry || !(entry->flags() & Qt::ItemIsUserCheckable)) {
+        return;
+    }
+    if (m_beforeAlone) {
+        const LayerSwitches::State before = *m_beforeAlone;
+        m_beforeAlone.reset();
+        m_switches->setState(before);
+        return;
+    }
+    m_beforeAlone = m_switches->state();
+    // Of its kind: a gamut among gamuts, a layer among layers.
+    LayerSwitches::State alone = m_switches->state();
+    const bool isGamut = entry->data(GamutRoleRole).isValid();
+    for (int row = 0; row < count(); ++row) {
+        const QListWidgetItem *other = item(row);
+        if (!(other->flags() & Qt::ItemIsUserCheckable) || other->data(GamutRoleRole).isValid() != isGamut) {
+            continue;
+        }
+        const auto layer = DiagramLayer(other->data(LayerRole).toInt());
+        if (layer == DiagramLayer::Standards) {
+            alone.standards.insert(other->data(NameRole).toString(), other == entry);
+        } else {
+            alone.layers.setFlag(layer, other == entry);
+        }
+    }
+    m_switches->setState(alone);
+}
+
+void LayerKey::mousePressEvent(QMouseEvent *event)
+{
+    QListWidget::mousePressEvent(event);
+    m_pressed = event->button() == Qt::LeftButton ? itemAt(event->pos()) : nullptr;
+}
+
+void LayerKey::mouseReleaseEvent(QMouseEvent *event)
+{
+    QListWidget::mouseReleaseEvent(event);
+    QListWidgetItem *pressed = m_pressed;
+    m_pressed = nullptr;
+    if (pressed && event->button() == Qt::LeftButton && pressed == itemAt(event->pos())) {
+        const LayerSwitches::State before = m_switches->state();
+        const auto alone = m_beforeAlone;
+        toggle(pressed);
+        m_beforeClick = before;
+        m_beforeAlone = alone;
+    }
+}
+
+void LayerKey::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // The first click has switched the entry, which is not what was meant.
+    if (event->button() == Qt::LeftButton) {
+        if (m_beforeClick) {
+            m_switches->setState(*m_beforeClick);
+        }
+        showAlone(itemAt(event->pos()));
+    }
+    m_pressed = nullptr;
+}
+
+void LayerKey::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Space:
+        toggle(currentItem());
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        showAlone(currentItem());
+        break;
+    default:
+        QListWidget::keyPressEvent(event);
+    }
+}
+
+void LayerKey::changeEvent(QEvent *event)
+{
+    QListWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        doItemsLayout();
+        updateGeometry();
+    }
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_LAYERKEY_H
+#define GAMUTVIEWER_LAYERKEY_H
+
+#include "drawing/layerswitches.h"
+
+#include <QListWidget>
+
+#include <optional>
+
+class QButtonGroup;
+
+namespace gamutviewer {
+
+class Document;
+
+/*!
+ * \brief The key of diagrams, which is the switch of their layers: each gamut with its line as drawn, its name and its
+ * role, then the standards, then all other layers.
+ *
+ * A click or Space switches an entry. A double click or Return shows it alone, and once more brings the others back.
+ */
+class LayerKey : public QListWidget {
+    Q_OBJECT
+
+public:
+    LayerKey(Document *document, LayerSwitches *switches, QWidget *parent = nullptr);
+
+    /*! \brief The entry called \a name; null without one. */
+    QListWidgetItem *entry(const QString &name) const;
+    /*! \brief Chooses the colours of the horseshoe: full, dimmed, none. */
+    QButtonGroup *colors() const { return m_colors; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return QSize(sizeHint().width(), 120); }
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void build();
+    void refresh();
+    void addSection(const QString &title);
+    void addColors();
+    QListWidgetItem *addEntry(const QString &name, const QString &detail, std::optional<ceiechart::GamutRole> role,
+        ceiechart::DiagramLayer layer);
+    bool isShown(const QListWidgetItem *entry) const;
+    void toggle(QListWidgetItem *entry);
+    void showAlone(const QListWidgetItem *entry);
+
+    Document *m_document;
+    LayerSwitches *m_switches;
+    QButtonGroup *m_colors;
+    int m_leastWidth = 0;
+    QStringList m_built; // what the entries are made of
+    QListWidgetItem *m_pressed = nullptr;
+    std::optional<LayerSwitches::State> m_beforeClick;
+    std::optional<LayerSwitches::State> m_beforeAlone;
+};
+
+} // namespace gamutviewer
+
+#endif

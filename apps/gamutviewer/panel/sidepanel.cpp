@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "panel/sidepanel.h"
+
+#include "display/chromaticity.h"
+#include "display/valuetexts.h"
+#include "editing/document.h"
+#include "editing/gamutparts.h"
+#include "editing/targetsession.h"
+#include "panel/groupedtable.h"
+#include "panel/targeteditor.h"
+#include "panel/verdict.h"
+
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace gamutviewer {
+
+namespace {
+
+QStringList valueCells(Vertex vertex, const Model::Target &t)
+{
+    const QPointF uv = uvFromXy(xyOf(t));
+    const auto temperature = ceiechart::colorTemperature(xyOf(t));
+    return {ceiechart::gamutVertexName(vertex), luminanceText(t.Y), fixedText(t.x, 4), fixedText(t.y, 4),
+        fixedText(uv.x(), 4), fixedText(uv.y(), 4), temperature ? fixedText(temperature->kelvin, 0) : undefinedText(),
+        temperature ? duvText(*temperature) : undefinedText()};
+}
+
+QStringList coverageCells(const Model::ColorGamut &gamut, const Model::ColorGamut &standard)
+{
+    QStringList cells{QString::fromStdString(standard.colorGamutName())};
+    for (const Model::Diagram diagram : {Model::Diagram::Cie1931, Model::Diagram::Cie1976}) {
+        const Model::GamutCoverage c = Model::gamutCoverage(gamut.getTargets(), standard.getTargets(), diagram);
+        cells << percent(c.coverage) << percent(c.areaRatio);
+    }
+    return cells;
+}
+
+} // namespace
+
+SidePanel::SidePanel(TargetSession *session, QWidget *parent)
+    : QWidget(parent)
+    , m_document(session->document())
+{
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * 0.9);
+    setFont(small);
+    auto *layout = new QVBoxLayout(this);
+    m_verdict = new Verdict(session, this);
+    layout->addWidget(m_verdict);
+    m_editor = new TargetEditor(session, this);
+    layout->addWidget(m_editor);
+
+    m_tabs = new QTabWidget(this);
+    m_tabs->setDocumentMode(true);
+    m_values
+        = new GroupedTable({QString(), tr("Y"), tr("x"), tr("y"), tr("u′"), tr("v′"), tr("CCT"), tr("Duv")}, m_tabs);
+    m_values->setAccessibleName(tr("Colours of all gamuts"));
+    m_coverage
+        = new GroupedTable({tr("Standard"), tr("xy cov."), tr("xy ratio"), tr("u′v′ cov."), tr("u′v′ ratio")}, m_tabs);
+    m_coverage->setAccessibleName(tr("Coverage of the standards"));
+    m_coverage->setToolTip(
+        tr("Coverage: share of the standard's area that the gamut contains. Ratio: area of the gamut divided by that "
+           "of the standard."));
+    m_tabs->addTab(m_values, tr("V&alues"));
+    m_tabs->addTab(m_coverage, tr("Covera&ge"));
+    layout->addWidget(m_tabs, 1);
+
+    connect(m_document, &Document::changed, this, &SidePanel::refresh);
+    refresh();
+}
+
+void SidePanel::refresh()
+{
+    refreshValues();
+    refreshCoverage();
+}
+
+void SidePanel::refreshValues()
+{
+    QVector<GroupedTable::Group> groups;
+    for (const GamutPart &part : gamutParts(m_document->description())) {
+        GroupedTable::Group group{part.title(), {}};
+        for (const Vertex vertex : allVertices) {
+            group.rows.append(valueCells(vertex, targetAt(part.gamut.getTargets(), vertex)));
+        }
+        groups.prepend(group);
+    }
+    m_values->setGroups(groups);
+}
+
+void SidePanel::refreshCoverage()
+{
+    const std::vector<Model::ColorGamut> standards = m_document->description().allStandards();
+    QVector<GroupedTable::Group> groups;
+    for (const GamutPart &part : gamutParts(m_document->description())) {
+        GroupedTable::Group group{part.title(), {}};
+        for (const Model::ColorGamut &standard : standards) {
+            group.rows.append(coverageCells(part.gamut, standard));
+        }
+        groups.prepend(group);
+    }
+    m_coverage->setGroups(groups);
+}
+
+} // namespace gamutviewer

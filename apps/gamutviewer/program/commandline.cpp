@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: MIT
+#include "program/commandline.h"
+
+#include "drawing/documentcontent.h"
+
+#include <QFileInfo>
+#include <QMetaEnum>
+#include <QRegularExpression>
+#include <QVector>
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr double leastRatio = 0.25;
+constexpr double greatestRatio = 16.0;
+const QString keyName = QStringLiteral("key");
+
+struct NamedLayer {
+    QString name;
+    ceiechart::DiagramLayer layer;
+};
+
+//! The layers of a display description, by the library's names for them: "common-area".
+QVector<NamedLayer> namedLayers()
+{
+    QVector<NamedLayer> layers;
+    const auto names = QMetaEnum::fromType<ceiechart::ShownLayers>();
+    for (int i = 0; i < names.keyCount(); ++i) {
+        const auto layer = ceiechart::DiagramLayer(names.value(i));
+        if (layer == ceiechart::DiagramLayer::Trail) {
+            continue; // which is left by editing
+        }
+        QString name;
+        for (const QChar c : QString::fromLatin1(names.key(i))) {
+            if (c.isUpper() && !name.isEmpty()) {
+                name += QLatin1Char('-');
+            }
+            name += c.toLower();
+        }
+        layers.append({name, layer});
+    }
+    return layers;
+}
+
+QString layerNames()
+{
+    QStringList names;
+    for (const NamedLayer &layer : namedLayers()) {
+        names.append(layer.name);
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+CommandLine::CommandLine(const QStringList &arguments)
+{
+    const QCommandLineOption render(QStringLiteral("render"),
+        tr("Write a picture to <file> without opening a window. The suffix selects PNG, SVG or PDF; without one it is "
+           "a PNG."),
+        tr("file"));
+    const QCommandLineOption size(QStringLiteral("size"),
+        tr("Size of the picture in pixels, %1x%2 by default, at most %3 per side. The limit applies to a PNG after "
+           "multiplication by the device pixel ratio. Without --render, the size of the window.")
+            .arg(m_extent.size.width())
+            .arg(m_extent.size.height())
+            .arg(maximumPictureSide),
+        tr("width>x<height"));
+    const QCommandLineOption ratio(QStringLiteral("dpr"),
+        tr("Device pixel ratio of the written picture, %1 to %2, 1 by default. A PNG has this many times the pixels in "
+           "each direction. Requires --render.")
+            .arg(leastRatio)
+            .arg(greatestRatio),
+        tr("ratio"));
+    const QCommandLineOption diagram(QStringLiteral("diagram"),
+        tr("What the picture shows: the diagram xy (the default), uv (CIE 1976 u', v') or uv1960, or chart, the "
+           "library's own chart, as PNG. Requires --render."),
+        tr("diagram"));
+    const QCommandLineOption part(QStringLiteral("view"),
+        tr("Part of the diagram: all (the default), target, or white, the surroundings of the target's white. Requires "
+           "--render."),
+        tr("part"));
+    const QCommandLineOption layers(QStringLiteral("layers"),
+        tr("Layers of the diagram, separated by commas; a - before a name leaves that layer out, and a name can be "
+           "shortened: all, none, key, %1. Requires --render.")
+            .arg(layerNames()),
+        tr("list"));
+    const QCommandLineOption report(QStringLiteral("report"),
+        tr("Print coverage, colour temperatures and validity without opening a window. The only format is json."),
+        tr("format"));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Print this help text."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Print the version."));
+
+    m_parser.setApplicationDescription(
+        tr("Shows and edits the colour gamuts of a display on CIE chromaticity diagrams.\n\n"
+           "Exit status: 0 success, 1 the picture or the report could not be shown or written, 2 invalid arguments or "
+           "files.\n"
+           "Each error is one line on standard error."));
+    m_parser.addPositionalArgument(tr("file"),
+        tr("Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any "
+           "number of the others, which are added to it. Without files, a sample is opened."),
+        tr("[file...]"));
+    m_parser.addOptions({render, diagram, part, layers, size, ratio, report, help, version});
+
+    const bool understood = m_parser.parse(arguments);
+    m_needsDisplay
+        = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(help) && !m_parser.isSet(version);
+    if (m_parser.isSet(help)) {
+        m_action = Action::Help;
+        return;
+    }
+    if (m_parser.isSet(version)) {
+        m_action = Action::Version;
+        return;
+    }
+    if (!understood) {
+        refuse(m_parser.errorText());
+        return;
+    }
+    if (!m_needsDisplay) {
+        m_action = Action::Write;
+    }
+    readFiles();
+    if (m_parser.isSet(size)) {
+        readSize(m_parser.value(size));
+    }
+    if (m_parser.isSet(ratio)) {
+        readRatio(m_parser.value(ratio));
+    }
+    if (m_parser.isSet(diagram)) {
+        readDiagram(m_parser.value(diagram));
+    }
+    if (m_parser.isSet(part)) {
+        readPart(m_parser.value(part));
+    }
+    if (m_parser.isSet(layers)) {
+        readLayers(m_parser.value(layers));
+    }
+    for (const QCommandLineOption *option : {&ratio, &diagram, &part, &layers}) {
+        const QString name = option->names().first();
+        if (m_parser.isSet(*option) && !m_parser.isSet(render)) {
+            refuse(tr("--%1 requires --render.").arg(name));
+        }
+        if (m_isLibraryChart && option != &diagram && m_parser.isSet(*option)) {
+            refuse(tr("--%1 does not apply to --diagram chart.").arg(name));
+        }
+    }
+    if (m_parser.isSet(size) && m_parser.isSet(report) && !m_parser.isSet(render)) {
+        refuse(tr("--size requires --render when used with --report."));
+    }
+    if (m_parser.isSet(render)) {
+        readPicture(m_parser.value(render));
+    }
+    if (m_parser.isSet(report)) {
+        readReport(m_parser.value(report));
+    }
+}
+
+//! Only the first reason counts.
+void CommandLine::refuse(const QString &error)
+{
+    if (m_action != Action::Refuse) {
+        m_action = Action::Refuse;
+        m_error = error;
+    }
+}
+
+void CommandLine::readFiles()
+{
+    m_files = m_parser.positionalArguments();
+    if (m_files.contains(QString())) {
+        refuse(tr("An input file name is empty."));
+    }
+}
+
+void CommandLine::readPicture(const QString &fileName)
+{
+    m_pictureFile = fileName;
+    if (fileName.isEmpty()) {
+        refuse(tr("The file name of --render is empty."));
+        return;
+    }
+    const auto format = gamutviewer::pictureFormat(fileName);
+    if (!format && !QFileInfo(fileName).suffix().isEmpty()) {
+        refuse(tr("Unsupported picture format, expected png, svg or pdf: %1").arg(fileName));
+        return;
+    }
+    m_pictureFormat = format.value_or(PictureFormat::Png);
+    if (m_isLibraryChart && m_pictureFormat != PictureFormat::Png) {
+        refuse(tr("--diagram chart is written as png only: %1").arg(fileName));
+    }
+    const double side = std::max(m_extent.size.width(), m_extent.size.height()) * m_extent.devicePixelRatio;
+    if (m_pictureFormat == PictureFormat::Png && side >= maximumPictureSide + 0.5) {
+        refuse(tr("The picture would have more than %1 pixels per side.").arg(maximumPictureSide));
+    }
+}
+
+void CommandLine::readSize(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("\\A([0-9]{1,6})x([0-9]{1,6})\\z"));
+    const QRegularExpressionMatch match = form.match(text);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    const auto isSide = [](int side) { return side >= 1 && side <= maximumPictureSide; };
+    if (!match.hasMatch() || !isSide(size.width()) || !isSide(size.height())) {
+        refuse(tr("Invalid size, expected 1x1 to %1x%1: %2").arg(maximumPictureSide).arg(text));
+        return;
+    }
+    m_extent.size = size;
+    m_hasSize = true;
+}
+
+void CommandLine::readRatio(const QString &text)
+{
+    bool ok = false;
+    const double ratio = text.toDouble(&ok);
+    if (!ok || !(ratio >= leastRatio && ratio <= greatestRatio)) {
+        refuse(tr("Invalid device pixel ratio, expected %1 to %2: %3").arg(leastRatio).arg(greatestRatio).arg(text));
+        return;
+    }
+    m_extent.devicePixelRatio = ratio;
+}
+
+void CommandLine::readDiagram(const QString &name)
+{
+    m_isLibraryChart = name == QLatin1String("chart");
+    if (name == QLatin1String("uv")) {
+        m_diagram = Model::Diagram::Cie1976;
+    } else if (name == QLatin1String("uv1960")) {
+        m_diagram = Model::Diagram::Cie1960;
+    } else if (name != QLatin1String("xy") && !m_isLibraryChart) {
+        refuse(tr("Unknown diagram, expected xy, uv, uv1960 or chart: %1").arg(name));
+    }
+}
+
+void CommandLine::readPart(const QString &name)
+{
+    if (name == QLatin1String("target")) {
+        m_part = Part::Target;
+    } else if (name == QLatin1String("white")) {
+        m_part = Part::White;
+    } else if (name != QLatin1String("all")) {
+        refuse(tr("Unknown view, expected all, target or white: %1").arg(name));
+    }
+}
+
+void CommandLine::readLayers(const QString &list)
+{
+    using ceiechart::ShownLayers;
+    const QVector<NamedLayer> known = namedLayers();
+    // A list of what to leave out leaves the rest as it is.
+    m_layers = list.startsWith(QLatin1Char('-')) ? ceiechart::allDiagramLayers : ShownLayers();
+    for (const QString &item : list.split(QLatin1Char(','))) {
+        const bool isShown = !item.startsWith(QLatin1Char('-'));
+        const QString name = isShown ? item : item.mid(1);
+        if (item == QLatin1String("all") || item == QLatin1String("none")) {
+            m_layers = item == QLatin1String("all") ? ceiechart::allDiagramLayers : ShownLayers();
+            continue;
+        }
+        if (name == keyName) {
+            m_hasKey = isShown;
+            continue;
+        }
+        QVector<NamedLayer> meant;
+        std::copy_if(known.begin(), known.end(), std::back_inserter(meant),
+            [&name](const NamedLayer &layer) { return !name.isEmpty() && layer.name.startsWith(name); });
+        const auto exact
+            = std::find_if(meant.begin(), meant.end(), [&name](const NamedLayer &layer) { return layer.name == name; });
+        if (exact == meant.end() && meant.size() != 1) {
+            refuse(tr("Unknown layer, expected all, none, key, %1: %2").arg(layerNames(), item));
+            return;
+        }
+        m_layers.setFlag(exact == meant.end() ? meant.first().layer : exact->layer, isShown);
+    }
+}
+
+void CommandLine::readReport(const QString &format)
+{
+    m_wantsReport = format == QLatin1String("json");
+    if (!m_wantsReport) {
+        refuse(tr("Unsupported report format, expected json: %1").arg(format));
+    }
+}
+
+Picture CommandLine::picture(const DisplayDescription &description) const
+{
+    Picture picture;
+    picture.content = documentContent(description);
+    picture.content.layers = m_layers;
+    picture.hasKey = m_hasKey;
+    picture.isLibraryChart = m_isLibraryChart;
+    picture.view = ceiechart::DiagramViewport(m_diagram, m_extent.size);
+    if (const ceiechart::DiagramGamut *target = picture.content.find(ceiechart::GamutRole::Target)) {
+        const Model::Targets &targets = target->gamut.getTargets();
+        if (m_part == Part::Target) {
+            picture.view = picture.view.fittedTo(targets);
+        } else if (m_part == Part::White) {
+            picture.view = picture.view.fittedToWhite(QPointF(targets.white.x, targets.white.y));
+        }
+    }
+    return picture;
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_COMMANDLINE_H
+#define GAMUTVIEWER_COMMANDLINE_H
+
+#include "display/displaydescription.h"
+#include "drawing/picture.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+
+namespace gamutviewer {
+
+/*! \brief What the program was asked to do. */
+class CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(gamutviewer::CommandLine)
+
+public:
+    enum class Action {
+        Show,
+        Write, //!< a picture, a report or both, and no window
+        Help,
+        Version,
+        Refuse
+    };
+
+    /*! \brief Reads \a arguments, the first of which is the program itself. There need be no application yet. */
+    explicit CommandLine(const QStringList &arguments);
+
+    Action action() const { return m_action; }
+    /*! \brief Why the arguments were refused. */
+    QString error() const { return m_error; }
+    /*! \brief The files to open; empty for the sample. */
+    QStringList files() const { return m_files; }
+    /*! \brief Where Write writes the picture to; empty for no picture. */
+    QString pictureFile() const { return m_pictureFile; }
+    PictureFormat pictureFormat() const { return m_pictureFormat; }
+    /*! \brief Of the picture, or of the window. */
+    const PictureExtent &extent() const { return m_extent; }
+    /*! \brief What Write writes of \a description. */
+    Picture picture(const DisplayDescription &description) const;
+    /*! \brief Whether a size was asked for; otherwise a window may have the one that it had. */
+    bool hasSize() const { return m_hasSize; }
+    /*! \brief Whether Write writes the report to the standard output. */
+    bool wantsReport() const { return m_wantsReport; }
+    /*! \brief Needs the application to exist. */
+    QString helpText() const { return m_parser.helpText(); }
+    /*! \brief Whether a window is wanted; also known of refused arguments. */
+    bool needsDisplay() const { return m_needsDisplay; }
+
+private:
+    enum class Part { All, Target, White };
+
+    void refuse(const QString &error);
+    void readFiles();
+    void readPicture(const QString &fileName);
+    void readSize(const QString &text);
+    void readRatio(const QString &text);
+    void readDiagram(const QString &name);
+    void readPart(const QString &name);
+    void readLayers(const QString &list);
+    void readReport(const QString &format);
+
+    QCommandLineParser m_parser;
+    Action m_action = Action::Show;
+    QString m_error;
+    QStringList m_files;
+    QString m_pictureFile;
+    PictureFormat m_pictureFormat = PictureFormat::Png;
+    PictureExtent m_extent;
+    Model::Diagram m_diagram = Model::Diagram::Cie1931;
+    bool m_isLibraryChart = false;
+    Part m_part = Part::All;
+    ceiechart::ShownLayers m_layers = ceiechart::allDiagramLayers;
+    bool m_hasKey = true;
+    bool m_hasSize = false;
+    bool m_wantsReport = false;
+    bool m_needsDisplay = true;
+};
+
+} // namespace gamutviewer
+
+#endif

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "window/comparepage.h"
+
+#include "display/valuetexts.h"
+#include "drawing/documentview.h"
+#include "drawing/layerswitches.h"
+#include "editing/document.h"
+#include "editing/gamutparts.h"
+#include "editing/targetsession.h"
+#include "panel/copytable.h"
+
+#include <gamutmodel/gamutcoverage.h>
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace gamutviewer {
+
+namespace {
+
+enum Row { RedRow, GreenRow, BlueRow, WhiteRow, TemperatureRow, DuvRow, LuminanceRow, AreaXyRow, AreaUvRow, RowCount };
+
+QString pairText(const QPointF &point)
+{
+    return QStringLiteral("%1, %2").arg(fixedText(point.x(), 4), fixedText(point.y(), 4));
+}
+
+} // namespace
+
+ComparePage::ComparePage(TargetSession *session, QWidget *parent)
+    : Page(session->document(), parent)
+{
+    auto *layout = new QVBoxLayout(this);
+    m_table = new CopyTable(RowCount, 0, this);
+    m_table->setAccessibleName(tr("Gamuts side by side"));
+    m_table->setVerticalHeaderLabels({tr("Red"), tr("Green"), tr("Blue"), tr("White"), tr("CCT"), tr("Duv"),
+        tr("Luminance"), tr("Area x, y"), tr("Area u′, v′")});
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * 0.85);
+    m_table->setFont(small);
+    m_table->horizontalHeader()->setFont(small);
+    m_table->verticalHeader()->setFont(small);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectColumns);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->verticalHeader()->setHighlightSections(false);
+    m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2);
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    layout->addWidget(m_table);
+
+    m_loss = new QLabel(this);
+    m_loss->setAccessibleName(tr("Part of the original that the target does not use"));
+    m_loss->setWordWrap(true);
+    m_loss->setTextFormat(Qt::PlainText);
+    m_loss->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addWidget(m_loss);
+
+    using ceiechart::DiagramLayer;
+    m_switches = new LayerSwitches(this);
+    LayerSwitches::State state;
+    state.layers &= ~(DiagramLayer::Isotherms | DiagramLayer::Wavelengths | DiagramLayer::Rings | DiagramLayer::Trail
+        | DiagramLayer::Standards);
+    m_switches->setState(state);
+    auto *diagrams = new QHBoxLayout;
+    m_xy = new DocumentView(session, m_switches, this);
+    m_xy->setAccessibleName(tr("CIE 1931 x, y diagram"));
+    m_uv = new DocumentView(session, m_switches, this);
+    m_uv->setAccessibleName(tr("CIE 1976 u′, v′ diagram"));
+    m_uv->setDiagram(ceiechart::DiagramView::Cie1976);
+    for (DocumentView *diagram : {m_xy, m_uv}) {
+        diagram->setReadOnly(true);
+        diagrams->addWidget(diagram);
+        connect(diagram, &ceiechart::DiagramView::hovered, this, &Page::pointedAt);
+        connect(diagram, &ceiechart::DiagramView::hoverEnded, this, &Page::pointerLeft);
+    }
+    layout->addLayout(diagrams, 1);
+    setFocusInside(m_table);
+}
+
+void ComparePage::setCell(int row, int column, const QString &text)
+{
+    QTableWidgetItem *cell = m_table->item(row, column);
+    if (!cell) {
+        cell = new QTableWidgetItem;
+        cell->setTextAlignment(Qt::AlignCenter);
+        m_table->setItem(row, column, cell);
+    }
+    cell->setText(text);
+}
+
+void ComparePage::refresh()
+{
+    const QVector<GamutPart> parts = gamutParts(document()->description());
+    m_table->setColumnCount(parts.size());
+    for (int column = 0; column < parts.size(); ++column) {
+        const GamutPart &part = parts.at(column);
+        auto *header = new QTableWidgetItem(part.title());
+        header->setToolTip(part.title());
+        m_table->setHorizontalHeaderItem(column, header);
+        const Model::Targets &t = part.gamut.getTargets();
+        for (const Vertex vertex : allVertices) {
+            setCell(RedRow + int(vertex), column, pairText(xyOf(targetAt(t, vertex))));
+        }
+        const auto white = ceiechart::colorTemperature(xyOf(t.white));
+        setCell(TemperatureRow, column, white ? temperatureText(*white) : undefinedText());
+        setCell(DuvRow, column, white ? duvText(*white) : undefinedText());
+        setCell(LuminanceRow, column, luminanceText(t.white.Y));
+        setCell(AreaXyRow, column, QString::number(Model::gamutArea(t, Model::Diagram::Cie1931), 'f', 5));
+        setCell(AreaUvRow, column, QString::number(Model::gamutArea(t, Model::Diagram::Cie1976), 'f', 5));
+    }
+
+    m_table->setFixedHeight(m_table->horizontalHeader()->sizeHint().height() + m_table->verticalHeader()->length()
+        + 2 * m_table->frameWidth());
+
+    const auto original = document()->original();
+    const auto target = document()->target();
+    m_loss->setVisible(original && target);
+    if (original && target) {
+        m_loss->setText(
+            tr("The target leaves %1 of the original's area in x, y and %2 in u′, v′ unused (hatched).")
+                .arg(percent(lostShare(original->getTargets(), target->getTargets(), Model::Diagram::Cie1931)),
+                    percent(lostShare(original->getTargets(), target->getTargets(), Model::Diagram::Cie1976))));
+    }
+    m_xy->refresh();
+    m_uv->refresh();
+}
+
+} // namespace gamutviewer

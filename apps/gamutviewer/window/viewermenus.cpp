@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#include "display/openfile.h"
+#include "editing/targetsession.h"
+#include "panel/sidepanel.h"
+#include "panel/targeteditor.h"
+#include "window/diagrampage.h"
+#include "window/exportdialog.h"
+#include "window/recentfiles.h"
+#include "window/viewerwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QTabWidget>
+
+namespace gamutviewer {
+
+namespace {
+
+QString menuText(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+template <typename Slot>
+QAction *addItem(QMenu *menu, const QString &text, const QKeySequence &shortcut, ViewerWindow *window, Slot slot)
+{
+    QAction *action = menu->addAction(text, window, slot);
+    action->setShortcut(shortcut);
+    return action;
+}
+
+} // namespace
+
+void ViewerWindow::buildMenus()
+{
+    buildFileMenu();
+    buildEditMenu();
+    buildViewMenu();
+    buildHelpMenu();
+}
+
+void ViewerWindow::buildFileMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&File"));
+    addItem(menu, tr("&Open…"), QKeySequence::Open, this, &ViewerWindow::open);
+    m_recentMenu = menu->addMenu(tr("Open &recent"));
+    connect(m_recentMenu, &QMenu::aboutToShow, this, &ViewerWindow::fillRecentMenu);
+    menu->addSeparator();
+    addItem(menu, tr("&Save"), QKeySequence::Save, this, &ViewerWindow::save);
+    addItem(menu, tr("Save &as…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, this, &ViewerWindow::saveAs);
+    menu->addSeparator();
+    addItem(menu, tr("&Export picture…"), Qt::CTRL | Qt::Key_E, this, &ViewerWindow::exportByDialog);
+    menu->addSeparator();
+    QAction *close = menu->addAction(tr("&Quit"), this, &QWidget::close);
+    close->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence(Qt::CTRL | Qt::Key_W)});
+}
+
+void ViewerWindow::buildEditMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Edit"));
+    const auto nameAfter = [](QAction *action, const QString &verb, const QString &step) {
+        action->setText(
+            step.isEmpty() ? verb : tr("%1 (%2)", "verb and step of the history").arg(verb, menuText(step)));
+    };
+    QUndoStack *history = m_document.history();
+    QAction *undoAction = addItem(menu, tr("&Undo"), QKeySequence::Undo, this, &ViewerWindow::undo);
+    undoAction->setEnabled(false);
+    connect(history, &QUndoStack::canUndoChanged, undoAction, &QAction::setEnabled);
+    connect(history, &QUndoStack::undoTextChanged, undoAction,
+        [=](const QString &step) { nameAfter(undoAction, tr("&Undo"), step); });
+    QAction *redoAction = menu->addAction(tr("&Redo"), this, &ViewerWindow::redo);
+    redoAction->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    redoAction->setEnabled(false);
+    connect(history, &QUndoStack::canRedoChanged, redoAction, &QAction::setEnabled);
+    connect(history, &QUndoStack::redoTextChanged, redoAction,
+        [=](const QString &step) { nameAfter(redoAction, tr("&Redo"), step); });
+    menu->addSeparator();
+    const auto addRule
+        = [&](const QString &text, void (TargetSession::*set)(bool), bool (TargetSession::*get)() const) {
+              QAction *action = menu->addAction(text);
+              action->setCheckable(true);
+              action->setChecked((m_session->*get)());
+              connect(action, &QAction::toggled, m_session, set);
+              connect(m_session, &TargetSession::rulesChanged, action,
+                  [this, action, get] { action->setChecked((m_session->*get)()); });
+          };
+    addRule(tr("Hold &white"), &TargetSession::setHoldWhite, &TargetSession::holdWhite);
+    addRule(tr("&Lock primaries"), &TargetSession::setLockPrimaries, &TargetSession::lockPrimaries);
+    addRule(tr("&Snap"), &TargetSession::setSnaps, &TargetSession::snaps);
+    menu->addSeparator();
+    addItem(menu, tr("&Copy picture"), Qt::CTRL | Qt::SHIFT | Qt::Key_C, this, &ViewerWindow::copyPicture);
+}
+
+void ViewerWindow::buildViewMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&View"));
+    for (int page = 0; page < m_pages->count(); ++page) {
+        addItem(menu, m_pages->tabText(page), Qt::CTRL | Qt::Key(Qt::Key_1 + page), this, [this, page] {
+            m_pages->setCurrentIndex(page);
+            m_pages->currentWidget()->setFocus();
+        });
+    }
+    menu->addSeparator();
+    menu->addActions(m_diagramPage->actions());
+}
+
+void ViewerWindow::buildHelpMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Help"));
+    addItem(menu, tr("&Keys"), QKeySequence::HelpContents, this, &ViewerWindow::showKeys);
+    menu->addAction(tr("&About"), this, &ViewerWindow::about);
+}
+
+void ViewerWindow::open()
+{
+    const QString fileName = QFileDialog::getOpenFileName(this, tr("Open"), QFileInfo(m_document.fileName()).path(),
+        tr("Displays and gamuts (%1)").arg(openFilePatterns().join(QLatin1Char(' '))) + QStringLiteral(";;")
+            + tr("All files (*)"));
+    if (!fileName.isEmpty()) {
+        openPath(fileName);
+    }
+}
+
+bool ViewerWindow::save()
+{
+    return m_document.fileName().isEmpty() ? saveAs() : saveTo(m_document.fileName());
+}
+
+bool ViewerWindow::saveAs()
+{
+    QFileDialog dialog(
+        this, tr("Save as"), QFileInfo(m_document.fileName()).path(), tr("Display descriptions (*.json)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("json"));
+    dialog.selectFile(QFileInfo(m_document.fileName()).fileName());
+    return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().constFirst());
+}
+
+void ViewerWindow::exportByDialog()
+{
+    m_panel->editor()->takeTyped();
+    ExportDialog picture(currentPage()->picture(), this);
+    if (picture.exec() != QDialog::Accepted) {
+        return;
+    }
+    const QString suffix = pictureSuffix(picture.format());
+    QFileDialog dialog(this, tr("Export picture"), QString(), tr("Pictures (*.%1)").arg(suffix));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    if (dialog.exec() == QDialog::Accepted) {
+        exportTo(dialog.selectedFiles().constFirst(), picture.picture(), picture.extent());
+    }
+}
+
+void ViewerWindow::fillRecentMenu()
+{
+    m_recentMenu->clear();
+    const QStringList files = RecentFiles::list();
+    for (const QString &file : files) {
+        QAction *action
+            = m_recentMenu->addAction(menuText(QFileInfo(file).fileName()), this, [this, file] { openPath(file); });
+        action->setToolTip(file);
+        action->setStatusTip(file);
+    }
+    if (files.isEmpty()) {
+        m_recentMenu->addAction(tr("None"))->setEnabled(false);
+        return;
+    }
+    m_recentMenu->addSeparator();
+    m_recentMenu->addAction(tr("&Clear"), [] { RecentFiles::clear(); });
+}
+
+void ViewerWindow::undo()
+{
+    // In the middle of a drag there is a step that the history does not have yet.
+    if (m_document.isDragging()) {
+        m_session->cancelDrag();
+    } else {
+        m_document.breakMerging();
+        m_document.history()->undo();
+    }
+}
+
+void ViewerWindow::redo()
+{
+    if (!m_document.isDragging()) {
+        m_document.breakMerging();
+        m_document.history()->redo();
+    }
+}
+
+void ViewerWindow::showKeys()
+{
+    QMessageBox box(QMessageBox::NoIcon, tr("Keys"), QString(), QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(tr("Diagram:\n"
+                   "Wheel, + and − – zoom about the pointer; 0 – all of it\n"
+                   "Drag on free ground, middle button, Alt+arrows – move the view\n"
+                   "R, G, B, W or Tab – select a primary or the white\n"
+                   "Drag or arrow keys – move it; with Shift a tenth as far\n"
+                   "Ctrl – towards the white; the white at its colour temperature\n"
+                   "Alt – along an axis; Ctrl+Alt – without snapping\n"
+                   "Esc – cancel a drag\n\n"
+                   "Key:\n"
+                   "Click or Space – show or hide an entry\n"
+                   "Double click or Return – show it alone\n\n"
+                   "Numbers:\n"
+                   "Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps\n"
+                   "Esc – restore the value of the target\n\n"
+                   "Tables:\n"
+                   "Ctrl+C – copy all of the table\n\n"
+                   "Ctrl+1 to Ctrl+3 – show a page"));
+    box.exec();
+}
+
+void ViewerWindow::about()
+{
+    QMessageBox::about(this, tr("About the gamut viewer"),
+        tr("Gamut viewer %1\n\nShows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.")
+            .arg(QApplication::applicationVersion()));
+}
+
+} // namespace gamutviewer

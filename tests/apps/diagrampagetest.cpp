@@ -1,0 +1,415 @@
+// SPDX-License-Identifier: MIT
+#include "windowfixture.h"
+
+#include "drawing/layerswitches.h"
+#include "editing/targetsession.h"
+#include "panel/layerkey.h"
+#include "panel/sidepanel.h"
+#include "panel/targeteditor.h"
+#include "panel/verdict.h"
+#include "window/lens.h"
+
+#include <QAccessible>
+#include <QActionGroup>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QtTest>
+
+using namespace gamutviewer;
+using ceiechart::DiagramLayer;
+using ceiechart::GamutRole;
+
+class DiagramPageTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aDragIsOneStep();
+    void panelAndVerdictFollowADrag();
+    void escapeCancelsADrag();
+    void undoInADragEndsIt();
+    void arrowKeysMove();
+    void shiftIsSlow();
+    void heldAndLockedAreRefused();
+    void selectionIsShared();
+    void lensMovesTheWhite();
+    void lensFollowsTheWhite();
+    void lensMakesRoom();
+    void diagramIsSwitched();
+    void viewsOfTheDiagram();
+    void keySwitchesLayers_data();
+    void keySwitchesLayers();
+    void doubleClickShowsAlone();
+    void returnShowsAlone();
+    void colorsAreSwitched();
+    void standardsAreThoseOfTheDescription();
+    void keySpeaks();
+    void targetIsMovedInside();
+};
+
+namespace {
+
+DocumentView *view(const WindowFixture &f)
+{
+    return f.window->diagramPage()->view();
+}
+
+LayerKey *key(const WindowFixture &f)
+{
+    return f.window->diagramPage()->key();
+}
+
+QPoint middleOf(const LayerKey *key, const QListWidgetItem *entry)
+{
+    return key->visualItemRect(entry).center();
+}
+
+} // namespace
+
+void DiagramPageTest::aDragIsOneStep()
+{
+    WindowFixture f;
+    f.window->session()->setSnaps(false);
+    DiagramPointer pointer(view(f));
+    const QPointF from = f.xy(Vertex::Green);
+    pointer.drag(from, QPointF(0.30, 0.60));
+    QVERIFY(qAbs(f.xy(Vertex::Green).x() - 0.30) < 2.0 * pointer.pixel());
+    QVERIFY(qAbs(f.xy(Vertex::Green).y() - 0.60) < 2.0 * pointer.pixel());
+    QCOMPARE(f.document().history()->count(), 1);
+    // To the digits that are shown.
+    QCOMPARE(QString::number(f.xy(Vertex::Green).x(), 'f', 4).toDouble(), f.xy(Vertex::Green).x());
+    QTest::keyClick(f.window.get(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(f.xy(Vertex::Green), from);
+    QVERIFY(!f.window->isWindowModified());
+    QCOMPARE(view(f)->gamut(GamutRole::Target)->getTargets().green.x, from.x());
+}
+
+void DiagramPageTest::panelAndVerdictFollowADrag()
+{
+    WindowFixture f;
+    f.window->session()->reset(QStringLiteral("LED wall"));
+    QVERIFY(f.window->panel()->verdict()->text().startsWith(QString::fromUtf8("✓")));
+    DiagramPointer pointer(view(f));
+    pointer.press(f.xy(Vertex::Green));
+    pointer.move(QPointF(0.10, 0.78));
+    // Before the button is up.
+    const Verdict *verdict = f.window->panel()->verdict();
+    QVERIFY(verdict->text().startsWith(QString::fromUtf8("✗")));
+    QVERIFY(verdict->text().contains(QLatin1String("green")));
+    QCOMPARE(verdict->accessibleName(), verdict->text());
+    QCOMPARE(f.window->panel()->editor()->firstCoordinate(Vertex::Green)->value(), f.xy(Vertex::Green).x());
+    QVERIFY(view(f)->editNote().contains(QLatin1String("outside")));
+    pointer.release(QPointF(0.10, 0.78));
+}
+
+void DiagramPageTest::escapeCancelsADrag()
+{
+    WindowFixture f;
+    view(f)->setFocus();
+    const QPointF before = f.xy(Vertex::Green);
+    DiagramPointer pointer(view(f));
+    pointer.press(before);
+    pointer.move(QPointF(0.3, 0.6));
+    QVERIFY(f.xy(Vertex::Green) != before);
+    QTest::keyClick(view(f), Qt::Key_Escape);
+    QCOMPARE(f.xy(Vertex::Green), before);
+    pointer.move(QPointF(0.35, 0.5));
+    pointer.release(QPointF(0.35, 0.5));
+    QCOMPARE(f.xy(Vertex::Green), before);
+    QCOMPARE(f.document().history()->count(), 0);
+    QVERIFY(!f.document().isDragging());
+}
+
+void DiagramPageTest::undoInADragEndsIt()
+{
+    WindowFixture f;
+    QVERIFY(f.window->session()->setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    const QPointF before = f.xy(Vertex::Green);
+    DiagramPointer pointer(view(f));
+    pointer.press(before);
+    pointer.move(QPointF(0.3, 0.6));
+    QTest::keyClick(f.window.get(), Qt::Key_Z, Qt::ControlModifier);
+    // The drag is the last thing done; the step before it stays.
+    QCOMPARE(f.xy(Vertex::Green), before);
+    QCOMPARE(f.xy(Vertex::Red).x(), 0.66);
+    QVERIFY(!view(f)->isEditing());
+    pointer.move(QPointF(0.35, 0.5));
+    pointer.release(QPointF(0.35, 0.5));
+    QCOMPARE(f.xy(Vertex::Green), before);
+    QCOMPARE(f.document().history()->count(), 1);
+}
+
+void DiagramPageTest::arrowKeysMove()
+{
+    WindowFixture f;
+    view(f)->setFocus();
+    QTest::keyClick(view(f), Qt::Key_B);
+    QCOMPARE(f.window->session()->selected(), Vertex::Blue);
+    const QPointF before = f.xy(Vertex::Blue);
+    QTest::keyClick(view(f), Qt::Key_Right);
+    QVERIFY(f.xy(Vertex::Blue).x() > before.x());
+    QCOMPARE(f.xy(Vertex::Blue).y(), before.y());
+    QCOMPARE(f.document().history()->count(), 1);
+    f.document().history()->undo();
+    QCOMPARE(f.xy(Vertex::Blue), before);
+}
+
+void DiagramPageTest::shiftIsSlow()
+{
+    WindowFixture f;
+    view(f)->setFocus();
+    QTest::keyClick(view(f), Qt::Key_B);
+    const double start = f.xy(Vertex::Blue).x();
+    QTest::keyClick(view(f), Qt::Key_Right);
+    const double step = f.xy(Vertex::Blue).x() - start;
+    QTest::keyClick(view(f), Qt::Key_Right, Qt::ShiftModifier);
+    QVERIFY(qAbs(f.xy(Vertex::Blue).x() - start - 1.1 * step) < 1e-9);
+}
+
+void DiagramPageTest::heldAndLockedAreRefused()
+{
+    WindowFixture f;
+    f.window->session()->setLockPrimaries(true);
+    DiagramPointer pointer(view(f));
+    const QPointF green = f.xy(Vertex::Green);
+    pointer.drag(green, QPointF(0.3, 0.6));
+    QCOMPARE(f.xy(Vertex::Green), green);
+    QVERIFY(!f.window->statusBar()->currentMessage().isEmpty());
+    f.window->session()->setLockPrimaries(false);
+    f.window->session()->setHoldWhite(true);
+    const QPointF white = f.xy(Vertex::White);
+    pointer.drag(white, QPointF(0.33, 0.36));
+    QCOMPARE(f.xy(Vertex::White), white);
+    // The white stays while a primary is moved.
+    pointer.drag(green, QPointF(0.3, 0.6));
+    QVERIFY(f.xy(Vertex::Green) != green);
+    QVERIFY(qAbs(f.xy(Vertex::White).x() - white.x()) < 1e-9);
+}
+
+void DiagramPageTest::selectionIsShared()
+{
+    WindowFixture f;
+    f.window->panel()->editor()->firstCoordinate(Vertex::Blue)->setFocus();
+    QCOMPARE(view(f)->selectedVertex(), std::make_optional(Vertex::Blue));
+    view(f)->setFocus();
+    QTest::keyClick(view(f), Qt::Key_W);
+    QCOMPARE(f.window->session()->selected(), Vertex::White);
+    QCOMPARE(f.window->diagramPage()->lens()->view()->selectedVertex(), std::make_optional(Vertex::White));
+}
+
+void DiagramPageTest::lensMovesTheWhite()
+{
+    WindowFixture f;
+    f.window->session()->setSnaps(false);
+    DocumentView *lens = f.window->diagramPage()->lens()->view();
+    DiagramPointer pointer(lens);
+    const QPointF white = f.xy(Vertex::White);
+    const QPointF to = white + QPointF(0.002, 0.001);
+    pointer.drag(white, to);
+    // Far finer than in the diagram that it lies on.
+    QVERIFY(pointer.pixel() < 0.2 * DiagramPointer(view(f)).pixel());
+    QVERIFY(qAbs(f.xy(Vertex::White).x() - to.x()) < 2.0 * pointer.pixel() + 1e-4);
+    QCOMPARE(f.document().history()->count(), 1);
+    QCOMPARE(view(f)->gamut(GamutRole::Target)->getTargets().white.x, f.xy(Vertex::White).x());
+    lens->setFocus();
+    QTest::keyClick(lens, Qt::Key_W);
+    const QPointF before = f.xy(Vertex::White);
+    QTest::keyClick(lens, Qt::Key_Up);
+    QVERIFY(f.xy(Vertex::White).y() > before.y());
+}
+
+void DiagramPageTest::lensFollowsTheWhite()
+{
+    WindowFixture f;
+    const DocumentView *lens = f.window->diagramPage()->lens()->view();
+    for (const double kelvin : {7000.0, 3500.0}) {
+        QVERIFY(f.window->session()->setWhiteTemperature(kelvin, 0.0));
+        QVERIFY(lens->viewport().plot().contains(lens->viewport().toPosition(f.xy(Vertex::White))));
+        QVERIFY(lens->accessibleDescription().contains(QStringLiteral("%1 K").arg(kelvin)));
+    }
+}
+
+void DiagramPageTest::lensMakesRoom()
+{
+    WindowFixture f;
+    Lens *lens = f.window->diagramPage()->lens();
+    DiagramPointer pointer(view(f));
+    pointer.press(f.xy(Vertex::Green));
+    pointer.move(QPointF(0.45, 0.75));
+    QVERIFY(!lens->isVisible());
+    pointer.release(QPointF(0.45, 0.75));
+    QVERIFY(lens->isVisible());
+    f.window->diagramPage()->lensAction()->trigger();
+    QVERIFY(!lens->isVisible());
+    pointer.drag(f.xy(Vertex::Green), QPointF(0.3, 0.6));
+    QVERIFY(!lens->isVisible());
+}
+
+void DiagramPageTest::diagramIsSwitched()
+{
+    WindowFixture f;
+    const QList<QAction *> diagrams = f.window->diagramPage()->diagrams()->actions();
+    const Model::Diagram expected[] = {Model::Diagram::Cie1931, Model::Diagram::Cie1976, Model::Diagram::Cie1960};
+    QCOMPARE(diagrams.size(), 3);
+    for (int i = 2; i >= 0; --i) {
+        diagrams.at(i)->trigger();
+        QCOMPARE(view(f)->diagram(), expected[i]);
+        QCOMPARE(f.window->diagramPage()->lens()->view()->diagram(), expected[i]);
+        QVERIFY(diagrams.at(i)->isChecked());
+        // The lens covers no handle.
+        const QRect lens = f.window->diagramPage()->lens()->geometry();
+        for (const Vertex vertex : allVertices) {
+            QVERIFY(!lens.contains(view(f)->viewport().toPosition(f.xy(vertex)).toPoint()));
+        }
+    }
+}
+
+void DiagramPageTest::viewsOfTheDiagram()
+{
+    WindowFixture f;
+    const auto trigger = [&](const QString &text) {
+        for (QAction *action : f.window->diagramPage()->actions()) {
+            if (action->text() == text) {
+                action->trigger();
+            }
+        }
+    };
+    trigger(QStringLiteral("White"));
+    const double white = view(f)->zoomFactor();
+    QVERIFY(white > 10.0);
+    trigger(QStringLiteral("Target"));
+    QVERIFY(view(f)->zoomFactor() < white);
+    trigger(QStringLiteral("White"));
+    trigger(QStringLiteral("All"));
+    QCOMPARE(view(f)->zoomFactor(), 1.0);
+}
+
+void DiagramPageTest::keySwitchesLayers_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"DCI-P3(D65)", "LED wall", "LED wall, warm", "Rec.709", "Common area", "Given up",
+             "Planckian locus", "Isotherms", "Wavelengths", "CMY points", "Axes", "Grid"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void DiagramPageTest::keySwitchesLayers()
+{
+    QFETCH(QString, name);
+    WindowFixture f;
+    QListWidgetItem *entry = key(f)->entry(name);
+    QVERIFY(entry);
+    QCOMPARE(entry->checkState(), Qt::Checked);
+    const QImage with = view(f)->grab().toImage();
+    key(f)->scrollToItem(entry);
+    QTest::mouseClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(key(f), entry));
+    QCOMPARE(key(f)->entry(name)->checkState(), Qt::Unchecked);
+    const QImage without = view(f)->grab().toImage();
+    QVERIFY(without != with);
+    key(f)->setFocus();
+    key(f)->setCurrentItem(entry);
+    QTest::keyClick(key(f), Qt::Key_Space);
+    QCOMPARE(key(f)->entry(name)->checkState(), Qt::Checked);
+    QVERIFY(view(f)->grab().toImage() == with);
+}
+
+void DiagramPageTest::doubleClickShowsAlone()
+{
+    WindowFixture f;
+    const auto doubleClick = [&](const QString &name) {
+        const QPoint place = middleOf(key(f), key(f)->entry(name));
+        QTest::mouseClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseDClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    };
+    const auto shown = [&] {
+        QStringList names;
+        for (const ceiechart::DiagramGamut &gamut : view(f)->gamuts()) {
+            if (view(f)->content().shows(gamut)) {
+                names.append(QString::fromStdString(gamut.gamut.colorGamutName()));
+            }
+        }
+        return names;
+    };
+    const QStringList all = shown();
+    QVERIFY(all.size() > 3);
+    doubleClick(QStringLiteral("LED wall"));
+    QCOMPARE(shown(), QStringList(QStringLiteral("LED wall")));
+    // Layers are another matter.
+    QVERIFY(view(f)->isLayerShown(DiagramLayer::Grid));
+    doubleClick(QStringLiteral("LED wall"));
+    QCOMPARE(shown(), all);
+    doubleClick(QStringLiteral("Rec.709"));
+    QCOMPARE(shown(), QStringList(QStringLiteral("Rec.709")));
+}
+
+void DiagramPageTest::returnShowsAlone()
+{
+    WindowFixture f;
+    key(f)->setFocus();
+    key(f)->setCurrentItem(key(f)->entry(QStringLiteral("Grid")));
+    QTest::keyClick(key(f), Qt::Key_Return);
+    QVERIFY(view(f)->isLayerShown(DiagramLayer::Grid));
+    QVERIFY(!view(f)->isLayerShown(DiagramLayer::Isotherms));
+    QVERIFY(view(f)->isLayerShown(DiagramLayer::Targets));
+    QTest::keyClick(key(f), Qt::Key_Return);
+    QVERIFY(view(f)->isLayerShown(DiagramLayer::Isotherms));
+}
+
+void DiagramPageTest::colorsAreSwitched()
+{
+    WindowFixture f;
+    using ceiechart::HorseshoeColors;
+    for (const HorseshoeColors colors : {HorseshoeColors::Full, HorseshoeColors::None, HorseshoeColors::Dimmed}) {
+        QTest::mouseClick(key(f)->colors()->button(int(colors)), Qt::LeftButton);
+        QCOMPARE(view(f)->horseshoeColors(), colors);
+        QVERIFY(key(f)->colors()->button(int(colors))->isChecked());
+    }
+}
+
+void DiagramPageTest::standardsAreThoseOfTheDescription()
+{
+    WindowFixture f;
+    DisplayDescription description = f.document().description();
+    description.standards = QStringList{QStringLiteral("Rec.2020")};
+    f.window->setDescription(description, QString());
+    QCOMPARE(key(f)->entry(QStringLiteral("Rec.2020"))->checkState(), Qt::Checked);
+    QCOMPARE(key(f)->entry(QStringLiteral("Rec.709"))->checkState(), Qt::Unchecked);
+    // The others are a click away, for this description.
+    f.window->diagramPage()->switches()->setStandardShown(QStringLiteral("Rec.709"), true);
+    QCOMPARE(key(f)->entry(QStringLiteral("Rec.709"))->checkState(), Qt::Checked);
+    f.window->setDescription(description, QString());
+    QCOMPARE(key(f)->entry(QStringLiteral("Rec.709"))->checkState(), Qt::Unchecked);
+}
+
+void DiagramPageTest::keySpeaks()
+{
+    WindowFixture f;
+    const QAccessibleInterface *list = QAccessible::queryAccessibleInterface(key(f));
+    QVERIFY(list);
+    QStringList names;
+    for (int i = 0; i < list->childCount(); ++i) {
+        const QAccessibleInterface *child = list->child(i);
+        names.append(child->text(QAccessible::Name));
+        if (names.last() == QLatin1String("LED wall, Original")) {
+            QVERIFY(child->state().checkable);
+            QVERIFY(child->state().checked);
+        }
+    }
+    QVERIFY2(names.contains(QStringLiteral("LED wall, Original")), qPrintable(names.join(QLatin1Char(';'))));
+    QVERIFY(names.contains(QStringLiteral("Isotherms")));
+}
+
+void DiagramPageTest::targetIsMovedInside()
+{
+    WindowFixture f;
+    QPushButton *fit = f.window->panel()->verdict()->fitButton();
+    QVERIFY(fit->isEnabled());
+    QTest::mouseClick(fit, Qt::LeftButton);
+    QVERIFY(f.window->panel()->verdict()->text().startsWith(QString::fromUtf8("✓")));
+    QVERIFY(!fit->isEnabled());
+    QCOMPARE(f.document().history()->count(), 1);
+}
+
+QTEST_MAIN(DiagramPageTest)
+#include "diagrampagetest.moc"
