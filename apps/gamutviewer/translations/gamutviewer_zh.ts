@@ -553,13 +553,13 @@
         <translation>放大的白点</translation>
     </message>
     <message>
-        <source>White %1  Duv %2</source>
+        <source>%1  Duv %2</source>
         <comment>colour temperature of the white</comment>
-        <translation>白点 %1  Duv %2</translation>
+        <translation>%1  Duv %2</translation>
     </message>
     <message>
-        <source>White: no colour temperature</source>
-        <translation>白点：无色温</translation>
+        <source>no colour temperature</source>
+        <translation>无色温</translation>
     </message>
 </context>
 <context>
