@@ -60,6 +60,11 @@ set(CPACK_COMPONENT_DEV_DESCRIPTION
     "Headers, CMake package, pkg-config modules, Qt Designer plugin and\ndocumentation of ceiechart.")
 set(CPACK_DEBIAN_VIEWER_PACKAGE_NAME ${viewer_package})
 set(CPACK_DEBIAN_VIEWER_PACKAGE_SECTION graphics)
+# Texts of Qt's own in the viewer's dialogs, in the language of the interface.
+set(CPACK_DEBIAN_VIEWER_PACKAGE_RECOMMENDS qttranslations5-l10n)
+if(CEIECHART_QT_VERSION EQUAL 6)
+    set(CPACK_DEBIAN_VIEWER_PACKAGE_RECOMMENDS qt6-translations-l10n)
+endif()
 set(CPACK_COMPONENT_VIEWER_DESCRIPTION
     "The gamut viewer: shows the colour gamuts of a display on CIE chromaticity\ndiagrams and edits its target gamut.")
 include(CPack)

@@ -269,8 +269,10 @@ void ViewerWindowTest::copiesThePicture()
     QApplication::clipboard()->clear();
     QTest::keyClick(f.window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     const QImage copied = QApplication::clipboard()->image();
-    QVERIFY(copied.convertToFormat(QImage::Format_RGB32)
-        == pixelsOf(f.window->currentPage()->picture(), PictureExtent()).convertToFormat(QImage::Format_RGB32));
+    const Picture shown = f.window->currentPage()->picture();
+    const PictureExtent extent{f.window->diagramPage()->view()->size(), f.window->devicePixelRatioF()};
+    QVERIFY(
+        copied.convertToFormat(QImage::Format_RGB32) == pixelsOf(shown, extent).convertToFormat(QImage::Format_RGB32));
 }
 
 void ViewerWindowTest::badFileLeavesWhatWasOpen_data()

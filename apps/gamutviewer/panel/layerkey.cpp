@@ -5,6 +5,7 @@
 #include "editing/document.h"
 #include "editing/gamutparts.h"
 #include "editing/targetsession.h"
+#include "panel/accentbutton.h"
 
 #include <ceiechart/diagram/diagrampainter.h>
 
@@ -17,7 +18,6 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
-#include <QToolButton>
 
 #include <algorithm>
 
@@ -105,7 +105,7 @@ private:
         font.setCapitalization(QFont::AllUppercase);
         font.setBold(true);
         painter->setFont(font);
-        QColor color = option.palette.color(QPalette::Text);
+        QColor color = option.palette.color(QPalette::Active, QPalette::Text);
         color.setAlphaF(0.65);
         painter->setPen(color);
         painter->drawText(place.adjusted(0, 0, 0, -2), Qt::AlignLeft | Qt::AlignBottom, index.data().toString());
@@ -218,7 +218,7 @@ void LayerKey::addColors()
             {ceiechart::HorseshoeColors::Dimmed, tr("dim", "colours of the horseshoe")},
             {ceiechart::HorseshoeColors::None, tr("off", "colours of the horseshoe")}};
     for (const auto &choice : choices) {
-        auto *button = new QToolButton(box);
+        auto *button = new AccentButton(box);
         button->setText(choice.second);
         button->setCheckable(true);
         button->setFont(scaled(font(), detailScale));

@@ -45,147 +45,6 @@
     </message>
 </context>
 <context>
-    <name>gamutviewer::CommandLine</name>
-    <message>
-        <source>Write a picture to &lt;file&gt; without opening a window. The suffix selects PNG, SVG or PDF; without one it is a PNG.</source>
-        <translation>不打开窗口，将图片写入 &lt;file&gt;。扩展名决定 PNG、SVG 或 PDF；没有扩展名时为 PNG。</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>文件</translation>
-    </message>
-    <message>
-        <source>Size of the picture in pixels, %1x%2 by default, at most %3 per side. The limit applies to a PNG after multiplication by the device pixel ratio. Without --render, the size of the window.</source>
-        <translation>图片的像素尺寸，默认 %1x%2，每边最多 %3。对于 PNG，该限制适用于乘以设备像素比之后的尺寸。不带 --render 时为窗口的尺寸。</translation>
-    </message>
-    <message>
-        <source>width&gt;x&lt;height</source>
-        <translation>宽&gt;x&lt;高</translation>
-    </message>
-    <message>
-        <source>Device pixel ratio of the written picture, %1 to %2, 1 by default. A PNG has this many times the pixels in each direction. Requires --render.</source>
-        <translation>所写图片的设备像素比，%1 到 %2，默认 1。PNG 在每个方向上的像素数为此倍数。需要 --render。</translation>
-    </message>
-    <message>
-        <source>ratio</source>
-        <translation>比例</translation>
-    </message>
-    <message>
-        <source>What the picture shows: the diagram xy (the default), uv (CIE 1976 u&apos;, v&apos;) or uv1960, or chart, the library&apos;s own chart, as PNG. Requires --render.</source>
-        <translation>图片的内容：色度图 xy（默认）、uv（CIE 1976 u', v'）或 uv1960，或 chart，即库自带的图表，格式为 PNG。需要 --render。</translation>
-    </message>
-    <message>
-        <source>diagram</source>
-        <translation>色度图</translation>
-    </message>
-    <message>
-        <source>Part of the diagram: all (the default), target, or white, the surroundings of the target&apos;s white. Requires --render.</source>
-        <translation>色度图的部分：all（默认）、target（目标）或 white，即目标白点的周围。需要 --render。</translation>
-    </message>
-    <message>
-        <source>part</source>
-        <translation>部分</translation>
-    </message>
-    <message>
-        <source>Layers of the diagram, separated by commas; a - before a name leaves that layer out, and a name can be shortened: all, none, key, %1. Requires --render.</source>
-        <translation>色度图的图层，以逗号分隔；名称前的 - 表示去除该图层，名称可以缩写：all、none、key、%1。需要 --render。</translation>
-    </message>
-    <message>
-        <source>list</source>
-        <translation>列表</translation>
-    </message>
-    <message>
-        <source>Print coverage, colour temperatures and validity without opening a window. The only format is json.</source>
-        <translation>不打开窗口，打印覆盖率、色温和有效性。唯一的格式是 json。</translation>
-    </message>
-    <message>
-        <source>format</source>
-        <translation>格式</translation>
-    </message>
-    <message>
-        <source>Print this help text.</source>
-        <translation>打印此帮助。</translation>
-    </message>
-    <message>
-        <source>Print the version.</source>
-        <translation>打印版本。</translation>
-    </message>
-    <message>
-        <source>Shows and edits the colour gamuts of a display on CIE chromaticity diagrams.
-
-Exit status: 0 success, 1 the picture or the report could not be shown or written, 2 invalid arguments or files.
-Each error is one line on standard error.</source>
-        <translation>在 CIE 色度图上显示和编辑显示屏的色域。
-
-退出状态：0 成功，1 图片或报告无法显示或写入，2 参数或文件无效。
-每个错误在标准错误输出上占一行。</translation>
-    </message>
-    <message>
-        <source>Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any number of the others, which are added to it. Without files, a sample is opened.</source>
-        <translation>显示屏描述（JSON）、测量列表（CSV）、ICC 配置文件或 EDID：最多一个描述，其余数量不限，并加入描述中。没有文件时打开示例。</translation>
-    </message>
-    <message>
-        <source>[file...]</source>
-        <translation>[文件...]</translation>
-    </message>
-    <message>
-        <source>--%1 requires --render.</source>
-        <translation>--%1 需要 --render。</translation>
-    </message>
-    <message>
-        <source>--%1 does not apply to --diagram chart.</source>
-        <translation>--%1 不适用于 --diagram chart。</translation>
-    </message>
-    <message>
-        <source>--size requires --render when used with --report.</source>
-        <translation>与 --report 同用时，--size 需要 --render。</translation>
-    </message>
-    <message>
-        <source>An input file name is empty.</source>
-        <translation>某个输入文件名为空。</translation>
-    </message>
-    <message>
-        <source>The file name of --render is empty.</source>
-        <translation>--render 的文件名为空。</translation>
-    </message>
-    <message>
-        <source>Unsupported picture format, expected png, svg or pdf: %1</source>
-        <translation>不支持的图片格式，应为 png、svg 或 pdf：%1</translation>
-    </message>
-    <message>
-        <source>--diagram chart is written as png only: %1</source>
-        <translation>--diagram chart 只能写为 png：%1</translation>
-    </message>
-    <message>
-        <source>The picture would have more than %1 pixels per side.</source>
-        <translation>图片每边将超过 %1 像素。</translation>
-    </message>
-    <message>
-        <source>Invalid size, expected 1x1 to %1x%1: %2</source>
-        <translation>尺寸无效，应为 1x1 到 %1x%1：%2</translation>
-    </message>
-    <message>
-        <source>Invalid device pixel ratio, expected %1 to %2: %3</source>
-        <translation>设备像素比无效，应为 %1 到 %2：%3</translation>
-    </message>
-    <message>
-        <source>Unknown diagram, expected xy, uv, uv1960 or chart: %1</source>
-        <translation>未知的色度图，应为 xy、uv、uv1960 或 chart：%1</translation>
-    </message>
-    <message>
-        <source>Unknown view, expected all, target or white: %1</source>
-        <translation>未知的部分，应为 all、target 或 white：%1</translation>
-    </message>
-    <message>
-        <source>Unknown layer, expected all, none, key, %1: %2</source>
-        <translation>未知的图层，应为 all、none、key、%1：%2</translation>
-    </message>
-    <message>
-        <source>Unsupported report format, expected json: %1</source>
-        <translation>不支持的报告格式，应为 json：%1</translation>
-    </message>
-</context>
-<context>
     <name>gamutviewer::ComparePage</name>
     <message>
         <source>Gamuts side by side</source>
@@ -694,13 +553,13 @@ Each error is one line on standard error.</source>
         <translation>放大的白点</translation>
     </message>
     <message>
-        <source>White %1  Duv %2</source>
+        <source>%1  Duv %2</source>
         <comment>colour temperature of the white</comment>
-        <translation>白点 %1  Duv %2</translation>
+        <translation>%1  Duv %2</translation>
     </message>
     <message>
-        <source>White: no colour temperature</source>
-        <translation>白点：无色温</translation>
+        <source>no colour temperature</source>
+        <translation>无色温</translation>
     </message>
 </context>
 <context>
@@ -1362,25 +1221,6 @@ Ctrl+1 到 Ctrl+3 – 显示页面</translation>
     <message>
         <source>Chromaticity under the pointer: %1</source>
         <translation>指针处的色度：%1</translation>
-    </message>
-</context>
-<context>
-    <name>main</name>
-    <message>
-        <source>%1: cannot be written: %2</source>
-        <translation>%1：无法写入：%2</translation>
-    </message>
-    <message>
-        <source>%1: has no room for the key</source>
-        <translation>%1：没有放置图例的空间</translation>
-    </message>
-    <message>
-        <source>the report cannot be written to standard output</source>
-        <translation>无法将报告写入标准输出</translation>
-    </message>
-    <message>
-        <source>no display is available; use --render to write a picture or --report to print a report</source>
-        <translation>没有可用的显示；请用 --render 写入图片，或用 --report 打印报告</translation>
     </message>
 </context>
 </TS>

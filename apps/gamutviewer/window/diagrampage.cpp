@@ -5,6 +5,7 @@
 #include "drawing/layerswitches.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
+#include "panel/accentbutton.h"
 #include "panel/layerkey.h"
 #include "window/lens.h"
 
@@ -12,7 +13,6 @@
 #include <QActionGroup>
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -70,7 +70,7 @@ QAction *DiagramPage::addButton(QHBoxLayout *bar, const QString &text, const QSt
     auto *action = new QAction(text, this);
     action->setToolTip(explanation);
     addAction(action);
-    auto *button = new QToolButton(this);
+    auto *button = new AccentButton(this);
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * barScale);
     button->setFont(small);

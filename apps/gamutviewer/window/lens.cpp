@@ -69,9 +69,9 @@ void Lens::refresh()
     }
     const QPointF white = xyOf(target->getTargets().white);
     const auto temperature = ceiechart::colorTemperature(white);
-    m_value->setText(temperature ? tr("White %1  Duv %2", "colour temperature of the white")
+    m_value->setText(temperature ? tr("%1  Duv %2", "colour temperature of the white")
                                        .arg(temperatureText(*temperature), duvText(*temperature))
-                                 : tr("White: no colour temperature"));
+                                 : tr("no colour temperature"));
     m_view->setAccessibleDescription(m_value->text());
     const ceiechart::DiagramViewport &seen = m_view->viewport();
     if (!m_isOnWhite || (!m_view->isEditing() && !seen.plot().contains(seen.toPosition(white)))) {

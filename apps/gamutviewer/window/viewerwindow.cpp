@@ -207,7 +207,14 @@ bool ViewerWindow::exportTo(const QString &fileName, const Picture &picture, con
 void ViewerWindow::copyPicture()
 {
     m_panel->editor()->takeTyped();
-    const QImage picture = pixelsOf(currentPage()->picture(), PictureExtent());
+    const Picture shown = currentPage()->picture();
+    PictureExtent extent;
+    if (!shown.isLibraryChart) {
+        // As it is on the screen.
+        extent.devicePixelRatio = devicePixelRatioF();
+        extent.size = shown.view.size().isEmpty() ? extent.size : shown.view.size().toSize();
+    }
+    const QImage picture = pixelsOf(shown, extent);
     if (!picture.isNull()) {
         QApplication::clipboard()->setImage(picture);
         statusBar()->showMessage(tr("The picture has been copied to the clipboard."), messageMilliseconds);
