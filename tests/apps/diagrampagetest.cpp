@@ -65,6 +65,26 @@ QPoint middleOf(const LayerKey *key, const QListWidgetItem *entry)
     return key->visualItemRect(entry).center();
 }
 
+//! Whether two pictures are the same but for the rounding of glyphs, which a first painting differs by.
+bool looksLike(const QImage &one, const QImage &other)
+{
+    constexpr int rounding = 4;
+    if (one.size() != other.size()) {
+        return false;
+    }
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            if (qAbs(qRed(a) - qRed(b)) > rounding || qAbs(qGreen(a) - qGreen(b)) > rounding
+                || qAbs(qBlue(a) - qBlue(b)) > rounding) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 void DiagramPageTest::aDragIsOneStep()
@@ -306,12 +326,12 @@ void DiagramPageTest::keySwitchesLayers()
     QTest::mouseClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(key(f), entry));
     QCOMPARE(key(f)->entry(name)->checkState(), Qt::Unchecked);
     const QImage without = view(f)->grab().toImage();
-    QVERIFY(without != with);
+    QVERIFY(!looksLike(without, with));
     key(f)->setFocus();
     key(f)->setCurrentItem(entry);
     QTest::keyClick(key(f), Qt::Key_Space);
     QCOMPARE(key(f)->entry(name)->checkState(), Qt::Checked);
-    QVERIFY(view(f)->grab().toImage() == with);
+    QVERIFY(looksLike(view(f)->grab().toImage(), with));
 }
 
 void DiagramPageTest::doubleClickShowsAlone()
