@@ -298,11 +298,14 @@ void DiagramPageTest::viewsOfTheDiagram()
     trigger(QStringLiteral("White"));
     const double white = view(f)->zoomFactor();
     QVERIFY(white > 10.0);
+    // There the lens has no more to show.
+    QVERIFY(!f.window->diagramPage()->lens()->isVisible());
     trigger(QStringLiteral("Target"));
     QVERIFY(view(f)->zoomFactor() < white);
     trigger(QStringLiteral("White"));
     trigger(QStringLiteral("All"));
     QCOMPARE(view(f)->zoomFactor(), 1.0);
+    QVERIFY(f.window->diagramPage()->lens()->isVisible());
 }
 
 void DiagramPageTest::keySwitchesLayers_data()

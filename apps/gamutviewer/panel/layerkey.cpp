@@ -35,13 +35,22 @@ constexpr int gap = 6;
 constexpr int lineWidth = 28;
 constexpr double sectionScale = 0.82;
 constexpr double detailScale = 0.85;
-constexpr int widestKey = 215;
+constexpr int widestEntry = 190;
 constexpr double keyScale = 0.85;
 
 QFont scaled(QFont font, double factor)
 {
     font.setPointSizeF(font.pointSizeF() * factor);
     return font;
+}
+
+QPoint positionOf(const QMouseEvent &event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return event.pos();
+#else
+    return event.position().toPoint();
+#endif
 }
 
 bool isSection(const QModelIndex &index)
@@ -75,7 +84,7 @@ public:
             height += QFontMetrics(scaled(option.font, detailScale)).height();
         }
         const int line = index.data(GamutRoleRole).isValid() ? lineWidth + gap : 0;
-        return {2 * margin + box + gap + line + width, height};
+        return {std::min(2 * margin + box + gap + line + width, widestEntry), height};
     }
 
     void paint(QPainter *painter, const QStyleOptionViewItem &item, const QModelIndex &index) const override
@@ -192,9 +201,7 @@ QListWidgetItem *LayerKey::entry(const QString &name) const
 
 QSize LayerKey::sizeHint() const
 {
-    const int width = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
-    // The colours have buttons, which cannot be elided.
-    return {std::max(std::min(width, widestKey), m_leastWidth + 2 * frameWidth()), 480};
+    return {sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(), 480};
 }
 
 void LayerKey::addSection(const QString &title)
@@ -228,7 +235,6 @@ void LayerKey::addColors()
     }
     setItemWidget(row, box);
     row->setSizeHint(box->sizeHint());
-    m_leastWidth = box->sizeHint().width();
 }
 
 QListWidgetItem *LayerKey::addEntry(
@@ -383,7 +389,7 @@ void LayerKey::showAlone(const QListWidgetItem *entry)
 void LayerKey::mousePressEvent(QMouseEvent *event)
 {
     QListWidget::mousePressEvent(event);
-    m_pressed = event->button() == Qt::LeftButton ? itemAt(event->pos()) : nullptr;
+    m_pressed = event->button() == Qt::LeftButton ? itemAt(positionOf(*event)) : nullptr;
 }
 
 void LayerKey::mouseReleaseEvent(QMouseEvent *event)
@@ -391,7 +397,7 @@ void LayerKey::mouseReleaseEvent(QMouseEvent *event)
     QListWidget::mouseReleaseEvent(event);
     QListWidgetItem *pressed = m_pressed;
     m_pressed = nullptr;
-    if (pressed && event->button() == Qt::LeftButton && pressed == itemAt(event->pos())) {
+    if (pressed && event->button() == Qt::LeftButton && pressed == itemAt(positionOf(*event))) {
         const LayerSwitches::State before = m_switches->state();
         const auto alone = m_beforeAlone;
         toggle(pressed);
@@ -407,7 +413,7 @@ void LayerKey::mouseDoubleClickEvent(QMouseEvent *event)
         if (m_beforeClick) {
             m_switches->setState(*m_beforeClick);
         }
-        showAlone(itemAt(event->pos()));
+        showAlone(itemAt(positionOf(*event)));
     }
     m_pressed = nullptr;
 }

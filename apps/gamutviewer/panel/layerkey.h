@@ -55,7 +55,6 @@ private:
     Document *m_document;
     LayerSwitches *m_switches;
     QButtonGroup *m_colors;
-    int m_leastWidth = 0;
     QStringList m_built; // what the entries are made of
     QListWidgetItem *m_pressed = nullptr;
     std::optional<LayerSwitches::State> m_beforeClick;

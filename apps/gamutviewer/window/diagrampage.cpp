@@ -115,6 +115,7 @@ void DiagramPage::buildBar(QHBoxLayout *bar)
     connect(m_lensAction, &QAction::toggled, this, &DiagramPage::showLens);
     connect(m_view, &DiagramView::targetEdited, this, &DiagramPage::showLens);
     connect(m_view, &DiagramView::editingFinished, this, &DiagramPage::showLens);
+    connect(m_view, &DiagramView::viewChanged, this, &DiagramPage::showLens);
 }
 
 QString DiagramPage::hints() const
@@ -151,13 +152,15 @@ void DiagramPage::showLens()
             = m_view->viewport().toPosition(ceiechart::xyOf(ceiechart::targetAt(target->getTargets(), *moved)));
         isInTheWay = m_lens->geometry().marginsAdded(labelRoom).contains(at.toPoint());
     }
-    m_lens->setVisible(m_lensAction->isChecked() && !isInTheWay);
+    const bool isCloser = m_lens->view()->viewport().scale() > m_view->viewport().scale();
+    m_lens->setVisible(m_lensAction->isChecked() && isCloser && !isInTheWay);
 }
 
 void DiagramPage::refresh()
 {
     m_view->refresh();
     m_lens->refresh();
+    showLens();
 }
 
 bool DiagramPage::eventFilter(QObject *watched, QEvent *event)

@@ -48,7 +48,7 @@ private:
     void buildBar(QHBoxLayout *bar);
     QAction *addButton(QHBoxLayout *bar, const QString &text, const QString &explanation);
     void placeLens();
-    /*! \brief Shows the lens when it is switched on, and not over what is being moved. */
+    /*! \brief Shows the lens when it is switched on and closer than the diagram, and not over what is being moved. */
     void showLens();
 
     LayerSwitches *m_switches;

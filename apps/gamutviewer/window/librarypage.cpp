@@ -75,6 +75,7 @@ LibraryPage::LibraryPage(Document *document, QWidget *parent)
     parts->addWidget(area);
     parts->addWidget(m_log);
     parts->setStretchFactor(0, 1);
+    parts->setSizes({600, 110});
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(parts, 1);
     auto *note = new QLabel(
