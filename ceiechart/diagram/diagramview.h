@@ -48,16 +48,25 @@ namespace ceiechart {
  */
 class CEIECHART_EXPORT DiagramView : public QWidget {
     Q_OBJECT
+    /*! \brief The diagram whose coordinates are drawn; Cie1931 by default. */
     Q_PROPERTY(DiagramKind diagram READ diagramKind WRITE setDiagram NOTIFY diagramChanged)
+    /*! \brief The layers that are shown; all by default. */
     Q_PROPERTY(
         ceiechart::diagramlayers::ShownLayers layers READ layers WRITE setLayers NOTIFY layersChanged DESIGNABLE false)
+    /*! \brief How the horseshoe is coloured; dimmed outside of the common area by default. */
     Q_PROPERTY(ceiechart::diagramlayers::HorseshoeColors horseshoeColors READ horseshoeColors WRITE setHorseshoeColors
             NOTIFY horseshoeColorsChanged DESIGNABLE false)
+    /*! \brief 1 when the whole horseshoe just fits, up to DiagramViewport::closest. */
     Q_PROPERTY(double zoomFactor READ zoomFactor WRITE setZoomFactor NOTIFY viewChanged)
+    /*! \brief The CIE 1931 x, y in the middle of the plot. */
     Q_PROPERTY(QPointF centre READ centre WRITE setCentre NOTIFY viewChanged DESIGNABLE false)
+    /*! \brief Whether the target cannot be edited; false by default. */
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged)
+    /*! \brief The decimals of coordinates, 0 to 10, or automaticDigits, the default. */
     Q_PROPERTY(int digits READ digits WRITE setDigits NOTIFY digitsChanged)
+    /*! \brief Whether a corner shows the coordinates under the pointer; true by default. */
     Q_PROPERTY(bool readoutShown READ isReadoutShown WRITE setReadoutShown NOTIFY readoutShownChanged)
+    /*! \brief A text of the host in the label of the handle that is edited; empty by default. */
     Q_PROPERTY(QString editNote READ editNote WRITE setEditNote NOTIFY editNoteChanged DESIGNABLE false)
 
 public:
@@ -166,8 +175,8 @@ public:
      */
     QImage toImage(const QSize &size, qreal devicePixelRatio = 1.0) const;
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override; //!< A square that is comfortable to work on.
+    QSize minimumSizeHint() const override; //!< A square in which the diagram is still readable.
 
 public Q_SLOTS:
     void setDiagram(Model::Diagram diagram); //!< Keeps the chromaticity in the middle and the zoom; all stays all.

@@ -100,7 +100,9 @@ public:
     /*! \brief Of another diagram, with the chromaticity in the middle and the zoom as they are; all stays all. */
     DiagramViewport withDiagram(Model::Diagram diagram) const;
 
+    /*! \brief Whether both show the same part of the same diagram at the same size. */
     friend bool operator==(const DiagramViewport &a, const DiagramViewport &b) { return a.equals(b); }
+    /*! \brief Whether they differ in diagram, part or size. */
     friend bool operator!=(const DiagramViewport &a, const DiagramViewport &b) { return !a.equals(b); }
 
 private:
