@@ -49,6 +49,8 @@ private Q_SLOTS:
     void oddFactorsChangeNothing();
     void panMovesByPixels();
     void panKeepsTheHorseshoeInReach();
+    void noZoomLosesTheHorseshoe();
+    void centresStayInReach();
     void fitsAPolygon();
     void fitsNothingAndAPoint();
     void fitsAWhite();
@@ -193,6 +195,52 @@ void DiagramViewportTest::panKeepsTheHorseshoeInReach()
     const DiagramViewport beyond = whole.centredOn(QPointF(0.9, 0.3), 3.0);
     QVERIFY(beyond.panned(QPointF(-50, 0)).centre().x() <= 0.9 + 1e-12);
     QVERIFY(beyond.panned(QPointF(50, 0)).centre().x() < 0.9);
+}
+
+void DiagramViewportTest::noZoomLosesTheHorseshoe()
+{
+    for (const Model::Diagram diagram : allDiagrams) {
+        const DiagramViewport whole(diagram, QSizeF(600, 400), QMarginsF(50, 10, 12, 24));
+        QRectF bounds;
+        for (const QPointF &xy : spectrum()) {
+            const QPointF point = whole.toPoint(whole.toPosition(xy));
+            bounds |= QRectF(point - QPointF(1e-9, 1e-9), QSizeF(2e-9, 2e-9));
+        }
+        const QRectF plot = whole.plot();
+        for (const QPointF &corner : {plot.topLeft(), plot.topRight(), plot.bottomLeft(), plot.bottomRight()}) {
+            // In at one corner and out at the opposite one, again and again.
+            const QPointF opposite = plot.topLeft() + plot.bottomRight() - corner;
+            DiagramViewport viewport = whole;
+            for (int i = 0; i < 20; ++i) {
+                viewport = viewport.zoomed(5.0, corner).zoomed(0.2, opposite);
+            }
+            QCOMPARE(viewport.zoom(), 1.0);
+            QVERIFY(bounds.adjusted(-1e-6, -1e-6, 1e-6, 1e-6).contains(viewport.range().center()));
+        }
+        // A corner of a gamut beyond the horseshoe can be looked at closely.
+        const QPointF corner = whole.toPosition(QPointF(0.0001, -0.077));
+        if (diagram == Model::Diagram::Cie1931) {
+            QVERIFY(distance(whole.zoomed(1500.0, corner).toPosition(QPointF(0.0001, -0.077)), corner) < 1e-6);
+        }
+    }
+}
+
+void DiagramViewportTest::centresStayInReach()
+{
+    for (const Model::Diagram diagram : allDiagrams) {
+        const DiagramViewport whole(diagram, QSizeF(600, 400));
+        for (const QPointF &far : {QPointF(1e300, 1e300), QPointF(-1e300, 0.3), QPointF(0.3, 1e12)}) {
+            for (const double zoom : {1.0, 3.0, 2000.0}) {
+                for (const DiagramViewport &viewport :
+                    {whole.centredOn(far, zoom), whole.fittedTo(QPolygonF() << far)}) {
+                    const QPointF middle = viewport.range().center();
+                    QVERIFY(std::fabs(middle.x()) < 1.3 && std::fabs(middle.y()) < 1.5);
+                    const DiagramViewport back = viewport.zoomed(1e-9);
+                    QVERIFY(back.zoom() == 1.0 && back.plot().contains(back.fromPoint(whole.range().center())));
+                }
+            }
+        }
+    }
 }
 
 void DiagramViewportTest::fitsAPolygon()
