@@ -12,7 +12,7 @@ namespace {
 constexpr double wavelengthRoom = 36.0; // logical pixels round the horseshoe, for ticks and digits
 constexpr double largestRoom = 0.12; // of the plot: where it is small, the room shrinks with it
 constexpr double polygonRoom = 0.12; // of the plot, on each side of a polygon that is fitted
-constexpr double surroundings = 0.5; // of the horseshoe's size, on each side: there, corners of wide gamuts lie
+constexpr double surroundings = 0.25; // of the horseshoe's size, on each side: there, corners of wide gamuts lie
 
 bool isFinite(const QPointF &point)
 {
@@ -25,18 +25,12 @@ double kept(double from, double step, double least, double most)
     return std::clamp(from + step, std::min(from, least), std::max(from, most));
 }
 
-/*!
- * The centre nearest to \a centre from which the horseshoe is not lost.
- *
- * A close view may look at what surrounds the horseshoe. The wider a view, the nearer its centre has to be, so that
- * zooming out always leads back.
- */
-Model::DiagramPoint inReach(Model::Diagram diagram, const Model::DiagramPoint &centre, double zoom)
+//! The centre nearest to \a centre from which zooming out leads back to the horseshoe.
+Model::DiagramPoint inReach(Model::Diagram diagram, const Model::DiagramPoint &centre)
 {
     const QRectF bounds = spectrumBounds(diagram);
-    const double share = surroundings * (1.0 - 1.0 / zoom);
-    const double roomX = share * bounds.width();
-    const double roomY = share * bounds.height();
+    const double roomX = surroundings * bounds.width();
+    const double roomY = surroundings * bounds.height();
     return {std::clamp(centre.x, bounds.left() - roomX, bounds.right() + roomX),
         std::clamp(centre.y, bounds.top() - roomY, bounds.bottom() + roomY)};
 }
@@ -144,8 +138,7 @@ DiagramViewport DiagramViewport::zoomed(double factor, const QPointF &anchor) co
     const QPointF point = toPoint(anchor);
     const QPointF offset = anchor - plot().center();
     const double perUnit = result.scale();
-    result.m_centre
-        = inReach(m_diagram, {point.x() - offset.x() / perUnit, point.y() + offset.y() / perUnit}, result.m_zoom);
+    result.m_centre = inReach(m_diagram, {point.x() - offset.x() / perUnit, point.y() + offset.y() / perUnit});
     return result;
 }
 
@@ -195,7 +188,7 @@ DiagramViewport DiagramViewport::fittedTo(const QPolygonF &polygon) const
         bounds.height() > 0.0 ? free.height() / bounds.height() : HUGE_VAL);
     DiagramViewport result = *this;
     result.m_zoom = std::clamp(perUnit / wholeScale(), 1.0, closest);
-    result.m_centre = inReach(m_diagram, {bounds.center().x(), bounds.center().y()}, result.m_zoom);
+    result.m_centre = inReach(m_diagram, {bounds.center().x(), bounds.center().y()});
     return result;
 }
 
@@ -227,7 +220,7 @@ DiagramViewport DiagramViewport::centredOn(const QPointF &xy, double zoom) const
     }
     DiagramViewport result = *this;
     result.m_zoom = std::clamp(zoom, 1.0, closest);
-    result.m_centre = inReach(m_diagram, point, result.m_zoom);
+    result.m_centre = inReach(m_diagram, point);
     return result;
 }
 

@@ -98,9 +98,9 @@ public:
     /*!
      * \brief With \a xy in the middle and \a zoom, which is taken into 1 to closest.
      *
-     * The centre stays in reach of the horseshoe: at zoom 1 within its bounds, at zoom z up to 0.5 (1 - 1/z) of its
-     * width and height beyond them. One that is farther away is taken to the nearest that is not. Without effect for
-     * what is not finite and for a \a zoom that is not above 0.
+     * The centre stays in reach of the horseshoe, up to a quarter of its width and height beyond its bounds: one that
+     * is farther away is taken to the nearest that is not. Without effect for what is not finite and for a \a zoom that
+     * is not above 0.
      */
     DiagramViewport centredOn(const QPointF &xy, double zoom) const;
 
