@@ -4,6 +4,7 @@
 
 #include <gamutmodel/gamutcoverage.h>
 
+#include <QLocale>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -56,6 +57,12 @@ QPointF xyOf(const Model::Target &target)
 QString nameOf(const DiagramGamut &gamut)
 {
     return QString::fromStdString(gamut.gamut.colorGamutName());
+}
+
+//! Six digits at most, and no exponent.
+QString decimal(double value)
+{
+    return QString::number(QString::number(value, 'g', 6).toDouble(), 'f', QLocale::FloatingPointShortest);
 }
 
 QColor faded(QColor color, double share)
@@ -134,12 +141,18 @@ public:
                 }
             }
         }
+        // Painted again and again, the soft edges of a line would harden.
+        for (size_t i = m_shown.size(); i-- > 0;) {
+            for (size_t k = i + 1; k < m_shown.size() && m_shown[k].role == m_shown[i].role; ++k) {
+                m_shown[i].isCovered = m_shown[i].isCovered || (!m_shown[k].isCovered && areEqual(i, k));
+            }
+        }
     }
 
     DiagramStep takeUnedited()
     {
         for (size_t i = 0; i < m_shown.size(); ++i) {
-            if (m_shown[i].role != GamutRole::Target) {
+            if (isDrawn(i, false)) {
                 drawOutline(i, false);
             }
         }
@@ -155,7 +168,7 @@ public:
         for (size_t i = 0; i < m_shown.size(); ++i) {
             const bool isTarget = m_shown[i].role == GamutRole::Target;
             // What the target would cover comes out on both sides of it.
-            if (isTarget || equalsAbove(i, false) != equalsAbove(i, true)) {
+            if (isDrawn(i, true) && (isTarget || equalsAbove(i, false) != equalsAbove(i, true))) {
                 drawOutline(i, true);
             }
         }
@@ -185,6 +198,7 @@ private:
         int index;
         GamutRole role;
         QPolygonF corners;
+        bool isCovered = false; // by the equal outline of another gamut of the role, which looks the same
     };
 
     //! Whether the outlines number \a i and \a k fall on one another.
@@ -196,14 +210,22 @@ private:
             [](const QPointF &p, const QPointF &q) { return length(p - q) < equalWithin; });
     }
 
-    bool isDrawn(size_t i, bool targetsToo) const { return targetsToo || m_shown[i].role != GamutRole::Target; }
+    bool isDrawn(size_t i, bool targetsToo) const
+    {
+        return !m_shown[i].isCovered && (targetsToo || m_shown[i].role != GamutRole::Target);
+    }
 
-    //! How many gamuts that are drawn later equal number \a i.
+    //! How many other roles have gamuts that are drawn later and equal number \a i: those of one role look the same.
     int equalsAbove(size_t i, bool targetsToo) const
     {
         int count = 0;
+        GamutRole last = m_shown[i].role;
         for (size_t k = i + 1; k < m_shown.size(); ++k) {
-            count += isDrawn(k, targetsToo) && areEqual(i, k) ? 1 : 0;
+            // A role's gamuts follow one another.
+            if (m_shown[k].role != last && isDrawn(k, targetsToo) && areEqual(i, k)) {
+                ++count;
+                last = m_shown[k].role;
+            }
         }
         return count;
     }
@@ -211,7 +233,7 @@ private:
     bool hasEqualBelow(size_t i) const
     {
         for (size_t k = 0; k < i; ++k) {
-            if (areEqual(i, k)) {
+            if (!m_shown[k].isCovered && areEqual(i, k)) {
                 return true;
             }
         }
@@ -312,7 +334,7 @@ private:
             } else {
                 drawCased(m_step.drawing, thinned(curve, curvePieces), true, m_plot, pen, m_innerPalette.casing);
             }
-            const QString number = QString::number(radius, 'g', 6);
+            const QString number = decimal(radius);
             const QSizeF size = style.size(number);
             if (bounds.height() < 3.2 * size.height()) {
                 continue;

@@ -14,7 +14,7 @@ namespace ceiechart {
 namespace {
 
 // Logical pixels
-constexpr double numberGap = 6.0; // between an axis and its numbers
+constexpr double numberGap = 6.0; // between an axis and its numbers, and beside a number
 constexpr double edgeGap = 4.0; // between texts and the edge of the whole
 constexpr double tickRoom = 8.0; // beside a number on the level axis, at least
 constexpr double rowsPerTick = 2.6; // heights of a text from tick to tick on the upright axis, at least
@@ -40,7 +40,7 @@ constexpr double hottest = 12.0;
 constexpr double closestIsotherms = 1.0; // kelvin
 constexpr double closestWavelengths = 0.01; // nm
 
-const QString widestNumber = QStringLiteral("0.00000");
+const QString widestNumber = QStringLiteral("-0.00000");
 
 double length(const QPointF &way)
 {
@@ -161,20 +161,21 @@ private:
         for (const qint64 tick : across) {
             const double x = toPosition(QPointF(acrossScale.value(tick), 0.0)).x();
             const QSizeF size = style.size(acrossScale.text(tick));
-            drawNumber(
-                acrossScale.text(tick), QRectF(QPointF(x - size.width() / 2.0, m_plot.bottom() + edgeGap), size));
+            drawNumber(acrossScale.text(tick), QRectF(QPointF(x - size.width() / 2.0, m_plot.bottom() + edgeGap), size),
+                numberGap);
         }
         for (const qint64 tick : up) {
             const double y = toPosition(QPointF(0.0, upScale.value(tick))).y();
             const QSizeF size = style.size(upScale.text(tick));
             drawNumber(upScale.text(tick),
-                QRectF(QPointF(m_plot.left() - numberGap - size.width(), y - size.height() / 2.0), size));
+                QRectF(QPointF(m_plot.left() - numberGap - size.width(), y - size.height() / 2.0), size), 0.0);
         }
     }
 
-    void drawNumber(const QString &number, const QRectF &place)
+    //! Side by side with another text, a number needs a \a gap to be read as one of its own.
+    void drawNumber(const QString &number, const QRectF &place, double gap)
     {
-        if (m_step.places.isFree(place, m_whole, 0.0)) {
+        if (m_step.places.isFree(place, m_whole, gap)) {
             m_step.places.add(DiagramLabel::Kind::Axis, number, place);
             m_step.drawing.textIn(place, number, m_sheet.fonts.numbers, m_palette.numbers);
         }
