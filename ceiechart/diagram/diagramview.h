@@ -127,7 +127,11 @@ public:
     /*! \brief Replaces all that is shown. The ground stays what the palette gives. */
     void setContent(const DiagramContent &content);
     void setGamuts(const QVector<DiagramGamut> &gamuts); //!< Replaces all gamuts.
-    /*! \brief Replaces the target, which is what is edited; while it is being dragged, the drag goes on from there. */
+    /*!
+     * \brief Replaces the target, which is what is edited; a target that was switched off stays so.
+     *
+     * While it is being dragged, what is in the hand stays there, and the rest is that of \a gamut.
+     */
     void setTarget(const Model::ColorGamut &gamut);
     void setOriginal(const Model::ColorGamut &gamut); //!< What the display can show.
     void setMeasured(const Model::ColorGamut &gamut); //!< What a measurement has found.
@@ -141,7 +145,7 @@ public:
     void setTrail(const QVector<QPointF> &trail); //!< Where a point has been, the oldest first, in CIE 1931 x, y.
     /*! \brief Replaces the rules of editing, also of a drag under way; null brings the library's own back. */
     void setRules(std::shared_ptr<const TargetRules> rules);
-    /*! \brief Selects a handle for the keyboard. Ignored for one that is not shown. */
+    /*! \brief Selects a handle for the keyboard. Ignored for one that is not shown, and while the hand holds one. */
     void setSelectedVertex(std::optional<GamutVertex> vertex);
 
     /*!
@@ -149,7 +153,7 @@ public:
      * own.
      *
      * Returns whether the target has changed. Snaps to nothing. Refused while a drag is under way, without a target
-     * and when read-only.
+     * that is shown and when read-only.
      */
     bool moveVertex(GamutVertex vertex, const QPointF &xy);
 
