@@ -121,7 +121,7 @@ public:
     const DiagramStep &editedLayout()
     {
         if (!edited) {
-            edited = editedStep(sheet(), gamutsLayout().places);
+            edited = editedStep(sheet(), gamutsLayout().places, scaleLayout().isotherms);
         }
         return *edited;
     }
@@ -236,7 +236,7 @@ void DiagramPainter::paint(QPainter *painter, const QRectF &place) const
     }
     const DiagramStep scale = scaleStep(sheet);
     const DiagramStep gamuts = gamutsStep(sheet, scale.places);
-    const DiagramStep edited = editedStep(sheet, gamuts.places);
+    const DiagramStep edited = editedStep(sheet, gamuts.places, scale.isotherms);
     scale.drawing.paint(painter);
     gamuts.drawing.paint(painter);
     edited.drawing.paint(painter);

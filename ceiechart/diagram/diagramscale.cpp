@@ -30,7 +30,6 @@ constexpr double wavelengthTicks = 7.0; // least distance of ticks
 constexpr double wavelengthNumbers = 34.0; // least distance of the middles of numbers
 constexpr double isothermLines = 30.0; // least distance of isotherms
 constexpr double mostIsotherms = 18.0; // side by side on the shorter side of the plot
-constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
 constexpr double labelGap = 3.0; // round any text
 
 constexpr double isothermDuv = 0.02; // of the ends of isotherms, at most
@@ -274,7 +273,8 @@ private:
             if (isNumbered) {
                 numbered.append(place.center());
                 m_step.places.add(DiagramLabel::Kind::Wavelength, number, place);
-                m_step.drawing.textIn(place, number, style, m_palette.numbers);
+                // Outlines of wide gamuts pass below.
+                m_step.texts.textIn(place, number, style, m_palette.numbers, m_palette.casing);
             }
             const QLineF tick(wavelength.foot, isNumbered ? tip : wavelength.foot + wavelength.outwards * shortTick);
             if (const auto part = partWithin(tick, m_plot)) {
@@ -385,8 +385,8 @@ private:
         }
         m_step.drawing.lines(drawn, QPen(m_innerPalette.casing, tickWidth + casingOfTicks, Qt::SolidLine, Qt::FlatCap));
         m_step.drawing.lines(drawn, QPen(m_innerPalette.planckian, tickWidth, Qt::SolidLine, Qt::FlatCap));
-        QVector<QPointF> numbered;
         for (const Isotherm &isotherm : lines) {
+            PendingNumber pending;
             const QString number = QString::number(isotherm.kelvin, 'f', 0) + QStringLiteral(" K");
             // Beyond an end, or on the last part of a line that leaves the view.
             for (const double share : {1.0, 0.0, 0.88, 0.12}) {
@@ -397,14 +397,10 @@ private:
                 const bool isEnd = share == 0.0 || share == 1.0;
                 const QRectF place = isEnd ? besides(at + way * tickGap, way, size)
                                            : QRectF(at - QPointF(size.width(), size.height()) / 2.0, size);
-                if (isApart(numbered, place.center(), isothermNumbers)
-                    && m_step.places.isFree(place, m_inner, labelGap)) {
-                    numbered.append(place.center());
-                    m_step.places.add(DiagramLabel::Kind::Isotherm, number, place);
-                    m_step.texts.textIn(place, number, style, m_innerPalette.planckian, m_innerPalette.casing);
-                    break;
-                }
+                pending.places.append(place);
             }
+            pending.text = number;
+            m_step.isotherms.append(pending);
         }
     }
 

@@ -138,6 +138,9 @@ private Q_SLOTS:
     void equalGamutsShowBoth();
     void equalGamutsDoNotDependOnTheTarget();
     void manyEqualGamutsAreNoBand();
+    void oddNamesAreShown();
+    void numbersLeaveMarksToBeSeen();
+    void outlinesDoNotCutWavelengths();
     void targetsWithoutWhiteAreNotShown();
     void negativeNumbersAreShown_data();
     void negativeNumbersAreShown();
@@ -416,6 +419,91 @@ void DiagramPainterTest::equalGamutsDoNotDependOnTheTarget()
     content.gamuts[2].gamut = content.gamuts.at(3).gamut;
     painter.setContent(content);
     QCOMPARE(kept(), apart);
+}
+
+void DiagramPainterTest::oddNamesAreShown()
+{
+    DiagramContent content;
+    const QString longName = QStringLiteral("A very long name of a gamut that nobody would give to one but a machine ");
+    const QByteArray longest = (longName + longName).toUtf8();
+    content.gamuts = {{gamut(longest.constData(), {0.64, 0.33}, {0.3, 0.6}, {0.15, 0.06}), GamutRole::Standard},
+        {gamut("two\nlines\x07 ", {0.708, 0.292}, {0.17, 0.797}, {0.131, 0.046}), GamutRole::Standard},
+        {gamut("Point", {0.2, 0.6}, {0.2, 0.6}, {0.2, 0.6}), GamutRole::Declared}};
+    content.measurePoints = {{QPointF(0.45, 0.25), QStringLiteral("mark\tone")}};
+    DiagramPainter painter;
+    prepare(painter, content, Model::Diagram::Cie1931, QSizeF(500, 400), 1.0);
+    QStringList names;
+    for (const DiagramLabel &label : painter.labels()) {
+        if (label.kind == DiagramLabel::Kind::Gamut || label.kind == DiagramLabel::Kind::Mark) {
+            names.append(label.text);
+        }
+    }
+    QVERIFY2(names.contains(QStringLiteral("Point")), qPrintable(names.join(QLatin1Char('|'))));
+    QVERIFY2(names.contains(QStringLiteral("two lines")), qPrintable(names.join(QLatin1Char('|'))));
+    QVERIFY2(names.contains(QStringLiteral("mark one")), qPrintable(names.join(QLatin1Char('|'))));
+    const auto isShortened
+        = [](const QString &name) { return name.startsWith(QStringLiteral("A very")) && name.endsWith(QChar(0x2026)); };
+    QCOMPARE(int(std::count_if(names.cbegin(), names.cend(), isShortened)), 1);
+}
+
+void DiagramPainterTest::numbersLeaveMarksToBeSeen()
+{
+    DiagramPainter painter;
+    int numbers = 0;
+    for (const double zoom : {1.0, 3.0, 8.0, 20.0, 60.0}) {
+        for (const QSizeF &size : {QSizeF(300, 250), QSizeF(1024, 768)}) {
+            const DiagramContent content = fullContent();
+            prepare(painter, content, Model::Diagram::Cie1931, size, zoom);
+            QVector<QPointF> marks;
+            for (const QVector<DiagramMark> &kind :
+                {content.measurePoints, content.colorTemperaturePoints, content.cmyPoints}) {
+                for (const DiagramMark &mark : kind) {
+                    marks.append(painter.viewport().toPosition(mark.xy));
+                }
+            }
+            for (const DiagramGamut &shown : content.gamuts) {
+                if (shown.role != GamutRole::Standard) {
+                    const Model::Target white = shown.gamut.getTargets().white;
+                    marks.append(painter.viewport().toPosition(QPointF(white.x, white.y)));
+                }
+            }
+            const QPointF handle = painter.viewport().toPosition(d65);
+            const QRectF plot = painter.viewport().plot().adjusted(10.0, 10.0, -10.0, -10.0);
+            for (const DiagramLabel &label : painter.labels()) {
+                if (label.kind == DiagramLabel::Kind::Isotherm) {
+                    ++numbers;
+                    for (const QPointF &mark : marks) {
+                        QVERIFY2(!plot.contains(mark) || !label.place.adjusted(-4, -4, 4, 4).contains(mark),
+                            qPrintable(label.text));
+                    }
+                }
+                if (label.kind == DiagramLabel::Kind::Isotherm || label.kind == DiagramLabel::Kind::Gamut) {
+                    QVERIFY2(!label.place.adjusted(-10, -10, 10, 10).contains(handle), qPrintable(label.text));
+                }
+            }
+        }
+    }
+    QVERIFY2(numbers > 20, qPrintable(QString::number(numbers)));
+}
+
+void DiagramPainterTest::outlinesDoNotCutWavelengths()
+{
+    DiagramContent content;
+    content.colors = HorseshoeColors::None;
+    content.layers = DiagramLayer::Wavelengths | DiagramLayer::Originals;
+    DiagramPainter painter;
+    prepare(painter, content, Model::Diagram::Cie1931, QSizeF(700, 600), 1.0);
+    const QVector<DiagramLabel> labels = painter.labels();
+    QVERIFY(!labels.isEmpty());
+    const QRectF place = labels.first().place;
+    const int before = countOf(painted(painter).copy(place.toRect()), diagramPalette(content.ground).numbers, 40);
+    // An outline right through the number.
+    const QPointF left = painter.viewport().toChromaticity(QPointF(place.left() - 60.0, place.center().y()));
+    const QPointF right = painter.viewport().toChromaticity(QPointF(place.right() + 60.0, place.center().y()));
+    content.gamuts = {{gamut("wide", right, left, {0.3, 0.3}), GamutRole::Original}};
+    painter.setContent(content);
+    const int after = countOf(painted(painter).copy(place.toRect()), diagramPalette(content.ground).numbers, 40);
+    QVERIFY2(before > 5 && after > 0.9 * before, qPrintable(QStringLiteral("%1 %2").arg(before).arg(after)));
 }
 
 void DiagramPainterTest::manyEqualGamutsAreNoBand()
