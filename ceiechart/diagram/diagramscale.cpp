@@ -399,6 +399,15 @@ private:
                                            : QRectF(at - QPointF(size.width(), size.height()) / 2.0, size);
                 pending.places.append(place);
             }
+            // Aslant beyond an end, where the view is wide and marks are close to the locus.
+            for (const double share : {1.0, 0.0}) {
+                const QPointF at = isotherm.line.pointAt(share);
+                const QPointF way = unit(at - isotherm.line.center());
+                for (const double turn : {1.0, -1.0}) {
+                    const QPointF aslant = unit(way + QPointF(-way.y(), way.x()) * turn);
+                    pending.places.append(besides(at + aslant * tickGap, aslant, style.size(number)));
+                }
+            }
             pending.text = number;
             m_step.isotherms.append(pending);
         }
