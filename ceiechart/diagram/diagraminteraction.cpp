@@ -114,8 +114,12 @@ Qt::KeyboardModifiers without(Qt::KeyboardModifiers modifiers, Qt::KeyboardModif
 //! Whether the wheel event is one of fingers on a pad, which pans, and not one of a wheel, which zooms.
 bool isOfFingers(const QWheelEvent &event)
 {
-    if (event.pixelDelta().isNull() || (event.modifiers() & Qt::ControlModifier)) {
+    if (event.modifiers() & Qt::ControlModifier) {
         return false;
+    }
+    if (event.pixelDelta().isNull()) {
+        // Not every platform tells the pixels of fingers; a wheel that is tilted wants to go sideways too.
+        return event.phase() != Qt::NoScrollPhase || event.angleDelta().x() != 0;
     }
     // Some platforms give pixels for the notches of a wheel too, but no phases.
     const bool isNotches
@@ -158,6 +162,7 @@ void DiagramView::Private::press(const QPointF &position, Qt::MouseButton presse
     }
     button = pressed;
     lastPosition = position;
+    isClick = true;
     panRest = QPointF();
     const auto vertex = pressed == Qt::LeftButton ? handleAt(position) : std::nullopt;
     if (!vertex) {
@@ -194,6 +199,7 @@ void DiagramView::Private::moveTo(const QPointF &position, Qt::KeyboardModifiers
     case Hand::Spent:
         break;
     case Hand::Panning:
+        isClick = isClick && delta.isNull();
         lastPosition = position;
         pan(delta);
         break;
@@ -318,11 +324,14 @@ void DiagramView::Private::release(Qt::MouseButton released)
         return;
     }
     const bool wasDragging = hand == Hand::Dragging;
+    const bool wasClick = hand == Hand::Panning && isClick && released == Qt::LeftButton;
     hand = Hand::Idle;
     button = Qt::NoButton;
     updateCursor();
     if (wasDragging) {
         finishEditing();
+    } else if (wasClick) {
+        q->setSelectedVertex(std::nullopt);
     }
 }
 
@@ -357,7 +366,6 @@ void DiagramView::Private::hover(const QPointF &position)
         refreshOverlay();
         q->update(former + overlayRegion(overlay));
     }
-    const bool wasHovering = isHovering;
     isHovering = isInside;
     const bool showsReadout = isInside && hand != Hand::Dragging; // the label shows the same
     if (readoutShown && (showsReadout || !overlay.readout.isEmpty())) {
@@ -377,24 +385,27 @@ void DiagramView::Private::hover(const QPointF &position)
         }
     }
     updateCursor();
-    if (isInside) {
-        tell(&DiagramView::hovered, viewport.toChromaticity(position));
-    } else if (wasHovering) {
+    const QPointF xy = viewport.toChromaticity(position);
+    const bool wasTold = isHoverTold;
+    isHoverTold = isInside && isChromaticity(xy);
+    if (isHoverTold) {
+        tell(&DiagramView::hovered, xy);
+    } else if (wasTold) {
         tell(&DiagramView::hoverEnded);
     }
 }
 
 void DiagramView::Private::endHover()
 {
-    const bool wasHovering = isHovering;
+    const bool wasTold = isHoverTold;
     const QRegion former = overlayRegion(overlay);
     pointer.reset();
     hovered.reset();
-    isHovering = false;
+    isHovering = isHoverTold = false;
     refreshOverlay();
     q->update(former + overlayRegion(overlay));
     updateCursor();
-    if (wasHovering) {
+    if (wasTold) {
         tell(&DiagramView::hoverEnded);
     }
 }
@@ -696,7 +707,8 @@ void DiagramView::wheelEvent(QWheelEvent *event)
     const QPointF position = event->position();
     event->accept();
     if (isOfFingers(*event)) {
-        d->pan(event->pixelDelta());
+        const QPointF pixels = event->pixelDelta();
+        d->pan(pixels.isNull() ? QPointF(event->angleDelta()) * (panOfKey / notch) : pixels);
     } else if (event->angleDelta().y() != 0) {
         d->zoom(std::pow(zoomOfNotch, event->angleDelta().y() / notch), position);
     }

@@ -833,7 +833,9 @@ void DiagramView::paint(QPainter *painter, const QRectF &place) const
 
 QImage DiagramView::toImage(const QSize &size, qreal devicePixelRatio) const
 {
-    if (size.isEmpty() || !(devicePixelRatio > 0.0)) {
+    // With less, the whole picture would be less than a letter, of a view that is too large to paint.
+    constexpr double leastRatio = 0.1;
+    if (size.isEmpty() || !(devicePixelRatio >= leastRatio)) {
         return QImage();
     }
     QImage image(size, QImage::Format_RGB32);

@@ -35,6 +35,7 @@ namespace ceiechart {
  * | wheel, pinch, + and − | zoom about the pointer |
  * | drag on free ground, middle button, two-finger scroll, Alt and arrows | pan |
  * | double click on free ground, 0, Home | all of the diagram |
+ * | click on free ground | no handle is selected |
  * | drag of a handle, or one within 24 pixels | move a primary or the white |
  * | Tab; R, G, B, W | the next handle; a certain one |
  * | arrows | move the handle that is selected; without one, pan |
@@ -166,7 +167,7 @@ public:
     /*!
      * \brief The view without handles and readout as a picture of \a size device pixels.
      *
-     * Null for an empty size or a \a devicePixelRatio that is not above 0.
+     * Null for an empty size or a \a devicePixelRatio below 0.1.
      */
     QImage toImage(const QSize &size, qreal devicePixelRatio = 1.0) const;
 
@@ -218,7 +219,7 @@ Q_SIGNALS:
 
     /*! \brief The pointer is over the CIE 1931 chromaticity \a xy. */
     void hovered(const QPointF &xy);
-    /*! \brief The pointer has left the diagram. */
+    /*! \brief The pointer has left the diagram, or is over what is no chromaticity. */
     void hoverEnded();
 
 protected:

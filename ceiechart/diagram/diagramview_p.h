@@ -157,6 +157,7 @@ public:
     Hand hand = Hand::Idle;
     Qt::MouseButton button = Qt::NoButton;
     QPointF lastPosition;
+    bool isClick = false; //!< the hand has not moved since it pressed
     QPointF panRest; //!< what is left of a pan by whole device pixels
     std::optional<TargetEdit> edit;
     Model::Targets before; //!< what Esc brings back
@@ -169,7 +170,8 @@ public:
 
     std::optional<QPointF> pointer; //!< over the widget
     std::optional<GamutVertex> hovered;
-    bool isHovering = false;
+    bool isHovering = false; //!< over the plot
+    bool isHoverTold = false; //!< over a chromaticity, and signalled
     bool touching = false;
     bool pinching = false;
     std::pair<int, int> pinchFingers;

@@ -211,6 +211,7 @@ private Q_SLOTS:
     void zoomEnds();
     void keysZoom();
     void fingersOnAPadPan();
+    void fingersWithoutPixelsPan();
     void wheelsWithPixelsZoom();
     void middleButtonPans();
     void freeGroundPans();
@@ -262,6 +263,7 @@ private Q_SLOTS:
     void refusedKeysAreNoEdit();
     void twoArrowsAreOneEdit();
     void unseenHandlesAreBroughtIntoView();
+    void clickOnFreeGroundSelectsNothing();
     void keysDoNotChangeTheHandleInADrag();
     void escapeWithAHeldHandleIsTakenByTheView();
     void hidingLetsGo();
@@ -288,6 +290,7 @@ private Q_SLOTS:
     void minusZeroNeverShows();
     void digitsFollowTheZoom();
     void hoverTells();
+    void hoverTellsChromaticitiesOnly();
 
     // Painting
     void hoverRepaintsTheReadoutOnly();
@@ -299,6 +302,7 @@ private Q_SLOTS:
     void followsThePalette();
     void imagesAreSharpAtEveryRatio_data();
     void imagesAreSharpAtEveryRatio();
+    void imagesOfNoRatioAreNull();
     void imagesShowNoHands();
     void readoutStandsOnTheOtherSideFromRightToLeft();
     void cursorsSayWhatAHandDoes();
@@ -551,6 +555,21 @@ void DiagramViewTest::fingersOnAPadPan()
     // With Ctrl they zoom.
     view.wheel(QPointF(300, 300), QPoint(0, 50), QPoint(0, 30), Qt::ControlModifier, Qt::ScrollUpdate);
     QVERIFY(view.zoomFactor() > 10.0);
+}
+
+void DiagramViewTest::fingersWithoutPixelsPan()
+{
+    View view;
+    view.setZoomFactor(10.0);
+    const QPointF xy(0.3, 0.35);
+    const QPointF before = view.at(xy);
+    view.wheel(QPointF(300, 300), QPoint(120, 0));
+    const QPointF sideways = view.at(xy) - before;
+    QVERIFY(sideways.x() > 10.0);
+    QCOMPARE(sideways.y() + 1.0, 1.0);
+    view.wheel(QPointF(300, 300), QPoint(0, -40), QPoint(), Qt::NoModifier, Qt::ScrollUpdate);
+    QVERIFY(view.at(xy).y() < before.y() - 5.0);
+    QCOMPARE(view.zoomFactor(), 10.0);
 }
 
 void DiagramViewTest::wheelsWithPixelsZoom()
@@ -1407,6 +1426,23 @@ void DiagramViewTest::unseenHandlesAreBroughtIntoView()
     QCOMPARE(view.zoomFactor(), 20.0);
 }
 
+void DiagramViewTest::clickOnFreeGroundSelectsNothing()
+{
+    View view;
+    view.setSelectedVertex(GamutVertex::Green);
+    const QPointF ground = freeGround(view);
+    view.press(ground);
+    view.drag(ground + QPointF(10, 10));
+    view.release(ground + QPointF(10, 10));
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green); // as that was a pan
+    view.press(ground, Qt::MiddleButton);
+    view.release(ground, Qt::MiddleButton);
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green);
+    view.press(ground);
+    view.release(ground);
+    QVERIFY(!view.selectedVertex());
+}
+
 void DiagramViewTest::keysDoNotChangeTheHandleInADrag()
 {
     View view;
@@ -1893,6 +1929,23 @@ void DiagramViewTest::readoutGivesWayToHands()
     QVERIFY(!view.d->overlay.readout.isEmpty());
 }
 
+void DiagramViewTest::hoverTellsChromaticitiesOnly()
+{
+    View view;
+    view.setDiagram(Model::Diagram::Cie1976);
+    QSignalSpy hovered(&view, &DiagramView::hovered);
+    QSignalSpy ended(&view, &DiagramView::hoverEnded);
+    view.hover(view.at(QPointF(0.3, 0.3)));
+    QCOMPARE(hovered.count(), 1);
+    // Above the horseshoe there is nothing that x and y could say.
+    view.d->pan(QPointF(0, 280));
+    view.hover(view.viewport().fromPoint(QPointF(0.1, 0.85)));
+    QVERIFY(view.viewport().plot().contains(view.viewport().fromPoint(QPointF(0.1, 0.85))));
+    QCOMPARE(hovered.count(), 1);
+    QCOMPARE(ended.count(), 1);
+    QVERIFY(!view.d->overlay.readout.isEmpty());
+}
+
 // Painting
 
 void DiagramViewTest::hoverRepaintsTheReadoutOnly()
@@ -2092,6 +2145,15 @@ void DiagramViewTest::imagesAreSharpAtEveryRatio()
         };
         QVERIFY(edges(image) > edges(plain.scaled(image.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
     }
+}
+
+void DiagramViewTest::imagesOfNoRatioAreNull()
+{
+    View view;
+    for (const double ratio : {0.0, -1.0, 1e-9, 0.01, std::numeric_limits<double>::quiet_NaN()}) {
+        QVERIFY(view.toImage(QSize(100, 100), ratio).isNull());
+    }
+    QCOMPARE(view.toImage(QSize(100, 100), 0.5).size(), QSize(100, 100));
 }
 
 void DiagramViewTest::imagesShowNoHands()
