@@ -46,8 +46,17 @@ QPointF inDiagram(const DiagramView &view, const QPointF &xy)
     return QPointF(point.x, point.y);
 }
 
+//! Whether a user could do with the view what an action does.
+bool takesHands(const DiagramView &view)
+{
+    return view.isEnabled() && view.isVisible();
+}
+
 void moveTo(DiagramView &view, GamutVertex vertex, const QPointF &point)
 {
+    if (!takesHands(view)) {
+        return;
+    }
     const Model::DiagramPoint xy = Model::fromDiagram(view.diagram(), {point.x(), point.y()});
     view.moveVertex(vertex, QPointF(xy.x, xy.y));
 }
@@ -224,8 +233,12 @@ public:
         if (name == increaseAction() || name == decreaseAction()) {
             setCurrentValue(currentValue().toDouble() + (name == increaseAction() ? step : -step));
         } else if (name == setFocusAction() || name == pressAction()) {
-            view().setSelectedVertex(m_vertex);
-            view().setFocus(Qt::OtherFocusReason);
+            if (takesHands(view())) {
+                view().setSelectedVertex(m_vertex);
+            }
+            if (isValid() && takesHands(view())) {
+                view().setFocus(Qt::OtherFocusReason);
+            }
         }
     }
 
@@ -251,6 +264,13 @@ public:
     using ValuePart::ValuePart;
 
     QAccessibleInterface *parent() const override;
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = ValuePart::state();
+        state.focused = false; // the handle is
+        return state;
+    }
 
     QString text(QAccessible::Text kind) const override
     {

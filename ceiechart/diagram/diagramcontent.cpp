@@ -3,17 +3,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <initializer_list>
 
 namespace ceiechart {
 
 namespace {
 
-bool isFinite(const Model::Targets &targets)
+bool isFinite(const Model::Target &target)
 {
-    const auto corners = {&targets.red, &targets.green, &targets.blue};
-    return std::all_of(corners.begin(), corners.end(),
-        [](const Model::Target *corner) { return std::isfinite(corner->x) && std::isfinite(corner->y); });
+    return std::isfinite(target.x) && std::isfinite(target.y);
 }
 
 } // namespace
@@ -37,7 +34,9 @@ DiagramLayer layerOf(GamutRole role)
 
 bool DiagramContent::shows(const DiagramGamut &gamut) const
 {
-    return gamut.visible && layers.testFlag(layerOf(gamut.role)) && isFinite(gamut.gamut.getTargets());
+    const Model::Targets &targets = gamut.gamut.getTargets();
+    return gamut.visible && layers.testFlag(layerOf(gamut.role)) && isFinite(targets.red) && isFinite(targets.green)
+        && isFinite(targets.blue) && (gamut.role != GamutRole::Target || isFinite(targets.white));
 }
 
 const DiagramGamut *DiagramContent::find(GamutRole role) const

@@ -127,7 +127,12 @@ struct CEIECHART_EXPORT DiagramContent {
     QVector<DiagramRings> rings; //!< tolerances round white points
     QVector<QPointF> trail; //!< where a point has been, the oldest first
 
-    /*! \brief Whether \a gamut is switched on, itself and by its role's layer, and is finite. */
+    /*!
+     * \brief Whether \a gamut is switched on, itself and by its role's layer, and its primaries are finite.
+     *
+     * Of a target the white has to be finite as well, as it is edited; of others only the mark of the white is left
+     * out.
+     */
     bool shows(const DiagramGamut &gamut) const;
 
     /*! \brief The first gamut of \a role, or null. It is valid until gamuts changes. */

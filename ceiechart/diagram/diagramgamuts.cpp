@@ -4,6 +4,7 @@
 
 #include <gamutmodel/gamutcoverage.h>
 
+#include <QLocale>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -27,6 +28,8 @@ constexpr double plateRadius = 3.0;
 constexpr double plateOpacity = 0.94; // leaves names a contrast of 3:1 on every colour
 constexpr double namedMarks = 30.0; // least distance of marks that have names beside them
 constexpr double handleRoom = 11.0; // round the corners of a target, where handles are
+constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
+constexpr double leastNameShare = 0.2; // of the plot's width, to which names may be shortened
 constexpr double markRadius = 4.0;
 constexpr double whiteRadius = 5.0;
 constexpr double whiteArm = 4.0; // of the cross through the target's white
@@ -53,9 +56,28 @@ QPointF xyOf(const Model::Target &target)
     return QPointF(target.x, target.y);
 }
 
+//! On one line: what controls a terminal or breaks a line has no glyph.
+QString onOneLine(QString text)
+{
+    for (QChar &character : text) {
+        const QChar::Category category = character.category();
+        if (category == QChar::Other_Control || category == QChar::Separator_Line
+            || category == QChar::Separator_Paragraph) {
+            character = QLatin1Char(' ');
+        }
+    }
+    return text.simplified();
+}
+
 QString nameOf(const DiagramGamut &gamut)
 {
-    return QString::fromStdString(gamut.gamut.colorGamutName());
+    return onOneLine(QString::fromStdString(gamut.gamut.colorGamutName()));
+}
+
+//! Six digits at most, and no exponent.
+QString decimal(double value)
+{
+    return QString::number(QString::number(value, 'g', 6).toDouble(), 'f', QLocale::FloatingPointShortest);
 }
 
 QColor faded(QColor color, double share)
@@ -134,20 +156,27 @@ public:
                 }
             }
         }
+        // Painted again and again, the soft edges of a line would harden.
+        for (size_t i = m_shown.size(); i-- > 0;) {
+            for (size_t k = i + 1; k < m_shown.size() && m_shown[k].role == m_shown[i].role; ++k) {
+                m_shown[i].isCovered = m_shown[i].isCovered || (!m_shown[k].isCovered && areEqual(i, k));
+            }
+        }
     }
 
     DiagramStep takeUnedited()
     {
         for (size_t i = 0; i < m_shown.size(); ++i) {
-            if (m_shown[i].role != GamutRole::Target) {
+            if (isDrawn(i, false)) {
                 drawOutline(i, false);
             }
         }
         return std::move(m_step);
     }
 
-    DiagramStep takeEdited()
+    DiagramStep takeEdited(const QVector<PendingNumber> &isotherms)
     {
+        placeIsotherms(isotherms);
         drawCommonArea();
         if (m_sheet.shows(DiagramLayer::LostArea)) {
             drawLostArea();
@@ -155,7 +184,7 @@ public:
         for (size_t i = 0; i < m_shown.size(); ++i) {
             const bool isTarget = m_shown[i].role == GamutRole::Target;
             // What the target would cover comes out on both sides of it.
-            if (isTarget || equalsAbove(i, false) != equalsAbove(i, true)) {
+            if (isDrawn(i, true) && (isTarget || equalsAbove(i, false) != equalsAbove(i, true))) {
                 drawOutline(i, true);
             }
         }
@@ -185,6 +214,7 @@ private:
         int index;
         GamutRole role;
         QPolygonF corners;
+        bool isCovered = false; // by the equal outline of another gamut of the role, which looks the same
     };
 
     //! Whether the outlines number \a i and \a k fall on one another.
@@ -196,14 +226,22 @@ private:
             [](const QPointF &p, const QPointF &q) { return length(p - q) < equalWithin; });
     }
 
-    bool isDrawn(size_t i, bool targetsToo) const { return targetsToo || m_shown[i].role != GamutRole::Target; }
+    bool isDrawn(size_t i, bool targetsToo) const
+    {
+        return !m_shown[i].isCovered && (targetsToo || m_shown[i].role != GamutRole::Target);
+    }
 
-    //! How many gamuts that are drawn later equal number \a i.
+    //! How many other roles have gamuts that are drawn later and equal number \a i: those of one role look the same.
     int equalsAbove(size_t i, bool targetsToo) const
     {
         int count = 0;
+        GamutRole last = m_shown[i].role;
         for (size_t k = i + 1; k < m_shown.size(); ++k) {
-            count += isDrawn(k, targetsToo) && areEqual(i, k) ? 1 : 0;
+            // A role's gamuts follow one another.
+            if (m_shown[k].role != last && isDrawn(k, targetsToo) && areEqual(i, k)) {
+                ++count;
+                last = m_shown[k].role;
+            }
         }
         return count;
     }
@@ -211,7 +249,7 @@ private:
     bool hasEqualBelow(size_t i) const
     {
         for (size_t k = 0; k < i; ++k) {
-            if (areEqual(i, k)) {
+            if (!m_shown[k].isCovered && areEqual(i, k)) {
                 return true;
             }
         }
@@ -312,7 +350,7 @@ private:
             } else {
                 drawCased(m_step.drawing, thinned(curve, curvePieces), true, m_plot, pen, m_innerPalette.casing);
             }
-            const QString number = QString::number(radius, 'g', 6);
+            const QString number = decimal(radius);
             const QSizeF size = style.size(number);
             if (bounds.height() < 3.2 * size.height()) {
                 continue;
@@ -402,16 +440,86 @@ private:
         m_step.drawing.shape(shape, QPen(Qt::white, 3.5), Qt::NoBrush);
         m_step.drawing.shape(shape, QPen(QColor(24, 26, 30), 1.4), mark.color.isValid() ? mark.color : color);
         m_marks.append(QRectF(at - QPointF(markRadius, markRadius), at + QPointF(markRadius, markRadius)));
-        if (!mark.name.isEmpty()) {
-            m_named.push_back({at, mark.name});
+        const QString name = onOneLine(mark.name);
+        if (!name.isEmpty()) {
+            m_named.push_back({at, name});
+        }
+    }
+
+    static QRectF around(const QPointF &at, double reach)
+    {
+        return QRectF(at - QPointF(reach, reach), at + QPointF(reach, reach));
+    }
+
+    QPointF whiteOf(const Shown &gamut) const
+    {
+        return m_sheet.viewport.toPosition(xyOf(m_content.gamuts.at(gamut.index).gamut.getTargets().white));
+    }
+
+    //! Where a target has its handles.
+    QVector<QRectF> handles() const
+    {
+        QVector<QRectF> result;
+        for (const Shown &gamut : m_shown) {
+            if (gamut.role == GamutRole::Target) {
+                for (const QPointF &corner : gamut.corners) {
+                    result.append(around(corner, handleRoom));
+                }
+                result.append(around(whiteOf(gamut), handleRoom));
+            }
+        }
+        return result;
+    }
+
+    //! What numbers must leave to be seen: marks, whites and handles.
+    QVector<QRectF> clearOfNumbers() const
+    {
+        QVector<QRectF> result = handles();
+        const auto add = [&](DiagramLayer layer, const QVector<DiagramMark> &marks) {
+            for (const DiagramMark &mark : m_sheet.shows(layer) ? marks : QVector<DiagramMark>()) {
+                const QPointF at = m_sheet.viewport.toPosition(mark.xy);
+                if (isSeen(at, markRadius + 2.0)) {
+                    result.append(around(at, markRadius + 2.0));
+                }
+            }
+        };
+        add(DiagramLayer::MeasurePoints, m_content.measurePoints);
+        add(DiagramLayer::ColorTemperaturePoints, m_content.colorTemperaturePoints);
+        add(DiagramLayer::CmyPoints, m_content.cmyPoints);
+        for (const Shown &gamut : m_shown) {
+            if (gamut.role != GamutRole::Standard && m_sheet.shows(DiagramLayer::Whites) && isFinite(whiteOf(gamut))) {
+                result.append(around(whiteOf(gamut), whiteRadius + 2.0));
+            }
+        }
+        return result;
+    }
+
+    void placeIsotherms(const QVector<PendingNumber> &isotherms)
+    {
+        const QVector<QRectF> clear = clearOfNumbers();
+        QVector<QPointF> placed;
+        for (const PendingNumber &number : isotherms) {
+            for (const QRectF &place : number.places) {
+                const auto isNear
+                    = [&](const QPointF &other) { return length(other - place.center()) < isothermNumbers; };
+                const auto isCovered = [&](const QRectF &mark) { return mark.intersects(place); };
+                if (m_step.places.isFree(place, m_inner, labelGap)
+                    && std::none_of(placed.cbegin(), placed.cend(), isNear)
+                    && std::none_of(clear.cbegin(), clear.cend(), isCovered)) {
+                    placed.append(place.center());
+                    m_step.places.add(DiagramLabel::Kind::Isotherm, number.text, place);
+                    m_step.texts.textIn(
+                        place, number.text, m_sheet.fonts.numbers, m_innerPalette.planckian, m_innerPalette.casing);
+                    break;
+                }
+            }
         }
     }
 
     void drawWhites()
     {
         for (const Shown &gamut : m_shown) {
-            const QPointF at
-                = m_sheet.viewport.toPosition(xyOf(m_content.gamuts.at(gamut.index).gamut.getTargets().white));
+            const QPointF at = whiteOf(gamut);
             if (gamut.role == GamutRole::Standard || !isSeen(at, whiteRadius + whiteArm)) {
                 continue;
             }
@@ -469,6 +577,12 @@ private:
                 }
             }
         }
+        if (atCorners.isEmpty() && atLines.isEmpty()) {
+            // All corners are in one point.
+            for (const QPointF &way : {QPointF(1.0, 0.0), QPointF(-1.0, 0.0), QPointF(0.0, -1.0), QPointF(0.0, 1.0)}) {
+                atCorners.append(beside(middle, way));
+            }
+        }
         return gamut.role == GamutRole::Standard ? atCorners + atLines : atLines + atCorners;
     }
 
@@ -489,15 +603,7 @@ private:
 
     void drawNames()
     {
-        QVector<QRectF> handles;
-        for (const Shown &gamut : m_shown) {
-            for (const QPointF &corner : gamut.corners) {
-                if (gamut.role == GamutRole::Target) {
-                    const QPointF reach(handleRoom, handleRoom);
-                    handles.append(QRectF(corner - reach, corner + reach));
-                }
-            }
-        }
+        const QVector<QRectF> handles = this->handles();
         // The target first, as the last is the most likely to find no room.
         for (auto gamut = m_shown.crbegin(); gamut != m_shown.crend(); ++gamut) {
             const QString name = nameOf(m_content.gamuts.at(gamut->index));
@@ -505,31 +611,46 @@ private:
                 continue;
             }
             const TextStyle &style = gamut->role == GamutRole::Standard ? m_sheet.fonts.texts : m_sheet.fonts.names;
-            QRectF best;
-            int least = std::numeric_limits<int>::max();
-            const QSizeF size = style.size(name) + QSizeF(2.0 * platePadding, 0.0);
-            for (const QRectF &place : namePlaces(*gamut, size)) {
-                const bool isOnHandle = std::any_of(handles.cbegin(), handles.cend(),
-                    [&place](const QRectF &handle) { return handle.intersects(place); });
-                if (isOnHandle || !m_step.places.isFree(place, m_inner, labelGap)) {
-                    continue;
-                }
-                const int cost = covered(place);
-                if (cost < least) {
-                    least = cost;
-                    best = place;
-                }
-                if (cost == 0) {
-                    break;
+            // What finds no room as a whole is shortened, more and more.
+            QString shown = name;
+            QRectF best = bestPlace(*gamut, style.size(shown), handles);
+            for (double share = 0.6; best.isNull() && share >= leastNameShare; share -= 0.2) {
+                const QString shorter = style.elided(name, share * m_plot.width());
+                if (shorter != shown) {
+                    shown = shorter;
+                    best = bestPlace(*gamut, style.size(shown), handles);
                 }
             }
             if (!best.isNull()) {
-                m_step.places.add(DiagramLabel::Kind::Gamut, name, best, gamut->index);
+                m_step.places.add(DiagramLabel::Kind::Gamut, shown, best, gamut->index);
                 drawPlate(best, m_palette);
-                m_step.texts.textIn(best.adjusted(platePadding, 0.0, -platePadding, 0.0), name, style,
+                m_step.texts.textIn(best.adjusted(platePadding, 0.0, -platePadding, 0.0), shown, style,
                     DiagramPainter::gamutPen(gamut->role).color());
             }
         }
+    }
+
+    //! Where a name of the size \a text covers least; null where it has no place.
+    QRectF bestPlace(const Shown &gamut, const QSizeF &text, const QVector<QRectF> &handles) const
+    {
+        QRectF best;
+        int least = std::numeric_limits<int>::max();
+        for (const QRectF &place : namePlaces(gamut, text + QSizeF(2.0 * platePadding, 0.0))) {
+            const bool isOnHandle = std::any_of(
+                handles.cbegin(), handles.cend(), [&place](const QRectF &handle) { return handle.intersects(place); });
+            if (isOnHandle || !m_step.places.isFree(place, m_inner, labelGap)) {
+                continue;
+            }
+            const int cost = covered(place);
+            if (cost < least) {
+                least = cost;
+                best = place;
+            }
+            if (cost == 0) {
+                break;
+            }
+        }
+        return best;
     }
 
     void drawMarkName(const QPointF &at, const QString &name)
@@ -616,9 +737,9 @@ DiagramStep gamutsStep(const DiagramSheet &sheet, const LabelPlaces &places)
     return Gamuts(sheet, places).takeUnedited();
 }
 
-DiagramStep editedStep(const DiagramSheet &sheet, const LabelPlaces &places)
+DiagramStep editedStep(const DiagramSheet &sheet, const LabelPlaces &places, const QVector<PendingNumber> &isotherms)
 {
-    return Gamuts(sheet, places).takeEdited();
+    return Gamuts(sheet, places).takeEdited(isotherms);
 }
 
 } // namespace ceiechart

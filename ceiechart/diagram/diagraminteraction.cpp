@@ -2,10 +2,12 @@
 #include <ceiechart/diagram/diagramview_p.h>
 
 #include <QGestureEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
 #include <QPinchGesture>
+#include <QStyleHints>
 #include <QTouchEvent>
 #include <QWheelEvent>
 
@@ -32,23 +34,29 @@ QPointF positionOf(const Event &event)
 #endif
 }
 
-QVector<QPointF> touchPositions(const QTouchEvent &event)
+struct Finger {
+    int id = 0;
+    QPointF at;
+};
+
+//! The fingers that are down.
+QVector<Finger> fingersOf(const QTouchEvent &event)
 {
-    QVector<QPointF> positions;
+    QVector<Finger> fingers;
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     for (const QTouchEvent::TouchPoint &point : event.touchPoints()) {
         if (point.state() != Qt::TouchPointReleased) {
-            positions.append(point.pos());
+            fingers.append({point.id(), point.pos()});
         }
     }
 #else
     for (const QEventPoint &point : event.points()) {
         if (point.state() != QEventPoint::Released) {
-            positions.append(point.position());
+            fingers.append({point.id(), point.position()});
         }
     }
 #endif
-    return positions;
+    return fingers;
 }
 
 double distance(const QPointF &a, const QPointF &b)
@@ -106,8 +114,12 @@ Qt::KeyboardModifiers without(Qt::KeyboardModifiers modifiers, Qt::KeyboardModif
 //! Whether the wheel event is one of fingers on a pad, which pans, and not one of a wheel, which zooms.
 bool isOfFingers(const QWheelEvent &event)
 {
-    if (event.pixelDelta().isNull() || (event.modifiers() & Qt::ControlModifier)) {
+    if (event.modifiers() & Qt::ControlModifier) {
         return false;
+    }
+    if (event.pixelDelta().isNull()) {
+        // Not every platform tells the pixels of fingers; a wheel that is tilted wants to go sideways too.
+        return event.phase() != Qt::NoScrollPhase || event.angleDelta().x() != 0;
     }
     // Some platforms give pixels for the notches of a wheel too, but no phases.
     const bool isNotches
@@ -143,9 +155,14 @@ void DiagramView::Private::press(const QPointF &position, Qt::MouseButton presse
     if (hand != Hand::Idle || (pressed != Qt::LeftButton && pressed != Qt::MiddleButton)) {
         return;
     }
+    const QPointer<DiagramView> view(q);
     finishKeys();
+    if (!view) {
+        return;
+    }
     button = pressed;
     lastPosition = position;
+    isClick = true;
     panRest = QPointF();
     const auto vertex = pressed == Qt::LeftButton ? handleAt(position) : std::nullopt;
     if (!vertex) {
@@ -153,37 +170,52 @@ void DiagramView::Private::press(const QPointF &position, Qt::MouseButton presse
         updateCursor();
         return;
     }
+    hand = Hand::Spent;
     q->setSelectedVertex(vertex);
+    // A host may have taken away the view, the target or the handle in answer to the signals.
+    if (!view || hand != Hand::Spent || selected != vertex || !hasHandles()) {
+        return;
+    }
     if (rules->isMovable(*vertex)) {
         hand = Hand::Holding;
-    } else {
-        hand = Hand::Spent;
-        const TargetContext present = context();
-        Q_EMIT q->editRefused(rules->move(present, *vertex, xyOf(targetAt(present.target, *vertex))).reason);
+    } else if (!refuseLocked(*vertex)) {
+        return;
     }
     updateCursor();
 }
 
+bool DiagramView::Private::refuseLocked(GamutVertex vertex)
+{
+    const TargetContext present = context();
+    return tell(&DiagramView::editRefused, rules->move(present, vertex, xyOf(targetAt(present.target, vertex))).reason);
+}
+
 void DiagramView::Private::moveTo(const QPointF &position, Qt::KeyboardModifiers modifiers)
 {
+    const QPointer<DiagramView> view(q);
     const QPointF delta = position - lastPosition;
     switch (hand) {
     case Hand::Idle:
     case Hand::Spent:
         break;
     case Hand::Panning:
+        isClick = isClick && delta.isNull();
         lastPosition = position;
         pan(delta);
         break;
     case Hand::Holding:
-        if (delta.isNull() || !selected || !hasHandles()) {
+        // A finger that taps is never quite still; a mouse is.
+        if (delta.isNull() || !selected || !hasHandles()
+            || (touching && distance(position, lastPosition) < QGuiApplication::styleHints()->startDragDistance())) {
             break;
         }
         hand = Hand::Dragging;
         before = target()->gamut.getTargets();
         edit.emplace(context(), *selected);
         lastReason.clear();
-        Q_EMIT q->editingStarted();
+        if (!tell(&DiagramView::editingStarted)) {
+            return;
+        }
         Q_FALLTHROUGH();
     case Hand::Dragging:
         // A host may have ended it in answer to the signal.
@@ -194,7 +226,9 @@ void DiagramView::Private::moveTo(const QPointF &position, Qt::KeyboardModifiers
         }
         break;
     }
-    hover(position);
+    if (view) {
+        hover(position);
+    }
 }
 
 void DiagramView::Private::drag(const QPointF &way, Qt::KeyboardModifiers modifiers)
@@ -231,19 +265,8 @@ bool DiagramView::Private::apply(const EditStep &step)
     if (step.snap) {
         guidesXy.append(step.snap->to.xy);
     }
-    const bool isChange = step.move.targets && !sameTargets(*step.move.targets, target()->gamut.getTargets());
-    const Model::Targets shown = step.move.targets.value_or(target()->gamut.getTargets());
-    label = QStringList(DiagramView::tr("%1: %2", "primary or white, and its coordinates")
-                            .arg(gamutVertexName(vertex), q->coordinatesText(xyOf(targetAt(shown, vertex)))));
-    if (!editNote.isEmpty()) {
-        label.append(editNote);
-    }
-    if (step.snap) {
-        label.append(step.snap->to.name);
-    }
-    if (!step.move.reason.isEmpty()) {
-        label.append(step.move.reason);
-    }
+    const bool isChange = changesTarget(step.move);
+    label = EditLabel{vertex, step.snap ? step.snap->to.name : QString(), step.move.reason};
     if (isChange) {
         putTarget(*step.move.targets);
     } else {
@@ -252,27 +275,36 @@ bool DiagramView::Private::apply(const EditStep &step)
     q->update(former + overlayRegion(overlay));
     if (step.move.reason != lastReason) {
         lastReason = step.move.reason;
-        if (!lastReason.isEmpty()) {
-            Q_EMIT q->editRefused(lastReason);
+        if (!lastReason.isEmpty() && !tell(&DiagramView::editRefused, lastReason)) {
+            return isChange;
         }
     }
-    if (isChange) {
-        // The host may put another target in its place, or end the drag.
-        const Model::ColorGamut edited = target()->gamut;
-        Q_EMIT q->targetEdited(edited);
-        Q_EMIT q->gamutsChanged();
+    // The host may have put another target in its place, or have ended the edit.
+    if (isChange && edit && target()) {
+        tellEdit();
     }
     return isChange;
+}
+
+bool DiagramView::Private::changesTarget(const TargetMove &move) const
+{
+    return move.targets && target() && !sameTargets(*move.targets, target()->gamut.getTargets());
+}
+
+bool DiagramView::Private::tellEdit()
+{
+    const Model::ColorGamut edited = target()->gamut;
+    return tell(&DiagramView::targetEdited, edited) && tell(&DiagramView::gamutsChanged);
 }
 
 void DiagramView::Private::dropLabel()
 {
     labelTimer.stop();
-    if (label.isEmpty() && guidesXy.isEmpty()) {
+    if (!label && guidesXy.isEmpty()) {
         return;
     }
     const QRegion former = overlayRegion(overlay);
-    label.clear();
+    label.reset();
     guidesXy.clear();
     refreshOverlay();
     q->update(former + overlayRegion(overlay));
@@ -283,7 +315,7 @@ void DiagramView::Private::finishEditing()
     edit.reset();
     lastReason.clear();
     dropLabel();
-    Q_EMIT q->editingFinished();
+    tell(&DiagramView::editingFinished);
 }
 
 void DiagramView::Private::release(Qt::MouseButton released)
@@ -292,12 +324,15 @@ void DiagramView::Private::release(Qt::MouseButton released)
         return;
     }
     const bool wasDragging = hand == Hand::Dragging;
+    const bool wasClick = hand == Hand::Panning && isClick && released == Qt::LeftButton;
     hand = Hand::Idle;
     button = Qt::NoButton;
+    updateCursor();
     if (wasDragging) {
         finishEditing();
+    } else if (wasClick) {
+        q->setSelectedVertex(std::nullopt);
     }
-    updateCursor();
 }
 
 void DiagramView::cancelEditing()
@@ -308,15 +343,16 @@ void DiagramView::cancelEditing()
     // The button is still down; what it does from here is nothing.
     d->hand = Private::Hand::Spent;
     d->edit.reset();
+    d->updateCursor();
     if (d->target() && !sameTargets(d->target()->gamut.getTargets(), d->before)) {
         d->putTarget(d->before);
-        const Model::ColorGamut restored = d->target()->gamut;
-        Q_EMIT targetEdited(restored);
-        Q_EMIT gamutsChanged();
+        if (!d->tellEdit()) {
+            return;
+        }
     }
-    d->updateCursor();
-    Q_EMIT editingCanceled();
-    d->finishEditing();
+    if (d->tell(&DiagramView::editingCanceled)) {
+        d->finishEditing();
+    }
 }
 
 void DiagramView::Private::hover(const QPointF &position)
@@ -330,13 +366,13 @@ void DiagramView::Private::hover(const QPointF &position)
         refreshOverlay();
         q->update(former + overlayRegion(overlay));
     }
-    const bool wasHovering = isHovering;
     isHovering = isInside;
-    if (readoutShown && (isInside || wasHovering)) {
+    const bool showsReadout = isInside && hand != Hand::Dragging; // the label shows the same
+    if (readoutShown && (showsReadout || !overlay.readout.isEmpty())) {
         const QRect former = overlay.readoutPlace.toAlignedRect();
         const bool hadReadout = !overlay.readout.isEmpty();
-        const QString text = isInside ? q->coordinatesText(viewport.toChromaticity(position)) : QString();
-        if (hadReadout != isInside || DiagramOverlay::labelSize({text}, q->font()) != overlay.readoutPlace.size()) {
+        const QString text = showsReadout ? q->coordinatesText(viewport.toChromaticity(position)) : QString();
+        if (hadReadout != showsReadout || DiagramOverlay::labelSize({text}, q->font()) != overlay.readoutPlace.size()) {
             refreshOverlay();
         } else {
             overlay.readout = text;
@@ -344,29 +380,33 @@ void DiagramView::Private::hover(const QPointF &position)
         if (hadReadout) {
             q->update(former);
         }
-        if (isInside) {
+        if (showsReadout) {
             q->update(overlay.readoutPlace.toAlignedRect());
         }
     }
     updateCursor();
-    if (isInside) {
-        Q_EMIT q->hovered(viewport.toChromaticity(position));
-    } else if (wasHovering) {
-        Q_EMIT q->hoverEnded();
+    const QPointF xy = viewport.toChromaticity(position);
+    const bool wasTold = isHoverTold;
+    isHoverTold = isInside && isChromaticity(xy);
+    if (isHoverTold) {
+        tell(&DiagramView::hovered, xy);
+    } else if (wasTold) {
+        tell(&DiagramView::hoverEnded);
     }
 }
 
 void DiagramView::Private::endHover()
 {
-    const bool wasHovering = isHovering;
+    const bool wasTold = isHoverTold;
     const QRegion former = overlayRegion(overlay);
     pointer.reset();
     hovered.reset();
-    isHovering = false;
+    isHovering = isHoverTold = false;
     refreshOverlay();
     q->update(former + overlayRegion(overlay));
-    if (wasHovering) {
-        Q_EMIT q->hoverEnded();
+    updateCursor();
+    if (wasTold) {
+        tell(&DiagramView::hoverEnded);
     }
 }
 
@@ -389,24 +429,27 @@ void DiagramView::Private::updateCursor()
 
 bool DiagramView::moveVertex(GamutVertex vertex, const QPointF &xy)
 {
-    if (d->hand == Private::Hand::Dragging || d->edit || d->readOnly || !d->target()) {
+    if (d->hand == Private::Hand::Dragging || d->edit || !d->hasHandles()) {
         return false;
     }
-    const TargetMove move = movedTowards(*d->rules, d->context(), vertex, xy);
-    if (!move.reason.isEmpty()) {
-        Q_EMIT editRefused(move.reason);
-    }
-    if (!move.targets || sameTargets(*move.targets, d->target()->gamut.getTargets())) {
+    TargetMove move = movedTowards(*d->rules, d->context(), vertex, xy);
+    if (!move.reason.isEmpty() && !d->tell(&DiagramView::editRefused, move.reason)) {
         return false;
     }
-    Q_EMIT editingStarted();
-    d->putTarget(*move.targets);
-    const Model::ColorGamut edited = d->target()->gamut;
-    announceMove(this, vertex);
-    Q_EMIT targetEdited(edited);
-    Q_EMIT gamutsChanged();
-    Q_EMIT editingFinished();
-    return true;
+    if (!d->hasHandles() || !d->changesTarget(move) || !d->tell(&DiagramView::editingStarted)) {
+        return false;
+    }
+    // The host may have put another target in its place, or have taken it away.
+    const bool isChange = d->hasHandles() && d->changesTarget(move = movedTowards(*d->rules, d->context(), vertex, xy));
+    if (isChange) {
+        d->putTarget(*move.targets);
+        announceMove(this, vertex);
+        if (!d->tellEdit()) {
+            return true;
+        }
+    }
+    d->tell(&DiagramView::editingFinished);
+    return isChange;
 }
 
 // Keys
@@ -415,7 +458,7 @@ bool DiagramView::Private::wants(const QKeyEvent &event) const
 {
     const Qt::KeyboardModifiers modifiers = without(event.modifiers(), Qt::KeypadModifier);
     if (event.key() == Qt::Key_Escape) {
-        return hand == Hand::Dragging;
+        return hand == Hand::Holding || hand == Hand::Dragging;
     }
     if (!arrowDirection(event.key()).isNull() || isZoomIn(event) || isZoomOut(event)) {
         return true;
@@ -439,42 +482,79 @@ bool DiagramView::Private::nudge(QKeyEvent *event)
         pan(QPointF(-direction.x(), direction.y()) * panOfKey);
         return true;
     }
-    const TargetContext present = context();
-    if (!rules->isMovable(*selected)) {
-        Q_EMIT q->editRefused(rules->move(present, *selected, xyOf(targetAt(present.target, *selected))).reason);
+    const QPointer<DiagramView> view(q);
+    reveal(*selected);
+    if (!view || !selected || !hasHandles()) {
         return true;
     }
+    if (!rules->isMovable(*selected)) {
+        refuseLocked(*selected);
+        return true;
+    }
+    arrowsDown.insert(event->key());
     EditHands hands;
     hands.slow = modifiers & Qt::ShiftModifier;
     hands.decimals = exactDecimals;
-    QPointF way = direction * keyStepFor(viewport.scale());
+    const QPointF way = direction * keyStepFor(viewport.scale());
     if (modifiers & Qt::ControlModifier) {
         hands.onLine = true;
     }
-    if (!keysAreEditing) {
+    const auto nextStep = [&] {
+        edit.emplace(context(), *selected);
+        const EditStep step = edit->moveBy(*rules, way, hands);
+        return step;
+    };
+    EditStep step = nextStep();
+    if (!keysAreEditing && changesTarget(step.move)) {
+        edit.reset();
         keysAreEditing = true;
-        Q_EMIT q->editingStarted();
+        if (!tell(&DiagramView::editingStarted) || !keysAreEditing || !selected || !hasHandles()) {
+            return true;
+        }
+        step = nextStep(); // from what the host may have put there
     }
-    edit.emplace(present, *selected);
-    const GamutVertex vertex = *selected;
-    const bool isChange = apply(edit->moveBy(*rules, way, hands));
+    const GamutVertex vertex = edit->vertex();
+    const bool isChange = apply(step);
+    if (!view) {
+        return true;
+    }
     edit.reset();
     labelTimer.stop();
-    if (isChange) {
+    if (isChange && hasHandles()) {
         announceMove(q, vertex);
     }
     return true;
 }
 
+void DiagramView::Private::reveal(GamutVertex vertex)
+{
+    if (hasHandles() && !viewport.plot().contains(positionOf(vertex))) {
+        look(viewport.centredOn(xyOf(targetAt(target()->gamut.getTargets(), vertex)), viewport.zoom()));
+    }
+}
+
+void DiagramView::Private::selectByKey(GamutVertex vertex)
+{
+    const QPointer<DiagramView> view(q);
+    q->setSelectedVertex(vertex);
+    if (view && selected == vertex) {
+        reveal(vertex);
+    }
+}
+
 void DiagramView::Private::finishKeys()
 {
-    if (!keysAreEditing) {
+    if (!keysAreEditing && arrowsDown.isEmpty()) {
         return;
     }
+    const bool wereEditing = keysAreEditing;
     keysAreEditing = false;
+    arrowsDown.clear();
     lastReason.clear();
     labelTimer.start();
-    Q_EMIT q->editingFinished();
+    if (wereEditing) {
+        tell(&DiagramView::editingFinished);
+    }
 }
 
 void DiagramView::keyPressEvent(QKeyEvent *event)
@@ -482,6 +562,11 @@ void DiagramView::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape) {
         if (d->hand == Private::Hand::Dragging) {
             cancelEditing();
+            return;
+        }
+        if (d->hand == Private::Hand::Holding) {
+            d->hand = Private::Hand::Spent;
+            d->updateCursor();
             return;
         }
         QWidget::keyPressEvent(event);
@@ -503,7 +588,7 @@ void DiagramView::keyPressEvent(QKeyEvent *event)
         return;
     }
     if (const auto vertex = vertexOf(event->key())) {
-        setSelectedVertex(vertex);
+        d->selectByKey(*vertex);
     } else {
         showAll();
     }
@@ -511,8 +596,13 @@ void DiagramView::keyPressEvent(QKeyEvent *event)
 
 void DiagramView::keyReleaseEvent(QKeyEvent *event)
 {
-    if (!event->isAutoRepeat() && !arrowDirection(event->key()).isNull() && d->keysAreEditing) {
-        d->finishKeys();
+    // Until the last of them is up it is one edit.
+    if (!event->isAutoRepeat() && d->arrowsDown.contains(event->key())) {
+        if (d->arrowsDown.size() == 1) {
+            d->finishKeys();
+        } else {
+            d->arrowsDown.remove(event->key());
+        }
         return;
     }
     QWidget::keyReleaseEvent(event);
@@ -521,12 +611,16 @@ void DiagramView::keyReleaseEvent(QKeyEvent *event)
 void DiagramView::focusInEvent(QFocusEvent *event)
 {
     QWidget::focusInEvent(event);
+    const QPointer<DiagramView> view(this);
     if (d->hasHandles()) {
         if (event->reason() == Qt::TabFocusReason) {
-            setSelectedVertex(allGamutVertices.front());
+            d->selectByKey(allGamutVertices.front());
         } else if (event->reason() == Qt::BacktabFocusReason) {
-            setSelectedVertex(allGamutVertices.back());
+            d->selectByKey(allGamutVertices.back());
         }
+    }
+    if (!view) {
+        return;
     }
     d->refreshOverlay();
     update();
@@ -538,9 +632,9 @@ void DiagramView::focusInEvent(QFocusEvent *event)
 void DiagramView::focusOutEvent(QFocusEvent *event)
 {
     QWidget::focusOutEvent(event);
-    d->finishKeys();
     d->refreshOverlay();
     update();
+    d->finishKeys();
 }
 
 bool DiagramView::focusNextPrevChild(bool next)
@@ -553,7 +647,7 @@ bool DiagramView::focusNextPrevChild(bool next)
         const int from = d->selected ? int(*d->selected) : (next ? -1 : count);
         const int to = next ? from + 1 : from - 1;
         if (to >= 0 && to < count) {
-            setSelectedVertex(allGamutVertices[size_t(to)]);
+            d->selectByKey(allGamutVertices[size_t(to)]);
             return true;
         }
     }
@@ -569,89 +663,129 @@ void DiagramView::mousePressEvent(QMouseEvent *event)
 
 void DiagramView::mouseMoveEvent(QMouseEvent *event)
 {
+    const QPointer<DiagramView> view(this);
     if (d->button != Qt::NoButton && !(event->buttons() & d->button)) {
         // The release went elsewhere.
         d->release(d->button);
+    }
+    if (!view) {
+        return;
     }
     d->moveTo(ceiechart::positionOf(*event), event->modifiers());
 }
 
 void DiagramView::mouseReleaseEvent(QMouseEvent *event)
 {
+    const QPointer<DiagramView> view(this);
     d->release(event->button());
-    d->hover(ceiechart::positionOf(*event));
+    if (view) {
+        d->hover(ceiechart::positionOf(*event));
+    }
 }
 
 void DiagramView::mouseDoubleClickEvent(QMouseEvent *event)
 {
+    const QPointer<DiagramView> view(this);
     const QPointF position = ceiechart::positionOf(*event);
     if (event->button() == Qt::LeftButton && !d->handleAt(position)) {
         showAll();
     }
-    d->press(position, event->button());
+    if (view) {
+        d->press(position, event->button());
+    }
 }
 
 void DiagramView::leaveEvent(QEvent *event)
 {
     QWidget::leaveEvent(event);
     d->endHover();
-    d->updateCursor();
 }
 
 void DiagramView::wheelEvent(QWheelEvent *event)
 {
+    const QPointer<DiagramView> view(this);
     const QPointF position = event->position();
+    event->accept();
     if (isOfFingers(*event)) {
-        d->pan(event->pixelDelta());
+        const QPointF pixels = event->pixelDelta();
+        d->pan(pixels.isNull() ? QPointF(event->angleDelta()) * (panOfKey / notch) : pixels);
     } else if (event->angleDelta().y() != 0) {
         d->zoom(std::pow(zoomOfNotch, event->angleDelta().y() / notch), position);
     }
-    d->hover(position);
-    event->accept();
+    if (view) {
+        d->hover(position);
+    }
 }
 
 bool DiagramView::Private::touch(QTouchEvent *event)
 {
-    const QVector<QPointF> fingers = touchPositions(*event);
+    const QPointer<DiagramView> view(q);
+    const QVector<Finger> fingers = fingersOf(*event);
     event->accept();
     if (event->type() == QEvent::TouchCancel) {
-        q->cancelEditing();
-        release(Qt::LeftButton);
         touching = pinching = false;
+        endHand();
         return true;
     }
+    touching = !fingers.isEmpty();
     if (fingers.size() >= 2) {
-        const QPointF middle = (fingers[0] + fingers[1]) / 2.0;
-        const double length = std::max(1.0, distance(fingers[0], fingers[1]));
-        if (!pinching) {
-            // The first finger did not mean to move anything.
-            q->cancelEditing();
-            release(Qt::LeftButton);
+        const auto finger = [&fingers](int id) {
+            return std::find_if(fingers.begin(), fingers.end(), [id](const Finger &f) { return f.id == id; });
+        };
+        auto first = finger(pinchFingers.first);
+        auto second = finger(pinchFingers.second);
+        const bool goesOn = pinching && first != fingers.end() && second != fingers.end();
+        if (!goesOn) {
+            // With other fingers it begins anew, from where these are.
+            first = fingers.begin();
+            second = first + 1;
+            pinchFingers = {first->id, second->id};
+        }
+        const QPointF formerMiddle = pinchMiddle;
+        const double formerLength = pinchLength;
+        pinchMiddle = (first->at + second->at) / 2.0;
+        pinchLength = std::max(1.0, distance(first->at, second->at));
+        if (goesOn) {
+            const QPointF middle = pinchMiddle;
+            const double factor = pinchLength / formerLength;
+            pan(middle - formerMiddle);
+            if (view && factor != 1.0) {
+                zoom(factor, middle);
+            }
+        } else {
             pinching = true;
             panRest = QPointF();
-        } else {
-            pan(middle - pinchMiddle);
-            if (length != pinchLength) {
-                zoom(length / pinchLength, middle);
-            }
+            // The first finger did not mean to move anything.
+            endHand();
         }
-        pinchMiddle = middle;
-        pinchLength = length;
     } else if (event->type() == QEvent::TouchBegin && fingers.size() == 1) {
         if (q->focusPolicy() & Qt::ClickFocus) {
             q->setFocus(Qt::MouseFocusReason);
         }
-        press(fingers[0], Qt::LeftButton);
+        if (view) {
+            press(fingers[0].at, Qt::LeftButton);
+        }
     } else if (!pinching && fingers.size() == 1) {
-        moveTo(fingers[0], event->modifiers());
-    }
-    touching = !fingers.isEmpty();
-    if (!touching) {
-        release(Qt::LeftButton);
+        moveTo(fingers[0].at, event->modifiers());
+    } else if (fingers.isEmpty()) {
         pinching = false;
-        endHover();
+        release(Qt::LeftButton);
+        if (view) {
+            endHover();
+        }
     }
     return true;
+}
+
+void DiagramView::Private::endHand()
+{
+    const QPointer<DiagramView> view(q);
+    q->cancelEditing();
+    if (view) {
+        hand = Hand::Idle;
+        button = Qt::NoButton;
+        updateCursor();
+    }
 }
 
 bool DiagramView::Private::gesture(QGestureEvent *event)
@@ -661,6 +795,7 @@ bool DiagramView::Private::gesture(QGestureEvent *event)
         return false;
     }
     event->accept(pinch);
+    const QPointer<DiagramView> view(q);
     // Fingers on a screen are seen one by one; this is for those on a pad.
     if (touching || pinching || pinch->state() == Qt::GestureCanceled) {
         return true;
@@ -669,7 +804,7 @@ bool DiagramView::Private::gesture(QGestureEvent *event)
     if (pinch->changeFlags() & QPinchGesture::CenterPointChanged && pinch->state() == Qt::GestureUpdated) {
         pan(pinch->centerPoint() - pinch->lastCenterPoint());
     }
-    if (pinch->changeFlags() & QPinchGesture::ScaleFactorChanged && pinch->scaleFactor() > 0.0) {
+    if (view && pinch->changeFlags() & QPinchGesture::ScaleFactorChanged && pinch->scaleFactor() > 0.0) {
         zoom(pinch->scaleFactor(), middle);
     }
     return true;

@@ -22,6 +22,7 @@ constexpr double numbersShare = 0.88; // of the size of the font
 constexpr double dashesOfKey = 32.0; // logical pixels, at most: enough for any dash pattern to be known by
 constexpr double pictureRatioOfFiles = 2.0; // pixels of the colours for each logical pixel of a file
 constexpr double mostPicturePixels = 3e7;
+constexpr double longestSide = 32768.0; // logical pixels to lay out: on a coarse device there is no more to be seen
 constexpr int ringCorners = 720;
 
 double screenDotsPerInch()
@@ -120,7 +121,7 @@ public:
     const DiagramStep &editedLayout()
     {
         if (!edited) {
-            edited = editedStep(sheet(), gamutsLayout().places);
+            edited = editedStep(sheet(), gamutsLayout().places, scaleLayout().isotherms);
         }
         return *edited;
     }
@@ -208,15 +209,20 @@ void DiagramPainter::paint(QPainter *painter, const QRectF &place) const
     const QPaintDevice *device = painter->device();
     const double unit = device->logicalDpiY() / logicalPixelsPerInch;
     const DiagramFonts fonts(d->font, device, unit);
+    const double longest = std::max(place.width(), place.height()) / unit;
+    if (!std::isfinite(longest)) {
+        return;
+    }
+    const double enlargement = std::max(1.0, longest / longestSide);
     const DiagramViewport viewport
-        = d->viewport.withMargins(diagramMargins(d->content, fonts)).resized(place.size() / unit);
+        = d->viewport.withMargins(diagramMargins(d->content, fonts)).resized(place.size() / (unit * enlargement));
     const DiagramSheet sheet{d->content, viewport, fonts};
 
     painter->save();
     painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform
         | QPainter::LosslessImageRendering);
     painter->translate(place.topLeft());
-    painter->scale(unit, unit);
+    painter->scale(unit * enlargement, unit * enlargement);
     const QRectF whole(QPointF(), viewport.size());
     if (sheet.colors() == HorseshoeColors::None) {
         painter->fillRect(whole, sheet.palette().ground);
@@ -230,7 +236,7 @@ void DiagramPainter::paint(QPainter *painter, const QRectF &place) const
     }
     const DiagramStep scale = scaleStep(sheet);
     const DiagramStep gamuts = gamutsStep(sheet, scale.places);
-    const DiagramStep edited = editedStep(sheet, gamuts.places);
+    const DiagramStep edited = editedStep(sheet, gamuts.places, scale.isotherms);
     scale.drawing.paint(painter);
     gamuts.drawing.paint(painter);
     edited.drawing.paint(painter);

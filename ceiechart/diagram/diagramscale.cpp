@@ -14,7 +14,7 @@ namespace ceiechart {
 namespace {
 
 // Logical pixels
-constexpr double numberGap = 6.0; // between an axis and its numbers
+constexpr double numberGap = 6.0; // between an axis and its numbers, and beside a number
 constexpr double edgeGap = 4.0; // between texts and the edge of the whole
 constexpr double tickRoom = 8.0; // beside a number on the level axis, at least
 constexpr double rowsPerTick = 2.6; // heights of a text from tick to tick on the upright axis, at least
@@ -30,7 +30,6 @@ constexpr double wavelengthTicks = 7.0; // least distance of ticks
 constexpr double wavelengthNumbers = 34.0; // least distance of the middles of numbers
 constexpr double isothermLines = 30.0; // least distance of isotherms
 constexpr double mostIsotherms = 18.0; // side by side on the shorter side of the plot
-constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
 constexpr double labelGap = 3.0; // round any text
 
 constexpr double isothermDuv = 0.02; // of the ends of isotherms, at most
@@ -40,7 +39,7 @@ constexpr double hottest = 12.0;
 constexpr double closestIsotherms = 1.0; // kelvin
 constexpr double closestWavelengths = 0.01; // nm
 
-const QString widestNumber = QStringLiteral("0.00000");
+const QString widestNumber = QStringLiteral("-0.00000");
 
 double length(const QPointF &way)
 {
@@ -161,20 +160,21 @@ private:
         for (const qint64 tick : across) {
             const double x = toPosition(QPointF(acrossScale.value(tick), 0.0)).x();
             const QSizeF size = style.size(acrossScale.text(tick));
-            drawNumber(
-                acrossScale.text(tick), QRectF(QPointF(x - size.width() / 2.0, m_plot.bottom() + edgeGap), size));
+            drawNumber(acrossScale.text(tick), QRectF(QPointF(x - size.width() / 2.0, m_plot.bottom() + edgeGap), size),
+                numberGap);
         }
         for (const qint64 tick : up) {
             const double y = toPosition(QPointF(0.0, upScale.value(tick))).y();
             const QSizeF size = style.size(upScale.text(tick));
             drawNumber(upScale.text(tick),
-                QRectF(QPointF(m_plot.left() - numberGap - size.width(), y - size.height() / 2.0), size));
+                QRectF(QPointF(m_plot.left() - numberGap - size.width(), y - size.height() / 2.0), size), 0.0);
         }
     }
 
-    void drawNumber(const QString &number, const QRectF &place)
+    //! Side by side with another text, a number needs a \a gap to be read as one of its own.
+    void drawNumber(const QString &number, const QRectF &place, double gap)
     {
-        if (m_step.places.isFree(place, m_whole, 0.0)) {
+        if (m_step.places.isFree(place, m_whole, gap)) {
             m_step.places.add(DiagramLabel::Kind::Axis, number, place);
             m_step.drawing.textIn(place, number, m_sheet.fonts.numbers, m_palette.numbers);
         }
@@ -273,7 +273,8 @@ private:
             if (isNumbered) {
                 numbered.append(place.center());
                 m_step.places.add(DiagramLabel::Kind::Wavelength, number, place);
-                m_step.drawing.textIn(place, number, style, m_palette.numbers);
+                // Outlines of wide gamuts pass below.
+                m_step.texts.textIn(place, number, style, m_palette.numbers, m_palette.casing);
             }
             const QLineF tick(wavelength.foot, isNumbered ? tip : wavelength.foot + wavelength.outwards * shortTick);
             if (const auto part = partWithin(tick, m_plot)) {
@@ -384,8 +385,8 @@ private:
         }
         m_step.drawing.lines(drawn, QPen(m_innerPalette.casing, tickWidth + casingOfTicks, Qt::SolidLine, Qt::FlatCap));
         m_step.drawing.lines(drawn, QPen(m_innerPalette.planckian, tickWidth, Qt::SolidLine, Qt::FlatCap));
-        QVector<QPointF> numbered;
         for (const Isotherm &isotherm : lines) {
+            PendingNumber pending;
             const QString number = QString::number(isotherm.kelvin, 'f', 0) + QStringLiteral(" K");
             // Beyond an end, or on the last part of a line that leaves the view.
             for (const double share : {1.0, 0.0, 0.88, 0.12}) {
@@ -396,14 +397,19 @@ private:
                 const bool isEnd = share == 0.0 || share == 1.0;
                 const QRectF place = isEnd ? besides(at + way * tickGap, way, size)
                                            : QRectF(at - QPointF(size.width(), size.height()) / 2.0, size);
-                if (isApart(numbered, place.center(), isothermNumbers)
-                    && m_step.places.isFree(place, m_inner, labelGap)) {
-                    numbered.append(place.center());
-                    m_step.places.add(DiagramLabel::Kind::Isotherm, number, place);
-                    m_step.texts.textIn(place, number, style, m_innerPalette.planckian, m_innerPalette.casing);
-                    break;
+                pending.places.append(place);
+            }
+            // Aslant beyond an end, where the view is wide and marks are close to the locus.
+            for (const double share : {1.0, 0.0}) {
+                const QPointF at = isotherm.line.pointAt(share);
+                const QPointF way = unit(at - isotherm.line.center());
+                for (const double turn : {1.0, -1.0}) {
+                    const QPointF aslant = unit(way + QPointF(-way.y(), way.x()) * turn);
+                    pending.places.append(besides(at + aslant * tickGap, aslant, style.size(number)));
                 }
             }
+            pending.text = number;
+            m_step.isotherms.append(pending);
         }
     }
 

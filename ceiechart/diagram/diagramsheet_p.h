@@ -50,11 +50,18 @@ private:
 /*! \brief The margins that numbers of \a fonts need. */
 QMarginsF diagramMargins(const DiagramContent &content, const DiagramFonts &fonts);
 
+/*! \brief A number that a later step places, where it covers no mark. */
+struct PendingNumber {
+    QString text;
+    QVector<QRectF> places; //!< the best first
+};
+
 /*! \brief What is painted and the texts in it. */
 struct DiagramStep {
     DrawList drawing; //!< lines and marks
     DrawList texts; //!< what no line of a later step may cross
     LabelPlaces places; //!< those of the steps before as well
+    QVector<PendingNumber> isotherms; //!< from the most important on
 };
 
 /*! \name The steps of painting
@@ -62,7 +69,7 @@ struct DiagramStep {
  */
 DiagramStep scaleStep(const DiagramSheet &sheet);
 DiagramStep gamutsStep(const DiagramSheet &sheet, const LabelPlaces &places);
-DiagramStep editedStep(const DiagramSheet &sheet, const LabelPlaces &places);
+DiagramStep editedStep(const DiagramSheet &sheet, const LabelPlaces &places, const QVector<PendingNumber> &isotherms);
 /*! @} */
 
 /*! \brief A line of \a pen with a casing of \a casing under it, as far as it is within \a area. */

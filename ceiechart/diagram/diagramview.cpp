@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace ceiechart {
@@ -115,33 +116,56 @@ TargetContext DiagramView::Private::context() const
 
 void DiagramView::Private::change(const DiagramContent &changed)
 {
+    const QPointer<DiagramView> view(q);
+    const auto former = target() ? std::make_optional(target()->gamut.getTargets()) : std::nullopt;
     content = changed;
     content.ground = groundOf(q->palette());
     painter->setContent(content);
     linesAreReady = false;
-    if (hand == Hand::Dragging && !hasHandles()) {
-        hand = Hand::Spent;
-        edit.reset();
+    const bool isOther = former && target() && !sameTargets(*former, target()->gamut.getTargets());
+    if (edit && isOther) {
+        edit->rebase(target()->gamut.getTargets());
     }
-    if (selected && !hasHandles()) {
-        q->setSelectedVertex(std::nullopt);
-    }
-    look(viewport); // as the margins may be others
     refreshOverlay();
     q->update();
+    if (!hasHandles()) {
+        if (hand == Hand::Holding) {
+            hand = Hand::Spent;
+        }
+        if (isOther) {
+            before = target()->gamut.getTargets(); // it is the host's, not one that a cancel takes back
+        }
+        q->cancelEditing();
+        if (view) {
+            edit.reset(); // of a key
+            if (selected && !hasHandles()) {
+                q->setSelectedVertex(std::nullopt);
+            }
+        }
+    }
+    if (view) {
+        look(viewport); // as the margins may be others
+    }
 }
 
 void DiagramView::Private::replace(GamutRole role, const std::vector<Model::ColorGamut> &gamuts)
 {
     DiagramContent changed = content;
-    const auto first = std::find_if(
-        changed.gamuts.begin(), changed.gamuts.end(), [role](const DiagramGamut &gamut) { return gamut.role == role; });
-    int place = int(first - changed.gamuts.begin());
-    changed.gamuts.erase(std::remove_if(changed.gamuts.begin(), changed.gamuts.end(),
-                             [role](const DiagramGamut &gamut) { return gamut.role == role; }),
-        changed.gamuts.end());
-    for (const Model::ColorGamut &gamut : gamuts) {
-        changed.gamuts.insert(place++, {gamut, role, true});
+    const auto isOfRole = [role](const DiagramGamut &gamut) { return gamut.role == role; };
+    QVector<DiagramGamut> former;
+    std::copy_if(changed.gamuts.begin(), changed.gamuts.end(), std::back_inserter(former), isOfRole);
+    const auto isSame = [](const DiagramGamut &a, const Model::ColorGamut &b) {
+        return a.gamut.colorGamutName() == b.colorGamutName() && sameTargets(a.gamut.getTargets(), b.getTargets());
+    };
+    if (std::equal(former.begin(), former.end(), gamuts.begin(), gamuts.end(), isSame)) {
+        return;
+    }
+    int place = int(std::find_if(changed.gamuts.begin(), changed.gamuts.end(), isOfRole) - changed.gamuts.begin());
+    changed.gamuts.erase(std::remove_if(changed.gamuts.begin(), changed.gamuts.end(), isOfRole), changed.gamuts.end());
+    for (size_t i = 0; i < gamuts.size(); ++i) {
+        // Another gamut in the place of one that is switched off is switched off too.
+        const bool visible = int(i) < former.size() ? former[int(i)].visible : true;
+        changed.gamuts.insert(place++, {gamuts[i], role, visible});
     }
     q->setContent(changed);
 }
@@ -227,7 +251,7 @@ void DiagramView::Private::look(DiagramViewport wanted, const QPointF &anchor)
     linesAreReady = false;
     refreshOverlay();
     q->update();
-    Q_EMIT q->viewChanged();
+    tell(&DiagramView::viewChanged);
 }
 
 void DiagramView::Private::look(const DiagramViewport &wanted)
@@ -331,38 +355,72 @@ void DiagramView::Private::refreshOverlay()
             fresh.guides.append(positions);
         }
     }
-    fresh.showsFocusFrame = q->hasFocus() && !(selected && hasHandles());
-    if (readoutShown && isHovering && pointer) {
+    const bool showsFocus = std::any_of(fresh.handles.cbegin(), fresh.handles.cend(),
+        [](const DiagramOverlay::Handle &handle) { return handle.hasFocus; });
+    fresh.showsFocusFrame = q->hasFocus() && !showsFocus;
+    if (readoutShown && isHovering && pointer && hand != Hand::Dragging) {
         fresh.readout = q->coordinatesText(viewport.toChromaticity(*pointer));
-        const QSizeF size = DiagramOverlay::labelSize({fresh.readout}, q->font());
-        const double room = 6.0;
-        const double left = q->isRightToLeft() ? plot.left() + room : plot.right() - room - size.width();
-        fresh.readoutPlace = QRectF(QPointF(left, plot.top() + room), size);
+        fresh.readoutPlace = placeOfReadout(DiagramOverlay::labelSize({fresh.readout}, q->font()), fresh.handles);
     }
-    fresh.label = label;
     overlay = fresh;
     placeLabel();
 }
 
+QRectF DiagramView::Private::placeOfReadout(const QSizeF &size, const QVector<DiagramOverlay::Handle> &handles) const
+{
+    constexpr double room = 6.0;
+    const QRectF area = viewport.plot().adjusted(room, room, -room, -room);
+    const double left = area.left();
+    const double right = area.right() - size.width();
+    const double first = q->isRightToLeft() ? left : right;
+    const double second = q->isRightToLeft() ? right : left;
+    const double bottom = area.bottom() - size.height();
+    const QPointF corners[] = {{first, area.top()}, {second, area.top()}, {first, bottom}, {second, bottom}};
+    for (const QPointF &corner : corners) {
+        const QRectF place(corner, size);
+        if (std::none_of(handles.cbegin(), handles.cend(), [&place](const DiagramOverlay::Handle &handle) {
+                return DiagramOverlay::bounds(handle).intersects(place);
+            })) {
+            return place;
+        }
+    }
+    return QRectF(corners[0], size);
+}
+
+QStringList DiagramView::Private::labelEntries() const
+{
+    QStringList entries;
+    if (label && target()) {
+        const QPointF xy = xyOf(targetAt(target()->gamut.getTargets(), label->vertex));
+        entries.append(DiagramView::tr("%1: %2", "primary or white, and its coordinates")
+                           .arg(gamutVertexName(label->vertex), q->coordinatesText(xy)));
+        for (const QString &entry : {editNote, label->snap, label->reason}) {
+            if (!entry.isEmpty()) {
+                entries.append(entry);
+            }
+        }
+    }
+    return entries;
+}
+
 void DiagramView::Private::placeLabel()
 {
-    if (overlay.label.isEmpty() || !selected || !hasHandles()) {
-        overlay.label.clear();
+    QStringList entries = labelEntries();
+    if (entries.isEmpty() || !selected || !hasHandles()) {
         return;
     }
     const QPointF at = positionOf(*selected);
     const QRectF plot = viewport.plot();
     if (!plot.contains(at)) {
-        overlay.label.clear();
         return;
     }
     constexpr double widest = 260.0; // of the lines after the first, in logical pixels
     const QFont font = q->font();
-    overlay.label = DiagramOverlay::wrapped(overlay.label, font, std::min(widest, plot.width() / 2.0));
     QVector<QRectF> avoid;
     for (const DiagramOverlay::Handle &handle : qAsConst(overlay.handles)) {
         avoid.append(DiagramOverlay::bounds(handle));
     }
+    const QVector<QRectF> handleBoxes = avoid; // the last is of what is edited
     // What the hand is likely to move to must be seen as well.
     for (const DiagramGamut &gamut : content.gamuts) {
         if (gamut.role != GamutRole::Target && content.shows(gamut)) {
@@ -378,12 +436,22 @@ void DiagramView::Private::placeLabel()
             }
         }
     }
-    // Where there is no room for all of it, the coordinates are what matters.
-    for (; !overlay.label.isEmpty(); overlay.label.removeLast()) {
-        overlay.labelPlace = labelPlace(DiagramOverlay::labelSize(overlay.label, font), at, avoid);
-        if (!overlay.labelPlace.isEmpty()) {
+    const auto isPlaced = [&](const QVector<QRectF> &boxes) {
+        overlay.label = DiagramOverlay::wrapped(entries, font, std::min(widest, plot.width() / 2.0));
+        overlay.labelPlace = labelPlace(DiagramOverlay::labelSize(overlay.label, font), at, boxes);
+        return !overlay.labelPlace.isEmpty();
+    };
+    // Where there is no room for all of it, the coordinates are what matters, more than what they cover.
+    for (;; entries.removeLast()) {
+        if (isPlaced(avoid)) {
             return;
         }
+        if (entries.size() == 1) {
+            break;
+        }
+    }
+    if (!isPlaced(handleBoxes) && !isPlaced({handleBoxes.last()})) {
+        overlay.label.clear();
     }
 }
 
@@ -395,12 +463,13 @@ QRectF DiagramView::Private::labelPlace(const QSizeF &size, const QPointF &at, c
     }
     // Farther away where there is no room beside it; a line leads from the label to the handle.
     constexpr int tries = 40; // each way
-    const QRectF plot = viewport.plot();
-    const QSizeF room(plot.width() - size.width(), plot.height() - size.height());
+    // And over the digits of the scale where the plot is narrower than the coordinates.
+    const QRectF area = size.width() <= viewport.plot().width() ? viewport.plot() : QRectF(q->rect());
+    const QSizeF room(area.width() - size.width(), area.height() - size.height());
     double least = std::numeric_limits<double>::max();
     for (int row = 0; row <= tries && room.isValid(); ++row) {
         for (int column = 0; column <= tries; ++column) {
-            const QPointF corner(plot.left() + room.width() * column / tries, plot.top() + room.height() * row / tries);
+            const QPointF corner(area.left() + room.width() * column / tries, area.top() + room.height() * row / tries);
             const QRectF place(corner, size);
             const double away = distanceTo(place, at);
             const auto covers = [&place](const QRectF &box) { return box.intersects(place); };
@@ -636,15 +705,20 @@ bool DiagramView::isEditing() const
 
 void DiagramView::setContent(const DiagramContent &content)
 {
-    const DiagramContent former = d->content;
+    const QPointer<DiagramView> view(this);
+    const bool areOtherLayers = content.layers != d->content.layers;
+    const bool areOtherColors = content.colors != d->content.colors;
     d->change(content);
-    if (former.layers != content.layers) {
-        Q_EMIT layersChanged();
-    }
-    if (former.colors != content.colors) {
-        Q_EMIT horseshoeColorsChanged();
+    if (!view) {
+        return;
     }
     announceGamuts(this);
+    if (areOtherLayers && !d->tell(&DiagramView::layersChanged)) {
+        return;
+    }
+    if (areOtherColors && !d->tell(&DiagramView::horseshoeColorsChanged)) {
+        return;
+    }
     Q_EMIT gamutsChanged();
 }
 
@@ -657,15 +731,6 @@ void DiagramView::setGamuts(const QVector<DiagramGamut> &gamuts)
 
 void DiagramView::setTarget(const Model::ColorGamut &gamut)
 {
-    const DiagramGamut *present = d->target();
-    if (present && sameTargets(present->gamut.getTargets(), gamut.getTargets())
-        && present->gamut.colorGamutName() == gamut.colorGamutName()) {
-        return;
-    }
-    const bool isMoved = !present || !sameTargets(present->gamut.getTargets(), gamut.getTargets());
-    if (d->edit && isMoved) {
-        d->edit->rebase(gamut.getTargets());
-    }
     d->replace(GamutRole::Target, {gamut});
 }
 
@@ -738,11 +803,19 @@ void DiagramView::setRules(std::shared_ptr<const TargetRules> rules)
 
 void DiagramView::setSelectedVertex(std::optional<GamutVertex> vertex)
 {
-    if (vertex == d->selected || (vertex && !d->hasHandles())) {
+    const auto isIgnored = [&] {
+        return vertex == d->selected || (vertex && !d->hasHandles()) || d->hand == Private::Hand::Holding
+            || d->hand == Private::Hand::Dragging;
+    };
+    if (isIgnored()) {
+        return;
+    }
+    const QPointer<DiagramView> view(this);
+    d->finishKeys();
+    if (!view || isIgnored()) {
         return;
     }
     const QRegion former = d->overlayRegion(d->overlay);
-    d->finishKeys();
     d->dropLabel();
     d->selected = vertex;
     d->refreshOverlay();
@@ -760,7 +833,9 @@ void DiagramView::paint(QPainter *painter, const QRectF &place) const
 
 QImage DiagramView::toImage(const QSize &size, qreal devicePixelRatio) const
 {
-    if (size.isEmpty() || !(devicePixelRatio > 0.0)) {
+    // With less, the whole picture would be less than a letter, of a view that is too large to paint.
+    constexpr double leastRatio = 0.1;
+    if (size.isEmpty() || !(devicePixelRatio >= leastRatio)) {
         return QImage();
     }
     QImage image(size, QImage::Format_RGB32);
@@ -791,11 +866,17 @@ void DiagramView::setDiagram(Model::Diagram diagram)
     if (diagram == this->diagram()) {
         return;
     }
+    const QPointer<DiagramView> view(this);
     cancelEditing();
-    d->look(d->viewport.withDiagram(diagram));
+    if (!view) {
+        return;
+    }
     d->linesAreReady = false;
     update();
-    Q_EMIT diagramChanged();
+    d->look(d->viewport.withDiagram(diagram));
+    if (view) {
+        Q_EMIT diagramChanged();
+    }
 }
 
 void DiagramView::setDiagram(DiagramKind diagram)
@@ -810,9 +891,12 @@ void DiagramView::setLayers(ShownLayers layers)
     }
     DiagramContent changed = d->content;
     changed.layers = layers;
+    const QPointer<DiagramView> view(this);
     d->change(changed);
-    announceGamuts(this);
-    Q_EMIT layersChanged();
+    if (view) {
+        announceGamuts(this);
+        Q_EMIT layersChanged();
+    }
 }
 
 void DiagramView::setLayerShown(DiagramLayer layer, bool shown)
@@ -829,8 +913,11 @@ void DiagramView::setHorseshoeColors(HorseshoeColors colors)
     }
     DiagramContent changed = d->content;
     changed.colors = colors;
+    const QPointer<DiagramView> view(this);
     d->change(changed);
-    Q_EMIT horseshoeColorsChanged();
+    if (view) {
+        Q_EMIT horseshoeColorsChanged();
+    }
 }
 
 void DiagramView::setZoomFactor(double factor)
@@ -853,9 +940,16 @@ void DiagramView::setReadOnly(bool readOnly)
     if (readOnly == d->readOnly) {
         return;
     }
+    const QPointer<DiagramView> view(this);
     cancelEditing();
-    if (readOnly) {
+    if (view && readOnly) {
+        if (d->hand == Private::Hand::Holding) {
+            d->hand = Private::Hand::Spent;
+        }
         setSelectedVertex(std::nullopt);
+    }
+    if (!view) {
+        return;
     }
     d->readOnly = readOnly;
     d->refreshOverlay();
@@ -892,9 +986,8 @@ void DiagramView::setEditNote(const QString &note)
         return;
     }
     d->editNote = note;
-    if (!d->label.isEmpty()) {
+    if (d->label) {
         const QRegion former = d->overlayRegion(d->overlay);
-        d->label = d->label.mid(0, 1) + (note.isEmpty() ? QStringList() : QStringList(note));
         d->refreshOverlay();
         update(former + d->overlayRegion(d->overlay));
     }
@@ -987,9 +1080,14 @@ void DiagramView::resizeEvent(QResizeEvent *event)
 void DiagramView::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    cancelEditing();
-    d->endHover();
+    // Its release will go elsewhere.
+    const QPointer<DiagramView> view(this);
     d->forgetPictures();
+    d->touching = d->pinching = false;
+    d->endHand();
+    if (view) {
+        d->endHover();
+    }
 }
 
 void DiagramView::changeEvent(QEvent *event)
@@ -1005,8 +1103,8 @@ void DiagramView::changeEvent(QEvent *event)
         d->change(d->content);
         break;
     case QEvent::LanguageChange:
-        d->change(d->content);
         announceGamuts(this);
+        d->change(d->content);
         break;
     case QEvent::LayoutDirectionChange:
         d->refreshOverlay();

@@ -35,6 +35,7 @@ namespace ceiechart {
  * | wheel, pinch, + and − | zoom about the pointer |
  * | drag on free ground, middle button, two-finger scroll, Alt and arrows | pan |
  * | double click on free ground, 0, Home | all of the diagram |
+ * | click on free ground | no handle is selected |
  * | drag of a handle, or one within 24 pixels | move a primary or the white |
  * | Tab; R, G, B, W | the next handle; a certain one |
  * | arrows | move the handle that is selected; without one, pan |
@@ -136,7 +137,11 @@ public:
     /*! \brief Replaces all that is shown. The ground stays what the palette gives. */
     void setContent(const DiagramContent &content);
     void setGamuts(const QVector<DiagramGamut> &gamuts); //!< Replaces all gamuts.
-    /*! \brief Replaces the target, which is what is edited; while it is being dragged, the drag goes on from there. */
+    /*!
+     * \brief Replaces the target, which is what is edited; a target that was switched off stays so.
+     *
+     * While it is being dragged, what is in the hand stays there, and the rest is that of \a gamut.
+     */
     void setTarget(const Model::ColorGamut &gamut);
     void setOriginal(const Model::ColorGamut &gamut); //!< What the display can show.
     void setMeasured(const Model::ColorGamut &gamut); //!< What a measurement has found.
@@ -150,7 +155,7 @@ public:
     void setTrail(const QVector<QPointF> &trail); //!< Where a point has been, the oldest first, in CIE 1931 x, y.
     /*! \brief Replaces the rules of editing, also of a drag under way; null brings the library's own back. */
     void setRules(std::shared_ptr<const TargetRules> rules);
-    /*! \brief Selects a handle for the keyboard. Ignored for one that is not shown. */
+    /*! \brief Selects a handle for the keyboard. Ignored for one that is not shown, and while the hand holds one. */
     void setSelectedVertex(std::optional<GamutVertex> vertex);
 
     /*!
@@ -158,7 +163,7 @@ public:
      * own.
      *
      * Returns whether the target has changed. Snaps to nothing. Refused while a drag is under way, without a target
-     * and when read-only.
+     * that is shown and when read-only.
      */
     bool moveVertex(GamutVertex vertex, const QPointF &xy);
 
@@ -171,7 +176,7 @@ public:
     /*!
      * \brief The view without handles and readout as a picture of \a size device pixels.
      *
-     * Null for an empty size or a \a devicePixelRatio that is not above 0.
+     * Null for an empty size or a \a devicePixelRatio below 0.1.
      */
     QImage toImage(const QSize &size, qreal devicePixelRatio = 1.0) const;
 
@@ -223,7 +228,7 @@ Q_SIGNALS:
 
     /*! \brief The pointer is over the CIE 1931 chromaticity \a xy. */
     void hovered(const QPointF &xy);
-    /*! \brief The pointer has left the diagram. */
+    /*! \brief The pointer has left the diagram, or is over what is no chromaticity. */
     void hoverEnded();
 
 protected:

@@ -6,7 +6,11 @@
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramview.h>
 
+#include <QPointer>
+#include <QSet>
 #include <QTimer>
+
+#include <utility>
 
 class QAccessibleEvent;
 class QGestureEvent;
@@ -54,7 +58,27 @@ public:
         Spent //!< the button is down, but what it did is over
     };
 
+    //! The label at what is edited, but for its coordinates and the host's note.
+    struct EditLabel {
+        GamutVertex vertex = GamutVertex::Red;
+        QString snap; //!< the name of what was snapped to
+        QString reason; //!< why a step was not made
+    };
+
     explicit Private(DiagramView *view);
+
+    /*!
+     * Emits \a signal and says whether the view is still there, as a slot may delete it. Whoever calls a function that
+     * emits and goes on afterwards looks too.
+     */
+    template <typename Signal, typename... Args>
+    bool tell(Signal signal, const Args &...args)
+    {
+        const QPointer<DiagramView> view(q);
+        Q_EMIT(q->*signal)(args...);
+        return !view.isNull();
+    }
+    bool tellEdit();
 
     // Content
     const DiagramGamut *target() const;
@@ -84,6 +108,9 @@ public:
     QRegion editedRegion(const Model::Targets &before, const Model::Targets &after) const;
     void placeLabel();
     QRectF labelPlace(const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid) const;
+    QRectF placeOfReadout(const QSizeF &size, const QVector<DiagramOverlay::Handle> &handles) const;
+    //! The entries of the label, each a line unless it is wrapped.
+    QStringList labelEntries() const;
 
     // Hands
     std::optional<GamutVertex> handleAt(const QPointF &position) const;
@@ -95,6 +122,14 @@ public:
     void endHover();
     void drag(const QPointF &way, Qt::KeyboardModifiers modifiers);
     bool apply(const EditStep &step);
+    bool changesTarget(const TargetMove &move) const;
+    //! Says why \a vertex cannot be moved, and whether the view is still there.
+    bool refuseLocked(GamutVertex vertex);
+    //! Brings the handle of \a vertex into the plot.
+    void reveal(GamutVertex vertex);
+    void selectByKey(GamutVertex vertex);
+    //! Takes a drag back; the button or the finger has nothing in its hand any more.
+    void endHand();
     void finishEditing();
     void finishKeys();
     void dropLabel();
@@ -122,20 +157,24 @@ public:
     Hand hand = Hand::Idle;
     Qt::MouseButton button = Qt::NoButton;
     QPointF lastPosition;
+    bool isClick = false; //!< the hand has not moved since it pressed
     QPointF panRest; //!< what is left of a pan by whole device pixels
     std::optional<TargetEdit> edit;
     Model::Targets before; //!< what Esc brings back
     bool keysAreEditing = false;
+    QSet<int> arrowsDown; //!< those that move a handle
     QString lastReason;
-    QStringList label;
+    std::optional<EditLabel> label;
     QVector<QPolygonF> guidesXy;
     QTimer labelTimer;
 
     std::optional<QPointF> pointer; //!< over the widget
     std::optional<GamutVertex> hovered;
-    bool isHovering = false;
+    bool isHovering = false; //!< over the plot
+    bool isHoverTold = false; //!< over a chromaticity, and signalled
     bool touching = false;
     bool pinching = false;
+    std::pair<int, int> pinchFingers;
     QPointF pinchMiddle;
     double pinchLength = 0.0;
 

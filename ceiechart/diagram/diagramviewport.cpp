@@ -12,6 +12,7 @@ namespace {
 constexpr double wavelengthRoom = 36.0; // logical pixels round the horseshoe, for ticks and digits
 constexpr double largestRoom = 0.12; // of the plot: where it is small, the room shrinks with it
 constexpr double polygonRoom = 0.12; // of the plot, on each side of a polygon that is fitted
+constexpr double surroundings = 0.25; // of the horseshoe's size, on each side: there, corners of wide gamuts lie
 
 bool isFinite(const QPointF &point)
 {
@@ -22,6 +23,16 @@ bool isFinite(const QPointF &point)
 double kept(double from, double step, double least, double most)
 {
     return std::clamp(from + step, std::min(from, least), std::max(from, most));
+}
+
+//! The centre nearest to \a centre from which zooming out leads back to the horseshoe.
+Model::DiagramPoint inReach(Model::Diagram diagram, const Model::DiagramPoint &centre)
+{
+    const QRectF bounds = spectrumBounds(diagram);
+    const double roomX = surroundings * bounds.width();
+    const double roomY = surroundings * bounds.height();
+    return {std::clamp(centre.x, bounds.left() - roomX, bounds.right() + roomX),
+        std::clamp(centre.y, bounds.top() - roomY, bounds.bottom() + roomY)};
 }
 
 } // namespace
@@ -127,7 +138,7 @@ DiagramViewport DiagramViewport::zoomed(double factor, const QPointF &anchor) co
     const QPointF point = toPoint(anchor);
     const QPointF offset = anchor - plot().center();
     const double perUnit = result.scale();
-    result.m_centre = {point.x() - offset.x() / perUnit, point.y() + offset.y() / perUnit};
+    result.m_centre = inReach(m_diagram, {point.x() - offset.x() / perUnit, point.y() + offset.y() / perUnit});
     return result;
 }
 
@@ -176,8 +187,8 @@ DiagramViewport DiagramViewport::fittedTo(const QPolygonF &polygon) const
     const double perUnit = std::min(bounds.width() > 0.0 ? free.width() / bounds.width() : HUGE_VAL,
         bounds.height() > 0.0 ? free.height() / bounds.height() : HUGE_VAL);
     DiagramViewport result = *this;
-    result.m_centre = {bounds.center().x(), bounds.center().y()};
     result.m_zoom = std::clamp(perUnit / wholeScale(), 1.0, closest);
+    result.m_centre = inReach(m_diagram, {bounds.center().x(), bounds.center().y()});
     return result;
 }
 
@@ -208,8 +219,8 @@ DiagramViewport DiagramViewport::centredOn(const QPointF &xy, double zoom) const
         return *this;
     }
     DiagramViewport result = *this;
-    result.m_centre = point;
     result.m_zoom = std::clamp(zoom, 1.0, closest);
+    result.m_centre = inReach(m_diagram, point);
     return result;
 }
 

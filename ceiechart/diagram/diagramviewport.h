@@ -70,7 +70,8 @@ public:
     /*!
      * \brief Enlarged by \a factor, or reduced by one below 1, so that what is at \a anchor stays there.
      *
-     * The zoom stays between 1 and closest. Without effect for a factor that is not a number above 0.
+     * The zoom stays between 1 and closest. Without effect for a factor that is not a number above 0. The centre stays
+     * in reach of the horseshoe, see centredOn(); where that keeps it back, what is at \a anchor moves.
      */
     DiagramViewport zoomed(double factor, const QPointF &anchor) const;
     /*! \brief zoomed() round the middle of the plot. */
@@ -84,13 +85,23 @@ public:
 
     /*! \brief With the whole horseshoe in the plot. */
     DiagramViewport fittedToAll() const;
-    /*! \brief With all of the chromaticities \a polygon in the plot and some room round them; unchanged for none. */
+    /*!
+     * \brief With all of the chromaticities \a polygon in the plot and some room round them; unchanged for none.
+     *
+     * One that is too large for zoom 1 is not seen as a whole. The centre stays in reach, see centredOn().
+     */
     DiagramViewport fittedTo(const QPolygonF &polygon) const;
     /*! \brief With the primaries of \a gamut in the plot. */
     DiagramViewport fittedTo(const Model::Targets &gamut) const;
     /*! \brief With \a xy in the middle and the chromaticities up to \a reach in \a u′, v′ round it. */
     DiagramViewport fittedToWhite(const QPointF &xy, double reach = 0.008) const;
-    /*! \brief With \a xy in the middle and \a zoom. */
+    /*!
+     * \brief With \a xy in the middle and \a zoom, which is taken into 1 to closest.
+     *
+     * The centre stays in reach of the horseshoe, up to a quarter of its width and height beyond its bounds: one that
+     * is farther away is taken to the nearest that is not. Without effect for what is not finite and for a \a zoom that
+     * is not above 0.
+     */
     DiagramViewport centredOn(const QPointF &xy, double zoom) const;
 
     /*! \brief On another size, with centre and zoom as they are. */

@@ -36,6 +36,11 @@ public:
     double ascent() const { return m_metrics.ascent() / m_unit; }
     double height() const { return (m_metrics.ascent() + m_metrics.descent()) / m_unit; }
     QSizeF size(const QString &text) const { return QSizeF(width(text), height()); }
+    //! \a text, with its end replaced by an ellipsis when it is wider than \a width.
+    QString elided(const QString &text, double width) const
+    {
+        return m_metrics.elidedText(text, Qt::ElideRight, width * m_unit);
+    }
     //! The size of an em in logical pixels.
     double pixelSize() const { return m_pixelSize; }
     //! The size of \a text as designed, which is the same on every device: hinting plays no part.

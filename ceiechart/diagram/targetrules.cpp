@@ -76,7 +76,11 @@ void mixWhite(Model::Targets &t)
     double y = 0.0;
     RGBCxCyToWhiteCxCy(
         t.red.Y, t.red.x, t.red.y, t.green.Y, t.green.x, t.green.y, t.blue.Y, t.blue.x, t.blue.y, &Y, &x, &y);
-    t.white = Model::Target::fromYxy(Y, x, y);
+    if (Y > 0.0) {
+        t.white = Model::Target::fromYxy(Y, x, y);
+    } else {
+        setLuminance(t.white, 0.0); // no light has no chromaticity
+    }
 }
 
 bool isLuminance(double luminance)

@@ -32,6 +32,16 @@ QPolygonF spectrum()
     return points;
 }
 
+//! Of the horseshoe, in the coordinates of the diagram.
+QRectF boundsOf(const DiagramViewport &viewport)
+{
+    QPolygonF points;
+    for (const QPointF &xy : spectrum()) {
+        points.append(viewport.toPoint(viewport.toPosition(xy)));
+    }
+    return points.boundingRect();
+}
+
 } // namespace
 
 class DiagramViewportTest : public QObject {
@@ -49,6 +59,8 @@ private Q_SLOTS:
     void oddFactorsChangeNothing();
     void panMovesByPixels();
     void panKeepsTheHorseshoeInReach();
+    void noZoomLosesTheHorseshoe();
+    void centresStayInReach();
     void fitsAPolygon();
     void fitsNothingAndAPoint();
     void fitsAWhite();
@@ -193,6 +205,53 @@ void DiagramViewportTest::panKeepsTheHorseshoeInReach()
     const DiagramViewport beyond = whole.centredOn(QPointF(0.9, 0.3), 3.0);
     QVERIFY(beyond.panned(QPointF(-50, 0)).centre().x() <= 0.9 + 1e-12);
     QVERIFY(beyond.panned(QPointF(50, 0)).centre().x() < 0.9);
+}
+
+void DiagramViewportTest::noZoomLosesTheHorseshoe()
+{
+    for (const Model::Diagram diagram : allDiagrams) {
+        const DiagramViewport whole(diagram, QSizeF(600, 400), QMarginsF(50, 10, 12, 24));
+        const QRectF bounds = boundsOf(whole);
+        const QRectF plot = whole.plot();
+        for (const QPointF &corner : {plot.topLeft(), plot.topRight(), plot.bottomLeft(), plot.bottomRight()}) {
+            // In at one corner and out at the opposite one, again and again.
+            const QPointF opposite = plot.topLeft() + plot.bottomRight() - corner;
+            DiagramViewport viewport = whole;
+            for (int i = 0; i < 20; ++i) {
+                viewport = viewport.zoomed(5.0, corner).zoomed(0.2, opposite);
+            }
+            QCOMPARE(viewport.zoom(), 1.0);
+            QVERIFY(viewport.range().intersects(bounds));
+            QVERIFY(std::fabs(viewport.range().center().x() - bounds.center().x()) < 0.751 * bounds.width());
+            QVERIFY(std::fabs(viewport.range().center().y() - bounds.center().y()) < 0.751 * bounds.height());
+        }
+        // A corner of a gamut beyond the horseshoe can be looked at closely.
+        const QPointF corner = whole.toPosition(QPointF(0.0001, -0.077));
+        if (diagram == Model::Diagram::Cie1931) {
+            QVERIFY(distance(whole.zoomed(1500.0, corner).toPosition(QPointF(0.0001, -0.077)), corner) < 1e-6);
+            const DiagramViewport centred = whole.centredOn(QPointF(0.0001, -0.077), 1.0).zoomed(2000.0);
+            QVERIFY(distance(centred.toPosition(QPointF(0.0001, -0.077)), plot.center()) < 1e-6);
+        }
+    }
+}
+
+void DiagramViewportTest::centresStayInReach()
+{
+    for (const Model::Diagram diagram : allDiagrams) {
+        const DiagramViewport whole(diagram, QSizeF(600, 400));
+        const QRectF bounds = boundsOf(whole);
+        for (const QPointF &far : {QPointF(1e300, 1e300), QPointF(-1e300, 0.3), QPointF(0.3, 1e12)}) {
+            for (const double zoom : {1.0, 3.0, 2000.0}) {
+                for (const DiagramViewport &viewport :
+                    {whole.centredOn(far, zoom), whole.fittedTo(QPolygonF() << far)}) {
+                    const QPointF middle = viewport.range().center();
+                    QVERIFY(std::fabs(middle.x()) < 1.3 && std::fabs(middle.y()) < 1.5);
+                    const DiagramViewport back = viewport.zoomed(1e-9);
+                    QVERIFY(back.zoom() == 1.0 && back.range().intersects(bounds));
+                }
+            }
+        }
+    }
 }
 
 void DiagramViewportTest::fitsAPolygon()

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <random>
@@ -167,6 +168,23 @@ QPointF freeGround(const View &view)
     return view.viewport().plot().topRight() + QPointF(-60.0, 120.0);
 }
 
+//! Deletes a view in answer to a signal.
+class Deleter : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Deleter(View *view)
+        : m_view(view)
+    {
+    }
+
+public Q_SLOTS:
+    void run() { delete m_view.data(); }
+
+private:
+    QPointer<View> m_view;
+};
+
 } // namespace
 
 class DiagramViewTest : public QObject {
@@ -193,6 +211,7 @@ private Q_SLOTS:
     void zoomEnds();
     void keysZoom();
     void fingersOnAPadPan();
+    void fingersWithoutPixelsPan();
     void wheelsWithPixelsZoom();
     void middleButtonPans();
     void freeGroundPans();
@@ -205,6 +224,8 @@ private Q_SLOTS:
     void twoFingersZoomAndPan();
     void oneFingerDragsAHandle();
     void secondFingerTakesADragBack();
+    void otherFingersBeginAnew();
+    void tapsOfAFingerMoveNothing();
     void resizeKeepsWhatIsSeen();
 
     // Editing
@@ -239,6 +260,22 @@ private Q_SLOTS:
     void lettersSelect();
     void shortcutsOfTheWindowDoNotTakeItsKeys();
     void moveVertexIsAnEdit();
+    void refusedKeysAreNoEdit();
+    void twoArrowsAreOneEdit();
+    void unseenHandlesAreBroughtIntoView();
+    void clickOnFreeGroundSelectsNothing();
+    void keysDoNotChangeTheHandleInADrag();
+    void escapeWithAHeldHandleIsTakenByTheView();
+    void hidingLetsGo();
+    void slotsMayDeleteTheView_data();
+    void slotsMayDeleteTheView();
+    void slotsMayTakeTheTargetAway_data();
+    void slotsMayTakeTheTargetAway();
+    void losingTheTargetEndsTheDrag_data();
+    void losingTheTargetEndsTheDrag();
+    void contentMayBeReplacedInADrag();
+    void invisibleTargetsStayInvisible();
+    void equalGamutsTellNothing();
 
     // Labels and readout
     void labelShowsWhatIsEdited();
@@ -246,9 +283,14 @@ private Q_SLOTS:
     void labelCoversNothingOfIt();
     void labelGoes();
     void editNoteIsShown();
+    void editNoteKeepsSnapAndReason();
+    void labelFollowsTheTarget();
+    void labelHasRoomInSmallViews();
+    void readoutGivesWayToHands();
     void minusZeroNeverShows();
     void digitsFollowTheZoom();
     void hoverTells();
+    void hoverTellsChromaticitiesOnly();
 
     // Painting
     void hoverRepaintsTheReadoutOnly();
@@ -260,6 +302,7 @@ private Q_SLOTS:
     void followsThePalette();
     void imagesAreSharpAtEveryRatio_data();
     void imagesAreSharpAtEveryRatio();
+    void imagesOfNoRatioAreNull();
     void imagesShowNoHands();
     void readoutStandsOnTheOtherSideFromRightToLeft();
     void cursorsSayWhatAHandDoes();
@@ -268,6 +311,7 @@ private Q_SLOTS:
     void gamutsAndHandlesAreAccessible();
     void handlesAreMovedByAccessibleValues();
     void handlesAreMovedByAccessibleActions();
+    void accessiblePartsOfDisabledViewsDoNothing();
     void focusIsAccessible();
     void movesByKeyboardAreAnnounced();
     void accessiblePartsFollowTheView();
@@ -513,6 +557,21 @@ void DiagramViewTest::fingersOnAPadPan()
     QVERIFY(view.zoomFactor() > 10.0);
 }
 
+void DiagramViewTest::fingersWithoutPixelsPan()
+{
+    View view;
+    view.setZoomFactor(10.0);
+    const QPointF xy(0.3, 0.35);
+    const QPointF before = view.at(xy);
+    view.wheel(QPointF(300, 300), QPoint(120, 0));
+    const QPointF sideways = view.at(xy) - before;
+    QVERIFY(sideways.x() > 10.0);
+    QCOMPARE(sideways.y() + 1.0, 1.0);
+    view.wheel(QPointF(300, 300), QPoint(0, -40), QPoint(), Qt::NoModifier, Qt::ScrollUpdate);
+    QVERIFY(view.at(xy).y() < before.y() - 5.0);
+    QCOMPARE(view.zoomFactor(), 10.0);
+}
+
 void DiagramViewTest::wheelsWithPixelsZoom()
 {
     View view;
@@ -710,6 +769,39 @@ void DiagramViewTest::secondFingerTakesADragBack()
     QCOMPARE(view.xy(GamutVertex::Green), xy);
     QTest::touchEvent(&view, device).release(0, finger, &view).release(1, finger, &view);
     QVERIFY(!view.isEditing());
+}
+
+void DiagramViewTest::otherFingersBeginAnew()
+{
+    auto *device = QTest::createTouchDevice();
+    View view;
+    const QPoint middle = view.viewport().plot().center().toPoint();
+    const QPoint left = middle - QPoint(100, 0);
+    const QPoint right = middle + QPoint(100, 0);
+    const QPoint third = middle + QPoint(20, 90);
+    QTest::touchEvent(&view, device).press(0, left, &view).press(1, right, &view).press(2, third, &view);
+    QTest::touchEvent(&view, device).move(0, left - QPoint(50, 0), &view).move(1, right, &view).move(2, third, &view);
+    const double zoom = view.zoomFactor();
+    const QPointF centre = view.centre();
+    QVERIFY(zoom > 1.0);
+    QTest::touchEvent(&view, device).release(0, left, &view).move(1, right, &view).move(2, third, &view);
+    QTest::touchEvent(&view, device).move(1, right, &view).move(2, third, &view);
+    QCOMPARE(view.zoomFactor(), zoom);
+    QCOMPARE(view.centre(), centre);
+    QTest::touchEvent(&view, device).release(1, right, &view).release(2, third, &view);
+}
+
+void DiagramViewTest::tapsOfAFingerMoveNothing()
+{
+    auto *device = QTest::createTouchDevice();
+    View view;
+    QSignalSpy started(&view, &DiagramView::editingStarted);
+    const QPoint finger = view.at(GamutVertex::Red).toPoint();
+    QTest::touchEvent(&view, device).press(0, finger, &view);
+    QTest::touchEvent(&view, device).move(0, finger + QPoint(2, 1), &view);
+    QTest::touchEvent(&view, device).release(0, finger + QPoint(2, 1), &view);
+    QCOMPARE(started.count(), 0);
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Red);
 }
 
 void DiagramViewTest::resizeKeepsWhatIsSeen()
@@ -1269,6 +1361,370 @@ void DiagramViewTest::moveVertexIsAnEdit()
     QCOMPARE(edited.count(), 1);
 }
 
+void DiagramViewTest::refusedKeysAreNoEdit()
+{
+    View view;
+    view.setSelectedVertex(GamutVertex::Red);
+    QSignalSpy started(&view, &DiagramView::editingStarted);
+    QSignalSpy finished(&view, &DiagramView::editingFinished);
+    QSignalSpy refused(&view, &DiagramView::editRefused);
+    QSignalSpy edited(&view, &DiagramView::targetEdited);
+    // A rule that allows nothing at all, but does not lock the handle.
+    class Nothing : public StandardTargetRules {
+    public:
+        TargetMove move(const TargetContext &, GamutVertex, const QPointF &) const override
+        {
+            return {std::nullopt, QStringLiteral("no")};
+        }
+    };
+    view.setRules(std::make_shared<Nothing>());
+    for (int i = 1; i <= 2; ++i) {
+        QTest::keyClick(&view, Qt::Key_Right);
+        QCOMPARE(refused.count(), i);
+    }
+    QCOMPARE(edited.count(), 0);
+    QCOMPARE(started.count(), 0);
+    QCOMPARE(finished.count(), 0);
+}
+
+void DiagramViewTest::twoArrowsAreOneEdit()
+{
+    View view;
+    view.setSelectedVertex(GamutVertex::Red);
+    QSignalSpy started(&view, &DiagramView::editingStarted);
+    QSignalSpy finished(&view, &DiagramView::editingFinished);
+    QTest::keyPress(&view, Qt::Key_Left);
+    QTest::keyPress(&view, Qt::Key_Up);
+    QTest::keyRelease(&view, Qt::Key_Left);
+    QCOMPARE(finished.count(), 0);
+    QTest::keyPress(&view, Qt::Key_Up);
+    QTest::keyRelease(&view, Qt::Key_Up);
+    QCOMPARE(started.count(), 1);
+    QCOMPARE(finished.count(), 1);
+}
+
+void DiagramViewTest::unseenHandlesAreBroughtIntoView()
+{
+    View view;
+    QApplication::setActiveWindow(&view);
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    view.setFocus();
+    const auto isSeen = [&view](GamutVertex vertex) { return view.viewport().plot().contains(view.at(vertex)); };
+    view.setZoomFactor(20.0);
+    view.setCentre(QPointF(0.31, 0.33));
+    view.setSelectedVertex(GamutVertex::Red);
+    QVERIFY(!isSeen(GamutVertex::Red));
+    QVERIFY(view.d->overlay.showsFocusFrame);
+    QTest::keyClick(&view, Qt::Key_Left);
+    QVERIFY(isSeen(GamutVertex::Red));
+    QVERIFY(!view.d->overlay.showsFocusFrame);
+    QVERIFY(!view.d->overlay.label.isEmpty());
+    QTest::keyClick(&view, Qt::Key_B);
+    QVERIFY(isSeen(GamutVertex::Blue));
+    QTest::keyClick(&view, Qt::Key_Tab);
+    QVERIFY(isSeen(GamutVertex::White));
+    QCOMPARE(view.zoomFactor(), 20.0);
+}
+
+void DiagramViewTest::clickOnFreeGroundSelectsNothing()
+{
+    View view;
+    view.setSelectedVertex(GamutVertex::Green);
+    const QPointF ground = freeGround(view);
+    view.press(ground);
+    view.drag(ground + QPointF(10, 10));
+    view.release(ground + QPointF(10, 10));
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green); // as that was a pan
+    view.press(ground, Qt::MiddleButton);
+    view.release(ground, Qt::MiddleButton);
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green);
+    view.press(ground);
+    view.release(ground);
+    QVERIFY(!view.selectedVertex());
+}
+
+void DiagramViewTest::keysDoNotChangeTheHandleInADrag()
+{
+    View view;
+    const QPointF start = view.at(GamutVertex::Green);
+    view.press(start);
+    QTest::keyClick(&view, Qt::Key_B);
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green);
+    view.drag(start + QPointF(20, -10));
+    QTest::keyClick(&view, Qt::Key_B);
+    view.setSelectedVertex(std::nullopt);
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green);
+    view.release(start + QPointF(20, -10));
+    QTest::keyClick(&view, Qt::Key_B);
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Blue);
+}
+
+void DiagramViewTest::escapeWithAHeldHandleIsTakenByTheView()
+{
+    View view;
+    QSignalSpy started(&view, &DiagramView::editingStarted);
+    const QPointF start = view.at(GamutVertex::Green);
+    view.press(start);
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QKeyEvent shortcut(QEvent::ShortcutOverride, Qt::Key_Escape, Qt::NoModifier);
+    shortcut.ignore();
+    QCoreApplication::sendEvent(&view, &shortcut);
+    QVERIFY(shortcut.isAccepted());
+    QCoreApplication::sendEvent(&view, &escape);
+    QVERIFY(escape.isAccepted());
+    view.drag(start + QPointF(20, -10));
+    view.release(start + QPointF(20, -10));
+    QCOMPARE(started.count(), 0);
+}
+
+void DiagramViewTest::hidingLetsGo()
+{
+    View view;
+    view.setZoomFactor(3.0);
+    view.press(freeGround(view));
+    view.hide();
+    view.show();
+    view.paintAll();
+    view.showTarget();
+    const QPointF start = view.at(GamutVertex::Green);
+    view.press(start);
+    view.drag(start + QPointF(10, 10));
+    QVERIFY(view.isEditing());
+    view.release(start + QPointF(10, 10));
+}
+
+void DiagramViewTest::slotsMayDeleteTheView_data()
+{
+    QTest::addColumn<QByteArray>("signal");
+    for (const char *signal :
+        {SIGNAL(editingStarted()), SIGNAL(targetEdited(Model::ColorGamut)), SIGNAL(gamutsChanged()),
+            SIGNAL(editingFinished()), SIGNAL(editingCanceled()), SIGNAL(editRefused(QString)),
+            SIGNAL(hovered(QPointF)), SIGNAL(hoverEnded()), SIGNAL(selectedVertexChanged()), SIGNAL(viewChanged())}) {
+        QTest::newRow(signal + 1) << QByteArray(signal);
+    }
+}
+
+void DiagramViewTest::slotsMayDeleteTheView()
+{
+    QFETCH(QByteArray, signal);
+    using Hands = std::function<void(View &, const QPointer<View> &)>;
+    const auto drag = [](View &view, const QPointer<View> &alive, bool cancels) {
+        const QPointF start = view.at(GamutVertex::Green);
+        view.press(start);
+        // The third step is refused: it is no chromaticity.
+        for (const QPointF &way : {QPointF(15, 10), QPointF(20, 15), QPointF(-900, 900)}) {
+            if (alive) {
+                view.drag(start + way);
+            }
+        }
+        if (alive && cancels) {
+            QTest::keyClick(&view, Qt::Key_Escape);
+        }
+        if (alive) {
+            view.release(start);
+        }
+    };
+    const Hands all[] = {
+        [&](View &view, const QPointer<View> &alive) { drag(view, alive, false); },
+        [&](View &view, const QPointer<View> &alive) { drag(view, alive, true); },
+        [](View &view, const QPointer<View> &alive) {
+            view.setSelectedVertex(GamutVertex::Green);
+            for (const int key : {Qt::Key_Right, Qt::Key_R, Qt::Key_Tab}) {
+                if (alive) {
+                    QTest::keyClick(&view, Qt::Key(key));
+                }
+            }
+        },
+        [](View &view, const QPointer<View> &alive) {
+            view.setZoomFactor(40.0);
+            if (alive) {
+                view.setSelectedVertex(GamutVertex::Blue);
+            }
+            if (alive) {
+                QTest::keyClick(&view, Qt::Key_Left);
+            }
+        },
+        [](View &view, const QPointer<View> &) { view.moveVertex(GamutVertex::Red, QPointF(0.65, 0.32)); },
+        [](View &view, const QPointer<View> &) { view.moveVertex(GamutVertex::Red, QPointF(2.0, 0.32)); },
+        [](View &view, const QPointer<View> &alive) {
+            view.hover(view.viewport().plot().center());
+            if (alive) {
+                view.wheel(view.viewport().plot().center(), QPoint(0, 120));
+            }
+            if (alive) {
+                QEvent leave(QEvent::Leave);
+                QCoreApplication::sendEvent(&view, &leave);
+            }
+        },
+        [&](View &view, const QPointer<View> &alive) {
+            auto rules = std::make_shared<StandardTargetRules>();
+            rules->setLocksPrimaries(true);
+            view.setRules(rules);
+            drag(view, alive, false);
+        },
+        [](View &view, const QPointer<View> &alive) {
+            const QPointF start = view.at(GamutVertex::Green);
+            view.press(start);
+            if (alive) {
+                view.drag(start + QPointF(15, 10));
+            }
+            if (alive) {
+                view.clearGamuts(GamutRole::Target);
+            }
+        },
+    };
+    int deletions = 0;
+    for (const Hands &hands : all) {
+        auto *view = new View;
+        const QPointer<View> alive(view);
+        Deleter deleter(view);
+        QVERIFY(QObject::connect(view, signal.constData(), &deleter, SLOT(run())));
+        hands(*view, alive);
+        deletions += alive ? 0 : 1;
+        delete alive.data();
+    }
+    QVERIFY(deletions > 0);
+}
+
+void DiagramViewTest::slotsMayTakeTheTargetAway_data()
+{
+    QTest::addColumn<bool>("readOnly");
+    QTest::newRow("cleared") << false;
+    QTest::newRow("read-only") << true;
+}
+
+void DiagramViewTest::slotsMayTakeTheTargetAway()
+{
+    QFETCH(bool, readOnly);
+    using Connector = std::function<void(View &, const std::function<void()> &)>;
+    const Connector connectors[] = {
+        [](View &view, const std::function<void()> &f) { connect(&view, &DiagramView::editingStarted, &view, f); },
+        [](View &view, const std::function<void()> &f) { connect(&view, &DiagramView::targetEdited, &view, f); },
+        [](View &view, const std::function<void()> &f) { connect(&view, &DiagramView::editRefused, &view, f); },
+        [](View &view, const std::function<void()> &f) {
+            connect(&view, &DiagramView::selectedVertexChanged, &view, f);
+        },
+    };
+    for (const bool locks : {false, true}) {
+        for (const Connector &connector : connectors) {
+            for (int hands = 0; hands < 4; ++hands) {
+                View view;
+                if (locks) {
+                    auto rules = std::make_shared<StandardTargetRules>();
+                    rules->setLocksPrimaries(true);
+                    view.setRules(rules);
+                }
+                if (hands == 1) {
+                    view.setSelectedVertex(GamutVertex::Green);
+                }
+                QSignalSpy started(&view, &DiagramView::editingStarted);
+                QSignalSpy finished(&view, &DiagramView::editingFinished);
+                const QPointF start = view.at(GamutVertex::Green);
+                connector(view, [&view, readOnly] {
+                    if (readOnly) {
+                        view.setReadOnly(true);
+                    } else {
+                        view.clearGamuts(GamutRole::Target);
+                    }
+                });
+                if (hands == 0) {
+                    view.press(start);
+                    view.drag(start + QPointF(20, 10));
+                    view.drag(start + QPointF(-900, 900));
+                    view.release(start);
+                } else if (hands == 1) {
+                    QTest::keyClick(&view, Qt::Key_Right);
+                } else {
+                    view.moveVertex(GamutVertex::Green, hands == 2 ? QPointF(0.31, 0.62) : QPointF(3.0, 0.6));
+                }
+                QVERIFY(!view.isEditing());
+                QCOMPARE(started.count(), finished.count());
+            }
+        }
+    }
+}
+
+void DiagramViewTest::losingTheTargetEndsTheDrag_data()
+{
+    QTest::addColumn<bool>("isCleared");
+    QTest::newRow("cleared") << true;
+    QTest::newRow("switched off") << false;
+}
+
+void DiagramViewTest::losingTheTargetEndsTheDrag()
+{
+    QFETCH(bool, isCleared);
+    View view;
+    const Model::Targets before = view.gamut(GamutRole::Target)->getTargets();
+    QSignalSpy canceled(&view, &DiagramView::editingCanceled);
+    QSignalSpy finished(&view, &DiagramView::editingFinished);
+    const QPointF start = view.at(GamutVertex::Green);
+    view.press(start);
+    view.drag(start + QPointF(20, -10));
+    if (isCleared) {
+        view.clearGamuts(GamutRole::Target);
+    } else {
+        view.setLayerShown(DiagramLayer::Targets, false);
+        QVERIFY(sameTargets(view.gamut(GamutRole::Target)->getTargets(), before));
+    }
+    QCOMPARE(canceled.count(), 1);
+    QCOMPARE(finished.count(), 1);
+    view.release(start);
+    QCOMPARE(finished.count(), 1);
+}
+
+void DiagramViewTest::contentMayBeReplacedInADrag()
+{
+    for (const bool asContent : {false, true}) {
+        View view;
+        const QPointF start = view.at(GamutVertex::Green);
+        view.press(start);
+        view.drag(start + QPointF(20, -10));
+        DiagramContent content = view.content();
+        for (DiagramGamut &gamut : content.gamuts) {
+            if (gamut.role == GamutRole::Target) {
+                gamut.gamut = Model::dciP3D65();
+            }
+        }
+        if (asContent) {
+            view.setContent(content);
+        } else {
+            view.setGamuts(content.gamuts);
+        }
+        view.drag(start + QPointF(25, -15));
+        QCOMPARE(view.xy(GamutVertex::Red), xyOf(Model::dciP3D65().getTargets().red));
+        QVERIFY(length(view.at(GamutVertex::Green) - start - QPointF(25, -15)) < 0.2);
+        view.release(start);
+    }
+}
+
+void DiagramViewTest::invisibleTargetsStayInvisible()
+{
+    View view;
+    DiagramContent content = view.content();
+    for (DiagramGamut &gamut : content.gamuts) {
+        gamut.visible = gamut.role != GamutRole::Target;
+    }
+    view.setContent(content);
+    view.setTarget(Model::dciP3D65());
+    QVERIFY(!view.content().find(GamutRole::Target)->visible);
+    QCOMPARE(view.gamut(GamutRole::Target)->colorGamutName(), Model::dciP3D65().colorGamutName());
+    QVERIFY(!view.moveVertex(GamutVertex::Red, QPointF(0.65, 0.32)));
+}
+
+void DiagramViewTest::equalGamutsTellNothing()
+{
+    View view;
+    QSignalSpy changed(&view, &DiagramView::gamutsChanged);
+    view.setOriginal(wall());
+    view.setStandards({Model::rec2020()});
+    view.clearGamuts(GamutRole::Measured);
+    QCOMPARE(changed.count(), 0);
+    view.setStandards({Model::rec709()});
+    view.clearGamuts(GamutRole::Original);
+    QCOMPARE(changed.count(), 2);
+}
+
 // Labels and readout
 
 void DiagramViewTest::labelShowsWhatIsEdited()
@@ -1396,6 +1852,98 @@ void DiagramViewTest::hoverTells()
     QCoreApplication::sendEvent(&view, &leave);
     QCOMPARE(ended.count(), 2);
     QVERIFY(view.d->overlay.readout.isEmpty());
+}
+
+void DiagramViewTest::editNoteKeepsSnapAndReason()
+{
+    View view;
+    auto rules = std::make_shared<StandardTargetRules>();
+    rules->setStaysInsideOriginal(true);
+    view.setRules(rules);
+    connect(&view, &DiagramView::targetEdited, &view, [&] { view.setEditNote(QStringLiteral("outside by 0.004")); });
+    const QPointF start = view.at(GamutVertex::Green);
+    const QPointF corner = view.at(xyOf(wall().getTargets().green));
+    view.press(start);
+    view.drag(start + (corner - start) + QPointF(2, 1));
+    QCOMPARE(view.d->overlay.label.mid(1),
+        QStringList({QStringLiteral("outside by 0.004"), QStringLiteral("original green")}));
+    view.setEditNote(QStringLiteral("and another"));
+    QCOMPARE(
+        view.d->overlay.label.mid(1), QStringList({QStringLiteral("and another"), QStringLiteral("original green")}));
+    view.release(start);
+}
+
+void DiagramViewTest::labelFollowsTheTarget()
+{
+    View view;
+    view.setSelectedVertex(GamutVertex::Green);
+    QTest::keyClick(&view, Qt::Key_Right);
+    view.setTarget(Model::dciP3D65());
+    QVERIFY(view.d->overlay.label.first().endsWith(view.coordinatesText(xyOf(Model::dciP3D65().getTargets().green))));
+    view.setDiagram(Model::Diagram::Cie1976);
+    QVERIFY(view.d->overlay.label.first().endsWith(view.coordinatesText(xyOf(Model::dciP3D65().getTargets().green))));
+}
+
+void DiagramViewTest::labelHasRoomInSmallViews()
+{
+    View view;
+    view.resize(300, 250);
+    view.setEditNote(QStringLiteral("a note that is long enough to be broken where there is no room for it"));
+    for (const GamutVertex vertex : allGamutVertices) {
+        const QPointF start = view.at(vertex);
+        view.press(start);
+        view.drag(start + QPointF(3, 2));
+        const QStringList label = view.d->overlay.label;
+        QVERIFY(!label.isEmpty());
+        QVERIFY(view.d->labelEntries().first() == label.first());
+        // All of the note, or none.
+        const QString rest = label.mid(1).join(QLatin1Char(' '));
+        QVERIFY2(rest.isEmpty() || rest == view.editNote(), qPrintable(rest));
+        QVERIFY(!view.d->overlay.labelPlace.contains(view.at(vertex)));
+        view.release(start);
+        view.setTarget(Model::rec709());
+    }
+}
+
+void DiagramViewTest::readoutGivesWayToHands()
+{
+    View view;
+    Model::Targets t = Model::rec709().getTargets();
+    // Close enough that there is a chromaticity in that corner.
+    view.setZoomFactor(4.0);
+    view.hover(view.viewport().plot().center());
+    const QPointF corner = view.d->overlay.readoutPlace.center();
+    const QPointF under = view.viewport().toChromaticity(corner);
+    t.green = Model::Target::fromYxy(t.green.Y, under.x(), under.y());
+    view.setTarget(Model::ColorGamut("in the corner", t));
+    QCOMPARE(view.d->overlay.handles.isEmpty(), false);
+    QVERIFY(!view.d->overlay.readout.isEmpty());
+    for (const DiagramOverlay::Handle &handle : view.d->overlay.handles) {
+        QVERIFY(!DiagramOverlay::bounds(handle).intersects(view.d->overlay.readoutPlace));
+    }
+    const QPointF start = view.at(GamutVertex::Green);
+    view.press(start);
+    view.drag(start + QPointF(-10, 10));
+    QVERIFY(view.d->overlay.readout.isEmpty());
+    view.release(start + QPointF(-10, 10));
+    QVERIFY(!view.d->overlay.readout.isEmpty());
+}
+
+void DiagramViewTest::hoverTellsChromaticitiesOnly()
+{
+    View view;
+    view.setDiagram(Model::Diagram::Cie1976);
+    QSignalSpy hovered(&view, &DiagramView::hovered);
+    QSignalSpy ended(&view, &DiagramView::hoverEnded);
+    view.hover(view.at(QPointF(0.3, 0.3)));
+    QCOMPARE(hovered.count(), 1);
+    // Above the horseshoe there is nothing that x and y could say.
+    view.d->pan(QPointF(0, 280));
+    view.hover(view.viewport().fromPoint(QPointF(0.1, 0.85)));
+    QVERIFY(view.viewport().plot().contains(view.viewport().fromPoint(QPointF(0.1, 0.85))));
+    QCOMPARE(hovered.count(), 1);
+    QCOMPARE(ended.count(), 1);
+    QVERIFY(!view.d->overlay.readout.isEmpty());
 }
 
 // Painting
@@ -1599,6 +2147,15 @@ void DiagramViewTest::imagesAreSharpAtEveryRatio()
     }
 }
 
+void DiagramViewTest::imagesOfNoRatioAreNull()
+{
+    View view;
+    for (const double ratio : {0.0, -1.0, 1e-9, 0.01, std::numeric_limits<double>::quiet_NaN()}) {
+        QVERIFY(view.toImage(QSize(100, 100), ratio).isNull());
+    }
+    QCOMPARE(view.toImage(QSize(100, 100), 0.5).size(), QSize(100, 100));
+}
+
 void DiagramViewTest::imagesShowNoHands()
 {
     View view;
@@ -1729,6 +2286,37 @@ void listen(QAccessibleEvent *event)
 }
 
 } // namespace
+
+void DiagramViewTest::accessiblePartsOfDisabledViewsDoNothing()
+{
+    View view;
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&view);
+    QAccessibleInterface *red = nullptr;
+    for (int i = 0; i < accessible->childCount() && !red; ++i) {
+        if (accessible->child(i)->valueInterface()) {
+            red = accessible->child(i);
+        }
+    }
+    QVERIFY(red);
+    view.setSelectedVertex(GamutVertex::Red);
+    QApplication::setActiveWindow(&view);
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    view.setFocus();
+    QVERIFY(red->state().focused);
+    QVERIFY(!red->child(0)->state().focused);
+    QVERIFY(!red->child(1)->state().focused);
+    const QPointF xy = view.xy(GamutVertex::Red);
+    for (const bool isDisabled : {true, false}) {
+        view.setEnabled(!isDisabled);
+        view.setVisible(isDisabled);
+        red->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
+        red->valueInterface()->setCurrentValue(0.6);
+        QCOMPARE(view.xy(GamutVertex::Red), xy);
+    }
+    view.show();
+    red->valueInterface()->setCurrentValue(0.6);
+    QCOMPARE(view.xy(GamutVertex::Red).x(), 0.6);
+}
 
 void DiagramViewTest::focusIsAccessible()
 {

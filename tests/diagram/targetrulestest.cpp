@@ -29,6 +29,7 @@ private Q_SLOTS:
     void primariesOnALineAreRefused();
     void badChromaticitiesAreRefused_data();
     void badChromaticitiesAreRefused();
+    void withoutLightTheWhiteStays();
     void luminanceOfAPrimaryMixesAnotherWhite();
     void luminanceOfTheWhiteScalesAll();
     void luminanceScalesAllWhileTheWhiteIsHeld();
@@ -218,6 +219,20 @@ void TargetRulesTest::badChromaticitiesAreRefused()
     const TargetMove move = StandardTargetRules().move(context(), GamutVertex::Red, xy);
     QVERIFY(!move.targets);
     QVERIFY(!move.reason.isEmpty());
+}
+
+void TargetRulesTest::withoutLightTheWhiteStays()
+{
+    Model::Targets dark = rec709();
+    for (const GamutVertex vertex : allGamutVertices) {
+        const Model::Target &target = targetAt(dark, vertex);
+        targetAt(dark, vertex) = Model::Target::fromYxy(0.0, target.x, target.y);
+    }
+    const auto after = withPrimary(dark, GamutVertex::Red, QPointF(0.66, 0.32));
+    QVERIFY(after);
+    QCOMPARE(xyOf(after->red), QPointF(0.66, 0.32));
+    QCOMPARE(xyOf(after->white), xyOf(dark.white));
+    QCOMPARE(after->white.Y, 0.0);
 }
 
 void TargetRulesTest::luminanceOfAPrimaryMixesAnotherWhite()
