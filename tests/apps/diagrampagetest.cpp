@@ -9,6 +9,8 @@
 #include "panel/verdict.h"
 #include "window/lens.h"
 
+#include <ceiechart/diagram/diagrampainter.h>
+
 #include <QAccessible>
 #include <QActionGroup>
 #include <QButtonGroup>
@@ -37,6 +39,8 @@ private Q_SLOTS:
     void selectionIsShared();
     void lensMovesTheWhite();
     void lensFollowsTheWhite();
+    void lensShowsTheRingsAfterAnEdit();
+    void ringsMoveWithTheWhite();
     void lensMakesRoom();
     void diagramIsSwitched();
     void viewsOfTheDiagram();
@@ -314,6 +318,37 @@ void DiagramPageTest::lensFollowsTheWhite()
         QVERIFY(lens->viewport().plot().contains(lens->viewport().toPosition(f.xy(Vertex::White))));
         QVERIFY(lens->accessibleDescription().contains(QStringLiteral("%1 K").arg(kelvin)));
     }
+}
+
+void DiagramPageTest::lensShowsTheRingsAfterAnEdit()
+{
+    WindowFixture f;
+    const DocumentView *lens = f.window->diagramPage()->lens()->view();
+    // Near enough for the white itself to be seen still.
+    const QPointF white = f.xy(Vertex::White) + QPointF(0.004, 0.004);
+    QVERIFY(lens->viewport().plot().contains(lens->viewport().toPosition(white)));
+    QVERIFY(f.window->session()->setChromaticity(Vertex::White, white));
+    const QPolygonF ring = ceiechart::DiagramPainter::ring(lens->viewport(), f.xy(Vertex::White), 0.005);
+    QVERIFY(lens->viewport().plot().contains(ring.boundingRect()));
+}
+
+void DiagramPageTest::ringsMoveWithTheWhite()
+{
+    WindowFixture f;
+    f.window->session()->setSnaps(false);
+    DocumentView *lens = f.window->diagramPage()->lens()->view();
+    DiagramPointer pointer(lens);
+    const QPointF white = f.xy(Vertex::White);
+    pointer.press(white);
+    pointer.move(white + QPointF(0.002, 0.001));
+    QVERIFY(f.xy(Vertex::White) != white);
+    for (const DocumentView *shown :
+        {static_cast<const DocumentView *>(lens), static_cast<const DocumentView *>(view(f))}) {
+        QCOMPARE(shown->content().rings.size(), 1);
+        QCOMPARE(shown->content().rings.first().xy, f.xy(Vertex::White));
+    }
+    QTest::keyClick(lens, Qt::Key_Escape);
+    QCOMPARE(lens->content().rings.first().xy, white);
 }
 
 void DiagramPageTest::lensMakesRoom()
