@@ -33,6 +33,8 @@ private Q_SLOTS:
     void layerLists_data();
     void layerLists();
     void unknownLayersNameTheKnownOnes();
+    void ambiguousLayersNameWhatTheyCanMean();
+    void emptyLayersAreRefused();
     void layersAreDocumented();
     void severalFiles();
     void refusals_data();
@@ -271,8 +273,7 @@ void CommandLineTest::layerLists()
 
 void CommandLineTest::unknownLayersNameTheKnownOnes()
 {
-    for (const char *wrong :
-        {"bogus", "", "-", "--grid", "Grid", " grid", "measure", "all,,grid", "targetss", "trail"}) {
+    for (const char *wrong : {"bogus", "--grid", "Grid", " grid", "all,bogus,grid", "targetss", "trail"}) {
         const CommandLine line({"gamutviewer", "--render", "a.png", "--layers", QString::fromLatin1(wrong)});
         QCOMPARE(line.action(), Action::Refuse);
         const QString item = QString::fromLatin1(wrong).section(QLatin1Char(','), 1, 1);
@@ -282,6 +283,22 @@ void CommandLineTest::unknownLayersNameTheKnownOnes()
                            "declared-gamuts, targets, names, whites, measure-points, color-temperature-points, "
                            "cmy-points, rings: ")
                 + (QByteArray(wrong).contains(',') ? item : QString::fromLatin1(wrong)));
+    }
+}
+
+void CommandLineTest::ambiguousLayersNameWhatTheyCanMean()
+{
+    const CommandLine line(withProgram("--render a.png --layers grid,-m"));
+    QCOMPARE(line.action(), Action::Refuse);
+    QCOMPARE(line.error(), QStringLiteral("Ambiguous layer, expected one of measured-gamuts, measure-points: -m"));
+}
+
+void CommandLineTest::emptyLayersAreRefused()
+{
+    for (const char *wrong : {"", "-", "iso,,axes", "iso,-", "iso,"}) {
+        const CommandLine line({"gamutviewer", "--render", "a.png", "--layers", QString::fromLatin1(wrong)});
+        QCOMPARE(line.action(), Action::Refuse);
+        QCOMPARE(line.error(), QStringLiteral("Empty name of a layer: --layers ") + QLatin1String(wrong));
     }
 }
 

@@ -9,6 +9,8 @@
 #include "panel/verdict.h"
 #include "window/lens.h"
 
+#include <ceiechart/diagram/diagrampainter.h>
+
 #include <QAccessible>
 #include <QActionGroup>
 #include <QButtonGroup>
@@ -26,6 +28,8 @@ class DiagramPageTest : public QObject {
 
 private Q_SLOTS:
     void aDragIsOneStep();
+    void theFirstDragKeepsTheHandleUnderThePointer();
+    void theFirstKeyStepKeepsTheDiagram();
     void panelAndVerdictFollowADrag();
     void escapeCancelsADrag();
     void undoInADragEndsIt();
@@ -35,12 +39,17 @@ private Q_SLOTS:
     void selectionIsShared();
     void lensMovesTheWhite();
     void lensFollowsTheWhite();
+    void lensShowsTheRingsAfterAnEdit();
+    void ringsMoveWithTheWhite();
     void lensMakesRoom();
     void diagramIsSwitched();
     void viewsOfTheDiagram();
     void keySwitchesLayers_data();
     void keySwitchesLayers();
     void doubleClickShowsAlone();
+    void anotherEntryIsShownAlone();
+    void showingAloneKeepsOtherSwitches();
+    void aloneEndsWithTheDescription();
     void returnShowsAlone();
     void colorsAreSwitched();
     void standardsAreThoseOfTheDescription();
@@ -63,6 +72,26 @@ LayerKey *key(const WindowFixture &f)
 QPoint middleOf(const LayerKey *key, const QListWidgetItem *entry)
 {
     return key->visualItemRect(entry).center();
+}
+
+void doubleClick(const WindowFixture &f, const QString &name)
+{
+    QListWidgetItem *entry = key(f)->entry(name);
+    key(f)->scrollToItem(entry);
+    const QPoint place = middleOf(key(f), entry);
+    QTest::mouseClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseDClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
+QStringList shownGamuts(const WindowFixture &f)
+{
+    QStringList names;
+    for (const ceiechart::DiagramGamut &gamut : view(f)->gamuts()) {
+        if (view(f)->content().shows(gamut)) {
+            names.append(QString::fromStdString(gamut.gamut.colorGamutName()));
+        }
+    }
+    return names;
 }
 
 //! Whether two pictures are the same but for the rounding of glyphs, which a first painting differs by.
@@ -103,6 +132,47 @@ void DiagramPageTest::aDragIsOneStep()
     QCOMPARE(f.xy(Vertex::Green), from);
     QVERIFY(!f.window->isWindowModified());
     QCOMPARE(view(f)->gamut(GamutRole::Target)->getTargets().green.x, from.x());
+}
+
+void DiagramPageTest::theFirstDragKeepsTheHandleUnderThePointer()
+{
+    WindowFixture f;
+    f.window->session()->setSnaps(false);
+    const auto handle = [&] {
+        const QPoint position = view(f)->viewport().toPosition(f.xy(Vertex::Green)).toPoint();
+        return view(f)->mapTo(f.window.get(), position);
+    };
+    const int width = key(f)->width();
+    const QPoint start = handle();
+    const auto send = [&](QEvent::Type type, const QPoint &at, Qt::MouseButton button, Qt::MouseButtons buttons) {
+        const QPoint position = view(f)->mapFrom(f.window.get(), at);
+        QMouseEvent event(type, position, view(f)->mapToGlobal(position), button, buttons, Qt::NoModifier);
+        QApplication::sendEvent(view(f), &event);
+        QCoreApplication::processEvents(); // the layout, too
+    };
+    send(QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
+    QPoint pointer = start;
+    for (int step = 1; step <= 10; ++step) {
+        pointer = start + QPoint(4, 3) * step;
+        send(QEvent::MouseMove, pointer, Qt::NoButton, Qt::LeftButton);
+        QVERIFY((handle() - pointer).manhattanLength() <= 2);
+    }
+    send(QEvent::MouseButtonRelease, pointer, Qt::LeftButton, Qt::NoButton);
+    QVERIFY((handle() - pointer).manhattanLength() <= 2);
+    QVERIFY(key(f)->entry(QStringLiteral("DCI-P3(D65) (edited)")));
+    QCOMPARE(key(f)->width(), width);
+}
+
+void DiagramPageTest::theFirstKeyStepKeepsTheDiagram()
+{
+    WindowFixture f;
+    const QSize size = view(f)->size();
+    view(f)->setFocus();
+    QTest::keyClick(view(f), Qt::Key_B);
+    QTest::keyClick(view(f), Qt::Key_Right);
+    QCoreApplication::processEvents();
+    QVERIFY(key(f)->entry(QStringLiteral("DCI-P3(D65) (edited)")));
+    QCOMPARE(view(f)->size(), size);
 }
 
 void DiagramPageTest::panelAndVerdictFollowADrag()
@@ -250,6 +320,37 @@ void DiagramPageTest::lensFollowsTheWhite()
     }
 }
 
+void DiagramPageTest::lensShowsTheRingsAfterAnEdit()
+{
+    WindowFixture f;
+    const DocumentView *lens = f.window->diagramPage()->lens()->view();
+    // Near enough for the white itself to be seen still.
+    const QPointF white = f.xy(Vertex::White) + QPointF(0.004, 0.004);
+    QVERIFY(lens->viewport().plot().contains(lens->viewport().toPosition(white)));
+    QVERIFY(f.window->session()->setChromaticity(Vertex::White, white));
+    const QPolygonF ring = ceiechart::DiagramPainter::ring(lens->viewport(), f.xy(Vertex::White), 0.005);
+    QVERIFY(lens->viewport().plot().contains(ring.boundingRect()));
+}
+
+void DiagramPageTest::ringsMoveWithTheWhite()
+{
+    WindowFixture f;
+    f.window->session()->setSnaps(false);
+    DocumentView *lens = f.window->diagramPage()->lens()->view();
+    DiagramPointer pointer(lens);
+    const QPointF white = f.xy(Vertex::White);
+    pointer.press(white);
+    pointer.move(white + QPointF(0.002, 0.001));
+    QVERIFY(f.xy(Vertex::White) != white);
+    for (const DocumentView *shown :
+        {static_cast<const DocumentView *>(lens), static_cast<const DocumentView *>(view(f))}) {
+        QCOMPARE(shown->content().rings.size(), 1);
+        QCOMPARE(shown->content().rings.first().xy, f.xy(Vertex::White));
+    }
+    QTest::keyClick(lens, Qt::Key_Escape);
+    QCOMPARE(lens->content().rings.first().xy, white);
+}
+
 void DiagramPageTest::lensMakesRoom()
 {
     WindowFixture f;
@@ -340,30 +441,55 @@ void DiagramPageTest::keySwitchesLayers()
 void DiagramPageTest::doubleClickShowsAlone()
 {
     WindowFixture f;
-    const auto doubleClick = [&](const QString &name) {
-        const QPoint place = middleOf(key(f), key(f)->entry(name));
-        QTest::mouseClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-        QTest::mouseDClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    };
-    const auto shown = [&] {
-        QStringList names;
-        for (const ceiechart::DiagramGamut &gamut : view(f)->gamuts()) {
-            if (view(f)->content().shows(gamut)) {
-                names.append(QString::fromStdString(gamut.gamut.colorGamutName()));
-            }
-        }
-        return names;
-    };
-    const QStringList all = shown();
+    const QStringList all = shownGamuts(f);
     QVERIFY(all.size() > 3);
-    doubleClick(QStringLiteral("LED wall"));
-    QCOMPARE(shown(), QStringList(QStringLiteral("LED wall")));
+    doubleClick(f, QStringLiteral("LED wall"));
+    QCOMPARE(shownGamuts(f), QStringList(QStringLiteral("LED wall")));
     // Layers are another matter.
     QVERIFY(view(f)->isLayerShown(DiagramLayer::Grid));
-    doubleClick(QStringLiteral("LED wall"));
-    QCOMPARE(shown(), all);
-    doubleClick(QStringLiteral("Rec.709"));
-    QCOMPARE(shown(), QStringList(QStringLiteral("Rec.709")));
+    doubleClick(f, QStringLiteral("LED wall"));
+    QCOMPARE(shownGamuts(f), all);
+    doubleClick(f, QStringLiteral("Rec.709"));
+    QCOMPARE(shownGamuts(f), QStringList(QStringLiteral("Rec.709")));
+}
+
+void DiagramPageTest::anotherEntryIsShownAlone()
+{
+    WindowFixture f;
+    const QStringList all = shownGamuts(f);
+    doubleClick(f, QStringLiteral("LED wall"));
+    doubleClick(f, QStringLiteral("Rec.709"));
+    QCOMPARE(shownGamuts(f), QStringList(QStringLiteral("Rec.709")));
+    doubleClick(f, QStringLiteral("DCI-P3(D65)"));
+    QCOMPARE(shownGamuts(f), QStringList(QStringLiteral("DCI-P3(D65)")));
+    // What was shown before any of them was alone.
+    doubleClick(f, QStringLiteral("DCI-P3(D65)"));
+    QCOMPARE(shownGamuts(f), all);
+}
+
+void DiagramPageTest::showingAloneKeepsOtherSwitches()
+{
+    WindowFixture f;
+    const QStringList all = shownGamuts(f);
+    doubleClick(f, QStringLiteral("LED wall"));
+    QTest::mouseClick(key(f)->colors()->button(int(ceiechart::HorseshoeColors::None)), Qt::LeftButton);
+    key(f)->setFocus();
+    key(f)->setCurrentItem(key(f)->entry(QStringLiteral("Grid")));
+    QTest::keyClick(key(f), Qt::Key_Space);
+    doubleClick(f, QStringLiteral("LED wall"));
+    QCOMPARE(shownGamuts(f), all);
+    QCOMPARE(view(f)->horseshoeColors(), ceiechart::HorseshoeColors::None);
+    QVERIFY(!view(f)->isLayerShown(DiagramLayer::Grid));
+}
+
+void DiagramPageTest::aloneEndsWithTheDescription()
+{
+    WindowFixture f;
+    doubleClick(f, QStringLiteral("LED wall"));
+    f.window->setDescription(f.document().description(), QString());
+    f.window->diagramPage()->switches()->setShown(DiagramLayer::Targets, true);
+    doubleClick(f, QStringLiteral("LED wall"));
+    QCOMPARE(shownGamuts(f), QStringList(QStringLiteral("LED wall")));
 }
 
 void DiagramPageTest::returnShowsAlone()

@@ -194,7 +194,7 @@ void PictureTest::formatBySuffix()
 
 void PictureTest::isWhatTheDiagramPaints_data()
 {
-    addDiagrams({QSize(800, 800), QSize(900, 500), QSize(300, 700)});
+    addDiagrams({QSize(800, 800), QSize(900, 500), QSize(400, 700)});
 }
 
 void PictureTest::isWhatTheDiagramPaints()
@@ -414,6 +414,12 @@ void PictureTest::smallPicturesHaveNoTexts()
     picture.hasKey = false;
     QVERIFY(textsOf(exported(picture, PictureFormat::Svg, {QSize(199, 400), 1.0})).isEmpty());
     QVERIFY(!textsOf(exported(picture, PictureFormat::Svg, {QSize(200, 400), 1.0})).isEmpty());
+    // Names and temperatures need more room than numbers.
+    const auto hasName = [this, &picture](const QSize &size) {
+        return textsOf(exported(picture, PictureFormat::Svg, {size, 1.0})).contains(QStringLiteral("LED wall"));
+    };
+    QVERIFY(!hasName(QSize(349, 600)));
+    QVERIFY(hasName(QSize(350, 600)));
     // The horseshoe has the room instead: of an icon of 64 pixels it covers a good part.
     const QImage icon = pixels(sample(), QSize(64, 64), true);
     int coloured = 0;

@@ -33,6 +33,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTableWidget>
@@ -71,6 +72,11 @@ private Q_SLOTS:
     void tablesAreCopiedWhole();
     void zeroHasNoSign();
     void libraryChartsShowTheDocument();
+    void libraryChartsFillTheirRoom_data();
+    void libraryChartsFillTheirRoom();
+    void libraryChartsGetNoMeasurePoints();
+    void signalsHaveNoNegativeZero();
+    void selectedCellsAreCopied();
     void undefinedTemperatureIsTold();
     void comparePageTellsWhatIsLost();
     void fitsASmallScreen_data();
@@ -530,7 +536,8 @@ void ViewerWindowTest::libraryChartsShowTheDocument()
     const Model::Targets before = f.document().target()->getTargets();
     const int lines = f.window->libraryPage()->log()->blockCount();
     QWidget *viewport = legacy->viewport();
-    const ceiechart::DiagramGeometry geometry = ceiechart::chartGeometry(ceiechart::ChartKind::LegacyXy, 400, 433);
+    const ceiechart::DiagramGeometry geometry = ceiechart::chartGeometry(ceiechart::ChartKind::LegacyXy,
+        f.window->libraryPage()->legacyChart()->imageWidth(), f.window->libraryPage()->legacyChart()->imageHeight());
     const QPoint green = legacy->mapFromScene(geometry.toPixel(QPointF(0.4, 0.5)));
     QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, green);
     for (int i = 1; i < 20; ++i) {
@@ -543,6 +550,85 @@ void ViewerWindowTest::libraryChartsShowTheDocument()
     QCoreApplication::processEvents();
     QVERIFY(f.window->libraryPage()->log()->blockCount() > lines);
     QVERIFY(sameTargets(f.document().target()->getTargets(), before));
+}
+
+void ViewerWindowTest::libraryChartsFillTheirRoom_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize &size : {QSize(1024, 768), QSize(1280, 800), QSize(1920, 1200)}) {
+        QTest::addRow("%dx%d", size.width(), size.height()) << size;
+    }
+}
+
+void ViewerWindowTest::libraryChartsFillTheirRoom()
+{
+    QFETCH(QSize, size);
+    WindowFixture f;
+    f.window->resize(size);
+    f.show(f.window->libraryPage());
+    QCoreApplication::processEvents();
+    const auto *area = f.window->libraryPage()->findChild<QScrollArea *>();
+    QVERIFY(!area->horizontalScrollBar()->isVisible());
+    QVERIFY(!area->verticalScrollBar()->isVisible());
+    const QSize room = area->viewport()->size();
+    for (const QWidget *view : {static_cast<QWidget *>(f.window->libraryPage()->currentChart()->view()),
+             static_cast<QWidget *>(f.window->libraryPage()->legacyChart()->view())}) {
+        const QRect place(view->mapTo(area->viewport(), QPoint()), view->size());
+        QVERIFY(area->viewport()->rect().contains(place));
+        QVERIFY2(view->width() > 0.9 * room.width() / 2 || view->height() > 0.8 * room.height(),
+            qPrintable(QStringLiteral("%1x%2").arg(view->width()).arg(view->height())));
+    }
+    const SignalLog *log = f.window->libraryPage()->log();
+    QVERIFY(log->viewport()->height() >= 4 * log->fontMetrics().lineSpacing());
+    QVERIFY(log->height() <= 7 * log->fontMetrics().lineSpacing());
+    // A chart is bare once it has another size.
+    auto *view = f.window->libraryPage()->currentChart()->view();
+    const QImage shown = view->grab().toImage();
+    QVERIFY(f.window->session()->setChromaticity(Vertex::Green, QPointF(0.4, 0.5)));
+    f.document().history()->undo();
+    QCOMPARE(view->grab().toImage(), shown);
+}
+
+void ViewerWindowTest::libraryChartsGetNoMeasurePoints()
+{
+    WindowFixture f;
+    f.show(f.window->libraryPage());
+    QVERIFY(!f.document().description().measurePoints.isEmpty());
+    // They would be taken for u', v'.
+    QVERIFY(f.window->libraryPage()->legacyChart()->getMeasureValuePoints().isEmpty());
+}
+
+void ViewerWindowTest::signalsHaveNoNegativeZero()
+{
+    WindowFixture f;
+    f.show(f.window->libraryPage());
+    ColorTriangleObject target;
+    TrianglePoint triangle;
+    triangle.setWhitePos(QPointF(-0.00001, 0.3));
+    target.setTrianglePoint(triangle);
+    Q_EMIT f.window->libraryPage()->currentChart()->signal_colorGamutWhiteChanged(target);
+    QCoreApplication::processEvents();
+    const QString text = f.window->libraryPage()->log()->toPlainText();
+    QVERIFY(text.contains(QStringLiteral("W (0.0000, 0.3000)")));
+    QVERIFY(!text.contains(QStringLiteral("-0.0000")));
+}
+
+void ViewerWindowTest::selectedCellsAreCopied()
+{
+    WindowFixture f;
+    f.show(f.window->comparePage());
+    CopyTable *table = f.window->comparePage()->table();
+    QVERIFY(table->columnCount() > 1);
+    table->selectColumn(1);
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), table->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(table, &event);
+    auto *menu = table->findChild<QMenu *>();
+    QVERIFY(menu);
+    menu->actions().at(1)->trigger();
+    const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'));
+    QCOMPARE(lines.first(), QLatin1Char('\t') + table->horizontalHeaderItem(1)->text());
+    QCOMPARE(lines.at(1), table->verticalHeaderItem(0)->text() + QLatin1Char('\t') + table->item(0, 1)->text());
+    menu->close();
 }
 
 void ViewerWindowTest::undefinedTemperatureIsTold()

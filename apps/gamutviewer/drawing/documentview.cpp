@@ -2,6 +2,7 @@
 #include "drawing/documentview.h"
 
 #include "display/valuetexts.h"
+#include "drawing/documentcontent.h"
 #include "drawing/layerswitches.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
@@ -67,6 +68,7 @@ void DocumentView::refresh()
         if (shown && target && !ceiechart::sameTargets(shown->getTargets(), target->getTargets())) {
             setTarget(*target);
         }
+        setRings(documentContent(document->description()).rings);
         return;
     }
     ceiechart::DiagramContent content = m_switches->content(document->description());

@@ -26,14 +26,18 @@ constexpr int dotsPerInch = 96;
 constexpr int dotsPerMeter = 3780; // the same
 constexpr double pointsPerDot = 72.0 / dotsPerInch;
 constexpr int leastSideWithTexts = 200;
+constexpr int leastSideWithNames = 350;
 
-//! The content without the texts, which would cover a small diagram and leave no room for it.
+//! The content without the texts that would cover a small diagram or leave no room for it.
 ceiechart::DiagramContent contentOn(const QSize &size, ceiechart::DiagramContent content)
 {
     using ceiechart::DiagramLayer;
-    if (std::min(size.width(), size.height()) < leastSideWithTexts) {
-        content.layers
-            &= ~(DiagramLayer::Axes | DiagramLayer::Wavelengths | DiagramLayer::Isotherms | DiagramLayer::Names);
+    const int side = std::min(size.width(), size.height());
+    if (side < leastSideWithNames) {
+        content.layers &= ~(DiagramLayer::Isotherms | DiagramLayer::Names);
+    }
+    if (side < leastSideWithTexts) {
+        content.layers &= ~(DiagramLayer::Axes | DiagramLayer::Wavelengths);
     }
     return content;
 }

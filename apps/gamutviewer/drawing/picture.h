@@ -16,7 +16,8 @@ namespace gamutviewer {
 /*!
  * \brief What a picture for a file, the clipboard or paper shows.
  *
- * The diagram on one with a side of less than 200 pixels has no texts, as on an icon.
+ * The diagram on one with a side of less than 350 pixels has no names and no isotherms, which would cover it, and with
+ * one of less than 200 pixels no texts, as on an icon.
  */
 struct Picture {
     ceiechart::DiagramContent content; //!< what is drawn

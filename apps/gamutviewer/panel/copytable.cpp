@@ -24,6 +24,14 @@ QString CopyTable::text(bool selectedOnly) const
     const auto isWanted = [&](int row, int column) {
         return !selectedOnly || selectionModel()->isSelected(model()->index(row, column));
     };
+    const auto hasWanted = [&](int column) {
+        for (int row = 0; row < rowCount(); ++row) {
+            if (isWanted(row, column)) {
+                return true;
+            }
+        }
+        return !selectedOnly;
+    };
     QStringList lines;
     for (int row = -1; row < rowCount(); ++row) {
         QStringList cells;
@@ -32,6 +40,9 @@ QString CopyTable::text(bool selectedOnly) const
         }
         bool isEmpty = row >= 0;
         for (int column = 0; column < columnCount(); ++column) {
+            if (!hasWanted(column)) {
+                continue;
+            }
             const bool isShown = row < 0 || isWanted(row, column);
             isEmpty = isEmpty && !isShown;
             cells.append(!isShown ? QString()

@@ -4,6 +4,7 @@
 #include "display/messages.h"
 #include "editing/document.h"
 #include "editing/gamutparts.h"
+#include "editing/targetedits.h"
 #include "editing/targetsession.h"
 #include "panel/accentbutton.h"
 
@@ -28,7 +29,8 @@ namespace {
 using ceiechart::DiagramLayer;
 using ceiechart::GamutRole;
 
-enum ItemRole { NameRole = Qt::UserRole, DetailRole, GamutRoleRole, LayerRole };
+// The widest name is what the name can become while the entry is dragged about.
+enum ItemRole { NameRole = Qt::UserRole, DetailRole, GamutRoleRole, LayerRole, WidestNameRole };
 
 constexpr int margin = 6; // pixels
 constexpr int gap = 6;
@@ -58,6 +60,11 @@ bool isSection(const QModelIndex &index)
     return !index.data(NameRole).isValid();
 }
 
+bool isGamut(const QListWidgetItem *entry)
+{
+    return entry->data(GamutRoleRole).isValid();
+}
+
 bool isPart(const QModelIndex &index)
 {
     return !index.data(DetailRole).toString().isEmpty();
@@ -80,7 +87,9 @@ public:
         if (isPart(index)) {
             QFont bold = option.font;
             bold.setBold(true);
-            width = QFontMetrics(bold).horizontalAdvance(index.data(NameRole).toString());
+            for (const ItemRole role : {NameRole, WidestNameRole}) {
+                width = std::max(width, QFontMetrics(bold).horizontalAdvance(index.data(role).toString()));
+            }
             height += QFontMetrics(scaled(option.font, detailScale)).height();
         }
         const int line = index.data(GamutRoleRole).isValid() ? lineWidth + gap : 0;
@@ -183,6 +192,10 @@ LayerKey::LayerKey(Document *document, LayerSwitches *switches, QWidget *parent)
     setTabKeyNavigation(false);
     connect(document, &Document::changed, this, &LayerKey::refresh);
     connect(document, &Document::opened, switches, &LayerSwitches::forgetStandards);
+    connect(document, &Document::opened, this, [this] {
+        m_click.reset();
+        m_alone = {};
+    });
     connect(switches, &LayerSwitches::changed, this, &LayerKey::refresh);
     connect(m_colors, &QButtonGroup::idClicked, this,
         [this](int colors) { m_switches->setColors(ceiechart::HorseshoeColors(colors)); });
@@ -201,7 +214,7 @@ QListWidgetItem *LayerKey::entry(const QString &name) const
 
 QSize LayerKey::sizeHint() const
 {
-    return {sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(), 480};
+    return {m_width + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(), 480};
 }
 
 void LayerKey::addSection(const QString &title)
@@ -263,13 +276,17 @@ void LayerKey::build()
     }
     clear();
     m_pressed = nullptr;
-    m_beforeClick.reset();
+    m_click.reset();
     addSection(tr("Gamuts"));
     for (const GamutRole role : {GamutRole::Target, GamutRole::Original, GamutRole::Measured, GamutRole::Declared}) {
         for (const GamutPart &part : gamutParts(description)) {
             if (part.role == role) {
                 const QString name = oneLine(shownGamutName(QString::fromStdString(part.gamut.colorGamutName())));
-                addEntry(name, part.roleName(), role, ceiechart::layerOf(role));
+                QListWidgetItem *entry = addEntry(name, part.roleName(), role, ceiechart::layerOf(role));
+                if (role == GamutRole::Target) {
+                    const QString edited = withEditedTarget(description, part.gamut.getTargets()).target;
+                    entry->setData(WidestNameRole, oneLine(shownGamutName(edited)));
+                }
             }
         }
     }
@@ -300,7 +317,16 @@ void LayerKey::build()
     addLayer(tr("Names"), DiagramLayer::Names);
     addLayer(tr("Axes"), DiagramLayer::Axes);
     addLayer(tr("Grid"), DiagramLayer::Grid);
-    updateGeometry();
+}
+
+void LayerKey::measure()
+{
+    const int width = sizeHintForColumn(0);
+    // In a drag, the diagram must stay where it is.
+    if (width != m_width && !m_document->isDragging()) {
+        m_width = width;
+        updateGeometry();
+    }
 }
 
 void LayerKey::refresh()
@@ -321,6 +347,7 @@ void LayerKey::refresh()
         m_built = made;
         build();
     }
+    measure();
     const QSignalBlocker blocker(this);
     for (int row = 0; row < count(); ++row) {
         if (item(row)->flags() & Qt::ItemIsUserCheckable) {
@@ -346,7 +373,7 @@ void LayerKey::toggle(QListWidgetItem *entry)
     if (!entry || !(entry->flags() & Qt::ItemIsUserCheckable)) {
         return;
     }
-    m_beforeAlone.reset();
+    m_alone[isGamut(entry)].reset();
     const bool show = !isShown(entry);
     const auto layer = DiagramLayer(entry->data(LayerRole).toInt());
     if (layer == DiagramLayer::Standards) {
@@ -361,29 +388,37 @@ void LayerKey::showAlone(const QListWidgetItem *entry)
     if (!entry || !(entry->flags() & Qt::ItemIsUserCheckable)) {
         return;
     }
-    if (m_beforeAlone) {
-        const LayerSwitches::State before = *m_beforeAlone;
-        m_beforeAlone.reset();
-        m_switches->setState(before);
-        return;
+    const auto layer = DiagramLayer(entry->data(LayerRole).toInt());
+    const QString standard = layer == DiagramLayer::Standards ? entry->data(NameRole).toString() : QString();
+    std::optional<Alone> &alone = m_alone[isGamut(entry)];
+    const bool restores = alone && alone->layer == layer && alone->standard == standard;
+    if (!alone) {
+        alone = Alone{layer, standard, m_switches->state()};
     }
-    m_beforeAlone = m_switches->state();
-    // Of its kind: a gamut among gamuts, a layer among layers.
-    LayerSwitches::State alone = m_switches->state();
-    const bool isGamut = entry->data(GamutRoleRole).isValid();
+    alone->layer = layer;
+    alone->standard = standard;
+    // Only of its kind: a gamut among gamuts, a layer among layers.
+    LayerSwitches::State state = m_switches->state();
+    if (restores && isGamut(entry)) {
+        state.standards = alone->before.standards;
+    }
     for (int row = 0; row < count(); ++row) {
         const QListWidgetItem *other = item(row);
-        if (!(other->flags() & Qt::ItemIsUserCheckable) || other->data(GamutRoleRole).isValid() != isGamut) {
+        if (!(other->flags() & Qt::ItemIsUserCheckable) || isGamut(other) != isGamut(entry)) {
             continue;
         }
-        const auto layer = DiagramLayer(other->data(LayerRole).toInt());
-        if (layer == DiagramLayer::Standards) {
-            alone.standards.insert(other->data(NameRole).toString(), other == entry);
-        } else {
-            alone.layers.setFlag(layer, other == entry);
+        const auto otherLayer = DiagramLayer(other->data(LayerRole).toInt());
+        if (otherLayer != DiagramLayer::Standards) {
+            const bool isShown = restores ? alone->before.layers.testFlag(otherLayer) : other == entry;
+            state.layers.setFlag(otherLayer, isShown);
+        } else if (!restores) {
+            state.standards.insert(other->data(NameRole).toString(), other == entry);
         }
     }
-    m_switches->setState(alone);
+    if (restores) {
+        alone.reset();
+    }
+    m_switches->setState(state);
 }
 
 void LayerKey::mousePressEvent(QMouseEvent *event)
@@ -398,11 +433,9 @@ void LayerKey::mouseReleaseEvent(QMouseEvent *event)
     QListWidgetItem *pressed = m_pressed;
     m_pressed = nullptr;
     if (pressed && event->button() == Qt::LeftButton && pressed == itemAt(positionOf(*event))) {
-        const LayerSwitches::State before = m_switches->state();
-        const auto alone = m_beforeAlone;
+        const Click click{m_switches->state(), m_alone};
         toggle(pressed);
-        m_beforeClick = before;
-        m_beforeAlone = alone;
+        m_click = click;
     }
 }
 
@@ -410,8 +443,10 @@ void LayerKey::mouseDoubleClickEvent(QMouseEvent *event)
 {
     // The first click has switched the entry, which is not what was meant.
     if (event->button() == Qt::LeftButton) {
-        if (m_beforeClick) {
-            m_switches->setState(*m_beforeClick);
+        if (m_click) {
+            m_alone = m_click->alone;
+            m_switches->setState(m_click->before);
+            m_click.reset();
         }
         showAlone(itemAt(positionOf(*event)));
     }
@@ -436,9 +471,9 @@ void LayerKey::keyPressEvent(QKeyEvent *event)
 void LayerKey::changeEvent(QEvent *event)
 {
     QListWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange) {
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         doItemsLayout();
-        updateGeometry();
+        measure();
     }
 }
 

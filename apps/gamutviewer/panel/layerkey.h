@@ -6,6 +6,7 @@
 
 #include <QListWidget>
 
+#include <array>
 #include <optional>
 
 class QButtonGroup;
@@ -18,7 +19,9 @@ class Document;
  * \brief The key of diagrams, which is the switch of their layers: each gamut with its line as drawn, its name and its
  * role, then the standards, then all other layers.
  *
- * A click or Space switches an entry. A double click or Return shows it alone, and once more brings the others back.
+ * A click or Space switches an entry. A double click or Return shows it alone of its kind, a gamut among gamuts or a
+ * layer among layers, and once more brings the others back. The key keeps its width when the target is edited, so that
+ * the diagram beside it does not change its size under the pointer.
  */
 class LayerKey : public QListWidget {
     Q_OBJECT
@@ -42,8 +45,23 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    //! What was shown before an entry was shown alone.
+    struct Alone {
+        ceiechart::DiagramLayer layer; // of the entry
+        QString standard; // its name among the standards
+        LayerSwitches::State before;
+    };
+    //! For gamuts and for layers.
+    using AloneOfKind = std::array<std::optional<Alone>, 2>;
+    //! What a click has changed.
+    struct Click {
+        LayerSwitches::State before;
+        AloneOfKind alone;
+    };
+
     void build();
     void refresh();
+    void measure();
     void addSection(const QString &title);
     void addColors();
     QListWidgetItem *addEntry(const QString &name, const QString &detail, std::optional<ceiechart::GamutRole> role,
@@ -57,8 +75,9 @@ private:
     QButtonGroup *m_colors;
     QStringList m_built; // what the entries are made of
     QListWidgetItem *m_pressed = nullptr;
-    std::optional<LayerSwitches::State> m_beforeClick;
-    std::optional<LayerSwitches::State> m_beforeAlone;
+    std::optional<Click> m_click; // the last one, until the entries change
+    AloneOfKind m_alone;
+    int m_width = 0; // pixels that the widest entry takes
 };
 
 } // namespace gamutviewer

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "panel/signallog.h"
 
+#include "display/valuetexts.h"
+
 namespace gamutviewer {
 
 namespace {
 
 constexpr int keptLines = 500;
+constexpr int shownLines = 5;
 
 QString shown(const QPointF &point)
 {
-    return QStringLiteral("(%1, %2)").arg(point.x(), 0, 'f', 4).arg(point.y(), 0, 'f', 4);
+    return QStringLiteral("(%1, %2)").arg(fixedText(point.x(), 4), fixedText(point.y(), 4));
 }
 
 } // namespace
@@ -23,6 +26,12 @@ SignalLog::SignalLog(QWidget *parent)
     setTabChangesFocus(true);
     setAccessibleName(tr("Log of the charts' signals"));
     setPlaceholderText(tr("The signals of the charts appear here."));
+}
+
+QSize SignalLog::sizeHint() const
+{
+    const int around = 2 * (frameWidth() + int(document()->documentMargin()));
+    return {QPlainTextEdit::sizeHint().width(), shownLines * fontMetrics().lineSpacing() + around};
 }
 
 void SignalLog::logTarget(const QString &chart, const char *signal, const ColorTriangleObject &target)

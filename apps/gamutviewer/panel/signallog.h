@@ -18,6 +18,9 @@ class SignalLog : public QPlainTextEdit {
 public:
     explicit SignalLog(QWidget *parent = nullptr);
 
+    /*! \brief Room for a few lines. */
+    QSize sizeHint() const override;
+
     /*! \brief Logs the signals of \a chart, a view of either generation, under \a name. */
     template <class Chart>
     void watch(const Chart *chart, const QString &name)

@@ -268,7 +268,19 @@ void CommandLine::readLayers(const QString &list)
             [&name](const NamedLayer &layer) { return !name.isEmpty() && layer.name.startsWith(name); });
         const auto exact
             = std::find_if(meant.begin(), meant.end(), [&name](const NamedLayer &layer) { return layer.name == name; });
-        if (exact == meant.end() && meant.size() != 1) {
+        if (exact == meant.end() && meant.size() > 1) {
+            QStringList names;
+            for (const NamedLayer &layer : qAsConst(meant)) {
+                names.append(layer.name);
+            }
+            refuse(tr("Ambiguous layer, expected one of %1: %2").arg(names.join(QStringLiteral(", ")), item));
+            return;
+        }
+        if (name.isEmpty()) {
+            refuse(tr("Empty name of a layer: --layers %1").arg(list));
+            return;
+        }
+        if (exact == meant.end() && meant.isEmpty()) {
             refuse(tr("Unknown layer, expected all, none, key, %1: %2").arg(layerNames(), item));
             return;
         }

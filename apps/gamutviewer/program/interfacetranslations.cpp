@@ -18,20 +18,22 @@ namespace gamutviewer {
 
 namespace {
 
-bool isChinese(const QLocale &locale)
+//! What the interface is to be in, which can differ from the locale of numbers and dates.
+QLocale language(const QLocale &locale)
 {
     const QStringList languages = locale.uiLanguages();
-    return (languages.isEmpty() ? locale : QLocale(languages.first())).language() == QLocale::Chinese;
+    return languages.isEmpty() ? locale : QLocale(languages.first());
 }
 
-void install(QPointer<QTranslator> &installed, const QString &name, const QString &directory)
+bool install(QPointer<QTranslator> &installed, const QString &name, const QString &directory)
 {
     installed = new QTranslator(QCoreApplication::instance());
     if (installed->load(name, directory)) {
         QCoreApplication::installTranslator(installed);
-    } else {
-        delete installed;
+        return true;
     }
+    delete installed;
+    return false;
 }
 
 } // namespace
@@ -44,7 +46,8 @@ void installInterfaceTranslations(const QLocale &locale)
     ceiechart::installTranslations(locale);
     delete interface;
     delete toolkit;
-    if (isChinese(locale)) {
+    const QLocale chinese = language(locale);
+    if (chinese.language() == QLocale::Chinese) {
         initTranslationResource();
         install(interface, QStringLiteral("gamutviewer_zh"), QStringLiteral(":/gamutviewer/translations"));
         // The toolkit's own, where the system has it.
@@ -53,7 +56,12 @@ void installInterfaceTranslations(const QLocale &locale)
 #else
         const QString toolkitTranslations = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
 #endif
-        install(toolkit, QStringLiteral("qtbase_") + locale.name(), toolkitTranslations);
+        // There is one for mainland China and one for Taiwan: Hong Kong, say, reads the latter.
+        const bool isTraditional = chinese.script() == QLocale::TraditionalHanScript;
+        if (!install(toolkit, QStringLiteral("qtbase_") + chinese.name(), toolkitTranslations)) {
+            install(toolkit, isTraditional ? QStringLiteral("qtbase_zh_TW") : QStringLiteral("qtbase_zh_CN"),
+                toolkitTranslations);
+        }
     }
 }
 

@@ -7,10 +7,28 @@
 #include "editing/document.h"
 #include "editing/targetsession.h"
 
+#include <ceiechart/diagram/diagrampainter.h>
+
 #include <QLabel>
 #include <QVBoxLayout>
 
 namespace gamutviewer {
+
+namespace {
+
+//! The places of the outermost rings; empty without any.
+QRectF extentOfRings(const DocumentView &view)
+{
+    QRectF extent;
+    for (const ceiechart::DiagramRings &rings : view.content().rings) {
+        for (const double radius : rings.radii) {
+            extent |= ceiechart::DiagramPainter::ring(view.viewport(), rings.xy, radius).boundingRect();
+        }
+    }
+    return extent;
+}
+
+} // namespace
 
 Lens::Lens(TargetSession *session, LayerSwitches *switches, QWidget *parent)
     : QFrame(parent)
@@ -74,7 +92,11 @@ void Lens::refresh()
                                  : tr("no colour temperature"));
     m_view->setAccessibleDescription(m_value->text());
     const ceiechart::DiagramViewport &seen = m_view->viewport();
-    if (!m_isOnWhite || (!m_view->isEditing() && !seen.plot().contains(seen.toPosition(white)))) {
+    const QRectF rings = extentOfRings(*m_view);
+    // Where one has zoomed in further than that, the white is enough.
+    const bool hasRoomForRings = rings.width() <= seen.plot().width() && rings.height() <= seen.plot().height();
+    const bool isSeen = hasRoomForRings ? seen.plot().contains(rings) : seen.plot().contains(seen.toPosition(white));
+    if (!m_isOnWhite || (!m_view->isEditing() && !isSeen)) {
         showWhite();
     }
 }

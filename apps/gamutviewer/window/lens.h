@@ -15,7 +15,7 @@ class TargetSession;
 /*!
  * \brief A close look at the white point of the target, in which one works as in the diagram that it lies on.
  *
- * It has no colours, and always the isotherms and the rings of tolerance. It follows the white when that leaves it.
+ * It has no colours, and always the isotherms and the rings of tolerance. It follows the white when the rings leave it.
  */
 class Lens : public QFrame {
     Q_OBJECT

@@ -7,6 +7,7 @@
 #include <ceiechart/legacy/ceiegraphicsview.h>
 #include <ceiechart/widgets/ceiegraphicsview.h>
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScrollArea>
@@ -32,13 +33,16 @@ QList<QPointF> positions(const QVector<NamedPoint> &points)
     return found;
 }
 
-constexpr QSize chartSize(400, 433); // pixels of the pictures; 12:13 fills the charts' scene
+constexpr QSize proportion(12, 13); // fills the charts' scene
+constexpr QSize smallestChart(240, 260); // pixels
 
 QWidget *titled(const QString &title, QWidget *chart)
 {
     auto *box = new QWidget;
     auto *layout = new QVBoxLayout(box);
-    layout->addWidget(new QLabel(title, box));
+    auto *label = new QLabel(title, box);
+    label->setMinimumWidth(1); // as narrow as the chart
+    layout->addWidget(label);
     layout->addWidget(chart);
     layout->addStretch();
     return box;
@@ -52,36 +56,31 @@ LibraryPage::LibraryPage(Document *document, QWidget *parent)
     , m_legacy(new CEIEGraphicsView(this, DrawCEIPicture::XyDiagram))
     , m_log(new SignalLog(this))
 {
-    m_current->view()->setMinimumSize(chartSize);
     m_current->view()->setAccessibleName(tr("Current chart, CIE 1931 x, y"));
     m_legacy->view()->setAccessibleName(tr("Legacy chart, CIE 1931 x, y"));
-    m_current->setImageWidth(chartSize.width());
-    m_current->setImageHeight(chartSize.height());
-    m_legacy->setImageWidth(chartSize.width());
-    m_legacy->setImageHeight(chartSize.height());
     auto *charts = new QWidget;
     auto *row = new QHBoxLayout(charts);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(titled(tr("Current: NewCEIE::CEIEGraphicsView"), m_current));
     row->addWidget(titled(tr("Legacy: CEIEGraphicsView"), m_legacy));
-    row->addStretch();
-    auto *area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setAccessibleName(tr("Charts of the library"));
-    area->setWidgetResizable(true);
-    area->setWidget(charts);
+    m_area = new QScrollArea;
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setAccessibleName(tr("Charts of the library"));
+    m_area->setWidgetResizable(true);
+    m_area->setWidget(charts);
     auto *parts = new QSplitter(Qt::Vertical, this);
     parts->setChildrenCollapsible(false);
-    parts->addWidget(area);
+    parts->addWidget(m_area);
     parts->addWidget(m_log);
     parts->setStretchFactor(0, 1);
-    parts->setSizes({600, 110});
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(parts, 1);
     auto *note = new QLabel(
         tr("The charts show the document. What is moved in them is logged, and leaves it as it is."), this);
     note->setWordWrap(true);
     layout->addWidget(note);
+    m_area->installEventFilter(this);
+    fillRoom();
     setFocusInside(m_current->view());
     m_log->watch(m_current, tr("Current"));
     m_log->watch(m_legacy, tr("Legacy"));
@@ -92,6 +91,40 @@ Picture LibraryPage::picture() const
     Picture picture = Page::picture();
     picture.isLibraryChart = true;
     return picture;
+}
+
+void LibraryPage::fillRoom()
+{
+    const QWidget *charts = m_area->widget();
+    const QMargins margins = m_current->parentWidget()->layout()->contentsMargins();
+    const QSize room = m_area->maximumViewportSize();
+    constexpr int frame = 2; // of a view around its picture
+    const int width = (room.width() - charts->layout()->spacing()) / 2 - margins.left() - margins.right() - frame;
+    // Legends do not wrap: with them, one chart would push the other out of the window.
+    m_current->getLegend()->setVisible(m_current->getLegend()->sizeHint().width() <= width);
+    m_legacy->getLegend()->setVisible(m_legacy->getLegend()->sizeHint().width() <= width);
+    // Titles, legends and what lies between.
+    const int below = charts->sizeHint().height() - m_current->view()->height();
+    const QSize each(width, room.height() - below - frame);
+    const QSize size = proportion.scaled(each.expandedTo(smallestChart), Qt::KeepAspectRatio);
+    if (size == QSize(m_current->imageWidth(), m_current->imageHeight())) {
+        return;
+    }
+    const auto resize = [&size](auto *chart) {
+        chart->setImageWidth(size.width());
+        chart->setImageHeight(size.height());
+    };
+    resize(m_current);
+    resize(m_legacy);
+    refreshWhenShown(); // a chart of another size is bare
+}
+
+bool LibraryPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_area && event->type() == QEvent::Resize) {
+        fillRoom();
+    }
+    return Page::eventFilter(watched, event);
 }
 
 void LibraryPage::refresh()
@@ -116,7 +149,6 @@ void LibraryPage::refresh()
     } else {
         m_current->setColorGamut(target.value_or(none), original.value_or(none), standards);
     }
-    m_legacy->setMeasureValuePoints(positions(description.measurePoints));
     m_legacy->setColorGamut(info(document()->target()), info(document()->original()));
 }
 

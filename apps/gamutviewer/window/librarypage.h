@@ -5,6 +5,7 @@
 #include "window/page.h"
 
 class CEIEGraphicsView;
+class QScrollArea;
 namespace NewCEIE {
 class CEIEGraphicsView;
 }
@@ -16,7 +17,8 @@ class SignalLog;
 /*!
  * \brief The library's charts of both generations as they come, embedded as a host would, with a log of their signals.
  *
- * The document is handed to them; what is moved in them is logged only.
+ * The document is handed to them, except for its measure points, which they do not show; what is moved in them is
+ * logged only. The charts are as large as there is room, and have legends where those fit.
  */
 class LibraryPage : public Page {
     Q_OBJECT
@@ -33,11 +35,15 @@ public:
 
 protected:
     void refresh() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void fillRoom();
+
     NewCEIE::CEIEGraphicsView *m_current;
     CEIEGraphicsView *m_legacy;
     SignalLog *m_log;
+    QScrollArea *m_area; // for the charts, where there is too little room
 };
 
 } // namespace gamutviewer
