@@ -98,8 +98,6 @@ private Q_SLOTS:
     void temperatureRows();
     void temperaturesLieOnThePlanckianLocus();
     void colourMatchingRowsEqualThePublishedTable();
-    void colourMatchingRowsThatTell();
-    void chromaticityOf555();
     void spectrumLocusPoints();
     void spectrumLocusFollowsTheColourMatchingFunctions();
     void spectrumLocusReservesExactlyItsPoints();
@@ -195,32 +193,6 @@ void CEIAtlasValueTest::colourMatchingRowsEqualThePublishedTable()
         }
     }
     QVERIFY(file.readLine().trimmed().isEmpty());
-}
-
-void CEIAtlasValueTest::colourMatchingRowsThatTell()
-{
-    const AtlasCoordinate rows[]
-        = {{360, 0.0001299, 0.000003917, 0.0006061}, {361, 0.000145847, 0.000004393581, 0.0006808792},
-            {380, 0.001368, 0.000039, 0.006450001}, {400, 0.01431, 0.000396, 0.06785001}, {450, 0.3362, 0.038, 1.77211},
-            {500, 0.0049, 0.323, 0.272}, {555, 0.5120501, 1.0, 0.005749999}, {600, 1.0622, 0.631, 0.0008},
-            {650, 0.2835, 0.107, 0.0}, {700, 0.01135916, 0.004102, 0.0}, {780, 0.00004150994, 0.00001499, 0.0},
-            {830, 0.000001251141, 0.00000045181, 0.0}};
-    const CEIAtlasValue atlas;
-    for (const AtlasCoordinate &expected : rows) {
-        const AtlasCoordinate &row = atlas.atlasCoordinates.at(expected.waveLength - 360);
-        QCOMPARE(row.waveLength, expected.waveLength);
-        QVERIFY2(row.X == expected.X && row.Y == expected.Y && row.Z == expected.Z,
-            qPrintable(QString::number(row.waveLength)));
-    }
-}
-
-void CEIAtlasValueTest::chromaticityOf555()
-{
-    const CEIAtlasValue atlas;
-    const AtlasCoordinate &row = atlas.atlasCoordinates.at(555 - 360);
-    const Point point = chromaticity(row.X, row.Y, row.Z);
-    QVERIFY(std::abs(point.x - 0.337363) < 5e-7);
-    QVERIFY(std::abs(point.y - 0.658848) < 5e-7);
 }
 
 void CEIAtlasValueTest::spectrumLocusPoints()

@@ -93,12 +93,10 @@ class HorseshoeFillTest : public QObject {
 
 private Q_SLOTS:
 
-    void edgeBoundsEachRow();
     void redBackgroundColorsEveryPixel();
     void redInColumnZeroOnlySkipsTheRow();
     void oneRedPixelRecolorsItself();
     void onlyRedCounts();
-    void rowsDoNotInfluenceEachOther();
     void gammaOfTheRenderer();
     void pictureOnePixelWideIsNeverColored();
     void noRowsWithoutHeight();
@@ -121,24 +119,6 @@ private Q_SLOTS:
     void alphaOutOfRangeLeavesThePixel_data();
     void alphaOutOfRangeLeavesThePixel();
 };
-
-void HorseshoeFillTest::edgeBoundsEachRow()
-{
-    Renderer renderer(nullptr);
-    drawOnce(renderer, width, height);
-    QImage picture = transparentPicture();
-    for (int y = 10; y < 40; ++y) {
-        picture.setPixel(y, y, 0xffffffff);
-        picture.setPixel(52 - (y % 5), y, 0xffffffff);
-    }
-    renderer.painterPixColor(&picture);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const bool colored = y >= 10 && y < 40 && x >= y && x <= 52 - (y % 5);
-            QCOMPARE(picture.pixel(x, y), colored ? expectedColor(x, y).rgba() : 0U);
-        }
-    }
-}
 
 void HorseshoeFillTest::redBackgroundColorsEveryPixel()
 {
@@ -206,25 +186,6 @@ void HorseshoeFillTest::onlyRedCounts()
     }
     renderer.painterPixColor(&picture);
     QCOMPARE(reference::firstDifference(picture, expected), QString());
-}
-
-void HorseshoeFillTest::rowsDoNotInfluenceEachOther()
-{
-    Renderer renderer(nullptr);
-    drawOnce(renderer, width, height);
-    QImage picture = transparentPicture();
-    picture.setPixel(10, 0, 0xffff0000);
-    picture.setPixel(50, 0, 0xffff0000);
-    picture.setPixel(20, 2, 0xffff0000);
-    picture.setPixel(25, 2, 0xffff0000);
-    renderer.painterPixColor(&picture);
-    QCOMPARE(picture.pixel(9, 0), 0U);
-    QCOMPARE(picture.pixel(51, 0), 0U);
-    QCOMPARE(picture.pixel(30, 0), expectedColor(30, 0).rgba());
-    for (int x = 0; x < width; ++x) {
-        QCOMPARE(picture.pixel(x, 1), 0U);
-        QCOMPARE(picture.pixel(x, 2), x >= 20 && x <= 25 ? expectedColor(x, 2).rgba() : 0U);
-    }
 }
 
 void HorseshoeFillTest::gammaOfTheRenderer()
