@@ -1,49 +1,22 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/render/drawceipicture.h>
+#include "rendererbench.h"
 
-#include <reference/picturedifference.h>
-#include <reference/picturetestmain.h>
 #include <reference/plainrenderer.h>
 #include <reference/quietmessages.h>
 #include <reference/rendererstate.h>
 
-#include <QtTest>
-
 #include <cmath>
 #include <limits>
-#include <memory>
 #include <vector>
 
 namespace {
 
-using Renderer = NewCEIE::DrawCEIPicture;
-
 constexpr int width = 60;
 constexpr int height = 48;
-
-const CEIAtlasValue &atlas()
-{
-    static const CEIAtlasValue tables;
-    return tables;
-}
 
 const CEIAtlasValue::TColorSystem &colorSystem()
 {
     return atlas().colorSystem;
-}
-
-// What the fill and the mappings work with is known only after a drawing.
-void drawOnce(Renderer &renderer, int w, int h)
-{
-    const reference::QuietMessages quiet;
-    const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(w, h, false, false, false, QList<QPointF>()));
-}
-
-reference::Mapping mappingOf(int w, int h)
-{
-    reference::PlainRenderer plain;
-    plain.setPictureSize(w, h);
-    return plain.mapping();
 }
 
 QImage transparentPicture(int w = width, int h = height)
@@ -55,7 +28,7 @@ QImage transparentPicture(int w = width, int h = height)
 
 QColor expectedColor(int px, int py)
 {
-    static const reference::Mapping mapping = mappingOf(width, height);
+    static const reference::Mapping mapping = reference::mappingOf(width, height);
     return reference::horseshoeColor(colorSystem(), mapping.toChroma(px, py), 1.0);
 }
 
@@ -198,7 +171,7 @@ void HorseshoeFillTest::gammaOfTheRenderer()
         actual.fill(QColor(23, 23, 26));
         QImage expected = actual;
         renderer.painterPixColor(&actual);
-        reference::fillPlain(expected, width, height, mappingOf(width, height), colorSystem(), gamma);
+        reference::fillPlain(expected, width, height, reference::mappingOf(width, height), colorSystem(), gamma);
         QVERIFY2(actual == expected, qPrintable(QString::number(gamma)));
     }
 }
@@ -232,7 +205,7 @@ void HorseshoeFillTest::sizeIsTheRenderersNotTheImages()
 {
     Renderer renderer(nullptr);
     drawOnce(renderer, width, height);
-    const reference::Mapping mapping = mappingOf(width, height);
+    const reference::Mapping mapping = reference::mappingOf(width, height);
     const reference::QuietMessages quiet;
     for (const QSize &size : {QSize(width + 9, height + 5), QSize(width - 9, height + 5), QSize(width + 9, height - 5),
              QSize(width - 9, height - 5), QSize(1, 1)}) {
@@ -278,7 +251,7 @@ void HorseshoeFillTest::everyImageFormat()
     const reference::QuietMessages quiet;
     QImage picture = speckledPicture(width, height, static_cast<QImage::Format>(format));
     QImage expected = picture.copy();
-    reference::fillPlain(expected, width, height, mappingOf(width, height), colorSystem(), 1.0);
+    reference::fillPlain(expected, width, height, reference::mappingOf(width, height), colorSystem(), 1.0);
     renderer.painterPixColor(&picture);
     QCOMPARE(static_cast<int>(picture.format()), format);
     QVERIFY(picture == expected);
@@ -290,7 +263,7 @@ void HorseshoeFillTest::sharedAndForeignPixels()
     drawOnce(renderer, width, height);
     QImage expected = transparentPicture();
     expected.fill(0xffff0000);
-    reference::fillPlain(expected, width, height, mappingOf(width, height), colorSystem(), 1.0);
+    reference::fillPlain(expected, width, height, reference::mappingOf(width, height), colorSystem(), 1.0);
 
     // A copy of the picture keeps its own pixels.
     QImage picture = transparentPicture();
