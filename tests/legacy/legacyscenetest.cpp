@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/atlas/chromasets.h>
 #include <ceiechart/legacy/ceiegraphicsscene.h>
 #include <ceiechart/legacy/drawceipicture.h>
 #include <ceiechart/scene/ceiegraphicsscene.h>
@@ -14,9 +13,7 @@
 #include <reference/scenesignallog.h>
 #include <reference/scenestate.h>
 
-#include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QtTest>
 

@@ -5,8 +5,6 @@
 #include <reference/quietmessages.h>
 #include <reference/rendererstate.h>
 
-#include <cmath>
-#include <limits>
 #include <vector>
 
 namespace {
