@@ -48,18 +48,10 @@ static_assert(std::is_same_v<decltype(TemperatureCoordinate::y), double> && offs
 
 namespace {
 
-constexpr TemperatureCoordinate expectedTemperatures[]
-    = {{1000, 0.653, 0.344}, {1200, 0.625, 0.367}, {1400, 0.599, 0.386}, {1500, 0.586, 0.393}, {1600, 0.573, 0.399},
-        {1700, 0.561, 0.404}, {1800, 0.549, 0.408}, {1900, 0.538, 0.411}, {2000, 0.527, 0.413}, {2100, 0.516, 0.415},
-        {2200, 0.506, 0.415}, {2300, 0.496, 0.415}, {2400, 0.486, 0.415}, {2500, 0.477, 0.414}, {2600, 0.468, 0.412},
-        {2700, 0.46, 0.411}, {2800, 0.452, 0.409}, {2900, 0.444, 0.406}, {3000, 0.437, 0.404}, {3100, 0.43, 0.402},
-        {3200, 0.423, 0.399}, {3250, 0.42, 0.398}, {3300, 0.417, 0.396}, {3400, 0.411, 0.394}, {3500, 0.405, 0.391},
-        {3600, 0.4, 0.388}, {3700, 0.395, 0.385}, {3800, 0.39, 0.382}, {3900, 0.385, 0.38}, {4000, 0.38, 0.377},
-        {4100, 0.376, 0.374}, {4200, 0.372, 0.371}, {4300, 0.368, 0.369}, {4400, 0.364, 0.366}, {4500, 0.361, 0.364},
-        {4600, 0.357, 0.361}, {4700, 0.354, 0.359}, {4800, 0.351, 0.356}, {4900, 0.348, 0.354}, {5000, 0.345, 0.352},
-        {5200, 0.34, 0.347}, {5400, 0.335, 0.343}, {5600, 0.33, 0.339}, {5800, 0.326, 0.335}, {6000, 0.322, 0.332},
-        {6500, 0.314, 0.324}, {7000, 0.306, 0.317}, {7500, 0.3, 0.31}, {8000, 0.295, 0.305}, {8500, 0.291, 0.3},
-        {9000, 0.287, 0.296}, {9300, 0.285, 0.293}, {10000, 0.281, 0.288}, {15000, 0.264, 0.267}};
+constexpr int expectedTemperatures[]
+    = {1000, 1200, 1400, 1500, 1600, 1700, 1800, 1900, 2000, 2100, 2200, 2300, 2400, 2500, 2600, 2700, 2800, 2900, 3000,
+        3100, 3200, 3250, 3300, 3400, 3500, 3600, 3700, 3800, 3900, 4000, 4100, 4200, 4300, 4400, 4500, 4600, 4700,
+        4800, 4900, 5000, 5200, 5400, 5600, 5800, 6000, 6500, 7000, 7500, 8000, 8500, 9000, 9300, 10000, 15000};
 
 // Not QPointF, so that nothing compares fuzzily.
 struct Point {
@@ -98,8 +90,6 @@ private Q_SLOTS:
     void temperatureRows();
     void temperaturesLieOnThePlanckianLocus();
     void colourMatchingRowsEqualThePublishedTable();
-    void colourMatchingRowsThatTell();
-    void chromaticityOf555();
     void spectrumLocusPoints();
     void spectrumLocusFollowsTheColourMatchingFunctions();
     void spectrumLocusReservesExactlyItsPoints();
@@ -142,14 +132,11 @@ void CEIAtlasValueTest::temperatureRows()
     QCOMPARE(atlas.temperatureCoordinates.size(), 54);
     QCOMPARE(std::size(expectedTemperatures), std::size_t(54));
     for (int i = 0; i < 54; ++i) {
-        const TemperatureCoordinate &row = atlas.temperatureCoordinates.at(i);
-        QCOMPARE(row.colorTemperature, expectedTemperatures[i].colorTemperature);
-        QVERIFY2(row.x == expectedTemperatures[i].x && row.y == expectedTemperatures[i].y,
-            qPrintable(QString::number(row.colorTemperature)));
-        QVERIFY(i == 0 || row.colorTemperature > atlas.temperatureCoordinates.at(i - 1).colorTemperature);
+        QCOMPARE(atlas.temperatureCoordinates.at(i).colorTemperature, expectedTemperatures[i]);
     }
 }
 
+// To three decimals.
 void CEIAtlasValueTest::temperaturesLieOnThePlanckianLocus()
 {
     const CEIAtlasValue atlas;
@@ -166,8 +153,8 @@ void CEIAtlasValueTest::temperaturesLieOnThePlanckianLocus()
             Z += c.Z * radiance;
         }
         const Point locus = chromaticity(X, Y, Z);
-        QCOMPARE(row.x, std::round(locus.x * 1000) / 1000);
-        QCOMPARE(row.y, std::round(locus.y * 1000) / 1000);
+        QVERIFY2(row.x == std::round(locus.x * 1000) / 1000 && row.y == std::round(locus.y * 1000) / 1000,
+            qPrintable(QString::number(row.colorTemperature)));
     }
 }
 
@@ -195,32 +182,6 @@ void CEIAtlasValueTest::colourMatchingRowsEqualThePublishedTable()
         }
     }
     QVERIFY(file.readLine().trimmed().isEmpty());
-}
-
-void CEIAtlasValueTest::colourMatchingRowsThatTell()
-{
-    const AtlasCoordinate rows[]
-        = {{360, 0.0001299, 0.000003917, 0.0006061}, {361, 0.000145847, 0.000004393581, 0.0006808792},
-            {380, 0.001368, 0.000039, 0.006450001}, {400, 0.01431, 0.000396, 0.06785001}, {450, 0.3362, 0.038, 1.77211},
-            {500, 0.0049, 0.323, 0.272}, {555, 0.5120501, 1.0, 0.005749999}, {600, 1.0622, 0.631, 0.0008},
-            {650, 0.2835, 0.107, 0.0}, {700, 0.01135916, 0.004102, 0.0}, {780, 0.00004150994, 0.00001499, 0.0},
-            {830, 0.000001251141, 0.00000045181, 0.0}};
-    const CEIAtlasValue atlas;
-    for (const AtlasCoordinate &expected : rows) {
-        const AtlasCoordinate &row = atlas.atlasCoordinates.at(expected.waveLength - 360);
-        QCOMPARE(row.waveLength, expected.waveLength);
-        QVERIFY2(row.X == expected.X && row.Y == expected.Y && row.Z == expected.Z,
-            qPrintable(QString::number(row.waveLength)));
-    }
-}
-
-void CEIAtlasValueTest::chromaticityOf555()
-{
-    const CEIAtlasValue atlas;
-    const AtlasCoordinate &row = atlas.atlasCoordinates.at(555 - 360);
-    const Point point = chromaticity(row.X, row.Y, row.Z);
-    QVERIFY(std::abs(point.x - 0.337363) < 5e-7);
-    QVERIFY(std::abs(point.y - 0.658848) < 5e-7);
 }
 
 void CEIAtlasValueTest::spectrumLocusPoints()

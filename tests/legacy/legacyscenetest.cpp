@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/atlas/chromasets.h>
 #include <ceiechart/legacy/ceiegraphicsscene.h>
 #include <ceiechart/legacy/drawceipicture.h>
 #include <ceiechart/scene/ceiegraphicsscene.h>
@@ -14,9 +13,7 @@
 #include <reference/scenesignallog.h>
 #include <reference/scenestate.h>
 
-#include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QtTest>
 
@@ -35,7 +32,6 @@ constexpr auto xyDiagram = static_cast<DrawCEIPicture::CEIEType>(0);
 constexpr auto uvDiagram = static_cast<DrawCEIPicture::CEIEType>(1);
 
 const QString valueChanged = QStringLiteral("signal_colorGamutValueChanged");
-const QString whiteChanged = QStringLiteral("signal_colorGamutWhiteChanged");
 const QString temperature = QStringLiteral("signal_colorTempertrueValueChang");
 const QString cursorChange = QStringLiteral("signal_mouseCursorChange");
 const QString targetInfo = QStringLiteral("signal_targetInfoChanged");
@@ -105,22 +101,6 @@ struct Bench {
     QPointF whiteHandle() { return handle(target().whitePos()); }
 };
 
-QString infoLine(const ColorTriangleObject &triangle, double kelvin, bool reasonable)
-{
-    TargetInfoChangedEventArgs report;
-    report.setColorTriangleObject(triangle);
-    report.setColourTemperature(kelvin);
-    report.setIsReasonableData(reasonable);
-    return targetInfo + QLatin1Char(' ') + describe(report);
-}
-
-int kelvinOf(const QPointF &white)
-{
-    int kelvin = 0;
-    ChromaSets::GetColorTemperatureNew(white.x(), white.y(), kelvin);
-    return kelvin;
-}
-
 QImage shown(const QImage &picture)
 {
     return reference::shownPicture(picture, picture.rect(), picture.size());
@@ -163,7 +143,6 @@ private Q_SLOTS:
     void derivesFromGraphicsScene();
     void declaresTheSameSignals();
     void checkTakesConstantReferences();
-    void sceneRectangleIsTheImage();
     void planckianLocusFollowsTheAxes();
     void uniformDiagramShowsMeasurePoints();
     void renderingHandsOverNoColorTemperaturePoints();
@@ -171,41 +150,16 @@ private Q_SLOTS:
     void backgroundDrawsTheHandles();
     void handlesStandWhereTheRendererMaps();
     void temperatureSignalNarrowsTheWhite();
-    void emptyListOnlyFollowsThePointer();
-    void pressWithoutTargetMovesNothing();
     void pressPlacesThePrimaryOfItsFence_data();
     void pressPlacesThePrimaryOfItsFence();
-    void pressMapsTheExactPosition();
-    void pressOutsideTheOriginalGoesOn();
-    void pressIsIgnoredWhenEditingIsOff();
-    void editingOffDuringADragDoesNotStopIt();
     void otherButtonsDoNotEdit();
-    void rightPressEndsADrag();
-    void dragFollowsInsideItsFence();
-    void dragOutOfTheFenceIsRefused();
-    void dragOutOfTheOriginalGoesOn();
-    void lockedPrimariesAreNotPlaced();
-    void lockedWhiteFallsThrough();
-    void hoverTellsTheCross();
     void hoverComparesExactly();
-    void hoverEndsWithARepaint();
     void hoverSetsTheTab();
     void hoverOrderIsRedGreenBlueWhite();
-    void heldSpaceTurnsTheMouseIntoAHand();
     void otherKeysEndTheHand();
-    void spaceReleasedMidDragGoesOn();
-    void magnifierRepeatsTheZoomStep();
-    void releaseReportsTheTargetAsItStands();
-    void releaseWithoutTargetReportsWhatWas();
-    void releaseOfOtherButtonsReportsNothing();
-    void releaseEndsSelections();
     void whiteHandleIsASquareOfTwelve();
     void whiteHandleOfNewGamutsIsWhereItWillBe();
     void whiteHandleGrowsWithTheZoom();
-    void whiteDragReports_data();
-    void whiteDragReports();
-    void whiteOutsideTheTargetStopsFollowing();
-    void whitePickedOutsideTheTargetDoesNotMove();
     void arrowsStartFromThePaintedWhiteHandle();
     void itemsGetNoMouseEvents()
     {
@@ -243,20 +197,6 @@ void LegacySceneTest::checkTakesConstantReferences()
         = &Scene::CheckOriginalAndTarget;
     QVERIFY((bench.scene.*check)(original, target, beyond));
     QVERIFY(!(bench.scene.*check)(target, original, beyond));
-}
-
-void LegacySceneTest::sceneRectangleIsTheImage()
-{
-    Bench bench;
-    QCOMPARE(bench.scene.sceneRect(), QRectF(0, 0, 800, 800));
-    bench.scene.setImageWidth(123);
-    QCOMPARE(bench.scene.sceneRect(), QRectF(0, 0, 123, 800));
-
-    reference::setFunctionKeyMode(bench.scene, 1);
-    bench.scene.SetFunctionKeyShortcuts();
-    bench.scene.getBitMap(); // scaled to whole pixels
-    QCOMPARE(QSize(bench.scene.imageWidth(), bench.scene.imageHeight()), QSize(135, 880));
-    QCOMPARE(bench.scene.sceneRect(), QRectF(0, 0, 135, 880));
 }
 
 void LegacySceneTest::planckianLocusFollowsTheAxes()
@@ -391,28 +331,6 @@ void LegacySceneTest::temperatureSignalNarrowsTheWhite()
     QCOMPARE(bench.log.takeSignals(), QStringList(temperature + QStringLiteral(" 5184")));
 }
 
-void LegacySceneTest::emptyListOnlyFollowsThePointer()
-{
-    Bench bench(QList<ColorTriangleObject>{});
-    bench.press(QPointF(300, 400));
-    QVERIFY(bench.names().isEmpty());
-    QCOMPARE(describe(stateOf(bench.scene).requested), QStringLiteral("(300, 400)"));
-    QVERIFY(!bench.log.takeUpdate());
-    QVERIFY(bench.move(QPointF(310, 400)));
-    QCOMPARE(bench.names(), QStringList(cursorChange));
-    QVERIFY(bench.log.takeUpdate());
-    QCOMPARE(describe(stateOf(bench.scene).requested), QStringLiteral("(300, 400)"));
-}
-
-void LegacySceneTest::pressWithoutTargetMovesNothing()
-{
-    Bench bench({reference::wideGamut()});
-    bench.press(Bench::at(QPointF(0.5, 0.2)));
-    QVERIFY(bench.names().isEmpty());
-    QCOMPARE(stateOf(bench.scene).selectedTab, 0);
-    QCOMPARE(describe(bench.triangles()), describe(QList<ColorTriangleObject>{reference::wideGamut()}));
-}
-
 void LegacySceneTest::pressPlacesThePrimaryOfItsFence_data()
 {
     QTest::addColumn<QPointF>("chroma");
@@ -448,49 +366,6 @@ void LegacySceneTest::pressPlacesThePrimaryOfItsFence()
     QVERIFY(bench.log.takeUpdate());
 }
 
-void LegacySceneTest::pressMapsTheExactPosition()
-{
-    Bench bench;
-    bench.press(QPointF(500.625, 600.375));
-    QCOMPARE(describe(bench.target().redPos()), describe(Bench::chromaAt(QPointF(500.625, 600.375))));
-}
-
-// The gate that would keep such a press out is never closed.
-void LegacySceneTest::pressOutsideTheOriginalGoesOn()
-{
-    Bench bench({reference::narrowGamut(), reference::narrowGamut()});
-    const QPointF position = Bench::at(QPointF(0.7, 0.28));
-    bench.press(position);
-    QCOMPARE(bench.names(), QStringList(valueChanged));
-    QCOMPARE(describe(bench.target().redPos()), describe(Bench::chromaAt(position)));
-}
-
-void LegacySceneTest::pressIsIgnoredWhenEditingIsOff()
-{
-    Bench bench;
-    bench.scene.setIsMouseOper(false);
-    bench.press(Bench::at(QPointF(0.5, 0.2)));
-    QVERIFY(bench.names().isEmpty());
-    QCOMPARE(describe(stateOf(bench.scene).requested), QStringLiteral("(0, 0)"));
-    bench.move(Bench::at(QPointF(0.52, 0.2)));
-    QCOMPARE(bench.names(), QStringList(cursorChange));
-    bench.scene.setIsMouseOper(true);
-    bench.press(Bench::at(QPointF(0.5, 0.2)));
-    QCOMPARE(bench.names(), QStringList(valueChanged));
-}
-
-void LegacySceneTest::editingOffDuringADragDoesNotStopIt()
-{
-    Bench bench;
-    bench.press(Bench::at(QPointF(0.5, 0.2)));
-    bench.scene.setIsMouseOper(false);
-    bench.names();
-    bench.move(Bench::at(QPointF(0.52, 0.2)));
-    QCOMPARE(bench.names(), QStringList({cursorChange, valueChanged}));
-    bench.release();
-    QCOMPARE(bench.names(), QStringList(targetInfo));
-}
-
 void LegacySceneTest::otherButtonsDoNotEdit()
 {
     for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton, Qt::NoButton}) {
@@ -505,109 +380,6 @@ void LegacySceneTest::otherButtonsDoNotEdit()
     }
 }
 
-void LegacySceneTest::rightPressEndsADrag()
-{
-    Bench bench;
-    bench.press(Bench::at(QPointF(0.5, 0.2)));
-    bench.press(Bench::at(QPointF(0.51, 0.2)), Qt::RightButton);
-    bench.names();
-    const QString before = describe(bench.triangles());
-    bench.move(Bench::at(QPointF(0.52, 0.2)));
-    QCOMPARE(bench.names(), QStringList(cursorChange));
-    QCOMPARE(describe(bench.triangles()), before);
-}
-
-void LegacySceneTest::dragFollowsInsideItsFence()
-{
-    Bench bench;
-    bench.press(Bench::at(QPointF(0.5, 0.3)));
-    bench.names();
-    for (const QPointF &chroma : {QPointF(0.52, 0.3), QPointF(0.55, 0.25), QPointF(0.45, 0.2)}) {
-        const QPointF position = Bench::at(chroma);
-        bench.log.takeUpdate();
-        QVERIFY(bench.move(position));
-        QCOMPARE(bench.log.takeSignals(),
-            QStringList({cursorChange + QStringLiteral(" shape 2"),
-                valueChanged + QLatin1Char(' ') + describe(bench.triangles().at(1))}));
-        QCOMPARE(describe(bench.target().redPos()), describe(Bench::chromaAt(position)));
-        QVERIFY(bench.log.takeUpdate());
-    }
-    bench.release();
-    QCOMPARE(bench.names(), QStringList(targetInfo));
-    bench.move(Bench::at(QPointF(0.5, 0.3)));
-    QCOMPARE(bench.names(), QStringList(cursorChange));
-}
-
-void LegacySceneTest::dragOutOfTheFenceIsRefused()
-{
-    Bench bench;
-    bench.press(Bench::at(QPointF(0.5, 0.3)));
-    bench.names();
-    const QString before = describe(bench.triangles());
-    for (const QPointF &chroma : {QPointF(0.6, 0.6), QPointF(0.2, 0.6), QPointF(0.15, 0.05), QPointF(-3.0, 9.0)}) {
-        QVERIFY(bench.move(Bench::at(chroma)));
-        QCOMPARE(bench.names(), QStringList(cursorChange));
-        QCOMPARE(describe(bench.triangles()), before);
-        QVERIFY(!stateOf(bench.scene).vertexSelected);
-    }
-    bench.move(Bench::at(QPointF(0.51, 0.3))); // and back
-    QCOMPARE(bench.names(), QStringList({cursorChange, valueChanged}));
-    QVERIFY(stateOf(bench.scene).vertexSelected);
-}
-
-void LegacySceneTest::dragOutOfTheOriginalGoesOn()
-{
-    Bench bench({reference::narrowGamut(), reference::narrowGamut()});
-    bench.press(Bench::at(QPointF(0.5, 0.3)));
-    bench.names();
-    const QPointF outside = Bench::at(QPointF(0.7, 0.28));
-    bench.move(outside);
-    QCOMPARE(bench.names(), QStringList({cursorChange, valueChanged}));
-    QCOMPARE(describe(bench.target().redPos()), describe(Bench::chromaAt(outside)));
-    bench.release();
-    QVERIFY(bench.log.takeSignals().value(0).endsWith(QLatin1String(", beyond 3, unreasonable")));
-}
-
-void LegacySceneTest::lockedPrimariesAreNotPlaced()
-{
-    Bench bench;
-    bench.scene.setRGBPointEnable(false);
-    const QPointF position = Bench::at(QPointF(0.5, 0.2));
-    bench.press(position);
-    QVERIFY(bench.names().isEmpty());
-    QCOMPARE(stateOf(bench.scene).selectedTab, 4);
-    bench.log.takeUpdate();
-    QVERIFY(!bench.move(Bench::at(QPointF(0.52, 0.2)))); // ends before it is accepted
-    QVERIFY(!bench.log.takeUpdate());
-    QCOMPARE(bench.names(), QStringList(cursorChange));
-    QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
-}
-
-void LegacySceneTest::lockedWhiteFallsThrough()
-{
-    Bench bench;
-    reference::setEditMode(bench.scene, 1);
-    bench.press(bench.whiteHandle());
-    QVERIFY(bench.names().isEmpty());
-    QVERIFY(!bench.move(bench.whiteHandle() + QPointF(5, 5)));
-    QCOMPARE(bench.names(), QStringList(cursorChange));
-    QVERIFY(!stateOf(bench.scene).centreSelected);
-    QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
-}
-
-void LegacySceneTest::hoverTellsTheCross()
-{
-    Bench bench;
-    bench.move(QPointF(0, 0)); // where it was last
-    QVERIFY(bench.names().isEmpty());
-    bench.move(QPointF(0, 7));
-    QCOMPARE(bench.log.takeSignals(), QStringList(cursorChange + QStringLiteral(" shape 2")));
-    bench.move(QPointF(0, 7));
-    QVERIFY(bench.names().isEmpty());
-    bench.move(QPointF(3, 7));
-    QCOMPARE(bench.names(), QStringList(cursorChange));
-}
-
 void LegacySceneTest::hoverComparesExactly()
 {
     Bench bench;
@@ -617,17 +389,6 @@ void LegacySceneTest::hoverComparesExactly()
     QCOMPARE(bench.names(), QStringList(cursorChange));
     bench.move(QPointF(100 + 1e-12, 50 - 1e-12));
     QCOMPARE(bench.names(), QStringList(cursorChange));
-}
-
-void LegacySceneTest::hoverEndsWithARepaint()
-{
-    for (const QList<ColorTriangleObject> &triangles : {QList<ColorTriangleObject>(), reference::gamutPair()}) {
-        Bench bench(triangles);
-        QVERIFY(bench.move(QPointF(300, 300)));
-        QVERIFY(bench.log.takeUpdate());
-        QVERIFY(bench.move(QPointF(300, 300)));
-        QVERIFY(bench.log.takeUpdate());
-    }
 }
 
 void LegacySceneTest::hoverSetsTheTab()
@@ -680,32 +441,6 @@ void LegacySceneTest::hoverOrderIsRedGreenBlueWhite()
     QCOMPARE(found, QList<int>({4, 1, 3, 2}));
 }
 
-void LegacySceneTest::heldSpaceTurnsTheMouseIntoAHand()
-{
-    Bench bench;
-    bench.key(QEvent::KeyPress, Qt::Key_Space);
-    QCOMPARE(bench.log.takeSignals(), QStringList(cursorChange + QStringLiteral(" shape 17")));
-    QVERIFY(stateOf(bench.scene).hand);
-    bench.move(QPointF(300, 300));
-    QCOMPARE(bench.log.takeSignals(), QStringList(cursorChange + QStringLiteral(" shape 17")));
-
-    bench.press(Bench::at(QPointF(0.5, 0.2)));
-    QVERIFY(bench.names().isEmpty());
-    bench.log.takeUpdate();
-    QVERIFY(bench.move(Bench::at(QPointF(0.52, 0.2))));
-    QVERIFY(bench.log.takeUpdate());
-    QVERIFY(!bench.names().contains(valueChanged));
-    QCOMPARE(describe(stateOf(bench.scene).requested), describe(QPointF(300, 300)));
-    QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
-    bench.release();
-    bench.names();
-
-    bench.key(QEvent::KeyRelease, Qt::Key_Space);
-    QVERIFY(!stateOf(bench.scene).hand);
-    bench.press(Bench::at(QPointF(0.5, 0.2)));
-    QCOMPARE(bench.names(), QStringList(valueChanged));
-}
-
 void LegacySceneTest::otherKeysEndTheHand()
 {
     for (const int code : {Qt::Key_A, Qt::Key_Shift, Qt::Key_Left}) {
@@ -715,112 +450,6 @@ void LegacySceneTest::otherKeysEndTheHand()
         bench.key(QEvent::KeyPress, code);
         QVERIFY(!stateOf(bench.scene).hand);
     }
-}
-
-void LegacySceneTest::spaceReleasedMidDragGoesOn()
-{
-    Bench bench;
-    bench.press(Bench::at(QPointF(0.5, 0.2)));
-    bench.key(QEvent::KeyPress, Qt::Key_Space);
-    bench.names();
-    bench.move(Bench::at(QPointF(0.52, 0.2)));
-    QVERIFY(!bench.names().contains(valueChanged));
-    bench.key(QEvent::KeyRelease, Qt::Key_Space);
-    bench.move(Bench::at(QPointF(0.53, 0.2)));
-    QCOMPARE(bench.names(), QStringList({cursorChange, valueChanged}));
-}
-
-void LegacySceneTest::magnifierRepeatsTheZoomStep()
-{
-    Bench bench;
-    reference::setFunctionKeyMode(bench.scene, 2);
-    bench.scene.SetFunctionKeyShortcuts();
-    QVERIFY(stateOf(bench.scene).magnifier);
-    bench.log.takeUpdate();
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
-        const float before = stateOf(bench.scene).zoom;
-        bench.press(Bench::at(QPointF(0.5, 0.2)), button);
-        QCOMPARE(stateOf(bench.scene).zoom, before - 0.1F);
-        QVERIFY(bench.log.takeUpdate());
-    }
-    QVERIFY(!bench.move(Bench::at(QPointF(0.52, 0.2))));
-    QVERIFY(!bench.log.takeUpdate());
-    QVERIFY(bench.names().isEmpty());
-    QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
-    QCOMPARE(describe(stateOf(bench.scene).requested), QStringLiteral("(0, 0)"));
-
-    reference::setFunctionKeyMode(bench.scene, 0); // the next press puts the magnifier away
-    bench.press(Bench::at(QPointF(0.5, 0.2)));
-    QVERIFY(!stateOf(bench.scene).magnifier);
-    QVERIFY(bench.names().isEmpty());
-    bench.press(Bench::at(QPointF(0.5, 0.2)));
-    QCOMPARE(bench.names(), QStringList(valueChanged));
-}
-
-void LegacySceneTest::releaseReportsTheTargetAsItStands()
-{
-    Bench bench;
-    bench.press(Bench::at(QPointF(0.5, 0.3)));
-    bench.move(Bench::at(QPointF(0.55, 0.3)));
-    bench.names();
-    bench.log.takeUpdate();
-    QVERIFY(bench.release());
-    const ColorTriangleObject target = bench.triangles().at(1);
-    QCOMPARE(bench.log.takeSignals(), QStringList(infoLine(target, kelvinOf(target.trianglePoint().whitePos()), true)));
-    QVERIFY(bench.log.takeUpdate());
-}
-
-void LegacySceneTest::releaseWithoutTargetReportsWhatWas()
-{
-    Bench bench;
-    bench.scene.setColorTempertureChecked(true);
-    bench.press(bench.whiteHandle());
-    bench.names();
-    bench.scene.setLsColorTriangleObject({reference::wideGamut()});
-    bench.release();
-    QCOMPARE(bench.log.takeSignals(),
-        QStringList(infoLine(reference::narrowGamut(), kelvinOf(QPointF(0.3127, 0.3290)), true)));
-
-    Bench fresh(QList<ColorTriangleObject>{});
-    fresh.release();
-    ColorTriangleObject untouched;
-    const QStringList emitted = fresh.log.takeSignals();
-    QCOMPARE(emitted.size(), 1);
-    QVERIFY(emitted.first().endsWith(QLatin1String(", 0 K, beyond 3, unreasonable")));
-}
-
-void LegacySceneTest::releaseOfOtherButtonsReportsNothing()
-{
-    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
-        Bench bench;
-        bench.scene.setColorTempertureChecked(true);
-        bench.press(bench.whiteHandle());
-        bench.names();
-        bench.log.takeUpdate();
-        QVERIFY(bench.release(button));
-        QVERIFY(bench.names().isEmpty());
-        QVERIFY(bench.log.takeUpdate());
-        bench.move(bench.whiteHandle() + QPointF(3, 3)); // the drag is over
-        QCOMPARE(bench.names(), QStringList(cursorChange));
-    }
-}
-
-void LegacySceneTest::releaseEndsSelections()
-{
-    Bench bench;
-    bench.press(Bench::at(QPointF(0.5, 0.3)));
-    QVERIFY(stateOf(bench.scene).vertexSelected);
-    bench.release();
-    QVERIFY(!stateOf(bench.scene).vertexSelected);
-    bench.press(bench.whiteHandle());
-    QVERIFY(stateOf(bench.scene).centreSelected);
-    bench.release(Qt::RightButton);
-    QVERIFY(!stateOf(bench.scene).centreSelected);
-    bench.names();
-    for (const int code : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
-        bench.key(QEvent::KeyPress, code);
-    }
-    QVERIFY(bench.names().isEmpty());
 }
 
 void LegacySceneTest::whiteHandleIsASquareOfTwelve()
@@ -886,64 +515,6 @@ void LegacySceneTest::whiteHandleGrowsWithTheZoom()
             QCOMPARE(bench.names(), QStringList(within ? targetInfo : valueChanged));
         }
     }
-}
-
-void LegacySceneTest::whiteDragReports_data()
-{
-    QTest::addColumn<bool>("held");
-    QTest::newRow("white follows") << false;
-    QTest::newRow("white held") << true;
-}
-
-void LegacySceneTest::whiteDragReports()
-{
-    QFETCH(bool, held);
-    Bench bench;
-    bench.scene.setColorTempertureChecked(held);
-    const QString info = infoLine(reference::narrowGamut(), kelvinOf(QPointF(0.3127, 0.3290)), true);
-    bench.press(bench.whiteHandle());
-    QCOMPARE(bench.log.takeSignals(), QStringList(info));
-    bench.log.takeUpdate();
-    QVERIFY(!bench.move(bench.whiteHandle() + QPointF(20, 10)));
-    QCOMPARE(bench.log.takeSignals(), QStringList({cursorChange + QStringLiteral(" shape 2"), info}));
-    QVERIFY(bench.log.takeUpdate());
-    bench.release();
-    QStringList expected{info};
-    if (held) {
-        expected << whiteChanged + QLatin1Char(' ') + describe(bench.triangles().at(1));
-    }
-    QCOMPARE(bench.log.takeSignals(), expected);
-    QCOMPARE(describe(bench.triangles()), describe(reference::gamutPair()));
-}
-
-void LegacySceneTest::whiteOutsideTheTargetStopsFollowing()
-{
-    Bench bench;
-    bench.press(bench.whiteHandle());
-    bench.names();
-    bench.move(Bench::at(QPointF(0.2, 0.6)));
-    QCOMPARE(bench.names(), QStringList(cursorChange));
-    QVERIFY(!stateOf(bench.scene).whiteMoved);
-    bench.log.takeUpdate();
-    QVERIFY(!bench.move(Bench::at(QPointF(0.35, 0.35)))); // back inside
-    QCOMPARE(bench.names(), QStringList(cursorChange));
-    QVERIFY(!bench.log.takeUpdate());
-    bench.release();
-    QCOMPARE(bench.names(), QStringList(targetInfo));
-    bench.press(bench.whiteHandle());
-    QCOMPARE(bench.names(), QStringList(targetInfo));
-    QVERIFY(stateOf(bench.scene).whiteMoved);
-}
-
-void LegacySceneTest::whitePickedOutsideTheTargetDoesNotMove()
-{
-    QList<ColorTriangleObject> pair = reference::gamutPair();
-    pair[1].trianglePoint().setWhitePos(QPointF(0.2, 0.6));
-    Bench bench(pair);
-    bench.press(bench.whiteHandle());
-    QVERIFY(bench.names().isEmpty());
-    QVERIFY(stateOf(bench.scene).centreSelected);
-    QCOMPARE(describe(bench.triangles()), describe(pair));
 }
 
 void LegacySceneTest::arrowsStartFromThePaintedWhiteHandle()

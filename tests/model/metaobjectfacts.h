@@ -63,4 +63,32 @@ void verifyQObjectPartIsNotCopied()
     QCOMPARE(source->objectName(), QStringLiteral("source"));
 }
 
+// Copies and assignments take what fill() sets and isFilled() asks for, change() does not reach from one to another,
+// and an assignment to itself changes nothing.
+template <typename T>
+void verifyPayloadIsCopied(void (*fill)(T &), bool (*isFilled)(const T &), void (*change)(T &))
+{
+    verifyQObjectPartIsNotCopied<T>();
+    QObject parent;
+    auto *source = new T(&parent);
+    fill(*source);
+    QVERIFY(isFilled(*source));
+    T copy(*source);
+    QVERIFY(isFilled(copy));
+    T target;
+    target = *source;
+    QVERIFY(isFilled(target));
+    change(target);
+    QVERIFY(!isFilled(target));
+    QVERIFY(isFilled(*source) && isFilled(copy));
+    change(*source);
+    QVERIFY(isFilled(copy));
+
+    fill(*source);
+    const T &alias = *source;
+    QCOMPARE(&(*source = alias), source);
+    QVERIFY(isFilled(*source));
+    QCOMPARE(source->parent(), &parent);
+}
+
 #endif // TESTS_MODEL_METAOBJECTFACTS_H

@@ -79,15 +79,17 @@ class TrianglePointTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObjectIsBare();
+    void metaObjectIsBare() { verifyBareQObject<TrianglePoint>("TrianglePoint"); }
     void defaultIsZero();
-    void settersStore();
     void settersStoreAnything();
     void positionsAreModifiableInPlace();
-    void copyTakesTheFieldsOnly();
-    void assignmentTakesTheFieldsOnly();
-    void copyIsIndependent();
-    void selfAssignment();
+    void fieldsAreCopied()
+    {
+        verifyPayloadIsCopied<TrianglePoint>(
+            fill, isFilled, [](TrianglePoint &triangle) { triangle.redPos().setX(9.0); });
+        verifyPayloadIsCopied<TrianglePoint>(
+            fill, isFilled, [](TrianglePoint &triangle) { triangle.setWhiteLum(9.0); });
+    }
     void defaultIsEmpty();
     void anyPositionMakesNonEmpty();
     void luminancesDoNotCountForEmpty();
@@ -96,11 +98,6 @@ private Q_SLOTS:
     void toArrayHasThreeVerticesInOrder();
     void toArrayOfDefault();
 };
-
-void TrianglePointTest::metaObjectIsBare()
-{
-    verifyBareQObject<TrianglePoint>("TrianglePoint");
-}
 
 void TrianglePointTest::defaultIsZero()
 {
@@ -113,13 +110,6 @@ void TrianglePointTest::defaultIsZero()
     QVERIFY(triangle.greenLum() == 0.0);
     QVERIFY(triangle.blueLum() == 0.0);
     QVERIFY(triangle.whiteLum() == 0.0);
-}
-
-void TrianglePointTest::settersStore()
-{
-    TrianglePoint triangle;
-    fill(triangle);
-    QVERIFY(isFilled(triangle));
 }
 
 void TrianglePointTest::settersStoreAnything()
@@ -149,45 +139,6 @@ void TrianglePointTest::positionsAreModifiableInPlace()
     QVERIFY(same(read.bluePos(), 0.5, 0.6));
     QVERIFY(same(read.whitePos(), 0.7, 0.8));
     QCOMPARE(&read.redPos(), &triangle.redPos());
-}
-
-void TrianglePointTest::copyTakesTheFieldsOnly()
-{
-    verifyQObjectPartIsNotCopied<TrianglePoint>();
-    TrianglePoint source;
-    fill(source);
-    QVERIFY(isFilled(TrianglePoint(source)));
-}
-
-void TrianglePointTest::assignmentTakesTheFieldsOnly()
-{
-    TrianglePoint source;
-    fill(source);
-    TrianglePoint target;
-    target = source;
-    QVERIFY(isFilled(target));
-    QVERIFY(isFilled(source));
-}
-
-void TrianglePointTest::copyIsIndependent()
-{
-    TrianglePoint source;
-    fill(source);
-    TrianglePoint copy(source);
-    copy.redPos().setX(9.0);
-    copy.setWhiteLum(9.0);
-    QVERIFY(isFilled(source));
-}
-
-void TrianglePointTest::selfAssignment()
-{
-    QObject parent;
-    auto *triangle = new TrianglePoint(&parent);
-    fill(*triangle);
-    const TrianglePoint &alias = *triangle;
-    QCOMPARE(&(*triangle = alias), triangle);
-    QVERIFY(isFilled(*triangle));
-    QCOMPARE(triangle->parent(), &parent);
 }
 
 void TrianglePointTest::defaultIsEmpty()

@@ -97,6 +97,14 @@ private:
     QColor m_pictureColor{23, 23, 26, 255};
 };
 
+/*! \brief The mapping of a picture of \a w by \a h pixels. */
+inline Mapping mappingOf(int w, int h)
+{
+    PlainRenderer plain;
+    plain.setPictureSize(w, h);
+    return plain.mapping();
+}
+
 } // namespace reference
 
 #endif // CEIECHART_TESTS_REFERENCE_PLAINRENDERER_H

@@ -8,37 +8,12 @@ class CompositionTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void simpleFormIgnoresItsSecondAndThirdFlag();
-    void simpleFormDrawsNoColorTemperaturePoints();
     void simpleFormColorsTheWholePictureByDefault();
     void simpleFormOnARedlessPictureColorsTheHorseshoe();
-    void polygonFlagChangesNothing();
     void skipTextLeavesOutTheGamutBlock();
     void wavelengthsAreInEveryGamutForm();
     void horseshoeCoversEdgeAndStandardsButNotTriangles();
 };
-
-void CompositionTest::simpleFormIgnoresItsSecondAndThirdFlag()
-{
-    Renderer renderer(nullptr);
-    renderer.setGraphColor(Qt::white, Qt::black);
-    const QImage picture = simplePicture(renderer, 120, 110, {}, true, false, false);
-    for (int flags = 1; flags < 4; ++flags) {
-        QCOMPARE(reference::firstDifference(
-                     simplePicture(renderer, 120, 110, {}, true, (flags & 1) != 0, (flags & 2) != 0), picture),
-            QString());
-    }
-    QVERIFY(!reference::firstDifference(simplePicture(renderer, 120, 110, {}, false), picture).isEmpty());
-}
-
-void CompositionTest::simpleFormDrawsNoColorTemperaturePoints()
-{
-    Renderer renderer(nullptr);
-    renderer.setGraphColor(Qt::white, Qt::black);
-    const QImage without = simplePicture(renderer, 200, 200);
-    QCOMPARE(
-        reference::firstDifference(simplePicture(renderer, 200, 200, {{0.3, 0.3}, {0.9, 0.9}}), without), QString());
-}
 
 void CompositionTest::simpleFormColorsTheWholePictureByDefault()
 {
@@ -70,15 +45,6 @@ void CompositionTest::simpleFormOnARedlessPictureColorsTheHorseshoe()
     QCOMPARE(qBlue(pixel), 255);
     QVERIFY(std::abs(qRed(pixel) - 162) < 6);
     QVERIFY(std::abs(qGreen(pixel) - 238) < 6);
-}
-
-void CompositionTest::polygonFlagChangesNothing()
-{
-    Renderer renderer(nullptr);
-    const QPolygonF clip(QRectF(5, 5, 50, 50));
-    QCOMPARE(reference::firstDifference(gamutPicture(renderer, 60, 60, {}, {}, clip, {}, true, true),
-                 gamutPicture(renderer, 60, 60, {}, {}, clip, {}, true, false)),
-        QString());
 }
 
 void CompositionTest::skipTextLeavesOutTheGamutBlock()

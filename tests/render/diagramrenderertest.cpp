@@ -1,41 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/render/drawceipicture.h>
+#include "rendererbench.h"
 
 #include <reference/plainrenderer.h>
-#include <reference/quietmessages.h>
 #include <reference/rendererstate.h>
-
-#include <QtTest>
 
 #include <cmath>
 #include <limits>
-#include <memory>
-
-namespace {
-
-using Renderer = NewCEIE::DrawCEIPicture;
-
-const CEIAtlasValue &atlas()
-{
-    static const CEIAtlasValue tables;
-    return tables;
-}
-
-// What the fill and the mappings work with is known only after a drawing.
-void drawOnce(Renderer &renderer, int w, int h)
-{
-    const reference::QuietMessages quiet;
-    const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(w, h, false, false, false, QList<QPointF>()));
-}
-
-reference::Mapping mappingOf(int w, int h)
-{
-    reference::PlainRenderer plain;
-    plain.setPictureSize(w, h);
-    return plain.mapping();
-}
-
-} // namespace
 
 class DiagramRendererTest : public QObject {
     Q_OBJECT
@@ -98,7 +68,7 @@ void DiagramRendererTest::atlasCoordinateBecomesTheCurrentPoint()
     renderer.GetPointF(coordinate);
     const QPointF pixel = renderer.CoordinateTransformation();
     const double sum = coordinate.X + coordinate.Y + coordinate.Z;
-    const QPointF expected = mappingOf(800, 800).toPixel(QPointF(coordinate.X / sum, coordinate.Y / sum));
+    const QPointF expected = reference::mappingOf(800, 800).toPixel(QPointF(coordinate.X / sum, coordinate.Y / sum));
     QVERIFY(pixel.x() == expected.x());
     QVERIFY(pixel.y() == expected.y());
     // x = 0.3373..., y = 0.6588... on 720 pixels
@@ -121,7 +91,7 @@ void DiagramRendererTest::currentPointMapsWithoutTruncation()
     Renderer renderer(nullptr);
     for (const QSize &size : {QSize(800, 800), QSize(801, 333), QSize(97, 211)}) {
         drawOnce(renderer, size.width(), size.height());
-        const reference::Mapping mapping = mappingOf(size.width(), size.height());
+        const reference::Mapping mapping = reference::mappingOf(size.width(), size.height());
         for (const CEIAtlasValue::CEIAtlasCoordinate &row : atlas().atlasCoordinates) {
             renderer.GetPointF(row);
             const QPointF pixel = renderer.CoordinateTransformation();

@@ -88,9 +88,7 @@ private Q_SLOTS:
     void widget();
     void parentOwnsTheRenderer();
     void defaultColors();
-    void defaultListsAreEmpty();
     void intersectPolygonIsTheClipPolygonOfTheLastGamutForm();
-    void sizeAndFormat();
     void emptyAndNegativeSizes_data();
     void emptyAndNegativeSizes();
     void failedAllocation();
@@ -153,16 +151,6 @@ void DrawCEIPictureTest::defaultColors()
     QCOMPARE(qMax(qRed(colored.pixel(0, 0)), qMax(qGreen(colored.pixel(0, 0)), qBlue(colored.pixel(0, 0)))), 255);
 }
 
-void DrawCEIPictureTest::defaultListsAreEmpty()
-{
-    Renderer fresh(nullptr);
-    Renderer set(nullptr);
-    set.setPointData({});
-    set.setCMYPointData({});
-    simplePicture(set, 100, 100, {});
-    QCOMPARE(reference::firstDifference(skippedPicture(fresh, 100, 100), skippedPicture(set, 100, 100)), QString());
-}
-
 void DrawCEIPictureTest::intersectPolygonIsTheClipPolygonOfTheLastGamutForm()
 {
     Renderer renderer(nullptr);
@@ -187,19 +175,6 @@ void DrawCEIPictureTest::intersectPolygonIsTheClipPolygonOfTheLastGamutForm()
     QVERIFY(isClip(clip));
     gamutPicture(renderer, 80, 80);
     QVERIFY(isClip(QPolygonF()));
-}
-
-void DrawCEIPictureTest::sizeAndFormat()
-{
-    Renderer renderer(nullptr);
-    for (const QSize &size : {QSize(1, 1), QSize(1, 7), QSize(9, 1), QSize(50, 49), QSize(123, 77)}) {
-        for (const QImage &picture :
-            {simplePicture(renderer, size.width(), size.height()), gamutPicture(renderer, size.width(), size.height()),
-                skippedPicture(renderer, size.width(), size.height())}) {
-            QCOMPARE(picture.size(), size);
-            QCOMPARE(picture.format(), QImage::Format_ARGB32);
-        }
-    }
 }
 
 void DrawCEIPictureTest::emptyAndNegativeSizes_data()

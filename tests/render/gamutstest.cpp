@@ -10,9 +10,6 @@ class GamutsTest : public QObject {
 private Q_SLOTS:
     void standardTintAndOutline_data();
     void standardTintAndOutline();
-    void trianglesAreOutlinedInListOrder();
-    void kindsOfTriangles();
-    void hiddenTrianglesAreDrawn();
     void onePainterPerKind();
     void intersectionOutline();
 };
@@ -71,55 +68,6 @@ void GamutsTest::standardTintAndOutline()
         }
     });
     QCOMPARE(reference::firstDifference(layer, expected), QString());
-}
-
-void GamutsTest::trianglesAreOutlinedInListOrder()
-{
-    Renderer renderer(nullptr);
-    renderer.setGraphColor(Qt::white, Qt::black);
-    const ColorTriangleObject red = greenGamut(Qt::red, 1, 0.5, 7);
-    const ColorTriangleObject green = greenGamut(Qt::green, 2, 0.5, 7);
-    const ColorTriangleObject blue = greenGamut(Qt::blue, 3, 0.5, 7);
-    const QImage picture = gamutPicture(renderer, 400, 400, {red, green, blue});
-    const QPoint onOutline = renderer.CoordinateTransformation(QPointF(0.2, 0.45)).toPoint();
-    const QPoint inside = renderer.CoordinateTransformation(QPointF(0.18, 0.55)).toPoint();
-    QCOMPARE(picture.pixel(onOutline), qRgb(0, 0, 255));
-    QCOMPARE(picture.pixel(inside), qRgb(0, 0, 0));
-    QCOMPARE(gamutPicture(renderer, 400, 400, {blue, red, green}).pixel(onOutline), qRgb(0, 255, 0));
-    QCOMPARE(gamutPicture(renderer, 400, 400, {green, blue, red}).pixel(onOutline), qRgb(255, 0, 0));
-}
-
-void GamutsTest::kindsOfTriangles()
-{
-    Renderer renderer(nullptr);
-    const ColorTriangleObject standard = gamut({0.64, 0.33}, {0.30, 0.60}, {0.15, 0.06}, Qt::white, 0);
-    const ColorTriangleObject target = gamut({0.68, 0.32}, {0.27, 0.69}, {0.15, 0.06}, Qt::red, 1);
-    const ColorTriangleObject unknown = gamut({0.6, 0.3}, {0.2, 0.5}, {0.2, 0.1}, Qt::green, 4);
-    const ColorTriangleObject measured = gamut({0.69, 0.30}, {0.19, 0.72}, {0.13, 0.05}, Qt::blue, 3);
-    const QImage none = gamutPicture(renderer, 300, 300);
-    const QImage all = gamutPicture(renderer, 300, 300, {standard, target, unknown, measured});
-    QCOMPARE(reference::firstDifference(all, gamutPicture(renderer, 300, 300, {target, measured})), QString());
-    QVERIFY(!reference::firstDifference(all, gamutPicture(renderer, 300, 300, {target})).isEmpty());
-    QVERIFY(!reference::firstDifference(all, gamutPicture(renderer, 300, 300, {measured})).isEmpty());
-    QCOMPARE(reference::firstDifference(gamutPicture(renderer, 300, 300, {standard, unknown}), none), QString());
-    ColorTriangleObject negative = target;
-    negative.setType(-1);
-    QCOMPARE(reference::firstDifference(gamutPicture(renderer, 300, 300, {negative}), none), QString());
-    // The list of standards does not ask for the kind.
-    const QImage standards = gamutPicture(renderer, 300, 300, {}, {standard});
-    ColorTriangleObject other = standard;
-    other.setType(9);
-    QCOMPARE(reference::firstDifference(gamutPicture(renderer, 300, 300, {}, {other}), standards), QString());
-}
-
-void GamutsTest::hiddenTrianglesAreDrawn()
-{
-    Renderer renderer(nullptr);
-    ColorTriangleObject triangle = greenGamut(Qt::red, 1);
-    const QImage shown = gamutPicture(renderer, 300, 300, {triangle}, {triangle});
-    triangle.setShow(false);
-    triangle.setGamutName("hidden");
-    QCOMPARE(reference::firstDifference(gamutPicture(renderer, 300, 300, {triangle}, {triangle}), shown), QString());
 }
 
 void GamutsTest::onePainterPerKind()

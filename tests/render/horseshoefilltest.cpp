@@ -1,49 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/render/drawceipicture.h>
+#include "rendererbench.h"
 
-#include <reference/picturedifference.h>
-#include <reference/picturetestmain.h>
 #include <reference/plainrenderer.h>
 #include <reference/quietmessages.h>
 #include <reference/rendererstate.h>
 
-#include <QtTest>
-
-#include <cmath>
-#include <limits>
-#include <memory>
 #include <vector>
 
 namespace {
 
-using Renderer = NewCEIE::DrawCEIPicture;
-
 constexpr int width = 60;
 constexpr int height = 48;
-
-const CEIAtlasValue &atlas()
-{
-    static const CEIAtlasValue tables;
-    return tables;
-}
 
 const CEIAtlasValue::TColorSystem &colorSystem()
 {
     return atlas().colorSystem;
-}
-
-// What the fill and the mappings work with is known only after a drawing.
-void drawOnce(Renderer &renderer, int w, int h)
-{
-    const reference::QuietMessages quiet;
-    const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(w, h, false, false, false, QList<QPointF>()));
-}
-
-reference::Mapping mappingOf(int w, int h)
-{
-    reference::PlainRenderer plain;
-    plain.setPictureSize(w, h);
-    return plain.mapping();
 }
 
 QImage transparentPicture(int w = width, int h = height)
@@ -55,7 +26,7 @@ QImage transparentPicture(int w = width, int h = height)
 
 QColor expectedColor(int px, int py)
 {
-    static const reference::Mapping mapping = mappingOf(width, height);
+    static const reference::Mapping mapping = reference::mappingOf(width, height);
     return reference::horseshoeColor(colorSystem(), mapping.toChroma(px, py), 1.0);
 }
 
@@ -93,12 +64,10 @@ class HorseshoeFillTest : public QObject {
 
 private Q_SLOTS:
 
-    void edgeBoundsEachRow();
     void redBackgroundColorsEveryPixel();
     void redInColumnZeroOnlySkipsTheRow();
     void oneRedPixelRecolorsItself();
     void onlyRedCounts();
-    void rowsDoNotInfluenceEachOther();
     void gammaOfTheRenderer();
     void pictureOnePixelWideIsNeverColored();
     void noRowsWithoutHeight();
@@ -121,24 +90,6 @@ private Q_SLOTS:
     void alphaOutOfRangeLeavesThePixel_data();
     void alphaOutOfRangeLeavesThePixel();
 };
-
-void HorseshoeFillTest::edgeBoundsEachRow()
-{
-    Renderer renderer(nullptr);
-    drawOnce(renderer, width, height);
-    QImage picture = transparentPicture();
-    for (int y = 10; y < 40; ++y) {
-        picture.setPixel(y, y, 0xffffffff);
-        picture.setPixel(52 - (y % 5), y, 0xffffffff);
-    }
-    renderer.painterPixColor(&picture);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const bool colored = y >= 10 && y < 40 && x >= y && x <= 52 - (y % 5);
-            QCOMPARE(picture.pixel(x, y), colored ? expectedColor(x, y).rgba() : 0U);
-        }
-    }
-}
 
 void HorseshoeFillTest::redBackgroundColorsEveryPixel()
 {
@@ -208,25 +159,6 @@ void HorseshoeFillTest::onlyRedCounts()
     QCOMPARE(reference::firstDifference(picture, expected), QString());
 }
 
-void HorseshoeFillTest::rowsDoNotInfluenceEachOther()
-{
-    Renderer renderer(nullptr);
-    drawOnce(renderer, width, height);
-    QImage picture = transparentPicture();
-    picture.setPixel(10, 0, 0xffff0000);
-    picture.setPixel(50, 0, 0xffff0000);
-    picture.setPixel(20, 2, 0xffff0000);
-    picture.setPixel(25, 2, 0xffff0000);
-    renderer.painterPixColor(&picture);
-    QCOMPARE(picture.pixel(9, 0), 0U);
-    QCOMPARE(picture.pixel(51, 0), 0U);
-    QCOMPARE(picture.pixel(30, 0), expectedColor(30, 0).rgba());
-    for (int x = 0; x < width; ++x) {
-        QCOMPARE(picture.pixel(x, 1), 0U);
-        QCOMPARE(picture.pixel(x, 2), x >= 20 && x <= 25 ? expectedColor(x, 2).rgba() : 0U);
-    }
-}
-
 void HorseshoeFillTest::gammaOfTheRenderer()
 {
     Renderer renderer(nullptr);
@@ -237,7 +169,7 @@ void HorseshoeFillTest::gammaOfTheRenderer()
         actual.fill(QColor(23, 23, 26));
         QImage expected = actual;
         renderer.painterPixColor(&actual);
-        reference::fillPlain(expected, width, height, mappingOf(width, height), colorSystem(), gamma);
+        reference::fillPlain(expected, width, height, reference::mappingOf(width, height), colorSystem(), gamma);
         QVERIFY2(actual == expected, qPrintable(QString::number(gamma)));
     }
 }
@@ -271,7 +203,7 @@ void HorseshoeFillTest::sizeIsTheRenderersNotTheImages()
 {
     Renderer renderer(nullptr);
     drawOnce(renderer, width, height);
-    const reference::Mapping mapping = mappingOf(width, height);
+    const reference::Mapping mapping = reference::mappingOf(width, height);
     const reference::QuietMessages quiet;
     for (const QSize &size : {QSize(width + 9, height + 5), QSize(width - 9, height + 5), QSize(width + 9, height - 5),
              QSize(width - 9, height - 5), QSize(1, 1)}) {
@@ -317,7 +249,7 @@ void HorseshoeFillTest::everyImageFormat()
     const reference::QuietMessages quiet;
     QImage picture = speckledPicture(width, height, static_cast<QImage::Format>(format));
     QImage expected = picture.copy();
-    reference::fillPlain(expected, width, height, mappingOf(width, height), colorSystem(), 1.0);
+    reference::fillPlain(expected, width, height, reference::mappingOf(width, height), colorSystem(), 1.0);
     renderer.painterPixColor(&picture);
     QCOMPARE(static_cast<int>(picture.format()), format);
     QVERIFY(picture == expected);
@@ -329,7 +261,7 @@ void HorseshoeFillTest::sharedAndForeignPixels()
     drawOnce(renderer, width, height);
     QImage expected = transparentPicture();
     expected.fill(0xffff0000);
-    reference::fillPlain(expected, width, height, mappingOf(width, height), colorSystem(), 1.0);
+    reference::fillPlain(expected, width, height, reference::mappingOf(width, height), colorSystem(), 1.0);
 
     // A copy of the picture keeps its own pixels.
     QImage picture = transparentPicture();

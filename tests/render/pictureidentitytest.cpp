@@ -98,7 +98,7 @@ ColorTriangleObject randomTriangle(Random &random)
     triangle.setForeColor(randomColor(random));
     triangle.setTrigleLineWidth(widths[static_cast<std::size_t>(random.between(0, 3))]);
     triangle.setShow(random.chance(70));
-    triangle.setType(random.between(0, 4));
+    triangle.setType(random.between(-1, 4));
     triangle.setOpacity(opacities[static_cast<std::size_t>(random.between(0, 7))]);
     triangle.setGamutName("gamut");
     return triangle;

@@ -11,11 +11,8 @@ class PointMarksTest : public QObject {
 
 private Q_SLOTS:
     void measurePoints();
-    void measurePointsAreNormalized();
     void pointsLeaveThePainterAsItWas();
     void cmyPoints();
-    void cmyPointUsesTheCornerOnly();
-    void cmyPointsCoverMeasurePoints();
 };
 
 void PointMarksTest::measurePoints()
@@ -41,16 +38,6 @@ void PointMarksTest::measurePoints()
     for (int i = 0; i < rectangles.size(); ++i) {
         QCOMPARE(with.pixelColor(rectangles.at(i).center().toPoint()), colors[static_cast<std::size_t>(i)]);
     }
-}
-
-void PointMarksTest::measurePointsAreNormalized()
-{
-    Renderer renderer(nullptr);
-    renderer.setPointData({QRectF(200, 60, -20, -30)});
-    const QImage negative = skippedPicture(renderer, 320, 320);
-    renderer.setPointData({QRectF(180, 30, 20, 30)});
-    QCOMPARE(reference::firstDifference(skippedPicture(renderer, 320, 320), negative), QString());
-    QCOMPARE(negative.pixel(190, 45), qRgb(255, 0, 0));
 }
 
 void PointMarksTest::pointsLeaveThePainterAsItWas()
@@ -95,34 +82,6 @@ void PointMarksTest::cmyPoints()
         const QPoint centre = (rectangles.at(i).topLeft() + QPointF(8, 8)).toPoint();
         QCOMPARE(with.pixelColor(centre), colors[static_cast<std::size_t>(i)]);
     }
-}
-
-void PointMarksTest::cmyPointUsesTheCornerOnly()
-{
-    Renderer renderer(nullptr);
-    renderer.setGraphColor(Qt::white, Qt::black);
-    const QImage without = skippedPicture(renderer, 400, 400);
-    renderer.setCMYPointData({QRectF(100, 50, 8, 8)});
-    const QImage with = skippedPicture(renderer, 400, 400);
-    // The outline is one pixel wide and centred on the circle.
-    const QRect changed = reference::changedPixels(with, without);
-    QCOMPARE(changed, QRect(QPoint(99, 49), QPoint(116, 66)));
-    for (const QSizeF &size : {QSizeF(0, 0), QSizeF(16, 16), QSizeF(-30, 200)}) {
-        renderer.setCMYPointData({QRectF(QPointF(100, 50), size)});
-        QCOMPARE(reference::firstDifference(skippedPicture(renderer, 400, 400), with), QString());
-    }
-}
-
-void PointMarksTest::cmyPointsCoverMeasurePoints()
-{
-    Renderer renderer(nullptr);
-    renderer.setPointData({QRectF(200, 60, 16, 16)});
-    QCOMPARE(skippedPicture(renderer, 320, 320).pixel(208, 68), qRgb(255, 0, 0));
-    renderer.setCMYPointData({QRectF(200, 60, 16, 16)});
-    QCOMPARE(skippedPicture(renderer, 320, 320).pixel(208, 68), qRgb(0, 255, 255));
-    renderer.setPointData({});
-    renderer.setCMYPointData({});
-    QCOMPARE(skippedPicture(renderer, 320, 320).pixel(208, 68), qRgb(23, 23, 26));
 }
 
 CEIECHART_PICTURE_TEST_MAIN(PointMarksTest)

@@ -6,6 +6,7 @@
 
 #include <reference/picturedifference.h>
 #include <reference/picturetestmain.h>
+#include <reference/quietmessages.h>
 
 #include <QPainter>
 #include <QtTest>
@@ -28,6 +29,13 @@ inline QImage simplePicture(Renderer &renderer, int w, int h, const QList<QPoint
 {
     const std::unique_ptr<QImage> picture(renderer.drawCEIPicture(w, h, showCoordinate, second, third, points));
     return picture ? *picture : QImage();
+}
+
+// What the fill and the mappings work with is known only after a drawing.
+inline void drawOnce(Renderer &renderer, int w, int h)
+{
+    const reference::QuietMessages quiet;
+    simplePicture(renderer, w, h);
 }
 
 inline QImage gamutPicture(Renderer &renderer, int w, int h, const Triangles &triangles = {},

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/scene/luminancebalance_p.h>
 
-#include <ceiechart/atlas/chromasets.h>
+#include <reference/mixedwhites.h>
 
 #include <QTest>
 
@@ -9,6 +9,11 @@
 #include <cmath>
 #include <limits>
 #include <random>
+
+using reference::Luminances;
+using reference::luminancesFor;
+using reference::White;
+using reference::whiteOf;
 
 /*! The white of the primaries, and the luminances of a white that is held. */
 class LuminanceBalanceTest : public QObject {
@@ -53,36 +58,6 @@ TrianglePoint gamut(const QPointF &red, const QPointF &green, const QPointF &blu
 TrianglePoint rec709(double y)
 {
     return gamut({0.64, 0.33}, {0.30, 0.60}, {0.15, 0.06}, y);
-}
-
-struct Luminances {
-    double red = 0.0;
-    double green = 0.0;
-    double blue = 0.0;
-};
-
-Luminances luminancesFor(const TrianglePoint &points, double white)
-{
-    Luminances found;
-    ChromaSets::RGBCxCyFromWhiteCxCy(found.red, points.redPos().x(), points.redPos().y(), found.green,
-        points.greenPos().x(), points.greenPos().y(), found.blue, points.bluePos().x(), points.bluePos().y(), white,
-        points.whitePos().x(), points.whitePos().y());
-    return found;
-}
-
-struct White {
-    double luminance = 0.0;
-    double x = 0.0;
-    double y = 0.0;
-};
-
-White whiteOf(const TrianglePoint &points)
-{
-    White white;
-    ChromaSets::rgbCxCyToWhiteCxCy(points.redLum(), points.redPos().x(), points.redPos().y(), points.greenLum(),
-        points.greenPos().x(), points.greenPos().y(), points.blueLum(), points.bluePos().x(), points.bluePos().y(),
-        white.luminance, white.x, white.y);
-    return white;
 }
 
 struct Pair {

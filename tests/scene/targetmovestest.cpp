@@ -124,7 +124,6 @@ private Q_SLOTS:
     void whiteMoveTakesTheTargetAsItStands();
     void lockedWhiteIsRefused();
     void whiteMoveWithoutTargetKeepsTheVerdict();
-    void vertexLockLeavesTheWhiteEditable();
     void pickedWhiteMoves();
     void missedWhiteFallsToTheVertex();
     void nothingIsPickedInLockedModes();
@@ -441,19 +440,6 @@ void TargetMovesTest::whiteMoveWithoutTargetKeepsTheVerdict()
         QVERIFY(bench.log.takeSignals().isEmpty());
         QVERIFY(stateOf(bench.scene).whiteMoved);
     }
-}
-
-void TargetMovesTest::vertexLockLeavesTheWhiteEditable()
-{
-    Bench bench;
-    bench.place(QPointF(0.5, 0.3));
-    bench.scene.setRGBPointEnable(false);
-    bench.request(QPointF(0.55, 0.3));
-    bench.scene.MoveEllipseSign();
-    QVERIFY(bench.log.takeSignals().isEmpty());
-    bench.request(QPointF(0.33, 0.34));
-    bench.scene.MoveCentreTriangle();
-    QCOMPARE(bench.log.takeSignals().size(), 1);
 }
 
 void TargetMovesTest::pickedWhiteMoves()

@@ -2,6 +2,7 @@
 #include <ceiechart/atlas/chromasets.h>
 #include <ceiechart/scene/ceiegraphicsscene.h>
 
+#include <reference/mixedwhites.h>
 #include <reference/samplegamuts.h>
 #include <reference/scenemodel.h>
 #include <reference/scenesignallog.h>
@@ -14,6 +15,10 @@
 #include <memory>
 
 using reference::describe;
+using reference::Luminances;
+using reference::luminancesFor;
+using reference::White;
+using reference::whiteOf;
 using Scene = NewCEIE::CEIEGraphicsScene;
 
 namespace {
@@ -45,36 +50,6 @@ struct Bench {
         return scene.getLsColorTriangleObject().at(1).trianglePoint();
     }
 };
-
-struct Luminances {
-    double red = 0.0;
-    double green = 0.0;
-    double blue = 0.0;
-};
-
-Luminances luminancesFor(const TrianglePoint &points, double white)
-{
-    Luminances found;
-    ChromaSets::RGBCxCyFromWhiteCxCy(found.red, points.redPos().x(), points.redPos().y(), found.green,
-        points.greenPos().x(), points.greenPos().y(), found.blue, points.bluePos().x(), points.bluePos().y(), white,
-        points.whitePos().x(), points.whitePos().y());
-    return found;
-}
-
-struct White {
-    double luminance = 0.0;
-    double x = 0.0;
-    double y = 0.0;
-};
-
-White whiteOf(const TrianglePoint &points)
-{
-    White white;
-    ChromaSets::rgbCxCyToWhiteCxCy(points.redLum(), points.redPos().x(), points.redPos().y(), points.greenLum(),
-        points.greenPos().x(), points.greenPos().y(), points.blueLum(), points.bluePos().x(), points.bluePos().y(),
-        white.luminance, white.x, white.y);
-    return white;
-}
 
 // An original and a target of the same primaries; the target's white is theirs, or lies outside of them.
 QList<ColorTriangleObject> equalPair(const std::array<double, 3> &luminances, bool whiteInReach)
