@@ -704,9 +704,9 @@ void DiagramViewTest::nativeGesturesZoom()
 void DiagramViewTest::pinchesOnAPadZoomAndPan()
 {
     View view;
-    const QPointF middle = view.viewport().plot().center() + QPointF(40, -30);
+    const QPoint middle = view.viewport().plot().center().toPoint() + QPoint(40, -30);
     const QPointF xy = view.viewport().toChromaticity(middle);
-    const QPointF global = view.mapToGlobal(middle.toPoint());
+    const QPointF global = view.mapToGlobal(middle);
     QPinchGesture pinch;
     pinch.setCenterPoint(global);
     pinch.setLastCenterPoint(global);
@@ -716,7 +716,7 @@ void DiagramViewTest::pinchesOnAPadZoomAndPan()
     event.setWidget(&view);
     QCoreApplication::sendEvent(&view, &event);
     QVERIFY(std::fabs(view.zoomFactor() - 1.6) < 1e-9);
-    QVERIFY(length(view.at(xy) - middle.toPoint()) < 1.0);
+    QVERIFY(length(view.at(xy) - middle) < 1.0);
 }
 
 void DiagramViewTest::twoFingersZoomAndPan()

@@ -8,7 +8,6 @@
 #include <widgets/chartviewtests.h>
 
 #include <QPushButton>
-#include <QSignalSpy>
 
 using Tests = ChartViewTests<CEIEGraphicsView, CEIEGraphicsScene, NQCEIEGraphicsView, CEIELegend>;
 
@@ -334,7 +333,8 @@ void LegacyCEIEGraphicsViewTest::functionKeys()
     view.setColorGamut(info(published.getTargets()), info(published.getTargets()));
     view.setDrawColorTPoint(false);
     auto *scene = qobject_cast<CEIEGraphicsScene *>(view.view()->scene());
-    QSignalSpy placed(&view, &CEIEGraphicsView::signal_colorGamutValueChanged);
+    int placed = 0; // not a signal spy, which would register the type
+    QObject::connect(&view, &CEIEGraphicsView::signal_colorGamutValueChanged, &view, [&placed] { ++placed; });
     const QImage plain = pictureOf(view);
 
     QPushButton zoomIn;
@@ -349,7 +349,7 @@ void LegacyCEIEGraphicsViewTest::functionKeys()
     // While the magnifier is on a press repeats the step, which makes the handles larger, and edits nothing.
     view.show();
     QTest::mouseClick(view.view()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(80, 80));
-    QCOMPARE(placed.size(), 0);
+    QCOMPARE(placed, 0);
     QVERIFY(pictureOf(view) != magnified);
 
     scene->setFunctionKeyMode(CEIEGraphicsScene::ZoomOut);
