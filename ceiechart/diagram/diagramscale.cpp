@@ -40,6 +40,7 @@ constexpr double closestIsotherms = 1.0; // kelvin
 constexpr double closestWavelengths = 0.01; // nm
 
 const QString widestNumber = QStringLiteral("-0.00000");
+constexpr double hinting = 0.5; // pixels by which hinting may widen a digit beyond its design
 
 double length(const QPointF &way)
 {
@@ -433,7 +434,8 @@ QMarginsF diagramMargins(const DiagramContent &content, const DiagramFonts &font
     const QSizeF number = fonts.numbers.designedSize(widestNumber);
     const QSizeF name = fonts.axes.designedSize(QStringLiteral("m"));
     const double height = std::ceil(std::max(number.height(), name.height()));
-    return QMarginsF(std::ceil(edgeGap + number.width() + numberGap), std::ceil(edgeGap + height / 2.0),
+    const double width = number.width() + hinting * double(widestNumber.size());
+    return QMarginsF(std::ceil(edgeGap + width + numberGap), std::ceil(edgeGap + height / 2.0),
         std::ceil(2.0 * edgeGap + name.width() / 2.0), std::ceil(2.0 * edgeGap + height));
 }
 
