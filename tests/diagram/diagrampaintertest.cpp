@@ -622,7 +622,7 @@ void DiagramPainterTest::coarseDevicesAreNoFault()
         {
             QPainter onto(&image);
             onto.scale(ratio, ratio);
-            painter.paint(&onto, QRectF(QPointF(), QSizeF(image.size()) / ratio));
+            painter.paint(&onto, QRectF(0, 0, image.width() / ratio, image.height() / ratio));
         }
         QVERIFY(countOf(image, QColor(1, 2, 3), 1) == 0);
         int colored = 0;
@@ -640,7 +640,7 @@ void DiagramPainterTest::coarseDevicesAreNoFault()
         QImage image(100, 100, QImage::Format_RGB32);
         image.setDevicePixelRatio(ratio);
         QPainter onto(&image);
-        painter.paint(&onto, QRectF(QPointF(), QSizeF(image.size()) / ratio));
+        painter.paint(&onto, QRectF(0, 0, image.width() / ratio, image.height() / ratio));
     }
 }
 
