@@ -93,10 +93,10 @@ public:
 
     Model::Diagram diagram() const; //!< whose coordinates are drawn
     DiagramKind diagramKind() const; //!< diagram() as the property has it
-    ShownLayers layers() const; //!< what is switched on; all of it at first
+    ShownLayers layers() const; //!< what is switched on; all of it by default
     bool isLayerShown(DiagramLayer layer) const; //!< whether \a layer is switched on
     HorseshoeColors
-    horseshoeColors() const; //!< how the horseshoe is coloured; dimmed outside of the common area at first
+    horseshoeColors() const; //!< how the horseshoe is coloured; dimmed outside of the common area by default
 
     /*! \brief Zoom: 1 when the whole horseshoe just fits, up to DiagramViewport::closest. */
     double zoomFactor() const;
@@ -105,15 +105,15 @@ public:
     /*! \brief The part of the diagram that is seen, with the way from positions on the widget to chromaticities. */
     const DiagramViewport &viewport() const;
 
-    bool isReadOnly() const; //!< whether the target cannot be edited here; false at first
+    bool isReadOnly() const; //!< whether the target cannot be edited here; false by default
     /*!
-     * \brief The number of decimals of coordinates in readout and labels; automaticDigits at first.
+     * \brief The number of decimals of coordinates in readout and labels; automaticDigits by default.
      *
      * Positions of a drag are rounded to as many.
      */
     int digits() const;
-    bool isReadoutShown() const; //!< whether the coordinates under the pointer stand in a corner; true at first
-    /*! \brief A line of the host's below the coordinates of what is being edited, "outside by 0.004"; empty at first.
+    bool isReadoutShown() const; //!< whether the coordinates under the pointer stand in a corner; true by default
+    /*! \brief A line of the host's below the coordinates of what is being edited, "outside by 0.004"; empty by default.
      */
     QString editNote() const;
 
@@ -123,7 +123,7 @@ public:
     const QVector<DiagramGamut> &gamuts() const;
     /*! \brief The first gamut of \a role; nothing without one. */
     std::optional<Model::ColorGamut> gamut(GamutRole role) const;
-    /*! \brief The rules of editing, never null; at first a StandardTargetRules of its own. */
+    /*! \brief The rules of editing, never null; by default a StandardTargetRules of its own. */
     std::shared_ptr<const TargetRules> rules() const;
 
     /*! \brief \a xy in the coordinates of the diagram, as readout and labels show it: "x 0.3127  y 0.3290". */

@@ -187,23 +187,23 @@ public:
     StandardTargetRules();
     ~StandardTargetRules() override;
 
-    /*! \brief Whether the chromaticity of the white stays when a primary is moved; false at first. */
+    /*! \brief Whether the chromaticity of the white stays when a primary is moved; false by default. */
     bool holdsWhite() const;
     void setHoldsWhite(bool holds); //!< \copybrief holdsWhite
-    /*! \brief Whether the primaries cannot be moved; false at first. */
+    /*! \brief Whether the primaries cannot be moved; false by default. */
     bool locksPrimaries() const;
     void setLocksPrimaries(bool locks); //!< \copybrief locksPrimaries
-    /*! \brief Whether the white cannot be moved; false at first. It still follows from moved primaries. */
+    /*! \brief Whether the white cannot be moved; false by default. It still follows from moved primaries. */
     bool locksWhite() const;
     void setLocksWhite(bool locks); //!< \copybrief locksWhite
     /*!
-     * \brief Whether what is moved stays inside the original, at the nearest position there; false at first.
+     * \brief Whether what is moved stays inside the original, at the nearest position there; false by default.
      *
      * Without an original there is no limit.
      */
     bool staysInsideOriginal() const;
     void setStaysInsideOriginal(bool stays); //!< \copybrief staysInsideOriginal
-    /*! \brief Whether positions snap; true at first. */
+    /*! \brief Whether positions snap; true by default. */
     bool snaps() const;
     void setSnaps(bool snaps); //!< \copybrief snaps
 
