@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "display/messages.h"
-#include "display/openfile.h"
 #include "display/report.h"
 #include "display/samples.h"
 #include "drawing/picture.h"
+#include "editing/openedfiles.h"
 #include "program/commandline.h"
 #include "program/interfacetranslations.h"
 #include "program/platform.h"

@@ -210,12 +210,6 @@ bool isChromaticity(const QPointF &xy)
     return xy.x() >= 0.0 && xy.y() > 0.0 && xy.x() + xy.y() <= 1.0;
 }
 
-bool spanTriangle(const Model::Targets &targets)
-{
-    constexpr double leastArea = 1e-6; // in x, y
-    return Model::gamutArea(targets, Model::Diagram::Cie1931) >= leastArea;
-}
-
 std::optional<Model::Targets> withPrimary(const Model::Targets &targets, GamutVertex primary, const QPointF &xy)
 {
     auto edited = withPrimaryAlone(targets, primary, xy);

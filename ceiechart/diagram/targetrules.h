@@ -4,7 +4,7 @@
 
 #include <ceiechart/ceiechart_export.h>
 #include <gamutmodel/colorgamut.h>
-#include <gamutmodel/diagram.h>
+#include <gamutmodel/gamutcoverage.h>
 
 #include <QLineF>
 #include <QPointF>
@@ -57,8 +57,7 @@ CEIECHART_EXPORT bool sameTargets(const Model::Targets &a, const Model::Targets 
 /*! \brief Whether \a xy is a chromaticity that three non-negative tristimulus values can have, with Y above 0. */
 CEIECHART_EXPORT bool isChromaticity(const QPointF &xy);
 
-/*! \brief Whether the primaries of \a targets are far enough from one line to mix anything. */
-CEIECHART_EXPORT bool spanTriangle(const Model::Targets &targets);
+using Model::spanTriangle;
 
 /*!
  * \name Edits of a gamut

@@ -107,6 +107,12 @@ double gamutArea(const Targets &gamut, Diagram diagram)
     return area(corners(gamut, diagram));
 }
 
+bool spanTriangle(const Targets &gamut)
+{
+    constexpr double leastArea = 1e-6;
+    return gamutArea(gamut, Diagram::Cie1931) >= leastArea;
+}
+
 std::vector<DiagramPoint> commonPolygon(const Targets &a, const Targets &b, Diagram diagram)
 {
     const Triangle subject = counterClockwise(corners(a, diagram));

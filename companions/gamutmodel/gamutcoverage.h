@@ -26,6 +26,9 @@ namespace Model {
 /*! \brief The area of \a gamut in square units of the coordinates of \a diagram, 0 or more. */
 GAMUTMODEL_EXPORT double gamutArea(const Targets &gamut, Diagram diagram);
 
+/*! \brief Whether the primaries of \a gamut are far enough from one line to mix anything: an area of 1e-6 in x, y. */
+GAMUTMODEL_EXPORT bool spanTriangle(const Targets &gamut);
+
 /*!
  * \brief The corners of the area that \a a and \a b have in common, in the coordinates of \a diagram.
  *

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "expectedchart.h"
-#include "gamutfiles.h"
+#include "gamutfiles/samplefiles.h"
 
 #include <reference/picturedifference.h>
 
@@ -245,8 +245,8 @@ void GamutViewerTest::reportCannotBeWritten()
 
 void GamutViewerTest::opensEveryFormat()
 {
-    write("monitor.bin", gamutfiles::edid());
-    write("profile.icc", gamutfiles::version4Profile());
+    write("monitor.bin", samplefiles::edid());
+    write("profile.icc", samplefiles::version4Profile());
     write("meter.csv", "red,200,0.7,0.29\ngreen,700,0.2,0.7\nblue,100,0.15,0.05\nwhite,1000,0.28,0.29\n");
     write("wall.json", minimal);
     for (const char *name : {"monitor.bin", "profile.icc", "meter.csv", "wall.json"}) {
@@ -260,7 +260,7 @@ void GamutViewerTest::opensEveryFormat()
     for (const char *part : {"declared", "original", "measured", "target"}) {
         QVERIFY2(report.contains(part), part);
     }
-    write("grey.icc", gamutfiles::greyProfile());
+    write("grey.icc", samplefiles::greyProfile());
     const Result grey = run({"wall.json", "grey.icc", "--render", "chart.png"});
     QCOMPARE(grey.error, QByteArray("gamutviewer: grey.icc: has no primaries: it is a grey profile\n"));
     QCOMPARE(grey.exitCode, 2);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "expectedchart.h"
 
-#include "display/descriptionreader.h"
+#include <gamutfiles/descriptionfile.h>
 #include <ceiechart/atlas/ceiatlasvalue.h>
 #include <colortemperature/colortemperature.h>
 
@@ -101,9 +101,8 @@ bool isRounded(const Model::Target &stated, const Model::Target &exact)
 
 void LedWallTest::initTestCase()
 {
-    DescriptionReader reader;
-    const auto description = reader.readFile(QStringLiteral(SAMPLE_FILE));
-    QVERIFY2(description, qPrintable(reader.error().message(QStringLiteral(SAMPLE_FILE))));
+    const auto description = readDescriptionFile(QStringLiteral(SAMPLE_FILE));
+    QVERIFY2(description, qPrintable(description.problem().message(QStringLiteral(SAMPLE_FILE))));
     m_sample = *description;
 }
 

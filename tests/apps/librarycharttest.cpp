@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/librarychart.h"
-#include "display/descriptionreader.h"
+#include <gamutfiles/descriptionfile.h>
 #include "drawing/documentcontent.h"
 #include "expectedchart.h"
 
@@ -34,9 +34,8 @@ private:
 
 void LibraryChartTest::initTestCase()
 {
-    DescriptionReader reader;
-    const auto description = reader.readFile(QStringLiteral(SAMPLE_FILE));
-    QVERIFY2(description, qPrintable(reader.error().message(QStringLiteral(SAMPLE_FILE))));
+    const auto description = readDescriptionFile(QStringLiteral(SAMPLE_FILE));
+    QVERIFY2(description, qPrintable(description.problem().message(QStringLiteral(SAMPLE_FILE))));
     m_sample = documentContent(*description);
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/picture.h"
-#include "display/descriptionreader.h"
+#include <gamutfiles/descriptionfile.h>
 #include "drawing/documentcontent.h"
 #include "expectedchart.h"
 
@@ -149,8 +149,7 @@ void addDiagrams(const QVector<QSize> &sizes)
 
 void PictureTest::initTestCase()
 {
-    DescriptionReader reader;
-    const auto description = reader.readFile(QStringLiteral(SAMPLE_FILE));
+    const auto description = readDescriptionFile(QStringLiteral(SAMPLE_FILE));
     QVERIFY(description);
     m_content = documentContent(*description);
     m_content.trail = {QPointF(0.32, 0.34), QPointF(0.315, 0.335), QPointF(0.3127, 0.329)};

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "display/report.h"
-#include "display/displaydescription.h"
+#include <gamutfiles/displaydescription.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windowfixture.h"
 
-#include "display/descriptionreader.h"
-#include "display/descriptionwriter.h"
+#include <gamutfiles/descriptionfile.h>
 #include "display/valuetexts.h"
 #include "drawing/layerswitches.h"
 #include "editing/gamutparts.h"
@@ -184,8 +183,7 @@ void ViewerWindowTest::numberThatIsBeingTypedCounts()
     };
     type(QStringLiteral("0.3"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::ControlModifier);
-    DescriptionReader reader;
-    const auto read = reader.readFile(file);
+    const auto read = readDescriptionFile(file);
     QVERIFY(read);
     QCOMPARE(read->gamut(read->target)->getTargets().green.x, 0.3);
     type(QStringLiteral("0.29"));
@@ -216,8 +214,7 @@ void ViewerWindowTest::savedFileReadsBackTheSame()
     QVERIFY(f.window->saveTo(file));
     QVERIFY(!f.window->isWindowModified());
     QCOMPARE(f.document().fileName(), file);
-    DescriptionReader reader;
-    const auto read = reader.readFile(file);
+    const auto read = readDescriptionFile(file);
     QVERIFY(read);
     QCOMPARE(read->target, QStringLiteral("DCI-P3(D65) (edited)"));
     QVERIFY(sameTargets(read->gamut(read->target)->getTargets(), f.document().target()->getTargets()));
@@ -225,7 +222,7 @@ void ViewerWindowTest::savedFileReadsBackTheSame()
     f.window->session()->setChromaticity(Vertex::Red, QPointF(0.65, 0.32));
     QTest::keyClick(f.window.get(), Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!f.window->isWindowModified());
-    const auto again = reader.readFile(file);
+    const auto again = readDescriptionFile(file);
     QVERIFY(again);
     QCOMPARE(again->gamut(again->target)->getTargets().red.x, 0.65);
 }

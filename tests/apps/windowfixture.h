@@ -2,7 +2,7 @@
 #ifndef TESTS_APPS_WINDOWFIXTURE_H
 #define TESTS_APPS_WINDOWFIXTURE_H
 
-#include "display/openfile.h"
+#include "editing/openedfiles.h"
 #include "drawing/documentview.h"
 #include "editing/document.h"
 #include "editing/targetedits.h"

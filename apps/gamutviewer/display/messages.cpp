@@ -1,31 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "display/messages.h"
 
+#include <gamutfiles/oneline.h>
+
 #include <cstdio>
 
 namespace gamutviewer {
 
-QString oneLine(const QString &text)
-{
-    QString line;
-    line.reserve(text.size());
-    for (const QChar c : text) {
-        switch (c.category()) {
-        case QChar::Other_Control:
-        case QChar::Separator_Line:
-        case QChar::Separator_Paragraph:
-            line += QStringLiteral("\\u%1").arg(uint(c.unicode()), 4, 16, QLatin1Char('0'));
-            break;
-        default:
-            line += c;
-        }
-    }
-    return line;
-}
-
 void printError(const QString &text)
 {
-    std::fprintf(stderr, "gamutviewer: %s\n", qPrintable(oneLine(text)));
+    std::fprintf(stderr, "gamutviewer: %s\n", qPrintable(gamutfiles::oneLine(text)));
 }
 
 } // namespace gamutviewer

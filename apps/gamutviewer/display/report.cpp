@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/report.h"
 
-#include "display/displaydescription.h"
+#include "display/gamutfiles.h"
 #include "display/valuetexts.h"
 
 #include <gamutmodel/gamutcoverage.h>
@@ -53,7 +53,7 @@ QJsonObject standardObject(const Model::ColorGamut &gamut, const Model::ColorGam
     return object;
 }
 
-QJsonObject gamutObject(const Model::ColorGamut &gamut, const std::vector<Model::ColorGamut> &standards)
+QJsonObject gamutObject(const Model::ColorGamut &gamut, const std::vector<DisplayGamut> &standards)
 {
     const Model::Targets &targets = gamut.getTargets();
     QJsonArray comparisons;
@@ -97,7 +97,7 @@ QJsonObject unusedObject(const Model::Targets &target, const Model::Targets &ori
 
 QJsonObject report(const DisplayDescription &description)
 {
-    const std::vector<Model::ColorGamut> comparedWith = description.allStandards();
+    const std::vector<DisplayGamut> comparedWith = description.allStandards();
     QJsonObject object{{QStringLiteral("version"), 1}, {QStringLiteral("name"), description.name}};
     const auto insertPart = [&](const QString &part, const QString &name) {
         if (const auto gamut = description.gamut(name)) {

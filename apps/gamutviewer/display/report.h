@@ -2,12 +2,12 @@
 #ifndef GAMUTVIEWER_REPORT_H
 #define GAMUTVIEWER_REPORT_H
 
+#include "display/gamutfiles.h"
+
 #include <QByteArray>
 #include <QJsonObject>
 
 namespace gamutviewer {
-
-struct DisplayDescription;
 
 /*!
  * \brief Everything that the viewer works out of \a description; docs/gamut-viewer.md describes its keys.

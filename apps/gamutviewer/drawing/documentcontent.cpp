@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/documentcontent.h"
 
-#include "display/messages.h"
+#include "display/gamutfiles.h"
 #include "editing/targetsession.h"
 
 namespace gamutviewer {

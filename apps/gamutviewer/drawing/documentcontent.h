@@ -2,7 +2,7 @@
 #ifndef GAMUTVIEWER_DOCUMENTCONTENT_H
 #define GAMUTVIEWER_DOCUMENTCONTENT_H
 
-#include "display/displaydescription.h"
+#include "display/gamutfiles.h"
 
 #include <ceiechart/diagram/diagramcontent.h>
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/picture.h"
 
-#include "display/filebytes.h"
-#include "display/messages.h"
+#include "display/gamutfiles.h"
 #include "drawing/librarychart.h"
 #include "drawing/picturekey.h"
 

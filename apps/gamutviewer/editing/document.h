@@ -2,7 +2,7 @@
 #ifndef GAMUTVIEWER_DOCUMENT_H
 #define GAMUTVIEWER_DOCUMENT_H
 
-#include "display/displaydescription.h"
+#include "display/gamutfiles.h"
 
 #include <QObject>
 #include <QUndoStack>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "editing/gamutparts.h"
 
-#include "display/messages.h"
+#include "display/gamutfiles.h"
 #include "editing/targetsession.h"
 
 #include <gamutmodel/gamutcoverage.h>

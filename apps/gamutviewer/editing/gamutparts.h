@@ -2,7 +2,7 @@
 #ifndef GAMUTVIEWER_GAMUTPARTS_H
 #define GAMUTVIEWER_GAMUTPARTS_H
 
-#include "display/displaydescription.h"
+#include "display/gamutfiles.h"
 
 #include <ceiechart/diagram/gamutstyle.h>
 #include <gamutmodel/diagram.h>

@@ -42,12 +42,12 @@ auto find(Gamuts &gamuts, const QString &name)
         [&wanted](const Model::ColorGamut &gamut) { return gamut.colorGamutName() == wanted; });
 }
 
-bool contains(const std::vector<Model::ColorGamut> &gamuts, const QString &name)
+bool contains(const std::vector<DisplayGamut> &gamuts, const QString &name)
 {
     return find(gamuts, name) != gamuts.end();
 }
 
-void put(std::vector<Model::ColorGamut> &gamuts, const Model::ColorGamut &gamut)
+void put(std::vector<DisplayGamut> &gamuts, const DisplayGamut &gamut)
 {
     const auto existing = find(gamuts, QString::fromStdString(gamut.colorGamutName()));
     if (existing != gamuts.end()) {
@@ -57,7 +57,7 @@ void put(std::vector<Model::ColorGamut> &gamuts, const Model::ColorGamut &gamut)
     }
 }
 
-void remove(std::vector<Model::ColorGamut> &gamuts, const QString &name)
+void remove(std::vector<DisplayGamut> &gamuts, const QString &name)
 {
     const auto existing = find(gamuts, name);
     if (existing != gamuts.end()) {
@@ -102,14 +102,15 @@ bool isMadeToMatch(
 }
 
 //! Published gamuts are relative to a white of 1: the description gets one of its own for a target of \a luminance.
-void matchLuminance(DisplayDescription &description, double luminance)
+void matchLuminance(DisplayDescription &description, double luminance, LuminanceUnit unit)
 {
     const std::vector<Model::ColorGamut> standards = Model::standardGamuts();
     const auto published = find(standards, description.target);
     const bool isFree
         = !contains(description.gamuts, description.target) && !playsAnotherPart(description, description.target);
     if (published != standards.end() && isFree && luminance > 0.0 && luminance != published->getTargets().white.Y) {
-        description.gamuts.emplace_back(description.target.toStdString(), scaledTo(published->getTargets(), luminance));
+        description.gamuts.emplace_back(
+            Model::ColorGamut(description.target.toStdString(), scaledTo(published->getTargets(), luminance)), unit);
     }
 }
 
@@ -124,10 +125,13 @@ QRegularExpressionMatch editedMatch(const QString &gamutName)
 
 DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets)
 {
+    const auto before = description.gamut(description.target);
     if (!isEditedName(description.target) || !isOnlyTheTarget(description)) {
         description.target = freeEditedName(description);
     }
-    put(description.gamuts, Model::ColorGamut(description.target.toStdString(), targets));
+    put(description.gamuts,
+        {Model::ColorGamut(description.target.toStdString(), targets),
+            before ? before->unit : LuminanceUnit::NotKnown});
     return description;
 }
 
@@ -143,7 +147,7 @@ DisplayDescription withTargetNamed(
         }
     }
     if (targetBefore) {
-        matchLuminance(description, targetBefore->getTargets().white.Y);
+        matchLuminance(description, targetBefore->getTargets().white.Y, targetBefore->unit);
     }
     if (isEditedName(before) && !isReferredTo(description, before) && !contains(saved.gamuts, before)) {
         remove(description.gamuts, before);

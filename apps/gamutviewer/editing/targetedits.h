@@ -2,7 +2,7 @@
 #ifndef GAMUTVIEWER_TARGETEDITS_H
 #define GAMUTVIEWER_TARGETEDITS_H
 
-#include "display/displaydescription.h"
+#include "display/gamutfiles.h"
 
 #include <ceiechart/diagram/targetrules.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/layerkey.h"
 
-#include "display/messages.h"
+#include "display/gamutfiles.h"
 #include "editing/document.h"
 #include "editing/gamutparts.h"
 #include "editing/targetedits.h"

@@ -91,7 +91,7 @@ void SidePanel::refreshValues()
 
 void SidePanel::refreshCoverage()
 {
-    const std::vector<Model::ColorGamut> standards = m_document->description().allStandards();
+    const std::vector<DisplayGamut> standards = m_document->description().allStandards();
     QVector<GroupedTable::Group> groups;
     for (const GamutPart &part : gamutParts(m_document->description())) {
         GroupedTable::Group group{part.title(), {}};

@@ -2,7 +2,7 @@
 #ifndef GAMUTVIEWER_COMMANDLINE_H
 #define GAMUTVIEWER_COMMANDLINE_H
 
-#include "display/displaydescription.h"
+#include "display/gamutfiles.h"
 #include "drawing/picture.h"
 
 #include <QCommandLineParser>

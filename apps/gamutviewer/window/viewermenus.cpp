@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "display/openfile.h"
+#include "display/gamutfiles.h"
 #include "editing/targetsession.h"
 #include "panel/sidepanel.h"
 #include "panel/targeteditor.h"
@@ -119,7 +119,7 @@ void ViewerWindow::buildHelpMenu()
 void ViewerWindow::open()
 {
     const QString fileName = QFileDialog::getOpenFileName(this, tr("Open"), QFileInfo(m_document.fileName()).path(),
-        tr("Displays and gamuts (%1)").arg(openFilePatterns().join(QLatin1Char(' '))) + QStringLiteral(";;")
+        tr("Displays and gamuts (%1)").arg(gamutFilePatterns().join(QLatin1Char(' '))) + QStringLiteral(";;")
             + tr("All files (*)"));
     if (!fileName.isEmpty()) {
         openPath(fileName);

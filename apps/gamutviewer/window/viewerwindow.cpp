@@ -2,11 +2,9 @@
 #include "window/viewerwindow.h"
 
 #include "display/chromaticity.h"
-#include "display/descriptionwriter.h"
-#include "display/messages.h"
-#include "display/openfile.h"
 #include "display/samples.h"
 #include "display/valuetexts.h"
+#include "editing/openedfiles.h"
 #include "editing/targetsession.h"
 #include "panel/sidepanel.h"
 #include "panel/targeteditor.h"
@@ -147,20 +145,20 @@ void ViewerWindow::fitPanel()
 
 bool ViewerWindow::openPath(const QString &fileName)
 {
-    const Outcome<OpenedFile> opened = openFile(fileName);
+    const Outcome<GamutFile> opened = readGamutFile(fileName);
     if (!opened) {
         RecentFiles::remove(fileName);
-        warn(opened.error());
+        warn(opened.problem().message(fileName));
         return false;
     }
-    if (opened->content == OpenedFile::Content::Description) {
+    if (opened->content == GamutFile::Content::Description) {
         if (!mayLoseChanges()) {
             return false;
         }
         setDescription(opened->description, fileName);
     } else {
         const DisplayDescription &open = m_document.description();
-        m_document.change(opened->appliedTo(open), tr("add %1").arg(oneLine(QFileInfo(fileName).fileName())));
+        m_document.change(withFile(open, *opened), tr("add %1").arg(oneLine(QFileInfo(fileName).fileName())));
         refreshTitle();
     }
     RecentFiles::add(fileName);

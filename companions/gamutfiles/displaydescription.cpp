@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include <gamutfiles/displaydescription.h>
+
+#include <algorithm>
+
+namespace gamutfiles {
+
+std::optional<DisplayGamut> DisplayDescription::gamut(const QString &gamutName) const
+{
+    const std::string wanted = gamutName.toStdString();
+    const auto isWanted = [&wanted](const Model::ColorGamut &gamut) { return gamut.colorGamutName() == wanted; };
+    const auto own = std::find_if(gamuts.begin(), gamuts.end(), isWanted);
+    if (own != gamuts.end()) {
+        return *own;
+    }
+    const std::vector<Model::ColorGamut> published = Model::standardGamuts();
+    const auto standard = std::find_if(published.begin(), published.end(), isWanted);
+    return standard == published.end() ? std::nullopt
+                                       : std::make_optional(DisplayGamut(*standard, LuminanceUnit::Relative));
+}
+
+std::vector<DisplayGamut> DisplayDescription::allStandards() const
+{
+    QStringList names = standards;
+    for (const Model::ColorGamut &published : Model::standardGamuts()) {
+        names.append(QString::fromStdString(published.colorGamutName()));
+    }
+    names.removeDuplicates();
+    std::vector<DisplayGamut> found;
+    for (const QString &name : qAsConst(names)) {
+        if (const auto standard = gamut(name)) {
+            found.push_back(*standard);
+        }
+    }
+    return found;
+}
+
+} // namespace gamutfiles

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTFILES_DISPLAYDESCRIPTION_H
+#define GAMUTFILES_DISPLAYDESCRIPTION_H
+
+#include <gamutfiles/gamutfiles_export.h>
+#include <gamutmodel/colorgamut.h>
+
+#include <QPointF>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+#include <vector>
+
+namespace gamutfiles {
+
+/*! \brief A point of the CIE 1931 x, y diagram, with or without a name. */
+struct NamedPoint {
+    QString name; //!< empty when it has none
+    QPointF xy; //!< CIE 1931 x, y
+};
+
+/*! \brief What the luminances of a gamut are measured in. */
+enum class LuminanceUnit {
+    NotKnown, //!< the file does not say
+    Relative, //!< to an unstated white or maximum; comparable inside of the gamut alone
+    CandelaPerSquareMetre //!< cd/m²
+};
+
+/*! \brief A gamut of a display, with what its luminances mean. */
+class DisplayGamut : public Model::ColorGamut {
+public:
+    using ColorGamut::ColorGamut;
+    /*! \brief \a gamut, whose luminances are in \a luminanceUnit. */
+    DisplayGamut(const Model::ColorGamut &gamut, LuminanceUnit luminanceUnit = LuminanceUnit::NotKnown)
+        : ColorGamut(gamut)
+        , unit(luminanceUnit)
+    {
+    }
+
+    LuminanceUnit unit = LuminanceUnit::NotKnown; //!< of all four luminances
+};
+
+/*!
+ * \brief What is known of one display: its gamuts, which part each of them plays, and points to mark.
+ *
+ * A plain value. docs/display-description.md describes the file that it is read from; numbers are kept as the
+ * doubles nearest to what the file says.
+ */
+struct DisplayDescription {
+    QString name; //!< of the display
+    QString notes; //!< where the numbers come from, and other remarks
+
+    std::vector<DisplayGamut> gamuts; //!< with names of their own, each once
+    // The parts are played by name: a gamut of the list above, or else a published one. An empty name: not known.
+    QString original; //!< what the display can show
+    QString declared; //!< what the display says of itself in an EDID or an ICC profile
+    QString measured; //!< what a meter measured
+    QString target; //!< what the display is meant to show
+    QStringList standards; //!< gamuts to compare with, each once
+
+    QVector<NamedPoint> colorTemperaturePoints; //!< whites to mark
+    QVector<NamedPoint> measurePoints; //!< measured colours to mark
+    QVector<NamedPoint> cmyPoints; //!< cyan, magenta and yellow, in this order
+
+    /*!
+     * \brief The gamut that \a gamutName stands for: the description's own, or else the published gamut of that
+     * name (Model::standardGamuts()); nothing when there is neither.
+     */
+    GAMUTFILES_EXPORT std::optional<DisplayGamut> gamut(const QString &gamutName) const;
+
+    /*! \brief The gamuts to compare with: the description's standards, then each other published gamut. */
+    GAMUTFILES_EXPORT std::vector<DisplayGamut> allStandards() const;
+};
+
+} // namespace gamutfiles
+
+#endif // GAMUTFILES_DISPLAYDESCRIPTION_H

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include <gamutfiles/gamutfile.h>
+
+#include <gamutfiles/descriptionfile.h>
+#include <gamutfiles/edid.h>
+#include <gamutfiles/filebytes.h>
+#include <gamutfiles/iccprofile.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace gamutfiles {
+
+namespace {
+
+// What becomes of a list must fit into a display description.
+constexpr int maximumMeasurementBytes = 1024 * 1024;
+
+enum class Format { Description, Measurements, IccProfile, Edid, Unknown };
+
+struct FileText {
+    Q_DECLARE_TR_FUNCTIONS(gamutfiles::GamutFile)
+};
+
+bool isText(const QByteArray &bytes)
+{
+    return !bytes.contains('\0') && !QString::fromUtf8(bytes).contains(QChar::ReplacementCharacter);
+}
+
+//! By the suffix, for content that gives no hint: damaged files, mostly.
+Format expectedFormat(const QString &fileName)
+{
+    const QString suffix = QFileInfo(fileName).suffix().toLower();
+    if (suffix == QLatin1String("json")) {
+        return Format::Description;
+    }
+    if (suffix == QLatin1String("csv")) {
+        return Format::Measurements;
+    }
+    if (suffix == QLatin1String("icc") || suffix == QLatin1String("icm")) {
+        return Format::IccProfile;
+    }
+    return suffix == QLatin1String("edid") ? Format::Edid : Format::Unknown;
+}
+
+Format format(const QByteArray &bytes, const QString &fileName)
+{
+    if (isEdid(bytes)) {
+        return Format::Edid;
+    }
+    if (isIccProfile(bytes)) {
+        return Format::IccProfile;
+    }
+    const QByteArray start = bytes.startsWith("\xEF\xBB\xBF") ? bytes.mid(3, 4096) : bytes.left(4096);
+    const QByteArray trimmed = start.trimmed();
+    if (trimmed.startsWith('{') || trimmed.startsWith('[')) {
+        return Format::Description;
+    }
+    const Format expected = expectedFormat(fileName);
+    if (expected != Format::Unknown) {
+        return expected;
+    }
+    const QByteArray firstLine = trimmed.left(trimmed.indexOf('\n'));
+    const bool hasFields
+        = firstLine.contains(',') || firstLine.contains(';') || firstLine.contains('\t') || firstLine.startsWith('#');
+    return hasFields && isText(bytes) ? Format::Measurements : Format::Unknown;
+}
+
+Outcome<GamutFile> declared(const Outcome<DisplayGamut> &gamut, GamutFile file)
+{
+    if (!gamut) {
+        return Outcome<GamutFile>::failure(gamut.problem());
+    }
+    file.content = GamutFile::Content::DeclaredGamut;
+    const std::string name = gamut->colorGamutName();
+    file.gamut = DisplayGamut({name.empty() ? file.name.toStdString() : name, gamut->getTargets()}, gamut->unit);
+    return {file, gamut.warnings()};
+}
+
+} // namespace
+
+Outcome<GamutFile> readGamutFile(const QString &fileName)
+{
+    using Failure = Outcome<GamutFile>;
+    const Outcome<QByteArray> bytes = readBytes(fileName, maximumFileBytes);
+    if (!bytes) {
+        return Failure::failure(bytes.problem());
+    }
+    if (bytes->isEmpty()) {
+        return Failure::failure(FileText::tr("is empty"));
+    }
+    GamutFile file;
+    file.name = QFileInfo(fileName).completeBaseName();
+    switch (format(*bytes, fileName)) {
+    case Format::Description: {
+        const auto description = readDescription(*bytes);
+        if (!description) {
+            return Failure::failure(description.problem());
+        }
+        file.description = *description;
+        return {file, description.warnings()};
+    }
+    case Format::Measurements: {
+        if (bytes->size() > maximumMeasurementBytes) {
+            return Failure::failure(FileText::tr("is too large for a measurement list (more than %1 KiB)")
+                                        .arg(maximumMeasurementBytes / 1024));
+        }
+        const auto measurements = readMeasurementList(*bytes);
+        if (!measurements) {
+            return Failure::failure(measurements.problem());
+        }
+        file.content = GamutFile::Content::Measurements;
+        file.measurements = *measurements;
+        return {file, measurements.warnings()};
+    }
+    case Format::IccProfile:
+        return declared(readIccProfile(*bytes), file);
+    case Format::Edid:
+        return declared(readEdid(*bytes), file);
+    case Format::Unknown:
+        break;
+    }
+    return Failure::failure(
+        FileText::tr("is not a display description (JSON), measurement list (CSV), ICC profile or EDID"));
+}
+
+QStringList gamutFilePatterns()
+{
+    return {QStringLiteral("*.json"), QStringLiteral("*.csv"), QStringLiteral("*.icc"), QStringLiteral("*.icm"),
+        QStringLiteral("*.edid"), QStringLiteral("*.bin")};
+}
+
+} // namespace gamutfiles

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTFILES_GAMUTFILE_H
+#define GAMUTFILES_GAMUTFILE_H
+
+#include <gamutfiles/displaydescription.h>
+#include <gamutfiles/measurementlist.h>
+#include <gamutfiles/outcome.h>
+
+#include <QStringList>
+
+namespace gamutfiles {
+
+/*! \brief What a file brings: a whole description, or something to add to one. */
+struct GamutFile {
+    /*! \brief Which of the members below is set. */
+    enum class Content {
+        Description, //!< \a description, from a display description
+        DeclaredGamut, //!< \a gamut, from an ICC profile or an EDID
+        Measurements //!< \a measurements, from a measurement list
+    };
+
+    Content content = Content::Description; //!< what there is
+    QString name; //!< of the file, without folder and suffix
+    DisplayDescription description; //!< empty unless content says so
+    DisplayGamut gamut; //!< named after the display, or else the file
+    MeasurementList measurements; //!< empty unless content says so
+};
+
+/*! \brief Longer files are refused unread. */
+constexpr int maximumFileBytes = 32 * 1024 * 1024;
+
+/*!
+ * \brief Reads the file \a fileName, of whichever format its content is: display description (JSON), measurement list
+ * (CSV), ICC profile or EDID.
+ *
+ * Neither the failure nor the warnings name the file; Problem::message() does.
+ */
+GAMUTFILES_EXPORT Outcome<GamutFile> readGamutFile(const QString &fileName);
+
+/*! \brief File name patterns for a dialog, such as "*.json", of every format that readGamutFile() reads. */
+GAMUTFILES_EXPORT QStringList gamutFilePatterns();
+
+} // namespace gamutfiles
+
+#endif // GAMUTFILES_GAMUTFILE_H

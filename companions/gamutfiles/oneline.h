@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTFILES_ONELINE_H
+#define GAMUTFILES_ONELINE_H
+
+#include <gamutfiles/gamutfiles_export.h>
+
+#include <QString>
+
+namespace gamutfiles {
+
+/*!
+ * \brief \a text without line ends and control characters: each is written as \\u and four digits.
+ *
+ * File names and the strings of a file may hold anything, while a message is one line for a script to read.
+ */
+GAMUTFILES_EXPORT QString oneLine(const QString &text);
+
+} // namespace gamutfiles
+
+#endif // GAMUTFILES_ONELINE_H

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include <gamutfiles/descriptionfile.h>
+
+#include <QtTest>
+
+#include <random>
+
+using namespace gamutfiles;
+
+class DescriptionWriterTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sampleSurvives();
+    void everyPartSurvives();
+    void anyNumberSurvives();
+    void oddTextSurvives();
+    void emptyPartsAreLeftOut();
+    void writesAFile();
+    void cannotWrite();
+};
+
+namespace {
+
+bool same(const Model::Target &a, const Model::Target &b)
+{
+    return a.Y == b.Y && a.x == b.x && a.y == b.y && a.X == b.X && a.Z == b.Z && a.u == b.u && a.v == b.v;
+}
+
+bool same(const Model::ColorGamut &a, const Model::ColorGamut &b)
+{
+    const Model::Targets &first = a.getTargets();
+    const Model::Targets &second = b.getTargets();
+    return a.colorGamutName() == b.colorGamutName() && same(first.red, second.red) && same(first.green, second.green)
+        && same(first.blue, second.blue) && same(first.white, second.white);
+}
+
+bool same(const QVector<NamedPoint> &a, const QVector<NamedPoint> &b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const NamedPoint &p, const NamedPoint &q) {
+        return p.name == q.name && p.xy.x() == q.xy.x() && p.xy.y() == q.xy.y();
+    });
+}
+
+bool same(const DisplayDescription &a, const DisplayDescription &b)
+{
+    return a.name == b.name && a.notes == b.notes && a.original == b.original && a.declared == b.declared
+        && a.measured == b.measured && a.target == b.target && a.standards == b.standards
+        && std::equal(a.gamuts.begin(), a.gamuts.end(), b.gamuts.begin(), b.gamuts.end(),
+            [](const DisplayGamut &p, const DisplayGamut &q) { return same(p, q) && p.unit == q.unit; })
+        && same(a.colorTemperaturePoints, b.colorTemperaturePoints) && same(a.measurePoints, b.measurePoints)
+        && same(a.cmyPoints, b.cmyPoints);
+}
+
+void verifySurvives(const DisplayDescription &description)
+{
+    const QByteArray text = descriptionText(description);
+    const auto read = readDescription(text);
+    QVERIFY2(read, qPrintable(read.problem().message(QString::fromUtf8(text))));
+    QVERIFY2(same(*read, description), text);
+    QCOMPARE(descriptionText(*read), text);
+}
+
+DisplayDescription everything()
+{
+    DisplayDescription description;
+    description.name = QStringLiteral("Wall");
+    description.notes = QStringLiteral("two\nlines");
+    const auto target = [](double Y, double x, double y) { return Model::Target::fromYxy(Y, x, y); };
+    for (const char *name : {"a", "b", "c", "d"}) {
+        const double offset = name[0] / 1e5;
+        description.gamuts.emplace_back(name,
+            Model::Targets{target(0.1 + offset, 0.7, 0.29), target(1e-300, 0.2, 0.7), target(12345678.9, 0.15, 0.1 / 3),
+                target(100.0, 0.3127, 0.329 + offset)});
+    }
+    description.original = QStringLiteral("a");
+    description.declared = QStringLiteral("b");
+    description.measured = QStringLiteral("c");
+    description.target = QStringLiteral("d");
+    description.standards = QStringList{"Rec.2020", "a"};
+    description.colorTemperaturePoints = {{QStringLiteral("warm"), {0.44, 0.4}}};
+    description.measurePoints = {{QString(), {0.1 + 0.2, 0.1}}, {QStringLiteral("x"), {0.0, 1.0}}};
+    description.cmyPoints = {{QStringLiteral("cyan"), {0.2, 0.33}}};
+    return description;
+}
+
+} // namespace
+
+void DescriptionWriterTest::sampleSurvives()
+{
+    const auto sample = readDescriptionFile(QStringLiteral(SAMPLE_FILE));
+    QVERIFY(sample);
+    verifySurvives(*sample);
+}
+
+void DescriptionWriterTest::everyPartSurvives()
+{
+    verifySurvives(everything());
+}
+
+void DescriptionWriterTest::anyNumberSurvives()
+{
+    std::mt19937_64 random(7);
+    std::uniform_real_distribution<double> share(0.0, 1.0);
+    std::uniform_real_distribution<double> exponent(-300.0, 300.0);
+    DisplayDescription description = everything();
+    const Model::Target green = Model::Target::fromYxy(1.0, 0.2, 0.7);
+    const Model::Target blue = Model::Target::fromYxy(1.0, 0.15, 0.05);
+    for (int i = 0; i < 2000; ++i) {
+        const double x = share(random) * 0.9;
+        const double y = (1.0 - x) * (0.01 + 0.98 * share(random));
+        const double Y = i % 2 ? std::pow(10.0, exponent(random)) : std::floor(share(random) * 1e6);
+        const Model::Target target = Model::Target::fromYxy(Y, x, y);
+        description.gamuts.emplace_back("n" + std::to_string(i), Model::Targets{target, green, blue, target});
+    }
+    verifySurvives(description);
+}
+
+void DescriptionWriterTest::oddTextSurvives()
+{
+    DisplayDescription description = everything();
+    description.name = QString::fromUtf8("显示 \"quoted\" \\ \t \x01 \u2028 😀");
+    description.measurePoints[0].name = QString::fromUtf8("é");
+    verifySurvives(description);
+}
+
+void DescriptionWriterTest::emptyPartsAreLeftOut()
+{
+    DisplayDescription description;
+    description.original = QStringLiteral("Rec.709");
+    description.target = QStringLiteral("Rec.709");
+    const QByteArray text = descriptionText(description);
+    for (const char *key : {"name", "notes", "declared", "measured", "standards", "colorTemperaturePoints",
+             "measurePoints", "cmyPoints"}) {
+        QVERIFY2(!text.contains('"' + QByteArray(key) + '"'), key);
+    }
+    QVERIFY(text.endsWith("}\n"));
+    verifySurvives(description);
+}
+
+void DescriptionWriterTest::writesAFile()
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("wall.json"));
+    QCOMPARE(writeDescription(everything(), name), QString());
+    const auto read = readDescriptionFile(name);
+    QVERIFY(read);
+    QVERIFY(same(*read, everything()));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("wall.json"));
+}
+
+void DescriptionWriterTest::cannotWrite()
+{
+    const QTemporaryDir folder;
+    QVERIFY(!writeDescription(everything(), folder.filePath(QStringLiteral("no/wall.json"))).isEmpty());
+    QVERIFY(!writeDescription(everything(), folder.path()).isEmpty());
+    QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(DescriptionWriterTest)
+#include "descriptionwritertest.moc"

@@ -1,0 +1,394 @@
+// SPDX-License-Identifier: MIT
+#include <gamutfiles/descriptionfile.h>
+
+#include <QtTest>
+
+#include <cmath>
+
+using namespace gamutfiles;
+
+class DisplayDescriptionTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsEverything();
+    void optionalPartsMayBeMissing();
+    void numbersAreExact();
+    void ownGamutGoesBeforeThePublishedOne();
+    void publishedGamutsNeedNotBeInTheFile();
+    void limitsOfTheChromaticityTriangle();
+    void refused_data();
+    void refused();
+    void everyRequiredKeyIsMissed_data();
+    void everyRequiredKeyIsMissed();
+    void everyNumberMustBeOne_data();
+    void everyNumberMustBeOne();
+    void refusedFiles();
+    void largestFile();
+    void messageIsOneLine();
+    void documentedExampleIsRead();
+};
+
+namespace {
+
+// The rows below name lines and columns of it.
+const QByteArray description = R"({
+    "version": 1,
+    "name": "Wall",
+    "notes": "made up",
+    "gamuts": [
+        {
+            "name": "native",
+            "red": {"Y": 200, "x": 0.7, "y": 0.3},
+            "green": {"Y": 700, "x": 0.17, "y": 0.72},
+            "blue": {"Y": 100, "x": 0.13, "y": 0.06},
+            "white": {"Y": 1000, "x": 0.28, "y": 0.29}
+        },
+        {
+            "name": "as measured",
+            "red": {"Y": 190, "x": 0.69, "y": 0.31},
+            "green": {"Y": 690, "x": 0.18, "y": 0.71},
+            "blue": {"Y": 90, "x": 0.14, "y": 0.07},
+            "white": {"Y": 970, "x": 0.29, "y": 0.3}
+        }
+    ],
+    "original": "native",
+    "declared": "native",
+    "measured": "as measured",
+    "target": "Rec.2020",
+    "standards": ["Rec.709", "native"],
+    "colorTemperaturePoints": [{"name": "warm", "x": 0.44, "y": 0.4}, {"x": 0.3, "y": 0.31}],
+    "measurePoints": [{"x": 0.6, "y": 0.35}],
+    "cmyPoints": [{"x": 0.2, "y": 0.33}]
+})";
+
+QByteArray replaced(const QByteArray &what, const QByteArray &by)
+{
+    if (description.count(what) != 1) {
+        qFatal("not there exactly once: %s", what.constData());
+    }
+    QByteArray text = description;
+    return text.replace(what, by);
+}
+
+QString messageFor(const QByteArray &text)
+{
+    const auto read = readDescription(text);
+    return read ? QStringLiteral("taken") : read.problem().message(QStringLiteral("f"));
+}
+
+bool isExactly(const Model::Target &target, double Y, double x, double y)
+{
+    return target.Y == Y && target.x == x && target.y == y;
+}
+
+bool isExactly(const NamedPoint &point, const char *name, double x, double y)
+{
+    return point.name == QLatin1String(name) && point.xy.x() == x && point.xy.y() == y;
+}
+
+} // namespace
+
+void DisplayDescriptionTest::readsEverything()
+{
+    const auto read = readDescription(description);
+    QVERIFY(read);
+    QCOMPARE(read->name, QStringLiteral("Wall"));
+    QCOMPARE(read->notes, QStringLiteral("made up"));
+    QCOMPARE(read->gamuts.size(), std::size_t(2));
+    QCOMPARE(read->gamuts[0].colorGamutName(), std::string("native"));
+    const Model::Targets native = read->gamuts[0].getTargets();
+    QVERIFY(isExactly(native.red, 200.0, 0.7, 0.3));
+    QVERIFY(isExactly(native.green, 700.0, 0.17, 0.72));
+    QVERIFY(isExactly(native.blue, 100.0, 0.13, 0.06));
+    QVERIFY(isExactly(native.white, 1000.0, 0.28, 0.29));
+    QCOMPARE(native.white.X, Model::Target::fromYxy(1000.0, 0.28, 0.29).X);
+    QCOMPARE(read->gamuts[1].colorGamutName(), std::string("as measured"));
+    QVERIFY(isExactly(read->gamuts[1].getTargets().blue, 90.0, 0.14, 0.07));
+    QCOMPARE(read->original, QStringLiteral("native"));
+    QCOMPARE(read->declared, QStringLiteral("native"));
+    QCOMPARE(read->measured, QStringLiteral("as measured"));
+    QCOMPARE(read->target, QStringLiteral("Rec.2020"));
+    QCOMPARE(read->standards, (QStringList{QStringLiteral("Rec.709"), QStringLiteral("native")}));
+    QCOMPARE(read->colorTemperaturePoints.size(), 2);
+    QVERIFY(isExactly(read->colorTemperaturePoints[0], "warm", 0.44, 0.4));
+    QVERIFY(isExactly(read->colorTemperaturePoints[1], "", 0.3, 0.31));
+    QCOMPARE(read->measurePoints.size(), 1);
+    QVERIFY(isExactly(read->measurePoints[0], "", 0.6, 0.35));
+    QCOMPARE(read->cmyPoints.size(), 1);
+    QVERIFY(isExactly(read->cmyPoints[0], "", 0.2, 0.33));
+}
+
+void DisplayDescriptionTest::optionalPartsMayBeMissing()
+{
+    const auto read = readDescription(R"({"version": 1, "gamuts": []})");
+    QVERIFY(read);
+    QVERIFY(read->original.isEmpty());
+    QVERIFY(read->target.isEmpty());
+    QVERIFY(read->name.isEmpty());
+    QVERIFY(read->declared.isEmpty());
+    QVERIFY(read->measured.isEmpty());
+    QVERIFY(!read->gamut(read->measured));
+    QVERIFY(read->standards.isEmpty());
+    QVERIFY(read->colorTemperaturePoints.isEmpty());
+    QVERIFY(read->measurePoints.isEmpty());
+    QVERIFY(read->cmyPoints.isEmpty());
+}
+
+void DisplayDescriptionTest::numbersAreExact()
+{
+    const auto read = readDescription(replaced("200", "0.30000000000000004"));
+    QVERIFY(read);
+    QVERIFY(read->gamuts[0].getTargets().red.Y == 0.1 + 0.2);
+}
+
+void DisplayDescriptionTest::ownGamutGoesBeforeThePublishedOne()
+{
+    const auto read = readDescription(
+        replaced("\"name\": \"as measured\"", "\"name\": \"Rec.709\"").replace("\"measured\": \"as measured\",", ""));
+    QVERIFY(read);
+    QVERIFY(isExactly(read->gamut(QStringLiteral("Rec.709"))->getTargets().red, 190.0, 0.69, 0.31));
+    const auto published = DisplayDescription().gamut(QStringLiteral("Rec.709"));
+    QVERIFY(published);
+    QVERIFY(published->getTargets().red.x == Model::rec709().getTargets().red.x);
+}
+
+void DisplayDescriptionTest::publishedGamutsNeedNotBeInTheFile()
+{
+    for (const char *name : {"Rec.709", "Rec.2020", "DCI-P3(D65)"}) {
+        const auto gamut = DisplayDescription().gamut(QString::fromLatin1(name));
+        QVERIFY2(gamut, name);
+        QCOMPARE(gamut->colorGamutName(), std::string(name));
+    }
+    QVERIFY(!DisplayDescription().gamut(QStringLiteral("rec.709")));
+    QVERIFY(!DisplayDescription().gamut(QString()));
+}
+
+void DisplayDescriptionTest::limitsOfTheChromaticityTriangle()
+{
+    QVERIFY(
+        readDescription(replaced("\"Y\": 200, \"x\": 0.7, \"y\": 0.3}", "\"Y\": 0, \"x\": 0.7347, \"y\": 0.2653}")));
+    QVERIFY(readDescription(replaced("\"x\": 0.6, \"y\": 0.35", "\"x\": 0, \"y\": 1")));
+    QVERIFY(readDescription(replaced("\"x\": 0.6, \"y\": 0.35", "\"x\": 0, \"y\": 1e-300")));
+}
+
+void DisplayDescriptionTest::refused_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *name, const QByteArray &text, const char *message) {
+        QTest::newRow(name) << text << QString::fromUtf8(message);
+    };
+    const auto change = [&row](const char *name, const char *what, const char *by, const char *message) {
+        row(name, replaced(what, by), message);
+    };
+
+    row("empty", "", "f: is empty");
+    row("white space only", " \n\t ", "f: is empty");
+    row("byte order mark only", "\xEF\xBB\xBF", "f: is empty");
+    row("array", "[]", "f: expected an object, found an array");
+    row("null", " null", "f:1:3: illegal value");
+    row("cut short", description.left(description.indexOf("0.72")), "f:9:49: unexpected end of file");
+    change("comma missing", "0.7, \"y\": 0.3}", "0.7 \"y\": 0.3}", "f:8:41: unterminated object");
+
+    change("NaN", "0.72", "NaN", "f:9:49: illegal number");
+    change("infinity", "0.72", "-Infinity", "f:9:50: illegal number");
+    change("overflow", "0.72", "1e999", "f:9:54: illegal number");
+    change("string for a number", "0.72", "\"0.72\"", "f: gamuts[0].green.y: expected a number, found a string");
+    change("null for a number", "0.72", "null", "f: gamuts[0].green.y: expected a number, found null");
+    change("truth value for a number", "0.72", "true", "f: gamuts[0].green.y: expected a number, found a boolean");
+    change("array for a number", "0.72", "[0.72]", "f: gamuts[0].green.y: expected a number, found an array");
+    change("object for a number", "0.72", "{}", "f: gamuts[0].green.y: expected a number, found an object");
+    change("number for a string", "\"made up\"", "7", "f: notes: expected a string, found a number");
+    change("number for a name", "\"Wall\"", "7", "f: name: expected a string, found a number");
+    change("object for an array", "[{\"x\": 0.6, \"y\": 0.35}]", "{}",
+        "f: measurePoints: expected an array, found an object");
+    change("number for a point", "{\"x\": 0.6, \"y\": 0.35}", "0.6",
+        "f: measurePoints[0]: expected an object, found a number");
+    change("number for a standard", "\"Rec.709\"", "709", "f: standards[0]: expected a string, found a number");
+    change("number for a part", "\"Rec.2020\"", "2020", "f: target: expected a string, found a number");
+
+    change("unknown key", "\"notes\"", "\"nots\"", "f: nots: unknown key");
+    change("unknown key of a gamut", "\"name\": \"as measured\",", "\"name\": \"as measured\", \"grey\": {},",
+        "f: gamuts[1].grey: unknown key");
+    change("unknown key of a colour", "{\"Y\": 690", "{\"Z\": 0, \"Y\": 690", "f: gamuts[1].green.Z: unknown key");
+    change("unknown key of a point", "{\"x\": 0.6,", "{\"Y\": 1, \"x\": 0.6,", "f: measurePoints[0].Y: unknown key");
+    change("odd unknown key", "\"notes\"", "\"my notes\"", "f: [\"my notes\"]: unknown key");
+    change("other version", "\"version\": 1", "\"version\": 2", "f: version: only version 1 is supported");
+    change(
+        "version as a string", "\"version\": 1", "\"version\": \"1\"", "f: version: expected a number, found a string");
+    change("gamut name twice", "\"name\": \"as measured\"", "\"name\": \"native\"",
+        "f: gamuts[1].name: there is already a gamut named \"native\"");
+    change("empty gamut name", "\"name\": \"as measured\"", "\"name\": \"\"",
+        "f: gamuts[1].name: the name must not be empty");
+    change("blank gamut name", "\"name\": \"as measured\"", "\"name\": \" \"",
+        "f: gamuts[1].name: the name must not be empty");
+    change("no such original", "\"original\": \"native\"", "\"original\": \"Native\"",
+        "f: original: there is no gamut named \"Native\"");
+    change("no such declared", "\"declared\": \"native\"", "\"declared\": \"x\"",
+        "f: declared: there is no gamut named \"x\"");
+    change("no such measured", "\"measured\": \"as measured\"", "\"measured\": \"x\"",
+        "f: measured: there is no gamut named \"x\"");
+    change("empty measured", "\"measured\": \"as measured\"", "\"measured\": \"\"",
+        "f: measured: the name must not be empty");
+    change("no such target", "\"target\": \"Rec.2020\"", "\"target\": \"Rec. 2020\"",
+        "f: target: there is no gamut named \"Rec. 2020\"");
+    change("no such standard", "\"Rec.709\", \"native\"", "\"Rec.709\", \"sRGB\"",
+        "f: standards[1]: there is no gamut named \"sRGB\"");
+    change("standard twice", "\"Rec.709\", \"native\"", "\"Rec.709\", \"native\", \"Rec.709\"",
+        "f: standards[2]: \"Rec.709\" is listed twice");
+
+    change("odd unit", "\"name\": \"as measured\"", "\"name\": \"as measured\", \"luminanceUnit\": \"nits\"",
+        "f: gamuts[1].luminanceUnit: expected \"cd/m2\" or \"relative\"");
+    change("negative luminance", "\"Y\": 690", "\"Y\": -1e-9", "f: gamuts[1].green.Y: luminance must not be negative");
+    change("negative x", "0.17,", "-0.01,", "f: gamuts[0].green.x: a chromaticity coordinate must not be negative");
+    change("y zero", "0.72", "0", "f: gamuts[0].green.y: y must be greater than 0");
+    change("y minus zero", "0.72", "-0.0", "f: gamuts[0].green.y: y must be greater than 0");
+    change("y negative", "0.72", "-0.1", "f: gamuts[0].green.y: y must be greater than 0");
+    change("x + y above 1", "0.72", "0.8300000001", "f: gamuts[0].green: x + y must not exceed 1");
+    change("x a percentage", "0.17,", "17,", "f: gamuts[0].green: x + y must not exceed 1");
+    change("no triangle", "\"x\": 0.17, \"y\": 0.72", "\"x\": 0.7, \"y\": 0.3",
+        "f: gamuts[0]: the primaries do not form a triangle");
+    change("x of a point", "0.44", "-0.44",
+        "f: colorTemperaturePoints[0].x: a chromaticity coordinate must not be negative");
+    change("y of a point", "0.31}]", "0}]", "f: colorTemperaturePoints[1].y: y must be greater than 0");
+    change("x + y of a point", "0.33", "0.81", "f: cmyPoints[0]: x + y must not exceed 1");
+}
+
+void DisplayDescriptionTest::refused()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, message);
+    QCOMPARE(messageFor(text), message);
+}
+
+void DisplayDescriptionTest::everyRequiredKeyIsMissed_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *what, const char *by, const char *message) {
+        QTest::newRow(message) << replaced(what, by) << QString::fromUtf8(message);
+    };
+    row("    \"version\": 1,\n", "", "f: version: missing");
+    row("\"name\": \"as measured\",", "", "f: gamuts[1].name: missing");
+    row("\"red\": {\"Y\": 190, \"x\": 0.69, \"y\": 0.31},", "", "f: gamuts[1].red: missing");
+    row("\"green\": {\"Y\": 690, \"x\": 0.18, \"y\": 0.71},", "", "f: gamuts[1].green: missing");
+    row("\"blue\": {\"Y\": 90, \"x\": 0.14, \"y\": 0.07},", "", "f: gamuts[1].blue: missing");
+    row(",\n            \"white\": {\"Y\": 970, \"x\": 0.29, \"y\": 0.3}", "", "f: gamuts[1].white: missing");
+    row("{\"Y\": 190, \"x\": 0.69, \"y\": 0.31}", "{}", "f: gamuts[1].red.Y: missing");
+    row("{\"Y\": 690, \"x\": 0.18", "{\"Y\": 690", "f: gamuts[1].green.x: missing");
+    row("\"x\": 0.14, \"y\": 0.07}", "\"x\": 0.14}", "f: gamuts[1].blue.y: missing");
+    row("{\"x\": 0.6, \"y\": 0.35}", "{\"y\": 0.35}", "f: measurePoints[0].x: missing");
+    row("{\"x\": 0.2, \"y\": 0.33}", "{\"x\": 0.2}", "f: cmyPoints[0].y: missing");
+    QTest::newRow("gamuts") << QByteArray(R"({"version": 1, "original": "Rec.709", "target": "Rec.709"})")
+                            << QStringLiteral("f: gamuts: missing");
+}
+
+void DisplayDescriptionTest::everyRequiredKeyIsMissed()
+{
+    refused();
+}
+
+void DisplayDescriptionTest::everyNumberMustBeOne_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    // Wherever a number stands in the description, outside of a string.
+    const QRegularExpression number(QStringLiteral(": ([0-9.]+)"));
+    QRegularExpressionMatchIterator matches = number.globalMatch(QString::fromUtf8(description));
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        for (const char *wrong : {"NaN", "nan", "Infinity", "-Infinity", "1e999", "-1e999", "\"0.3\"", "null", "[]"}) {
+            QByteArray text = description;
+            text.replace(match.capturedStart(1), match.capturedLength(1), wrong);
+            QTest::addRow("%s at %d", wrong, int(match.capturedStart(1))) << text;
+        }
+    }
+}
+
+void DisplayDescriptionTest::everyNumberMustBeOne()
+{
+    QFETCH(QByteArray, text);
+    const auto read = readDescription(text);
+    QVERIFY(!read);
+    QVERIFY(read.problem().line > 0 || !read.problem().place.isEmpty());
+}
+
+void DisplayDescriptionTest::refusedFiles()
+{
+    const QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    const auto messageForFile = [](const QString &name) {
+        const auto read = readDescriptionFile(name);
+        return read ? QStringLiteral("taken") : read.problem().message(name);
+    };
+    const auto write = [&folder](const char *name, const QByteArray &bytes) {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+            qFatal("cannot write %s", name);
+        }
+        return file.fileName();
+    };
+
+    QCOMPARE(messageForFile(folder.path()), folder.path() + QStringLiteral(": is a folder"));
+    const QString missing = folder.filePath(QStringLiteral("missing.json"));
+    QCOMPARE(messageForFile(missing), missing + QStringLiteral(": cannot be read: No such file or directory"));
+    const QString empty = write("empty.json", "");
+    QCOMPARE(messageForFile(empty), empty + QStringLiteral(": is empty"));
+    const QString good = write("good.json", description);
+    QCOMPARE(messageForFile(good), QStringLiteral("taken"));
+    const QString beyond = good + QStringLiteral("/x.json");
+    QCOMPARE(messageForFile(beyond), beyond + QStringLiteral(": cannot be read: Not a directory"));
+#ifdef Q_OS_UNIX
+    const QString loop = folder.filePath(QStringLiteral("loop.json"));
+    QVERIFY(QFile::link(loop, loop));
+    QVERIFY(messageForFile(loop).startsWith(loop + QStringLiteral(": cannot be read: ")));
+    QCOMPARE(messageForFile(QStringLiteral("/dev/null")), QStringLiteral("/dev/null: is empty"));
+    QCOMPARE(messageForFile(QStringLiteral("/dev/zero")), QStringLiteral("/dev/zero: is larger than 16384 KiB"));
+#endif
+}
+
+void DisplayDescriptionTest::largestFile()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    const QByteArray largest = description.leftJustified(maximumDescriptionBytes, ' ');
+    QCOMPARE(file.write(largest), qint64(largest.size()));
+    QVERIFY(file.flush());
+    QVERIFY(readDescriptionFile(file.fileName()));
+    QCOMPARE(file.write(" "), qint64(1));
+    QVERIFY(file.flush());
+    const auto read = readDescriptionFile(file.fileName());
+    QCOMPARE(read.problem().message(QStringLiteral("f")), QStringLiteral("f: is larger than 16384 KiB"));
+    QVERIFY(!readDescription(largest + ' '));
+}
+
+void DisplayDescriptionTest::messageIsOneLine()
+{
+    const auto read = readDescription(replaced("\"target\": \"Rec.2020\"", "\"target\": \"a\\nb\\u0000\\u2028\""));
+    QVERIFY(!read);
+    QCOMPARE(read.problem().message(QStringLiteral("odd\nname")),
+        QStringLiteral("odd\\u000aname: target: there is no gamut named \"a\\u000ab\\u0000\\u2028\""));
+}
+
+void DisplayDescriptionTest::documentedExampleIsRead()
+{
+    QFile file(QStringLiteral(FORMAT_DOCUMENTATION));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray documentation = file.readAll();
+    const int begin = documentation.indexOf("```json\n") + 8;
+    QVERIFY(begin > 8);
+    QByteArray example = documentation.mid(begin, documentation.indexOf("```\n", begin) - begin);
+    const auto read = readDescription(example);
+    QVERIFY2(read, qPrintable(read.problem().message(QStringLiteral("the example"))));
+    QCOMPARE(read->name, QStringLiteral("Stage left"));
+
+    // The message that the documentation shows is the one for y = 0 in the first colour.
+    example.replace("0.299", "0");
+    const auto refused = readDescription(example);
+    QVERIFY(!refused);
+    const QString message = refused.problem().message(QStringLiteral("wall.json"));
+    QVERIFY2(documentation.contains(("gamutviewer: " + message + "\n").toUtf8()), qPrintable(message));
+}
+
+QTEST_GUILESS_MAIN(DisplayDescriptionTest)
+#include "displaydescriptiontest.moc"

@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: MIT
+#include "samplefiles.h"
+
+#include <gamutfiles/iccprofile.h>
+
+#include <QtTest>
+
+#include <cmath>
+
+using namespace gamutfiles;
+
+class IccProfileTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void unadaptsByTheTag();
+    void unadaptsByBradford();
+    void adaptationTagGoesBeforeMediaWhite();
+    void d50DisplayStaysAsItIs();
+    void otherAdaptationThanBradford();
+    void anyPrimariesSurvive();
+    void name();
+    void nameMayBeMissing();
+    void relativeLuminances();
+    void absoluteLuminances();
+    void refusals_data();
+    void refusals();
+    void truncatedAnywhere();
+    void damagedAnywhere();
+    void recognisedByItsSignature();
+};
+
+namespace {
+
+bool isNear(const Model::Target &target, double x, double y, double tolerance)
+{
+    return std::fabs(target.x - x) <= tolerance && std::fabs(target.y - y) <= tolerance;
+}
+
+void verifySrgb(const QByteArray &bytes)
+{
+    const auto gamut = readIccProfile(bytes);
+    QVERIFY2(gamut, qPrintable(gamut.error()));
+    const Model::Targets &targets = gamut->getTargets();
+    QVERIFY(isNear(targets.red, 0.64, 0.33, 0.0001));
+    QVERIFY(isNear(targets.green, 0.30, 0.60, 0.0001));
+    QVERIFY(isNear(targets.blue, 0.15, 0.06, 0.0001));
+    QVERIFY(isNear(targets.white, 0.3127, 0.3290, 0.0001));
+}
+
+cmsCIExyYTRIPLE triple(double rx, double ry, double gx, double gy, double bx, double by)
+{
+    return {{rx, ry, 1.0}, {gx, gy, 1.0}, {bx, by, 1.0}};
+}
+
+//! As Little CMS makes display profiles: with an adaptation tag.
+QByteArray made(const cmsCIExyY &white, const cmsCIExyYTRIPLE &primaries)
+{
+    cmsToneCurve *curve = cmsBuildGamma(nullptr, 2.2);
+    cmsToneCurve *curves[] = {curve, curve, curve};
+    const cmsHPROFILE profile = cmsCreateRGBProfile(&white, &primaries, curves);
+    cmsFreeToneCurve(curve);
+    return samplefiles::saved(profile);
+}
+
+} // namespace
+
+void IccProfileTest::unadaptsByTheTag()
+{
+    verifySrgb(samplefiles::version4Profile());
+}
+
+void IccProfileTest::unadaptsByBradford()
+{
+    verifySrgb(samplefiles::version2Profile());
+}
+
+void IccProfileTest::adaptationTagGoesBeforeMediaWhite()
+{
+    // A media white of no display: nothing may come of it.
+    verifySrgb(samplefiles::version4Profile([](cmsHPROFILE profile) {
+        const cmsCIEXYZ white{0.5, 1.0, 0.5};
+        cmsWriteTag(profile, cmsSigMediaWhitePointTag, &white);
+    }));
+}
+
+void IccProfileTest::d50DisplayStaysAsItIs()
+{
+    const auto gamut = readIccProfile(samplefiles::version2Profile(
+        [](cmsHPROFILE profile) { cmsWriteTag(profile, cmsSigMediaWhitePointTag, cmsD50_XYZ()); }));
+    QVERIFY(gamut);
+    const double sum = 0.4360747 + 0.2225045 + 0.0139322;
+    QVERIFY(isNear(gamut->getTargets().red, 0.4360747 / sum, 0.2225045 / sum, 0.0001));
+    QVERIFY(isNear(gamut->getTargets().white, 0.3457, 0.3585, 0.0001));
+}
+
+// The tag may hold any adaptation: here one that scales XYZ.
+void IccProfileTest::otherAdaptationThanBradford()
+{
+    const auto gamut = readIccProfile(samplefiles::version4Profile([](cmsHPROFILE profile) {
+        const cmsCIEXYZ rows[] = {{0.5, 0, 0}, {0, 1, 0}, {0, 0, 2}};
+        cmsWriteTag(profile, cmsSigChromaticAdaptationTag, rows);
+    }));
+    QVERIFY(gamut);
+    const double X = 0.3850649 / 0.5;
+    const double Y = 0.7168786;
+    const double Z = 0.0971045 / 2.0;
+    QVERIFY(isNear(gamut->getTargets().green, X / (X + Y + Z), Y / (X + Y + Z), 0.0001));
+}
+
+void IccProfileTest::anyPrimariesSurvive()
+{
+    for (const auto &primaries : {triple(0.708, 0.292, 0.17, 0.797, 0.131, 0.046),
+             triple(0.68, 0.32, 0.265, 0.69, 0.15, 0.06), triple(0.7347, 0.2653, 0.1596, 0.8404, 0.0366, 0.001)}) {
+        for (const cmsCIExyY &white : {cmsCIExyY{0.3127, 0.329, 1.0}, cmsCIExyY{0.2829, 0.2971, 1.0},
+                 cmsCIExyY{0.314, 0.351, 1.0}, cmsCIExyY{0.3457, 0.3585, 1.0}}) {
+            const auto gamut = readIccProfile(made(white, primaries));
+            QVERIFY2(gamut, qPrintable(gamut.error()));
+            const Model::Targets &targets = gamut->getTargets();
+            QVERIFY(isNear(targets.red, primaries.Red.x, primaries.Red.y, 0.0003));
+            QVERIFY(isNear(targets.green, primaries.Green.x, primaries.Green.y, 0.0003));
+            QVERIFY(isNear(targets.blue, primaries.Blue.x, primaries.Blue.y, 0.0003));
+            QVERIFY(isNear(targets.white, white.x, white.y, 0.0003));
+        }
+    }
+}
+
+void IccProfileTest::name()
+{
+    QCOMPARE(readIccProfile(samplefiles::version2Profile())->colorGamutName(), std::string("Studio 27 calibrated"));
+    const auto chinese = readIccProfile(samplefiles::version4Profile(
+        [](cmsHPROFILE profile) { samplefiles::describe(profile, L"\u663E\u793A\u5668"); }));
+    QCOMPARE(QString::fromStdString(chinese->colorGamutName()), QString::fromUtf8("显示器"));
+}
+
+void IccProfileTest::nameMayBeMissing()
+{
+    const auto gamut = readIccProfile(samplefiles::version2Profile(
+        [](cmsHPROFILE profile) { cmsWriteTag(profile, cmsSigProfileDescriptionTag, nullptr); }));
+    QVERIFY(gamut);
+    QCOMPARE(gamut->colorGamutName(), std::string());
+}
+
+void IccProfileTest::relativeLuminances()
+{
+    const Model::Targets targets = readIccProfile(samplefiles::version4Profile())->getTargets();
+    QVERIFY(targets.white.Y == 1.0);
+    QVERIFY(std::fabs(targets.red.Y - 0.2126) < 0.0003);
+    QVERIFY(std::fabs(targets.green.Y - 0.7152) < 0.0003);
+    QVERIFY(std::fabs(targets.blue.Y - 0.0722) < 0.0003);
+}
+
+void IccProfileTest::absoluteLuminances()
+{
+    const auto withLuminance = [](double luminance) {
+        return readIccProfile(samplefiles::version2Profile([luminance](cmsHPROFILE profile) {
+            const cmsCIEXYZ value{0.0, luminance, 0.0};
+            cmsWriteTag(profile, cmsSigLuminanceTag, &value);
+        }));
+    };
+    const auto gamut = withLuminance(250.0);
+    QVERIFY(std::fabs(gamut->getTargets().white.Y - 250.0) < 0.001);
+    QVERIFY(std::fabs(gamut->getTargets().green.Y - 0.7152 * 250.0) < 0.1);
+    QVERIFY(withLuminance(0.0)->getTargets().white.Y == 1.0);
+    QVERIFY(withLuminance(-5.0)->getTargets().white.Y == 1.0);
+}
+
+void IccProfileTest::refusals_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("error");
+    const auto row = [](const char *name, const QByteArray &bytes, const char *error) {
+        QTest::newRow(name) << bytes << QString::fromUtf8(error);
+    };
+    const auto changed = [&row](const char *name, const samplefiles::EditProfile &edit, const char *error) {
+        row(name, samplefiles::version2Profile(edit), error);
+    };
+    row("empty", "", "is a truncated ICC profile: the header is incomplete");
+    row("wrong signature", samplefiles::version2Profile().replace("acsp", "acsq"), "is not an ICC profile");
+    row("grey", samplefiles::greyProfile(), "has no primaries: it is a grey profile");
+    changed(
+        "CMYK", [](cmsHPROFILE profile) { cmsSetColorSpace(profile, cmsSigCmykData); },
+        "has no primaries: it is a CMYK profile");
+    changed(
+        "Lab", [](cmsHPROFILE profile) { cmsSetColorSpace(profile, cmsSigLabData); },
+        "has no primaries: it is a Lab profile");
+    changed(
+        "YCbCr", [](cmsHPROFILE profile) { cmsSetColorSpace(profile, cmsSigYCbCrData); },
+        "has no primaries: it is not an RGB profile");
+    changed(
+        "no green", [](cmsHPROFILE profile) { cmsWriteTag(profile, cmsSigGreenColorantTag, nullptr); },
+        "has no primaries: the ICC profile has no colorant tags");
+    changed(
+        "black red",
+        [](cmsHPROFILE profile) {
+            const cmsCIEXYZ black{0.0, 0.0, 0.0};
+            cmsWriteTag(profile, cmsSigRedColorantTag, &black);
+        },
+        "is an ICC profile without usable primaries: the red primary is not a valid chromaticity: x 0, y 0");
+    changed(
+        "two equal primaries",
+        [](cmsHPROFILE profile) {
+            const cmsCIEXYZ green{0.3850649, 0.7168786, 0.0971045};
+            cmsWriteTag(profile, cmsSigRedColorantTag, &green);
+        },
+        "is an ICC profile without usable primaries: the primaries do not form a triangle");
+    changed(
+        "dark media white",
+        [](cmsHPROFILE profile) {
+            const cmsCIEXYZ black{0.0, 0.0, 0.0};
+            cmsWriteTag(profile, cmsSigMediaWhitePointTag, &black);
+        },
+        "is an ICC profile without usable primaries: the red primary is not a valid chromaticity: x 0, y 0");
+    row("adaptation without inverse", samplefiles::version4Profile([](cmsHPROFILE profile) {
+        const cmsCIEXYZ rows[] = {{1, 1, 1}, {1, 1, 1}, {1, 1, 1}};
+        cmsWriteTag(profile, cmsSigChromaticAdaptationTag, rows);
+    }),
+        "is an ICC profile without usable primaries: the red primary is not a valid chromaticity: x 0, y 0");
+}
+
+void IccProfileTest::refusals()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, error);
+    const auto gamut = readIccProfile(bytes);
+    QVERIFY(!gamut);
+    QCOMPARE(gamut.error(), error);
+}
+
+void IccProfileTest::truncatedAnywhere()
+{
+    const QByteArray whole = samplefiles::version4Profile();
+    for (int size = 0; size < whole.size(); ++size) {
+        const auto gamut = readIccProfile(whole.left(size));
+        QVERIFY(!gamut);
+        QVERIFY2(gamut.error().startsWith("is a truncated ICC profile: "), qPrintable(gamut.error()));
+    }
+}
+
+//! Nothing but a gamut or a reason may come of a damaged profile.
+void IccProfileTest::damagedAnywhere()
+{
+    const QByteArray whole = samplefiles::version4Profile();
+    for (int at = 0; at < whole.size(); ++at) {
+        for (const char byte : {'\x00', '\x7F', '\xFF'}) {
+            QByteArray damaged = whole;
+            damaged[at] = byte;
+            const auto gamut = readIccProfile(damaged);
+            if (!gamut) {
+                QVERIFY(!gamut.error().isEmpty() && !gamut.error().contains('\n'));
+                continue;
+            }
+            for (const Model::Target &target :
+                {gamut->getTargets().red, gamut->getTargets().green, gamut->getTargets().blue}) {
+                QVERIFY(target.x >= 0.0 && target.y > 0.0 && target.x + target.y <= 1.0 && target.Y >= 0.0);
+            }
+        }
+    }
+}
+
+void IccProfileTest::recognisedByItsSignature()
+{
+    QVERIFY(isIccProfile(samplefiles::greyProfile()));
+    QVERIFY(isIccProfile(samplefiles::version2Profile().left(40)));
+    QVERIFY(!isIccProfile(samplefiles::version2Profile().left(39)));
+    QVERIFY(!isIccProfile(samplefiles::edid()));
+    QVERIFY(!isIccProfile(QByteArray()));
+}
+
+QTEST_GUILESS_MAIN(IccProfileTest)
+#include "iccprofiletest.moc"
