@@ -70,9 +70,11 @@ function(ceiechart_library target)
         target_link_options(${target} PRIVATE LINKER:--version-script=${map})
         set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${map})
     endif()
-    install(TARGETS ${target} EXPORT CeieChartTargets
+    install(TARGETS ${target} EXPORT CeieChart_${target}
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    install(EXPORT CeieChart_${target} NAMESPACE CeieChart:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/CeieChart
+        COMPONENT dev)
 endfunction()

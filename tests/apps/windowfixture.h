@@ -2,9 +2,9 @@
 #ifndef TESTS_APPS_WINDOWFIXTURE_H
 #define TESTS_APPS_WINDOWFIXTURE_H
 
-#include "editing/openedfiles.h"
 #include "drawing/documentview.h"
 #include "editing/document.h"
+#include "editing/openedfiles.h"
 #include "editing/targetedits.h"
 #include "window/diagrampage.h"
 #include "window/viewerwindow.h"
@@ -24,7 +24,7 @@ struct WindowFixture {
     {
         useSettings(settings.path());
         window = std::make_unique<gamutviewer::ViewerWindow>();
-        const auto sample = gamutviewer::openFile(QStringLiteral(SAMPLE_FILE));
+        const auto sample = gamutviewer::readGamutFile(QStringLiteral(SAMPLE_FILE));
         if (sample) {
             window->setDescription(sample->description, QString());
         }
