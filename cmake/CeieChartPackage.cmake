@@ -10,9 +10,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/CeieChartConfigVersion.cm
 install(FILES ${PROJECT_BINARY_DIR}/CeieChartConfig.cmake ${PROJECT_BINARY_DIR}/CeieChartConfigVersion.cmake
     DESTINATION ${package_dir} COMPONENT dev)
 
-set(version_header ${PROJECT_BINARY_DIR}/include/ceiechart/ceiechart_version.h)
-configure_file(${PROJECT_SOURCE_DIR}/cmake/ceiechart_version.h.in ${version_header} @ONLY)
-install(FILES ${version_header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ceiechart COMPONENT dev)
+install(FILES ${PROJECT_BINARY_DIR}/include/ceiechart/ceiechart_version.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ceiechart COMPONENT dev)
 
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH prefix_from_pkgconfig /${pkgconfig_dir} /)
@@ -63,5 +61,3 @@ if(CEIECHART_BUILD_APPS)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT viewer)
     install(FILES packaging/gamutviewer.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT viewer)
 endif()
-
-include(CeieChartDebian)

@@ -36,7 +36,7 @@ function(ceiechart_translations name)
     list(TRANSFORM ts_files PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE ts_paths)
     add_custom_target(${name}_lupdate
         COMMAND Qt${CEIECHART_QT_VERSION}::lupdate ${options} ${arg_SOURCES} -ts ${ts_paths} VERBATIM)
-    if(BUILD_TESTING)
+    if(CEIECHART_BUILD_TESTS)
         add_test(NAME ${name}_translations COMMAND ${CMAKE_COMMAND} -D TARGET=${name}_lupdate
             -D "LUPDATE=$<TARGET_FILE:Qt${CEIECHART_QT_VERSION}::lupdate>;${options}" -D "SOURCES=${arg_SOURCES}"
             -D "TS_FILES=${ts_paths}" -D SCRATCH=${CMAKE_CURRENT_BINARY_DIR}
