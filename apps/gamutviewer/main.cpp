@@ -54,7 +54,7 @@ int show(const OpenedFiles &opened, const CommandLine &commandLine)
 {
     installInterfaceTranslations();
     ViewerWindow window;
-    window.setDescription(opened.description, opened.descriptionFile);
+    window.setOpened(opened);
     if (commandLine.hasSize()) {
         window.resize(commandLine.extent().size.boundedTo(QApplication::primaryScreen()->availableSize()));
     }
@@ -96,6 +96,9 @@ int main(int argc, char *argv[])
     if (!opened) {
         printError(opened.error());
         return WrongInput;
+    }
+    for (const FileWarning &warning : opened->warnings) {
+        printError(warning.message());
     }
     if (commandLine.action() == CommandLine::Action::Write) {
         return write(opened->description, commandLine);
