@@ -106,8 +106,8 @@ QWidget *AddDialog::makeRow(int index)
         row.role->setCurrentIndex(row.role->findData(file.role ? int(*file.role) : noRole));
         row.role->setAccessibleName(tr("What the gamut of %1 becomes").arg(shortName(file.fileName)));
         layout->addRow(tr("Added as"), row.role);
-        connect(row.role, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            [this, index] { takeRole(index); });
+        connect(
+            row.role, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this, index] { takeRole(index); });
     }
     row.note = plainLabel(QString(), box);
     row.note->setTextInteractionFlags(Qt::TextSelectableByMouse);

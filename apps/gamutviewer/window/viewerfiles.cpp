@@ -67,7 +67,8 @@ void print(const QVector<FileWarning> &warnings)
 void ViewerWindow::setDescription(const DisplayDescription &description, const QString &fileName)
 {
     m_shownFile = fileName;
-    m_isSample = !fileName.isEmpty() && QFileInfo(fileName) == QFileInfo(sampleFile());
+    const QString path = QFileInfo(fileName).canonicalFilePath(); // empty where there is no such file
+    m_isSample = !path.isEmpty() && path == QFileInfo(sampleFile()).canonicalFilePath();
     m_document.open(description, m_isSample ? QString() : fileName);
     m_warnings->setWarnings({});
     fitPanel();

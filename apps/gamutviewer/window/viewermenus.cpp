@@ -60,7 +60,7 @@ void ViewerWindow::buildFileMenu()
     addItem(menu, tr("&Export picture…"), Qt::CTRL | Qt::Key_E, this, &ViewerWindow::exportByDialog);
     menu->addSeparator();
     QAction *close = menu->addAction(tr("&Close"), this, &ViewerWindow::closeDocument);
-    close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
+    close->setShortcuts(QKeySequence::Close);
     QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 }
