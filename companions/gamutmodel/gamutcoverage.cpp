@@ -78,19 +78,12 @@ double quotient(double numerator, double denominator)
     return denominator > 0.0 ? finiteOrZero(numerator / denominator) : 0.0;
 }
 
-/*! \brief Whether the corners lie on a line: the area is then 0, apart from rounding. */
-bool isFlat(const Triangle &triangle)
-{
-    constexpr double rounding = 1e-15;
-    return !(area(triangle) > rounding);
-}
-
 bool isOutside(const DiagramPoint &point, const Triangle &triangle)
 {
-    if (isFlat(triangle)) {
+    const auto &[a, b, c] = triangle;
+    if (isFlat(a, b, c)) {
         return true;
     }
-    const auto &[a, b, c] = triangle;
     const double excess = std::fabs(turn(point, b, c)) / 2.0 + std::fabs(turn(a, point, c)) / 2.0
         + std::fabs(turn(a, b, point)) / 2.0 - std::fabs(turn(a, b, c)) / 2.0;
     return !(excess < containmentTolerance);

@@ -51,6 +51,14 @@ constexpr double turn(const DiagramPoint &a, const DiagramPoint &b, const Diagra
     return (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
 }
 
+/*! \brief Whether three points lie on a line: their area is then 0, apart from rounding. Also if it is not finite. */
+inline bool isFlat(const DiagramPoint &a, const DiagramPoint &b, const DiagramPoint &c)
+{
+    constexpr double rounding = 1e-15;
+    const double area = std::fabs(turn(a, b, c)) / 2.0;
+    return !(area > rounding && std::isfinite(area));
+}
+
 } // namespace Model
 
 #endif // GAMUTMODEL_PLANE_P_H
