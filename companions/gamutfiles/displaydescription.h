@@ -66,11 +66,11 @@ struct DisplayDescription {
 
     /*!
      * \brief The gamut that \a gamutName stands for: the description's own, or else the published gamut of that
-     * name (Model::standardGamuts()); nothing when there is neither.
+     * name (Model::publishedGamuts()); nothing when there is neither.
      */
     GAMUTFILES_EXPORT std::optional<DisplayGamut> gamut(const QString &gamutName) const;
 
-    /*! \brief The gamuts to compare with: the description's standards, then each other published gamut. */
+    /*! \brief The gamuts to compare with: the description's standards, then the other ones of Model::standardGamuts(). */
     GAMUTFILES_EXPORT std::vector<DisplayGamut> allStandards() const;
 };
 

@@ -233,8 +233,8 @@ void DisplayDescriptionTest::refused_data()
         "f: measured: the name must not be empty");
     change("no such target", "\"target\": \"Rec.2020\"", "\"target\": \"Rec. 2020\"",
         "f: target: there is no gamut named \"Rec. 2020\"");
-    change("no such standard", "\"Rec.709\", \"native\"", "\"Rec.709\", \"sRGB\"",
-        "f: standards[1]: there is no gamut named \"sRGB\"");
+    change("no such standard", "\"Rec.709\", \"native\"", "\"Rec.709\", \"srgb\"",
+        "f: standards[1]: there is no gamut named \"srgb\"");
     change("standard twice", "\"Rec.709\", \"native\"", "\"Rec.709\", \"native\", \"Rec.709\"",
         "f: standards[2]: \"Rec.709\" is listed twice");
 

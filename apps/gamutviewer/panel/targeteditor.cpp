@@ -8,6 +8,8 @@
 #include "editing/targetsession.h"
 #include "panel/coordinatepair.h"
 
+#include <gamutmodel/publishedgamuts.h>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -22,9 +24,18 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace gamutviewer {
 
 namespace {
+
+//! Whether all colours of \a targets are real enough to be asked of a display: ACES2065-1, for one, is not.
+bool canBeTarget(const Model::Targets &targets)
+{
+    return std::all_of(allVertices.begin(), allVertices.end(),
+        [&targets](Vertex vertex) { return ceiechart::isChromaticity(xyOf(targetAt(targets, vertex))); });
+}
 
 constexpr int chromaticityDecimals = 4;
 constexpr double chromaticityStep = 0.001;
@@ -255,14 +266,21 @@ void TargetEditor::fillResetMenu()
     m_resetMenu->clear();
     const DisplayDescription &description = m_session->document()->description();
     QStringList names;
-    for (const Model::ColorGamut &standard : Model::standardGamuts()) {
-        names.append(QString::fromStdString(standard.colorGamutName()));
-    }
     for (const Model::ColorGamut &gamut : description.gamuts) {
         names.append(QString::fromStdString(gamut.colorGamutName()));
     }
+    const int ownNames = names.size();
+    for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
+        if (canBeTarget(published.gamut.getTargets())) {
+            names.append(QString::fromStdString(published.gamut.colorGamutName()));
+        }
+    }
     names.removeDuplicates();
-    for (const QString &name : qAsConst(names)) {
+    for (int i = 0; i < names.size(); ++i) {
+        const QString &name = names[i];
+        if (i == ownNames && i > 0) {
+            m_resetMenu->addSeparator();
+        }
         if (name != description.target) {
             QString text = shownGamutName(name);
             QAction *action = m_resetMenu->addAction(text.replace(QLatin1Char('&'), QLatin1String("&&")));
