@@ -78,7 +78,7 @@ bool startsWith(const QByteArray &bytes, std::initializer_list<int> mark)
         && std::all_of(mark.begin(), mark.end(), [&](int byte) { return byteAt(bytes, index++) == byte; });
 }
 
-//! The byte order of UTF-16 without a mark: every second byte of European text and of numbers is null.
+//! The byte order of UTF-16 without a mark: every second byte of most characters is null, as numbers prevail.
 std::optional<TextEncoding> utf16WithoutMark(const QByteArray &bytes)
 {
     std::array<int, 2> nulls{0, 0};
@@ -86,7 +86,7 @@ std::optional<TextEncoding> utf16WithoutMark(const QByteArray &bytes)
         nulls[std::size_t(i % 2)] += bytes.at(i) == '\0' ? 1 : 0;
     }
     const auto units = int(bytes.size() / 2);
-    const auto isMostly = [units](int many, int few) { return many * 3 >= units && many > 10 * few && many > 0; };
+    const auto isMostly = [units](int many, int few) { return many * 2 >= units && many > 10 * few; };
     if (isMostly(nulls[1], nulls[0])) {
         return TextEncoding::Utf16LittleEndian;
     }
@@ -204,7 +204,9 @@ Outcome<DecodedText> decodeText(const QByteArray &bytes, std::optional<TextEncod
         return decodeAs(bytes, TextEncoding::Utf16BigEndian);
     }
     if (bytes.contains('\0')) {
-        return decodeAs(bytes, utf16WithoutMark(bytes).value_or(TextEncoding::Utf8));
+        const auto encoding16 = utf16WithoutMark(bytes);
+        const auto decoded = decodeAs(bytes, encoding16.value_or(TextEncoding::Utf8));
+        return decoded && hasControls(decoded->text) ? Failure::failure(notText(TextEncoding::Utf8)) : decoded;
     }
     return fromUtf8(bytes) ? decodeAs(bytes, TextEncoding::Utf8) : decodeGuess(bytes);
 }

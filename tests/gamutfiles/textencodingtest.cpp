@@ -73,7 +73,8 @@ void TextEncodingTest::recognizes_data()
     row("GBK", "\xC3\xFB\xB3\xC6,\xC1\xC1\xB6\xC8(cd/\xA9\x4F),\xC9\xAB\xD7\xF8\xB1\xEAx\n\xBA\xEC,1.5,0.31", chinese,
         TextEncoding::Gb18030);
     row("one Chinese character", "\xBA\xEC,1", QStringLiteral("红,1"), TextEncoding::Gb18030);
-    row("four bytes of GB18030", "\xBA\xEC\xB0\xD7\x81\x30\x84\x36", QStringLiteral("红白¥"), TextEncoding::Gb18030);
+    row("four bytes of GB18030", "\xBA\xEC\xB0\xD7\xBA\xEC\xB0\xD7\x81\x30\x84\x36", QStringLiteral("红白红白¥"),
+        TextEncoding::Gb18030);
 }
 
 void TextEncodingTest::recognizes()
@@ -150,6 +151,7 @@ void TextEncodingTest::refuses_data()
                    "a\0\0\0",
             6),
         "is not UTF-16LE text");
+    row("numbers of two bytes", QByteArray("\1\0\2\0\3\0", 6), "is not UTF-8 text");
     row("picture", "\x89PNG\r\n\x1A\n", "is not UTF-8 text");
     row("unassigned in Windows-1252", "a\x81 ", "is not Windows-1252 text");
 }
