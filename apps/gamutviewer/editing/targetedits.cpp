@@ -167,6 +167,12 @@ DisplayDescription withTargetNamed(
     return description;
 }
 
+bool canBeTarget(const Model::Targets &targets)
+{
+    return std::all_of(allVertices.begin(), allVertices.end(),
+        [&targets](Vertex vertex) { return ceiechart::isChromaticity(xyOf(targetAt(targets, vertex))); });
+}
+
 bool isEditedName(const QString &gamutName)
 {
     return editedMatch(gamutName).hasMatch();

@@ -42,6 +42,9 @@ DisplayDescription withEditedTarget(DisplayDescription description, const Model:
 DisplayDescription withTargetNamed(
     DisplayDescription description, const QString &gamutName, const DisplayDescription &saved = DisplayDescription());
 
+/*! \brief Whether all colours of \a targets are real enough to be asked of a display: ACES2065-1, for one, is not. */
+bool canBeTarget(const Model::Targets &targets);
+
 /*! \brief Whether \a gamutName is that of a gamut changed by hand. */
 bool isEditedName(const QString &gamutName);
 

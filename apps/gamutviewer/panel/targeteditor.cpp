@@ -24,18 +24,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace gamutviewer {
 
 namespace {
-
-//! Whether all colours of \a targets are real enough to be asked of a display: ACES2065-1, for one, is not.
-bool canBeTarget(const Model::Targets &targets)
-{
-    return std::all_of(allVertices.begin(), allVertices.end(),
-        [&targets](Vertex vertex) { return ceiechart::isChromaticity(xyOf(targetAt(targets, vertex))); });
-}
 
 constexpr int chromaticityDecimals = 4;
 constexpr double chromaticityStep = 0.001;
