@@ -156,7 +156,9 @@ public:
             if (dialog && !m_isAsked) {
                 m_isAsked = true;
                 answer(dialog);
-                dialog->reject(); // unless it has been answered
+                if (dialog->isVisible()) {
+                    dialog->reject(); // it has not been answered
+                }
             }
         });
         m_timer.start(1);
