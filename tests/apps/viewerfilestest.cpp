@@ -467,9 +467,15 @@ void ViewerFilesTest::nothingIsSaidWithoutAnOriginal()
     f.document().change(known, QString());
     QVERIFY(isSilent());
     QVERIFY(text(f.window->panel()->values()).contains(QLatin1String("Target: not known")));
+    f.show(f.window->diagramPage());
+    const auto hatches = [&f] {
+        return f.window->diagramPage()->view()->content().layers.testFlag(ceiechart::DiagramLayer::LostArea);
+    };
+    QVERIFY(!hatches());
     known.target = QStringLiteral("Rec.2020");
     f.document().change(known, QString());
     QVERIFY(!isSilent());
+    QVERIFY(hatches());
 }
 
 void ViewerFilesTest::additionsToADescriptionCanBeLost()

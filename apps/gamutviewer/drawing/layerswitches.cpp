@@ -59,6 +59,10 @@ ceiechart::DiagramContent LayerSwitches::content(const DisplayDescription &descr
         = documentContent(shown, m_showsDefaultTarget ? gamutPartsToEdit(shown) : gamutParts(shown));
     content.layers = m_state.layers;
     content.colors = m_state.colors;
+    if (description.target.isEmpty()) {
+        // What nobody has chosen gives nothing up.
+        content.layers.setFlag(ceiechart::DiagramLayer::LostArea, false);
+    }
     return content;
 }
 
