@@ -70,7 +70,8 @@ struct DisplayDescription {
      */
     GAMUTFILES_EXPORT std::optional<DisplayGamut> gamut(const QString &gamutName) const;
 
-    /*! \brief The gamuts to compare with: the description's standards, then the other ones of Model::standardGamuts(). */
+    /*! \brief The gamuts to compare with: the description's standards, then the other ones of Model::standardGamuts().
+     */
     GAMUTFILES_EXPORT std::vector<DisplayGamut> allStandards() const;
 };
 
