@@ -66,7 +66,8 @@ inline QRgb mixed(QRgb a, QRgb b, int alphaOfA)
 //! Colours any part of the picture.
 class Filler {
 public:
-    Filler(const ColorsRequest &request, QImage &image)
+    //! \a locus and \a full are the coverages for \a request.
+    Filler(const ColorsRequest &request, QImage &image, RowCoverage &locus, RowCoverage &full)
         : m_image(image)
         , m_plot(request.plot())
         , m_ground(request.ground.rgb())
@@ -74,16 +75,9 @@ public:
         , m_dimmed(request.colors == HorseshoeColors::Dimmed)
         , m_fill(fillFor(request, image.size()))
         , m_rows(m_fill, fastestFillKernel())
+        , m_locus(locus)
+        , m_full(full)
     {
-        if (m_colored) {
-            m_locus = RowCoverage(
-                inPixels(
-                    request, spectralLocusIn(request.viewport.diagram(), spectrumDetail(request.viewport.scale()))),
-                image.width(), image.height());
-        }
-        if (m_dimmed) {
-            m_full = RowCoverage(inPixels(request, request.full), image.width(), image.height());
-        }
     }
 
     void fill(const QRect &area)
@@ -134,8 +128,6 @@ public:
         }
     }
 
-    RowCoverage &full() { return m_full; }
-
 private:
     void dim(QRgb *line, int y, int left, int right)
     {
@@ -161,9 +153,25 @@ private:
     bool m_dimmed;
     HorseshoeFill m_fill;
     RowFill m_rows;
-    RowCoverage m_locus;
-    RowCoverage m_full;
+    RowCoverage &m_locus;
+    RowCoverage &m_full;
 };
+
+RowCoverage locusCoverage(const ColorsRequest &request, const QSize &size)
+{
+    if (request.colors == HorseshoeColors::None) {
+        return RowCoverage();
+    }
+    const QPolygonF &locus = spectralLocusIn(request.viewport.diagram(), spectrumDetail(request.viewport.scale()));
+    return RowCoverage(inPixels(request, locus), size.width(), size.height());
+}
+
+//! Of \a full, in the diagram's own coordinates.
+RowCoverage fullCoverage(const ColorsRequest &request, const QPolygonF &full, const QSize &size)
+{
+    return request.colors == HorseshoeColors::Dimmed ? RowCoverage(inPixels(request, full), size.width(), size.height())
+                                                     : RowCoverage();
+}
 
 bool sameExceptPlace(const ColorsRequest &a, const ColorsRequest &b)
 {
@@ -208,29 +216,35 @@ void scroll(QImage &image, const QRect &area, const QPoint &way)
     }
 }
 
-//! Fills where the coverage by \a before and that of the filler's own differ.
-void fillDifference(Filler &filler, RowCoverage &before, const QRect &plot, QRegion &changed)
+//! Fills where the coverages \a before and \a after differ.
+void fillDifference(Filler &filler, RowCoverage &before, RowCoverage &after, const QRect &plot, QRegion &changed)
 {
     QRect bounds;
     for (int y = plot.top(); y <= plot.bottom(); ++y) {
-        const std::vector<CoveredRun> &now = filler.full().row(y);
+        const std::vector<CoveredRun> &now = after.row(y);
         const std::vector<CoveredRun> &then = before.row(y);
+        const auto fill = [&](int left, int right) {
+            const QRect part = QRect(left, y, right - left, 1).intersected(plot);
+            if (!part.isEmpty()) {
+                filler.fill(y, part.left(), part.right() + 1);
+                bounds |= part;
+            }
+        };
         size_t i = 0;
         size_t k = 0;
         int x = 0;
+        int begin = 0; // of the columns that differ up to x
         while (i < now.size() && k < then.size()) {
             const int end = std::min(now[i].right, then[k].right);
-            if (now[i].alpha != then[k].alpha) {
-                const QRect part = QRect(x, y, end - x, 1).intersected(plot);
-                if (!part.isEmpty()) {
-                    filler.fill(y, part.left(), part.right() + 1);
-                    bounds |= part;
-                }
+            if (now[i].alpha == then[k].alpha) {
+                fill(begin, x);
+                begin = end;
             }
             x = end;
             i += now[i].right == end ? 1 : 0;
             k += then[k].right == end ? 1 : 0;
         }
+        fill(begin, x);
     }
     changed += bounds;
 }
@@ -265,11 +279,23 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
             m_image = QImage(size, QImage::Format_RGB32);
         }
         m_image.setDevicePixelRatio(request.devicePixelRatio);
-        Filler(request, m_image).fill(m_image.rect());
+        m_locus = locusCoverage(request, size);
+        m_full = fullCoverage(request, request.full, size);
+        Filler(request, m_image, m_locus, m_full).fill(m_image.rect());
         filled = m_image.rect();
-    } else if (!distance->isNull() || m_request.full != request.full) {
-        Filler filler(request, m_image);
-        if (!distance->isNull()) {
+    } else {
+        const bool isMoved = !distance->isNull();
+        const bool isOtherFull = request.colors == HorseshoeColors::Dimmed && m_request.full != request.full;
+        if (isMoved) {
+            m_locus = locusCoverage(request, size);
+            m_full = fullCoverage(request, m_request.full, size);
+        }
+        RowCoverage before;
+        if (isOtherFull) {
+            before = std::exchange(m_full, fullCoverage(request, request.full, size));
+        }
+        Filler filler(request, m_image, m_locus, m_full);
+        if (isMoved) {
             way = *distance;
             scroll(m_image, plot, way);
             const QRegion exposed = QRegion(plot) - plot.translated(way);
@@ -278,9 +304,8 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
             }
             filled += exposed;
         }
-        if (m_request.full != request.full && request.colors == HorseshoeColors::Dimmed) {
-            RowCoverage before(inPixels(request, m_request.full), size.width(), size.height());
-            fillDifference(filler, before, plot, filled);
+        if (isOtherFull) {
+            fillDifference(filler, before, m_full, plot, filled);
         }
     }
     m_request = request;

@@ -4,6 +4,7 @@
 
 #include <ceiechart/diagram/diagramcontent.h>
 #include <ceiechart/diagram/diagramviewport.h>
+#include <ceiechart/diagram/rowcoverage_p.h>
 
 #include <QColor>
 #include <QImage>
@@ -47,6 +48,8 @@ public:
 private:
     QImage m_image;
     ColorsRequest m_request;
+    RowCoverage m_locus; // as in the picture
+    RowCoverage m_full;
 };
 
 } // namespace ceiechart

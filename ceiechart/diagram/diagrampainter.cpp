@@ -260,11 +260,11 @@ void DiagramPainter::paintGamuts(QPainter *painter) const
     d->gamutsLayout().drawing.paint(painter);
 }
 
-void DiagramPainter::paintEdited(QPainter *painter) const
+void DiagramPainter::paintEdited(QPainter *painter, const QRegion &needed) const
 {
-    d->editedLayout().drawing.paint(painter);
-    d->scaleLayout().texts.paint(painter);
-    d->editedLayout().texts.paint(painter);
+    d->editedLayout().drawing.paint(painter, needed);
+    d->scaleLayout().texts.paint(painter, needed);
+    d->editedLayout().texts.paint(painter, needed);
 }
 
 QVector<DiagramLabel> DiagramPainter::labels() const

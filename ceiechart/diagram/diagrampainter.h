@@ -118,9 +118,11 @@ public:
     /*!
      * \brief What depends on the target, and what must not be covered by it: lost and common area, outlines of targets
      *        and of what equals them, rings, trail, marks, whites, names; and the temperatures of isotherms, above all
-     * lines.
+     *        lines.
+     *
+     * \param needed in logical pixels; what does not meet it may be left out, which is faster. Empty for everything.
      */
-    void paintEdited(QPainter *painter) const;
+    void paintEdited(QPainter *painter, const QRegion &needed = QRegion()) const;
 
     /*!
      * \brief All texts that the steps paint, with their places.

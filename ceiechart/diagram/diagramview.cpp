@@ -18,7 +18,6 @@ namespace {
 
 constexpr double zoomStep = 1.5; // of a key or a button
 constexpr double labelDistance = 26.0; // logical pixels from the middle of a handle to its label
-constexpr int edgePieces = 24; // in which the surroundings of an edge are repainted
 constexpr int guidePieces = 64; // which are longer
 constexpr double lineRoom = 6.0; // logical pixels on either side of a line, for its width and casing
 constexpr double markRoom = 16.0; // logical pixels round a white
@@ -37,6 +36,48 @@ QRect around(const QRectF &rectangle, double room)
 QRectF boxOf(std::initializer_list<QPointF> points)
 {
     return QPolygonF(QVector<QPointF>(points)).boundingRect();
+}
+
+/*!
+ * What lies between the lines \a a and \a b of which each end of one is moved straight to that of the other, with
+ * \a room round it, within \a whole: in bands, which hug slanting lines.
+ */
+QRegion regionBetween(const QLineF &a, const QLineF &b, const QRectF &whole, double room)
+{
+    constexpr int bandHeight = 8;
+    const QLineF sides[] = {a, b, QLineF(a.p1(), b.p1()), QLineF(a.p2(), b.p2())};
+    const QRect bounds
+        = (boxOf({a.p1(), a.p2(), b.p1(), b.p2()}).adjusted(-room, -room, room, room) & whole).toAlignedRect();
+    QVector<QRect> bands;
+    for (int top = bounds.top(); top <= bounds.bottom(); top += bandHeight) {
+        const int bottom = std::min(top + bandHeight, bounds.bottom() + 1);
+        double left = HUGE_VAL;
+        double right = -HUGE_VAL;
+        for (const QLineF &side : sides) {
+            const bool isDown = side.y1() < side.y2();
+            const QPointF upper = isDown ? side.p1() : side.p2();
+            const QPointF lower = isDown ? side.p2() : side.p1();
+            const double first = std::max(upper.y(), top - room);
+            const double last = std::min(lower.y(), bottom + room);
+            if (first > last) {
+                continue;
+            }
+            const double slope = lower.y() > upper.y() ? (lower.x() - upper.x()) / (lower.y() - upper.y()) : 0.0;
+            const bool isLevel = slope == 0.0;
+            for (const double x : {isLevel ? upper.x() : upper.x() + (first - upper.y()) * slope,
+                     isLevel ? lower.x() : upper.x() + (last - upper.y()) * slope}) {
+                left = std::min(left, x);
+                right = std::max(right, x);
+            }
+        }
+        const QRectF band = QRectF(QPointF(left - room, top), QPointF(right + room, bottom)) & whole;
+        if (left <= right && !band.isEmpty()) {
+            bands.append(band.toAlignedRect());
+        }
+    }
+    QRegion region;
+    region.setRects(bands.constData(), int(bands.size()));
+    return region;
 }
 
 bool isFinite(const QPolygonF &polygon)
@@ -550,21 +591,8 @@ QRegion DiagramView::Private::editedRegion(const Model::Targets &former, const M
     // Everything that changes lies between the old and the new lines, edge by edge.
     QRegion region;
     for (int i = 0; i < 3; ++i) {
-        const QPointF &oldFrom = old[i];
-        const QPointF &newFrom = now[i];
-        const QPointF oldWay = old[(i + 1) % 3] - oldFrom;
-        const QPointF newWay = now[(i + 1) % 3] - newFrom;
-        for (int piece = 0; piece < edgePieces; ++piece) {
-            const double first = double(piece) / edgePieces;
-            const double last = double(piece + 1) / edgePieces;
-            const QRectF box = boxOf({oldFrom + oldWay * first, oldFrom + oldWay * last, newFrom + newWay * first,
-                                         newFrom + newWay * last})
-                                   .adjusted(-lineRoom, -lineRoom, lineRoom, lineRoom)
-                & whole;
-            if (!box.isEmpty()) {
-                region += box.toAlignedRect();
-            }
-        }
+        region += regionBetween(
+            QLineF(old[i], old[(i + 1) % 3]), QLineF(now[i], now[(i + 1) % 3]), QRectF(q->rect()), lineRoom);
     }
     for (const Model::Targets *targets : {&former, &latter}) {
         const QPointF white = viewport.toPosition(xyOf(targets->white));
@@ -1063,7 +1091,7 @@ void DiagramView::paintEvent(QPaintEvent *event)
         } else {
             p.drawImage(QPointF(), d->linesPicture());
         }
-        d->painter->paintEdited(&p);
+        d->painter->paintEdited(&p, event->region());
         d->overlay.paint(p, d->viewport.plot(), palette, font());
     }
     d->overlay.paintReadout(p, palette);
