@@ -18,7 +18,6 @@ namespace {
 
 constexpr double zoomStep = 1.5; // of a key or a button
 constexpr double labelDistance = 26.0; // logical pixels from the middle of a handle to its label
-constexpr int guidePieces = 64; // which are longer
 constexpr double lineRoom = 6.0; // logical pixels on either side of a line, for its width and casing
 constexpr double markRoom = 16.0; // logical pixels round a white
 
@@ -539,21 +538,9 @@ QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
         if (guide.size() == 1) {
             region += around(guide.boundingRect(), markRoom);
         }
-        // A few pieces are enough for a short line; a long one would cover much with one.
-        constexpr double shortLine = 100.0;
-        const QRectF whole = QRectF(q->rect()).adjusted(-lineRoom, -lineRoom, lineRoom, lineRoom);
         for (int i = 1; i < guide.size(); ++i) {
-            const QPointF way = guide[i] - guide[i - 1];
-            const int pieces = std::hypot(way.x(), way.y()) > shortLine ? guidePieces : 1;
-            for (int piece = 0; piece < pieces; ++piece) {
-                const QRectF part = boxOf({guide[i - 1] + way * (double(piece) / pieces),
-                                              guide[i - 1] + way * (double(piece + 1) / pieces)})
-                                        .adjusted(-lineRoom, -lineRoom, lineRoom, lineRoom)
-                    & whole;
-                if (!part.isEmpty()) {
-                    region += part.toAlignedRect();
-                }
-            }
+            const QLineF line(guide[i - 1], guide[i]);
+            region += regionBetween(line, line, QRectF(q->rect()), lineRoom);
         }
     }
     if (!some.readout.isEmpty()) {

@@ -221,7 +221,7 @@ void DrawList::addText(const QPointF &at, const QRectF &place, const QString &te
     const QColor &color, const QColor &casing)
 {
     // Glyphs may lean out of their place, and marks be stacked above letters.
-    m_items.push_back({widened(place, casingWidth + style.height()),
+    m_items.push_back({widened(place, casingWidth + style.height() / 2.0),
         Text{at, text, style.font(), style.unit(), style.pixelSize(), color, casing}});
 }
 
