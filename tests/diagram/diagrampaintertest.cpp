@@ -11,6 +11,7 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 
 using namespace ceiechart;
 
@@ -170,6 +171,8 @@ private Q_SLOTS:
     void devicesOfHighResolution();
     void keyLinesAreThoseOfTheDiagram();
     void changedContentIsAsPaintedAnew();
+    void neededPartsAreAsInTheWhole_data();
+    void neededPartsAreAsInTheWhole();
 };
 
 void DiagramPainterTest::labelsStandApart_data()
@@ -987,6 +990,54 @@ void DiagramPainterTest::changedContentIsAsPaintedAnew()
             QCOMPARE(painted(kept, 1.5), painted(anew, 1.5));
         }
     }
+}
+
+void DiagramPainterTest::neededPartsAreAsInTheWhole_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<double>("ratio");
+    for (const double zoom : {1.0, 4.0, 60.0}) {
+        for (const double ratio : {1.0, 1.5, 2.0}) {
+            QTest::addRow("%g %g", zoom, ratio) << zoom << ratio;
+        }
+    }
+}
+
+void DiagramPainterTest::neededPartsAreAsInTheWhole()
+{
+    QFETCH(double, zoom);
+    QFETCH(double, ratio);
+    const QSize size(420, 380);
+    DiagramPainter painter;
+    prepare(painter, fullContent(), Model::Diagram::Cie1931, size, zoom);
+    QImage before = painter.colors(ratio);
+    {
+        QPainter onto(&before);
+        painter.paintScale(&onto);
+        painter.paintGamuts(&onto);
+    }
+    std::mt19937 random(12);
+    int differing = 0;
+    for (int round = 0; round < 60; ++round) {
+        QRegion needed;
+        for (unsigned count = 1 + random() % 4; count > 0; --count) {
+            const QPoint corner(int(random() % unsigned(size.width())), int(random() % unsigned(size.height())));
+            needed += QRect(corner, QSize(1 + int(random() % 60), 1 + int(random() % 60)));
+        }
+        needed &= QRect(QPoint(), size);
+        // A clip cuts lines, which may round them otherwise than in the whole picture: it is the same for both.
+        const auto paintedOn = [&](QImage image, const QRegion &asked) {
+            QPainter onto(&image);
+            onto.setClipRegion(needed);
+            painter.paintEdited(&onto, asked);
+            return image;
+        };
+        const QImage actual = paintedOn(before, needed);
+        const QImage expected = paintedOn(before, QRegion());
+        QCOMPARE(actual, expected);
+        differing += actual != before ? 1 : 0;
+    }
+    QVERIFY2(differing > 30, qPrintable(QString::number(differing)));
 }
 
 int main(int argc, char *argv[])
