@@ -30,7 +30,6 @@ constexpr double wavelengthTicks = 7.0; // least distance of ticks
 constexpr double wavelengthNumbers = 34.0; // least distance of the middles of numbers
 constexpr double isothermLines = 30.0; // least distance of isotherms
 constexpr double mostIsotherms = 18.0; // side by side on the shorter side of the plot
-constexpr double labelGap = 3.0; // round any text
 
 constexpr double isothermDuv = 0.02; // of the ends of isotherms, at most
 constexpr double wholeIsothermDuv = 0.011; // where the whole horseshoe is seen, lest they cover it
@@ -41,11 +40,6 @@ constexpr double closestWavelengths = 0.01; // nm
 
 const QString widestNumber = QStringLiteral("-0.00000");
 constexpr double hinting = 0.5; // pixels by which hinting may widen a digit beyond its design
-
-double length(const QPointF &way)
-{
-    return std::hypot(way.x(), way.y());
-}
 
 QPointF unit(const QPointF &way)
 {
