@@ -4,6 +4,8 @@
 #include <ceiechart/diagram/rowcoverage_p.h>
 #include <ceiechart/diagram/spectrum_p.h>
 
+#include <QPainter>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -63,7 +65,7 @@ inline QRgb mixed(QRgb a, QRgb b, int alphaOfA)
     return 0xff000000U | channel(16) | channel(8) | channel(0);
 }
 
-//! Colours any part of the picture.
+//! Colours any part of a picture, or of the band of its rows that is at hand.
 class Filler {
 public:
     //! \a locus and \a full are the coverages for \a request.
@@ -73,12 +75,15 @@ public:
         , m_ground(request.ground.rgb())
         , m_colored(request.colors != HorseshoeColors::None)
         , m_dimmed(request.colors == HorseshoeColors::Dimmed)
-        , m_fill(fillFor(request, image.size()))
+        , m_fill(fillFor(request, request.size()))
         , m_rows(m_fill, fastestFillKernel())
         , m_locus(locus)
         , m_full(full)
     {
     }
+
+    //! From here on, the image holds the rows from \a row on.
+    void setFirstRow(int row) { m_firstRow = row; }
 
     void fill(const QRect &area)
     {
@@ -90,7 +95,7 @@ public:
     //! The row \a y from column \a left to before \a right, as far as it lies in the plot.
     void fill(int y, int left, int right)
     {
-        auto *line = reinterpret_cast<QRgb *>(m_image.bits() + qsizetype(y) * m_image.bytesPerLine());
+        auto *line = reinterpret_cast<QRgb *>(m_image.bits() + qsizetype(y - m_firstRow) * m_image.bytesPerLine());
         if (!m_colored || y < m_plot.top() || y > m_plot.bottom()) {
             std::fill(line + left, line + right, m_ground);
             return;
@@ -147,6 +152,7 @@ private:
     }
 
     QImage &m_image;
+    int m_firstRow = 0;
     QRect m_plot;
     QRgb m_ground;
     bool m_colored;
@@ -271,7 +277,7 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
     QPoint way;
     const QSize size = request.size();
     const QRect plot = request.plot();
-    const auto distance = m_image.size() == size && sameExceptPlace(m_request, request)
+    const auto distance = m_isKept && m_image.size() == size && sameExceptPlace(m_request, request)
         ? wholePixels(m_request, request)
         : std::nullopt;
     if (!distance) {
@@ -309,6 +315,7 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
         }
     }
     m_request = request;
+    m_isKept = true;
     if (changed) {
         *changed = filled;
     }
@@ -316,6 +323,31 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
         *scrolled = way;
     }
     return m_image;
+}
+
+void DiagramColors::paint(QPainter *painter, const ColorsRequest &request)
+{
+    // At other ratios the edges of bands could fall between pixels.
+    const bool hasWholeEdges = request.devicePixelRatio == 1.0 || request.devicePixelRatio == 2.0;
+    if (!hasWholeEdges || (sameExceptPlace(m_request, request) && wholePixels(m_request, request))) {
+        painter->drawImage(QPointF(), update(request, nullptr, nullptr));
+        return;
+    }
+    constexpr int bandHeight = 16; // what is filled is still in the cache when it is painted
+    const QSize size = request.size();
+    m_locus = locusCoverage(request, size);
+    m_full = fullCoverage(request, request.full, size);
+    QImage band(size.width(), bandHeight, QImage::Format_RGB32);
+    band.setDevicePixelRatio(request.devicePixelRatio);
+    Filler filler(request, band, m_locus, m_full);
+    for (int top = 0; top < size.height(); top += bandHeight) {
+        const int height = std::min(bandHeight, size.height() - top);
+        filler.setFirstRow(top);
+        filler.fill(QRect(0, top, size.width(), height));
+        painter->drawImage(QPointF(0.0, top / request.devicePixelRatio), band, QRectF(0, 0, size.width(), height));
+    }
+    m_request = request;
+    m_isKept = false;
 }
 
 } // namespace ceiechart

@@ -216,6 +216,11 @@ const QImage &DiagramPainter::colors(qreal devicePixelRatio, QRegion *changed, Q
     return d->colors.update(Private::colorsRequest(d->content, d->viewport, devicePixelRatio), changed, scrolled);
 }
 
+void DiagramPainter::paintColors(QPainter *painter, qreal devicePixelRatio)
+{
+    d->colors.paint(painter, Private::colorsRequest(d->content, d->viewport, devicePixelRatio));
+}
+
 void DiagramPainter::paintScale(QPainter *painter) const
 {
     d->scaleLayout().drawing.paint(painter);

@@ -250,9 +250,14 @@ void DiagramView::paintEvent(QPaintEvent *event)
         && event->region().subtracted(d->overlay.readoutPlace.toAlignedRect()).isEmpty();
     if (!isReadoutOnly) {
         p.setClipRegion(event->region());
-        p.drawImage(QPointF(), d->painter->colors(devicePixelRatioF()));
+        const bool isAll = event->region() == QRegion(rect());
+        if (isAll) {
+            d->painter->paintColors(&p, devicePixelRatioF());
+        } else {
+            p.drawImage(QPointF(), d->painter->colors(devicePixelRatioF()));
+        }
         p.setRenderHint(QPainter::Antialiasing);
-        if (!d->linesAreReady && event->region() == QRegion(rect())) {
+        if (!d->linesAreReady && isAll) {
             // As the view moves, lines that are kept would have to be made, laid over and dropped for each picture.
             d->painter->paintScale(&p);
             d->painter->paintGamuts(&p);

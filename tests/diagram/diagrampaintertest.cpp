@@ -21,6 +21,8 @@ private Q_SLOTS:
     void targetsWithoutWhiteAreNotShown();
     void oddContentIsLeftOut();
     void changedContentIsAsPaintedAnew();
+    void colorsArePaintedAsInTheirPicture_data();
+    void colorsArePaintedAsInTheirPicture();
     void neededPartsAreAsInTheWhole_data();
     void neededPartsAreAsInTheWhole();
 };
@@ -115,6 +117,63 @@ void DiagramPainterTest::changedContentIsAsPaintedAnew()
             DiagramPainter anew;
             prepare(anew, content, Model::Diagram::Cie1931, QSizeF(420, 380), zoom);
             QCOMPARE(painted(kept, 1.5), painted(anew, 1.5));
+        }
+    }
+}
+
+void DiagramPainterTest::colorsArePaintedAsInTheirPicture_data()
+{
+    QTest::addColumn<double>("ratio");
+    for (const double ratio : {1.0, 1.5, 2.0, 3.0}) {
+        QTest::addRow("%g", ratio) << ratio;
+    }
+}
+
+void DiagramPainterTest::colorsArePaintedAsInTheirPicture()
+{
+    QFETCH(double, ratio);
+    DiagramPainter painter;
+    DiagramContent content = fullContent();
+    prepare(painter, content, Model::Diagram::Cie1931, QSizeF(222, 197), 1.0);
+    std::mt19937 random(5);
+    const auto within
+        = [&random](double least, double most) { return std::uniform_real_distribution<double>(least, most)(random); };
+    for (int step = 0; step < 150; ++step) {
+        DiagramViewport viewport = painter.viewport();
+        switch (random() % 6) {
+        case 0:
+        case 1:
+            viewport = viewport.zoomed(within(0.5, 2.0), viewport.plot().center());
+            break;
+        case 2:
+            viewport = viewport.panned(QPointF(int(random() % 40), int(random() % 40)) / ratio);
+            break;
+        case 3:
+            content.gamuts[2].gamut = gamut("t", {0.68, 0.32}, {within(0.1, 0.3), 0.69}, {0.15, 0.06});
+            break;
+        case 4:
+            content.colors = HorseshoeColors(random() % 3);
+            break;
+        default:
+            break; // the same again
+        }
+        painter.setContent(content);
+        painter.setViewport(viewport);
+        DiagramPainter anew;
+        anew.setContent(content);
+        anew.setViewport(viewport);
+        const QImage &expected = anew.colors(ratio);
+        if (random() % 4 == 0) {
+            QCOMPARE(painter.colors(ratio), expected);
+        } else {
+            QImage image(expected.size(), QImage::Format_RGB32);
+            image.setDevicePixelRatio(ratio);
+            image.fill(Qt::magenta);
+            {
+                QPainter onto(&image);
+                painter.paintColors(&onto, ratio);
+            }
+            QVERIFY2(image == expected, qPrintable(QString::number(step)));
         }
     }
 }
