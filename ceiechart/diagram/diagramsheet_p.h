@@ -9,6 +9,10 @@
 
 namespace ceiechart {
 
+// Logical pixels
+constexpr double labelGap = 3.0; // round any text
+constexpr double lineCasing = 2.5; // of a line, on both sides together
+
 /*! \brief The fonts of a diagram on one device. */
 struct DiagramFonts {
     DiagramFonts(const QFont &font, const QPaintDevice *device, double unit);
@@ -75,6 +79,9 @@ DiagramStep editedStep(const DiagramSheet &sheet, const LabelPlaces &places, con
 /*! \brief A line of \a pen with a casing of \a casing under it, as far as it is within \a area. */
 void drawCased(
     DrawList &list, const QPolygonF &points, bool closed, const QRectF &area, const QPen &pen, const QColor &casing);
+
+/*! \brief \a color, of which only \a share is opaque. */
+QColor faded(QColor color, double share);
 
 /*!
  * \brief The common area of target and display in the diagram's own coordinates, or the one of them that there is.

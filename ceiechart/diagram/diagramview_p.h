@@ -87,6 +87,7 @@ public:
     void change(const DiagramContent &changed);
     void replace(GamutRole role, const std::vector<Model::ColorGamut> &gamuts);
     void putTarget(const Model::Targets &targets);
+    static DiagramGround groundOf(const QPalette &palette);
     void followPalette();
     QFont textFont() const;
     int decimals() const;
