@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/diagramhands_p.h>
+#include <ceiechart/diagram/diagramview_p.h>
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QStyleHints>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace ceiechart {
+
+namespace {
+
+constexpr double zoomOfNotch = 1.25; // a notch is 120 units of the wheel
+constexpr double notch = 120.0;
+
+//! Whether the wheel event is one of fingers on a pad, which pans, and not one of a wheel, which zooms.
+bool isOfFingers(const QWheelEvent &event)
+{
+    if (event.modifiers() & Qt::ControlModifier) {
+        return false;
+    }
+    if (event.pixelDelta().isNull()) {
+        // Not every platform tells the pixels of fingers; a wheel that is tilted wants to go sideways too.
+        return event.phase() != Qt::NoScrollPhase || event.angleDelta().x() != 0;
+    }
+    // Some platforms give pixels for the notches of a wheel too, but no phases.
+    const bool isNotches
+        = event.angleDelta().x() == 0 && event.angleDelta().y() != 0 && event.angleDelta().y() % int(notch) == 0;
+    return event.phase() != Qt::NoScrollPhase || !isNotches;
+}
+
+} // namespace
+
+void DiagramView::Private::press(const QPointF &position, Qt::MouseButton pressed)
+{
+    if (hand != Hand::Idle || (pressed != Qt::LeftButton && pressed != Qt::MiddleButton)) {
+        return;
+    }
+    const QPointer<DiagramView> view(q);
+    finishKeys();
+    if (!view) {
+        return;
+    }
+    button = pressed;
+    lastPosition = position;
+    isClick = true;
+    panRest = QPointF();
+    const auto vertex = pressed == Qt::LeftButton ? handleAt(position) : std::nullopt;
+    if (!vertex) {
+        hand = Hand::Panning;
+        updateCursor();
+        return;
+    }
+    hand = Hand::Spent;
+    q->setSelectedVertex(vertex);
+    // A host may have taken away the view, the target or the handle in answer to the signals.
+    if (!view || hand != Hand::Spent || selected != vertex || !hasHandles()) {
+        return;
+    }
+    if (rules->isMovable(*vertex)) {
+        hand = Hand::Holding;
+    } else if (!refuseLocked(*vertex)) {
+        return;
+    }
+    updateCursor();
+}
+
+void DiagramView::Private::moveTo(const QPointF &position, Qt::KeyboardModifiers modifiers)
+{
+    const QPointer<DiagramView> view(q);
+    const QPointF delta = position - lastPosition;
+    switch (hand) {
+    case Hand::Idle:
+    case Hand::Spent:
+        break;
+    case Hand::Panning:
+        isClick = isClick && delta.isNull();
+        lastPosition = position;
+        pan(delta);
+        break;
+    case Hand::Holding:
+        // A finger that taps is never quite still; a mouse is.
+        if (delta.isNull() || !selected || !hasHandles()
+            || (touching && distance(position, lastPosition) < QGuiApplication::styleHints()->startDragDistance())) {
+            break;
+        }
+        hand = Hand::Dragging;
+        before = target()->gamut.getTargets();
+        edit.emplace(context(), *selected);
+        lastReason.clear();
+        if (!tell(&DiagramView::editingStarted)) {
+            return;
+        }
+        Q_FALLTHROUGH();
+    case Hand::Dragging:
+        // A host may have ended it in answer to the signal.
+        if (hand == Hand::Dragging && edit) {
+            const QPointF way = viewport.toPoint(position) - viewport.toPoint(lastPosition);
+            lastPosition = position;
+            drag(way, modifiers);
+        }
+        break;
+    }
+    if (view) {
+        hover(position);
+    }
+}
+
+void DiagramView::Private::release(Qt::MouseButton released)
+{
+    if (hand == Hand::Idle || released != button) {
+        return;
+    }
+    const bool wasDragging = hand == Hand::Dragging;
+    const bool wasClick = hand == Hand::Panning && isClick && released == Qt::LeftButton;
+    hand = Hand::Idle;
+    button = Qt::NoButton;
+    updateCursor();
+    if (wasDragging) {
+        finishEditing();
+    } else if (wasClick) {
+        q->setSelectedVertex(std::nullopt);
+    }
+}
+
+void DiagramView::Private::endHand()
+{
+    const QPointer<DiagramView> view(q);
+    q->cancelEditing();
+    if (view) {
+        hand = Hand::Idle;
+        button = Qt::NoButton;
+        updateCursor();
+    }
+}
+
+void DiagramView::Private::hover(const QPointF &position)
+{
+    pointer = position;
+    const bool isInside = viewport.plot().contains(position);
+    const auto handle = hand == Hand::Idle ? handleAt(position) : hovered;
+    if (handle != hovered) {
+        const QRegion former = overlayRegion(overlay);
+        hovered = handle;
+        refreshOverlay();
+        q->update(former + overlayRegion(overlay));
+    }
+    isHovering = isInside;
+    const bool showsReadout = isInside && hand != Hand::Dragging; // the label shows the same
+    if (readoutShown && (showsReadout || !overlay.readout.isEmpty())) {
+        const QRect former = overlay.readoutPlace.toAlignedRect();
+        const bool hadReadout = !overlay.readout.isEmpty();
+        const QString text = showsReadout ? q->coordinatesText(viewport.toChromaticity(position)) : QString();
+        if (hadReadout != showsReadout || DiagramOverlay::labelSize({text}, q->font()) != overlay.readoutPlace.size()) {
+            refreshOverlay();
+        } else {
+            overlay.readout = text;
+        }
+        if (hadReadout) {
+            q->update(former);
+        }
+        if (showsReadout) {
+            q->update(overlay.readoutPlace.toAlignedRect());
+        }
+    }
+    updateCursor();
+    const QPointF xy = viewport.toChromaticity(position);
+    const bool wasTold = isHoverTold;
+    isHoverTold = isInside && isChromaticity(xy);
+    if (isHoverTold) {
+        tell(&DiagramView::hovered, xy);
+    } else if (wasTold) {
+        tell(&DiagramView::hoverEnded);
+    }
+}
+
+void DiagramView::Private::endHover()
+{
+    const bool wasTold = isHoverTold;
+    const QRegion former = overlayRegion(overlay);
+    pointer.reset();
+    hovered.reset();
+    isHovering = isHoverTold = false;
+    refreshOverlay();
+    q->update(former + overlayRegion(overlay));
+    updateCursor();
+    if (wasTold) {
+        tell(&DiagramView::hoverEnded);
+    }
+}
+
+void DiagramView::Private::updateCursor()
+{
+    Qt::CursorShape shape = Qt::ArrowCursor;
+    if (hand == Hand::Panning) {
+        shape = Qt::ClosedHandCursor;
+    } else if (hand == Hand::Holding || hand == Hand::Dragging) {
+        shape = Qt::SizeAllCursor;
+    } else if (hovered) {
+        shape = rules->isMovable(*hovered) ? Qt::SizeAllCursor : Qt::ForbiddenCursor;
+    } else if (isHovering) {
+        shape = Qt::CrossCursor;
+    }
+    if (q->cursor().shape() != shape) {
+        q->setCursor(shape);
+    }
+}
+
+void DiagramView::mousePressEvent(QMouseEvent *event)
+{
+    d->press(ceiechart::positionOf(*event), event->button());
+}
+
+void DiagramView::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPointer<DiagramView> view(this);
+    if (d->button != Qt::NoButton && !(event->buttons() & d->button)) {
+        // The release went elsewhere.
+        d->release(d->button);
+    }
+    if (!view) {
+        return;
+    }
+    d->moveTo(ceiechart::positionOf(*event), event->modifiers());
+}
+
+void DiagramView::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPointer<DiagramView> view(this);
+    d->release(event->button());
+    if (view) {
+        d->hover(ceiechart::positionOf(*event));
+    }
+}
+
+void DiagramView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const QPointer<DiagramView> view(this);
+    const QPointF position = ceiechart::positionOf(*event);
+    if (event->button() == Qt::LeftButton && !d->handleAt(position)) {
+        showAll();
+    }
+    if (view) {
+        d->press(position, event->button());
+    }
+}
+
+void DiagramView::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event);
+    d->endHover();
+}
+
+void DiagramView::wheelEvent(QWheelEvent *event)
+{
+    const QPointer<DiagramView> view(this);
+    const QPointF position = event->position();
+    event->accept();
+    if (isOfFingers(*event)) {
+        const QPointF pixels = event->pixelDelta();
+        d->pan(pixels.isNull() ? QPointF(event->angleDelta()) * (panOfKey / notch) : pixels);
+    } else if (event->angleDelta().y() != 0) {
+        d->zoom(std::pow(zoomOfNotch, event->angleDelta().y() / notch), position);
+    }
+    if (view) {
+        d->hover(position);
+    }
+}
+
+} // namespace ceiechart
