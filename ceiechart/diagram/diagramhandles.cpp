@@ -133,16 +133,21 @@ void DiagramView::cancelEditing()
     }
     // The button is still down; what it does from here is nothing.
     d->hand = Private::Hand::Spent;
-    d->edit.reset();
     d->updateCursor();
-    if (d->target() && !sameTargets(d->target()->gamut.getTargets(), d->before)) {
-        d->putTarget(d->before);
-        if (!d->tellEdit()) {
+    d->takeBack();
+}
+
+void DiagramView::Private::takeBack()
+{
+    edit.reset();
+    if (target() && !sameTargets(target()->gamut.getTargets(), before)) {
+        putTarget(before);
+        if (!tellEdit()) {
             return;
         }
     }
-    if (d->tell(&DiagramView::editingCanceled)) {
-        d->finishEditing();
+    if (tell(&DiagramView::editingCanceled)) {
+        finishEditing();
     }
 }
 

@@ -64,7 +64,7 @@ bool DiagramView::Private::wants(const QKeyEvent &event) const
 {
     const Qt::KeyboardModifiers modifiers = without(event.modifiers(), Qt::KeypadModifier);
     if (event.key() == Qt::Key_Escape) {
-        return hand == Hand::Holding || hand == Hand::Dragging;
+        return hand == Hand::Holding || hand == Hand::Dragging || selected;
     }
     if (!arrowDirection(event.key()).isNull() || isZoomIn(event) || isZoomOut(event)) {
         return true;
@@ -114,6 +114,7 @@ bool DiagramView::Private::nudge(QKeyEvent *event)
     if (!keysAreEditing && changesTarget(step.move)) {
         edit.reset();
         keysAreEditing = true;
+        before = target()->gamut.getTargets();
         if (!tell(&DiagramView::editingStarted) || !keysAreEditing || !selected || !hasHandles()) {
             return true;
         }
@@ -163,19 +164,32 @@ void DiagramView::Private::finishKeys()
     }
 }
 
+//! One step back at a time, and whether there was one: what remains belongs to the window, as the Esc of a dialog does.
+bool DiagramView::Private::escape()
+{
+    if (hand == Hand::Dragging) {
+        q->cancelEditing();
+    } else if (hand == Hand::Holding) {
+        hand = Hand::Spent;
+        updateCursor();
+    } else if (keysAreEditing) {
+        keysAreEditing = false;
+        arrowsDown.clear();
+        takeBack();
+    } else if (selected) {
+        q->setSelectedVertex(std::nullopt);
+    } else {
+        return false;
+    }
+    return true;
+}
+
 void DiagramView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape) {
-        if (d->hand == Private::Hand::Dragging) {
-            cancelEditing();
-            return;
+        if (!d->escape()) {
+            QWidget::keyPressEvent(event);
         }
-        if (d->hand == Private::Hand::Holding) {
-            d->hand = Private::Hand::Spent;
-            d->updateCursor();
-            return;
-        }
-        QWidget::keyPressEvent(event);
         return;
     }
     if (d->nudge(event)) {

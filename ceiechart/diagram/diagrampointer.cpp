@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <cstdlib>
 
 namespace ceiechart {
 
@@ -15,13 +16,11 @@ namespace {
 
 constexpr double zoomOfNotch = 1.25; // a notch is 120 units of the wheel
 constexpr double notch = 120.0;
+constexpr int scrollPause = 150; // milliseconds: after a longer one, fingers may have given way to a wheel
 
 //! Whether the wheel event is one of fingers on a pad, which pans, and not one of a wheel, which zooms.
 bool isOfFingers(const QWheelEvent &event)
 {
-    if (event.modifiers() & Qt::ControlModifier) {
-        return false;
-    }
     if (event.pixelDelta().isNull()) {
         // Not every platform tells the pixels of fingers; a wheel that is tilted wants to go sideways too.
         return event.phase() != Qt::NoScrollPhase || event.angleDelta().x() != 0;
@@ -45,8 +44,8 @@ void DiagramView::Private::press(const QPointF &position, Qt::MouseButton presse
         return;
     }
     button = pressed;
-    lastPosition = position;
-    isClick = true;
+    // The middle button has no click to be told from a drag.
+    grip = Grip(position, pressed == Qt::LeftButton ? QGuiApplication::styleHints()->startDragDistance() : 0.0);
     panRest = QPointF();
     const auto vertex = pressed == Qt::LeftButton ? handleAt(position) : std::nullopt;
     if (!vertex) {
@@ -71,20 +70,16 @@ void DiagramView::Private::press(const QPointF &position, Qt::MouseButton presse
 void DiagramView::Private::moveTo(const QPointF &position, Qt::KeyboardModifiers modifiers)
 {
     const QPointer<DiagramView> view(q);
-    const QPointF delta = position - lastPosition;
+    const QPointF way = grip.moveTo(position);
     switch (hand) {
     case Hand::Idle:
     case Hand::Spent:
         break;
     case Hand::Panning:
-        isClick = isClick && delta.isNull();
-        lastPosition = position;
-        pan(delta);
+        pan(way);
         break;
     case Hand::Holding:
-        // A finger that taps is never quite still; a mouse is.
-        if (delta.isNull() || !selected || !hasHandles()
-            || (touching && distance(position, lastPosition) < QGuiApplication::styleHints()->startDragDistance())) {
+        if (!grip.isMoving() || !selected || !hasHandles()) {
             break;
         }
         hand = Hand::Dragging;
@@ -98,9 +93,7 @@ void DiagramView::Private::moveTo(const QPointF &position, Qt::KeyboardModifiers
     case Hand::Dragging:
         // A host may have ended it in answer to the signal.
         if (hand == Hand::Dragging && edit) {
-            const QPointF way = viewport.toPoint(position) - viewport.toPoint(lastPosition);
-            lastPosition = position;
-            drag(way, modifiers);
+            drag(viewport.toPoint(way) - viewport.toPoint(QPointF()), modifiers);
         }
         break;
     }
@@ -115,7 +108,7 @@ void DiagramView::Private::release(Qt::MouseButton released)
         return;
     }
     const bool wasDragging = hand == Hand::Dragging;
-    const bool wasClick = hand == Hand::Panning && isClick && released == Qt::LeftButton;
+    const bool wasClick = hand == Hand::Panning && !grip.isMoving() && released == Qt::LeftButton;
     hand = Hand::Idle;
     button = Qt::NoButton;
     updateCursor();
@@ -259,11 +252,17 @@ void DiagramView::wheelEvent(QWheelEvent *event)
     const QPointer<DiagramView> view(this);
     const QPointF position = event->position();
     event->accept();
-    if (isOfFingers(*event)) {
+    const QPoint angle = event->angleDelta();
+    const bool isZoom = event->modifiers() & Qt::ControlModifier;
+    // Within one movement of fingers an event may look like a notch: straight up, or without pixels.
+    const bool goesOn
+        = event->phase() == Qt::NoScrollPhase && d->sinceScroll.isValid() && d->sinceScroll.elapsed() < scrollPause;
+    if (!isZoom && (goesOn || isOfFingers(*event))) {
         const QPointF pixels = event->pixelDelta();
-        d->pan(pixels.isNull() ? QPointF(event->angleDelta()) * (panOfKey / notch) : pixels);
-    } else if (event->angleDelta().y() != 0) {
-        d->zoom(std::pow(zoomOfNotch, event->angleDelta().y() / notch), position);
+        d->sinceScroll.start();
+        d->pan(pixels.isNull() ? QPointF(angle) * (panOfKey / notch) : pixels);
+    } else if (std::abs(angle.y()) > std::abs(angle.x())) {
+        d->zoom(std::pow(zoomOfNotch, angle.y() / notch), position);
     }
     if (view) {
         d->hover(position);

@@ -3,8 +3,10 @@
 #include <ceiechart/diagram/diagramview_p.h>
 
 #include <QGestureEvent>
+#include <QGuiApplication>
 #include <QNativeGestureEvent>
 #include <QPinchGesture>
+#include <QStyleHints>
 #include <QTouchEvent>
 
 #include <algorithm>
@@ -86,13 +88,26 @@ bool DiagramView::Private::touch(QTouchEvent *event)
             q->setFocus(Qt::MouseFocusReason);
         }
         if (view) {
+            tap.isSecond = tap.since.isValid()
+                && tap.since.elapsed() < QGuiApplication::styleHints()->mouseDoubleClickInterval()
+                && distance(fingers[0].at, tap.at) <= handleReach;
             press(fingers[0].at, Qt::LeftButton);
         }
     } else if (!pinching && fingers.size() == 1) {
         moveTo(fingers[0].at, event->modifiers());
     } else if (fingers.isEmpty()) {
+        const bool isTap = !pinching && hand == Hand::Panning && !grip.isMoving();
+        const bool isDoubleTap = isTap && tap.isSecond;
+        tap.since.invalidate();
+        if (isTap && !isDoubleTap) {
+            tap.since.start();
+            tap.at = grip.position();
+        }
         pinching = false;
         release(Qt::LeftButton);
+        if (view && isDoubleTap) {
+            zoomOrShowAll(grip.position());
+        }
         if (view) {
             endHover();
         }
@@ -122,20 +137,25 @@ bool DiagramView::Private::gesture(QGestureEvent *event)
     return true;
 }
 
+void DiagramView::Private::zoomOrShowAll(const QPointF &position)
+{
+    constexpr double closeUp = 4.0;
+    if (viewport.showsAll()) {
+        zoom(closeUp, position);
+    } else {
+        q->showAll();
+    }
+}
+
 bool DiagramView::Private::nativeGesture(QNativeGestureEvent *event)
 {
-    constexpr double smartZoom = 4.0;
     const QPointF position = ceiechart::positionOf(*event);
     switch (event->gestureType()) {
     case Qt::ZoomNativeGesture:
         zoom(std::max(0.1, 1.0 + event->value()), position);
         return true;
     case Qt::SmartZoomNativeGesture:
-        if (viewport.showsAll()) {
-            zoom(smartZoom, position);
-        } else {
-            q->showAll();
-        }
+        zoomOrShowAll(position);
         return true;
     default:
         return false;

@@ -3,9 +3,11 @@
 #define CEIECHART_DIAGRAM_DIAGRAMVIEW_P_H
 
 #include <ceiechart/diagram/diagramedit_p.h>
+#include <ceiechart/diagram/diagramhands_p.h>
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramview.h>
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QSet>
 #include <QTimer>
@@ -130,13 +132,18 @@ public:
     void selectByKey(GamutVertex vertex);
     //! Takes a drag back; the button or the finger has nothing in its hand any more.
     void endHand();
+    //! Ends an edit with the target that was there before it.
+    void takeBack();
     void finishEditing();
     void finishKeys();
+    bool escape();
     void dropLabel();
     void updateCursor();
     bool nudge(QKeyEvent *event);
     bool wants(const QKeyEvent &event) const;
     bool touch(QTouchEvent *event);
+    //! From the whole to a close-up at \a position, and back: what two taps do.
+    void zoomOrShowAll(const QPointF &position);
     bool gesture(QGestureEvent *event);
     bool nativeGesture(QNativeGestureEvent *event);
 
@@ -156,8 +163,7 @@ public:
 
     Hand hand = Hand::Idle;
     Qt::MouseButton button = Qt::NoButton;
-    QPointF lastPosition;
-    bool isClick = false; //!< the hand has not moved since it pressed
+    Grip grip;
     QPointF panRest; //!< what is left of a pan by whole device pixels
     std::optional<TargetEdit> edit;
     Model::Targets before; //!< what Esc brings back
@@ -177,6 +183,14 @@ public:
     std::pair<int, int> pinchFingers;
     QPointF pinchMiddle;
     double pinchLength = 0.0;
+    //! What a finger did last on free ground.
+    struct Tap {
+        QElapsedTimer since; //!< not running when it was no tap
+        QPointF at;
+        bool isSecond = false; //!< of the finger that is down
+    };
+    Tap tap;
+    QElapsedTimer sinceScroll; //!< of fingers on a pad
 
     DiagramOverlay overlay;
 };

@@ -17,6 +17,9 @@ private Q_SLOTS:
     void handlesAreHitWithin();
     void nearestHandleIsHit();
     void pressMovesNothing();
+    void trembleMovesNothing();
+    void dragsBeginWithoutAJump_data();
+    void dragsBeginWithoutAJump();
     void dragKeepsTheGrip();
     void dragTellsItsHost();
     void escapeBringsTheTargetBack();
@@ -32,6 +35,7 @@ private Q_SLOTS:
     void lockedHandlesSayWhy();
     void positionsAreRoundedToWhatIsShown();
     void clickOnFreeGroundSelectsNothing();
+    void trembleOnFreeGroundIsAClick();
 };
 
 void DiagramViewEditingTest::handlesAreHitWithin_data()
@@ -54,8 +58,8 @@ void DiagramViewEditingTest::handlesAreHitWithin()
         const QPointF xy = view.xy(GamutVertex::Green);
         const QPointF grip = view.at(GamutVertex::Green) + QPointF(std::cos(angle), std::sin(angle)) * distance;
         view.press(grip);
-        view.drag(grip + QPointF(9, 5));
-        view.release(grip + QPointF(9, 5));
+        view.drag(grip + QPointF(18, 10));
+        view.release(grip + QPointF(18, 10));
         QCOMPARE(view.xy(GamutVertex::Green) != xy, hit);
     }
 }
@@ -88,6 +92,60 @@ void DiagramViewEditingTest::pressMovesNothing()
     view.release(grip);
     QCOMPARE(edited.count() + started.count() + finished.count(), 0);
     QCOMPARE(*view.selectedVertex(), GamutVertex::Blue);
+}
+
+void DiagramViewEditingTest::trembleMovesNothing()
+{
+    View view;
+    const int threshold = QGuiApplication::styleHints()->startDragDistance();
+    QSignalSpy edited(&view, &DiagramView::targetEdited);
+    QSignalSpy started(&view, &DiagramView::editingStarted);
+    const Model::Targets before = view.gamut(GamutRole::Target)->getTargets();
+    const QPointF grip = view.at(GamutVertex::Green) + QPointF(3, 2);
+    view.press(grip);
+    for (const QPointF &way : {QPointF(1, 0), QPointF(2, -1), QPointF(0, threshold), QPointF(-threshold, 0)}) {
+        view.drag(grip + way);
+    }
+    view.release(grip + QPointF(-threshold, 0));
+    QCOMPARE(edited.count() + started.count(), 0);
+    QVERIFY(sameTargets(view.gamut(GamutRole::Target)->getTargets(), before));
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green);
+}
+
+void DiagramViewEditingTest::dragsBeginWithoutAJump_data()
+{
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<double>("share");
+    QTest::newRow("plain") << int(Qt::NoModifier) << 1.0;
+    QTest::newRow("slow") << int(Qt::ShiftModifier) << 0.1;
+}
+
+void DiagramViewEditingTest::dragsBeginWithoutAJump()
+{
+    QFETCH(int, modifiers);
+    QFETCH(double, share);
+    View view;
+    view.setDigits(10); // so that rounding plays no part
+    view.setZoomFactor(50.0);
+    view.setCentre(view.xy(GamutVertex::Green));
+    const QPointF start = view.at(GamutVertex::Green);
+    const QPointF grip = start + QPointF(7, -4);
+    const int threshold = QGuiApplication::styleHints()->startDragDistance();
+    view.press(grip);
+    double last = 0.0;
+    for (int i = 1; i <= 3 * threshold; ++i) {
+        view.drag(grip + QPointF(i, 0), Qt::KeyboardModifiers(modifiers));
+        const QPointF way = view.at(GamutVertex::Green) - start;
+        QVERIFY(std::fabs(way.y()) < 0.1);
+        if (i <= threshold) {
+            QVERIFY(length(way) < 1e-6);
+        }
+        // Double the way of the hand at most, and then the grip is what it was.
+        QVERIFY2(way.x() - last < 2.0 * share + 0.1, qPrintable(QString::number(way.x() - last)));
+        last = way.x();
+    }
+    QVERIFY2(std::fabs(last - 3.0 * threshold * share) < 0.1, qPrintable(QString::number(last)));
+    view.release(grip);
 }
 
 void DiagramViewEditingTest::dragKeepsTheGrip()
@@ -365,6 +423,18 @@ void DiagramViewEditingTest::clickOnFreeGroundSelectsNothing()
     view.press(ground);
     view.release(ground);
     QVERIFY(!view.selectedVertex());
+}
+
+void DiagramViewEditingTest::trembleOnFreeGroundIsAClick()
+{
+    View view;
+    view.setSelectedVertex(GamutVertex::Green);
+    const QPointF ground = freeGround(view);
+    view.press(ground);
+    view.drag(ground + QPointF(2, -1));
+    view.release(ground + QPointF(2, -1));
+    QVERIFY(!view.selectedVertex());
+    QVERIFY(view.viewport().showsAll());
 }
 
 QTEST_MAIN(DiagramViewEditingTest)

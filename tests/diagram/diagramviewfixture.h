@@ -5,8 +5,10 @@
 #include <ceiechart/diagram/diagramview.h>
 #include <ceiechart/diagram/diagramview_p.h>
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QSignalSpy>
+#include <QStyleHints>
 #include <QWheelEvent>
 #include <QtTest>
 

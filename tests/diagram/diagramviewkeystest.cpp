@@ -27,6 +27,9 @@ private Q_SLOTS:
     void unseenHandlesAreBroughtIntoView();
     void keysDoNotChangeTheHandleInADrag();
     void escapeWithAHeldHandleIsTakenByTheView();
+    void escapeLetsGoOfTheHandle();
+    void escapeTakesHeldArrowsBack();
+    void keysOfTheViewKeepTheHandle();
 };
 
 void DiagramViewKeysTest::arrowsMoveTheHandle_data()
@@ -270,6 +273,61 @@ void DiagramViewKeysTest::escapeWithAHeldHandleIsTakenByTheView()
     view.drag(start + QPointF(20, -10));
     view.release(start + QPointF(20, -10));
     QCOMPARE(started.count(), 0);
+}
+
+void DiagramViewKeysTest::escapeLetsGoOfTheHandle()
+{
+    View view;
+    view.setSelectedVertex(GamutVertex::Green);
+    const auto isTaken = [&view](QEvent::Type type) {
+        QKeyEvent escape(type, Qt::Key_Escape, Qt::NoModifier);
+        escape.setAccepted(type == QEvent::KeyPress); // as they come from the system
+        QCoreApplication::sendEvent(&view, &escape);
+        return escape.isAccepted();
+    };
+    QVERIFY(isTaken(QEvent::ShortcutOverride));
+    QVERIFY(isTaken(QEvent::KeyPress));
+    QVERIFY(!view.selectedVertex());
+    // The next is the window's.
+    QVERIFY(!isTaken(QEvent::ShortcutOverride));
+    QVERIFY(!isTaken(QEvent::KeyPress));
+    // After a drag that was cancelled, the handle is still selected.
+    const QPointF start = view.at(GamutVertex::Green);
+    view.press(start);
+    view.drag(start + QPointF(20, -10));
+    QTest::keyClick(&view, Qt::Key_Escape);
+    view.release(start + QPointF(20, -10));
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green);
+    QTest::keyClick(&view, Qt::Key_Escape);
+    QVERIFY(!view.selectedVertex());
+}
+
+void DiagramViewKeysTest::escapeTakesHeldArrowsBack()
+{
+    View view;
+    view.setSelectedVertex(GamutVertex::Green);
+    const Model::Targets before = view.gamut(GamutRole::Target)->getTargets();
+    QStringList told;
+    connect(&view, &DiagramView::targetEdited, [&] { told.append(QStringLiteral("edited")); });
+    connect(&view, &DiagramView::editingCanceled, [&] { told.append(QStringLiteral("canceled")); });
+    connect(&view, &DiagramView::editingFinished, [&] { told.append(QStringLiteral("finished")); });
+    QTest::keyPress(&view, Qt::Key_Right);
+    QTest::keyPress(&view, Qt::Key_Right);
+    QTest::keyClick(&view, Qt::Key_Escape);
+    QTest::keyRelease(&view, Qt::Key_Right);
+    QVERIFY(sameTargets(view.gamut(GamutRole::Target)->getTargets(), before));
+    QCOMPARE(told.join(QLatin1Char(' ')), QStringLiteral("edited edited edited canceled finished"));
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green);
+}
+
+void DiagramViewKeysTest::keysOfTheViewKeepTheHandle()
+{
+    View view;
+    view.setSelectedVertex(GamutVertex::Green);
+    view.setZoomFactor(10.0);
+    QTest::keyClick(&view, Qt::Key_0);
+    QVERIFY(view.viewport().showsAll());
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green);
 }
 
 QTEST_MAIN(DiagramViewKeysTest)

@@ -60,6 +60,7 @@ void DiagramViewLabelsTest::labelCoversNothingOfIt()
     for (const GamutVertex vertex : allGamutVertices) {
         const QPointF start = view.at(vertex);
         view.press(start);
+        view.drag(start + QPointF(30, 0)); // to begin with
         for (double angle = 0.35; angle < 12.5; angle += 0.35) {
             view.drag(start + QPointF(std::cos(angle), std::sin(angle)) * 4.0 * angle);
             const QRectF label = view.d->overlay.labelPlace;
@@ -151,7 +152,7 @@ void DiagramViewLabelsTest::labelHasRoomInSmallViews()
     for (const GamutVertex vertex : allGamutVertices) {
         const QPointF start = view.at(vertex);
         view.press(start);
-        view.drag(start + QPointF(3, 2));
+        view.drag(start + QPointF(13, 9));
         const QStringList label = view.d->overlay.label;
         QVERIFY(!label.isEmpty());
         QVERIFY(view.d->labelEntries().first() == label.first());

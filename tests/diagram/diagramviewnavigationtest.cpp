@@ -33,6 +33,8 @@ private Q_SLOTS:
     void fingersOnAPadPan();
     void fingersWithoutPixelsPan();
     void wheelsWithPixelsZoom();
+    void crookedScrollsDoNotZoom_data();
+    void crookedScrollsDoNotZoom();
     void middleButtonPans();
     void freeGroundPans();
     void panKeepsWhatIsLeft();
@@ -183,6 +185,36 @@ void DiagramViewNavigationTest::wheelsWithPixelsZoom()
     // Some platforms give pixels for the notches of a wheel.
     view.wheel(QPointF(300, 300), QPoint(0, 120), QPoint(0, 120));
     QVERIFY(view.zoomFactor() > 1.0);
+}
+
+void DiagramViewNavigationTest::crookedScrollsDoNotZoom_data()
+{
+    QTest::addColumn<QVector<QPoint>>("angles");
+    QTest::addColumn<bool>("hasPixels");
+    QTest::addColumn<int>("modifiers");
+    const int plain = Qt::NoModifier;
+    // Events without phases, as X11 has them.
+    QTest::newRow("tilted") << QVector<QPoint>{{-120, 7}} << false << plain;
+    QTest::newRow("pad") << QVector<QPoint>{{-96, 13}} << true << plain;
+    QTest::newRow("one coordinate at a time") << QVector<QPoint>{{-96, 0}, {0, 13}, {-80, 0}} << false << plain;
+    QTest::newRow("like a notch amid a scroll") << QVector<QPoint>{{-96, 8}, {0, 120}} << true << plain;
+    QTest::newRow("with Ctrl") << QVector<QPoint>{{-120, 7}} << false << int(Qt::ControlModifier);
+}
+
+void DiagramViewNavigationTest::crookedScrollsDoNotZoom()
+{
+    QFETCH(QVector<QPoint>, angles);
+    QFETCH(bool, hasPixels);
+    QFETCH(int, modifiers);
+    View view;
+    view.setZoomFactor(10.0);
+    const QPointF xy(0.3, 0.35);
+    const QPointF before = view.at(xy);
+    for (const QPoint &angle : angles) {
+        view.wheel(QPointF(300, 300), angle, hasPixels ? angle / 8 : QPoint(), Qt::KeyboardModifiers(modifiers));
+        QCOMPARE(view.zoomFactor(), 10.0);
+    }
+    QCOMPARE(view.at(xy) != before, modifiers == Qt::NoModifier);
 }
 
 void DiagramViewNavigationTest::middleButtonPans()

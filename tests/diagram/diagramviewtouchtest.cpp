@@ -20,6 +20,8 @@ private Q_SLOTS:
     void secondFingerTakesADragBack();
     void otherFingersBeginAnew();
     void tapsOfAFingerMoveNothing();
+    void doubleTapsZoomAtTheFinger();
+    void doubleTapsOnHandlesSelect();
 };
 
 void DiagramViewTouchTest::nativeGesturesZoom()
@@ -140,6 +142,55 @@ void DiagramViewTouchTest::tapsOfAFingerMoveNothing()
     QTest::touchEvent(&view, device).release(0, finger + QPoint(2, 1), &view);
     QCOMPARE(started.count(), 0);
     QCOMPARE(*view.selectedVertex(), GamutVertex::Red);
+}
+
+void DiagramViewTouchTest::doubleTapsZoomAtTheFinger()
+{
+    auto *device = QTest::createTouchDevice();
+    View view;
+    const QPoint finger = freeGround(view).toPoint();
+    const QPointF xy = view.viewport().toChromaticity(finger);
+    const auto tap = [&](const QPoint &at) {
+        QTest::touchEvent(&view, device).press(0, at, &view);
+        QTest::touchEvent(&view, device).move(0, at + QPoint(1, 2), &view);
+        QTest::touchEvent(&view, device).release(0, at + QPoint(1, 2), &view);
+    };
+    tap(finger);
+    QVERIFY(view.viewport().showsAll());
+    tap(finger + QPoint(6, -8));
+    QVERIFY(view.zoomFactor() > 2.0);
+    QVERIFY(length(view.at(xy) - finger) < 40.0);
+    // A third one is the first of the next two, which bring all back.
+    const double closer = view.zoomFactor();
+    tap(finger);
+    QCOMPARE(view.zoomFactor(), closer);
+    tap(finger);
+    QVERIFY(view.viewport().showsAll());
+    // Not after too long, nor far apart, nor after a pan.
+    tap(finger);
+    QTest::qWait(QGuiApplication::styleHints()->mouseDoubleClickInterval() + 50);
+    tap(finger);
+    QVERIFY(view.viewport().showsAll());
+    tap(finger + QPoint(0, 80));
+    QVERIFY(view.viewport().showsAll());
+    QTest::touchEvent(&view, device).press(0, finger, &view);
+    QTest::touchEvent(&view, device).move(0, finger + QPoint(30, 30), &view);
+    QTest::touchEvent(&view, device).release(0, finger + QPoint(30, 30), &view);
+    tap(finger + QPoint(30, 30));
+    QCOMPARE(view.zoomFactor(), 1.0);
+}
+
+void DiagramViewTouchTest::doubleTapsOnHandlesSelect()
+{
+    auto *device = QTest::createTouchDevice();
+    View view;
+    const QPoint finger = view.at(GamutVertex::Green).toPoint();
+    for (int i = 0; i < 2; ++i) {
+        QTest::touchEvent(&view, device).press(0, finger, &view);
+        QTest::touchEvent(&view, device).release(0, finger, &view);
+    }
+    QVERIFY(view.viewport().showsAll());
+    QCOMPARE(*view.selectedVertex(), GamutVertex::Green);
 }
 
 QTEST_MAIN(DiagramViewTouchTest)
