@@ -2,6 +2,8 @@
 #include <ceiechart/diagram/diagramhands_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
 
+#include <QGuiApplication>
+
 #include <cmath>
 
 namespace ceiechart {
@@ -51,6 +53,26 @@ void DiagramView::Private::drag(const QPointF &way, Qt::KeyboardModifiers modifi
     hands.reach = isFree ? 0.0 : snapPixels / viewport.scale();
     hands.decimals = decimals();
     apply(edit->moveBy(*rules, way, hands));
+}
+
+void DiagramView::Private::followHand(const QPointF &point)
+{
+    const QPointF way = viewport.toPoint(grip.position()) - point;
+    if (!std::isfinite(way.x()) || !std::isfinite(way.y())) {
+        return; // of a view without any size
+    }
+    if (hand == Hand::Holding) {
+        slipped += way;
+    } else if (hand == Hand::Dragging && edit && !way.isNull()) {
+        edit->shift(way);
+        // Not at once: a host is told of the step, and may be in the midst of what moved the diagram.
+        const auto follow = [this] {
+            if (hand == Hand::Dragging && edit) {
+                drag(QPointF(), QGuiApplication::keyboardModifiers());
+            }
+        };
+        QMetaObject::invokeMethod(q, follow, Qt::QueuedConnection);
+    }
 }
 
 bool DiagramView::Private::apply(const EditStep &step)

@@ -5,6 +5,12 @@
 
 namespace ceiechart {
 
+namespace {
+
+constexpr double catchingUp = 2.0; // pixels to each of the hand's own
+
+} // namespace
+
 QPointF Grip::moveTo(const QPointF &position)
 {
     QPointF way = position - m_position;
@@ -21,7 +27,7 @@ QPointF Grip::moveTo(const QPointF &position)
     }
     const double owed = distance(m_owed, QPointF());
     if (owed > 0.0) {
-        const QPointF paid = m_owed * std::min(1.0, distance(way, QPointF()) / owed);
+        const QPointF paid = m_owed * std::min(1.0, catchingUp * distance(way, QPointF()) / owed);
         m_owed -= paid;
         way += paid;
     }

@@ -32,8 +32,8 @@ inline double distance(const QPointF &a, const QPointF &b)
  * The way of a hand that has taken hold of something.
  *
  * No hand is quite still: nothing moves before it is farther than a threshold from where it pressed. Then what is held
- * sets out from its place and goes at double pace until it has made up for the threshold. It never jumps, and the hand
- * soon has it again where it took hold of it.
+ * sets out from its place and goes faster than the hand until it has made up for the threshold. It never jumps, and the
+ * hand soon has it again where it took hold of it.
  */
 class Grip {
 public:

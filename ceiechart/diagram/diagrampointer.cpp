@@ -46,7 +46,7 @@ void DiagramView::Private::press(const QPointF &position, Qt::MouseButton presse
     button = pressed;
     // The middle button has no click to be told from a drag.
     grip = Grip(position, pressed == Qt::LeftButton ? QGuiApplication::styleHints()->startDragDistance() : 0.0);
-    panRest = QPointF();
+    panRest = slipped = QPointF();
     const auto vertex = pressed == Qt::LeftButton ? handleAt(position) : std::nullopt;
     if (!vertex) {
         hand = Hand::Panning;
@@ -85,6 +85,7 @@ void DiagramView::Private::moveTo(const QPointF &position, Qt::KeyboardModifiers
         hand = Hand::Dragging;
         before = target()->gamut.getTargets();
         edit.emplace(context(), *selected);
+        edit->shift(slipped);
         lastReason.clear();
         if (!tell(&DiagramView::editingStarted)) {
             return;

@@ -1074,7 +1074,12 @@ void DiagramView::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     const bool showsAll = d->viewport.showsAll();
     const DiagramViewport wanted = d->viewport.resized(QSizeF(size()));
+    const QPointF held = d->viewport.toPoint(d->grip.position());
+    const QPointer<DiagramView> view(this);
     d->look(showsAll ? wanted.fittedToAll() : wanted);
+    if (view) {
+        d->followHand(held);
+    }
 }
 
 void DiagramView::hideEvent(QHideEvent *event)

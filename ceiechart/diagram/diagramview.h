@@ -49,7 +49,7 @@ namespace ceiechart {
  *
  * A press becomes a drag when the pointer is farther away from it than QStyleHints::startDragDistance(): within that, a
  * handle is selected and nothing moves. Then the handle sets out from its place without a jump, slow drags too, and
- * has caught up with the pointer after as much again. Only Esc and a click on free ground let go of the handle that is
+ * has caught up with the pointer after half as much again. Only Esc and a click on free ground let go of the handle that is
  * selected: looking elsewhere does not.
  *
  * Handles are shown unless the view is read-only or has no target. Each handle and each gamut is an accessible object.

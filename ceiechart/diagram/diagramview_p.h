@@ -123,6 +123,8 @@ public:
     void hover(const QPointF &position);
     void endHover();
     void drag(const QPointF &way, Qt::KeyboardModifiers modifiers);
+    //! The diagram has moved below the hand, which held on to \a point: what it drags comes along.
+    void followHand(const QPointF &point);
     bool apply(const EditStep &step);
     bool changesTarget(const TargetMove &move) const;
     //! Says why \a vertex cannot be moved, and whether the view is still there.
@@ -164,6 +166,7 @@ public:
     Hand hand = Hand::Idle;
     Qt::MouseButton button = Qt::NoButton;
     Grip grip;
+    QPointF slipped; //!< by how much the diagram has moved below a hand that does not drag yet
     QPointF panRest; //!< what is left of a pan by whole device pixels
     std::optional<TargetEdit> edit;
     Model::Targets before; //!< what Esc brings back
