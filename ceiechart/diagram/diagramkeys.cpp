@@ -254,7 +254,11 @@ void DiagramView::focusOutEvent(QFocusEvent *event)
     QWidget::focusOutEvent(event);
     d->refreshOverlay();
     update();
-    d->finishKeys();
+    if (isHidden() || !isEnabled()) {
+        d->letGo(); // the focus goes before the view is told
+    } else {
+        d->finishKeys();
+    }
 }
 
 bool DiagramView::focusNextPrevChild(bool next)
@@ -262,7 +266,8 @@ bool DiagramView::focusNextPrevChild(bool next)
     if (d->hand == Private::Hand::Dragging) {
         return true;
     }
-    if (hasFocus() && d->hasHandles()) {
+    // Qt passes the focus of a view on, too, that is being hidden or disabled.
+    if (hasFocus() && d->hasHandles() && isVisible() && isEnabled()) {
         const int count = int(allGamutVertices.size());
         const int from = d->selected ? int(*d->selected) : (next ? -1 : count);
         const int to = next ? from + 1 : from - 1;

@@ -131,6 +131,29 @@ void DiagramView::Private::endHand()
     }
 }
 
+void DiagramView::Private::letGo()
+{
+    isLettingGo = true;
+    touching = pinching = false;
+    endHand();
+    finishKeys();
+    endHover();
+    isLettingGo = false;
+    QMetaObject::invokeMethod(
+        q, [this] { tellUntold(); }, Qt::QueuedConnection);
+}
+
+bool DiagramView::Private::tellUntold()
+{
+    const QPointer<DiagramView> view(q);
+    while (view && !untold.empty()) {
+        const std::function<void()> tell = std::move(untold.front());
+        untold.pop_front();
+        tell();
+    }
+    return !view.isNull();
+}
+
 void DiagramView::Private::hover(const QPointF &position)
 {
     pointer = position;

@@ -719,7 +719,7 @@ void DiagramView::setContent(const DiagramContent &content)
     if (areOtherColors && !d->tell(&DiagramView::horseshoeColorsChanged)) {
         return;
     }
-    Q_EMIT gamutsChanged();
+    d->tell(&DiagramView::gamutsChanged);
 }
 
 void DiagramView::setGamuts(const QVector<DiagramGamut> &gamuts)
@@ -823,7 +823,7 @@ void DiagramView::setSelectedVertex(std::optional<GamutVertex> vertex)
     if (vertex && hasFocus()) {
         announceFocus(this, *vertex);
     }
-    Q_EMIT selectedVertexChanged();
+    d->tell(&DiagramView::selectedVertexChanged);
 }
 
 void DiagramView::paint(QPainter *painter, const QRectF &place) const
@@ -875,7 +875,7 @@ void DiagramView::setDiagram(Model::Diagram diagram)
     update();
     d->look(d->viewport.withDiagram(diagram));
     if (view) {
-        Q_EMIT diagramChanged();
+        d->tell(&DiagramView::diagramChanged);
     }
 }
 
@@ -895,7 +895,7 @@ void DiagramView::setLayers(ShownLayers layers)
     d->change(changed);
     if (view) {
         announceGamuts(this);
-        Q_EMIT layersChanged();
+        d->tell(&DiagramView::layersChanged);
     }
 }
 
@@ -916,7 +916,7 @@ void DiagramView::setHorseshoeColors(HorseshoeColors colors)
     const QPointer<DiagramView> view(this);
     d->change(changed);
     if (view) {
-        Q_EMIT horseshoeColorsChanged();
+        d->tell(&DiagramView::horseshoeColorsChanged);
     }
 }
 
@@ -955,7 +955,7 @@ void DiagramView::setReadOnly(bool readOnly)
     d->refreshOverlay();
     update();
     announceGamuts(this);
-    Q_EMIT readOnlyChanged();
+    d->tell(&DiagramView::readOnlyChanged);
 }
 
 void DiagramView::setDigits(int digits)
@@ -966,7 +966,7 @@ void DiagramView::setDigits(int digits)
         d->digits = wanted;
         d->refreshOverlay();
         update();
-        Q_EMIT digitsChanged();
+        d->tell(&DiagramView::digitsChanged);
     }
 }
 
@@ -976,7 +976,7 @@ void DiagramView::setReadoutShown(bool shown)
         d->readoutShown = shown;
         d->refreshOverlay();
         update();
-        Q_EMIT readoutShownChanged();
+        d->tell(&DiagramView::readoutShownChanged);
     }
 }
 
@@ -991,7 +991,7 @@ void DiagramView::setEditNote(const QString &note)
         d->refreshOverlay();
         update(former + d->overlayRegion(d->overlay));
     }
-    Q_EMIT editNoteChanged();
+    d->tell(&DiagramView::editNoteChanged);
 }
 
 void DiagramView::zoomIn()
@@ -1085,14 +1085,8 @@ void DiagramView::resizeEvent(QResizeEvent *event)
 void DiagramView::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    // Its release will go elsewhere.
-    const QPointer<DiagramView> view(this);
     d->forgetPictures();
-    d->touching = d->pinching = false;
-    d->endHand();
-    if (view) {
-        d->endHover();
-    }
+    d->letGo(); // releases will go elsewhere
 }
 
 void DiagramView::changeEvent(QEvent *event)
@@ -1110,6 +1104,11 @@ void DiagramView::changeEvent(QEvent *event)
     case QEvent::LanguageChange:
         announceGamuts(this);
         d->change(d->content);
+        break;
+    case QEvent::EnabledChange:
+        if (!isEnabled()) {
+            d->letGo();
+        }
         break;
     case QEvent::LayoutDirectionChange:
         d->refreshOverlay();

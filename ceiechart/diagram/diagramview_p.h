@@ -12,6 +12,8 @@
 #include <QSet>
 #include <QTimer>
 
+#include <deque>
+#include <functional>
 #include <utility>
 
 class QAccessibleEvent;
@@ -72,14 +74,24 @@ public:
     /*!
      * Emits \a signal and says whether the view is still there, as a slot may delete it. Whoever calls a function that
      * emits and goes on afterwards looks too.
+     *
+     * What is told while Qt hides the view is kept until Qt has done with it, in order.
      */
     template <typename Signal, typename... Args>
     bool tell(Signal signal, const Args &...args)
     {
+        if (isLettingGo) {
+            untold.push_back([this, signal, args...] { Q_EMIT(q->*signal)(args...); });
+            return true;
+        }
         const QPointer<DiagramView> view(q);
+        if (!tellUntold()) {
+            return false;
+        }
         Q_EMIT(q->*signal)(args...);
         return !view.isNull();
     }
+    bool tellUntold();
     bool tellEdit();
 
     // Content
@@ -134,6 +146,8 @@ public:
     void selectByKey(GamutVertex vertex);
     //! Takes a drag back; the button or the finger has nothing in its hand any more.
     void endHand();
+    //! Ends all that hands do, of a view that can be used no more. It is told later: Qt is not done with the view.
+    void letGo();
     //! Ends an edit with the target that was there before it.
     void takeBack();
     void finishEditing();
@@ -196,6 +210,9 @@ public:
     QElapsedTimer sinceScroll; //!< of fingers on a pad
 
     DiagramOverlay overlay;
+
+    bool isLettingGo = false;
+    std::deque<std::function<void()>> untold; //!< the first is told first
 };
 
 //! Makes the view's accessible objects known; once is enough.

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "diagramviewfixture.h"
 
+#include <QApplication>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
 #include <functional>
 #include <memory>
 
@@ -37,6 +41,9 @@ private Q_SLOTS:
     void hostsMayEndADrag();
     void moveVertexIsAnEdit();
     void hidingLetsGo();
+    void hidingTellsInOrder();
+    void viewsWithoutHandsPassTheFocusOn_data();
+    void viewsWithoutHandsPassTheFocusOn();
     void slotsMayDeleteTheView_data();
     void slotsMayDeleteTheView();
     void slotsMayTakeTheTargetAway_data();
@@ -147,6 +154,82 @@ void DiagramViewHostTest::hidingLetsGo()
     view.release(start + QPointF(10, 10));
 }
 
+void DiagramViewHostTest::hidingTellsInOrder()
+{
+    View view;
+    QStringList told;
+    connect(&view, &DiagramView::targetEdited, &view, [&] { told.append(QStringLiteral("edited")); });
+    connect(&view, &DiagramView::gamutsChanged, &view,
+        [&] { told.append(QString::fromStdString(view.gamut(GamutRole::Target)->colorGamutName())); });
+    connect(&view, &DiagramView::editingCanceled, &view, [&] { told.append(QStringLiteral("canceled")); });
+    connect(&view, &DiagramView::editingFinished, &view, [&] { told.append(QStringLiteral("finished")); });
+    connect(&view, &DiagramView::hoverEnded, &view, [&] { told.append(QStringLiteral("left")); });
+    const Model::Targets before = view.gamut(GamutRole::Target)->getTargets();
+    const QPointF start = view.at(GamutVertex::Green);
+    for (const bool setsAnother : {false, true}) {
+        view.show();
+        view.press(start);
+        view.drag(start + QPointF(15, 15));
+        told.clear();
+        view.hide();
+        QVERIFY(sameTargets(view.gamut(GamutRole::Target)->getTargets(), before));
+        QVERIFY(!view.isEditing());
+        QVERIFY(told.isEmpty());
+        if (setsAnother) {
+            // What is told later must not come first.
+            view.setTarget(Model::dciP3D65());
+            QCOMPARE(told.size(), 6);
+            QCOMPARE(told.takeLast(), QStringLiteral("DCI-P3(D65)"));
+            told[1] = QStringLiteral("Rec.709"); // it already has the other when it is told of the first change
+        }
+        view.paintAll();
+        QCOMPARE(told,
+            QStringList({QStringLiteral("edited"), QStringLiteral("Rec.709"), QStringLiteral("canceled"),
+                QStringLiteral("finished"), QStringLiteral("left")}));
+    }
+    // A key that is held is no edit of a hidden view either.
+    view.show();
+    view.setSelectedVertex(GamutVertex::Green);
+    QTest::keyPress(&view, Qt::Key_Right);
+    told.clear();
+    view.hide();
+    QVERIFY(told.isEmpty());
+    view.paintAll();
+    QCOMPARE(told, QStringList({QStringLiteral("finished")}));
+}
+
+void DiagramViewHostTest::viewsWithoutHandsPassTheFocusOn_data()
+{
+    QTest::addColumn<bool>("isHidden");
+    QTest::newRow("hidden") << true;
+    QTest::newRow("disabled") << false;
+}
+
+void DiagramViewHostTest::viewsWithoutHandsPassTheFocusOn()
+{
+    QFETCH(bool, isHidden);
+    QWidget window;
+    auto *view = new DiagramView(&window);
+    auto *next = new QLineEdit(&window);
+    auto *layout = new QVBoxLayout(&window);
+    layout->addWidget(view);
+    layout->addWidget(next);
+    view->setTarget(Model::rec709());
+    window.resize(400, 500);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    view->setFocus();
+    view->setSelectedVertex(GamutVertex::Green);
+    if (isHidden) {
+        view->hide();
+    } else {
+        view->setEnabled(false);
+    }
+    QVERIFY(next->hasFocus());
+    QCOMPARE(*view->selectedVertex(), GamutVertex::Green);
+}
+
 void DiagramViewHostTest::slotsMayDeleteTheView_data()
 {
     QTest::addColumn<QByteArray>("signal");
@@ -176,6 +259,14 @@ void DiagramViewHostTest::slotsMayDeleteTheView()
         }
         if (alive) {
             view.release(start);
+        }
+    };
+    const auto hide = [](View &view, const QPointer<View> &alive) {
+        if (alive) {
+            view.hide();
+        }
+        if (alive) {
+            view.paintAll();
         }
     };
     const Hands all[] = {
@@ -224,6 +315,42 @@ void DiagramViewHostTest::slotsMayDeleteTheView()
             }
             if (alive) {
                 view.clearGamuts(GamutRole::Target);
+            }
+        },
+        [&](View &view, const QPointer<View> &alive) {
+            // Within what Qt does to hide a view, too, which goes on with it afterwards.
+            const QPointF start = view.at(GamutVertex::Green);
+            view.press(start);
+            if (alive) {
+                view.drag(start + QPointF(15, 10));
+            }
+            hide(view, alive);
+        },
+        [&](View &view, const QPointer<View> &alive) {
+            QApplication::setActiveWindow(&view);
+            view.setFocus();
+            view.setSelectedVertex(GamutVertex::Green);
+            if (alive) {
+                QTest::keyPress(&view, Qt::Key_Right);
+            }
+            hide(view, alive);
+        },
+        [&](View &view, const QPointer<View> &alive) {
+            view.hover(view.viewport().plot().center());
+            hide(view, alive);
+        },
+        [&](View &view, const QPointer<View> &alive) {
+            QApplication::setActiveWindow(&view);
+            view.setFocus();
+            view.setSelectedVertex(GamutVertex::Green);
+            if (alive) {
+                QTest::keyPress(&view, Qt::Key_Right);
+            }
+            if (alive) {
+                view.setEnabled(false);
+            }
+            if (alive) {
+                view.paintAll();
             }
         },
     };
