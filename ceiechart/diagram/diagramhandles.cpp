@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ceiechart {
@@ -118,7 +119,14 @@ bool DiagramView::Private::apply(const EditStep &step)
 
 bool DiagramView::Private::changesTarget(const TargetMove &move) const
 {
-    return move.targets && target() && !sameTargets(*move.targets, target()->gamut.getTargets());
+    if (!move.targets || !target() || sameTargets(*move.targets, target()->gamut.getTargets())) {
+        return false;
+    }
+    // Rules of a host could give what cannot be shown, and then could not be moved back.
+    return std::all_of(allGamutVertices.begin(), allGamutVertices.end(), [&move](GamutVertex vertex) {
+        const Model::Target &moved = targetAt(*move.targets, vertex);
+        return std::isfinite(moved.x) && std::isfinite(moved.y);
+    });
 }
 
 bool DiagramView::Private::tellEdit()

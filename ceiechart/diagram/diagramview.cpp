@@ -687,6 +687,9 @@ QString DiagramView::coordinatesText(const QPointF &xy) const
 {
     const Model::DiagramTraits &traits = Model::diagramTraits(diagram());
     const Model::DiagramPoint point = Model::toDiagram(diagram(), {xy.x(), xy.y()});
+    if (!std::isfinite(point.x) || !std::isfinite(point.y)) {
+        return tr("not known", "coordinates");
+    }
     const int decimals = d->decimals();
     return QStringLiteral("%1 %2  %3 %4")
         .arg(QString::fromUtf8(traits.xName), coordinateText(point.x, decimals), QString::fromUtf8(traits.yName),

@@ -136,7 +136,11 @@ public:
     /*! \brief The rules of editing, never null; by default a StandardTargetRules of its own. */
     std::shared_ptr<const TargetRules> rules() const;
 
-    /*! \brief \a xy in the coordinates of the diagram, as readout and labels show it: "x 0.3127  y 0.3290". */
+    /*!
+     * \brief \a xy in the coordinates of the diagram, as readout and labels show it: "x 0.3127  y 0.3290".
+     *
+     * "not known" for what has no finite coordinates there.
+     */
     QString coordinatesText(const QPointF &xy) const;
 
     /*! \brief Which handle the keyboard moves; nothing for none. */

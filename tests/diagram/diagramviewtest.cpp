@@ -1,10 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "diagramviewfixture.h"
 
+#include <QAccessible>
+#include <QRegularExpression>
 #include <cmath>
+
+#include <algorithm>
+#include <functional>
 #include <limits>
+#include <memory>
 
 using namespace diagramtests;
+
+namespace {
+
+int warnings = 0;
+
+void countWarning(QtMsgType, const QMessageLogContext &, const QString &)
+{
+    ++warnings;
+}
+
+} // namespace
 
 class DiagramViewTest : public QObject {
     Q_OBJECT
@@ -14,6 +31,9 @@ private Q_SLOTS:
     void propertiesNotify();
     void settingsThatStayTellNothing();
     void badSettingsAreIgnored();
+    void unknownChromaticitiesAreNotShown_data();
+    void unknownChromaticitiesAreNotShown();
+    void rulesCannotMakeTheTargetUnknown();
     void recordsGoInAndComeOut();
     void layersAreSwitched();
     void invisibleTargetsStayInvisible();
@@ -92,6 +112,109 @@ void DiagramViewTest::badSettingsAreIgnored()
     QVERIFY(!view.moveVertex(GamutVertex::Red, QPointF(std::numeric_limits<double>::quiet_NaN(), 0.3)));
     view.setRules(nullptr);
     QVERIFY(view.rules());
+}
+
+void DiagramViewTest::unknownChromaticitiesAreNotShown_data()
+{
+    QTest::addColumn<double>("unknown");
+    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("infinite") << std::numeric_limits<double>::infinity();
+    QTest::newRow("infinite below") << -std::numeric_limits<double>::infinity();
+}
+
+void DiagramViewTest::unknownChromaticitiesAreNotShown()
+{
+    QFETCH(double, unknown);
+    for (const GamutRole role : {GamutRole::Target, GamutRole::Original, GamutRole::Measured, GamutRole::Standard}) {
+        for (const GamutVertex vertex : allGamutVertices) {
+            for (const bool isX : {true, false}) {
+                View view;
+                warnings = 0;
+                const QtMessageHandler former = qInstallMessageHandler(countWarning);
+                Model::Targets targets = Model::dciP3D65().getTargets();
+                Model::Target &target = targetAt(targets, vertex);
+                (isX ? target.x : target.y) = unknown;
+                QVector<DiagramGamut> gamuts = view.gamuts();
+                gamuts.erase(std::remove_if(gamuts.begin(), gamuts.end(),
+                                 [role](const DiagramGamut &gamut) { return gamut.role == role; }),
+                    gamuts.end());
+                gamuts.append({Model::ColorGamut("partly known", targets), role, true});
+                view.setSelectedVertex(vertex);
+                view.setGamuts(gamuts);
+                const bool isWhite = vertex == GamutVertex::White;
+                QCOMPARE(view.content().shows(view.gamuts().last()), isWhite && role != GamutRole::Target);
+                QCOMPARE(view.d->overlay.handles.isEmpty(), role == GamutRole::Target);
+                QCOMPARE(view.selectedVertex().has_value(), role != GamutRole::Target);
+                // Every hand, all parts of the view, every text.
+                view.showTarget();
+                view.showWhite();
+                view.hover(view.viewport().plot().center());
+                QTest::keyClick(&view, Qt::Key_Right);
+                QTest::keyClick(&view, Qt::Key_R);
+                const QPointF start = view.at(GamutVertex::White);
+                view.press(start);
+                view.drag(start + QPointF(30, 20));
+                QStringList texts = view.d->overlay.label;
+                view.release(start + QPointF(30, 20));
+                view.showAll();
+                view.grab();
+                QVERIFY(!view.moveVertex(vertex, QPointF(unknown, 0.3)));
+                QVERIFY(std::isfinite(view.centre().x()) && std::isfinite(view.zoomFactor()));
+                texts.append(view.d->overlay.readout);
+                for (const DiagramLabel &label : view.d->painter->labels()) {
+                    texts.append(label.text);
+                }
+                const std::function<void(QAccessibleInterface *)> read = [&](QAccessibleInterface *part) {
+                    for (const QAccessible::Text kind : {QAccessible::Name, QAccessible::Description,
+                             QAccessible::Value, QAccessible::Help, QAccessible::Accelerator}) {
+                        texts.append(part->text(kind));
+                    }
+                    part->rect();
+                    if (part->valueInterface()) {
+                        QVERIFY(std::isfinite(part->valueInterface()->currentValue().toDouble()));
+                    }
+                    for (int i = 0; i < part->childCount(); ++i) {
+                        read(part->child(i));
+                    }
+                };
+                read(QAccessible::queryAccessibleInterface(&view));
+                qInstallMessageHandler(former);
+                const QString all = texts.join(QLatin1Char('|'));
+                QVERIFY2(!all.contains(QRegularExpression(QStringLiteral("\\b(nan|inf)\\b"))), qPrintable(all));
+                QCOMPARE(all.contains(QStringLiteral("white: not known")), isWhite && role != GamutRole::Target);
+                QCOMPARE(warnings, 0);
+            }
+        }
+    }
+    View view;
+    QCOMPARE(view.coordinatesText(QPointF(unknown, 0.3)), QStringLiteral("not known"));
+    // Where u and v have no finite values.
+    view.setDiagram(Model::Diagram::Cie1976);
+    QCOMPARE(view.coordinatesText(QPointF(1.5, 0.0)), QStringLiteral("not known"));
+}
+
+void DiagramViewTest::rulesCannotMakeTheTargetUnknown()
+{
+    View view;
+    // Rules of a host that give what is no chromaticity.
+    class Unknown : public StandardTargetRules {
+    public:
+        TargetMove move(const TargetContext &context, GamutVertex vertex, const QPointF &) const override
+        {
+            Model::Targets targets = context.target;
+            targetAt(targets, vertex).x = std::numeric_limits<double>::quiet_NaN();
+            return {targets, QString()};
+        }
+    };
+    view.setRules(std::make_shared<Unknown>());
+    const Model::Targets before = view.gamut(GamutRole::Target)->getTargets();
+    const QPointF start = view.at(GamutVertex::Green);
+    view.press(start);
+    view.drag(start + QPointF(30, 20));
+    view.release(start + QPointF(30, 20));
+    QTest::keyClick(&view, Qt::Key_Right);
+    QVERIFY(!view.moveVertex(GamutVertex::White, QPointF(0.3, 0.3)));
+    QVERIFY(sameTargets(view.gamut(GamutRole::Target)->getTargets(), before));
 }
 
 void DiagramViewTest::recordsGoInAndComeOut()
