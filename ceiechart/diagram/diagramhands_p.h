@@ -3,8 +3,10 @@
 #define CEIECHART_DIAGRAM_DIAGRAMHANDS_P_H
 
 #include <QPointF>
+#include <QRectF>
 #include <QtGlobal>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ceiechart {
@@ -26,6 +28,14 @@ QPointF positionOf(const Event &event)
 inline double distance(const QPointF &a, const QPointF &b)
 {
     return std::hypot(a.x() - b.x(), a.y() - b.y());
+}
+
+//! From \a point to the nearest point of \a place; 0 within it.
+inline double distanceTo(const QRectF &place, const QPointF &point)
+{
+    const double x = std::max({place.left() - point.x(), 0.0, point.x() - place.right()});
+    const double y = std::max({place.top() - point.y(), 0.0, point.y() - place.bottom()});
+    return std::hypot(x, y);
 }
 
 /*!

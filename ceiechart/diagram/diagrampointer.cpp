@@ -166,23 +166,9 @@ void DiagramView::Private::hover(const QPointF &position)
         q->update(former + overlayRegion(overlay));
     }
     isHovering = isInside;
-    const bool showsReadout = isInside && hand != Hand::Dragging; // the label shows the same
-    if (readoutShown && (showsReadout || !overlay.readout.isEmpty())) {
-        const QRect former = overlay.readoutPlace.toAlignedRect();
-        const bool hadReadout = !overlay.readout.isEmpty();
-        const QString text = showsReadout ? q->coordinatesText(viewport.toChromaticity(position)) : QString();
-        if (hadReadout != showsReadout || DiagramOverlay::labelSize({text}, q->font()) != overlay.readoutPlace.size()) {
-            refreshOverlay();
-        } else {
-            overlay.readout = text;
-        }
-        if (hadReadout) {
-            q->update(former);
-        }
-        if (showsReadout) {
-            q->update(overlay.readoutPlace.toAlignedRect());
-        }
-    }
+    const QRect formerReadout = overlay.readoutPlace.toAlignedRect();
+    placeReadout();
+    q->update(QRegion(formerReadout) + overlay.readoutPlace.toAlignedRect());
     updateCursor();
     const QPointF xy = viewport.toChromaticity(position);
     const bool wasTold = isHoverTold;

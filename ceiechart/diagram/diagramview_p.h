@@ -122,7 +122,9 @@ public:
     QRegion editedRegion(const Model::Targets &before, const Model::Targets &after) const;
     void placeLabel();
     QRectF labelPlace(const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid) const;
-    QRectF placeOfReadout(const QSizeF &size, const QVector<DiagramOverlay::Handle> &handles) const;
+    //! The readout in the corner where it covers least, and not what it is about.
+    void placeReadout();
+    void weighReadoutCorners(const QSizeF &size);
     //! The entries of the label, each a line unless it is wrapped.
     QStringList labelEntries() const;
 
@@ -210,6 +212,12 @@ public:
     QElapsedTimer sinceScroll; //!< of fingers on a pad
 
     DiagramOverlay overlay;
+    //! A corner where the readout may stand.
+    struct ReadoutCorner {
+        QRectF place;
+        double cost; //!< of what it covers there, but for the pointer
+    };
+    QVector<ReadoutCorner> readoutCorners; //!< the usual one first; empty until they are needed
 
     bool isLettingGo = false;
     std::deque<std::function<void()>> untold; //!< the first is told first

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "diagramviewfixture.h"
 
+#include <ceiechart/diagram/spectrum_p.h>
+
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -19,6 +22,9 @@ private Q_SLOTS:
     void labelFollowsTheTarget();
     void labelHasRoomInSmallViews();
     void readoutGivesWayToHands();
+    void readoutLeavesWhatItDescribes_data();
+    void readoutLeavesWhatItDescribes();
+    void readoutStandsOnFreeGround();
     void minusZeroNeverShows();
     void digitsFollowTheZoom();
     void hoverTells();
@@ -189,6 +195,88 @@ void DiagramViewLabelsTest::readoutGivesWayToHands()
     QVERIFY(!view.d->overlay.readout.isEmpty());
 }
 
+void DiagramViewLabelsTest::readoutLeavesWhatItDescribes_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<Model::Diagram>("diagram");
+    QTest::addColumn<double>("zoom");
+    for (const QSize &size : {QSize(300, 250), QSize(250, 300), QSize(500, 420), QSize(1600, 900)}) {
+        for (const Model::Diagram diagram :
+            {Model::Diagram::Cie1931, Model::Diagram::Cie1976, Model::Diagram::Cie1960}) {
+            for (const double zoom : {1.0, 3.0}) {
+                QTest::addRow("%d x %d, %s, %g", size.width(), size.height(), Model::diagramTraits(diagram).name, zoom)
+                    << size << diagram << zoom;
+            }
+        }
+    }
+}
+
+void DiagramViewLabelsTest::readoutLeavesWhatItDescribes()
+{
+    QFETCH(QSize, size);
+    QFETCH(Model::Diagram, diagram);
+    QFETCH(double, zoom);
+    View view;
+    view.setDiagram(diagram);
+    view.resize(size);
+    view.setZoomFactor(zoom);
+    view.paintAll();
+    const DiagramViewport &seen = view.viewport();
+    const QRectF plot = seen.plot();
+    QVector<QPointF> places;
+    for (double x = plot.left() + 1.0; x < plot.right(); x += plot.width() / 17.0) {
+        for (double y = plot.top() + 1.0; y < plot.bottom(); y += plot.height() / 17.0) {
+            places.append(QPointF(x, y));
+        }
+    }
+    QPolygonF locus;
+    for (const QPointF &point : spectralLocusIn(diagram, 1)) {
+        locus.append(seen.fromPoint(point));
+    }
+    for (const QPointF &point : locus) {
+        if (plot.contains(point)) {
+            places.append(point);
+        }
+    }
+    for (const QPointF &place : places) {
+        view.hover(place);
+        const QRectF readout = view.d->overlay.readoutPlace;
+        QVERIFY(readout.width() > plot.width() ? QRectF(view.rect()).contains(readout) : plot.contains(readout));
+        const double room = std::min(30.0, plot.height() / 2.0 - readout.height() - 6.0);
+        QVERIFY2(!readout.adjusted(-room, -room, room, room).contains(place),
+            qPrintable(QStringLiteral("%1, %2").arg(place.x()).arg(place.y())));
+        for (const QPointF &point : locus) {
+            QVERIFY(length(point - place) > room || !readout.contains(point));
+        }
+    }
+}
+
+void DiagramViewLabelsTest::readoutStandsOnFreeGround()
+{
+    for (const Model::Diagram diagram : {Model::Diagram::Cie1931, Model::Diagram::Cie1976, Model::Diagram::Cie1960}) {
+        for (const QSize &size : {QSize(320, 320), QSize(420, 340), QSize(700, 900), QSize(1600, 900)}) {
+            for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+                View view;
+                view.setLayoutDirection(direction);
+                view.setDiagram(diagram);
+                view.resize(size);
+                view.paintAll();
+                view.hover(view.at(QPointF(0.33, 0.33)));
+                const QRectF readout = view.d->overlay.readoutPlace;
+                QVERIFY(!readout.isEmpty());
+                QPolygonF locus;
+                for (const QPointF &point : spectralLocusIn(diagram, 10)) {
+                    locus.append(view.viewport().fromPoint(point));
+                    QVERIFY2(!readout.contains(locus.last()),
+                        qPrintable(
+                            QStringLiteral("%1 x %2 %3").arg(size.width()).arg(size.height()).arg(int(diagram))));
+                }
+                QVERIFY(!locus.containsPoint(readout.center(), Qt::WindingFill));
+            }
+        }
+    }
+}
+
 void DiagramViewLabelsTest::minusZeroNeverShows()
 {
     QCOMPARE(coordinateText(-0.00001, 4), QStringLiteral("0.0000"));
@@ -249,6 +337,8 @@ void DiagramViewLabelsTest::hoverTellsChromaticitiesOnly()
 void DiagramViewLabelsTest::readoutStandsOnTheOtherSideFromRightToLeft()
 {
     View view;
+    view.resize(1200, 600); // with free ground on both sides
+    view.paintAll();
     view.hover(view.viewport().plot().center());
     QVERIFY(view.d->overlay.readoutPlace.center().x() > view.width() / 2.0);
     view.setLayoutDirection(Qt::RightToLeft);
