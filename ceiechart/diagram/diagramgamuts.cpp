@@ -28,6 +28,7 @@ constexpr double plateRadius = 3.0;
 constexpr double plateOpacity = 0.94; // leaves names a contrast of 3:1 on every colour
 constexpr double namedMarks = 30.0; // least distance of marks that have names beside them
 constexpr double handleRoom = 11.0; // round the corners of a target, where handles are
+constexpr double leaderWidth = 1.0; // from a number to its isotherm
 constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
 constexpr double leastNameShare = 0.2; // of the plot's width, to which names may be shortened
 constexpr double markRadius = 4.0;
@@ -494,6 +495,63 @@ private:
         return result;
     }
 
+    void drawIsothermNumber(const QString &number, const QRectF &place)
+    {
+        m_step.places.add(DiagramLabel::Kind::Isotherm, number, place);
+        m_step.texts.textIn(place, number, m_sheet.fonts.numbers, m_innerPalette.planckian, m_innerPalette.casing);
+    }
+
+    //! The isotherm's number at the nearest free place, with a line from there to the isotherm.
+    bool leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear)
+    {
+        constexpr double step = 4.0;
+        const QSizeF size = m_sheet.fonts.numbers.size(number.text);
+        QRectF best;
+        QLineF leader;
+        double least = std::numeric_limits<double>::max();
+        for (double y = m_inner.top(); y + size.height() <= m_inner.bottom(); y += step) {
+            for (double x = m_inner.left(); x + size.width() <= m_inner.right(); x += step) {
+                const QRectF place(QPointF(x, y), size);
+                for (const QPointF &end : {number.line.p1(), number.line.p2()}) {
+                    const QPointF from(std::clamp(end.x(), place.left(), place.right()),
+                        std::clamp(end.y(), place.top(), place.bottom()));
+                    const double away = length(from - end);
+                    if (away > labelGap && away < least && m_step.places.isFree(place, m_inner, labelGap)
+                        && std::none_of(clear.cbegin(), clear.cend(),
+                            [&place](const QRectF &mark) { return mark.intersects(place); })) {
+                        least = away;
+                        best = place;
+                        leader = QLineF(from, end);
+                    }
+                }
+            }
+        }
+        if (best.isNull()) {
+            return false;
+        }
+        drawCased(m_step.drawing, QPolygonF(QVector<QPointF>{leader.p1(), leader.p2()}), false, m_plot,
+            QPen(m_innerPalette.planckian, leaderWidth), m_innerPalette.casing);
+        drawIsothermNumber(number.text, best);
+        return true;
+    }
+
+    //! Of isotherms none of which has room for its number beside it, that nearest to the white is named all the same.
+    void nameOneIsotherm(QVector<PendingNumber> isotherms, const QVector<QRectF> &clear)
+    {
+        if (!m_shown.empty() && isFinite(whiteOf(m_shown.back()))) {
+            const QPointF white = whiteOf(m_shown.back());
+            std::stable_sort(
+                isotherms.begin(), isotherms.end(), [&white](const PendingNumber &a, const PendingNumber &b) {
+                    return length(a.line.center() - white) < length(b.line.center() - white);
+                });
+        }
+        for (const PendingNumber &number : qAsConst(isotherms)) {
+            if (leadToIsotherm(number, clear)) {
+                return;
+            }
+        }
+    }
+
     void placeIsotherms(const QVector<PendingNumber> &isotherms)
     {
         const QVector<QRectF> clear = clearOfNumbers();
@@ -507,12 +565,13 @@ private:
                     && std::none_of(placed.cbegin(), placed.cend(), isNear)
                     && std::none_of(clear.cbegin(), clear.cend(), isCovered)) {
                     placed.append(place.center());
-                    m_step.places.add(DiagramLabel::Kind::Isotherm, number.text, place);
-                    m_step.texts.textIn(
-                        place, number.text, m_sheet.fonts.numbers, m_innerPalette.planckian, m_innerPalette.casing);
+                    drawIsothermNumber(number.text, place);
                     break;
                 }
             }
+        }
+        if (placed.isEmpty()) {
+            nameOneIsotherm(isotherms, clear);
         }
     }
 

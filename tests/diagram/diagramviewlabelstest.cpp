@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "diagramviewfixture.h"
 
+#include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/spectrum_p.h>
+#include <ceiechart/diagram/whitepoint.h>
 
 #include <algorithm>
 #include <cmath>
@@ -27,6 +29,8 @@ private Q_SLOTS:
     void readoutStandsOnFreeGround();
     void minusZeroNeverShows();
     void digitsFollowTheZoom();
+    void isothermsAreNamed_data();
+    void isothermsAreNamed();
     void hoverTells();
     void hoverTellsChromaticitiesOnly();
     void readoutStandsOnTheOtherSideFromRightToLeft();
@@ -296,6 +300,73 @@ void DiagramViewLabelsTest::digitsFollowTheZoom()
     QCOMPARE(view.coordinatesText(QPointF(0.3127, 0.329)), QStringLiteral("x 0.313  y 0.329"));
     view.setDiagram(Model::Diagram::Cie1976);
     QCOMPARE(view.coordinatesText(QPointF(0.3127, 0.329)), QStringLiteral("u′ 0.198  v′ 0.468"));
+}
+
+void DiagramViewLabelsTest::isothermsAreNamed_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<Model::Diagram>("diagram");
+    for (const QSize &size : {QSize(200, 200), QSize(300, 250), QSize(400, 300), QSize(600, 500), QSize(1600, 900)}) {
+        for (const Model::Diagram diagram :
+            {Model::Diagram::Cie1931, Model::Diagram::Cie1976, Model::Diagram::Cie1960}) {
+            QTest::addRow("%d x %d, %s", size.width(), size.height(), Model::diagramTraits(diagram).name)
+                << size << diagram;
+        }
+    }
+}
+
+void DiagramViewLabelsTest::isothermsAreNamed()
+{
+    QFETCH(QSize, size);
+    QFETCH(Model::Diagram, diagram);
+    int drawn = 0;
+    for (const double zoom : {0.0, 1.0, 2.0, 4.0, 8.0, 40.0, 200.0}) {
+        for (const int marks : {0, 4, 40}) {
+            View view;
+            view.setDiagram(diagram);
+            view.resize(size);
+            QVector<DiagramMark> points{{QPointF(0.3127, 0.3290), QStringLiteral("D65"), QColor()},
+                {QPointF(0.3457, 0.3585), QStringLiteral("D50"), QColor()}};
+            // More and more of them along the Planckian locus.
+            for (int i = 0; i < marks; ++i) {
+                points.append({*chromaticityAt(2000.0 + 20000.0 * i / marks, 0.01 * (i % 3 - 1)), QString(), QColor()});
+            }
+            view.setColorTemperaturePoints(points);
+            if (zoom == 0.0) {
+                view.showWhite();
+            } else {
+                view.setZoomFactor(zoom);
+                view.setCentre(view.xy(GamutVertex::White));
+            }
+            const DiagramSheet sheet{
+                view.content(), view.viewport(), DiagramFonts(view.d->painter->font(), nullptr, 1.0)};
+            const QVector<PendingNumber> isotherms = scaleStep(sheet).isotherms;
+            for (const PendingNumber &isotherm : isotherms) {
+                // Not so short as to be taken for a mark, unless the edge cuts it.
+                const QRectF inside = view.viewport().plot().adjusted(1.0, 1.0, -1.0, -1.0);
+                QVERIFY(isotherm.line.length() >= 10.0 || !inside.contains(isotherm.line.p1())
+                    || !inside.contains(isotherm.line.p2()));
+            }
+            if (isotherms.isEmpty()) {
+                continue;
+            }
+            ++drawn;
+            QVector<DiagramLabel> named;
+            for (const DiagramLabel &label : view.d->painter->labels()) {
+                if (label.kind == DiagramLabel::Kind::Isotherm) {
+                    named.append(label);
+                }
+            }
+            QVERIFY2(!named.isEmpty(), qPrintable(QStringLiteral("zoom %1, %2 marks").arg(zoom).arg(marks)));
+            for (const DiagramLabel &label : qAsConst(named)) {
+                for (const DiagramMark &mark : qAsConst(points)) {
+                    QVERIFY(!label.place.contains(view.at(mark.xy)));
+                }
+                QVERIFY(!label.place.contains(view.at(GamutVertex::White)));
+            }
+        }
+    }
+    QVERIFY(drawn > 0);
 }
 
 void DiagramViewLabelsTest::hoverTells()
