@@ -505,6 +505,7 @@ private:
     bool leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear)
     {
         constexpr double step = 4.0;
+        constexpr double farther = 1e4; // what is nearer to something else would be taken for its name
         const QSizeF size = m_sheet.fonts.numbers.size(number.text);
         QRectF best;
         QLineF leader;
@@ -512,17 +513,23 @@ private:
         for (double y = m_inner.top(); y + size.height() <= m_inner.bottom(); y += step) {
             for (double x = m_inner.left(); x + size.width() <= m_inner.right(); x += step) {
                 const QRectF place(QPointF(x, y), size);
-                for (const QPointF &end : {number.line.p1(), number.line.p2()}) {
-                    const QPointF from(std::clamp(end.x(), place.left(), place.right()),
-                        std::clamp(end.y(), place.top(), place.bottom()));
-                    const double away = length(from - end);
-                    if (away > labelGap && away < least && m_step.places.isFree(place, m_inner, labelGap)
-                        && std::none_of(clear.cbegin(), clear.cend(),
-                            [&place](const QRectF &mark) { return mark.intersects(place); })) {
-                        least = away;
-                        best = place;
-                        leader = QLineF(from, end);
-                    }
+                const auto wayTo = [&place](const QPointF &at) {
+                    return QLineF(QPointF(std::clamp(at.x(), place.left(), place.right()),
+                                      std::clamp(at.y(), place.top(), place.bottom())),
+                        at);
+                };
+                const QLineF ends[] = {wayTo(number.line.p1()), wayTo(number.line.p2())};
+                const QLineF &way = ends[0].length() < ends[1].length() ? ends[0] : ends[1];
+                const double toMiddle = length(way.p2() - place.center());
+                const bool isNearerToOther = std::any_of(clear.cbegin(), clear.cend(),
+                    [&](const QRectF &mark) { return length(mark.center() - place.center()) < toMiddle; });
+                const double away = toMiddle + (isNearerToOther ? farther : 0.0);
+                if (way.length() > labelGap && away < least && m_step.places.isFree(place, m_inner, labelGap)
+                    && std::none_of(clear.cbegin(), clear.cend(),
+                        [&place](const QRectF &mark) { return mark.intersects(place); })) {
+                    least = away;
+                    best = place;
+                    leader = way;
                 }
             }
         }
