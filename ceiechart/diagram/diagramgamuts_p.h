@@ -59,6 +59,11 @@ private:
     QVector<QRectF> handles() const;
     //! What numbers must leave to be seen: marks, whites and handles.
     QVector<QRectF> clearOfNumbers() const;
+    void drawIsothermNumber(const QString &number, const QRectF &place);
+    //! The isotherm's number at the nearest free place, with a line from there to the isotherm.
+    bool leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear);
+    //! Of isotherms none of which has room for its number beside it, that nearest to the white is named all the same.
+    void nameOneIsotherm(QVector<PendingNumber> isotherms, const QVector<QRectF> &clear);
     void placeIsotherms(const QVector<PendingNumber> &isotherms);
     void drawPlate(const QRectF &place, const DiagramPalette &palette);
     //! Where a name may stand, the best first.

@@ -21,6 +21,7 @@ constexpr double plateRadius = 3.0;
 constexpr double plateOpacity = 0.94; // leaves names a contrast of 3:1 on every colour
 constexpr double namedMarks = 30.0; // least distance of marks that have names beside them
 constexpr double handleRoom = 11.0; // round the corners of a target, where handles are
+constexpr double leaderWidth = 1.0; // from a number to its isotherm
 constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
 constexpr double leastNameShare = 0.2; // of the plot's width, to which names may be shortened
 
@@ -86,6 +87,67 @@ QVector<QRectF> DiagramGamuts::clearOfNumbers() const
     return result;
 }
 
+void DiagramGamuts::drawIsothermNumber(const QString &number, const QRectF &place)
+{
+    m_step.places.add(DiagramLabel::Kind::Isotherm, number, place);
+    m_step.texts.textIn(place, number, m_sheet.fonts.numbers, m_innerPalette.planckian, m_innerPalette.casing);
+}
+
+bool DiagramGamuts::leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear)
+{
+    constexpr double step = 4.0;
+    constexpr double farther = 1e4; // what is nearer to something else would be taken for its name
+    const QSizeF size = m_sheet.fonts.numbers.size(number.text);
+    QRectF best;
+    QLineF leader;
+    double least = std::numeric_limits<double>::max();
+    for (double y = m_inner.top(); y + size.height() <= m_inner.bottom(); y += step) {
+        for (double x = m_inner.left(); x + size.width() <= m_inner.right(); x += step) {
+            const QRectF place(QPointF(x, y), size);
+            const auto wayTo = [&place](const QPointF &at) {
+                return QLineF(QPointF(std::clamp(at.x(), place.left(), place.right()),
+                                  std::clamp(at.y(), place.top(), place.bottom())),
+                    at);
+            };
+            const QLineF ends[] = {wayTo(number.line.p1()), wayTo(number.line.p2())};
+            const QLineF &way = ends[0].length() < ends[1].length() ? ends[0] : ends[1];
+            const double toMiddle = length(way.p2() - place.center());
+            const bool isNearerToOther = std::any_of(clear.cbegin(), clear.cend(),
+                [&](const QRectF &mark) { return length(mark.center() - place.center()) < toMiddle; });
+            const double away = toMiddle + (isNearerToOther ? farther : 0.0);
+            if (way.length() > labelGap && away < least && m_step.places.isFree(place, m_inner, labelGap)
+                && std::none_of(
+                    clear.cbegin(), clear.cend(), [&place](const QRectF &mark) { return mark.intersects(place); })) {
+                least = away;
+                best = place;
+                leader = way;
+            }
+        }
+    }
+    if (best.isNull()) {
+        return false;
+    }
+    drawCased(m_step.drawing, QPolygonF(QVector<QPointF>{leader.p1(), leader.p2()}), false, m_plot,
+        QPen(m_innerPalette.planckian, leaderWidth), m_innerPalette.casing);
+    drawIsothermNumber(number.text, best);
+    return true;
+}
+
+void DiagramGamuts::nameOneIsotherm(QVector<PendingNumber> isotherms, const QVector<QRectF> &clear)
+{
+    if (!m_shown.empty() && isFinite(whiteOf(m_shown.back()))) {
+        const QPointF white = whiteOf(m_shown.back());
+        std::stable_sort(isotherms.begin(), isotherms.end(), [&white](const PendingNumber &a, const PendingNumber &b) {
+            return length(a.line.center() - white) < length(b.line.center() - white);
+        });
+    }
+    for (const PendingNumber &number : qAsConst(isotherms)) {
+        if (leadToIsotherm(number, clear)) {
+            return;
+        }
+    }
+}
+
 void DiagramGamuts::placeIsotherms(const QVector<PendingNumber> &isotherms)
 {
     const QVector<QRectF> clear = clearOfNumbers();
@@ -97,12 +159,13 @@ void DiagramGamuts::placeIsotherms(const QVector<PendingNumber> &isotherms)
             if (m_step.places.isFree(place, m_inner, labelGap) && std::none_of(placed.cbegin(), placed.cend(), isNear)
                 && std::none_of(clear.cbegin(), clear.cend(), isCovered)) {
                 placed.append(place.center());
-                m_step.places.add(DiagramLabel::Kind::Isotherm, number.text, place);
-                m_step.texts.textIn(
-                    place, number.text, m_sheet.fonts.numbers, m_innerPalette.planckian, m_innerPalette.casing);
+                drawIsothermNumber(number.text, place);
                 break;
             }
         }
+    }
+    if (placed.isEmpty()) {
+        nameOneIsotherm(isotherms, clear);
     }
 }
 

@@ -28,6 +28,7 @@ constexpr double longTick = 7.0;
 constexpr double tickGap = 3.0; // between a tick and its number
 constexpr double wavelengthTicks = 7.0; // least distance of ticks
 constexpr double wavelengthNumbers = 34.0; // least distance of the middles of numbers
+constexpr double shortestIsotherm = 10.0; // one that is shorter, in a small view, looks like a mark
 constexpr double isothermLines = 30.0; // least distance of isotherms
 constexpr double mostIsotherms = 18.0; // side by side on the shorter side of the plot
 
@@ -365,7 +366,9 @@ private:
             }
             const double mired = kelvinTimesMired / kelvin;
             const QPointF foot = toPosition(fromUv1960(m_viewport.diagram(), planckianPoint(mired).uv));
-            if (const auto line = partWithin(isotherm(mired), m_plot)) {
+            const QLineF whole = this->isotherm(mired);
+            const auto line = whole.length() >= shortestIsotherm ? partWithin(whole, m_plot) : std::nullopt;
+            if (line) {
                 result.append({kelvin, *line, foot});
             }
         }
@@ -408,6 +411,7 @@ private:
                 }
             }
             pending.text = number;
+            pending.line = isotherm.line;
             m_step.isotherms.append(pending);
         }
     }

@@ -5,6 +5,7 @@
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/drawlist_p.h>
 
+#include <QLineF>
 #include <QVector>
 
 namespace ceiechart {
@@ -58,6 +59,7 @@ QMarginsF diagramMargins(const DiagramContent &content, const DiagramFonts &font
 struct PendingNumber {
     QString text;
     QVector<QRectF> places; //!< the best first
+    QLineF line; //!< what it belongs to, as far as it is seen
 };
 
 /*! \brief What is painted and the texts in it. */

@@ -82,6 +82,9 @@ QString DiagramView::coordinatesText(const QPointF &xy) const
 {
     const Model::DiagramTraits &traits = Model::diagramTraits(diagram());
     const Model::DiagramPoint point = Model::toDiagram(diagram(), {xy.x(), xy.y()});
+    if (!std::isfinite(point.x) || !std::isfinite(point.y)) {
+        return tr("not known", "coordinates");
+    }
     const int decimals = d->decimals();
     return QStringLiteral("%1 %2  %3 %4")
         .arg(QString::fromUtf8(traits.xName), coordinateText(point.x, decimals), QString::fromUtf8(traits.yName),
@@ -127,7 +130,7 @@ void DiagramView::setSelectedVertex(std::optional<GamutVertex> vertex)
     if (vertex && hasFocus()) {
         announceFocus(this, *vertex);
     }
-    Q_EMIT selectedVertexChanged();
+    d->tell(&DiagramView::selectedVertexChanged);
 }
 
 void DiagramView::setReadOnly(bool readOnly)
@@ -150,7 +153,7 @@ void DiagramView::setReadOnly(bool readOnly)
     d->refreshOverlay();
     update();
     announceGamuts(this);
-    Q_EMIT readOnlyChanged();
+    d->tell(&DiagramView::readOnlyChanged);
 }
 
 void DiagramView::setDigits(int digits)
@@ -161,7 +164,7 @@ void DiagramView::setDigits(int digits)
         d->digits = wanted;
         d->refreshOverlay();
         update();
-        Q_EMIT digitsChanged();
+        d->tell(&DiagramView::digitsChanged);
     }
 }
 
@@ -171,7 +174,7 @@ void DiagramView::setReadoutShown(bool shown)
         d->readoutShown = shown;
         d->refreshOverlay();
         update();
-        Q_EMIT readoutShownChanged();
+        d->tell(&DiagramView::readoutShownChanged);
     }
 }
 
@@ -186,7 +189,7 @@ void DiagramView::setEditNote(const QString &note)
         d->refreshOverlay();
         update(former + d->overlayRegion(d->overlay));
     }
-    Q_EMIT editNoteChanged();
+    d->tell(&DiagramView::editNoteChanged);
 }
 
 QSize DiagramView::sizeHint() const
@@ -227,14 +230,8 @@ bool DiagramView::event(QEvent *event)
 void DiagramView::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    // Its release will go elsewhere.
-    const QPointer<DiagramView> view(this);
     d->forgetPictures();
-    d->touching = d->pinching = false;
-    d->endHand();
-    if (view) {
-        d->endHover();
-    }
+    d->letGo(); // releases will go elsewhere
 }
 
 void DiagramView::changeEvent(QEvent *event)
@@ -252,6 +249,11 @@ void DiagramView::changeEvent(QEvent *event)
     case QEvent::LanguageChange:
         announceGamuts(this);
         d->change(d->content);
+        break;
+    case QEvent::EnabledChange:
+        if (!isEnabled()) {
+            d->letGo();
+        }
         break;
     case QEvent::LayoutDirectionChange:
         d->refreshOverlay();

@@ -151,7 +151,7 @@ void DiagramView::setContent(const DiagramContent &content)
     if (areOtherColors && !d->tell(&DiagramView::horseshoeColorsChanged)) {
         return;
     }
-    Q_EMIT gamutsChanged();
+    d->tell(&DiagramView::gamutsChanged);
 }
 
 void DiagramView::setGamuts(const QVector<DiagramGamut> &gamuts)
@@ -237,7 +237,7 @@ void DiagramView::setLayers(ShownLayers layers)
     d->change(changed);
     if (view) {
         announceGamuts(this);
-        Q_EMIT layersChanged();
+        d->tell(&DiagramView::layersChanged);
     }
 }
 
@@ -258,7 +258,7 @@ void DiagramView::setHorseshoeColors(HorseshoeColors colors)
     const QPointer<DiagramView> view(this);
     d->change(changed);
     if (view) {
-        Q_EMIT horseshoeColorsChanged();
+        d->tell(&DiagramView::horseshoeColorsChanged);
     }
 }
 

@@ -110,7 +110,7 @@ void DiagramView::setDiagram(Model::Diagram diagram)
     update();
     d->look(d->viewport.withDiagram(diagram));
     if (view) {
-        Q_EMIT diagramChanged();
+        d->tell(&DiagramView::diagramChanged);
     }
 }
 
@@ -166,7 +166,12 @@ void DiagramView::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
     const bool showsAll = d->viewport.showsAll();
     const DiagramViewport wanted = d->viewport.resized(QSizeF(size()));
+    const QPointF held = d->viewport.toPoint(d->grip.position());
+    const QPointer<DiagramView> view(this);
     d->look(showsAll ? wanted.fittedToAll() : wanted);
+    if (view) {
+        d->followHand(held);
+    }
 }
 
 } // namespace ceiechart

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Handles, guides, readout and the label at what is edited: what there is of them, and where.
+#include <ceiechart/diagram/diagramhands_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
 #include <ceiechart/diagram/finite_p.h>
 
@@ -13,13 +14,6 @@ namespace {
 
 constexpr double labelDistance = 26.0; // logical pixels from the middle of a handle to its label
 constexpr double cornerRoom = 6.0; // logical pixels round a corner that the hand may move to
-
-double distanceTo(const QRectF &place, const QPointF &point)
-{
-    const double x = std::max({place.left() - point.x(), 0.0, point.x() - place.right()});
-    const double y = std::max({place.top() - point.y(), 0.0, point.y() - place.bottom()});
-    return std::hypot(x, y);
-}
 
 //! Small boxes along the line from \a from to \a to.
 void addBoxesAlong(QVector<QRectF> &boxes, const QPointF &from, const QPointF &to)
@@ -76,33 +70,10 @@ void DiagramView::Private::refreshOverlay()
     const bool showsFocus = std::any_of(fresh.handles.cbegin(), fresh.handles.cend(),
         [](const DiagramOverlay::Handle &handle) { return handle.hasFocus; });
     fresh.showsFocusFrame = q->hasFocus() && !showsFocus;
-    if (readoutShown && isHovering && pointer && hand != Hand::Dragging) {
-        fresh.readout = q->coordinatesText(viewport.toChromaticity(*pointer));
-        fresh.readoutPlace = placeOfReadout(DiagramOverlay::labelSize({fresh.readout}, q->font()), fresh.handles);
-    }
     overlay = fresh;
+    readoutCorners.clear();
+    placeReadout();
     placeLabel();
-}
-
-QRectF DiagramView::Private::placeOfReadout(const QSizeF &size, const QVector<DiagramOverlay::Handle> &handles) const
-{
-    constexpr double room = 6.0;
-    const QRectF area = viewport.plot().adjusted(room, room, -room, -room);
-    const double left = area.left();
-    const double right = area.right() - size.width();
-    const double first = q->isRightToLeft() ? left : right;
-    const double second = q->isRightToLeft() ? right : left;
-    const double bottom = area.bottom() - size.height();
-    const QPointF corners[] = {{first, area.top()}, {second, area.top()}, {first, bottom}, {second, bottom}};
-    for (const QPointF &corner : corners) {
-        const QRectF place(corner, size);
-        if (std::none_of(handles.cbegin(), handles.cend(), [&place](const DiagramOverlay::Handle &handle) {
-                return DiagramOverlay::bounds(handle).intersects(place);
-            })) {
-            return place;
-        }
-    }
-    return QRectF(corners[0], size);
 }
 
 QStringList DiagramView::Private::labelEntries() const
