@@ -18,7 +18,8 @@
 //   error. The sum is 6uM; 7uM includes the terms of second order.
 // - The sum of the amounts is 1, therefore L ≥ 1/3, and c ≤ L. An error e of the amounts changes v by at most
 //   255 (e / L + c e / L²), which is at most 1530 e.
-// - The rounding of the quotient 255 / L, of its product with c and of the sum with 0.5 gives less than 900u in total.
+// - The rounding of the quotient 255 / L and of its product with c gives less than 900u in total. The nearest whole
+//   number and the difference from it are exact.
 // - The errors of the definition in double precision, and of the interpolation between the ends of the row, are below
 //   1e-9 if the colour system is well-conditioned and M is small. Otherwise the whole row is computed in double
 //   precision.
