@@ -17,6 +17,7 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QStyleHints>
 #include <QtTest>
 
 using namespace gamutviewer;
