@@ -45,7 +45,7 @@ Format expectedFormat(const QString &fileName)
     if (suffix == QLatin1String("json")) {
         return Format::Description;
     }
-    if (suffix == QLatin1String("csv")) {
+    if (suffix == QLatin1String("csv") || suffix == QLatin1String("tsv")) {
         return Format::Measurements;
     }
     if (suffix == QLatin1String("icc") || suffix == QLatin1String("icm")) {
@@ -130,8 +130,8 @@ Outcome<GamutFile> readGamutFile(const QString &fileName, const MeasurementOptio
 
 QStringList gamutFilePatterns()
 {
-    return {QStringLiteral("*.json"), QStringLiteral("*.csv"), QStringLiteral("*.icc"), QStringLiteral("*.icm"),
-        QStringLiteral("*.edid"), QStringLiteral("*.bin")};
+    return {QStringLiteral("*.json"), QStringLiteral("*.csv"), QStringLiteral("*.tsv"), QStringLiteral("*.txt"),
+        QStringLiteral("*.icc"), QStringLiteral("*.icm"), QStringLiteral("*.edid"), QStringLiteral("*.bin")};
 }
 
 } // namespace gamutfiles

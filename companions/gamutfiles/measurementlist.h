@@ -21,7 +21,7 @@ constexpr int maximumMeasurementBytes = 1024 * 1024;
 
 /*! \brief One line of a measurement list. */
 struct Measurement {
-    QString name; //!< as the list calls it; empty when it has cabinets and no names
+    QString name; //!< as the list calls it; empty when it has no names
     double luminance = 0.0; //!< in the unit of the list
     /*!
      * \brief Luminance and chromaticity, in the unit of the list.
