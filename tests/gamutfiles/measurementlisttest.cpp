@@ -665,6 +665,10 @@ void MeasurementListTest::cabinets()
     QVERIFY(gamut);
     QCOMPARE(gamut->getTargets().red.Y, 210.0);
     QCOMPARE(gamut->unit, LuminanceUnit::CandelaPerSquareMetre);
+    // Colours of different cabinets make no gamut.
+    const auto scattered = readMeasurementList("Cabinet,name,Lv,x,y\nA1,R,200,0.7,0.29\nA1,G,700,0.2,0.7\n"
+                                               "A2,B,110,0.15,0.05\nA2,W,1010,0.28,0.29\n");
+    QVERIFY(scattered && !scattered->gamut(QString()));
     // One cabinet is the display.
     const auto single
         = readMeasurementList(QByteArray(known).replace("name", "Cabinet,name").replace("\n", "\nA,").chopped(2));
@@ -717,6 +721,7 @@ void MeasurementListTest::namelessLinesOfCabinets()
 {
     const auto list = readMeasurementList("Module,Lv,x,y\nM1,200,0.3,0.3\nM2,201,0.3,0.3\n");
     QVERIFY2(list, qPrintable(list.error()));
+    QVERIFY(list.warnings().isEmpty());
     QVERIFY(list->measurements[0].name.isEmpty());
     QCOMPARE(list->cabinets().size(), 2);
 }
