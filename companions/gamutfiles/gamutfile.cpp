@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/gamutfile.h>
 
+#include "textencoding_p.h"
+
 #include <gamutfiles/descriptionfile.h>
 #include <gamutfiles/edid.h>
 #include <gamutfiles/filebytes.h>
@@ -15,18 +17,25 @@ namespace gamutfiles {
 
 namespace {
 
-// What becomes of a list must fit into a display description.
-constexpr int maximumMeasurementBytes = 1024 * 1024;
-
 enum class Format { Description, Measurements, IccProfile, Edid, Unknown };
 
 struct FileText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::GamutFile)
 };
 
-bool isText(const QByteArray &bytes)
+//! Whether a line near the beginning has fields, or says that it has.
+bool isList(const QByteArray &start)
 {
-    return !bytes.contains('\0') && !QString::fromUtf8(bytes).contains(QChar::ReplacementCharacter);
+    constexpr int mostLines = 50;
+    const auto decoded = decodeText(start);
+    if (!decoded) {
+        return false;
+    }
+    const QStringList lines = decoded->text.split(QLatin1Char('\n')).mid(0, mostLines);
+    return std::any_of(lines.begin(), lines.end(), [](const QString &line) {
+        return line.startsWith(QLatin1Char('#')) || line.contains(QLatin1Char(',')) || line.contains(QLatin1Char(';'))
+            || line.contains(QLatin1Char('\t'));
+    });
 }
 
 //! By the suffix, for content that gives no hint: damaged files, mostly.
@@ -36,7 +45,7 @@ Format expectedFormat(const QString &fileName)
     if (suffix == QLatin1String("json")) {
         return Format::Description;
     }
-    if (suffix == QLatin1String("csv")) {
+    if (suffix == QLatin1String("csv") || suffix == QLatin1String("tsv")) {
         return Format::Measurements;
     }
     if (suffix == QLatin1String("icc") || suffix == QLatin1String("icm")) {
@@ -62,10 +71,7 @@ Format format(const QByteArray &bytes, const QString &fileName)
     if (expected != Format::Unknown) {
         return expected;
     }
-    const QByteArray firstLine = trimmed.left(trimmed.indexOf('\n'));
-    const bool hasFields
-        = firstLine.contains(',') || firstLine.contains(';') || firstLine.contains('\t') || firstLine.startsWith('#');
-    return hasFields && isText(bytes) ? Format::Measurements : Format::Unknown;
+    return bytes.size() <= maximumMeasurementBytes && isList(bytes) ? Format::Measurements : Format::Unknown;
 }
 
 Outcome<GamutFile> declared(const Outcome<DisplayGamut> &gamut, GamutFile file)
@@ -81,7 +87,7 @@ Outcome<GamutFile> declared(const Outcome<DisplayGamut> &gamut, GamutFile file)
 
 } // namespace
 
-Outcome<GamutFile> readGamutFile(const QString &fileName)
+Outcome<GamutFile> readGamutFile(const QString &fileName, const MeasurementOptions &options)
 {
     using Failure = Outcome<GamutFile>;
     const Outcome<QByteArray> bytes = readBytes(fileName, maximumFileBytes);
@@ -103,11 +109,7 @@ Outcome<GamutFile> readGamutFile(const QString &fileName)
         return {file, description.warnings()};
     }
     case Format::Measurements: {
-        if (bytes->size() > maximumMeasurementBytes) {
-            return Failure::failure(FileText::tr("is too large for a measurement list (more than %1 KiB)")
-                                        .arg(maximumMeasurementBytes / 1024));
-        }
-        const auto measurements = readMeasurementList(*bytes);
+        const auto measurements = readMeasurementList(*bytes, options);
         if (!measurements) {
             return Failure::failure(measurements.problem());
         }
@@ -128,8 +130,8 @@ Outcome<GamutFile> readGamutFile(const QString &fileName)
 
 QStringList gamutFilePatterns()
 {
-    return {QStringLiteral("*.json"), QStringLiteral("*.csv"), QStringLiteral("*.icc"), QStringLiteral("*.icm"),
-        QStringLiteral("*.edid"), QStringLiteral("*.bin")};
+    return {QStringLiteral("*.json"), QStringLiteral("*.csv"), QStringLiteral("*.tsv"), QStringLiteral("*.txt"),
+        QStringLiteral("*.icc"), QStringLiteral("*.icm"), QStringLiteral("*.edid"), QStringLiteral("*.bin")};
 }
 
 } // namespace gamutfiles

@@ -33,9 +33,11 @@ constexpr int maximumFileBytes = 32 * 1024 * 1024;
  * \brief Reads the file \a fileName, of whichever format its content is: display description (JSON), measurement list
  * (CSV), ICC profile or EDID.
  *
- * Neither the failure nor the warnings name the file; Problem::message() does.
+ * \a options are for a measurement list; nothing else heeds them. Neither the failure nor the warnings name the file;
+ * Problem::message() does.
  */
-GAMUTFILES_EXPORT Outcome<GamutFile> readGamutFile(const QString &fileName);
+GAMUTFILES_EXPORT Outcome<GamutFile> readGamutFile(
+    const QString &fileName, const MeasurementOptions &options = MeasurementOptions());
 
 /*! \brief File name patterns for a dialog, such as "*.json", of every format that readGamutFile() reads. */
 GAMUTFILES_EXPORT QStringList gamutFilePatterns();

@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QStyleHints>
+#include <QStyleHints>
 #include <QtTest>
 
 using namespace gamutviewer;

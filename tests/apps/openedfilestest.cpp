@@ -243,7 +243,7 @@ void OpenedFilesTest::errors_data()
     row("binary,with,commas", QByteArray("a,b,c\0d", 7), unknown);
     row("wall.json of no JSON", "hello", ":1:2: illegal value");
     row("wall.json with an error", "{\"version\": 2}", ": gamuts: missing");
-    row("list.csv of binary", "\x89PNG", ": is not UTF-8 text");
+    row("list.csv of binary", "\x89PNG\r\n\x1A\n", ": is not UTF-8 text");
     row("list.csv of words", "hello", ": line 1: missing column name");
     row("short.icc", icc.left(20), ": is a truncated ICC profile: the header is incomplete");
     row("header.icm", icc.left(100), ": is a truncated ICC profile: 100 bytes instead of 0");

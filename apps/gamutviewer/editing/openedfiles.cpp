@@ -71,7 +71,9 @@ DisplayDescription withFile(const DisplayDescription &open, const GamutFile &fil
         }
         result.measurePoints.clear();
         for (const Measurement &point : file.measurements.others()) {
-            result.measurePoints.append({point.name, {point.color.x, point.color.y}});
+            if (point.color) { // black has no place on a diagram
+                result.measurePoints.append({point.name, {point.color->x, point.color->y}});
+            }
         }
         break;
     }
