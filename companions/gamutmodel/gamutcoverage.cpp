@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gamutmodel/gamutcoverage.h>
 
+#include <gamutmodel/plane_p.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -18,12 +20,6 @@ Triangle corners(const Targets &gamut, Diagram diagram)
 {
     return {toDiagram(diagram, {gamut.red.x, gamut.red.y}), toDiagram(diagram, {gamut.green.x, gamut.green.y}),
         toDiagram(diagram, {gamut.blue.x, gamut.blue.y})};
-}
-
-/*! \brief Twice the signed area of the triangle a, b, c: positive if c is left of the line from a to b. */
-double turn(const DiagramPoint &a, const DiagramPoint &b, const DiagramPoint &c)
-{
-    return (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
 }
 
 double finiteOrZero(double value)
