@@ -178,7 +178,9 @@ Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
         return Failure::failure(EdidText::tr("is an EDID without usable primaries: %1").arg(gamut.error()));
     }
     display.gamut = DisplayGamut(*gamut, isAbsolute ? LuminanceUnit::CandelaPerSquareMetre : LuminanceUnit::Relative);
-    return {display, copies(display) + contradictions(display, base) + extensions.warnings()};
+    return {display,
+        copies(display) + warningsOfTheLocus(gamut->getTargets()) + contradictions(display, base)
+            + extensions.warnings()};
 }
 
 Outcome<DisplayGamut> readEdid(const QByteArray &bytes)
