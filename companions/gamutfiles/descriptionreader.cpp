@@ -146,6 +146,14 @@ DisplayGamut DescriptionReader::readGamut(const Node &node, PrimariesOf kind)
     if (!Model::spanTriangle(targets)) {
         fail(node, noTriangleText());
     }
+    if (!hasRealPrimaries(targets)) {
+        const auto xy = [](const Model::Target &color) { return QPointF(color.x, color.y); };
+        const auto mixed = gamutFromPrimaries(
+            name, {xy(targets.red), xy(targets.green), xy(targets.blue), xy(targets.white)}, 1.0, kind);
+        if (!mixed) {
+            fail(node, mixed.error());
+        }
+    }
     return {Model::ColorGamut(name.toStdString(), targets), readUnit(member(node, luminanceUnitKey()))};
 }
 

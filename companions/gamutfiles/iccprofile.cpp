@@ -148,16 +148,50 @@ QString colorSpaceName(quint32 space)
     return IccText::tr("not an RGB profile");
 }
 
-//! The entries of the "meta" tag.
+//! UTF-16, big-endian; only what lies inside of \a bytes, and up to a null character.
+QString utf16(const QByteArray &bytes, quint32 offset, quint32 size)
+{
+    QString text;
+    const auto end = quint32(bytes.size());
+    for (quint32 at = offset; at < end && at - offset < size && end - at >= 2; at += 2) {
+        const auto unit = qFromBigEndian<quint16>(bytes.constData() + at);
+        if (unit == 0) {
+            break;
+        }
+        text += QChar(unit);
+    }
+    return text;
+}
+
+/*!
+ * \brief The entries of the "meta" tag: a dictType (ICC, "dictType" and "metadataTag", 2010).
+ *
+ * A count, the length of a record, and records that begin with offset and size of a name and of a value. Little CMS
+ * would read them, too, but frees a piece twice when it is refused memory for them.
+ */
 QVector<IccMetadata> metadata(const Profile &profile)
 {
     constexpr int maximumEntries = 256;
+    constexpr int maximumSize = 1024 * 1024;
+    constexpr quint32 firstRecord = 16;
+    const cmsUInt32Number size = cmsReadRawTag(profile.get(), cmsSigMetaTag, nullptr, 0);
+    if (size < firstRecord || size > maximumSize) {
+        return {};
+    }
+    QByteArray bytes(int(size), '\0');
+    if (cmsReadRawTag(profile.get(), cmsSigMetaTag, bytes.data(), size) != size || !bytes.startsWith("dict")) {
+        return {};
+    }
+    const quint32 count = bigEndian(bytes, 8);
+    const quint32 length = bigEndian(bytes, 12);
+    if (length != 16 && length != 24 && length != 32) {
+        return {};
+    }
     QVector<IccMetadata> entries;
-    const auto text = [](const wchar_t *value) { return value ? QString::fromWCharArray(value) : QString(); };
-    const auto *dictionary = cmsReadTag(profile.get(), cmsSigMetaTag);
-    const cmsDICTentry *entry = dictionary ? cmsDictGetEntryList(const_cast<void *>(dictionary)) : nullptr;
-    for (; entry && entries.size() < maximumEntries; entry = cmsDictNextEntry(entry)) {
-        entries.append({text(entry->Name), text(entry->Value)});
+    for (quint32 i = 0; i < count && entries.size() < maximumEntries && firstRecord + (i + 1) * length <= size; ++i) {
+        const auto number
+            = [&bytes, at = int(firstRecord + i * length)](int index) { return bigEndian(bytes, at + 4 * index); };
+        entries.append({utf16(bytes, number(0), number(1)), utf16(bytes, number(2), number(3))});
     }
     return entries;
 }
