@@ -190,30 +190,47 @@ Outcome<DisplayGamut> readEdid(const QByteArray &bytes)
                    : Outcome<DisplayGamut>::failure(display.problem());
 }
 
-QByteArray edidFromHexDump(const QByteArray &text)
+Outcome<QByteArray> edidFromHexDump(const QByteArray &text)
 {
+    using NoEdid = Outcome<QByteArray>;
     constexpr int maximumSize = 256 * edidBlockSize; // a base block and 255 extensions
     static const QRegularExpression address(QStringLiteral("^\\s*(0x)?[0-9a-f]+:"));
     static const QRegularExpression notDigits(QStringLiteral("0x|[\\s,]"));
     static const QRegularExpression hexBytes(QStringLiteral("^([0-9a-f]{2})+$"));
+    const bool mayHoldOne = text.size() <= maximumHexDumpBytes && (text.contains("ff") || text.contains("FF"));
+    if (!mayHoldOne) {
+        return NoEdid::failure(EdidText::tr("holds no EDID"));
+    }
+    QByteArray first;
     QByteArray bytes;
+    int count = 0;
+    const auto finish = [&first, &bytes, &count] {
+        if (bytes.size() >= edidBlockSize && isEdid(bytes)) {
+            first = ++count == 1 ? bytes : first;
+        }
+        bytes.clear();
+    };
     for (const QByteArray &line : text.split('\n')) {
         const QString digits = QString::fromLatin1(line).toLower().remove(address).remove(notDigits);
         if (digits.isEmpty()) {
             continue;
         }
-        if (hexBytes.match(digits).hasMatch()) {
-            bytes += QByteArray::fromHex(digits.toLatin1());
-            if (isEdid(bytes) && bytes.size() < maximumSize) {
-                continue;
-            }
+        if (!hexBytes.match(digits).hasMatch()) {
+            finish();
+            continue;
         }
-        if (bytes.size() >= edidBlockSize && isEdid(bytes)) {
-            break;
+        const QByteArray piece = QByteArray::fromHex(digits.toLatin1());
+        if (isEdid(piece) || bytes.size() + piece.size() > maximumSize) {
+            finish();
         }
-        bytes.clear();
+        bytes += piece;
     }
-    return bytes.size() < edidBlockSize ? QByteArray() : bytes;
+    finish();
+    if (count == 0) {
+        return NoEdid::failure(EdidText::tr("holds no EDID"));
+    }
+    const Problem others{EdidText::tr("holds %1 EDIDs, of which only the first is read").arg(count), {}, 0, 0};
+    return {first, count > 1 ? QVector<Problem>{others} : QVector<Problem>()};
 }
 
 } // namespace gamutfiles

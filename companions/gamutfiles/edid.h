@@ -87,14 +87,17 @@ GAMUTFILES_EXPORT Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes);
 /*! \brief EdidDisplay::gamut of readEdidDisplay(), with the same warnings. */
 GAMUTFILES_EXPORT Outcome<DisplayGamut> readEdid(const QByteArray &bytes);
 
+/*! \brief Longer texts are not searched for an EDID. */
+constexpr int maximumHexDumpBytes = 1024 * 1024;
+
 /*!
  * \brief The bytes of the first EDID that \a text holds as hexadecimal digits, as programs print them that list
- * displays; empty if there is none.
+ * displays. A failure if there is none; a warning if there are others.
  *
- * The digits may have spaces, commas, 0x and line ends between them, and stand on lines of their own or behind an
- * address, "00000010:" for example. Reading ends at the first line that has anything else.
+ * The digits may have spaces, tabs, commas, 0x and line ends between them, and stand on lines of their own or behind an
+ * address, "00000010:" for example. An EDID ends at the first line that has anything else.
  */
-GAMUTFILES_EXPORT QByteArray edidFromHexDump(const QByteArray &text);
+GAMUTFILES_EXPORT Outcome<QByteArray> edidFromHexDump(const QByteArray &text);
 
 } // namespace gamutfiles
 

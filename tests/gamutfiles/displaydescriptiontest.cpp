@@ -410,13 +410,13 @@ void DisplayDescriptionTest::refusedFiles()
 
     QCOMPARE(messageForFile(folder.path()), folder.path() + QStringLiteral(": is a folder"));
     const QString missing = folder.filePath(QStringLiteral("missing.json"));
-    QCOMPARE(messageForFile(missing), missing + QStringLiteral(": cannot be read: No such file or directory"));
+    QCOMPARE(messageForFile(missing), missing + QStringLiteral(": cannot be read: there is no such file"));
     const QString empty = write("empty.json", "");
     QCOMPARE(messageForFile(empty), empty + QStringLiteral(": is empty"));
     const QString good = write("good.json", description);
     QCOMPARE(messageForFile(good), QStringLiteral("taken"));
     const QString beyond = good + QStringLiteral("/x.json");
-    QCOMPARE(messageForFile(beyond), beyond + QStringLiteral(": cannot be read: Not a directory"));
+    QCOMPARE(messageForFile(beyond), beyond + QStringLiteral(": cannot be read: there is no such file"));
 #ifdef Q_OS_UNIX
     const QString loop = folder.filePath(QStringLiteral("loop.json"));
     QVERIFY(QFile::link(loop, loop));

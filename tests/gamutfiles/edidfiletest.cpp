@@ -459,6 +459,7 @@ void EdidFileTest::contradictions()
 void EdidFileTest::hexDumps_data()
 {
     QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("warning");
     const QByteArray edid = hdrDisplay("\x8A\x6A\x02");
     const auto lines = [&edid](const QByteArray &indent, char separator, bool addresses) {
         QByteArray text;
@@ -468,30 +469,42 @@ void EdidFileTest::hexDumps_data()
         }
         return text;
     };
-    QTest::newRow("one line") << edid.toHex();
-    QTest::newRow("lines") << lines("", ' ', false);
-    QTest::newRow("capitals, other line ends") << lines("", ' ', false).toUpper().replace('\n', "\r\n");
-    QTest::newRow("addresses") << lines("", ' ', true);
-    QTest::newRow("0x") << "0x" + edid.toHex(',').replace(",", ", 0x");
-    QTest::newRow("properties of an output") << "HDMI-1 connected\n\tCTM: 0 1\n\tEDID: \n" + lines("\t\t", '\0', false)
-            + "\tGAMMA_LUT_SIZE: 4096 \n\tlink-status: Good\n";
-    QTest::newRow("decoded") << "edid-decode (hex):\n\n" + lines("", ' ', false) + "\n----------------\n\n10\n";
-    QTest::newRow("two displays") << "first:\n" + lines("  ", '\0', false) + "second:\n" + lines("  ", '\0', false);
+    const auto row = [](const char *name, const QByteArray &text, const QString &warning = {}) {
+        QTest::newRow(name) << text << warning;
+    };
+    row("one line", edid.toHex());
+    row("lines", lines("", ' ', false));
+    row("capitals, other line ends", lines("", ' ', false).toUpper().replace('\n', "\r\n"));
+    row("addresses", lines("", ' ', true));
+    row("0x", "0x" + edid.toHex(',').replace(",", ", 0x"));
+    row("properties of an output",
+        "HDMI-1 connected\n\tCTM: 0 1\n\tEDID: \n" + lines("\t\t", '\0', false)
+            + "\tGAMMA_LUT_SIZE: 4096 \n\tlink-status: Good\n");
+    row("decoded", "edid-decode (hex):\n\n" + lines("", ' ', false) + "\n----------------\n\n10\n");
+    const QString several = QStringLiteral("holds 2 EDIDs, of which only the first is read");
+    row("two displays", "first:\n" + lines("  ", '\0', false) + "second:\n" + lines("  ", '\0', false), several);
+    row("two without a word", lines("  ", '\0', false) + lines("  ", '\0', false), several);
 }
 
 void EdidFileTest::hexDumps()
 {
     QFETCH(QByteArray, text);
-    QCOMPARE(edidFromHexDump(text), hdrDisplay("\x8A\x6A\x02"));
+    QFETCH(QString, warning);
+    const auto edid = edidFromHexDump(text);
+    QVERIFY2(edid, qPrintable(edid.error()));
+    QCOMPARE(*edid, hdrDisplay("\x8A\x6A\x02"));
+    QCOMPARE(messages(edid.warnings()).join('\n'), warning);
 }
 
 void EdidFileTest::noHexDumps()
 {
-    QCOMPARE(edidFromHexDump(""), QByteArray());
-    QCOMPARE(edidFromHexDump("name,Y,x,y\nred,1,0.6,0.3\n"), QByteArray());
-    QCOMPARE(edidFromHexDump(samplefiles::edid().left(127).toHex()), QByteArray());
-    QCOMPARE(edidFromHexDump(samplefiles::edid().toHex().replace(100, 1, "g")), QByteArray());
-    QCOMPARE(edidFromHexDump(QByteArray(256, 'a')), QByteArray());
+    QVERIFY(!edidFromHexDump(""));
+    QVERIFY(!edidFromHexDump("name,Y,x,y\nred,1,0.6,0.3\n"));
+    QVERIFY(!edidFromHexDump(samplefiles::edid().left(127).toHex()));
+    QVERIFY(!edidFromHexDump(samplefiles::edid().toHex().replace(100, 1, "g")));
+    QVERIFY(!edidFromHexDump(QByteArray(256, 'a')));
+    QVERIFY(!edidFromHexDump(samplefiles::edid().toHex().leftJustified(maximumHexDumpBytes + 1)));
+    QVERIFY(edidFromHexDump(samplefiles::edid().toHex().leftJustified(maximumHexDumpBytes)));
 }
 
 // The low two bits of each coordinate stand apart from the high eight.
