@@ -80,7 +80,7 @@ Outcome<QByteArray> readBytes(const QString &fileName, int maximum)
     // One byte more than allowed tells a longer file, also where a size is not known beforehand (a pipe, a device).
     QByteArray bytes;
     while (bytes.size() <= maximum) {
-        const QByteArray piece = file.read(std::min(maximum + 1 - bytes.size(), pieceSize));
+        const QByteArray piece = file.read(std::min(maximum + 1 - int(bytes.size()), pieceSize));
         if (piece.isEmpty()) {
             break;
         }
