@@ -37,6 +37,7 @@ private Q_SLOTS:
     void extensionsTruncatedAnywhere();
     void copiedStandards_data();
     void copiedStandards();
+    void primaryThatNoLightHas();
     void contradictions();
     void hexDumps_data();
     void hexDumps();
@@ -445,6 +446,19 @@ void EdidFileTest::copiedStandards()
     const auto gamut = readEdid(samplefiles::edidOf(colors));
     QVERIFY2(gamut, qPrintable(gamut.error()));
     QCOMPARE(messages(gamut.warnings()).join('\n'), warning);
+}
+
+// The distance by a script from the table of the colour-matching functions at 1 nm.
+void EdidFileTest::primaryThatNoLightHas()
+{
+    const auto gamut
+        = readEdid(samplefiles::edidOf(QByteArray("\xEE\x81\xA3\x54\x4C\x99\x19\x05\x50\x54", 10))); // blue 102, 20
+    QVERIFY2(gamut, qPrintable(gamut.error()));
+    QVERIFY(isExactly(gamut->getTargets().blue, 102, 20));
+    QCOMPARE(messages(gamut.warnings()).join('\n'),
+        QStringLiteral(
+            "the blue primary at 0.0996, 0.0195 lies outside of the spectral locus by 0.0411 in x, y: no light "
+            "has this colour"));
 }
 
 void EdidFileTest::contradictions()
