@@ -41,8 +41,8 @@ quint32 bigEndian(const QByteArray &bytes, int offset)
     return qFromBigEndian<quint32>(bytes.constData() + offset);
 }
 
-//! The value of a tag; null if it has another type, or fewer than \a dataSize bytes behind it, which not every version of
-//! Little CMS looks at.
+//! The value of a tag; null if it has another type, or fewer than \a dataSize bytes behind it, which not every version
+//! of Little CMS looks at.
 template <typename T>
 const T *tag(const Profile &profile, cmsTagSignature signature, cmsUInt32Number dataSize)
 {
