@@ -18,7 +18,6 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QStyleHints>
-#include <QStyleHints>
 #include <QtTest>
 
 using namespace gamutviewer;

@@ -289,7 +289,7 @@ void OpenedFilesTest::hugeFiles()
 
 void OpenedFilesTest::missingFilesAndFolders()
 {
-    QCOMPARE(messageFor(path("no.icc")), path("no.icc") + ": cannot be read: No such file or directory");
+    QCOMPARE(messageFor(path("no.icc")), path("no.icc") + ": cannot be read: there is no such file");
     QCOMPARE(messageFor(m_folder->path()), m_folder->path() + ": is a folder");
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <diagram/diagramfile.h>
 #include <diagram/fulldiagram.h>
+#include <gamutmodel/publishedgamuts.h>
 
 #include <QPainter>
 #include <QtTest>
@@ -16,6 +17,8 @@ class DiagramPainterTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void colorSpacesAreClippedAtThePlot_data();
+    void colorSpacesAreClippedAtThePlot();
     void layersCanBeSwitchedOff_data();
     void layersCanBeSwitchedOff();
     void targetsWithoutWhiteAreNotShown();
@@ -26,6 +29,53 @@ private Q_SLOTS:
     void neededPartsAreAsInTheWhole_data();
     void neededPartsAreAsInTheWhole();
 };
+
+void DiagramPainterTest::colorSpacesAreClippedAtThePlot_data()
+{
+    QTest::addColumn<int>("diagram");
+    QTest::addColumn<double>("zoom");
+    for (const Model::Diagram diagram : allDiagrams) {
+        for (const double zoom : {1.0, 20.0}) {
+            QTest::addRow("%s, %g", Model::diagramTraits(diagram).name, zoom) << int(diagram) << zoom;
+        }
+    }
+}
+
+// The blue primary of ACES2065-1 lies below the axis, and its green one at the top.
+void DiagramPainterTest::colorSpacesAreClippedAtThePlot()
+{
+    QFETCH(int, diagram);
+    QFETCH(double, zoom);
+    const Model::ColorGamut space = Model::publishedGamut("ACES2065-1")->gamut;
+    DiagramContent content = fullContent();
+    content.layers.setFlag(DiagramLayer::Names, false);
+    DiagramPainter painter;
+    const QPointF blueEnd(0.17, 0.01);
+    prepare(painter, content, Model::Diagram(diagram), QSizeF(500, 500), zoom, blueEnd);
+    const QImage without = painted(painter);
+    content.gamuts.append({space, GamutRole::Standard});
+    content.gamuts.append({space, GamutRole::Declared});
+    prepare(painter, content, Model::Diagram(diagram), QSizeF(500, 500), zoom, blueEnd);
+    const QImage with = painted(painter);
+    QVERIFY(with.size() == without.size());
+    // Lines are cut at the plot; their width and their casing stand out of it.
+    constexpr int lineWidth = 4;
+    const QRect plot = painter.viewport().plot().toAlignedRect().adjusted(-lineWidth, -lineWidth, lineWidth, lineWidth);
+    int inside = 0;
+    for (int y = 0; y < with.height(); ++y) {
+        for (int x = 0; x < with.width(); ++x) {
+            if (with.pixel(x, y) != without.pixel(x, y)) {
+                QVERIFY2(plot.contains(x, y), qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
+                ++inside;
+            }
+        }
+    }
+    QVERIFY(inside > 0 || zoom > 1.0);
+    content.layers.setFlag(DiagramLayer::Names, true);
+    painter.setContent(content);
+    QVERIFY(!painted(painter).isNull());
+    QVERIFY(hasNumbersOnly(svgOf(painter, QSize(500, 500))));
+}
 
 void DiagramPainterTest::layersCanBeSwitchedOff_data()
 {
