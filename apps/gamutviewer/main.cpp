@@ -19,7 +19,7 @@ namespace {
 
 using namespace gamutviewer;
 
-enum ExitStatus { Done = 0, Failed = 1, WrongInput = 2 };
+enum ExitStatus { Done = 0, Failed = 1, WrongInput = 2, NeedsChoice = 5 };
 
 int print(const QByteArray &text)
 {
@@ -54,11 +54,25 @@ int show(const OpenedFiles &opened, const CommandLine &commandLine)
 {
     installInterfaceTranslations();
     ViewerWindow window;
-    window.setDescription(opened.description, opened.descriptionFile);
+    if (!opened.needsChoice) {
+        window.setOpened(opened);
+    }
     if (commandLine.hasSize()) {
         window.resize(commandLine.extent().size.boundedTo(QApplication::primaryScreen()->availableSize()));
     }
     window.show();
+    if (opened.needsChoice) {
+        // The user is asked what the list means, over the window.
+        QMetaObject::invokeMethod(
+            &window,
+            [&] {
+                if (!window.openPaths(
+                        commandLine.files(), ViewerWindow::Manner::Open, commandLine.measurementOptions())) {
+                    window.setOpened(opened);
+                }
+            },
+            Qt::QueuedConnection);
+    }
     return QApplication::exec();
 }
 
@@ -92,13 +106,26 @@ int main(int argc, char *argv[])
     }
 
     const QStringList files = commandLine.files();
-    const Outcome<OpenedFiles> opened = openFiles(files.isEmpty() ? QStringList(sampleFile()) : files);
+    const Outcome<OpenedFiles> opened
+        = openFiles(files.isEmpty() ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
     if (!opened) {
         printError(opened.error());
         return WrongInput;
     }
+    if (commandLine.hasMeasurementOptions() && !opened->hasLists) {
+        printError(QApplication::translate(
+            "main", "--red, --green, --blue, --white, --unit and --decimal require a measurement list"));
+        return WrongInput;
+    }
+    const bool isAsked = commandLine.action() == CommandLine::Action::Show && opened->needsChoice;
+    for (const FileWarning &warning : opened->warnings) {
+        if (!isAsked) { // or else after the answer
+            printError(warning.message());
+        }
+    }
     if (commandLine.action() == CommandLine::Action::Write) {
-        return write(opened->description, commandLine);
+        const int status = write(opened->description, commandLine);
+        return status == Done && opened->needsChoice ? NeedsChoice : status;
     }
     if (!canShow) {
         printError(QApplication::translate(

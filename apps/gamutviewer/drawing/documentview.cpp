@@ -72,7 +72,9 @@ void DocumentView::refresh()
         return;
     }
     ceiechart::DiagramContent content = m_switches->content(document->description());
-    content.trail = document->whiteTrail();
+    if (content.find(ceiechart::GamutRole::Target)) {
+        content.trail = document->whiteTrail();
+    }
     setContent(content);
     if (!isReadOnly()) {
         setSelectedVertex(m_session->selected());

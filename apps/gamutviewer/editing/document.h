@@ -25,7 +25,14 @@ public:
     std::optional<Model::ColorGamut> original() const { return m_description.gamut(m_description.original); }
     std::optional<Model::ColorGamut> declared() const { return m_description.gamut(m_description.declared); }
     std::optional<Model::ColorGamut> measured() const { return m_description.gamut(m_description.measured); }
-    std::optional<Model::ColorGamut> target() const { return m_description.gamut(m_description.target); }
+    /*!
+     * \brief The gamut that is edited: the target of the description, or a default where it has none.
+     *
+     * The default is nobody's: ask targetIsDefault() before saying anything of the display by it.
+     */
+    std::optional<Model::ColorGamut> target() const;
+    /*! \brief Whether nobody has chosen a target. */
+    bool targetIsDefault() const { return m_description.target.isEmpty(); }
 
     /*! \brief The file that the description is saved in; empty when it has none yet. */
     const QString &fileName() const { return m_fileName; }

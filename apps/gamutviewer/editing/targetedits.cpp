@@ -75,7 +75,8 @@ QString editedName(const QString &plain, int number)
 
 QString freeEditedName(const DisplayDescription &description)
 {
-    const QString plain = plainName(description.target);
+    const QString plain = plainName(
+        description.target.isEmpty() ? QString::fromStdString(defaultTarget().colorGamutName()) : description.target);
     int number = 1;
     while (contains(description.gamuts, editedName(plain, number))) {
         ++number;
@@ -124,9 +125,19 @@ QRegularExpressionMatch editedMatch(const QString &gamutName)
 
 } // namespace
 
+DisplayGamut defaultTarget()
+{
+    return {Model::rec709(), LuminanceUnit::Relative};
+}
+
+std::optional<DisplayGamut> targetToEdit(const DisplayDescription &description)
+{
+    return description.target.isEmpty() ? defaultTarget() : description.gamut(description.target);
+}
+
 DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets)
 {
-    const auto before = description.gamut(description.target);
+    const auto before = targetToEdit(description);
     if (!isEditedName(description.target) || !isOnlyTheTarget(description)) {
         description.target = freeEditedName(description);
     }
@@ -154,6 +165,12 @@ DisplayDescription withTargetNamed(
         remove(description.gamuts, before);
     }
     return description;
+}
+
+bool canBeTarget(const Model::Targets &targets)
+{
+    return std::all_of(allVertices.begin(), allVertices.end(),
+        [&targets](Vertex vertex) { return ceiechart::isChromaticity(xyOf(targetAt(targets, vertex))); });
 }
 
 bool isEditedName(const QString &gamutName)

@@ -14,12 +14,21 @@ using ceiechart::targetAt;
 using ceiechart::xyOf;
 constexpr auto allVertices = ceiechart::allGamutVertices;
 
+/*! \brief What editing begins with where a description has no target: Rec.709, relative to a white of 1. */
+DisplayGamut defaultTarget();
+
+/*!
+ * \brief The target of \a description, or, where it names none, defaultTarget(); nothing when there is no gamut of the
+ * name.
+ */
+std::optional<DisplayGamut> targetToEdit(const DisplayDescription &description);
+
 /*!
  * \brief \a description with the target changed by hand to \a targets.
  *
  * A gamut that has a name of its own is left as it is: the target becomes a gamut of the description that is called
- * after it, "Rec.709 (edited)", and later edits change that one. Where that name is taken, or where the edited gamut
- * plays another part too, it is "Rec.709 (edited 2)".
+ * after it, "Rec.709 (edited)", and later edits change that one. Without a target, the default one is changed. Where
+ * that name is taken, or where the edited gamut plays another part too, it is "Rec.709 (edited 2)".
  */
 DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets);
 
@@ -32,6 +41,9 @@ DisplayDescription withEditedTarget(DisplayDescription description, const Model:
  */
 DisplayDescription withTargetNamed(
     DisplayDescription description, const QString &gamutName, const DisplayDescription &saved = DisplayDescription());
+
+/*! \brief Whether all colours of \a targets are real enough to be asked of a display: ACES2065-1, for one, is not. */
+bool canBeTarget(const Model::Targets &targets);
 
 /*! \brief Whether \a gamutName is that of a gamut changed by hand. */
 bool isEditedName(const QString &gamutName);

@@ -5,6 +5,7 @@
 #include "display/valuetexts.h"
 #include "editing/document.h"
 #include "editing/gamutparts.h"
+#include "editing/gamutroles.h"
 #include "editing/targetsession.h"
 #include "panel/groupedtable.h"
 #include "panel/targeteditor.h"
@@ -34,6 +35,15 @@ QStringList coverageCells(const Model::ColorGamut &gamut, const Model::ColorGamu
         cells << percent(c.coverage) << percent(c.areaRatio);
     }
     return cells;
+}
+
+void appendNotKnown(QVector<GroupedTable::Group> &groups, const DisplayDescription &description)
+{
+    for (const GamutRole role : {GamutRole::Target, GamutRole::Original}) {
+        if (!description.gamut(gamutInRole(description, role))) {
+            groups.append({notKnownTitle(role), {}});
+        }
+    }
 }
 
 } // namespace
@@ -86,6 +96,7 @@ void SidePanel::refreshValues()
         }
         groups.prepend(group);
     }
+    appendNotKnown(groups, m_document->description());
     m_values->setGroups(groups);
 }
 
@@ -100,6 +111,7 @@ void SidePanel::refreshCoverage()
         }
         groups.prepend(group);
     }
+    appendNotKnown(groups, m_document->description());
     m_coverage->setGroups(groups);
 }
 

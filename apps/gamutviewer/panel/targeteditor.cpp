@@ -4,6 +4,7 @@
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
 #include "editing/document.h"
+#include "editing/gamutparts.h"
 #include "editing/targetsession.h"
 #include "panel/coordinatepair.h"
 
@@ -23,18 +24,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace gamutviewer {
 
 namespace {
-
-//! Whether all colours of \a targets are real enough to be asked of a display: ACES2065-1, for one, is not.
-bool canBeTarget(const Model::Targets &targets)
-{
-    return std::all_of(allVertices.begin(), allVertices.end(),
-        [&targets](Vertex vertex) { return ceiechart::isChromaticity(xyOf(targetAt(targets, vertex))); });
-}
 
 constexpr int chromaticityDecimals = 4;
 constexpr double chromaticityStep = 0.001;
@@ -214,7 +206,9 @@ bool TargetEditor::showsUv() const
 void TargetEditor::refresh()
 {
     const auto target = m_session->document()->target();
-    m_name->setText(target ? shownGamutName(m_session->document()->description().target) : tr("No target"));
+    const GamutPart shownTarget{
+        ceiechart::GamutRole::Target, target.value_or(Model::ColorGamut()), m_session->document()->targetIsDefault()};
+    m_name->setText(target ? shownTarget.name() : tr("No target"));
     m_name->setToolTip(m_name->text());
     m_firstHeader->setText(showsUv() ? tr("u′") : tr("x"));
     m_secondHeader->setText(showsUv() ? tr("v′") : tr("y"));

@@ -56,7 +56,7 @@ void Verdict::refresh()
     QString verdict = tr("Nothing to compare");
     QString grounds;
     bool isOutside = false;
-    if (!document->target()) {
+    if (!document->target() || document->targetIsDefault()) {
         grounds = tr("There is no target.");
     } else if (!document->original()) {
         grounds = tr("What the display can show is not known.");
