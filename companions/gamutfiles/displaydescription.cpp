@@ -1,11 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/displaydescription.h>
 
+#include "gamutfromprimaries_p.h"
+
 #include <gamutmodel/publishedgamuts.h>
 
 #include <algorithm>
 
 namespace gamutfiles {
+
+bool hasRealPrimaries(const Model::Targets &gamut)
+{
+    const auto isReal = [](const Model::Target &color) { return isPrimary({color.x, color.y}, PrimariesOf::Display); };
+    return isReal(gamut.red) && isReal(gamut.green) && isReal(gamut.blue);
+}
 
 std::optional<DisplayGamut> DisplayDescription::gamut(const QString &gamutName) const
 {

@@ -45,13 +45,15 @@ Format expectedFormat(const QString &fileName)
     if (suffix == QLatin1String("json")) {
         return Format::Description;
     }
-    if (suffix == QLatin1String("csv")) {
+    if (suffix == QLatin1String("csv") || suffix == QLatin1String("tsv")) {
         return Format::Measurements;
     }
     if (suffix == QLatin1String("icc") || suffix == QLatin1String("icm")) {
         return Format::IccProfile;
     }
-    return suffix == QLatin1String("edid") ? Format::Edid : Format::Unknown;
+    // The kernel names the EDID of each output so, without a suffix.
+    const bool isEdidName = suffix == QLatin1String("edid") || QFileInfo(fileName).fileName() == QLatin1String("edid");
+    return isEdidName ? Format::Edid : Format::Unknown;
 }
 
 Format format(const QByteArray &bytes, const QString &fileName)
@@ -74,15 +76,77 @@ Format format(const QByteArray &bytes, const QString &fileName)
     return bytes.size() <= maximumMeasurementBytes && isList(bytes) ? Format::Measurements : Format::Unknown;
 }
 
-Outcome<GamutFile> declared(const Outcome<DisplayGamut> &gamut, GamutFile file)
+QString candelas(double luminance)
 {
-    if (!gamut) {
-        return Outcome<GamutFile>::failure(gamut.problem());
+    return FileText::tr("%1 cd/m²").arg(luminance, 0, 'g', 4);
+}
+
+void add(QVector<DisplayFact> &facts, const QString &name, const QString &value)
+{
+    if (!value.isEmpty()) {
+        facts.append({name, value});
+    }
+}
+
+void add(QVector<DisplayFact> &facts, const QString &name, const std::optional<double> &luminance)
+{
+    if (luminance) {
+        facts.append({name, candelas(*luminance)});
+    }
+}
+
+QVector<DisplayFact> facts(const EdidDisplay &display)
+{
+    const QString list = QStringLiteral(", ");
+    const auto year = [](const std::optional<int> &value) { return value ? QString::number(*value) : QString(); };
+    const EdidNativeLuminance &native = display.nativeLuminance;
+    const EdidContentLuminance &content = display.contentLuminance;
+    QVector<DisplayFact> facts;
+    add(facts, FileText::tr("manufacturer"), display.manufacturer);
+    add(facts, FileText::tr("year of manufacture"), year(display.manufactureYear));
+    add(facts, FileText::tr("year of the model"), year(display.modelYear));
+    add(facts, FileText::tr("gamma"), display.gamma ? QString::number(*display.gamma) : QString());
+    add(facts, FileText::tr("luminance of a white screen"), native.fullScreen);
+    add(facts, FileText::tr("luminance of white on 10 % of the screen"), native.tenPercent);
+    add(facts, FileText::tr("luminance of black"), native.minimum);
+    if (native.fullScreen || native.tenPercent || native.minimum) {
+        add(facts, FileText::tr("these luminances are"),
+            native.guaranteed ? FileText::tr("guaranteed") : FileText::tr("guidance for the source"));
+    }
+    add(facts, FileText::tr("desired maximum luminance of content"), content.maximum);
+    add(facts, FileText::tr("desired maximum average of a frame"), content.maximumFrameAverage);
+    add(facts, FileText::tr("desired minimum luminance of content"), content.minimum);
+    add(facts, FileText::tr("takes signals of"), display.colorimetries.join(list));
+    add(facts, FileText::tr("takes transfer functions"), display.transferFunctions.join(list));
+    return facts;
+}
+
+QVector<DisplayFact> facts(const IccDisplay &display)
+{
+    QVector<DisplayFact> facts;
+    add(facts, FileText::tr("luminance of white"), display.whiteLuminance);
+    if (display.hasVideoCardTable) {
+        add(facts, FileText::tr("calibration curves"),
+            FileText::tr("in the profile; its gamut holds while they are loaded"));
+    }
+    for (const IccMetadata &entry : display.metadata) {
+        add(facts, entry.name, entry.value);
+    }
+    return facts;
+}
+
+template <typename Display>
+Outcome<GamutFile> declared(const Outcome<Display> &display, GamutFile file)
+{
+    if (!display) {
+        return Outcome<GamutFile>::failure(display.problem());
     }
     file.content = GamutFile::Content::DeclaredGamut;
-    const std::string name = gamut->colorGamutName();
-    file.gamut = DisplayGamut({name.empty() ? file.name.toStdString() : name, gamut->getTargets()}, gamut->unit);
-    return {file, gamut.warnings()};
+    const DisplayGamut &gamut = display->gamut;
+    const std::string name = gamut.colorGamutName();
+    file.gamut = DisplayGamut({name.empty() ? file.name.toStdString() : name, gamut.getTargets()}, gamut.unit);
+    file.facts = facts(*display);
+    return {file, display.warnings()};
 }
 
 } // namespace
@@ -98,7 +162,11 @@ Outcome<GamutFile> readGamutFile(const QString &fileName, const MeasurementOptio
         return Failure::failure(FileText::tr("is empty"));
     }
     GamutFile file;
-    file.name = QFileInfo(fileName).completeBaseName();
+    file.name = isStandardInput(fileName) ? FileText::tr("standard input") : QFileInfo(fileName).completeBaseName();
+    if (const auto dumped = edidFromHexDump(*bytes)) {
+        const auto opened = declared(readEdidDisplay(*dumped), file);
+        return opened ? Outcome<GamutFile>(*opened, dumped.warnings() + opened.warnings()) : opened;
+    }
     switch (format(*bytes, fileName)) {
     case Format::Description: {
         const auto description = readDescription(*bytes);
@@ -118,9 +186,9 @@ Outcome<GamutFile> readGamutFile(const QString &fileName, const MeasurementOptio
         return {file, measurements.warnings()};
     }
     case Format::IccProfile:
-        return declared(readIccProfile(*bytes), file);
+        return declared(readIccDisplay(*bytes), file);
     case Format::Edid:
-        return declared(readEdid(*bytes), file);
+        return declared(readEdidDisplay(*bytes), file);
     case Format::Unknown:
         break;
     }
@@ -130,8 +198,9 @@ Outcome<GamutFile> readGamutFile(const QString &fileName, const MeasurementOptio
 
 QStringList gamutFilePatterns()
 {
-    return {QStringLiteral("*.json"), QStringLiteral("*.csv"), QStringLiteral("*.icc"), QStringLiteral("*.icm"),
-        QStringLiteral("*.edid"), QStringLiteral("*.bin")};
+    return {QStringLiteral("*.json"), QStringLiteral("*.csv"), QStringLiteral("*.tsv"), QStringLiteral("*.txt"),
+        QStringLiteral("*.icc"), QStringLiteral("*.icm"), QStringLiteral("edid"), QStringLiteral("*.edid"),
+        QStringLiteral("*.bin"), QStringLiteral("*.dat")};
 }
 
 } // namespace gamutfiles

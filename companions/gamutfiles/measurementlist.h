@@ -21,7 +21,7 @@ constexpr int maximumMeasurementBytes = 1024 * 1024;
 
 /*! \brief One line of a measurement list. */
 struct Measurement {
-    QString name; //!< as the list calls it; empty when it has cabinets and no names
+    QString name; //!< as the list calls it; empty when it has no names
     double luminance = 0.0; //!< in the unit of the list
     /*!
      * \brief Luminance and chromaticity, in the unit of the list.
@@ -62,7 +62,7 @@ struct MeasurementRecognition {
     int headerLine = 0; //!< the line that names the columns, from 1; 0: there is none
     QVector<RecognizedColumn> columns; //!< those that are read
     MeasuredUnit unit = MeasuredUnit::NotStated; //!< as the list states it, or as chosen
-    QString unitText; //!< as the list writes it; empty when it does not
+    QString unitText; //!< as the list writes it, with m2 for m² and without spaces; empty when it does not
     std::optional<double>
         fullLevel; //!< of levels without a unit, for example 255; nothing: there is none, or not known
     QVector<RecognizedPart> parts; //!< in the order of the file

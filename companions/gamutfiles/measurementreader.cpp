@@ -36,37 +36,31 @@ bool isNumber(const QString &text)
     return decimalEvidence(text) != DecimalEvidence::NotANumber;
 }
 
+//! Whether a header names what a colour needs.
 bool isComplete(const std::array<int, columnPartCount> &columns)
 {
     const auto has = [&columns](ColumnPart part) { return columns[std::size_t(part)] >= 0; };
-    const bool hasPlace = has(ColumnPart::Cabinet) || (has(ColumnPart::Row) && has(ColumnPart::Column));
-    const bool hasName = has(ColumnPart::Name) || has(ColumnPart::Number) || hasPlace;
     const bool hasLuminance = has(ColumnPart::Luminance) || has(ColumnPart::Y);
-    return hasName
-        && ((hasLuminance && has(ColumnPart::x) && has(ColumnPart::y))
-            || (hasLuminance && has(ColumnPart::u) && has(ColumnPart::v))
-            || (has(ColumnPart::X) && has(ColumnPart::Y) && has(ColumnPart::Z)));
+    return (hasLuminance && has(ColumnPart::x) && has(ColumnPart::y))
+        || (hasLuminance && has(ColumnPart::u) && has(ColumnPart::v))
+        || (has(ColumnPart::X) && has(ColumnPart::Y) && has(ColumnPart::Z));
 }
 
 //! The first column that an incomplete header lacks.
 ColumnPart missingPart(const std::array<int, columnPartCount> &columns)
 {
     const auto has = [&columns](ColumnPart part) { return columns[std::size_t(part)] >= 0; };
-    if (!has(ColumnPart::Name) && !has(ColumnPart::Number)) {
-        return ColumnPart::Name;
-    }
-    const bool anyXy = has(ColumnPart::x) || has(ColumnPart::y);
-    QVector<ColumnPart> needed{ColumnPart::x, ColumnPart::y};
-    if (!anyXy && (has(ColumnPart::u) || has(ColumnPart::v))) {
-        needed = {ColumnPart::u, ColumnPart::v};
-    } else if (!anyXy && (has(ColumnPart::X) || has(ColumnPart::Z))) {
-        needed = {ColumnPart::X, ColumnPart::Y, ColumnPart::Z};
-    }
     if (!has(ColumnPart::Luminance) && !has(ColumnPart::Y)) {
         return ColumnPart::Y;
     }
-    const auto missing = std::find_if_not(needed.begin(), needed.end(), has);
-    return missing == needed.end() ? ColumnPart::Name : *missing;
+    const bool anyXy = has(ColumnPart::x) || has(ColumnPart::y);
+    if (!anyXy && (has(ColumnPart::u) || has(ColumnPart::v))) {
+        return has(ColumnPart::u) ? ColumnPart::v : ColumnPart::u;
+    }
+    if (!anyXy && (has(ColumnPart::X) || has(ColumnPart::Z))) {
+        return has(ColumnPart::X) ? (has(ColumnPart::Y) ? ColumnPart::Z : ColumnPart::Y) : ColumnPart::X;
+    }
+    return has(ColumnPart::x) ? ColumnPart::y : ColumnPart::x;
 }
 
 QString joined(const QStringList &names)
@@ -181,6 +175,7 @@ void MeasurementReader::useHeader(const Header &header, int rowIndex)
     for (m_width = int(row.fields.size()); m_width > 0 && row.fields.at(m_width - 1).trimmed().isEmpty();) {
         --m_width;
     }
+    m_headerFields = int(row.fields.size());
     m_warnings += header.doubled;
     Columns columns = header.columns;
     // Of two luminances the one whose unit is known is read.
@@ -202,16 +197,16 @@ void MeasurementReader::useHeader(const Header &header, int rowIndex)
 void MeasurementReader::useColumns(const Columns &columns, const QStringList &headers)
 {
     m_columns.fill(-1);
-    const auto has = [&columns](ColumnPart part) { return columns[std::size_t(part)] >= 0; };
-    const ColumnPart namePart = has(ColumnPart::Name) ? ColumnPart::Name : ColumnPart::Number;
-    if (has(namePart)) {
+    const auto given = [&columns](ColumnPart part) { return columns[std::size_t(part)] >= 0; };
+    const ColumnPart namePart = given(ColumnPart::Name) ? ColumnPart::Name : ColumnPart::Number;
+    if (given(namePart)) {
         keep(ColumnPart::Name, columns[std::size_t(namePart)], headers);
     }
-    const ColumnPart luminance = has(ColumnPart::Luminance) ? ColumnPart::Luminance : ColumnPart::Y;
+    const ColumnPart luminance = given(ColumnPart::Luminance) ? ColumnPart::Luminance : ColumnPart::Y;
     QVector<ColumnPart> parts{luminance};
-    if (has(ColumnPart::x) && has(ColumnPart::y)) {
+    if (given(ColumnPart::x) && given(ColumnPart::y)) {
         parts += {ColumnPart::x, ColumnPart::y};
-    } else if (has(ColumnPart::u) && has(ColumnPart::v)) {
+    } else if (given(ColumnPart::u) && given(ColumnPart::v)) {
         parts += {ColumnPart::u, ColumnPart::v};
     } else {
         parts = {ColumnPart::X, ColumnPart::Y, ColumnPart::Z};
@@ -224,6 +219,10 @@ void MeasurementReader::useColumns(const Columns &columns, const QStringList &he
     }
     m_numberParts = parts;
     useCabinets(columns, headers);
+    if (!has(ColumnPart::Name) && !has(ColumnPart::Cabinet) && !has(ColumnPart::Row)) {
+        warn(tr("no column names the measurements: choose the lines of red, green, blue and white"),
+            place(m_list.recognized.headerLine));
+    }
 }
 
 void MeasurementReader::useCabinets(const Columns &columns, const QStringList &headers)
@@ -398,6 +397,10 @@ bool MeasurementReader::readRows()
         if (!measurement) {
             return false;
         }
+        if (isDivided(row, *measurement)) {
+            return fail(
+                tr("the separator seems to divide numbers: quote them or use another separator"), place(row.line));
+        }
         m_list.measurements.append(*measurement);
     }
     if (m_list.measurements.isEmpty()) {
@@ -405,6 +408,28 @@ bool MeasurementReader::readRows()
     }
     warnOfRows();
     return true;
+}
+
+/*
+ * Whether "1,000" or "100,5", written between commas without quotes, became two fields. What follows moves to the next
+ * columns, where it can still be a colour: a black, or with "000" as its x.
+ */
+bool MeasurementReader::isDivided(const CsvRow &row, const Measurement &measurement) const
+{
+    if (m_table.separator != QLatin1Char(',')) {
+        return false;
+    }
+    const auto begin = row.fields.begin();
+    const int columns = m_headerFields > 0 ? m_headerFields : int(m_numberParts.size()) + 1;
+    const bool hasMore = std::any_of(begin + std::min(columns, int(row.fields.size())), row.fields.end(), isNumber);
+    const auto isTail = [&](ColumnPart part) {
+        const QString text = given(row, part);
+        return text.size() == 3 && text.startsWith(QLatin1Char('0')) && text.at(1).isDigit() && text.at(2).isDigit();
+    };
+    if (std::any_of(m_numberParts.begin(), m_numberParts.end(), isTail)) {
+        return true;
+    }
+    return hasMore && (m_headerFields > 0 || (!measurement.color && measurement.luminance > 0.0));
 }
 
 void MeasurementReader::warnOfRows()

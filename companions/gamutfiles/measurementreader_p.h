@@ -59,6 +59,7 @@ private:
     std::optional<double> number(const CsvRow &row, ColumnPart part);
     QString given(const CsvRow &row, ColumnPart part) const;
     bool isNotGiven(const CsvRow &row, ColumnPart part) const;
+    bool isDivided(const CsvRow &row, const Measurement &measurement) const;
     void warnOfRows();
 
     void assignByName();
@@ -86,7 +87,8 @@ private:
     MeasurementOptions m_options;
     CsvTable m_table;
     int m_firstRow = 0; // of the measurements
-    int m_width = 0; // of the header; 0: there is none
+    int m_headerFields = 0; // how many the header has; 0: there is none
+    int m_width = 0; // of them, up to the last with a name
     Columns m_columns{};
     std::array<QString, columnPartCount> m_labels; // as messages call the columns
     QVector<ColumnPart> m_numberParts; // the columns that must be numbers

@@ -445,7 +445,7 @@ void GamutViewerTest::refusesArguments_data()
     QTest::newRow("two descriptions") << QStringList{SAMPLE_FILE,
         SAMPLE_FILE} << QByteArray(SAMPLE_FILE ": is a second display description; the first is " SAMPLE_FILE);
     QTest::newRow("missing file") << QStringList{"no.json"}
-                                  << QByteArray("no.json: cannot be read: No such file or directory");
+                                  << QByteArray("no.json: cannot be read: there is no such file");
     QTest::newRow("folder") << QStringList{"."} << QByteArray(".: is a folder");
 }
 

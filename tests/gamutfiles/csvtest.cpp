@@ -71,7 +71,8 @@ void CsvTest::separators_data()
     row("stated semicolon", "sep=;\na;1,2,3", ';', 2);
     row("stated bar", "sep=|\r\na|1|2|3", '|', 4);
     row("stated tab", "sep=\\t\na\t1,2,3", '\t', 2);
-    row("stated in capitals", "SEP=;\na;1,2,3", ';', 2);
+    row("stated in capitals", "SEP=|\na|1,2,3,4", '|', 2);
+    row("as many by either", "1,2,3,a;4;5;6", ';', 4);
     row("stated in quotes", "\"sep=;\"\na;1,2,3", ';', 2);
     row("stated letter is no separator", "sep=x\na,1,2,3", ',', 4);
 }

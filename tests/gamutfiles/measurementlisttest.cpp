@@ -64,6 +64,9 @@ private Q_SLOTS:
     void warningsOfCabinetsEnd();
     void doubledColumn();
     void moreFieldsThanColumns();
+    void dividedNumbers_data();
+    void dividedNumbers();
+    void namelessLines();
     void recognition();
     void messagesAreShort();
     void longest();
@@ -662,6 +665,10 @@ void MeasurementListTest::cabinets()
     QVERIFY(gamut);
     QCOMPARE(gamut->getTargets().red.Y, 210.0);
     QCOMPARE(gamut->unit, LuminanceUnit::CandelaPerSquareMetre);
+    // Colours of different cabinets make no gamut.
+    const auto scattered = readMeasurementList("Cabinet,name,Lv,x,y\nA1,R,200,0.7,0.29\nA1,G,700,0.2,0.7\n"
+                                               "A2,B,110,0.15,0.05\nA2,W,1010,0.28,0.29\n");
+    QVERIFY(scattered && !scattered->gamut(QString()));
     // One cabinet is the display.
     const auto single
         = readMeasurementList(QByteArray(known).replace("name", "Cabinet,name").replace("\n", "\nA,").chopped(2));
@@ -714,6 +721,7 @@ void MeasurementListTest::namelessLinesOfCabinets()
 {
     const auto list = readMeasurementList("Module,Lv,x,y\nM1,200,0.3,0.3\nM2,201,0.3,0.3\n");
     QVERIFY2(list, qPrintable(list.error()));
+    QVERIFY(list.warnings().isEmpty());
     QVERIFY(list->measurements[0].name.isEmpty());
     QCOMPARE(list->cabinets().size(), 2);
 }
@@ -753,6 +761,51 @@ void MeasurementListTest::moreFieldsThanColumns()
 {
     const QByteArray text = "name,Lv,x,y\na,1,0.3,0.3,checked\nb,1,0.3,0.3,,\n";
     QCOMPARE(warningsOf(text), QStringList{"line 2: has more fields than the line that names the columns"});
+}
+
+void MeasurementListTest::dividedNumbers_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("thousand") << QByteArray("name,Lv,x,y\na,1,000,0.3127,0.329") << false;
+    QTest::newRow("thousand, no header") << QByteArray("a,1,000,0.3127,0.329") << false;
+    QTest::newRow("thousand before a further column")
+        << QByteArray("name,Lv,x,y,T\na,1,000,0.3127,0.329,6504") << false;
+    QTest::newRow("decimal commas") << QByteArray("name,Lv,x,y\na,100,0,0,3127,0,329") << false;
+    QTest::newRow("decimal commas, no header") << QByteArray("a,100,0,0,3127,0,329") << false;
+    QTest::newRow("decimal commas of XYZ") << QByteArray("name,X,Y,Z\na,41,24,21,26,1,93") << false;
+    QTest::newRow("thousand of XYZ") << QByteArray("name,X,Y,Z\na,1,234.5,900.1,700.2") << false;
+    QTest::newRow("semicolons") << QByteArray("name;Lv;x;y\na;1;000;0.3127;0.329") << true;
+    QTest::newRow("further column, no header") << QByteArray("a,100.5,0.3127,0.329,6504") << true;
+    QTest::newRow("black, no header") << QByteArray("a,0,0,0,0") << true;
+    QTest::newRow("further column without a name") << QByteArray("name,Lv,x,y,\na,100.5,0.3127,0.329,6504") << true;
+}
+
+void MeasurementListTest::dividedNumbers()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(bool, isTaken);
+    const QString line = QString::number(text.count('\n') + 1);
+    const QString refused
+        = QStringLiteral("line %1: the separator seems to divide numbers: quote them or use another separator")
+              .arg(line);
+    QCOMPARE(errorOf(text), isTaken ? QStringLiteral("taken") : refused);
+}
+
+void MeasurementListTest::namelessLines()
+{
+    const QByteArray text = "Lv,x,y\n200,0.7,0.29\n700,0.2,0.7\n100,0.15,0.05\n1000,0.28,0.29\n";
+    QCOMPARE(warningsOf(text),
+        QStringList{"line 1: no column names the measurements: choose the lines of red, green, blue and white"});
+    QVERIFY(!readMeasurementList(text)->gamut(QString()));
+    MeasurementOptions options;
+    options.red.line = 2;
+    options.green.line = 3;
+    options.blue.line = 4;
+    options.white.line = 5;
+    const auto gamut = readMeasurementList(text, options)->gamut(QString());
+    QVERIFY(gamut);
+    QCOMPARE(gamut->getTargets().white.Y, 1000.0);
 }
 
 void MeasurementListTest::recognition()

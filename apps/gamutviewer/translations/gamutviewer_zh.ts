@@ -1156,7 +1156,7 @@ R, G, B, W or Tab – select a primary or the white
 Drag or arrow keys – move it; with Shift a tenth as far
 Ctrl – towards the white; the white at its colour temperature
 Alt – along an axis; Ctrl+Alt – without snapping
-Esc – cancel a drag
+Esc – cancel a drag; otherwise select nothing
 
 Key:
 Click or Space – show or hide an entry
@@ -1177,7 +1177,7 @@ R、G、B、W 或 Tab – 选择基色或白点
 拖动或方向键 – 移动；按住 Shift 为十分之一
 Ctrl – 朝向白点；白点保持其色温
 Alt – 沿坐标轴；Ctrl+Alt – 不吸附
-Esc – 取消拖动
+Esc – 取消拖动；否则取消选择
 
 图例：
 单击或空格键 – 显示或隐藏条目
