@@ -24,7 +24,7 @@ struct WindowFixture {
     {
         useSettings(settings.path());
         window = std::make_unique<gamutviewer::ViewerWindow>();
-        const auto sample = gamutviewer::openFile(QStringLiteral(SAMPLE_FILE));
+        const auto sample = gamutviewer::readGamutFile(QStringLiteral(SAMPLE_FILE));
         if (sample) {
             window->setDescription(sample->description, QString());
         }
