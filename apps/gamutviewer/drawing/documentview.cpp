@@ -9,18 +9,12 @@
 
 namespace gamutviewer {
 
-namespace {
-
-constexpr int chromaticityDigits = 4; // as the panel and files show them
-
-} // namespace
-
 DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches, QWidget *parent)
     : DiagramView(parent)
     , m_session(session)
     , m_switches(switches)
 {
-    setDigits(chromaticityDigits);
+    setDigits(chromaticityDecimals);
     setReadoutShown(false); // the window has it for all views
     connect(this, &DiagramView::editingStarted, this,
         [this] { m_session->beginDrag(selectedVertex().value_or(m_session->selected())); });

@@ -12,7 +12,7 @@ namespace gamutviewer {
 /*! \brief A gamut of a description and the part that it plays. */
 struct GamutPart {
     ceiechart::GamutRole role = ceiechart::GamutRole::Target;
-    Model::ColorGamut gamut;
+    DisplayGamut gamut;
 
     /*! \brief "Target: Rec.709 (edited)", in the language of the interface. */
     QString title() const;

@@ -80,7 +80,9 @@ void SidePanel::refreshValues()
 {
     QVector<GroupedTable::Group> groups;
     for (const GamutPart &part : gamutParts(m_document->description())) {
-        GroupedTable::Group group{part.title(), {}};
+        GroupedTable::Group group{
+            tr("%1 – Y: %2", "gamut and the unit of its luminances").arg(part.title(), luminanceUnitText(part.gamut.unit)),
+            {}};
         for (const Vertex vertex : allVertices) {
             group.rows.append(valueCells(vertex, targetAt(part.gamut.getTargets(), vertex)));
         }
