@@ -2,8 +2,9 @@
 #include <ceiechart/atlas/ceiatlasvalue.h>
 
 #include <ceiechart/atlas/blackbody_p.h>
-#include <ceiechart/atlas/cie1931_p.h>
 #include <ceiechart/atlas/spectrallocus_p.h>
+
+#include <gamutmodel/cie1931_p.h>
 
 #include <iterator>
 
@@ -28,8 +29,8 @@ void CEIAtlasValue::initData()
         temperatureCoordinates.append(row);
     }
 
-    for (const CEIAtlasCoordinate &row : ceiechart::cie1931) {
-        atlasCoordinates.append(row);
+    for (const Model::ColorMatching &row : Model::cie1931) {
+        atlasCoordinates.append({row.wavelength, row.x, row.y, row.z});
     }
 
     spectrumLocus.reserve(std::size(ceiechart::spectralLocus));

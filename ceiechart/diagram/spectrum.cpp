@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <ceiechart/atlas/cie1931_p.h>
 #include <ceiechart/diagram/spectrum_p.h>
 #include <ceiechart/diagram/whitepoint.h>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <iterator>
 
 namespace ceiechart {
 
@@ -35,13 +33,6 @@ QPointF inDiagram(Model::Diagram diagram, const QPointF &xy)
     return QPointF(point.x, point.y);
 }
 
-//! Between p1 and p2, with the slopes that the neighbours give (Catmull-Rom).
-template <typename Value>
-Value cubic(const Value &p0, const Value &p1, const Value &p2, const Value &p3, double s)
-{
-    return p1 + ((p2 - p0) + ((p0 * 2.0 - p1 * 5.0 + p2 * 4.0 - p3) + ((p1 - p2) * 3.0 + p3 - p0) * s) * s) * (0.5 * s);
-}
-
 QPolygonF spectrum(Model::Diagram diagram, int perNanometre)
 {
     QPolygonF points;
@@ -68,21 +59,6 @@ const QPolygonF &planckianUv()
 constexpr double firstMired = 11.0; // of planckianLocusXy()
 
 } // namespace
-
-QPointF spectralChromaticity(double wavelength)
-{
-    constexpr int count = int(std::size(cie1931));
-    const double place = wavelength - cie1931[0].waveLength;
-    const int node = std::clamp(int(std::floor(place)), 1, count - 3);
-    const auto at = [node, s = place - node](double CEIAtlasValue::CEIAtlasCoordinate::*value) {
-        const auto *row = cie1931 + node;
-        return cubic(row[-1].*value, row[0].*value, row[1].*value, row[2].*value, s);
-    };
-    const double x = at(&CEIAtlasValue::CEIAtlasCoordinate::X);
-    const double y = at(&CEIAtlasValue::CEIAtlasCoordinate::Y);
-    const double z = at(&CEIAtlasValue::CEIAtlasCoordinate::Z);
-    return QPointF(x, y) / (x + y + z);
-}
 
 const QPolygonF &spectralLocusIn(Model::Diagram diagram, int perNanometre)
 {

@@ -3,6 +3,7 @@
 #define CEIECHART_DIAGRAM_SPECTRUM_P_H
 
 #include <gamutmodel/diagram.h>
+#include <gamutmodel/spectrallocus.h>
 
 #include <QPointF>
 #include <QPolygonF>
@@ -10,17 +11,16 @@
 
 namespace ceiechart {
 
-/*! \brief The wavelengths in nm between which the spectral locus is drawn: beyond, its chromaticity hardly changes. */
-constexpr double shortestWavelength = 380.0;
-constexpr double longestWavelength = 699.0;
+// The spectral locus is drawn between these.
+using Model::longestWavelength;
+using Model::shortestWavelength;
 
-/*!
- * \brief The chromaticity x, y of monochromatic light of \a wavelength nm, from 361 to 829.
- *
- * Between the nanometres of the colour-matching functions these are interpolated by cubics, as straight lines would
- * show as corners of the locus.
- */
-QPointF spectralChromaticity(double wavelength);
+/*! \copydoc Model::spectralChromaticity */
+inline QPointF spectralChromaticity(double wavelength)
+{
+    const Model::DiagramPoint xy = Model::spectralChromaticity(wavelength);
+    return QPointF(xy.x, xy.y);
+}
 
 /*! \brief The spectral locus in \a diagram, from its violet to its red end; \a perNanometre points, 1 or 10, for each.
  */

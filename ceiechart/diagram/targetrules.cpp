@@ -3,6 +3,7 @@
 #include <ceiechart/diagram/whitepoint.h>
 #include <colortemperature/colortemperature.h>
 #include <gamutmodel/gamutcoverage.h>
+#include <gamutmodel/nearestinside.h>
 
 #include <QCoreApplication>
 
@@ -268,22 +269,8 @@ QPointF nearestInside(const Model::Targets &gamut, const QPointF &xy, Model::Dia
     if (!spanTriangle(gamut)) {
         return xy;
     }
-    const QPointF corners[] = {toDiagram(diagram, xyOf(gamut.red)), toDiagram(diagram, xyOf(gamut.green)),
-        toDiagram(diagram, xyOf(gamut.blue))};
-    const QPointF point = toDiagram(diagram, xy);
-    const double orientation = cross(corners[1] - corners[0], corners[2] - corners[0]);
-    bool isInside = true;
-    QPointF best = corners[0];
-    for (int i = 0; i < 3; ++i) {
-        const QPointF &from = corners[i];
-        const QPointF &to = corners[(i + 1) % 3];
-        isInside = isInside && cross(to - from, point - from) * orientation >= 0.0;
-        const QPointF candidate = nearestOnPiece(point, from, to);
-        if (distance(candidate, point) < distance(best, point)) {
-            best = candidate;
-        }
-    }
-    return isInside ? xy : fromDiagram(diagram, best);
+    const auto nearest = Model::nearestPoint(gamut, {xy.x(), xy.y()}, diagram);
+    return nearest ? QPointF(nearest->x, nearest->y) : xy;
 }
 
 std::optional<Snap> snapped(

@@ -96,7 +96,11 @@ GAMUTMODEL_EXPORT ColorGamut rec2020();
  */
 GAMUTMODEL_EXPORT ColorGamut dciP3D65();
 
-/*! \brief The published gamuts: Rec.709, Rec.2020 and DCI-P3(D65), in this order. */
+/*!
+ * \brief The gamuts that the charts show as standards: Rec.709, Rec.2020 and DCI-P3(D65), in this order.
+ *
+ * publishedGamuts() in publishedgamuts.h has these and others.
+ */
 GAMUTMODEL_EXPORT std::vector<ColorGamut> standardGamuts();
 
 } // namespace Model

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gamutmodel/gamutcoverage.h>
 
+#include <gamutmodel/plane_p.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -18,12 +20,6 @@ Triangle corners(const Targets &gamut, Diagram diagram)
 {
     return {toDiagram(diagram, {gamut.red.x, gamut.red.y}), toDiagram(diagram, {gamut.green.x, gamut.green.y}),
         toDiagram(diagram, {gamut.blue.x, gamut.blue.y})};
-}
-
-/*! \brief Twice the signed area of the triangle a, b, c: positive if c is left of the line from a to b. */
-double turn(const DiagramPoint &a, const DiagramPoint &b, const DiagramPoint &c)
-{
-    return (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
 }
 
 double finiteOrZero(double value)
@@ -82,19 +78,12 @@ double quotient(double numerator, double denominator)
     return denominator > 0.0 ? finiteOrZero(numerator / denominator) : 0.0;
 }
 
-/*! \brief Whether the corners lie on a line: the area is then 0, apart from rounding. */
-bool isFlat(const Triangle &triangle)
-{
-    constexpr double rounding = 1e-15;
-    return !(area(triangle) > rounding);
-}
-
 bool isOutside(const DiagramPoint &point, const Triangle &triangle)
 {
-    if (isFlat(triangle)) {
+    const auto &[a, b, c] = triangle;
+    if (isFlat(a, b, c)) {
         return true;
     }
-    const auto &[a, b, c] = triangle;
     const double excess = std::fabs(turn(point, b, c)) / 2.0 + std::fabs(turn(a, point, c)) / 2.0
         + std::fabs(turn(a, b, point)) / 2.0 - std::fabs(turn(a, b, c)) / 2.0;
     return !(excess < containmentTolerance);
