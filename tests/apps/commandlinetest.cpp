@@ -62,7 +62,7 @@ Picture picture(const QString &arguments)
     if (line.action() != Action::Write) {
         qFatal("%s", qPrintable(line.error()));
     }
-    return line.picture(wall());
+    return line.picture(wall(), std::nullopt);
 }
 
 } // namespace

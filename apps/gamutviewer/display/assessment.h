@@ -6,7 +6,6 @@
 
 #include <ceiechart/diagram/targetrules.h>
 #include <gamutmodel/drive.h>
-#include <gamutmodel/tolerances.h>
 
 #include <QString>
 #include <QVector>
@@ -28,6 +27,8 @@ enum class Judgement {
 
 /*! \brief "✓", "✗" or "?". */
 QString judgementMark(Judgement judgement);
+/*! \brief "pass", "fail" or "not known", for programs: not translated. */
+QString judgementName(Judgement judgement);
 
 /*! \brief The gamut that stands for what the display can show. */
 struct KnownDisplay {
@@ -37,6 +38,9 @@ struct KnownDisplay {
 
 /*! \brief The original of \a description, or else the measured gamut; nothing when neither is known. */
 std::optional<KnownDisplay> knownDisplay(const DisplayDescription &description);
+
+/*! \brief Drives up to this count as full: the four decimals of a white point leave about 0.001 open. */
+constexpr double fullDrive = 1.002;
 
 /*!
  * \brief By how much the chromaticity of \a primary lies outside of \a display, in Δu′v′; 0 when it does not.
@@ -73,23 +77,20 @@ struct AssessmentLine {
 struct Assessment {
     std::optional<KnownDisplay> display; //!< what the target is held against
     QVector<AssessmentLine> lines; //!< at least one
-    std::optional<Model::TargetDrive> drive; //!< of the display, for the target; only in comparable units
+    std::optional<Model::TargetDrive> drive; //!< of the display, for the target; only when the luminances compare
+    std::optional<Model::LargestLuminance> largestWhite; //!< in the unit of the display; see largestWhite()
+
+    /*! \brief Whether the luminances of display and target can be compared: both in cd/m², or both relative. */
+    bool luminancesCompare = false;
 
     /*! \brief Fail when a line fails, or else NotKnown when one is not known. */
     Judgement judgement() const;
-    /*! \brief All in one short sentence with its mark: "✗ The display cannot show the target". */
+    /*! \brief All in one short sentence: "The display cannot show the target". */
     QString headline() const;
 };
 
-/*! \brief What a description is judged by besides itself. */
-struct AssessmentTerms {
-    std::optional<Model::Tolerances> tolerances; //!< nothing for no tolerances
-    QString tolerancesName; //!< for people
-    bool targetIsDefault = false; //!< nobody has chosen the target: there is no verdict on it
-};
-
-/*! \brief Judges \a description by \a terms. */
-Assessment assess(const DisplayDescription &description, const AssessmentTerms &terms = {});
+/*! \brief Judges \a description, and what was measured by \a tolerances where there are any. */
+Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt);
 
 } // namespace gamutviewer
 

@@ -64,4 +64,14 @@ QString luminanceText(double luminance, gamutfiles::LuminanceUnit unit)
     return text.arg(luminanceText(luminance), luminanceUnitText(unit));
 }
 
+QString wavelengthText(const Model::DominantWavelength &hue)
+{
+    return fixedText(hue.wavelength, 1);
+}
+
+QString purityText(const Model::DominantWavelength &hue)
+{
+    return fixedText(hue.purity, 3);
+}
+
 } // namespace gamutviewer

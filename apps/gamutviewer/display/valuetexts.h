@@ -5,6 +5,7 @@
 #include <ceiechart/diagram/whitepoint.h>
 
 #include <gamutfiles/displaydescription.h>
+#include <gamutmodel/dominantwavelength.h>
 
 #include <QString>
 
@@ -36,6 +37,11 @@ QString luminanceText(double luminance);
 QString luminanceUnitText(gamutfiles::LuminanceUnit unit);
 /*! \brief \a luminance with its unit: "1000.0 cd/m²". */
 QString luminanceText(double luminance, gamutfiles::LuminanceUnit unit);
+
+/*! \brief "532.1", in nm; of a purple the complementary wavelength, negative. */
+QString wavelengthText(const Model::DominantWavelength &hue);
+/*! \brief The excitation purity, "0.95". */
+QString purityText(const Model::DominantWavelength &hue);
 
 } // namespace gamutviewer
 

@@ -39,11 +39,31 @@ ceiechart::DiagramContent documentContent(const DisplayDescription &description)
     content.measurePoints = marks(description.measurePoints);
     content.colorTemperaturePoints = marks(description.colorTemperaturePoints);
     content.cmyPoints = marks(description.cmyPoints);
-    if (const ceiechart::DiagramGamut *target = content.find(GamutRole::Target)) {
-        const Model::Target &white = target->gamut.getTargets().white;
-        content.rings.append({QPointF(white.x, white.y)});
-    }
+    content.rings = targetRings(description, std::nullopt);
     return content;
+}
+
+QVector<ceiechart::DiagramRings> targetRings(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+{
+    QVector<ceiechart::DiagramRings> rings;
+    const auto target = description.gamut(description.target);
+    if (!target) {
+        return rings;
+    }
+    for (const Vertex vertex : {Vertex::White, Vertex::Red, Vertex::Green, Vertex::Blue}) {
+        ceiechart::DiagramRings around{xyOf(targetAt(target->getTargets(), vertex))};
+        const auto limit = !tolerances ? std::nullopt
+            : vertex == Vertex::White  ? tolerances->limits.whiteUv
+                                       : tolerances->limits.primariesUv;
+        if (limit) {
+            around.radii = {*limit};
+        }
+        if (limit || vertex == Vertex::White) {
+            rings.append(around);
+        }
+    }
+    return rings;
 }
 
 } // namespace gamutviewer

@@ -16,6 +16,13 @@ namespace gamutviewer {
  */
 ceiechart::DiagramContent documentContent(const DisplayDescription &description);
 
+/*!
+ * \brief The rings round the colours of the target of \a description: of the limits of \a tolerances round white and
+ * primaries; without a limit for the white, the usual ones round it.
+ */
+QVector<ceiechart::DiagramRings> targetRings(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances);
+
 } // namespace gamutviewer
 
 #endif

@@ -35,6 +35,7 @@ DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches
             setSelectedVertex(m_session->selected());
         }
     });
+    connect(session, &TargetSession::tolerancesChanged, this, &DocumentView::refresh);
     connect(session, &TargetSession::rulesChanged, this, &DocumentView::applyRules);
     connect(session, &TargetSession::dragCanceled, this, &DiagramView::cancelEditing);
     applyRules();
@@ -62,10 +63,11 @@ void DocumentView::refresh()
         if (shown && target && !ceiechart::sameTargets(shown->getTargets(), target->getTargets())) {
             setTarget(*target);
         }
-        setRings(documentContent(document->description()).rings);
+        setRings(targetRings(document->description(), m_session->tolerances()));
         return;
     }
     ceiechart::DiagramContent content = m_switches->content(document->description());
+    content.rings = targetRings(document->description(), m_session->tolerances());
     content.trail = document->whiteTrail();
     setContent(content);
     if (!isReadOnly()) {

@@ -22,10 +22,10 @@ public:
     explicit Document(QObject *parent = nullptr);
 
     const DisplayDescription &description() const { return m_description; }
-    std::optional<Model::ColorGamut> original() const { return m_description.gamut(m_description.original); }
-    std::optional<Model::ColorGamut> declared() const { return m_description.gamut(m_description.declared); }
-    std::optional<Model::ColorGamut> measured() const { return m_description.gamut(m_description.measured); }
-    std::optional<Model::ColorGamut> target() const { return m_description.gamut(m_description.target); }
+    std::optional<DisplayGamut> original() const { return m_description.gamut(m_description.original); }
+    std::optional<DisplayGamut> declared() const { return m_description.gamut(m_description.declared); }
+    std::optional<DisplayGamut> measured() const { return m_description.gamut(m_description.measured); }
+    std::optional<DisplayGamut> target() const { return m_description.gamut(m_description.target); }
 
     /*! \brief The file that the description is saved in; empty when it has none yet. */
     const QString &fileName() const { return m_fileName; }

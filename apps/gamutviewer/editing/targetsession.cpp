@@ -57,6 +57,12 @@ void TargetSession::select(Vertex vertex)
     }
 }
 
+void TargetSession::setTolerances(const std::optional<Tolerances> &tolerances)
+{
+    m_tolerances = tolerances;
+    Q_EMIT tolerancesChanged();
+}
+
 ceiechart::TargetMove TargetSession::edited(Vertex vertex, const QPointF &xy) const
 {
     const auto target = m_document->target();

@@ -39,6 +39,10 @@ public:
     void setSnaps(bool snap);
     void select(Vertex vertex);
 
+    /*! \brief What the display is judged by; nothing for no tolerances. They are not part of the document. */
+    const std::optional<Tolerances> &tolerances() const { return m_tolerances; }
+    void setTolerances(const std::optional<Tolerances> &tolerances);
+
     /*! \brief Why \a vertex cannot be moved to \a xy, for people; empty when it can. */
     QString whyNot(Vertex vertex, const QPointF &xy) const;
     /*! \brief By how much \a primary of the target lies outside of the display, in Δu′v′; 0 when it does not. */
@@ -71,6 +75,7 @@ public:
 
 Q_SIGNALS:
     void rulesChanged();
+    void tolerancesChanged();
     void selectionChanged();
     /*! \brief The user wants to see where \a vertex is. */
     void pointedOut(gamutviewer::Vertex vertex);
@@ -86,6 +91,7 @@ private:
 
     Document *m_document;
     std::shared_ptr<ceiechart::StandardTargetRules> m_rules = std::make_shared<ceiechart::StandardTargetRules>();
+    std::optional<Tolerances> m_tolerances;
     Vertex m_selected = Vertex::Red;
     Vertex m_dragged = Vertex::Red;
 };
