@@ -16,7 +16,7 @@ namespace gamutviewer {
 namespace {
 
 constexpr int vertexRole = Qt::UserRole;
-constexpr int shownLines = 5; // of text; the others are scrolled to
+constexpr int shownLines = 6; // of text; the others are scrolled to
 
 } // namespace
 

@@ -6,6 +6,7 @@
 #include "window/diagrampage.h"
 #include "window/exportdialog.h"
 #include "window/recentfiles.h"
+#include "window/tolerancesmenu.h"
 #include "window/viewerwindow.h"
 
 #include <QAction>
@@ -107,6 +108,10 @@ void ViewerWindow::buildViewMenu()
     }
     menu->addSeparator();
     menu->addActions(m_diagramPage->actions());
+    menu->addSeparator();
+    m_tolerancesMenu = new TolerancesMenu(m_session, this);
+    connect(m_tolerancesMenu, &TolerancesMenu::refused, this, &ViewerWindow::warn);
+    menu->addMenu(m_tolerancesMenu);
 }
 
 void ViewerWindow::buildHelpMenu()

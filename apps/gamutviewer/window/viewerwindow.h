@@ -20,6 +20,7 @@ class LibraryPage;
 class Page;
 class SidePanel;
 class TargetSession;
+class TolerancesMenu;
 
 /*! \brief The program's window: pages and a panel over one document. */
 class ViewerWindow : public QMainWindow {
@@ -55,6 +56,7 @@ public:
     ComparePage *comparePage() const { return m_comparePage; }
     LibraryPage *libraryPage() const { return m_libraryPage; }
     SidePanel *panel() const { return m_panel; }
+    TolerancesMenu *tolerancesMenu() const { return m_tolerancesMenu; }
     QLabel *readout() const { return m_readout; }
 
 protected:
@@ -108,6 +110,7 @@ private:
     QLabel *m_readout;
     QLabel *m_hints;
     QMenu *m_recentMenu;
+    TolerancesMenu *m_tolerancesMenu;
 };
 
 } // namespace gamutviewer
