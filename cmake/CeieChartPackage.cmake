@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # The files with which hosts find the library: the CMake package CeieChart and the pkg-config modules ceiechart,
-# colortemperature and gamutmodel. They contain no absolute paths, so that an installed tree can be moved.
+# colortemperature, gamutmodel and gamutfiles. They contain no absolute paths, so that an installed tree can be moved.
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/CeieChart)
@@ -9,11 +9,8 @@ configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/CeieChartConfig.cmake.
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/CeieChartConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/CeieChartConfig.cmake ${PROJECT_BINARY_DIR}/CeieChartConfigVersion.cmake
     DESTINATION ${package_dir} COMPONENT dev)
-install(EXPORT CeieChartTargets NAMESPACE CeieChart:: DESTINATION ${package_dir} COMPONENT dev)
 
-set(version_header ${PROJECT_BINARY_DIR}/include/ceiechart/ceiechart_version.h)
-configure_file(${PROJECT_SOURCE_DIR}/cmake/ceiechart_version.h.in ${version_header} @ONLY)
-install(FILES ${version_header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ceiechart COMPONENT dev)
+install(FILES ${PROJECT_BINARY_DIR}/include/ceiechart/ceiechart_version.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ceiechart COMPONENT dev)
 
 set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH prefix_from_pkgconfig /${pkgconfig_dir} /)
@@ -34,13 +31,19 @@ if(NOT BUILD_SHARED_LIBS)
     set(ceiechart_cflags " -DCEIECHART_STATIC_DEFINE")
     set(colortemperature_cflags " -DCOLORTEMPERATURE_STATIC_DEFINE")
     set(gamutmodel_cflags " -DGAMUTMODEL_STATIC_DEFINE")
+    set(gamutfiles_cflags " -DGAMUTFILES_STATIC_DEFINE")
+    set(gamutfiles_requires " colord lcms2")
     # Libraries that a host must link if it does not link with the C++ compiler.
     list(TRANSFORM CMAKE_CXX_IMPLICIT_LINK_LIBRARIES PREPEND "-l" OUTPUT_VARIABLE cxx_libs)
     list(FILTER cxx_libs INCLUDE REGEX "^-l(stdc\\+\\+|c\\+\\+|m)$")
     list(REMOVE_DUPLICATES cxx_libs)
     list(JOIN cxx_libs " " cxx_libs)
 endif()
-foreach(module ceiechart colortemperature gamutmodel)
+set(modules ceiechart colortemperature gamutmodel)
+if(CEIECHART_BUILD_GAMUTFILES)
+    list(APPEND modules gamutfiles)
+endif()
+foreach(module ${modules})
     configure_file(${PROJECT_SOURCE_DIR}/cmake/${module}.pc.in ${PROJECT_BINARY_DIR}/pkgconfig/${module}.pc @ONLY)
     install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${module}.pc DESTINATION ${pkgconfig_dir} COMPONENT dev)
 endforeach()
@@ -58,5 +61,3 @@ if(CEIECHART_BUILD_APPS)
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT viewer)
     install(FILES packaging/gamutviewer.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT viewer)
 endif()
-
-include(CeieChartDebian)

@@ -16,7 +16,7 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 file(RELATIVE_PATH ceiechart_lib_from_bin /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
 set(CMAKE_INSTALL_RPATH $ORIGIN;$ORIGIN/${ceiechart_lib_from_bin})
 
-if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()
 
@@ -52,12 +52,20 @@ elseif(MSVC)
     endif()
 endif()
 
+# ceiechart_install(<arguments of install()>): installs, unless another project contains this one and has not asked for
+# it.
+function(ceiechart_install)
+    if(CEIECHART_INSTALL)
+        install(${ARGV})
+    endif()
+endfunction()
+
 # ceiechart_export_header(<target> <folder>): generates <folder>/<target>_export.h with the export macro and installs it
 # with the other headers of the target.
 function(ceiechart_export_header target folder)
     set(header ${PROJECT_BINARY_DIR}/include/${folder}/${target}_export.h)
     generate_export_header(${target} BASE_NAME ${target} EXPORT_FILE_NAME ${header})
-    install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder} COMPONENT dev)
+    ceiechart_install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder} COMPONENT dev)
 endfunction()
 
 # ceiechart_library(<target>): sets the version, the exported symbols and the installation of a library.
@@ -70,9 +78,11 @@ function(ceiechart_library target)
         target_link_options(${target} PRIVATE LINKER:--version-script=${map})
         set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${map})
     endif()
-    install(TARGETS ${target} EXPORT CeieChartTargets
+    ceiechart_install(TARGETS ${target} EXPORT CeieChart_${target}
         RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    ceiechart_install(EXPORT CeieChart_${target} NAMESPACE CeieChart:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/CeieChart
+        COMPONENT dev)
 endfunction()

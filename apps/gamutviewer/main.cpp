@@ -55,8 +55,8 @@ ExitStatus statusOf(Judgement judgement)
     return VerdictNotKnown;
 }
 
-int write(const DisplayDescription &description, const std::optional<Tolerances> &tolerances,
-    const CommandLine &commandLine)
+int write(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine)
 {
     const QString picture = commandLine.pictureFile();
     if (!picture.isEmpty()) {
@@ -90,7 +90,7 @@ int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances,
 {
     installInterfaceTranslations();
     ViewerWindow window;
-    window.setDescription(opened.description, opened.descriptionFile);
+    window.setOpened(opened);
     if (tolerances) {
         window.session()->setTolerances(tolerances);
     }
@@ -144,6 +144,9 @@ int main(int argc, char *argv[])
             return WrongInput;
         }
         tolerances = *read;
+    }
+    for (const FileWarning &warning : opened->warnings) {
+        printError(warning.message());
     }
     if (commandLine.action() == CommandLine::Action::Write) {
         return write(opened->description, tolerances, commandLine);

@@ -73,7 +73,7 @@ std::vector<DiagramPoint> leftOf(
     return kept;
 }
 
-double quotient(double numerator, double denominator)
+double ratio(double numerator, double denominator)
 {
     return denominator > 0.0 ? finiteOrZero(numerator / denominator) : 0.0;
 }
@@ -133,8 +133,8 @@ GamutCoverage gamutCoverage(const Targets &gamut, const Targets &standard, Diagr
     result.area = gamutArea(gamut, diagram);
     result.standardArea = gamutArea(standard, diagram);
     result.commonArea = commonArea(gamut, standard, diagram);
-    result.coverage = quotient(result.commonArea, result.standardArea);
-    result.areaRatio = quotient(result.area, result.standardArea);
+    result.coverage = ratio(result.commonArea, result.standardArea);
+    result.areaRatio = ratio(result.area, result.standardArea);
     return result;
 }
 

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void reportsAndRenders();
     void reportCannotBeWritten();
     void opensEveryFormat();
+    void tellsOfMixedDisplays();
     void namesTheLineOfASyntaxError();
     void rendersInTheSizeAskedFor_data();
     void rendersInTheSizeAskedFor();
@@ -249,10 +250,19 @@ void GamutViewerTest::opensEveryFormat()
     write("profile.icc", samplefiles::version4Profile());
     write("meter.csv", "red,200,0.7,0.29\ngreen,700,0.2,0.7\nblue,100,0.15,0.05\nwhite,1000,0.28,0.29\n");
     write("wall.json", minimal);
-    for (const char *name : {"monitor.bin", "profile.icc", "meter.csv", "wall.json"}) {
-        const Result result = run({"--report", "json", name});
+    // Each is what it is, and nothing besides.
+    const std::pair<const char *, QStringList> expected[] = {{"monitor.bin", {"declared"}},
+        {"profile.icc", {"declared"}}, {"meter.csv", {"measured"}}, {"wall.json", {"original", "target"}}};
+    for (const auto &file : expected) {
+        const Result result = run({"--report", "json", file.first});
         QVERIFY2(result.exitCode == 0, result.error);
-        QVERIFY(QJsonDocument::fromJson(result.output).object().contains("original"));
+        QCOMPARE(result.error, QByteArray());
+        const QJsonObject report = QJsonDocument::fromJson(result.output).object();
+        for (const char *part : {"declared", "original", "measured", "target"}) {
+            QVERIFY2(report.contains(part) == file.second.contains(part), part);
+        }
+        QCOMPARE(report.contains("validity"), file.second.contains("target"));
+        QCOMPARE(report.contains("givenUp"), file.second.contains("target"));
     }
     const Result all = run({"--report", "json", "profile.icc", "meter.csv", "wall.json"});
     QVERIFY2(all.exitCode == 0, all.error);
@@ -265,6 +275,16 @@ void GamutViewerTest::opensEveryFormat()
     QCOMPARE(grey.error, QByteArray("gamutviewer: grey.icc: has no primaries: it is a grey profile\n"));
     QCOMPARE(grey.exitCode, 2);
     QVERIFY(!entries().contains("chart.png"));
+}
+
+void GamutViewerTest::tellsOfMixedDisplays()
+{
+    write("monitor.bin", samplefiles::edid());
+    write("wall.json", QByteArray(minimal).replace("{", "{\"name\": \"Wall\", "));
+    const Result result = run({"--report", "json", "monitor.bin", "wall.json"});
+    QCOMPARE(result.error, QByteArray("gamutviewer: monitor.bin: is of the display \"Studio 27\", not of \"Wall\"\n"));
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(QJsonDocument::fromJson(result.output).object().contains("declared"));
 }
 
 void GamutViewerTest::namesTheLineOfASyntaxError()

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "expectedchart.h"
 
-#include <gamutfiles/descriptionfile.h>
 #include <ceiechart/atlas/ceiatlasvalue.h>
 #include <colortemperature/colortemperature.h>
+#include <gamutfiles/descriptionfile.h>
 
 #include <QtTest>
 
 #include <cmath>
 
-using namespace gamutviewer;
+using namespace gamutfiles;
 
 /*! Recomputes what the notes of the sample say about its numbers. */
 class LedWallTest : public QObject {

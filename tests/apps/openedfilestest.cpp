@@ -13,23 +13,24 @@ class OpenedFilesTest : public QObject {
 
 private Q_SLOTS:
     void init();
-    void everyFormatByContent();
-    void suffixDoesNotMatter();
     void declaredGamutIsAdded();
     void declaredGamutIsReplaced();
+    void partIsChosen_data();
+    void partIsChosen();
     void takenNamesGetANumber();
-    void gamutWithoutANameIsNamedAfterTheFile();
     void measurementsAreAdded();
     void measurementsWithoutAGamut();
-    void openAloneMakesADescription();
-    void measurementsAloneMakeADescription();
+    void pointsStayWhenAListHasNoneForThem();
+    void descriptionAddsItsGamuts();
+    void declaredGamutAloneIsNothingElse();
+    void measurementsAloneAreNothingElse();
     void filesTogether();
+    void displaysAreNotMixedInSilence_data();
+    void displaysAreNotMixedInSilence();
+    void replacedPartsAreTold();
+    void warningsOfReadersAreKept();
     void secondDescriptionIsRefused();
-    void errors_data();
-    void errors();
-    void hugeFiles();
-    void missingFilesAndFolders();
-    void errorIsOneLine();
+    void emptinessIsRecognised();
 
 private:
     QString write(const QString &name, const QByteArray &bytes);
@@ -54,10 +55,43 @@ DisplayDescription wall()
     return description;
 }
 
-//! What reading \a fileName fails with.
-QString messageFor(const QString &fileName)
+//! Added as what it usually is.
+DisplayDescription withUsual(const DisplayDescription &open, const GamutFile &file)
 {
-    return readGamutFile(fileName).problem().message(fileName);
+    return withFile(open, file, usualRole(file));
+}
+
+GamutFile declaredBy(const char *name, const Model::ColorGamut &gamut = Model::rec2020())
+{
+    GamutFile file;
+    file.content = Content::DeclaredGamut;
+    file.name = QStringLiteral("file");
+    file.gamut = Model::ColorGamut(name, gamut.getTargets());
+    return file;
+}
+
+QStringList texts(const QVector<Problem> &problems)
+{
+    QStringList found;
+    for (const Problem &problem : problems) {
+        found.append(problem.text);
+    }
+    return found;
+}
+
+QStringList lines(const OpenedFiles &opened)
+{
+    QStringList found;
+    for (const FileWarning &warning : opened.warnings) {
+        found.append(warning.message());
+    }
+    return found;
+}
+
+//! The names in every part but the standards.
+QStringList parts(const DisplayDescription &d)
+{
+    return {d.original, d.measured, d.declared, d.target};
 }
 
 } // namespace
@@ -77,38 +111,10 @@ QString OpenedFilesTest::write(const QString &name, const QByteArray &bytes)
     return file.fileName();
 }
 
-void OpenedFilesTest::everyFormatByContent()
-{
-    const auto json = readGamutFile(write("a", minimal));
-    QVERIFY2(json, qPrintable(json.error()));
-    QCOMPARE(json->content, Content::Description);
-    QCOMPARE(json->description.target, QStringLiteral("DCI-P3(D65)"));
-    const auto csv = readGamutFile(write("b", list));
-    QVERIFY2(csv, qPrintable(csv.error()));
-    QCOMPARE(csv->content, Content::Measurements);
-    QCOMPARE(csv->measurements.measurements.size(), 5);
-    const auto icc = readGamutFile(write("c", samplefiles::version4Profile()));
-    QVERIFY2(icc, qPrintable(icc.error()));
-    QCOMPARE(icc->content, Content::DeclaredGamut);
-    QCOMPARE(icc->gamut.colorGamutName(), std::string("Studio 27 calibrated"));
-    const auto edid = readGamutFile(write("d", samplefiles::edid()));
-    QVERIFY2(edid, qPrintable(edid.error()));
-    QCOMPARE(edid->content, Content::DeclaredGamut);
-    QCOMPARE(edid->gamut.colorGamutName(), std::string("Studio 27"));
-    QVERIFY(readGamutFile(write("e", "\xEF\xBB\xBF \n" + minimal)));
-}
-
-void OpenedFilesTest::suffixDoesNotMatter()
-{
-    QCOMPARE(readGamutFile(write("a.icc", minimal))->content, Content::Description);
-    QCOMPARE(readGamutFile(write("b.json", samplefiles::edid()))->content, Content::DeclaredGamut);
-    QCOMPARE(readGamutFile(write("c.csv", samplefiles::version2Profile()))->content, Content::DeclaredGamut);
-}
-
 void OpenedFilesTest::declaredGamutIsAdded()
 {
     const auto file = readGamutFile(write("monitor.bin", samplefiles::edid()));
-    const DisplayDescription result = withFile(wall(), *file);
+    const DisplayDescription result = withUsual(wall(), *file);
     QCOMPARE(result.declared, QStringLiteral("Studio 27"));
     QVERIFY(result.gamut(result.declared));
     QVERIFY(result.gamut(result.declared)->getTargets().red.x == 655 / 1024.0);
@@ -121,46 +127,68 @@ void OpenedFilesTest::declaredGamutIsAdded()
 
 void OpenedFilesTest::declaredGamutIsReplaced()
 {
-    const DisplayDescription once = withFile(wall(), *readGamutFile(write("a.bin", samplefiles::edid())));
-    const DisplayDescription twice = withFile(once, *readGamutFile(write("b.icc", samplefiles::version2Profile())));
+    const DisplayDescription once = withUsual(wall(), *readGamutFile(write("a.bin", samplefiles::edid())));
+    const DisplayDescription twice = withUsual(once, *readGamutFile(write("b.icc", samplefiles::version2Profile())));
     QCOMPARE(twice.declared, QStringLiteral("Studio 27 calibrated"));
     QVERIFY(twice.gamut(QStringLiteral("Studio 27"))); // it may play another part
+}
+
+void OpenedFilesTest::partIsChosen_data()
+{
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<QStringList>("standards");
+    const QString name = QStringLiteral("Studio 27");
+    QTest::newRow("original") << int(GamutRole::Original) << QStringList{name, "", "", "Rec.709"} << QStringList();
+    QTest::newRow("measured") << int(GamutRole::Measured) << QStringList{"Rec.2020", name, "", "Rec.709"}
+                              << QStringList();
+    QTest::newRow("declared") << int(GamutRole::Declared) << QStringList{"Rec.2020", "", name, "Rec.709"}
+                              << QStringList();
+    QTest::newRow("target") << int(GamutRole::Target) << QStringList{"Rec.2020", "", "", name} << QStringList();
+    QTest::newRow("standard") << int(GamutRole::Standard) << QStringList{"Rec.2020", "", "", "Rec.709"}
+                              << QStringList(name);
+    QTest::newRow("none") << -1 << QStringList{"Rec.2020", "", "", "Rec.709"} << QStringList();
+}
+
+void OpenedFilesTest::partIsChosen()
+{
+    QFETCH(int, role);
+    QFETCH(QStringList, expected);
+    QFETCH(QStringList, standards);
+    const auto file = readGamutFile(write("monitor.bin", samplefiles::edid()));
+    const DisplayDescription result
+        = withFile(wall(), *file, role < 0 ? std::nullopt : std::make_optional(GamutRole(role)));
+    QCOMPARE(parts(result), expected);
+    QCOMPARE(result.standards, standards);
+    QVERIFY(hasOwnGamut(result, QStringLiteral("Studio 27")));
+    QCOMPARE(result.measurePoints.size(), 1);
 }
 
 void OpenedFilesTest::takenNamesGetANumber()
 {
     const auto edid = readGamutFile(write("a.bin", samplefiles::edid()));
-    const DisplayDescription once = withFile(wall(), *edid);
-    const DisplayDescription again = withFile(once, *edid);
+    const DisplayDescription once = withUsual(wall(), *edid);
+    const DisplayDescription again = withUsual(once, *edid);
     QCOMPARE(again.declared, QStringLiteral("Studio 27"));
     QCOMPARE(again.gamuts.size(), std::size_t(1)); // it was there already
     GamutFile other = *edid;
     const auto named = [](const Model::Targets &targets) { return Model::ColorGamut("Studio 27", targets); };
     other.gamut = named(Model::rec2020().getTargets());
-    const DisplayDescription twice = withFile(again, other);
+    const DisplayDescription twice = withUsual(again, other);
     QCOMPARE(twice.declared, QStringLiteral("Studio 27 (2)"));
-    QCOMPARE(withFile(twice, *edid).declared, QStringLiteral("Studio 27"));
+    QCOMPARE(withUsual(twice, *edid).declared, QStringLiteral("Studio 27"));
     other.gamut = named(Model::dciP3D65().getTargets());
-    QCOMPARE(withFile(twice, other).declared, QStringLiteral("Studio 27 (3)"));
+    QCOMPARE(withUsual(twice, other).declared, QStringLiteral("Studio 27 (3)"));
     const auto published = readGamutFile(write("b.icc",
         samplefiles::version2Profile([](cmsHPROFILE profile) { samplefiles::describe(profile, L"Rec.709"); })));
-    const DisplayDescription result = withFile(wall(), *published);
+    const DisplayDescription result = withUsual(wall(), *published);
     QCOMPARE(result.declared, QStringLiteral("Rec.709 (2)"));
     QVERIFY(result.gamut(result.target)->getTargets().red.x == 0.64);
 }
 
-void OpenedFilesTest::gamutWithoutANameIsNamedAfterTheFile()
-{
-    const auto file = readGamutFile(write("left.wall.icc", samplefiles::version2Profile([](cmsHPROFILE profile) {
-        cmsWriteTag(profile, cmsSigProfileDescriptionTag, nullptr);
-    })));
-    QVERIFY(file);
-    QCOMPARE(file->gamut.colorGamutName(), std::string("left.wall"));
-}
-
 void OpenedFilesTest::measurementsAreAdded()
 {
-    const DisplayDescription result = withFile(wall(), *readGamutFile(write("meter.csv", list)));
+    const DisplayDescription result = withUsual(wall(), *readGamutFile(write("meter.csv", list)));
     QCOMPARE(result.measured, QStringLiteral("meter"));
     QVERIFY(result.gamut(result.measured)->getTargets().white.Y == 1000.0);
     QCOMPARE(result.measurePoints.size(), 1);
@@ -172,48 +200,139 @@ void OpenedFilesTest::measurementsAreAdded()
 void OpenedFilesTest::measurementsWithoutAGamut()
 {
     const DisplayDescription result
-        = withFile(wall(), *readGamutFile(write("meter.csv", "a,1,0.3,0.4\nb,1,0.4,0.3\n")));
+        = withUsual(wall(), *readGamutFile(write("meter.csv", "a,1,0.3,0.4\nb,1,0.4,0.3\n")));
     QVERIFY(result.measured.isEmpty());
     QVERIFY(result.gamuts.empty());
     QCOMPARE(result.measurePoints.size(), 2);
 }
 
-void OpenedFilesTest::openAloneMakesADescription()
+void OpenedFilesTest::pointsStayWhenAListHasNoneForThem()
+{
+    const auto file = readGamutFile(write("four.csv", QByteArray(list).replace("grey,5,0.3,0.31\n", "")));
+    QVERIFY2(file, qPrintable(file.error()));
+    QCOMPARE(withFile(wall(), *file, GamutRole::Standard).measurePoints.size(), 1);
+    // Those of another measurement go with it.
+    QVERIFY(withFile(wall(), *file, GamutRole::Measured).measurePoints.isEmpty());
+}
+
+void OpenedFilesTest::descriptionAddsItsGamuts()
+{
+    GamutFile other;
+    other.description = wall();
+    other.description.name = QStringLiteral("Other");
+    other.description.gamuts.emplace_back(Model::ColorGamut("Native", Model::dciP3D65().getTargets()));
+    other.description.original = QStringLiteral("Native");
+    const DisplayDescription result = withUsual(wall(), other);
+    QCOMPARE(parts(result), parts(wall()));
+    QCOMPARE(result.name, QStringLiteral("Wall"));
+    QVERIFY(hasOwnGamut(result, QStringLiteral("Native")));
+    QCOMPARE(texts(remarksOnAdding(wall(), {QString(), other, {}, {}})),
+        (QStringList{"is of the display \"Other\", not of \"Wall\"", "adds its gamuts only, in no part"}));
+    // Instead of nothing, it is all of it.
+    QCOMPARE(withUsual(DisplayDescription(), other).original, QStringLiteral("Native"));
+}
+
+void OpenedFilesTest::declaredGamutAloneIsNothingElse()
 {
     const auto opened = openFiles({write("a.bin", samplefiles::edid())});
     QVERIFY2(opened, qPrintable(opened.error()));
     QVERIFY(opened->descriptionFile.isEmpty());
     const DisplayDescription &description = opened->description;
     QCOMPARE(description.name, QStringLiteral("Studio 27"));
-    QCOMPARE(description.original, QStringLiteral("Studio 27"));
-    QCOMPARE(description.declared, QStringLiteral("Studio 27"));
-    QCOMPARE(description.target, QStringLiteral("Rec.709"));
-    QCOMPARE(description.standards, (QStringList{"Rec.709", "Rec.2020", "DCI-P3(D65)"}));
+    QCOMPARE(parts(description), (QStringList{"", "", "Studio 27", ""}));
+    QVERIFY(description.standards.isEmpty());
+    QCOMPARE(description.gamuts.size(), std::size_t(1));
+    QVERIFY(opened->warnings.isEmpty());
 }
 
-void OpenedFilesTest::measurementsAloneMakeADescription()
+void OpenedFilesTest::measurementsAloneAreNothingElse()
 {
     const auto whole = openFiles({write("meter.csv", list)});
     QVERIFY(whole);
-    QCOMPARE(whole->description.original, QStringLiteral("meter"));
-    QCOMPARE(whole->description.measured, QStringLiteral("meter"));
-    QCOMPARE(whole->description.name, QStringLiteral("meter"));
+    QCOMPARE(parts(whole->description), (QStringList{"", "meter", "", ""}));
+    QVERIFY(whole->description.standards.isEmpty());
+    QVERIFY(whole->description.name.isEmpty()); // a list does not say what was measured
     const auto points = openFiles({write("points.csv", "a,1,0.3,0.4\n")});
     QVERIFY(points);
-    QCOMPARE(points->description.original, QStringLiteral("Rec.709"));
+    QCOMPARE(parts(points->description), (QStringList{"", "", "", ""}));
+    QVERIFY(points->description.gamuts.empty());
     QCOMPARE(points->description.measurePoints.size(), 1);
 }
 
 void OpenedFilesTest::filesTogether()
 {
     const QString json = write("wall.json", minimal);
-    const auto opened = openFiles({write("a.bin", samplefiles::edid()), json, write("meter.csv", list)});
+    const QStringList names{write("a.bin", samplefiles::edid()), json, write("meter.csv", list)};
+    const auto opened = openFiles(names);
     QVERIFY2(opened, qPrintable(opened.error()));
     QCOMPARE(opened->descriptionFile, json);
-    QCOMPARE(opened->description.original, QStringLiteral("Rec.2020"));
-    QCOMPARE(opened->description.declared, QStringLiteral("Studio 27"));
-    QCOMPARE(opened->description.measured, QStringLiteral("meter"));
-    QCOMPARE(opened->description.target, QStringLiteral("DCI-P3(D65)"));
+    QCOMPARE(parts(opened->description), (QStringList{"Rec.2020", "meter", "Studio 27", "DCI-P3(D65)"}));
+    QCOMPARE(parts(opened->inDescriptionFile), (QStringList{"Rec.2020", "", "", "DCI-P3(D65)"}));
+    QCOMPARE(opened->fileNames, (QStringList{json, names.first(), names.last()}));
+    QVERIFY(opened->warnings.isEmpty());
+}
+
+void OpenedFilesTest::displaysAreNotMixedInSilence_data()
+{
+    QTest::addColumn<QString>("open");
+    QTest::addColumn<QString>("added");
+    QTest::addColumn<bool>("isTold");
+    QTest::newRow("another") << "Studio 27"
+                             << "Desk 24" << true;
+    QTest::newRow("the same") << "Studio 27"
+                              << "Studio 27" << false;
+    QTest::newRow("the same in small letters") << "Studio 27"
+                                               << "STUDIO  27 " << false;
+    QTest::newRow("the same and more") << "Studio 27"
+                                       << "Studio 27, calibrated" << false;
+    QTest::newRow("a longer number") << "Studio 2"
+                                     << "Studio 27" << true;
+    QTest::newRow("known only now") << ""
+                                    << "Studio 27" << false;
+    QTest::newRow("named after its file") << "Studio 27"
+                                          << "file" << false;
+}
+
+void OpenedFilesTest::displaysAreNotMixedInSilence()
+{
+    QFETCH(QString, open);
+    QFETCH(QString, added);
+    QFETCH(bool, isTold);
+    DisplayDescription description;
+    description.name = open;
+    const ReadFile file{QStringLiteral("b.bin"), declaredBy(qPrintable(added)), {}, GamutRole::Declared};
+    const QString remark = QStringLiteral("is of the display \"%1\", not of \"%2\"").arg(added, open);
+    QCOMPARE(texts(remarksOnAdding(description, file)), isTold ? QStringList(remark) : QStringList());
+    // By its declared gamut, the display is known too.
+    description.declared = added;
+    QVERIFY(!texts(remarksOnAdding(description, file)).contains(remark));
+}
+
+void OpenedFilesTest::replacedPartsAreTold()
+{
+    const QString first = write("a.bin", samplefiles::edid());
+    const QString second = write(
+        "b.icc", samplefiles::version2Profile([](cmsHPROFILE profile) { samplefiles::describe(profile, L"Desk 24"); }));
+    const QString meter = write("meter.csv", list);
+    const auto opened = openFiles({first, second, meter, meter});
+    QVERIFY2(opened, qPrintable(opened.error()));
+    QCOMPARE(parts(opened->description), (QStringList{"", "meter", "Desk 24", ""}));
+    QCOMPARE(lines(*opened),
+        (QStringList{second + ": is of the display \"Desk 24\", not of \"Studio 27\"",
+            second + ": takes the place of \"Studio 27\" as the declared gamut",
+            meter + ": takes the place of all measured points there were: 1"}));
+    QCOMPARE(texts(remarksOnAdding(opened->description, {QString(), declaredBy("Studio 27"), {}, std::nullopt})),
+        QStringList("is called \"Studio 27 (2)\" here, since another gamut has its name"));
+}
+
+void OpenedFilesTest::warningsOfReadersAreKept()
+{
+    ReadFile file{QStringLiteral("b.bin"), declaredBy("Wall"), {{"is odd", "white", 0, 0}}, GamutRole::Declared};
+    const QStringList expected("b.bin: white: is odd");
+    QCOMPARE(lines(openedAlone({file})), expected);
+    QCOMPARE(lines(openedWith(wall(), {file})), expected);
+    file.warnings.clear();
+    QVERIFY(openedAlone({file}).warnings.isEmpty());
 }
 
 void OpenedFilesTest::secondDescriptionIsRefused()
@@ -225,79 +344,20 @@ void OpenedFilesTest::secondDescriptionIsRefused()
     QCOMPARE(opened.error(), second + ": is a second display description; the first is " + first);
 }
 
-void OpenedFilesTest::errors_data()
+void OpenedFilesTest::emptinessIsRecognised()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("reason");
-    const auto row = [](const char *name, const QByteArray &bytes, const char *reason) {
-        QTest::newRow(name) << QString::fromLatin1(name).section(' ', 0, 0) << bytes << QString::fromUtf8(reason);
+    QVERIFY(isEmpty(DisplayDescription()));
+    const auto isEmptyWith = [](const std::function<void(DisplayDescription &)> &change) {
+        DisplayDescription description;
+        change(description);
+        return isEmpty(description);
     };
-    const QByteArray icc = samplefiles::version2Profile();
-    const char *const unknown = ": is not a display description (JSON), measurement list (CSV), ICC profile or EDID";
-    row("empty", "", ": is empty");
-    row("empty.icc", "", ": is empty");
-    row("picture", QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16), unknown);
-    row("text", "Dear all\nhello", unknown);
-    row("text, of commas", "Dear all, hello\nHow are you?\n", ": line 1: missing column name");
-    row("binary,with,commas", QByteArray("a,b,c\0d", 7), unknown);
-    row("wall.json of no JSON", "hello", ":1:2: illegal value");
-    row("wall.json with an error", "{\"version\": 2}", ": gamuts: missing");
-    row("list.csv of binary", "\x89PNG", ": is not UTF-8 text");
-    row("list.csv of words", "hello", ": line 1: missing column name");
-    row("short.icc", icc.left(20), ": is a truncated ICC profile: the header is incomplete");
-    row("header.icm", icc.left(100), ": is a truncated ICC profile: 100 bytes instead of 0");
-    row("long.icc", icc.left(200), nullptr);
-    row("magic.icc", QByteArray(icc).replace("acsp", "xxxx"), ": is not an ICC profile");
-    row("grey.icc", samplefiles::greyProfile(), ": has no primaries: it is a grey profile");
-    row("short.edid", samplefiles::edid().left(7), ": is a truncated EDID: 7 bytes instead of at least 128");
-    row("short.bin", samplefiles::edid().left(100), ": is a truncated EDID: 100 bytes instead of at least 128");
-    row("magic.edid", QByteArray(128, 'x'), ": is not an EDID");
-}
-
-void OpenedFilesTest::errors()
-{
-    QFETCH(QString, name);
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, reason);
-    const QString file = write(name, bytes);
-    const auto opened = readGamutFile(file);
-    QVERIFY(!opened);
-    if (reason.isEmpty()) {
-        reason = QStringLiteral(": is a truncated ICC profile: 200 bytes instead of %1")
-                     .arg(samplefiles::version2Profile().size());
-    }
-    QCOMPARE(opened.problem().message(file), file + reason);
-}
-
-void OpenedFilesTest::hugeFiles()
-{
-    QFile file(write("huge.icc", samplefiles::version2Profile()));
-    QVERIFY(file.resize(maximumFileBytes + 1)); // sparse
-    QCOMPARE(messageFor(file.fileName()), file.fileName() + ": is larger than 32768 KiB");
-    QVERIFY(file.resize(maximumFileBytes));
-    QVERIFY(readGamutFile(file.fileName())); // what follows a profile is no matter
-
-    const QString json = write("huge.json", QByteArray(16 * 1024 * 1024 + 1, '{'));
-    QCOMPARE(messageFor(json), json + ": is too large for a display description (more than 16384 KiB)");
-    const QString csv = write("huge.csv", QByteArray("a,1,0.3,0.3\n").repeated(1024 * 1024 / 12 + 1));
-    QCOMPARE(messageFor(csv), csv + ": is too large for a measurement list (more than 1024 KiB)");
-#ifdef Q_OS_UNIX
-    QCOMPARE(messageFor("/dev/zero"), QStringLiteral("/dev/zero: is larger than 32768 KiB"));
-#endif
-}
-
-void OpenedFilesTest::missingFilesAndFolders()
-{
-    QCOMPARE(messageFor(path("no.icc")), path("no.icc") + ": cannot be read: No such file or directory");
-    QCOMPARE(messageFor(m_folder->path()), m_folder->path() + ": is a folder");
-}
-
-void OpenedFilesTest::errorIsOneLine()
-{
-    const QString error = messageFor(path("odd\nname"));
-    QVERIFY(error.contains("odd\\u000aname"));
-    QVERIFY(!error.contains('\n'));
+    QVERIFY(!isEmptyWith([](DisplayDescription &d) { d.name = QStringLiteral("a"); }));
+    QVERIFY(!isEmptyWith([](DisplayDescription &d) { d.notes = QStringLiteral("a"); }));
+    QVERIFY(!isEmptyWith([](DisplayDescription &d) { d.gamuts.emplace_back(Model::rec709()); }));
+    QVERIFY(!isEmptyWith([](DisplayDescription &d) { d.target = QStringLiteral("Rec.709"); }));
+    QVERIFY(!isEmptyWith([](DisplayDescription &d) { d.standards.append(QStringLiteral("Rec.709")); }));
+    QVERIFY(!isEmptyWith([](DisplayDescription &d) { d.cmyPoints.append(NamedPoint()); }));
 }
 
 QTEST_GUILESS_MAIN(OpenedFilesTest)

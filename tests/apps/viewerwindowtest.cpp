@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "windowfixture.h"
 
-#include <gamutfiles/descriptionfile.h>
 #include "display/valuetexts.h"
 #include "drawing/layerswitches.h"
 #include "editing/gamutparts.h"
@@ -17,6 +16,7 @@
 #include "window/lens.h"
 #include "window/librarypage.h"
 #include "window/recentfiles.h"
+#include <gamutfiles/descriptionfile.h>
 
 #include <ceiechart/diagram/chartstyle.h>
 #include <ceiechart/legacy/ceiegraphicsview.h>
@@ -87,15 +87,6 @@ private Q_SLOTS:
 
 namespace {
 
-QString write(const QTemporaryDir &folder, const QString &name, const QByteArray &bytes)
-{
-    QFile file(folder.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-        return QString();
-    }
-    return file.fileName();
-}
-
 void change(WindowFixture &f)
 {
     f.window->session()->setChromaticity(Vertex::Red, QPointF(0.66, 0.32));
@@ -136,11 +127,9 @@ void ViewerWindowTest::titleNamesTheFileOfANamelessDisplay()
 
 void ViewerWindowTest::closesByKeyboard()
 {
-    for (const Qt::Key key : {Qt::Key_W, Qt::Key_Q}) {
-        WindowFixture f;
-        QTest::keyClick(f.window.get(), key, Qt::ControlModifier);
-        QVERIFY(!f.window->isVisible());
-    }
+    WindowFixture f;
+    QTest::keyClick(f.window.get(), Qt::Key_Q, Qt::ControlModifier);
+    QVERIFY(!f.window->isVisible());
 }
 
 void ViewerWindowTest::closeAsksBeforeChangesAreLost()
@@ -150,7 +139,7 @@ void ViewerWindowTest::closeAsksBeforeChangesAreLost()
     {
         const Answer cancel(QMessageBox::Cancel);
         f.window->close();
-        QVERIFY(!cancel.text().isEmpty());
+        QVERIFY2(cancel.text().contains(QLatin1String("\"LED wall\"")), qPrintable(cancel.text()));
         QVERIFY(f.window->isVisible());
     }
     const QString file = f.settings.filePath(QStringLiteral("saved.json"));
@@ -291,7 +280,7 @@ void ViewerWindowTest::badFileLeavesWhatWasOpen()
     QFETCH(QByteArray, bytes);
     WindowFixture f;
     change(f);
-    const QString file = write(f.settings, QStringLiteral("bad.json"), bytes);
+    const QString file = writeFile(f.settings, QStringLiteral("bad.json"), bytes);
     QVERIFY(!file.isEmpty());
     const Answer answer(QMessageBox::Ok);
     QVERIFY(!f.window->openPath(file));
@@ -305,7 +294,7 @@ void ViewerWindowTest::droppedFileIsOpened()
 {
     WindowFixture f;
     const QString file
-        = write(f.settings, QStringLiteral("other.json"), sample().replace("\"DCI-P3(D65)\",", "\"Rec.709\","));
+        = writeFile(f.settings, QStringLiteral("other.json"), sample().replace("\"DCI-P3(D65)\",", "\"Rec.709\","));
     QVERIFY(!file.isEmpty());
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(file)});
@@ -322,10 +311,13 @@ void ViewerWindowTest::droppedFileIsOpened()
 void ViewerWindowTest::addedMeasurementsCanBeUndone()
 {
     WindowFixture f;
-    const QString file = write(f.settings, QStringLiteral("meter.csv"),
+    const QString file = writeFile(f.settings, QStringLiteral("meter.csv"),
         "name,Y,x,y\nred,190,0.69,0.30\ngreen,600,0.2,0.7\nblue,120,0.14,0.08\nwhite,910,0.28,0.30\n");
+    const FilesAnswer add(FilesAnswer::Add);
     QVERIFY(f.window->openPath(file));
+    QVERIFY(add.isAsked());
     QCOMPARE(f.document().measured()->getTargets().red.x, 0.69);
+    f.activate();
     QVERIFY(f.window->isWindowModified());
     QTest::keyClick(f.window.get(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(f.document().measured()->getTargets().red.x, 0.7031);

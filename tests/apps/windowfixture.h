@@ -2,16 +2,20 @@
 #ifndef TESTS_APPS_WINDOWFIXTURE_H
 #define TESTS_APPS_WINDOWFIXTURE_H
 
-#include "editing/openedfiles.h"
 #include "drawing/documentview.h"
 #include "editing/document.h"
+#include "editing/openedfiles.h"
 #include "editing/targetedits.h"
+#include "window/adddialog.h"
 #include "window/diagrampage.h"
 #include "window/viewerwindow.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -30,6 +34,12 @@ struct WindowFixture {
         }
         window->resize(1024, 768);
         window->show();
+        activate();
+    }
+
+    /*! As a window manager does when the window comes up and when a dialog closes. */
+    void activate()
+    {
         QApplication::setActiveWindow(window.get());
         if (!QTest::qWaitForWindowActive(window.get())) {
             qFatal("the window does not become active");
@@ -56,6 +66,13 @@ struct WindowFixture {
     std::unique_ptr<gamutviewer::ViewerWindow> window;
 };
 
+/*! Writes \a bytes to \a name in \a folder; returns where, or nothing when that fails. */
+inline QString writeFile(const QTemporaryDir &folder, const QString &name, const QByteArray &bytes)
+{
+    QFile file(folder.filePath(name));
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? file.fileName() : QString();
+}
+
 /*! Answers the next message box with \a button, and keeps its text. */
 class Answer : public QObject {
 public:
@@ -78,6 +95,56 @@ public:
 private:
     QMessageBox::StandardButton m_button;
     QString m_text;
+    QTimer m_timer;
+};
+
+/*! Answers the next question what becomes of files that are opened. */
+class FilesAnswer : public QObject {
+public:
+    enum Choice { Add, Alone, Cancel };
+
+    /*! \a role, if any, is chosen for the first file. */
+    explicit FilesAnswer(Choice choice, std::optional<gamutviewer::GamutRole> role = {})
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this, choice, role] {
+            auto *dialog = qobject_cast<gamutviewer::AddDialog *>(QApplication::activeModalWidget());
+            if (!dialog || m_isAsked) {
+                return;
+            }
+            m_isAsked = true;
+            if (QComboBox *box = dialog->roleBox(0)) {
+                m_usual = box->currentText();
+                if (role) {
+                    box->setFocus();
+                    QTest::keyClick(box, Qt::Key_Home);
+                    while (box->currentData() != int(*role) && box->currentIndex() < box->count() - 1) {
+                        QTest::keyClick(box, Qt::Key_Down);
+                    }
+                }
+            }
+            m_note = dialog->note(0)->text();
+            m_mayOpenAlone = dialog->aloneButton();
+            if (choice == Cancel) {
+                QTest::keyClick(dialog, Qt::Key_Escape);
+            } else {
+                QTest::mouseClick(choice == Add ? dialog->addButton() : dialog->aloneButton(), Qt::LeftButton);
+            }
+        });
+        m_timer.start(1);
+    }
+
+    bool isAsked() const { return m_isAsked; }
+    bool mayOpenAlone() const { return m_mayOpenAlone; }
+    /*! What the first file was to become unless asked otherwise. */
+    QString usual() const { return m_usual; }
+    /*! What was said of the first file as it was added. */
+    QString note() const { return m_note; }
+
+private:
+    bool m_isAsked = false;
+    bool m_mayOpenAlone = false;
+    QString m_usual;
+    QString m_note;
     QTimer m_timer;
 };
 

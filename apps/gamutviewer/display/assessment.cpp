@@ -36,7 +36,7 @@ Model::DiagramPoint pointOf(const Model::Target &target)
 
 Vertex vertexOf(Model::Primary primary)
 {
-    return primary == Model::Primary::Red ? Vertex::Red
+    return primary == Model::Primary::Red  ? Vertex::Red
         : primary == Model::Primary::Green ? Vertex::Green
                                            : Vertex::Blue;
 }
@@ -181,13 +181,15 @@ private:
     {
         if (!m_target) {
             add(Subject::Target, Judgement::NotKnown,
-                AssessmentText::tr("What the display is to show is not known: nobody has chosen a target. Choose one, or edit the "
-                   "default."));
+                AssessmentText::tr(
+                    "What the display is to show is not known: nobody has chosen a target. Choose one, or edit the "
+                    "default."));
         }
         if (!m_result.display) {
             add(Subject::Display, Judgement::NotKnown,
-                AssessmentText::tr("What the display can show is not known: there is neither an original nor a measured gamut. Open a "
-                   "measurement of its primaries, or choose its original."));
+                AssessmentText::tr(
+                    "What the display can show is not known: there is neither an original nor a measured gamut. Open a "
+                    "measurement of its primaries, or choose its original."));
         }
         if (!m_target || !m_result.display) {
             return;
@@ -227,7 +229,8 @@ private:
         }
         if (isInside) {
             add(Subject::Gamut, Judgement::Pass,
-                AssessmentText::tr("All primaries and the white lie inside of the %1.").arg(displayName(*m_result.display)));
+                AssessmentText::tr("All primaries and the white lie inside of the %1.")
+                    .arg(displayName(*m_result.display)));
         }
     }
 
@@ -236,9 +239,9 @@ private:
         const Model::Target &color = targetAt(m_target->getTargets(), vertex);
         const auto nearest
             = Model::nearestInside(m_result.display->gamut.getTargets(), pointOf(color), chromaticityDecimals);
-        const QString what = AssessmentText::tr("%1 lies outside of the %2 by Δu′v′ %3")
-                                 .arg(capitalised(gamutVertexName(vertex)), displayName(*m_result.display),
-                                     fixedText(distance, 4));
+        const QString what
+            = AssessmentText::tr("%1 lies outside of the %2 by Δu′v′ %3")
+                  .arg(capitalised(gamutVertexName(vertex)), displayName(*m_result.display), fixedText(distance, 4));
         const QString move = nearest ? AssessmentText::tr("move it to %1").arg(pointText(nearest->xy)) : QString();
         const QString choose = other.isEmpty()
             ? QString()
@@ -279,8 +282,8 @@ private:
         m_result.drive = displayDrive.driveFor(m_target->getTargets());
         if (!m_result.drive || !(white.Y > 0.0)) {
             add(Subject::Luminance, Judgement::NotKnown,
-                AssessmentText::tr("The luminance of the target is not known: its white has none. Enter it beside Y."), Vertex::White,
-                handleName(Vertex::White));
+                AssessmentText::tr("The luminance of the target is not known: its white has none. Enter it beside Y."),
+                Vertex::White, handleName(Vertex::White));
             return;
         }
         if (!m_result.largestWhite) {
@@ -354,8 +357,7 @@ private:
         if (m_measured && m_target) {
             const bool isSame = compare(m_measured->unit, m_target->unit);
             values = Model::deviations(m_measured->getTargets(), m_target->getTargets(),
-                isSame ? Model::LuminanceUnits::Same : Model::LuminanceUnits::Different,
-                m_tolerances->coverageDiagram);
+                isSame ? Model::LuminanceUnits::Same : Model::LuminanceUnits::Different, m_tolerances->coverageDiagram);
             const Model::Target &is = m_measured->getTargets().white;
             const Model::Target &should = m_target->getTargets().white;
             const auto temperature = ceiechart::colorTemperature(ceiechart::xyOf(is));
@@ -420,9 +422,10 @@ private:
         const bool isColor = vertex && result.subject != ToleranceSubject::Luminance
             && result.subject != ToleranceSubject::Temperature;
         const QString what = isColor ? AssessmentText::tr("Measured %1").arg(gamutVertexName(*vertex))
-            : result.subject == ToleranceSubject::Luminance   ? AssessmentText::tr("Measured luminance of the white")
-            : result.subject == ToleranceSubject::Temperature ? AssessmentText::tr("Measured colour temperature of the white")
-                                                              : AssessmentText::tr("Coverage of the target");
+            : result.subject == ToleranceSubject::Luminance ? AssessmentText::tr("Measured luminance of the white")
+            : result.subject == ToleranceSubject::Temperature
+            ? AssessmentText::tr("Measured colour temperature of the white")
+            : AssessmentText::tr("Coverage of the target");
         const QString is = result.value && result.verdict != Model::ToleranceVerdict::NotKnown
             ? deviationText(result)
             : AssessmentText::tr("not known, as %1").arg(notKnownText(result.subject));
@@ -474,9 +477,10 @@ private:
     void judgeStandard(const StandardCoverage &limit)
     {
         const auto standard = m_description.gamut(limit.standard);
-        const QString diagram = limit.diagram == Model::Diagram::Cie1931 ? AssessmentText::tr("x, y") : AssessmentText::tr("u′, v′");
-        const QString what = AssessmentText::tr("Coverage of %1 in %2 by the measured gamut")
-                                 .arg(oneLine(limit.standard), diagram);
+        const QString diagram
+            = limit.diagram == Model::Diagram::Cie1931 ? AssessmentText::tr("x, y") : AssessmentText::tr("u′, v′");
+        const QString what
+            = AssessmentText::tr("Coverage of %1 in %2 by the measured gamut").arg(oneLine(limit.standard), diagram);
         if (!standard || !m_measured) {
             const QString why = standard
                 ? AssessmentText::tr("nothing is measured. Open a measurement of red, green, blue and white.")
@@ -487,14 +491,15 @@ private:
             return;
         }
         Model::DeviationValues values;
-        values.coverage = Model::deviations(m_measured->getTargets(), standard->getTargets(),
-            Model::LuminanceUnits::Different, limit.diagram)
+        values.coverage = Model::deviations(
+            m_measured->getTargets(), standard->getTargets(), Model::LuminanceUnits::Different, limit.diagram)
                               .coverage;
         Model::Tolerances limits;
         limits.coverage = limit.coverage;
         const Model::ToleranceResult result = Model::judged(values, limits).front();
         const QString is = result.verdict == Model::ToleranceVerdict::NotKnown
-            ? AssessmentText::tr("not known, as %1").arg(AssessmentText::tr("a colour has no chromaticity or no luminance."))
+            ? AssessmentText::tr("not known, as %1")
+                  .arg(AssessmentText::tr("a colour has no chromaticity or no luminance."))
             : deviationText(result);
         add(Subject::Tolerance, judgementOf(result.verdict),
             AssessmentText::tr("%1: %2", "what was judged and the judgement").arg(what, is));
@@ -575,15 +580,6 @@ double distanceOutside(const Model::Targets &target, Vertex primary, const Model
     }
     const auto nearest = Model::nearestInside(display, pointOf(targetAt(target, primary)), chromaticityDecimals);
     return nearest ? nearest->distance : std::numeric_limits<double>::infinity();
-}
-
-std::optional<Model::LargestLuminance> largestWhite(const DisplayDescription &description)
-{
-    const auto display = knownDisplay(description);
-    const auto target = description.gamut(description.target);
-    return display && target
-        ? Model::DisplayDrive(display->gamut.getTargets()).largestLuminance(pointOf(target->getTargets().white))
-        : std::nullopt;
 }
 
 Judgement Assessment::judgement() const

@@ -49,12 +49,6 @@ constexpr double fullDrive = 1.002;
  */
 double distanceOutside(const Model::Targets &target, ceiechart::GamutVertex primary, const Model::Targets &display);
 
-/*!
- * \brief The largest luminance of the target's white that the display reaches, in the unit of the display; nothing when
- * it is not known.
- */
-std::optional<Model::LargestLuminance> largestWhite(const DisplayDescription &description);
-
 /*! \brief One judgement with what it means and what to do about it. */
 struct AssessmentLine {
     /*! \brief What is judged. */
@@ -78,7 +72,7 @@ struct Assessment {
     std::optional<KnownDisplay> display; //!< what the target is held against
     QVector<AssessmentLine> lines; //!< at least one
     std::optional<Model::TargetDrive> drive; //!< of the display, for the target; only when the luminances compare
-    std::optional<Model::LargestLuminance> largestWhite; //!< in the unit of the display; see largestWhite()
+    std::optional<Model::LargestLuminance> largestWhite; //!< of the target's white, in the unit of the display
 
     /*! \brief Whether the luminances of display and target can be compared: both in cd/m², or both relative. */
     bool luminancesCompare = false;

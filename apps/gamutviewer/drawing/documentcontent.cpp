@@ -2,7 +2,8 @@
 #include "drawing/documentcontent.h"
 
 #include "display/gamutfiles.h"
-#include "editing/targetsession.h"
+
+#include <ceiechart/diagram/targetrules.h>
 
 namespace gamutviewer {
 
@@ -21,38 +22,43 @@ QVector<ceiechart::DiagramMark> marks(const QVector<NamedPoint> &points)
 
 ceiechart::DiagramContent documentContent(const DisplayDescription &description)
 {
+    return documentContent(description, gamutParts(description));
+}
+
+ceiechart::DiagramContent documentContent(const DisplayDescription &description, const QVector<GamutPart> &parts)
+{
     using ceiechart::GamutRole;
     ceiechart::DiagramContent content;
-    const auto add = [&](GamutRole role, const QString &name) {
-        if (const auto gamut = description.gamut(name)) {
-            content.gamuts.append(
-                {Model::ColorGamut(oneLine(shownGamutName(name)).toStdString(), gamut->getTargets()), role});
-        }
+    const auto add = [&content](const GamutPart &part) {
+        content.gamuts.append({Model::ColorGamut(part.name().toStdString(), part.gamut.getTargets()), part.role});
     };
-    add(GamutRole::Target, description.target);
-    add(GamutRole::Original, description.original);
-    add(GamutRole::Measured, description.measured);
-    add(GamutRole::Declared, description.declared);
+    for (const GamutRole role : {GamutRole::Target, GamutRole::Original, GamutRole::Measured, GamutRole::Declared}) {
+        for (const GamutPart &part : parts) {
+            if (part.role == role) {
+                add(part);
+            }
+        }
+    }
     for (const QString &name : description.standards) {
-        add(GamutRole::Standard, name);
+        if (const auto gamut = description.gamut(name)) {
+            add({GamutRole::Standard, *gamut});
+        }
     }
     content.measurePoints = marks(description.measurePoints);
     content.colorTemperaturePoints = marks(description.colorTemperaturePoints);
     content.cmyPoints = marks(description.cmyPoints);
-    content.rings = targetRings(description, std::nullopt);
+    if (const ceiechart::DiagramGamut *target = content.find(GamutRole::Target)) {
+        content.rings = targetRings(target->gamut.getTargets(), std::nullopt);
+    }
     return content;
 }
 
-QVector<ceiechart::DiagramRings> targetRings(
-    const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+QVector<ceiechart::DiagramRings> targetRings(const Model::Targets &target, const std::optional<Tolerances> &tolerances)
 {
+    using Vertex = ceiechart::GamutVertex;
     QVector<ceiechart::DiagramRings> rings;
-    const auto target = description.gamut(description.target);
-    if (!target) {
-        return rings;
-    }
     for (const Vertex vertex : {Vertex::White, Vertex::Red, Vertex::Green, Vertex::Blue}) {
-        ceiechart::DiagramRings around{xyOf(targetAt(target->getTargets(), vertex))};
+        ceiechart::DiagramRings around{ceiechart::xyOf(ceiechart::targetAt(target, vertex))};
         const auto limit = !tolerances ? std::nullopt
             : vertex == Vertex::White  ? tolerances->limits.whiteUv
                                        : tolerances->limits.primariesUv;

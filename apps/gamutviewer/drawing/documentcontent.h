@@ -3,6 +3,7 @@
 #define GAMUTVIEWER_DOCUMENTCONTENT_H
 
 #include "display/gamutfiles.h"
+#include "editing/gamutparts.h"
 
 #include <ceiechart/diagram/diagramcontent.h>
 
@@ -12,16 +13,18 @@ namespace gamutviewer {
  * \brief What a diagram shows of \a description: its gamuts in their parts, its points, and tolerances round the
  * target's white. All layers are on, and there is no trail.
  *
- * Gamuts have the names that the interface shows. A part that no gamut plays is left out.
+ * Gamuts have the names that the interface shows. A part that no gamut plays is left out. \a parts are the gamuts but
+ * for the standards: those of the description, or gamutPartsToEdit().
  */
+ceiechart::DiagramContent documentContent(const DisplayDescription &description, const QVector<GamutPart> &parts);
+/*! \brief The same of what \a description has, without a default target. */
 ceiechart::DiagramContent documentContent(const DisplayDescription &description);
 
 /*!
- * \brief The rings round the colours of the target of \a description: of the limits of \a tolerances round white and
- * primaries; without a limit for the white, the usual ones round it.
+ * \brief The rings round the colours of \a target: of the limits of \a tolerances round white and primaries; without a
+ * limit for the white, the usual ones round it.
  */
-QVector<ceiechart::DiagramRings> targetRings(
-    const DisplayDescription &description, const std::optional<Tolerances> &tolerances);
+QVector<ceiechart::DiagramRings> targetRings(const Model::Targets &target, const std::optional<Tolerances> &tolerances);
 
 } // namespace gamutviewer
 

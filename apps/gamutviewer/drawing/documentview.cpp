@@ -53,6 +53,17 @@ void DocumentView::note()
     setEditNote(isOutside ? tr("outside by Δu′v′ %1").arg(fixedText(outside, 4)) : QString());
 }
 
+QVector<ceiechart::DiagramRings> DocumentView::rings() const
+{
+    const Document *document = m_session->document();
+    const auto target = document->target();
+    if (!target) {
+        return {};
+    }
+    // A default is not judged.
+    return targetRings(target->getTargets(), document->targetIsDefault() ? std::nullopt : m_session->tolerances());
+}
+
 void DocumentView::refresh()
 {
     const Document *document = m_session->document();
@@ -63,12 +74,14 @@ void DocumentView::refresh()
         if (shown && target && !ceiechart::sameTargets(shown->getTargets(), target->getTargets())) {
             setTarget(*target);
         }
-        setRings(targetRings(document->description(), m_session->tolerances()));
+        setRings(rings());
         return;
     }
     ceiechart::DiagramContent content = m_switches->content(document->description());
-    content.rings = targetRings(document->description(), m_session->tolerances());
-    content.trail = document->whiteTrail();
+    if (content.find(ceiechart::GamutRole::Target)) {
+        content.rings = rings();
+        content.trail = document->whiteTrail();
+    }
     setContent(content);
     if (!isReadOnly()) {
         setSelectedVertex(m_session->selected());

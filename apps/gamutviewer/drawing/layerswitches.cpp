@@ -55,7 +55,8 @@ ceiechart::DiagramContent LayerSwitches::content(const DisplayDescription &descr
             shown.standards.append(name);
         }
     }
-    ceiechart::DiagramContent content = documentContent(shown);
+    ceiechart::DiagramContent content
+        = documentContent(shown, m_showsDefaultTarget ? gamutPartsToEdit(shown) : gamutParts(shown));
     content.layers = m_state.layers;
     content.colors = m_state.colors;
     return content;

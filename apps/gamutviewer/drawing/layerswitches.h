@@ -37,6 +37,10 @@ public:
     /*! \brief Shows the standards that the description names, as for another description. */
     void forgetStandards();
 
+    /*! \brief Whether a diagram shows the default target where nobody has chosen one; it does at first. */
+    bool showsDefaultTarget() const { return m_showsDefaultTarget; }
+    void setShowsDefaultTarget(bool shows) { m_showsDefaultTarget = shows; }
+
     /*! \brief What a diagram shows of \a description. */
     ceiechart::DiagramContent content(const DisplayDescription &description) const;
 
@@ -45,6 +49,7 @@ Q_SIGNALS:
 
 private:
     State m_state;
+    bool m_showsDefaultTarget = true;
 };
 
 } // namespace gamutviewer

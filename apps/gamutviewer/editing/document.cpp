@@ -63,6 +63,11 @@ Document::Document(QObject *parent)
     connect(&m_history, &QUndoStack::cleanChanged, this, [this](bool clean) { Q_EMIT modifiedChanged(!clean); });
 }
 
+std::optional<DisplayGamut> Document::target() const
+{
+    return targetToEdit(m_description);
+}
+
 void Document::open(const DisplayDescription &description, const QString &fileName)
 {
     m_dragging = false;
@@ -111,7 +116,7 @@ void Document::endDrag(const QString &text)
         return;
     }
     m_dragging = false;
-    const auto before = m_beforeDrag.gamut(m_beforeDrag.target);
+    const auto before = targetToEdit(m_beforeDrag);
     const auto after = target();
     if (m_beforeDrag.target == m_description.target
         && (!before || !after || sameTargets(before->getTargets(), after->getTargets()))) {
@@ -144,7 +149,7 @@ void Document::show(const DisplayDescription &description, const QVector<QPointF
 QVector<QPointF> Document::trailWith(const DisplayDescription &description) const
 {
     QVector<QPointF> trail = m_whiteTrail;
-    if (const auto gamut = description.gamut(description.target)) {
+    if (const auto gamut = targetToEdit(description)) {
         const QPointF white = xyOf(gamut->getTargets().white);
         if (trail.isEmpty() || trail.last().x() != white.x() || trail.last().y() != white.y()) {
             trail.append(white);

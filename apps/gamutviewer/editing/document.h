@@ -25,7 +25,14 @@ public:
     std::optional<DisplayGamut> original() const { return m_description.gamut(m_description.original); }
     std::optional<DisplayGamut> declared() const { return m_description.gamut(m_description.declared); }
     std::optional<DisplayGamut> measured() const { return m_description.gamut(m_description.measured); }
-    std::optional<DisplayGamut> target() const { return m_description.gamut(m_description.target); }
+    /*!
+     * \brief The gamut that is edited: the target of the description, or a default where it has none.
+     *
+     * The default is nobody's: ask targetIsDefault() before saying anything of the display by it.
+     */
+    std::optional<DisplayGamut> target() const;
+    /*! \brief Whether nobody has chosen a target. */
+    bool targetIsDefault() const { return m_description.target.isEmpty(); }
 
     /*! \brief The file that the description is saved in; empty when it has none yet. */
     const QString &fileName() const { return m_fileName; }

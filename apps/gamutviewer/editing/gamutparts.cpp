@@ -12,8 +12,15 @@ namespace gamutviewer {
 
 QString GamutPart::title() const
 {
-    return QCoreApplication::translate("gamutviewer", "%1: %2")
-        .arg(roleName(), oneLine(shownGamutName(QString::fromStdString(gamut.colorGamutName()))));
+    return QCoreApplication::translate("gamutviewer", "%1: %2").arg(roleName(), name());
+}
+
+QString GamutPart::name() const
+{
+    const QString shown = oneLine(shownGamutName(QString::fromStdString(gamut.colorGamutName())));
+    return isDefault
+        ? QCoreApplication::translate("gamutviewer", "%1 (default)", "gamut that nobody has chosen").arg(shown)
+        : shown;
 }
 
 QVector<GamutPart> gamutParts(const DisplayDescription &description)
@@ -30,6 +37,21 @@ QVector<GamutPart> gamutParts(const DisplayDescription &description)
     add(GamutRole::Measured, description.measured);
     add(GamutRole::Target, description.target);
     return parts;
+}
+
+QVector<GamutPart> gamutPartsToEdit(const DisplayDescription &description)
+{
+    QVector<GamutPart> parts = gamutParts(description);
+    if (description.target.isEmpty()) {
+        parts.append({ceiechart::GamutRole::Target, defaultTarget(), true});
+    }
+    return parts;
+}
+
+QString notKnownTitle(ceiechart::GamutRole role)
+{
+    return QCoreApplication::translate("gamutviewer", "%1: %2")
+        .arg(ceiechart::gamutRoleName(role), QCoreApplication::translate("gamutviewer", "not known"));
 }
 
 double lostShare(const Model::Targets &original, const Model::Targets &target, Model::Diagram diagram)

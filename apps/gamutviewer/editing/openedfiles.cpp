@@ -3,6 +3,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace gamutviewer {
 
 namespace {
@@ -10,6 +12,8 @@ namespace {
 struct OpenText {
     Q_DECLARE_TR_FUNCTIONS(gamutviewer::OpenedFiles)
 };
+
+using Content = GamutFile::Content;
 
 bool same(const Model::Target &a, const Model::Target &b)
 {
@@ -21,88 +25,218 @@ bool same(const Model::Targets &a, const Model::Targets &b)
     return same(a.red, b.red) && same(a.green, b.green) && same(a.blue, b.blue) && same(a.white, b.white);
 }
 
-//! Returns the name by which \a description has \a gamut, which is added unless it is there already.
-QString addGamut(DisplayDescription &description, const DisplayGamut &gamut)
+QString wantedName(const DisplayGamut &gamut)
 {
     const QString wanted = QString::fromStdString(gamut.colorGamutName());
-    const QString base = wanted.trimmed().isEmpty() ? OpenText::tr("Gamut") : wanted;
-    QString name = base;
+    return wanted.trimmed().isEmpty() ? OpenText::tr("Gamut") : wanted;
+}
+
+//! The name that \a description has \a gamut by, or that is free for it.
+QString nameFor(const DisplayDescription &description, const DisplayGamut &gamut)
+{
+    QString name = wantedName(gamut);
     for (int number = 2; const auto taken = description.gamut(name); ++number) {
         if (same(taken->getTargets(), gamut.getTargets())) {
-            return name;
+            break;
         }
-        name = QStringLiteral("%1 (%2)").arg(base).arg(number);
+        name = QStringLiteral("%1 (%2)").arg(wantedName(gamut)).arg(number);
     }
-    description.gamuts.emplace_back(Model::ColorGamut(name.toStdString(), gamut.getTargets()), gamut.unit);
     return name;
 }
 
-void completeEmpty(DisplayDescription &description, const QString &original, const QString &name)
+//! Returns the name by which \a description has \a gamut, which is added unless it is there already.
+QString addGamut(DisplayDescription &description, const DisplayGamut &gamut)
 {
-    if (!description.original.isEmpty()) {
-        return;
+    const QString name = nameFor(description, gamut);
+    if (!description.gamut(name)) {
+        description.gamuts.emplace_back(Model::ColorGamut(name.toStdString(), gamut.getTargets()), gamut.unit);
     }
-    description.name = description.name.isEmpty() ? name : description.name;
-    description.original = original;
-    description.target = QString::fromStdString(Model::rec709().colorGamutName());
-    for (const Model::ColorGamut &standard : Model::standardGamuts()) {
-        description.standards.append(QString::fromStdString(standard.colorGamutName()));
+    return name;
+}
+
+//! What \a file says that its display is called; empty when it does not. A list has no more than the name of its file.
+QString displayName(const GamutFile &file)
+{
+    if (file.content == Content::Description) {
+        return file.description.name;
     }
+    const QString name = QString::fromStdString(file.gamut.colorGamutName());
+    return file.content == Content::DeclaredGamut && name != file.name ? name : QString();
+}
+
+//! Whether the names may be of one display: the longer one can say more, such as "calibrated".
+bool mayBeSameDisplay(const QString &a, const QString &b)
+{
+    const QString longer = (a.size() < b.size() ? b : a).simplified().toCaseFolded();
+    const QString shorter = (a.size() < b.size() ? a : b).simplified().toCaseFolded();
+    return longer.startsWith(shorter)
+        && (longer.size() == shorter.size() || !longer.at(shorter.size()).isLetterOrNumber());
+}
+
+//! By what names the display of \a open is known.
+QStringList displayNames(const DisplayDescription &open)
+{
+    QStringList names{open.name, open.declared};
+    names.removeAll(QString());
+    return names;
+}
+
+bool replacesPoints(const GamutFile &file, std::optional<GamutRole> role)
+{
+    return file.content == Content::Measurements
+        && (role == GamutRole::Measured || !file.measurements.others().isEmpty());
 }
 
 } // namespace
 
-DisplayDescription withFile(const DisplayDescription &open, const GamutFile &file)
+std::optional<DisplayGamut> gamutOf(const GamutFile &file)
+{
+    switch (file.content) {
+    case Content::DeclaredGamut:
+        return file.gamut;
+    case Content::Measurements:
+        if (const auto gamut = file.measurements.gamut(file.name)) {
+            return *gamut;
+        }
+        break;
+    case Content::Description:
+        break;
+    }
+    return std::nullopt;
+}
+
+std::optional<GamutRole> usualRole(const GamutFile &file)
+{
+    if (!gamutOf(file)) {
+        return std::nullopt;
+    }
+    return file.content == Content::DeclaredGamut ? GamutRole::Declared : GamutRole::Measured;
+}
+
+DisplayDescription withFile(const DisplayDescription &open, const GamutFile &file, std::optional<GamutRole> role)
 {
     DisplayDescription result = open;
-    switch (file.content) {
-    case GamutFile::Content::Description:
-        return file.description;
-    case GamutFile::Content::DeclaredGamut:
-        result.declared = addGamut(result, file.gamut);
-        completeEmpty(result, result.declared, result.declared);
-        break;
-    case GamutFile::Content::Measurements:
-        if (const auto measured = file.measurements.gamut(file.name)) {
-            result.measured = addGamut(result, *measured);
-            completeEmpty(result, result.measured, file.name);
-        } else {
-            completeEmpty(result, QString::fromStdString(Model::rec709().colorGamutName()), file.name);
+    if (file.content == Content::Description) {
+        if (isEmpty(open)) {
+            return file.description;
         }
+        for (const DisplayGamut &gamut : file.description.gamuts) {
+            addGamut(result, gamut);
+        }
+        return result;
+    }
+    if (result.name.isEmpty()) {
+        result.name = displayName(file);
+    }
+    if (const auto gamut = gamutOf(file)) {
+        const QString name = addGamut(result, *gamut);
+        if (role) {
+            result = withRole(result, name, *role, true);
+        }
+    }
+    if (replacesPoints(file, role)) {
         result.measurePoints.clear();
         for (const Measurement &point : file.measurements.others()) {
             result.measurePoints.append({point.name, {point.color.x, point.color.y}});
         }
-        break;
     }
     return result;
 }
 
-Outcome<OpenedFiles> openFiles(const QStringList &fileNames)
+QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile &added)
 {
-    OpenedFiles opened;
-    QVector<GamutFile> additions;
+    QVector<Problem> remarks;
+    const auto remark = [&remarks](const QString &text) { remarks.append({oneLine(text), QString(), 0, 0}); };
+    const QString name = displayName(added.file);
+    const QStringList known = displayNames(open);
+    const bool isKnown = std::any_of(
+        known.begin(), known.end(), [&name](const QString &other) { return mayBeSameDisplay(name, other); });
+    if (!name.isEmpty() && !known.isEmpty() && !isKnown) {
+        remark(OpenText::tr("is of the display \"%1\", not of \"%2\"").arg(name, known.first()));
+    }
+    if (added.file.content == Content::Description && !isEmpty(open)) {
+        remark(OpenText::tr("adds its gamuts only, in no part"));
+        return remarks;
+    }
+    const auto gamut = gamutOf(added.file);
+    if (gamut && nameFor(open, *gamut) != wantedName(*gamut)) {
+        remark(OpenText::tr("is called \"%1\" here, since another gamut has its name").arg(nameFor(open, *gamut)));
+    }
+    const DisplayDescription result = withFile(open, added.file, added.role);
+    const QString before = added.role ? gamutInRole(open, *added.role) : QString();
+    if (!before.isEmpty() && gamutInRole(result, *added.role) != before) {
+        remark(OpenText::tr("takes the place of \"%1\" as %2", "gamut and part")
+                   .arg(before, gamutRolePhrase(*added.role)));
+    }
+    if (!open.measurePoints.isEmpty() && replacesPoints(added.file, added.role)) {
+        remark(OpenText::tr("takes the place of all measured points there were: %1").arg(open.measurePoints.size()));
+    }
+    return remarks;
+}
+
+Outcome<QVector<ReadFile>> readFiles(const QStringList &fileNames)
+{
+    using Failure = Outcome<QVector<ReadFile>>;
+    QVector<ReadFile> files;
     for (const QString &fileName : fileNames) {
         const Outcome<GamutFile> file = readGamutFile(fileName);
         if (!file) {
-            return Outcome<OpenedFiles>::failure(file.problem().message(fileName));
+            return Failure::failure(file.problem().message(fileName));
         }
-        if (file->content != GamutFile::Content::Description) {
-            additions.append(*file);
+        const ReadFile read{fileName, *file, file.warnings(), usualRole(*file)};
+        if (file->content != Content::Description) {
+            files.append(read);
             continue;
         }
-        if (!opened.descriptionFile.isEmpty()) {
-            return Outcome<OpenedFiles>::failure(
-                oneLine(OpenText::tr("%1: is a second display description; the first is %2")
-                            .arg(fileName, opened.descriptionFile)));
+        if (!files.isEmpty() && files.first().file.content == Content::Description) {
+            return Failure::failure(oneLine(OpenText::tr("%1: is a second display description; the first is %2")
+                                                .arg(fileName, files.first().fileName)));
         }
-        opened.descriptionFile = fileName;
-        opened.description = file->description;
+        files.prepend(read);
     }
-    for (const GamutFile &addition : qAsConst(additions)) {
-        opened.description = withFile(opened.description, addition);
+    return files;
+}
+
+OpenedFiles openedWith(const DisplayDescription &open, const QVector<ReadFile> &files)
+{
+    OpenedFiles opened;
+    opened.description = open;
+    for (const ReadFile &file : files) {
+        opened.description = withFile(opened.description, file.file, file.role);
+        opened.fileNames.append(file.fileName);
+        for (const Problem &warning : file.warnings) {
+            opened.warnings.append({file.fileName, warning});
+        }
     }
     return opened;
+}
+
+OpenedFiles openedAlone(const QVector<ReadFile> &files)
+{
+    OpenedFiles opened;
+    for (const ReadFile &file : files) {
+        const OpenedFiles next = openedWith(opened.description, {file});
+        opened.warnings += next.warnings;
+        for (const Problem &remark : remarksOnAdding(opened.description, file)) {
+            opened.warnings.append({file.fileName, remark});
+        }
+        opened.description = next.description;
+        opened.fileNames += next.fileNames;
+        if (file.file.content == Content::Description) {
+            opened.descriptionFile = file.fileName;
+            opened.inDescriptionFile = file.file.description;
+        }
+    }
+    return opened;
+}
+
+Outcome<OpenedFiles> openFiles(const QStringList &fileNames)
+{
+    const Outcome<QVector<ReadFile>> files = readFiles(fileNames);
+    if (!files) {
+        return Outcome<OpenedFiles>::failure(files.problem());
+    }
+    return openedAlone(*files);
 }
 
 } // namespace gamutviewer

@@ -3,31 +3,68 @@
 #define GAMUTVIEWER_OPENEDFILES_H
 
 #include "display/gamutfiles.h"
+#include "editing/gamutroles.h"
 
 #include <QStringList>
 
 namespace gamutviewer {
 
-/*!
- * \brief What \a open becomes with \a file.
- *
- * - A description takes its place.
- * - A declared gamut becomes its declared gamut.
- * - Measurements called red, green, blue and white become its measured gamut, all others its measure points.
- *
- * A gamut whose name is taken by another, be it a published one, gets a number; the one that had the part before
- * stays in the list of gamuts. When \a open is empty (it has no original), the gamut that was added is also the
- * original, "Rec.709" the target, and every published gamut a standard.
+/*! \brief What a user must know of a file that was opened. */
+struct FileWarning {
+    QString fileName; //!< as it was given
+    Problem problem; //!< what, and where in the file
+
+    /*! \brief As one line: the file, the place and the text. */
+    QString message() const { return problem.message(fileName); }
+};
+
+/*! \brief A file that has been read, and the part that its gamut is to play. */
+struct ReadFile {
+    QString fileName; //!< as it was given
+    GamutFile file; //!< what it brings
+    QVector<Problem> warnings; //!< of its reader
+    std::optional<GamutRole> role; //!< of its gamut, if it has one; none: it is only added to the list of gamuts
+};
+
+/*! \brief Reads \a fileNames, each with its usual part; the display description, of which there may be one, is first.
  */
-DisplayDescription withFile(const DisplayDescription &open, const GamutFile &file);
+Outcome<QVector<ReadFile>> readFiles(const QStringList &fileNames);
+
+/*! \brief The gamut that \a file brings; nothing for a description, and for measurements that make none. */
+std::optional<DisplayGamut> gamutOf(const GamutFile &file);
+
+/*! \brief The part of gamutOf() that follows from where it comes from: declared or measured. */
+std::optional<GamutRole> usualRole(const GamutFile &file);
+
+/*!
+ * \brief \a open with \a file added, its gamut in \a role.
+ *
+ * Nothing else is assumed: a declared or measured gamut is neither the original nor the target. A gamut whose name is
+ * taken by another, be it a published one, gets a number; the one that had the part before stays in the list of gamuts.
+ * Measurements other than those of the gamut take the place of the measure points. The gamuts of a description are
+ * added without a part; where \a open is empty, the description takes its place.
+ */
+DisplayDescription withFile(const DisplayDescription &open, const GamutFile &file, std::optional<GamutRole> role);
+
+/*! \brief What a user must know before \a added becomes a part of \a open: that it is of another display, say. */
+QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile &added);
 
 /*! \brief What several files make together. */
 struct OpenedFiles {
-    DisplayDescription description;
+    DisplayDescription description; //!< with everything
     QString descriptionFile; //!< the one that is a display description; empty when none is
+    DisplayDescription inDescriptionFile; //!< what that one has, without the additions
+    QStringList fileNames; //!< all of them
+    QVector<FileWarning> warnings; //!< of their readers, and about what the additions change
 };
 
-/*! \brief Reads \a fileNames and applies each in turn, the description, of which there may be one, first. */
+/*! \brief What \a files, from readFiles(), make when nothing else is open. */
+OpenedFiles openedAlone(const QVector<ReadFile> &files);
+
+/*! \brief What \a open becomes with \a files. The warnings are those of the readers alone. */
+OpenedFiles openedWith(const DisplayDescription &open, const QVector<ReadFile> &files);
+
+/*! \brief Reads \a fileNames and opens them alone. */
 Outcome<OpenedFiles> openFiles(const QStringList &fileNames);
 
 } // namespace gamutviewer

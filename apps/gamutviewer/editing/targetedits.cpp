@@ -73,7 +73,8 @@ QString editedName(const QString &plain, int number)
 
 QString freeEditedName(const DisplayDescription &description)
 {
-    const QString plain = plainName(description.target);
+    const QString plain = plainName(
+        description.target.isEmpty() ? QString::fromStdString(defaultTarget().colorGamutName()) : description.target);
     int number = 1;
     while (contains(description.gamuts, editedName(plain, number))) {
         ++number;
@@ -123,9 +124,19 @@ QRegularExpressionMatch editedMatch(const QString &gamutName)
 
 } // namespace
 
+DisplayGamut defaultTarget()
+{
+    return {Model::rec709(), LuminanceUnit::Relative};
+}
+
+std::optional<DisplayGamut> targetToEdit(const DisplayDescription &description)
+{
+    return description.target.isEmpty() ? defaultTarget() : description.gamut(description.target);
+}
+
 DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets)
 {
-    const auto before = description.gamut(description.target);
+    const auto before = targetToEdit(description);
     return withEditedTarget(std::move(description), targets, before ? before->unit : LuminanceUnit::NotKnown);
 }
 
@@ -141,7 +152,7 @@ DisplayDescription withEditedTarget(DisplayDescription description, const Model:
 DisplayDescription withLuminanceUnit(
     const DisplayDescription &description, LuminanceUnit unit, std::optional<double> brightestWhite)
 {
-    const auto target = description.gamut(description.target);
+    const auto target = targetToEdit(description);
     if (!target || target->unit == unit) {
         return description;
     }

@@ -16,17 +16,25 @@ using ceiechart::targetAt;
 using ceiechart::xyOf;
 constexpr auto allVertices = ceiechart::allGamutVertices;
 
+/*! \brief What editing begins with where a description has no target: Rec.709, relative to a white of 1. */
+DisplayGamut defaultTarget();
+
+/*!
+ * \brief The target of \a description, or, where it names none, defaultTarget(); nothing when there is no gamut of the
+ * name.
+ */
+std::optional<DisplayGamut> targetToEdit(const DisplayDescription &description);
+
 /*!
  * \brief \a description with the target changed by hand to \a targets.
  *
  * A gamut that has a name of its own is left as it is: the target becomes a gamut of the description that is called
- * after it, "Rec.709 (edited)", and later edits change that one. Where that name is taken, or where the edited gamut
- * plays another part too, it is "Rec.709 (edited 2)".
+ * after it, "Rec.709 (edited)", and later edits change that one. Without a target, the default one is changed. Where
+ * that name is taken, or where the edited gamut plays another part too, it is "Rec.709 (edited 2)".
  */
 DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets);
 /*! \brief The same, with luminances in \a unit. */
-DisplayDescription withEditedTarget(
-    DisplayDescription description, const Model::Targets &targets, LuminanceUnit unit);
+DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets, LuminanceUnit unit);
 
 /*!
  * \brief \a description with the luminances of the target in \a unit.

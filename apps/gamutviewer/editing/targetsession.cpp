@@ -111,9 +111,8 @@ double TargetSession::distanceOutside(Vertex primary) const
 {
     const auto target = m_document->target();
     const auto display = knownDisplay(m_document->description());
-    return target && display
-        ? gamutviewer::distanceOutside(target->getTargets(), primary, display->gamut.getTargets())
-        : 0.0;
+    return target && display ? gamutviewer::distanceOutside(target->getTargets(), primary, display->gamut.getTargets())
+                             : 0.0;
 }
 
 bool TargetSession::setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey)
@@ -154,11 +153,15 @@ void TargetSession::setLuminanceUnit(LuminanceUnit unit)
         return;
     }
     const auto display = knownDisplay(m_document->description());
-    const auto largest = largestWhite(m_document->description());
-    const bool isInCandelas = display && display->gamut.unit == LuminanceUnit::CandelaPerSquareMetre;
-    m_document->change(withLuminanceUnit(m_document->description(), unit,
-                           largest && isInCandelas ? std::make_optional(largest->luminance) : std::nullopt),
-        tr("change unit of luminances"));
+    std::optional<double> brightest;
+    if (display && display->gamut.unit == LuminanceUnit::CandelaPerSquareMetre) {
+        const Model::Target &white = target->getTargets().white;
+        if (const auto largest
+            = Model::DisplayDrive(display->gamut.getTargets()).largestLuminance({white.x, white.y})) {
+            brightest = largest->luminance;
+        }
+    }
+    m_document->change(withLuminanceUnit(m_document->description(), unit, brightest), tr("change unit of luminances"));
 }
 
 void TargetSession::reset(const QString &gamutName)
@@ -187,8 +190,8 @@ void TargetSession::fitToDisplay()
         const QPointF to = nearest ? QPointF(nearest->xy.x, nearest->xy.y)
                                    : ceiechart::nearestInside(limit, from, Model::Diagram::Cie1976);
         const auto original = m_document->original();
-        fitted = holdWhite() ? ceiechart::withPrimaryHoldingWhite(*fitted, primary, to,
-                     original ? std::make_optional(original->getTargets()) : std::nullopt)
+        fitted = holdWhite() ? ceiechart::withPrimaryHoldingWhite(
+                     *fitted, primary, to, original ? std::make_optional(original->getTargets()) : std::nullopt)
                              : ceiechart::withPrimary(*fitted, primary, to);
     }
     if (!apply(fitted, unitAfterMoving(Vertex::Red), tr("fit to the display"), 0)) {

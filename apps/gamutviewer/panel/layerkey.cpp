@@ -279,10 +279,9 @@ void LayerKey::build()
     m_click.reset();
     addSection(tr("Gamuts"));
     for (const GamutRole role : {GamutRole::Target, GamutRole::Original, GamutRole::Measured, GamutRole::Declared}) {
-        for (const GamutPart &part : gamutParts(description)) {
+        for (const GamutPart &part : gamutPartsToEdit(description)) {
             if (part.role == role) {
-                const QString name = oneLine(shownGamutName(QString::fromStdString(part.gamut.colorGamutName())));
-                QListWidgetItem *entry = addEntry(name, part.roleName(), role, ceiechart::layerOf(role));
+                QListWidgetItem *entry = addEntry(part.name(), part.roleName(), role, ceiechart::layerOf(role));
                 if (role == GamutRole::Target) {
                     const QString edited = withEditedTarget(description, part.gamut.getTargets()).target;
                     entry->setData(WidestNameRole, oneLine(shownGamutName(edited)));
@@ -333,7 +332,7 @@ void LayerKey::refresh()
 {
     const DisplayDescription &description = m_document->description();
     QStringList made;
-    for (const GamutPart &part : gamutParts(description)) {
+    for (const GamutPart &part : gamutPartsToEdit(description)) {
         made.append(part.title());
     }
     for (const Model::ColorGamut &standard : description.allStandards()) {

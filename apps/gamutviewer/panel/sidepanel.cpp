@@ -5,6 +5,7 @@
 #include "display/valuetexts.h"
 #include "editing/document.h"
 #include "editing/gamutparts.h"
+#include "editing/gamutroles.h"
 #include "editing/targetsession.h"
 #include "panel/groupedtable.h"
 #include "panel/targeteditor.h"
@@ -42,6 +43,15 @@ QStringList hueCells(Vertex vertex, const Model::Targets &targets)
     const auto hue = Model::dominantWavelength({t.x, t.y}, {targets.white.x, targets.white.y});
     return {ceiechart::gamutVertexName(vertex), hue ? wavelengthText(*hue) : undefinedText(),
         hue ? purityText(*hue) : undefinedText()};
+}
+
+void appendNotKnown(QVector<GroupedTable::Group> &groups, const DisplayDescription &description)
+{
+    for (const GamutRole role : {GamutRole::Target, GamutRole::Original}) {
+        if (!description.gamut(gamutInRole(description, role))) {
+            groups.append({notKnownTitle(role), {}});
+        }
+    }
 }
 
 } // namespace
@@ -94,14 +104,15 @@ void SidePanel::refreshValues()
 {
     QVector<GroupedTable::Group> groups;
     for (const GamutPart &part : gamutParts(m_document->description())) {
-        GroupedTable::Group group{
-            tr("%1 – Y: %2", "gamut and the unit of its luminances").arg(part.title(), luminanceUnitText(part.gamut.unit)),
+        GroupedTable::Group group{tr("%1 – Y: %2", "gamut and the unit of its luminances")
+                                      .arg(part.title(), luminanceUnitText(part.gamut.unit)),
             {}};
         for (const Vertex vertex : allVertices) {
             group.rows.append(valueCells(vertex, targetAt(part.gamut.getTargets(), vertex)));
         }
         groups.prepend(group);
     }
+    appendNotKnown(groups, m_document->description());
     m_values->setGroups(groups);
 }
 
@@ -116,6 +127,7 @@ void SidePanel::refreshCoverage()
         }
         groups.prepend(group);
     }
+    appendNotKnown(groups, m_document->description());
     m_coverage->setGroups(groups);
 }
 

@@ -4,6 +4,7 @@
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
 #include "editing/document.h"
+#include "editing/gamutparts.h"
 #include "editing/targetsession.h"
 #include "panel/coordinatepair.h"
 
@@ -214,7 +215,9 @@ bool TargetEditor::showsUv() const
 void TargetEditor::refresh()
 {
     const auto target = m_session->document()->target();
-    m_name->setText(target ? shownGamutName(m_session->document()->description().target) : tr("No target"));
+    const GamutPart shownTarget{
+        ceiechart::GamutRole::Target, target.value_or(Model::ColorGamut()), m_session->document()->targetIsDefault()};
+    m_name->setText(target ? shownTarget.name() : tr("No target"));
     m_name->setToolTip(m_name->text());
     m_firstHeader->setText(showsUv() ? tr("u′") : tr("x"));
     m_secondHeader->setText(showsUv() ? tr("v′") : tr("y"));

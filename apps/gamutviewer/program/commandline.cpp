@@ -111,9 +111,8 @@ CommandLine::CommandLine(const QStringList &arguments)
     m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, tolerances, help, version});
 
     const bool understood = m_parser.parse(arguments);
-    m_needsDisplay
-        = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(check) && !m_parser.isSet(help)
-        && !m_parser.isSet(version);
+    m_needsDisplay = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(check)
+        && !m_parser.isSet(help) && !m_parser.isSet(version);
     if (m_parser.isSet(help)) {
         m_action = Action::Help;
         return;
@@ -312,18 +311,17 @@ void CommandLine::readReport(const QString &format)
     }
 }
 
-Picture CommandLine::picture(
-    const DisplayDescription &description, const std::optional<Tolerances> &tolerances) const
+Picture CommandLine::picture(const DisplayDescription &description, const std::optional<Tolerances> &tolerances) const
 {
     Picture picture;
     picture.content = documentContent(description);
-    picture.content.rings = targetRings(description, tolerances);
     picture.content.layers = m_layers;
     picture.hasKey = m_hasKey;
     picture.isLibraryChart = m_isLibraryChart;
     picture.view = ceiechart::DiagramViewport(m_diagram, m_extent.size);
     if (const ceiechart::DiagramGamut *target = picture.content.find(ceiechart::GamutRole::Target)) {
         const Model::Targets &targets = target->gamut.getTargets();
+        picture.content.rings = targetRings(targets, tolerances);
         if (m_part == Part::Target) {
             picture.view = picture.view.fittedTo(targets);
         } else if (m_part == Part::White) {

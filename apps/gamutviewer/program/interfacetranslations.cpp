@@ -2,6 +2,7 @@
 #include "program/interfacetranslations.h"
 
 #include <ceiechart/widgets/translations.h>
+#include <gamutfiles/translations.h>
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
@@ -41,15 +42,18 @@ bool install(QPointer<QTranslator> &installed, const QString &name, const QStrin
 void installInterfaceTranslations(const QLocale &locale)
 {
     static QPointer<QTranslator> interface;
+    static QPointer<QTranslator> messages;
     static QPointer<QTranslator> toolkit;
 
     ceiechart::installTranslations(locale);
     delete interface;
+    delete messages;
     delete toolkit;
     const QLocale chinese = language(locale);
     if (chinese.language() == QLocale::Chinese) {
         initTranslationResource();
         install(interface, QStringLiteral("gamutviewer_zh"), QStringLiteral(":/gamutviewer/translations"));
+        install(messages, gamutfiles::translationFile(locale), QString());
         // The toolkit's own, where the system has it.
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
         const QString toolkitTranslations = QLibraryInfo::path(QLibraryInfo::TranslationsPath);

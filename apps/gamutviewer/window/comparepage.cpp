@@ -6,6 +6,7 @@
 #include "drawing/layerswitches.h"
 #include "editing/document.h"
 #include "editing/gamutparts.h"
+#include "editing/gamutroles.h"
 #include "editing/targetsession.h"
 #include "panel/copytable.h"
 
@@ -21,6 +22,15 @@ namespace gamutviewer {
 namespace {
 
 enum Row { RedRow, GreenRow, BlueRow, WhiteRow, TemperatureRow, DuvRow, LuminanceRow, AreaXyRow, AreaUvRow, RowCount };
+
+QString namesOf(const QVector<GamutRole> &roles)
+{
+    QStringList names;
+    for (const GamutRole role : roles) {
+        names.append(ceiechart::gamutRoleName(role));
+    }
+    return names.join(QStringLiteral(", "));
+}
 
 QString pairText(const QPointF &point)
 {
@@ -64,6 +74,7 @@ ComparePage::ComparePage(TargetSession *session, QWidget *parent)
     state.layers &= ~(DiagramLayer::Isotherms | DiagramLayer::Wavelengths | DiagramLayer::Rings | DiagramLayer::Trail
         | DiagramLayer::Standards);
     m_switches->setState(state);
+    m_switches->setShowsDefaultTarget(false);
     auto *diagrams = new QHBoxLayout;
     m_xy = new DocumentView(session, m_switches, this);
     m_xy->setAccessibleName(tr("CIE 1931 x, y diagram"));
@@ -94,7 +105,14 @@ void ComparePage::setCell(int row, int column, const QString &text)
 void ComparePage::refresh()
 {
     const QVector<GamutPart> parts = gamutParts(document()->description());
-    m_table->setColumnCount(parts.size());
+    const DisplayDescription &description = document()->description();
+    QVector<GamutRole> missing;
+    for (const GamutRole role : {GamutRole::Original, GamutRole::Target}) {
+        if (!description.gamut(gamutInRole(description, role))) {
+            missing.append(role);
+        }
+    }
+    m_table->setColumnCount(parts.size() + missing.size());
     for (int column = 0; column < parts.size(); ++column) {
         const GamutPart &part = parts.at(column);
         auto *header = new QTableWidgetItem(part.title());
@@ -111,14 +129,23 @@ void ComparePage::refresh()
         setCell(AreaXyRow, column, QString::number(Model::gamutArea(t, Model::Diagram::Cie1931), 'f', 5));
         setCell(AreaUvRow, column, QString::number(Model::gamutArea(t, Model::Diagram::Cie1976), 'f', 5));
     }
+    for (int i = 0; i < missing.size(); ++i) {
+        const int column = parts.size() + i;
+        m_table->setHorizontalHeaderItem(column, new QTableWidgetItem(notKnownTitle(missing.at(i))));
+        for (int row = 0; row < RowCount; ++row) {
+            setCell(row, column, undefinedText());
+        }
+    }
 
     m_table->setFixedHeight(m_table->horizontalHeader()->sizeHint().height() + m_table->verticalHeader()->length()
         + 2 * m_table->frameWidth());
 
     const auto original = document()->original();
-    const auto target = document()->target();
-    m_loss->setVisible(original && target);
-    if (original && target) {
+    const auto target = description.gamut(description.target);
+    if (!original || !target) {
+        m_loss->setText(tr("What the target leaves unused of the original is not known. Missing: %1", "names of roles")
+                            .arg(namesOf(missing)));
+    } else {
         m_loss->setText(
             tr("The target leaves %1 of the original's area in x, y and %2 in u′, v′ unused (hatched).")
                 .arg(percent(lostShare(original->getTargets(), target->getTargets(), Model::Diagram::Cie1931)),

@@ -132,7 +132,7 @@ void LibraryPage::refresh()
     const DisplayDescription &description = document()->description();
     const auto original = document()->original();
     const auto measured = document()->measured();
-    const auto target = document()->target();
+    const auto target = description.gamut(description.target); // not the default one, which they cannot tell apart
     const Model::ColorGamut none;
     QList<Model::ColorGamut> standards;
     for (const QString &name : description.standards) {
@@ -149,7 +149,7 @@ void LibraryPage::refresh()
     } else {
         m_current->setColorGamut(target.value_or(none), original.value_or(none), standards);
     }
-    m_legacy->setColorGamut(info(document()->target()), info(document()->original()));
+    m_legacy->setColorGamut(info(target), info(original));
 }
 
 } // namespace gamutviewer

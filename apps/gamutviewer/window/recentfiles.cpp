@@ -3,6 +3,7 @@
 
 #include "window/settings.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace gamutviewer {
@@ -10,6 +11,7 @@ namespace gamutviewer {
 namespace {
 
 const QString key = QStringLiteral("recentFiles");
+const QString folderKey = QStringLiteral("folder");
 
 QString absolute(const QString &fileName)
 {
@@ -25,6 +27,10 @@ QStringList RecentFiles::list()
 
 void RecentFiles::add(const QString &fileName)
 {
+    if (QFileInfo::exists(fileName) && !QFileInfo(fileName).isFile()) {
+        return;
+    }
+    setFolderOf(fileName);
     QStringList files = list();
     files.removeAll(absolute(fileName));
     files.prepend(absolute(fileName));
@@ -41,6 +47,17 @@ void RecentFiles::remove(const QString &fileName)
 void RecentFiles::clear()
 {
     Settings().remove(key);
+}
+
+QString RecentFiles::folder()
+{
+    const QString folder = Settings().value(folderKey).toString();
+    return QFileInfo(folder).isDir() ? folder : QDir::currentPath();
+}
+
+void RecentFiles::setFolderOf(const QString &fileName)
+{
+    Settings().setValue(folderKey, QFileInfo(fileName).absolutePath());
 }
 
 } // namespace gamutviewer

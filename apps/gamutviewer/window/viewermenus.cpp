@@ -5,6 +5,7 @@
 #include "panel/targeteditor.h"
 #include "window/diagrampage.h"
 #include "window/exportdialog.h"
+#include "window/gamutsdialog.h"
 #include "window/recentfiles.h"
 #include "window/tolerancesmenu.h"
 #include "window/viewerwindow.h"
@@ -48,7 +49,9 @@ void ViewerWindow::buildMenus()
 void ViewerWindow::buildFileMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&File"));
-    addItem(menu, tr("&Open…"), QKeySequence::Open, this, &ViewerWindow::open);
+    addItem(menu, tr("&New"), QKeySequence::New, this, &ViewerWindow::newDocument);
+    addItem(menu, tr("&Open…"), QKeySequence::Open, this, [this] { openByDialog(Manner::Open); });
+    addItem(menu, tr("A&dd…"), Qt::CTRL | Qt::SHIFT | Qt::Key_O, this, [this] { openByDialog(Manner::Add); });
     m_recentMenu = menu->addMenu(tr("Open &recent"));
     connect(m_recentMenu, &QMenu::aboutToShow, this, &ViewerWindow::fillRecentMenu);
     menu->addSeparator();
@@ -57,8 +60,10 @@ void ViewerWindow::buildFileMenu()
     menu->addSeparator();
     addItem(menu, tr("&Export picture…"), Qt::CTRL | Qt::Key_E, this, &ViewerWindow::exportByDialog);
     menu->addSeparator();
-    QAction *close = menu->addAction(tr("&Quit"), this, &QWidget::close);
-    close->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Q), QKeySequence(Qt::CTRL | Qt::Key_W)});
+    QAction *close = menu->addAction(tr("&Close"), this, &ViewerWindow::closeDocument);
+    close->setShortcuts(QKeySequence::Close);
+    QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 }
 
 void ViewerWindow::buildEditMenu()
@@ -69,17 +74,17 @@ void ViewerWindow::buildEditMenu()
             step.isEmpty() ? verb : tr("%1 (%2)", "verb and step of the history").arg(verb, menuText(step)));
     };
     QUndoStack *history = m_document.history();
-    QAction *undoAction = addItem(menu, tr("&Undo"), QKeySequence::Undo, this, &ViewerWindow::undo);
-    undoAction->setEnabled(false);
-    connect(history, &QUndoStack::canUndoChanged, undoAction, &QAction::setEnabled);
-    connect(history, &QUndoStack::undoTextChanged, undoAction,
-        [=](const QString &step) { nameAfter(undoAction, tr("&Undo"), step); });
-    QAction *redoAction = menu->addAction(tr("&Redo"), this, &ViewerWindow::redo);
-    redoAction->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
-    redoAction->setEnabled(false);
-    connect(history, &QUndoStack::canRedoChanged, redoAction, &QAction::setEnabled);
-    connect(history, &QUndoStack::redoTextChanged, redoAction,
-        [=](const QString &step) { nameAfter(redoAction, tr("&Redo"), step); });
+    m_undo = addItem(menu, tr("&Undo"), QKeySequence::Undo, this, &ViewerWindow::undo);
+    m_undo->setEnabled(false);
+    connect(history, &QUndoStack::canUndoChanged, m_undo, &QAction::setEnabled);
+    connect(history, &QUndoStack::undoTextChanged, m_undo,
+        [this, nameAfter](const QString &step) { nameAfter(m_undo, tr("&Undo"), step); });
+    m_redo = menu->addAction(tr("&Redo"), this, &ViewerWindow::redo);
+    m_redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    m_redo->setEnabled(false);
+    connect(history, &QUndoStack::canRedoChanged, m_redo, &QAction::setEnabled);
+    connect(history, &QUndoStack::redoTextChanged, m_redo,
+        [this, nameAfter](const QString &step) { nameAfter(m_redo, tr("&Redo"), step); });
     menu->addSeparator();
     const auto addRule
         = [&](const QString &text, void (TargetSession::*set)(bool), bool (TargetSession::*get)() const) {
@@ -93,6 +98,8 @@ void ViewerWindow::buildEditMenu()
     addRule(tr("Hold &white"), &TargetSession::setHoldWhite, &TargetSession::holdWhite);
     addRule(tr("&Lock primaries"), &TargetSession::setLockPrimaries, &TargetSession::lockPrimaries);
     addRule(tr("&Snap"), &TargetSession::setSnaps, &TargetSession::snaps);
+    menu->addSeparator();
+    addItem(menu, tr("&Gamuts…"), Qt::CTRL | Qt::Key_G, this, &ViewerWindow::showGamuts);
     menu->addSeparator();
     addItem(menu, tr("&Copy picture"), Qt::CTRL | Qt::SHIFT | Qt::Key_C, this, &ViewerWindow::copyPicture);
 }
@@ -121,31 +128,6 @@ void ViewerWindow::buildHelpMenu()
     menu->addAction(tr("&About"), this, &ViewerWindow::about);
 }
 
-void ViewerWindow::open()
-{
-    const QString fileName = QFileDialog::getOpenFileName(this, tr("Open"), QFileInfo(m_document.fileName()).path(),
-        tr("Displays and gamuts (%1)").arg(gamutFilePatterns().join(QLatin1Char(' '))) + QStringLiteral(";;")
-            + tr("All files (*)"));
-    if (!fileName.isEmpty()) {
-        openPath(fileName);
-    }
-}
-
-bool ViewerWindow::save()
-{
-    return m_document.fileName().isEmpty() ? saveAs() : saveTo(m_document.fileName());
-}
-
-bool ViewerWindow::saveAs()
-{
-    QFileDialog dialog(
-        this, tr("Save as"), QFileInfo(m_document.fileName()).path(), tr("Display descriptions (*.json)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("json"));
-    dialog.selectFile(QFileInfo(m_document.fileName()).fileName());
-    return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().constFirst());
-}
-
 void ViewerWindow::exportByDialog()
 {
     m_panel->editor()->takeTyped();
@@ -154,9 +136,11 @@ void ViewerWindow::exportByDialog()
         return;
     }
     const QString suffix = pictureSuffix(picture.format());
-    QFileDialog dialog(this, tr("Export picture"), QString(), tr("Pictures (*.%1)").arg(suffix));
+    const QFileInfo proposed(proposedPath(suffix));
+    QFileDialog dialog(this, tr("Export picture"), proposed.path(), tr("Pictures (*.%1)").arg(suffix));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
+    dialog.selectFile(proposed.fileName());
     if (dialog.exec() == QDialog::Accepted) {
         exportTo(dialog.selectedFiles().constFirst(), picture.picture(), picture.extent());
     }
@@ -178,6 +162,20 @@ void ViewerWindow::fillRecentMenu()
     }
     m_recentMenu->addSeparator();
     m_recentMenu->addAction(tr("&Clear"), [] { RecentFiles::clear(); });
+}
+
+GamutsDialog *ViewerWindow::showGamuts()
+{
+    m_panel->editor()->takeTyped();
+    if (!m_gamuts) {
+        m_gamuts = new GamutsDialog(&m_document, this);
+        m_gamuts->setAttribute(Qt::WA_DeleteOnClose);
+        m_gamuts->addActions({m_undo, m_redo});
+    }
+    m_gamuts->show();
+    m_gamuts->raise();
+    m_gamuts->activateWindow();
+    return m_gamuts;
 }
 
 void ViewerWindow::undo()

@@ -2,16 +2,14 @@
 #include "window/viewerwindow.h"
 
 #include "display/chromaticity.h"
-#include "display/samples.h"
 #include "display/valuetexts.h"
-#include "editing/openedfiles.h"
 #include "editing/targetsession.h"
 #include "panel/sidepanel.h"
 #include "panel/targeteditor.h"
+#include "panel/warningbar.h"
 #include "window/comparepage.h"
 #include "window/diagrampage.h"
 #include "window/librarypage.h"
-#include "window/recentfiles.h"
 #include "window/settings.h"
 
 #include <ceiechart/diagram/targetrules.h>
@@ -19,13 +17,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QVBoxLayout>
 
 namespace gamutviewer {
 
@@ -34,12 +31,6 @@ namespace {
 constexpr QSize firstSize(1024, 768);
 constexpr int messageMilliseconds = 6000;
 
-QString localFile(const QMimeData *data)
-{
-    const QList<QUrl> urls = data->urls();
-    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
-}
-
 } // namespace
 
 ViewerWindow::ViewerWindow(QWidget *parent)
@@ -47,12 +38,14 @@ ViewerWindow::ViewerWindow(QWidget *parent)
     , m_session(new TargetSession(&m_document, this))
 {
     setAcceptDrops(true);
+    qApp->installEventFilter(this);
     buildPages();
     buildMenus();
     buildStatusBar();
 
     connect(&m_document, &Document::modifiedChanged, this, &QWidget::setWindowModified);
     connect(&m_document, &Document::fileNameChanged, this, &ViewerWindow::refreshTitle);
+    connect(&m_document, &Document::changed, this, &ViewerWindow::refreshTitle);
     connect(m_session, &TargetSession::refused, this,
         [this](const QString &reason) { statusBar()->showMessage(reason, messageMilliseconds); });
     connect(&m_document, &Document::changed, this, [this] { statusBar()->clearMessage(); });
@@ -86,7 +79,14 @@ void ViewerWindow::buildPages()
     m_splitter->setStretchFactor(0, 1);
     m_splitter->setStretchFactor(1, 0);
     connect(m_splitter, &QSplitter::splitterMoved, this, [this] { m_panelWidthIsChosen = true; });
-    setCentralWidget(m_splitter);
+    auto *all = new QWidget(this);
+    auto *layout = new QVBoxLayout(all);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_warnings = new WarningBar(all);
+    layout->addWidget(m_warnings);
+    layout->addWidget(m_splitter, 1);
+    setCentralWidget(all);
 }
 
 void ViewerWindow::addPage(Page *page)
@@ -122,14 +122,6 @@ void ViewerWindow::followPage()
     setReadout(QString());
 }
 
-void ViewerWindow::setDescription(const DisplayDescription &description, const QString &fileName)
-{
-    m_shownFile = fileName;
-    const bool isSample = !fileName.isEmpty() && QFileInfo(fileName) == QFileInfo(sampleFile());
-    m_document.open(description, isSample ? QString() : fileName);
-    fitPanel();
-}
-
 void ViewerWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
@@ -142,65 +134,6 @@ void ViewerWindow::fitPanel()
         const int width = m_panel->sizeHint().width();
         m_splitter->setSizes({m_splitter->width() - width, width});
     }
-}
-
-bool ViewerWindow::openPath(const QString &fileName)
-{
-    const Outcome<GamutFile> opened = readGamutFile(fileName);
-    if (!opened) {
-        RecentFiles::remove(fileName);
-        warn(opened.problem().message(fileName));
-        return false;
-    }
-    if (opened->content == GamutFile::Content::Description) {
-        if (!mayLoseChanges()) {
-            return false;
-        }
-        setDescription(opened->description, fileName);
-    } else {
-        const DisplayDescription &open = m_document.description();
-        m_document.change(withFile(open, *opened), tr("add %1").arg(oneLine(QFileInfo(fileName).fileName())));
-        refreshTitle();
-    }
-    RecentFiles::add(fileName);
-    return true;
-}
-
-bool ViewerWindow::saveTo(const QString &fileName)
-{
-    m_panel->editor()->takeTyped();
-    const QString error = writeDescription(m_document.description(), fileName);
-    if (!error.isEmpty()) {
-        warn(tr("%1: cannot be written: %2").arg(fileName, error));
-        return false;
-    }
-    m_shownFile = fileName;
-    m_document.markSaved(fileName);
-    RecentFiles::add(fileName);
-    statusBar()->showMessage(tr("Saved as %1").arg(oneLine(fileName)), messageMilliseconds);
-    return true;
-}
-
-bool ViewerWindow::exportTo(const QString &fileName, const Picture &picture, const PictureExtent &extent)
-{
-    const auto format = pictureFormat(fileName);
-    if (!format) {
-        warn(tr("%1: the name must end in .png, .svg or .pdf").arg(fileName));
-        return false;
-    }
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString error = exportPicture(picture, m_document.description().name, extent, *format, fileName);
-    QApplication::restoreOverrideCursor();
-    if (!error.isEmpty()) {
-        warn(tr("%1: cannot be written: %2").arg(fileName, error));
-        return false;
-    }
-    statusBar()->showMessage(
-        (lacksRoomForKey(picture, extent.size) ? tr("Exported to %1, without a key for lack of room")
-                                               : tr("Exported to %1"))
-            .arg(oneLine(fileName)),
-        messageMilliseconds);
-    return true;
 }
 
 void ViewerWindow::copyPicture()
@@ -218,27 +151,6 @@ void ViewerWindow::copyPicture()
         QApplication::clipboard()->setImage(picture);
         statusBar()->showMessage(tr("The picture has been copied to the clipboard."), messageMilliseconds);
     }
-}
-
-bool ViewerWindow::mayLoseChanges()
-{
-    m_panel->editor()->takeTyped();
-    if (!m_document.isModified()) {
-        return true;
-    }
-    const auto answer = QMessageBox::warning(this, tr("Unsaved changes"),
-        tr("The display description has been modified. Save the changes?"),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
-    return answer == QMessageBox::Save ? save() : answer == QMessageBox::Discard;
-}
-
-void ViewerWindow::refreshTitle()
-{
-    const QString name = m_document.description().name;
-    const QString file = QFileInfo(m_document.fileName().isEmpty() ? m_shownFile : m_document.fileName()).fileName();
-    const QString shown = !name.isEmpty() ? name : !file.isEmpty() ? file : tr("Untitled");
-    setWindowTitle(tr("%1[*] – Gamut viewer").arg(oneLine(shown)));
-    setWindowFilePath(m_document.fileName());
 }
 
 void ViewerWindow::showReadout(const QPointF &xy)
@@ -286,25 +198,6 @@ void ViewerWindow::closeEvent(QCloseEvent *event)
     }
     saveSettings();
     event->accept();
-}
-
-void ViewerWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (!localFile(event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
-    }
-}
-
-void ViewerWindow::dropEvent(QDropEvent *event)
-{
-    const QString fileName = localFile(event->mimeData());
-    if (fileName.isEmpty()) {
-        return;
-    }
-    event->acceptProposedAction();
-    // The program that the file comes from waits for the drop to end, and a message may be shown.
-    QMetaObject::invokeMethod(
-        this, [this, fileName] { openPath(fileName); }, Qt::QueuedConnection);
 }
 
 void ViewerWindow::restoreSettings()

@@ -4,9 +4,12 @@
 
 #include "drawing/picture.h"
 #include "editing/document.h"
+#include "editing/openedfiles.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
+class QAction;
 class QLabel;
 class QMenu;
 class QSplitter;
@@ -16,11 +19,13 @@ namespace gamutviewer {
 
 class ComparePage;
 class DiagramPage;
+class GamutsDialog;
 class LibraryPage;
 class Page;
 class SidePanel;
 class TargetSession;
 class TolerancesMenu;
+class WarningBar;
 
 /*! \brief The program's window: pages and a panel over one document. */
 class ViewerWindow : public QMainWindow {
@@ -30,16 +35,35 @@ public:
     explicit ViewerWindow(QWidget *parent = nullptr);
     ~ViewerWindow() override;
 
+    /*! \brief How files are opened. */
+    enum class Manner {
+        Open, //!< instead of nothing and of the untouched sample; otherwise the user is asked
+        Add //!< to what is open; the user chooses the parts
+    };
+
     /*!
      * \brief Shows \a description. Saving writes to \a fileName unless it is empty or the sample.
      */
     void setDescription(const DisplayDescription &description, const QString &fileName);
+    /*!
+     * \brief Shows what was opened, with its warnings; its files are the most recent ones.
+     *
+     * What was added to a display description is a step of the history, for the file does not have it.
+     */
+    void setOpened(const OpenedFiles &opened);
 
     /*!
-     * \brief Opens a file of any format that the program reads; false, with a message, when that fails, and then what
-     * was open stays. Asks first when changes would be lost.
+     * \brief Opens files of any format that the program reads; false, with a message, when that fails, and then what
+     * was open stays.
+     *
+     * Asks what becomes of them, and before changes would be lost.
      */
-    bool openPath(const QString &fileName);
+    bool openPaths(const QStringList &fileNames, Manner manner = Manner::Open);
+    bool openPath(const QString &fileName) { return openPaths({fileName}); }
+    /*! \brief An empty description instead of what is open; false when the user would lose changes by it. */
+    bool closeDocument();
+    /*! \brief Shows the list of gamuts, which stays open beside the window. */
+    GamutsDialog *showGamuts();
     /*! \brief Writes the description; false, with a message, when that fails. */
     bool saveTo(const QString &fileName);
     /*! \brief Writes \a picture in the format of \a fileName's suffix; false, with a message, when that fails. */
@@ -58,12 +82,15 @@ public:
     SidePanel *panel() const { return m_panel; }
     TolerancesMenu *tolerancesMenu() const { return m_tolerancesMenu; }
     QLabel *readout() const { return m_readout; }
+    WarningBar *warnings() const { return m_warnings; }
+    /*! \brief What the open display is called in questions: its name, or else that of its file. */
+    QString shownName() const;
 
 protected:
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
+    /*! \brief Takes files that are dropped anywhere on the window, also on what would take them for a text. */
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void buildPages();
@@ -75,7 +102,15 @@ private:
     void buildStatusBar();
     void addPage(Page *page);
 
-    void open();
+    void newDocument();
+    void openByDialog(Manner manner);
+    bool openAlone(const QVector<ReadFile> &files);
+    bool openByQuestion(const QVector<ReadFile> &files, Manner manner);
+    static QString stepName(const QStringList &added);
+    void addFiles(const QVector<ReadFile> &files);
+    /*! \brief Whether there is nothing that a file must not take the place of. */
+    bool givesWay() const;
+    QString proposedPath(const QString &suffix) const;
     bool save();
     bool saveAs();
     void exportByDialog();
@@ -99,6 +134,7 @@ private:
 
     Document m_document;
     QString m_shownFile; // what was opened, for the title
+    bool m_isSample = false;
     TargetSession *m_session;
     bool m_panelWidthIsChosen = false;
     QSplitter *m_splitter;
@@ -109,8 +145,12 @@ private:
     SidePanel *m_panel;
     QLabel *m_readout;
     QLabel *m_hints;
+    WarningBar *m_warnings;
     QMenu *m_recentMenu;
     TolerancesMenu *m_tolerancesMenu;
+    QAction *m_undo;
+    QAction *m_redo;
+    QPointer<GamutsDialog> m_gamuts;
 };
 
 } // namespace gamutviewer

@@ -1,22 +1,20 @@
 # SPDX-License-Identifier: MIT
-# Fails when updating a copy of a .ts file from the sources changes it, or when a translation is unfinished.
-file(GLOB ts_files ${PROJECT_ROOT}/ceiechart/translations/*.ts)
-if(NOT ts_files)
+# Fails when updating a copy of one of TS_FILES from SOURCES by LUPDATE changes it, or when a translation is unfinished.
+if(NOT TS_FILES)
     message(FATAL_ERROR "no translations")
 endif()
-foreach(ts IN LISTS ts_files)
+foreach(ts IN LISTS TS_FILES)
     get_filename_component(name ${ts} NAME)
     set(copy ${SCRATCH}/${name})
     file(COPY ${ts} DESTINATION ${SCRATCH})
-    execute_process(COMMAND ${LUPDATE} -silent -locations none -I ${PROJECT_ROOT} ${PROJECT_ROOT}/ceiechart -ts ${copy}
-        RESULT_VARIABLE result ERROR_QUIET)
+    execute_process(COMMAND ${LUPDATE} ${SOURCES} -ts ${copy} RESULT_VARIABLE result ERROR_QUIET)
     if(NOT result EQUAL 0)
         message(FATAL_ERROR "lupdate failed: ${result}")
     endif()
     file(READ ${ts} before)
     file(READ ${copy} after)
     if(NOT before STREQUAL after)
-        message(FATAL_ERROR "${name} is out of date: build the target ceiechart_lupdate and translate what is new")
+        message(FATAL_ERROR "${name} is out of date: build the target ${TARGET} and translate what is new")
     endif()
     if(after MATCHES "unfinished|vanished|obsolete")
         message(FATAL_ERROR "${name} is not finished")

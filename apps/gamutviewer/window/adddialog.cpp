@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "window/adddialog.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr int noRole = -1;
+constexpr int textWidth = 420; // pixels
+constexpr int mostHeight = 420; // of the list of files
+
+QString shortName(const QString &fileName)
+{
+    return oneLine(QFileInfo(fileName).fileName());
+}
+
+QLabel *plainLabel(const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+AddDialog::AddDialog(const DisplayDescription &open, const QString &openName, const QVector<ReadFile> &files,
+    bool mayOpenAlone, QWidget *parent)
+    : QDialog(parent)
+    , m_open(open)
+    , m_files(files)
+{
+    setWindowTitle(tr("Add files"));
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(
+        plainLabel(mayOpenAlone ? tr("\"%1\" is open. Add the files to it, or open them alone?").arg(openName)
+                                : tr("Add the files to \"%1\"?").arg(openName),
+            this));
+    auto *list = new QWidget;
+    auto *rows = new QVBoxLayout(list);
+    rows->setContentsMargins(0, 0, 0, 0);
+    for (int index = 0; index < files.size(); ++index) {
+        rows->addWidget(makeRow(index));
+    }
+    rows->addStretch();
+    auto *area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(list);
+    layout->addWidget(area, 1);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    m_add = buttons->addButton(tr("&Add"), QDialogButtonBox::AcceptRole);
+    m_add->setDefault(true);
+    connect(m_add, &QPushButton::clicked, this, &QDialog::accept);
+    if (mayOpenAlone) {
+        m_alone = buttons->addButton(tr("&Open alone"), QDialogButtonBox::ActionRole);
+        connect(m_alone, &QPushButton::clicked, this, [this] {
+            m_opensAlone = true;
+            accept();
+        });
+    }
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout->addWidget(buttons);
+    refresh();
+    list->setMinimumWidth(textWidth);
+    list->adjustSize();
+    const int wanted
+        = list->layout()->hasHeightForWidth() ? list->layout()->heightForWidth(textWidth) : list->sizeHint().height();
+    area->setMinimumSize(textWidth, std::min(wanted, mostHeight));
+    m_add->setFocus();
+}
+
+QWidget *AddDialog::makeRow(int index)
+{
+    const ReadFile &file = m_files.at(index);
+    Row row;
+    auto *box = new QWidget;
+    auto *layout = new QFormLayout(box);
+    layout->setContentsMargins(0, 4, 0, 4);
+    QLabel *name = plainLabel(shortName(file.fileName), box);
+    name->setToolTip(oneLine(file.fileName));
+    QFont bold = name->font();
+    bold.setBold(true);
+    name->setFont(bold);
+    layout->addRow(name);
+    if (gamutOf(file.file)) {
+        row.role = new QComboBox(box);
+        for (const GamutRole role : allGamutRoles) {
+            row.role->addItem(gamutRolePhrase(role), int(role));
+        }
+        row.role->addItem(gamutRolePhrase(std::nullopt), noRole);
+        row.role->setCurrentIndex(row.role->findData(file.role ? int(*file.role) : noRole));
+        row.role->setAccessibleName(tr("What the gamut of %1 becomes").arg(shortName(file.fileName)));
+        layout->addRow(tr("Added as"), row.role);
+        connect(
+            row.role, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this, index] { takeRole(index); });
+    }
+    row.note = plainLabel(QString(), box);
+    row.note->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addRow(row.note);
+    m_rows.append(row);
+    return box;
+}
+
+void AddDialog::takeRole(int index)
+{
+    const int role = m_rows.at(index).role->currentData().toInt();
+    ReadFile file = m_files.at(index);
+    file.role.reset();
+    if (role != noRole) {
+        file.role = GamutRole(role);
+    }
+    m_files.replace(index, file);
+    refresh();
+}
+
+QString AddDialog::noteFor(const DisplayDescription &open, const ReadFile &file) const
+{
+    QStringList lines;
+    if (const auto gamut = gamutOf(file.file)) {
+        lines.append(tr("Gamut \"%1\"").arg(oneLine(QString::fromStdString(gamut->colorGamutName()))));
+    }
+    if (file.file.content == GamutFile::Content::Measurements && !file.file.measurements.others().isEmpty()) {
+        lines.append(tr("Measured points: %1").arg(file.file.measurements.others().size()));
+    }
+    if (file.file.content == GamutFile::Content::Description) {
+        lines.append(tr("Gamuts: %1").arg(file.file.description.gamuts.size()));
+    }
+    for (const Problem &remark : remarksOnAdding(open, file)) {
+        lines.append(QStringLiteral("⚠ %1 %2").arg(shortName(file.fileName), remark.text));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+void AddDialog::refresh()
+{
+    DisplayDescription open = m_open;
+    for (int index = 0; index < m_files.size(); ++index) {
+        const ReadFile &file = m_files.at(index);
+        const QString text = noteFor(open, file);
+        QLabel *note = m_rows.at(index).note;
+        note->setText(text);
+        if (QComboBox *role = m_rows.at(index).role) {
+            role->setAccessibleDescription(text);
+        }
+        open = withFile(open, file.file, file.role);
+    }
+}
+
+} // namespace gamutviewer

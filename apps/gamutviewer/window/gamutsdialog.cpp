@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "window/gamutsdialog.h"
+
+#include "editing/document.h"
+#include "editing/targetsession.h"
+
+#include <QAccessible>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <iterator>
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr int nameColumn = 0;
+constexpr int nameRole = Qt::UserRole; // the gamut's name as it is, also while another one is being typed
+constexpr QSize firstSize(620, 360);
+
+GamutRole roleOf(int column)
+{
+    return allGamutRoles[column - 1];
+}
+
+} // namespace
+
+GamutsDialog::GamutsDialog(Document *document, QWidget *parent)
+    : QDialog(parent)
+    , m_document(document)
+{
+    setWindowTitle(tr("Gamuts"));
+    auto *layout = new QVBoxLayout(this);
+    auto *form = new QFormLayout;
+    layout->addLayout(form);
+    m_displayName = new QLineEdit(this);
+    form->addRow(tr("&Name of the display:"), m_displayName);
+    QStringList headers{tr("Gamut")};
+    for (const GamutRole role : allGamutRoles) {
+        headers.append(ceiechart::gamutRoleName(role));
+    }
+    m_table = new QTableWidget(0, headers.size(), this);
+    m_table->setHorizontalHeaderLabels(headers);
+    m_table->setAccessibleName(tr("Gamuts and their parts"));
+    m_table->setAccessibleDescription(tr("Space gives or takes a part, F2 renames, Delete removes"));
+    m_table->setToolTip(m_table->accessibleDescription());
+    m_table->verticalHeader()->hide();
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setTabKeyNavigation(false);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    layout->addWidget(m_table, 1);
+    m_message = new QLabel(this);
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setWordWrap(true);
+    layout->addWidget(m_message);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    m_remove = buttons->addButton(tr("&Remove"), QDialogButtonBox::ActionRole);
+    m_remove->setToolTip(tr("Remove the gamut from the description"));
+    // Return ends the typing of a name, and nothing else.
+    for (QAbstractButton *button : buttons->buttons()) {
+        qobject_cast<QPushButton *>(button)->setAutoDefault(false);
+    }
+    layout->addWidget(buttons);
+
+    connect(m_displayName, &QLineEdit::editingFinished, this, &GamutsDialog::nameDisplay);
+    connect(m_table, &QTableWidget::itemChanged, this, &GamutsDialog::take);
+    connect(m_table, &QTableWidget::currentCellChanged, this, &GamutsDialog::refreshButtons);
+    connect(m_remove, &QPushButton::clicked, this, &GamutsDialog::removeCurrent);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(document, &Document::changed, this, &GamutsDialog::refresh);
+    refresh();
+    m_table->setCurrentCell(0, nameColumn);
+    m_table->setFocus();
+    resize(firstSize);
+}
+
+QString GamutsDialog::nameAt(int row) const
+{
+    const QTableWidgetItem *item = m_table->item(row, nameColumn);
+    return item ? item->data(nameRole).toString() : QString();
+}
+
+void GamutsDialog::refresh()
+{
+    if (m_document->isDragging()) {
+        return; // what moves is not shown here, and its step is still to come
+    }
+    const QScopedValueRollback<bool> filling(m_isFilling, true);
+    const DisplayDescription &description = m_document->description();
+    m_displayName->setText(description.name);
+    QStringList names;
+    for (const DisplayGamut &gamut : description.gamuts) {
+        names.append(QString::fromStdString(gamut.colorGamutName()));
+    }
+    for (const Model::ColorGamut &published : Model::standardGamuts()) {
+        names.append(QString::fromStdString(published.colorGamutName()));
+    }
+    names.removeDuplicates();
+    m_table->setRowCount(names.size());
+    for (int row = 0; row < names.size(); ++row) {
+        const QString &name = names.at(row);
+        const bool isOwn = hasOwnGamut(description, name);
+        for (int column = 0; column < m_table->columnCount(); ++column) {
+            QTableWidgetItem *item = m_table->item(row, column);
+            if (!item) {
+                item = new QTableWidgetItem;
+                m_table->setItem(row, column, item);
+            }
+            if (column == nameColumn) {
+                item->setData(nameRole, name);
+                item->setText(oneLine(name));
+                item->setToolTip(isOwn ? oneLine(name) : tr("%1: published gamut").arg(oneLine(name)));
+                QFont font = m_table->font();
+                font.setItalic(!isOwn);
+                item->setFont(font);
+                item->setFlags(
+                    Qt::ItemIsEnabled | Qt::ItemIsSelectable | (isOwn ? Qt::ItemIsEditable : Qt::NoItemFlags));
+                continue;
+            }
+            const bool plays = playsRole(description, name, roleOf(column));
+            item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+            item->setCheckState(plays ? Qt::Checked : Qt::Unchecked);
+            item->setData(Qt::AccessibleTextRole,
+                tr("%1: %2", "gamut and part").arg(oneLine(name), ceiechart::gamutRoleName(roleOf(column))));
+        }
+    }
+    refreshButtons();
+}
+
+void GamutsDialog::refreshButtons()
+{
+    m_remove->setEnabled(hasOwnGamut(m_document->description(), nameAt(m_table->currentRow())));
+}
+
+void GamutsDialog::take(QTableWidgetItem *item)
+{
+    if (m_isFilling) {
+        return;
+    }
+    const QString name = nameAt(item->row());
+    if (item->column() == nameColumn) {
+        if (item->text() != oneLine(name)) {
+            rename(name, item->text());
+        }
+        return;
+    }
+    const GamutRole role = roleOf(item->column());
+    const bool plays = item->checkState() == Qt::Checked;
+    if (playsRole(m_document->description(), name, role) != plays) {
+        say(QString());
+        m_document->change(withRole(m_document->description(), name, role, plays, m_document->saved()),
+            plays ? tr("%1 becomes %2", "step of the history: gamut and part")
+                        .arg(oneLine(shownGamutName(name)), gamutRolePhrase(role))
+                  : tr("%1 is no longer %2", "step of the history: gamut and part")
+                        .arg(oneLine(shownGamutName(name)), gamutRolePhrase(role)));
+    }
+}
+
+void GamutsDialog::rename(const QString &from, const QString &to)
+{
+    const QString name = to.trimmed();
+    const QString reason = whyNotRenamed(m_document->description(), from, name);
+    say(reason);
+    if (reason.isEmpty()) {
+        m_document->change(withGamutRenamed(m_document->description(), from, name),
+            tr("rename %1", "step of the history").arg(oneLine(shownGamutName(from))));
+    } else {
+        refresh();
+    }
+}
+
+void GamutsDialog::removeCurrent()
+{
+    const QString name = nameAt(m_table->currentRow());
+    if (hasOwnGamut(m_document->description(), name)) {
+        say(QString());
+        m_document->change(withoutGamut(m_document->description(), name),
+            tr("remove %1", "step of the history").arg(oneLine(shownGamutName(name))));
+    }
+}
+
+void GamutsDialog::nameDisplay()
+{
+    const QString name = m_displayName->text().trimmed();
+    if (name != m_document->description().name) {
+        DisplayDescription named = m_document->description();
+        named.name = name;
+        m_document->change(named, tr("name the display", "step of the history"));
+    }
+}
+
+void GamutsDialog::say(const QString &text)
+{
+    m_message->setText(text);
+    if (!text.isEmpty()) {
+        m_message->setAccessibleName(text);
+        QAccessibleEvent event(m_message, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+void GamutsDialog::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Delete && m_table->hasFocus()) {
+        removeCurrent();
+    } else {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,304 @@
+// SPDX-License-Identifier: MIT
+#include "display/messages.h"
+#include "display/samples.h"
+#include "panel/sidepanel.h"
+#include "panel/targeteditor.h"
+#include "panel/warningbar.h"
+#include "window/adddialog.h"
+#include "window/filenames.h"
+#include "window/recentfiles.h"
+#include "window/viewerwindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QStatusBar>
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr int messageMilliseconds = 6000;
+const QString descriptionSuffix = QStringLiteral("json");
+
+QStringList localFiles(const QMimeData *data)
+{
+    QStringList files;
+    for (const QUrl &url : data->urls()) {
+        if (url.isLocalFile()) {
+            files.append(url.toLocalFile());
+        }
+    }
+    return files;
+}
+
+QStringList messages(const QVector<FileWarning> &warnings)
+{
+    QStringList lines;
+    for (const FileWarning &warning : warnings) {
+        lines.append(warning.message());
+    }
+    return lines;
+}
+
+//! A list for a person: with the names of the files, not with all of their folders.
+QStringList shortMessages(const QVector<FileWarning> &warnings)
+{
+    QStringList lines;
+    for (const FileWarning &warning : warnings) {
+        lines.append(warning.problem.message(QFileInfo(warning.fileName).fileName()));
+    }
+    return lines;
+}
+
+void print(const QVector<FileWarning> &warnings)
+{
+    for (const QString &line : messages(warnings)) {
+        printError(line);
+    }
+}
+
+} // namespace
+
+void ViewerWindow::setDescription(const DisplayDescription &description, const QString &fileName)
+{
+    m_shownFile = fileName;
+    const QString path = QFileInfo(fileName).canonicalFilePath(); // empty where there is no such file
+    m_isSample = !path.isEmpty() && path == QFileInfo(sampleFile()).canonicalFilePath();
+    m_document.open(description, m_isSample ? QString() : fileName);
+    m_warnings->setWarnings({});
+    fitPanel();
+}
+
+void ViewerWindow::setOpened(const OpenedFiles &opened)
+{
+    const bool isDescription = !opened.descriptionFile.isEmpty();
+    setDescription(isDescription ? opened.inDescriptionFile : opened.description, opened.descriptionFile);
+    QStringList additions = opened.fileNames;
+    additions.removeOne(opened.descriptionFile);
+    if (isDescription && !additions.isEmpty()) {
+        m_document.change(opened.description, stepName(additions));
+    }
+    m_shownFile = isDescription ? opened.descriptionFile : opened.fileNames.value(0);
+    m_warnings->setWarnings(shortMessages(opened.warnings));
+    for (int i = opened.fileNames.size() - 1; i >= 0; --i) {
+        if (!m_isSample || opened.fileNames.at(i) != opened.descriptionFile) {
+            RecentFiles::add(opened.fileNames.at(i));
+        }
+    }
+    refreshTitle();
+}
+
+QString ViewerWindow::stepName(const QStringList &added)
+{
+    return added.size() == 1 ? tr("add %1").arg(oneLine(QFileInfo(added.first()).fileName()))
+                             : tr("add %1 files").arg(added.size());
+}
+
+bool ViewerWindow::givesWay() const
+{
+    return !m_document.isModified() && (m_isSample || isEmpty(m_document.description()));
+}
+
+void ViewerWindow::newDocument()
+{
+    if (closeDocument()) {
+        statusBar()->showMessage(tr("Nothing is known of this display yet: open its files, or drop them here."));
+    }
+}
+
+bool ViewerWindow::closeDocument()
+{
+    if (!mayLoseChanges()) {
+        return false;
+    }
+    setOpened({});
+    return true;
+}
+
+void ViewerWindow::openByDialog(Manner manner)
+{
+    const QStringList files
+        = QFileDialog::getOpenFileNames(this, manner == Manner::Open ? tr("Open") : tr("Add"), RecentFiles::folder(),
+            tr("Displays and gamuts (%1)").arg(gamutFilePatterns().join(QLatin1Char(' '))) + QStringLiteral(";;")
+                + tr("All files (*)"));
+    if (!files.isEmpty()) {
+        openPaths(files, manner);
+    }
+}
+
+bool ViewerWindow::openPaths(const QStringList &fileNames, Manner manner)
+{
+    const Outcome<QVector<ReadFile>> files = readFiles(fileNames);
+    if (!files) {
+        if (fileNames.size() == 1) {
+            RecentFiles::remove(fileNames.first());
+        }
+        warn(files.error());
+        return false;
+    }
+    m_panel->editor()->takeTyped();
+    const bool isDescription = files->first().file.content == GamutFile::Content::Description;
+    return givesWay() || (isDescription && manner == Manner::Open) ? openAlone(*files) : openByQuestion(*files, manner);
+}
+
+bool ViewerWindow::openAlone(const QVector<ReadFile> &files)
+{
+    if (!mayLoseChanges()) {
+        return false;
+    }
+    const OpenedFiles opened = openedAlone(files);
+    print(opened.warnings);
+    setOpened(opened);
+    return true;
+}
+
+bool ViewerWindow::openByQuestion(const QVector<ReadFile> &files, Manner manner)
+{
+    AddDialog dialog(m_document.description(), shownName(), files, manner == Manner::Open, this);
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    if (dialog.opensAlone()) {
+        return openAlone(files);
+    }
+    addFiles(dialog.files());
+    return true;
+}
+
+void ViewerWindow::addFiles(const QVector<ReadFile> &files)
+{
+    const OpenedFiles opened = openedWith(m_document.description(), files);
+    m_document.change(opened.description, stepName(opened.fileNames));
+    print(opened.warnings);
+    m_warnings->addWarnings(shortMessages(opened.warnings));
+    for (int i = opened.fileNames.size() - 1; i >= 0; --i) {
+        RecentFiles::add(opened.fileNames.at(i));
+    }
+}
+
+QString ViewerWindow::proposedPath(const QString &suffix) const
+{
+    QString name = safeFileName(m_document.description().name);
+    if (name.isEmpty()) {
+        name = safeFileName(QFileInfo(m_shownFile).completeBaseName());
+    }
+    if (name.isEmpty()) {
+        name = tr("display", "proposed name of a file");
+    }
+    return QDir(RecentFiles::folder()).filePath(QStringLiteral("%1.%2").arg(name, suffix));
+}
+
+bool ViewerWindow::save()
+{
+    return m_document.fileName().isEmpty() ? saveAs() : saveTo(m_document.fileName());
+}
+
+bool ViewerWindow::saveAs()
+{
+    m_panel->editor()->takeTyped();
+    const QFileInfo proposed(m_document.fileName().isEmpty() ? proposedPath(descriptionSuffix) : m_document.fileName());
+    QFileDialog dialog(this, tr("Save as"), proposed.path(), tr("Display descriptions (*.json)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(descriptionSuffix);
+    dialog.selectFile(proposed.fileName());
+    return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().constFirst());
+}
+
+bool ViewerWindow::saveTo(const QString &fileName)
+{
+    m_panel->editor()->takeTyped();
+    const QString error = writeDescription(m_document.description(), fileName);
+    if (!error.isEmpty()) {
+        warn(tr("%1: cannot be written: %2").arg(fileName, error));
+        return false;
+    }
+    m_shownFile = fileName;
+    m_isSample = false;
+    m_document.markSaved(fileName);
+    RecentFiles::add(fileName);
+    statusBar()->showMessage(tr("Saved as %1").arg(oneLine(fileName)), messageMilliseconds);
+    return true;
+}
+
+bool ViewerWindow::exportTo(const QString &fileName, const Picture &picture, const PictureExtent &extent)
+{
+    const auto format = pictureFormat(fileName);
+    if (!format) {
+        warn(tr("%1: the name must end in .png, .svg or .pdf").arg(fileName));
+        return false;
+    }
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const QString error = exportPicture(picture, m_document.description().name, extent, *format, fileName);
+    QApplication::restoreOverrideCursor();
+    if (!error.isEmpty()) {
+        warn(tr("%1: cannot be written: %2").arg(fileName, error));
+        return false;
+    }
+    RecentFiles::setFolderOf(fileName);
+    statusBar()->showMessage(
+        (lacksRoomForKey(picture, extent.size) ? tr("Exported to %1, without a key for lack of room")
+                                               : tr("Exported to %1"))
+            .arg(oneLine(fileName)),
+        messageMilliseconds);
+    return true;
+}
+
+bool ViewerWindow::mayLoseChanges()
+{
+    m_panel->editor()->takeTyped();
+    if (!m_document.isModified()) {
+        return true;
+    }
+    QMessageBox box(QMessageBox::Warning, tr("Unsaved changes"),
+        tr("\"%1\" has been modified. Save the changes?").arg(shownName()),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Save);
+    const int answer = box.exec();
+    return answer == QMessageBox::Save ? save() : answer == QMessageBox::Discard;
+}
+
+QString ViewerWindow::shownName() const
+{
+    const QString name = m_document.description().name;
+    const QString file = QFileInfo(m_document.fileName().isEmpty() ? m_shownFile : m_document.fileName()).fileName();
+    const QString shown = oneLine(!name.isEmpty() ? name : !file.isEmpty() ? file : tr("Untitled"));
+    return m_isSample ? tr("%1 (sample)").arg(shown) : shown;
+}
+
+void ViewerWindow::refreshTitle()
+{
+    setWindowTitle(tr("%1[*] – Gamut viewer").arg(shownName().replace(QLatin1String("[*]"), QLatin1String("[*][*]"))));
+    setWindowFilePath(m_document.fileName());
+}
+
+bool ViewerWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isDrop
+        = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove || event->type() == QEvent::Drop;
+    const auto *widget = isDrop ? qobject_cast<QWidget *>(watched) : nullptr;
+    if (!widget || widget->window() != this) {
+        return QMainWindow::eventFilter(watched, event);
+    }
+    // Fields and charts would take the name of a file for a text, or refuse it.
+    auto *drop = static_cast<QDropEvent *>(event);
+    const QStringList files = localFiles(drop->mimeData());
+    if (files.isEmpty()) {
+        return QMainWindow::eventFilter(watched, event);
+    }
+    drop->setDropAction(Qt::CopyAction);
+    drop->accept();
+    if (event->type() == QEvent::Drop) {
+        // The program that the files come from waits for the drop to end, and a question may be asked.
+        QMetaObject::invokeMethod(
+            this, [this, files] { openPaths(files); }, Qt::QueuedConnection);
+    }
+    return true;
+}
+
+} // namespace gamutviewer
