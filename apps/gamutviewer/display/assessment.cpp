@@ -65,11 +65,12 @@ QString pointText(const Model::DiagramPoint &point)
         fixedText(point.x, chromaticityDecimals), fixedText(point.y, chromaticityDecimals));
 }
 
-//! Of \a luminance no more than it is, so that what is shown can be reached.
+//! Of \a luminance no more than it is, but for rounding, so that what is shown can be reached.
 QString reachableText(double luminance, LuminanceUnit unit)
 {
+    constexpr double rounding = 1e-6;
     const double step = std::fabs(luminance) < 10.0 ? 1e4 : 10.0;
-    return luminanceText(std::floor(luminance * step) / step, unit);
+    return luminanceText(std::floor(luminance * step + rounding) / step, unit);
 }
 
 QString drivesText(const Model::Drive &drive)
