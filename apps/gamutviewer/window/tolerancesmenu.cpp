@@ -26,7 +26,7 @@ QString shownName(const QString &fileName)
 } // namespace
 
 TolerancesMenu::TolerancesMenu(TargetSession *session, QWidget *parent)
-    : QMenu(tr("&Tolerances"), parent)
+    : QMenu(tr("T&olerances"), parent)
     , m_session(session)
 {
     setToolTipsVisible(true);
