@@ -104,8 +104,8 @@ private:
         limit.standard = readName(member(node, QStringLiteral("standard")));
         limit.diagram = readDiagram(member(node, QStringLiteral("diagram")));
         limit.coverage = readLimit(member(node, QStringLiteral("coverage")), 1.0);
-        const bool isThere = std::any_of(m_tolerances.standards.begin(), m_tolerances.standards.end(),
-            [&](const StandardCoverage &other) {
+        const bool isThere = std::any_of(
+            m_tolerances.standards.begin(), m_tolerances.standards.end(), [&](const StandardCoverage &other) {
                 return other.standard == limit.standard && other.diagram == limit.diagram;
             });
         if (isThere) {

@@ -264,10 +264,12 @@ void GamutViewerTest::checks_data()
     const QByteArray measured = original + R"(, "measured": "Wall")";
     QTest::newRow("passes") << original << 1000.0 << QByteArray() << 0;
     QTest::newRow("too bright") << original << 5000.0 << QByteArray() << 3;
-    QTest::newRow("outside") << QByteArray(R"("original": "Wanted", "target": "Rec.2020")") << 1000.0 << QByteArray() << 3;
+    QTest::newRow("outside") << QByteArray(R"("original": "Wanted", "target": "Rec.2020")") << 1000.0 << QByteArray()
+                             << 3;
     QTest::newRow("published target") << QByteArray(R"("original": "Wall", "target": "Rec.709")") << 1000.0
                                       << QByteArray() << 4;
-    QTest::newRow("no original") << QByteArray(R"("declared": "Wall", "target": "Wanted")") << 1000.0 << QByteArray() << 4;
+    QTest::newRow("no original") << QByteArray(R"("declared": "Wall", "target": "Wanted")") << 1000.0 << QByteArray()
+                                 << 4;
     QTest::newRow("no target") << QByteArray(R"("original": "Wall")") << 1000.0 << QByteArray() << 4;
     QTest::newRow("within tolerance") << measured << 1000.0 << QByteArray(R"({"version": 1, "whiteUv": 0.001})") << 0;
     QTest::newRow("out of tolerance") << measured << 1000.0 << QByteArray(R"({"version": 1, "primariesUv": 0.001})")
@@ -294,8 +296,7 @@ void GamutViewerTest::checks()
     // The report has the same verdict, and leaves the exit status alone.
     const Result reported = run(QStringList{"--report", "json"} + arguments.mid(1));
     QCOMPARE(reported.exitCode, 0);
-    const QJsonObject verdict
-        = QJsonDocument::fromJson(reported.output).object().value("verdict").toObject();
+    const QJsonObject verdict = QJsonDocument::fromJson(reported.output).object().value("verdict").toObject();
     QCOMPARE(verdict.value("status").toString().toLatin1() + ": ", first);
     QStringList lines{verdict.value("status").toString() + ": " + verdict.value("text").toString()};
     for (const QJsonValue &line : verdict.value("lines").toArray()) {

@@ -287,10 +287,9 @@ void ReportTest::documentedKeys()
     const QByteArray documentation = file.readAll();
     for (const char *key : {"version", "name", "declared", "original", "measured", "target", "red", "green", "blue",
              "white", "cct", "duv", "area", "standards", "standard", "coverage", "areaRatio", "validity", "valid",
-             "outside", "givenUp", "share", "xy", "uv", "unit",
-             "referenceWhite", "dominantWavelength", "purity", "verdict", "status", "against", "text", "lines",
-             "subject", "color", "drive", "comparable", "headroom", "largestWhite", "fullDrive", "tolerances",
-             "source"}) {
+             "outside", "givenUp", "share", "xy", "uv", "unit", "referenceWhite", "dominantWavelength", "purity",
+             "verdict", "status", "against", "text", "lines", "subject", "color", "drive", "comparable", "headroom",
+             "largestWhite", "fullDrive", "tolerances", "source"}) {
         QVERIFY2(documentation.contains('`' + QByteArray(key) + '`'), key);
     }
 }

@@ -3,9 +3,9 @@
 
 #include "display/chromaticity.h"
 #include "editing/targetsession.h"
+#include "panel/groupedtable.h"
 #include "panel/sidepanel.h"
 #include "panel/targeteditor.h"
-#include "panel/groupedtable.h"
 #include "panel/verdict.h"
 
 #include <QCheckBox>
@@ -474,8 +474,7 @@ void TargetEditorTest::validityNamesThePrimary()
     QVERIFY(verdict->text().startsWith(QString::fromUtf8("✓")));
     type(editor(f)->firstCoordinate(Vertex::Green), QStringLiteral("0.15"));
     QVERIFY(verdict->text().startsWith(QString::fromUtf8("✗")));
-    const QStringList outside
-        = verdict->text().split(QLatin1Char('\n')).filter(QLatin1String("outside"));
+    const QStringList outside = verdict->text().split(QLatin1Char('\n')).filter(QLatin1String("outside"));
     QCOMPARE(outside.size(), 1);
     QVERIFY(outside.first().contains(QLatin1String("Green")));
 }

@@ -177,8 +177,8 @@ QJsonObject driveObject(const Assessment &assessment)
         {QStringLiteral("largestWhite"), QJsonValue::Null}};
     if (const auto &largest = assessment.largestWhite) {
         object.insert(QStringLiteral("largestWhite"),
-            QJsonObject{{QStringLiteral("Y"), largest->luminance},
-                {QStringLiteral("fullDrive"), primaryName(largest->limit)}});
+            QJsonObject{
+                {QStringLiteral("Y"), largest->luminance}, {QStringLiteral("fullDrive"), primaryName(largest->limit)}});
     }
     const auto drives = [](const Model::Drive &drive) {
         return QJsonObject{{QStringLiteral("red"), drive.red}, {QStringLiteral("green"), drive.green},
@@ -233,8 +233,7 @@ QJsonObject report(const DisplayDescription &description, const std::optional<To
     }
     if (tolerances) {
         object.insert(QStringLiteral("tolerances"),
-            QJsonObject{
-                {QStringLiteral("name"), tolerances->name}, {QStringLiteral("source"), tolerances->source}});
+            QJsonObject{{QStringLiteral("name"), tolerances->name}, {QStringLiteral("source"), tolerances->source}});
     }
     return object;
 }

@@ -11,6 +11,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
+
 namespace gamutviewer {
 
 namespace {
@@ -94,9 +97,15 @@ void Verdict::show(const Assessment &assessment)
     while (m_lines->count() > assessment.lines.size()) {
         delete m_lines->takeItem(m_lines->count() - 1);
     }
+    // What fails is seen without scrolling.
+    QVector<AssessmentLine> lines;
+    for (const Judgement judgement : {Judgement::Fail, Judgement::NotKnown, Judgement::Pass}) {
+        std::copy_if(assessment.lines.begin(), assessment.lines.end(), std::back_inserter(lines),
+            [judgement](const AssessmentLine &line) { return line.judgement == judgement; });
+    }
     bool isOutside = false;
-    for (int row = 0; row < assessment.lines.size(); ++row) {
-        const AssessmentLine &line = assessment.lines.at(row);
+    for (int row = 0; row < lines.size(); ++row) {
+        const AssessmentLine &line = lines.at(row);
         if (row == m_lines->count()) {
             m_lines->addItem(QString());
         }
