@@ -211,6 +211,11 @@ void ReportTest::dominantWavelengths()
     QVERIFY(isNear(at(all, "target.referenceWhite.y"), 0.3290, 0.0));
     // Relative to its own white, not to that of the target.
     QVERIFY(isNear(at(all, "original.referenceWhite.x"), 0.2829, 0.0));
+    Model::Targets halfWay = description.gamuts[0].getTargets();
+    halfWay.green = Model::Target::fromYxy(634, (0.170 + 0.2829) / 2, (0.797 + 0.2971) / 2);
+    description.gamuts[0] = Model::ColorGamut("native", halfWay);
+    QVERIFY(isNear(at(report(description), "original.green.dominantWavelength"), 532.0, 0.2));
+    QVERIFY(isNear(at(report(description), "original.green.purity"), 0.5, 0.005));
     Model::Targets purple = description.gamuts[0].getTargets();
     purple.blue = Model::Target::fromYxy(126, 0.32, 0.12);
     description.gamuts[0] = Model::ColorGamut("native", purple);
