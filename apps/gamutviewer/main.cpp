@@ -21,7 +21,7 @@ namespace {
 
 using namespace gamutviewer;
 
-enum ExitStatus { Done = 0, Failed = 1, WrongInput = 2, DisplayFails = 3, VerdictNotKnown = 4 };
+enum ExitStatus { Done = 0, Failed = 1, WrongInput = 2, DisplayFails = 3, VerdictNotKnown = 4, NeedsChoice = 5 };
 
 int print(const QByteArray &text)
 {
@@ -90,14 +90,28 @@ int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances,
 {
     installInterfaceTranslations();
     ViewerWindow window;
-    window.setOpened(opened);
     if (tolerances) {
         window.session()->setTolerances(tolerances);
+    }
+    if (!opened.needsChoice) {
+        window.setOpened(opened);
     }
     if (commandLine.hasSize()) {
         window.resize(commandLine.extent().size.boundedTo(QApplication::primaryScreen()->availableSize()));
     }
     window.show();
+    if (opened.needsChoice) {
+        // The user is asked what the list means, over the window.
+        QMetaObject::invokeMethod(
+            &window,
+            [&] {
+                if (!window.openPaths(
+                        commandLine.files(), ViewerWindow::Manner::Open, commandLine.measurementOptions())) {
+                    window.setOpened(opened);
+                }
+            },
+            Qt::QueuedConnection);
+    }
     return QApplication::exec();
 }
 
@@ -131,7 +145,8 @@ int main(int argc, char *argv[])
     }
 
     const QStringList files = commandLine.files();
-    const Outcome<OpenedFiles> opened = openFiles(files.isEmpty() ? QStringList(sampleFile()) : files);
+    const Outcome<OpenedFiles> opened
+        = openFiles(files.isEmpty() ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
     if (!opened) {
         printError(opened.error());
         return WrongInput;
@@ -145,11 +160,20 @@ int main(int argc, char *argv[])
         }
         tolerances = *read;
     }
+    if (commandLine.hasMeasurementOptions() && !opened->hasLists) {
+        printError(QApplication::translate(
+            "main", "--red, --green, --blue, --white, --unit and --decimal require a measurement list"));
+        return WrongInput;
+    }
+    const bool isAsked = commandLine.action() == CommandLine::Action::Show && opened->needsChoice;
     for (const FileWarning &warning : opened->warnings) {
-        printError(warning.message());
+        if (!isAsked) { // or else after the answer
+            printError(warning.message());
+        }
     }
     if (commandLine.action() == CommandLine::Action::Write) {
-        return write(opened->description, tolerances, commandLine);
+        const int status = write(opened->description, tolerances, commandLine);
+        return status == Done && opened->needsChoice ? NeedsChoice : status;
     }
     if (!canShow) {
         printError(QApplication::translate(

@@ -4,6 +4,8 @@
 #include <ceiechart/diagram/rowcoverage_p.h>
 #include <ceiechart/diagram/spectrum_p.h>
 
+#include <QPainter>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -63,28 +65,25 @@ inline QRgb mixed(QRgb a, QRgb b, int alphaOfA)
     return 0xff000000U | channel(16) | channel(8) | channel(0);
 }
 
-//! Colours any part of the picture.
+//! Colours any part of a picture, or of the band of its rows that is at hand.
 class Filler {
 public:
-    Filler(const ColorsRequest &request, QImage &image)
+    //! \a locus and \a full are the coverages for \a request.
+    Filler(const ColorsRequest &request, QImage &image, RowCoverage &locus, RowCoverage &full)
         : m_image(image)
         , m_plot(request.plot())
         , m_ground(request.ground.rgb())
         , m_colored(request.colors != HorseshoeColors::None)
         , m_dimmed(request.colors == HorseshoeColors::Dimmed)
-        , m_fill(fillFor(request, image.size()))
+        , m_fill(fillFor(request, request.size()))
         , m_rows(m_fill, fastestFillKernel())
+        , m_locus(locus)
+        , m_full(full)
     {
-        if (m_colored) {
-            m_locus = RowCoverage(
-                inPixels(
-                    request, spectralLocusIn(request.viewport.diagram(), spectrumDetail(request.viewport.scale()))),
-                image.width(), image.height());
-        }
-        if (m_dimmed) {
-            m_full = RowCoverage(inPixels(request, request.full), image.width(), image.height());
-        }
     }
+
+    //! From here on, the image holds the rows from \a row on.
+    void setFirstRow(int row) { m_firstRow = row; }
 
     void fill(const QRect &area)
     {
@@ -96,7 +95,7 @@ public:
     //! The row \a y from column \a left to before \a right, as far as it lies in the plot.
     void fill(int y, int left, int right)
     {
-        auto *line = reinterpret_cast<QRgb *>(m_image.bits() + qsizetype(y) * m_image.bytesPerLine());
+        auto *line = reinterpret_cast<QRgb *>(m_image.bits() + qsizetype(y - m_firstRow) * m_image.bytesPerLine());
         if (!m_colored || y < m_plot.top() || y > m_plot.bottom()) {
             std::fill(line + left, line + right, m_ground);
             return;
@@ -134,8 +133,6 @@ public:
         }
     }
 
-    RowCoverage &full() { return m_full; }
-
 private:
     void dim(QRgb *line, int y, int left, int right)
     {
@@ -155,15 +152,32 @@ private:
     }
 
     QImage &m_image;
+    int m_firstRow = 0;
     QRect m_plot;
     QRgb m_ground;
     bool m_colored;
     bool m_dimmed;
     HorseshoeFill m_fill;
     RowFill m_rows;
-    RowCoverage m_locus;
-    RowCoverage m_full;
+    RowCoverage &m_locus;
+    RowCoverage &m_full;
 };
+
+RowCoverage locusCoverage(const ColorsRequest &request, const QSize &size)
+{
+    if (request.colors == HorseshoeColors::None) {
+        return RowCoverage();
+    }
+    const QPolygonF &locus = spectralLocusIn(request.viewport.diagram(), spectrumDetail(request.viewport.scale()));
+    return RowCoverage(inPixels(request, locus), size.width(), size.height());
+}
+
+//! Of \a full, in the diagram's own coordinates.
+RowCoverage fullCoverage(const ColorsRequest &request, const QPolygonF &full, const QSize &size)
+{
+    return request.colors == HorseshoeColors::Dimmed ? RowCoverage(inPixels(request, full), size.width(), size.height())
+                                                     : RowCoverage();
+}
 
 bool sameExceptPlace(const ColorsRequest &a, const ColorsRequest &b)
 {
@@ -208,29 +222,35 @@ void scroll(QImage &image, const QRect &area, const QPoint &way)
     }
 }
 
-//! Fills where the coverage by \a before and that of the filler's own differ.
-void fillDifference(Filler &filler, RowCoverage &before, const QRect &plot, QRegion &changed)
+//! Fills where the coverages \a before and \a after differ.
+void fillDifference(Filler &filler, RowCoverage &before, RowCoverage &after, const QRect &plot, QRegion &changed)
 {
     QRect bounds;
     for (int y = plot.top(); y <= plot.bottom(); ++y) {
-        const std::vector<CoveredRun> &now = filler.full().row(y);
+        const std::vector<CoveredRun> &now = after.row(y);
         const std::vector<CoveredRun> &then = before.row(y);
+        const auto fill = [&](int left, int right) {
+            const QRect part = QRect(left, y, right - left, 1).intersected(plot);
+            if (!part.isEmpty()) {
+                filler.fill(y, part.left(), part.right() + 1);
+                bounds |= part;
+            }
+        };
         size_t i = 0;
         size_t k = 0;
         int x = 0;
+        int begin = 0; // of the columns that differ up to x
         while (i < now.size() && k < then.size()) {
             const int end = std::min(now[i].right, then[k].right);
-            if (now[i].alpha != then[k].alpha) {
-                const QRect part = QRect(x, y, end - x, 1).intersected(plot);
-                if (!part.isEmpty()) {
-                    filler.fill(y, part.left(), part.right() + 1);
-                    bounds |= part;
-                }
+            if (now[i].alpha == then[k].alpha) {
+                fill(begin, x);
+                begin = end;
             }
             x = end;
             i += now[i].right == end ? 1 : 0;
             k += then[k].right == end ? 1 : 0;
         }
+        fill(begin, x);
     }
     changed += bounds;
 }
@@ -257,7 +277,7 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
     QPoint way;
     const QSize size = request.size();
     const QRect plot = request.plot();
-    const auto distance = m_image.size() == size && sameExceptPlace(m_request, request)
+    const auto distance = m_isKept && m_image.size() == size && sameExceptPlace(m_request, request)
         ? wholePixels(m_request, request)
         : std::nullopt;
     if (!distance) {
@@ -265,11 +285,23 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
             m_image = QImage(size, QImage::Format_RGB32);
         }
         m_image.setDevicePixelRatio(request.devicePixelRatio);
-        Filler(request, m_image).fill(m_image.rect());
+        m_locus = locusCoverage(request, size);
+        m_full = fullCoverage(request, request.full, size);
+        Filler(request, m_image, m_locus, m_full).fill(m_image.rect());
         filled = m_image.rect();
-    } else if (!distance->isNull() || m_request.full != request.full) {
-        Filler filler(request, m_image);
-        if (!distance->isNull()) {
+    } else {
+        const bool isMoved = !distance->isNull();
+        const bool isOtherFull = request.colors == HorseshoeColors::Dimmed && m_request.full != request.full;
+        if (isMoved) {
+            m_locus = locusCoverage(request, size);
+            m_full = fullCoverage(request, m_request.full, size);
+        }
+        RowCoverage before;
+        if (isOtherFull) {
+            before = std::exchange(m_full, fullCoverage(request, request.full, size));
+        }
+        Filler filler(request, m_image, m_locus, m_full);
+        if (isMoved) {
             way = *distance;
             scroll(m_image, plot, way);
             const QRegion exposed = QRegion(plot) - plot.translated(way);
@@ -278,12 +310,12 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
             }
             filled += exposed;
         }
-        if (m_request.full != request.full && request.colors == HorseshoeColors::Dimmed) {
-            RowCoverage before(inPixels(request, m_request.full), size.width(), size.height());
-            fillDifference(filler, before, plot, filled);
+        if (isOtherFull) {
+            fillDifference(filler, before, m_full, plot, filled);
         }
     }
     m_request = request;
+    m_isKept = true;
     if (changed) {
         *changed = filled;
     }
@@ -291,6 +323,31 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
         *scrolled = way;
     }
     return m_image;
+}
+
+void DiagramColors::paint(QPainter *painter, const ColorsRequest &request)
+{
+    // At other ratios the edges of bands could fall between pixels.
+    const bool hasWholeEdges = request.devicePixelRatio == 1.0 || request.devicePixelRatio == 2.0;
+    if (!hasWholeEdges || (sameExceptPlace(m_request, request) && wholePixels(m_request, request))) {
+        painter->drawImage(QPointF(), update(request, nullptr, nullptr));
+        return;
+    }
+    constexpr int bandHeight = 16; // what is filled is still in the cache when it is painted
+    const QSize size = request.size();
+    m_locus = locusCoverage(request, size);
+    m_full = fullCoverage(request, request.full, size);
+    QImage band(size.width(), bandHeight, QImage::Format_RGB32);
+    band.setDevicePixelRatio(request.devicePixelRatio);
+    Filler filler(request, band, m_locus, m_full);
+    for (int top = 0; top < size.height(); top += bandHeight) {
+        const int height = std::min(bandHeight, size.height() - top);
+        filler.setFirstRow(top);
+        filler.fill(QRect(0, top, size.width(), height));
+        painter->drawImage(QPointF(0.0, top / request.devicePixelRatio), band, QRectF(0, 0, size.width(), height));
+    }
+    m_request = request;
+    m_isKept = false;
 }
 
 } // namespace ceiechart

@@ -4,12 +4,15 @@
 
 #include <ceiechart/diagram/diagramcontent.h>
 #include <ceiechart/diagram/diagramviewport.h>
+#include <ceiechart/diagram/rowcoverage_p.h>
 
 #include <QColor>
 #include <QImage>
 #include <QPoint>
 #include <QPolygonF>
 #include <QRegion>
+
+class QPainter;
 
 namespace ceiechart {
 
@@ -43,10 +46,20 @@ public:
      * \param scrolled receives the distance by which the plot was scrolled; may be null
      */
     const QImage &update(const ColorsRequest &request, QRegion *changed, QPoint *scrolled);
+    /*!
+     * \brief Paints the picture for \a request.
+     *
+     * A picture that is all new, as each is during a zoom, is painted in bands and not kept: to write it twice to the
+     * memory and to read it once takes about as long as to compute it. It is kept when it is asked for again.
+     */
+    void paint(QPainter *painter, const ColorsRequest &request);
 
 private:
     QImage m_image;
-    ColorsRequest m_request;
+    ColorsRequest m_request; // the last one
+    bool m_isKept = false; // whether the image is the one of the request
+    RowCoverage m_locus; // as in the picture
+    RowCoverage m_full;
 };
 
 } // namespace ceiechart

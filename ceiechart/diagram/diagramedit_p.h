@@ -40,6 +40,8 @@ public:
     //! Goes on from \a target, which a host has put in the place of what was there.
     void rebase(const Model::Targets &target) { m_context.target = target; }
 
+    //! What is wanted is \a way farther on, in units of the diagram; the next step goes there.
+    void shift(const QPointF &way) { m_wanted += way; }
     //! One step by \a way, in units of the diagram.
     EditStep moveBy(const TargetRules &rules, const QPointF &way, const EditHands &hands);
 

@@ -18,7 +18,6 @@ namespace {
 
 constexpr double logicalPixelsPerInch = 96.0;
 constexpr double pointsPerInch = 72.0;
-constexpr double numbersShare = 0.88; // of the size of the font
 constexpr double dashesOfKey = 32.0; // logical pixels, at most: enough for any dash pattern to be known by
 constexpr double pictureRatioOfFiles = 2.0; // pixels of the colours for each logical pixel of a file
 constexpr double mostPicturePixels = 3e7;
@@ -44,40 +43,7 @@ QFont fontForDiagrams(QFont font)
     return font;
 }
 
-QFont scaled(QFont font, double share)
-{
-    font.setPointSizeF(font.pointSizeF() * share);
-    return font;
-}
-
-QFont weighted(QFont font, QFont::Weight weight)
-{
-    font.setWeight(weight);
-    return font;
-}
-
 } // namespace
-
-DiagramFonts::DiagramFonts(const QFont &font, const QPaintDevice *device, double unit)
-    : numbers(scaled(font, numbersShare), device, unit)
-    , names(weighted(font, QFont::Bold), device, unit)
-    , texts(scaled(font, numbersShare), device, unit)
-    , axes(weighted(font, QFont::Bold), device, unit)
-{
-}
-
-bool LabelPlaces::isFree(const QRectF &place, const QRectF &area, double gap) const
-{
-    const QRectF roomy = place.adjusted(-gap, -gap, gap, gap);
-    return area.contains(place)
-        && std::none_of(m_labels.cbegin(), m_labels.cend(),
-            [&roomy](const DiagramLabel &label) { return label.place.intersects(roomy); });
-}
-
-void LabelPlaces::add(DiagramLabel::Kind kind, const QString &text, const QRectF &place, int index)
-{
-    m_labels.append({kind, index, text, place});
-}
 
 class DiagramPainter::Private {
 public:
@@ -250,6 +216,11 @@ const QImage &DiagramPainter::colors(qreal devicePixelRatio, QRegion *changed, Q
     return d->colors.update(Private::colorsRequest(d->content, d->viewport, devicePixelRatio), changed, scrolled);
 }
 
+void DiagramPainter::paintColors(QPainter *painter, qreal devicePixelRatio)
+{
+    d->colors.paint(painter, Private::colorsRequest(d->content, d->viewport, devicePixelRatio));
+}
+
 void DiagramPainter::paintScale(QPainter *painter) const
 {
     d->scaleLayout().drawing.paint(painter);
@@ -260,11 +231,11 @@ void DiagramPainter::paintGamuts(QPainter *painter) const
     d->gamutsLayout().drawing.paint(painter);
 }
 
-void DiagramPainter::paintEdited(QPainter *painter) const
+void DiagramPainter::paintEdited(QPainter *painter, const QRegion &needed) const
 {
-    d->editedLayout().drawing.paint(painter);
-    d->scaleLayout().texts.paint(painter);
-    d->editedLayout().texts.paint(painter);
+    d->editedLayout().drawing.paint(painter, needed);
+    d->scaleLayout().texts.paint(painter, needed);
+    d->editedLayout().texts.paint(painter, needed);
 }
 
 QVector<DiagramLabel> DiagramPainter::labels() const

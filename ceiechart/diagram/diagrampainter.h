@@ -51,7 +51,7 @@ struct DiagramLabel {
  *
  * paint(QPainter *, const QRectF &) paints everything at once and keeps nothing. A widget, which paints the same
  * again and again, paints in steps instead and keeps what does not change: colors(), which repairs its picture after
- * a scroll or an edit instead of filling it anew, then paintScale(), paintGamuts() and paintEdited().
+ * a scroll or an edit instead of filling it anew, or paintColors(), then paintScale(), paintGamuts() and paintEdited().
  *
  * Lines are one or more logical pixels wide, 1/96 inch on devices of a higher resolution. Texts are sized in points:
  * for an SVG file, set QSvgGenerator::setResolution() to 96 to have them as on the screen.
@@ -111,6 +111,13 @@ public:
      */
     const QImage &colors(qreal devicePixelRatio, QRegion *changed = nullptr, QPoint *scrolled = nullptr);
 
+    /*!
+     * \brief Paints colors() for a screen of \a devicePixelRatio.
+     *
+     * A picture that is all new, as each is during a zoom, is not kept before it is asked for again, which is faster.
+     */
+    void paintColors(QPainter *painter, qreal devicePixelRatio);
+
     /*! \brief Grid, axes, locus, wavelengths, Planckian locus, isotherms without temperatures: what no edit changes. */
     void paintScale(QPainter *painter) const;
     /*! \brief Outlines of all gamuts but targets. */
@@ -118,9 +125,11 @@ public:
     /*!
      * \brief What depends on the target, and what must not be covered by it: lost and common area, outlines of targets
      *        and of what equals them, rings, trail, marks, whites, names; and the temperatures of isotherms, above all
-     * lines.
+     *        lines.
+     *
+     * \param needed in logical pixels; what does not meet it may be left out, which is faster. Empty for everything.
      */
-    void paintEdited(QPainter *painter) const;
+    void paintEdited(QPainter *painter, const QRegion &needed = QRegion()) const;
 
     /*!
      * \brief All texts that the steps paint, with their places.

@@ -28,9 +28,9 @@ constexpr double longTick = 7.0;
 constexpr double tickGap = 3.0; // between a tick and its number
 constexpr double wavelengthTicks = 7.0; // least distance of ticks
 constexpr double wavelengthNumbers = 34.0; // least distance of the middles of numbers
+constexpr double shortestIsotherm = 10.0; // one that is shorter, in a small view, looks like a mark
 constexpr double isothermLines = 30.0; // least distance of isotherms
 constexpr double mostIsotherms = 18.0; // side by side on the shorter side of the plot
-constexpr double labelGap = 3.0; // round any text
 
 constexpr double isothermDuv = 0.02; // of the ends of isotherms, at most
 constexpr double wholeIsothermDuv = 0.011; // where the whole horseshoe is seen, lest they cover it
@@ -41,11 +41,6 @@ constexpr double closestWavelengths = 0.01; // nm
 
 const QString widestNumber = QStringLiteral("-0.00000");
 constexpr double hinting = 0.5; // pixels by which hinting may widen a digit beyond its design
-
-double length(const QPointF &way)
-{
-    return std::hypot(way.x(), way.y());
-}
 
 QPointF unit(const QPointF &way)
 {
@@ -267,15 +262,19 @@ private:
         QVector<QPointF> numbered;
         for (const Wavelength &wavelength : wavelengths()) {
             const QPointF tip = wavelength.foot + wavelength.outwards * longTick;
-            const QString number = QString::number(wavelength.nanometres, 'g', 6);
-            const QRectF place = besides(tip + wavelength.outwards * tickGap, wavelength.outwards, style.size(number));
-            const bool isNumbered = wavelength.mayBeNumbered && isApart(numbered, place.center(), wavelengthNumbers)
-                && m_step.places.isFree(place, m_inner, labelGap);
-            if (isNumbered) {
-                numbered.append(place.center());
-                m_step.places.add(DiagramLabel::Kind::Wavelength, number, place);
-                // Outlines of wide gamuts pass below.
-                m_step.texts.textIn(place, number, style, m_palette.numbers, m_palette.casing);
+            bool isNumbered = false;
+            if (wavelength.mayBeNumbered) {
+                const QString number = QString::number(wavelength.nanometres, 'g', 6);
+                const QRectF place
+                    = besides(tip + wavelength.outwards * tickGap, wavelength.outwards, style.size(number));
+                isNumbered = isApart(numbered, place.center(), wavelengthNumbers)
+                    && m_step.places.isFree(place, m_inner, labelGap);
+                if (isNumbered) {
+                    numbered.append(place.center());
+                    m_step.places.add(DiagramLabel::Kind::Wavelength, number, place);
+                    // Outlines of wide gamuts pass below.
+                    m_step.texts.textIn(place, number, style, m_palette.numbers, m_palette.casing);
+                }
             }
             const QLineF tick(wavelength.foot, isNumbered ? tip : wavelength.foot + wavelength.outwards * shortTick);
             if (const auto part = partWithin(tick, m_plot)) {
@@ -367,7 +366,9 @@ private:
             }
             const double mired = kelvinTimesMired / kelvin;
             const QPointF foot = toPosition(fromUv1960(m_viewport.diagram(), planckianPoint(mired).uv));
-            if (const auto line = partWithin(isotherm(mired), m_plot)) {
+            const QLineF whole = this->isotherm(mired);
+            const auto line = whole.length() >= shortestIsotherm ? partWithin(whole, m_plot) : std::nullopt;
+            if (line) {
                 result.append({kelvin, *line, foot});
             }
         }
@@ -389,12 +390,12 @@ private:
         for (const Isotherm &isotherm : lines) {
             PendingNumber pending;
             const QString number = QString::number(isotherm.kelvin, 'f', 0) + QStringLiteral(" K");
+            const QSizeF size = style.size(number);
             // Beyond an end, or on the last part of a line that leaves the view.
             for (const double share : {1.0, 0.0, 0.88, 0.12}) {
                 const QPointF at = isotherm.line.pointAt(share);
                 const QPointF way = unit(
                     share > 0.5 ? isotherm.line.p2() - isotherm.line.p1() : isotherm.line.p1() - isotherm.line.p2());
-                const QSizeF size = style.size(number);
                 const bool isEnd = share == 0.0 || share == 1.0;
                 const QRectF place = isEnd ? besides(at + way * tickGap, way, size)
                                            : QRectF(at - QPointF(size.width(), size.height()) / 2.0, size);
@@ -406,10 +407,11 @@ private:
                 const QPointF way = unit(at - isotherm.line.center());
                 for (const double turn : {1.0, -1.0}) {
                     const QPointF aslant = unit(way + QPointF(-way.y(), way.x()) * turn);
-                    pending.places.append(besides(at + aslant * tickGap, aslant, style.size(number)));
+                    pending.places.append(besides(at + aslant * tickGap, aslant, size));
                 }
             }
             pending.text = number;
+            pending.line = isotherm.line;
             m_step.isotherms.append(pending);
         }
     }

@@ -5,9 +5,14 @@
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/drawlist_p.h>
 
+#include <QLineF>
 #include <QVector>
 
 namespace ceiechart {
+
+// Logical pixels
+constexpr double labelGap = 3.0; // round any text
+constexpr double lineCasing = 2.5; // of a line, on both sides together
 
 /*! \brief The fonts of a diagram on one device. */
 struct DiagramFonts {
@@ -54,6 +59,7 @@ QMarginsF diagramMargins(const DiagramContent &content, const DiagramFonts &font
 struct PendingNumber {
     QString text;
     QVector<QRectF> places; //!< the best first
+    QLineF line; //!< what it belongs to, as far as it is seen
 };
 
 /*! \brief What is painted and the texts in it. */
@@ -75,6 +81,9 @@ DiagramStep editedStep(const DiagramSheet &sheet, const LabelPlaces &places, con
 /*! \brief A line of \a pen with a casing of \a casing under it, as far as it is within \a area. */
 void drawCased(
     DrawList &list, const QPolygonF &points, bool closed, const QRectF &area, const QPen &pen, const QColor &casing);
+
+/*! \brief \a color, of which only \a share is opaque. */
+QColor faded(QColor color, double share);
 
 /*!
  * \brief The common area of target and display in the diagram's own coordinates, or the one of them that there is.

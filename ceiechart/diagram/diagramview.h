@@ -35,15 +35,25 @@ namespace ceiechart {
  * | wheel, pinch, + and − | zoom about the pointer |
  * | drag on free ground, middle button, two-finger scroll, Alt and arrows | pan |
  * | double click on free ground, 0, Home | all of the diagram |
+ * | double tap on free ground | closer, about the finger; all of the diagram when it is not all seen |
  * | click on free ground | no handle is selected |
- * | drag of a handle, or one within 24 pixels | move a primary or the white |
+ * | click on a handle, or within 24 pixels of it | select it |
+ * | drag of a handle, or from within 24 pixels of it | move a primary or the white |
  * | Tab; R, G, B, W | the next handle; a certain one |
  * | arrows | move the handle that is selected; without one, pan |
  * | Shift | slow: a tenth of the way |
  * | Ctrl | stay on the line through the white; the white itself stays at its colour temperature |
  * | Alt, while a handle is dragged | stay on an axis |
  * | Ctrl and Alt together, while a handle is dragged | do not snap |
- * | Esc | cancel the drag |
+ * | Esc | cancel the drag or the move by keys; without either, no handle is selected |
+ *
+ * A press becomes a drag when the pointer is farther away from it than QStyleHints::startDragDistance(): within that, a
+ * handle is selected and nothing moves. Then the handle sets out from its place without a jump, slow drags too, and
+ * has caught up with the pointer after half as much again. Only Esc and a click on free ground let go of the handle
+ * that is selected: looking elsewhere does not.
+ *
+ * A view that is hidden or disabled lets go of everything: a drag is cancelled, a move by keys ends. Its signals come
+ * when the event loop runs again, or before the next one that is emitted, so that slots may delete the view.
  *
  * Handles are shown unless the view is read-only or has no target. Each handle and each gamut is an accessible object.
  */
@@ -126,7 +136,11 @@ public:
     /*! \brief The rules of editing, never null; by default a StandardTargetRules of its own. */
     std::shared_ptr<const TargetRules> rules() const;
 
-    /*! \brief \a xy in the coordinates of the diagram, as readout and labels show it: "x 0.3127  y 0.3290". */
+    /*!
+     * \brief \a xy in the coordinates of the diagram, as readout and labels show it: "x 0.3127  y 0.3290".
+     *
+     * "not known" for what has no finite coordinates there.
+     */
     QString coordinatesText(const QPointF &xy) const;
 
     /*! \brief Which handle the keyboard moves; nothing for none. */
@@ -221,7 +235,7 @@ Q_SIGNALS:
     void targetEdited(const Model::ColorGamut &gamut);
     /*! \brief The drag has ended, or the key is up. Also after editingCanceled(). */
     void editingFinished();
-    /*! \brief The drag was cancelled; targetEdited() has told of the former target. */
+    /*! \brief The drag or the move by keys was cancelled; targetEdited() has told of the former target. */
     void editingCanceled();
     /*! \brief A step was not made, or not all of it; \a reason is for people. */
     void editRefused(const QString &reason);

@@ -3,13 +3,17 @@
 #define CEIECHART_DIAGRAM_DIAGRAMVIEW_P_H
 
 #include <ceiechart/diagram/diagramedit_p.h>
+#include <ceiechart/diagram/diagramhands_p.h>
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramview.h>
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QSet>
 #include <QTimer>
 
+#include <deque>
+#include <functional>
 #include <utility>
 
 class QAccessibleEvent;
@@ -70,14 +74,24 @@ public:
     /*!
      * Emits \a signal and says whether the view is still there, as a slot may delete it. Whoever calls a function that
      * emits and goes on afterwards looks too.
+     *
+     * What is told while Qt hides the view is kept until Qt has done with it, in order.
      */
     template <typename Signal, typename... Args>
     bool tell(Signal signal, const Args &...args)
     {
+        if (isLettingGo) {
+            untold.push_back([this, signal, args...] { Q_EMIT(q->*signal)(args...); });
+            return true;
+        }
         const QPointer<DiagramView> view(q);
+        if (!tellUntold()) {
+            return false;
+        }
         Q_EMIT(q->*signal)(args...);
         return !view.isNull();
     }
+    bool tellUntold();
     bool tellEdit();
 
     // Content
@@ -87,6 +101,7 @@ public:
     void change(const DiagramContent &changed);
     void replace(GamutRole role, const std::vector<Model::ColorGamut> &gamuts);
     void putTarget(const Model::Targets &targets);
+    static DiagramGround groundOf(const QPalette &palette);
     void followPalette();
     QFont textFont() const;
     int decimals() const;
@@ -108,7 +123,9 @@ public:
     QRegion editedRegion(const Model::Targets &before, const Model::Targets &after) const;
     void placeLabel();
     QRectF labelPlace(const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid) const;
-    QRectF placeOfReadout(const QSizeF &size, const QVector<DiagramOverlay::Handle> &handles) const;
+    //! The readout in the corner where it covers least, and not what it is about.
+    void placeReadout();
+    void weighReadoutCorners(const QSizeF &size);
     //! The entries of the label, each a line unless it is wrapped.
     QStringList labelEntries() const;
 
@@ -121,6 +138,8 @@ public:
     void hover(const QPointF &position);
     void endHover();
     void drag(const QPointF &way, Qt::KeyboardModifiers modifiers);
+    //! The diagram has moved below the hand, which held on to \a point: what it drags comes along.
+    void followHand(const QPointF &point);
     bool apply(const EditStep &step);
     bool changesTarget(const TargetMove &move) const;
     //! Says why \a vertex cannot be moved, and whether the view is still there.
@@ -130,13 +149,20 @@ public:
     void selectByKey(GamutVertex vertex);
     //! Takes a drag back; the button or the finger has nothing in its hand any more.
     void endHand();
+    //! Ends all that hands do, of a view that can be used no more. It is told later: Qt is not done with the view.
+    void letGo();
+    //! Ends an edit with the target that was there before it.
+    void takeBack();
     void finishEditing();
     void finishKeys();
+    bool escape();
     void dropLabel();
     void updateCursor();
     bool nudge(QKeyEvent *event);
     bool wants(const QKeyEvent &event) const;
     bool touch(QTouchEvent *event);
+    //! From the whole to a close-up at \a position, and back: what two taps do.
+    void zoomOrShowAll(const QPointF &position);
     bool gesture(QGestureEvent *event);
     bool nativeGesture(QNativeGestureEvent *event);
 
@@ -156,8 +182,8 @@ public:
 
     Hand hand = Hand::Idle;
     Qt::MouseButton button = Qt::NoButton;
-    QPointF lastPosition;
-    bool isClick = false; //!< the hand has not moved since it pressed
+    Grip grip;
+    QPointF slipped; //!< by how much the diagram has moved below a hand that does not drag yet
     QPointF panRest; //!< what is left of a pan by whole device pixels
     std::optional<TargetEdit> edit;
     Model::Targets before; //!< what Esc brings back
@@ -177,8 +203,25 @@ public:
     std::pair<int, int> pinchFingers;
     QPointF pinchMiddle;
     double pinchLength = 0.0;
+    //! What a finger did last on free ground.
+    struct Tap {
+        QElapsedTimer since; //!< not running when it was no tap
+        QPointF at;
+        bool isSecond = false; //!< of the finger that is down
+    };
+    Tap tap;
+    QElapsedTimer sinceScroll; //!< of fingers on a pad
 
     DiagramOverlay overlay;
+    //! A corner where the readout may stand.
+    struct ReadoutCorner {
+        QRectF place;
+        double cost; //!< of what it covers there, but for the pointer
+    };
+    QVector<ReadoutCorner> readoutCorners; //!< the usual one first; empty until they are needed
+
+    bool isLettingGo = false;
+    std::deque<std::function<void()>> untold; //!< the first is told first
 };
 
 //! Makes the view's accessible objects known; once is enough.

@@ -95,7 +95,37 @@ void addCorners(QVector<QPointF> &corners, const QPolygonF &points, bool closed)
     }
 }
 
-void paintPieces(QPainter &painter, const QPolygonF &points, bool closed, QPen pen)
+QRectF widened(const QRectF &bounds, double room)
+{
+    return bounds.adjusted(-room, -room, room, room);
+}
+
+//! How far a line may reach to either side of its points, with caps and smooth edges.
+double roomOf(const QPen &pen)
+{
+    return pen.widthF() + 2.0;
+}
+
+//! Whether some of \a bounds lies in \a needed, which is empty where everything is needed.
+bool isNeeded(const QRectF &bounds, const QRegion &needed)
+{
+    return needed.isEmpty() || needed.intersects((bounds & QRectF(needed.boundingRect())).toAlignedRect());
+}
+
+//! Removes from \a lines those of which nothing is needed. Each line is painted by itself, so that the rest stays as it
+//! is.
+void keepNeeded(QVector<QLineF> &lines, const QPen &pen, const QRegion &needed)
+{
+    if (!needed.isEmpty()) {
+        lines.erase(std::remove_if(lines.begin(), lines.end(),
+                        [&, room = roomOf(pen)](const QLineF &line) {
+                            return !isNeeded(widened(QRectF(line.p1(), line.p2()).normalized(), room), needed);
+                        }),
+            lines.end());
+    }
+}
+
+void paintPieces(QPainter &painter, const QPolygonF &points, bool closed, QPen pen, const QRegion &needed)
 {
     QVector<QLineF> pieces;
     QVector<QPointF> corners;
@@ -114,12 +144,15 @@ void paintPieces(QPainter &painter, const QPolygonF &points, bool closed, QPen p
         pen.setStyle(Qt::SolidLine);
     }
     pen.setCapStyle(Qt::FlatCap);
+    keepNeeded(pieces, pen, needed);
     painter.setPen(pen);
     painter.drawLines(pieces);
     painter.setPen(Qt::NoPen);
     painter.setBrush(pen.color());
     for (const QPointF &corner : corners) {
-        painter.drawEllipse(corner, pen.widthF() / 2.0, pen.widthF() / 2.0);
+        if (isNeeded(widened(QRectF(corner, corner), roomOf(pen)), needed)) {
+            painter.drawEllipse(corner, pen.widthF() / 2.0, pen.widthF() / 2.0);
+        }
     }
 }
 
@@ -142,52 +175,69 @@ QSizeF TextStyle::designedSize(const QString &text) const
 
 void DrawList::hairline(const QLineF &line, const QColor &color)
 {
-    m_items.push_back(Hairline{line, color});
+    constexpr double room = 2.0; // for the way to whole pixels
+    m_items.push_back({widened(QRectF(line.p1(), line.p2()).normalized(), room), Hairline{line, color}});
 }
 
 void DrawList::line(const QPolygonF &points, bool closed, const QPen &pen)
 {
-    m_items.push_back(Line{points, closed, pen});
+    m_items.push_back({widened(points.boundingRect(), roomOf(pen)), Line{points, closed, pen}});
 }
 
 void DrawList::lines(const QVector<QLineF> &lines, const QPen &pen)
 {
-    m_items.push_back(Lines{lines, pen});
+    QPolygonF ends;
+    for (const QLineF &line : lines) {
+        ends << line.p1() << line.p2();
+    }
+    m_items.push_back({widened(ends.boundingRect(), roomOf(pen)), Lines{lines, pen}});
 }
 
 void DrawList::shape(const QPainterPath &path, const QPen &pen, const QBrush &brush)
 {
-    m_items.push_back(Shape{path, pen, brush});
+    m_items.push_back({widened(path.controlPointRect(), roomOf(pen)), Shape{path, pen, brush}});
 }
 
 void DrawList::ellipse(const QPointF &centre, double radiusX, double radiusY, const QPen &pen, const QBrush &brush)
 {
-    m_items.push_back(Ellipse{centre, radiusX, radiusY, pen, brush});
+    const QPointF reach(radiusX, radiusY);
+    m_items.push_back(
+        {widened(QRectF(centre - reach, centre + reach), roomOf(pen)), Ellipse{centre, radiusX, radiusY, pen, brush}});
 }
 
 void DrawList::text(
     const QPointF &at, const QString &text, const TextStyle &style, const QColor &color, const QColor &casing)
 {
-    m_items.push_back(Text{at, text, style.font(), style.unit(), style.pixelSize(), color, casing});
+    addText(at, QRectF(at - QPointF(0.0, style.ascent()), style.size(text)), text, style, color, casing);
 }
 
 void DrawList::textIn(
     const QRectF &place, const QString &text, const TextStyle &style, const QColor &color, const QColor &casing)
 {
-    this->text(QPointF(place.left(), place.top() + style.ascent()), text, style, color, casing);
+    addText(QPointF(place.left(), place.top() + style.ascent()), place, text, style, color, casing);
 }
 
-void DrawList::paint(QPainter *painter) const
+void DrawList::addText(const QPointF &at, const QRectF &place, const QString &text, const TextStyle &style,
+    const QColor &color, const QColor &casing)
+{
+    // Glyphs may lean out of their place, and marks be stacked above letters.
+    m_items.push_back({widened(place, casingWidth + style.height() / 2.0),
+        Text{at, text, style.font(), style.unit(), style.pixelSize(), color, casing}});
+}
+
+void DrawList::paint(QPainter *painter, const QRegion &needed) const
 {
     painter->save();
     painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    for (const auto &item : m_items) {
-        std::visit([painter](const auto &which) { paintItem(painter, which); }, item);
+    for (const Item &item : m_items) {
+        if (isNeeded(item.bounds, needed)) {
+            std::visit([&](const auto &which) { paintItem(painter, which, needed); }, item.what);
+        }
     }
     painter->restore();
 }
 
-void DrawList::paintItem(QPainter *painter, const Hairline &item)
+void DrawList::paintItem(QPainter *painter, const Hairline &item, const QRegion & /*needed*/)
 {
     if (!hasPixels(*painter)) {
         painter->setPen(QPen(item.color, 1.0, Qt::SolidLine, Qt::FlatCap));
@@ -212,10 +262,10 @@ void DrawList::paintItem(QPainter *painter, const Hairline &item)
     painter->fillRect(transform.inverted().mapRect(pixels), item.color);
 }
 
-void DrawList::paintItem(QPainter *painter, const Line &item)
+void DrawList::paintItem(QPainter *painter, const Line &item, const QRegion &needed)
 {
     if (isRaster(*painter)) {
-        paintPieces(*painter, item.points, item.closed, item.pen);
+        paintPieces(*painter, item.points, item.closed, item.pen, needed);
         return;
     }
     painter->setPen(item.pen);
@@ -227,20 +277,22 @@ void DrawList::paintItem(QPainter *painter, const Line &item)
     }
 }
 
-void DrawList::paintItem(QPainter *painter, const Lines &item)
+void DrawList::paintItem(QPainter *painter, const Lines &item, const QRegion &needed)
 {
+    QVector<QLineF> lines = item.lines;
+    keepNeeded(lines, item.pen, needed);
     painter->setPen(item.pen);
-    painter->drawLines(item.lines);
+    painter->drawLines(lines);
 }
 
-void DrawList::paintItem(QPainter *painter, const Shape &item)
+void DrawList::paintItem(QPainter *painter, const Shape &item, const QRegion & /*needed*/)
 {
     painter->setPen(item.pen);
     painter->setBrush(item.brush);
     painter->drawPath(item.path);
 }
 
-void DrawList::paintItem(QPainter *painter, const Ellipse &item)
+void DrawList::paintItem(QPainter *painter, const Ellipse &item, const QRegion &needed)
 {
     constexpr double large = 20.0;
     if (item.brush == Qt::NoBrush && isRaster(*painter) && std::max(item.radiusX, item.radiusY) > large) {
@@ -250,7 +302,7 @@ void DrawList::paintItem(QPainter *painter, const Ellipse &item)
             const double angle = 2.0 * M_PI * i / count;
             points.append(item.centre + QPointF(item.radiusX * std::cos(angle), item.radiusY * std::sin(angle)));
         }
-        paintPieces(*painter, points, true, item.pen);
+        paintPieces(*painter, points, true, item.pen, needed);
         return;
     }
     painter->setPen(item.pen);
@@ -258,7 +310,7 @@ void DrawList::paintItem(QPainter *painter, const Ellipse &item)
     painter->drawEllipse(item.centre, item.radiusX, item.radiusY);
 }
 
-void DrawList::paintItem(QPainter *painter, const Text &item)
+void DrawList::paintItem(QPainter *painter, const Text &item, const QRegion & /*needed*/)
 {
     if (item.casing.isValid() && isRaster(*painter) && item.unit == 1.0) {
         // The glyphs are kept as pictures: to put them down eight times is faster than to stroke their outlines once.

@@ -10,6 +10,7 @@
 #include <QPainterPath>
 #include <QPen>
 #include <QPolygonF>
+#include <QRegion>
 #include <QString>
 
 #include <variant>
@@ -73,7 +74,12 @@ public:
     void textIn(const QRectF &place, const QString &text, const TextStyle &style, const QColor &color,
         const QColor &casing = QColor());
 
-    void paint(QPainter *painter) const;
+    /*!
+     * \brief Paints all of it, or what can be seen within \a needed.
+     *
+     * Nothing is clipped: what reaches beyond \a needed does so, on a painter that does not clip.
+     */
+    void paint(QPainter *painter, const QRegion &needed = QRegion()) const;
 
 private:
     struct Hairline {
@@ -110,14 +116,20 @@ private:
         QColor color;
         QColor casing;
     };
-    static void paintItem(QPainter *painter, const Hairline &item);
-    static void paintItem(QPainter *painter, const Line &item);
-    static void paintItem(QPainter *painter, const Lines &item);
-    static void paintItem(QPainter *painter, const Shape &item);
-    static void paintItem(QPainter *painter, const Ellipse &item);
-    static void paintItem(QPainter *painter, const Text &item);
+    struct Item {
+        QRectF bounds; // with the width of the pen
+        std::variant<Hairline, Line, Lines, Shape, Ellipse, Text> what;
+    };
+    void addText(const QPointF &at, const QRectF &place, const QString &text, const TextStyle &style,
+        const QColor &color, const QColor &casing);
+    static void paintItem(QPainter *painter, const Hairline &item, const QRegion &needed);
+    static void paintItem(QPainter *painter, const Line &item, const QRegion &needed);
+    static void paintItem(QPainter *painter, const Lines &item, const QRegion &needed);
+    static void paintItem(QPainter *painter, const Shape &item, const QRegion &needed);
+    static void paintItem(QPainter *painter, const Ellipse &item, const QRegion &needed);
+    static void paintItem(QPainter *painter, const Text &item, const QRegion &needed);
 
-    std::vector<std::variant<Hairline, Line, Lines, Shape, Ellipse, Text>> m_items;
+    std::vector<Item> m_items;
 };
 
 } // namespace ceiechart

@@ -27,6 +27,12 @@ inline bool isFinite(const QRectF &rectangle)
     return isFinite(rectangle.topLeft()) && std::isfinite(rectangle.width()) && std::isfinite(rectangle.height());
 }
 
+/*! \brief Whether all corners of \a polygon are finite. */
+inline bool isFinite(const QPolygonF &polygon)
+{
+    return std::all_of(polygon.cbegin(), polygon.cend(), [](const QPointF &point) { return isFinite(point); });
+}
+
 /*!
  * \brief Whether \a polygon can be clipped, and the columns that it covers be computed.
  *

@@ -18,7 +18,8 @@
 //   error. The sum is 6uM; 7uM includes the terms of second order.
 // - The sum of the amounts is 1, therefore L ≥ 1/3, and c ≤ L. An error e of the amounts changes v by at most
 //   255 (e / L + c e / L²), which is at most 1530 e.
-// - The rounding of the quotient 255 / L, of its product with c and of the sum with 0.5 gives less than 900u in total.
+// - The rounding of the quotient 255 / L and of its product with c gives less than 900u in total. The nearest whole
+//   number and the difference from it are exact.
 // - The errors of the definition in double precision, and of the interpolation between the ends of the row, are below
 //   1e-9 if the colour system is well-conditioned and M is small. Otherwise the whole row is computed in double
 //   precision.
@@ -30,12 +31,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <initializer_list>
 #include <iterator>
 #include <utility>
 
 #if defined(__GNUC__) && defined(__x86_64__)
 #define CEIECHART_FILL_X86 1
+#ifndef __clang__
+#define CEIECHART_FILL_AVX512 1 // only GCC can be told to use registers of 512 bits for one function
+#endif
 #endif
 
 namespace ceiechart {
@@ -46,14 +51,24 @@ constexpr int runLength = 64; //!< pixels
 constexpr double largestAmount = 8.0; //!< the error estimate holds up to this amount
 constexpr double roundingUnit = 1.0 / (1 << 24);
 
+inline unsigned bitsOf(float value)
+{
+    unsigned bits;
+    static_assert(sizeof bits == sizeof value, "bits of a float");
+    std::memcpy(&bits, &value, sizeof bits);
+    return bits;
+}
+
 #ifdef __GNUC__
 __attribute__((always_inline))
 #endif
 inline bool
 decideRun(const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
 {
-    const float above = run.margin;
-    const float below = 1.0F - run.margin;
+    // A sum with this number has the nearest whole number in its lowest bits.
+    constexpr float wholes = 12582912.0F; // 1.5 * 2^23
+    constexpr unsigned wholesBits = 0x4b400000U;
+    const float farthest = 0.5F - run.margin;
     unsigned any = 0;
     for (int k = 0; k < count; ++k) {
         const auto step = static_cast<float>(k);
@@ -70,21 +85,24 @@ decideRun(const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
         largest = blue > largest ? blue : largest;
 
         const float scale = 255.0F / largest;
-        red = red * scale + 0.5F;
-        green = green * scale + 0.5F;
-        blue = blue * scale + 0.5F;
-        const int wholeRed = static_cast<int>(red);
-        const int wholeGreen = static_cast<int>(green);
-        const int wholeBlue = static_cast<int>(blue);
-        const float restRed = red - static_cast<float>(wholeRed);
-        const float restGreen = green - static_cast<float>(wholeGreen);
-        const float restBlue = blue - static_cast<float>(wholeBlue);
+        red *= scale;
+        green *= scale;
+        blue *= scale;
+        const float nearRed = red + wholes;
+        const float nearGreen = green + wholes;
+        const float nearBlue = blue + wholes;
+        const float offRed = std::fabs(red - (nearRed - wholes));
+        const float offGreen = std::fabs(green - (nearGreen - wholes));
+        const float offBlue = std::fabs(blue - (nearBlue - wholes));
+        float off = offGreen > offRed ? offGreen : offRed;
+        off = offBlue > off ? offBlue : off;
 
-        const unsigned near = unsigned(restRed < above) | unsigned(restRed > below) | unsigned(restGreen < above)
-            | unsigned(restGreen > below) | unsigned(restBlue < above) | unsigned(restBlue > below);
+        const auto near = unsigned(off > farthest);
         undecided[k] = near;
         any |= near;
-        colors[k] = 0xff000000U | unsigned(wholeRed) << 16 | unsigned(wholeGreen) << 8 | unsigned(wholeBlue);
+        // What is above the lowest byte of each is the same for all pixels, or shifted out.
+        colors[k] = (bitsOf(nearRed) << 16) + (bitsOf(nearGreen) << 8) + bitsOf(nearBlue)
+            + (0xff000000U - (wholesBits << 8) - wholesBits);
     }
     return any != 0;
 }
@@ -108,6 +126,20 @@ __attribute__((target("avx2"))) bool decideAvx2(const PixelRun &run, int count, 
 bool hasAvx2()
 {
     return __builtin_cpu_supports("avx2") != 0;
+}
+#endif
+
+#ifdef CEIECHART_FILL_AVX512
+__attribute__((target("avx512f,avx512bw,avx512dq,avx512vl,prefer-vector-width=512"))) bool decideAvx512(
+    const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
+{
+    return decideRun(run, count, colors, undecided);
+}
+
+bool hasAvx512()
+{
+    return __builtin_cpu_supports("avx512f") != 0 && __builtin_cpu_supports("avx512bw") != 0
+        && __builtin_cpu_supports("avx512dq") != 0 && __builtin_cpu_supports("avx512vl") != 0;
 }
 #endif
 
@@ -176,6 +208,9 @@ double decisionMargin(double magnitude)
 }
 
 const FillKernel fillKernels[] = {
+#ifdef CEIECHART_FILL_AVX512
+    {"AVX-512", hasAvx512, decideAvx512},
+#endif
 #ifdef CEIECHART_FILL_X86
     {"AVX2", hasAvx2, decideAvx2},
 #endif

@@ -3,13 +3,31 @@
 #define CEIECHART_DIAGRAM_POLYLINES_P_H
 
 #include <QLineF>
+#include <QPainterPath>
 #include <QPolygonF>
 #include <QRectF>
 
+#include <cmath>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace ceiechart {
+
+/*! \brief The length of the way \a way. */
+inline double length(const QPointF &way)
+{
+    return std::hypot(way.x(), way.y());
+}
+
+/*! \brief The outline of the polygon with \a corners. */
+inline QPainterPath closedPath(const QPolygonF &corners)
+{
+    QPainterPath path;
+    path.addPolygon(corners);
+    path.closeSubpath();
+    return path;
+}
 
 /*! \brief A part of a line that lies within a rectangle. */
 struct LinePart {

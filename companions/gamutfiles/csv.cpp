@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "csv_p.h"
 
-#include <QCoreApplication>
+#include "numbers_p.h"
+
+#include <algorithm>
 
 namespace gamutfiles {
 
@@ -9,90 +11,159 @@ namespace {
 
 constexpr QChar quote = QLatin1Char('"');
 
-struct CsvText {
-    Q_DECLARE_TR_FUNCTIONS(gamutfiles::CsvTable)
+//! Where reading stands.
+struct Position {
+    int index = 0;
+    int line = 1;
 };
 
-//! Skips blank lines and comments; returns whether there is anything after them.
-bool skipIdleLines(const QString &text, int &position, int &line)
+int lineEnd(const QString &text, int index)
 {
-    while (position < text.size()) {
-        int end = text.indexOf(QLatin1Char('\n'), position);
-        end = end < 0 ? text.size() : end;
-        const QString content = text.mid(position, end - position).trimmed();
-        if (!content.isEmpty() && content.front() != QLatin1Char('#')) {
+    const int end = int(text.indexOf(QLatin1Char('\n'), index));
+    return end < 0 ? int(text.size()) : end;
+}
+
+//! Skips blank lines and comments; returns whether there is anything after them.
+bool skipIdleLines(const QString &text, Position &position)
+{
+    while (position.index < text.size()) {
+        const int end = lineEnd(text, position.index);
+        int first = position.index;
+        while (first < end && text.at(first).isSpace() && text.at(first) != QLatin1Char('\t')) {
+            ++first;
+        }
+        const bool blank
+            = std::all_of(text.constBegin() + first, text.constBegin() + end, [](QChar c) { return c.isSpace(); });
+        if (!blank && text.at(first) != QLatin1Char('#')) {
             return true;
         }
-        position = end + 1;
-        ++line;
+        position.index = end + 1;
+        ++position.line;
     }
     return false;
 }
 
-QChar separatorOf(const QString &text, int position)
+//! The separator that a spreadsheet's line "sep=;" at the beginning names; \a position is moved behind it.
+std::optional<QChar> namedSeparator(const QString &text, Position &position)
 {
-    QString bare;
-    bool quoted = false;
-    for (; position < text.size() && (quoted || text[position] != QLatin1Char('\n')); ++position) {
-        quoted ^= text[position] == quote;
-        if (!quoted) {
-            bare += text[position];
-        }
+    const int end = lineEnd(text, 0);
+    QString line = text.left(std::min(end, 16));
+    if (line.startsWith(quote)) { // quoted as a whole when the spreadsheet took it for text
+        line.remove(quote);
     }
-    for (const char separator : {'\t', ';'}) {
-        if (bare.contains(QLatin1Char(separator))) {
-            return QLatin1Char(separator);
+    // A tab at the end of the line is the separator itself, other trailing characters are padding of empty columns.
+    if (!line.startsWith(QLatin1String("sep="), Qt::CaseInsensitive) || line.size() < 5) {
+        return std::nullopt;
+    }
+    const QChar separator = line.mid(4, 2) == QLatin1String("\\t") ? QLatin1Char('\t') : line.at(4);
+    if (separator.isLetterOrNumber() || separator == quote) {
+        return std::nullopt;
+    }
+    position = {end + 1, 2};
+    return separator;
+}
+
+QChar separatorOfFirstRecord(const QString &text, Position position)
+{
+    if (skipIdleLines(text, position)) {
+        QString bare;
+        bool quoted = false;
+        for (int i = position.index; i < text.size() && (quoted || text.at(i) != QLatin1Char('\n')); ++i) {
+            quoted ^= text.at(i) == quote;
+            if (!quoted) {
+                bare += text.at(i);
+            }
+        }
+        for (const char separator : {'\t', ';'}) {
+            if (bare.contains(QLatin1Char(separator))) {
+                return QLatin1Char(separator);
+            }
         }
     }
     return QLatin1Char(',');
 }
 
-} // namespace
-
-Outcome<CsvTable> readCsv(const QByteArray &utf8)
+//! The fields of the record at \a position; nothing when a quote is never closed.
+std::optional<QStringList> readRecord(const QString &text, Position &position, QChar separator)
 {
-    const QByteArray body = utf8.startsWith("\xEF\xBB\xBF") ? utf8.mid(3) : utf8;
-    QString text = QString::fromUtf8(body.constData(), body.size());
-    if (text.toUtf8() != body || text.contains(QChar(0))) {
-        return Outcome<CsvTable>::failure(CsvText::tr("is not UTF-8 text"));
+    QStringList fields{QString()};
+    bool quoted = false;
+    bool blank = true; // whether the field has nothing but white space
+    for (; position.index < text.size() && (quoted || text.at(position.index) != QLatin1Char('\n')); ++position.index) {
+        const QChar c = text.at(position.index);
+        QString &field = fields.last();
+        if (c == QLatin1Char('\n')) {
+            ++position.line;
+        }
+        const bool doubled = position.index + 1 < text.size() && text.at(position.index + 1) == quote;
+        if (quoted && c == quote && doubled) {
+            field += quote;
+            ++position.index;
+        } else if (c == quote && (quoted || blank)) {
+            quoted = !quoted;
+            field = quoted ? QString() : field;
+            blank = false;
+        } else if (c == separator && !quoted) {
+            fields.append(QString());
+            blank = true;
+        } else {
+            field += c;
+            blank = blank && c.isSpace();
+        }
     }
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    ++position.index;
+    ++position.line;
+    return quoted ? std::nullopt : std::make_optional(fields);
+}
 
-    CsvTable table;
-    int position = 0;
-    int line = 1;
-    while (skipIdleLines(text, position, line)) {
-        if (table.rows.isEmpty()) {
-            table.separator = separatorOf(text, position);
+CsvTable readTable(const QString &text, Position position, QChar separator)
+{
+    CsvTable table{separator, {}, 0};
+    while (skipIdleLines(text, position)) {
+        const int line = position.line;
+        const auto fields = readRecord(text, position, separator);
+        if (!fields) {
+            table.unterminatedLine = line;
+            break;
         }
-        CsvRow row{line, {QString()}};
-        bool quoted = false;
-        for (; position < text.size() && (quoted || text[position] != QLatin1Char('\n')); ++position) {
-            const QChar c = text[position];
-            QString &field = row.fields.last();
-            if (c == QLatin1Char('\n')) {
-                ++line;
-            }
-            if (quoted && c == quote && position + 1 < text.size() && text[position + 1] == quote) {
-                field += quote;
-                ++position;
-            } else if (c == quote && (quoted || field.trimmed().isEmpty())) {
-                quoted = !quoted;
-                field = quoted ? QString() : field;
-            } else if (c == table.separator && !quoted) {
-                row.fields.append(QString());
-            } else {
-                field += c;
-            }
-        }
-        if (quoted) {
-            return Outcome<CsvTable>::failure(CsvText::tr("line %1: unterminated quote").arg(row.line));
-        }
-        table.rows.append(row);
-        ++position;
-        ++line;
+        table.rows.append({line, *fields});
     }
     return table;
+}
+
+int recordsOfNumbers(const CsvTable &table)
+{
+    return int(std::count_if(table.rows.begin(), table.rows.end(), [](const CsvRow &row) {
+        int numbers = 0;
+        for (int i = 0; i < row.fields.size() && numbers < 3; ++i) {
+            numbers += decimalEvidence(row.fields.at(i)) == DecimalEvidence::NotANumber ? 0 : 1;
+        }
+        return numbers >= 3;
+    }));
+}
+
+} // namespace
+
+CsvTable readCsv(const QString &raw, std::optional<QChar> separator)
+{
+    QString text = raw;
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    Position begin;
+    const auto named = namedSeparator(text, begin);
+    if (separator || named) {
+        return readTable(text, begin, separator ? *separator : *named);
+    }
+    CsvTable best;
+    int most = 0;
+    for (const char candidate : {'\t', ';', ','}) {
+        const CsvTable table = readTable(text, begin, QLatin1Char(candidate));
+        const int records = recordsOfNumbers(table);
+        if (records > most) {
+            best = table;
+            most = records;
+        }
+    }
+    return most > 0 ? best : readTable(text, begin, separatorOfFirstRecord(text, begin));
 }
 
 } // namespace gamutfiles

@@ -2,11 +2,11 @@
 #ifndef GAMUTFILES_CSV_P_H
 #define GAMUTFILES_CSV_P_H
 
-#include <gamutfiles/outcome.h>
-
-#include <QByteArray>
+#include <QString>
 #include <QStringList>
 #include <QVector>
+
+#include <optional>
 
 namespace gamutfiles {
 
@@ -16,19 +16,22 @@ struct CsvRow {
     QStringList fields;
 };
 
-/*! \brief The records of a CSV text, without empty lines and lines that begin with #. */
+/*! \brief The records of a CSV text, without empty lines, lines that begin with # and a line that names the separator.
+ */
 struct CsvTable {
     QChar separator;
     QVector<CsvRow> rows;
+    int unterminatedLine = 0; //!< where the record begins, not among \a rows, that has a quote never closed; 0: none
 };
 
 /*!
- * \brief Reads \a utf8 by RFC 4180, with or without a byte order mark, with any line ends.
+ * \brief Reads \a text by RFC 4180, with any line ends.
  *
- * Fields are separated by tabs, semicolons or commas: the first of the three, in this order, that the first record has
- * outside of quotes. Refused are text that is not UTF-8, and a quote that is never closed.
+ * Fields are separated by \a separator, or else by the character that a first line such as "sep=;" names, or else by
+ * tabs, semicolons or commas: the one that finds the most records with three numbers or more. If none finds any it is
+ * the first of the three, in this order, that the first record has outside of quotes.
  */
-Outcome<CsvTable> readCsv(const QByteArray &utf8);
+CsvTable readCsv(const QString &text, std::optional<QChar> separator = {});
 
 } // namespace gamutfiles
 

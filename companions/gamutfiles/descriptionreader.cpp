@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "descriptionreader_p.h"
 
-#include "gamutfromprimaries_p.h"
 #include <gamutfiles/filebytes.h>
 #include <gamutmodel/gamutcoverage.h>
 
-#include <QSet>
+#include <QJsonArray>
 
 namespace gamutfiles {
 
@@ -56,26 +55,42 @@ void DescriptionReader::readDescription(const Node &node)
     m_description.name = readString(member(node, QStringLiteral("name")));
     m_description.notes = readString(member(node, QStringLiteral("notes")));
 
+    const QSet<QString> spaces = colorSpaces(node);
     QSet<QString> names;
     for (const Node &element : elements(member(node, QStringLiteral("gamuts")))) {
-        m_description.gamuts.push_back(readGamut(element));
+        const QString given = member(element, QStringLiteral("name")).value.toString();
+        m_description.gamuts.push_back(
+            readGamut(element, spaces.contains(given) ? PrimariesOf::ColorSpace : PrimariesOf::Display));
         const QString name = QString::fromStdString(m_description.gamuts.back().colorGamutName());
         if (names.contains(name)) {
             fail(member(element, QStringLiteral("name")), tr("there is already a gamut named %1").arg(quoted(name)));
         }
         names.insert(name);
     }
-    m_description.original = readGamutReference(member(node, QStringLiteral("original")));
+    m_description.original = readDisplayReference(member(node, QStringLiteral("original")));
     m_description.declared = readGamutReference(member(node, QStringLiteral("declared")));
-    m_description.measured = readGamutReference(member(node, QStringLiteral("measured")));
-    m_description.target = readGamutReference(member(node, QStringLiteral("target")));
+    m_description.measured = readDisplayReference(member(node, QStringLiteral("measured")));
+    m_description.target = readDisplayReference(member(node, QStringLiteral("target")));
     m_description.standards = readStandards(member(node, QStringLiteral("standards")));
     m_description.colorTemperaturePoints = readPoints(member(node, QStringLiteral("colorTemperaturePoints")));
     m_description.measurePoints = readPoints(member(node, QStringLiteral("measurePoints")));
     m_description.cmyPoints = readPoints(member(node, QStringLiteral("cmyPoints")));
 }
 
-DisplayGamut DescriptionReader::readGamut(const Node &node)
+//! The names of the gamuts that are declared or standards, and nothing that a display shows.
+QSet<QString> DescriptionReader::colorSpaces(const Node &node)
+{
+    QSet<QString> names{member(node, QStringLiteral("declared")).value.toString()};
+    for (const QJsonValue &standard : member(node, QStringLiteral("standards")).value.toArray()) {
+        names.insert(standard.toString());
+    }
+    for (const QString &part : {QStringLiteral("original"), QStringLiteral("measured"), QStringLiteral("target")}) {
+        names.remove(member(node, part).value.toString());
+    }
+    return names;
+}
+
+DisplayGamut DescriptionReader::readGamut(const Node &node, PrimariesOf kind)
 {
     if (!checkObject(node,
             {{QStringLiteral("name"), true}, {QStringLiteral("red"), true}, {QStringLiteral("green"), true},
@@ -84,12 +99,20 @@ DisplayGamut DescriptionReader::readGamut(const Node &node)
     }
     const QString name = readName(member(node, QStringLiteral("name")));
     Model::Targets targets;
-    targets.red = readTarget(member(node, QStringLiteral("red")));
-    targets.green = readTarget(member(node, QStringLiteral("green")));
-    targets.blue = readTarget(member(node, QStringLiteral("blue")));
-    targets.white = readTarget(member(node, QStringLiteral("white")));
+    targets.red = readTarget(member(node, QStringLiteral("red")), kind);
+    targets.green = readTarget(member(node, QStringLiteral("green")), kind);
+    targets.blue = readTarget(member(node, QStringLiteral("blue")), kind);
+    targets.white = readTarget(member(node, QStringLiteral("white")), PrimariesOf::Display);
     if (!Model::spanTriangle(targets)) {
         fail(node, noTriangleText());
+    }
+    if (!hasRealPrimaries(targets)) {
+        const auto xy = [](const Model::Target &color) { return QPointF(color.x, color.y); };
+        const auto mixed = gamutFromPrimaries(
+            name, {xy(targets.red), xy(targets.green), xy(targets.blue), xy(targets.white)}, 1.0, kind);
+        if (!mixed) {
+            fail(node, mixed.error());
+        }
     }
     return {Model::ColorGamut(name.toStdString(), targets), readUnit(member(node, luminanceUnitKey()))};
 }
@@ -111,17 +134,20 @@ LuminanceUnit DescriptionReader::readUnit(const Node &node)
     return LuminanceUnit::NotKnown;
 }
 
-Model::Target DescriptionReader::readTarget(const Node &node)
+Model::Target DescriptionReader::readTarget(const Node &node, PrimariesOf kind)
 {
     if (!checkObject(node, {{QStringLiteral("Y"), true}, {QStringLiteral("x"), true}, {QStringLiteral("y"), true}})) {
         return {};
     }
     const Node luminance = member(node, QStringLiteral("Y"));
     const double value = readNumber(luminance);
-    if (value < 0.0) {
+    const QPointF xy = readChromaticity(node, kind);
+    if (xy.y() > 0.0 && value < 0.0) {
         fail(luminance, tr("luminance must not be negative"));
     }
-    const QPointF xy = readChromaticity(node);
+    if (xy.y() < 0.0 && value > 0.0) {
+        fail(luminance, tr("luminance must not be positive where y is negative"));
+    }
     return Model::Target::fromYxy(value, xy.x(), xy.y());
 }
 
@@ -149,6 +175,17 @@ QString DescriptionReader::readGamutReference(const Node &node)
     return name;
 }
 
+//! The name of a gamut that a display shows or is meant to show.
+QString DescriptionReader::readDisplayReference(const Node &node)
+{
+    QString name = readGamutReference(node);
+    const auto gamut = m_description.gamut(name);
+    if (gamut && !hasRealPrimaries(gamut->getTargets())) {
+        fail(node, tr("no display can show %1: it has primaries with x < 0, y <= 0 or x + y > 1").arg(quoted(name)));
+    }
+    return name;
+}
+
 QStringList DescriptionReader::readStandards(const Node &node)
 {
     QStringList standards;
@@ -165,11 +202,17 @@ QStringList DescriptionReader::readStandards(const Node &node)
     return standards;
 }
 
-QPointF DescriptionReader::readChromaticity(const Node &node)
+QPointF DescriptionReader::readChromaticity(const Node &node, PrimariesOf kind)
 {
     const Node x = member(node, QStringLiteral("x"));
     const Node y = member(node, QStringLiteral("y"));
     const QPointF xy(readNumber(x), readNumber(y));
+    if (kind == PrimariesOf::ColorSpace) {
+        if (!isPrimary(xy, kind)) {
+            fail(node, tr("x and y must be from -1 to 2, y not 0 and -2x + 12y + 3 greater than 0"));
+        }
+        return xy;
+    }
     if (xy.x() < 0.0) {
         fail(x, tr("a chromaticity coordinate must not be negative"));
     }

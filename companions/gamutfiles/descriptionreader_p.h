@@ -2,10 +2,12 @@
 #ifndef GAMUTFILES_DESCRIPTIONREADER_P_H
 #define GAMUTFILES_DESCRIPTIONREADER_P_H
 
+#include "gamutfromprimaries_p.h"
 #include "jsonreader_p.h"
 #include <gamutfiles/descriptionfile.h>
 
 #include <QCoreApplication>
+#include <QSet>
 #include <optional>
 
 namespace gamutfiles {
@@ -29,13 +31,15 @@ public:
 
 private:
     void readDescription(const Node &node);
-    DisplayGamut readGamut(const Node &node);
+    static QSet<QString> colorSpaces(const Node &node);
+    DisplayGamut readGamut(const Node &node, PrimariesOf kind);
     LuminanceUnit readUnit(const Node &node);
-    Model::Target readTarget(const Node &node);
+    Model::Target readTarget(const Node &node, PrimariesOf kind);
     QVector<NamedPoint> readPoints(const Node &node);
     QString readGamutReference(const Node &node);
+    QString readDisplayReference(const Node &node);
     QStringList readStandards(const Node &node);
-    QPointF readChromaticity(const Node &node);
+    QPointF readChromaticity(const Node &node, PrimariesOf kind = PrimariesOf::Display);
 
     DisplayDescription m_description;
 };

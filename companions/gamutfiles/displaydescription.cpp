@@ -1,9 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/displaydescription.h>
 
+#include "gamutfromprimaries_p.h"
+
+#include <gamutmodel/publishedgamuts.h>
+
 #include <algorithm>
 
 namespace gamutfiles {
+
+bool hasRealPrimaries(const Model::Targets &gamut)
+{
+    const auto isReal = [](const Model::Target &color) { return isPrimary({color.x, color.y}, PrimariesOf::Display); };
+    return isReal(gamut.red) && isReal(gamut.green) && isReal(gamut.blue);
+}
 
 std::optional<DisplayGamut> DisplayDescription::gamut(const QString &gamutName) const
 {
@@ -13,10 +23,11 @@ std::optional<DisplayGamut> DisplayDescription::gamut(const QString &gamutName) 
     if (own != gamuts.end()) {
         return *own;
     }
-    const std::vector<Model::ColorGamut> published = Model::standardGamuts();
-    const auto standard = std::find_if(published.begin(), published.end(), isWanted);
+    const std::vector<Model::PublishedGamut> &published = Model::publishedGamuts();
+    const auto standard = std::find_if(published.begin(), published.end(),
+        [&isWanted](const Model::PublishedGamut &candidate) { return isWanted(candidate.gamut); });
     return standard == published.end() ? std::nullopt
-                                       : std::make_optional(DisplayGamut(*standard, LuminanceUnit::Relative));
+                                       : std::make_optional(DisplayGamut(standard->gamut, LuminanceUnit::Relative));
 }
 
 std::vector<DisplayGamut> DisplayDescription::allStandards() const

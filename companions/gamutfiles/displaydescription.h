@@ -28,6 +28,16 @@ enum class LuminanceUnit {
     CandelaPerSquareMetre //!< cd/m²
 };
 
+/*!
+ * \brief Whether every primary of \a gamut is a chromaticity that light can have by its numbers: x >= 0, y > 0 and
+ * x + y <= 1.
+ *
+ * Colour spaces may have others, such as ACES2065-1, whose blue has y < 0 and therefore a luminance below 0. They serve
+ * as declared gamut and as standards, but no display shows or is meant to show them: not as original, measured or
+ * target.
+ */
+GAMUTFILES_EXPORT bool hasRealPrimaries(const Model::Targets &gamut);
+
 /*! \brief A gamut of a display, with what its luminances mean. */
 class DisplayGamut : public Model::ColorGamut {
 public:
@@ -65,12 +75,13 @@ struct DisplayDescription {
     QVector<NamedPoint> cmyPoints; //!< cyan, magenta and yellow, in this order
 
     /*!
-     * \brief The gamut that \a gamutName stands for: the description's own, or else the published gamut of that
-     * name (Model::standardGamuts()); nothing when there is neither.
+     * \brief The gamut that \a gamutName stands for: the description's own, or else the published gamut of exactly
+     * that name (Model::publishedGamuts()); nothing when there is neither.
      */
     GAMUTFILES_EXPORT std::optional<DisplayGamut> gamut(const QString &gamutName) const;
 
-    /*! \brief The gamuts to compare with: the description's standards, then each other published gamut. */
+    /*! \brief The gamuts to compare with: the description's standards, then the other ones of Model::standardGamuts().
+     */
     GAMUTFILES_EXPORT std::vector<DisplayGamut> allStandards() const;
 };
 

@@ -1,23 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/edid.h>
 
+#include "edidextensions_p.h"
 #include "gamutfromprimaries_p.h"
 
+#include <gamutmodel/publishedgamuts.h>
+
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 #include <colord.h>
 
+#include <cmath>
 #include <memory>
-#include <numeric>
 
 namespace gamutfiles {
 
 namespace {
 
-constexpr int blockSize = 128;
+constexpr int weekByte = 16;
+constexpr int yearByte = 17;
+constexpr int gammaByte = 23;
+constexpr int featuresByte = 24;
 const QByteArray header("\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00", 8);
 
-using Failure = Outcome<DisplayGamut>;
+using Failure = Outcome<EdidDisplay>;
 
 struct EdidText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::Edid)
@@ -34,7 +41,7 @@ QPointF chromaticity(const CdColorYxy *color)
     return {color->x, color->y};
 }
 
-QString displayName(CdEdid *edid)
+QString monitorName(CdEdid *edid)
 {
     for (const char *text : {cd_edid_get_monitor_name(edid), cd_edid_get_eisa_id(edid), cd_edid_get_pnp_id(edid)}) {
         const QString name = QString::fromUtf8(text).trimmed();
@@ -45,6 +52,75 @@ QString displayName(CdEdid *edid)
     return {};
 }
 
+//! E-EDID 1.4, 3.4: the year counts from 1990, and week 255 makes it the year of the model.
+void readYear(const QByteArray &block, EdidDisplay &display)
+{
+    constexpr int firstYear = 1990;
+    constexpr int weekOfModelYear = 0xFF;
+    const int year = quint8(block.at(yearByte));
+    if (year == 0) {
+        return;
+    }
+    (quint8(block.at(weekByte)) == weekOfModelYear ? display.modelYear : display.manufactureYear) = firstYear + year;
+}
+
+bool havePrimaries(const EdidChromaticities &colors)
+{
+    return !colors.red.isNull() || !colors.green.isNull() || !colors.blue.isNull();
+}
+
+//! Says when two statements about the same display differ by more than their digits.
+QVector<Problem> contradictions(const EdidDisplay &display, const EdidChromaticities &base)
+{
+    constexpr double rounding = 0.002; // the ten bits have steps of 0.001
+    if (!display.displayIdChromaticities || !havePrimaries(*display.displayIdChromaticities) || !havePrimaries(base)) {
+        return {};
+    }
+    const struct {
+        QPointF EdidChromaticities::*member;
+        QString name;
+    } colors[] = {{&EdidChromaticities::red, EdidText::tr("red")}, {&EdidChromaticities::green, EdidText::tr("green")},
+        {&EdidChromaticities::blue, EdidText::tr("blue")}, {&EdidChromaticities::white, EdidText::tr("white")}};
+    for (const auto &[member, name] : colors) {
+        const QPointF first = base.*member;
+        const QPointF second = (*display.displayIdChromaticities).*member;
+        if (std::fabs(first.x() - second.x()) > rounding || std::fabs(first.y() - second.y()) > rounding) {
+            return {{EdidText::tr("the base block states another gamut than the DisplayID extension: %1 at %2, %3 "
+                                  "instead of %4, %5; that of the base block is used")
+                         .arg(name)
+                         .arg(first.x(), 0, 'f', 4)
+                         .arg(first.y(), 0, 'f', 4)
+                         .arg(second.x(), 0, 'f', 4)
+                         .arg(second.y(), 0, 'f', 4),
+                {}, 0, 0}};
+        }
+    }
+    return {};
+}
+
+//! Says when a gamut is the copy of a standard rather than what was measured.
+QVector<Problem> copies(const EdidDisplay &display)
+{
+    constexpr double lessThanAStep = 0.99 / 1024.0; // coordinates are rounded or cut off
+    const auto equal = Model::publishedGamutsEqualTo(display.gamut.getTargets(), lessThanAStep);
+    if (equal.empty()) {
+        return {};
+    }
+    QStringList names;
+    for (const Model::PublishedGamut &published : equal) {
+        names += QString::fromStdString(published.gamut.colorGamutName());
+    }
+    const QString name = names.contains(QStringLiteral("sRGB")) ? QStringLiteral("sRGB") : names.first();
+    QString text = EdidText::tr("the EDID states exactly %1: many makers write this without measuring").arg(name);
+    QStringList wide = display.colorimetries.filter(QStringLiteral("BT2020"));
+    wide += display.colorimetries.filter(QStringLiteral("DCI-P3"));
+    if (name == QLatin1String("sRGB") && !wide.isEmpty()) {
+        text += EdidText::tr(", and this display also takes signals of a wider gamut (%1)")
+                    .arg(wide.join(QStringLiteral(", ")));
+    }
+    return {{text, {}, 0, 0}};
+}
+
 } // namespace
 
 bool isEdid(const QByteArray &bytes)
@@ -52,17 +128,18 @@ bool isEdid(const QByteArray &bytes)
     return bytes.startsWith(header);
 }
 
-Outcome<DisplayGamut> readEdid(const QByteArray &bytes)
+Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
 {
-    if (bytes.size() < blockSize) {
-        return Failure::failure(
-            EdidText::tr("is a truncated EDID: %1 bytes instead of at least %2").arg(bytes.size()).arg(int(blockSize)));
+    if (bytes.size() < edidBlockSize) {
+        return Failure::failure(EdidText::tr("is a truncated EDID: %1 bytes instead of at least %2")
+                                    .arg(bytes.size())
+                                    .arg(int(edidBlockSize)));
     }
     if (!isEdid(bytes)) {
         return Failure::failure(EdidText::tr("is not an EDID"));
     }
-    const QByteArray block = bytes.left(blockSize);
-    if (quint8(std::accumulate(block.begin(), block.end(), 0)) != 0) {
+    const QByteArray block = bytes.left(edidBlockSize);
+    if (!edidChecksumIsRight(block)) {
         return Failure::failure(EdidText::tr("is a damaged EDID: its checksum is wrong"));
     }
     const std::unique_ptr<CdEdid, Release> edid(cd_edid_new());
@@ -73,14 +150,87 @@ Outcome<DisplayGamut> readEdid(const QByteArray &bytes)
         return Failure::failure(
             EdidText::tr("is an EDID that cannot be read: %1").arg(QString::fromUtf8(error->message)));
     }
-    const Primaries primaries{chromaticity(cd_edid_get_red(edid.get())), chromaticity(cd_edid_get_green(edid.get())),
-        chromaticity(cd_edid_get_blue(edid.get())), chromaticity(cd_edid_get_white(edid.get()))};
-    if (primaries.red.isNull() && primaries.green.isNull() && primaries.blue.isNull()) {
+    EdidDisplay display;
+    display.name = monitorName(edid.get());
+    display.manufacturer = QString::fromUtf8(cd_edid_get_pnp_id(edid.get())).trimmed();
+    display.srgbIsDefault = (quint8(block.at(featuresByte)) & 0x04) != 0;
+    readYear(block, display);
+
+    EdidExtensions extensions;
+    extensions.read(bytes, display);
+    if (const int code = quint8(block.at(gammaByte)); !display.gamma && code != 0xFF) {
+        display.gamma = (100 + code) / 100.0;
+    }
+
+    const EdidChromaticities base{chromaticity(cd_edid_get_red(edid.get())),
+        chromaticity(cd_edid_get_green(edid.get())), chromaticity(cd_edid_get_blue(edid.get())),
+        chromaticity(cd_edid_get_white(edid.get()))};
+    const EdidChromaticities colors
+        = havePrimaries(base) ? base : display.displayIdChromaticities.value_or(EdidChromaticities());
+    if (!havePrimaries(colors)) {
         return Failure::failure(EdidText::tr("is an EDID without primaries"));
     }
-    const auto gamut = gamutFromPrimaries(displayName(edid.get()), primaries, 1.0);
-    return gamut ? Failure(DisplayGamut(*gamut, LuminanceUnit::Relative))
-                 : Failure::failure(EdidText::tr("is an EDID without usable primaries: %1").arg(gamut.error()));
+    const EdidNativeLuminance &native = display.nativeLuminance;
+    const bool isAbsolute = native.guaranteed && native.fullScreen.value_or(0.0) > 0.0;
+    const auto gamut = gamutFromPrimaries(
+        display.name, {colors.red, colors.green, colors.blue, colors.white}, isAbsolute ? *native.fullScreen : 1.0);
+    if (!gamut) {
+        return Failure::failure(EdidText::tr("is an EDID without usable primaries: %1").arg(gamut.error()));
+    }
+    display.gamut = DisplayGamut(*gamut, isAbsolute ? LuminanceUnit::CandelaPerSquareMetre : LuminanceUnit::Relative);
+    return {display,
+        copies(display) + warningsOfTheLocus(gamut->getTargets()) + contradictions(display, base)
+            + extensions.warnings()};
+}
+
+Outcome<DisplayGamut> readEdid(const QByteArray &bytes)
+{
+    const auto display = readEdidDisplay(bytes);
+    return display ? Outcome<DisplayGamut>(display->gamut, display.warnings())
+                   : Outcome<DisplayGamut>::failure(display.problem());
+}
+
+Outcome<QByteArray> edidFromHexDump(const QByteArray &text)
+{
+    using NoEdid = Outcome<QByteArray>;
+    constexpr int maximumSize = 256 * edidBlockSize; // a base block and 255 extensions
+    static const QRegularExpression address(QStringLiteral("^\\s*(0x)?[0-9a-f]+:"));
+    static const QRegularExpression notDigits(QStringLiteral("0x|[\\s,]"));
+    static const QRegularExpression hexBytes(QStringLiteral("^([0-9a-f]{2})+$"));
+    const bool mayHoldOne = text.size() <= maximumHexDumpBytes && (text.contains("ff") || text.contains("FF"));
+    if (!mayHoldOne) {
+        return NoEdid::failure(EdidText::tr("holds no EDID"));
+    }
+    QByteArray first;
+    QByteArray bytes;
+    int count = 0;
+    const auto finish = [&first, &bytes, &count] {
+        if (bytes.size() >= edidBlockSize && isEdid(bytes)) {
+            first = ++count == 1 ? bytes : first;
+        }
+        bytes.clear();
+    };
+    for (const QByteArray &line : text.split('\n')) {
+        const QString digits = QString::fromLatin1(line).toLower().remove(address).remove(notDigits);
+        if (digits.isEmpty()) {
+            continue;
+        }
+        if (!hexBytes.match(digits).hasMatch()) {
+            finish();
+            continue;
+        }
+        const QByteArray piece = QByteArray::fromHex(digits.toLatin1());
+        if (isEdid(piece) || bytes.size() + piece.size() > maximumSize) {
+            finish();
+        }
+        bytes += piece;
+    }
+    finish();
+    if (count == 0) {
+        return NoEdid::failure(EdidText::tr("holds no EDID"));
+    }
+    const Problem others{EdidText::tr("holds %1 EDIDs, of which only the first is read").arg(count), {}, 0, 0};
+    return {first, count > 1 ? QVector<Problem>{others} : QVector<Problem>()};
 }
 
 } // namespace gamutfiles

@@ -8,9 +8,15 @@
 
 namespace gamutfiles {
 
+/*! \brief Whether \a fileName stands for standard input: "-". A file of this name is "./-". */
+GAMUTFILES_EXPORT bool isStandardInput(const QString &fileName);
+
 /*!
- * \brief The content of \a fileName, which may be a pipe or a device; a failure when it is longer than \a maximum bytes
- * or cannot be read.
+ * \brief The content of \a fileName: a file, a device, a pipe that a shell opened ("/dev/stdin", "/dev/fd/63"), or
+ * standard input if isStandardInput().
+ *
+ * A failure when it is longer than \a maximum bytes or cannot be read. A named pipe is refused, as opening it would
+ * wait for a program that writes to it.
  */
 GAMUTFILES_EXPORT Outcome<QByteArray> readBytes(const QString &fileName, int maximum);
 
@@ -18,7 +24,8 @@ GAMUTFILES_EXPORT Outcome<QByteArray> readBytes(const QString &fileName, int max
  * \brief Writes \a bytes to \a fileName.
  *
  * The file appears, or replaces the one of that name, only when it is complete. A pipe or a device is written to as it
- * is. Returns what went wrong, or nothing.
+ * is, but a named pipe only if a program reads from it. Returns what went wrong, as a clause to stand after "cannot be
+ * written:", or nothing.
  */
 GAMUTFILES_EXPORT QString writeBytes(const QByteArray &bytes, const QString &fileName);
 

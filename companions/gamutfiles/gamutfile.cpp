@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/gamutfile.h>
 
+#include "textencoding_p.h"
+
 #include <gamutfiles/descriptionfile.h>
 #include <gamutfiles/edid.h>
 #include <gamutfiles/filebytes.h>
@@ -15,18 +17,25 @@ namespace gamutfiles {
 
 namespace {
 
-// What becomes of a list must fit into a display description.
-constexpr int maximumMeasurementBytes = 1024 * 1024;
-
 enum class Format { Description, Measurements, IccProfile, Edid, Unknown };
 
 struct FileText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::GamutFile)
 };
 
-bool isText(const QByteArray &bytes)
+//! Whether a line near the beginning has fields, or says that it has.
+bool isList(const QByteArray &start)
 {
-    return !bytes.contains('\0') && !QString::fromUtf8(bytes).contains(QChar::ReplacementCharacter);
+    constexpr int mostLines = 50;
+    const auto decoded = decodeText(start);
+    if (!decoded) {
+        return false;
+    }
+    const QStringList lines = decoded->text.split(QLatin1Char('\n')).mid(0, mostLines);
+    return std::any_of(lines.begin(), lines.end(), [](const QString &line) {
+        return line.startsWith(QLatin1Char('#')) || line.contains(QLatin1Char(',')) || line.contains(QLatin1Char(';'))
+            || line.contains(QLatin1Char('\t'));
+    });
 }
 
 //! By the suffix, for content that gives no hint: damaged files, mostly.
@@ -36,13 +45,15 @@ Format expectedFormat(const QString &fileName)
     if (suffix == QLatin1String("json")) {
         return Format::Description;
     }
-    if (suffix == QLatin1String("csv")) {
+    if (suffix == QLatin1String("csv") || suffix == QLatin1String("tsv")) {
         return Format::Measurements;
     }
     if (suffix == QLatin1String("icc") || suffix == QLatin1String("icm")) {
         return Format::IccProfile;
     }
-    return suffix == QLatin1String("edid") ? Format::Edid : Format::Unknown;
+    // The kernel names the EDID of each output so, without a suffix.
+    const bool isEdidName = suffix == QLatin1String("edid") || QFileInfo(fileName).fileName() == QLatin1String("edid");
+    return isEdidName ? Format::Edid : Format::Unknown;
 }
 
 Format format(const QByteArray &bytes, const QString &fileName)
@@ -62,26 +73,85 @@ Format format(const QByteArray &bytes, const QString &fileName)
     if (expected != Format::Unknown) {
         return expected;
     }
-    const QByteArray firstLine = trimmed.left(trimmed.indexOf('\n'));
-    const bool hasFields
-        = firstLine.contains(',') || firstLine.contains(';') || firstLine.contains('\t') || firstLine.startsWith('#');
-    return hasFields && isText(bytes) ? Format::Measurements : Format::Unknown;
+    return bytes.size() <= maximumMeasurementBytes && isList(bytes) ? Format::Measurements : Format::Unknown;
 }
 
-Outcome<GamutFile> declared(const Outcome<DisplayGamut> &gamut, GamutFile file)
+QString candelas(double luminance)
 {
-    if (!gamut) {
-        return Outcome<GamutFile>::failure(gamut.problem());
+    return FileText::tr("%1 cd/m²").arg(luminance, 0, 'g', 4);
+}
+
+void add(QVector<DisplayFact> &facts, const QString &name, const QString &value)
+{
+    if (!value.isEmpty()) {
+        facts.append({name, value});
+    }
+}
+
+void add(QVector<DisplayFact> &facts, const QString &name, const std::optional<double> &luminance)
+{
+    if (luminance) {
+        facts.append({name, candelas(*luminance)});
+    }
+}
+
+QVector<DisplayFact> facts(const EdidDisplay &display)
+{
+    const QString list = QStringLiteral(", ");
+    const auto year = [](const std::optional<int> &value) { return value ? QString::number(*value) : QString(); };
+    const EdidNativeLuminance &native = display.nativeLuminance;
+    const EdidContentLuminance &content = display.contentLuminance;
+    QVector<DisplayFact> facts;
+    add(facts, FileText::tr("manufacturer"), display.manufacturer);
+    add(facts, FileText::tr("year of manufacture"), year(display.manufactureYear));
+    add(facts, FileText::tr("year of the model"), year(display.modelYear));
+    add(facts, FileText::tr("gamma"), display.gamma ? QString::number(*display.gamma) : QString());
+    add(facts, FileText::tr("luminance of a white screen"), native.fullScreen);
+    add(facts, FileText::tr("luminance of white on 10 % of the screen"), native.tenPercent);
+    add(facts, FileText::tr("luminance of black"), native.minimum);
+    if (native.fullScreen || native.tenPercent || native.minimum) {
+        add(facts, FileText::tr("these luminances are"),
+            native.guaranteed ? FileText::tr("guaranteed") : FileText::tr("guidance for the source"));
+    }
+    add(facts, FileText::tr("desired maximum luminance of content"), content.maximum);
+    add(facts, FileText::tr("desired maximum average of a frame"), content.maximumFrameAverage);
+    add(facts, FileText::tr("desired minimum luminance of content"), content.minimum);
+    add(facts, FileText::tr("takes signals of"), display.colorimetries.join(list));
+    add(facts, FileText::tr("takes transfer functions"), display.transferFunctions.join(list));
+    return facts;
+}
+
+QVector<DisplayFact> facts(const IccDisplay &display)
+{
+    QVector<DisplayFact> facts;
+    add(facts, FileText::tr("luminance of white"), display.whiteLuminance);
+    if (display.hasVideoCardTable) {
+        add(facts, FileText::tr("calibration curves"),
+            FileText::tr("in the profile; its gamut holds while they are loaded"));
+    }
+    for (const IccMetadata &entry : display.metadata) {
+        add(facts, entry.name, entry.value);
+    }
+    return facts;
+}
+
+template <typename Display>
+Outcome<GamutFile> declared(const Outcome<Display> &display, GamutFile file)
+{
+    if (!display) {
+        return Outcome<GamutFile>::failure(display.problem());
     }
     file.content = GamutFile::Content::DeclaredGamut;
-    const std::string name = gamut->colorGamutName();
-    file.gamut = DisplayGamut({name.empty() ? file.name.toStdString() : name, gamut->getTargets()}, gamut->unit);
-    return {file, gamut.warnings()};
+    const DisplayGamut &gamut = display->gamut;
+    const std::string name = gamut.colorGamutName();
+    file.gamut = DisplayGamut({name.empty() ? file.name.toStdString() : name, gamut.getTargets()}, gamut.unit);
+    file.facts = facts(*display);
+    return {file, display.warnings()};
 }
 
 } // namespace
 
-Outcome<GamutFile> readGamutFile(const QString &fileName)
+Outcome<GamutFile> readGamutFile(const QString &fileName, const MeasurementOptions &options)
 {
     using Failure = Outcome<GamutFile>;
     const Outcome<QByteArray> bytes = readBytes(fileName, maximumFileBytes);
@@ -92,7 +162,11 @@ Outcome<GamutFile> readGamutFile(const QString &fileName)
         return Failure::failure(FileText::tr("is empty"));
     }
     GamutFile file;
-    file.name = QFileInfo(fileName).completeBaseName();
+    file.name = isStandardInput(fileName) ? FileText::tr("standard input") : QFileInfo(fileName).completeBaseName();
+    if (const auto dumped = edidFromHexDump(*bytes)) {
+        const auto opened = declared(readEdidDisplay(*dumped), file);
+        return opened ? Outcome<GamutFile>(*opened, dumped.warnings() + opened.warnings()) : opened;
+    }
     switch (format(*bytes, fileName)) {
     case Format::Description: {
         const auto description = readDescription(*bytes);
@@ -103,11 +177,7 @@ Outcome<GamutFile> readGamutFile(const QString &fileName)
         return {file, description.warnings()};
     }
     case Format::Measurements: {
-        if (bytes->size() > maximumMeasurementBytes) {
-            return Failure::failure(FileText::tr("is too large for a measurement list (more than %1 KiB)")
-                                        .arg(maximumMeasurementBytes / 1024));
-        }
-        const auto measurements = readMeasurementList(*bytes);
+        const auto measurements = readMeasurementList(*bytes, options);
         if (!measurements) {
             return Failure::failure(measurements.problem());
         }
@@ -116,9 +186,9 @@ Outcome<GamutFile> readGamutFile(const QString &fileName)
         return {file, measurements.warnings()};
     }
     case Format::IccProfile:
-        return declared(readIccProfile(*bytes), file);
+        return declared(readIccDisplay(*bytes), file);
     case Format::Edid:
-        return declared(readEdid(*bytes), file);
+        return declared(readEdidDisplay(*bytes), file);
     case Format::Unknown:
         break;
     }
@@ -128,8 +198,9 @@ Outcome<GamutFile> readGamutFile(const QString &fileName)
 
 QStringList gamutFilePatterns()
 {
-    return {QStringLiteral("*.json"), QStringLiteral("*.csv"), QStringLiteral("*.icc"), QStringLiteral("*.icm"),
-        QStringLiteral("*.edid"), QStringLiteral("*.bin")};
+    return {QStringLiteral("*.json"), QStringLiteral("*.csv"), QStringLiteral("*.tsv"), QStringLiteral("*.txt"),
+        QStringLiteral("*.icc"), QStringLiteral("*.icm"), QStringLiteral("edid"), QStringLiteral("*.edid"),
+        QStringLiteral("*.bin"), QStringLiteral("*.dat")};
 }
 
 } // namespace gamutfiles

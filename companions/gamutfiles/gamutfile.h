@@ -7,8 +7,15 @@
 #include <gamutfiles/outcome.h>
 
 #include <QStringList>
+#include <QVector>
 
 namespace gamutfiles {
+
+/*! \brief Something that a file says of a display besides its gamut, in words. */
+struct DisplayFact {
+    QString name; //!< what it is, for example "desired maximum luminance of content"; translated
+    QString value; //!< with its unit, for example "993 cd/m²"
+};
 
 /*! \brief What a file brings: a whole description, or something to add to one. */
 struct GamutFile {
@@ -23,6 +30,7 @@ struct GamutFile {
     QString name; //!< of the file, without folder and suffix
     DisplayDescription description; //!< empty unless content says so
     DisplayGamut gamut; //!< named after the display, or else the file
+    QVector<DisplayFact> facts; //!< with a declared gamut: what else the ICC profile or the EDID says
     MeasurementList measurements; //!< empty unless content says so
 };
 
@@ -31,11 +39,13 @@ constexpr int maximumFileBytes = 32 * 1024 * 1024;
 
 /*!
  * \brief Reads the file \a fileName, of whichever format its content is: display description (JSON), measurement list
- * (CSV), ICC profile or EDID.
+ * (CSV), ICC profile or EDID, which may be a text with its bytes as hexadecimal digits.
  *
- * Neither the failure nor the warnings name the file; Problem::message() does.
+ * \a fileName may be "-" for standard input. \a options are for a measurement list; nothing else heeds them. Neither the
+ * failure nor the warnings name the file; Problem::message() does.
  */
-GAMUTFILES_EXPORT Outcome<GamutFile> readGamutFile(const QString &fileName);
+GAMUTFILES_EXPORT Outcome<GamutFile> readGamutFile(
+    const QString &fileName, const MeasurementOptions &options = MeasurementOptions());
 
 /*! \brief File name patterns for a dialog, such as "*.json", of every format that readGamutFile() reads. */
 GAMUTFILES_EXPORT QStringList gamutFilePatterns();

@@ -3,10 +3,14 @@
 
 #include <colortemperature/colortemperature.h>
 #include <gamutmodel/gamutcoverage.h>
+#include <gamutmodel/spectrallocus.h>
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
+#include <vector>
 
 namespace gamutfiles {
 
@@ -20,8 +24,8 @@ struct PrimariesText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::Primaries)
 };
 
-//! Moves \a xy by no more than rounding may have moved it; returns whether it is a chromaticity then.
-bool makeChromaticity(QPointF &xy)
+//! Moves \a xy by no more than rounding may have moved it.
+QPointF withoutRounding(QPointF xy)
 {
     if (xy.x() < 0.0 && xy.x() > -roundingTolerance) {
         xy.setX(0.0);
@@ -30,28 +34,103 @@ bool makeChromaticity(QPointF &xy)
     if (sum > 1.0 && sum < 1.0 + roundingTolerance) {
         xy.setX(1.0 - xy.y());
     }
-    return xy.x() >= 0.0 && xy.y() > 0.0 && xy.x() + xy.y() <= 1.0;
+    return xy;
+}
+
+//! The spectral locus, counter-clockwise from red, at 1 nm, which is straight to 1e-4. The line of purples closes it.
+std::vector<Model::DiagramPoint> locus()
+{
+    std::vector<Model::DiagramPoint> points;
+    for (double wavelength = Model::longestWavelength; wavelength >= Model::shortestWavelength; wavelength -= 1.0) {
+        points.push_back(Model::spectralChromaticity(wavelength));
+    }
+    return points;
+}
+
+//! How far \a xy is from the colours of light, in x, y; 0 for these.
+double distanceFromLight(const Model::DiagramPoint &xy)
+{
+    static const std::vector<Model::DiagramPoint> points = locus();
+    // The locus is convex but for rounding, so that a colour outside is right of some side.
+    double distance = std::numeric_limits<double>::infinity();
+    bool isInside = true;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const Model::DiagramPoint &from = points[i];
+        const Model::DiagramPoint &to = points[(i + 1) % points.size()];
+        const Model::DiagramPoint side{to.x - from.x, to.y - from.y};
+        const Model::DiagramPoint offset{xy.x - from.x, xy.y - from.y};
+        isInside = isInside && side.x * offset.y - side.y * offset.x >= 0.0;
+        const double length = side.x * side.x + side.y * side.y;
+        const double share
+            = length > 0.0 ? std::clamp((side.x * offset.x + side.y * offset.y) / length, 0.0, 1.0) : 0.0;
+        distance = std::min(distance, std::hypot(offset.x - share * side.x, offset.y - share * side.y));
+    }
+    return isInside ? 0.0 : distance;
 }
 
 } // namespace
+
+bool isPrimary(const QPointF &xy, PrimariesOf kind)
+{
+    const double x = xy.x();
+    const double y = xy.y();
+    if (kind == PrimariesOf::Display) {
+        return x >= 0.0 && y > 0.0 && x + y <= 1.0;
+    }
+    constexpr double least = -1.0;
+    constexpr double greatest = 2.0;
+    return x >= least && x <= greatest && y >= least && y <= greatest && y != 0.0
+        && Model::uniformDenominator(x, y) > 0.0;
+}
+
+QVector<Problem> warningsOfTheLocus(const Model::Targets &gamut)
+{
+    constexpr double noticeable = 0.001; // ten bits have steps of this size
+    const struct {
+        const Model::Target &color;
+        QString name;
+    } primaries[] = {{gamut.red, PrimariesText::tr("the red primary")},
+        {gamut.green, PrimariesText::tr("the green primary")}, {gamut.blue, PrimariesText::tr("the blue primary")}};
+    QVector<Problem> warnings;
+    for (const auto &primary : primaries) {
+        const double distance = distanceFromLight({primary.color.x, primary.color.y});
+        if (distance > noticeable) {
+            warnings.append(
+                {PrimariesText::tr("%1 at %2, %3 lies outside of the spectral locus by %4 in x, y: no light "
+                                   "has this colour")
+                        .arg(primary.name)
+                        .arg(primary.color.x, 0, 'f', 4)
+                        .arg(primary.color.y, 0, 'f', 4)
+                        .arg(distance, 0, 'f', 4),
+                    {}, 0, 0});
+        }
+    }
+    return warnings;
+}
 
 QString noTriangleText()
 {
     return PrimariesText::tr("the primaries do not form a triangle");
 }
 
-Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries primaries, double whiteLuminance)
+Outcome<Model::ColorGamut> gamutFromPrimaries(
+    const QString &name, Primaries primaries, double whiteLuminance, PrimariesOf kind)
 {
     const struct {
         QPointF &xy;
         QString name;
-    } colors[] = {{primaries.red, PrimariesText::tr("the red primary")},
-        {primaries.green, PrimariesText::tr("the green primary")},
-        {primaries.blue, PrimariesText::tr("the blue primary")},
-        {primaries.white, PrimariesText::tr("the white point")}};
+        PrimariesOf kind;
+    } colors[] = {{primaries.red, PrimariesText::tr("the red primary"), kind},
+        {primaries.green, PrimariesText::tr("the green primary"), kind},
+        {primaries.blue, PrimariesText::tr("the blue primary"), kind},
+        {primaries.white, PrimariesText::tr("the white point"), PrimariesOf::Display}};
     for (const auto &color : colors) {
         const QPointF given = color.xy;
-        if (!makeChromaticity(color.xy)) {
+        if (!std::isfinite(given.x()) || !std::isfinite(given.y())) {
+            return Failure::failure(PrimariesText::tr("%1 has no chromaticity").arg(color.name));
+        }
+        color.xy = withoutRounding(given);
+        if (!isPrimary(color.xy, color.kind)) {
             return Failure::failure(PrimariesText::tr("%1 is not a valid chromaticity: x %2, y %3")
                                         .arg(color.name)
                                         .arg(given.x())
@@ -69,7 +148,10 @@ Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries pri
     double blue = 0.0;
     RGBCxCyFromWhiteCxCy(&red, primaries.red.x(), primaries.red.y(), &green, primaries.green.x(), primaries.green.y(),
         &blue, primaries.blue.x(), primaries.blue.y(), whiteLuminance, primaries.white.x(), primaries.white.y());
-    if (!(red >= 0.0 && green >= 0.0 && blue >= 0.0 && std::isfinite(red + green + blue))) {
+    // A primary of negative y has a negative luminance where its light adds.
+    const auto adds
+        = [](double luminance, const QPointF &xy) { return std::isfinite(luminance) && luminance / xy.y() >= 0.0; };
+    if (!adds(red, primaries.red) || !adds(green, primaries.green) || !adds(blue, primaries.blue)) {
         return Failure::failure(PrimariesText::tr("the white point lies outside the triangle of the primaries"));
     }
     return Model::ColorGamut(name.toStdString(),

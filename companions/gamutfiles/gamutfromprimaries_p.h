@@ -18,13 +18,32 @@ struct Primaries {
     QPointF white;
 };
 
+/*! \brief Which chromaticities primaries may have. */
+enum class PrimariesOf {
+    Display, //!< those of light: x >= 0, y > 0, x + y <= 1
+    /*!
+     * \brief Also others, as colour spaces have them to encode every colour (ACES2065-1, for example).
+     *
+     * y is not 0, as the amount of such a colour can not be stated by a luminance. The coordinates are from -1 to 2 and
+     * have a place on the uniform diagrams, that is -2x + 12y + 3 > 0; no published space is near to these limits.
+     */
+    ColorSpace
+};
+
+/*! \brief Whether \a xy may be that of a primary. No tolerance is applied. */
+bool isPrimary(const QPointF &xy, PrimariesOf kind);
+
 /*!
  * \brief The gamut whose primaries mix to a white of luminance \a whiteLuminance, checked as a file may hold anything.
  *
- * A failure names what is not a chromaticity (x >= 0, y > 0, x + y <= 1, of which rounding to a file's precision may
- * have taken up to 0.0005), primaries that span no triangle, and a white outside of it.
+ * A failure names what is not a chromaticity (as \a kind has it, of which rounding to a file's precision may have
+ * taken up to 0.0005; the white is always that of a light), primaries that span no triangle, and a white outside of it.
  */
-Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries primaries, double whiteLuminance);
+Outcome<Model::ColorGamut> gamutFromPrimaries(
+    const QString &name, Primaries primaries, double whiteLuminance, PrimariesOf kind = PrimariesOf::Display);
+
+/*! \brief A warning for each primary of \a gamut that is so far outside of the spectral locus that no light has it. */
+QVector<Problem> warningsOfTheLocus(const Model::Targets &gamut);
 
 /*! \brief What to say of primaries that are too near to one line to mix anything. */
 QString noTriangleText();

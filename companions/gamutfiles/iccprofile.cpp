@@ -2,14 +2,16 @@
 #include <gamutfiles/iccprofile.h>
 
 #include "gamutfromprimaries_p.h"
+#include "iccmemory_p.h"
 
 #include <QCoreApplication>
-#include <QGenericMatrix>
 #include <QtEndian>
 
 #include <lcms2.h>
 
+#include <array>
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -18,11 +20,12 @@ namespace gamutfiles {
 namespace {
 
 constexpr int headerSize = 128;
+constexpr int colorSpaceOffset = 16;
 constexpr int signatureOffset = 36;
 
-using Failure = Outcome<DisplayGamut>;
-using Matrix = QGenericMatrix<3, 3, double>;
-using Vector = QGenericMatrix<1, 3, double>;
+using Failure = Outcome<IccDisplay>;
+using Vector = std::array<double, 3>;
+using Matrix = std::array<Vector, 3>; // rows
 
 struct IccText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::IccProfile)
@@ -31,45 +34,78 @@ struct IccText {
 struct CloseProfile {
     void operator()(void *profile) const { cmsCloseProfile(profile); }
 };
-struct DeleteContext {
-    void operator()(cmsContext context) const { cmsDeleteContext(context); }
-};
 using Profile = std::unique_ptr<void, CloseProfile>;
-using Context = std::unique_ptr<std::remove_pointer_t<cmsContext>, DeleteContext>;
 
-template <typename T>
-const T *tag(const Profile &profile, cmsTagSignature signature)
+quint32 bigEndian(const QByteArray &bytes, int offset)
 {
-    return static_cast<const T *>(cmsReadTag(profile.get(), signature));
+    return qFromBigEndian<quint32>(bytes.constData() + offset);
+}
+
+//! The value of a tag; null if it has another type, or fewer than \a dataSize bytes behind it, which not every version
+//! of Little CMS looks at.
+template <typename T>
+const T *tag(const Profile &profile, cmsTagSignature signature, cmsUInt32Number dataSize)
+{
+    constexpr cmsUInt32Number typeSize = 8;
+    return cmsReadRawTag(profile.get(), signature, nullptr, 0) < typeSize + dataSize
+        ? nullptr
+        : static_cast<const T *>(cmsReadTag(profile.get(), signature));
+}
+
+const cmsCIEXYZ *colorTag(const Profile &profile, cmsTagSignature signature)
+{
+    return tag<cmsCIEXYZ>(profile, signature, 12);
 }
 
 Vector vector(const cmsCIEXYZ &color)
 {
-    const double values[] = {color.X, color.Y, color.Z};
-    return Vector(values);
+    return {color.X, color.Y, color.Z};
 }
 
+Vector operator*(const Matrix &m, const Vector &v)
+{
+    Vector result{};
+    for (std::size_t row = 0; row < 3; ++row) {
+        result[row] = m[row][0] * v[0] + m[row][1] * v[1] + m[row][2] * v[2];
+    }
+    return result;
+}
+
+Matrix operator*(const Matrix &a, const Matrix &b)
+{
+    Matrix result{};
+    for (std::size_t column = 0; column < 3; ++column) {
+        const Vector product = a * Vector{b[0][column], b[1][column], b[2][column]};
+        for (std::size_t row = 0; row < 3; ++row) {
+            result[row][column] = product[row];
+        }
+    }
+    return result;
+}
+
+//! Not a number for black, which has no chromaticity.
 QPointF chromaticity(const Vector &color)
 {
-    const double sum = color(0, 0) + color(1, 0) + color(2, 0);
-    return sum > 0.0 ? QPointF(color(0, 0) / sum, color(1, 0) / sum) : QPointF();
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    const double sum = color[0] + color[1] + color[2];
+    return sum > 0.0 ? QPointF(color[0] / sum, color[1] / sum) : QPointF(none, none);
 }
 
 //! Not finite when \a m has no inverse.
 Matrix inverse(const Matrix &m)
 {
-    const auto cofactor = [&m](int row, int column) {
-        const int r1 = (row + 1) % 3;
-        const int r2 = (row + 2) % 3;
-        const int c1 = (column + 1) % 3;
-        const int c2 = (column + 2) % 3;
-        return m(r1, c1) * m(r2, c2) - m(r1, c2) * m(r2, c1);
+    const auto cofactor = [&m](std::size_t row, std::size_t column) {
+        const std::size_t r1 = (row + 1) % 3;
+        const std::size_t r2 = (row + 2) % 3;
+        const std::size_t c1 = (column + 1) % 3;
+        const std::size_t c2 = (column + 2) % 3;
+        return m[r1][c1] * m[r2][c2] - m[r1][c2] * m[r2][c1];
     };
-    const double determinant = m(0, 0) * cofactor(0, 0) + m(0, 1) * cofactor(0, 1) + m(0, 2) * cofactor(0, 2);
-    Matrix result;
-    for (int row = 0; row < 3; ++row) {
-        for (int column = 0; column < 3; ++column) {
-            result(row, column) = cofactor(column, row) / determinant;
+    const double determinant = m[0][0] * cofactor(0, 0) + m[0][1] * cofactor(0, 1) + m[0][2] * cofactor(0, 2);
+    Matrix result{};
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column) {
+            result[row][column] = cofactor(column, row) / determinant;
         }
     }
     return result;
@@ -78,13 +114,12 @@ Matrix inverse(const Matrix &m)
 //! Adapts from D50 to \a white (Lam 1985; the matrix is that of ICC.1:2010, annex E).
 Matrix bradford(const Vector &d50, const Vector &white)
 {
-    const double values[] = {0.8951, 0.2664, -0.1614, -0.7502, 1.7135, 0.0367, 0.0389, -0.0685, 1.0296};
-    const Matrix toCones(values);
+    const Matrix toCones{{{0.8951, 0.2664, -0.1614}, {-0.7502, 1.7135, 0.0367}, {0.0389, -0.0685, 1.0296}}};
     const Vector from = toCones * d50;
     const Vector to = toCones * white;
-    Matrix scale;
-    for (int i = 0; i < 3; ++i) {
-        scale(i, i) = to(i, 0) / from(i, 0);
+    Matrix scale{};
+    for (std::size_t i = 0; i < 3; ++i) {
+        scale[i][i] = to[i] / from[i];
     }
     return inverse(toCones) * scale * toCones;
 }
@@ -98,33 +133,98 @@ QString description(const Profile &profile)
     return QString::fromWCharArray(text.data()).trimmed();
 }
 
-QString colorSpaceName(cmsColorSpaceSignature space)
+//! \a space is a signature, which in a damaged profile is none of the enumerators.
+QString colorSpaceName(quint32 space)
 {
-    switch (space) {
-    case cmsSigGrayData:
-        return IccText::tr("a grey profile");
-    case cmsSigCmykData:
-        return IccText::tr("a CMYK profile");
-    case cmsSigLabData:
-        return IccText::tr("a Lab profile");
-    case cmsSigXYZData:
-        return IccText::tr("an XYZ profile");
-    default:
-        return IccText::tr("not an RGB profile");
+    const struct {
+        quint32 space;
+        QString name;
+    } names[] = {{cmsSigGrayData, IccText::tr("a grey profile")}, {cmsSigCmykData, IccText::tr("a CMYK profile")},
+        {cmsSigLabData, IccText::tr("a Lab profile")}, {cmsSigXYZData, IccText::tr("an XYZ profile")}};
+    for (const auto &known : names) {
+        if (known.space == space) {
+            return known.name;
+        }
     }
+    return IccText::tr("not an RGB profile");
+}
+
+//! UTF-16, big-endian; only what lies inside of \a bytes, and up to a null character.
+QString utf16(const QByteArray &bytes, quint32 offset, quint32 size)
+{
+    QString text;
+    const auto end = quint32(bytes.size());
+    for (quint32 at = offset; at < end && at - offset < size && end - at >= 2; at += 2) {
+        const auto unit = qFromBigEndian<quint16>(bytes.constData() + at);
+        if (unit == 0) {
+            break;
+        }
+        text += QChar(unit);
+    }
+    return text;
+}
+
+/*!
+ * \brief The entries of the "meta" tag: a dictType (ICC, "dictType" and "metadataTag", 2010).
+ *
+ * A count, the length of a record, and records that begin with offset and size of a name and of a value. Little CMS
+ * would read them, too, but frees a piece twice when it is refused memory for them.
+ */
+QVector<IccMetadata> metadata(const Profile &profile)
+{
+    constexpr int maximumEntries = 256;
+    constexpr int maximumSize = 1024 * 1024;
+    constexpr quint32 firstRecord = 16;
+    const cmsUInt32Number size = cmsReadRawTag(profile.get(), cmsSigMetaTag, nullptr, 0);
+    if (size < firstRecord || size > maximumSize) {
+        return {};
+    }
+    QByteArray bytes(int(size), '\0');
+    if (cmsReadRawTag(profile.get(), cmsSigMetaTag, bytes.data(), size) != size || !bytes.startsWith("dict")) {
+        return {};
+    }
+    const quint32 count = bigEndian(bytes, 8);
+    const quint32 length = bigEndian(bytes, 12);
+    if (length != 16 && length != 24 && length != 32) {
+        return {};
+    }
+    QVector<IccMetadata> entries;
+    for (quint32 i = 0; i < count && entries.size() < maximumEntries && firstRecord + (i + 1) * length <= size; ++i) {
+        const auto number
+            = [&bytes, at = int(firstRecord + i * length)](int index) { return bigEndian(bytes, at + 4 * index); };
+        entries.append({utf16(bytes, number(0), number(1)), utf16(bytes, number(2), number(3))});
+    }
+    return entries;
+}
+
+//! What the metadata say of where the numbers come from ("ICC meta Tag for Monitor Profiles", DATA_source).
+QVector<Problem> warningsOfTheSource(const QVector<IccMetadata> &entries)
+{
+    QVector<Problem> warnings;
+    for (const IccMetadata &entry : entries) {
+        if (entry.name != QLatin1String("DATA_source")) {
+            continue;
+        }
+        if (entry.value == QLatin1String("edid")) {
+            warnings.append({IccText::tr("the profile says that it was made from an EDID, not from a measurement"),
+                entry.name, 0, 0});
+        } else if (entry.value == QLatin1String("standard")) {
+            warnings.append({IccText::tr("the profile says that it was made from a standard, not from a measurement"),
+                entry.name, 0, 0});
+        }
+    }
+    return warnings;
 }
 
 //! From the D50 of the profile to the white of the device.
 Matrix unadaptation(const Profile &profile)
 {
-    const Vector d50 = vector(*cmsD50_XYZ());
-    if (const auto *rows = tag<cmsCIEXYZ>(profile, cmsSigChromaticAdaptationTag)) {
-        const double values[]
-            = {rows[0].X, rows[0].Y, rows[0].Z, rows[1].X, rows[1].Y, rows[1].Z, rows[2].X, rows[2].Y, rows[2].Z};
-        return inverse(Matrix(values));
+    if (const auto *rows = tag<cmsCIEXYZ>(profile, cmsSigChromaticAdaptationTag, 36)) {
+        return inverse({vector(rows[0]), vector(rows[1]), vector(rows[2])});
     }
-    const auto *mediaWhite = tag<cmsCIEXYZ>(profile, cmsSigMediaWhitePointTag);
-    return mediaWhite ? bradford(d50, vector(*mediaWhite)) : Matrix();
+    const auto *mediaWhite = colorTag(profile, cmsSigMediaWhitePointTag);
+    return mediaWhite ? bradford(vector(*cmsD50_XYZ()), vector(*mediaWhite))
+                      : Matrix{{{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}}};
 }
 
 } // namespace
@@ -134,42 +234,71 @@ bool isIccProfile(const QByteArray &bytes)
     return bytes.mid(signatureOffset, 4) == "acsp";
 }
 
-Outcome<DisplayGamut> readIccProfile(const QByteArray &bytes)
+Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes)
+{
+    return readIccDisplay(bytes, IccMemory(bytes.size()));
+}
+
+Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes, const IccMemory &memory)
 {
     if (!isIccProfile(bytes)) {
         return Failure::failure(bytes.size() < headerSize
                 ? IccText::tr("is a truncated ICC profile: the header is incomplete")
                 : IccText::tr("is not an ICC profile"));
     }
-    const auto size = bytes.size() < headerSize ? 0U : qFromBigEndian<quint32>(bytes.constData());
+    const auto size = bytes.size() < headerSize ? 0U : bigEndian(bytes, 0);
     if (bytes.size() < headerSize || quint32(bytes.size()) < size) {
         return Failure::failure(
             IccText::tr("is a truncated ICC profile: %1 bytes instead of %2").arg(bytes.size()).arg(size));
     }
-    const Context context(cmsCreateContext(nullptr, nullptr));
-    const Profile profile(cmsOpenProfileFromMemTHR(context.get(), bytes.constData(), cmsUInt32Number(bytes.size())));
+    const Profile profile(memory.context()
+            ? cmsOpenProfileFromMemTHR(memory.context(), bytes.constData(), cmsUInt32Number(bytes.size()))
+            : nullptr);
     if (!profile) {
         return Failure::failure(IccText::tr("is a damaged ICC profile"));
     }
-    const cmsColorSpaceSignature space = cmsGetColorSpace(profile.get());
+    const quint32 space = bigEndian(bytes, colorSpaceOffset);
     if (space != cmsSigRgbData) {
         return Failure::failure(IccText::tr("has no primaries: it is %1").arg(colorSpaceName(space)));
     }
-    const auto *red = tag<cmsCIEXYZ>(profile, cmsSigRedColorantTag);
-    const auto *green = tag<cmsCIEXYZ>(profile, cmsSigGreenColorantTag);
-    const auto *blue = tag<cmsCIEXYZ>(profile, cmsSigBlueColorantTag);
+    const auto *red = colorTag(profile, cmsSigRedColorantTag);
+    const auto *green = colorTag(profile, cmsSigGreenColorantTag);
+    const auto *blue = colorTag(profile, cmsSigBlueColorantTag);
     if (!red || !green || !blue) {
         return Failure::failure(IccText::tr("has no primaries: the ICC profile has no colorant tags"));
     }
     const Matrix native = unadaptation(profile);
     const Primaries primaries{chromaticity(native * vector(*red)), chromaticity(native * vector(*green)),
         chromaticity(native * vector(*blue)), chromaticity(native * vector(*cmsD50_XYZ()))};
-    const auto *luminance = tag<cmsCIEXYZ>(profile, cmsSigLuminanceTag);
-    const bool hasLuminance = luminance && std::isfinite(luminance->Y) && luminance->Y > 0.0;
-    const auto gamut = gamutFromPrimaries(description(profile), primaries, hasLuminance ? luminance->Y : 1.0);
-    const LuminanceUnit unit = hasLuminance ? LuminanceUnit::CandelaPerSquareMetre : LuminanceUnit::Relative;
-    return gamut ? Failure(DisplayGamut(*gamut, unit))
-                 : Failure::failure(IccText::tr("is an ICC profile without usable primaries: %1").arg(gamut.error()));
+    IccDisplay display;
+    if (const auto *luminance = colorTag(profile, cmsSigLuminanceTag);
+        luminance && std::isfinite(luminance->Y) && luminance->Y > 0.0) {
+        display.whiteLuminance = luminance->Y;
+    }
+    const QString name = description(profile);
+    const auto gamut
+        = gamutFromPrimaries(name, primaries, display.whiteLuminance.value_or(1.0), PrimariesOf::ColorSpace);
+    if (!gamut) {
+        return Failure::failure(IccText::tr("is an ICC profile without usable primaries: %1").arg(gamut.error()));
+    }
+    display.gamut
+        = DisplayGamut(*gamut, display.whiteLuminance ? LuminanceUnit::CandelaPerSquareMetre : LuminanceUnit::Relative);
+    display.hasVideoCardTable = cmsIsTag(profile.get(), cmsSigVcgtTag) != 0;
+    display.metadata = metadata(profile);
+
+    QVector<Problem> warnings;
+    if (name.isEmpty() && cmsIsTag(profile.get(), cmsSigProfileDescriptionTag)
+        && !cmsReadTag(profile.get(), cmsSigProfileDescriptionTag)) {
+        warnings.append({IccText::tr("the name of the profile cannot be read"), QStringLiteral("desc"), 0, 0});
+    }
+    return {display, warnings + warningsOfTheLocus(gamut->getTargets()) + warningsOfTheSource(display.metadata)};
+}
+
+Outcome<DisplayGamut> readIccProfile(const QByteArray &bytes)
+{
+    const auto display = readIccDisplay(bytes);
+    return display ? Outcome<DisplayGamut>(display->gamut, display.warnings())
+                   : Outcome<DisplayGamut>::failure(display.problem());
 }
 
 } // namespace gamutfiles

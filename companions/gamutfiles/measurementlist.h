@@ -2,6 +2,8 @@
 #ifndef GAMUTFILES_MEASUREMENTLIST_H
 #define GAMUTFILES_MEASUREMENTLIST_H
 
+#include <gamutfiles/displaydescription.h>
+#include <gamutfiles/measurementoptions.h>
 #include <gamutfiles/outcome.h>
 
 #include <gamutmodel/colorgamut.h>
@@ -14,34 +16,105 @@
 
 namespace gamutfiles {
 
+/*! \brief Longer measurement lists are refused. There is room for about 20 000 measurements. */
+constexpr int maximumMeasurementBytes = 1024 * 1024;
+
 /*! \brief One line of a measurement list. */
 struct Measurement {
-    QString name; //!< as the list calls it
-    Model::Target color; //!< in the unit of the list
+    QString name; //!< as the list calls it; empty when it has no names
+    double luminance = 0.0; //!< in the unit of the list
+    /*!
+     * \brief Luminance and chromaticity, in the unit of the list.
+     *
+     * Nothing when the list has no chromaticity for it: of black, and of what is too dark for the instrument.
+     */
+    std::optional<Model::Target> color;
+    MeasurementPart part = MeasurementPart::None; //!< by its name and level, or as chosen
+    int line = 0; //!< of the file, from 1
+    QString cabinet; //!< the cabinet, module, panel or tile that was measured; empty: the list does not say
+    std::optional<int> row; //!< of the cabinet, as the list counts
+    std::optional<int> column; //!< of the cabinet, as the list counts
 };
+
+/*! \brief A column of a measurement list that was understood. */
+struct RecognizedColumn {
+    QString part; //!< what it gives: name, Y, x, y, u', v', X, Z, cabinet, row or column
+    int column = 0; //!< its place, from 1
+    QString header; //!< as the list calls it; empty when the list has no header line
+};
+
+/*! \brief A measurement that plays a part. */
+struct RecognizedPart {
+    MeasurementPart part = MeasurementPart::None; //!< never None
+    QString name; //!< of the measurement
+    int line = 0; //!< of the file, from 1
+};
+
+/*! \brief The name of \a part in messages, for example "red"; empty for None. */
+GAMUTFILES_EXPORT QString measurementPartName(MeasurementPart part);
+
+/*! \brief How a measurement list was understood, for the user to check. */
+struct MeasurementRecognition {
+    TextEncoding encoding = TextEncoding::Utf8; //!< how the text is stored
+    QChar separator; //!< between fields
+    std::optional<QChar> decimalSign; //!< nothing when no number has one
+    QString thousandsSeparators; //!< each that occurs, once
+    int headerLine = 0; //!< the line that names the columns, from 1; 0: there is none
+    QVector<RecognizedColumn> columns; //!< those that are read
+    MeasuredUnit unit = MeasuredUnit::NotStated; //!< as the list states it, or as chosen
+    QString unitText; //!< as the list writes it, with m2 for m² and without spaces; empty when it does not
+    std::optional<double>
+        fullLevel; //!< of levels without a unit, for example 255; nothing: there is none, or not known
+    QVector<RecognizedPart> parts; //!< in the order of the file
+
+    /*! \brief All of this for people: one line for each statement, separated by line feeds. */
+    GAMUTFILES_EXPORT QString text() const;
+};
+
+struct CabinetMeasurements;
 
 /*! \brief What a meter measured, in the order of the file. */
 struct MeasurementList {
     QVector<Measurement> measurements; //!< every line, in this order
+    /*! \brief The unit of all luminances. Foot-lamberts have been converted to cd/m². */
+    LuminanceUnit unit = LuminanceUnit::NotKnown;
+    bool whiteIsSum = false; //!< whether gamut() takes a missing white as the sum of the primaries
+    MeasurementRecognition recognized; //!< how the list was understood
 
     /*!
-     * \brief The gamut that the list holds, named \a gamutName: the measurements called red, green, blue and white, or
-     * R, G, B and W, in any case; nothing unless each of the four is there once.
+     * \brief The gamut that the list holds, named \a gamutName.
+     *
+     * Nothing unless red, green, blue and white are there once each, with chromaticities, and the primaries span a
+     * triangle; the white may be missing with whiteIsSum. Nothing for a list of several cabinets.
      */
-    GAMUTFILES_EXPORT std::optional<Model::ColorGamut> gamut(const QString &gamutName) const;
+    GAMUTFILES_EXPORT std::optional<DisplayGamut> gamut(const QString &gamutName) const;
     /*! \brief The measurements that gamut() does not use: all of them when there is no gamut. */
     GAMUTFILES_EXPORT QVector<Measurement> others() const;
+    /*! \brief The measured black; nothing unless there is exactly one. */
+    GAMUTFILES_EXPORT std::optional<Measurement> black() const;
+    /*! \brief The measurements of each cabinet, in the order of the file; empty when the list names no cabinets. */
+    GAMUTFILES_EXPORT QVector<CabinetMeasurements> cabinets() const;
+};
+
+/*! \brief The part of a measurement list that belongs to one cabinet. */
+struct CabinetMeasurements {
+    QString cabinet; //!< its name; empty when it is known by row and column only
+    std::optional<int> row; //!< as the list counts
+    std::optional<int> column; //!< as the list counts
+    MeasurementList list; //!< its measurements; \a recognized is that of the whole list
 };
 
 /*!
- * \brief Reads a measurement list: CSV (RFC 4180) in UTF-8 with the columns name, Y, x, y.
+ * \brief Reads a measurement list: text with one measurement in each line, as instruments and spreadsheets write it.
  *
- * A header line that names the columns is optional; with one, the columns may stand in any order and there may be
- * others. Fields are separated by commas, semicolons or tabs, whichever the first line has; with semicolons and tabs
- * a decimal comma is understood too. Empty lines and lines that begin with # are skipped. Errors name line and column.
- * A list whose gamut() has primaries that span no triangle is refused.
+ * docs/measurement-lists.md describes what is understood. What \a options do not state is recognised from the whole
+ * list. Where the list allows two readings it is refused, and the failure says what to state. Warnings say what else a
+ * user must know: a colour that occurs twice, a missing white, a unit that is not stated or not known. A list whose
+ * primaries span no triangle is refused, unless it has several cabinets. A choice in \a options that no measurement
+ * answers to is refused. At most maximumMeasurementBytes are read, in a time proportional to their number.
  */
-GAMUTFILES_EXPORT Outcome<MeasurementList> readMeasurementList(const QByteArray &utf8);
+GAMUTFILES_EXPORT Outcome<MeasurementList> readMeasurementList(
+    const QByteArray &bytes, const MeasurementOptions &options = MeasurementOptions());
 
 } // namespace gamutfiles
 

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void emptyLayersAreRefused();
     void layersAreDocumented();
     void severalFiles();
+    void measurementOptions();
     void refusals_data();
     void refusals();
 };
@@ -349,12 +350,38 @@ void CommandLineTest::severalFiles()
     QCOMPARE(line.files(), (QStringList{"wall.json", "monitor.icc", "meter.csv"}));
 }
 
+void CommandLineTest::measurementOptions()
+{
+    QVERIFY(!CommandLine(withProgram("meter.csv")).hasMeasurementOptions());
+    const CommandLine line(withProgram("meter.csv --red Rot --green line:12 --white sum --unit fL --decimal comma"));
+    QCOMPARE(line.action(), Action::Show);
+    QVERIFY(line.hasMeasurementOptions());
+    const gamutfiles::MeasurementOptions &options = line.measurementOptions();
+    QCOMPARE(options.red.name, QStringLiteral("Rot"));
+    QCOMPARE(options.red.line, 0);
+    QCOMPARE(options.green.line, 12);
+    QVERIFY(options.green.name.isEmpty());
+    QVERIFY(options.blue.isEmpty());
+    QVERIFY(options.white.isEmpty());
+    QVERIFY(options.whiteIsSum);
+    QVERIFY(options.unit == gamutfiles::MeasuredUnit::FootLambert);
+    QVERIFY(options.decimalSign == QLatin1Char(','));
+}
+
 void CommandLineTest::refusals_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("error");
     QTest::newRow("unknown option") << QStringList{"--bogus"} << "Unknown option 'bogus'.";
     QTest::newRow("no picture file") << QStringList{"--render"} << "Missing value after '--render'.";
+    QTest::newRow("unknown unit") << QStringList{"--unit", "lux"}
+                                  << "Unknown unit, expected cd/m2, fL or relative: lux";
+    QTest::newRow("unknown sign") << QStringList{"--decimal", ","}
+                                  << "Unknown decimal sign, expected point or comma: ,";
+    QTest::newRow("no line") << QStringList{"--red", "line:0"}
+                             << "Invalid measurement, expected a name or line:<number>: --red line:0";
+    QTest::newRow("no name") << QStringList{"--white", ""}
+                             << "Invalid measurement, expected a name or line:<number>: --white ";
     QTest::newRow("empty picture file") << QStringList{"--render", ""} << "The file name of --render is empty.";
     QTest::newRow("empty file name") << QStringList{"a", ""} << "An input file name is empty.";
     QTest::newRow("unknown picture") << QStringList{"--render", "a.jpg"}

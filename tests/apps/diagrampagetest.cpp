@@ -18,6 +18,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QStyleHints>
 #include <QtTest>
 
 #include <cmath>
@@ -158,10 +159,15 @@ void DiagramPageTest::theFirstDragKeepsTheHandleUnderThePointer()
     };
     send(QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
     QPoint pointer = start;
+    const int threshold = QGuiApplication::styleHints()->startDragDistance();
     for (int step = 1; step <= 10; ++step) {
-        pointer = start + QPoint(4, 3) * step;
+        pointer = start + QPoint(4, 3) * step; // 5 pixels
         send(QEvent::MouseMove, pointer, Qt::NoButton, Qt::LeftButton);
-        QVERIFY((handle() - pointer).manhattanLength() <= 2);
+        if (5 * step <= threshold) {
+            QCOMPARE(handle(), start);
+        } else if (10 * step >= 3 * threshold) {
+            QVERIFY((handle() - pointer).manhattanLength() <= 2);
+        }
     }
     send(QEvent::MouseButtonRelease, pointer, Qt::LeftButton, Qt::NoButton);
     QVERIFY((handle() - pointer).manhattanLength() <= 2);
@@ -301,7 +307,7 @@ void DiagramPageTest::lensMovesTheWhite()
     DocumentView *lens = f.window->diagramPage()->lens()->view();
     DiagramPointer pointer(lens);
     const QPointF white = f.xy(Vertex::White);
-    const QPointF to = white + QPointF(0.002, 0.001);
+    const QPointF to = white + QPointF(0.004, 0.002);
     pointer.drag(white, to);
     // Far finer than in the diagram that it lies on.
     QVERIFY(pointer.pixel() < 0.2 * DiagramPointer(view(f)).pixel());
@@ -346,7 +352,7 @@ void DiagramPageTest::ringsMoveWithTheWhite()
     DiagramPointer pointer(lens);
     const QPointF white = f.xy(Vertex::White);
     pointer.press(white);
-    pointer.move(white + QPointF(0.002, 0.001));
+    pointer.move(white + QPointF(0.004, 0.002));
     QVERIFY(f.xy(Vertex::White) != white);
     for (const DocumentView *shown :
         {static_cast<const DocumentView *>(lens), static_cast<const DocumentView *>(view(f))}) {

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void reportCannotBeWritten();
     void opensEveryFormat();
     void tellsOfMixedDisplays();
+    void listsThatNeedAChoice();
     void namesTheLineOfASyntaxError();
     void rendersInTheSizeAskedFor_data();
     void rendersInTheSizeAskedFor();
@@ -347,7 +348,8 @@ void GamutViewerTest::opensEveryFormat()
 {
     write("monitor.bin", samplefiles::edid());
     write("profile.icc", samplefiles::version4Profile());
-    write("meter.csv", "red,200,0.7,0.29\ngreen,700,0.2,0.7\nblue,100,0.15,0.05\nwhite,1000,0.28,0.29\n");
+    write("meter.csv",
+        "name,Y (cd/m2),x,y\nred,200,0.7,0.29\ngreen,700,0.2,0.7\nblue,100,0.15,0.05\nwhite,1000,0.28,0.29\n");
     write("wall.json", minimal);
     // Each is what it is, and nothing besides.
     const std::pair<const char *, QStringList> expected[] = {{"monitor.bin", {"declared"}},
@@ -384,6 +386,27 @@ void GamutViewerTest::tellsOfMixedDisplays()
     QCOMPARE(result.error, QByteArray("gamutviewer: monitor.bin: is of the display \"Studio 27\", not of \"Wall\"\n"));
     QCOMPARE(result.exitCode, 0);
     QVERIFY(QJsonDocument::fromJson(result.output).object().contains("declared"));
+}
+
+void GamutViewerTest::listsThatNeedAChoice()
+{
+    write(
+        "meter.csv", "name,Y (lux),x,y\nred,190,0.69,0.30\nred,180,0.64,0.33\ngreen,600,0.2,0.7\nblue,120,0.14,0.08\n");
+    const Result open = run({"--report", "json", "meter.csv"});
+    QCOMPARE(open.exitCode, 5);
+    QVERIFY2(open.error.contains("gamutviewer: meter.csv: line 3: red is there more than once"), open.error);
+    QVERIFY(!QJsonDocument::fromJson(open.output).object().contains("measured"));
+    const Result chosen
+        = run({"--report", "json", "meter.csv", "--red", "line:3", "--white", "sum", "--unit", "cd/m2"});
+    QVERIFY2(chosen.exitCode == 0, chosen.error);
+    const QJsonObject measured = QJsonDocument::fromJson(chosen.output).object().value("measured").toObject();
+    QCOMPARE(measured.value("red").toObject().value("x").toDouble(), 0.64);
+    QCOMPARE(measured.value("white").toObject().value("Y").toDouble(), 900.0);
+    write("monitor.bin", samplefiles::edid());
+    const Result none = run({"--report", "json", "monitor.bin", "--unit", "cd/m2"});
+    QCOMPARE(none.error,
+        QByteArray("gamutviewer: --red, --green, --blue, --white, --unit and --decimal require a measurement list\n"));
+    QCOMPARE(none.exitCode, 2);
 }
 
 void GamutViewerTest::namesTheLineOfASyntaxError()
@@ -521,7 +544,7 @@ void GamutViewerTest::refusesArguments_data()
     QTest::newRow("two descriptions") << QStringList{SAMPLE_FILE,
         SAMPLE_FILE} << QByteArray(SAMPLE_FILE ": is a second display description; the first is " SAMPLE_FILE);
     QTest::newRow("missing file") << QStringList{"no.json"}
-                                  << QByteArray("no.json: cannot be read: No such file or directory");
+                                  << QByteArray("no.json: cannot be read: there is no such file");
     QTest::newRow("folder") << QStringList{"."} << QByteArray(".: is a folder");
 }
 

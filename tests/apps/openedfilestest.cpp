@@ -43,7 +43,8 @@ namespace {
 
 const QByteArray minimal = R"json({"version": 1, "gamuts": [], "original": "Rec.2020", "target": "DCI-P3(D65)"})json";
 const QByteArray list
-    = "name,Y,x,y\nred,200,0.7,0.29\ngreen,700,0.2,0.7\nblue,100,0.15,0.05\nwhite,1000,0.28,0.29\ngrey,5,0.3,0.31\n";
+    = "name,Y "
+      "(cd/m2),x,y\nred,200,0.7,0.29\ngreen,700,0.2,0.7\nblue,100,0.15,0.05\nwhite,1000,0.28,0.29\ngrey,5,0.3,0.31\n";
 
 DisplayDescription wall()
 {

@@ -16,6 +16,7 @@
 #include "window/comparepage.h"
 #include "window/filenames.h"
 #include "window/librarypage.h"
+#include "window/listdialog.h"
 #include "window/recentfiles.h"
 
 #include <ceiechart/widgets/ceiegraphicsview.h>
@@ -29,6 +30,8 @@
 #include <QPlainTextEdit>
 #include <QToolButton>
 #include <QtTest>
+
+#include <functional>
 
 using namespace gamutviewer;
 
@@ -61,13 +64,17 @@ private Q_SLOTS:
     void warningsAreDismissed();
     void openedFilesAreRecent();
     void dialogsBeginWhereTheLastFileWas();
+    void listsAreAskedAbout();
+    void listOfTwoReadingsIsAskedAbout();
+    void canceledListIsNotOpened();
     void namesAreMadeSafe_data();
     void namesAreMadeSafe();
 };
 
 namespace {
 
-const QByteArray meter = "name,Y,x,y\nred,190,0.69,0.30\ngreen,600,0.2,0.7\nblue,120,0.14,0.08\nwhite,910,0.28,0.30\n";
+const QByteArray meter
+    = "name,Y (cd/m2),x,y\nred,190,0.69,0.30\ngreen,600,0.2,0.7\nblue,120,0.14,0.08\nwhite,910,0.28,0.30\n";
 const QByteArray description
     = R"json({"version": 1, "name": "Wall", "gamuts": [], "original": "Rec.2020", "target": "DCI-P3(D65)"})json";
 
@@ -138,6 +145,30 @@ bool drop(QWidget *widget, const QStringList &files)
     data.setUrls(urls);
     return drop(widget, data) == Qt::CopyAction;
 }
+
+//! Answers the next question what a measurement list means.
+class ListAnswer : public QObject {
+public:
+    explicit ListAnswer(const std::function<void(ListDialog *)> &answer)
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this, answer] {
+            auto *dialog = qobject_cast<ListDialog *>(QApplication::activeModalWidget());
+            if (dialog && !m_isAsked) {
+                m_isAsked = true;
+                answer(dialog);
+                if (dialog->isVisible()) {
+                    dialog->reject(); // it has not been answered
+                }
+            }
+        });
+        m_timer.start(1);
+    }
+    bool isAsked() const { return m_isAsked; }
+
+private:
+    bool m_isAsked = false;
+    QTimer m_timer;
+};
 
 OpenedFiles withWarnings(int count)
 {
@@ -502,13 +533,10 @@ void ViewerFilesTest::otherDropsAreLeftAlone()
     QMimeData address;
     address.setUrls({QUrl(QStringLiteral("https://example.org/a.icc"))});
     QCOMPARE(drop(f.window.get(), address), Qt::IgnoreAction);
-    // A number goes where it is dropped.
     QMimeData number;
     number.setText(QStringLiteral("0.5"));
-    auto *field = f.window->panel()->editor()->firstCoordinate(Vertex::Red)->findChild<QLineEdit *>();
-    field->selectAll();
-    QVERIFY(drop(field, number) != Qt::IgnoreAction);
-    QVERIFY(field->text().contains(QLatin1String("0.5")));
+    QCOMPARE(drop(f.window.get(), number), Qt::IgnoreAction);
+    QCOMPARE(f.document().description().name, QStringLiteral("LED wall"));
 }
 
 void ViewerFilesTest::warningsAreShown()
@@ -625,6 +653,71 @@ void ViewerFilesTest::dialogsBeginWhereTheLastFileWas()
              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), QKeySequence(QKeySequence::Close)}) {
         QVERIFY2(action(f, shortcut), qPrintable(shortcut.toString()));
     }
+}
+
+void ViewerFilesTest::listsAreAskedAbout()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    const QString file = writeFile(f.settings, QStringLiteral("meter.csv"),
+        "name,Y (lux),x,y\nred,190,0.69,0.30\nred,180,0.64,0.33\ngreen,600,0.2,0.7\nblue,120,0.14,0.08\n");
+    QString before;
+    QString after;
+    const ListAnswer answer([&](ListDialog *dialog) {
+        before = dialog->preview()->toPlainText();
+        // By its keys, as a user: the second red, the sum, cd/m2.
+        QComboBox *red = dialog->choice(Vertex::Red);
+        QTest::keyClick(red, Qt::Key_End);
+        while (!red->currentText().startsWith(QLatin1String("line 3:")) && red->currentIndex() > 0) {
+            QTest::keyClick(red, Qt::Key_Up);
+        }
+        QTest::keyClick(dialog->choice(Vertex::White), Qt::Key_Down);
+        QTest::keyClick(dialog->unit(), Qt::Key_Down);
+        after = dialog->preview()->toPlainText();
+        QTest::mouseClick(dialog->useButton(), Qt::LeftButton);
+    });
+    QVERIFY(f.window->openPath(file));
+    QVERIFY(answer.isAsked());
+    QVERIFY2(before.contains(QLatin1String("makes no gamut")), qPrintable(before));
+    QVERIFY2(after.contains(QLatin1String("The list makes a gamut.")), qPrintable(after));
+    const auto measured = f.document().description().gamut(QStringLiteral("meter"));
+    QVERIFY(measured);
+    QCOMPARE(f.document().description().measured, QStringLiteral("meter"));
+    QCOMPARE(measured->getTargets().red.x, 0.64);
+    QCOMPARE(measured->getTargets().white.Y, 180.0 + 600.0 + 120.0);
+    QVERIFY(measured->unit == LuminanceUnit::CandelaPerSquareMetre);
+}
+
+void ViewerFilesTest::listOfTwoReadingsIsAskedAbout()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    // A thousand and more, or one and a bit.
+    const QString file = writeFile(f.settings, QStringLiteral("meter.csv"),
+        "name;X (cd/m2);Y;Z\nred;1,234;1,000;1,500\ngreen;1,000;2,000;1,000\n");
+    QVERIFY(!readGamutFile(file));
+    const ListAnswer answer([](ListDialog *dialog) {
+        QVERIFY(!dialog->useButton()->isEnabled());
+        QTest::keyClick(dialog->decimalSign(), Qt::Key_End);
+        QVERIFY2(dialog->useButton()->isEnabled(), qPrintable(dialog->preview()->toPlainText()));
+        QTest::mouseClick(dialog->useButton(), Qt::LeftButton);
+    });
+    QVERIFY(f.window->openPath(file));
+    QVERIFY(answer.isAsked());
+    QVERIFY(!f.document().description().measurePoints.isEmpty());
+}
+
+void ViewerFilesTest::canceledListIsNotOpened()
+{
+    WindowFixture f;
+    const QString file
+        = writeFile(f.settings, QStringLiteral("meter.csv"), "name,Y,x,y\nred,190,0.69,0.30\nred,180,0.64,0.33\n");
+    const ListAnswer answer([](ListDialog *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+    QVERIFY(!f.window->openPath(file));
+    QVERIFY(answer.isAsked());
+    QCOMPARE(f.document().description().name, QStringLiteral("LED wall"));
+    QVERIFY(!f.window->isWindowModified());
+    QVERIFY(RecentFiles::list().isEmpty());
 }
 
 void ViewerFilesTest::namesAreMadeSafe_data()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <gamutmodel/gamutcoverage.h>
+#include <gamutmodel/publishedgamuts.h>
 
 #include <QtTest>
 
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void rec2020CoversRec709();
     void rec709OfRec2020();
     void dciP3ToRec709();
+    void primariesBeyondTheLocus();
     void publishedUvOfPrimaries();
     void diagramsAreInverses();
     void gamutCoversItself_data();
@@ -94,6 +96,25 @@ void GamutCoverageTest::rec709OfRec2020()
     const GamutCoverage uv = gamutCoverage(standard709, standard2020, Diagram::Cie1976);
     QVERIFY2(isNear(uv.areaRatio, 0.5803, 0.0005), qPrintable(QString::number(uv.areaRatio)));
     QVERIFY(isNear(uv.coverage, uv.areaRatio, 1e-12));
+}
+
+// Triangles by the shoelace formula from the published primaries; the blue of ACES2065-1 lies below the axis. The
+// common area of the ACES spaces by clipping in rational numbers.
+void GamutCoverageTest::primariesBeyondTheLocus()
+{
+    const Targets aces = publishedGamut("ACES2065-1")->gamut.getTargets();
+    const Targets acesCg = publishedGamut("ACEScg")->gamut.getTargets();
+    QVERIFY(isNear(gamutArea(aces, Diagram::Cie1931), 0.395599215, 1e-12));
+    QVERIFY(isNear(gamutArea(aces, Diagram::Cie1976), 0.29106796292231196, 1e-12));
+    QVERIFY(isNear(gamutArea(acesCg, Diagram::Cie1931), 0.2252984985, 1e-8));
+    QVERIFY(gamutCoverage(aces, standard2020, Diagram::Cie1931).coverage == 1.0);
+    QVERIFY(gamutCoverage(aces, standard2020, Diagram::Cie1976).coverage == 1.0);
+    QVERIFY(isNear(gamutCoverage(standard2020, aces, Diagram::Cie1931).coverage, 0.5355584439165281, 1e-12));
+    QVERIFY(isNear(gamutCoverage(standard2020, aces, Diagram::Cie1976).coverage, 0.38418048405939914, 1e-12));
+    QVERIFY(isNear(gamutCoverage(standard2020, acesCg, Diagram::Cie1931).coverage, 0.9403813163425414, 1e-12));
+    QVERIFY(isNear(commonArea(acesCg, aces, Diagram::Cie1931), 0.2244143986265533, 1e-12));
+    QVERIFY(Model::primariesOutside(aces, standard2020).blue);
+    QVERIFY(!Model::primariesOutside(standard2020, aces).any());
 }
 
 void GamutCoverageTest::dciP3ToRec709()

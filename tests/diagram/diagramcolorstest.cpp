@@ -114,6 +114,7 @@ private Q_SLOTS:
     void scrolledIsAsFilledAnew_data();
     void scrolledIsAsFilledAnew();
     void editedIsAsFilledAnew();
+    void movedAndEditedIsAsFilledAnew();
     void nothingChangedFillsNothing();
     void halfPixelsAreFilledAnew();
     void noneIsGround();
@@ -246,6 +247,35 @@ void DiagramColorsTest::editedIsAsFilledAnew()
     DiagramColors anew;
     QCOMPARE(none, anew.update(request, nullptr, nullptr));
     QVERIFY(none != before);
+}
+
+void DiagramColorsTest::movedAndEditedIsAsFilledAnew()
+{
+    ColorsRequest request = requestFor(Model::Diagram::Cie1931, HorseshoeColors::Dimmed, 1.0, 1.0);
+    DiagramColors kept;
+    kept.update(request, nullptr, nullptr);
+    // After each of these the picture is that of the next one's past.
+    const QPointF greens[] = {{0.28, 0.62}, {0.28, 0.62}, {0.10, 0.80}, {0.12, 0.78}, {0.12, 0.78}, {0.2, 0.7}};
+    const QPointF ways[] = {{0, 0}, {9, -4}, {0, 0}, {-6, 11}, {400, 0}, {0, 0}};
+    for (int i = 0; i < 6; ++i) {
+        request.full[1] = greens[i];
+        request.viewport = request.viewport.panned(ways[i]);
+        const QImage image = kept.update(request, nullptr, nullptr);
+        DiagramColors anew;
+        QVERIFY2(image == anew.update(request, nullptr, nullptr), qPrintable(QString::number(i)));
+    }
+    // Without its colours and back, with another edit in between.
+    request.colors = HorseshoeColors::Full;
+    kept.update(request, nullptr, nullptr);
+    request.full[1] = QPointF(0.3, 0.6);
+    request.viewport = request.viewport.panned(QPointF(3, 3));
+    kept.update(request, nullptr, nullptr);
+    request.colors = HorseshoeColors::Dimmed;
+    kept.update(request, nullptr, nullptr);
+    request.full[1] = QPointF(0.31, 0.61);
+    const QImage image = kept.update(request, nullptr, nullptr);
+    DiagramColors anew;
+    QCOMPARE(image, anew.update(request, nullptr, nullptr));
 }
 
 void DiagramColorsTest::nothingChangedFillsNothing()

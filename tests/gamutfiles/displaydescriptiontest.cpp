@@ -19,6 +19,9 @@ private Q_SLOTS:
     void limitsOfTheChromaticityTriangle();
     void refused_data();
     void refused();
+    void colorSpaces_data();
+    void colorSpaces();
+    void colorSpacesAreKept();
     void everyRequiredKeyIsMissed_data();
     void everyRequiredKeyIsMissed();
     void everyNumberMustBeOne_data();
@@ -233,8 +236,8 @@ void DisplayDescriptionTest::refused_data()
         "f: measured: the name must not be empty");
     change("no such target", "\"target\": \"Rec.2020\"", "\"target\": \"Rec. 2020\"",
         "f: target: there is no gamut named \"Rec. 2020\"");
-    change("no such standard", "\"Rec.709\", \"native\"", "\"Rec.709\", \"sRGB\"",
-        "f: standards[1]: there is no gamut named \"sRGB\"");
+    change("no such standard", "\"Rec.709\", \"native\"", "\"Rec.709\", \"srgb\"",
+        "f: standards[1]: there is no gamut named \"srgb\"");
     change("standard twice", "\"Rec.709\", \"native\"", "\"Rec.709\", \"native\", \"Rec.709\"",
         "f: standards[2]: \"Rec.709\" is listed twice");
 
@@ -260,6 +263,82 @@ void DisplayDescriptionTest::refused()
     QFETCH(QByteArray, text);
     QFETCH(QString, message);
     QCOMPARE(messageFor(text), message);
+}
+
+namespace {
+
+//! A description of a gamut "wide" with the given colours, which plays \a part.
+QByteArray wide(const QByteArray &part, const QByteArray &blue = R"({"Y": -0.0721, "x": 0.0001, "y": -0.077})",
+    const QByteArray &green = R"({"Y": 0.728, "x": 0, "y": 1})",
+    const QByteArray &white = R"({"Y": 1, "x": 0.32168, "y": 0.33767})")
+{
+    return R"({"version": 1, "gamuts": [{"name": "wide", "red": {"Y": 0.344, "x": 0.7347, "y": 0.2653}, "green": )"
+        + green + R"(, "blue": )" + blue + R"(, "white": )" + white + R"(}], )" + part + '}';
+}
+
+} // namespace
+
+void DisplayDescriptionTest::colorSpaces_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *name, const QByteArray &text, const char *message) {
+        QTest::newRow(name) << text << QString::fromUtf8(message);
+    };
+    row("declared", wide(R"("declared": "wide")"), "taken");
+    row("standard", wide(R"("standards": ["Rec.709", "wide"])"), "taken");
+    row("both", wide(R"("declared": "wide", "standards": ["wide"])"), "taken");
+    row("published", R"({"version": 1, "gamuts": [], "declared": "ACEScg", "standards": ["ACES2065-1"]})", "taken");
+    const char *negative = "f: gamuts[0].blue.y: y must be greater than 0";
+    row("original", wide(R"("original": "wide")"), negative);
+    row("measured", wide(R"("measured": "wide")"), negative);
+    row("target", wide(R"("target": "wide")"), negative);
+    row("declared and target", wide(R"("declared": "wide", "target": "wide")"), negative);
+    row("standard and original", wide(R"("standards": ["wide"], "original": "wide")"), negative);
+    row("no part", wide(R"("name": "none")"), negative);
+    row("published target", R"({"version": 1, "gamuts": [], "target": "ACES2065-1"})",
+        "f: target: no display can show \"ACES2065-1\": it has primaries with x < 0, y <= 0 or x + y > 1");
+    row("published original", R"({"version": 1, "gamuts": [], "original": "ACEScg"})",
+        "f: original: no display can show \"ACEScg\": it has primaries with x < 0, y <= 0 or x + y > 1");
+
+    const QByteArray declared = R"("declared": "wide")";
+    row("x + y above 1", wide(declared, R"({"Y": 0.1, "x": 0.13, "y": 0.05})", R"({"Y": 1, "x": 0.17, "y": 1.14})"),
+        "taken");
+    row("negative x", wide(declared, R"({"Y": 0.1, "x": -0.1, "y": 0.05})"), "taken");
+    const char *range = "f: gamuts[0].blue: x and y must be from -1 to 2, y not 0 and -2x + 12y + 3 greater than 0";
+    row("y zero", wide(declared, R"({"Y": 0, "x": 0.1, "y": 0})"), range);
+    row("x below the range", wide(declared, R"({"Y": 0.1, "x": -1.1, "y": 0.1})"), range);
+    row("no place on the uniform diagrams", wide(declared, R"({"Y": -0.1, "x": 0, "y": -0.25})"), range);
+    row("positive luminance", wide(declared, R"({"Y": 0.1, "x": 0.0001, "y": -0.077})"),
+        "f: gamuts[0].blue.Y: luminance must not be positive where y is negative");
+    row("negative luminance", wide(declared, R"({"Y": -0.1, "x": -0.1, "y": 0.05})"),
+        "f: gamuts[0].blue.Y: luminance must not be negative");
+    row("white beyond the side",
+        wide(declared, R"({"Y": -0.1, "x": 0.3, "y": -0.01})", R"({"Y": 1, "x": 0.3, "y": 0.8})",
+            R"({"Y": 1, "x": 0.2, "y": 0.3})"),
+        "f: gamuts[0]: the white point lies outside the triangle of the primaries");
+    row("white of no light",
+        wide(declared, R"({"Y": -0.07, "x": 0.0001, "y": -0.077})", R"({"Y": 1, "x": 0, "y": 1})",
+            R"({"Y": 1, "x": 0.2, "y": -0.01})"),
+        "f: gamuts[0].white.y: y must be greater than 0");
+}
+
+void DisplayDescriptionTest::colorSpaces()
+{
+    refused();
+}
+
+// Written and read again the same, the negative luminance included.
+void DisplayDescriptionTest::colorSpacesAreKept()
+{
+    const auto read = readDescription(wide(R"("declared": "wide")"));
+    QVERIFY2(read, qPrintable(read.error()));
+    QVERIFY(!hasRealPrimaries(read->gamuts[0].getTargets()));
+    QVERIFY(hasRealPrimaries(Model::rec2020().getTargets()));
+    const auto again = readDescription(descriptionText(*read));
+    QVERIFY2(again, qPrintable(again.error()));
+    QVERIFY(isExactly(again->gamuts[0].getTargets().blue, -0.0721, 0.0001, -0.077));
+    QVERIFY(isExactly(again->gamuts[0].getTargets().green, 0.728, 0.0, 1.0));
 }
 
 void DisplayDescriptionTest::everyRequiredKeyIsMissed_data()
@@ -331,13 +410,13 @@ void DisplayDescriptionTest::refusedFiles()
 
     QCOMPARE(messageForFile(folder.path()), folder.path() + QStringLiteral(": is a folder"));
     const QString missing = folder.filePath(QStringLiteral("missing.json"));
-    QCOMPARE(messageForFile(missing), missing + QStringLiteral(": cannot be read: No such file or directory"));
+    QCOMPARE(messageForFile(missing), missing + QStringLiteral(": cannot be read: there is no such file"));
     const QString empty = write("empty.json", "");
     QCOMPARE(messageForFile(empty), empty + QStringLiteral(": is empty"));
     const QString good = write("good.json", description);
     QCOMPARE(messageForFile(good), QStringLiteral("taken"));
     const QString beyond = good + QStringLiteral("/x.json");
-    QCOMPARE(messageForFile(beyond), beyond + QStringLiteral(": cannot be read: Not a directory"));
+    QCOMPARE(messageForFile(beyond), beyond + QStringLiteral(": cannot be read: there is no such file"));
 #ifdef Q_OS_UNIX
     const QString loop = folder.filePath(QStringLiteral("loop.json"));
     QVERIFY(QFile::link(loop, loop));

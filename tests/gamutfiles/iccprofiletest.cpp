@@ -28,6 +28,16 @@ private Q_SLOTS:
     void truncatedAnywhere();
     void damagedAnywhere();
     void recognisedByItsSignature();
+    void colorSpaceWithImaginaryPrimaries();
+    void colorSpaceThatIsNoEnumerator();
+    void shortAdaptationTag();
+    void luminanceOfTheTag();
+    void metadata();
+    void damagedMetadata();
+    void metadataThatDenyAMeasurement_data();
+    void metadataThatDenyAMeasurement();
+    void videoCardTable();
+    void nameThatCannotBeRead();
 };
 
 namespace {
@@ -196,7 +206,7 @@ void IccProfileTest::refusals_data()
             const cmsCIEXYZ black{0.0, 0.0, 0.0};
             cmsWriteTag(profile, cmsSigRedColorantTag, &black);
         },
-        "is an ICC profile without usable primaries: the red primary is not a valid chromaticity: x 0, y 0");
+        "is an ICC profile without usable primaries: the red primary has no chromaticity");
     changed(
         "two equal primaries",
         [](cmsHPROFILE profile) {
@@ -210,12 +220,12 @@ void IccProfileTest::refusals_data()
             const cmsCIEXYZ black{0.0, 0.0, 0.0};
             cmsWriteTag(profile, cmsSigMediaWhitePointTag, &black);
         },
-        "is an ICC profile without usable primaries: the red primary is not a valid chromaticity: x 0, y 0");
+        "is an ICC profile without usable primaries: the red primary has no chromaticity");
     row("adaptation without inverse", samplefiles::version4Profile([](cmsHPROFILE profile) {
         const cmsCIEXYZ rows[] = {{1, 1, 1}, {1, 1, 1}, {1, 1, 1}};
         cmsWriteTag(profile, cmsSigChromaticAdaptationTag, rows);
     }),
-        "is an ICC profile without usable primaries: the red primary is not a valid chromaticity: x 0, y 0");
+        "is an ICC profile without usable primaries: the red primary has no chromaticity");
 }
 
 void IccProfileTest::refusals()
@@ -252,7 +262,10 @@ void IccProfileTest::damagedAnywhere()
             }
             for (const Model::Target &target :
                 {gamut->getTargets().red, gamut->getTargets().green, gamut->getTargets().blue}) {
-                QVERIFY(target.x >= 0.0 && target.y > 0.0 && target.x + target.y <= 1.0 && target.Y >= 0.0);
+                // Those of a colour space may lie beyond the chromaticities of light.
+                QVERIFY(std::fabs(target.x) <= 2.0 && std::fabs(target.y) <= 2.0 && target.Y / target.y >= 0.0);
+                QVERIFY(std::isfinite(target.X) && std::isfinite(target.Z));
+                QVERIFY(std::isfinite(target.u) && std::isfinite(target.v));
             }
         }
     }
@@ -265,6 +278,168 @@ void IccProfileTest::recognisedByItsSignature()
     QVERIFY(!isIccProfile(samplefiles::version2Profile().left(39)));
     QVERIFY(!isIccProfile(samplefiles::edid()));
     QVERIFY(!isIccProfile(QByteArray()));
+}
+
+// As programs for grading have them: the blue of ACES2065-1 has y < 0.
+void IccProfileTest::colorSpaceWithImaginaryPrimaries()
+{
+    for (const auto &[white, primaries] :
+        {std::make_pair(cmsCIExyY{0.32168, 0.33767, 1.0}, triple(0.7347, 0.2653, 0.0, 1.0, 0.0001, -0.077)),
+            std::make_pair(cmsCIExyY{0.32168, 0.33767, 1.0}, triple(0.713, 0.293, 0.165, 0.83, 0.128, 0.044)),
+            std::make_pair(cmsCIExyY{0.3127, 0.329, 1.0}, triple(0.7347, 0.2653, 0.1596, 1.14, 0.0366, -0.1))}) {
+        const auto gamut = readIccProfile(made(white, primaries));
+        QVERIFY2(gamut, qPrintable(gamut.error()));
+        const Model::Targets &targets = gamut->getTargets();
+        QVERIFY(isNear(targets.red, primaries.Red.x, primaries.Red.y, 0.0006));
+        QVERIFY(isNear(targets.green, primaries.Green.x, primaries.Green.y, 0.0006));
+        QVERIFY(isNear(targets.blue, primaries.Blue.x, primaries.Blue.y, 0.0006));
+        QVERIFY(isNear(targets.white, white.x, white.y, 0.0003));
+        QVERIFY(std::fabs(targets.red.X + targets.green.X + targets.blue.X - targets.white.X) < 1e-9);
+        QVERIFY(std::fabs(targets.red.Y + targets.green.Y + targets.blue.Y - 1.0) < 1e-9);
+        QVERIFY(std::fabs(targets.red.Z + targets.green.Z + targets.blue.Z - targets.white.Z) < 1e-9);
+        QVERIFY(gamut.warnings().last().text.startsWith("the blue primary at "));
+        QVERIFY(gamut.warnings().last().text.endsWith("no light has this colour"));
+    }
+}
+
+void IccProfileTest::colorSpaceThatIsNoEnumerator()
+{
+    for (const char *space : {"\xFF\xFF\xFF\xFF", "\x80\x00\x00\x00", "\x00\x00\x00\x00", "RGBx"}) {
+        const auto gamut = readIccProfile(samplefiles::version2Profile().replace(16, 4, space, 4));
+        QVERIFY(!gamut);
+        QCOMPARE(gamut.error(), QStringLiteral("has no primaries: it is not an RGB profile"));
+    }
+}
+
+// Nine numbers are read: with fewer in the tag, there is no adaptation in it.
+void IccProfileTest::shortAdaptationTag()
+{
+    const auto shortened = [](int size) {
+        QByteArray bytes = samplefiles::version4Profile(
+            [](cmsHPROFILE profile) { cmsWriteTag(profile, cmsSigMediaWhitePointTag, cmsD50_XYZ()); });
+        const int entry = bytes.indexOf("chad", 128);
+        return bytes.replace(entry + 8, 4, QByteArray("\x00\x00\x00", 3) + char(size));
+    };
+    QVERIFY(isNear(readIccProfile(shortened(44))->getTargets().white, 0.3127, 0.3290, 0.0001));
+    for (const int size : {43, 40, 20, 8, 0}) {
+        const auto gamut = readIccProfile(shortened(size));
+        QVERIFY(!gamut || isNear(gamut->getTargets().white, 0.3457, 0.3585, 0.0001));
+    }
+}
+
+void IccProfileTest::luminanceOfTheTag()
+{
+    const auto display = readIccDisplay(samplefiles::version4Profile([](cmsHPROFILE profile) {
+        const cmsCIEXYZ value{0.0, 120.5, 0.0};
+        cmsWriteTag(profile, cmsSigLuminanceTag, &value);
+    }));
+    QVERIFY(display->whiteLuminance && std::fabs(*display->whiteLuminance - 120.5) < 0.001);
+    QVERIFY(display->gamut.unit == LuminanceUnit::CandelaPerSquareMetre);
+    QVERIFY(!readIccDisplay(samplefiles::version4Profile())->whiteLuminance);
+    QVERIFY(readIccDisplay(samplefiles::version4Profile())->gamut.unit == LuminanceUnit::Relative);
+}
+
+namespace {
+
+samplefiles::EditProfile withMetadata(const QVector<QPair<QString, QString>> &entries)
+{
+    return [entries](cmsHPROFILE profile) {
+        const cmsHANDLE dictionary = cmsDictAlloc(nullptr);
+        for (const auto &entry : entries) {
+            cmsDictAddEntry(
+                dictionary, entry.first.toStdWString().c_str(), entry.second.toStdWString().c_str(), nullptr, nullptr);
+        }
+        cmsWriteTag(profile, cmsSigMetaTag, dictionary);
+        cmsDictFree(dictionary);
+    };
+}
+
+} // namespace
+
+void IccProfileTest::metadata()
+{
+    const auto display = readIccDisplay(samplefiles::version4Profile(withMetadata(
+        {{"EDID_model", "Studio 27"}, {"MEASUREMENT_device", "meter \u4E8C"}, {"DATA_source", "calib"}, {"", ""}})));
+    QVERIFY2(display, qPrintable(display.error()));
+    QVERIFY(display.warnings().isEmpty());
+    QMap<QString, QString> values;
+    for (const IccMetadata &entry : display->metadata) {
+        values.insert(entry.name, entry.value);
+    }
+    QCOMPARE(values.value("EDID_model"), QStringLiteral("Studio 27"));
+    QCOMPARE(values.value("MEASUREMENT_device"), QString::fromUtf8("meter 二"));
+    QCOMPARE(values.value("DATA_source"), QStringLiteral("calib"));
+    QVERIFY(readIccDisplay(samplefiles::version4Profile())->metadata.isEmpty());
+
+    QVector<QPair<QString, QString>> many;
+    for (int i = 0; i < 400; ++i) {
+        many.append({QString::number(i), "x"});
+    }
+    QCOMPARE(readIccDisplay(samplefiles::version4Profile(withMetadata(many)))->metadata.size(), 256);
+}
+
+// Counts, offsets and sizes that point anywhere give fewer or other entries, never more than there is room for.
+void IccProfileTest::damagedMetadata()
+{
+    const QByteArray whole = samplefiles::version4Profile(withMetadata({{"a", "b"}, {"DATA_source", "calib"}}));
+    const int begin = whole.indexOf("dict");
+    QCOMPARE(readIccDisplay(whole)->metadata.size(), 2);
+    for (int at = begin; at < begin + 48; ++at) {
+        for (int byte = 0; byte < 256; ++byte) {
+            QByteArray damaged = whole;
+            damaged[at] = char(byte);
+            const auto display = readIccDisplay(damaged);
+            QVERIFY2(display, qPrintable(display.error()));
+            QVERIFY(display->metadata.size() <= 6);
+            for (const IccMetadata &entry : display->metadata) {
+                QVERIFY(entry.name.size() + entry.value.size() < whole.size());
+            }
+        }
+    }
+    QVERIFY(readIccDisplay(QByteArray(whole).replace(begin + 8, 4, "\xFF\xFF\xFF\xFF"))->metadata.size() <= 6);
+}
+
+void IccProfileTest::metadataThatDenyAMeasurement_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("warning");
+    QTest::newRow("EDID") << "edid"
+                          << "DATA_source: the profile says that it was made from an EDID, not from a measurement";
+    QTest::newRow("standard")
+        << "standard"
+        << "DATA_source: the profile says that it was made from a standard, not from a measurement";
+}
+
+void IccProfileTest::metadataThatDenyAMeasurement()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, warning);
+    const auto gamut = readIccProfile(samplefiles::version4Profile(withMetadata({{"DATA_source", source}})));
+    QVERIFY(gamut);
+    QCOMPARE(gamut.warnings().size(), 1);
+    QCOMPARE(gamut.warnings().first().message(), warning);
+}
+
+void IccProfileTest::videoCardTable()
+{
+    QVERIFY(!readIccDisplay(samplefiles::version4Profile())->hasVideoCardTable);
+    QVERIFY(readIccDisplay(samplefiles::version4Profile([](cmsHPROFILE profile) {
+        cmsToneCurve *curve = cmsBuildGamma(nullptr, 1.1);
+        cmsToneCurve *curves[] = {curve, curve, curve};
+        cmsWriteTag(profile, cmsSigVcgtTag, curves);
+        cmsFreeToneCurve(curve);
+    }))->hasVideoCardTable);
+}
+
+void IccProfileTest::nameThatCannotBeRead()
+{
+    QByteArray bytes = samplefiles::version4Profile();
+    bytes.replace(bytes.indexOf("mluc"), 4, "what");
+    const auto gamut = readIccProfile(bytes);
+    QVERIFY2(gamut, qPrintable(gamut.error()));
+    QCOMPARE(gamut->colorGamutName(), std::string());
+    QCOMPARE(gamut.warnings().size(), 1);
+    QCOMPARE(gamut.warnings().first().message(), QStringLiteral("desc: the name of the profile cannot be read"));
 }
 
 QTEST_GUILESS_MAIN(IccProfileTest)

@@ -3,6 +3,7 @@
 #define CEIECHART_TESTS_GAMUTFILES_SAMPLEFILES_H
 
 #include <QByteArray>
+#include <QList>
 
 #include <lcms2.h>
 
@@ -13,12 +14,18 @@
 /*! \brief Files that declare a gamut, as displays and profilers write them. */
 namespace samplefiles {
 
-/*! \brief Corrects the checksum of the base block. */
-inline QByteArray withChecksum(QByteArray edid)
+/*! \brief Sets the byte at \a place so that it and those before it from \a first on add up to a multiple of 256. */
+inline QByteArray withChecksum(QByteArray edid, int first, int place)
 {
-    edid[127] = 0;
-    edid[127] = char(256 - quint8(std::accumulate(edid.begin(), edid.begin() + 128, 0)));
+    edid[place] = 0;
+    edid[place] = char(256 - quint8(std::accumulate(edid.begin() + first, edid.begin() + place, 0)));
     return edid;
+}
+
+/*! \brief Corrects the checksum of a block, the base block of a whole EDID. */
+inline QByteArray withChecksum(const QByteArray &edid)
+{
+    return withChecksum(edid, 0, 127);
 }
 
 /*!
@@ -35,6 +42,70 @@ inline QByteArray edid()
     block.replace(54, 2, QByteArray("\x01\x01", 2));
     block.replace(72, 18, QByteArray("\x00\x00\x00\xFC\x00Studio 27\n   ", 18));
     return withChecksum(block);
+}
+
+/*! \brief edid() with \a colors, ten bytes, instead of its chromaticities. */
+inline QByteArray edidOf(const QByteArray &colors)
+{
+    return withChecksum(edid().replace(25, 10, colors));
+}
+
+/*! \brief \a base with \a blocks behind it, and their number in its place. */
+inline QByteArray withExtensions(QByteArray base, const QList<QByteArray> &blocks)
+{
+    base[126] = char(blocks.size());
+    base = withChecksum(base);
+    for (const QByteArray &block : blocks) {
+        base += block;
+    }
+    return base;
+}
+
+/*! \brief A CTA-861 extension of \a dataBlocks. */
+inline QByteArray ctaBlock(const QByteArray &dataBlocks)
+{
+    QByteArray block("\x02\x03\x00\x00", 4);
+    block[2] = char(4 + dataBlocks.size());
+    return withChecksum((block + dataBlocks).leftJustified(128, '\0'));
+}
+
+/*! \brief A CTA-861 data block of an extended \a tag. */
+inline QByteArray ctaDataBlock(int tag, const QByteArray &payload)
+{
+    return QByteArray(1, char(0xE0 | (payload.size() + 1))) + char(tag) + payload;
+}
+
+/*! \brief A DisplayID extension of \a dataBlocks; \a version is 0x20 for 2.0. */
+inline QByteArray displayIdBlock(int version, const QByteArray &dataBlocks)
+{
+    QByteArray block = QByteArray("\x70") + char(version) + char(121) + '\x03' + '\0' + dataBlocks;
+    return withChecksum(withChecksum(block.leftJustified(128, '\0'), 1, 126));
+}
+
+/*! \brief A data block of a DisplayID extension. */
+inline QByteArray displayIdDataBlock(int tag, int revision, const QByteArray &payload)
+{
+    return QByteArray(1, char(tag)) + char(revision) + char(payload.size()) + payload;
+}
+
+/*! \brief A pair of twelve bits each, in 4096ths, as DisplayID has them. */
+inline QByteArray twelveBits(int x, int y)
+{
+    return QByteArray(1, char(x & 0xFF)) + char((x >> 8) | ((y & 0xF) << 4)) + char(y >> 4);
+}
+
+/*! \brief The display parameters of DisplayID 2: \a colors are four twelveBits(), \a luminances three binary16. */
+inline QByteArray displayIdParameters(
+    const QByteArray &colors, const QList<quint16> &luminances, char flags = '\0', char gamma = 120)
+{
+    QByteArray payload(8, '\0');
+    payload += flags;
+    payload += colors;
+    for (const quint16 luminance : luminances) {
+        payload += char(luminance & 0xFF);
+        payload += char(luminance >> 8);
+    }
+    return payload + '\x02' + gamma;
 }
 
 using EditProfile = std::function<void(cmsHPROFILE)>;

@@ -137,7 +137,9 @@ DisplayDescription withFile(const DisplayDescription &open, const GamutFile &fil
     if (replacesPoints(file, role)) {
         result.measurePoints.clear();
         for (const Measurement &point : file.measurements.others()) {
-            result.measurePoints.append({point.name, {point.color.x, point.color.y}});
+            if (point.color) { // black has no place on a diagram
+                result.measurePoints.append({point.name, {point.color->x, point.color->y}});
+            }
         }
     }
     return result;
@@ -174,12 +176,12 @@ QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile 
     return remarks;
 }
 
-Outcome<QVector<ReadFile>> readFiles(const QStringList &fileNames)
+Outcome<QVector<ReadFile>> readFiles(const QStringList &fileNames, const FileReader &reader)
 {
     using Failure = Outcome<QVector<ReadFile>>;
     QVector<ReadFile> files;
     for (const QString &fileName : fileNames) {
-        const Outcome<GamutFile> file = readGamutFile(fileName);
+        const Outcome<GamutFile> file = reader(fileName);
         if (!file) {
             return Failure::failure(file.problem().message(fileName));
         }
@@ -197,6 +199,20 @@ Outcome<QVector<ReadFile>> readFiles(const QStringList &fileNames)
     return files;
 }
 
+bool needsChoice(const GamutFile &file)
+{
+    if (file.content != Content::Measurements) {
+        return false;
+    }
+    const auto isOfGamut = [](const Measurement &measurement) {
+        return measurement.part != MeasurementPart::None && measurement.part != MeasurementPart::Black;
+    };
+    const QVector<Measurement> &all = file.measurements.measurements;
+    const bool isIncomplete
+        = !gamutOf(file) && file.measurements.cabinets().size() < 2 && std::any_of(all.begin(), all.end(), isOfGamut);
+    return isIncomplete || file.measurements.recognized.unit == MeasuredUnit::NotKnown;
+}
+
 OpenedFiles openedWith(const DisplayDescription &open, const QVector<ReadFile> &files)
 {
     OpenedFiles opened;
@@ -204,6 +220,8 @@ OpenedFiles openedWith(const DisplayDescription &open, const QVector<ReadFile> &
     for (const ReadFile &file : files) {
         opened.description = withFile(opened.description, file.file, file.role);
         opened.fileNames.append(file.fileName);
+        opened.needsChoice = opened.needsChoice || needsChoice(file.file);
+        opened.hasLists = opened.hasLists || file.file.content == Content::Measurements;
         for (const Problem &warning : file.warnings) {
             opened.warnings.append({file.fileName, warning});
         }
@@ -222,6 +240,8 @@ OpenedFiles openedAlone(const QVector<ReadFile> &files)
         }
         opened.description = next.description;
         opened.fileNames += next.fileNames;
+        opened.needsChoice = opened.needsChoice || next.needsChoice;
+        opened.hasLists = opened.hasLists || next.hasLists;
         if (file.file.content == Content::Description) {
             opened.descriptionFile = file.fileName;
             opened.inDescriptionFile = file.file.description;
@@ -230,9 +250,10 @@ OpenedFiles openedAlone(const QVector<ReadFile> &files)
     return opened;
 }
 
-Outcome<OpenedFiles> openFiles(const QStringList &fileNames)
+Outcome<OpenedFiles> openFiles(const QStringList &fileNames, const MeasurementOptions &options)
 {
-    const Outcome<QVector<ReadFile>> files = readFiles(fileNames);
+    const auto files
+        = readFiles(fileNames, [&options](const QString &fileName) { return readGamutFile(fileName, options); });
     if (!files) {
         return Outcome<OpenedFiles>::failure(files.problem());
     }

@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace gamutviewer {
 
 /*! \brief What a user must know of a file that was opened. */
@@ -26,9 +28,20 @@ struct ReadFile {
     std::optional<GamutRole> role; //!< of its gamut, if it has one; none: it is only added to the list of gamuts
 };
 
-/*! \brief Reads \a fileNames, each with its usual part; the display description, of which there may be one, is first.
+/*! \brief How one file is read. */
+using FileReader = std::function<Outcome<GamutFile>(const QString &fileName)>;
+
+/*!
+ * \brief Reads \a fileNames by \a reader, each with its usual part; the display description, of which there may be one,
+ * is first.
  */
-Outcome<QVector<ReadFile>> readFiles(const QStringList &fileNames);
+Outcome<QVector<ReadFile>> readFiles(const QStringList &fileNames, const FileReader &reader);
+
+/*!
+ * \brief Whether \a file is a measurement list of which only the user can say what it means: one that has colours of a
+ * gamut but does not make one, since a colour is there twice or is missing, or whose unit is not known.
+ */
+bool needsChoice(const GamutFile &file);
 
 /*! \brief The gamut that \a file brings; nothing for a description, and for measurements that make none. */
 std::optional<DisplayGamut> gamutOf(const GamutFile &file);
@@ -56,6 +69,8 @@ struct OpenedFiles {
     DisplayDescription inDescriptionFile; //!< what that one has, without the additions
     QStringList fileNames; //!< all of them
     QVector<FileWarning> warnings; //!< of their readers, and about what the additions change
+    bool needsChoice = false; //!< as needsChoice() says of one of them
+    bool hasLists = false; //!< whether one of them is a measurement list
 };
 
 /*! \brief What \a files, from readFiles(), make when nothing else is open. */
@@ -64,8 +79,8 @@ OpenedFiles openedAlone(const QVector<ReadFile> &files);
 /*! \brief What \a open becomes with \a files. The warnings are those of the readers alone. */
 OpenedFiles openedWith(const DisplayDescription &open, const QVector<ReadFile> &files);
 
-/*! \brief Reads \a fileNames and opens them alone. */
-Outcome<OpenedFiles> openFiles(const QStringList &fileNames);
+/*! \brief Reads \a fileNames, measurement lists by \a options, and opens them alone. */
+Outcome<OpenedFiles> openFiles(const QStringList &fileNames, const MeasurementOptions &options = MeasurementOptions());
 
 } // namespace gamutviewer
 

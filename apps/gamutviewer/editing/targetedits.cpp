@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "editing/targetedits.h"
 
+#include <gamutmodel/publishedgamuts.h>
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -105,11 +107,10 @@ bool isMadeToMatch(
 //! Published gamuts are relative to a white of 1: the description gets one of its own for a target of \a luminance.
 void matchLuminance(DisplayDescription &description, double luminance, LuminanceUnit unit)
 {
-    const std::vector<Model::ColorGamut> standards = Model::standardGamuts();
-    const auto published = find(standards, description.target);
-    const bool isFree
-        = !contains(description.gamuts, description.target) && !playsAnotherPart(description, description.target);
-    if (published != standards.end() && isFree && luminance > 0.0 && luminance != published->getTargets().white.Y) {
+    const bool isPublished = !contains(description.gamuts, description.target);
+    const auto published = description.gamut(description.target);
+    const bool isFree = isPublished && !playsAnotherPart(description, description.target);
+    if (published && isFree && luminance > 0.0 && luminance != published->getTargets().white.Y) {
         description.gamuts.emplace_back(
             Model::ColorGamut(description.target.toStdString(), scaledTo(published->getTargets(), luminance)), unit);
     }
@@ -173,9 +174,9 @@ DisplayDescription withTargetNamed(
     const QString before = description.target;
     const auto targetBefore = description.gamut(before);
     description.target = gamutName;
-    for (const Model::ColorGamut &published : Model::standardGamuts()) {
-        if (isMadeToMatch(description, published, saved)) {
-            remove(description.gamuts, QString::fromStdString(published.colorGamutName()));
+    for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
+        if (isMadeToMatch(description, published.gamut, saved)) {
+            remove(description.gamuts, QString::fromStdString(published.gamut.colorGamutName()));
         }
     }
     if (targetBefore) {
@@ -185,6 +186,12 @@ DisplayDescription withTargetNamed(
         remove(description.gamuts, before);
     }
     return description;
+}
+
+bool canBeTarget(const Model::Targets &targets)
+{
+    return std::all_of(allVertices.begin(), allVertices.end(),
+        [&targets](Vertex vertex) { return ceiechart::isChromaticity(xyOf(targetAt(targets, vertex))); });
 }
 
 bool isEditedName(const QString &gamutName)

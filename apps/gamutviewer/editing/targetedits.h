@@ -56,6 +56,9 @@ DisplayDescription withLuminanceUnit(
 DisplayDescription withTargetNamed(
     DisplayDescription description, const QString &gamutName, const DisplayDescription &saved = DisplayDescription());
 
+/*! \brief Whether all colours of \a targets are real enough to be asked of a display: ACES2065-1, for one, is not. */
+bool canBeTarget(const Model::Targets &targets);
+
 /*! \brief Whether \a gamutName is that of a gamut changed by hand. */
 bool isEditedName(const QString &gamutName);
 

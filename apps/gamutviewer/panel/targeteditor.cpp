@@ -8,6 +8,8 @@
 #include "editing/targetsession.h"
 #include "panel/coordinatepair.h"
 
+#include <gamutmodel/publishedgamuts.h>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -269,14 +271,21 @@ void TargetEditor::fillResetMenu()
     m_resetMenu->clear();
     const DisplayDescription &description = m_session->document()->description();
     QStringList names;
-    for (const Model::ColorGamut &standard : Model::standardGamuts()) {
-        names.append(QString::fromStdString(standard.colorGamutName()));
-    }
     for (const Model::ColorGamut &gamut : description.gamuts) {
         names.append(QString::fromStdString(gamut.colorGamutName()));
     }
+    const int ownNames = names.size();
+    for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
+        if (canBeTarget(published.gamut.getTargets())) {
+            names.append(QString::fromStdString(published.gamut.colorGamutName()));
+        }
+    }
     names.removeDuplicates();
-    for (const QString &name : qAsConst(names)) {
+    for (int i = 0; i < names.size(); ++i) {
+        const QString &name = names[i];
+        if (i == ownNames && i > 0) {
+            m_resetMenu->addSeparator();
+        }
         if (name != description.target) {
             QString text = shownGamutName(name);
             QAction *action = m_resetMenu->addAction(text.replace(QLatin1Char('&'), QLatin1String("&&")));

@@ -90,7 +90,9 @@ void WarningBar::refresh()
 void WarningBar::fitList()
 {
     const int lines = std::clamp(int(m_warnings.size()), 1, mostLines);
-    m_list->setFixedHeight(lines * m_list->fontMetrics().lineSpacing() + 2 * int(m_list->document()->documentMargin()));
+    constexpr int spare = 6; // below which the last line counts as hidden
+    m_list->setFixedHeight(
+        lines * m_list->fontMetrics().lineSpacing() + 2 * int(m_list->document()->documentMargin()) + spare);
 }
 
 void WarningBar::changeEvent(QEvent *event)

@@ -96,19 +96,36 @@ CommandLine::CommandLine(const QStringList &arguments)
            "verdict, and its grounds are printed unless the report is."));
     const QCommandLineOption tolerances(QStringLiteral("tolerances"),
         tr("Judge what was measured by the limits in <file> (JSON), and draw them."), tr("file"));
+    const auto colorOption = [](const QString &name) {
+        return QCommandLineOption(name,
+            tr("The measurement that is %1 in a measurement list: its name, or its line as line:<number>.").arg(name),
+            tr("measurement"));
+    };
+    const QCommandLineOption red = colorOption(QStringLiteral("red"));
+    const QCommandLineOption green = colorOption(QStringLiteral("green"));
+    const QCommandLineOption blue = colorOption(QStringLiteral("blue"));
+    const QCommandLineOption white(QStringLiteral("white"),
+        tr("The same for white; or sum, for the sum of red, green and blue where the list has no white."),
+        tr("measurement"));
+    const QCommandLineOption unit(
+        QStringLiteral("unit"), tr("Unit of the luminances in a measurement list: cd/m2, fL or relative."), tr("unit"));
+    const QCommandLineOption decimal(
+        QStringLiteral("decimal"), tr("Decimal sign in a measurement list: point or comma."), tr("sign"));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Print this help text."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Print the version."));
 
     m_parser.setApplicationDescription(
         tr("Shows and edits the colour gamuts of a display on CIE chromaticity diagrams.\n\n"
            "Exit status: 0 success, 1 the picture or the report could not be shown or written, 2 invalid arguments or "
-           "files; with --check also 3 the display fails, 4 the verdict is not known.\n"
+           "files, 5 a measurement list needs a choice; with --check also 3 the display fails, 4 the verdict is not "
+           "known.\n"
            "Each error is one line on standard error."));
     m_parser.addPositionalArgument(tr("file"),
         tr("Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any "
            "number of the others, which are added to it. Without files, a sample is opened."),
         tr("[file...]"));
-    m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, tolerances, help, version});
+    m_parser.addOptions(
+        {render, diagram, part, layers, size, ratio, report, check, tolerances, red, green, blue, white, unit, decimal, help, version});
 
     const bool understood = m_parser.parse(arguments);
     m_needsDisplay = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(check)
@@ -129,6 +146,7 @@ CommandLine::CommandLine(const QStringList &arguments)
         m_action = Action::Write;
     }
     readFiles();
+    readMeasurementOptions();
     if (m_parser.isSet(size)) {
         readSize(m_parser.value(size));
     }
@@ -188,6 +206,54 @@ void CommandLine::readFiles()
     m_files = m_parser.positionalArguments();
     if (m_files.contains(QString())) {
         refuse(tr("An input file name is empty."));
+    }
+}
+
+void CommandLine::readMeasurementOptions()
+{
+    const auto value = [this](const char *name) {
+        const QString option = QString::fromLatin1(name);
+        m_hasMeasurementOptions = m_hasMeasurementOptions || m_parser.isSet(option);
+        return m_parser.isSet(option) ? std::make_optional(m_parser.value(option)) : std::nullopt;
+    };
+    const std::pair<const char *, MeasurementChoice *> choices[]
+        = {{"red", &m_measurementOptions.red}, {"green", &m_measurementOptions.green},
+            {"blue", &m_measurementOptions.blue}, {"white", &m_measurementOptions.white}};
+    for (const auto &choice : choices) {
+        const auto text = value(choice.first);
+        static const QRegularExpression line(QStringLiteral("\\Aline:([0-9]{1,9})\\z"));
+        const QRegularExpressionMatch match = line.match(text.value_or(QString()));
+        if (!text) {
+            continue;
+        }
+        if (choice.second == &m_measurementOptions.white && *text == QLatin1String("sum")) {
+            m_measurementOptions.whiteIsSum = true;
+        } else if (match.hasMatch() && match.captured(1).toInt() > 0) {
+            choice.second->line = match.captured(1).toInt();
+        } else if (text->isEmpty() || match.hasMatch()) {
+            refuse(tr("Invalid measurement, expected a name or line:<number>: --%1 %2")
+                       .arg(QString::fromLatin1(choice.first), *text));
+        } else {
+            choice.second->name = *text;
+        }
+    }
+    if (const auto text = value("unit")) {
+        const std::pair<const char *, MeasuredUnit> units[] = {{"cd/m2", MeasuredUnit::CandelaPerSquareMetre},
+            {"fL", MeasuredUnit::FootLambert}, {"relative", MeasuredUnit::Relative}};
+        for (const auto &unit : units) {
+            if (*text == QLatin1String(unit.first)) {
+                m_measurementOptions.unit = unit.second;
+            }
+        }
+        if (!m_measurementOptions.unit) {
+            refuse(tr("Unknown unit, expected cd/m2, fL or relative: %1").arg(*text));
+        }
+    }
+    if (const auto text = value("decimal")) {
+        if (*text != QLatin1String("point") && *text != QLatin1String("comma")) {
+            refuse(tr("Unknown decimal sign, expected point or comma: %1").arg(*text));
+        }
+        m_measurementOptions.decimalSign = QLatin1Char(*text == QLatin1String("comma") ? ',' : '.');
     }
 }
 

@@ -33,6 +33,10 @@ public:
     QString error() const { return m_error; }
     /*! \brief The files to open; empty for the sample. */
     QStringList files() const { return m_files; }
+    /*! \brief What is known of the measurement lists among the files. */
+    const MeasurementOptions &measurementOptions() const { return m_measurementOptions; }
+    /*! \brief Whether anything is said of measurement lists, of which there must be one then. */
+    bool hasMeasurementOptions() const { return m_hasMeasurementOptions; }
     /*! \brief Where Write writes the picture to; empty for no picture. */
     QString pictureFile() const { return m_pictureFile; }
     PictureFormat pictureFormat() const { return m_pictureFormat; }
@@ -64,12 +68,15 @@ private:
     void readDiagram(const QString &name);
     void readPart(const QString &name);
     void readLayers(const QString &list);
+    void readMeasurementOptions();
     void readReport(const QString &format);
 
     QCommandLineParser m_parser;
     Action m_action = Action::Show;
     QString m_error;
     QStringList m_files;
+    MeasurementOptions m_measurementOptions;
+    bool m_hasMeasurementOptions = false;
     QString m_pictureFile;
     PictureFormat m_pictureFormat = PictureFormat::Png;
     PictureExtent m_extent;

@@ -32,6 +32,15 @@
         <translation>库色度图只能写为 PNG</translation>
     </message>
     <message>
+        <source>%1 (default)</source>
+        <comment>gamut that nobody has chosen</comment>
+        <translation>%1（默认）</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
         <source>cd/m²</source>
         <translation>cd/m²</translation>
     </message>
@@ -47,6 +56,49 @@
         <source>%1 (%2)</source>
         <comment>luminance and what its unit is: 1.0000 (relative)</comment>
         <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::AddDialog</name>
+    <message>
+        <source>Add files</source>
+        <translation>添加文件</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is open. Add the files to it, or open them alone?</source>
+        <translation>“%1”已打开。将文件添加到其中，还是单独打开？</translation>
+    </message>
+    <message>
+        <source>Add the files to &quot;%1&quot;?</source>
+        <translation>将文件添加到“%1”？</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Open alone</source>
+        <translation>单独打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>What the gamut of %1 becomes</source>
+        <translation>%1 的色域作为什么</translation>
+    </message>
+    <message>
+        <source>Added as</source>
+        <translation>添加为</translation>
+    </message>
+    <message>
+        <source>Gamut &quot;%1&quot;</source>
+        <translation>色域“%1”</translation>
+    </message>
+    <message>
+        <source>Measured points: %1</source>
+        <translation>测量点：%1</translation>
+    </message>
+    <message>
+        <source>Gamuts: %1</source>
+        <translation>色域：%1</translation>
     </message>
 </context>
 <context>
@@ -343,6 +395,11 @@
         <source>&amp;Compare</source>
         <translation>比较(&amp;C)</translation>
     </message>
+    <message>
+        <source>What the target leaves unused of the original is not known. Missing: %1</source>
+        <comment>names of roles</comment>
+        <translation>目标未使用原始色域的哪些部分尚不清楚。缺少：%1</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::CopyTable</name>
@@ -494,6 +551,111 @@
     <message>
         <source>Lines and texts as vectors, the colours as one image</source>
         <translation>线条和文字为矢量，颜色为一幅图像</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::GamutRoles</name>
+    <message>
+        <source>no part</source>
+        <comment>what a gamut is</comment>
+        <translation>不担任角色</translation>
+    </message>
+    <message>
+        <source>the original gamut</source>
+        <translation>原始色域</translation>
+    </message>
+    <message>
+        <source>the measured gamut</source>
+        <translation>实测色域</translation>
+    </message>
+    <message>
+        <source>the declared gamut</source>
+        <translation>声明色域</translation>
+    </message>
+    <message>
+        <source>the target</source>
+        <translation>目标色域</translation>
+    </message>
+    <message>
+        <source>a standard to compare with</source>
+        <translation>用于比较的标准</translation>
+    </message>
+    <message>
+        <source>A published gamut keeps its name.</source>
+        <translation>公布的色域不能改名。</translation>
+    </message>
+    <message>
+        <source>A gamut needs a name.</source>
+        <translation>色域需要名称。</translation>
+    </message>
+    <message>
+        <source>There is already a gamut named &quot;%1&quot;.</source>
+        <translation>已有名为“%1”的色域。</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::GamutsDialog</name>
+    <message>
+        <source>Gamuts</source>
+        <translation>色域</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the display:</source>
+        <translation>显示屏名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Gamut</source>
+        <translation>色域</translation>
+    </message>
+    <message>
+        <source>Gamuts and their parts</source>
+        <translation>色域及其角色</translation>
+    </message>
+    <message>
+        <source>Space gives or takes a part, F2 renames, Delete removes</source>
+        <translation>空格键赋予或取消角色，F2 重命名，Delete 移除</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Remove the gamut from the description</source>
+        <translation>从描述中移除此色域</translation>
+    </message>
+    <message>
+        <source>%1: published gamut</source>
+        <translation>%1：公布的色域</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>gamut and part</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 becomes %2</source>
+        <comment>step of the history: gamut and part</comment>
+        <translation>%1 作为%2</translation>
+    </message>
+    <message>
+        <source>%1 is no longer %2</source>
+        <comment>step of the history: gamut and part</comment>
+        <translation>%1 不再作为%2</translation>
+    </message>
+    <message>
+        <source>rename %1</source>
+        <comment>step of the history</comment>
+        <translation>重命名 %1</translation>
+    </message>
+    <message>
+        <source>remove %1</source>
+        <comment>step of the history</comment>
+        <translation>移除 %1</translation>
+    </message>
+    <message>
+        <source>name the display</source>
+        <comment>step of the history</comment>
+        <translation>命名显示屏</translation>
     </message>
 </context>
 <context>
@@ -660,6 +822,86 @@
     </message>
 </context>
 <context>
+    <name>gamutviewer::ListDialog</name>
+    <message>
+        <source>Measurement list</source>
+        <translation>测量列表</translation>
+    </message>
+    <message>
+        <source>%1 does not say all of what it means. What is known of it?</source>
+        <translation>%1 没有写明全部含义。请补充已知的内容。</translation>
+    </message>
+    <message>
+        <source>as the list says</source>
+        <translation>按列表所写</translation>
+    </message>
+    <message>
+        <source>cd/m²</source>
+        <translation>cd/m²</translation>
+    </message>
+    <message>
+        <source>foot-lambert</source>
+        <translation>英尺朗伯</translation>
+    </message>
+    <message>
+        <source>relative</source>
+        <translation>相对值</translation>
+    </message>
+    <message>
+        <source>&amp;Unit of the luminances:</source>
+        <translation>亮度单位(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>as recognised</source>
+        <translation>按识别结果</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>小数点</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>逗号</translation>
+    </message>
+    <message>
+        <source>&amp;Decimal sign:</source>
+        <translation>小数符号(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <comment>colour</comment>
+        <translation>%1：</translation>
+    </message>
+    <message>
+        <source>How the list is understood</source>
+        <translation>列表的识别结果</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <translation>使用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>sum of red, green and blue</source>
+        <translation>红、绿、蓝之和</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>Cannot be read so: %1</source>
+        <translation>无法这样读取：%1</translation>
+    </message>
+    <message>
+        <source>The list makes a gamut.</source>
+        <translation>列表构成一个色域。</translation>
+    </message>
+    <message>
+        <source>The list makes no gamut, only points.</source>
+        <translation>列表不构成色域，只有测量点。</translation>
+    </message>
+</context>
+<context>
     <name>gamutviewer::OpenedFiles</name>
     <message>
         <source>Gamut</source>
@@ -668,6 +910,27 @@
     <message>
         <source>%1: is a second display description; the first is %2</source>
         <translation>%1：是第二个显示屏描述；第一个是 %2</translation>
+    </message>
+    <message>
+        <source>is of the display &quot;%1&quot;, not of &quot;%2&quot;</source>
+        <translation>属于显示屏“%1”，而不是“%2”</translation>
+    </message>
+    <message>
+        <source>adds its gamuts only, in no part</source>
+        <translation>只添加其色域，不担任角色</translation>
+    </message>
+    <message>
+        <source>is called &quot;%1&quot; here, since another gamut has its name</source>
+        <translation>在此称为“%1”，因为另一个色域已使用其名称</translation>
+    </message>
+    <message>
+        <source>takes the place of &quot;%1&quot; as %2</source>
+        <comment>gamut and part</comment>
+        <translation>取代“%1”作为%2</translation>
+    </message>
+    <message>
+        <source>takes the place of all measured points there were: %1</source>
+        <translation>取代原有的全部测量点：%1</translation>
     </message>
 </context>
 <context>
@@ -1198,7 +1461,7 @@ R, G, B, W or Tab – select a primary or the white
 Drag or arrow keys – move it; with Shift a tenth as far
 Ctrl – towards the white; the white at its colour temperature
 Alt – along an axis; Ctrl+Alt – without snapping
-Esc – cancel a drag
+Esc – cancel a drag; otherwise select nothing
 
 Key:
 Click or Space – show or hide an entry
@@ -1219,7 +1482,7 @@ R、G、B、W 或 Tab – 选择基色或白点
 拖动或方向键 – 移动；按住 Shift 为十分之一
 Ctrl – 朝向白点；白点保持其色温
 Alt – 沿坐标轴；Ctrl+Alt – 不吸附
-Esc – 取消拖动
+Esc – 取消拖动；否则取消选择
 
 图例：
 单击或空格键 – 显示或隐藏条目
@@ -1247,6 +1510,47 @@ Ctrl+1 到 Ctrl+3 – 显示页面</translation>
         <translation>指针处的色度：%1</translation>
     </message>
     <message>
+        <source>add %1 files</source>
+        <translation>添加 %1 个文件</translation>
+    </message>
+    <message>
+        <source>Nothing is known of this display yet: open its files, or drop them here.</source>
+        <translation>对此显示屏尚一无所知：请打开其文件，或将文件拖放到此处。</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <comment>proposed name of a file</comment>
+        <translation>显示屏</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has been modified. Save the changes?</source>
+        <translation>“%1”已修改。是否保存更改？</translation>
+    </message>
+    <message>
+        <source>%1 (sample)</source>
+        <translation>%1（示例）</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>新建(&amp;N)</translation>
+    </message>
+    <message>
+        <source>A&amp;dd…</source>
+        <translation>添加(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Gamuts…</source>
+        <translation>色域(&amp;G)…</translation>
+    </message>
+    <message>
         <source>Dominant wavelength λ and excitation purity p are relative to the white of the target</source>
         <translation>主波长 λ 和激发纯度 p 相对于目标的白点</translation>
     </message>
@@ -1254,6 +1558,22 @@ Ctrl+1 到 Ctrl+3 – 显示页面</translation>
         <source>   λ %1 nm  p %2</source>
         <comment>dominant wavelength and purity, for the white of the target</comment>
         <translation>   λ %1 nm  p %2</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::WarningBar</name>
+    <message>
+        <source>Dismiss the warnings</source>
+        <translation>关闭警告</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Warnings about what was opened: %1</source>
+        <comment>with their number</comment>
+        <translation>所打开文件的警告：%1</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,10 @@
 #include "window/gamutsdialog.h"
 
 #include "editing/document.h"
+#include "editing/targetedits.h"
 #include "editing/targetsession.h"
+
+#include <gamutmodel/publishedgamuts.h>
 
 #include <QAccessible>
 #include <QDialogButtonBox>
@@ -102,8 +105,8 @@ void GamutsDialog::refresh()
     for (const DisplayGamut &gamut : description.gamuts) {
         names.append(QString::fromStdString(gamut.colorGamutName()));
     }
-    for (const Model::ColorGamut &published : Model::standardGamuts()) {
-        names.append(QString::fromStdString(published.colorGamutName()));
+    for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
+        names.append(QString::fromStdString(published.gamut.colorGamutName()));
     }
     names.removeDuplicates();
     m_table->setRowCount(names.size());
@@ -128,7 +131,10 @@ void GamutsDialog::refresh()
                 continue;
             }
             const bool plays = playsRole(description, name, roleOf(column));
-            item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+            const bool isPossible
+                = roleOf(column) != GamutRole::Target || canBeTarget(description.gamut(name)->getTargets());
+            item->setFlags(
+                isPossible ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable : Qt::ItemIsSelectable);
             item->setCheckState(plays ? Qt::Checked : Qt::Unchecked);
             item->setData(Qt::AccessibleTextRole,
                 tr("%1: %2", "gamut and part").arg(oneLine(name), ceiechart::gamutRoleName(roleOf(column))));

@@ -6,6 +6,7 @@
 #include "panel/warningbar.h"
 #include "window/adddialog.h"
 #include "window/filenames.h"
+#include "window/listdialog.h"
 #include "window/recentfiles.h"
 #include "window/viewerwindow.h"
 
@@ -131,9 +132,21 @@ void ViewerWindow::openByDialog(Manner manner)
     }
 }
 
-bool ViewerWindow::openPaths(const QStringList &fileNames, Manner manner)
+bool ViewerWindow::openPaths(const QStringList &fileNames, Manner manner, const MeasurementOptions &options)
 {
-    const Outcome<QVector<ReadFile>> files = readFiles(fileNames);
+    bool isCanceled = false;
+    const auto files = readFiles(fileNames, [&](const QString &fileName) {
+        const Outcome<GamutFile> read = readGamutFile(fileName, options);
+        if (!ListDialog::canHelp(fileName, options, read)) {
+            return read;
+        }
+        ListDialog dialog(fileName, options, this);
+        isCanceled = dialog.exec() != QDialog::Accepted;
+        return isCanceled ? Outcome<GamutFile>::failure(QString()) : dialog.read();
+    });
+    if (isCanceled) {
+        return false;
+    }
     if (!files) {
         if (fileNames.size() == 1) {
             RecentFiles::remove(fileNames.first());

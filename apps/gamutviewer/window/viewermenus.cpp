@@ -208,7 +208,7 @@ void ViewerWindow::showKeys()
                    "Drag or arrow keys – move it; with Shift a tenth as far\n"
                    "Ctrl – towards the white; the white at its colour temperature\n"
                    "Alt – along an axis; Ctrl+Alt – without snapping\n"
-                   "Esc – cancel a drag\n\n"
+                   "Esc – cancel a drag; otherwise select nothing\n\n"
                    "Key:\n"
                    "Click or Space – show or hide an entry\n"
                    "Double click or Return – show it alone\n\n"

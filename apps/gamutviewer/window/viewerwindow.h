@@ -56,9 +56,11 @@ public:
      * \brief Opens files of any format that the program reads; false, with a message, when that fails, and then what
      * was open stays.
      *
-     * Asks what becomes of them, and before changes would be lost.
+     * Asks what becomes of them, and before changes would be lost; also what a measurement list means, where \a options
+     * and the list leave it open.
      */
-    bool openPaths(const QStringList &fileNames, Manner manner = Manner::Open);
+    bool openPaths(const QStringList &fileNames, Manner manner = Manner::Open,
+        const MeasurementOptions &options = MeasurementOptions());
     bool openPath(const QString &fileName) { return openPaths({fileName}); }
     /*! \brief An empty description instead of what is open; false when the user would lose changes by it. */
     bool closeDocument();

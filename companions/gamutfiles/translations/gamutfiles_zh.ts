@@ -2,32 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
-    <name>gamutfiles</name>
-    <message>
-        <source>cannot be read: %1</source>
-        <translation>无法读取：%1</translation>
-    </message>
-    <message>
-        <source>is a folder</source>
-        <translation>是一个文件夹</translation>
-    </message>
-    <message>
-        <source>is larger than %1 KiB</source>
-        <translation>大于 %1 KiB</translation>
-    </message>
-</context>
-<context>
-    <name>gamutfiles::CsvTable</name>
-    <message>
-        <source>is not UTF-8 text</source>
-        <translation>不是 UTF-8 文本</translation>
-    </message>
-    <message>
-        <source>line %1: unterminated quote</source>
-        <translation>第 %1 行：引号没有闭合</translation>
-    </message>
-</context>
-<context>
     <name>gamutfiles::DescriptionReader</name>
     <message>
         <source>is too large for a display description (more than %1 KiB)</source>
@@ -65,6 +39,18 @@
         <source>expected &quot;%1&quot; or &quot;%2&quot;</source>
         <translation>应为“%1”或“%2”</translation>
     </message>
+    <message>
+        <source>luminance must not be positive where y is negative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no display can show %1: it has primaries with x &lt; 0, y &lt;= 0 or x + y &gt; 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>x and y must be from -1 to 2, y not 0 and -2x + 12y + 3 greater than 0</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Edid</name>
@@ -92,6 +78,157 @@
         <source>is an EDID without usable primaries: %1</source>
         <translation>EDID 中没有可用的基色：%1</translation>
     </message>
+    <message>
+        <source>red</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the base block states another gamut than the DisplayID extension: %1 at %2, %3 instead of %4, %5; that of the base block is used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the EDID states exactly %1: many makers write this without measuring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, and this display also takes signals of a wider gamut (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>holds no EDID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>holds %1 EDIDs, of which only the first is read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is missing, number of extension blocks announced: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is truncated: %1 bytes instead of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is damaged, and not read: its checksum is wrong</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not read, number of extension blocks announced: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the data blocks end at byte %1, which is not inside of the block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the data block has %1 bytes, of which only %2 lie before the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>colorimetry data block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HDR static metadata data block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the HDR metadata state an average of a frame above its maximum: %1 and %2 cd/m²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the DisplayID section has %1 bytes, which is more than its block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is damaged, and not read: the checksum of the DisplayID section is wrong</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>display parameters data block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>color characteristics data block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the %1 has %2 bytes instead of at least %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>extension block %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>extension block %1, byte %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>gamutfiles::FileBytes</name>
+    <message>
+        <source>there is no such file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>permission denied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>writing failed; the disk may be full</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>是一个文件夹</translation>
+    </message>
+    <message>
+        <source>it is a pipe, which may never end; its content is read from standard input, named -</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reading fails after %1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is larger than %1 KiB</source>
+        <translation>大于 %1 KiB</translation>
+    </message>
+    <message>
+        <source>it is a pipe from which no program reads</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::GamutFile</name>
@@ -100,12 +237,88 @@
         <translation>是空的</translation>
     </message>
     <message>
-        <source>is too large for a measurement list (more than %1 KiB)</source>
-        <translation>对测量列表来说过大（大于 %1 KiB）</translation>
-    </message>
-    <message>
         <source>is not a display description (JSON), measurement list (CSV), ICC profile or EDID</source>
         <translation>不是显示屏描述（JSON）、测量列表（CSV）、ICC 特性文件或 EDID</translation>
+    </message>
+    <message>
+        <source>%1 cd/m²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>manufacturer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>year of manufacture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>year of the model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gamma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>luminance of a white screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>luminance of white on 10 % of the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>luminance of black</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>these luminances are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>guaranteed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>guidance for the source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>desired maximum luminance of content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>desired maximum average of a frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>desired minimum luminance of content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>takes signals of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>takes transfer functions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>luminance of white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>calibration curves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in the profile; its gamut holds while they are loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -157,6 +370,18 @@
     <message>
         <source>is an ICC profile without usable primaries: %1</source>
         <translation>ICC 特性文件中没有可用的基色：%1</translation>
+    </message>
+    <message>
+        <source>the profile says that it was made from an EDID, not from a measurement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the profile says that it was made from a standard, not from a measurement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the profile cannot be read</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -248,16 +473,262 @@
         <translation>不是数字：“%1”</translation>
     </message>
     <message>
-        <source>line %1, column %2: %3</source>
-        <translation>第 %1 行，第 %2 列：%3</translation>
-    </message>
-    <message>
         <source>contains no measurements</source>
         <translation>没有测量数据</translation>
     </message>
     <message>
-        <source>line %1: missing column %2</source>
-        <translation>第 %1 行：缺少列 %2</translation>
+        <source>the decimal sign must be a point or a comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is too large for a measurement list (more than %1 KiB)</source>
+        <translation>对测量列表来说过大（大于 %1 KiB）</translation>
+    </message>
+    <message>
+        <source>unterminated quote</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>columns %1 and %2 are both %3: column %1 is read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>missing column %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no column names the measurements: choose the lines of red, green, blue and white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the unit of the luminances is not stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is not known: the luminances are read as numbers of an unknown unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the luminances are converted from foot-lamberts to cd/m²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a decimal comma, but &quot;%2&quot; (%3) has a decimal point: state the decimal sign</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is read with a decimal point; state the decimal sign if the point divides thousands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can be %2 or %3, and no other number tells: state the decimal sign</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the separator seems to divide numbers: quote them or use another separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>; so in %n further line(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>has no numbers and is not read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has more fields than the line that names the columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has a luminance but no chromaticity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a tristimulus value must not be negative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the tristimulus values are too large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>v&apos; must be greater than 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>u&apos; and v&apos; are not those of a colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the full level of &quot;%1&quot; is not known: no level without a unit is taken as the full one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 has no measurement to choose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no measurement is called &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cabinet &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>further cabinets are not checked: there are too many warnings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is there more than once, first in line %2: there is no gamut; choose the line or the name that is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>black is there more than once, first in line %1: none is used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no chromaticity: there is no gamut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>white is missing: the sum of red, green and blue is taken as white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>white is missing: there is no gamut; choose a measurement as white, or ask for the sum of red, green and blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no gamut; missing: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>apostrophe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (the list says &quot;%1&quot;)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: cd/m²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: foot-lambert, converted to cd/m²</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: relative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: not stated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 in column %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns, named in line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns, which no line names: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>black</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encoding: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Separator of the fields: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal sign: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal sign: none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thousands separator: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full level in names: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1, &quot;%2&quot;: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Further lines with a part: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -289,6 +760,29 @@
     <message>
         <source>the white point lies outside the triangle of the primaries</source>
         <translation>白点在三基色三角形之外</translation>
+    </message>
+    <message>
+        <source>%1 at %2, %3 lies outside of the spectral locus by %4 in x, y: no light has this colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no chromaticity</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>gamutfiles::TextEncoding</name>
+    <message>
+        <source>is not %1 text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is GB18030 text, which this system cannot convert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is read as %1 text but could be %2; state the encoding if names look wrong</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include "window/listdialog.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+namespace {
+
+// What is not the line of a measurement.
+constexpr int asRecognized = 0;
+constexpr int sumOfPrimaries = -1;
+
+constexpr QChar signs[] = {QLatin1Char('.'), QLatin1Char(',')};
+
+MeasurementChoice &choiceOf(MeasurementOptions &options, Vertex vertex)
+{
+    switch (vertex) {
+    case Vertex::Red:
+        return options.red;
+    case Vertex::Green:
+        return options.green;
+    case Vertex::Blue:
+        return options.blue;
+    case Vertex::White:
+        break;
+    }
+    return options.white;
+}
+
+} // namespace
+
+bool ListDialog::canHelp(const QString &fileName, const MeasurementOptions &options, const Outcome<GamutFile> &read)
+{
+    if (!QFileInfo(fileName).isFile()) {
+        return false; // a pipe, which is empty now
+    }
+    if (read) {
+        return needsChoice(*read);
+    }
+    // It may have two readings, of which one has to be chosen.
+    MeasurementOptions other = options;
+    for (const QChar sign : signs) {
+        other.decimalSign = sign;
+        const Outcome<GamutFile> again = readGamutFile(fileName, other);
+        if (!options.decimalSign && again && again->content == GamutFile::Content::Measurements) {
+            return true;
+        }
+    }
+    return false;
+}
+
+ListDialog::ListDialog(const QString &fileName, const MeasurementOptions &options, QWidget *parent)
+    : QDialog(parent)
+    , m_fileName(fileName)
+    , m_options(options)
+    , m_read(readGamutFile(fileName, options))
+{
+    setWindowTitle(tr("Measurement list"));
+    auto *layout = new QVBoxLayout(this);
+    auto *question = new QLabel(this);
+    question->setTextFormat(Qt::PlainText);
+    question->setWordWrap(true);
+    question->setText(
+        tr("%1 does not say all of what it means. What is known of it?").arg(oneLine(QFileInfo(fileName).fileName())));
+    layout->addWidget(question);
+    auto *form = new QFormLayout;
+    layout->addLayout(form);
+    m_unit = new QComboBox(this);
+    m_unit->addItem(tr("as the list says"), int(MeasuredUnit::NotStated));
+    m_unit->addItem(tr("cd/m²"), int(MeasuredUnit::CandelaPerSquareMetre));
+    m_unit->addItem(tr("foot-lambert"), int(MeasuredUnit::FootLambert));
+    m_unit->addItem(tr("relative"), int(MeasuredUnit::Relative));
+    form->addRow(tr("&Unit of the luminances:"), m_unit);
+    m_decimalSign = new QComboBox(this);
+    m_decimalSign->addItem(tr("as recognised"), QString());
+    m_decimalSign->addItem(tr("point"), QString(signs[0]));
+    m_decimalSign->addItem(tr("comma"), QString(signs[1]));
+    form->addRow(tr("&Decimal sign:"), m_decimalSign);
+    for (const Vertex vertex : allVertices) {
+        auto *box = new QComboBox(this);
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(30);
+        form->addRow(tr("%1:", "colour").arg(ceiechart::gamutVertexName(vertex)), box);
+        m_choices.append(box);
+    }
+    m_preview = new QPlainTextEdit(this);
+    m_preview->setReadOnly(true);
+    m_preview->setTabChangesFocus(true);
+    m_preview->setAccessibleName(tr("How the list is understood"));
+    layout->addWidget(m_preview, 1);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    m_use = buttons->addButton(tr("&Use"), QDialogButtonBox::AcceptRole);
+    m_use->setDefault(true);
+    layout->addWidget(buttons);
+    fillChoices();
+    m_choices.append(m_unit);
+    m_choices.append(m_decimalSign);
+    for (QComboBox *box : qAsConst(m_choices)) {
+        connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &ListDialog::take);
+    }
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    resize(520, 460);
+    refresh();
+}
+
+void ListDialog::fillChoices()
+{
+    for (const Vertex vertex : allVertices) {
+        QComboBox *box = choice(vertex);
+        const QSignalBlocker blocker(box);
+        const QVariant before = box->currentData();
+        box->clear();
+        box->addItem(tr("as recognised"), asRecognized);
+        if (vertex == Vertex::White) {
+            box->addItem(tr("sum of red, green and blue"), sumOfPrimaries);
+        }
+        if (m_read) {
+            for (const Measurement &measurement : m_read->measurements.measurements) {
+                if (measurement.color) {
+                    box->addItem(
+                        tr("line %1: %2").arg(measurement.line).arg(oneLine(measurement.name)), measurement.line);
+                }
+            }
+        }
+        const int chosen = box->findData(before);
+        box->setCurrentIndex(chosen < 0 ? 0 : chosen);
+    }
+}
+
+void ListDialog::take()
+{
+    m_options.unit.reset();
+    const auto unit = MeasuredUnit(m_unit->currentData().toInt());
+    if (unit != MeasuredUnit::NotStated) {
+        m_options.unit = unit;
+    }
+    m_options.decimalSign.reset();
+    const QString sign = m_decimalSign->currentData().toString();
+    if (!sign.isEmpty()) {
+        m_options.decimalSign = sign.at(0);
+    }
+    for (const Vertex vertex : allVertices) {
+        const int line = choice(vertex)->currentData().toInt();
+        choiceOf(m_options, vertex) = {std::max(line, 0), QString()};
+    }
+    m_options.whiteIsSum = choice(Vertex::White)->currentData().toInt() == sumOfPrimaries;
+    m_read = readGamutFile(m_fileName, m_options);
+    fillChoices();
+    refresh();
+}
+
+void ListDialog::refresh()
+{
+    QStringList lines;
+    if (!m_read) {
+        lines.append(tr("Cannot be read so: %1").arg(m_read.error()));
+    } else {
+        lines.append(gamutOf(*m_read) ? tr("The list makes a gamut.") : tr("The list makes no gamut, only points."));
+        for (const Problem &warning : m_read.warnings()) {
+            lines.append(QStringLiteral("⚠ %1").arg(warning.message()));
+        }
+        lines.append(QString());
+        lines.append(m_read->measurements.recognized.text());
+    }
+    m_preview->setPlainText(lines.join(QLatin1Char('\n')));
+    m_use->setEnabled(bool(m_read));
+}
+
+} // namespace gamutviewer

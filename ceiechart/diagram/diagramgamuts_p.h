@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_DIAGRAM_DIAGRAMGAMUTS_P_H
+#define CEIECHART_DIAGRAM_DIAGRAMGAMUTS_P_H
+
+#include <ceiechart/diagram/diagramsheet_p.h>
+
+#include <utility>
+#include <vector>
+
+namespace ceiechart {
+
+// Logical pixels
+constexpr double markRadius = 4.0;
+constexpr double whiteRadius = 5.0;
+constexpr double whiteArm = 4.0; // of the cross through the target's white
+
+/*! \brief Lays out what lies over the scale: gamuts, marks and their names. */
+class DiagramGamuts {
+public:
+    DiagramGamuts(const DiagramSheet &sheet, const LabelPlaces &places);
+
+    /*! \brief The outlines that no edit of a target changes. */
+    DiagramStep takeUnedited();
+    /*! \brief The rest, with the numbers of \a isotherms where they cover no mark. */
+    DiagramStep takeEdited(const QVector<PendingNumber> &isotherms);
+
+private:
+    struct Shown {
+        int index;
+        GamutRole role;
+        QPolygonF corners;
+        bool isCovered = false; // by the equal outline of another gamut of the role, which looks the same
+    };
+
+    // Outlines and areas, in diagramgamuts.cpp
+    //! Whether the outlines number \a i and \a k fall on one another.
+    bool areEqual(size_t i, size_t k) const;
+    bool isDrawn(size_t i, bool targetsToo) const;
+    //! How many other roles have gamuts that are drawn later and equal number \a i: those of one role look the same.
+    int equalsAbove(size_t i, bool targetsToo) const;
+    bool hasEqualBelow(size_t i) const;
+    //! Of gamuts that equal one another the lower ones are wider, so that each shows on both sides of the next.
+    void drawOutline(size_t i, bool targetsToo);
+    void drawCommonArea();
+    void drawLostArea();
+
+    // Points and curves, in diagrammarks.cpp
+    bool isSeen(const QPointF &at, double radius) const;
+    static QRectF around(const QPointF &at, double reach);
+    QPointF whiteOf(const Shown &gamut) const;
+    void drawRings(const DiagramRings &rings);
+    void drawTrail();
+    void drawMarks();
+    void drawMark(const DiagramMark &mark, const QPainterPath &shape, const QColor &color);
+    void drawWhites();
+
+    // Texts, in diagramnames.cpp
+    //! Where a target has its handles.
+    QVector<QRectF> handles() const;
+    //! What numbers must leave to be seen: marks, whites and handles.
+    QVector<QRectF> clearOfNumbers() const;
+    void drawIsothermNumber(const QString &number, const QRectF &place);
+    //! The isotherm's number at the nearest free place, with a line from there to the isotherm.
+    bool leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear);
+    //! Of isotherms none of which has room for its number beside it, that nearest to the white is named all the same.
+    void nameOneIsotherm(QVector<PendingNumber> isotherms, const QVector<QRectF> &clear);
+    void placeIsotherms(const QVector<PendingNumber> &isotherms);
+    void drawPlate(const QRectF &place, const DiagramPalette &palette);
+    //! Where a name may stand, the best first.
+    QVector<QRectF> namePlaces(const Shown &gamut, const QSizeF &size) const;
+    //! How much \a place would cover.
+    int covered(const QRectF &place) const;
+    //! Where a name of the size \a text covers least; null where it has no place.
+    QRectF bestPlace(const Shown &gamut, const QSizeF &text, const QVector<QRectF> &handles) const;
+    void drawNames();
+    void drawMarkName(const QPointF &at, const QString &markName);
+
+    const DiagramSheet &m_sheet;
+    const DiagramContent &m_content;
+    const DiagramPalette &m_palette;
+    const DiagramPalette &m_innerPalette;
+    QRectF m_plot;
+    QRectF m_inner; // where texts may stand
+    std::vector<Shown> m_shown; // from bottom to top
+    QVector<QRectF> m_marks;
+    std::vector<std::pair<QPointF, QString>> m_named; // marks, with their names as they were given
+    DiagramStep m_step;
+};
+
+} // namespace ceiechart
+
+#endif

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+// Rings, the trail, measured points and whites.
+#include <ceiechart/diagram/diagramgamuts_p.h>
+#include <ceiechart/diagram/finite_p.h>
+#include <ceiechart/diagram/polylines_p.h>
+#include <ceiechart/diagram/targetrules.h>
+
+#include <QLocale>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ceiechart {
+
+namespace {
+
+// Logical pixels
+constexpr double trailRadius = 2.5;
+constexpr double ringWidth = 1.2;
+constexpr double curvePieces = 2.0; // lengths of the pieces of rings, at least
+
+//! Six digits at most, and no exponent.
+QString decimal(double value)
+{
+    return QString::number(QString::number(value, 'g', 6).toDouble(), 'f', QLocale::FloatingPointShortest);
+}
+
+QPolygonF diamond(const QPointF &at, double radius)
+{
+    return QPolygonF(
+        {at - QPointF(0.0, radius), at + QPointF(radius, 0.0), at + QPointF(0.0, radius), at - QPointF(radius, 0.0)});
+}
+
+//! Each role's white has a shape of its own.
+QPainterPath whiteShape(GamutRole role, const QPointF &at)
+{
+    constexpr double r = whiteRadius;
+    QPainterPath path;
+    switch (role) {
+    case GamutRole::Target:
+        path.addEllipse(at, r, r);
+        for (const QPointF &way : {QPointF(1.0, 0.0), QPointF(-1.0, 0.0), QPointF(0.0, 1.0), QPointF(0.0, -1.0)}) {
+            path.moveTo(at + way * (r - whiteArm / 2.0));
+            path.lineTo(at + way * (r + whiteArm));
+        }
+        break;
+    case GamutRole::Original:
+    case GamutRole::Standard:
+        path.addRect(QRectF(at - QPointF(r, r), at + QPointF(r, r)));
+        break;
+    case GamutRole::Measured:
+        path = closedPath(diamond(at, r + 1.5));
+        break;
+    case GamutRole::Declared:
+        path = closedPath(QPolygonF(
+            QVector<QPointF>{at + QPointF(0.0, -r - 1.0), at + QPointF(r + 0.5, r), at + QPointF(-r - 0.5, r)}));
+        break;
+    }
+    return path;
+}
+
+} // namespace
+
+bool DiagramGamuts::isSeen(const QPointF &at, double radius) const
+{
+    return isFinite(at) && m_plot.adjusted(radius, radius, -radius, -radius).contains(at);
+}
+
+QRectF DiagramGamuts::around(const QPointF &at, double reach)
+{
+    return QRectF(at - QPointF(reach, reach), at + QPointF(reach, reach));
+}
+
+QPointF DiagramGamuts::whiteOf(const Shown &gamut) const
+{
+    return m_sheet.viewport.toPosition(xyOf(m_content.gamuts.at(gamut.index).gamut.getTargets().white));
+}
+
+void DiagramGamuts::drawRings(const DiagramRings &rings)
+{
+    const QPointF centre = m_sheet.viewport.toPosition(rings.xy);
+    if (!isFinite(centre)) {
+        return;
+    }
+    const QColor color = gamutStyle(GamutRole::Target).color;
+    const TextStyle &style = m_sheet.fonts.numbers;
+    for (const double radius : rings.radii) {
+        const QPolygonF curve = DiagramPainter::ring(m_sheet.viewport, rings.xy, radius);
+        if (curve.isEmpty() || !isFinite(curve)) {
+            continue;
+        }
+        QPen pen(color, ringWidth, Qt::CustomDashLine, Qt::FlatCap);
+        pen.setDashPattern({5.0, 3.0});
+        const QRectF bounds = curve.boundingRect();
+        if (m_plot.contains(bounds) && m_sheet.viewport.diagram() != Model::Diagram::Cie1931) {
+            // As an ellipse, which files keep as one.
+            m_step.drawing.ellipse(bounds.center(), bounds.width() / 2.0, bounds.height() / 2.0,
+                QPen(m_innerPalette.casing, ringWidth + lineCasing), Qt::NoBrush);
+            m_step.drawing.ellipse(bounds.center(), bounds.width() / 2.0, bounds.height() / 2.0, pen, Qt::NoBrush);
+        } else {
+            drawCased(m_step.drawing, thinned(curve, curvePieces), true, m_plot, pen, m_innerPalette.casing);
+        }
+        const QString number = decimal(radius);
+        const QSizeF size = style.size(number);
+        if (bounds.height() < 3.2 * size.height()) {
+            continue;
+        }
+        const auto ends = std::minmax_element(
+            curve.cbegin(), curve.cend(), [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
+        for (const QPointF &end : {*ends.second, *ends.first}) {
+            const QRectF place(end - QPointF(size.width(), size.height()) / 2.0, size);
+            if (m_step.places.isFree(place, m_inner, labelGap)) {
+                m_step.places.add(DiagramLabel::Kind::Ring, number, place);
+                drawPlate(place, m_innerPalette);
+                m_step.texts.textIn(place, number, style, color);
+                break;
+            }
+        }
+    }
+}
+
+void DiagramGamuts::drawTrail()
+{
+    const QColor color = gamutStyle(GamutRole::Target).color;
+    const int count = int(m_content.trail.size());
+    const auto at = [this](int i) { return m_sheet.viewport.toPosition(m_content.trail.at(i)); };
+    for (int i = 0; i + 1 < count; ++i) {
+        if (const auto part
+            = isFinite(at(i)) && isFinite(at(i + 1)) ? partWithin(QLineF(at(i), at(i + 1)), m_plot) : std::nullopt) {
+            const QPolygonF points(QVector<QPointF>{part->p1(), part->p2()});
+            m_step.drawing.line(
+                points, false, QPen(m_innerPalette.casing, 1.5 + lineCasing, Qt::SolidLine, Qt::RoundCap));
+            m_step.drawing.line(points, false, QPen(color, 1.5, Qt::SolidLine, Qt::RoundCap));
+        }
+    }
+    for (int i = 0; i < count; ++i) {
+        if (isSeen(at(i), trailRadius)) {
+            // The older, the smaller.
+            const double radius = trailRadius * (0.6 + 0.4 * (i + 1) / count);
+            m_step.drawing.ellipse(at(i), radius, radius, QPen(m_innerPalette.casing, 1.0), color);
+        }
+    }
+}
+
+void DiagramGamuts::drawMarks()
+{
+    const QColor cmy[] = {QColor(0, 200, 220), QColor(220, 40, 200), QColor(240, 205, 0)};
+    if (m_sheet.shows(DiagramLayer::MeasurePoints)) {
+        for (const DiagramMark &mark : m_content.measurePoints) {
+            QPainterPath disc;
+            disc.addEllipse(m_sheet.viewport.toPosition(mark.xy), markRadius, markRadius);
+            drawMark(mark, disc, Qt::white);
+        }
+    }
+    if (m_sheet.shows(DiagramLayer::ColorTemperaturePoints)) {
+        for (const DiagramMark &mark : m_content.colorTemperaturePoints) {
+            drawMark(mark, closedPath(diamond(m_sheet.viewport.toPosition(mark.xy), markRadius + 1.5)), Qt::white);
+        }
+    }
+    if (m_sheet.shows(DiagramLayer::CmyPoints)) {
+        for (int i = 0; i < m_content.cmyPoints.size(); ++i) {
+            const DiagramMark &mark = m_content.cmyPoints.at(i);
+            const QPointF at = m_sheet.viewport.toPosition(mark.xy);
+            QPainterPath square;
+            square.addRect(QRectF(at - QPointF(markRadius, markRadius), at + QPointF(markRadius, markRadius)));
+            drawMark(mark, square, cmy[i % 3]);
+        }
+    }
+}
+
+void DiagramGamuts::drawMark(const DiagramMark &mark, const QPainterPath &shape, const QColor &color)
+{
+    const QPointF at = m_sheet.viewport.toPosition(mark.xy);
+    if (!isSeen(at, markRadius + 2.0)) {
+        return;
+    }
+    // White round black round the mark's colour can be seen on every ground.
+    m_step.drawing.shape(shape, QPen(Qt::white, 3.5), Qt::NoBrush);
+    m_step.drawing.shape(shape, QPen(QColor(24, 26, 30), 1.4), mark.color.isValid() ? mark.color : color);
+    m_marks.append(QRectF(at - QPointF(markRadius, markRadius), at + QPointF(markRadius, markRadius)));
+    m_named.push_back({at, mark.name});
+}
+
+void DiagramGamuts::drawWhites()
+{
+    for (const Shown &gamut : m_shown) {
+        const QPointF at = whiteOf(gamut);
+        if (gamut.role == GamutRole::Standard || !isSeen(at, whiteRadius + whiteArm)) {
+            continue;
+        }
+        const QPainterPath shape = whiteShape(gamut.role, at);
+        QPen pen = DiagramPainter::gamutPen(gamut.role);
+        pen.setStyle(Qt::SolidLine);
+        m_step.drawing.shape(shape, QPen(m_innerPalette.casing, pen.widthF() + lineCasing), Qt::NoBrush);
+        m_step.drawing.shape(shape, pen, Qt::NoBrush);
+        const QPointF reach(whiteRadius + whiteArm, whiteRadius + whiteArm);
+        m_marks.append(QRectF(at - reach, at + reach));
+    }
+}
+
+} // namespace ceiechart

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+// Handles, guides, readout and the label at what is edited: what there is of them, and where.
+#include <ceiechart/diagram/diagramhands_p.h>
+#include <ceiechart/diagram/diagramview_p.h>
+#include <ceiechart/diagram/finite_p.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace ceiechart {
+
+namespace {
+
+constexpr double labelDistance = 26.0; // logical pixels from the middle of a handle to its label
+constexpr double cornerRoom = 6.0; // logical pixels round a corner that the hand may move to
+
+//! Small boxes along the line from \a from to \a to.
+void addBoxesAlong(QVector<QRectF> &boxes, const QPointF &from, const QPointF &to)
+{
+    constexpr double side = 8.0;
+    constexpr int most = 1000; // of the whole line, which may lead far beyond what is seen
+    const double length = std::hypot(to.x() - from.x(), to.y() - from.y());
+    if (!(length > 0.0) || !std::isfinite(length)) {
+        return;
+    }
+    const QPointF step = (to - from) * (side / length);
+    const int count = int(std::min(double(most), length / side));
+    for (int i = 0; i <= count; ++i) {
+        const QPointF at = from + step * i;
+        boxes.append(QRectF(at.x() - side / 2.0, at.y() - side / 2.0, side, side));
+    }
+}
+
+} // namespace
+
+void DiagramView::Private::refreshOverlay()
+{
+    DiagramOverlay fresh;
+    const QRectF plot = viewport.plot();
+    if (hasHandles()) {
+        const QRectF reach = plot.adjusted(-1.0, -1.0, 1.0, 1.0);
+        const auto add = [&](GamutVertex vertex) {
+            const QPointF at = positionOf(vertex);
+            if (reach.contains(at)) {
+                const bool isSelected = selected == vertex;
+                fresh.handles.append(
+                    {vertex, at, rules->isMovable(vertex), isSelected, hovered == vertex, isSelected && q->hasFocus()});
+            }
+        };
+        // White first, as a primary on it must not be covered, and what is selected over all.
+        for (const GamutVertex vertex : {GamutVertex::White, GamutVertex::Blue, GamutVertex::Green, GamutVertex::Red}) {
+            if (selected != vertex) {
+                add(vertex);
+            }
+        }
+        if (selected) {
+            add(*selected);
+        }
+    }
+    for (const QPolygonF &guide : guidesXy) {
+        QPolygonF positions;
+        for (const QPointF &xy : guide) {
+            positions.append(viewport.toPosition(xy));
+        }
+        if (isFinite(positions)) {
+            fresh.guides.append(positions);
+        }
+    }
+    const bool showsFocus = std::any_of(fresh.handles.cbegin(), fresh.handles.cend(),
+        [](const DiagramOverlay::Handle &handle) { return handle.hasFocus; });
+    fresh.showsFocusFrame = q->hasFocus() && !showsFocus;
+    overlay = fresh;
+    readoutCorners.clear();
+    placeReadout();
+    placeLabel();
+}
+
+QStringList DiagramView::Private::labelEntries() const
+{
+    QStringList entries;
+    if (label && target()) {
+        const QPointF xy = xyOf(targetAt(target()->gamut.getTargets(), label->vertex));
+        entries.append(DiagramView::tr("%1: %2", "primary or white, and its coordinates")
+                           .arg(gamutVertexName(label->vertex), q->coordinatesText(xy)));
+        for (const QString &entry : {editNote, label->snap, label->reason}) {
+            if (!entry.isEmpty()) {
+                entries.append(entry);
+            }
+        }
+    }
+    return entries;
+}
+
+void DiagramView::Private::placeLabel()
+{
+    QStringList entries = labelEntries();
+    if (entries.isEmpty() || !selected || !hasHandles()) {
+        return;
+    }
+    const QPointF at = positionOf(*selected);
+    const QRectF plot = viewport.plot();
+    if (!plot.contains(at)) {
+        return;
+    }
+    constexpr double widest = 260.0; // of the lines after the first, in logical pixels
+    const QFont font = q->font();
+    QVector<QRectF> avoid;
+    for (const DiagramOverlay::Handle &handle : qAsConst(overlay.handles)) {
+        avoid.append(DiagramOverlay::bounds(handle));
+    }
+    const QVector<QRectF> handleBoxes = avoid; // the last is of what is edited
+    // What the hand is likely to move to must be seen as well.
+    for (const DiagramGamut &gamut : content.gamuts) {
+        if (gamut.role != GamutRole::Target && content.shows(gamut)) {
+            const QPointF corner = viewport.toPosition(xyOf(targetAt(gamut.gamut.getTargets(), *selected)));
+            avoid.append(QRectF(corner - QPointF(cornerRoom, cornerRoom), QSizeF(2.0 * cornerRoom, 2.0 * cornerRoom)));
+        }
+    }
+    // No line leads to the white: it is mixed from the primaries.
+    if (*selected != GamutVertex::White) {
+        for (const GamutVertex other : {GamutVertex::Red, GamutVertex::Green, GamutVertex::Blue}) {
+            if (other != *selected) {
+                addBoxesAlong(avoid, at, positionOf(other));
+            }
+        }
+    }
+    const auto isPlaced = [&](const QVector<QRectF> &boxes) {
+        overlay.label = DiagramOverlay::wrapped(entries, font, std::min(widest, plot.width() / 2.0));
+        overlay.labelPlace = labelPlace(DiagramOverlay::labelSize(overlay.label, font), at, boxes);
+        return !overlay.labelPlace.isEmpty();
+    };
+    // Where there is no room for all of it, the coordinates are what matters, more than what they cover.
+    for (;; entries.removeLast()) {
+        if (isPlaced(avoid)) {
+            return;
+        }
+        if (entries.size() == 1) {
+            break;
+        }
+    }
+    if (!isPlaced(handleBoxes) && !isPlaced({handleBoxes.last()})) {
+        overlay.label.clear();
+    }
+}
+
+QRectF DiagramView::Private::labelPlace(const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid) const
+{
+    QRectF best = painter->freePlace(size, at, labelDistance, avoid);
+    if (!best.isEmpty()) {
+        return best;
+    }
+    // Farther away where there is no room beside it; a line leads from the label to the handle.
+    constexpr int tries = 40; // each way
+    // And over the digits of the scale where the plot is narrower than the coordinates.
+    const QRectF area = size.width() <= viewport.plot().width() ? viewport.plot() : QRectF(q->rect());
+    const QSizeF room(area.width() - size.width(), area.height() - size.height());
+    double least = std::numeric_limits<double>::max();
+    for (int row = 0; row <= tries && room.isValid(); ++row) {
+        for (int column = 0; column <= tries; ++column) {
+            const QPointF corner(area.left() + room.width() * column / tries, area.top() + room.height() * row / tries);
+            const QRectF place(corner, size);
+            const double away = distanceTo(place, at);
+            const auto covers = [&place](const QRectF &box) { return box.intersects(place); };
+            if (away >= labelDistance && away < least && std::none_of(avoid.cbegin(), avoid.cend(), covers)) {
+                least = away;
+                best = place;
+            }
+        }
+    }
+    return best;
+}
+
+} // namespace ceiechart

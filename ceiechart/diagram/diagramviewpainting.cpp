@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: MIT
+// The pictures that are kept, and what of the view is painted again.
+#include <ceiechart/diagram/diagramview_p.h>
+#include <ceiechart/diagram/finite_p.h>
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ceiechart {
+
+namespace {
+
+constexpr double lineRoom = 6.0; // logical pixels on either side of a line, for its width and casing
+constexpr double markRoom = 16.0; // logical pixels round a white
+
+QRect around(const QRectF &rectangle, double room)
+{
+    return rectangle.adjusted(-room, -room, room, room).toAlignedRect();
+}
+
+QRectF boxOf(std::initializer_list<QPointF> points)
+{
+    return QPolygonF(QVector<QPointF>(points)).boundingRect();
+}
+
+/*!
+ * What lies between the lines \a a and \a b of which each end of one is moved straight to that of the other, with
+ * \a room round it, within \a whole: in bands, which hug slanting lines.
+ */
+QRegion regionBetween(const QLineF &a, const QLineF &b, const QRectF &whole, double room)
+{
+    constexpr int bandHeight = 8;
+    const QLineF sides[] = {a, b, QLineF(a.p1(), b.p1()), QLineF(a.p2(), b.p2())};
+    const QRect bounds
+        = (boxOf({a.p1(), a.p2(), b.p1(), b.p2()}).adjusted(-room, -room, room, room) & whole).toAlignedRect();
+    QVector<QRect> bands;
+    for (int top = bounds.top(); top <= bounds.bottom(); top += bandHeight) {
+        const int bottom = std::min(top + bandHeight, bounds.bottom() + 1);
+        double left = HUGE_VAL;
+        double right = -HUGE_VAL;
+        for (const QLineF &side : sides) {
+            const bool isDown = side.y1() < side.y2();
+            const QPointF upper = isDown ? side.p1() : side.p2();
+            const QPointF lower = isDown ? side.p2() : side.p1();
+            const double first = std::max(upper.y(), top - room);
+            const double last = std::min(lower.y(), bottom + room);
+            if (first > last) {
+                continue;
+            }
+            const double slope = lower.y() > upper.y() ? (lower.x() - upper.x()) / (lower.y() - upper.y()) : 0.0;
+            const bool isLevel = slope == 0.0;
+            for (const double x : {isLevel ? upper.x() : upper.x() + (first - upper.y()) * slope,
+                     isLevel ? lower.x() : upper.x() + (last - upper.y()) * slope}) {
+                left = std::min(left, x);
+                right = std::max(right, x);
+            }
+        }
+        const QRectF band = QRectF(QPointF(left - room, top), QPointF(right + room, bottom)) & whole;
+        if (left <= right && !band.isEmpty()) {
+            bands.append(band.toAlignedRect());
+        }
+    }
+    QRegion region;
+    region.setRects(bands.constData(), int(bands.size()));
+    return region;
+}
+
+//! Sizes in points are the same on \a image as on \a widget.
+void takeResolution(QImage &image, const QWidget &widget)
+{
+    constexpr double inchesPerMetre = 1.0 / 0.0254;
+    image.setDotsPerMeterX(int(std::lround(widget.logicalDpiX() * inchesPerMetre)));
+    image.setDotsPerMeterY(int(std::lround(widget.logicalDpiY() * inchesPerMetre)));
+}
+
+} // namespace
+
+void DiagramView::Private::forgetPictures()
+{
+    // The painter keeps a picture too.
+    auto fresh = std::make_unique<DiagramPainter>();
+    fresh->setFont(painter->font());
+    fresh->setContent(content);
+    fresh->setViewport(viewport);
+    painter = std::move(fresh);
+    lines = QImage();
+    linesAreReady = false;
+}
+
+const QImage &DiagramView::Private::linesPicture()
+{
+    const double ratio = q->devicePixelRatioF();
+    const QSize size(int(std::ceil(q->width() * ratio)), int(std::ceil(q->height() * ratio)));
+    if (lines.size() != size || lines.devicePixelRatio() != ratio) {
+        lines = QImage(size, QImage::Format_ARGB32_Premultiplied);
+        lines.setDevicePixelRatio(ratio);
+        takeResolution(lines, *q);
+        linesAreReady = false;
+    }
+    if (!linesAreReady) {
+        lines.fill(Qt::transparent);
+        QPainter p(&lines);
+        p.setRenderHint(QPainter::Antialiasing);
+        painter->paintScale(&p);
+        painter->paintGamuts(&p);
+        linesAreReady = true;
+    }
+    return lines;
+}
+
+QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
+{
+    QRegion region;
+    for (const DiagramOverlay::Handle &handle : some.handles) {
+        region += around(DiagramOverlay::bounds(handle), 2.0);
+    }
+    if (!some.label.isEmpty()) {
+        region += around(some.labelPlace, 2.0);
+        // The line from the label to the handle.
+        region += around(
+            some.labelPlace | QRectF(positionOf(selected.value_or(GamutVertex::White)), QSizeF(1.0, 1.0)), 2.0);
+    }
+    for (const QPolygonF &guide : some.guides) {
+        if (guide.size() == 1) {
+            region += around(guide.boundingRect(), markRoom);
+        }
+        for (int i = 1; i < guide.size(); ++i) {
+            const QLineF line(guide[i - 1], guide[i]);
+            region += regionBetween(line, line, QRectF(q->rect()), lineRoom);
+        }
+    }
+    if (!some.readout.isEmpty()) {
+        region += some.readoutPlace.toAlignedRect();
+    }
+    return region & q->rect();
+}
+
+bool DiagramView::Private::meetsAnother(const Model::Targets &targets) const
+{
+    const QPolygonF line = viewport.outline(targets);
+    return std::any_of(content.gamuts.begin(), content.gamuts.end(), [&](const DiagramGamut &gamut) {
+        if (gamut.role == GamutRole::Target) {
+            return false;
+        }
+        const QPolygonF other = viewport.outline(gamut.gamut.getTargets());
+        for (int i = 0; i < line.size() && i < other.size(); ++i) {
+            const QPointF away = line[i] - other[i];
+            if (!(std::hypot(away.x(), away.y()) < markRoom)) {
+                return false;
+            }
+        }
+        return true;
+    });
+}
+
+QRegion DiagramView::Private::editedRegion(const Model::Targets &former, const Model::Targets &latter) const
+{
+    const QPolygonF old = viewport.outline(former);
+    const QPolygonF now = viewport.outline(latter);
+    const QRectF whole = QRectF(q->rect());
+    if (old.size() < 3 || now.size() < 3 || !isFinite(old) || !isFinite(now)) {
+        return q->rect();
+    }
+    // Everything that changes lies between the old and the new lines, edge by edge.
+    QRegion region;
+    for (int i = 0; i < 3; ++i) {
+        region += regionBetween(
+            QLineF(old[i], old[(i + 1) % 3]), QLineF(now[i], now[(i + 1) % 3]), QRectF(q->rect()), lineRoom);
+    }
+    for (const Model::Targets *targets : {&former, &latter}) {
+        const QPointF white = viewport.toPosition(xyOf(targets->white));
+        if (whole.adjusted(-markRoom, -markRoom, markRoom, markRoom).contains(white)) {
+            region += around(QRectF(white, QSizeF(1.0, 1.0)), markRoom);
+        }
+    }
+    return region;
+}
+
+void DiagramView::Private::putTarget(const Model::Targets &targets)
+{
+    const auto found = std::find_if(content.gamuts.begin(), content.gamuts.end(),
+        [](const DiagramGamut &gamut) { return gamut.role == GamutRole::Target; });
+    if (found == content.gamuts.end()) {
+        return;
+    }
+    const Model::Targets former = found->gamut.getTargets();
+    const QRegion old = overlayRegion(overlay);
+    const QVector<DiagramLabel> labels = painter->labels();
+    found->gamut = Model::ColorGamut(found->gamut.colorGamutName(), targets);
+    painter->setContent(content);
+    QRegion changed = old;
+    if (meetsAnother(former) || meetsAnother(targets)) {
+        // A line that equals another gamut's is drawn otherwise, and that gamut's too.
+        linesAreReady = false;
+        changed = q->rect();
+    } else {
+        changed += editedRegion(former, targets);
+    }
+    // Names give way to one another.
+    const QVector<DiagramLabel> newLabels = painter->labels();
+    const auto same = [](const DiagramLabel &a, const DiagramLabel &b) {
+        return a.kind == b.kind && a.index == b.index && a.text == b.text && a.place == b.place;
+    };
+    const auto addOthers = [&](const QVector<DiagramLabel> &some, const QVector<DiagramLabel> &others) {
+        for (const DiagramLabel &label : some) {
+            if (std::none_of(others.begin(), others.end(), [&](const DiagramLabel &o) { return same(o, label); })) {
+                changed += around(label.place, lineRoom);
+            }
+        }
+    };
+    addOthers(labels, newLabels);
+    addOthers(newLabels, labels);
+    refreshOverlay();
+    q->update(changed + overlayRegion(overlay));
+}
+
+void DiagramView::paint(QPainter *painter, const QRectF &place) const
+{
+    d->painter->paint(painter, place);
+}
+
+QImage DiagramView::toImage(const QSize &size, qreal devicePixelRatio) const
+{
+    // With less, the whole picture would be less than a letter, of a view that is too large to paint.
+    constexpr double leastRatio = 0.1;
+    if (size.isEmpty() || !(devicePixelRatio >= leastRatio)) {
+        return QImage();
+    }
+    QImage image(size, QImage::Format_RGB32);
+    if (image.isNull()) {
+        return image;
+    }
+    image.setDevicePixelRatio(devicePixelRatio);
+    takeResolution(image, *this);
+    image.fill(diagramPalette(d->content.ground).ground);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paint(&painter, QRectF(QPointF(), QSizeF(size) / devicePixelRatio));
+    return image;
+}
+
+void DiagramView::paintEvent(QPaintEvent *event)
+{
+    QPainter p(this);
+    const DiagramPalette &palette = diagramPalette(d->content.ground);
+    const bool isReadoutOnly = !d->overlay.readout.isEmpty()
+        && event->region().subtracted(d->overlay.readoutPlace.toAlignedRect()).isEmpty();
+    if (!isReadoutOnly) {
+        p.setClipRegion(event->region());
+        const bool isAll = event->region() == QRegion(rect());
+        if (isAll) {
+            d->painter->paintColors(&p, devicePixelRatioF());
+        } else {
+            p.drawImage(QPointF(), d->painter->colors(devicePixelRatioF()));
+        }
+        p.setRenderHint(QPainter::Antialiasing);
+        if (!d->linesAreReady && isAll) {
+            // As the view moves, lines that are kept would have to be made, laid over and dropped for each picture.
+            d->painter->paintScale(&p);
+            d->painter->paintGamuts(&p);
+        } else {
+            p.drawImage(QPointF(), d->linesPicture());
+        }
+        d->painter->paintEdited(&p, event->region());
+        d->overlay.paint(p, d->viewport.plot(), palette, font());
+    }
+    d->overlay.paintReadout(p, palette);
+}
+
+} // namespace ceiechart

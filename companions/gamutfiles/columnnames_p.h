@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTFILES_COLUMNNAMES_P_H
+#define GAMUTFILES_COLUMNNAMES_P_H
+
+#include <gamutfiles/measurementoptions.h>
+
+#include <QString>
+
+#include <optional>
+
+namespace gamutfiles {
+
+/*! \brief What a column of a measurement list gives. */
+enum class ColumnPart {
+    Name,
+    Luminance, //!< named as luminance
+    Y, //!< the luminance among the tristimulus values
+    x,
+    y,
+    u, //!< CIE 1976 u'
+    v, //!< CIE 1976 v'
+    X,
+    Z,
+    Cabinet,
+    Row,
+    Column,
+    Number //!< a running number or an identifier, of a measurement or of a cabinet
+};
+constexpr int columnPartCount = 13; //!< how many there are
+
+/*! \brief How a column is called in messages. */
+QString columnPartName(ColumnPart part);
+
+/*! \brief What the header of a column says. */
+struct ColumnName {
+    ColumnPart part = ColumnPart::Name;
+    MeasuredUnit unit = MeasuredUnit::NotStated; //!< of a luminance
+    QString unitText; //!< as the header writes it; empty when it does not
+};
+
+/*!
+ * \brief What the header \a text names; nothing when it is none of the names in use.
+ *
+ * Case matters only between x and X, y and Y, z and Z.
+ */
+std::optional<ColumnName> columnName(const QString &text);
+
+/*! \brief The unit that \a text is; NotKnown when it is none. */
+MeasuredUnit measuredUnit(const QString &text);
+
+} // namespace gamutfiles
+
+#endif

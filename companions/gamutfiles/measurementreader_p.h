@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTFILES_MEASUREMENTREADER_P_H
+#define GAMUTFILES_MEASUREMENTREADER_P_H
+
+#include "columnnames_p.h"
+#include "csv_p.h"
+
+#include <gamutfiles/measurementlist.h>
+
+#include <QCoreApplication>
+
+#include <array>
+
+namespace gamutfiles {
+
+/*! \brief Reads one measurement list, step by step; the first thing that is wrong ends it. */
+class MeasurementReader {
+    Q_DECLARE_TR_FUNCTIONS(gamutfiles::MeasurementList)
+
+public:
+    explicit MeasurementReader(const MeasurementOptions &options)
+        : m_options(options)
+    {
+    }
+
+    /*! \brief The list in \a bytes. To be called once. */
+    Outcome<MeasurementList> read(const QByteArray &bytes);
+
+private:
+    using Columns = std::array<int, columnPartCount>; // index of each part's column, -1: there is none
+    struct Header {
+        Columns columns;
+        std::array<ColumnName, columnPartCount> names;
+        QVector<Problem> doubled; // columns of the same part
+    };
+
+    // Each step returns false, with m_failure set, when the list is refused.
+    bool decode(const QByteArray &bytes);
+    bool findColumns();
+    bool decideDecimalSign();
+    bool readRows();
+    bool assignParts();
+    bool checkGamut();
+
+    static Header headerOf(const CsvRow &row);
+    void useHeader(const Header &header, int rowIndex);
+    void useColumns(const Columns &columns, const QStringList &headers);
+    void useCabinets(const Columns &columns, const QStringList &headers);
+    void keep(ColumnPart part, int column, const QStringList &headers);
+    void readUnitRow();
+    void useUnit(const ColumnName &luminance);
+
+    std::optional<Measurement> readRow(const CsvRow &row);
+    bool readColor(const CsvRow &row, Measurement &measurement);
+    bool readTristimulus(const CsvRow &row, Measurement &measurement);
+    bool readUv(const CsvRow &row, Measurement &measurement);
+    void readPlace(const CsvRow &row, Measurement &measurement);
+    std::optional<QString> field(const CsvRow &row, ColumnPart part);
+    std::optional<double> number(const CsvRow &row, ColumnPart part);
+    QString given(const CsvRow &row, ColumnPart part) const;
+    bool isNotGiven(const CsvRow &row, ColumnPart part) const;
+    bool isDivided(const CsvRow &row, const Measurement &measurement) const;
+    void warnOfRows();
+
+    void assignByName();
+    bool choose(const MeasurementChoice &choice, MeasurementPart part);
+    void warnOfParts(const MeasurementList &list, const QString &where);
+
+    bool has(ColumnPart part) const { return columnOf(part) >= 0; }
+    int columnOf(ColumnPart part) const { return m_columns[std::size_t(part)]; }
+    static QString place(int line) { return tr("line %1").arg(line); }
+    QString place(int line, ColumnPart part) const;
+    bool fail(const QString &text, const QString &where = QString());
+    void warn(const QString &text, const QString &where = QString());
+
+    //! Lines of which one warning speaks together.
+    struct Lines {
+        int first = 0;
+        int count = 0;
+        void add(int line)
+        {
+            first = count == 0 ? line : first;
+            ++count;
+        }
+    };
+
+    MeasurementOptions m_options;
+    CsvTable m_table;
+    int m_firstRow = 0; // of the measurements
+    int m_headerFields = 0; // how many the header has; 0: there is none
+    int m_width = 0; // of them, up to the last with a name
+    Columns m_columns{};
+    std::array<QString, columnPartCount> m_labels; // as messages call the columns
+    QVector<ColumnPart> m_numberParts; // the columns that must be numbers
+    QChar m_decimalSign = QLatin1Char('.');
+    double m_luminanceScale = 1.0;
+    Lines m_withoutNumbers;
+    Lines m_withoutChromaticity;
+    Lines m_wider;
+    MeasurementList m_list;
+    QVector<Problem> m_warnings;
+    Problem m_failure;
+};
+
+} // namespace gamutfiles
+
+#endif

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "numbers_p.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace gamutfiles {
+
+namespace {
+
+constexpr QChar point = QLatin1Char('.');
+constexpr QChar comma = QLatin1Char(',');
+
+//! Longer fields are no numbers: the longest double without an exponent has fewer characters.
+constexpr int longestNumber = 400;
+
+bool isDigit(QChar c)
+{
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
+
+bool areDigits(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), isDigit);
+}
+
+//! Spaces and apostrophes; no file uses them for decimals.
+bool isNeutralSeparator(QChar c)
+{
+    // Space, no-break space, figure space, thin space, narrow no-break space; straight and curved apostrophe.
+    return QStringLiteral(" \u00A0\u2007\u2009\u202F'\u2019").contains(c);
+}
+
+//! The digits of \a text without separators, and the separator; nothing when the groups are not of three.
+std::optional<std::pair<QString, QChar>> withoutGroups(const QString &text, QChar otherSign)
+{
+    const auto first = std::find_if_not(text.begin(), text.end(), isDigit);
+    if (first == text.end()) {
+        return std::make_pair(text, QChar());
+    }
+    if (*first != otherSign && !isNeutralSeparator(*first)) {
+        return std::nullopt;
+    }
+    const QStringList groups = text.split(*first);
+    const QString &leading = groups.first();
+    if (leading.isEmpty() || leading.size() > 3 || leading.startsWith(QLatin1Char('0'))) {
+        return std::nullopt;
+    }
+    const bool ofThree = std::all_of(
+        groups.begin() + 1, groups.end(), [](const QString &group) { return group.size() == 3 && areDigits(group); });
+    return ofThree ? std::make_optional(std::make_pair(groups.join(QString()), *first)) : std::nullopt;
+}
+
+//! The number as C++ writes it, before it is known to be finite.
+struct Spelling {
+    QString text;
+    bool hasDecimals = false;
+    QChar thousandsSeparator;
+};
+
+std::optional<Spelling> spelling(const QString &field, QChar decimalSign)
+{
+    if (field.size() > longestNumber) {
+        return std::nullopt;
+    }
+    QString rest = field.trimmed();
+    QString sign;
+    // Typesetters' minus U+2212, which spreadsheets take over from texts.
+    if (rest.startsWith(QLatin1Char('-')) || rest.startsWith(QChar(0x2212))) {
+        sign = QStringLiteral("-");
+        rest.remove(0, 1);
+    } else if (rest.startsWith(QLatin1Char('+'))) {
+        rest.remove(0, 1);
+    }
+    QString exponent;
+    const int exponentBegin = int(rest.indexOf(QLatin1Char('e'), 0, Qt::CaseInsensitive));
+    if (exponentBegin >= 0) {
+        exponent = rest.mid(exponentBegin + 1);
+        rest.truncate(exponentBegin);
+        const bool hasSign = exponent.startsWith(QLatin1Char('-')) || exponent.startsWith(QLatin1Char('+'));
+        const QString digits = exponent.mid(hasSign ? 1 : 0);
+        if (digits.isEmpty() || !areDigits(digits)) {
+            return std::nullopt;
+        }
+        exponent.prepend(QLatin1Char('e'));
+    }
+    const int decimals = int(rest.lastIndexOf(decimalSign));
+    const QString fraction = decimals < 0 ? QString() : rest.mid(decimals + 1);
+    const QString whole = decimals < 0 ? rest : rest.left(decimals);
+    const auto ungrouped = withoutGroups(whole, decimalSign == point ? comma : point);
+    if (!ungrouped || !areDigits(fraction) || (ungrouped->first.isEmpty() && fraction.isEmpty())
+        || (!ungrouped->second.isNull() && !exponent.isEmpty())) {
+        return std::nullopt;
+    }
+    return Spelling{sign + ungrouped->first + point + fraction + exponent, decimals >= 0, ungrouped->second};
+}
+
+} // namespace
+
+DecimalEvidence decimalEvidence(const QString &text)
+{
+    const auto withPoint = spelling(text, point);
+    const auto withComma = spelling(text, comma);
+    if (!withPoint && !withComma) {
+        return DecimalEvidence::NotANumber;
+    }
+    if (withPoint && withComma) {
+        return withPoint->text == withComma->text ? DecimalEvidence::None : DecimalEvidence::Ambiguous;
+    }
+    return withPoint ? DecimalEvidence::Point : DecimalEvidence::Comma;
+}
+
+std::optional<Number> readNumber(const QString &text, QChar decimalSign)
+{
+    const auto spelled = spelling(text, decimalSign);
+    if (!spelled) {
+        return std::nullopt;
+    }
+    bool ok = false;
+    const double value = spelled->text.toDouble(&ok);
+    return ok && std::isfinite(value)
+        ? std::make_optional(Number{value, spelled->hasDecimals, spelled->thousandsSeparator})
+        : std::nullopt;
+}
+
+} // namespace gamutfiles

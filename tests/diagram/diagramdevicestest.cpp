@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include <diagram/diagramfile.h>
+#include <diagram/fulldiagram.h>
+
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QtTest>
+
+using namespace fulldiagram;
+
+/*! A diagram on paper, in files and on odd pictures. */
+class DiagramDevicesTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void coarseDevicesAreNoFault();
+    void svgLooksTheSame_data();
+    void svgLooksTheSame();
+    void svgHasNothingThatFilesDoNotTake();
+    void paintStaysInItsPlace();
+    void devicesOfHighResolution();
+};
+
+void DiagramDevicesTest::coarseDevicesAreNoFault()
+{
+    // A pixel is as wide as many logical ones.
+    for (const double ratio : {1e-3, 1e-9}) {
+        DiagramPainter painter;
+        prepare(painter, fullContent(), Model::Diagram::Cie1931, QSizeF(400, 350), 1.0);
+        QImage image(100, 100, QImage::Format_RGB32);
+        image.fill(QColor(1, 2, 3));
+        {
+            QPainter onto(&image);
+            onto.scale(ratio, ratio);
+            painter.paint(&onto, QRectF(0, 0, image.width() / ratio, image.height() / ratio));
+        }
+        QVERIFY(countOf(image, QColor(1, 2, 3), 1) == 0);
+        int colored = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                colored += image.pixelColor(x, y).saturation() > 60 ? 1 : 0;
+            }
+        }
+        QVERIFY2(colored > 1000, qPrintable(QString::number(colored)));
+    }
+    // Most of the place is beyond the picture.
+    for (const double ratio : {1e-9, 1e-300}) {
+        DiagramPainter painter;
+        prepare(painter, fullContent(), Model::Diagram::Cie1931, QSizeF(400, 350), 1.0);
+        QImage image(100, 100, QImage::Format_RGB32);
+        image.setDevicePixelRatio(ratio);
+        QPainter onto(&image);
+        painter.paint(&onto, QRectF(0, 0, image.width() / ratio, image.height() / ratio));
+    }
+}
+
+void DiagramDevicesTest::svgLooksTheSame_data()
+{
+    QTest::addColumn<int>("diagram");
+    QTest::addColumn<double>("zoom");
+    for (const Model::Diagram diagram : allDiagrams) {
+        for (const double zoom : {1.0, 20.0, 300.0}) {
+            QTest::addRow("%s %g", Model::diagramTraits(diagram).xName, zoom) << int(diagram) << zoom;
+        }
+    }
+}
+
+void DiagramDevicesTest::svgLooksTheSame()
+{
+    QFETCH(int, diagram);
+    QFETCH(double, zoom);
+    const QSize size(600, 500);
+    DiagramContent content = fullContent();
+    // Texts differ by the hinting of their glyphs, and so may their places.
+    content.layers &= ~(DiagramLayer::Axes | DiagramLayer::Names | DiagramLayer::Wavelengths | DiagramLayer::Isotherms
+        | DiagramLayer::Rings);
+    DiagramPainter painter;
+    prepare(painter, content, Model::Diagram(diagram), size, zoom);
+    QSvgRenderer renderer(svgOf(painter, size));
+    QVERIFY(renderer.isValid());
+    QImage svg(size, QImage::Format_RGB32);
+    QImage raster(size, QImage::Format_RGB32);
+    {
+        QPainter onto(&svg);
+        renderer.render(&onto);
+    }
+    {
+        QPainter onto(&raster);
+        painter.paint(&onto, QRectF(QPointF(), size));
+    }
+    int differing = 0;
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const QColor a = svg.pixelColor(x, y);
+            const QColor b = raster.pixelColor(x, y);
+            differing
+                += std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue()) > 90
+                ? 1
+                : 0;
+        }
+    }
+    const double share = double(differing) / (size.width() * size.height());
+    QVERIFY2(share < 0.012, qPrintable(QString::number(share)));
+}
+
+void DiagramDevicesTest::svgHasNothingThatFilesDoNotTake()
+{
+    DiagramPainter painter;
+    prepare(painter, fullContent(), Model::Diagram::Cie1976, QSizeF(700, 600), 60.0);
+    const QByteArray svg = svgOf(painter, QSize(700, 600));
+    QCOMPARE(svg.count("<image"), 1);
+    QVERIFY(!svg.contains("clip-path") && !svg.contains("<mask") && !svg.contains("pattern"));
+    // Rings whole in view are circles, with equal radii.
+    QVERIFY(svg.contains("<circle") || svg.contains("<ellipse"));
+    QVERIFY(svg.contains("<text"));
+    QVERIFY(hasNumbersOnly(svg));
+
+    DiagramContent content = fullContent();
+    content.colors = HorseshoeColors::None;
+    painter.setContent(content);
+    QVERIFY(!svgOf(painter, QSize(700, 600)).contains("<image"));
+}
+
+void DiagramDevicesTest::paintStaysInItsPlace()
+{
+    const QRect place(60, 40, 300, 260);
+    DiagramPainter painter;
+    for (const double zoom : {1.0, 30.0, 2000.0}) {
+        prepare(painter, fullContent(), Model::Diagram::Cie1931, QSizeF(800, 800), zoom);
+        QImage image(420, 340, QImage::Format_RGB32);
+        image.fill(Qt::magenta);
+        {
+            QPainter onto(&image);
+            painter.paint(&onto, place);
+        }
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (!place.adjusted(-3, -3, 3, 3).contains(x, y)) {
+                    QCOMPARE(image.pixelColor(x, y), QColor(Qt::magenta));
+                }
+            }
+        }
+        QVERIFY(image.pixelColor(place.topLeft() + QPoint(3, 3)) != QColor(Qt::magenta));
+        QVERIFY(image.pixelColor(place.bottomRight() - QPoint(3, 3)) != QColor(Qt::magenta));
+    }
+}
+
+void DiagramDevicesTest::devicesOfHighResolution()
+{
+    // As paper at three times the resolution: the same picture, three times as fine.
+    QImage screen(400, 360, QImage::Format_RGB32);
+    screen.setDotsPerMeterX(3780);
+    screen.setDotsPerMeterY(3780);
+    QImage paper(1200, 1080, QImage::Format_RGB32);
+    paper.setDotsPerMeterX(3 * 3780);
+    paper.setDotsPerMeterY(3 * 3780);
+    DiagramContent content = fullContent();
+    content.layers &= ~(DiagramLayer::Names | DiagramLayer::Wavelengths | DiagramLayer::Isotherms | DiagramLayer::Axes);
+    DiagramPainter painter;
+    prepare(painter, content, Model::Diagram::Cie1931, QSizeF(400, 360), 1.0);
+    for (QImage *image : {&screen, &paper}) {
+        QPainter onto(image);
+        painter.paint(&onto, image->rect());
+    }
+    const QImage reduced = paper.scaled(screen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    int differing = 0;
+    for (int y = 0; y < screen.height(); ++y) {
+        for (int x = 0; x < screen.width(); ++x) {
+            const QColor a = screen.pixelColor(x, y);
+            const QColor b = reduced.pixelColor(x, y);
+            differing
+                += std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue()) > 150
+                ? 1
+                : 0;
+        }
+    }
+    QVERIFY2(differing < 0.02 * screen.width() * screen.height(), qPrintable(QString::number(differing)));
+}
+
+QTEST_MAIN(DiagramDevicesTest)
+
+#include "diagramdevicestest.moc"

@@ -1,0 +1,340 @@
+// SPDX-License-Identifier: MIT
+#include <diagram/fulldiagram.h>
+
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace fulldiagram;
+
+/*! The texts of a diagram and their places. */
+class DiagramLabelsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void labelsStandApart_data();
+    void labelsStandApart();
+    void digitsFollowTheZoom();
+    void isothermsGetDenser();
+    void wavelengthsGetDenser();
+    void namesOfGamutsAreShown();
+    void oddNamesAreShown();
+    void numbersLeaveMarksToBeSeen();
+    void outlinesDoNotCutWavelengths();
+    void negativeNumbersAreShown_data();
+    void negativeNumbersAreShown();
+    void axisNumbersKeepAwayFromNames();
+    void ringNumbersHaveNoExponent();
+    void freePlaceAvoidsWhatItIsTold();
+};
+
+void DiagramLabelsTest::labelsStandApart_data()
+{
+    QTest::addColumn<int>("diagram");
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<double>("zoom");
+    for (const Model::Diagram diagram : allDiagrams) {
+        for (const QSizeF &size : {QSizeF(120, 90), QSizeF(300, 250), QSizeF(660, 660), QSizeF(1024, 768),
+                 QSizeF(1600, 400), QSizeF(3840, 2160)}) {
+            for (const double zoom : {1.0, 1.7, 5.0, 20.0, 90.0, 300.0, 2000.0}) {
+                QTest::addRow("%s %gx%g %g", Model::diagramTraits(diagram).xName, size.width(), size.height(), zoom)
+                    << int(diagram) << size << zoom;
+            }
+        }
+    }
+}
+
+void DiagramLabelsTest::labelsStandApart()
+{
+    QFETCH(int, diagram);
+    QFETCH(QSizeF, size);
+    QFETCH(double, zoom);
+    DiagramPainter painter;
+    for (const auto &[at, points] :
+        {std::pair(d65, 9), std::pair(QPointF(0.08, 0.83), 9), std::pair(QPointF(0.68, 0.32), 9), std::pair(d65, 15)}) {
+        QFont font;
+        font.setPointSize(points);
+        painter.setFont(font);
+        prepare(painter, fullContent(), Model::Diagram(diagram), size, zoom, at);
+        const QVector<DiagramLabel> labels = painter.labels();
+        const QRectF whole(QPointF(), size);
+        for (int i = 0; i < labels.size(); ++i) {
+            QVERIFY2(whole.contains(labels.at(i).place), qPrintable(labels.at(i).text));
+            QVERIFY(labels.at(i).kind == DiagramLabel::Kind::Axis
+                || painter.viewport().plot().contains(labels.at(i).place));
+            for (int k = 0; k < i; ++k) {
+                QVERIFY2(!labels.at(i).place.intersects(labels.at(k).place),
+                    qPrintable(labels.at(i).text + QStringLiteral(" on ") + labels.at(k).text));
+            }
+            const double value = labels.at(i).text.toDouble();
+            QVERIFY(value != 0.0 || !labels.at(i).text.startsWith(QLatin1Char('-')));
+        }
+        if (size.width() >= 300 && points == 9) {
+            const auto count = std::count_if(labels.cbegin(), labels.cend(),
+                [](const DiagramLabel &label) { return label.kind == DiagramLabel::Kind::Axis; });
+            QVERIFY2(count >= 5, qPrintable(QString::number(count)));
+        }
+    }
+}
+
+void DiagramLabelsTest::digitsFollowTheZoom()
+{
+    DiagramPainter painter;
+    int before = 0;
+    for (const double zoom : {1.0, 12.0, 150.0, 2000.0}) {
+        prepare(painter, fullContent(), Model::Diagram::Cie1931, QSizeF(800, 600), zoom);
+        int decimals = 0;
+        for (const DiagramLabel &label : painter.labels()) {
+            if (label.kind == DiagramLabel::Kind::Axis && label.text.contains(QLatin1Char('.'))) {
+                decimals = int(label.text.size() - label.text.indexOf(QLatin1Char('.')) - 1);
+            }
+        }
+        QVERIFY(decimals > before);
+        before = decimals;
+    }
+}
+
+void DiagramLabelsTest::isothermsGetDenser()
+{
+    DiagramPainter painter;
+    double before = HUGE_VAL;
+    for (const double zoom : {1.0, 20.0, 120.0, 2000.0}) {
+        prepare(painter, fullContent(), Model::Diagram::Cie1976, QSizeF(900, 700), zoom);
+        QVector<double> kelvins;
+        for (const DiagramLabel &label : painter.labels()) {
+            if (label.kind == DiagramLabel::Kind::Isotherm) {
+                QVERIFY(label.text.endsWith(QStringLiteral(" K")));
+                kelvins.append(label.text.left(label.text.size() - 2).toDouble());
+            }
+        }
+        std::sort(kelvins.begin(), kelvins.end());
+        double least = HUGE_VAL;
+        for (int i = 1; i < kelvins.size(); ++i) {
+            least = std::min(least, kelvins.at(i) - kelvins.at(i - 1));
+        }
+        QVERIFY2(kelvins.size() >= 4, qPrintable(QString::number(kelvins.size())));
+        QVERIFY(least < before);
+        QVERIFY(zoom < 20.0 || least <= 100.0);
+        before = least;
+    }
+    QVERIFY(before <= 10.0);
+}
+
+void DiagramLabelsTest::wavelengthsGetDenser()
+{
+    DiagramPainter painter;
+    double before = HUGE_VAL;
+    for (const double zoom : {1.0, 10.0, 100.0}) {
+        prepare(painter, fullContent(), Model::Diagram::Cie1931, QSizeF(900, 700), zoom, QPointF(0.3734, 0.6245));
+        QVector<double> nanometres;
+        for (const DiagramLabel &label : painter.labels()) {
+            if (label.kind == DiagramLabel::Kind::Wavelength) {
+                nanometres.append(label.text.toDouble());
+            }
+        }
+        std::sort(nanometres.begin(), nanometres.end());
+        QVERIFY(nanometres.size() >= 2);
+        double least = HUGE_VAL;
+        for (int i = 1; i < nanometres.size(); ++i) {
+            least = std::min(least, nanometres.at(i) - nanometres.at(i - 1));
+        }
+        QVERIFY(least < before);
+        before = least;
+    }
+}
+
+void DiagramLabelsTest::namesOfGamutsAreShown()
+{
+    DiagramPainter painter;
+    const DiagramContent content = fullContent();
+    for (const Model::Diagram diagram : allDiagrams) {
+        prepare(painter, content, diagram, QSizeF(900, 800), 1.0);
+        for (int i = 0; i < content.gamuts.size(); ++i) {
+            const QRectF place = painter.namePlace(i);
+            QVERIFY2(!place.isEmpty(), qPrintable(QString::number(i)));
+            // Beside the outline that it names.
+            const QPolygonF corners = painter.outline(i);
+            double nearest = HUGE_VAL;
+            for (int k = 0; k < 3; ++k) {
+                const QLineF side(corners.at(k), corners.at((k + 1) % 3));
+                for (double share = 0.0; share <= 1.0; share += 0.005) {
+                    const QPointF at = side.pointAt(share);
+                    nearest = std::min(nearest,
+                        std::hypot(std::max({place.left() - at.x(), at.x() - place.right(), 0.0}),
+                            std::max({place.top() - at.y(), at.y() - place.bottom(), 0.0})));
+                }
+            }
+            QVERIFY2(nearest < 14.0, qPrintable(QStringLiteral("%1: %2").arg(i).arg(nearest)));
+        }
+    }
+    QVERIFY(painter.namePlace(99).isNull());
+    QVERIFY(painter.outline(-1).isEmpty());
+}
+
+void DiagramLabelsTest::oddNamesAreShown()
+{
+    DiagramContent content;
+    const QString longName = QStringLiteral("A very long name of a gamut that nobody would give to one but a machine ");
+    const QByteArray longest = (longName + longName).toUtf8();
+    content.gamuts = {{gamut(longest.constData(), {0.64, 0.33}, {0.3, 0.6}, {0.15, 0.06}), GamutRole::Standard},
+        {gamut("two\nlines\x07 ", {0.708, 0.292}, {0.17, 0.797}, {0.131, 0.046}), GamutRole::Standard},
+        {gamut("Point", {0.2, 0.6}, {0.2, 0.6}, {0.2, 0.6}), GamutRole::Declared}};
+    content.measurePoints = {{QPointF(0.45, 0.25), QStringLiteral("mark\tone")}};
+    DiagramPainter painter;
+    prepare(painter, content, Model::Diagram::Cie1931, QSizeF(500, 400), 1.0);
+    QStringList names;
+    for (const DiagramLabel &label : painter.labels()) {
+        if (label.kind == DiagramLabel::Kind::Gamut || label.kind == DiagramLabel::Kind::Mark) {
+            names.append(label.text);
+        }
+    }
+    QVERIFY2(names.contains(QStringLiteral("Point")), qPrintable(names.join(QLatin1Char('|'))));
+    QVERIFY2(names.contains(QStringLiteral("two lines")), qPrintable(names.join(QLatin1Char('|'))));
+    QVERIFY2(names.contains(QStringLiteral("mark one")), qPrintable(names.join(QLatin1Char('|'))));
+    const auto isShortened
+        = [](const QString &name) { return name.startsWith(QStringLiteral("A very")) && name.endsWith(QChar(0x2026)); };
+    QCOMPARE(int(std::count_if(names.cbegin(), names.cend(), isShortened)), 1);
+}
+
+void DiagramLabelsTest::numbersLeaveMarksToBeSeen()
+{
+    DiagramPainter painter;
+    int numbers = 0;
+    for (const double zoom : {1.0, 3.0, 8.0, 20.0, 60.0}) {
+        for (const QSizeF &size : {QSizeF(300, 250), QSizeF(1024, 768)}) {
+            const DiagramContent content = fullContent();
+            prepare(painter, content, Model::Diagram::Cie1931, size, zoom);
+            QVector<QPointF> marks;
+            for (const QVector<DiagramMark> &kind :
+                {content.measurePoints, content.colorTemperaturePoints, content.cmyPoints}) {
+                for (const DiagramMark &mark : kind) {
+                    marks.append(painter.viewport().toPosition(mark.xy));
+                }
+            }
+            for (const DiagramGamut &shown : content.gamuts) {
+                if (shown.role != GamutRole::Standard) {
+                    const Model::Target white = shown.gamut.getTargets().white;
+                    marks.append(painter.viewport().toPosition(QPointF(white.x, white.y)));
+                }
+            }
+            const QPointF handle = painter.viewport().toPosition(d65);
+            const QRectF plot = painter.viewport().plot().adjusted(10.0, 10.0, -10.0, -10.0);
+            for (const DiagramLabel &label : painter.labels()) {
+                if (label.kind == DiagramLabel::Kind::Isotherm) {
+                    ++numbers;
+                    for (const QPointF &mark : marks) {
+                        QVERIFY2(!plot.contains(mark) || !label.place.adjusted(-4, -4, 4, 4).contains(mark),
+                            qPrintable(label.text));
+                    }
+                }
+                if (label.kind == DiagramLabel::Kind::Isotherm || label.kind == DiagramLabel::Kind::Gamut) {
+                    QVERIFY2(!label.place.adjusted(-10, -10, 10, 10).contains(handle), qPrintable(label.text));
+                }
+            }
+        }
+    }
+    QVERIFY2(numbers > 20, qPrintable(QString::number(numbers)));
+}
+
+void DiagramLabelsTest::outlinesDoNotCutWavelengths()
+{
+    DiagramContent content;
+    content.colors = HorseshoeColors::None;
+    content.layers = DiagramLayer::Wavelengths | DiagramLayer::Originals;
+    DiagramPainter painter;
+    prepare(painter, content, Model::Diagram::Cie1931, QSizeF(700, 600), 1.0);
+    const QVector<DiagramLabel> labels = painter.labels();
+    QVERIFY(!labels.isEmpty());
+    const QRectF place = labels.first().place;
+    const int before = countOf(painted(painter).copy(place.toRect()), diagramPalette(content.ground).numbers, 40);
+    // An outline right through the number.
+    const QPointF left = painter.viewport().toChromaticity(QPointF(place.left() - 60.0, place.center().y()));
+    const QPointF right = painter.viewport().toChromaticity(QPointF(place.right() + 60.0, place.center().y()));
+    content.gamuts = {{gamut("wide", right, left, {0.3, 0.3}), GamutRole::Original}};
+    painter.setContent(content);
+    const int after = countOf(painted(painter).copy(place.toRect()), diagramPalette(content.ground).numbers, 40);
+    QVERIFY2(before > 5 && after > 0.9 * before, qPrintable(QStringLiteral("%1 %2").arg(before).arg(after)));
+}
+
+void DiagramLabelsTest::negativeNumbersAreShown_data()
+{
+    QTest::addColumn<int>("points");
+    for (const int points : {7, 9, 10, 12, 18}) {
+        QTest::addRow("%d points", points) << points;
+    }
+}
+
+void DiagramLabelsTest::negativeNumbersAreShown()
+{
+    QFETCH(int, points);
+    DiagramPainter painter;
+    QFont font;
+    font.setPointSize(points);
+    painter.setFont(font);
+    prepare(painter, DiagramContent(), Model::Diagram::Cie1931, QSizeF(1000, 900), DiagramViewport::closest,
+        QPointF(0.1, -0.05));
+    const QRectF plot = painter.viewport().plot();
+    const QVector<DiagramLabel> labels = painter.labels();
+    const auto count = std::count_if(labels.cbegin(), labels.cend(), [&plot](const DiagramLabel &label) {
+        return label.kind == DiagramLabel::Kind::Axis && label.place.right() < plot.left() && label.place.left() >= 3.0
+            && label.text.startsWith(QLatin1Char('-'));
+    });
+    QVERIFY2(count >= 5, qPrintable(QString::number(count)));
+}
+
+void DiagramLabelsTest::axisNumbersKeepAwayFromNames()
+{
+    DiagramPainter painter;
+    DiagramContent content;
+    content.layers = DiagramLayer::Axes;
+    for (int step = 0; step < 400; ++step) {
+        prepare(painter, content, Model::Diagram::Cie1976, QSizeF(300, 250), 20.0, QPointF(0.3 + step * 1e-4, 0.33));
+        const QRectF plot = painter.viewport().plot();
+        QVector<QRectF> below;
+        for (const DiagramLabel &label : painter.labels()) {
+            if (label.place.top() > plot.bottom()) {
+                below.append(label.place);
+            }
+        }
+        std::sort(below.begin(), below.end(), [](const QRectF &a, const QRectF &b) { return a.left() < b.left(); });
+        for (int i = 1; i < below.size(); ++i) {
+            QVERIFY2(below.at(i).left() - below.at(i - 1).right() >= 5.0, qPrintable(QString::number(step)));
+        }
+    }
+}
+
+void DiagramLabelsTest::ringNumbersHaveNoExponent()
+{
+    DiagramContent content;
+    content.layers = DiagramLayer::Rings;
+    content.rings = {{d65, {0.00005, 0.0001, 0.1 / 800.0}}};
+    DiagramPainter painter;
+    prepare(painter, content, Model::Diagram::Cie1976, QSizeF(900, 800), DiagramViewport::closest);
+    QStringList numbers;
+    for (const DiagramLabel &label : painter.labels()) {
+        numbers.append(label.text);
+    }
+    QCOMPARE(numbers, QStringList({QStringLiteral("0.00005"), QStringLiteral("0.0001"), QStringLiteral("0.000125")}));
+}
+
+void DiagramLabelsTest::freePlaceAvoidsWhatItIsTold()
+{
+    DiagramPainter painter;
+    prepare(painter, fullContent(), Model::Diagram::Cie1931, QSizeF(700, 600), 1.0);
+    const QRectF plot = painter.viewport().plot();
+    const QSizeF size(150, 40);
+    for (const QPointF &at : {plot.topLeft(), plot.topRight(), plot.bottomLeft(), plot.bottomRight(), plot.center()}) {
+        const QRectF first = painter.freePlace(size, at, 24.0);
+        QVERIFY(plot.contains(first));
+        QCOMPARE(first.size(), size);
+        QVERIFY(!first.contains(at));
+        const QVector<QRectF> avoid{first};
+        const QRectF second = painter.freePlace(size, at, 24.0, avoid);
+        QVERIFY(second.isNull() || !second.intersects(first));
+    }
+}
+
+QTEST_MAIN(DiagramLabelsTest)
+
+#include "diagramlabelstest.moc"

@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: MIT
+#include "diagramviewfixture.h"
+
+#include <QBackingStore>
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+#include <random>
+
+using namespace diagramtests;
+
+namespace {
+
+//! What the window shows, of all the repaints so far.
+QImage shownBy(const View &view)
+{
+    const auto *image = dynamic_cast<QImage *>(view.backingStore()->paintDevice());
+    return image ? image->copy() : QImage();
+}
+
+/*!
+ * What of two pictures differs by more than rounding does, in pixels: of lines that a clip cuts, of lines that were
+ * painted on a picture of their own, and of texts whose glyphs were drawn at another ratio before.
+ */
+QRect difference(const QImage &one, const QImage &other)
+{
+    constexpr int rounding = 40;
+    if (one.size() != other.size()) {
+        return other.rect();
+    }
+    const QImage a = one.convertToFormat(QImage::Format_RGB32);
+    const QImage b = other.convertToFormat(QImage::Format_RGB32);
+    QRect where;
+    for (int y = 0; y < a.height(); ++y) {
+        const auto *p = reinterpret_cast<const QRgb *>(a.constScanLine(y));
+        const auto *q = reinterpret_cast<const QRgb *>(b.constScanLine(y));
+        for (int x = 0; x < a.width(); ++x) {
+            if (p[x] != q[x]
+                && std::max({std::abs(qRed(p[x]) - qRed(q[x])), std::abs(qGreen(p[x]) - qGreen(q[x])),
+                       std::abs(qBlue(p[x]) - qBlue(q[x]))})
+                    > rounding) {
+                where |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return where;
+}
+
+} // namespace
+
+class DiagramViewPaintingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void hoverRepaintsTheReadoutOnly();
+    void dragRepaintsItsSurroundingsOnly();
+    void partialRepaintsLeaveNothingBehind_data();
+    void partialRepaintsLeaveNothingBehind();
+    void dragPaintsTheScaleNoMore();
+    void hiddenViewsKeepNoPictures();
+    void followsThePalette();
+    void imagesAreSharpAtEveryRatio_data();
+    void imagesAreSharpAtEveryRatio();
+    void imagesOfNoRatioAreNull();
+    void imagesShowNoHands();
+    void cursorsSayWhatAHandDoes();
+};
+
+void DiagramViewPaintingTest::hoverRepaintsTheReadoutOnly()
+{
+    View view;
+    const QPointF free = freeGround(view);
+    view.hover(free);
+    view.takePainted();
+    const QRect readout = view.d->overlay.readoutPlace.toAlignedRect();
+    QVERIFY(!readout.isEmpty());
+    for (int i = 1; i < 30; ++i) {
+        view.hover(free + QPointF(-3.0 * i, 2.0 * i));
+        const QRegion painted = view.takePainted();
+        QVERIFY(!painted.isEmpty());
+        QVERIFY(painted.subtracted(readout).isEmpty());
+    }
+    view.setReadoutShown(false);
+    view.takePainted();
+    view.hover(free);
+    QVERIFY(view.takePainted().isEmpty());
+}
+
+void DiagramViewPaintingTest::dragRepaintsItsSurroundingsOnly()
+{
+    View view;
+    const QPointF start = view.at(GamutVertex::Green);
+    view.press(start);
+    view.drag(start + QPointF(20, -10));
+    view.takePainted();
+    view.drag(start + QPointF(24, -13));
+    int painted = 0;
+    for (const QRect &part : view.takePainted()) {
+        painted += part.width() * part.height();
+    }
+    QVERIFY(painted > 0);
+    QVERIFY2(painted < view.width() * view.height() / 4, qPrintable(QString::number(painted)));
+    view.release(start);
+}
+
+void DiagramViewPaintingTest::partialRepaintsLeaveNothingBehind_data()
+{
+    QTest::addColumn<HorseshoeColors>("colors");
+    QTest::addColumn<Model::Diagram>("diagram");
+    QTest::newRow("dimmed, x, y") << HorseshoeColors::Dimmed << Model::Diagram::Cie1931;
+    QTest::newRow("dimmed, u', v'") << HorseshoeColors::Dimmed << Model::Diagram::Cie1976;
+    QTest::newRow("full, x, y") << HorseshoeColors::Full << Model::Diagram::Cie1931;
+    QTest::newRow("none, u, v") << HorseshoeColors::None << Model::Diagram::Cie1960;
+}
+
+void DiagramViewPaintingTest::partialRepaintsLeaveNothingBehind()
+{
+    QFETCH(HorseshoeColors, colors);
+    QFETCH(Model::Diagram, diagram);
+    View view;
+    view.setRules(nullptr);
+    view.setHorseshoeColors(colors);
+    view.setDiagram(diagram);
+    view.setStandards({Model::rec709(), Model::rec2020()});
+    view.setMeasured(wall());
+    const auto compare = [&view](const char *when) {
+        view.paintAll();
+        const QRect others = difference(shownBy(view), view.grab().toImage());
+        QVERIFY2(others.isEmpty(),
+            qPrintable(QStringLiteral("%1: %2, %3, %4 x %5")
+                           .arg(QString::fromLatin1(when))
+                           .arg(others.x())
+                           .arg(others.y())
+                           .arg(others.width())
+                           .arg(others.height())));
+    };
+    std::mt19937 random(11);
+    for (const GamutVertex vertex : allGamutVertices) {
+        const QPointF start = view.at(vertex);
+        view.press(start);
+        QPointF at = start;
+        for (int i = 0; i < 12; ++i) {
+            at += QPointF(double(random() % 41) - 20.0, double(random() % 41) - 20.0);
+            const Qt::KeyboardModifiers modifiers = i % 4 == 3 ? Qt::ControlModifier
+                : i % 4 == 1                                   ? Qt::AltModifier
+                                                               : Qt::NoModifier;
+            view.drag(at, modifiers);
+            compare("drag");
+            if (QTest::currentTestFailed()) {
+                return;
+            }
+        }
+        view.release(at);
+        compare("release");
+        view.hover(freeGround(view));
+        compare("hover");
+    }
+    // Onto a standard, whose line is drawn otherwise then, and away from it.
+    view.setTarget(Model::ColorGamut("t", Model::rec709().getTargets()));
+    compare("equal");
+    view.moveVertex(GamutVertex::Red, QPointF(0.6405, 0.33));
+    compare("hardly equal");
+    view.moveVertex(GamutVertex::Red, QPointF(0.66, 0.33));
+    compare("not equal");
+    view.moveVertex(GamutVertex::Red, xyOf(Model::rec709().getTargets().red));
+    compare("equal again");
+    for (int i = 0; i < 6; ++i) {
+        QTest::keyClick(&view, i % 2 ? Qt::Key_Plus : Qt::Key_Right);
+        compare("keys");
+        view.press(freeGround(view), Qt::MiddleButton);
+        view.drag(freeGround(view) + QPointF(17, 9), Qt::NoModifier, Qt::MiddleButton);
+        view.release(freeGround(view), Qt::MiddleButton);
+        compare("pan");
+    }
+}
+
+void DiagramViewPaintingTest::dragPaintsTheScaleNoMore()
+{
+    View view;
+    const QPointF start = view.at(GamutVertex::Green);
+    view.press(start);
+    view.drag(start + QPointF(20, -10));
+    view.paintAll();
+    const qint64 key = view.d->lines.cacheKey();
+    view.drag(start + QPointF(40, -13));
+    view.paintAll();
+    QCOMPARE(view.d->lines.cacheKey(), key);
+    view.release(start);
+}
+
+void DiagramViewPaintingTest::hiddenViewsKeepNoPictures()
+{
+    View view;
+    view.setFocusPolicy(Qt::NoFocus); // or else its frame might come with the second showing
+    view.clearFocus();
+    view.paintAll();
+    view.hover(view.at(GamutVertex::Red));
+    view.paintAll();
+    QVERIFY(!view.d->lines.isNull());
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&view, &leave);
+    const QImage before = view.grab().toImage();
+    view.hide();
+    QVERIFY(view.d->lines.isNull());
+    view.show();
+    view.paintAll();
+    QCOMPARE(difference(view.grab().toImage(), before), QRect());
+}
+
+void DiagramViewPaintingTest::followsThePalette()
+{
+    View view;
+    QPalette dark = view.palette();
+    dark.setColor(QPalette::Base, QColor(30, 30, 34));
+    view.setPalette(dark);
+    QCOMPARE(view.content().ground, DiagramGround::Dark);
+    const QRgb corner = view.grab().toImage().pixel(1, 1);
+    QVERIFY(qGray(corner) < 80);
+    QPalette light = dark;
+    light.setColor(QPalette::Base, Qt::white);
+    view.setPalette(light);
+    QCOMPARE(view.content().ground, DiagramGround::Light);
+    QVERIFY(qGray(view.grab().toImage().pixel(1, 1)) > 200);
+}
+
+void DiagramViewPaintingTest::imagesAreSharpAtEveryRatio_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::newRow("1") << 1.0;
+    QTest::newRow("1.5") << 1.5;
+    QTest::newRow("2") << 2.0;
+}
+
+void DiagramViewPaintingTest::imagesAreSharpAtEveryRatio()
+{
+    QFETCH(double, ratio);
+    View view;
+    const QSize logical(600, 600);
+    const QImage image = view.toImage(logical * ratio, ratio);
+    QCOMPARE(image.size(), logical * ratio);
+    QCOMPARE(image.devicePixelRatio(), ratio);
+    // The same picture, of more pixels: brought back to the size of the plain one it differs by edges only.
+    const QImage plain = view.toImage(logical, 1.0);
+    QImage reduced = image.scaled(logical, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    qint64 apart = 0;
+    for (int y = 0; y < plain.height(); ++y) {
+        for (int x = 0; x < plain.width(); ++x) {
+            apart += std::abs(qGray(plain.pixel(x, y)) - qGray(reduced.pixel(x, y)));
+        }
+    }
+    QVERIFY2(apart < 6LL * plain.width() * plain.height(), qPrintable(QString::number(apart)));
+    // And sharper than that one enlarged.
+    if (ratio > 1.0) {
+        const auto edges = [](const QImage &picture) {
+            qint64 sum = 0;
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 1; x < picture.width(); ++x) {
+                    const int step = qGray(picture.pixel(x, y)) - qGray(picture.pixel(x - 1, y));
+                    sum += step * step;
+                }
+            }
+            return sum;
+        };
+        QVERIFY(edges(image) > edges(plain.scaled(image.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
+    }
+}
+
+void DiagramViewPaintingTest::imagesOfNoRatioAreNull()
+{
+    View view;
+    for (const double ratio : {0.0, -1.0, 1e-9, 0.01, std::numeric_limits<double>::quiet_NaN()}) {
+        QVERIFY(view.toImage(QSize(100, 100), ratio).isNull());
+    }
+    QCOMPARE(view.toImage(QSize(100, 100), 0.5).size(), QSize(100, 100));
+}
+
+void DiagramViewPaintingTest::imagesShowNoHands()
+{
+    View view;
+    const QImage before = view.toImage(QSize(500, 500));
+    view.setSelectedVertex(GamutVertex::Red);
+    view.hover(freeGround(view));
+    QCOMPARE(difference(view.toImage(QSize(500, 500)), before), QRect());
+    // As the widget shows itself, there are some.
+    QVERIFY(!difference(
+        view.grab().toImage(), view.toImage(view.size() * view.devicePixelRatioF(), view.devicePixelRatioF()))
+                 .isEmpty());
+    view.setReadOnly(true);
+    QCOMPARE(difference(view.toImage(QSize(500, 500)), before), QRect());
+}
+
+void DiagramViewPaintingTest::cursorsSayWhatAHandDoes()
+{
+    View view;
+    view.hover(freeGround(view));
+    QCOMPARE(view.cursor().shape(), Qt::CrossCursor);
+    view.hover(view.at(GamutVertex::Red));
+    QCOMPARE(view.cursor().shape(), Qt::SizeAllCursor);
+    auto rules = std::make_shared<StandardTargetRules>();
+    rules->setLocksPrimaries(true);
+    view.setRules(rules);
+    view.hover(view.at(GamutVertex::Red) + QPointF(1, 0));
+    QCOMPARE(view.cursor().shape(), Qt::ForbiddenCursor);
+    view.hover(QPointF(1, 1));
+    QCOMPARE(view.cursor().shape(), Qt::ArrowCursor);
+}
+
+QTEST_MAIN(DiagramViewPaintingTest)
+#include "diagramviewpaintingtest.moc"
