@@ -124,8 +124,8 @@ CommandLine::CommandLine(const QStringList &arguments)
         tr("Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any "
            "number of the others, which are added to it. Without files, a sample is opened."),
         tr("[file...]"));
-    m_parser.addOptions(
-        {render, diagram, part, layers, size, ratio, report, check, tolerances, red, green, blue, white, unit, decimal, help, version});
+    m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, tolerances, red, green, blue, white,
+        unit, decimal, help, version});
 
     const bool understood = m_parser.parse(arguments);
     m_needsDisplay = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(check)
