@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "display/assessment.h"
 #include "display/messages.h"
 #include "display/report.h"
 #include "display/samples.h"
 #include "drawing/picture.h"
 #include "editing/openedfiles.h"
+#include "editing/targetsession.h"
 #include "program/commandline.h"
 #include "program/interfacetranslations.h"
 #include "program/platform.h"
@@ -19,7 +21,7 @@ namespace {
 
 using namespace gamutviewer;
 
-enum ExitStatus { Done = 0, Failed = 1, WrongInput = 2, NeedsChoice = 5 };
+enum ExitStatus { Done = 0, Failed = 1, WrongInput = 2, DisplayFails = 3, VerdictNotKnown = 4, NeedsChoice = 5 };
 
 int print(const QByteArray &text)
 {
@@ -28,11 +30,37 @@ int print(const QByteArray &text)
     return written ? Done : Failed;
 }
 
-int write(const DisplayDescription &description, const CommandLine &commandLine)
+QByteArray verdictText(const Assessment &assessment)
+{
+    const auto line = [](Judgement judgement, const QString &text) {
+        return QStringLiteral("%1: %2\n").arg(judgementName(judgement), text);
+    };
+    QString text = line(assessment.judgement(), assessment.headline());
+    for (const AssessmentLine &ground : assessment.lines) {
+        text += line(ground.judgement, ground.text);
+    }
+    return text.toUtf8();
+}
+
+ExitStatus statusOf(Judgement judgement)
+{
+    switch (judgement) {
+    case Judgement::Pass:
+        return Done;
+    case Judgement::Fail:
+        return DisplayFails;
+    case Judgement::NotKnown:
+        break;
+    }
+    return VerdictNotKnown;
+}
+
+int write(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine)
 {
     const QString picture = commandLine.pictureFile();
     if (!picture.isEmpty()) {
-        const Picture content = commandLine.picture(description);
+        const Picture content = commandLine.picture(description, tolerances);
         const QString error
             = exportPicture(content, description.name, commandLine.extent(), commandLine.pictureFormat(), picture);
         if (!error.isEmpty()) {
@@ -43,17 +71,28 @@ int write(const DisplayDescription &description, const CommandLine &commandLine)
             printError(QApplication::translate("main", "%1: has no room for the key").arg(picture));
         }
     }
-    if (commandLine.wantsReport() && print(reportText(description)) != Done) {
+    if (commandLine.wantsReport() && print(reportText(description, tolerances)) != Done) {
         printError(QApplication::translate("main", "the report cannot be written to standard output"));
         return Failed;
     }
-    return Done;
+    if (!commandLine.wantsCheck()) {
+        return Done;
+    }
+    const Assessment assessment = assess(description, tolerances);
+    if (!commandLine.wantsReport() && print(verdictText(assessment)) != Done) {
+        printError(QApplication::translate("main", "the verdict cannot be written to standard output"));
+        return Failed;
+    }
+    return statusOf(assessment.judgement());
 }
 
-int show(const OpenedFiles &opened, const CommandLine &commandLine)
+int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine)
 {
     installInterfaceTranslations();
     ViewerWindow window;
+    if (tolerances) {
+        window.session()->setTolerances(tolerances);
+    }
     if (!opened.needsChoice) {
         window.setOpened(opened);
     }
@@ -112,6 +151,15 @@ int main(int argc, char *argv[])
         printError(opened.error());
         return WrongInput;
     }
+    std::optional<Tolerances> tolerances;
+    if (!commandLine.tolerancesFile().isEmpty()) {
+        const Outcome<Tolerances> read = readTolerancesFile(commandLine.tolerancesFile());
+        if (!read) {
+            printError(read.problem().message(commandLine.tolerancesFile()));
+            return WrongInput;
+        }
+        tolerances = *read;
+    }
     if (commandLine.hasMeasurementOptions() && !opened->hasLists) {
         printError(QApplication::translate(
             "main", "--red, --green, --blue, --white, --unit and --decimal require a measurement list"));
@@ -124,7 +172,7 @@ int main(int argc, char *argv[])
         }
     }
     if (commandLine.action() == CommandLine::Action::Write) {
-        const int status = write(opened->description, commandLine);
+        const int status = write(opened->description, tolerances, commandLine);
         return status == Done && opened->needsChoice ? NeedsChoice : status;
     }
     if (!canShow) {
@@ -132,5 +180,5 @@ int main(int argc, char *argv[])
             "main", "no display is available; use --render to write a picture or --report to print a report"));
         return Failed;
     }
-    return show(*opened, commandLine);
+    return show(*opened, tolerances, commandLine);
 }

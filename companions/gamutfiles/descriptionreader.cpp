@@ -1,35 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "descriptionreader_p.h"
 
-#include "json_p.h"
 #include <gamutfiles/filebytes.h>
 #include <gamutmodel/gamutcoverage.h>
 
 #include <QJsonArray>
-#include <QJsonObject>
-#include <QRegularExpression>
-
-#include <algorithm>
 
 namespace gamutfiles {
 
 namespace {
 
 constexpr int knownVersion = 1;
-
-QString quoted(const QString &text)
-{
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
-
-QString memberPath(const QString &path, const QString &key)
-{
-    static const QRegularExpression plain(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
-    if (!plain.match(key).hasMatch()) {
-        return path + QLatin1Char('[') + quoted(key) + QLatin1Char(']');
-    }
-    return path.isEmpty() ? key : path + QLatin1Char('.') + key;
-}
 
 } // namespace
 
@@ -38,7 +19,7 @@ Outcome<DisplayDescription> readDescription(const QByteArray &utf8)
     DescriptionReader reader;
     const auto description = reader.read(utf8);
     return description ? Outcome<DisplayDescription>(*description)
-                       : Outcome<DisplayDescription>::failure(reader.error());
+                       : Outcome<DisplayDescription>::failure(reader.problem());
 }
 
 Outcome<DisplayDescription> readDescriptionFile(const QString &fileName)
@@ -50,31 +31,13 @@ Outcome<DisplayDescription> readDescriptionFile(const QString &fileName)
 std::optional<DisplayDescription> DescriptionReader::read(const QByteArray &utf8)
 {
     m_description = DisplayDescription();
-    m_failed = false;
-    m_error = Problem();
-
-    if (utf8.size() > maximumDescriptionBytes) {
-        fail(QString(),
-            tr("is too large for a display description (more than %1 KiB)").arg(maximumDescriptionBytes / 1024));
+    const auto root
+        = parse(utf8, maximumDescriptionBytes, tr("is too large for a display description (more than %1 KiB)"));
+    if (!root) {
         return std::nullopt;
     }
-    if (QString::fromUtf8(utf8.constData(), utf8.size()).trimmed().isEmpty()) {
-        fail(QString(), tr("is empty"));
-        return std::nullopt;
-    }
-    const ParsedJson parsed = parseJson(utf8);
-    if (parsed.document.isNull()) {
-        fail(QString(), parsed.error);
-        m_error.line = parsed.position.line;
-        m_error.column = parsed.position.column;
-        return std::nullopt;
-    }
-    const QJsonDocument &document = parsed.document;
-    readDescription({document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object()), QString()});
-    if (m_failed) {
-        return std::nullopt;
-    }
-    return m_description;
+    readDescription(*root);
+    return failed() ? std::nullopt : std::make_optional(m_description);
 }
 
 void DescriptionReader::readDescription(const Node &node)
@@ -88,10 +51,7 @@ void DescriptionReader::readDescription(const Node &node)
                 {QStringLiteral("cmyPoints"), false}})) {
         return;
     }
-    const Node version = member(node, QStringLiteral("version"));
-    if (readNumber(version) != knownVersion) {
-        fail(version, tr("only version %1 is supported").arg(knownVersion));
-    }
+    checkVersion(member(node, QStringLiteral("version")), knownVersion);
     m_description.name = readString(member(node, QStringLiteral("name")));
     m_description.notes = readString(member(node, QStringLiteral("notes")));
 
@@ -209,7 +169,7 @@ QString DescriptionReader::readGamutReference(const Node &node)
         return {};
     }
     QString name = readName(node);
-    if (!m_failed && !m_description.gamut(name)) {
+    if (!failed() && !m_description.gamut(name)) {
         fail(node, tr("there is no gamut named %1").arg(quoted(name)));
     }
     return name;
@@ -235,7 +195,7 @@ QStringList DescriptionReader::readStandards(const Node &node)
             fail(element, tr("%1 is listed twice").arg(quoted(name)));
         }
         standards.append(name);
-        if (m_failed) {
+        if (failed()) {
             break;
         }
     }
@@ -263,102 +223,6 @@ QPointF DescriptionReader::readChromaticity(const Node &node, PrimariesOf kind)
         fail(node, tr("x + y must not exceed 1"));
     }
     return xy;
-}
-
-bool DescriptionReader::checkObject(const Node &node, std::initializer_list<Key> keys)
-{
-    if (!checkType(node, QJsonValue::Object)) {
-        return false;
-    }
-    const QJsonObject object = node.value.toObject();
-    for (const QString &name : object.keys()) {
-        if (std::none_of(keys.begin(), keys.end(), [&name](const Key &key) { return key.name == name; })) {
-            fail(memberPath(node.path, name), tr("unknown key"));
-            return false;
-        }
-    }
-    for (const Key &key : keys) {
-        if (key.required && !object.contains(key.name)) {
-            fail(memberPath(node.path, key.name), tr("missing"));
-            return false;
-        }
-    }
-    return true;
-}
-
-bool DescriptionReader::checkType(const Node &node, QJsonValue::Type type)
-{
-    if (node.value.isUndefined() || m_failed) {
-        return false;
-    }
-    if (node.value.type() == type) {
-        return true;
-    }
-    const auto kind = [](QJsonValue::Type of) {
-        switch (of) {
-        case QJsonValue::Bool:
-            return tr("a boolean");
-        case QJsonValue::Double:
-            return tr("a number");
-        case QJsonValue::String:
-            return tr("a string");
-        case QJsonValue::Array:
-            return tr("an array");
-        case QJsonValue::Object:
-            return tr("an object");
-        case QJsonValue::Null:
-        case QJsonValue::Undefined:
-            break;
-        }
-        return tr("null");
-    };
-    fail(node, tr("expected %1, found %2").arg(kind(type), kind(node.value.type())));
-    return false;
-}
-
-QString DescriptionReader::readString(const Node &node)
-{
-    return checkType(node, QJsonValue::String) ? node.value.toString() : QString();
-}
-
-QString DescriptionReader::readName(const Node &node)
-{
-    QString name = readString(node);
-    if (name.trimmed().isEmpty()) {
-        fail(node, tr("the name must not be empty"));
-    }
-    return name;
-}
-
-double DescriptionReader::readNumber(const Node &node)
-{
-    return checkType(node, QJsonValue::Double) ? node.value.toDouble() : 0.0;
-}
-
-std::vector<DescriptionReader::Node> DescriptionReader::elements(const Node &node)
-{
-    std::vector<Node> nodes;
-    if (checkType(node, QJsonValue::Array)) {
-        const QJsonArray array = node.value.toArray();
-        for (int i = 0; i < array.size(); ++i) {
-            nodes.push_back({array.at(i), QStringLiteral("%1[%2]").arg(node.path).arg(i)});
-        }
-    }
-    return nodes;
-}
-
-DescriptionReader::Node DescriptionReader::member(const Node &node, const QString &key)
-{
-    return {node.value.toObject().value(key), memberPath(node.path, key)};
-}
-
-//! Only the first failure counts: the ones after it may follow from it.
-void DescriptionReader::fail(const QString &path, const QString &reason)
-{
-    if (!m_failed) {
-        m_failed = true;
-        m_error = {reason, path, 0, 0};
-    }
 }
 
 } // namespace gamutfiles

@@ -3,13 +3,11 @@
 #define GAMUTFILES_DESCRIPTIONREADER_P_H
 
 #include "gamutfromprimaries_p.h"
+#include "jsonreader_p.h"
 #include <gamutfiles/descriptionfile.h>
 
 #include <QCoreApplication>
-#include <QJsonValue>
 #include <QSet>
-
-#include <initializer_list>
 #include <optional>
 
 namespace gamutfiles {
@@ -24,25 +22,14 @@ QString luminanceUnitName(LuminanceUnit unit);
  *
  * A description is taken whole or not at all.
  */
-class DescriptionReader {
+class DescriptionReader : public JsonReader {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::DescriptionReader)
 
 public:
-    /*! \brief The description in \a utf8; nothing, and error() set, when there is none. */
+    /*! \brief The description in \a utf8; nothing, and problem() set, when there is none. */
     std::optional<DisplayDescription> read(const QByteArray &utf8);
 
-    const Problem &error() const { return m_error; }
-
 private:
-    struct Node {
-        QJsonValue value; // undefined when the key is missing
-        QString path;
-    };
-    struct Key {
-        QString name;
-        bool required;
-    };
-
     void readDescription(const Node &node);
     static QSet<QString> colorSpaces(const Node &node);
     DisplayGamut readGamut(const Node &node, PrimariesOf kind);
@@ -54,20 +41,7 @@ private:
     QStringList readStandards(const Node &node);
     QPointF readChromaticity(const Node &node, PrimariesOf kind = PrimariesOf::Display);
 
-    bool checkObject(const Node &node, std::initializer_list<Key> keys);
-    bool checkType(const Node &node, QJsonValue::Type type);
-    QString readString(const Node &node);
-    QString readName(const Node &node);
-    double readNumber(const Node &node);
-    std::vector<Node> elements(const Node &node);
-    static Node member(const Node &node, const QString &key);
-
-    void fail(const QString &path, const QString &reason);
-    void fail(const Node &node, const QString &reason) { fail(node.path, reason); }
-
     DisplayDescription m_description;
-    bool m_failed = false;
-    Problem m_error;
 };
 
 } // namespace gamutfiles

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void pictureFormats_data();
     void pictureFormats();
     void pictureOfADescription();
+    void tolerancesAreDrawn();
     void diagrams_data();
     void diagrams();
     void parts();
@@ -63,7 +64,7 @@ Picture picture(const QString &arguments)
     if (line.action() != Action::Write) {
         qFatal("%s", qPrintable(line.error()));
     }
-    return line.picture(wall());
+    return line.picture(wall(), std::nullopt);
 }
 
 } // namespace
@@ -92,6 +93,9 @@ void CommandLineTest::actions_data()
     QTest::newRow("render after the file") << "wall.json --render=wall.png" << Action::Write << false;
     QTest::newRow("report") << "--report json wall.json" << Action::Write << false;
     QTest::newRow("report and chart") << "--report=json --render wall.png wall.json" << Action::Write << false;
+    QTest::newRow("check") << "--check wall.json" << Action::Write << false;
+    QTest::newRow("check by tolerances") << "--check --tolerances stage.json wall.json" << Action::Write << false;
+    QTest::newRow("window with tolerances") << "--tolerances stage.json wall.json" << Action::Show << true;
     QTest::newRow("help") << "--help" << Action::Help << false;
     QTest::newRow("help before all else") << "--bogus a b -h --render x" << Action::Help << false;
     QTest::newRow("version") << "-v" << Action::Version << false;
@@ -112,6 +116,8 @@ void CommandLineTest::actions()
     }
     QCOMPARE(
         line.wantsReport(), arguments.contains("json ") && action == Action::Write && arguments.contains("report"));
+    QCOMPARE(line.wantsCheck(), arguments.contains("check"));
+    QCOMPARE(line.tolerancesFile(), arguments.contains("stage") ? QStringLiteral("stage.json") : QString());
     if (action == Action::Write && arguments.contains("render")) {
         QCOMPARE(line.pictureFile(), QStringLiteral("wall.png"));
     }
@@ -205,6 +211,23 @@ void CommandLineTest::pictureOfADescription()
     QVERIFY(all.hasKey && !all.isLibraryChart);
 }
 
+void CommandLineTest::tolerancesAreDrawn()
+{
+    const CommandLine line(withProgram(QStringLiteral("--render a.png")));
+    QCOMPARE(line.picture(wall(), std::nullopt).content.rings.size(), 1);
+    gamutviewer::Tolerances tolerances;
+    tolerances.limits.whiteUv = 0.004;
+    tolerances.limits.primariesUv = 0.006;
+    const auto rings = line.picture(wall(), tolerances).content.rings;
+    QCOMPARE(rings.size(), 4);
+    const Model::Targets target = Model::rec709().getTargets();
+    const Model::Target *colors[] = {&target.white, &target.red, &target.green, &target.blue};
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(rings.at(i).xy, QPointF(colors[i]->x, colors[i]->y));
+        QCOMPARE(rings.at(i).radii, QVector<double>{i == 0 ? 0.004 : 0.006});
+    }
+}
+
 void CommandLineTest::diagrams_data()
 {
     QTest::addColumn<QString>("name");
@@ -232,7 +255,7 @@ void CommandLineTest::parts()
     QCOMPARE(picture(uv + "target").view, whole.fittedTo(targets));
     QCOMPARE(picture(uv + "white").view, whole.fittedToWhite(QPointF(targets.white.x, targets.white.y)));
     const CommandLine line(withProgram("--render a.png --view white"));
-    QVERIFY(line.picture(DisplayDescription()).view.showsAll());
+    QVERIFY(line.picture(DisplayDescription(), std::nullopt).view.showsAll());
 }
 
 void CommandLineTest::layerLists_data()
@@ -388,6 +411,9 @@ void CommandLineTest::refusals_data()
                                   << "--diagram chart is written as png only: a.svg";
     QTest::newRow("size of a report") << QStringList{"--size", "20x10", "--report", "json"}
                                       << "--size requires --render when used with --report.";
+    QTest::newRow("size of a check") << QStringList{"--size", "20x10", "--check"}
+                                     << "--size requires --render when used with --check.";
+    QTest::newRow("empty tolerances") << QStringList{"--tolerances", ""} << "The file name of --tolerances is empty.";
     QTest::newRow("first reason") << QStringList{"--dpr", "0", "--size", "0x0"}
                                   << "Invalid size, expected 1x1 to 8192x8192: 0x0";
 }

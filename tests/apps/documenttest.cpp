@@ -2,6 +2,7 @@
 #include "editing/document.h"
 #include "editing/targetsession.h"
 
+#include <gamutmodel/drive.h>
 #include <gamutmodel/gamutcoverage.h>
 
 #include <QSignalSpy>
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void refusalSaysWhy();
     void lockedAndHeldAreRefused();
     void fitsToTheOriginal();
+    void unitOfLuminancesIsChosen();
+    void heldWhiteHasTheUnitOfTheOriginal();
     void whiteByTemperature();
 };
 
@@ -51,6 +54,18 @@ struct Fixture {
 
     Document document;
     TargetSession session{&document};
+};
+
+//! The same display, with luminances in cd/m².
+struct MeasuredFixture : Fixture {
+    MeasuredFixture()
+    {
+        DisplayDescription measured = description();
+        for (DisplayGamut &gamut : measured.gamuts) {
+            gamut.unit = LuminanceUnit::CandelaPerSquareMetre;
+        }
+        document.open(measured, QStringLiteral("wall.json"));
+    }
 };
 
 } // namespace
@@ -215,7 +230,7 @@ void DocumentTest::fitsToTheOriginal()
     QVERIFY(f.session.setChromaticity(Vertex::Green, QPointF(0.17, 0.78)));
     QVERIFY(f.session.distanceOutside(Vertex::Green) > 0.005);
     const int steps = f.document.history()->count();
-    f.session.fitToOriginal();
+    f.session.fitToDisplay();
     QCOMPARE(f.document.history()->count(), steps + 1);
     for (const Vertex primary : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
         QCOMPARE(f.session.distanceOutside(primary), 0.0);
@@ -223,6 +238,58 @@ void DocumentTest::fitsToTheOriginal()
     const Model::PrimariesOutside outside
         = Model::primariesOutside(f.document.target()->getTargets(), f.document.original()->getTargets());
     QVERIFY(!outside.red && !outside.green && !outside.blue);
+    // At the decimals that are shown, and so what the verdict has proposed.
+    QCOMPARE(f.xy(Vertex::Green).x(), QString::number(f.xy(Vertex::Green).x(), 'f', 4).toDouble());
+}
+
+void DocumentTest::unitOfLuminancesIsChosen()
+{
+    MeasuredFixture f;
+    const auto unit = [&f] { return f.document.target()->unit; };
+    const auto white = [&f] { return f.document.target()->getTargets().white.Y; };
+    // A published target at the luminance of the brightest white that the display reaches.
+    f.session.reset(QStringLiteral("Rec.709"));
+    f.session.setLuminanceUnit(LuminanceUnit::Relative);
+    QCOMPARE(unit(), LuminanceUnit::Relative);
+    const double relative = white();
+    const Model::DisplayDrive drive(f.document.original()->getTargets());
+    const Model::Target at = f.document.target()->getTargets().white;
+    const double brightest = drive.largestLuminance({at.x, at.y})->luminance;
+    const int steps = f.document.history()->count();
+    f.session.setLuminanceUnit(LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(f.document.history()->count(), steps + 1);
+    QCOMPARE(unit(), LuminanceUnit::CandelaPerSquareMetre);
+    QVERIFY(qAbs(white() - brightest) < 1e-9 * brightest);
+    QVERIFY(qAbs(f.document.target()->getTargets().green.Y / white() - 0.7152) < 1e-3);
+    f.session.setLuminanceUnit(LuminanceUnit::Relative);
+    QVERIFY(qAbs(white() - 1.0) < 1e-12);
+    // From and to a unit that is not known the numbers stay.
+    f.session.setLuminanceUnit(LuminanceUnit::NotKnown);
+    QVERIFY(qAbs(white() - 1.0) < 1e-12);
+    f.session.setLuminanceUnit(LuminanceUnit::CandelaPerSquareMetre);
+    QVERIFY(qAbs(white() - 1.0) < 1e-12);
+    f.document.history()->undo();
+    QCOMPARE(unit(), LuminanceUnit::NotKnown);
+    QVERIFY(relative > 0.0);
+}
+
+void DocumentTest::heldWhiteHasTheUnitOfTheOriginal()
+{
+    MeasuredFixture f;
+    f.session.setLuminanceUnit(LuminanceUnit::Relative);
+    QVERIFY(f.session.setChromaticity(Vertex::Green, QPointF(0.28, 0.62)));
+    QCOMPARE(f.document.target()->unit, LuminanceUnit::Relative);
+    f.session.setHoldWhite(true);
+    QVERIFY(f.session.setChromaticity(Vertex::Green, QPointF(0.27, 0.63)));
+    QVERIFY(f.document.target()->getTargets().white.Y > 100.0);
+    QCOMPARE(f.document.target()->unit, LuminanceUnit::CandelaPerSquareMetre);
+    f.session.setHoldWhite(false);
+    f.session.setLuminanceUnit(LuminanceUnit::Relative);
+    f.session.setHoldWhite(true);
+    f.session.beginDrag(Vertex::Red);
+    f.session.dragTo(Model::rec2020().getTargets());
+    f.session.endDrag();
+    QCOMPARE(f.document.target()->unit, LuminanceUnit::CandelaPerSquareMetre);
 }
 
 void DocumentTest::whiteByTemperature()

@@ -24,6 +24,11 @@ private Q_SLOTS:
     void rendersVectors();
     void reports();
     void reportsAndRenders();
+    void checks_data();
+    void checks();
+    void checkPrintsTheGroundsOrTheReport();
+    void refusesTolerances();
+    void checkThatCannotRenderFails();
     void reportCannotBeWritten();
     void opensEveryFormat();
     void tellsOfMixedDisplays();
@@ -71,6 +76,21 @@ private:
 namespace {
 
 const QByteArray minimal = R"({"version": 1, "gamuts": [], "original": "Rec.2020", "target": "Rec.709"})";
+
+//! Rec.2020 with a white of 1000 cd/m² called Wall, and Rec.709 with \a luminance called Wanted.
+QByteArray wallText(const QByteArray &parts, double luminance)
+{
+    const auto gamut = [](const char *name, const Model::Targets &t, double factor) {
+        const auto color = [factor](const Model::Target &c) {
+            return QJsonObject{{"Y", c.Y * factor}, {"x", c.x}, {"y", c.y}};
+        };
+        return QJsonDocument(QJsonObject{{"name", name}, {"luminanceUnit", "cd/m2"}, {"red", color(t.red)},
+                                 {"green", color(t.green)}, {"blue", color(t.blue)}, {"white", color(t.white)}})
+            .toJson();
+    };
+    return R"({"version": 1, "gamuts": [)" + gamut("Wall", Model::rec2020().getTargets(), 1000.0) + ','
+        + gamut("Wanted", Model::rec709().getTargets(), luminance) + "], " + parts + '}';
+}
 
 QImage pictureIn(const QByteArray &png)
 {
@@ -233,6 +253,85 @@ void GamutViewerTest::reportsAndRenders()
     QCOMPARE(result.exitCode, 0);
     QVERIFY(QJsonDocument::fromJson(result.output).isObject());
     QCOMPARE(entries(), QStringList("chart.svg"));
+}
+
+void GamutViewerTest::checks_data()
+{
+    QTest::addColumn<QByteArray>("parts");
+    QTest::addColumn<double>("luminance");
+    QTest::addColumn<QByteArray>("tolerances");
+    QTest::addColumn<int>("status");
+    const QByteArray original = R"("original": "Wall", "target": "Wanted")";
+    const QByteArray measured = original + R"(, "measured": "Wall")";
+    QTest::newRow("passes") << original << 1000.0 << QByteArray() << 0;
+    QTest::newRow("too bright") << original << 5000.0 << QByteArray() << 3;
+    QTest::newRow("outside") << QByteArray(R"("original": "Wanted", "target": "Rec.2020")") << 1000.0 << QByteArray()
+                             << 3;
+    QTest::newRow("published target") << QByteArray(R"("original": "Wall", "target": "Rec.709")") << 1000.0
+                                      << QByteArray() << 4;
+    QTest::newRow("no original") << QByteArray(R"("declared": "Wall", "target": "Wanted")") << 1000.0 << QByteArray()
+                                 << 4;
+    QTest::newRow("no target") << QByteArray(R"("original": "Wall")") << 1000.0 << QByteArray() << 4;
+    QTest::newRow("within tolerance") << measured << 1000.0 << QByteArray(R"({"version": 1, "whiteUv": 0.001})") << 0;
+    QTest::newRow("out of tolerance") << measured << 1000.0 << QByteArray(R"({"version": 1, "primariesUv": 0.001})")
+                                      << 3;
+    QTest::newRow("not measured") << original << 1000.0 << QByteArray(R"({"version": 1, "whiteUv": 0.001})") << 4;
+}
+
+void GamutViewerTest::checks()
+{
+    QFETCH(QByteArray, parts);
+    QFETCH(double, luminance);
+    QFETCH(QByteArray, tolerances);
+    QFETCH(int, status);
+    QStringList arguments{"--check", write("wall.json", wallText(parts, luminance))};
+    if (!tolerances.isEmpty()) {
+        arguments << "--tolerances" << write("tolerances.json", tolerances);
+    }
+    const Result result = run(arguments);
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, status);
+    const QByteArray first = status == 0 ? "pass: " : status == 3 ? "fail: " : "not known: ";
+    QVERIFY2(result.output.startsWith(first), result.output.constData());
+    QVERIFY(result.output.count('\n') >= 2);
+    // The report has the same verdict, and leaves the exit status alone.
+    const Result reported = run(QStringList{"--report", "json"} + arguments.mid(1));
+    QCOMPARE(reported.exitCode, 0);
+    const QJsonObject verdict = QJsonDocument::fromJson(reported.output).object().value("verdict").toObject();
+    QCOMPARE(verdict.value("status").toString().toLatin1() + ": ", first);
+    QStringList lines{verdict.value("status").toString() + ": " + verdict.value("text").toString()};
+    for (const QJsonValue &line : verdict.value("lines").toArray()) {
+        lines << line.toObject().value("status").toString() + ": " + line.toObject().value("text").toString();
+    }
+    QCOMPARE(QString::fromUtf8(result.output), lines.join('\n') + '\n');
+}
+
+void GamutViewerTest::checkPrintsTheGroundsOrTheReport()
+{
+    const QString file = write("wall.json", wallText(R"("original": "Wall", "target": "Wanted")", 5000.0));
+    const Result grounds = run({"--check", file});
+    QVERIFY(grounds.output.contains("5000.0 cd/m\xC2\xB2"));
+    QVERIFY(grounds.output.contains("1000.0 cd/m\xC2\xB2"));
+    const Result report = run({"--check", "--report", "json", file});
+    QCOMPARE(report.exitCode, 3);
+    QVERIFY(QJsonDocument::fromJson(report.output).isObject());
+}
+
+void GamutViewerTest::refusesTolerances()
+{
+    const QString file = write("t.json", R"({"version": 1, "whiteUV": 0.001})");
+    for (const QStringList &asked : {QStringList{"--check"}, QStringList{"--report", "json"}, QStringList()}) {
+        const Result result = run(asked + QStringList{"--tolerances", file});
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(result.output, QByteArray());
+        QCOMPARE(result.error, "gamutviewer: " + file.toUtf8() + ": whiteUV: unknown key\n");
+    }
+    QCOMPARE(run({"--check", "--tolerances", "missing.json"}).exitCode, 2);
+}
+
+void GamutViewerTest::checkThatCannotRenderFails()
+{
+    QCOMPARE(run({"--check", "--render", "no/such/folder.png"}).exitCode, 1);
 }
 
 void GamutViewerTest::reportCannotBeWritten()

@@ -23,6 +23,10 @@ private Q_SLOTS:
     void validity_data();
     void validity();
     void givenUp();
+    void units();
+    void dominantWavelengths();
+    void verdict();
+    void drive();
     void emptyDescription();
     void textIsTheReport();
     void documentedKeys();
@@ -182,6 +186,90 @@ void ReportTest::givenUp()
     QVERIFY(isNear(at(report(description), "givenUp.uv.area"), 0.0, 0.0));
 }
 
+void ReportTest::units()
+{
+    DisplayDescription description = wall();
+    QVERIFY(at(report(description), "original.unit").isNull());
+    QCOMPARE(at(report(description), "target.unit").toString(), QStringLiteral("relative"));
+    description.gamuts[0].unit = LuminanceUnit::CandelaPerSquareMetre;
+    QCOMPARE(at(report(description), "original.unit").toString(), QStringLiteral("cd/m2"));
+}
+
+void ReportTest::dominantWavelengths()
+{
+    DisplayDescription description = wall();
+    description.target = QStringLiteral("Rec.2020");
+    const QJsonObject all = report(description);
+    // The primaries of Rec.2020 are the monochromatic stimuli of 630, 532 and 467 nm (BT.2020-2, table 3), rounded.
+    QVERIFY(isNear(at(all, "target.red.dominantWavelength"), 630.0, 0.5));
+    QVERIFY(isNear(at(all, "target.green.dominantWavelength"), 532.0, 0.2));
+    QVERIFY(isNear(at(all, "target.blue.dominantWavelength"), 467.0, 0.2));
+    QVERIFY(isNear(at(all, "target.green.purity"), 1.0, 0.01));
+    QVERIFY(at(all, "target.white.dominantWavelength").isNull());
+    QVERIFY(at(all, "target.white.purity").isNull());
+    QVERIFY(isNear(at(all, "target.referenceWhite.x"), 0.3127, 0.0));
+    QVERIFY(isNear(at(all, "target.referenceWhite.y"), 0.3290, 0.0));
+    // Relative to its own white, not to that of the target.
+    QVERIFY(isNear(at(all, "original.referenceWhite.x"), 0.2829, 0.0));
+    Model::Targets halfWay = description.gamuts[0].getTargets();
+    halfWay.green = Model::Target::fromYxy(634, (0.170 + 0.2829) / 2, (0.797 + 0.2971) / 2);
+    description.gamuts[0] = Model::ColorGamut("native", halfWay);
+    QVERIFY(isNear(at(report(description), "original.green.dominantWavelength"), 532.0, 0.2));
+    QVERIFY(isNear(at(report(description), "original.green.purity"), 0.5, 0.005));
+    Model::Targets purple = description.gamuts[0].getTargets();
+    purple.blue = Model::Target::fromYxy(126, 0.32, 0.12);
+    description.gamuts[0] = Model::ColorGamut("native", purple);
+    QVERIFY(at(report(description), "original.blue.dominantWavelength").toDouble() < -380.0);
+}
+
+void ReportTest::verdict()
+{
+    DisplayDescription description = wall();
+    description.original = QStringLiteral("Rec.2020");
+    QJsonObject all = report(description);
+    QCOMPARE(at(all, "verdict.status").toString(), QStringLiteral("pass"));
+    QCOMPARE(at(all, "verdict.against").toString(), QStringLiteral("original"));
+    QCOMPARE(at(all, "verdict.lines.0.subject").toString(), QStringLiteral("gamut"));
+    QCOMPARE(at(all, "verdict.lines.1.subject").toString(), QStringLiteral("luminance"));
+    QCOMPARE(at(all, "verdict.lines.1.color").toString(), QStringLiteral("white"));
+    std::swap(description.original, description.target);
+    QCOMPARE(at(report(description), "verdict.status").toString(), QStringLiteral("fail"));
+    std::swap(description.original, description.measured);
+    QCOMPARE(at(report(description), "verdict.against").toString(), QStringLiteral("measured"));
+    description.measured.clear();
+    all = report(description);
+    QCOMPARE(at(all, "verdict.status").toString(), QStringLiteral("not known"));
+    QVERIFY(at(all, "verdict.against").isNull());
+    QVERIFY(!all.contains("drive"));
+    QVERIFY(!all.contains("tolerances"));
+    Tolerances tolerances;
+    tolerances.name = QStringLiteral("Stage");
+    tolerances.source = QStringLiteral("contract");
+    tolerances.limits.whiteUv = 0.004;
+    all = report(description, tolerances);
+    QCOMPARE(at(all, "tolerances.name").toString(), QStringLiteral("Stage"));
+    QCOMPARE(at(all, "tolerances.source").toString(), QStringLiteral("contract"));
+    QCOMPARE(at(all, "verdict.lines.1.subject").toString(), QStringLiteral("tolerance"));
+}
+
+void ReportTest::drive()
+{
+    DisplayDescription description = wall();
+    QJsonObject all = report(description);
+    QCOMPARE(at(all, "drive.comparable").toBool(true), false);
+    QVERIFY(at(all, "drive.headroom").isNull());
+    QVERIFY(at(all, "drive.white").isNull());
+    QVERIFY(at(all, "drive.largestWhite.Y").toDouble() > 0.0);
+    description.original = QStringLiteral("Rec.2020");
+    all = report(description);
+    QCOMPARE(at(all, "drive.comparable").toBool(), true);
+    QCOMPARE(at(all, "drive.unit").toString(), QStringLiteral("relative"));
+    QVERIFY(isNear(at(all, "drive.headroom"), 1.0, 1e-9));
+    QVERIFY(isNear(at(all, "drive.white.red"), 1.0, 1e-9));
+    QVERIFY(isNear(at(all, "drive.white.blue"), 1.0, 1e-9));
+    QVERIFY(isNear(at(all, "drive.largestWhite.Y"), 1.0, 1e-9));
+}
+
 void ReportTest::emptyDescription()
 {
     const QJsonObject all = report(DisplayDescription());
@@ -204,7 +292,9 @@ void ReportTest::documentedKeys()
     const QByteArray documentation = file.readAll();
     for (const char *key : {"version", "name", "declared", "original", "measured", "target", "red", "green", "blue",
              "white", "cct", "duv", "area", "standards", "standard", "coverage", "areaRatio", "validity", "valid",
-             "outside", "givenUp", "share", "xy", "uv"}) {
+             "outside", "givenUp", "share", "xy", "uv", "unit", "referenceWhite", "dominantWavelength", "purity",
+             "verdict", "status", "against", "text", "lines", "subject", "color", "drive", "comparable", "headroom",
+             "largestWhite", "fullDrive", "tolerances", "source"}) {
         QVERIFY2(documentation.contains('`' + QByteArray(key) + '`'), key);
     }
 }

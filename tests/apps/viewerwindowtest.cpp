@@ -16,6 +16,7 @@
 #include "window/lens.h"
 #include "window/librarypage.h"
 #include "window/recentfiles.h"
+#include "window/tolerancesmenu.h"
 #include <gamutfiles/descriptionfile.h>
 
 #include <ceiechart/diagram/chartstyle.h>
@@ -76,6 +77,8 @@ private Q_SLOTS:
     void libraryChartsGetNoMeasurePoints();
     void signalsHaveNoNegativeZero();
     void selectedCellsAreCopied();
+    void tolerancesAreChosenAndRemembered();
+    void dominantWavelengthsAreShown();
     void undefinedTemperatureIsTold();
     void comparePageTellsWhatIsLost();
     void fitsASmallScreen_data();
@@ -618,6 +621,61 @@ void ViewerWindowTest::selectedCellsAreCopied()
     QCOMPARE(lines.first(), QLatin1Char('\t') + table->horizontalHeaderItem(1)->text());
     QCOMPARE(lines.at(1), table->verticalHeaderItem(0)->text() + QLatin1Char('\t') + table->item(0, 1)->text());
     menu->close();
+}
+
+void ViewerWindowTest::tolerancesAreChosenAndRemembered()
+{
+    WindowFixture f;
+    TolerancesMenu *menu = f.window->tolerancesMenu();
+    QVERIFY(!f.window->session()->tolerances());
+    const QString file = f.settings.filePath(QStringLiteral("t.json"));
+    const auto write = [&file](const QByteArray &text) {
+        QFile t(file);
+        return t.open(QIODevice::WriteOnly) && t.write(text) == text.size();
+    };
+    QVERIFY(write(R"({"version": 1, "name": "Stage", "whiteUv": 0.004})"));
+    QVERIFY(menu->choose(file));
+    QVERIFY(f.window->session()->tolerances());
+    const auto checked = [menu] {
+        QStringList texts;
+        Q_EMIT menu->aboutToShow();
+        for (const QAction *action : menu->actions()) {
+            if (action->isChecked()) {
+                texts << action->text();
+            }
+        }
+        return texts;
+    };
+    QCOMPARE(checked(), QStringList(QStringLiteral("Stage")));
+    {
+        const ViewerWindow other;
+        QVERIFY(other.session()->tolerances()->limits.whiteUv == 0.004);
+    }
+    // What cannot be read leaves what was chosen.
+    QVERIFY(write("{}"));
+    Answer answer(QMessageBox::Ok);
+    QVERIFY(!menu->choose(file));
+    QVERIFY(answer.text().contains(QLatin1String("version: missing")));
+    QVERIFY(f.window->session()->tolerances());
+    QVERIFY(menu->choose(QString()));
+    QVERIFY(!f.window->session()->tolerances());
+    QCOMPARE(checked(), QStringList(QStringLiteral("&None")));
+    const ViewerWindow none;
+    QVERIFY(!none.session()->tolerances());
+}
+
+void ViewerWindowTest::dominantWavelengthsAreShown()
+{
+    WindowFixture f;
+    const GroupedTable *hues = f.window->panel()->hues();
+    // The target comes first: its title with the reference white, red, green, blue and white.
+    QVERIFY(hues->item(0, 0)->text().contains(QLatin1String("0.3127, 0.3290")));
+    const auto hue = Model::dominantWavelength({0.265, 0.69}, {0.3127, 0.3290});
+    QCOMPARE(hues->item(2, 1)->text(), QString::number(hue->wavelength, 'f', 1));
+    QCOMPARE(hues->item(2, 2)->text(), QString::number(hue->purity, 'f', 3));
+    QCOMPARE(hues->item(4, 1)->text(), QString::fromUtf8("–"));
+    Q_EMIT f.window->diagramPage()->view()->hovered(QPointF(0.265, 0.69));
+    QVERIFY(f.window->readout()->text().contains(hues->item(2, 1)->text()));
 }
 
 void ViewerWindowTest::undefinedTemperatureIsTold()

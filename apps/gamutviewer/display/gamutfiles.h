@@ -6,6 +6,7 @@
 #include <gamutfiles/filebytes.h>
 #include <gamutfiles/gamutfile.h>
 #include <gamutfiles/oneline.h>
+#include <gamutfiles/tolerancesfile.h>
 
 /*!
  * \file

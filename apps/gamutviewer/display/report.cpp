@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "display/report.h"
 
+#include "display/assessment.h"
 #include "display/gamutfiles.h"
-#include "display/valuetexts.h"
 
+#include <ceiechart/diagram/whitepoint.h>
+#include <gamutmodel/dominantwavelength.h>
 #include <gamutmodel/gamutcoverage.h>
 
 #include <QJsonArray>
@@ -20,7 +22,20 @@ QString diagramName(Model::Diagram diagram)
     return diagram == Model::Diagram::Cie1931 ? QStringLiteral("xy") : QStringLiteral("uv");
 }
 
-QJsonObject colorObject(const Model::Target &target)
+QJsonValue unitValue(LuminanceUnit unit)
+{
+    switch (unit) {
+    case LuminanceUnit::CandelaPerSquareMetre:
+        return QStringLiteral("cd/m2");
+    case LuminanceUnit::Relative:
+        return QStringLiteral("relative");
+    case LuminanceUnit::NotKnown:
+        break;
+    }
+    return QJsonValue::Null;
+}
+
+QJsonObject colorObject(const Model::Target &target, const Model::Target &white)
 {
     const Model::DiagramPoint uv = Model::toDiagram(Model::Diagram::Cie1976, {target.x, target.y});
     QJsonObject object{{QStringLiteral("Y"), target.Y}, {QStringLiteral("x"), target.x},
@@ -28,6 +43,9 @@ QJsonObject colorObject(const Model::Target &target)
     const auto temperature = ceiechart::colorTemperature({target.x, target.y});
     object.insert(QStringLiteral("cct"), temperature ? QJsonValue(temperature->kelvin) : QJsonValue::Null);
     object.insert(QStringLiteral("duv"), temperature ? QJsonValue(temperature->duv) : QJsonValue::Null);
+    const auto hue = Model::dominantWavelength({target.x, target.y}, {white.x, white.y});
+    object.insert(QStringLiteral("dominantWavelength"), hue ? QJsonValue(hue->wavelength) : QJsonValue::Null);
+    object.insert(QStringLiteral("purity"), hue ? QJsonValue(hue->purity) : QJsonValue::Null);
     return object;
 }
 
@@ -53,7 +71,7 @@ QJsonObject standardObject(const Model::ColorGamut &gamut, const Model::ColorGam
     return object;
 }
 
-QJsonObject gamutObject(const Model::ColorGamut &gamut, const std::vector<DisplayGamut> &standards)
+QJsonObject gamutObject(const DisplayGamut &gamut, const std::vector<DisplayGamut> &standards)
 {
     const Model::Targets &targets = gamut.getTargets();
     QJsonArray comparisons;
@@ -61,8 +79,13 @@ QJsonObject gamutObject(const Model::ColorGamut &gamut, const std::vector<Displa
         comparisons.append(standardObject(gamut, standard));
     }
     return {{QStringLiteral("name"), QString::fromStdString(gamut.colorGamutName())},
-        {QStringLiteral("red"), colorObject(targets.red)}, {QStringLiteral("green"), colorObject(targets.green)},
-        {QStringLiteral("blue"), colorObject(targets.blue)}, {QStringLiteral("white"), colorObject(targets.white)},
+        {QStringLiteral("unit"), unitValue(gamut.unit)},
+        {QStringLiteral("referenceWhite"),
+            QJsonObject{{QStringLiteral("x"), targets.white.x}, {QStringLiteral("y"), targets.white.y}}},
+        {QStringLiteral("red"), colorObject(targets.red, targets.white)},
+        {QStringLiteral("green"), colorObject(targets.green, targets.white)},
+        {QStringLiteral("blue"), colorObject(targets.blue, targets.white)},
+        {QStringLiteral("white"), colorObject(targets.white, targets.white)},
         {QStringLiteral("area"),
             perDiagram([&targets](Model::Diagram diagram) { return Model::gamutArea(targets, diagram); })},
         {QStringLiteral("standards"), comparisons}};
@@ -83,6 +106,95 @@ QJsonObject validityObject(const Model::Targets &target, const Model::Targets &o
     return {{QStringLiteral("valid"), !outside.any()}, {QStringLiteral("outside"), names}};
 }
 
+//! The name of \a vertex as keys have it.
+QString colorName(ceiechart::GamutVertex vertex)
+{
+    switch (vertex) {
+    case ceiechart::GamutVertex::Red:
+        return QStringLiteral("red");
+    case ceiechart::GamutVertex::Green:
+        return QStringLiteral("green");
+    case ceiechart::GamutVertex::Blue:
+        return QStringLiteral("blue");
+    case ceiechart::GamutVertex::White:
+        break;
+    }
+    return QStringLiteral("white");
+}
+
+QString primaryName(Model::Primary primary)
+{
+    return colorName(primary == Model::Primary::Red ? ceiechart::GamutVertex::Red
+            : primary == Model::Primary::Green      ? ceiechart::GamutVertex::Green
+                                                    : ceiechart::GamutVertex::Blue);
+}
+
+QString subjectName(AssessmentLine::Subject subject)
+{
+    switch (subject) {
+    case AssessmentLine::Subject::Target:
+        return QStringLiteral("target");
+    case AssessmentLine::Subject::Display:
+        return QStringLiteral("display");
+    case AssessmentLine::Subject::Gamut:
+        return QStringLiteral("gamut");
+    case AssessmentLine::Subject::Luminance:
+        return QStringLiteral("luminance");
+    case AssessmentLine::Subject::Tolerance:
+        break;
+    }
+    return QStringLiteral("tolerance");
+}
+
+QJsonValue againstValue(const Assessment &assessment)
+{
+    if (!assessment.display) {
+        return QJsonValue::Null;
+    }
+    return assessment.display->isMeasured ? QStringLiteral("measured") : QStringLiteral("original");
+}
+
+QJsonObject verdictObject(const Assessment &assessment)
+{
+    QJsonArray lines;
+    for (const AssessmentLine &line : assessment.lines) {
+        lines.append(QJsonObject{{QStringLiteral("subject"), subjectName(line.subject)},
+            {QStringLiteral("status"), judgementName(line.judgement)},
+            {QStringLiteral("color"), line.vertex ? QJsonValue(colorName(*line.vertex)) : QJsonValue::Null},
+            {QStringLiteral("text"), line.text}});
+    }
+    return {{QStringLiteral("status"), judgementName(assessment.judgement())},
+        {QStringLiteral("against"), againstValue(assessment)}, {QStringLiteral("text"), assessment.headline()},
+        {QStringLiteral("lines"), lines}};
+}
+
+//! How the display is driven for the target. What needs comparable luminances is null without them.
+QJsonObject driveObject(const Assessment &assessment)
+{
+    QJsonObject object{{QStringLiteral("against"), againstValue(assessment)},
+        {QStringLiteral("unit"), unitValue(assessment.display->gamut.unit)},
+        {QStringLiteral("comparable"), assessment.luminancesCompare}, {QStringLiteral("headroom"), QJsonValue::Null},
+        {QStringLiteral("largestWhite"), QJsonValue::Null}};
+    if (const auto &largest = assessment.largestWhite) {
+        object.insert(QStringLiteral("largestWhite"),
+            QJsonObject{
+                {QStringLiteral("Y"), largest->luminance}, {QStringLiteral("fullDrive"), primaryName(largest->limit)}});
+    }
+    const auto drives = [](const Model::Drive &drive) {
+        return QJsonObject{{QStringLiteral("red"), drive.red}, {QStringLiteral("green"), drive.green},
+            {QStringLiteral("blue"), drive.blue}};
+    };
+    const auto &drive = assessment.drive;
+    object.insert(QStringLiteral("red"), drive ? QJsonValue(drives(drive->red)) : QJsonValue::Null);
+    object.insert(QStringLiteral("green"), drive ? QJsonValue(drives(drive->green)) : QJsonValue::Null);
+    object.insert(QStringLiteral("blue"), drive ? QJsonValue(drives(drive->blue)) : QJsonValue::Null);
+    object.insert(QStringLiteral("white"), drive ? QJsonValue(drives(drive->white)) : QJsonValue::Null);
+    if (drive && drive->headroom) {
+        object.insert(QStringLiteral("headroom"), *drive->headroom);
+    }
+    return object;
+}
+
 //! What of the original the target does not use.
 QJsonObject unusedObject(const Model::Targets &target, const Model::Targets &original)
 {
@@ -95,7 +207,7 @@ QJsonObject unusedObject(const Model::Targets &target, const Model::Targets &ori
 
 } // namespace
 
-QJsonObject report(const DisplayDescription &description)
+QJsonObject report(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
 {
     const std::vector<DisplayGamut> comparedWith = description.allStandards();
     QJsonObject object{{QStringLiteral("version"), 1}, {QStringLiteral("name"), description.name}};
@@ -114,12 +226,21 @@ QJsonObject report(const DisplayDescription &description)
         object.insert(QStringLiteral("validity"), validityObject(target->getTargets(), original->getTargets()));
         object.insert(QStringLiteral("givenUp"), unusedObject(target->getTargets(), original->getTargets()));
     }
+    const Assessment assessment = assess(description, tolerances);
+    object.insert(QStringLiteral("verdict"), verdictObject(assessment));
+    if (assessment.display && target) {
+        object.insert(QStringLiteral("drive"), driveObject(assessment));
+    }
+    if (tolerances) {
+        object.insert(QStringLiteral("tolerances"),
+            QJsonObject{{QStringLiteral("name"), tolerances->name}, {QStringLiteral("source"), tolerances->source}});
+    }
     return object;
 }
 
-QByteArray reportText(const DisplayDescription &description)
+QByteArray reportText(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
 {
-    return QJsonDocument(report(description)).toJson();
+    return QJsonDocument(report(description, tolerances)).toJson();
 }
 
 } // namespace gamutviewer

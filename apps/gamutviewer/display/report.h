@@ -13,12 +13,14 @@ namespace gamutviewer {
  * \brief Everything that the viewer works out of \a description; docs/gamut-viewer.md describes its keys.
  *
  * Of each gamut: its colours with u', v', colour temperature and Duv, its areas, its coverage of and area ratio to
- * every standard, in x, y and in u', v'; whether the original can show the target, and what the target gives up.
+ * every standard, in x, y and in u', v'; whether the original can show the target, and what the target gives up; and
+ * the verdict, with \a tolerances where there are any.
  */
-QJsonObject report(const DisplayDescription &description);
+QJsonObject report(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt);
 
 /*! \brief The report as a JSON text in UTF-8 that ends with a line end. */
-QByteArray reportText(const DisplayDescription &description);
+QByteArray reportText(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt);
 
 } // namespace gamutviewer
 

@@ -7,14 +7,33 @@
 
 namespace gamutviewer {
 
-QString sampleFile()
+namespace {
+
+QString samplePath(const QString &name)
 {
     const QDir programs(QCoreApplication::applicationDirPath());
-    QString beside = programs.filePath(QStringLiteral("samples/led-wall.json"));
+    QString beside = programs.filePath(QStringLiteral("samples/") + name);
     if (QFile::exists(beside)) {
         return beside;
     }
-    return QDir::cleanPath(programs.filePath(QStringLiteral(GAMUTVIEWER_SAMPLES_FROM_BIN "/led-wall.json")));
+    return QDir::cleanPath(programs.filePath(QStringLiteral(GAMUTVIEWER_SAMPLES_FROM_BIN "/") + name));
+}
+
+} // namespace
+
+QString sampleFile()
+{
+    return samplePath(QStringLiteral("led-wall.json"));
+}
+
+QStringList shippedTolerances()
+{
+    const QDir folder(samplePath(QStringLiteral("tolerances")));
+    QStringList files;
+    for (const QString &name : folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name)) {
+        files.append(folder.absoluteFilePath(name));
+    }
+    return files;
 }
 
 } // namespace gamutviewer

@@ -3,6 +3,7 @@
 #define GAMUTVIEWER_SAMPLES_H
 
 #include <QString>
+#include <QStringList>
 
 namespace gamutviewer {
 
@@ -11,6 +12,9 @@ namespace gamutviewer {
  * the program.
  */
 QString sampleFile();
+
+/*! \brief The files of tolerances that come with the program, in the order of their names. */
+QStringList shippedTolerances();
 
 } // namespace gamutviewer
 

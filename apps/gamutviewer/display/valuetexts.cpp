@@ -43,4 +43,35 @@ QString luminanceText(double luminance)
     return fixedText(luminance, std::fabs(luminance) < 10.0 ? 4 : 1);
 }
 
+QString luminanceUnitText(gamutfiles::LuminanceUnit unit)
+{
+    switch (unit) {
+    case gamutfiles::LuminanceUnit::CandelaPerSquareMetre:
+        return QCoreApplication::translate("gamutviewer", "cd/m²");
+    case gamutfiles::LuminanceUnit::Relative:
+        return QCoreApplication::translate("gamutviewer", "relative");
+    case gamutfiles::LuminanceUnit::NotKnown:
+        break;
+    }
+    return QCoreApplication::translate("gamutviewer", "unit not known");
+}
+
+QString luminanceText(double luminance, gamutfiles::LuminanceUnit unit)
+{
+    const QString text = unit == gamutfiles::LuminanceUnit::CandelaPerSquareMetre
+        ? QStringLiteral("%1 %2")
+        : QCoreApplication::translate("gamutviewer", "%1 (%2)", "luminance and what its unit is: 1.0000 (relative)");
+    return text.arg(luminanceText(luminance), luminanceUnitText(unit));
+}
+
+QString wavelengthText(const Model::DominantWavelength &hue)
+{
+    return fixedText(hue.wavelength, 1);
+}
+
+QString purityText(const Model::DominantWavelength &hue)
+{
+    return fixedText(hue.purity, 3);
+}
+
 } // namespace gamutviewer

@@ -3,6 +3,8 @@
 
 #include "display/gamutfiles.h"
 
+#include <ceiechart/diagram/targetrules.h>
+
 namespace gamutviewer {
 
 namespace {
@@ -46,10 +48,28 @@ ceiechart::DiagramContent documentContent(const DisplayDescription &description,
     content.colorTemperaturePoints = marks(description.colorTemperaturePoints);
     content.cmyPoints = marks(description.cmyPoints);
     if (const ceiechart::DiagramGamut *target = content.find(GamutRole::Target)) {
-        const Model::Target &white = target->gamut.getTargets().white;
-        content.rings.append({QPointF(white.x, white.y)});
+        content.rings = targetRings(target->gamut.getTargets(), std::nullopt);
     }
     return content;
+}
+
+QVector<ceiechart::DiagramRings> targetRings(const Model::Targets &target, const std::optional<Tolerances> &tolerances)
+{
+    using Vertex = ceiechart::GamutVertex;
+    QVector<ceiechart::DiagramRings> rings;
+    for (const Vertex vertex : {Vertex::White, Vertex::Red, Vertex::Green, Vertex::Blue}) {
+        ceiechart::DiagramRings around{ceiechart::xyOf(ceiechart::targetAt(target, vertex))};
+        const auto limit = !tolerances ? std::nullopt
+            : vertex == Vertex::White  ? tolerances->limits.whiteUv
+                                       : tolerances->limits.primariesUv;
+        if (limit) {
+            around.radii = {*limit};
+        }
+        if (limit || vertex == Vertex::White) {
+            rings.append(around);
+        }
+    }
+    return rings;
 }
 
 } // namespace gamutviewer

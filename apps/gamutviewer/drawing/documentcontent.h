@@ -20,6 +20,12 @@ ceiechart::DiagramContent documentContent(const DisplayDescription &description,
 /*! \brief The same of what \a description has, without a default target. */
 ceiechart::DiagramContent documentContent(const DisplayDescription &description);
 
+/*!
+ * \brief The rings round the colours of \a target: of the limits of \a tolerances round white and primaries; without a
+ * limit for the white, the usual ones round it.
+ */
+QVector<ceiechart::DiagramRings> targetRings(const Model::Targets &target, const std::optional<Tolerances> &tolerances);
+
 } // namespace gamutviewer
 
 #endif

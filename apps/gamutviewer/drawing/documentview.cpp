@@ -9,18 +9,12 @@
 
 namespace gamutviewer {
 
-namespace {
-
-constexpr int chromaticityDigits = 4; // as the panel and files show them
-
-} // namespace
-
 DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches, QWidget *parent)
     : DiagramView(parent)
     , m_session(session)
     , m_switches(switches)
 {
-    setDigits(chromaticityDigits);
+    setDigits(chromaticityDecimals);
     setReadoutShown(false); // the window has it for all views
     connect(this, &DiagramView::editingStarted, this,
         [this] { m_session->beginDrag(selectedVertex().value_or(m_session->selected())); });
@@ -41,6 +35,7 @@ DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches
             setSelectedVertex(m_session->selected());
         }
     });
+    connect(session, &TargetSession::tolerancesChanged, this, &DocumentView::refresh);
     connect(session, &TargetSession::rulesChanged, this, &DocumentView::applyRules);
     connect(session, &TargetSession::dragCanceled, this, &DiagramView::cancelEditing);
     applyRules();
@@ -58,6 +53,17 @@ void DocumentView::note()
     setEditNote(isOutside ? tr("outside by Δu′v′ %1").arg(fixedText(outside, 4)) : QString());
 }
 
+QVector<ceiechart::DiagramRings> DocumentView::rings() const
+{
+    const Document *document = m_session->document();
+    const auto target = document->target();
+    if (!target) {
+        return {};
+    }
+    // A default is not judged.
+    return targetRings(target->getTargets(), document->targetIsDefault() ? std::nullopt : m_session->tolerances());
+}
+
 void DocumentView::refresh()
 {
     const Document *document = m_session->document();
@@ -68,11 +74,12 @@ void DocumentView::refresh()
         if (shown && target && !ceiechart::sameTargets(shown->getTargets(), target->getTargets())) {
             setTarget(*target);
         }
-        setRings(documentContent(document->description()).rings);
+        setRings(rings());
         return;
     }
     ceiechart::DiagramContent content = m_switches->content(document->description());
     if (content.find(ceiechart::GamutRole::Target)) {
+        content.rings = rings();
         content.trail = document->whiteTrail();
     }
     setContent(content);

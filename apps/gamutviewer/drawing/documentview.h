@@ -27,6 +27,7 @@ public:
 private:
     void applyRules();
     void note();
+    QVector<ceiechart::DiagramRings> rings() const;
 
     TargetSession *m_session;
     const LayerSwitches *m_switches;

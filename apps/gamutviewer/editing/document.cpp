@@ -63,7 +63,7 @@ Document::Document(QObject *parent)
     connect(&m_history, &QUndoStack::cleanChanged, this, [this](bool clean) { Q_EMIT modifiedChanged(!clean); });
 }
 
-std::optional<Model::ColorGamut> Document::target() const
+std::optional<DisplayGamut> Document::target() const
 {
     return targetToEdit(m_description);
 }

@@ -22,15 +22,15 @@ public:
     explicit Document(QObject *parent = nullptr);
 
     const DisplayDescription &description() const { return m_description; }
-    std::optional<Model::ColorGamut> original() const { return m_description.gamut(m_description.original); }
-    std::optional<Model::ColorGamut> declared() const { return m_description.gamut(m_description.declared); }
-    std::optional<Model::ColorGamut> measured() const { return m_description.gamut(m_description.measured); }
+    std::optional<DisplayGamut> original() const { return m_description.gamut(m_description.original); }
+    std::optional<DisplayGamut> declared() const { return m_description.gamut(m_description.declared); }
+    std::optional<DisplayGamut> measured() const { return m_description.gamut(m_description.measured); }
     /*!
      * \brief The gamut that is edited: the target of the description, or a default where it has none.
      *
      * The default is nobody's: ask targetIsDefault() before saying anything of the display by it.
      */
-    std::optional<Model::ColorGamut> target() const;
+    std::optional<DisplayGamut> target() const;
     /*! \brief Whether nobody has chosen a target. */
     bool targetIsDefault() const { return m_description.target.isEmpty(); }
 

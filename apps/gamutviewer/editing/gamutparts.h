@@ -12,7 +12,7 @@ namespace gamutviewer {
 /*! \brief A gamut of a description and the part that it plays. */
 struct GamutPart {
     ceiechart::GamutRole role = ceiechart::GamutRole::Target;
-    Model::ColorGamut gamut;
+    DisplayGamut gamut;
     bool isDefault = false; //!< nobody has chosen it
 
     /*! \brief The gamut's name as the interface shows it, on one line. */

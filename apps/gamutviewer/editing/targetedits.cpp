@@ -138,13 +138,34 @@ std::optional<DisplayGamut> targetToEdit(const DisplayDescription &description)
 DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets)
 {
     const auto before = targetToEdit(description);
+    return withEditedTarget(std::move(description), targets, before ? before->unit : LuminanceUnit::NotKnown);
+}
+
+DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets, LuminanceUnit unit)
+{
     if (!isEditedName(description.target) || !isOnlyTheTarget(description)) {
         description.target = freeEditedName(description);
     }
-    put(description.gamuts,
-        {Model::ColorGamut(description.target.toStdString(), targets),
-            before ? before->unit : LuminanceUnit::NotKnown});
+    put(description.gamuts, {Model::ColorGamut(description.target.toStdString(), targets), unit});
     return description;
+}
+
+DisplayDescription withLuminanceUnit(
+    const DisplayDescription &description, LuminanceUnit unit, std::optional<double> brightestWhite)
+{
+    const auto target = targetToEdit(description);
+    if (!target || target->unit == unit) {
+        return description;
+    }
+    const Model::Targets &targets = target->getTargets();
+    std::optional<double> white;
+    if (target->unit == LuminanceUnit::CandelaPerSquareMetre && unit == LuminanceUnit::Relative) {
+        white = 1.0;
+    } else if (target->unit == LuminanceUnit::Relative && unit == LuminanceUnit::CandelaPerSquareMetre) {
+        white = brightestWhite;
+    }
+    const bool isScaled = white && *white > 0.0 && targets.white.Y > 0.0;
+    return withEditedTarget(description, isScaled ? scaledTo(targets, *white) : targets, unit);
 }
 
 DisplayDescription withTargetNamed(

@@ -6,6 +6,8 @@
 
 #include <ceiechart/diagram/targetrules.h>
 
+#include <optional>
+
 namespace gamutviewer {
 
 using Vertex = ceiechart::GamutVertex;
@@ -31,6 +33,18 @@ std::optional<DisplayGamut> targetToEdit(const DisplayDescription &description);
  * that name is taken, or where the edited gamut plays another part too, it is "Rec.709 (edited 2)".
  */
 DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets);
+/*! \brief The same, with luminances in \a unit. */
+DisplayDescription withEditedTarget(DisplayDescription description, const Model::Targets &targets, LuminanceUnit unit);
+
+/*!
+ * \brief \a description with the luminances of the target in \a unit.
+ *
+ * Where the former unit is known the numbers change with it, so that they stay true: relative to a white of 1; or in
+ * cd/m², the white as bright as \a brightestWhite, in cd/m², if that is known. In all other cases they only get the
+ * unit.
+ */
+DisplayDescription withLuminanceUnit(
+    const DisplayDescription &description, LuminanceUnit unit, std::optional<double> brightestWhite);
 
 /*!
  * \brief \a description with \a gamutName for its target.

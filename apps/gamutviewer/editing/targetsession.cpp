@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "editing/targetsession.h"
 
+#include "display/assessment.h"
+#include "display/valuetexts.h"
 #include "editing/document.h"
 
 #include <ceiechart/diagram/whitepoint.h>
+#include <gamutmodel/nearestinside.h>
 
 #include <QCoreApplication>
-
-#include <cmath>
 
 namespace gamutviewer {
 
@@ -56,6 +57,12 @@ void TargetSession::select(Vertex vertex)
     }
 }
 
+void TargetSession::setTolerances(const std::optional<Tolerances> &tolerances)
+{
+    m_tolerances = tolerances;
+    Q_EMIT tolerancesChanged();
+}
+
 ceiechart::TargetMove TargetSession::edited(Vertex vertex, const QPointF &xy) const
 {
     const auto target = m_document->target();
@@ -70,14 +77,26 @@ ceiechart::TargetMove TargetSession::edited(Vertex vertex, const QPointF &xy) co
     return m_rules->move(context, vertex, xy);
 }
 
-bool TargetSession::apply(const std::optional<Model::Targets> &targets, const QString &text, int mergeKey)
+//! A held white is as bright as the original makes it, in the original's unit; see withPrimaryHoldingWhite().
+LuminanceUnit TargetSession::unitAfterMoving(Vertex vertex) const
+{
+    const auto original = m_document->original();
+    const auto target = m_document->target();
+    if (holdWhite() && vertex != Vertex::White && original) {
+        return original->unit;
+    }
+    return target ? target->unit : LuminanceUnit::NotKnown;
+}
+
+bool TargetSession::apply(
+    const std::optional<Model::Targets> &targets, LuminanceUnit unit, const QString &text, int mergeKey)
 {
     if (!targets) {
         return false;
     }
     const auto before = m_document->target();
     if (!before || !sameTargets(before->getTargets(), *targets)) {
-        m_document->change(withEditedTarget(m_document->description(), *targets), text, mergeKey);
+        m_document->change(withEditedTarget(m_document->description(), *targets, unit), text, mergeKey);
     }
     return true;
 }
@@ -90,24 +109,16 @@ QString TargetSession::whyNot(Vertex vertex, const QPointF &xy) const
 
 double TargetSession::distanceOutside(Vertex primary) const
 {
-    constexpr double rounding = 1e-9;
     const auto target = m_document->target();
-    const auto original = m_document->original();
-    if (!target || !original) {
-        return 0.0;
-    }
-    const QPointF xy = xyOf(targetAt(target->getTargets(), primary));
-    const QPointF inside = ceiechart::nearestInside(original->getTargets(), xy, Model::Diagram::Cie1976);
-    const Model::DiagramPoint from = Model::toDiagram(Model::Diagram::Cie1976, {inside.x(), inside.y()});
-    const Model::DiagramPoint to = Model::toDiagram(Model::Diagram::Cie1976, {xy.x(), xy.y()});
-    const double distance = std::hypot(to.x - from.x, to.y - from.y);
-    return distance > rounding ? distance : 0.0;
+    const auto display = knownDisplay(m_document->description());
+    return target && display ? gamutviewer::distanceOutside(target->getTargets(), primary, display->gamut.getTargets())
+                             : 0.0;
 }
 
 bool TargetSession::setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey)
 {
     const ceiechart::TargetMove move = edited(vertex, xy);
-    if (apply(move.targets, tr("move %1").arg(ceiechart::gamutVertexName(vertex)), mergeKey)) {
+    if (apply(move.targets, unitAfterMoving(vertex), tr("move %1").arg(ceiechart::gamutVertexName(vertex)), mergeKey)) {
         return true;
     }
     refuse(move.reason);
@@ -118,7 +129,7 @@ bool TargetSession::setLuminance(Vertex vertex, double luminance, int mergeKey)
 {
     const auto target = m_document->target();
     if (target
-        && apply(ceiechart::withLuminance(target->getTargets(), vertex, luminance, holdWhite()),
+        && apply(ceiechart::withLuminance(target->getTargets(), vertex, luminance, holdWhite()), target->unit,
             tr("change luminance of %1").arg(ceiechart::gamutVertexName(vertex)), mergeKey)) {
         return true;
     }
@@ -135,6 +146,24 @@ bool TargetSession::setWhiteTemperature(double kelvin, double duv, int mergeKey)
     return false;
 }
 
+void TargetSession::setLuminanceUnit(LuminanceUnit unit)
+{
+    const auto target = m_document->target();
+    if (!target || target->unit == unit) {
+        return;
+    }
+    const auto display = knownDisplay(m_document->description());
+    std::optional<double> brightest;
+    if (display && display->gamut.unit == LuminanceUnit::CandelaPerSquareMetre) {
+        const Model::Target &white = target->getTargets().white;
+        if (const auto largest
+            = Model::DisplayDrive(display->gamut.getTargets()).largestLuminance({white.x, white.y})) {
+            brightest = largest->luminance;
+        }
+    }
+    m_document->change(withLuminanceUnit(m_document->description(), unit, brightest), tr("change unit of luminances"));
+}
+
 void TargetSession::reset(const QString &gamutName)
 {
     if (m_document->description().target != gamutName && m_document->description().gamut(gamutName)) {
@@ -143,26 +172,37 @@ void TargetSession::reset(const QString &gamutName)
     }
 }
 
-void TargetSession::fitToOriginal()
+void TargetSession::fitToDisplay()
 {
     const auto target = m_document->target();
-    const auto original = m_document->original();
-    if (!target || !original) {
+    const auto display = knownDisplay(m_document->description());
+    if (!target || !display) {
         return;
     }
+    const Model::Targets &limit = display->gamut.getTargets();
     std::optional<Model::Targets> fitted = target->getTargets();
     for (const Vertex primary : primaries) {
         if (!fitted || distanceOutside(primary) == 0.0) {
             continue;
         }
-        const QPointF xy = ceiechart::nearestInside(
-            original->getTargets(), xyOf(targetAt(*fitted, primary)), Model::Diagram::Cie1976);
-        fitted = holdWhite() ? ceiechart::withPrimaryHoldingWhite(*fitted, primary, xy, original->getTargets())
-                             : ceiechart::withPrimary(*fitted, primary, xy);
+        const QPointF from = xyOf(targetAt(*fitted, primary));
+        const auto nearest = Model::nearestInside(limit, {from.x(), from.y()}, chromaticityDecimals);
+        const QPointF to = nearest ? QPointF(nearest->xy.x, nearest->xy.y)
+                                   : ceiechart::nearestInside(limit, from, Model::Diagram::Cie1976);
+        const auto original = m_document->original();
+        fitted = holdWhite() ? ceiechart::withPrimaryHoldingWhite(
+                     *fitted, primary, to, original ? std::make_optional(original->getTargets()) : std::nullopt)
+                             : ceiechart::withPrimary(*fitted, primary, to);
     }
-    if (!apply(fitted, tr("fit to the display"), 0)) {
+    if (!apply(fitted, unitAfterMoving(Vertex::Red), tr("fit to the display"), 0)) {
         refuse(tr("The white would lie outside of the target."));
     }
+}
+
+void TargetSession::pointOut(Vertex vertex)
+{
+    select(vertex);
+    Q_EMIT pointedOut(vertex);
 }
 
 void TargetSession::beginDrag(Vertex vertex)
@@ -176,7 +216,7 @@ void TargetSession::dragTo(const Model::Targets &targets)
 {
     const auto before = m_document->target();
     if (m_document->isDragging() && before && !sameTargets(before->getTargets(), targets)) {
-        m_document->drag(withEditedTarget(m_document->description(), targets));
+        m_document->drag(withEditedTarget(m_document->description(), targets, unitAfterMoving(m_dragged)));
     }
 }
 

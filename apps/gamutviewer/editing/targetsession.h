@@ -39,22 +39,30 @@ public:
     void setSnaps(bool snap);
     void select(Vertex vertex);
 
+    /*! \brief What the display is judged by; nothing for no tolerances. They are not part of the document. */
+    const std::optional<Tolerances> &tolerances() const { return m_tolerances; }
+    void setTolerances(const std::optional<Tolerances> &tolerances);
+
     /*! \brief Why \a vertex cannot be moved to \a xy, for people; empty when it can. */
     QString whyNot(Vertex vertex, const QPointF &xy) const;
-    /*! \brief By how much \a primary of the target lies outside of the original, in Δu′v′; 0 when it does not. */
+    /*! \brief By how much \a primary of the target lies outside of the display, in Δu′v′; 0 when it does not. */
     double distanceOutside(Vertex primary) const;
 
     /*! \brief One step of the history; false, and refused(), when it cannot be made. */
     bool setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey = 0);
     bool setLuminance(Vertex vertex, double luminance, int mergeKey = 0);
     bool setWhiteTemperature(double kelvin, double duv, int mergeKey = 0);
+    /*! \brief Puts the luminances of the target in \a unit; see withLuminanceUnit(). */
+    void setLuminanceUnit(LuminanceUnit unit);
     /*! \brief Puts the gamut called \a gamutName in place of the target. */
     void reset(const QString &gamutName);
     /*!
-     * \brief Moves each primary that lies outside of the original to the nearest chromaticity in u′, v′ that the
-     * original can show.
+     * \brief Moves each primary that lies outside of the display to the nearest chromaticity in u′, v′, of as many
+     * decimals as are shown, that the display can show.
      */
-    void fitToOriginal();
+    void fitToDisplay();
+    /*! \brief Selects \a vertex and has it shown closely on the diagram. */
+    void pointOut(Vertex vertex);
 
     /*! \brief Tells, as refused(), that an edit was not made. */
     void refuse(const QString &reason) { Q_EMIT refused(reason); }
@@ -67,7 +75,10 @@ public:
 
 Q_SIGNALS:
     void rulesChanged();
+    void tolerancesChanged();
     void selectionChanged();
+    /*! \brief The user wants to see where \a vertex is. */
+    void pointedOut(gamutviewer::Vertex vertex);
     /*! \brief The drag was ended from elsewhere than from where it is made. */
     void dragCanceled();
     /*! \brief An edit was not made; \a reason is for people. */
@@ -75,10 +86,12 @@ Q_SIGNALS:
 
 private:
     ceiechart::TargetMove edited(Vertex vertex, const QPointF &xy) const;
-    bool apply(const std::optional<Model::Targets> &targets, const QString &text, int mergeKey);
+    LuminanceUnit unitAfterMoving(Vertex vertex) const;
+    bool apply(const std::optional<Model::Targets> &targets, LuminanceUnit unit, const QString &text, int mergeKey);
 
     Document *m_document;
     std::shared_ptr<ceiechart::StandardTargetRules> m_rules = std::make_shared<ceiechart::StandardTargetRules>();
+    std::optional<Tolerances> m_tolerances;
     Vertex m_selected = Vertex::Red;
     Vertex m_dragged = Vertex::Red;
 };

@@ -37,6 +37,14 @@ QStringList coverageCells(const Model::ColorGamut &gamut, const Model::ColorGamu
     return cells;
 }
 
+QStringList hueCells(Vertex vertex, const Model::Targets &targets)
+{
+    const Model::Target &t = targetAt(targets, vertex);
+    const auto hue = Model::dominantWavelength({t.x, t.y}, {targets.white.x, targets.white.y});
+    return {ceiechart::gamutVertexName(vertex), hue ? wavelengthText(*hue) : undefinedText(),
+        hue ? purityText(*hue) : undefinedText()};
+}
+
 void appendNotKnown(QVector<GroupedTable::Group> &groups, const DisplayDescription &description)
 {
     for (const GamutRole role : {GamutRole::Target, GamutRole::Original}) {
@@ -72,8 +80,13 @@ SidePanel::SidePanel(TargetSession *session, QWidget *parent)
     m_coverage->setToolTip(
         tr("Coverage: share of the standard's area that the gamut contains. Ratio: area of the gamut divided by that "
            "of the standard."));
+    m_hues = new GroupedTable({QString(), tr("Dominant wavelength in nm"), tr("Excitation purity")}, m_tabs);
+    m_hues->setAccessibleName(tr("Dominant wavelengths of all gamuts"));
+    m_hues->setToolTip(tr("Relative to the white of the same gamut, which stands in its title. The wavelength of a "
+                          "purple is the complementary one, with a minus sign."));
     m_tabs->addTab(m_values, tr("V&alues"));
     m_tabs->addTab(m_coverage, tr("Covera&ge"));
+    m_tabs->addTab(m_hues, tr("H&ue"));
     layout->addWidget(m_tabs, 1);
 
     connect(m_document, &Document::changed, this, &SidePanel::refresh);
@@ -84,13 +97,16 @@ void SidePanel::refresh()
 {
     refreshValues();
     refreshCoverage();
+    refreshHues();
 }
 
 void SidePanel::refreshValues()
 {
     QVector<GroupedTable::Group> groups;
     for (const GamutPart &part : gamutParts(m_document->description())) {
-        GroupedTable::Group group{part.title(), {}};
+        GroupedTable::Group group{tr("%1 – Y: %2", "gamut and the unit of its luminances")
+                                      .arg(part.title(), luminanceUnitText(part.gamut.unit)),
+            {}};
         for (const Vertex vertex : allVertices) {
             group.rows.append(valueCells(vertex, targetAt(part.gamut.getTargets(), vertex)));
         }
@@ -113,6 +129,23 @@ void SidePanel::refreshCoverage()
     }
     appendNotKnown(groups, m_document->description());
     m_coverage->setGroups(groups);
+}
+
+void SidePanel::refreshHues()
+{
+    QVector<GroupedTable::Group> groups;
+    for (const GamutPart &part : gamutParts(m_document->description())) {
+        const Model::Targets &targets = part.gamut.getTargets();
+        GroupedTable::Group group{tr("%1 – white: %2, %3", "gamut and its reference white")
+                                      .arg(part.title(), fixedText(targets.white.x, chromaticityDecimals),
+                                          fixedText(targets.white.y, chromaticityDecimals)),
+            {}};
+        for (const Vertex vertex : allVertices) {
+            group.rows.append(hueCells(vertex, targets));
+        }
+        groups.prepend(group);
+    }
+    m_hues->setGroups(groups);
 }
 
 } // namespace gamutviewer

@@ -25,12 +25,14 @@ public:
     TargetEditor *editor() const { return m_editor; }
     GroupedTable *values() const { return m_values; }
     GroupedTable *coverage() const { return m_coverage; }
+    GroupedTable *hues() const { return m_hues; }
     Verdict *verdict() const { return m_verdict; }
 
 private:
     void refresh();
     void refreshValues();
     void refreshCoverage();
+    void refreshHues();
 
     Document *m_document;
     Verdict *m_verdict;
@@ -38,6 +40,7 @@ private:
     QTabWidget *m_tabs;
     GroupedTable *m_values;
     GroupedTable *m_coverage;
+    GroupedTable *m_hues;
 };
 
 } // namespace gamutviewer

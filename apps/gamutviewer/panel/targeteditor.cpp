@@ -28,7 +28,6 @@ namespace gamutviewer {
 
 namespace {
 
-constexpr int chromaticityDecimals = 4;
 constexpr double chromaticityStep = 0.001;
 constexpr double highestLuminance = 1e6;
 // What the fields of the white start from where it has no colour temperature.
@@ -99,6 +98,8 @@ TargetEditor::TargetEditor(TargetSession *session, QWidget *parent)
     connect(m_lockPrimaries, &QCheckBox::toggled, session, &TargetSession::setLockPrimaries);
     connect(m_snap, &QCheckBox::toggled, session, &TargetSession::setSnaps);
     connect(m_coordinates, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &TargetEditor::dropWaiting);
+    connect(m_luminanceUnit, QOverload<int>::of(&QComboBox::activated), session,
+        [this] { m_session->setLuminanceUnit(LuminanceUnit(m_luminanceUnit->currentData().toInt())); });
     connect(m_resetMenu, &QMenu::aboutToShow, this, &TargetEditor::fillResetMenu);
     connect(session->document(), &Document::changed, this, &TargetEditor::dropWaiting);
     connect(qApp, &QApplication::focusChanged, this, &TargetEditor::dropUnlessFocused);
@@ -119,13 +120,23 @@ void TargetEditor::buildHeader(QGridLayout *grid)
     grid->addWidget(m_coordinates, 0, 0);
     m_firstHeader = new QLabel(this);
     m_secondHeader = new QLabel(this);
-    auto *luminance = new QLabel(tr("Y"), this);
-    luminance->setToolTip(tr("Luminance"));
     int column = 1;
-    for (QLabel *header : {m_firstHeader, m_secondHeader, luminance}) {
+    for (QLabel *header : {m_firstHeader, m_secondHeader}) {
         header->setAlignment(Qt::AlignCenter);
         grid->addWidget(header, 0, column++);
     }
+    m_luminanceUnit = new QComboBox(this);
+    for (const LuminanceUnit unit :
+        {LuminanceUnit::CandelaPerSquareMetre, LuminanceUnit::Relative, LuminanceUnit::NotKnown}) {
+        m_luminanceUnit->addItem(
+            unit == LuminanceUnit::NotKnown ? tr("Y, unit?") : tr("Y, %1").arg(luminanceUnitText(unit)), int(unit));
+        m_luminanceUnit->setItemData(
+            m_luminanceUnit->count() - 1, tr("Luminance: %1").arg(luminanceUnitText(unit)), Qt::ToolTipRole);
+    }
+    m_luminanceUnit->setToolTip(
+        tr("Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display reaches; "
+           "from cd/m² to relative, it becomes 1."));
+    grid->addWidget(m_luminanceUnit, 0, column);
 }
 
 StepBox *TargetEditor::addBox(double lowest, double highest, int decimals, double step, const QString &name)
@@ -232,6 +243,9 @@ void TargetEditor::refresh()
         row.luminance->setSingleStep(targets.white.Y < 10.0 ? 0.01 : 1.0);
         row.luminance->setValue(t.Y);
     }
+    const LuminanceUnit unit = target ? target->unit : LuminanceUnit::NotKnown;
+    m_luminanceUnit->setCurrentIndex(m_luminanceUnit->findData(int(unit)));
+    m_luminanceUnit->setAccessibleName(tr("Unit of the luminances: %1").arg(luminanceUnitText(unit)));
     const auto white = ceiechart::colorTemperature(xyOf(targets.white));
     m_temperature->showNumber(white ? std::make_optional(white->kelvin) : std::nullopt);
     m_duv->showNumber(white ? std::make_optional(white->duv) : std::nullopt);

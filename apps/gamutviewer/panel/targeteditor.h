@@ -39,6 +39,7 @@ public:
     StepBox *temperature() const { return m_temperature; }
     StepBox *duv() const { return m_duv; }
     QComboBox *coordinates() const { return m_coordinates; }
+    QComboBox *luminanceUnit() const { return m_luminanceUnit; }
     QCheckBox *holdWhite() const { return m_holdWhite; }
     QCheckBox *lockPrimaries() const { return m_lockPrimaries; }
     QCheckBox *snap() const { return m_snap; }
@@ -87,6 +88,7 @@ private:
     QToolButton *m_reset;
     QMenu *m_resetMenu;
     QComboBox *m_coordinates;
+    QComboBox *m_luminanceUnit;
     QLabel *m_firstHeader;
     QLabel *m_secondHeader;
     std::array<Row, 4> m_rows;

@@ -1,16 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "panel/verdict.h"
 
-#include "display/valuetexts.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
 
 #include <QAccessible>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
+
 namespace gamutviewer {
+
+namespace {
+
+constexpr int vertexRole = Qt::UserRole;
+constexpr int shownLines = 6; // of text; the others are scrolled to
+
+} // namespace
 
 Verdict::Verdict(TargetSession *session, QWidget *parent)
     : QFrame(parent)
@@ -24,65 +35,102 @@ Verdict::Verdict(TargetSession *session, QWidget *parent)
     QFont bold = font();
     bold.setBold(true);
     m_verdict->setFont(bold);
-    m_grounds = new QLabel(this);
+    m_verdict->setTextFormat(Qt::PlainText);
+    m_verdict->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_verdict->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    layout->addWidget(m_verdict);
+    m_lines = new QListWidget(this);
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
-    m_grounds->setFont(small);
-    m_grounds->setMinimumHeight(2 * QFontMetrics(small).lineSpacing());
-    m_grounds->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    for (QLabel *label : {m_verdict, m_grounds}) {
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        layout->addWidget(label);
-    }
+    m_lines->setFont(small);
+    m_lines->setFrameShape(NoFrame);
+    m_lines->setWordWrap(true);
+    m_lines->setTextElideMode(Qt::ElideNone);
+    m_lines->setResizeMode(QListView::Adjust);
+    m_lines->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_lines->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_lines->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_lines->setAccessibleName(tr("Grounds of the verdict"));
+    m_lines->setAccessibleDescription(tr("Return shows the mark of a line on the diagram"));
+    // Always as high: what is below must not jump in the middle of a drag.
+    m_lines->setFixedHeight(shownLines * QFontMetrics(small).lineSpacing() + 4);
+    QPalette flat = m_lines->palette();
+    flat.setColor(QPalette::Base, palette().color(QPalette::Window));
+    m_lines->setPalette(flat);
+    layout->addWidget(m_lines);
     m_fit = new QPushButton(tr("&Move inside the original"), this);
     m_fit->setToolTip(tr("Moves each primary that lies outside to the nearest colour that the display can show"));
     layout->addWidget(m_fit, 0, Qt::AlignLeft);
-    connect(m_fit, &QPushButton::clicked, session, &TargetSession::fitToOriginal);
+    connect(m_fit, &QPushButton::clicked, session, &TargetSession::fitToDisplay);
+    connect(m_lines, &QListWidget::itemClicked, this, &Verdict::pointOut);
+    connect(m_lines, &QListWidget::itemActivated, this, &Verdict::pointOut);
     connect(session->document(), &Document::changed, this, &Verdict::refresh);
+    connect(session, &TargetSession::tolerancesChanged, this, &Verdict::refresh);
     refresh();
 }
 
 QString Verdict::text() const
 {
-    return m_verdict->text() + QLatin1Char('\n') + m_grounds->text();
+    QStringList lines(m_verdict->text());
+    for (int row = 0; row < m_lines->count(); ++row) {
+        lines.append(m_lines->item(row)->text());
+    }
+    return lines.join(QLatin1Char('\n'));
 }
 
 void Verdict::refresh()
 {
-    const Document *document = m_session->document();
-    // Always as many lines: what is below must not jump in the middle of a drag.
-    QString verdict = tr("Nothing to compare");
-    QString grounds;
-    bool isOutside = false;
-    if (!document->target() || document->targetIsDefault()) {
-        grounds = tr("There is no target.");
-    } else if (!document->original()) {
-        grounds = tr("What the display can show is not known.");
-    } else {
-        QStringList outside;
-        for (const Vertex primary : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
-            const double distance = m_session->distanceOutside(primary);
-            if (distance > 0.0) {
-                outside.append(
-                    QStringLiteral("%1 %2").arg(ceiechart::gamutVertexName(primary), fixedText(distance, 4)));
-            }
-        }
-        isOutside = !outside.isEmpty();
-        verdict = isOutside ? tr("✗ The display cannot show the target") : tr("✓ The display can show the target");
-        grounds = isOutside ? tr("Outside by Δu′v′: %1").arg(outside.join(tr(", ", "between names of colours")))
-                            : tr("All primaries lie inside the original.");
-    }
     const QString before = text();
-    m_verdict->setText(verdict);
-    m_grounds->setText(grounds);
-    m_fit->setEnabled(isOutside);
+    show(assess(m_session->document()->description(), m_session->tolerances()));
     if (text() != before) {
         // A screen reader says it as it changes.
         setAccessibleName(text());
         QAccessibleEvent event(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
+    }
+}
+
+void Verdict::show(const Assessment &assessment)
+{
+    m_verdict->setText(judgementMark(assessment.judgement()) + QLatin1Char(' ') + assessment.headline());
+    m_verdict->setToolTip(m_verdict->text());
+    while (m_lines->count() > assessment.lines.size()) {
+        delete m_lines->takeItem(m_lines->count() - 1);
+    }
+    // What fails is seen without scrolling.
+    QVector<AssessmentLine> lines;
+    for (const Judgement judgement : {Judgement::Fail, Judgement::NotKnown, Judgement::Pass}) {
+        std::copy_if(assessment.lines.begin(), assessment.lines.end(), std::back_inserter(lines),
+            [judgement](const AssessmentLine &line) { return line.judgement == judgement; });
+    }
+    bool isOutside = false;
+    for (int row = 0; row < lines.size(); ++row) {
+        const AssessmentLine &line = lines.at(row);
+        if (row == m_lines->count()) {
+            m_lines->addItem(QString());
+        }
+        QListWidgetItem *item = m_lines->item(row);
+        const QString text = judgementMark(line.judgement) + QLatin1Char(' ') + line.text;
+        // Setting what is there already would lay the list out again, in every step of a drag.
+        if (item->text() != text) {
+            item->setText(text);
+        }
+        item->setData(vertexRole, line.vertex ? QVariant(int(*line.vertex)) : QVariant());
+        item->setToolTip(line.mark.isEmpty() ? QString() : tr("On the diagram: %1").arg(line.mark));
+        isOutside = isOutside
+            || (line.subject == AssessmentLine::Subject::Gamut && line.judgement == Judgement::Fail && line.vertex
+                && *line.vertex != Vertex::White);
+    }
+    m_fit->setText(assessment.display && assessment.display->isMeasured ? tr("&Move inside the measured gamut")
+                                                                        : tr("&Move inside the original"));
+    m_fit->setEnabled(isOutside);
+}
+
+void Verdict::pointOut(const QListWidgetItem *item)
+{
+    const QVariant vertex = item->data(vertexRole);
+    if (vertex.isValid()) {
+        m_session->pointOut(Vertex(vertex.toInt()));
     }
 }
 

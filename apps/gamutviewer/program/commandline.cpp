@@ -91,6 +91,11 @@ CommandLine::CommandLine(const QStringList &arguments)
     const QCommandLineOption report(QStringLiteral("report"),
         tr("Print coverage, colour temperatures and validity without opening a window. The only format is json."),
         tr("format"));
+    const QCommandLineOption check(QStringLiteral("check"),
+        tr("Judge whether the display can show the target, without opening a window: the exit status tells the "
+           "verdict, and its grounds are printed unless the report is."));
+    const QCommandLineOption tolerances(QStringLiteral("tolerances"),
+        tr("Judge what was measured by the limits in <file> (JSON), and draw them."), tr("file"));
     const auto colorOption = [](const QString &name) {
         return QCommandLineOption(name,
             tr("The measurement that is %1 in a measurement list: its name, or its line as line:<number>.").arg(name),
@@ -112,18 +117,19 @@ CommandLine::CommandLine(const QStringList &arguments)
     m_parser.setApplicationDescription(
         tr("Shows and edits the colour gamuts of a display on CIE chromaticity diagrams.\n\n"
            "Exit status: 0 success, 1 the picture or the report could not be shown or written, 2 invalid arguments or "
-           "files, 5 a measurement list needs a choice.\n"
+           "files, 5 a measurement list needs a choice; with --check also 3 the display fails, 4 the verdict is not "
+           "known.\n"
            "Each error is one line on standard error."));
     m_parser.addPositionalArgument(tr("file"),
         tr("Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any "
            "number of the others, which are added to it. Without files, a sample is opened."),
         tr("[file...]"));
-    m_parser.addOptions(
-        {render, diagram, part, layers, size, ratio, report, red, green, blue, white, unit, decimal, help, version});
+    m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, tolerances, red, green, blue, white,
+        unit, decimal, help, version});
 
     const bool understood = m_parser.parse(arguments);
-    m_needsDisplay
-        = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(help) && !m_parser.isSet(version);
+    m_needsDisplay = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(check)
+        && !m_parser.isSet(help) && !m_parser.isSet(version);
     if (m_parser.isSet(help)) {
         m_action = Action::Help;
         return;
@@ -167,6 +173,16 @@ CommandLine::CommandLine(const QStringList &arguments)
     }
     if (m_parser.isSet(size) && m_parser.isSet(report) && !m_parser.isSet(render)) {
         refuse(tr("--size requires --render when used with --report."));
+    }
+    if (m_parser.isSet(size) && m_parser.isSet(check) && !m_parser.isSet(render)) {
+        refuse(tr("--size requires --render when used with --check."));
+    }
+    m_wantsCheck = m_parser.isSet(check);
+    if (m_parser.isSet(tolerances)) {
+        m_tolerancesFile = m_parser.value(tolerances);
+        if (m_tolerancesFile.isEmpty()) {
+            refuse(tr("The file name of --tolerances is empty."));
+        }
     }
     if (m_parser.isSet(render)) {
         readPicture(m_parser.value(render));
@@ -361,7 +377,7 @@ void CommandLine::readReport(const QString &format)
     }
 }
 
-Picture CommandLine::picture(const DisplayDescription &description) const
+Picture CommandLine::picture(const DisplayDescription &description, const std::optional<Tolerances> &tolerances) const
 {
     Picture picture;
     picture.content = documentContent(description);
@@ -371,6 +387,7 @@ Picture CommandLine::picture(const DisplayDescription &description) const
     picture.view = ceiechart::DiagramViewport(m_diagram, m_extent.size);
     if (const ceiechart::DiagramGamut *target = picture.content.find(ceiechart::GamutRole::Target)) {
         const Model::Targets &targets = target->gamut.getTargets();
+        picture.content.rings = targetRings(targets, tolerances);
         if (m_part == Part::Target) {
             picture.view = picture.view.fittedTo(targets);
         } else if (m_part == Part::White) {

@@ -19,7 +19,7 @@ class CommandLine {
 public:
     enum class Action {
         Show,
-        Write, //!< a picture, a report or both, and no window
+        Write, //!< a picture, a report, a verdict or several of them, and no window
         Help,
         Version,
         Refuse
@@ -43,11 +43,15 @@ public:
     /*! \brief Of the picture, or of the window. */
     const PictureExtent &extent() const { return m_extent; }
     /*! \brief What Write writes of \a description. */
-    Picture picture(const DisplayDescription &description) const;
+    Picture picture(const DisplayDescription &description, const std::optional<Tolerances> &tolerances) const;
     /*! \brief Whether a size was asked for; otherwise a window may have the one that it had. */
     bool hasSize() const { return m_hasSize; }
     /*! \brief Whether Write writes the report to the standard output. */
     bool wantsReport() const { return m_wantsReport; }
+    /*! \brief Whether Write judges the display, and the exit status is to tell the verdict. */
+    bool wantsCheck() const { return m_wantsCheck; }
+    /*! \brief The file of tolerances; empty for none. */
+    QString tolerancesFile() const { return m_tolerancesFile; }
     /*! \brief Needs the application to exist. */
     QString helpText() const { return m_parser.helpText(); }
     /*! \brief Whether a window is wanted; also known of refused arguments. */
@@ -83,6 +87,8 @@ private:
     bool m_hasKey = true;
     bool m_hasSize = false;
     bool m_wantsReport = false;
+    bool m_wantsCheck = false;
+    QString m_tolerancesFile;
     bool m_needsDisplay = true;
 };
 

@@ -40,6 +40,23 @@
         <source>not known</source>
         <translation>未知</translation>
     </message>
+    <message>
+        <source>cd/m²</source>
+        <translation>cd/m²</translation>
+    </message>
+    <message>
+        <source>relative</source>
+        <translation>相对值</translation>
+    </message>
+    <message>
+        <source>unit not known</source>
+        <translation>单位未知</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>luminance and what its unit is: 1.0000 (relative)</comment>
+        <translation>%1（%2）</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::AddDialog</name>
@@ -82,6 +99,238 @@
     <message>
         <source>Gamuts: %1</source>
         <translation>色域：%1</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::Assessment</name>
+    <message>
+        <source>measured gamut</source>
+        <translation>实测色域</translation>
+    </message>
+    <message>
+        <source>original</source>
+        <translation>原始色域</translation>
+    </message>
+    <message>
+        <source>handle “%1” of the target</source>
+        <translation>目标的“%1”控制点</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>primary and its drive: red 71.0 %</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between drives</comment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>in cd/m²</source>
+        <translation>以 cd/m² 为单位</translation>
+    </message>
+    <message>
+        <source>relative</source>
+        <translation>为相对值</translation>
+    </message>
+    <message>
+        <source>in a unit that is not known</source>
+        <translation>单位未知</translation>
+    </message>
+    <message>
+        <source>The luminances cannot be compared: those of the target are %1, those of the %2 %3.</source>
+        <translation>亮度无法比较：目标的亮度%1，%2的亮度%3。</translation>
+    </message>
+    <message>
+        <source>State the unit of the %1 in its file.</source>
+        <translation>请在文件中注明%1的单位。</translation>
+    </message>
+    <message>
+        <source>Choose the unit of the target beside Y.</source>
+        <translation>请在 Y 旁选择目标的单位。</translation>
+    </message>
+    <message>
+        <source>What the display is to show is not known: nobody has chosen a target. Choose one, or edit the default.</source>
+        <translation>显示屏应显示什么尚不清楚：没有人选择过目标。请选择一个目标，或编辑默认目标。</translation>
+    </message>
+    <message>
+        <source>What the display can show is not known: there is neither an original nor a measured gamut. Open a measurement of its primaries, or choose its original.</source>
+        <translation>显示屏能显示什么尚不清楚：既没有原始色域，也没有实测色域。请打开其基色的测量数据，或选择其原始色域。</translation>
+    </message>
+    <message>
+        <source>What the display can show is not known: the primaries of the %1 span no triangle.</source>
+        <translation>显示屏能显示什么尚不清楚：%1的基色不构成三角形。</translation>
+    </message>
+    <message>
+        <source>All primaries and the white lie inside of the %1.</source>
+        <translation>所有基色和白点都在%1之内。</translation>
+    </message>
+    <message>
+        <source>%1 lies outside of the %2 by Δu′v′ %3</source>
+        <translation>%1超出%2，Δu′v′ 为 %3</translation>
+    </message>
+    <message>
+        <source>move it to %1</source>
+        <translation>请将其移到 %1</translation>
+    </message>
+    <message>
+        <source>choose %1 as the target, which lies inside</source>
+        <translation>选择位于其内的 %1 作为目标</translation>
+    </message>
+    <message>
+        <source>%1, or %2</source>
+        <translation>%1，或%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what is wrong and what to do</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <comment>a sentence</comment>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>At this white the %1 reaches %2.</source>
+        <translation>在此白点下，%1可达到 %2。</translation>
+    </message>
+    <message>
+        <source>The luminance of the target is not known: its white has none. Enter it beside Y.</source>
+        <translation>目标的亮度未知：其白点没有亮度。请在 Y 旁输入。</translation>
+    </message>
+    <message>
+        <source>The drive of the %1 is not known: the white lies outside of it.</source>
+        <translation>%1的驱动量未知：白点在其之外。</translation>
+    </message>
+    <message>
+        <source>What luminance the display reaches is not known: %1 of the %2 has no luminance.</source>
+        <translation>显示屏能达到的亮度未知：%2的%1没有亮度。</translation>
+    </message>
+    <message>
+        <source>What luminance the display reaches is not known: the primaries of the %1 cannot be told apart.</source>
+        <translation>显示屏能达到的亮度未知：%1的基色无法区分。</translation>
+    </message>
+    <message>
+        <source>The white of %1 needs of the %2: %3. It reaches %4 at this white (headroom %5).</source>
+        <translation>%1 的白色需要%2的 %3。它在此白点下可达到 %4（余量 %5）。</translation>
+    </message>
+    <message>
+        <source>The target is too bright: the %1 reaches %2 at this white, and the target has %3. It would need %4. Lower the luminance of the white to %2.</source>
+        <translation>目标过亮：%1在此白点下可达到 %2，而目标为 %3，需要 %4。请将白点的亮度降低到 %2。</translation>
+    </message>
+    <message>
+        <source>The luminance %1 of %2 is more than the %3 reaches: %4. Lower it to that.</source>
+        <translation>%2的亮度 %1 超过%3所能达到的 %4。请降低到该值。</translation>
+    </message>
+    <message>
+        <source>nothing is measured. Open a measurement of red, green, blue and white.</source>
+        <translation>没有测量数据。请打开红、绿、蓝、白的测量数据。</translation>
+    </message>
+    <message>
+        <source>there is no target. Choose one.</source>
+        <translation>没有目标。请选择一个。</translation>
+    </message>
+    <message>
+        <source>one of the whites has no colour temperature.</source>
+        <translation>其中一个白点没有色温。</translation>
+    </message>
+    <message>
+        <source>a colour has no chromaticity or no luminance.</source>
+        <translation>某个颜色没有色品或没有亮度。</translation>
+    </message>
+    <message>
+        <source>Measured %1</source>
+        <translation>实测%1</translation>
+    </message>
+    <message>
+        <source>Measured luminance of the white</source>
+        <translation>白点的实测亮度</translation>
+    </message>
+    <message>
+        <source>Measured colour temperature of the white</source>
+        <translation>白点的实测色温</translation>
+    </message>
+    <message>
+        <source>Coverage of the target</source>
+        <translation>目标的覆盖率</translation>
+    </message>
+    <message>
+        <source>not known, as %1</source>
+        <translation>未知，因为%1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what was judged and the judgement</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Calibrate the display, or move %1 of the target.</source>
+        <translation>请校准显示屏，或移动目标的%1。</translation>
+    </message>
+    <message>
+        <source>Calibrate the display, or change the target.</source>
+        <translation>请校准显示屏，或更改目标。</translation>
+    </message>
+    <message>
+        <source>ring around %1 of the target</source>
+        <translation>目标%1周围的圆环</translation>
+    </message>
+    <message>
+        <source>%1%2 % from the target, limit ±%3 %.</source>
+        <translation>与目标相差 %1%2 %，限值 ±%3 %。</translation>
+    </message>
+    <message>
+        <source>%1%2 K from the target, limit ±%3 K.</source>
+        <translation>与目标相差 %1%2 K，限值 ±%3 K。</translation>
+    </message>
+    <message>
+        <source>%1 %, at least %2 %.</source>
+        <translation>%1 %，至少应为 %2 %。</translation>
+    </message>
+    <message>
+        <source>Δu′v′ %1 from the target, limit %2.</source>
+        <translation>与目标的 Δu′v′ 为 %1，限值 %2。</translation>
+    </message>
+    <message>
+        <source>x, y</source>
+        <translation>x, y</translation>
+    </message>
+    <message>
+        <source>u′, v′</source>
+        <translation>u′, v′</translation>
+    </message>
+    <message>
+        <source>Coverage of %1 in %2 by the measured gamut</source>
+        <translation>实测色域在 %2 中对 %1 的覆盖率</translation>
+    </message>
+    <message>
+        <source>there is no gamut of that name.</source>
+        <translation>没有该名称的色域。</translation>
+    </message>
+    <message>
+        <source>The display shows the target within tolerance</source>
+        <translation>显示屏在容差内显示目标</translation>
+    </message>
+    <message>
+        <source>The display can show the target</source>
+        <translation>显示屏能够显示目标</translation>
+    </message>
+    <message>
+        <source>The display cannot show the target</source>
+        <translation>显示屏无法显示目标</translation>
+    </message>
+    <message>
+        <source>The display is out of tolerance</source>
+        <translation>显示屏超出容差</translation>
+    </message>
+    <message>
+        <source>Not known whether it is in tolerance</source>
+        <translation>是否在容差内未知</translation>
+    </message>
+    <message>
+        <source>Not known whether it can show the target</source>
+        <translation>能否显示目标未知</translation>
     </message>
 </context>
 <context>
@@ -754,6 +1003,36 @@
         <source>V&amp;alues</source>
         <translation>数值(&amp;A)</translation>
     </message>
+    <message>
+        <source>Dominant wavelength in nm</source>
+        <translation>主波长 (nm)</translation>
+    </message>
+    <message>
+        <source>Excitation purity</source>
+        <translation>激发纯度</translation>
+    </message>
+    <message>
+        <source>Dominant wavelengths of all gamuts</source>
+        <translation>所有色域的主波长</translation>
+    </message>
+    <message>
+        <source>Relative to the white of the same gamut, which stands in its title. The wavelength of a purple is the complementary one, with a minus sign.</source>
+        <translation>相对于同一色域的白点（见其标题）。紫色的波长为补色波长，带负号。</translation>
+    </message>
+    <message>
+        <source>H&amp;ue</source>
+        <translation>色调(&amp;U)</translation>
+    </message>
+    <message>
+        <source>%1 – Y: %2</source>
+        <comment>gamut and the unit of its luminances</comment>
+        <translation>%1 – Y：%2</translation>
+    </message>
+    <message>
+        <source>%1 – white: %2, %3</source>
+        <comment>gamut and its reference white</comment>
+        <translation>%1 – 白点：%2, %3</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::SignalLog</name>
@@ -821,14 +1100,6 @@
         <translation>坐标</translation>
     </message>
     <message>
-        <source>Y</source>
-        <translation>Y</translation>
-    </message>
-    <message>
-        <source>Luminance</source>
-        <translation>亮度</translation>
-    </message>
-    <message>
         <source>%1: luminance</source>
         <translation>%1：亮度</translation>
     </message>
@@ -888,6 +1159,26 @@
         <source>Hold &amp;white</source>
         <translation>保持白点(&amp;W)</translation>
     </message>
+    <message>
+        <source>Y, unit?</source>
+        <translation>Y，单位？</translation>
+    </message>
+    <message>
+        <source>Y, %1</source>
+        <translation>Y，%1</translation>
+    </message>
+    <message>
+        <source>Luminance: %1</source>
+        <translation>亮度：%1</translation>
+    </message>
+    <message>
+        <source>Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display reaches; from cd/m² to relative, it becomes 1.</source>
+        <translation>亮度的单位。从相对值改为 cd/m² 时，白点取显示屏所能达到的最大亮度；从 cd/m² 改为相对值时，白点为 1。</translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: %1</source>
+        <translation>亮度的单位：%1</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::TargetSession</name>
@@ -923,6 +1214,37 @@
         <source>The white would lie outside of the target.</source>
         <translation>白点将位于目标之外。</translation>
     </message>
+    <message>
+        <source>change unit of luminances</source>
+        <translation>更改亮度单位</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::TolerancesMenu</name>
+    <message>
+        <source>T&amp;olerances</source>
+        <translation>容差(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>无(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose file…</source>
+        <translation>选择文件(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>Choose tolerances</source>
+        <translation>选择容差</translation>
+    </message>
+    <message>
+        <source>Tolerances (*.json)</source>
+        <translation>容差 (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::Verdict</name>
@@ -935,37 +1257,20 @@
         <translation>把位于外面的每个基色移到显示屏能显示的最近的颜色</translation>
     </message>
     <message>
-        <source>Nothing to compare</source>
-        <translation>无可比较</translation>
+        <source>Grounds of the verdict</source>
+        <translation>判定的依据</translation>
     </message>
     <message>
-        <source>There is no target.</source>
-        <translation>没有目标。</translation>
+        <source>Return shows the mark of a line on the diagram</source>
+        <translation>按回车键在图上显示该行的标记</translation>
     </message>
     <message>
-        <source>What the display can show is not known.</source>
-        <translation>不知道显示屏能显示什么。</translation>
+        <source>On the diagram: %1</source>
+        <translation>在图上：%1</translation>
     </message>
     <message>
-        <source>✗ The display cannot show the target</source>
-        <translation>✗ 显示屏无法显示目标</translation>
-    </message>
-    <message>
-        <source>✓ The display can show the target</source>
-        <translation>✓ 显示屏可以显示目标</translation>
-    </message>
-    <message>
-        <source>Outside by Δu′v′: %1</source>
-        <translation>超出 Δu′v′：%1</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between names of colours</comment>
-        <translation>、</translation>
-    </message>
-    <message>
-        <source>All primaries lie inside the original.</source>
-        <translation>所有基色都在原始色域之内。</translation>
+        <source>&amp;Move inside the measured gamut</source>
+        <translation>移入实测色域(&amp;M)</translation>
     </message>
 </context>
 <context>
@@ -1244,6 +1549,15 @@ Ctrl+1 到 Ctrl+3 – 显示页面</translation>
     <message>
         <source>&amp;Gamuts…</source>
         <translation>色域(&amp;G)…</translation>
+    </message>
+    <message>
+        <source>Dominant wavelength λ and excitation purity p are relative to the white of the target</source>
+        <translation>主波长 λ 和激发纯度 p 相对于目标的白点</translation>
+    </message>
+    <message>
+        <source>   λ %1 nm  p %2</source>
+        <comment>dominant wavelength and purity, for the white of the target</comment>
+        <translation>   λ %1 nm  p %2</translation>
     </message>
 </context>
 <context>

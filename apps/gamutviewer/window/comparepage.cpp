@@ -125,7 +125,7 @@ void ComparePage::refresh()
         const auto white = ceiechart::colorTemperature(xyOf(t.white));
         setCell(TemperatureRow, column, white ? temperatureText(*white) : undefinedText());
         setCell(DuvRow, column, white ? duvText(*white) : undefinedText());
-        setCell(LuminanceRow, column, luminanceText(t.white.Y));
+        setCell(LuminanceRow, column, luminanceText(t.white.Y, part.gamut.unit));
         setCell(AreaXyRow, column, QString::number(Model::gamutArea(t, Model::Diagram::Cie1931), 'f', 5));
         setCell(AreaUvRow, column, QString::number(Model::gamutArea(t, Model::Diagram::Cie1976), 'f', 5));
     }

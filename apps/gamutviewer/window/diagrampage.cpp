@@ -30,6 +30,7 @@ constexpr int lensMargin = 6;
 // Of what is being moved, on either side: its label is kept clear of the lens.
 constexpr QMargins labelRoom(240, 110, 40, 110);
 constexpr double barScale = 0.85;
+constexpr double vertexZoom = 6.0; // a distance of Δu′v′ 0.004 can be seen
 
 } // namespace
 
@@ -62,6 +63,7 @@ DiagramPage::DiagramPage(TargetSession *session, QWidget *parent)
         connect(view, &DiagramView::hoverEnded, this, &Page::pointerLeft);
     }
     connect(m_view, &DiagramView::diagramChanged, this, &DiagramPage::placeLens);
+    connect(session, &TargetSession::pointedOut, this, &DiagramPage::showVertex);
     connect(m_switches, &LayerSwitches::changed, this, &DiagramPage::refreshWhenShown);
 }
 
@@ -140,6 +142,20 @@ void DiagramPage::placeLens()
     const bool isAbove = m_view->diagramKind() == DiagramView::Cie1931;
     const int top = isAbove ? int(plot.top()) + lensMargin : int(plot.bottom()) - side - lensMargin;
     m_lens->setGeometry(int(plot.right()) - side - lensMargin, top, side, side);
+}
+
+void DiagramPage::showVertex(Vertex vertex)
+{
+    const auto target = document()->target();
+    if (!target) {
+        return;
+    }
+    if (vertex == Vertex::White) {
+        m_view->showWhite();
+        return;
+    }
+    m_view->setZoomFactor(std::max(m_view->zoomFactor(), vertexZoom));
+    m_view->setCentre(xyOf(targetAt(target->getTargets(), vertex)));
 }
 
 void DiagramPage::showLens()

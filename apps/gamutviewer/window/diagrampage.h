@@ -2,6 +2,7 @@
 #ifndef GAMUTVIEWER_DIAGRAMPAGE_H
 #define GAMUTVIEWER_DIAGRAMPAGE_H
 
+#include "editing/targetedits.h"
 #include "window/page.h"
 
 class QAction;
@@ -48,6 +49,8 @@ private:
     void buildBar(QHBoxLayout *bar);
     QAction *addButton(QHBoxLayout *bar, const QString &text, const QString &explanation);
     void placeLens();
+    /*! \brief Brings \a vertex of the target into the middle, closely. */
+    void showVertex(gamutviewer::Vertex vertex);
     /*! \brief Shows the lens when it is switched on and closer than the diagram, and not over what is being moved. */
     void showLens();
 

@@ -16,11 +16,14 @@ namespace gamutviewer {
 
 namespace {
 
-//! The places of the outermost rings; empty without any.
-QRectF extentOfRings(const DocumentView &view)
+//! The place of the outermost ring round \a white; empty without any.
+QRectF extentOfRings(const DocumentView &view, const QPointF &white)
 {
     QRectF extent;
     for (const ceiechart::DiagramRings &rings : view.content().rings) {
+        if (rings.xy != white) {
+            continue;
+        }
         for (const double radius : rings.radii) {
             extent |= ceiechart::DiagramPainter::ring(view.viewport(), rings.xy, radius).boundingRect();
         }
@@ -92,7 +95,7 @@ void Lens::refresh()
                                  : tr("no colour temperature"));
     m_view->setAccessibleDescription(m_value->text());
     const ceiechart::DiagramViewport &seen = m_view->viewport();
-    const QRectF rings = extentOfRings(*m_view);
+    const QRectF rings = extentOfRings(*m_view, white);
     // Where one has zoomed in further than that, the white is enough.
     const bool hasRoomForRings = rings.width() <= seen.plot().width() && rings.height() <= seen.plot().height();
     const bool isSeen = hasRoomForRings ? seen.plot().contains(rings) : seen.plot().contains(seen.toPosition(white));

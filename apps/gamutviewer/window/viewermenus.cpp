@@ -7,6 +7,7 @@
 #include "window/exportdialog.h"
 #include "window/gamutsdialog.h"
 #include "window/recentfiles.h"
+#include "window/tolerancesmenu.h"
 #include "window/viewerwindow.h"
 
 #include <QAction>
@@ -114,6 +115,10 @@ void ViewerWindow::buildViewMenu()
     }
     menu->addSeparator();
     menu->addActions(m_diagramPage->actions());
+    menu->addSeparator();
+    m_tolerancesMenu = new TolerancesMenu(m_session, this);
+    connect(m_tolerancesMenu, &TolerancesMenu::refused, this, &ViewerWindow::warn);
+    menu->addMenu(m_tolerancesMenu);
 }
 
 void ViewerWindow::buildHelpMenu()

@@ -104,6 +104,7 @@ void ViewerWindow::buildStatusBar()
     statusBar()->addWidget(m_hints, 1);
     m_readout = new QLabel(this);
     m_readout->setTextFormat(Qt::PlainText);
+    m_readout->setToolTip(tr("Dominant wavelength λ and excitation purity p are relative to the white of the target"));
     statusBar()->addPermanentWidget(m_readout);
     setReadout(QString());
     connect(m_pages, &QTabWidget::currentChanged, this, &ViewerWindow::followPage);
@@ -163,6 +164,13 @@ void ViewerWindow::showReadout(const QPointF &xy)
                        .arg(fixedText(xy.x(), 4), fixedText(xy.y(), 4), fixedText(uv.x(), 4), fixedText(uv.y(), 4));
     if (const auto white = ceiechart::colorTemperature(xy)) {
         text += tr("   %1  Duv %2", "with the temperature").arg(temperatureText(*white), duvText(*white));
+    }
+    if (const auto target = m_document.target()) {
+        const Model::Target &white = target->getTargets().white;
+        if (const auto hue = Model::dominantWavelength({xy.x(), xy.y()}, {white.x, white.y})) {
+            text += tr("   λ %1 nm  p %2", "dominant wavelength and purity, for the white of the target")
+                        .arg(wavelengthText(*hue), purityText(*hue));
+        }
     }
     setReadout(text);
 }

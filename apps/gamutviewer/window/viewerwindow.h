@@ -24,6 +24,7 @@ class LibraryPage;
 class Page;
 class SidePanel;
 class TargetSession;
+class TolerancesMenu;
 class WarningBar;
 
 /*! \brief The program's window: pages and a panel over one document. */
@@ -81,6 +82,7 @@ public:
     ComparePage *comparePage() const { return m_comparePage; }
     LibraryPage *libraryPage() const { return m_libraryPage; }
     SidePanel *panel() const { return m_panel; }
+    TolerancesMenu *tolerancesMenu() const { return m_tolerancesMenu; }
     QLabel *readout() const { return m_readout; }
     WarningBar *warnings() const { return m_warnings; }
     /*! \brief What the open display is called in questions: its name, or else that of its file. */
@@ -147,6 +149,7 @@ private:
     QLabel *m_hints;
     WarningBar *m_warnings;
     QMenu *m_recentMenu;
+    TolerancesMenu *m_tolerancesMenu;
     QAction *m_undo;
     QAction *m_redo;
     QPointer<GamutsDialog> m_gamuts;

@@ -2,44 +2,10 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
-    <name>gamutfiles</name>
-    <message>
-        <source>cannot be read: %1</source>
-        <translation>无法读取：%1</translation>
-    </message>
-    <message>
-        <source>is a folder</source>
-        <translation>是一个文件夹</translation>
-    </message>
-    <message>
-        <source>is larger than %1 KiB</source>
-        <translation>大于 %1 KiB</translation>
-    </message>
-</context>
-<context>
-    <name>gamutfiles::CsvTable</name>
-    <message>
-        <source>is not UTF-8 text</source>
-        <translation>不是 UTF-8 文本</translation>
-    </message>
-    <message>
-        <source>line %1: unterminated quote</source>
-        <translation>第 %1 行：引号没有闭合</translation>
-    </message>
-</context>
-<context>
     <name>gamutfiles::DescriptionReader</name>
     <message>
         <source>is too large for a display description (more than %1 KiB)</source>
         <translation>对显示屏描述来说过大（大于 %1 KiB）</translation>
-    </message>
-    <message>
-        <source>is empty</source>
-        <translation>是空的</translation>
-    </message>
-    <message>
-        <source>only version %1 is supported</source>
-        <translation>只支持版本 %1</translation>
     </message>
     <message>
         <source>there is already a gamut named %1</source>
@@ -68,46 +34,6 @@
     <message>
         <source>x + y must not exceed 1</source>
         <translation>x + y 不能大于 1</translation>
-    </message>
-    <message>
-        <source>unknown key</source>
-        <translation>未知的键</translation>
-    </message>
-    <message>
-        <source>missing</source>
-        <translation>缺失</translation>
-    </message>
-    <message>
-        <source>a boolean</source>
-        <translation>布尔值</translation>
-    </message>
-    <message>
-        <source>a number</source>
-        <translation>数字</translation>
-    </message>
-    <message>
-        <source>a string</source>
-        <translation>字符串</translation>
-    </message>
-    <message>
-        <source>an array</source>
-        <translation>数组</translation>
-    </message>
-    <message>
-        <source>an object</source>
-        <translation>对象</translation>
-    </message>
-    <message>
-        <source>null</source>
-        <translation>null</translation>
-    </message>
-    <message>
-        <source>expected %1, found %2</source>
-        <translation>应为%1，实为%2</translation>
-    </message>
-    <message>
-        <source>the name must not be empty</source>
-        <translation>名称不能为空</translation>
     </message>
     <message>
         <source>expected &quot;%1&quot; or &quot;%2&quot;</source>
@@ -142,14 +68,25 @@
     </message>
 </context>
 <context>
+    <name>gamutfiles::FileBytes</name>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>是一个文件夹</translation>
+    </message>
+    <message>
+        <source>is larger than %1 KiB</source>
+        <translation>大于 %1 KiB</translation>
+    </message>
+</context>
+<context>
     <name>gamutfiles::GamutFile</name>
     <message>
         <source>is empty</source>
         <translation>是空的</translation>
-    </message>
-    <message>
-        <source>is too large for a measurement list (more than %1 KiB)</source>
-        <translation>对测量列表来说过大（大于 %1 KiB）</translation>
     </message>
     <message>
         <source>is not a display description (JSON), measurement list (CSV), ICC profile or EDID</source>
@@ -215,6 +152,57 @@
     </message>
 </context>
 <context>
+    <name>gamutfiles::JsonReader</name>
+    <message>
+        <source>is empty</source>
+        <translation>是空的</translation>
+    </message>
+    <message>
+        <source>only version %1 is supported</source>
+        <translation>只支持版本 %1</translation>
+    </message>
+    <message>
+        <source>unknown key</source>
+        <translation>未知的键</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>a boolean</source>
+        <translation>布尔值</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>字符串</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>数组</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>应为%1，实为%2</translation>
+    </message>
+    <message>
+        <source>the name must not be empty</source>
+        <translation>名称不能为空</translation>
+    </message>
+</context>
+<context>
     <name>gamutfiles::MeasurementList</name>
     <message>
         <source>the name must not be empty</source>
@@ -245,16 +233,12 @@
         <translation>不是数字：“%1”</translation>
     </message>
     <message>
-        <source>line %1, column %2: %3</source>
-        <translation>第 %1 行，第 %2 列：%3</translation>
-    </message>
-    <message>
         <source>contains no measurements</source>
         <translation>没有测量数据</translation>
     </message>
     <message>
-        <source>line %1: missing column %2</source>
-        <translation>第 %1 行：缺少列 %2</translation>
+        <source>is too large for a measurement list (more than %1 KiB)</source>
+        <translation>对测量列表来说过大（大于 %1 KiB）</translation>
     </message>
 </context>
 <context>
@@ -286,6 +270,41 @@
     <message>
         <source>the white point lies outside the triangle of the primaries</source>
         <translation>白点在三基色三角形之外</translation>
+    </message>
+</context>
+<context>
+    <name>gamutfiles::TolerancesReader</name>
+    <message>
+        <source>is too large for a file of tolerances (more than %1 KiB)</source>
+        <translation>对于容差文件来说过大（超过 %1 KiB）</translation>
+    </message>
+    <message>
+        <source>missing: a coverage differs from diagram to diagram</source>
+        <translation>缺失：覆盖率因色度图而异</translation>
+    </message>
+    <message>
+        <source>there is no coverage</source>
+        <translation>没有覆盖率</translation>
+    </message>
+    <message>
+        <source>has no limit</source>
+        <translation>没有限值</translation>
+    </message>
+    <message>
+        <source>%1 in this diagram is listed twice</source>
+        <translation>此色度图中的 %1 被列出两次</translation>
+    </message>
+    <message>
+        <source>a limit must not be negative</source>
+        <translation>限值不得为负</translation>
+    </message>
+    <message>
+        <source>must not be greater than %1</source>
+        <translation>不得大于 %1</translation>
+    </message>
+    <message>
+        <source>expected %1 or %2</source>
+        <translation>应为 %1 或 %2</translation>
     </message>
 </context>
 </TS>

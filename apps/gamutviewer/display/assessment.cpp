@@ -1,0 +1,618 @@
+// SPDX-License-Identifier: MIT
+#include "display/assessment.h"
+
+#include "display/valuetexts.h"
+
+#include <ceiechart/diagram/whitepoint.h>
+#include <gamutmodel/gamutcoverage.h>
+#include <gamutmodel/nearestinside.h>
+#include <gamutmodel/tolerances.h>
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace gamutviewer {
+
+namespace {
+
+using ceiechart::gamutVertexName;
+using ceiechart::targetAt;
+using Vertex = ceiechart::GamutVertex;
+
+constexpr Vertex primaries[] = {Vertex::Red, Vertex::Green, Vertex::Blue};
+
+struct AssessmentText {
+    Q_DECLARE_TR_FUNCTIONS(gamutviewer::Assessment)
+};
+
+Model::DiagramPoint pointOf(const Model::Target &target)
+{
+    return {target.x, target.y};
+}
+
+Vertex vertexOf(Model::Primary primary)
+{
+    return primary == Model::Primary::Red  ? Vertex::Red
+        : primary == Model::Primary::Green ? Vertex::Green
+                                           : Vertex::Blue;
+}
+
+QString capitalised(QString text)
+{
+    if (!text.isEmpty()) {
+        text[0] = text.at(0).toUpper();
+    }
+    return text;
+}
+
+QString displayName(const KnownDisplay &display)
+{
+    return display.isMeasured ? AssessmentText::tr("measured gamut") : AssessmentText::tr("original");
+}
+
+QString handleName(Vertex vertex)
+{
+    return AssessmentText::tr("handle “%1” of the target").arg(gamutVertexName(vertex));
+}
+
+QString pointText(const Model::DiagramPoint &point)
+{
+    return QStringLiteral("%1, %2").arg(
+        fixedText(point.x, chromaticityDecimals), fixedText(point.y, chromaticityDecimals));
+}
+
+//! Of \a luminance no more than it is, but for rounding, so that what is shown can be reached.
+QString reachableText(double luminance, LuminanceUnit unit)
+{
+    constexpr double rounding = 1e-6;
+    const double step = std::fabs(luminance) < 10.0 ? 1e4 : 10.0;
+    return luminanceText(std::floor(luminance * step + rounding) / step, unit);
+}
+
+QString drivesText(const Model::Drive &drive)
+{
+    QStringList texts;
+    for (const Model::Primary primary : {Model::Primary::Red, Model::Primary::Green, Model::Primary::Blue}) {
+        texts.append(AssessmentText::tr("%1 %2", "primary and its drive: red 71.0 %")
+                         .arg(gamutVertexName(vertexOf(primary)), percent(drive.of(primary))));
+    }
+    return texts.join(AssessmentText::tr(", ", "between drives"));
+}
+
+//! \a value with as many decimals as it takes to tell it from \a limit, at least \a decimals.
+QStringList toldApart(double value, double limit, int decimals)
+{
+    constexpr int most = 9;
+    while (value != limit && decimals < most && fixedText(value, decimals) == fixedText(limit, decimals)) {
+        ++decimals;
+    }
+    return {fixedText(value, decimals), fixedText(limit, decimals)};
+}
+
+double highest(const Model::Drive &drive)
+{
+    return std::max({drive.red, drive.green, drive.blue});
+}
+
+bool compare(LuminanceUnit a, LuminanceUnit b)
+{
+    return a == b && a != LuminanceUnit::NotKnown;
+}
+
+QString unitPhrase(LuminanceUnit unit)
+{
+    switch (unit) {
+    case LuminanceUnit::CandelaPerSquareMetre:
+        return AssessmentText::tr("in cd/m²");
+    case LuminanceUnit::Relative:
+        return AssessmentText::tr("relative");
+    case LuminanceUnit::NotKnown:
+        break;
+    }
+    return AssessmentText::tr("in a unit that is not known");
+}
+
+//! Why luminances of the target and of \a other cannot be compared, and what to do.
+QString incomparableText(LuminanceUnit target, LuminanceUnit other, const QString &otherName)
+{
+    const QString why = AssessmentText::tr("The luminances cannot be compared: those of the target are %1, those of "
+                                           "the %2 %3.")
+                            .arg(unitPhrase(target), otherName, unitPhrase(other));
+    const QString what = other == LuminanceUnit::NotKnown
+        ? AssessmentText::tr("State the unit of the %1 in its file.").arg(otherName)
+        : AssessmentText::tr("Choose the unit of the target beside Y.");
+    return why + QLatin1Char(' ') + what;
+}
+
+//! The gamut with the largest area in u′, v′ that could be the target instead; nothing without one.
+QString otherTarget(const DisplayDescription &description, const Model::Targets &display)
+{
+    QString best;
+    double bestArea = 0.0;
+    for (const DisplayGamut &standard : description.allStandards()) {
+        const QString name = QString::fromStdString(standard.colorGamutName());
+        const double area = Model::gamutArea(standard.getTargets(), Model::Diagram::Cie1976);
+        if (name != description.target && area > bestArea
+            && !Model::primariesOutside(standard.getTargets(), display).any()) {
+            best = name;
+            bestArea = area;
+        }
+    }
+    return best;
+}
+
+/*! \brief Makes the lines of an assessment. */
+class Assessor {
+public:
+    Assessor(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+        : m_description(description)
+        , m_tolerances(tolerances)
+        , m_target(description.gamut(description.target))
+        , m_measured(description.gamut(description.measured))
+    {
+        m_result.display = knownDisplay(description);
+    }
+
+    Assessment result()
+    {
+        judgeDisplay();
+        if (m_tolerances) {
+            judgeTolerances();
+        }
+        return m_result;
+    }
+
+private:
+    using Subject = AssessmentLine::Subject;
+
+    void add(Subject subject, Judgement judgement, const QString &text)
+    {
+        m_result.lines.append({subject, judgement, text, std::nullopt, QString()});
+    }
+    void add(Subject subject, Judgement judgement, const QString &text, Vertex vertex, const QString &mark)
+    {
+        m_result.lines.append({subject, judgement, text, vertex, mark});
+    }
+
+    void judgeDisplay()
+    {
+        if (!m_target) {
+            add(Subject::Target, Judgement::NotKnown,
+                AssessmentText::tr(
+                    "What the display is to show is not known: nobody has chosen a target. Choose one, or edit the "
+                    "default."));
+        }
+        if (!m_result.display) {
+            add(Subject::Display, Judgement::NotKnown,
+                AssessmentText::tr(
+                    "What the display can show is not known: there is neither an original nor a measured gamut. Open a "
+                    "measurement of its primaries, or choose its original."));
+        }
+        if (!m_target || !m_result.display) {
+            return;
+        }
+        const Model::Targets &display = m_result.display->gamut.getTargets();
+        if (!Model::spanTriangle(display)) {
+            add(Subject::Display, Judgement::NotKnown,
+                AssessmentText::tr("What the display can show is not known: the primaries of the %1 span no triangle.")
+                    .arg(displayName(*m_result.display)));
+            return;
+        }
+        judgeGamut();
+        judgeLuminance();
+    }
+
+    void judgeGamut()
+    {
+        const Model::Targets &target = m_target->getTargets();
+        const Model::Targets &display = m_result.display->gamut.getTargets();
+        const QString other = otherTarget(m_description, display);
+        bool isInside = true;
+        for (const Vertex primary : primaries) {
+            const double distance = distanceOutside(target, primary, display);
+            if (distance > 0.0) {
+                isInside = false;
+                addOutside(primary, distance, other);
+            }
+        }
+        const Model::DisplayDrive drive(display);
+        if (drive.fault() == Model::DisplayFault::None && !drive.largestLuminance(pointOf(target.white))
+            && Model::nearestInside(display, pointOf(target.white), chromaticityDecimals)) {
+            const auto nearest = Model::nearestInside(display, pointOf(target.white), chromaticityDecimals);
+            if (nearest->distance > 0.0) {
+                isInside = false;
+                addOutside(Vertex::White, nearest->distance, other);
+            }
+        }
+        if (isInside) {
+            add(Subject::Gamut, Judgement::Pass,
+                AssessmentText::tr("All primaries and the white lie inside of the %1.")
+                    .arg(displayName(*m_result.display)));
+        }
+    }
+
+    void addOutside(Vertex vertex, double distance, const QString &other)
+    {
+        const Model::Target &color = targetAt(m_target->getTargets(), vertex);
+        const auto nearest
+            = Model::nearestInside(m_result.display->gamut.getTargets(), pointOf(color), chromaticityDecimals);
+        const QString what
+            = AssessmentText::tr("%1 lies outside of the %2 by Δu′v′ %3")
+                  .arg(capitalised(gamutVertexName(vertex)), displayName(*m_result.display), fixedText(distance, 4));
+        const QString move = nearest ? AssessmentText::tr("move it to %1").arg(pointText(nearest->xy)) : QString();
+        const QString choose = other.isEmpty()
+            ? QString()
+            : AssessmentText::tr("choose %1 as the target, which lies inside").arg(oneLine(other));
+        QString text = what;
+        if (!move.isEmpty() || !choose.isEmpty()) {
+            const QString either = move.isEmpty() ? choose
+                : choose.isEmpty()                ? move
+                                                  : AssessmentText::tr("%1, or %2").arg(move, choose);
+            text = AssessmentText::tr("%1: %2", "what is wrong and what to do").arg(what, either);
+        }
+        add(Subject::Gamut, Judgement::Fail, AssessmentText::tr("%1.", "a sentence").arg(text), vertex,
+            handleName(vertex));
+    }
+
+    void judgeLuminance()
+    {
+        const KnownDisplay &display = *m_result.display;
+        const QString name = displayName(display);
+        const Model::DisplayDrive displayDrive(display.gamut.getTargets());
+        if (displayDrive.fault() != Model::DisplayFault::None) {
+            addFault(displayDrive);
+            return;
+        }
+        const Model::Target &white = m_target->getTargets().white;
+        m_result.largestWhite = displayDrive.largestLuminance(pointOf(white));
+        m_result.luminancesCompare = compare(m_target->unit, display.gamut.unit);
+        if (!m_result.luminancesCompare) {
+            QString text = incomparableText(m_target->unit, display.gamut.unit, name);
+            if (m_result.largestWhite) {
+                text += QLatin1Char(' ')
+                    + AssessmentText::tr("At this white the %1 reaches %2.")
+                          .arg(name, reachableText(m_result.largestWhite->luminance, display.gamut.unit));
+            }
+            add(Subject::Luminance, Judgement::NotKnown, text, Vertex::White, handleName(Vertex::White));
+            return;
+        }
+        m_result.drive = displayDrive.driveFor(m_target->getTargets());
+        if (!m_result.drive || !(white.Y > 0.0)) {
+            add(Subject::Luminance, Judgement::NotKnown,
+                AssessmentText::tr("The luminance of the target is not known: its white has none. Enter it beside Y."),
+                Vertex::White, handleName(Vertex::White));
+            return;
+        }
+        if (!m_result.largestWhite) {
+            add(Subject::Luminance, Judgement::NotKnown,
+                AssessmentText::tr("The drive of the %1 is not known: the white lies outside of it.").arg(name),
+                Vertex::White, handleName(Vertex::White));
+            return;
+        }
+        judgeWhiteLuminance(white);
+        judgePrimaryLuminances();
+    }
+
+    void addFault(const Model::DisplayDrive &drive)
+    {
+        const QString name = displayName(*m_result.display);
+        const auto primary = drive.faultyPrimary();
+        const QString text = drive.fault() == Model::DisplayFault::NoLight && primary
+            ? AssessmentText::tr("What luminance the display reaches is not known: %1 of the %2 has no luminance.")
+                  .arg(gamutVertexName(vertexOf(*primary)), name)
+            : AssessmentText::tr("What luminance the display reaches is not known: the primaries of the %1 cannot be "
+                                 "told apart.")
+                  .arg(name);
+        add(Subject::Luminance, Judgement::NotKnown, text);
+    }
+
+    void judgeWhiteLuminance(const Model::Target &white)
+    {
+        const QString name = displayName(*m_result.display);
+        const LuminanceUnit unit = m_target->unit;
+        const Model::Drive &drive = m_result.drive->white;
+        const double reached = m_result.largestWhite->luminance;
+        if (highest(drive) <= fullDrive) {
+            add(Subject::Luminance, Judgement::Pass,
+                AssessmentText::tr("The white of %1 needs of the %2: %3. It reaches %4 at this white (headroom %5).")
+                    .arg(luminanceText(white.Y, unit), name, drivesText(drive), reachableText(reached, unit),
+                        fixedText(reached / white.Y, 2)),
+                Vertex::White, handleName(Vertex::White));
+            return;
+        }
+        add(Subject::Luminance, Judgement::Fail,
+            AssessmentText::tr("The target is too bright: the %1 reaches %2 at this white, and the target has %3. It "
+                               "would need %4. Lower the luminance of the white to %2.")
+                .arg(name, reachableText(reached, unit), luminanceText(white.Y, unit), drivesText(drive)),
+            Vertex::White, handleName(Vertex::White));
+    }
+
+    //! They follow from the white, unless a file has luminances that do not mix to it.
+    void judgePrimaryLuminances()
+    {
+        const Model::Drive drives[] = {m_result.drive->red, m_result.drive->green, m_result.drive->blue};
+        for (const Vertex primary : primaries) {
+            const Model::Drive &drive = drives[int(primary)];
+            const bool isShownAtAll
+                = distanceOutside(m_target->getTargets(), primary, m_result.display->gamut.getTargets()) == 0.0;
+            if (!isShownAtAll || highest(drive) <= fullDrive || highest(m_result.drive->white) > fullDrive) {
+                continue;
+            }
+            const double luminance = targetAt(m_target->getTargets(), primary).Y;
+            add(Subject::Luminance, Judgement::Fail,
+                AssessmentText::tr("The luminance %1 of %2 is more than the %3 reaches: %4. Lower it to that.")
+                    .arg(luminanceText(luminance, m_target->unit), gamutVertexName(primary),
+                        displayName(*m_result.display), reachableText(luminance / highest(drive), m_target->unit)),
+                primary, handleName(primary));
+        }
+    }
+
+    void judgeTolerances()
+    {
+        const Model::Tolerances &limits = m_tolerances->limits;
+        Model::DeviationValues values;
+        if (m_measured && m_target) {
+            const bool isSame = compare(m_measured->unit, m_target->unit);
+            values = Model::deviations(m_measured->getTargets(), m_target->getTargets(),
+                isSame ? Model::LuminanceUnits::Same : Model::LuminanceUnits::Different, m_tolerances->coverageDiagram);
+            const Model::Target &is = m_measured->getTargets().white;
+            const Model::Target &should = m_target->getTargets().white;
+            const auto temperature = ceiechart::colorTemperature(ceiechart::xyOf(is));
+            const auto wanted = ceiechart::colorTemperature(ceiechart::xyOf(should));
+            if (temperature && wanted) {
+                values.temperature = temperature->kelvin - wanted->kelvin;
+            }
+        }
+        for (const Model::ToleranceResult &result : Model::judged(values, limits)) {
+            addResult(result);
+        }
+        for (const StandardCoverage &limit : m_tolerances->standards) {
+            judgeStandard(limit);
+        }
+    }
+
+    static Judgement judgementOf(Model::ToleranceVerdict verdict)
+    {
+        return verdict == Model::ToleranceVerdict::Passed ? Judgement::Pass
+            : verdict == Model::ToleranceVerdict::Failed  ? Judgement::Fail
+                                                          : Judgement::NotKnown;
+    }
+
+    //! Why a deviation is not known.
+    QString notKnownText(Model::ToleranceSubject subject) const
+    {
+        if (!m_measured) {
+            return AssessmentText::tr("nothing is measured. Open a measurement of red, green, blue and white.");
+        }
+        if (!m_target) {
+            return AssessmentText::tr("there is no target. Choose one.");
+        }
+        if (subject == Model::ToleranceSubject::Luminance && !compare(m_measured->unit, m_target->unit)) {
+            return incomparableText(m_target->unit, m_measured->unit, AssessmentText::tr("measured gamut"));
+        }
+        if (subject == Model::ToleranceSubject::Temperature) {
+            return AssessmentText::tr("one of the whites has no colour temperature.");
+        }
+        return AssessmentText::tr("a colour has no chromaticity or no luminance.");
+    }
+
+    void addResult(const Model::ToleranceResult &result)
+    {
+        using ToleranceSubject = Model::ToleranceSubject;
+        const auto vertex = [&]() -> std::optional<Vertex> {
+            switch (result.subject) {
+            case ToleranceSubject::RedUv:
+                return Vertex::Red;
+            case ToleranceSubject::GreenUv:
+                return Vertex::Green;
+            case ToleranceSubject::BlueUv:
+                return Vertex::Blue;
+            case ToleranceSubject::Coverage:
+                return std::nullopt;
+            case ToleranceSubject::WhiteUv:
+            case ToleranceSubject::Luminance:
+            case ToleranceSubject::Temperature:
+                break;
+            }
+            return Vertex::White;
+        }();
+        const bool isColor = vertex && result.subject != ToleranceSubject::Luminance
+            && result.subject != ToleranceSubject::Temperature;
+        const QString what = isColor ? AssessmentText::tr("Measured %1").arg(gamutVertexName(*vertex))
+            : result.subject == ToleranceSubject::Luminance ? AssessmentText::tr("Measured luminance of the white")
+            : result.subject == ToleranceSubject::Temperature
+            ? AssessmentText::tr("Measured colour temperature of the white")
+            : AssessmentText::tr("Coverage of the target");
+        const QString is = result.value && result.verdict != Model::ToleranceVerdict::NotKnown
+            ? deviationText(result)
+            : AssessmentText::tr("not known, as %1").arg(notKnownText(result.subject));
+        QString text = AssessmentText::tr("%1: %2", "what was judged and the judgement").arg(what, is);
+        if (result.verdict == Model::ToleranceVerdict::Failed) {
+            text += QLatin1Char(' ')
+                + (isColor ? AssessmentText::tr("Calibrate the display, or move %1 of the target.")
+                                 .arg(gamutVertexName(*vertex))
+                           : AssessmentText::tr("Calibrate the display, or change the target."));
+        }
+        const Judgement judgement = judgementOf(result.verdict);
+        if (!vertex) {
+            add(Subject::Tolerance, judgement, text);
+        } else {
+            add(Subject::Tolerance, judgement, text, *vertex,
+                isColor ? AssessmentText::tr("ring around %1 of the target").arg(gamutVertexName(*vertex))
+                        : handleName(*vertex));
+        }
+    }
+
+    static QString deviationText(const Model::ToleranceResult &result)
+    {
+        const double value = *result.value;
+        switch (result.subject) {
+        case Model::ToleranceSubject::Luminance: {
+            const QStringList texts = toldApart(std::fabs(value) * 100.0, result.limit * 100.0, 1);
+            return AssessmentText::tr("%1%2 % from the target, limit ±%3 %.")
+                .arg(value < 0.0 ? QStringLiteral("-") : QStringLiteral("+"), texts.at(0), texts.at(1));
+        }
+        case Model::ToleranceSubject::Temperature: {
+            const QStringList texts = toldApart(std::fabs(value), result.limit, 0);
+            return AssessmentText::tr("%1%2 K from the target, limit ±%3 K.")
+                .arg(value < 0.0 ? QStringLiteral("-") : QStringLiteral("+"), texts.at(0), texts.at(1));
+        }
+        case Model::ToleranceSubject::Coverage: {
+            const QStringList texts = toldApart(value * 100.0, result.limit * 100.0, 1);
+            return AssessmentText::tr("%1 %, at least %2 %.").arg(texts.at(0), texts.at(1));
+        }
+        case Model::ToleranceSubject::WhiteUv:
+        case Model::ToleranceSubject::RedUv:
+        case Model::ToleranceSubject::GreenUv:
+        case Model::ToleranceSubject::BlueUv:
+            break;
+        }
+        const QStringList texts = toldApart(value, result.limit, 4);
+        return AssessmentText::tr("Δu′v′ %1 from the target, limit %2.").arg(texts.at(0), texts.at(1));
+    }
+
+    void judgeStandard(const StandardCoverage &limit)
+    {
+        const auto standard = m_description.gamut(limit.standard);
+        const QString diagram
+            = limit.diagram == Model::Diagram::Cie1931 ? AssessmentText::tr("x, y") : AssessmentText::tr("u′, v′");
+        const QString what
+            = AssessmentText::tr("Coverage of %1 in %2 by the measured gamut").arg(oneLine(limit.standard), diagram);
+        if (!standard || !m_measured) {
+            const QString why = standard
+                ? AssessmentText::tr("nothing is measured. Open a measurement of red, green, blue and white.")
+                : AssessmentText::tr("there is no gamut of that name.");
+            add(Subject::Tolerance, Judgement::NotKnown,
+                AssessmentText::tr("%1: %2", "what was judged and the judgement")
+                    .arg(what, AssessmentText::tr("not known, as %1").arg(why)));
+            return;
+        }
+        Model::DeviationValues values;
+        values.coverage = Model::deviations(
+            m_measured->getTargets(), standard->getTargets(), Model::LuminanceUnits::Different, limit.diagram)
+                              .coverage;
+        Model::Tolerances limits;
+        limits.coverage = limit.coverage;
+        const Model::ToleranceResult result = Model::judged(values, limits).front();
+        const QString is = result.verdict == Model::ToleranceVerdict::NotKnown
+            ? AssessmentText::tr("not known, as %1")
+                  .arg(AssessmentText::tr("a colour has no chromaticity or no luminance."))
+            : deviationText(result);
+        add(Subject::Tolerance, judgementOf(result.verdict),
+            AssessmentText::tr("%1: %2", "what was judged and the judgement").arg(what, is));
+    }
+
+    const DisplayDescription &m_description;
+    const std::optional<Tolerances> &m_tolerances;
+    const std::optional<DisplayGamut> m_target;
+    const std::optional<DisplayGamut> m_measured;
+    Assessment m_result;
+};
+
+Judgement worst(const QVector<AssessmentLine> &lines, bool ofTolerances)
+{
+    Judgement found = Judgement::Pass;
+    for (const AssessmentLine &line : lines) {
+        if ((line.subject == AssessmentLine::Subject::Tolerance) != ofTolerances) {
+            continue;
+        }
+        if (line.judgement == Judgement::Fail) {
+            return Judgement::Fail;
+        }
+        if (line.judgement == Judgement::NotKnown) {
+            found = Judgement::NotKnown;
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+QString judgementMark(Judgement judgement)
+{
+    switch (judgement) {
+    case Judgement::Pass:
+        return QStringLiteral("✓");
+    case Judgement::Fail:
+        return QStringLiteral("✗");
+    case Judgement::NotKnown:
+        break;
+    }
+    return QStringLiteral("?");
+}
+
+QString judgementName(Judgement judgement)
+{
+    switch (judgement) {
+    case Judgement::Pass:
+        return QStringLiteral("pass");
+    case Judgement::Fail:
+        return QStringLiteral("fail");
+    case Judgement::NotKnown:
+        break;
+    }
+    return QStringLiteral("not known");
+}
+
+std::optional<KnownDisplay> knownDisplay(const DisplayDescription &description)
+{
+    if (const auto original = description.gamut(description.original)) {
+        return KnownDisplay{*original, false};
+    }
+    if (const auto measured = description.gamut(description.measured)) {
+        return KnownDisplay{*measured, true};
+    }
+    return std::nullopt;
+}
+
+double distanceOutside(const Model::Targets &target, Vertex primary, const Model::Targets &display)
+{
+    const Model::PrimariesOutside outside = Model::primariesOutside(target, display);
+    const bool isOutside = primary == Vertex::Red ? outside.red
+        : primary == Vertex::Green                ? outside.green
+        : primary == Vertex::Blue                 ? outside.blue
+                                                  : false;
+    if (!isOutside) {
+        return 0.0;
+    }
+    const auto nearest = Model::nearestInside(display, pointOf(targetAt(target, primary)), chromaticityDecimals);
+    return nearest ? nearest->distance : std::numeric_limits<double>::infinity();
+}
+
+Judgement Assessment::judgement() const
+{
+    const Judgement display = worst(lines, false);
+    const Judgement tolerances = worst(lines, true);
+    return display == Judgement::Fail || tolerances == Judgement::Fail ? Judgement::Fail
+        : display == Judgement::NotKnown                               ? display
+                                                                       : tolerances;
+}
+
+QString Assessment::headline() const
+{
+    const bool hasTolerances = std::any_of(lines.begin(), lines.end(),
+        [](const AssessmentLine &line) { return line.subject == AssessmentLine::Subject::Tolerance; });
+    switch (judgement()) {
+    case Judgement::Pass:
+        return hasTolerances ? AssessmentText::tr("The display shows the target within tolerance")
+                             : AssessmentText::tr("The display can show the target");
+    case Judgement::Fail:
+        return worst(lines, false) == Judgement::Fail ? AssessmentText::tr("The display cannot show the target")
+                                                      : AssessmentText::tr("The display is out of tolerance");
+    case Judgement::NotKnown:
+        break;
+    }
+    return worst(lines, false) == Judgement::Pass ? AssessmentText::tr("Not known whether it is in tolerance")
+                                                  : AssessmentText::tr("Not known whether it can show the target");
+}
+
+Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+{
+    return Assessor(description, tolerances).result();
+}
+
+} // namespace gamutviewer

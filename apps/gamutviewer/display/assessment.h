@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_ASSESSMENT_H
+#define GAMUTVIEWER_ASSESSMENT_H
+
+#include "display/gamutfiles.h"
+
+#include <ceiechart/diagram/targetrules.h>
+#include <gamutmodel/drive.h>
+
+#include <QString>
+#include <QVector>
+
+#include <optional>
+
+/*!
+ * \file
+ * \brief What can be said of a display and its target, and how sure it is. Panel, report and command line show this.
+ */
+namespace gamutviewer {
+
+/*! \brief A judgement, and whether there is enough to judge by. */
+enum class Judgement {
+    Pass, //!< it holds
+    Fail, //!< it does not hold
+    NotKnown //!< something that it takes is not known
+};
+
+/*! \brief "✓", "✗" or "?". */
+QString judgementMark(Judgement judgement);
+/*! \brief "pass", "fail" or "not known", for programs: not translated. */
+QString judgementName(Judgement judgement);
+
+/*! \brief The gamut that stands for what the display can show. */
+struct KnownDisplay {
+    DisplayGamut gamut;
+    bool isMeasured = false; //!< it is the measured gamut, because there is no original
+};
+
+/*! \brief The original of \a description, or else the measured gamut; nothing when neither is known. */
+std::optional<KnownDisplay> knownDisplay(const DisplayDescription &description);
+
+/*! \brief Drives up to this count as full: the four decimals of a white point leave about 0.001 open. */
+constexpr double fullDrive = 1.002;
+
+/*!
+ * \brief By how much the chromaticity of \a primary lies outside of \a display, in Δu′v′; 0 when it does not.
+ *
+ * It lies outside by the rule of Model::primariesOutside().
+ */
+double distanceOutside(const Model::Targets &target, ceiechart::GamutVertex primary, const Model::Targets &display);
+
+/*! \brief One judgement with what it means and what to do about it. */
+struct AssessmentLine {
+    /*! \brief What is judged. */
+    enum class Subject {
+        Target, //!< whether there is a target to judge
+        Display, //!< whether it is known what the display can show
+        Gamut, //!< whether the display can show the chromaticities of the target
+        Luminance, //!< whether it reaches the luminances of the target
+        Tolerance //!< whether what was measured is within a tolerance
+    };
+
+    Subject subject = Subject::Target;
+    Judgement judgement = Judgement::NotKnown;
+    QString text; //!< sentences, in the language of the interface
+    std::optional<ceiechart::GamutVertex> vertex; //!< whose mark on the diagram shows it
+    QString mark; //!< what that mark is, for people; empty when nothing on the diagram shows it
+};
+
+/*! \brief All judgements of a description. */
+struct Assessment {
+    std::optional<KnownDisplay> display; //!< what the target is held against
+    QVector<AssessmentLine> lines; //!< at least one
+    std::optional<Model::TargetDrive> drive; //!< of the display, for the target; only when the luminances compare
+    std::optional<Model::LargestLuminance> largestWhite; //!< of the target's white, in the unit of the display
+
+    /*! \brief Whether the luminances of display and target can be compared: both in cd/m², or both relative. */
+    bool luminancesCompare = false;
+
+    /*! \brief Fail when a line fails, or else NotKnown when one is not known. */
+    Judgement judgement() const;
+    /*! \brief All in one short sentence: "The display cannot show the target". */
+    QString headline() const;
+};
+
+/*! \brief Judges \a description, and what was measured by \a tolerances where there are any. */
+Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt);
+
+} // namespace gamutviewer
+
+#endif
