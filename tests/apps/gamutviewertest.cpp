@@ -346,7 +346,7 @@ void GamutViewerTest::reportCannotBeWritten()
 
 void GamutViewerTest::opensEveryFormat()
 {
-    write("monitor.bin", samplefiles::edid());
+    write("monitor.bin", samplefiles::plainEdid());
     write("profile.icc", samplefiles::version4Profile());
     write("meter.csv",
         "name,Y (cd/m2),x,y\nred,200,0.7,0.29\ngreen,700,0.2,0.7\nblue,100,0.15,0.05\nwhite,1000,0.28,0.29\n");
@@ -380,7 +380,7 @@ void GamutViewerTest::opensEveryFormat()
 
 void GamutViewerTest::tellsOfMixedDisplays()
 {
-    write("monitor.bin", samplefiles::edid());
+    write("monitor.bin", samplefiles::plainEdid());
     write("wall.json", QByteArray(minimal).replace("{", "{\"name\": \"Wall\", "));
     const Result result = run({"--report", "json", "monitor.bin", "wall.json"});
     QCOMPARE(result.error, QByteArray("gamutviewer: monitor.bin: is of the display \"Studio 27\", not of \"Wall\"\n"));
@@ -402,7 +402,7 @@ void GamutViewerTest::listsThatNeedAChoice()
     const QJsonObject measured = QJsonDocument::fromJson(chosen.output).object().value("measured").toObject();
     QCOMPARE(measured.value("red").toObject().value("x").toDouble(), 0.64);
     QCOMPARE(measured.value("white").toObject().value("Y").toDouble(), 900.0);
-    write("monitor.bin", samplefiles::edid());
+    write("monitor.bin", samplefiles::plainEdid());
     const Result none = run({"--report", "json", "monitor.bin", "--unit", "cd/m2"});
     QCOMPARE(none.error,
         QByteArray("gamutviewer: --red, --green, --blue, --white, --unit and --decimal require a measurement list\n"));

@@ -235,7 +235,7 @@ void OpenedFilesTest::descriptionAddsItsGamuts()
 
 void OpenedFilesTest::declaredGamutAloneIsNothingElse()
 {
-    const auto opened = openFiles({write("a.bin", samplefiles::edid())});
+    const auto opened = openFiles({write("a.bin", samplefiles::plainEdid())});
     QVERIFY2(opened, qPrintable(opened.error()));
     QVERIFY(opened->descriptionFile.isEmpty());
     const DisplayDescription &description = opened->description;
@@ -263,7 +263,7 @@ void OpenedFilesTest::measurementsAloneAreNothingElse()
 void OpenedFilesTest::filesTogether()
 {
     const QString json = write("wall.json", minimal);
-    const QStringList names{write("a.bin", samplefiles::edid()), json, write("meter.csv", list)};
+    const QStringList names{write("a.bin", samplefiles::plainEdid()), json, write("meter.csv", list)};
     const auto opened = openFiles(names);
     QVERIFY2(opened, qPrintable(opened.error()));
     QCOMPARE(opened->descriptionFile, json);
@@ -311,7 +311,7 @@ void OpenedFilesTest::displaysAreNotMixedInSilence()
 
 void OpenedFilesTest::replacedPartsAreTold()
 {
-    const QString first = write("a.bin", samplefiles::edid());
+    const QString first = write("a.bin", samplefiles::plainEdid());
     const QString second = write(
         "b.icc", samplefiles::version2Profile([](cmsHPROFILE profile) { samplefiles::describe(profile, L"Desk 24"); }));
     const QString meter = write("meter.csv", list);

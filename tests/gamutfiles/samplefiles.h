@@ -108,6 +108,12 @@ inline QByteArray displayIdParameters(
     return payload + '\x02' + gamma;
 }
 
+/*! \brief The same with a red of its own, 627, 338 in 1024ths, so that nothing is odd about it. */
+inline QByteArray plainEdid()
+{
+    return withChecksum(edid().replace(27, 1, QByteArray("\x9C", 1)));
+}
+
 using EditProfile = std::function<void(cmsHPROFILE)>;
 
 inline QByteArray saved(cmsHPROFILE profile)
