@@ -51,15 +51,17 @@ std::vector<Model::DiagramPoint> locus()
 double distanceFromLight(const Model::DiagramPoint &xy)
 {
     static const std::vector<Model::DiagramPoint> points = locus();
-    // The locus is convex but for rounding, so that a colour outside is right of some side.
     double distance = std::numeric_limits<double>::infinity();
-    bool isInside = true;
+    bool isInside = false;
     for (std::size_t i = 0; i < points.size(); ++i) {
         const Model::DiagramPoint &from = points[i];
         const Model::DiagramPoint &to = points[(i + 1) % points.size()];
         const Model::DiagramPoint side{to.x - from.x, to.y - from.y};
         const Model::DiagramPoint offset{xy.x - from.x, xy.y - from.y};
-        isInside = isInside && side.x * offset.y - side.y * offset.x >= 0.0;
+        // By crossings of a ray to the right: the tabulated locus is not quite convex at its red end.
+        if ((from.y > xy.y) != (to.y > xy.y) && offset.x < side.x * offset.y / side.y) {
+            isInside = !isInside;
+        }
         const double length = side.x * side.x + side.y * side.y;
         const double share
             = length > 0.0 ? std::clamp((side.x * offset.x + side.y * offset.y) / length, 0.0, 1.0) : 0.0;

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void copiedStandards_data();
     void copiedStandards();
     void primaryThatNoLightHas();
+    void primariesWithinTheLocus();
     void contradictions();
     void hexDumps_data();
     void hexDumps();
@@ -459,6 +460,15 @@ void EdidFileTest::primaryThatNoLightHas()
         QStringLiteral(
             "the blue primary at 0.0996, 0.0195 lies outside of the spectral locus by 0.0411 in x, y: no light "
             "has this colour"));
+}
+
+// Red 700, 315: the table's last steps before the red end turn this way and that by rounding.
+void EdidFileTest::primariesWithinTheLocus()
+{
+    const auto gamut = readEdid(samplefiles::edidOf(QByteArray("\x38\x81\xAF\x4E\x3E\xAF\x25\x0F\x50\x54", 10)));
+    QVERIFY2(gamut, qPrintable(gamut.error()));
+    QVERIFY(isExactly(gamut->getTargets().red, 700, 315));
+    QCOMPARE(messages(gamut.warnings()).join('\n'), QString());
 }
 
 void EdidFileTest::contradictions()
