@@ -100,6 +100,11 @@
         <source>Tab goes from handle to handle, arrow keys move them, plus and minus zoom.</source>
         <translation>Tab goes from handle to handle, arrow keys move them, plus and minus zoom.</translation>
     </message>
+    <message>
+        <source>not known</source>
+        <comment>coordinates</comment>
+        <translation>not known</translation>
+    </message>
 </context>
 <context>
     <name>ceiechart::GamutRole</name>

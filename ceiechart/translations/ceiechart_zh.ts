@@ -100,6 +100,11 @@
         <source>Tab goes from handle to handle, arrow keys move them, plus and minus zoom.</source>
         <translation>Tab 键切换控制点，方向键移动，加号和减号缩放。</translation>
     </message>
+    <message>
+        <source>not known</source>
+        <comment>coordinates</comment>
+        <translation>未知</translation>
+    </message>
 </context>
 <context>
     <name>ceiechart::GamutRole</name>

@@ -39,6 +39,18 @@
         <source>expected &quot;%1&quot; or &quot;%2&quot;</source>
         <translation>应为“%1”或“%2”</translation>
     </message>
+    <message>
+        <source>luminance must not be positive where y is negative</source>
+        <translation>y 为负时亮度不能为正</translation>
+    </message>
+    <message>
+        <source>no display can show %1: it has primaries with x &lt; 0, y &lt;= 0 or x + y &gt; 1</source>
+        <translation>没有显示屏能显示 %1：其中有基色的 x &lt; 0、y &lt;= 0 或 x + y &gt; 1</translation>
+    </message>
+    <message>
+        <source>x and y must be from -1 to 2, y not 0 and -2x + 12y + 3 greater than 0</source>
+        <translation>x 和 y 必须在 -1 到 2 之间，y 不能为 0，且 -2x + 12y + 3 必须大于 0</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Edid</name>
@@ -66,6 +78,106 @@
         <source>is an EDID without usable primaries: %1</source>
         <translation>EDID 中没有可用的基色：%1</translation>
     </message>
+    <message>
+        <source>red</source>
+        <translation>红</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>绿</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>蓝</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>白</translation>
+    </message>
+    <message>
+        <source>the base block states another gamut than the DisplayID extension: %1 at %2, %3 instead of %4, %5; that of the base block is used</source>
+        <translation>基本块声明的色域与 DisplayID 扩展不同：%1位于 %2, %3，而不是 %4, %5；采用基本块的色域</translation>
+    </message>
+    <message>
+        <source>the EDID states exactly %1: many makers write this without measuring</source>
+        <translation>EDID 声明的正是 %1：许多制造商未经测量就写入此值</translation>
+    </message>
+    <message>
+        <source>, and this display also takes signals of a wider gamut (%1)</source>
+        <translation>，而且此显示屏还接受更宽色域的信号（%1）</translation>
+    </message>
+    <message>
+        <source>holds no EDID</source>
+        <translation>其中没有 EDID</translation>
+    </message>
+    <message>
+        <source>holds %1 EDIDs, of which only the first is read</source>
+        <translation>包含 %1 个 EDID，只读取第一个</translation>
+    </message>
+    <message>
+        <source>is missing, number of extension blocks announced: %1</source>
+        <translation>缺失，声明的扩展块数：%1</translation>
+    </message>
+    <message>
+        <source>is truncated: %1 bytes instead of %2</source>
+        <translation>不完整：%2 字节中只有 %1 字节</translation>
+    </message>
+    <message>
+        <source>is damaged, and not read: its checksum is wrong</source>
+        <translation>已损坏，未读取：校验和错误</translation>
+    </message>
+    <message>
+        <source>is not read, number of extension blocks announced: %1</source>
+        <translation>未读取，声明的扩展块数：%1</translation>
+    </message>
+    <message>
+        <source>the data blocks end at byte %1, which is not inside of the block</source>
+        <translation>数据块结束于字节 %1，不在扩展块之内</translation>
+    </message>
+    <message>
+        <source>the data block has %1 bytes, of which only %2 lie before the end</source>
+        <translation>数据块有 %1 字节，其中只有 %2 字节在结束位置之前</translation>
+    </message>
+    <message>
+        <source>colorimetry data block</source>
+        <translation>色度数据块</translation>
+    </message>
+    <message>
+        <source>HDR static metadata data block</source>
+        <translation>HDR 静态元数据数据块</translation>
+    </message>
+    <message>
+        <source>the HDR metadata state an average of a frame above its maximum: %1 and %2 cd/m²</source>
+        <translation>HDR 元数据中的帧平均亮度高于最大亮度：%1 和 %2 cd/m²</translation>
+    </message>
+    <message>
+        <source>the DisplayID section has %1 bytes, which is more than its block</source>
+        <translation>DisplayID 区段有 %1 字节，超出其所在的块</translation>
+    </message>
+    <message>
+        <source>is damaged, and not read: the checksum of the DisplayID section is wrong</source>
+        <translation>已损坏，未读取：DisplayID 区段的校验和错误</translation>
+    </message>
+    <message>
+        <source>display parameters data block</source>
+        <translation>显示参数数据块</translation>
+    </message>
+    <message>
+        <source>color characteristics data block</source>
+        <translation>颜色特性数据块</translation>
+    </message>
+    <message>
+        <source>the %1 has %2 bytes instead of at least %3</source>
+        <translation>%1只有 %2 字节，至少应有 %3 字节</translation>
+    </message>
+    <message>
+        <source>extension block %1</source>
+        <translation>扩展块 %1</translation>
+    </message>
+    <message>
+        <source>extension block %1, byte %2</source>
+        <translation>扩展块 %1，字节 %2</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::FileBytes</name>
@@ -81,6 +193,42 @@
         <source>is larger than %1 KiB</source>
         <translation>大于 %1 KiB</translation>
     </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>没有此文件</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>无法打开</translation>
+    </message>
+    <message>
+        <source>permission denied</source>
+        <translation>没有权限</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是一个文件夹</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>没有此文件夹</translation>
+    </message>
+    <message>
+        <source>writing failed; the disk may be full</source>
+        <translation>写入失败；磁盘可能已满</translation>
+    </message>
+    <message>
+        <source>it is a pipe, which may never end; its content is read from standard input, named -</source>
+        <translation>这是一个管道，可能永不结束；其内容可从标准输入读取，文件名写为 -</translation>
+    </message>
+    <message>
+        <source>reading fails after %1 bytes</source>
+        <translation>读取 %1 字节后失败</translation>
+    </message>
+    <message>
+        <source>it is a pipe from which no program reads</source>
+        <translation>这是一个管道，没有程序从中读取</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::GamutFile</name>
@@ -91,6 +239,86 @@
     <message>
         <source>is not a display description (JSON), measurement list (CSV), ICC profile or EDID</source>
         <translation>不是显示屏描述（JSON）、测量列表（CSV）、ICC 特性文件或 EDID</translation>
+    </message>
+    <message>
+        <source>%1 cd/m²</source>
+        <translation>%1 cd/m²</translation>
+    </message>
+    <message>
+        <source>manufacturer</source>
+        <translation>制造商</translation>
+    </message>
+    <message>
+        <source>year of manufacture</source>
+        <translation>制造年份</translation>
+    </message>
+    <message>
+        <source>year of the model</source>
+        <translation>型号年份</translation>
+    </message>
+    <message>
+        <source>gamma</source>
+        <translation>伽马</translation>
+    </message>
+    <message>
+        <source>luminance of a white screen</source>
+        <translation>全屏白色的亮度</translation>
+    </message>
+    <message>
+        <source>luminance of white on 10 % of the screen</source>
+        <translation>屏幕 10 % 面积为白色时的亮度</translation>
+    </message>
+    <message>
+        <source>luminance of black</source>
+        <translation>黑色的亮度</translation>
+    </message>
+    <message>
+        <source>these luminances are</source>
+        <translation>以上亮度为</translation>
+    </message>
+    <message>
+        <source>guaranteed</source>
+        <translation>保证值</translation>
+    </message>
+    <message>
+        <source>guidance for the source</source>
+        <translation>供信号源参考的值</translation>
+    </message>
+    <message>
+        <source>desired maximum luminance of content</source>
+        <translation>期望的内容最大亮度</translation>
+    </message>
+    <message>
+        <source>desired maximum average of a frame</source>
+        <translation>期望的最大帧平均亮度</translation>
+    </message>
+    <message>
+        <source>desired minimum luminance of content</source>
+        <translation>期望的内容最小亮度</translation>
+    </message>
+    <message>
+        <source>takes signals of</source>
+        <translation>接受的信号</translation>
+    </message>
+    <message>
+        <source>takes transfer functions</source>
+        <translation>接受的传递函数</translation>
+    </message>
+    <message>
+        <source>luminance of white</source>
+        <translation>白色的亮度</translation>
+    </message>
+    <message>
+        <source>calibration curves</source>
+        <translation>校准曲线</translation>
+    </message>
+    <message>
+        <source>in the profile; its gamut holds while they are loaded</source>
+        <translation>包含在特性文件中；仅在加载校准曲线时，其色域才成立</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
     </message>
 </context>
 <context>
@@ -142,6 +370,18 @@
     <message>
         <source>is an ICC profile without usable primaries: %1</source>
         <translation>ICC 特性文件中没有可用的基色：%1</translation>
+    </message>
+    <message>
+        <source>the profile says that it was made from an EDID, not from a measurement</source>
+        <translation>特性文件注明其由 EDID 生成，而非来自测量</translation>
+    </message>
+    <message>
+        <source>the profile says that it was made from a standard, not from a measurement</source>
+        <translation>特性文件注明其由标准生成，而非来自测量</translation>
+    </message>
+    <message>
+        <source>the name of the profile cannot be read</source>
+        <translation>无法读取特性文件的名称</translation>
     </message>
 </context>
 <context>
@@ -240,6 +480,256 @@
         <source>is too large for a measurement list (more than %1 KiB)</source>
         <translation>对测量列表来说过大（大于 %1 KiB）</translation>
     </message>
+    <message>
+        <source>the decimal sign must be a point or a comma</source>
+        <translation>小数符号必须是小数点或逗号</translation>
+    </message>
+    <message>
+        <source>unterminated quote</source>
+        <translation>引号未闭合</translation>
+    </message>
+    <message>
+        <source>columns %1 and %2 are both %3: column %1 is read</source>
+        <translation>第 %1 列和第 %2 列都是 %3：读取第 %1 列</translation>
+    </message>
+    <message>
+        <source>missing column %1</source>
+        <translation>缺少列 %1</translation>
+    </message>
+    <message>
+        <source>no column names the measurements: choose the lines of red, green, blue and white</source>
+        <translation>没有给出测量名称的列：请选择红、绿、蓝、白所在的行</translation>
+    </message>
+    <message>
+        <source>the unit of the luminances is not stated</source>
+        <translation>未注明亮度的单位</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is not known: the luminances are read as numbers of an unknown unit</source>
+        <translation>单位“%1”未知：亮度按单位未知的数值读取</translation>
+    </message>
+    <message>
+        <source>the luminances are converted from foot-lamberts to cd/m²</source>
+        <translation>亮度已从英尺朗伯换算为 cd/m²</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a decimal comma, but &quot;%2&quot; (%3) has a decimal point: state the decimal sign</source>
+        <translation>“%1”用逗号作小数符号，而“%2”（%3）用小数点：请指定小数符号</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is read with a decimal point; state the decimal sign if the point divides thousands</source>
+        <translation>“%1”中的点按小数点读取；如果它是千位分隔符，请指定小数符号</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can be %2 or %3, and no other number tells: state the decimal sign</source>
+        <translation>“%1”可能是 %2 或 %3，没有其他数字可供判断：请指定小数符号</translation>
+    </message>
+    <message>
+        <source>the separator seems to divide numbers: quote them or use another separator</source>
+        <translation>分隔符似乎把数字拆开了：请给数字加引号，或使用其他分隔符</translation>
+    </message>
+    <message numerus="yes">
+        <source>; so in %n further line(s)</source>
+        <translation>
+            <numerusform>；另有 %n 行也是如此</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>has no numbers and is not read</source>
+        <translation>没有数字，未读取</translation>
+    </message>
+    <message>
+        <source>has more fields than the line that names the columns</source>
+        <translation>字段数多于列名所在的行</translation>
+    </message>
+    <message>
+        <source>has a luminance but no chromaticity</source>
+        <translation>有亮度但没有色度</translation>
+    </message>
+    <message>
+        <source>a tristimulus value must not be negative</source>
+        <translation>三刺激值不能为负</translation>
+    </message>
+    <message>
+        <source>the tristimulus values are too large</source>
+        <translation>三刺激值过大</translation>
+    </message>
+    <message>
+        <source>v&apos; must be greater than 0</source>
+        <translation>v&apos; 必须大于 0</translation>
+    </message>
+    <message>
+        <source>u&apos; and v&apos; are not those of a colour</source>
+        <translation>u&apos; 和 v&apos; 不对应任何颜色</translation>
+    </message>
+    <message>
+        <source>the full level of &quot;%1&quot; is not known: no level without a unit is taken as the full one</source>
+        <translation>“%1”的最高灰阶未知：没有单位的灰阶都不作为最高灰阶</translation>
+    </message>
+    <message>
+        <source>line %1 has no measurement to choose</source>
+        <translation>第 %1 行没有可选择的测量数据</translation>
+    </message>
+    <message>
+        <source>no measurement is called &quot;%1&quot;</source>
+        <translation>没有名为“%1”的测量数据</translation>
+    </message>
+    <message>
+        <source>cabinet &quot;%1&quot;</source>
+        <translation>箱体“%1”</translation>
+    </message>
+    <message>
+        <source>row %1, column %2</source>
+        <translation>箱体第 %1 行、第 %2 列</translation>
+    </message>
+    <message>
+        <source>further cabinets are not checked: there are too many warnings</source>
+        <translation>其余箱体未检查：警告过多</translation>
+    </message>
+    <message>
+        <source>%1 is there more than once, first in line %2: there is no gamut; choose the line or the name that is %1</source>
+        <translation>%1出现多次，首次在第 %2 行：没有色域；请选择作为%1的行或名称</translation>
+    </message>
+    <message>
+        <source>black is there more than once, first in line %1: none is used</source>
+        <translation>黑出现多次，首次在第 %1 行：均不采用</translation>
+    </message>
+    <message>
+        <source>%1 has no chromaticity: there is no gamut</source>
+        <translation>%1没有色度：没有色域</translation>
+    </message>
+    <message>
+        <source>white is missing: the sum of red, green and blue is taken as white</source>
+        <translation>缺少白：以红、绿、蓝之和作为白</translation>
+    </message>
+    <message>
+        <source>white is missing: there is no gamut; choose a measurement as white, or ask for the sum of red, green and blue</source>
+        <translation>缺少白：没有色域；请选择一个测量数据作为白，或指定采用红、绿、蓝之和</translation>
+    </message>
+    <message>
+        <source>there is no gamut; missing: %1</source>
+        <translation>没有色域；缺少：%1</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>第 %1 行，列 %2</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>tab</source>
+        <translation>制表符</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>分号</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>逗号</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>apostrophe</source>
+        <translation>撇号</translation>
+    </message>
+    <message>
+        <source>space</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source> (the list says &quot;%1&quot;)</source>
+        <translation>（列表写的是“%1”）</translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: not known</source>
+        <translation>亮度的单位：未知</translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: cd/m²</source>
+        <translation>亮度的单位：cd/m²</translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: foot-lambert, converted to cd/m²</source>
+        <translation>亮度的单位：英尺朗伯，已换算为 cd/m²</translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: relative</source>
+        <translation>亮度的单位：相对值</translation>
+    </message>
+    <message>
+        <source>Unit of the luminances: not stated</source>
+        <translation>亮度的单位：未注明</translation>
+    </message>
+    <message>
+        <source>%1 in column %2</source>
+        <translation>%1 在第 %2 列</translation>
+    </message>
+    <message>
+        <source>Columns, named in line %1: %2</source>
+        <translation>列（列名在第 %1 行）：%2</translation>
+    </message>
+    <message>
+        <source>Columns, which no line names: %1</source>
+        <translation>列（没有列名行）：%1</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>红</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>绿</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>蓝</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>白</translation>
+    </message>
+    <message>
+        <source>black</source>
+        <translation>黑</translation>
+    </message>
+    <message>
+        <source>Encoding: %1</source>
+        <translation>编码：%1</translation>
+    </message>
+    <message>
+        <source>Separator of the fields: %1</source>
+        <translation>字段分隔符：%1</translation>
+    </message>
+    <message>
+        <source>Decimal sign: %1</source>
+        <translation>小数符号：%1</translation>
+    </message>
+    <message>
+        <source>Decimal sign: none</source>
+        <translation>小数符号：无</translation>
+    </message>
+    <message>
+        <source>Thousands separator: %1</source>
+        <translation>千位分隔符：%1</translation>
+    </message>
+    <message>
+        <source>Full level in names: %1</source>
+        <translation>名称中的最高灰阶：%1</translation>
+    </message>
+    <message>
+        <source>Line %1, &quot;%2&quot;: %3</source>
+        <translation>第 %1 行，“%2”：%3</translation>
+    </message>
+    <message>
+        <source>Further lines with a part: %1</source>
+        <translation>其他有角色的行：%1</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Primaries</name>
@@ -270,6 +760,29 @@
     <message>
         <source>the white point lies outside the triangle of the primaries</source>
         <translation>白点在三基色三角形之外</translation>
+    </message>
+    <message>
+        <source>%1 at %2, %3 lies outside of the spectral locus by %4 in x, y: no light has this colour</source>
+        <translation>%1（%2, %3）在光谱轨迹之外，x, y 上相距 %4：没有光具有此颜色</translation>
+    </message>
+    <message>
+        <source>%1 has no chromaticity</source>
+        <translation>%1没有色度</translation>
+    </message>
+</context>
+<context>
+    <name>gamutfiles::TextEncoding</name>
+    <message>
+        <source>is not %1 text</source>
+        <translation>不是 %1 文本</translation>
+    </message>
+    <message>
+        <source>is GB18030 text, which this system cannot convert</source>
+        <translation>是 GB18030 文本，本系统无法转换</translation>
+    </message>
+    <message>
+        <source>is read as %1 text but could be %2; state the encoding if names look wrong</source>
+        <translation>按 %1 文本读取，但也可能是 %2；如果名称显示不正确，请指定编码</translation>
     </message>
 </context>
 <context>
