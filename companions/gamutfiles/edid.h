@@ -35,10 +35,10 @@ struct EdidNativeLuminance {
 
 /*! \brief CIE 1931 chromaticities of a display's primaries and white. */
 struct EdidChromaticities {
-    QPointF red;
-    QPointF green;
-    QPointF blue;
-    QPointF white;
+    QPointF red; //!< x, y of the red primary
+    QPointF green; //!< x, y of the green primary
+    QPointF blue; //!< x, y of the blue primary
+    QPointF white; //!< x, y of the white point
 };
 
 /*! \brief What an EDID says of a display and its colours. What it does not say is empty. */
