@@ -82,7 +82,6 @@ std::optional<CabinetPair> farthestPair(std::vector<HullPoint> points)
         const auto height = [&](std::size_t k) { return turn(hull[i].uv, hull[next].uv, hull[k].uv); };
         for (std::size_t step = 0; step < count; ++step) {
             compare(i, opposite);
-            compare(next, opposite);
             const std::size_t following = (opposite + 1) % count;
             if (height(following) < height(opposite)) {
                 break;
