@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <optional>
 #include <tuple>
@@ -265,39 +266,42 @@ void Remainder::describe(CommonGamut &common)
     }
 }
 
-/*! \brief How far \a b lies beyond a side of \a a, or 0 or less if it is not beyond any. */
-double distanceBeyond(const Gamut &a, const Gamut &b)
+/*! \brief How far \a gamut lies beyond \a side; 0 or less if it does not. */
+double distanceBeyond(const Side &side, const Gamut &gamut)
 {
-    double farthest = -std::numeric_limits<double>::infinity();
-    for (const Side &side : Sides(a)) {
-        farthest = std::max(farthest,
-            -std::max({side.distanceOf(b.corners[0]), side.distanceOf(b.corners[1]), side.distanceOf(b.corners[2])}));
-    }
-    return farthest;
+    return -std::max(
+        {side.distanceOf(gamut.corners[0]), side.distanceOf(gamut.corners[1]), side.distanceOf(gamut.corners[2])});
 }
 
 /*! \brief The pair of \a gamuts that lies farthest apart; nothing if there is none. */
 std::vector<std::size_t> farthestPair(const std::vector<Gamut> &gamuts)
 {
-    // Any two that can both show the mean colour have it in common.
+    // Any two that can both show the mean colour have it in common, so that one of a pair cannot.
     DiagramPoint mean;
     for (const Gamut &gamut : gamuts) {
         for (const DiagramPoint &corner : gamut.corners) {
             mean = mean + 1.0 / (3.0 * double(gamuts.size())) * corner;
         }
     }
+    const auto showsMean = [&mean](const Sides &sides) {
+        return std::all_of(sides.begin(), sides.end(), [&mean](const Side &s) { return s.distanceOf(mean) >= 0.0; });
+    };
+    std::vector<Gamut> without;
+    std::copy_if(gamuts.begin(), gamuts.end(), std::back_inserter(without),
+        [&showsMean](const Gamut &gamut) { return !showsMean(Sides(gamut)); });
+
     std::vector<std::size_t> pair;
     double farthest = rounding;
     for (const Gamut &gamut : gamuts) {
         const Sides sides(gamut);
-        if (std::all_of(sides.begin(), sides.end(), [&mean](const Side &s) { return s.distanceOf(mean) >= 0.0; })) {
-            continue;
-        }
-        for (const Gamut &other : gamuts) {
-            const double apart = std::max(distanceBeyond(gamut, other), distanceBeyond(other, gamut));
-            if (apart > farthest) {
-                farthest = apart;
-                pair = {gamut.cabinet, other.cabinet};
+        const std::vector<Gamut> &others = showsMean(sides) ? without : gamuts;
+        for (const Side &side : sides) {
+            for (const Gamut &other : others) {
+                const double apart = distanceBeyond(side, other);
+                if (apart > farthest) {
+                    farthest = apart;
+                    pair = {gamut.cabinet, other.cabinet};
+                }
             }
         }
     }
