@@ -312,7 +312,7 @@ void CommonGamutTest::touchAlongALine()
 
 void CommonGamutTest::crossOnAPoint()
 {
-    // Opposite angles of two lines that cross: three of the four halves overlap in pairs, all in the point.
+    // Opposite angles of two lines that cross
     const Wall wall{triangle(0.3, 0.3, 0.5, 0.3, 0.3, 0.5), triangle(0.3, 0.3, 0.1, 0.3, 0.3, 0.1)};
     const CommonGamut common = commonGamut(wall);
     QCOMPARE(common.shape, CommonShape::Point);
@@ -378,7 +378,7 @@ void CommonGamutTest::emptyNamesTheFarthestPair()
 
 void CommonGamutTest::emptyNamesThree()
 {
-    // Three strips around a triangle: any two of them meet outside of it.
+    // Three strips along the sides of a triangle: two of them meet in each of its corners, and all three nowhere.
     const Wall strips{triangle(0.1, 0.1, 0.9, 0.1, 0.5, 0.15), triangle(0.1, 0.1, 0.5, 0.8, 0.2, 0.5),
         triangle(0.9, 0.1, 0.5, 0.8, 0.8, 0.5)};
     const GamutTriangle all = triangle(-1.0, -1.0, 3.0, -1.0, 0.0, 3.0);
@@ -435,11 +435,10 @@ void CommonGamutTest::negativeZero()
 
 void CommonGamutTest::areas()
 {
-    // 6 right-angled corners of the unit, in pairs: the square in the middle is left.
     const CommonGamut common
         = commonGamut(Wall{triangle(0.0, 0.0, 0.8, 0.0, 0.0, 0.8), triangle(0.5, 0.5, -0.3, 0.5, 0.5, -0.3)});
     QCOMPARE(common.shape, CommonShape::Area);
-    // The unit square of side 0.5 without two corners: one of 0.2 each way at either end
+    // A square of side 0.5, from which the two hypotenuses cut a corner of 0.2 by 0.2 each
     QCOMPARE(common.corners.size(), std::size_t(6));
     QVERIFY(std::fabs(commonGamutArea(common, Diagram::Cie1931) - (0.25 - 0.02 - 0.02)) < 1e-15);
     const CommonGamut whole = commonGamut(Wall{rec709Triangle});

@@ -133,7 +133,7 @@ void GamutFitTest::oneCabinetLimitsOnePrimary()
     QVERIFY(isSame(fit.target.red, wish.red) && isSame(fit.target.blue, wish.blue));
     QCOMPARE(fit.target.white.Y, 100.0);
     QVERIFY(mixes(fit.target));
-    // Areas: 0.12 + ... by the heights of green above the line from blue to red, 0.1 + (x - 0.1) / 3
+    // The area falls with the height of green above the line from blue to red.
     const double height = (0.5 - (0.1 + 0.2 / 3.0)) / (0.7 - (0.1 + 0.2 / 3.0));
     QVERIFY(std::fabs(fit.costXy.areaRatio - height) < 1e-14);
     QVERIFY(std::fabs(fit.costXy.coverage - height) < 1e-14);
