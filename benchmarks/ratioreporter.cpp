@@ -20,8 +20,9 @@ void RatioReporter::Finalize()
     for (const auto &[name, seconds] : m_medians) {
         const auto plain = m_medians.find(name.substr(0, name.find_last_of('/')) + "/plain");
         if (plain != m_medians.end() && plain->first != name) {
-            std::printf("%-44s %8.2f ms %9.2f ms %8.1f x\n", name.c_str(), plain->second * 1e3, seconds * 1e3,
-                plain->second / seconds);
+            const double ratio = plain->second / seconds;
+            std::printf("%-44s %8.2f ms %9.2f ms %8.*f x\n", name.c_str(), plain->second * 1e3, seconds * 1e3,
+                ratio < 1.0 ? 3 : 1, ratio);
         }
     }
 }

@@ -32,15 +32,6 @@ double area(const Triangle &triangle)
     return finiteOrZero(std::fabs(turn(triangle[0], triangle[1], triangle[2])) / 2.0);
 }
 
-double area(const std::vector<DiagramPoint> &polygon)
-{
-    double doubled = 0.0;
-    for (std::size_t i = 2; i < polygon.size(); ++i) {
-        doubled += turn(polygon[0], polygon[i - 1], polygon[i]);
-    }
-    return finiteOrZero(std::fabs(doubled) / 2.0);
-}
-
 Triangle counterClockwise(Triangle triangle)
 {
     if (turn(triangle[0], triangle[1], triangle[2]) < 0.0) {
@@ -118,13 +109,13 @@ std::vector<DiagramPoint> commonPolygon(const Targets &a, const Targets &b, Diag
     if (polygon.size() > 1 && equal(polygon.front(), polygon.back())) {
         polygon.pop_back();
     }
-    return area(polygon) > 0.0 ? polygon : std::vector<DiagramPoint>();
+    return polygonArea(polygon) > 0.0 ? polygon : std::vector<DiagramPoint>();
 }
 
 double commonArea(const Targets &a, const Targets &b, Diagram diagram)
 {
     // Rounding must not make the common area larger than either gamut.
-    return std::min({area(commonPolygon(a, b, diagram)), gamutArea(a, diagram), gamutArea(b, diagram)});
+    return std::min({polygonArea(commonPolygon(a, b, diagram)), gamutArea(a, diagram), gamutArea(b, diagram)});
 }
 
 GamutCoverage gamutCoverage(const Targets &gamut, const Targets &standard, Diagram diagram)

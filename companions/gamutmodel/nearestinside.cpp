@@ -44,15 +44,6 @@ bool hasUv(const DiagramPoint &xy)
     return isFinite(xy) && uniformDenominator(xy.x, xy.y) > 0.0 && isFinite(toUv(xy));
 }
 
-/*! \brief The point between \a from and \a to that is nearest to \a point. */
-DiagramPoint nearestOnPiece(const DiagramPoint &point, const DiagramPoint &from, const DiagramPoint &to)
-{
-    const DiagramPoint way = to - from;
-    const double square = dot(way, way);
-    const double share = square > 0.0 ? dot(point - from, way) / square : 0.0;
-    return from + std::clamp(share, 0.0, 1.0) * way;
-}
-
 DiagramPoint nearestOnEdge(const Triangle &triangle, const DiagramPoint &xy, Diagram diagram)
 {
     const DiagramPoint point = toDiagram(diagram, xy);

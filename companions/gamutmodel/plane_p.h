@@ -4,7 +4,9 @@
 
 #include <gamutmodel/diagram.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 /*! \file \brief Points of a diagram as vectors. */
 namespace Model {
@@ -57,6 +59,25 @@ inline bool isFlat(const DiagramPoint &a, const DiagramPoint &b, const DiagramPo
     constexpr double rounding = 1e-15;
     const double area = std::fabs(turn(a, b, c)) / 2.0;
     return !(area > rounding && std::isfinite(area));
+}
+
+/*! \brief The area of a convex polygon. 0 if it is not finite. */
+inline double polygonArea(const std::vector<DiagramPoint> &polygon)
+{
+    double doubled = 0.0;
+    for (std::size_t i = 2; i < polygon.size(); ++i) {
+        doubled += turn(polygon[0], polygon[i - 1], polygon[i]);
+    }
+    return std::isfinite(doubled) ? std::fabs(doubled) / 2.0 : 0.0;
+}
+
+/*! \brief The point between \a from and \a to that is nearest to \a point. */
+inline DiagramPoint nearestOnPiece(const DiagramPoint &point, const DiagramPoint &from, const DiagramPoint &to)
+{
+    const DiagramPoint way = to - from;
+    const double square = dot(way, way);
+    const double share = square > 0.0 ? dot(point - from, way) / square : 0.0;
+    return from + std::clamp(share, 0.0, 1.0) * way;
 }
 
 } // namespace Model
