@@ -111,6 +111,16 @@ TargetEditor::TargetEditor(TargetSession *session, QWidget *parent)
     refreshRules();
 }
 
+TargetEditor::~TargetEditor()
+{
+    // The focus leaves the menu and the fields after this part of the editor is gone.
+    disconnect(qApp, nullptr, this, nullptr);
+    for (StepBox *box : findChildren<StepBox *>()) {
+        box->removeEventFilter(this);
+        disconnect(box, nullptr, this, nullptr);
+    }
+}
+
 void TargetEditor::buildHeader(QGridLayout *grid)
 {
     m_coordinates = new QComboBox(this);

@@ -28,6 +28,7 @@ class TargetEditor : public QWidget {
 
 public:
     explicit TargetEditor(TargetSession *session, QWidget *parent = nullptr);
+    ~TargetEditor() override;
 
     /*! \brief Takes the number that is being typed for complete, as leaving its field would. */
     void takeTyped();

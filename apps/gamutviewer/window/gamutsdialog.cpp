@@ -93,6 +93,13 @@ QString GamutsDialog::nameAt(int row) const
     return item ? item->data(nameRole).toString() : QString();
 }
 
+GamutsDialog::~GamutsDialog()
+{
+    // The fields outlive this part of the dialog, and lose the focus as they go.
+    disconnect(m_displayName, nullptr, this, nullptr);
+    disconnect(m_table, nullptr, this, nullptr);
+}
+
 void GamutsDialog::refresh()
 {
     if (m_document->isDragging()) {

@@ -27,6 +27,7 @@ class GamutsDialog : public QDialog {
 public:
     /*! \param document must outlive the dialog */
     explicit GamutsDialog(Document *document, QWidget *parent = nullptr);
+    ~GamutsDialog() override;
 
     /*! \brief The name of the display. */
     QLineEdit *displayName() const { return m_displayName; }

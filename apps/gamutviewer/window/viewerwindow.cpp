@@ -58,6 +58,7 @@ ViewerWindow::~ViewerWindow()
 {
     // A field that loses the focus may have an edit to make, of a document that is still there.
     hide();
+    qApp->removeEventFilter(this);
 }
 
 void ViewerWindow::buildPages()
