@@ -217,9 +217,20 @@ QJsonObject unusedObject(const Model::Targets &target, const Model::Targets &ori
     });
 }
 
+QJsonArray factsArray(const QVector<FileFact> &facts)
+{
+    QJsonArray array;
+    for (const FileFact &of : facts) {
+        array.append(QJsonObject{{QStringLiteral("file"), of.fileName}, {QStringLiteral("fact"), of.fact.name},
+            {QStringLiteral("value"), of.fact.value}});
+    }
+    return array;
+}
+
 } // namespace
 
-QJsonObject report(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+QJsonObject report(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances, const ReportNotes &notes)
 {
     const std::vector<DisplayGamut> comparedWith = description.allStandards();
     QJsonObject object{{QStringLiteral("version"), 1}, {QStringLiteral("name"), description.name}};
@@ -251,12 +262,15 @@ QJsonObject report(const DisplayDescription &description, const std::optional<To
         object.insert(QStringLiteral("tolerances"),
             QJsonObject{{QStringLiteral("name"), tolerances->name}, {QStringLiteral("source"), tolerances->source}});
     }
+    object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(notes.warnings));
+    object.insert(QStringLiteral("facts"), factsArray(notes.facts));
     return object;
 }
 
-QByteArray reportText(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+QByteArray reportText(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances, const ReportNotes &notes)
 {
-    return QJsonDocument(report(description, tolerances)).toJson();
+    return QJsonDocument(report(description, tolerances, notes)).toJson();
 }
 
 } // namespace gamutviewer
