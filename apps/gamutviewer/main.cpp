@@ -55,9 +55,19 @@ ExitStatus statusOf(Judgement judgement)
     return VerdictNotKnown;
 }
 
-int write(
-    const DisplayDescription &description, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine)
+ReportNotes notesOf(const OpenedFiles &opened)
 {
+    ReportNotes notes;
+    for (const FileWarning &warning : opened.warnings) {
+        notes.warnings.append(warning.message());
+    }
+    notes.facts = opened.facts;
+    return notes;
+}
+
+int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine)
+{
+    const DisplayDescription &description = opened.description;
     const QString picture = commandLine.pictureFile();
     if (!picture.isEmpty()) {
         const Picture content = commandLine.picture(description, tolerances);
@@ -71,7 +81,7 @@ int write(
             printError(QApplication::translate("main", "%1: has no room for the key").arg(picture));
         }
     }
-    if (commandLine.wantsReport() && print(reportText(description, tolerances)) != Done) {
+    if (commandLine.wantsReport() && print(reportText(description, tolerances, notesOf(opened))) != Done) {
         printError(QApplication::translate("main", "the report cannot be written to standard output"));
         return Failed;
     }
@@ -172,7 +182,7 @@ int main(int argc, char *argv[])
         }
     }
     if (commandLine.action() == CommandLine::Action::Write) {
-        const int status = write(opened->description, tolerances, commandLine);
+        const int status = write(*opened, tolerances, commandLine);
         return status == Done && opened->needsChoice ? NeedsChoice : status;
     }
     if (!canShow) {

@@ -10,6 +10,9 @@ using namespace gamutviewer;
 using Vertex = ceiechart::GamutVertex;
 using Subject = AssessmentLine::Subject;
 
+Q_DECLARE_METATYPE(Judgement)
+Q_DECLARE_METATYPE(LuminanceUnit)
+
 class AssessmentTest : public QObject {
     Q_OBJECT
 
@@ -30,7 +33,15 @@ private Q_SLOTS:
     void primaryBrighterThanTheDisplay();
     void unitsThatDoNotCompare_data();
     void unitsThatDoNotCompare();
-    void relativeLuminancesCompare();
+    void relativeScalesNeedNotBeTheSame();
+    void whiteThatIsNotTheSum_data();
+    void whiteThatIsNotTheSum();
+    void notAdditiveAndNotComparable();
+    void originalAndMeasuredAreBothGrounds_data();
+    void originalAndMeasuredAreBothGrounds();
+    void chromaticityOutsideOfTheMeasuredGamutFails();
+    void whiteIsExaminedWithoutLuminances();
+    void driveAtItsLimitIsSaid();
     void displayWithoutLuminances();
     void toleranceAtItsLimit_data();
     void toleranceAtItsLimit();
@@ -39,6 +50,8 @@ private Q_SLOTS:
     void toleranceOfTheColourTemperature();
     void coverageOfAStandard();
     void valueIsToldApartFromItsLimit();
+    void deviationEqualToItsLimit_data();
+    void deviationEqualToItsLimit();
     void worstLineDecides();
 };
 
@@ -138,7 +151,7 @@ void AssessmentTest::withoutAnOriginalNothingIsKnown()
     d.original.clear();
     d.declared = QStringLiteral("Wall"); // which is not what it can show
     const Assessment a = assess(d);
-    QVERIFY(!a.display);
+    QVERIFY(a.displays.empty());
     QCOMPARE(a.judgement(), Judgement::NotKnown);
     QCOMPARE(a.lines.size(), 1);
     QCOMPARE(a.lines.first().subject, Subject::Display);
@@ -161,11 +174,12 @@ void AssessmentTest::measuredGamutStandsForTheOriginal()
 {
     DisplayDescription d = wall(500);
     d.measured = d.original;
-    QVERIFY(!assess(d).display->isMeasured);
+    QCOMPARE(assess(d).displays.size(), size_t(1)); // the same gamut is judged once
+    QVERIFY(!assess(d).displays.front().display.isMeasured);
     QVERIFY(assess(d).lines.first().text.contains(QLatin1String("original")));
     d.original.clear();
     const Assessment a = assess(d);
-    QVERIFY(a.display->isMeasured);
+    QVERIFY(a.displays.front().display.isMeasured);
     QCOMPARE(a.judgement(), Judgement::Pass);
     QVERIFY(a.lines.first().text.contains(QLatin1String("measured gamut")));
     QVERIFY(!a.lines.first().text.contains(QLatin1String("original")));
@@ -179,9 +193,9 @@ void AssessmentTest::insideAndBrightEnough()
     QCOMPARE(a.lines.size(), 2);
     QCOMPARE(a.headline(), QStringLiteral("The display can show the target"));
     // The white is that of the wall: every primary at half drive, and twice the luminance to spare.
-    QVERIFY(std::fabs(a.drive->white.red - 0.5) < 1e-9);
-    QVERIFY(std::fabs(*a.drive->headroom - 2.0) < 1e-9);
-    QVERIFY(std::fabs(a.largestWhite->luminance - 1000.0) < 1e-6);
+    QVERIFY(std::fabs(a.displays.front().drive->white.red - 0.5) < 1e-9);
+    QVERIFY(std::fabs(*a.displays.front().drive->headroom - 2.0) < 1e-9);
+    QVERIFY(std::fabs(a.displays.front().largestWhite->luminance - 1000.0) < 1e-6);
     QVERIFY(a.lines.at(1).text.contains(QString::fromUtf8("500.0 cd/m²")));
     QVERIFY(a.lines.at(1).text.contains(QString::fromUtf8("red 50.0 %, green 50.0 %, blue 50.0 %")));
 }
@@ -287,7 +301,7 @@ void AssessmentTest::luminanceAtItsLimit()
     QCOMPARE(judged(full), Judgement::Pass);
     QCOMPARE(judged(full * 1.002 * (1.0 - 1e-9)), Judgement::Pass);
     QCOMPARE(judged(full * 1.002 * (1.0 + 1e-9)), Judgement::Fail);
-    QVERIFY(std::fabs(assess(d).largestWhite->luminance - full) < full * 1e-9);
+    QVERIFY(std::fabs(assess(d).displays.front().largestWhite->luminance - full) < full * 1e-9);
 }
 
 void AssessmentTest::farTooBright()
@@ -301,7 +315,7 @@ void AssessmentTest::farTooBright()
         QVERIFY2(lines.first().text.contains(QString::fromUtf8(said)), qPrintable(lines.first().text));
     }
     QCOMPARE(a.judgement(), Judgement::Fail);
-    QVERIFY(std::fabs(*a.drive->headroom - 0.2) < 1e-9);
+    QVERIFY(std::fabs(*a.displays.front().drive->headroom - 0.2) < 1e-9);
 }
 
 void AssessmentTest::reachedLuminanceIsItselfReached()
@@ -334,7 +348,7 @@ void AssessmentTest::unitsThatDoNotCompare_data()
     const LuminanceUnit all[] = {LuminanceUnit::NotKnown, LuminanceUnit::Relative, cd};
     for (const LuminanceUnit target : all) {
         for (const LuminanceUnit display : all) {
-            if (target != display || target == LuminanceUnit::NotKnown) {
+            if (target != cd || display != cd) {
                 QTest::addRow("%d and %d", int(target), int(display)) << int(target) << int(display);
             }
         }
@@ -353,18 +367,180 @@ void AssessmentTest::unitsThatDoNotCompare()
         QCOMPARE(lines.first().judgement, Judgement::NotKnown);
         QVERIFY(lines.first().text.contains(QLatin1String("cannot be compared")));
         QCOMPARE(a.judgement(), Judgement::NotKnown);
-        QVERIFY(!a.drive);
+        QVERIFY(!a.displays.front().drive);
         // What does not take the target's unit is told all the same.
-        QVERIFY(std::fabs(a.largestWhite->luminance - 1000.0) < 1e-6);
+        QVERIFY(std::fabs(a.displays.front().largestWhite->luminance - 1000.0) < 1e-6);
     }
 }
 
-void AssessmentTest::relativeLuminancesCompare()
+void AssessmentTest::relativeScalesNeedNotBeTheSame()
 {
-    QCOMPARE(assess(wall(500, LuminanceUnit::Relative, LuminanceUnit::Relative)).judgement(), Judgement::Pass);
-    const Assessment tooBright = assess(wall(5000, LuminanceUnit::Relative, LuminanceUnit::Relative));
-    QCOMPARE(tooBright.judgement(), Judgement::Fail);
-    QVERIFY(about(tooBright, Subject::Luminance).first().text.contains(QLatin1String("(relative)")));
+    // Equal numbers, and also those of a white of 100 against one of 1, say nothing.
+    for (const double luminance : {1000.0, 10.0, 100000.0}) {
+        const Assessment a = assess(wall(luminance, LuminanceUnit::Relative, LuminanceUnit::Relative));
+        const QString text = about(a, Subject::Luminance).first().text;
+        QVERIFY2(text.contains(QLatin1String("scales need not be the same")), qPrintable(text));
+        QVERIFY2(text.contains(QLatin1String("in cd/m")), qPrintable(text));
+    }
+    DisplayDescription d = wall(500, LuminanceUnit::Relative, cd);
+    d.gamuts.push_back(named("Meter", d.gamuts[1].getTargets(), LuminanceUnit::Relative));
+    d.measured = QStringLiteral("Meter");
+    Tolerances tolerances;
+    tolerances.limits.luminance = 0.1;
+    const AssessmentLine line = about(assess(d, tolerances), Subject::Tolerance).first();
+    QCOMPARE(line.judgement, Judgement::NotKnown);
+    QVERIFY(line.text.contains(QLatin1String("scales need not be the same")));
+}
+
+void AssessmentTest::whiteThatIsNotTheSum_data()
+{
+    QTest::addColumn<double>("white"); // of the wall, whose primaries add to 1000 cd/m²
+    QTest::addColumn<double>("shift"); // of its white, in u'
+    QTest::addColumn<double>("target");
+    QTest::addColumn<Judgement>("judgement");
+    QTest::addColumn<bool>("isDriveKnown");
+    constexpr auto pass = Judgement::Pass;
+    constexpr auto fail = Judgement::Fail;
+    constexpr auto notKnown = Judgement::NotKnown;
+    QTest::newRow("2 % less") << 980.01 << 0.0 << 999.0 << pass << true;
+    QTest::newRow("more than 2 % less") << 979.99 << 0.0 << 999.0 << notKnown << false;
+    QTest::newRow("2 % more") << 1019.99 << 0.0 << 999.0 << pass << true;
+    QTest::newRow("more than 2 % more") << 1020.01 << 0.0 << 999.0 << notKnown << false;
+    QTest::newRow("limited power") << 400.0 << 0.0 << 999.0 << notKnown << false;
+    QTest::newRow("limited power, dark target") << 400.0 << 0.0 << 100.0 << notKnown << false;
+    QTest::newRow("limited power, at the sum") << 400.0 << 0.0 << 1001.9 << notKnown << false;
+    QTest::newRow("limited power, above the sum") << 400.0 << 0.0 << 1002.1 << fail << false;
+    // A white that is brighter than the primaries has light of its own; their sum is no bound.
+    QTest::newRow("white of its own") << 2000.0 << 0.0 << 1500.0 << notKnown << false;
+    QTest::newRow("no white") << 0.0 << 0.0 << 500.0 << notKnown << false;
+    QTest::newRow("other chromaticity, near") << 1000.0 << 0.00299 << 500.0 << pass << true;
+    QTest::newRow("other chromaticity, far") << 1000.0 << 0.00301 << 500.0 << notKnown << false;
+}
+
+void AssessmentTest::whiteThatIsNotTheSum()
+{
+    QFETCH(double, white);
+    QFETCH(double, shift);
+    QFETCH(double, target);
+    QFETCH(Judgement, judgement);
+    QFETCH(bool, isDriveKnown);
+    DisplayDescription d = wall(target);
+    Model::Targets &wallTargets = targetsOf(d, 0);
+    // The sum of the primaries, by its light.
+    const Light r = light(wallTargets.red);
+    const Light g = light(wallTargets.green);
+    const Light b = light(wallTargets.blue);
+    const double X = r[0] + g[0] + b[0];
+    const double Y = r[1] + g[1] + b[1];
+    const double Z = r[2] + g[2] + b[2];
+    QVERIFY(std::fabs(Y - 1000.0) < 1e-6);
+    const double u = 4.0 * X / (X + 15.0 * Y + 3.0 * Z) + shift;
+    const double v = 9.0 * Y / (X + 15.0 * Y + 3.0 * Z);
+    const double back = 6.0 * u - 16.0 * v + 12.0;
+    wallTargets.white = Model::Target::fromYxy(white, 9.0 * u / back, 4.0 * v / back);
+    const Assessment a = assess(d);
+    const AssessmentLine line = about(a, Subject::Luminance).first();
+    QVERIFY2(line.judgement == judgement, qPrintable(line.text));
+    QCOMPARE(a.displays.front().drive.has_value(), isDriveKnown);
+    QCOMPARE(a.displays.front().largestWhite.has_value(), isDriveKnown);
+    if (judgement == Judgement::NotKnown && shift == 0.0 && white > 0.0) {
+        const QString texts = QStringLiteral("The white of the original is %1 cd/m², its primaries add to 1000.0 cd/m²")
+                                  .arg(white, 0, 'f', 1);
+        QVERIFY2(line.text.startsWith(texts), qPrintable(line.text));
+        QVERIFY(line.text.contains(QLatin1String("cannot be worked out")));
+    }
+}
+
+void AssessmentTest::notAdditiveAndNotComparable()
+{
+    DisplayDescription d = wall(500, LuminanceUnit::Relative);
+    QVERIFY(about(assess(d), Subject::Luminance).first().text.contains(QLatin1String("reaches 1000.0")));
+    targetsOf(d, 0).white = Model::Target::fromYxy(400, 0.3127, 0.3290);
+    QVERIFY(!about(assess(d), Subject::Luminance).first().text.contains(QLatin1String("reaches")));
+}
+
+void AssessmentTest::originalAndMeasuredAreBothGrounds_data()
+{
+    QTest::addColumn<double>("original");
+    QTest::addColumn<double>("measured");
+    QTest::addColumn<LuminanceUnit>("unit"); // of the measured gamut
+    QTest::addColumn<Judgement>("judgement");
+    constexpr auto relative = LuminanceUnit::Relative;
+    QTest::newRow("both reach it") << 1000.0 << 600.0 << cd << Judgement::Pass;
+    QTest::newRow("the measured gamut does not") << 1000.0 << 400.0 << cd << Judgement::Fail;
+    QTest::newRow("the original does not") << 400.0 << 1000.0 << cd << Judgement::Fail;
+    QTest::newRow("measured without a scale") << 1000.0 << 600.0 << relative << Judgement::NotKnown;
+    QTest::newRow("fails in any case") << 400.0 << 600.0 << relative << Judgement::Fail;
+}
+
+void AssessmentTest::originalAndMeasuredAreBothGrounds()
+{
+    QFETCH(double, original);
+    QFETCH(double, measured);
+    QFETCH(LuminanceUnit, unit);
+    QFETCH(Judgement, judgement);
+    DisplayDescription d = wall(500);
+    targetsOf(d, 0) = scaled(Model::rec2020().getTargets(), original);
+    d.gamuts.push_back(named("Meter", scaled(Model::rec2020().getTargets(), measured), unit));
+    d.measured = QStringLiteral("Meter");
+    const Assessment a = assess(d);
+    QCOMPARE(a.judgement(), judgement);
+    const auto lines = about(a, Subject::Luminance);
+    QCOMPARE(lines.size(), 2);
+    QCOMPARE(lines.at(0).isOfMeasured, std::make_optional(false));
+    QCOMPARE(lines.at(1).isOfMeasured, std::make_optional(true));
+    QVERIFY(lines.at(0).text.contains(QLatin1String("original")));
+    QVERIFY(lines.at(1).text.contains(QLatin1String("measured gamut")));
+    QCOMPARE(lines.at(0).judgement, original >= 500.0 ? Judgement::Pass : Judgement::Fail);
+    QCOMPARE(about(a, Subject::Gamut).size(), 2);
+}
+
+void AssessmentTest::chromaticityOutsideOfTheMeasuredGamutFails()
+{
+    DisplayDescription d = wall(500);
+    Model::Targets meter = d.gamuts[0].getTargets();
+    meter.green = Model::Target::fromYxy(meter.green.Y, 0.2, 0.5);
+    d.gamuts.push_back(named("Meter", meter, cd));
+    d.measured = QStringLiteral("Meter");
+    QVERIFY(exceededDisplay(d)->isMeasured);
+    const auto lines = about(assess(d), Subject::Gamut);
+    QCOMPARE(lines.first().judgement, Judgement::Pass);
+    QCOMPARE(lines.last().judgement, Judgement::Fail);
+    QVERIFY(lines.last().vertex == Vertex::Green);
+    QCOMPARE(assess(d).judgement(), Judgement::Fail);
+    // No published gamut lies inside of both.
+    QVERIFY(!lines.last().text.contains(QLatin1String("choose")));
+    d.measured.clear();
+    QVERIFY(!exceededDisplay(d));
+}
+
+void AssessmentTest::whiteIsExaminedWithoutLuminances()
+{
+    DisplayDescription d = wall(500);
+    targetsOf(d, 0).green = Model::Target::fromYxy(0.0, 0.17, 0.797);
+    // Right and left of the side from blue, 0.131, 0.046, to green, at y = 0.4.
+    const double edge = 0.131 + (0.170 - 0.131) * (0.4 - 0.046) / (0.797 - 0.046);
+    targetsOf(d, 1).white = Model::Target::fromYxy(500, edge + 1e-5, 0.4);
+    QCOMPARE(about(assess(d), Subject::Gamut).first().judgement, Judgement::Pass);
+    targetsOf(d, 1).white = Model::Target::fromYxy(500, edge - 1e-5, 0.4);
+    const auto lines = about(assess(d), Subject::Gamut);
+    QCOMPARE(lines.size(), 1);
+    QCOMPARE(lines.first().judgement, Judgement::Fail);
+    QVERIFY(lines.first().vertex == Vertex::White);
+    QVERIFY2(!lines.first().text.contains(QLatin1String("0.0000 ")), qPrintable(lines.first().text));
+    targetsOf(d, 1).white = Model::Target::fromYxy(500, std::nan(""), 0.4);
+    QCOMPARE(about(assess(d), Subject::Gamut).first().judgement, Judgement::NotKnown);
+}
+
+void AssessmentTest::driveAtItsLimitIsSaid()
+{
+    const QString within = QStringLiteral("within 0.2 % of full drive");
+    const auto text = [](double luminance) { return about(assess(wall(luminance)), Subject::Luminance).first().text; };
+    QVERIFY(!text(999.9).contains(within));
+    QVERIFY2(text(1000.1).contains(within), qPrintable(text(1000.1)));
+    QVERIFY2(text(1001.9).contains(within), qPrintable(text(1001.9)));
+    QVERIFY2(text(1002.1).contains(QLatin1String("more than 0.2 % above full drive")), qPrintable(text(1002.1)));
+    QVERIFY(!text(1010.0).contains(QLatin1String("0.2 %")));
 }
 
 void AssessmentTest::displayWithoutLuminances()
@@ -430,7 +606,7 @@ void AssessmentTest::tolerancesWithoutAMeasurement()
     QCOMPARE(lines.size(), 5);
     for (const AssessmentLine &line : lines) {
         QCOMPARE(line.judgement, Judgement::NotKnown);
-        QVERIFY(line.text.contains(QLatin1String("nothing is measured")));
+        QVERIFY(line.text.contains(QLatin1String("no measured gamut of the display is known")));
     }
     QCOMPARE(a.judgement(), Judgement::NotKnown);
     QCOMPARE(a.headline(), QStringLiteral("Not known whether it is in tolerance"));
@@ -499,11 +675,50 @@ void AssessmentTest::valueIsToldApartFromItsLimit()
     QVERIFY2(found.at(0) > found.at(1), qPrintable(text));
 }
 
+void AssessmentTest::deviationEqualToItsLimit_data()
+{
+    QTest::addColumn<double>("beyond"); // what the deviation has more than the limit of 0.004
+    QTest::addColumn<Judgement>("judgement");
+    QTest::addColumn<QString>("text");
+    const QString equal = QString::fromUtf8("Δu′v′ 0.0040 from the target, limit 0.0040.");
+    QTest::newRow("equal") << 0.0 << Judgement::Pass << equal;
+    QTest::newRow("less") << -1e-7 << Judgement::Pass << equal;
+    QTest::newRow("by rounding") << 2e-10 << Judgement::Pass << equal;
+    QTest::newRow("a billionth") << 2e-9 << Judgement::Fail
+                                 << QString::fromUtf8("Δu′v′ beyond 0.0040 from the target, limit 0.0040.");
+    QTest::newRow("two more decimals") << 2e-6 << Judgement::Fail
+                                       << QString::fromUtf8("Δu′v′ 0.004002 from the target, limit 0.004000.");
+    QTest::newRow("more") << 1e-3 << Judgement::Fail
+                          << QString::fromUtf8("Δu′v′ 0.0050 from the target, limit 0.0040.");
+}
+
+void AssessmentTest::deviationEqualToItsLimit()
+{
+    QFETCH(double, beyond);
+    QFETCH(Judgement, judgement);
+    QFETCH(QString, text);
+    DisplayDescription d = wall(500);
+    const Model::Target &white = d.gamuts[1].getTargets().white;
+    const double sum = -2.0 * white.x + 12.0 * white.y + 3.0;
+    const double u = 4.0 * white.x / sum + 0.004 + beyond;
+    const double v = 9.0 * white.y / sum;
+    const double back = 6.0 * u - 16.0 * v + 12.0;
+    Model::Targets meter = d.gamuts[1].getTargets();
+    meter.white = Model::Target::fromYxy(500, 9.0 * u / back, 4.0 * v / back);
+    d.gamuts.push_back(named("Meter", meter, cd));
+    d.measured = QStringLiteral("Meter");
+    Tolerances tolerances;
+    tolerances.limits.whiteUv = 0.004;
+    const AssessmentLine line = about(assess(d, tolerances), Subject::Tolerance).first();
+    QVERIFY2(line.judgement == judgement, qPrintable(line.text));
+    QVERIFY2(line.text.contains(text), qPrintable(line.text));
+}
+
 void AssessmentTest::worstLineDecides()
 {
     Assessment a;
     const auto line = [](Judgement judgement, Subject subject) {
-        return AssessmentLine{subject, judgement, QString(), std::nullopt, QString()};
+        return AssessmentLine{subject, judgement, QString(), std::nullopt, QString(), std::nullopt};
     };
     a.lines = {line(Judgement::Pass, Subject::Gamut)};
     QCOMPARE(a.judgement(), Judgement::Pass);

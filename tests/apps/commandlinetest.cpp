@@ -413,6 +413,9 @@ void CommandLineTest::refusals_data()
                                       << "--size requires --render when used with --report.";
     QTest::newRow("size of a check") << QStringList{"--size", "20x10", "--check"}
                                      << "--size requires --render when used with --check.";
+    QTest::newRow("check of nothing") << QStringList{"--check"} << "No file to check: --check requires one.";
+    QTest::newRow("check and report of nothing")
+        << QStringList{"--check", "--report", "json"} << "No file to check: --check requires one.";
     QTest::newRow("empty tolerances") << QStringList{"--tolerances", ""} << "The file name of --tolerances is empty.";
     QTest::newRow("first reason") << QStringList{"--dpr", "0", "--size", "0x0"}
                                   << "Invalid size, expected 1x1 to 8192x8192: 0x0";

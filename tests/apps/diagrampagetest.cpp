@@ -59,6 +59,7 @@ private Q_SLOTS:
     void standardsAreThoseOfTheDescription();
     void keySpeaks();
     void targetIsMovedInside();
+    void targetIsMovedInsideOfTheMeasuredGamut();
     void groundsArePointedOut();
     void verdictKeepsItsHeight();
     void tolerancesFollowADrag();
@@ -190,6 +191,7 @@ void DiagramPageTest::theFirstKeyStepKeepsTheDiagram()
 void DiagramPageTest::panelAndVerdictFollowADrag()
 {
     WindowFixture f;
+    f.forgetMeasuredGamut();
     f.window->session()->reset(QStringLiteral("LED wall"));
     QVERIFY(f.window->panel()->verdict()->text().startsWith(QString::fromUtf8("✓")));
     DiagramPointer pointer(view(f));
@@ -564,6 +566,7 @@ void DiagramPageTest::keySpeaks()
 void DiagramPageTest::targetIsMovedInside()
 {
     WindowFixture f;
+    f.forgetMeasuredGamut();
     QPushButton *fit = f.window->panel()->verdict()->fitButton();
     QVERIFY(fit->isEnabled());
     QTest::mouseClick(fit, Qt::LeftButton);
@@ -575,6 +578,22 @@ void DiagramPageTest::targetIsMovedInside()
     QCOMPARE(f.document().history()->count(), 1);
     f.window->session()->setLuminanceUnit(LuminanceUnit::CandelaPerSquareMetre);
     QVERIFY2(verdict->text().startsWith(QString::fromUtf8("✓")), qPrintable(verdict->text()));
+}
+
+void DiagramPageTest::targetIsMovedInsideOfTheMeasuredGamut()
+{
+    WindowFixture f;
+    f.window->session()->reset(QStringLiteral("LED wall"));
+    // It fits the original, which it is; the measured gamut is smaller at green.
+    QPushButton *fit = f.window->panel()->verdict()->fitButton();
+    QVERIFY(fit->isEnabled());
+    QVERIFY2(fit->text().contains(QLatin1String("measured gamut")), qPrintable(fit->text()));
+    const auto isOutside = [&f](const std::optional<DisplayGamut> &gamut) {
+        return Model::primariesOutside(f.document().target()->getTargets(), gamut->getTargets()).any();
+    };
+    QVERIFY(isOutside(f.document().measured()));
+    QTest::mouseClick(fit, Qt::LeftButton);
+    QVERIFY(!isOutside(f.document().measured()));
 }
 
 void DiagramPageTest::groundsArePointedOut()

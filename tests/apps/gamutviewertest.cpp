@@ -28,6 +28,8 @@ private Q_SLOTS:
     void checks();
     void checkPrintsTheGroundsOrTheReport();
     void refusesTolerances();
+    void checkNeedsAFile();
+    void reportHasTheWarnings();
     void checkThatCannotRenderFails();
     void reportCannotBeWritten();
     void opensEveryFormat();
@@ -321,17 +323,43 @@ void GamutViewerTest::refusesTolerances()
 {
     const QString file = write("t.json", R"({"version": 1, "whiteUV": 0.001})");
     for (const QStringList &asked : {QStringList{"--check"}, QStringList{"--report", "json"}, QStringList()}) {
-        const Result result = run(asked + QStringList{"--tolerances", file});
+        const Result result = run(asked + QStringList{"--tolerances", file, QStringLiteral(SAMPLE_FILE)});
         QCOMPARE(result.exitCode, 2);
         QCOMPARE(result.output, QByteArray());
         QCOMPARE(result.error, "gamutviewer: " + file.toUtf8() + ": whiteUV: unknown key\n");
     }
-    QCOMPARE(run({"--check", "--tolerances", "missing.json"}).exitCode, 2);
+    QCOMPARE(run({"--check", "--tolerances", "missing.json", SAMPLE_FILE}).exitCode, 2);
+}
+
+void GamutViewerTest::checkNeedsAFile()
+{
+    for (const QStringList &asked : {QStringList{"--check"}, QStringList{"--check", "--report", "json"}}) {
+        const Result result = run(asked);
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(result.output, QByteArray());
+        QCOMPARE(result.error, QByteArray("gamutviewer: No file to check: --check requires one.\n"));
+    }
+}
+
+void GamutViewerTest::reportHasTheWarnings()
+{
+    const QString list = write("meter.csv",
+        "name,Y (cd/m2),x,y\nred,200,0.64,0.33\nred,210,0.64,0.33\ngreen,600,0.3,0.6\nblue,70,0.15,0.06\n");
+    const Result result = run({"--report", "json", list});
+    QCOMPARE(result.exitCode, 5);
+    const QJsonArray warnings = QJsonDocument::fromJson(result.output).object().value("warnings").toArray();
+    QVERIFY(!warnings.isEmpty());
+    QByteArray lines;
+    for (const QJsonValue &warning : warnings) {
+        lines += "gamutviewer: " + warning.toString().toUtf8() + '\n';
+    }
+    QCOMPARE(lines, result.error);
+    QVERIFY(warnings.first().toString().startsWith(list));
 }
 
 void GamutViewerTest::checkThatCannotRenderFails()
 {
-    QCOMPARE(run({"--check", "--render", "no/such/folder.png"}).exitCode, 1);
+    QCOMPARE(run({"--check", "--render", "no/such/folder.png", SAMPLE_FILE}).exitCode, 1);
 }
 
 void GamutViewerTest::reportCannotBeWritten()

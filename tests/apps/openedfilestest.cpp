@@ -334,6 +334,13 @@ void OpenedFilesTest::warningsOfReadersAreKept()
     QCOMPARE(lines(openedWith(wall(), {file})), expected);
     file.warnings.clear();
     QVERIFY(openedAlone({file}).warnings.isEmpty());
+    QVERIFY(openedAlone({file}).facts.isEmpty());
+    file.file.facts = {{QStringLiteral("made by"), QStringLiteral("XYZ")}};
+    for (const OpenedFiles &opened : {openedAlone({file}), openedWith(wall(), {file})}) {
+        QCOMPARE(opened.facts.size(), 1);
+        QCOMPARE(opened.facts.first().fileName, file.fileName);
+        QCOMPARE(opened.facts.first().fact.value, QStringLiteral("XYZ"));
+    }
 }
 
 void OpenedFilesTest::secondDescriptionIsRefused()

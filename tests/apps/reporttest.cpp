@@ -27,6 +27,8 @@ private Q_SLOTS:
     void dominantWavelengths();
     void verdict();
     void drive();
+    void driveThatIsNotKnown();
+    void notes();
     void emptyDescription();
     void textIsTheReport();
     void documentedKeys();
@@ -44,6 +46,15 @@ DisplayDescription wall()
     description.original = QStringLiteral("native");
     description.target = QStringLiteral("Rec.709");
     return description;
+}
+
+//! Rec.709 with a white of \a luminance in cd/m².
+DisplayGamut absolute(const char *name, double luminance)
+{
+    const Model::Targets &t = Model::rec709().getTargets();
+    const auto at = [luminance](const Model::Target &c) { return Model::Target::fromYxy(c.Y * luminance, c.x, c.y); };
+    return {Model::ColorGamut(name, {at(t.red), at(t.green), at(t.blue), at(t.white)}),
+        LuminanceUnit::CandelaPerSquareMetre};
 }
 
 QJsonValue at(QJsonValue value, const char *path)
@@ -146,31 +157,38 @@ void ReportTest::validity_data()
 {
     QTest::addColumn<QString>("original");
     QTest::addColumn<QString>("target");
-    QTest::addColumn<bool>("valid");
+    QTest::addColumn<QJsonValue>("valid");
     QTest::addColumn<QStringList>("outside");
+    // The luminances of published gamuts are relative: that of the target is not judged.
     QTest::newRow("inside") << "Rec.2020"
-                            << "Rec.709" << true << QStringList();
+                            << "Rec.709" << QJsonValue(QJsonValue::Null) << QStringList();
     QTest::newRow("itself") << "Rec.709"
-                            << "Rec.709" << true << QStringList();
+                            << "Rec.709" << QJsonValue(QJsonValue::Null) << QStringList();
+    QTest::newRow("bright enough") << "bright"
+                                   << "dark" << QJsonValue(true) << QStringList();
+    QTest::newRow("too bright") << "dark"
+                                << "bright" << QJsonValue(false) << QStringList();
     QTest::newRow("around") << "Rec.709"
-                            << "Rec.2020" << false << QStringList{"red", "green", "blue"};
+                            << "Rec.2020" << QJsonValue(false) << QStringList{"red", "green", "blue"};
     QTest::newRow("shared blue") << "Rec.709"
-                                 << "DCI-P3(D65)" << false << QStringList{"red", "green"};
+                                 << "DCI-P3(D65)" << QJsonValue(false) << QStringList{"red", "green"};
     QTest::newRow("blue of Rec.709") << "native"
-                                     << "Rec.709" << false << QStringList{"blue"};
+                                     << "Rec.709" << QJsonValue(false) << QStringList{"blue"};
 }
 
 void ReportTest::validity()
 {
     QFETCH(QString, original);
     QFETCH(QString, target);
-    QFETCH(bool, valid);
+    QFETCH(QJsonValue, valid);
     QFETCH(QStringList, outside);
     DisplayDescription description = wall();
+    description.gamuts.push_back(absolute("bright", 1000.0));
+    description.gamuts.push_back(absolute("dark", 500.0));
     description.original = original;
     description.target = target;
     const QJsonObject all = report(description);
-    QCOMPARE(at(all, "validity.valid").toBool(), valid);
+    QCOMPARE(at(all, "validity.valid"), valid);
     QCOMPARE(at(all, "validity.outside").toArray(), QJsonArray::fromStringList(outside));
 }
 
@@ -225,13 +243,28 @@ void ReportTest::dominantWavelengths()
 void ReportTest::verdict()
 {
     DisplayDescription description = wall();
-    description.original = QStringLiteral("Rec.2020");
+    description.gamuts.push_back(absolute("bright", 1000.0));
+    description.gamuts.push_back(absolute("dark", 500.0));
+    description.original = QStringLiteral("bright");
+    description.target = QStringLiteral("dark");
     QJsonObject all = report(description);
     QCOMPARE(at(all, "verdict.status").toString(), QStringLiteral("pass"));
     QCOMPARE(at(all, "verdict.against").toString(), QStringLiteral("original"));
     QCOMPARE(at(all, "verdict.lines.0.subject").toString(), QStringLiteral("gamut"));
+    QCOMPARE(at(all, "verdict.lines.0.against").toString(), QStringLiteral("original"));
     QCOMPARE(at(all, "verdict.lines.1.subject").toString(), QStringLiteral("luminance"));
     QCOMPARE(at(all, "verdict.lines.1.color").toString(), QStringLiteral("white"));
+    QVERIFY(!all.contains("measuredDrive"));
+    description.measured = QStringLiteral("DCI-P3(D65)");
+    all = report(description);
+    QCOMPARE(at(all, "verdict.against").toString(), QStringLiteral("both"));
+    QCOMPARE(at(all, "verdict.status").toString(), QStringLiteral("not known"));
+    QCOMPARE(at(all, "verdict.lines.2.against").toString(), QStringLiteral("measured"));
+    QCOMPARE(at(all, "drive.against").toString(), QStringLiteral("original"));
+    QCOMPARE(at(all, "drive.comparable").toBool(), true);
+    QCOMPARE(at(all, "measuredDrive.against").toString(), QStringLiteral("measured"));
+    QCOMPARE(at(all, "measuredDrive.comparable").toBool(true), false);
+    description.measured.clear();
     std::swap(description.original, description.target);
     QCOMPARE(at(report(description), "verdict.status").toString(), QStringLiteral("fail"));
     std::swap(description.original, description.measured);
@@ -260,14 +293,62 @@ void ReportTest::drive()
     QVERIFY(at(all, "drive.headroom").isNull());
     QVERIFY(at(all, "drive.white").isNull());
     QVERIFY(at(all, "drive.largestWhite.Y").toDouble() > 0.0);
-    description.original = QStringLiteral("Rec.2020");
+    description.gamuts.push_back(absolute("bright", 1000.0));
+    description.gamuts.push_back(absolute("dark", 500.0));
+    description.original = QStringLiteral("bright");
+    description.target = QStringLiteral("dark");
     all = report(description);
     QCOMPARE(at(all, "drive.comparable").toBool(), true);
-    QCOMPARE(at(all, "drive.unit").toString(), QStringLiteral("relative"));
-    QVERIFY(isNear(at(all, "drive.headroom"), 1.0, 1e-9));
-    QVERIFY(isNear(at(all, "drive.white.red"), 1.0, 1e-9));
-    QVERIFY(isNear(at(all, "drive.white.blue"), 1.0, 1e-9));
-    QVERIFY(isNear(at(all, "drive.largestWhite.Y"), 1.0, 1e-9));
+    QCOMPARE(at(all, "drive.unit").toString(), QStringLiteral("cd/m2"));
+    QVERIFY(isNear(at(all, "drive.headroom"), 2.0, 1e-9));
+    QVERIFY(isNear(at(all, "drive.white.red"), 0.5, 1e-9));
+    QVERIFY(isNear(at(all, "drive.white.blue"), 0.5, 1e-9));
+    QVERIFY(isNear(at(all, "drive.largestWhite.Y"), 1000.0, 1e-6));
+}
+
+void ReportTest::driveThatIsNotKnown()
+{
+    // As the verdict says: for a white outside, for a target without light, and for a display that is not additive.
+    const auto isUnknown = [](const DisplayDescription &description) {
+        const QJsonObject drive = report(description).value("drive").toObject();
+        return drive.value("headroom").isNull() && drive.value("red").isNull() && drive.value("white").isNull();
+    };
+    DisplayDescription description = wall();
+    description.gamuts.push_back(absolute("bright", 1000.0));
+    description.gamuts.push_back(absolute("dark", 500.0));
+    description.original = QStringLiteral("bright");
+    description.target = QStringLiteral("dark");
+    QVERIFY(!isUnknown(description));
+    const auto withWhite = [&description](std::size_t gamut, const Model::Target &white) {
+        DisplayDescription changed = description;
+        Model::Targets targets = changed.gamuts.at(gamut).getTargets();
+        targets.white = white;
+        changed.gamuts[gamut] = {
+            Model::ColorGamut(changed.gamuts[gamut].colorGamutName(), targets), LuminanceUnit::CandelaPerSquareMetre};
+        return changed;
+    };
+    QVERIFY(isUnknown(withWhite(2, Model::Target::fromYxy(500, 0.05, 0.4))));
+    QVERIFY(isUnknown(withWhite(2, Model::Target::fromYxy(0, 0.3127, 0.3290))));
+    const DisplayDescription limited = withWhite(1, Model::Target::fromYxy(400, 0.3127, 0.3290));
+    QVERIFY(isUnknown(limited));
+    QVERIFY(at(report(limited), "drive.largestWhite").isNull());
+    QVERIFY(at(report(limited), "validity.valid").isNull());
+}
+
+void ReportTest::notes()
+{
+    const QJsonObject none = report(wall());
+    QVERIFY(none.value("warnings").isArray() && none.value("warnings").toArray().isEmpty());
+    QVERIFY(none.value("facts").isArray() && none.value("facts").toArray().isEmpty());
+    ReportNotes notes;
+    notes.warnings = QStringList{"a.csv: line 3: odd", "b.csv: odder"};
+    notes.facts = {{QStringLiteral("a.edid"), {QStringLiteral("made by"), QStringLiteral("XYZ")}}};
+    const QJsonObject all = QJsonDocument::fromJson(reportText(wall(), std::nullopt, notes)).object();
+    QCOMPARE(all.value("warnings").toArray(), QJsonArray::fromStringList(notes.warnings));
+    QCOMPARE(at(all, "facts").toArray().size(), 1);
+    QCOMPARE(at(all, "facts.0.file").toString(), QStringLiteral("a.edid"));
+    QCOMPARE(at(all, "facts.0.fact").toString(), QStringLiteral("made by"));
+    QCOMPARE(at(all, "facts.0.value").toString(), QStringLiteral("XYZ"));
 }
 
 void ReportTest::emptyDescription()
@@ -290,11 +371,12 @@ void ReportTest::documentedKeys()
     QFile file(QStringLiteral(VIEWER_DOCUMENTATION));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray documentation = file.readAll();
-    for (const char *key : {"version", "name", "declared", "original", "measured", "target", "red", "green", "blue",
-             "white", "cct", "duv", "area", "standards", "standard", "coverage", "areaRatio", "validity", "valid",
-             "outside", "givenUp", "share", "xy", "uv", "unit", "referenceWhite", "dominantWavelength", "purity",
-             "verdict", "status", "against", "text", "lines", "subject", "color", "drive", "comparable", "headroom",
-             "largestWhite", "fullDrive", "tolerances", "source"}) {
+    for (const char *key :
+        {"version", "name", "declared", "original", "measured", "target", "red", "green", "blue", "white", "cct", "duv",
+            "area", "standards", "standard", "coverage", "areaRatio", "validity", "valid", "outside", "givenUp",
+            "share", "xy", "uv", "unit", "referenceWhite", "dominantWavelength", "purity", "verdict", "status",
+            "against", "text", "lines", "subject", "color", "drive", "comparable", "headroom", "largestWhite",
+            "fullDrive", "tolerances", "source", "measuredDrive", "warnings", "facts", "fact", "value", "file"}) {
         QVERIFY2(documentation.contains('`' + QByteArray(key) + '`'), key);
     }
 }

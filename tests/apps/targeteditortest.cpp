@@ -469,6 +469,7 @@ void TargetEditorTest::unitOfLuminancesIsShownAndChosen()
 void TargetEditorTest::validityNamesThePrimary()
 {
     WindowFixture f;
+    f.forgetMeasuredGamut();
     f.window->session()->reset(QStringLiteral("LED wall"));
     const Verdict *verdict = f.window->panel()->verdict();
     QVERIFY(verdict->text().startsWith(QString::fromUtf8("✓")));

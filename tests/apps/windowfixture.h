@@ -56,6 +56,13 @@ struct WindowFixture {
     {
         return gamutviewer::xyOf(gamutviewer::targetAt(document().target()->getTargets(), vertex));
     }
+    /*! The sample has one; without it the target is held against the original alone. */
+    void forgetMeasuredGamut()
+    {
+        gamutviewer::DisplayDescription description = document().description();
+        description.measured.clear();
+        window->setDescription(description, QString());
+    }
     void show(QWidget *page)
     {
         window->pages()->setCurrentWidget(page);

@@ -83,14 +83,56 @@ QString drivesText(const Model::Drive &drive)
     return texts.join(AssessmentText::tr(", ", "between drives"));
 }
 
-//! \a value with as many decimals as it takes to tell it from \a limit, at least \a decimals.
-QStringList toldApart(double value, double limit, int decimals)
+//! A value and its limit as they are shown.
+struct ShownDeviation {
+    QString value;
+    QString limit;
+    bool isApart = true; //!< whether the texts of a value that fails differ
+};
+
+/*!
+ * With \a decimals, and up to two more if it takes them to tell a value that \a fails from its limit. One that passes
+ * needs no more: rounded, it is still on the right side of its limit, or equal.
+ */
+ShownDeviation shownDeviation(double value, double limit, int decimals, bool fails)
 {
-    constexpr int most = 9;
-    while (value != limit && decimals < most && fixedText(value, decimals) == fixedText(limit, decimals)) {
+    const auto areEqual = [&](int digits) { return fixedText(value, digits) == fixedText(limit, digits); };
+    int digits = decimals;
+    while (fails && digits < decimals + 2 && areEqual(digits)) {
+        ++digits;
+    }
+    if (fails && areEqual(digits)) {
+        return {fixedText(value, decimals), fixedText(limit, decimals), false};
+    }
+    return {fixedText(value, digits), fixedText(limit, digits), true};
+}
+
+//! What is beyond the ninth decimal of a deviation comes from its computation.
+void round(std::optional<double> &deviation)
+{
+    if (deviation) {
+        deviation = std::round(*deviation * 1e9) / 1e9;
+    }
+}
+
+Model::DeviationValues rounded(Model::DeviationValues values)
+{
+    for (std::optional<double> *value : {&values.whiteUv, &values.redUv, &values.greenUv, &values.blueUv,
+             &values.luminance, &values.temperature, &values.coverage}) {
+        round(*value);
+    }
+    return values;
+}
+
+//! A distance that is not 0 in Δu′v′, so that it does not look like 0 either.
+QString distanceText(double distance)
+{
+    constexpr int most = 6;
+    int decimals = 4;
+    while (decimals < most && fixedText(distance, decimals) == fixedText(0.0, decimals)) {
         ++decimals;
     }
-    return {fixedText(value, decimals), fixedText(limit, decimals)};
+    return fixedText(distance, decimals);
 }
 
 double highest(const Model::Drive &drive)
@@ -100,7 +142,8 @@ double highest(const Model::Drive &drive)
 
 bool compare(LuminanceUnit a, LuminanceUnit b)
 {
-    return a == b && a != LuminanceUnit::NotKnown;
+    // The scales of two relative ones need not be the same: 100 here can be 1 there.
+    return a == LuminanceUnit::CandelaPerSquareMetre && b == LuminanceUnit::CandelaPerSquareMetre;
 }
 
 QString unitPhrase(LuminanceUnit unit)
@@ -119,30 +162,67 @@ QString unitPhrase(LuminanceUnit unit)
 //! Why luminances of the target and of \a other cannot be compared, and what to do.
 QString incomparableText(LuminanceUnit target, LuminanceUnit other, const QString &otherName)
 {
-    const QString why = AssessmentText::tr("The luminances cannot be compared: those of the target are %1, those of "
-                                           "the %2 %3.")
-                            .arg(unitPhrase(target), otherName, unitPhrase(other));
+    const QString why = target == LuminanceUnit::Relative && other == LuminanceUnit::Relative
+        ? AssessmentText::tr("The luminances cannot be compared: those of the target and those of the %1 are relative, "
+                             "and their scales need not be the same.")
+              .arg(otherName)
+        : AssessmentText::tr("The luminances cannot be compared: those of the target are %1, those of "
+                             "the %2 %3.")
+              .arg(unitPhrase(target), otherName, unitPhrase(other));
     const QString what = other == LuminanceUnit::NotKnown
         ? AssessmentText::tr("State the unit of the %1 in its file.").arg(otherName)
+        : other == LuminanceUnit::Relative
+        ? AssessmentText::tr("It takes luminances of the %1 in cd/m².").arg(otherName)
         : AssessmentText::tr("Choose the unit of the target beside Y.");
     return why + QLatin1Char(' ') + what;
 }
 
 //! The gamut with the largest area in u′, v′ that could be the target instead; nothing without one.
-QString otherTarget(const DisplayDescription &description, const Model::Targets &display)
+QString otherTarget(const DisplayDescription &description)
 {
+    const std::vector<KnownDisplay> displays = knownDisplays(description);
+    const auto isInside = [&displays](const Model::Targets &target) {
+        return std::none_of(displays.begin(), displays.end(), [&target](const KnownDisplay &display) {
+            return Model::primariesOutside(target, display.gamut.getTargets()).any();
+        });
+    };
     QString best;
     double bestArea = 0.0;
     for (const DisplayGamut &standard : description.allStandards()) {
         const QString name = QString::fromStdString(standard.colorGamutName());
         const double area = Model::gamutArea(standard.getTargets(), Model::Diagram::Cie1976);
-        if (name != description.target && area > bestArea
-            && !Model::primariesOutside(standard.getTargets(), display).any()) {
+        if (name != description.target && area > bestArea && isInside(standard.getTargets())) {
             best = name;
             bestArea = area;
         }
     }
     return best;
+}
+
+//! A display whose white is held against the mixture of its primaries.
+struct Additivity {
+    Model::Target sum; //!< of the primaries
+    bool isAdditive = false; //!< whether the white is that sum
+    bool isUpperBound = false; //!< whether the display shows no more than the sum: no primary is brighter in the white
+    bool differsInLuminance = false; //!< whether the luminance is what is not additive
+};
+
+//! Of \a drive, which has no fault, with the colours of \a display.
+Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Targets &display)
+{
+    Additivity result;
+    const auto sum = drive.lightAt({1.0, 1.0, 1.0});
+    if (!sum) {
+        return result;
+    }
+    result.sum = *sum;
+    constexpr double rounding = 1e-9;
+    result.differsInLuminance = !(std::fabs(display.white.Y - sum->Y) <= sum->Y * (additiveLuminance + rounding));
+    const auto difference = Model::uvDifference(display.white, *sum);
+    result.isAdditive = !result.differsInLuminance && difference && *difference <= additiveUv + rounding;
+    const auto white = drive.driveOf(display.white);
+    result.isUpperBound = result.isAdditive || (white && highest(*white) <= 1.0 + additiveLuminance + rounding);
+    return result;
 }
 
 /*! \brief Makes the lines of an assessment. */
@@ -154,12 +234,14 @@ public:
         , m_target(description.gamut(description.target))
         , m_measured(description.gamut(description.measured))
     {
-        m_result.display = knownDisplay(description);
+        for (const KnownDisplay &display : knownDisplays(description)) {
+            m_result.displays.push_back({display, false, std::nullopt, std::nullopt});
+        }
     }
 
     Assessment result()
     {
-        judgeDisplay();
+        judgeDisplays();
         if (m_tolerances) {
             judgeTolerances();
         }
@@ -171,14 +253,21 @@ private:
 
     void add(Subject subject, Judgement judgement, const QString &text)
     {
-        m_result.lines.append({subject, judgement, text, std::nullopt, QString()});
+        m_result.lines.append({subject, judgement, text, std::nullopt, QString(), isOfMeasured()});
     }
     void add(Subject subject, Judgement judgement, const QString &text, Vertex vertex, const QString &mark)
     {
-        m_result.lines.append({subject, judgement, text, vertex, mark});
+        m_result.lines.append({subject, judgement, text, vertex, mark, isOfMeasured()});
     }
 
-    void judgeDisplay()
+    std::optional<bool> isOfMeasured() const
+    {
+        return m_current ? std::make_optional(m_current->display.isMeasured) : std::nullopt;
+    }
+
+    const Model::Targets &displayTargets() const { return m_current->display.gamut.getTargets(); }
+
+    void judgeDisplays()
     {
         if (!m_target) {
             add(Subject::Target, Judgement::NotKnown,
@@ -186,20 +275,27 @@ private:
                     "What the display is to show is not known: nobody has chosen a target. Choose one, or edit the "
                     "default."));
         }
-        if (!m_result.display) {
+        if (m_result.displays.empty()) {
             add(Subject::Display, Judgement::NotKnown,
-                AssessmentText::tr(
-                    "What the display can show is not known: there is neither an original nor a measured gamut. Open a "
-                    "measurement of its primaries, or choose its original."));
+                AssessmentText::tr("What the display can show is not known: no gamut of the display is known, neither "
+                                   "its original nor a measured one."));
         }
-        if (!m_target || !m_result.display) {
+        if (!m_target) {
             return;
         }
-        const Model::Targets &display = m_result.display->gamut.getTargets();
-        if (!Model::spanTriangle(display)) {
+        for (DriveAssessment &display : m_result.displays) {
+            m_current = &display;
+            judgeDisplay();
+        }
+        m_current = nullptr;
+    }
+
+    void judgeDisplay()
+    {
+        if (!Model::spanTriangle(displayTargets())) {
             add(Subject::Display, Judgement::NotKnown,
                 AssessmentText::tr("What the display can show is not known: the primaries of the %1 span no triangle.")
-                    .arg(displayName(*m_result.display)));
+                    .arg(displayName(m_current->display)));
             return;
         }
         judgeGamut();
@@ -209,40 +305,46 @@ private:
     void judgeGamut()
     {
         const Model::Targets &target = m_target->getTargets();
-        const Model::Targets &display = m_result.display->gamut.getTargets();
-        const QString other = otherTarget(m_description, display);
+        const QString other = otherTarget(m_description);
+        const QString name = displayName(m_current->display);
         bool isInside = true;
         for (const Vertex primary : primaries) {
-            const double distance = distanceOutside(target, primary, display);
+            const double distance = distanceOutside(target, primary, displayTargets());
             if (distance > 0.0) {
                 isInside = false;
                 addOutside(primary, distance, other);
             }
         }
-        const Model::DisplayDrive drive(display);
-        if (drive.fault() == Model::DisplayFault::None && !drive.largestLuminance(pointOf(target.white))
-            && Model::nearestInside(display, pointOf(target.white), chromaticityDecimals)) {
-            const auto nearest = Model::nearestInside(display, pointOf(target.white), chromaticityDecimals);
-            if (nearest->distance > 0.0) {
-                isInside = false;
-                addOutside(Vertex::White, nearest->distance, other);
-            }
-        }
-        if (isInside) {
+        const auto distance = whiteDistance();
+        constexpr double rounding = 1e-9;
+        if (!distance) {
+            add(Subject::Gamut, Judgement::NotKnown,
+                AssessmentText::tr("Whether the white lies inside of the %1 is not known: it has no chromaticity.")
+                    .arg(name),
+                Vertex::White, handleName(Vertex::White));
+        } else if (*distance > rounding) {
+            addOutside(Vertex::White, *distance, other);
+        } else if (isInside) {
             add(Subject::Gamut, Judgement::Pass,
-                AssessmentText::tr("All primaries and the white lie inside of the %1.")
-                    .arg(displayName(*m_result.display)));
+                AssessmentText::tr("All primaries and the white lie inside of the %1.").arg(name));
         }
+    }
+
+    //! Of the white from the triangle, in Δu′v′: it takes no luminances. Nothing without a chromaticity.
+    std::optional<double> whiteDistance() const
+    {
+        const Model::Target &white = m_target->getTargets().white;
+        const auto nearest = Model::nearestPoint(displayTargets(), pointOf(white), Model::Diagram::Cie1976);
+        return nearest ? Model::uvDifference(Model::Target::fromYxy(1.0, nearest->x, nearest->y), white) : std::nullopt;
     }
 
     void addOutside(Vertex vertex, double distance, const QString &other)
     {
         const Model::Target &color = targetAt(m_target->getTargets(), vertex);
-        const auto nearest
-            = Model::nearestInside(m_result.display->gamut.getTargets(), pointOf(color), chromaticityDecimals);
+        const auto nearest = Model::nearestInside(displayTargets(), pointOf(color), chromaticityDecimals);
         const QString what
             = AssessmentText::tr("%1 lies outside of the %2 by Δu′v′ %3")
-                  .arg(capitalised(gamutVertexName(vertex)), displayName(*m_result.display), fixedText(distance, 4));
+                  .arg(capitalised(gamutVertexName(vertex)), displayName(m_current->display), distanceText(distance));
         const QString move = nearest ? AssessmentText::tr("move it to %1").arg(pointText(nearest->xy)) : QString();
         const QString choose = other.isEmpty()
             ? QString()
@@ -260,46 +362,84 @@ private:
 
     void judgeLuminance()
     {
-        const KnownDisplay &display = *m_result.display;
+        const KnownDisplay &display = m_current->display;
         const QString name = displayName(display);
-        const Model::DisplayDrive displayDrive(display.gamut.getTargets());
+        const Model::DisplayDrive displayDrive(displayTargets());
         if (displayDrive.fault() != Model::DisplayFault::None) {
             addFault(displayDrive);
             return;
         }
         const Model::Target &white = m_target->getTargets().white;
-        m_result.largestWhite = displayDrive.largestLuminance(pointOf(white));
-        m_result.luminancesCompare = compare(m_target->unit, display.gamut.unit);
-        if (!m_result.luminancesCompare) {
+        const Additivity additivity = additivityOf(displayDrive, displayTargets());
+        const auto largest = displayDrive.largestLuminance(pointOf(white));
+        m_current->luminancesCompare = compare(m_target->unit, display.gamut.unit);
+        if (additivity.isAdditive) {
+            m_current->largestWhite = largest;
+        }
+        if (!m_current->luminancesCompare) {
             QString text = incomparableText(m_target->unit, display.gamut.unit, name);
-            if (m_result.largestWhite) {
+            if (m_current->largestWhite) {
                 text += QLatin1Char(' ')
                     + AssessmentText::tr("At this white the %1 reaches %2.")
-                          .arg(name, reachableText(m_result.largestWhite->luminance, display.gamut.unit));
+                          .arg(name, reachableText(m_current->largestWhite->luminance, display.gamut.unit));
             }
-            add(Subject::Luminance, Judgement::NotKnown, text, Vertex::White, handleName(Vertex::White));
+            addOfWhite(Judgement::NotKnown, text);
             return;
         }
-        m_result.drive = displayDrive.driveFor(m_target->getTargets());
-        if (!m_result.drive || !(white.Y > 0.0)) {
-            add(Subject::Luminance, Judgement::NotKnown,
-                AssessmentText::tr("The luminance of the target is not known: its white has none. Enter it beside Y."),
-                Vertex::White, handleName(Vertex::White));
+        const auto drive = displayDrive.driveFor(m_target->getTargets());
+        if (!drive || !(white.Y > 0.0)) {
+            addOfWhite(Judgement::NotKnown,
+                AssessmentText::tr("The luminance of the target is not known: its white has none. Enter it beside Y."));
             return;
         }
-        if (!m_result.largestWhite) {
-            add(Subject::Luminance, Judgement::NotKnown,
-                AssessmentText::tr("The drive of the %1 is not known: the white lies outside of it.").arg(name),
-                Vertex::White, handleName(Vertex::White));
+        if (!largest) {
+            addOfWhite(Judgement::NotKnown,
+                AssessmentText::tr("The drive of the %1 is not known: the white lies outside of it.").arg(name));
             return;
         }
-        judgeWhiteLuminance(white);
-        judgePrimaryLuminances();
+        if (!additivity.isAdditive) {
+            judgeWithoutAdditivity(additivity, *drive, largest->luminance);
+            return;
+        }
+        m_current->drive = drive;
+        judgeWhiteLuminance(drive->white, largest->luminance);
+        judgePrimaryLuminances(*drive);
+    }
+
+    void addOfWhite(Judgement judgement, const QString &text)
+    {
+        add(Subject::Luminance, judgement, text, Vertex::White, handleName(Vertex::White));
+    }
+
+    //! What it reaches is not known, but where the sum of the primaries is the most that it can be, that can fail.
+    void judgeWithoutAdditivity(const Additivity &additivity, const Model::TargetDrive &drive, double largest)
+    {
+        const QString name = displayName(m_current->display);
+        const LuminanceUnit unit = m_target->unit;
+        const Model::Target &white = m_target->getTargets().white;
+        if (additivity.isUpperBound && highest(drive.white) > fullDrive) {
+            addOfWhite(Judgement::Fail,
+                AssessmentText::tr("The target is too bright: the %1 reaches at most %2 at this white, if its "
+                                   "primaries add up, and the target has %3. Lower the luminance of the white.")
+                    .arg(name, reachableText(largest, unit), luminanceText(white.Y, unit)));
+            return;
+        }
+        const Model::Target &stated = displayTargets().white;
+        const QString is = additivity.differsInLuminance ? luminanceText(stated.Y, unit) : pointText(pointOf(stated));
+        const QString sum = additivity.differsInLuminance ? luminanceText(additivity.sum.Y, unit)
+                                                          : pointText(pointOf(additivity.sum));
+        addOfWhite(Judgement::NotKnown,
+            AssessmentText::tr("The white of the %1 is %2, its primaries add to %3: what luminance it reaches at the "
+                               "white of the target cannot be worked out. Measure it there.")
+                .arg(name, is, sum));
+        if (additivity.isUpperBound) {
+            judgePrimaryLuminances(drive);
+        }
     }
 
     void addFault(const Model::DisplayDrive &drive)
     {
-        const QString name = displayName(*m_result.display);
+        const QString name = displayName(m_current->display);
         const auto primary = drive.faultyPrimary();
         const QString text = drive.fault() == Model::DisplayFault::NoLight && primary
             ? AssessmentText::tr("What luminance the display reaches is not known: %1 of the %2 has no luminance.")
@@ -310,43 +450,50 @@ private:
         add(Subject::Luminance, Judgement::NotKnown, text);
     }
 
-    void judgeWhiteLuminance(const Model::Target &white)
+    void judgeWhiteLuminance(const Model::Drive &drive, double reached)
     {
-        const QString name = displayName(*m_result.display);
+        const Model::Target &white = m_target->getTargets().white;
+        const QString name = displayName(m_current->display);
         const LuminanceUnit unit = m_target->unit;
-        const Model::Drive &drive = m_result.drive->white;
-        const double reached = m_result.largestWhite->luminance;
         if (highest(drive) <= fullDrive) {
-            add(Subject::Luminance, Judgement::Pass,
-                AssessmentText::tr("The white of %1 needs of the %2: %3. It reaches %4 at this white (headroom %5).")
-                    .arg(luminanceText(white.Y, unit), name, drivesText(drive), reachableText(reached, unit),
-                        fixedText(reached / white.Y, 2)),
-                Vertex::White, handleName(Vertex::White));
+            QString text
+                = AssessmentText::tr("The white of %1 needs of the %2: %3. It reaches %4 at this white (headroom %5).")
+                      .arg(luminanceText(white.Y, unit), name, drivesText(drive), reachableText(reached, unit),
+                          fixedText(reached / white.Y, 2));
+            if (highest(drive) > 1.0 + Model::driveRounding) {
+                text += QLatin1Char(' ')
+                    + AssessmentText::tr("That is within %1 of full drive, and counts as full.")
+                          .arg(percent(fullDrive - 1.0));
+            }
+            addOfWhite(Judgement::Pass, text);
             return;
         }
-        add(Subject::Luminance, Judgement::Fail,
-            AssessmentText::tr("The target is too bright: the %1 reaches %2 at this white, and the target has %3. It "
-                               "would need %4. Lower the luminance of the white to %2.")
-                .arg(name, reachableText(reached, unit), luminanceText(white.Y, unit), drivesText(drive)),
-            Vertex::White, handleName(Vertex::White));
+        QString text
+            = AssessmentText::tr("The target is too bright: the %1 reaches %2 at this white, and the target has %3. It "
+                                 "would need %4. Lower the luminance of the white to %2.")
+                  .arg(name, reachableText(reached, unit), luminanceText(white.Y, unit), drivesText(drive));
+        if (percent(highest(drive)) == percent(fullDrive)) {
+            text += QLatin1Char(' ')
+                + AssessmentText::tr("That is more than %1 above full drive.").arg(percent(fullDrive - 1.0));
+        }
+        addOfWhite(Judgement::Fail, text);
     }
 
     //! They follow from the white, unless a file has luminances that do not mix to it.
-    void judgePrimaryLuminances()
+    void judgePrimaryLuminances(const Model::TargetDrive &target)
     {
-        const Model::Drive drives[] = {m_result.drive->red, m_result.drive->green, m_result.drive->blue};
+        const Model::Drive drives[] = {target.red, target.green, target.blue};
         for (const Vertex primary : primaries) {
             const Model::Drive &drive = drives[int(primary)];
-            const bool isShownAtAll
-                = distanceOutside(m_target->getTargets(), primary, m_result.display->gamut.getTargets()) == 0.0;
-            if (!isShownAtAll || highest(drive) <= fullDrive || highest(m_result.drive->white) > fullDrive) {
+            const bool isShownAtAll = distanceOutside(m_target->getTargets(), primary, displayTargets()) == 0.0;
+            if (!isShownAtAll || highest(drive) <= fullDrive || highest(target.white) > fullDrive) {
                 continue;
             }
             const double luminance = targetAt(m_target->getTargets(), primary).Y;
             add(Subject::Luminance, Judgement::Fail,
                 AssessmentText::tr("The luminance %1 of %2 is more than the %3 reaches: %4. Lower it to that.")
                     .arg(luminanceText(luminance, m_target->unit), gamutVertexName(primary),
-                        displayName(*m_result.display), reachableText(luminance / highest(drive), m_target->unit)),
+                        displayName(m_current->display), reachableText(luminance / highest(drive), m_target->unit)),
                 primary, handleName(primary));
         }
     }
@@ -367,7 +514,7 @@ private:
                 values.temperature = temperature->kelvin - wanted->kelvin;
             }
         }
-        for (const Model::ToleranceResult &result : Model::judged(values, limits)) {
+        for (const Model::ToleranceResult &result : Model::judged(rounded(values), limits)) {
             addResult(result);
         }
         for (const StandardCoverage &limit : m_tolerances->standards) {
@@ -386,7 +533,7 @@ private:
     QString notKnownText(Model::ToleranceSubject subject) const
     {
         if (!m_measured) {
-            return AssessmentText::tr("nothing is measured. Open a measurement of red, green, blue and white.");
+            return AssessmentText::tr("no measured gamut of the display is known.");
         }
         if (!m_target) {
             return AssessmentText::tr("there is no target. Choose one.");
@@ -449,21 +596,27 @@ private:
 
     static QString deviationText(const Model::ToleranceResult &result)
     {
+        const bool fails = result.verdict == Model::ToleranceVerdict::Failed;
         const double value = *result.value;
+        const auto beyond = [](const QString &text, const ShownDeviation &shown) {
+            return shown.isApart ? text : AssessmentText::tr("beyond %1", "a limit, by less than is shown").arg(text);
+        };
+        const QString sign = value < 0.0 ? QStringLiteral("-") : QStringLiteral("+");
         switch (result.subject) {
         case Model::ToleranceSubject::Luminance: {
-            const QStringList texts = toldApart(std::fabs(value) * 100.0, result.limit * 100.0, 1);
-            return AssessmentText::tr("%1%2 % from the target, limit ±%3 %.")
-                .arg(value < 0.0 ? QStringLiteral("-") : QStringLiteral("+"), texts.at(0), texts.at(1));
+            const ShownDeviation shown = shownDeviation(std::fabs(value) * 100.0, result.limit * 100.0, 1, fails);
+            return AssessmentText::tr("%1 % from the target, limit ±%2 %.")
+                .arg(beyond(sign + shown.value, shown), shown.limit);
         }
         case Model::ToleranceSubject::Temperature: {
-            const QStringList texts = toldApart(std::fabs(value), result.limit, 0);
-            return AssessmentText::tr("%1%2 K from the target, limit ±%3 K.")
-                .arg(value < 0.0 ? QStringLiteral("-") : QStringLiteral("+"), texts.at(0), texts.at(1));
+            const ShownDeviation shown = shownDeviation(std::fabs(value), result.limit, 0, fails);
+            return AssessmentText::tr("%1 K from the target, limit ±%2 K.")
+                .arg(beyond(sign + shown.value, shown), shown.limit);
         }
         case Model::ToleranceSubject::Coverage: {
-            const QStringList texts = toldApart(value * 100.0, result.limit * 100.0, 1);
-            return AssessmentText::tr("%1 %, at least %2 %.").arg(texts.at(0), texts.at(1));
+            const ShownDeviation shown = shownDeviation(value * 100.0, result.limit * 100.0, 1, fails);
+            return AssessmentText::tr("%1 %, at least %2 %.")
+                .arg(shown.isApart ? shown.value : AssessmentText::tr("less than %1").arg(shown.value), shown.limit);
         }
         case Model::ToleranceSubject::WhiteUv:
         case Model::ToleranceSubject::RedUv:
@@ -471,8 +624,8 @@ private:
         case Model::ToleranceSubject::BlueUv:
             break;
         }
-        const QStringList texts = toldApart(value, result.limit, 4);
-        return AssessmentText::tr("Δu′v′ %1 from the target, limit %2.").arg(texts.at(0), texts.at(1));
+        const ShownDeviation shown = shownDeviation(value, result.limit, 4, fails);
+        return AssessmentText::tr("Δu′v′ %1 from the target, limit %2.").arg(beyond(shown.value, shown), shown.limit);
     }
 
     void judgeStandard(const StandardCoverage &limit)
@@ -483,9 +636,8 @@ private:
         const QString what
             = AssessmentText::tr("Coverage of %1 in %2 by the measured gamut").arg(oneLine(limit.standard), diagram);
         if (!standard || !m_measured) {
-            const QString why = standard
-                ? AssessmentText::tr("nothing is measured. Open a measurement of red, green, blue and white.")
-                : AssessmentText::tr("there is no gamut of that name.");
+            const QString why = standard ? AssessmentText::tr("no measured gamut of the display is known.")
+                                         : AssessmentText::tr("there is no gamut of that name.");
             add(Subject::Tolerance, Judgement::NotKnown,
                 AssessmentText::tr("%1: %2", "what was judged and the judgement")
                     .arg(what, AssessmentText::tr("not known, as %1").arg(why)));
@@ -497,7 +649,7 @@ private:
                               .coverage;
         Model::Tolerances limits;
         limits.coverage = limit.coverage;
-        const Model::ToleranceResult result = Model::judged(values, limits).front();
+        const Model::ToleranceResult result = Model::judged(rounded(values), limits).front();
         const QString is = result.verdict == Model::ToleranceVerdict::NotKnown
             ? AssessmentText::tr("not known, as %1")
                   .arg(AssessmentText::tr("a colour has no chromaticity or no luminance."))
@@ -511,6 +663,7 @@ private:
     const std::optional<DisplayGamut> m_target;
     const std::optional<DisplayGamut> m_measured;
     Assessment m_result;
+    DriveAssessment *m_current = nullptr; // of m_result.displays, while it is judged
 };
 
 Judgement worst(const QVector<AssessmentLine> &lines, bool ofTolerances)
@@ -558,13 +711,32 @@ QString judgementName(Judgement judgement)
     return QStringLiteral("not known");
 }
 
+std::vector<KnownDisplay> knownDisplays(const DisplayDescription &description)
+{
+    std::vector<KnownDisplay> displays;
+    if (const auto original = description.gamut(description.original)) {
+        displays.push_back({*original, false});
+    }
+    const auto measured = description.gamut(description.measured);
+    if (measured && (displays.empty() || description.measured != description.original)) {
+        displays.push_back({*measured, true});
+    }
+    return displays;
+}
+
 std::optional<KnownDisplay> knownDisplay(const DisplayDescription &description)
 {
-    if (const auto original = description.gamut(description.original)) {
-        return KnownDisplay{*original, false};
-    }
-    if (const auto measured = description.gamut(description.measured)) {
-        return KnownDisplay{*measured, true};
+    const std::vector<KnownDisplay> displays = knownDisplays(description);
+    return displays.empty() ? std::nullopt : std::make_optional(displays.front());
+}
+
+std::optional<KnownDisplay> exceededDisplay(const DisplayDescription &description)
+{
+    const auto target = description.gamut(description.target);
+    for (const KnownDisplay &display : knownDisplays(description)) {
+        if (target && Model::primariesOutside(target->getTargets(), display.gamut.getTargets()).any()) {
+            return display;
+        }
     }
     return std::nullopt;
 }

@@ -11,6 +11,7 @@
 #include <QVector>
 
 #include <optional>
+#include <vector>
 
 /*!
  * \file
@@ -36,11 +37,26 @@ struct KnownDisplay {
     bool isMeasured = false; //!< it is the measured gamut, because there is no original
 };
 
-/*! \brief The original of \a description, or else the measured gamut; nothing when neither is known. */
+/*!
+ * \brief The gamuts of \a description that a target is held against: the original, then the measured gamut.
+ *
+ * A gamut that has both parts is there once, as the original.
+ */
+std::vector<KnownDisplay> knownDisplays(const DisplayDescription &description);
+
+/*! \brief The first of knownDisplays(). */
 std::optional<KnownDisplay> knownDisplay(const DisplayDescription &description);
+
+/*! \brief The first of knownDisplays() that a primary of the target lies outside of; nothing without such a one. */
+std::optional<KnownDisplay> exceededDisplay(const DisplayDescription &description);
 
 /*! \brief Drives up to this count as full: the four decimals of a white point leave about 0.001 open. */
 constexpr double fullDrive = 1.002;
+
+/*! \brief By which part the luminance of an additive display's white may differ from the sum of its primaries. */
+constexpr double additiveLuminance = 0.02;
+/*! \brief By how much, in Δu′v′, the white of an additive display may differ from the mixture of its primaries. */
+constexpr double additiveUv = 0.003;
 
 /*!
  * \brief By how much the chromaticity of \a primary lies outside of \a display, in Δu′v′; 0 when it does not.
@@ -65,17 +81,24 @@ struct AssessmentLine {
     QString text; //!< sentences, in the language of the interface
     std::optional<ceiechart::GamutVertex> vertex; //!< whose mark on the diagram shows it
     QString mark; //!< what that mark is, for people; empty when nothing on the diagram shows it
+    std::optional<bool> isOfMeasured; //!< held against the measured gamut, or else the original; nothing for neither
+};
+
+/*! \brief What is known of how one gamut of the display is driven for the target. */
+struct DriveAssessment {
+    KnownDisplay display; //!< the gamut
+    /*! \brief Whether the luminances of gamut and target can be compared: both are in cd/m². */
+    bool luminancesCompare = false;
+    /*! \brief The drives; nothing when they are not known. */
+    std::optional<Model::TargetDrive> drive;
+    /*! \brief Of the target's white, in the unit of the gamut; nothing when it is not known. */
+    std::optional<Model::LargestLuminance> largestWhite;
 };
 
 /*! \brief All judgements of a description. */
 struct Assessment {
-    std::optional<KnownDisplay> display; //!< what the target is held against
+    std::vector<DriveAssessment> displays; //!< what the target is held against: of knownDisplays()
     QVector<AssessmentLine> lines; //!< at least one
-    std::optional<Model::TargetDrive> drive; //!< of the display, for the target; only when the luminances compare
-    std::optional<Model::LargestLuminance> largestWhite; //!< of the target's white, in the unit of the display
-
-    /*! \brief Whether the luminances of display and target can be compared: both in cd/m², or both relative. */
-    bool luminancesCompare = false;
 
     /*! \brief Fail when a line fails, or else NotKnown when one is not known. */
     Judgement judgement() const;

@@ -91,7 +91,12 @@ QJsonObject gamutObject(const DisplayGamut &gamut, const std::vector<DisplayGamu
         {QStringLiteral("standards"), comparisons}};
 }
 
-QJsonObject validityObject(const Model::Targets &target, const Model::Targets &original)
+QJsonValue validValue(Judgement judgement)
+{
+    return judgement == Judgement::NotKnown ? QJsonValue(QJsonValue::Null) : QJsonValue(judgement == Judgement::Pass);
+}
+
+QJsonObject validityObject(const Model::Targets &target, const Model::Targets &original, const Assessment &assessment)
 {
     const Model::PrimariesOutside outside = Model::primariesOutside(target, original);
     QJsonArray names;
@@ -103,7 +108,7 @@ QJsonObject validityObject(const Model::Targets &target, const Model::Targets &o
     name(outside.red, QStringLiteral("red"));
     name(outside.green, QStringLiteral("green"));
     name(outside.blue, QStringLiteral("blue"));
-    return {{QStringLiteral("valid"), !outside.any()}, {QStringLiteral("outside"), names}};
+    return {{QStringLiteral("valid"), validValue(assessment.judgement())}, {QStringLiteral("outside"), names}};
 }
 
 //! The name of \a vertex as keys have it.
@@ -146,12 +151,18 @@ QString subjectName(AssessmentLine::Subject subject)
     return QStringLiteral("tolerance");
 }
 
+QString displayPart(bool isMeasured)
+{
+    return isMeasured ? QStringLiteral("measured") : QStringLiteral("original");
+}
+
 QJsonValue againstValue(const Assessment &assessment)
 {
-    if (!assessment.display) {
+    if (assessment.displays.empty()) {
         return QJsonValue::Null;
     }
-    return assessment.display->isMeasured ? QStringLiteral("measured") : QStringLiteral("original");
+    return assessment.displays.size() > 1 ? QStringLiteral("both")
+                                          : displayPart(assessment.displays.front().display.isMeasured);
 }
 
 QJsonObject verdictObject(const Assessment &assessment)
@@ -160,6 +171,7 @@ QJsonObject verdictObject(const Assessment &assessment)
     for (const AssessmentLine &line : assessment.lines) {
         lines.append(QJsonObject{{QStringLiteral("subject"), subjectName(line.subject)},
             {QStringLiteral("status"), judgementName(line.judgement)},
+            {QStringLiteral("against"), line.isOfMeasured ? QJsonValue(displayPart(*line.isOfMeasured)) : QJsonValue()},
             {QStringLiteral("color"), line.vertex ? QJsonValue(colorName(*line.vertex)) : QJsonValue::Null},
             {QStringLiteral("text"), line.text}});
     }
@@ -168,11 +180,11 @@ QJsonObject verdictObject(const Assessment &assessment)
         {QStringLiteral("lines"), lines}};
 }
 
-//! How the display is driven for the target. What needs comparable luminances is null without them.
-QJsonObject driveObject(const Assessment &assessment)
+//! How a gamut of the display is driven for the target. What is not known is null.
+QJsonObject driveObject(const DriveAssessment &assessment)
 {
-    QJsonObject object{{QStringLiteral("against"), againstValue(assessment)},
-        {QStringLiteral("unit"), unitValue(assessment.display->gamut.unit)},
+    QJsonObject object{{QStringLiteral("against"), displayPart(assessment.display.isMeasured)},
+        {QStringLiteral("unit"), unitValue(assessment.display.gamut.unit)},
         {QStringLiteral("comparable"), assessment.luminancesCompare}, {QStringLiteral("headroom"), QJsonValue::Null},
         {QStringLiteral("largestWhite"), QJsonValue::Null}};
     if (const auto &largest = assessment.largestWhite) {
@@ -205,9 +217,20 @@ QJsonObject unusedObject(const Model::Targets &target, const Model::Targets &ori
     });
 }
 
+QJsonArray factsArray(const QVector<FileFact> &facts)
+{
+    QJsonArray array;
+    for (const FileFact &of : facts) {
+        array.append(QJsonObject{{QStringLiteral("file"), of.fileName}, {QStringLiteral("fact"), of.fact.name},
+            {QStringLiteral("value"), of.fact.value}});
+    }
+    return array;
+}
+
 } // namespace
 
-QJsonObject report(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+QJsonObject report(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances, const ReportNotes &notes)
 {
     const std::vector<DisplayGamut> comparedWith = description.allStandards();
     QJsonObject object{{QStringLiteral("version"), 1}, {QStringLiteral("name"), description.name}};
@@ -220,27 +243,34 @@ QJsonObject report(const DisplayDescription &description, const std::optional<To
     insertPart(QStringLiteral("original"), description.original);
     insertPart(QStringLiteral("measured"), description.measured);
     insertPart(QStringLiteral("target"), description.target);
+    const Assessment assessment = assess(description, tolerances);
     const auto original = description.gamut(description.original);
     const auto target = description.gamut(description.target);
     if (original && target) {
-        object.insert(QStringLiteral("validity"), validityObject(target->getTargets(), original->getTargets()));
+        object.insert(
+            QStringLiteral("validity"), validityObject(target->getTargets(), original->getTargets(), assessment));
         object.insert(QStringLiteral("givenUp"), unusedObject(target->getTargets(), original->getTargets()));
     }
-    const Assessment assessment = assess(description, tolerances);
     object.insert(QStringLiteral("verdict"), verdictObject(assessment));
-    if (assessment.display && target) {
-        object.insert(QStringLiteral("drive"), driveObject(assessment));
+    if (!assessment.displays.empty() && target) {
+        object.insert(QStringLiteral("drive"), driveObject(assessment.displays.front()));
+    }
+    if (assessment.displays.size() > 1 && target) {
+        object.insert(QStringLiteral("measuredDrive"), driveObject(assessment.displays.at(1)));
     }
     if (tolerances) {
         object.insert(QStringLiteral("tolerances"),
             QJsonObject{{QStringLiteral("name"), tolerances->name}, {QStringLiteral("source"), tolerances->source}});
     }
+    object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(notes.warnings));
+    object.insert(QStringLiteral("facts"), factsArray(notes.facts));
     return object;
 }
 
-QByteArray reportText(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+QByteArray reportText(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances, const ReportNotes &notes)
 {
-    return QJsonDocument(report(description, tolerances)).toJson();
+    return QJsonDocument(report(description, tolerances, notes)).toJson();
 }
 
 } // namespace gamutviewer

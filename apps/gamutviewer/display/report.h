@@ -6,21 +6,39 @@
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
 
 namespace gamutviewer {
+
+/*! \brief Something that a file says of a display besides its gamut. */
+struct FileFact {
+    QString fileName; //!< as it was given
+    DisplayFact fact; //!< what it says
+};
+
+/*! \brief What is known of the files that were read, besides the description that they make. */
+struct ReportNotes {
+    QStringList warnings; //!< each as one line: the file, the place and the text
+    QVector<FileFact> facts; //!< in the order of the files
+};
 
 /*!
  * \brief Everything that the viewer works out of \a description; docs/gamut-viewer.md describes its keys.
  *
  * Of each gamut: its colours with u', v', colour temperature and Duv, its areas, its coverage of and area ratio to
- * every standard, in x, y and in u', v'; whether the original can show the target, and what the target gives up; and
- * the verdict, with \a tolerances where there are any.
+ * every standard, in x, y and in u', v'; whether the original can show the target, and what the target gives up; the
+ * verdict, with \a tolerances where there are any; and \a notes.
  */
-QJsonObject report(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt);
+QJsonObject report(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt,
+    const ReportNotes &notes = ReportNotes());
 
 /*! \brief The report as a JSON text in UTF-8 that ends with a line end. */
-QByteArray reportText(
-    const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt);
+QByteArray reportText(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt,
+    const ReportNotes &notes = ReportNotes());
 
 } // namespace gamutviewer
 

@@ -225,6 +225,9 @@ OpenedFiles openedWith(const DisplayDescription &open, const QVector<ReadFile> &
         for (const Problem &warning : file.warnings) {
             opened.warnings.append({file.fileName, warning});
         }
+        for (const DisplayFact &fact : file.file.facts) {
+            opened.facts.append({file.fileName, fact});
+        }
     }
     return opened;
 }
@@ -235,6 +238,7 @@ OpenedFiles openedAlone(const QVector<ReadFile> &files)
     for (const ReadFile &file : files) {
         const OpenedFiles next = openedWith(opened.description, {file});
         opened.warnings += next.warnings;
+        opened.facts += next.facts;
         for (const Problem &remark : remarksOnAdding(opened.description, file)) {
             opened.warnings.append({file.fileName, remark});
         }

@@ -3,6 +3,7 @@
 #define GAMUTVIEWER_OPENEDFILES_H
 
 #include "display/gamutfiles.h"
+#include "display/report.h"
 #include "editing/gamutroles.h"
 
 #include <QStringList>
@@ -69,6 +70,7 @@ struct OpenedFiles {
     DisplayDescription inDescriptionFile; //!< what that one has, without the additions
     QStringList fileNames; //!< all of them
     QVector<FileWarning> warnings; //!< of their readers, and about what the additions change
+    QVector<FileFact> facts; //!< what the files say of a display besides its gamut
     bool needsChoice = false; //!< as needsChoice() says of one of them
     bool hasLists = false; //!< whether one of them is a measurement list
 };

@@ -175,14 +175,14 @@ void TargetSession::reset(const QString &gamutName)
 void TargetSession::fitToDisplay()
 {
     const auto target = m_document->target();
-    const auto display = knownDisplay(m_document->description());
+    const auto display = exceededDisplay(m_document->description());
     if (!target || !display) {
         return;
     }
     const Model::Targets &limit = display->gamut.getTargets();
     std::optional<Model::Targets> fitted = target->getTargets();
     for (const Vertex primary : primaries) {
-        if (!fitted || distanceOutside(primary) == 0.0) {
+        if (!fitted || gamutviewer::distanceOutside(target->getTargets(), primary, limit) == 0.0) {
             continue;
         }
         const QPointF from = xyOf(targetAt(*fitted, primary));

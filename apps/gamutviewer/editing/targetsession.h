@@ -57,8 +57,8 @@ public:
     /*! \brief Puts the gamut called \a gamutName in place of the target. */
     void reset(const QString &gamutName);
     /*!
-     * \brief Moves each primary that lies outside of the display to the nearest chromaticity in u′, v′, of as many
-     * decimals as are shown, that the display can show.
+     * \brief Moves each primary that lies outside of exceededDisplay() to the nearest chromaticity in u′, v′, of as
+     * many decimals as are shown, that lies inside. Does nothing when none lies outside.
      */
     void fitToDisplay();
     /*! \brief Selects \a vertex and has it shown closely on the diagram. */

@@ -103,7 +103,6 @@ void Verdict::show(const Assessment &assessment)
         std::copy_if(assessment.lines.begin(), assessment.lines.end(), std::back_inserter(lines),
             [judgement](const AssessmentLine &line) { return line.judgement == judgement; });
     }
-    bool isOutside = false;
     for (int row = 0; row < lines.size(); ++row) {
         const AssessmentLine &line = lines.at(row);
         if (row == m_lines->count()) {
@@ -117,13 +116,12 @@ void Verdict::show(const Assessment &assessment)
         }
         item->setData(vertexRole, line.vertex ? QVariant(int(*line.vertex)) : QVariant());
         item->setToolTip(line.mark.isEmpty() ? QString() : tr("On the diagram: %1").arg(line.mark));
-        isOutside = isOutside
-            || (line.subject == AssessmentLine::Subject::Gamut && line.judgement == Judgement::Fail && line.vertex
-                && *line.vertex != Vertex::White);
     }
-    m_fit->setText(assessment.display && assessment.display->isMeasured ? tr("&Move inside the measured gamut")
-                                                                        : tr("&Move inside the original"));
-    m_fit->setEnabled(isOutside);
+    const auto &description = m_session->document()->description();
+    const auto exceeded = exceededDisplay(description);
+    const auto into = exceeded ? exceeded : knownDisplay(description);
+    m_fit->setText(into && into->isMeasured ? tr("&Move inside the measured gamut") : tr("&Move inside the original"));
+    m_fit->setEnabled(exceeded.has_value());
 }
 
 void Verdict::pointOut(const QListWidgetItem *item)

@@ -92,8 +92,9 @@ CommandLine::CommandLine(const QStringList &arguments)
         tr("Print coverage, colour temperatures and validity without opening a window. The only format is json."),
         tr("format"));
     const QCommandLineOption check(QStringLiteral("check"),
-        tr("Judge whether the display can show the target, without opening a window: the exit status tells the "
-           "verdict, and its grounds are printed unless the report is."));
+        tr("Judge whether the display in the files can show the target, without opening a window: the exit status "
+           "tells "
+           "the verdict, and its grounds are printed unless the report is. Requires a file."));
     const QCommandLineOption tolerances(QStringLiteral("tolerances"),
         tr("Judge what was measured by the limits in <file> (JSON), and draw them."), tr("file"));
     const auto colorOption = [](const QString &name) {
@@ -178,6 +179,10 @@ CommandLine::CommandLine(const QStringList &arguments)
         refuse(tr("--size requires --render when used with --check."));
     }
     m_wantsCheck = m_parser.isSet(check);
+    if (m_wantsCheck && m_files.isEmpty()) {
+        // The verdict on the sample would be mistaken for one on a display.
+        refuse(tr("No file to check: --check requires one."));
+    }
     if (m_parser.isSet(tolerances)) {
         m_tolerancesFile = m_parser.value(tolerances);
         if (m_tolerancesFile.isEmpty()) {

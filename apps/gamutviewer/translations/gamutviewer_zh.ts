@@ -154,10 +154,6 @@
         <translation>显示屏应显示什么尚不清楚：没有人选择过目标。请选择一个目标，或编辑默认目标。</translation>
     </message>
     <message>
-        <source>What the display can show is not known: there is neither an original nor a measured gamut. Open a measurement of its primaries, or choose its original.</source>
-        <translation>显示屏能显示什么尚不清楚：既没有原始色域，也没有实测色域。请打开其基色的测量数据，或选择其原始色域。</translation>
-    </message>
-    <message>
         <source>What the display can show is not known: the primaries of the %1 span no triangle.</source>
         <translation>显示屏能显示什么尚不清楚：%1的基色不构成三角形。</translation>
     </message>
@@ -224,10 +220,6 @@
         <translation>%2的亮度 %1 超过%3所能达到的 %4。请降低到该值。</translation>
     </message>
     <message>
-        <source>nothing is measured. Open a measurement of red, green, blue and white.</source>
-        <translation>没有测量数据。请打开红、绿、蓝、白的测量数据。</translation>
-    </message>
-    <message>
         <source>there is no target. Choose one.</source>
         <translation>没有目标。请选择一个。</translation>
     </message>
@@ -277,14 +269,6 @@
         <translation>目标%1周围的圆环</translation>
     </message>
     <message>
-        <source>%1%2 % from the target, limit ±%3 %.</source>
-        <translation>与目标相差 %1%2 %，限值 ±%3 %。</translation>
-    </message>
-    <message>
-        <source>%1%2 K from the target, limit ±%3 K.</source>
-        <translation>与目标相差 %1%2 K，限值 ±%3 K。</translation>
-    </message>
-    <message>
         <source>%1 %, at least %2 %.</source>
         <translation>%1 %，至少应为 %2 %。</translation>
     </message>
@@ -331,6 +315,59 @@
     <message>
         <source>Not known whether it can show the target</source>
         <translation>能否显示目标未知</translation>
+    </message>
+    <message>
+        <source>The luminances cannot be compared: those of the target and those of the %1 are relative, and their scales need not be the same.</source>
+        <translation>亮度无法比较：目标的亮度和%1的亮度都是相对值，二者的标度不一定相同。</translation>
+    </message>
+    <message>
+        <source>It takes luminances of the %1 in cd/m².</source>
+        <translation>需要%1以 cd/m² 为单位的亮度。</translation>
+    </message>
+    <message>
+        <source>What the display can show is not known: no gamut of the display is known, neither its original nor a measured one.</source>
+        <translation>显示屏能显示什么尚不清楚：不知道显示屏的任何色域，既没有原始色域，也没有实测色域。</translation>
+    </message>
+    <message>
+        <source>Whether the white lies inside of the %1 is not known: it has no chromaticity.</source>
+        <translation>白点是否位于%1之内尚不清楚：它没有色品坐标。</translation>
+    </message>
+    <message>
+        <source>The target is too bright: the %1 reaches at most %2 at this white, if its primaries add up, and the target has %3. Lower the luminance of the white.</source>
+        <translation>目标过亮：即使基色可以相加，%1在此白点下最多可达到 %2，而目标为 %3。请降低白点的亮度。</translation>
+    </message>
+    <message>
+        <source>The white of the %1 is %2, its primaries add to %3: what luminance it reaches at the white of the target cannot be worked out. Measure it there.</source>
+        <translation>%1的白色为 %2，其基色之和为 %3：无法推算它在目标白点下可达到的亮度。请在该白点下测量。</translation>
+    </message>
+    <message>
+        <source>That is within %1 of full drive, and counts as full.</source>
+        <translation>与满驱动相差不超过 %1，视为满驱动。</translation>
+    </message>
+    <message>
+        <source>That is more than %1 above full drive.</source>
+        <translation>超出满驱动 %1 以上。</translation>
+    </message>
+    <message>
+        <source>no measured gamut of the display is known.</source>
+        <translation>没有显示屏的实测色域。</translation>
+    </message>
+    <message>
+        <source>beyond %1</source>
+        <comment>a limit, by less than is shown</comment>
+        <translation>超过 %1</translation>
+    </message>
+    <message>
+        <source>%1 % from the target, limit ±%2 %.</source>
+        <translation>与目标相差 %1 %，限值 ±%2 %。</translation>
+    </message>
+    <message>
+        <source>%1 K from the target, limit ±%2 K.</source>
+        <translation>与目标相差 %1 K，限值 ±%2 K。</translation>
+    </message>
+    <message>
+        <source>less than %1</source>
+        <translation>低于 %1</translation>
     </message>
 </context>
 <context>
