@@ -135,6 +135,18 @@ QVector<DisplayFact> facts(const IccDisplay &display)
     return facts;
 }
 
+QString displayName(const EdidDisplay &display)
+{
+    return display.name;
+}
+
+QString displayName(const IccDisplay &display)
+{
+    const auto model = std::find_if(display.metadata.begin(), display.metadata.end(),
+        [](const IccMetadata &entry) { return entry.name == QLatin1String("EDID_model"); });
+    return model == display.metadata.end() ? QString() : model->value.trimmed();
+}
+
 template <typename Display>
 Outcome<GamutFile> declared(const Outcome<Display> &display, GamutFile file)
 {
@@ -145,6 +157,7 @@ Outcome<GamutFile> declared(const Outcome<Display> &display, GamutFile file)
     const DisplayGamut &gamut = display->gamut;
     const std::string name = gamut.colorGamutName();
     file.gamut = DisplayGamut({name.empty() ? file.name.toStdString() : name, gamut.getTargets()}, gamut.unit);
+    file.displayName = displayName(*display);
     file.facts = facts(*display);
     return {file, display.warnings()};
 }

@@ -29,7 +29,14 @@ struct GamutFile {
     Content content = Content::Description; //!< what there is
     QString name; //!< of the file, without folder and suffix
     DisplayDescription description; //!< empty unless content says so
-    DisplayGamut gamut; //!< named after the display, or else the file
+    DisplayGamut gamut; //!< named after the monitor of an EDID or the description of an ICC profile, or else the file
+    /*!
+     * \brief With a declared gamut: the display that the file says it is of, by the monitor name of an EDID or by the
+     * "EDID_model" of an ICC profile's metadata.
+     *
+     * Empty when it does not say. The description of a profile names the profile.
+     */
+    QString displayName;
     QVector<DisplayFact> facts; //!< with a declared gamut: what else the ICC profile or the EDID says
     MeasurementList measurements; //!< empty unless content says so
 };
@@ -41,8 +48,8 @@ constexpr int maximumFileBytes = 32 * 1024 * 1024;
  * \brief Reads the file \a fileName, of whichever format its content is: display description (JSON), measurement list
  * (CSV), ICC profile or EDID, which may be a text with its bytes as hexadecimal digits.
  *
- * \a fileName may be "-" for standard input. \a options are for a measurement list; nothing else heeds them. Neither the
- * failure nor the warnings name the file; Problem::message() does.
+ * \a fileName may be "-" for standard input. \a options are for a measurement list; nothing else heeds them. Neither
+ * the failure nor the warnings name the file; Problem::message() does.
  */
 GAMUTFILES_EXPORT Outcome<GamutFile> readGamutFile(
     const QString &fileName, const MeasurementOptions &options = MeasurementOptions());

@@ -109,6 +109,15 @@ std::optional<Measurement> MeasurementList::black() const
     return *first;
 }
 
+QString CabinetMeasurements::label() const
+{
+    if (!row || !column) {
+        return cabinet;
+    }
+    const QString place = QStringLiteral("%1/%2").arg(*row).arg(*column);
+    return cabinet.isEmpty() ? place : QStringLiteral("%1 %2").arg(cabinet, place);
+}
+
 QVector<CabinetMeasurements> MeasurementList::cabinets() const
 {
     QVector<CabinetMeasurements> result;

@@ -102,6 +102,9 @@ struct CabinetMeasurements {
     std::optional<int> row; //!< as the list counts
     std::optional<int> column; //!< as the list counts
     MeasurementList list; //!< its measurements; \a recognized is that of the whole list
+
+    /*! \brief How people call it: its name, row and column as "3/4", or both, "A 3/4". */
+    GAMUTFILES_EXPORT QString label() const;
 };
 
 /*!
@@ -109,9 +112,10 @@ struct CabinetMeasurements {
  *
  * docs/measurement-lists.md describes what is understood. What \a options do not state is recognised from the whole
  * list. Where the list allows two readings it is refused, and the failure says what to state. Warnings say what else a
- * user must know: a colour that occurs twice, a missing white, a unit that is not stated or not known. A list whose
- * primaries span no triangle is refused, unless it has several cabinets. A choice in \a options that no measurement
- * answers to is refused. At most maximumMeasurementBytes are read, in a time proportional to their number.
+ * user must know: a colour that occurs twice, a missing white, a unit that is not stated, not known, or another one
+ * than \a options state, several cabinets with primaries. A list whose primaries span no triangle is refused, unless it
+ * has several cabinets. A choice in \a options that no measurement answers to is refused. At most
+ * maximumMeasurementBytes are read, in a time proportional to their number.
  */
 GAMUTFILES_EXPORT Outcome<MeasurementList> readMeasurementList(
     const QByteArray &bytes, const MeasurementOptions &options = MeasurementOptions());

@@ -57,6 +57,11 @@ struct MeasurementOptions {
     MeasurementChoice blue; //!< which measurement is the blue primary
     MeasurementChoice white; //!< which measurement is the white
     bool whiteIsSum = false; //!< a missing white is the sum of red, green and blue
+    /*!
+     * \brief The only cabinet whose measurements are kept, by its CabinetMeasurements::label() or its name, in any
+     * case; empty: all of them are kept.
+     */
+    QString cabinet;
 };
 
 } // namespace gamutfiles

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace gamutfiles {
 
@@ -23,6 +24,7 @@ constexpr double candelasPerFootLambert = 1.0 / (3.14159265358979323846 * 0.3048
 
 //! More warnings about cabinets than these tell nothing more.
 constexpr int mostWarnings = 20;
+constexpr int mostNamedCabinets = 4;
 
 //! Sums of rounded decimals, such as 0.7347 + 0.2653, may exceed 1 by this much in binary.
 constexpr double binaryRounding = 1e-9;
@@ -158,7 +160,7 @@ bool MeasurementReader::findColumns()
         columns[std::size_t(ColumnPart::x)] = 2;
         columns[std::size_t(ColumnPart::y)] = 3;
         useColumns(columns, {});
-        useUnit({});
+        useUnit({}, 0);
         return true;
     }
     if (mostNames < 2) {
@@ -190,7 +192,7 @@ void MeasurementReader::useHeader(const Header &header, int rowIndex)
     if (unit.unit == MeasuredUnit::NotStated) {
         readUnitRow();
     } else {
-        useUnit(unit);
+        useUnit(unit, row.line);
     }
 }
 
@@ -263,6 +265,7 @@ void MeasurementReader::keep(ColumnPart part, int column, const QStringList &hea
 void MeasurementReader::readUnitRow()
 {
     ColumnName unit;
+    int line = m_list.recognized.headerLine;
     if (m_firstRow < m_table.rows.size()) {
         const CsvRow &row = m_table.rows.at(m_firstRow);
         const auto isWord = [&](ColumnPart part) { return !isNumber(row.fields.value(columnOf(part))); };
@@ -272,19 +275,22 @@ void MeasurementReader::readUnitRow()
             && measuredUnit(text) != MeasuredUnit::NotKnown) {
             unit.unit = measuredUnit(text);
             unit.unitText = text;
+            line = row.line;
             ++m_firstRow;
         }
     }
-    useUnit(unit);
+    useUnit(unit, line);
 }
 
-void MeasurementReader::useUnit(const ColumnName &luminance)
+//! \a luminance is what the list states, in \a line; 0: it has no line that could state it.
+void MeasurementReader::useUnit(const ColumnName &luminance, int line)
 {
     MeasurementRecognition &recognized = m_list.recognized;
     recognized.unit = m_options.unit ? *m_options.unit : luminance.unit;
     recognized.unitText = luminance.unitText;
     const ColumnPart part = m_numberParts.contains(ColumnPart::Luminance) ? ColumnPart::Luminance : ColumnPart::Y;
-    const QString where = recognized.headerLine > 0 ? place(recognized.headerLine, part) : QString();
+    const QString where = line > 0 ? place(line, part) : QString();
+    warnOfUnits(luminance, where);
     switch (recognized.unit) {
     case MeasuredUnit::NotStated:
         warn(tr("the unit of the luminances is not stated"), where);
@@ -305,6 +311,27 @@ void MeasurementReader::useUnit(const ColumnName &luminance)
     case MeasuredUnit::Relative:
         m_list.unit = LuminanceUnit::Relative;
         break;
+    }
+}
+
+void MeasurementReader::warnOfUnits(const ColumnName &luminance, const QString &where)
+{
+    const auto name = [&luminance](MeasuredUnit unit) {
+        switch (unit) {
+        case MeasuredUnit::CandelaPerSquareMetre:
+            return tr("cd/m²");
+        case MeasuredUnit::FootLambert:
+            return tr("foot-lambert");
+        case MeasuredUnit::Relative:
+            return tr("relative");
+        case MeasuredUnit::NotStated:
+        case MeasuredUnit::NotKnown:
+            break;
+        }
+        return QStringLiteral("\"%1\"").arg(excerpt(luminance.unitText));
+    };
+    if (m_options.unit && luminance.unit != MeasuredUnit::NotStated && luminance.unit != *m_options.unit) {
+        warn(tr("states %1; %2 was chosen", "units").arg(name(luminance.unit), name(*m_options.unit)), where);
     }
 }
 
@@ -646,8 +673,9 @@ std::optional<double> MeasurementReader::number(const CsvRow &row, ColumnPart pa
 bool MeasurementReader::assignParts()
 {
     assignByName();
-    if (!choose(m_options.red, MeasurementPart::Red) || !choose(m_options.green, MeasurementPart::Green)
-        || !choose(m_options.blue, MeasurementPart::Blue) || !choose(m_options.white, MeasurementPart::White)) {
+    if (!chooseCabinet() || !choose(m_options.red, MeasurementPart::Red)
+        || !choose(m_options.green, MeasurementPart::Green) || !choose(m_options.blue, MeasurementPart::Blue)
+        || !choose(m_options.white, MeasurementPart::White)) {
         return false;
     }
     for (const Measurement &measurement : std::as_const(m_list.measurements)) {
@@ -691,6 +719,37 @@ void MeasurementReader::assignByName()
     }
 }
 
+//! What levels are full is known from the list as a whole; the colours are chosen in the cabinet.
+bool MeasurementReader::chooseCabinet()
+{
+    const QString wanted = m_options.cabinet.trimmed();
+    if (wanted.isEmpty()) {
+        return true;
+    }
+    const QVector<CabinetMeasurements> cabinets = m_list.cabinets();
+    const auto chosen = [&](const auto &nameOf) {
+        QVector<CabinetMeasurements> found;
+        std::copy_if(
+            cabinets.begin(), cabinets.end(), std::back_inserter(found), [&](const CabinetMeasurements &cabinet) {
+                return nameOf(cabinet).compare(wanted, Qt::CaseInsensitive) == 0;
+            });
+        return found;
+    };
+    QVector<CabinetMeasurements> found = chosen([](const CabinetMeasurements &cabinet) { return cabinet.label(); });
+    if (found.isEmpty()) {
+        found = chosen([](const CabinetMeasurements &cabinet) { return cabinet.cabinet; });
+    }
+    if (found.isEmpty()) {
+        return fail(tr("no cabinet is called \"%1\"").arg(excerpt(wanted)));
+    }
+    if (found.size() > 1) {
+        return fail(tr("several cabinets are called \"%1\": %2 and %3, for example")
+                        .arg(excerpt(wanted), excerpt(found.at(0).label()), excerpt(found.at(1).label())));
+    }
+    m_list.measurements = found.first().list.measurements;
+    return true;
+}
+
 bool MeasurementReader::choose(const MeasurementChoice &choice, MeasurementPart part)
 {
     if (choice.isEmpty()) {
@@ -726,6 +785,7 @@ bool MeasurementReader::checkGamut()
         warnOfParts(m_list, QString());
         return m_failure.text.isEmpty();
     }
+    warnOfCabinets(cabinets);
     const int before = int(m_warnings.size());
     for (int i = 0; i < cabinets.size() && m_warnings.size() < before + mostWarnings; ++i) {
         const Measurement &first = cabinets.at(i).list.measurements.first();
@@ -740,6 +800,28 @@ bool MeasurementReader::checkGamut()
         warn(tr("further cabinets are not checked: there are too many warnings"));
     }
     return true;
+}
+
+//! Of white alone, as uniformity is measured, nobody expects a gamut.
+void MeasurementReader::warnOfCabinets(const QVector<CabinetMeasurements> &cabinets)
+{
+    const QVector<Measurement> &all = m_list.measurements;
+    const auto isPrimary = [](const Measurement &measurement) {
+        return std::find(primaryParts.begin(), primaryParts.end(), measurement.part) != primaryParts.end();
+    };
+    if (std::none_of(all.begin(), all.end(), isPrimary)) {
+        return;
+    }
+    QStringList names;
+    for (const CabinetMeasurements &cabinet : cabinets.mid(0, mostNamedCabinets)) {
+        names.append(cabinet.label().isEmpty() ? QStringLiteral("–") : excerpt(cabinet.label()));
+    }
+    if (cabinets.size() > mostNamedCabinets) {
+        names.append(QStringLiteral("…"));
+    }
+    warn(tr("%1 cabinets (%2): there is no measured gamut of all of them; choose a cabinet")
+             .arg(cabinets.size())
+             .arg(joined(names)));
 }
 
 //! \a where names the cabinet; empty: the list has no more than one.

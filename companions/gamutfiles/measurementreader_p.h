@@ -48,7 +48,8 @@ private:
     void useCabinets(const Columns &columns, const QStringList &headers);
     void keep(ColumnPart part, int column, const QStringList &headers);
     void readUnitRow();
-    void useUnit(const ColumnName &luminance);
+    void useUnit(const ColumnName &luminance, int line);
+    void warnOfUnits(const ColumnName &luminance, const QString &where);
 
     std::optional<Measurement> readRow(const CsvRow &row);
     bool readColor(const CsvRow &row, Measurement &measurement);
@@ -63,6 +64,8 @@ private:
     void warnOfRows();
 
     void assignByName();
+    bool chooseCabinet();
+    void warnOfCabinets(const QVector<CabinetMeasurements> &cabinets);
     bool choose(const MeasurementChoice &choice, MeasurementPart part);
     void warnOfParts(const MeasurementList &list, const QString &where);
 

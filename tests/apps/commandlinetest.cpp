@@ -31,6 +31,7 @@ private Q_SLOTS:
     void diagrams_data();
     void diagrams();
     void parts();
+    void partThatIsNotThere();
     void layerLists_data();
     void layerLists();
     void unknownLayersNameTheKnownOnes();
@@ -258,6 +259,22 @@ void CommandLineTest::parts()
     QVERIFY(line.picture(DisplayDescription(), std::nullopt).view.showsAll());
 }
 
+void CommandLineTest::partThatIsNotThere()
+{
+    const auto reason = [](const char *arguments, const DisplayDescription &description) {
+        return CommandLine(withProgram(QString::fromLatin1(arguments))).whyNoView(description);
+    };
+    const DisplayDescription empty;
+    QCOMPARE(reason("--render a.png --view target", empty),
+        QStringLiteral("--view target requires a target, which the files do not have."));
+    QCOMPARE(reason("--render a.png --view white", empty),
+        QStringLiteral("--view white requires a target with its white, which the files do not have."));
+    QVERIFY(reason("--render a.png --view all", empty).isEmpty());
+    QVERIFY(reason("--render a.png", empty).isEmpty());
+    QVERIFY(reason("--render a.png --view target", wall()).isEmpty());
+    QVERIFY(reason("--render a.png --view white", wall()).isEmpty());
+}
+
 void CommandLineTest::layerLists_data()
 {
     const ShownLayers all = ceiechart::allDiagramLayers;
@@ -353,7 +370,8 @@ void CommandLineTest::severalFiles()
 void CommandLineTest::measurementOptions()
 {
     QVERIFY(!CommandLine(withProgram("meter.csv")).hasMeasurementOptions());
-    const CommandLine line(withProgram("meter.csv --red Rot --green line:12 --white sum --unit fL --decimal comma"));
+    const CommandLine line(
+        withProgram("meter.csv --red Rot --green line:12 --white sum --unit fL --decimal comma --cabinet A1"));
     QCOMPARE(line.action(), Action::Show);
     QVERIFY(line.hasMeasurementOptions());
     const gamutfiles::MeasurementOptions &options = line.measurementOptions();
@@ -366,6 +384,10 @@ void CommandLineTest::measurementOptions()
     QVERIFY(options.whiteIsSum);
     QVERIFY(options.unit == gamutfiles::MeasuredUnit::FootLambert);
     QVERIFY(options.decimalSign == QLatin1Char(','));
+    QCOMPARE(options.cabinet, QStringLiteral("A1"));
+    QVERIFY(CommandLine(withProgram("meter.csv --cabinet A1")).hasMeasurementOptions());
+    QCOMPARE(CommandLine({"gamutviewer", "meter.csv", "--cabinet", " "}).error(),
+        QStringLiteral("The name of --cabinet is empty."));
 }
 
 void CommandLineTest::refusals_data()

@@ -12,6 +12,7 @@ class GamutRolesTest : public QObject {
 private Q_SLOTS:
     void partIsGivenAndTaken_data();
     void partIsGivenAndTaken();
+    void imaginaryGamutIsDeclaredOrAStandard();
     void gamutCanPlaySeveralParts();
     void newTargetTakesTheEditedOneAway();
     void removedGamutLosesItsParts();
@@ -60,6 +61,36 @@ void GamutRolesTest::partIsGivenAndTaken()
     QCOMPARE(playsRole(next, native, given), given == GamutRole::Standard);
     QVERIFY(playsRole(withRole(next, QStringLiteral("Rec.709"), given, false), QStringLiteral("Meter"), given));
     QCOMPARE(next.gamuts.size(), std::size_t(2));
+}
+
+void GamutRolesTest::imaginaryGamutIsDeclaredOrAStandard()
+{
+    DisplayDescription description = wall();
+    const QString aces = QStringLiteral("ACES2065-1");
+    const Model::Targets targets = description.gamut(aces)->getTargets();
+    description.gamuts.emplace_back(Model::ColorGamut("Own", targets));
+    for (const GamutRole role : allGamutRoles) {
+        const bool isPossible = role == GamutRole::Declared || role == GamutRole::Standard;
+        QCOMPARE(whyNotInRole(targets, role).isEmpty(), isPossible);
+        QVERIFY(whyNotInRole(Model::rec2020().getTargets(), role).isEmpty());
+        for (const QString &name : {aces, QStringLiteral("Own")}) {
+            const DisplayDescription with = withRole(description, name, role, true);
+            QCOMPARE(playsRole(with, name, role), isPossible);
+            if (!isPossible) {
+                continue;
+            }
+            // What can be given can be saved and read again.
+            DisplayDescription saved = with;
+            if (name == aces) {
+                saved.gamuts.pop_back();
+            }
+            QTemporaryDir folder;
+            const QString file = folder.filePath(QStringLiteral("wall.json"));
+            QCOMPARE(writeDescription(saved, file), QString());
+            const auto read = readDescriptionFile(file);
+            QVERIFY2(read, qPrintable(read.error()));
+        }
+    }
 }
 
 void GamutRolesTest::gamutCanPlaySeveralParts()

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void gamutIsRemoved_data();
     void gamutIsRemoved();
     void publishedGamutStays();
+    void everyPublishedGamutCanBeAStandard();
     void displayIsNamed();
     void followsTheDocument();
     void everyCellHasAName();
@@ -215,8 +216,28 @@ void GamutsDialogTest::publishedGamutStays()
     d.choose(wall, "Gamut");
     QVERIFY(d.dialog->removeButton()->isEnabled());
     // No display can show these primaries.
-    QVERIFY(!(d.cell(QStringLiteral("ACES2065-1"), "Target")->flags() & Qt::ItemIsUserCheckable));
+    for (const char *part : {"Original", "Measured", "Target"}) {
+        const QTableWidgetItem *cell = d.cell(QStringLiteral("ACES2065-1"), part);
+        QVERIFY2(!(cell->flags() & Qt::ItemIsUserCheckable), part);
+        QCOMPARE(cell->toolTip(), QStringLiteral("No display can show it: it has primaries that no light has."));
+    }
+    QVERIFY(d.cell(QStringLiteral("ACES2065-1"), "Declared")->flags() & Qt::ItemIsUserCheckable);
+    QVERIFY(d.cell(QStringLiteral("Rec.2020"), "Original")->toolTip().isEmpty());
     QVERIFY(d.cell(QStringLiteral("ACES2065-1"), "Standard")->flags() & Qt::ItemIsUserCheckable);
+}
+
+void GamutsDialogTest::everyPublishedGamutCanBeAStandard()
+{
+    Dialog d;
+    for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
+        const QString name = QString::fromStdString(published.gamut.colorGamutName());
+        if (!d.isChecked(name, "Standard")) {
+            d.choose(name, "Standard");
+            QTest::keyClick(d.table(), Qt::Key_Space);
+        }
+        QVERIFY2(d.description().standards.contains(name), qPrintable(name));
+    }
+    QCOMPARE(d.description().allStandards().size(), Model::publishedGamuts().size());
 }
 
 void GamutsDialogTest::displayIsNamed()

@@ -18,6 +18,10 @@ private Q_SLOTS:
     void partIsChosen_data();
     void partIsChosen();
     void takenNamesGetANumber();
+    void otherUnitIsAnotherGamut();
+    void unitThatWasNotKnownIsTakenOver();
+    void profileNamesNoDisplay();
+    void listOfCabinetsNeedsAChoice();
     void measurementsAreAdded();
     void measurementsWithoutAGamut();
     void pointsStayWhenAListHasNoneForThem();
@@ -68,6 +72,7 @@ GamutFile declaredBy(const char *name, const Model::ColorGamut &gamut = Model::r
     file.content = Content::DeclaredGamut;
     file.name = QStringLiteral("file");
     file.gamut = Model::ColorGamut(name, gamut.getTargets());
+    file.displayName = QString::fromUtf8(name);
     return file;
 }
 
@@ -180,11 +185,109 @@ void OpenedFilesTest::takenNamesGetANumber()
     QCOMPARE(withUsual(twice, *edid).declared, QStringLiteral("Studio 27"));
     other.gamut = named(Model::dciP3D65().getTargets());
     QCOMPARE(withUsual(twice, other).declared, QStringLiteral("Studio 27 (3)"));
-    const auto published = readGamutFile(write("b.icc",
-        samplefiles::version2Profile([](cmsHPROFILE profile) { samplefiles::describe(profile, L"Rec.709"); })));
+    const auto published = readGamutFile(write(
+        "b.icc", samplefiles::version2Profile([](cmsHPROFILE handle) { samplefiles::describe(handle, L"Rec.709"); })));
     const DisplayDescription result = withUsual(wall(), *published);
     QCOMPARE(result.declared, QStringLiteral("Rec.709 (2)"));
     QVERIFY(result.gamut(result.target)->getTargets().red.x == 0.64);
+}
+
+void OpenedFilesTest::otherUnitIsAnotherGamut()
+{
+    GamutFile relative = declaredBy("Studio 27");
+    relative.gamut.unit = LuminanceUnit::Relative;
+    GamutFile absolute = relative;
+    absolute.gamut.unit = LuminanceUnit::CandelaPerSquareMetre;
+    const DisplayDescription once = withUsual(wall(), relative);
+    QVERIFY(texts(remarksOnAdding(once, {QString(), absolute, {}, GamutRole::Standard}))
+                .contains("is called \"Studio 27 (2)\" here, since another gamut has its name"));
+    const DisplayDescription both = withUsual(once, absolute);
+    QCOMPARE(both.declared, QStringLiteral("Studio 27 (2)"));
+    QVERIFY(both.gamut(QStringLiteral("Studio 27"))->unit == LuminanceUnit::Relative);
+    QVERIFY(both.gamut(both.declared)->unit == LuminanceUnit::CandelaPerSquareMetre);
+    // Each is there by now.
+    QCOMPARE(withUsual(both, relative).declared, QStringLiteral("Studio 27"));
+    QCOMPARE(withUsual(both, absolute).declared, QStringLiteral("Studio 27 (2)"));
+    QCOMPARE(withUsual(both, absolute).gamuts.size(), std::size_t(2));
+}
+
+void OpenedFilesTest::unitThatWasNotKnownIsTakenOver()
+{
+    GamutFile unknown = declaredBy("Studio 27");
+    unknown.gamut.unit = LuminanceUnit::NotKnown;
+    GamutFile known = unknown;
+    known.gamut.unit = LuminanceUnit::CandelaPerSquareMetre;
+    const DisplayDescription before = withUsual(wall(), unknown);
+    const QString remark = QStringLiteral("tells the unit of \"Studio 27\", which was not known: cd/m²");
+    const auto remarks = [](const DisplayDescription &open, const GamutFile &file) {
+        return texts(remarksOnAdding(open, {QString(), file, {}, GamutRole::Standard}));
+    };
+    QVERIFY(remarks(before, known).contains(remark));
+    const DisplayDescription after = withUsual(before, known);
+    QCOMPARE(after.gamuts.size(), std::size_t(1));
+    QVERIFY(after.gamuts[0].unit == LuminanceUnit::CandelaPerSquareMetre);
+    // It is not forgotten again, and told once.
+    const DisplayDescription again = withUsual(after, unknown);
+    QCOMPARE(again.gamuts.size(), std::size_t(1));
+    QVERIFY(again.gamuts[0].unit == LuminanceUnit::CandelaPerSquareMetre);
+    QVERIFY(!remarks(after, unknown).contains(remark));
+    QVERIFY(!remarks(after, known).contains(remark));
+    // A description's gamuts tell it, too.
+    GamutFile other;
+    other.description.gamuts.push_back(known.gamut);
+    QVERIFY(remarks(before, other).contains(remark));
+    QVERIFY(withFile(before, other, {}).gamuts[0].unit == LuminanceUnit::CandelaPerSquareMetre);
+}
+
+void OpenedFilesTest::profileNamesNoDisplay()
+{
+    const QString profile = write("b.icc", samplefiles::version2Profile([](cmsHPROFILE handle) {
+        samplefiles::describe(handle, L"Compatible with something");
+    }));
+    const auto alone = openFiles({profile});
+    QVERIFY2(alone, qPrintable(alone.error()));
+    QVERIFY(alone->description.name.isEmpty());
+    QCOMPARE(alone->description.declared, QStringLiteral("Compatible with something"));
+    const QString edid = write("a.bin", samplefiles::plainEdid());
+    for (const QStringList &files : {QStringList{edid, profile}, QStringList{profile, edid}}) {
+        const auto opened = openFiles(files);
+        QVERIFY2(opened, qPrintable(opened.error()));
+        QCOMPARE(opened->description.name, QStringLiteral("Studio 27"));
+        QVERIFY2(!lines(*opened).join(QString()).contains("is of the display"), qPrintable(lines(*opened).join(' ')));
+    }
+    // Its metadata may name one.
+    const QString ofDesk = write("c.icc", samplefiles::version4Profile([](cmsHPROFILE handle) {
+        const cmsHANDLE dictionary = cmsDictAlloc(nullptr);
+        cmsDictAddEntry(dictionary, L"EDID_model", L"Desk 24", nullptr, nullptr);
+        cmsWriteTag(handle, cmsSigMetaTag, dictionary);
+        cmsDictFree(dictionary);
+    }));
+    QCOMPARE(openFiles({ofDesk})->description.name, QStringLiteral("Desk 24"));
+    QVERIFY(
+        lines(*openFiles({edid, ofDesk})).contains(ofDesk + ": is of the display \"Desk 24\", not of \"Studio 27\""));
+}
+
+void OpenedFilesTest::listOfCabinetsNeedsAChoice()
+{
+    const QByteArray whole = "cabinet,name,Lv,x,y\nA1,R,200,0.7,0.29\nA1,G,700,0.2,0.7\nA1,B,100,0.15,0.05\n"
+                             "A1,W,1000,0.28,0.29\nA2,W,990,0.28,0.29\n";
+    const QString file = write("wall.csv", whole);
+    const auto opened = openFiles({file});
+    QVERIFY2(opened, qPrintable(opened.error()));
+    QVERIFY(opened->needsChoice);
+    QCOMPARE(lines(*opened),
+        QStringList(file + ": 2 cabinets (A1, A2): there is no measured gamut of all of them; choose a cabinet"));
+    MeasurementOptions options;
+    options.cabinet = QStringLiteral("A1");
+    const auto chosen = openFiles({file}, options);
+    QVERIFY2(chosen, qPrintable(chosen.error()));
+    QVERIFY(!chosen->needsChoice);
+    QCOMPARE(chosen->description.measured, QStringLiteral("wall"));
+    // White alone is measured for uniformity.
+    const auto whites = openFiles({write("whites.csv", "cabinet,name,Lv,x,y\nA1,W,990,0.3,0.3\nA2,W,980,0.3,0.3\n")});
+    QVERIFY2(whites, qPrintable(whites.error()));
+    QVERIFY(!whites->needsChoice);
+    QVERIFY(whites->warnings.isEmpty());
 }
 
 void OpenedFilesTest::measurementsAreAdded()
@@ -290,8 +393,8 @@ void OpenedFilesTest::displaysAreNotMixedInSilence_data()
                                      << "Studio 27" << true;
     QTest::newRow("known only now") << ""
                                     << "Studio 27" << false;
-    QTest::newRow("named after its file") << "Studio 27"
-                                          << "file" << false;
+    QTest::newRow("not said") << "Studio 27"
+                              << "" << false;
 }
 
 void OpenedFilesTest::displaysAreNotMixedInSilence()
@@ -312,8 +415,8 @@ void OpenedFilesTest::displaysAreNotMixedInSilence()
 void OpenedFilesTest::replacedPartsAreTold()
 {
     const QString first = write("a.bin", samplefiles::plainEdid());
-    const QString second = write(
-        "b.icc", samplefiles::version2Profile([](cmsHPROFILE profile) { samplefiles::describe(profile, L"Desk 24"); }));
+    const QString second
+        = write("b.bin", samplefiles::withChecksum(samplefiles::plainEdid().replace("Studio 27", "Desk 24\n ")));
     const QString meter = write("meter.csv", list);
     const auto opened = openFiles({first, second, meter, meter});
     QVERIFY2(opened, qPrintable(opened.error()));

@@ -49,6 +49,12 @@ private Q_SLOTS:
     void canceledQuestionChangesNothing();
     void partIsChosenInTheQuestion();
     void addNeverOpensAlone();
+    void descriptionIsAskedAboutToo();
+    void nameOfTheDisplayIsAnnounced();
+    void imaginaryGamutIsNotOffered();
+    void changedFileIsNamed();
+    void standardInputIsNoFile();
+    void cabinetIsChosen();
     void addOpensWhereNothingIs();
     void questionTellsOfAnotherDisplay();
     void addingIsOneStep();
@@ -85,8 +91,8 @@ QString monitor(const WindowFixture &f, const char *name = "monitor.bin")
 
 QString otherMonitor(const WindowFixture &f)
 {
-    return writeFile(f.settings, QStringLiteral("desk.icc"),
-        samplefiles::version2Profile([](cmsHPROFILE profile) { samplefiles::describe(profile, L"Desk 24"); }));
+    return writeFile(f.settings, QStringLiteral("desk.bin"),
+        samplefiles::withChecksum(samplefiles::edid().replace("Studio 27", "Desk 24\n ")));
 }
 
 //! Original, measured, declared and target.
@@ -326,8 +332,139 @@ void ViewerFilesTest::addNeverOpensAlone()
     // Opened, it takes the place.
     QVERIFY(f.window->isWindowModified() || !f.document().history()->canUndo());
     f.document().history()->undo();
+    const FilesAnswer alone(FilesAnswer::Alone);
     QVERIFY(f.window->openPath(wall));
+    QVERIFY(alone.isAsked());
     QCOMPARE(f.document().description().name, QStringLiteral("Wall"));
+}
+
+void ViewerFilesTest::descriptionIsAskedAboutToo()
+{
+    WindowFixture f;
+    const QString wall = writeFile(f.settings, QStringLiteral("wall.json"), description);
+    {
+        const FilesAnswer add(FilesAnswer::Add);
+        QVERIFY(f.window->openPath(wall));
+        QVERIFY(add.isAsked() && add.mayOpenAlone());
+        QVERIFY2(add.note().contains(QLatin1String("adds its gamuts only, in no part")), qPrintable(add.note()));
+        QCOMPARE(f.document().description().name, QStringLiteral("LED wall"));
+        f.document().history()->undo();
+    }
+    // Alone is what Return chooses, unlike for what belongs to a display.
+    const auto readAll = [](const QString &file) {
+        return *readFiles({file}, [](const QString &name) { return readGamutFile(name); });
+    };
+    const AddDialog ofWall(f.document().description(), QString(), readAll(wall), true);
+    QVERIFY(ofWall.aloneButton()->isDefault() && !ofWall.addButton()->isDefault());
+    const AddDialog ofMonitor(f.document().description(), QString(), readAll(monitor(f)), true);
+    QVERIFY(ofMonitor.addButton()->isDefault() && !ofMonitor.aloneButton()->isDefault());
+    // The sample and an empty window give way.
+    f.window->setOpened(*openFiles({sampleFile()}));
+    QVERIFY(f.window->openPath(wall));
+    QCOMPARE(f.document().fileName(), wall);
+}
+
+void ViewerFilesTest::nameOfTheDisplayIsAnnounced()
+{
+    WindowFixture f;
+    const QString said = QStringLiteral("The display is then called \"Studio 27\".");
+    QVERIFY(f.window->closeDocument());
+    QVERIFY(f.window->openPath(writeFile(f.settings, QStringLiteral("meter.csv"), meter)));
+    {
+        const FilesAnswer add(FilesAnswer::Add);
+        QVERIFY(f.window->openPath(monitor(f)));
+        QVERIFY2(add.note().contains(said), qPrintable(add.note()));
+        QCOMPARE(f.document().description().name, QStringLiteral("Studio 27"));
+    }
+    const FilesAnswer cancel(FilesAnswer::Cancel);
+    f.window->openPath(monitor(f));
+    QVERIFY(cancel.isAsked());
+    QVERIFY(!cancel.note().contains(QLatin1String("The display is then called")));
+}
+
+void ViewerFilesTest::imaginaryGamutIsNotOffered()
+{
+    GamutFile aces;
+    aces.content = GamutFile::Content::DeclaredGamut;
+    aces.gamut = *DisplayDescription().gamut(QStringLiteral("ACES2065-1"));
+    const AddDialog dialog(DisplayDescription(), QString(), {{QString(), aces, {}, GamutRole::Declared}}, true);
+    QComboBox *box = dialog.roleBox(0);
+    QVERIFY(box);
+    for (int index = 0; index < box->count(); ++index) {
+        const int role = box->itemData(index).toInt();
+        const bool isShown
+            = role == int(GamutRole::Original) || role == int(GamutRole::Measured) || role == int(GamutRole::Target);
+        const QModelIndex item = box->model()->index(index, 0);
+        QCOMPARE(bool(box->model()->flags(item) & Qt::ItemIsEnabled), !isShown);
+        QCOMPARE(item.data(Qt::ToolTipRole).toString().contains(QLatin1String("no light has")), isShown);
+    }
+}
+
+void ViewerFilesTest::changedFileIsNamed()
+{
+    WindowFixture f;
+    const auto asked = [&f] {
+        const Answer cancel(QMessageBox::Cancel);
+        f.window->close();
+        return cancel.text();
+    };
+    f.window->setOpened(*openFiles({writeFile(f.settings, QStringLiteral("stage.json"), description)}));
+    QVERIFY(f.window->session()->setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    QVERIFY2(asked().startsWith(QLatin1String("\"stage.json\"")), qPrintable(asked()));
+    // What is in no file yet has the name of its display, or none.
+    DisplayDescription named = f.document().description();
+    f.window->setDescription(named, QString());
+    QVERIFY(f.window->session()->setChromaticity(Vertex::Red, QPointF(0.67, 0.31)));
+    QVERIFY2(asked().startsWith(QLatin1String("\"Wall\"")), qPrintable(asked()));
+    named.name.clear();
+    f.window->setDescription(named, QString());
+    QVERIFY(f.window->session()->setChromaticity(Vertex::Red, QPointF(0.67, 0.31)));
+    QVERIFY2(asked().startsWith(QLatin1String("\"Untitled\"")), qPrintable(asked()));
+}
+
+void ViewerFilesTest::standardInputIsNoFile()
+{
+    WindowFixture f;
+    OpenedFiles opened;
+    opened.description.target = QStringLiteral("Rec.709");
+    opened.inDescriptionFile = opened.description;
+    opened.fileNames = QStringList("-");
+    opened.descriptionFile = QStringLiteral("-");
+    f.window->setOpened(opened);
+    QVERIFY(RecentFiles::list().isEmpty());
+    QVERIFY(f.document().fileName().isEmpty()); // or else it would be saved as "-"
+    QCOMPARE(f.window->windowTitle(), QString::fromUtf8("Untitled[*] – Gamut viewer"));
+    opened.descriptionFile.clear();
+    f.window->setOpened(opened);
+    QVERIFY(RecentFiles::list().isEmpty());
+    QCOMPARE(f.window->windowTitle(), QString::fromUtf8("Untitled[*] – Gamut viewer"));
+}
+
+void ViewerFilesTest::cabinetIsChosen()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    const QString file = writeFile(f.settings, QStringLiteral("wall.csv"),
+        "cabinet,name,Lv,x,y\nA1,R,200,0.7,0.29\nA1,G,700,0.2,0.7\nA1,B,100,0.15,0.05\nA1,W,1000,0.28,0.29\n"
+        "A2,R,210,0.7,0.29\nA2,G,710,0.2,0.7\nA2,B,110,0.15,0.05\nA2,W,1010,0.28,0.29\n");
+    QString before;
+    QString after;
+    const ListAnswer answer([&](ListDialog *dialog) {
+        before = dialog->preview()->toPlainText();
+        QVERIFY(dialog->cabinet()->isVisible());
+        QTest::keyClick(dialog->cabinet(), Qt::Key_Down);
+        QTest::keyClick(dialog->cabinet(), Qt::Key_Down);
+        QCOMPARE(dialog->cabinet()->currentText(), QStringLiteral("A2"));
+        after = dialog->preview()->toPlainText();
+        QTest::mouseClick(dialog->useButton(), Qt::LeftButton);
+    });
+    QVERIFY(f.window->openPath(file));
+    QVERIFY(answer.isAsked());
+    QVERIFY2(before.contains(QLatin1String("2 cabinets (A1, A2)")), qPrintable(before));
+    QVERIFY2(after.contains(QLatin1String("The list makes a gamut.")), qPrintable(after));
+    const auto measured = f.document().description().gamut(QStringLiteral("wall"));
+    QVERIFY(measured);
+    QCOMPARE(measured->getTargets().white.Y, 1010.0);
 }
 
 void ViewerFilesTest::addOpensWhereNothingIs()
@@ -489,7 +626,7 @@ void ViewerFilesTest::additionsToADescriptionCanBeLost()
     QVERIFY(f.window->isWindowModified());
     const Answer cancel(QMessageBox::Cancel);
     f.window->close();
-    QVERIFY2(cancel.text().contains(QLatin1String("\"Wall\"")), qPrintable(cancel.text()));
+    QVERIFY2(cancel.text().contains(QLatin1String("\"wall.json\"")), qPrintable(cancel.text()));
     f.document().history()->undo();
     QVERIFY(!f.window->isWindowModified());
     QVERIFY(f.document().description().measured.isEmpty());

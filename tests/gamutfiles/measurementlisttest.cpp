@@ -55,6 +55,7 @@ private Q_SLOTS:
     void pointsNeedNoGamut();
     void optionsAreUsed();
     void cabinets();
+    void chosenCabinet();
     void cabinetsByRowAndColumn();
     void letteredRows();
     void numbersOfLines();
@@ -427,7 +428,21 @@ void MeasurementListTest::statedUnit()
     const auto list = readMeasurementList("name,Y (fL),x,y\nwhite,100,0.3,0.3", options);
     QCOMPARE(list->measurements[0].luminance, 100.0);
     QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
-    QVERIFY(list.warnings().isEmpty());
+    QCOMPARE(warningsOf("name,Y (fL),x,y\nwhite,100,0.3,0.3", options),
+        QStringList("line 1, column Y (fL): states foot-lambert; cd/m² was chosen"));
+    QCOMPARE(warningsOf("name,Y (lux),x,y\nwhite,100,0.3,0.3", options),
+        QStringList("line 1, column Y (lux): states \"lux\"; cd/m² was chosen"));
+    // Where the list says the same, or nothing, there is nothing to tell.
+    QVERIFY(warningsOf("name,Lv,x,y\nwhite,100,0.3,0.3", options).isEmpty());
+    QVERIFY(warningsOf("name,Y,x,y\nwhite,100,0.3,0.3", options).isEmpty());
+    // The line of units is named where it is that one that says so.
+    options.unit = MeasuredUnit::Relative;
+    QCOMPARE(warningsOf("Patch;Y;x;y\n;[cd/m²];-;-\nwhite;100,5;0,3;0,4", options),
+        QStringList("line 2, column Y: states cd/m²; relative was chosen"));
+    options.unit = MeasuredUnit::FootLambert;
+    QCOMPARE(warningsOf("name,Lv,x,y\nwhite,100,0.3,0.3", options),
+        (QStringList{"line 1, column Lv: states cd/m²; foot-lambert was chosen",
+            "line 1, column Lv: the luminances are converted from foot-lamberts to cd/m²"}));
 }
 
 void MeasurementListTest::lineOfUnits()
@@ -654,7 +669,9 @@ void MeasurementListTest::cabinets()
                               "A1,B,100,0.15,0.05\nA1,W,1000,0.28,0.29\nA2,G,710,0.2,0.7\n"
                               "A2,B,110,0.15,0.05\nA2,W,1010,0.28,0.29\n");
     QVERIFY2(list, qPrintable(list.error()));
-    QVERIFY(list.warnings().isEmpty());
+    QCOMPARE(list.warnings().size(), 1);
+    QCOMPARE(list.warnings().first().message(),
+        QStringLiteral("2 cabinets (A1, A2): there is no measured gamut of all of them; choose a cabinet"));
     QVERIFY(!list->gamut(QString()));
     QCOMPARE(list->others().size(), 8);
     const QVector<CabinetMeasurements> cabinets = list->cabinets();
@@ -676,6 +693,45 @@ void MeasurementListTest::cabinets()
     QVERIFY(single->gamut(QString()));
     QCOMPARE(single->cabinets().size(), 1);
     QVERIFY(readMeasurementList(known)->cabinets().isEmpty());
+}
+
+void MeasurementListTest::chosenCabinet()
+{
+    const QByteArray text = "Cabinet,name,Lv,x,y\nA1,R,200,0.7,0.29\nA1,G,700,0.2,0.7\nA2,R,210,0.7,0.29\n"
+                            "A1,B,100,0.15,0.05\nA1,W,1000,0.28,0.29\nA2,G,710,0.2,0.7\n"
+                            "A2,B,110,0.15,0.05\nA2,W,1010,0.28,0.29\n";
+    MeasurementOptions options;
+    options.cabinet = QStringLiteral(" a2 ");
+    const auto list = readMeasurementList(text, options);
+    QVERIFY2(list, qPrintable(list.error()));
+    QVERIFY(list.warnings().isEmpty());
+    const auto gamut = list->gamut(QString());
+    QVERIFY(gamut);
+    QCOMPARE(gamut->getTargets().white.Y, 1010.0);
+    QCOMPARE(list->measurements.size(), 4);
+    QCOMPARE(list->recognized.parts.size(), 4);
+    options.cabinet = QStringLiteral("A3");
+    QCOMPARE(errorOf(text, options), QStringLiteral("no cabinet is called \"A3\""));
+    QCOMPARE(errorOf(known, options), QStringLiteral("no cabinet is called \"A3\""));
+    // Colours are chosen in it.
+    options.cabinet = QStringLiteral("A1");
+    options.red.line = 4;
+    QCOMPARE(errorOf(text, options), QStringLiteral("line 4 has no measurement to choose"));
+    // By its place; its name alone is enough if no other cabinet has it.
+    const QByteArray places = "Tile,Row,Column,name,Lv,x,y\nA,1,2,W,100,0.3,0.3\nA,1,3,W,101,0.3,0.3\n"
+                              "B,1,4,W,102,0.3,0.3\n,1,5,W,103,0.3,0.3\n";
+    options = MeasurementOptions();
+    const auto luminanceOf = [&](const char *cabinet) {
+        options.cabinet = QString::fromLatin1(cabinet);
+        const auto one = readMeasurementList(places, options);
+        return one && one->measurements.size() == 1 ? one->measurements[0].luminance : 0.0;
+    };
+    QCOMPARE(luminanceOf("A 1/3"), 101.0);
+    QCOMPARE(luminanceOf("b"), 102.0);
+    QCOMPARE(luminanceOf("1/5"), 103.0);
+    options.cabinet = QStringLiteral("A");
+    QCOMPARE(
+        errorOf(places, options), QStringLiteral("several cabinets are called \"A\": A 1/2 and A 1/3, for example"));
 }
 
 void MeasurementListTest::cabinetsByRowAndColumn()
@@ -732,8 +788,9 @@ void MeasurementListTest::warningsOfCabinets()
         = "Tile,Row,Column,name,Lv,x,y\nA,1,2,R,200,0.7,0.29\nA,1,2,G,700,0.2,0.7\nA,1,2,B,1,0.15,0.05\n"
           "B,1,3,R,1,0.3,0.3\nB,1,3,G,1,0.3,0.3\nB,1,3,B,1,0.3,0.3\nB,1,3,W,1,0.3,0.3\n";
     QCOMPARE(warningsOf(text),
-        (QStringList{"cabinet \"A\", row 1, column 2: white is missing: there is no gamut; choose a "
-                     "measurement as white, or ask for the sum of red, green and blue",
+        (QStringList{"2 cabinets (A 1/2, B 1/3): there is no measured gamut of all of them; choose a cabinet",
+            "cabinet \"A\", row 1, column 2: white is missing: there is no gamut; choose a "
+            "measurement as white, or ask for the sum of red, green and blue",
             "cabinet \"B\", row 1, column 3: the primaries do not form a triangle"}));
 }
 
@@ -746,7 +803,9 @@ void MeasurementListTest::warningsOfCabinetsEnd()
         }
     }
     const QStringList warnings = warningsOf(text);
-    QCOMPARE(warnings.size(), 21);
+    QCOMPARE(warnings.size(), 22);
+    QCOMPARE(warnings.first(),
+        QStringLiteral("100 cabinets (0, 1, 2, 3, …): there is no measured gamut of all of them; choose a cabinet"));
     QCOMPARE(warnings.last(), QStringLiteral("further cabinets are not checked: there are too many warnings"));
 }
 

@@ -63,6 +63,16 @@ QString gamutRolePhrase(std::optional<GamutRole> role)
     return QString();
 }
 
+QString whyNotInRole(const Model::Targets &targets, GamutRole role)
+{
+    if (role == GamutRole::Declared || role == GamutRole::Standard) {
+        return QString();
+    }
+    return hasRealPrimaries(targets) && (role != GamutRole::Target || canBeTarget(targets))
+        ? QString()
+        : RoleText::tr("No display can show it: it has primaries that no light has.");
+}
+
 QString gamutInRole(const DisplayDescription &description, GamutRole role)
 {
     const QString *name = nameIn(description, role);
@@ -79,6 +89,10 @@ DisplayDescription withRole(DisplayDescription description, const QString &gamut
     const DisplayDescription &saved)
 {
     if (playsRole(description, gamutName, role) == plays) {
+        return description;
+    }
+    const auto gamut = description.gamut(gamutName);
+    if (plays && gamut && !whyNotInRole(gamut->getTargets(), role).isEmpty()) {
         return description;
     }
     if (role == GamutRole::Standard) {

@@ -17,6 +17,14 @@ constexpr GamutRole allGamutRoles[]
 /*! \brief The part in the middle of a sentence: "the declared gamut", and "no part" for none. */
 QString gamutRolePhrase(std::optional<GamutRole> role);
 
+/*!
+ * \brief Why a gamut of \a targets cannot play \a role, for people; empty when it can.
+ *
+ * With primaries that no light has it can be declared and a standard only: a description with it in another part could
+ * not be read again.
+ */
+QString whyNotInRole(const Model::Targets &targets, GamutRole role);
+
 /*! \brief The name of the gamut that plays \a role; empty when none does, and for standards. */
 QString gamutInRole(const DisplayDescription &description, GamutRole role);
 
@@ -27,7 +35,8 @@ bool playsRole(const DisplayDescription &description, const QString &gamutName, 
  * \brief \a description with the gamut called \a gamutName in \a role, or no longer in it.
  *
  * One gamut at a time is the original, the measured, the declared and the target: the one before loses the part and
- * stays in the list. \a saved is what the file has, for withTargetNamed().
+ * stays in the list. Nothing changes when whyNotInRole() says why. \a saved is what the file has, for
+ * withTargetNamed().
  */
 DisplayDescription withRole(DisplayDescription description, const QString &gamutName, GamutRole role, bool plays,
     const DisplayDescription &saved = DisplayDescription());

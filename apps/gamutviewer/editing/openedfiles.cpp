@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "editing/openedfiles.h"
 
+#include "display/valuetexts.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -31,37 +33,54 @@ QString wantedName(const DisplayGamut &gamut)
     return wanted.trimmed().isEmpty() ? OpenText::tr("Gamut") : wanted;
 }
 
-//! The name that \a description has \a gamut by, or that is free for it.
+/*!
+ * \brief The name that \a description has \a gamut by, or that is free for it.
+ *
+ * The same numbers are the same gamut in the same unit, or where one of the units is not known.
+ */
 QString nameFor(const DisplayDescription &description, const DisplayGamut &gamut)
 {
     QString name = wantedName(gamut);
+    QString sameNumbers;
     for (int number = 2; const auto taken = description.gamut(name); ++number) {
-        if (same(taken->getTargets(), gamut.getTargets())) {
-            break;
+        const bool isSame = same(taken->getTargets(), gamut.getTargets());
+        if (isSame && taken->unit == gamut.unit) {
+            return name;
+        }
+        const bool mayBeSame = taken->unit == LuminanceUnit::NotKnown || gamut.unit == LuminanceUnit::NotKnown;
+        if (isSame && mayBeSame && sameNumbers.isEmpty()) {
+            sameNumbers = name;
         }
         name = QStringLiteral("%1 (%2)").arg(wantedName(gamut)).arg(number);
     }
-    return name;
+    return sameNumbers.isEmpty() ? name : sameNumbers;
+}
+
+//! Whether adding \a gamut tells the unit of the gamut that \a description has by \a name.
+bool tellsUnit(const DisplayDescription &description, const QString &name, const DisplayGamut &gamut)
+{
+    const auto there = description.gamut(name);
+    return there && there->unit == LuminanceUnit::NotKnown && gamut.unit != LuminanceUnit::NotKnown;
 }
 
 //! Returns the name by which \a description has \a gamut, which is added unless it is there already.
 QString addGamut(DisplayDescription &description, const DisplayGamut &gamut)
 {
     const QString name = nameFor(description, gamut);
-    if (!description.gamut(name)) {
+    if (tellsUnit(description, name, gamut)) {
+        const auto isMeant
+            = [wanted = name.toStdString()](const DisplayGamut &other) { return other.colorGamutName() == wanted; };
+        std::find_if(description.gamuts.begin(), description.gamuts.end(), isMeant)->unit = gamut.unit;
+    } else if (!description.gamut(name)) {
         description.gamuts.emplace_back(Model::ColorGamut(name.toStdString(), gamut.getTargets()), gamut.unit);
     }
     return name;
 }
 
-//! What \a file says that its display is called; empty when it does not. A list has no more than the name of its file.
+//! What \a file says that its display is called; empty when it does not.
 QString displayName(const GamutFile &file)
 {
-    if (file.content == Content::Description) {
-        return file.description.name;
-    }
-    const QString name = QString::fromStdString(file.gamut.colorGamutName());
-    return file.content == Content::DeclaredGamut && name != file.name ? name : QString();
+    return file.content == Content::Description ? file.description.name : file.displayName;
 }
 
 //! Whether the names may be of one display: the longer one can say more, such as "calibrated".
@@ -73,12 +92,10 @@ bool mayBeSameDisplay(const QString &a, const QString &b)
         && (longer.size() == shorter.size() || !longer.at(shorter.size()).isLetterOrNumber());
 }
 
-//! By what names the display of \a open is known.
-QStringList displayNames(const DisplayDescription &open)
+//! Whether \a name may be that of the display of \a open, which may be named anew: its declared gamut keeps its own.
+bool mayBeDisplayOf(const DisplayDescription &open, const QString &name)
 {
-    QStringList names{open.name, open.declared};
-    names.removeAll(QString());
-    return names;
+    return mayBeSameDisplay(name, open.name) || (!open.declared.isEmpty() && mayBeSameDisplay(name, open.declared));
 }
 
 bool replacesPoints(const GamutFile &file, std::optional<GamutRole> role)
@@ -150,19 +167,29 @@ QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile 
     QVector<Problem> remarks;
     const auto remark = [&remarks](const QString &text) { remarks.append({oneLine(text), QString(), 0, 0}); };
     const QString name = displayName(added.file);
-    const QStringList known = displayNames(open);
-    const bool isKnown = std::any_of(
-        known.begin(), known.end(), [&name](const QString &other) { return mayBeSameDisplay(name, other); });
-    if (!name.isEmpty() && !known.isEmpty() && !isKnown) {
-        remark(OpenText::tr("is of the display \"%1\", not of \"%2\"").arg(name, known.first()));
+    if (!name.isEmpty() && !open.name.isEmpty() && !mayBeDisplayOf(open, name)) {
+        remark(OpenText::tr("is of the display \"%1\", not of \"%2\"").arg(name, open.name));
     }
+    const auto remarkOnUnit = [&](const DisplayGamut &gamut) {
+        const QString there = nameFor(open, gamut);
+        if (tellsUnit(open, there, gamut)) {
+            remark(OpenText::tr("tells the unit of \"%1\", which was not known: %2", "gamut and unit")
+                       .arg(there, luminanceUnitText(gamut.unit)));
+        }
+    };
     if (added.file.content == Content::Description && !isEmpty(open)) {
         remark(OpenText::tr("adds its gamuts only, in no part"));
+        for (const DisplayGamut &gamut : added.file.description.gamuts) {
+            remarkOnUnit(gamut);
+        }
         return remarks;
     }
     const auto gamut = gamutOf(added.file);
     if (gamut && nameFor(open, *gamut) != wantedName(*gamut)) {
         remark(OpenText::tr("is called \"%1\" here, since another gamut has its name").arg(nameFor(open, *gamut)));
+    }
+    if (gamut) {
+        remarkOnUnit(*gamut);
     }
     const DisplayDescription result = withFile(open, added.file, added.role);
     const QString before = added.role ? gamutInRole(open, *added.role) : QString();
@@ -208,8 +235,14 @@ bool needsChoice(const GamutFile &file)
         return measurement.part != MeasurementPart::None && measurement.part != MeasurementPart::Black;
     };
     const QVector<Measurement> &all = file.measurements.measurements;
-    const bool isIncomplete
-        = !gamutOf(file) && file.measurements.cabinets().size() < 2 && std::any_of(all.begin(), all.end(), isOfGamut);
+    const auto isPrimary = [&isOfGamut](const Measurement &measurement) {
+        return isOfGamut(measurement) && measurement.part != MeasurementPart::White;
+    };
+    // White alone is what there is of each cabinet where uniformity was measured.
+    const bool hasCabinets = file.measurements.cabinets().size() > 1;
+    const bool isIncomplete = !gamutOf(file)
+        && (hasCabinets ? std::any_of(all.begin(), all.end(), isPrimary)
+                        : std::any_of(all.begin(), all.end(), isOfGamut));
     return isIncomplete || file.measurements.recognized.unit == MeasuredUnit::NotKnown;
 }
 

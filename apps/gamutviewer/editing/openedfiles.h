@@ -40,7 +40,8 @@ Outcome<QVector<ReadFile>> readFiles(const QStringList &fileNames, const FileRea
 
 /*!
  * \brief Whether \a file is a measurement list of which only the user can say what it means: one that has colours of a
- * gamut but does not make one, since a colour is there twice or is missing, or whose unit is not known.
+ * gamut but does not make one, since a colour is there twice or is missing or there are several cabinets, or whose unit
+ * is not known.
  */
 bool needsChoice(const GamutFile &file);
 
@@ -54,9 +55,10 @@ std::optional<GamutRole> usualRole(const GamutFile &file);
  * \brief \a open with \a file added, its gamut in \a role.
  *
  * Nothing else is assumed: a declared or measured gamut is neither the original nor the target. A gamut whose name is
- * taken by another, be it a published one, gets a number; the one that had the part before stays in the list of gamuts.
- * Measurements other than those of the gamut take the place of the measure points. The gamuts of a description are
- * added without a part; where \a open is empty, the description takes its place.
+ * taken by another, be it a published one, gets a number; the same numbers in another unit are another gamut, but a
+ * unit that was not known is taken over. The gamut that had the part before stays in the list of gamuts. Measurements
+ * other than those of the gamut take the place of the measure points. The gamuts of a description are added without a
+ * part; where \a open is empty, the description takes its place.
  */
 DisplayDescription withFile(const DisplayDescription &open, const GamutFile &file, std::optional<GamutRole> role);
 

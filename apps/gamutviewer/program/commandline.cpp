@@ -108,6 +108,8 @@ CommandLine::CommandLine(const QStringList &arguments)
     const QCommandLineOption white(QStringLiteral("white"),
         tr("The same for white; or sum, for the sum of red, green and blue where the list has no white."),
         tr("measurement"));
+    const QCommandLineOption cabinet(QStringLiteral("cabinet"),
+        tr("The cabinet of a measurement list that has several: its name, or <row>/<column>."), tr("cabinet"));
     const QCommandLineOption unit(
         QStringLiteral("unit"), tr("Unit of the luminances in a measurement list: cd/m2, fL or relative."), tr("unit"));
     const QCommandLineOption decimal(
@@ -126,7 +128,7 @@ CommandLine::CommandLine(const QStringList &arguments)
            "number of the others, which are added to it. Without files, a sample is opened."),
         tr("[file...]"));
     m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, tolerances, red, green, blue, white,
-        unit, decimal, help, version});
+        cabinet, unit, decimal, help, version});
 
     const bool understood = m_parser.parse(arguments);
     m_needsDisplay = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(check)
@@ -240,6 +242,12 @@ void CommandLine::readMeasurementOptions()
                        .arg(QString::fromLatin1(choice.first), *text));
         } else {
             choice.second->name = *text;
+        }
+    }
+    if (const auto text = value("cabinet")) {
+        m_measurementOptions.cabinet = text->trimmed();
+        if (m_measurementOptions.cabinet.isEmpty()) {
+            refuse(tr("The name of --cabinet is empty."));
         }
     }
     if (const auto text = value("unit")) {
@@ -380,6 +388,15 @@ void CommandLine::readReport(const QString &format)
     if (!m_wantsReport) {
         refuse(tr("Unsupported report format, expected json: %1").arg(format));
     }
+}
+
+QString CommandLine::whyNoView(const DisplayDescription &description) const
+{
+    if (m_pictureFile.isEmpty() || m_part == Part::All || description.gamut(description.target)) {
+        return QString();
+    }
+    return m_part == Part::Target ? tr("--view target requires a target, which the files do not have.")
+                                  : tr("--view white requires a target with its white, which the files do not have.");
 }
 
 Picture CommandLine::picture(const DisplayDescription &description, const std::optional<Tolerances> &tolerances) const

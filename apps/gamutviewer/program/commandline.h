@@ -42,6 +42,11 @@ public:
     PictureFormat pictureFormat() const { return m_pictureFormat; }
     /*! \brief Of the picture, or of the window. */
     const PictureExtent &extent() const { return m_extent; }
+    /*!
+     * \brief Why the part of the diagram that was asked for is not there in \a description, for people; empty when it
+     * is, and without a picture.
+     */
+    QString whyNoView(const DisplayDescription &description) const;
     /*! \brief What Write writes of \a description. */
     Picture picture(const DisplayDescription &description, const std::optional<Tolerances> &tolerances) const;
     /*! \brief Whether a size was asked for; otherwise a window may have the one that it had. */

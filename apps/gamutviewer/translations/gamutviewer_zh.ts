@@ -100,6 +100,10 @@
         <source>Gamuts: %1</source>
         <translation>色域：%1</translation>
     </message>
+    <message>
+        <source>The display is then called &quot;%1&quot;.</source>
+        <translation>之后显示屏名为“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::Assessment</name>
@@ -629,6 +633,10 @@
         <source>There is already a gamut named &quot;%1&quot;.</source>
         <translation>已有名为“%1”的色域。</translation>
     </message>
+    <message>
+        <source>No display can show it: it has primaries that no light has.</source>
+        <translation>没有显示屏能显示它：它的基色不是任何光所能有的。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::GamutsDialog</name>
@@ -937,6 +945,14 @@
         <source>The list makes no gamut, only points.</source>
         <translation>列表不构成色域，只有测量点。</translation>
     </message>
+    <message>
+        <source>C&amp;abinet:</source>
+        <translation>箱体(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>all of them, which make no gamut</source>
+        <translation>全部，不构成色域</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::OpenedFiles</name>
@@ -968,6 +984,11 @@
     <message>
         <source>takes the place of all measured points there were: %1</source>
         <translation>取代原有的全部测量点：%1</translation>
+    </message>
+    <message>
+        <source>tells the unit of &quot;%1&quot;, which was not known: %2</source>
+        <comment>gamut and unit</comment>
+        <translation>给出此前未知的“%1”的单位：%2</translation>
     </message>
 </context>
 <context>

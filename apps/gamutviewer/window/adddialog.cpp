@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QStandardItemModel>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -32,6 +33,16 @@ QLabel *plainLabel(const QString &text, QWidget *parent)
     label->setText(text);
     label->setWordWrap(true);
     return label;
+}
+
+void disable(QComboBox *box, int index, const QString &reason)
+{
+    auto *items = qobject_cast<QStandardItemModel *>(box->model());
+    if (items) {
+        items->item(index)->setEnabled(false);
+        items->item(index)->setToolTip(reason);
+        items->item(index)->setAccessibleDescription(reason);
+    }
 }
 
 } // namespace
@@ -64,7 +75,6 @@ AddDialog::AddDialog(const DisplayDescription &open, const QString &openName, co
     layout->addWidget(area, 1);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     m_add = buttons->addButton(tr("&Add"), QDialogButtonBox::AcceptRole);
-    m_add->setDefault(true);
     connect(m_add, &QPushButton::clicked, this, &QDialog::accept);
     if (mayOpenAlone) {
         m_alone = buttons->addButton(tr("&Open alone"), QDialogButtonBox::ActionRole);
@@ -73,6 +83,10 @@ AddDialog::AddDialog(const DisplayDescription &open, const QString &openName, co
             accept();
         });
     }
+    // A description is whole by itself; what else there is belongs to a display.
+    const bool isWhole = m_alone && !files.isEmpty() && files.first().file.content == GamutFile::Content::Description;
+    QPushButton *usual = isWhole ? m_alone : m_add;
+    usual->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
     refresh();
@@ -81,7 +95,7 @@ AddDialog::AddDialog(const DisplayDescription &open, const QString &openName, co
     const int wanted
         = list->layout()->hasHeightForWidth() ? list->layout()->heightForWidth(textWidth) : list->sizeHint().height();
     area->setMinimumSize(textWidth, std::min(wanted, mostHeight));
-    m_add->setFocus();
+    usual->setFocus();
 }
 
 QWidget *AddDialog::makeRow(int index)
@@ -97,10 +111,14 @@ QWidget *AddDialog::makeRow(int index)
     bold.setBold(true);
     name->setFont(bold);
     layout->addRow(name);
-    if (gamutOf(file.file)) {
+    if (const auto gamut = gamutOf(file.file)) {
         row.role = new QComboBox(box);
         for (const GamutRole role : allGamutRoles) {
             row.role->addItem(gamutRolePhrase(role), int(role));
+            const QString reason = whyNotInRole(gamut->getTargets(), role);
+            if (!reason.isEmpty()) {
+                disable(row.role, row.role->count() - 1, reason);
+            }
         }
         row.role->addItem(gamutRolePhrase(std::nullopt), noRole);
         row.role->setCurrentIndex(row.role->findData(file.role ? int(*file.role) : noRole));
@@ -139,6 +157,10 @@ QString AddDialog::noteFor(const DisplayDescription &open, const ReadFile &file)
     }
     if (file.file.content == GamutFile::Content::Description) {
         lines.append(tr("Gamuts: %1").arg(file.file.description.gamuts.size()));
+    }
+    const QString display = withFile(open, file.file, file.role).name;
+    if (display != open.name) {
+        lines.append(tr("The display is then called \"%1\".").arg(oneLine(display)));
     }
     for (const Problem &remark : remarksOnAdding(open, file)) {
         lines.append(QStringLiteral("⚠ %1 %2").arg(shortName(file.fileName), remark.text));

@@ -138,13 +138,16 @@ void GamutsDialog::refresh()
                 continue;
             }
             const bool plays = playsRole(description, name, roleOf(column));
-            const bool isPossible
-                = roleOf(column) != GamutRole::Target || canBeTarget(description.gamut(name)->getTargets());
-            item->setFlags(
-                isPossible ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable : Qt::ItemIsSelectable);
+            const QString reason = whyNotInRole(description.gamut(name)->getTargets(), roleOf(column));
+            // What a file already has can be taken away.
+            item->setToolTip(reason);
+            item->setFlags(reason.isEmpty() || plays
+                    ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable
+                    : Qt::ItemIsSelectable);
             item->setCheckState(plays ? Qt::Checked : Qt::Unchecked);
             item->setData(Qt::AccessibleTextRole,
                 tr("%1: %2", "gamut and part").arg(oneLine(name), ceiechart::gamutRoleName(roleOf(column))));
+            item->setData(Qt::AccessibleDescriptionRole, reason);
         }
     }
     refreshButtons();

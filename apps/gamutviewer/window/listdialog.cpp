@@ -87,6 +87,12 @@ ListDialog::ListDialog(const QString &fileName, const MeasurementOptions &option
     m_decimalSign->addItem(tr("point"), QString(signs[0]));
     m_decimalSign->addItem(tr("comma"), QString(signs[1]));
     form->addRow(tr("&Decimal sign:"), m_decimalSign);
+    m_cabinet = new QComboBox(this);
+    m_cabinet->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_cabinet->setMinimumContentsLength(30);
+    m_cabinetLabel = new QLabel(tr("C&abinet:"), this);
+    m_cabinetLabel->setBuddy(m_cabinet);
+    form->addRow(m_cabinetLabel, m_cabinet);
     for (const Vertex vertex : allVertices) {
         auto *box = new QComboBox(this);
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -103,9 +109,11 @@ ListDialog::ListDialog(const QString &fileName, const MeasurementOptions &option
     m_use = buttons->addButton(tr("&Use"), QDialogButtonBox::AcceptRole);
     m_use->setDefault(true);
     layout->addWidget(buttons);
+    fillCabinets();
     fillChoices();
     m_choices.append(m_unit);
     m_choices.append(m_decimalSign);
+    m_choices.append(m_cabinet);
     for (QComboBox *box : qAsConst(m_choices)) {
         connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &ListDialog::take);
     }
@@ -113,6 +121,33 @@ ListDialog::ListDialog(const QString &fileName, const MeasurementOptions &option
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     resize(520, 460);
     refresh();
+}
+
+void ListDialog::fillCabinets()
+{
+    // What is chosen leaves the others out, so the list is read as a whole.
+    MeasurementOptions whole = m_options;
+    whole.cabinet.clear();
+    for (MeasurementChoice *choice : {&whole.red, &whole.green, &whole.blue, &whole.white}) {
+        *choice = MeasurementChoice();
+    }
+    const Outcome<GamutFile> read = m_options.cabinet.isEmpty() ? m_read : readGamutFile(m_fileName, whole);
+    const QSignalBlocker blocker(m_cabinet);
+    const QVariant before = m_cabinet->count() > 0 ? m_cabinet->currentData() : QVariant(m_options.cabinet);
+    m_cabinet->clear();
+    m_cabinet->addItem(tr("all of them, which make no gamut"), QString());
+    if (read) {
+        for (const CabinetMeasurements &cabinet : read->measurements.cabinets()) {
+            if (!cabinet.label().isEmpty()) {
+                m_cabinet->addItem(oneLine(cabinet.label()), cabinet.label());
+            }
+        }
+    }
+    const int chosen = m_cabinet->findData(before, Qt::UserRole, Qt::MatchFixedString);
+    m_cabinet->setCurrentIndex(chosen < 0 ? 0 : chosen);
+    const bool isChoice = m_cabinet->count() > 2;
+    m_cabinet->setVisible(isChoice);
+    m_cabinetLabel->setVisible(isChoice);
 }
 
 void ListDialog::fillChoices()
@@ -151,12 +186,14 @@ void ListDialog::take()
     if (!sign.isEmpty()) {
         m_options.decimalSign = sign.at(0);
     }
+    m_options.cabinet = m_cabinet->currentData().toString();
     for (const Vertex vertex : allVertices) {
         const int line = choice(vertex)->currentData().toInt();
         choiceOf(m_options, vertex) = {std::max(line, 0), QString()};
     }
     m_options.whiteIsSum = choice(Vertex::White)->currentData().toInt() == sumOfPrimaries;
     m_read = readGamutFile(m_fileName, m_options);
+    fillCabinets();
     fillChoices();
     refresh();
 }

@@ -8,13 +8,15 @@
 #include <QDialog>
 
 class QComboBox;
+class QLabel;
 class QPlainTextEdit;
 class QPushButton;
 
 namespace gamutviewer {
 
 /*!
- * \brief Asks what a measurement list means where the list does not say: which measurement is red, what the unit is.
+ * \brief Asks what a measurement list means where the list does not say: which measurement is red, what the unit is, of
+ * which cabinet it is to be.
  *
  * It shows how the list is understood with what has been chosen so far.
  */
@@ -33,6 +35,8 @@ public:
 
     QComboBox *unit() const { return m_unit; }
     QComboBox *decimalSign() const { return m_decimalSign; }
+    /*! \brief Chooses the cabinet; hidden for a list that has no more than one. */
+    QComboBox *cabinet() const { return m_cabinet; }
     /*! \brief Chooses the measurement that is \a vertex. */
     QComboBox *choice(Vertex vertex) const { return m_choices.at(int(vertex)); }
     /*! \brief How the list is understood, and what is still amiss. */
@@ -40,6 +44,7 @@ public:
     QPushButton *useButton() const { return m_use; }
 
 private:
+    void fillCabinets();
     void fillChoices();
     void take();
     void refresh();
@@ -49,6 +54,8 @@ private:
     Outcome<GamutFile> m_read;
     QComboBox *m_unit;
     QComboBox *m_decimalSign;
+    QComboBox *m_cabinet;
+    QLabel *m_cabinetLabel;
     QVector<QComboBox *> m_choices;
     QPlainTextEdit *m_preview;
     QPushButton *m_use;

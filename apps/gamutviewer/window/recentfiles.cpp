@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/recentfiles.h"
 
+#include "display/gamutfiles.h"
 #include "window/settings.h"
 
 #include <QDir>
@@ -27,7 +28,7 @@ QStringList RecentFiles::list()
 
 void RecentFiles::add(const QString &fileName)
 {
-    if (QFileInfo::exists(fileName) && !QFileInfo(fileName).isFile()) {
+    if (isStandardInput(fileName) || (QFileInfo::exists(fileName) && !QFileInfo(fileName).isFile())) {
         return;
     }
     setFolderOf(fileName);

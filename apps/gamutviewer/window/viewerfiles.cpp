@@ -67,10 +67,10 @@ void print(const QVector<FileWarning> &warnings)
 
 void ViewerWindow::setDescription(const DisplayDescription &description, const QString &fileName)
 {
-    m_shownFile = fileName;
+    m_shownFile = isStandardInput(fileName) ? QString() : fileName;
     const QString path = QFileInfo(fileName).canonicalFilePath(); // empty where there is no such file
     m_isSample = !path.isEmpty() && path == QFileInfo(sampleFile()).canonicalFilePath();
-    m_document.open(description, m_isSample ? QString() : fileName);
+    m_document.open(description, m_isSample ? QString() : m_shownFile);
     m_warnings->setWarnings({});
     fitPanel();
 }
@@ -84,7 +84,9 @@ void ViewerWindow::setOpened(const OpenedFiles &opened)
     if (isDescription && !additions.isEmpty()) {
         m_document.change(opened.description, stepName(additions));
     }
-    m_shownFile = isDescription ? opened.descriptionFile : opened.fileNames.value(0);
+    if (!isDescription && !isStandardInput(opened.fileNames.value(0))) {
+        m_shownFile = opened.fileNames.value(0);
+    }
     m_warnings->setWarnings(shortMessages(opened.warnings));
     for (int i = opened.fileNames.size() - 1; i >= 0; --i) {
         if (!m_isSample || opened.fileNames.at(i) != opened.descriptionFile) {
@@ -155,8 +157,7 @@ bool ViewerWindow::openPaths(const QStringList &fileNames, Manner manner, const 
         return false;
     }
     m_panel->editor()->takeTyped();
-    const bool isDescription = files->first().file.content == GamutFile::Content::Description;
-    return givesWay() || (isDescription && manner == Manner::Open) ? openAlone(*files) : openByQuestion(*files, manner);
+    return givesWay() ? openAlone(*files) : openByQuestion(*files, manner);
 }
 
 bool ViewerWindow::openAlone(const QVector<ReadFile> &files)
@@ -267,8 +268,12 @@ bool ViewerWindow::mayLoseChanges()
     if (!m_document.isModified()) {
         return true;
     }
+    // What the changes would be saved in, or else what they are of.
+    const QString file = QFileInfo(m_document.fileName()).fileName();
+    const QString display = m_document.description().name;
+    const QString name = oneLine(!file.isEmpty() ? file : !display.isEmpty() ? display : tr("Untitled"));
     QMessageBox box(QMessageBox::Warning, tr("Unsaved changes"),
-        tr("\"%1\" has been modified. Save the changes?").arg(shownName()),
+        tr("\"%1\" has been modified. Save the changes?").arg(name),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Save);

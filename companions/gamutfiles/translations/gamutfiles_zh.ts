@@ -730,6 +730,35 @@
         <source>Further lines with a part: %1</source>
         <translation>其他有角色的行：%1</translation>
     </message>
+    <message>
+        <source>cd/m²</source>
+        <translation>cd/m²</translation>
+    </message>
+    <message>
+        <source>foot-lambert</source>
+        <translation>英尺朗伯</translation>
+    </message>
+    <message>
+        <source>relative</source>
+        <translation>相对值</translation>
+    </message>
+    <message>
+        <source>states %1; %2 was chosen</source>
+        <comment>units</comment>
+        <translation>写明的是 %1；选择的是 %2</translation>
+    </message>
+    <message>
+        <source>no cabinet is called &quot;%1&quot;</source>
+        <translation>没有名为“%1”的箱体</translation>
+    </message>
+    <message>
+        <source>several cabinets are called &quot;%1&quot;: %2 and %3, for example</source>
+        <translation>有多个名为“%1”的箱体，例如 %2 和 %3</translation>
+    </message>
+    <message>
+        <source>%1 cabinets (%2): there is no measured gamut of all of them; choose a cabinet</source>
+        <translation>%1 个箱体（%2）：它们合起来没有实测色域；请选择一个箱体</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Primaries</name>
