@@ -31,7 +31,9 @@ private:
     struct Header {
         Columns columns;
         std::array<ColumnName, columnPartCount> names;
-        QVector<Problem> doubled; // columns of the same part
+        QVector<Problem> warnings; // columns that are not read though they could be meant
+        int luminances = 0; // columns that give one
+        bool hasOtherObserver = false; // columns of the 10° observer
     };
 
     // Each step returns false, with m_failure set, when the list is refused.
@@ -43,11 +45,12 @@ private:
     bool checkGamut();
 
     static Header headerOf(const CsvRow &row);
-    void useHeader(const Header &header, int rowIndex);
+    void useHeader(Header header, int rowIndex);
+    void chooseLuminance(Header &header, const CsvRow &row);
     void useColumns(const Columns &columns, const QStringList &headers);
     void useCabinets(const Columns &columns, const QStringList &headers);
     void keep(ColumnPart part, int column, const QStringList &headers);
-    void readUnitRow();
+    void readUnitRow(ColumnName unit);
     void useUnit(const ColumnName &luminance);
 
     std::optional<Measurement> readRow(const CsvRow &row);

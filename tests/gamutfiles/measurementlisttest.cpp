@@ -25,6 +25,10 @@ private Q_SLOTS:
     void systemsOfCoordinates_data();
     void systemsOfCoordinates();
     void luminanceOfTwoColumns();
+    void surestLuminance_data();
+    void surestLuminance();
+    void lightnessIsNoLuminance();
+    void otherObserver();
     void textBeforeTheHeader();
     void emptyColumnsAndLines();
     void linesWithoutNumbers();
@@ -37,6 +41,7 @@ private Q_SLOTS:
     void footLamberts();
     void statedUnit();
     void lineOfUnits();
+    void lineOfUnitsBelowUnits();
     void levels();
     void levelsOfAnUnknownScale();
     void colorTemperatureIsNotBlack();
@@ -272,6 +277,56 @@ void MeasurementListTest::luminanceOfTwoColumns()
     QCOMPARE(withUnit->measurements[0].luminance, 200.0);
 }
 
+void MeasurementListTest::surestLuminance_data()
+{
+    QTest::addColumn<QString>("read");
+    for (const char *headers :
+        {"Brightness,Y", "Helligkeit,Y", "brillo,Y", "L,Y", "FL,Y", "Luminance,Y", "Luminance,Lv", "Luminance (%),Lv",
+            "L (%),Y", "Luminance (%),nits", "Y (%),Luminance (cd/m2)", "Y,Lv", "Lv (%),Y (cd/m2)", "Y [1],Lv"}) {
+        const QByteArray both(headers);
+        const QByteArray first = both.left(both.indexOf(','));
+        const QByteArray second = both.mid(both.indexOf(',') + 1);
+        QTest::newRow(headers) << QString::fromUtf8(second);
+        QTest::newRow((second + ',' + first).constData()) << QString::fromUtf8(second);
+    }
+}
+
+void MeasurementListTest::surestLuminance()
+{
+    QFETCH(QString, read);
+    const QByteArray headers(QTest::currentDataTag());
+    const bool isFirst = headers.startsWith(read.toUtf8() + ',');
+    const QByteArray text = "name,x,y," + headers + "\na,0.3,0.4," + (isFirst ? "200,1" : "1,200");
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->measurements[0].luminance, 200.0);
+    QCOMPARE(warningsOf(text).first(),
+        QStringLiteral("line 1: 2 columns give a luminance: column %1, \"%2\", is read")
+            .arg(isFirst ? 4 : 5)
+            .arg(read));
+}
+
+void MeasurementListTest::lightnessIsNoLuminance()
+{
+    QCOMPARE(errorOf("name,x,y,L,a,b\nwhite,0.3,0.3,100,0,0"), QStringLiteral("line 1: missing column Y"));
+    const auto list = readMeasurementList("name,L,a*,b*,x,y,Lv\nwhite,100,0,0,0.3,0.3,200");
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->measurements[0].luminance, 200.0);
+    QVERIFY(readMeasurementList("name,L,a,x,y\nwhite,100,0,0.3,0.3"));
+}
+
+void MeasurementListTest::otherObserver()
+{
+    for (const char *header :
+        {"X (10°),Y (10°),Z (10°)", "X (1964),Y (1964),Z (1964)", "X [CIE 1964],Y (CIE 1964),Z (10 deg)"}) {
+        QCOMPARE(errorOf(QByteArray("name,") + header + "\na,20,30,40"),
+            QStringLiteral("line 1: the columns are of the 10° observer: those of CIE 1931 (2°) are needed"));
+    }
+    const QByteArray both = "name,X (10°),Y (10°),Z (10°),X,Y,Z\na,20,30,40,50,60,70";
+    QCOMPARE(readMeasurementList(both)->measurements[0].luminance, 60.0);
+    QCOMPARE(warningsOf(both).first(), QStringLiteral("line 1: column 2 is of the 10° observer and is not read"));
+}
+
 void MeasurementListTest::textBeforeTheHeader()
 {
     const auto list = readMeasurementList(
@@ -381,6 +436,9 @@ void MeasurementListTest::units_data()
     row("Lv", LuminanceUnit::CandelaPerSquareMetre);
     row("Y (cd/m2)", LuminanceUnit::CandelaPerSquareMetre);
     row("nits", LuminanceUnit::CandelaPerSquareMetre);
+    row("Lv [1]", LuminanceUnit::Relative);
+    row("Lv (-)", LuminanceUnit::NotKnown,
+        {"line 1, column Lv (-): the unit \"-\" is not known: the luminances are read as numbers of an unknown unit"});
     row("Y (%)", LuminanceUnit::Relative);
     row("Y", LuminanceUnit::NotKnown, {"line 1, column Y: the unit of the luminances is not stated"});
     row("L", LuminanceUnit::NotKnown, {"line 1, column L: the unit of the luminances is not stated"});
@@ -438,6 +496,26 @@ void MeasurementListTest::lineOfUnits()
     QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
     QVERIFY(list.warnings().isEmpty());
     QVERIFY(!readMeasurementList("Patch;Y;x;y\n;asb;-;-\nwhite;100,5;0,3;0,4"));
+}
+
+void MeasurementListTest::lineOfUnitsBelowUnits()
+{
+    const auto list = readMeasurementList("Patch;Lv;x;y\n;fL;;\nwhite;100;0,3;0,4");
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->recognized.unit, MeasuredUnit::FootLambert);
+    QVERIFY(std::abs(list->measurements[0].luminance - 342.6259) < 5e-5);
+    QVERIFY(readMeasurementList("Patch;Lv (cd/m2);x;y\n;nits;;\nwhite;100;0,3;0,4"));
+    const QByteArray contradicting = "Patch;Lv (cd/m2);x;y\n;fL;;\nwhite;100;0,3;0,4";
+    QCOMPARE(errorOf(contradicting),
+        QStringLiteral("line 2, column Lv (cd/m2): the unit \"fL\" is not that of the line of the names, \"cd/m2\": "
+                       "state the unit"));
+    MeasurementOptions options;
+    options.unit = MeasuredUnit::FootLambert;
+    QVERIFY(readMeasurementList(contradicting, options));
+    const auto dashes = readMeasurementList("Patch;Lv;x;y\n;-;-;-\nwhite;100;0,3;0,4");
+    QVERIFY2(dashes, qPrintable(dashes.error()));
+    QCOMPARE(dashes->recognized.unit, MeasuredUnit::CandelaPerSquareMetre);
+    QCOMPARE(dashes->measurements.size(), 1);
 }
 
 void MeasurementListTest::levels()
