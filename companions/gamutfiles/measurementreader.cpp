@@ -293,7 +293,7 @@ void MeasurementReader::useColumns(const Columns &columns, const QStringList &he
     }
     m_numberParts = parts;
     useCabinets(columns, headers);
-    if (!has(ColumnPart::Name) && !has(ColumnPart::Cabinet) && !has(ColumnPart::Row)) {
+    if (isNameless()) {
         warn(tr("no column names the measurements: choose the lines of red, green, blue and white"),
             place(m_list.recognized.headerLine));
     }
@@ -405,6 +405,7 @@ bool MeasurementReader::decideDecimalSign()
     bool otherPoint = false; // in columns that are not read
     bool otherComma = false;
     bool ambiguousComma = false;
+    bool ambiguousPoint = false;
     for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
         const CsvRow &row = m_table.rows.at(i);
         for (int column = 0; column < row.fields.size(); ++column) {
@@ -422,6 +423,8 @@ bool MeasurementReader::decideDecimalSign()
             }
             ambiguousComma
                 = ambiguousComma || (evidence == DecimalEvidence::Ambiguous && text.contains(QLatin1Char(',')));
+            ambiguousPoint
+                = ambiguousPoint || (evidence == DecimalEvidence::Ambiguous && text.contains(QLatin1Char('.')));
         }
     }
     const auto &point = kind(DecimalEvidence::Point);
@@ -440,11 +443,13 @@ bool MeasurementReader::decideDecimalSign()
         m_decimalSign = QLatin1Char(comma ? ',' : '.');
         return true;
     }
-    if (otherPoint != otherComma) {
+    // A column that is not read may be a date or a version: it can confirm decimals, but not make thousands of them.
+    const bool makesThousands = otherComma ? ambiguousPoint : ambiguousComma;
+    if (otherPoint != otherComma && !makesThousands) {
         m_decimalSign = QLatin1Char(otherComma ? ',' : '.');
         return true;
     }
-    if (m_table.separator == QLatin1Char(',') && !ambiguousComma) {
+    if (otherPoint == otherComma && m_table.separator == QLatin1Char(',') && !ambiguousComma) {
         // Where the comma divides fields it does not divide numbers.
         warn(tr("\"%1\" is read with a decimal point; state the decimal sign if the point divides thousands")
                  .arg(ambiguous->text),
@@ -455,7 +460,7 @@ bool MeasurementReader::decideDecimalSign()
     plain.remove(QLatin1Char('.')).remove(QLatin1Char(','));
     QString decimal = ambiguous->text;
     decimal.replace(QLatin1Char(','), QLatin1Char('.'));
-    return fail(tr("\"%1\" can be %2 or %3, and no other number tells: state the decimal sign")
+    return fail(tr("\"%1\" can be %2 or %3, and no other number that is read tells: state the decimal sign")
                     .arg(ambiguous->text, plain, decimal),
         ambiguous->where);
 }
@@ -505,13 +510,21 @@ bool MeasurementReader::isDivided(const CsvRow &row, const Measurement &measurem
         return false;
     }
     const auto begin = row.fields.begin();
-    const int columns = m_headerFields > 0 ? m_headerFields : int(m_numberParts.size()) + 1;
-    const bool hasMore = std::any_of(begin + std::min(columns, int(row.fields.size())), row.fields.end(), isNumber);
+    const auto hasMoreThan = [&](int columns) {
+        return std::any_of(begin + std::min(columns, int(row.fields.size())), row.fields.end(), isNumber);
+    };
+    const bool hasMore = hasMoreThan(m_headerFields > 0 ? m_headerFields : int(m_numberParts.size()) + 1);
     const auto isTail = [&](ColumnPart part) {
         const QString text = given(row, part);
         return text.size() == 3 && text.startsWith(QLatin1Char('0')) && text.at(1).isDigit() && text.at(2).isDigit();
     };
     if (std::any_of(m_numberParts.begin(), m_numberParts.end(), isTail)) {
+        return true;
+    }
+    // A number below a header without a name can be a further column, or the rest of numbers that were divided.
+    const auto hasPoint = [&](ColumnPart part) { return given(row, part).contains(QLatin1Char('.')); };
+    const bool canBeColumn = !has(ColumnPart::X) && std::any_of(m_numberParts.begin(), m_numberParts.end(), hasPoint);
+    if (m_headerFields > m_width && hasMoreThan(m_width) && !canBeColumn) {
         return true;
     }
     return hasMore && (m_headerFields > 0 || (!measurement.color && measurement.luminance > 0.0));
@@ -873,9 +886,11 @@ void MeasurementReader::warnOfParts(const MeasurementList &list, const QString &
                 : tr("white is missing: there is no gamut; choose a measurement as white, or ask for the sum of red, "
                      "green and blue"),
             where);
-    } else if (present == 2) {
+    } else if (present == 2 || (present < 2 && where.isEmpty() && !isNameless())) {
         missing += isWhiteMissing ? QStringList{measurementPartName(MeasurementPart::White)} : QStringList();
-        warn(tr("there is no gamut; missing: %1").arg(joined(missing)), where);
+        warn(tr("there is no gamut; missing: %1; choose the lines or the names that are these colours")
+                 .arg(joined(missing)),
+            where);
     }
     const bool shouldHaveGamut = isUsable && present == 3 && (!isWhiteMissing || m_options.whiteIsSum);
     if (shouldHaveGamut && !list.gamut(QString())) {

@@ -69,6 +69,8 @@ private:
     bool choose(const MeasurementChoice &choice, MeasurementPart part);
     void warnOfParts(const MeasurementList &list, const QString &where);
 
+    //! Whether nothing but the line tells one measurement from the other.
+    bool isNameless() const { return !has(ColumnPart::Name) && !has(ColumnPart::Cabinet) && !has(ColumnPart::Row); }
     bool has(ColumnPart part) const { return columnOf(part) >= 0; }
     int columnOf(ColumnPart part) const { return m_columns[std::size_t(part)]; }
     static QString place(int line) { return tr("line %1").arg(line); }

@@ -57,7 +57,6 @@ private Q_SLOTS:
     void missingWhite();
     void whiteAsSum();
     void missingPrimaries();
-    void pointsNeedNoGamut();
     void optionsAreUsed();
     void cabinets();
     void cabinetsByRowAndColumn();
@@ -100,6 +99,17 @@ QStringList warningsOf(const QByteArray &text, const MeasurementOptions &options
     for (const Problem &warning : list.warnings()) {
         messages.append(warning.message());
     }
+    return messages;
+}
+
+//! The warnings of a list without all of the colours of a gamut, but for the last one, which says so.
+QStringList otherWarningsOf(const QByteArray &text, const MeasurementOptions &options = {})
+{
+    QStringList messages = warningsOf(text, options);
+    if (messages.isEmpty() || !messages.last().startsWith("there is no gamut; missing: ")) {
+        return {QStringLiteral("nothing says that there is no gamut")};
+    }
+    messages.removeLast();
     return messages;
 }
 
@@ -340,17 +350,18 @@ void MeasurementListTest::textBeforeTheHeader()
 
 void MeasurementListTest::emptyColumnsAndLines()
 {
-    const auto list = readMeasurementList("name;Lv;x;y;;;\n;;;;;;\na;1;0,3;0,4;;;\n;;;;;;\nb;2;0,3;0,4\n;;\n");
+    const QByteArray text = "name;Lv;x;y;;;\n;;;;;;\na;1;0,3;0,4;;;\n;;;;;;\nb;2;0,3;0,4\n;;\n";
+    const auto list = readMeasurementList(text);
     QVERIFY2(list, qPrintable(list.error()));
     QCOMPARE(namesOf(list->measurements), (QStringList{"a", "b"}));
-    QVERIFY(list.warnings().isEmpty());
+    QVERIFY(otherWarningsOf(text).isEmpty());
 }
 
 void MeasurementListTest::linesWithoutNumbers()
 {
     const QByteArray text = "name,Lv,x,y\na,1,0.3,0.4\nSecond run,,,\nOperator: X\nb,2,0.3,0.4\n";
     QCOMPARE(namesOf(readMeasurementList(text)->measurements), (QStringList{"a", "b"}));
-    QCOMPARE(warningsOf(text), QStringList{"line 3: has no numbers and is not read; so in 1 further line(s)"});
+    QCOMPARE(otherWarningsOf(text), QStringList{"line 3: has no numbers and is not read; so in 1 further line(s)"});
 }
 
 void MeasurementListTest::thousands_data()
@@ -377,13 +388,13 @@ void MeasurementListTest::thousands_data()
     row("quoted between commas", "name,Lv,x,y\na,\"1,234.5\",0.3,0.4", 1234.5, ",");
     row("nothing tells", "name;X;Y;Z\na;5,678;1,234;9,012", -1.0,
         "line 2, column X: \"5,678\" can be 5678 or 5.678, and "
-        "no other number tells: state the decimal sign");
+        "no other number that is read tells: state the decimal sign");
     row("nothing tells, points", "name\tX\tY\tZ\na\t5.678\t1.234\t9.012", -1.0,
         "line 2, column X: \"5.678\" can be 5678 "
-        "or 5.678, and no other number tells: state the decimal sign");
+        "or 5.678, and no other number that is read tells: state the decimal sign");
     row("nothing tells between commas", "name,X,Y,Z\na,\"5,678\",\"1,234\",\"9,012\"", -1.0,
         "line 2, column X: \"5,678\" "
-        "can be 5678 or 5.678, and no other number tells: state the decimal sign");
+        "can be 5678 or 5.678, and no other number that is read tells: state the decimal sign");
     row("both signs", "name;Lv;x;y\na;1;0.3;0.4\nb;1;0,3;0,4", -1.0,
         "line 3, column x: \"0,3\" has a decimal comma, but "
         "\"0.3\" (line 2, column x) has a decimal point: state the decimal sign");
@@ -414,13 +425,20 @@ void MeasurementListTest::decimalSignOfOtherColumns()
     QVERIFY2(list, qPrintable(list.error()));
     QCOMPARE(list->measurements[0].luminance, 1.234);
     QVERIFY(!readMeasurementList("name;X;Y;Z;T;D\na;5,678;1,234;9,012;6504,3;0.1"));
+    // It may not make thousands of what could be decimals.
+    QCOMPARE(errorOf("name;X;Y;Z;T\na;5.678;1.234;9.012;6504,3"),
+        QStringLiteral(
+            "line 2, column X: \"5.678\" can be 5678 or 5.678, and no other number that is read tells: state "
+            "the decimal sign"));
+    QVERIFY(!readMeasurementList("name;X;Y;Z;T\na;5,678;1,234;9,012;1.5"));
+    QVERIFY(!readMeasurementList("name,X,Y,Z,T\na,5.678,1.234,9.012,\"6504,3\""));
 }
 
 void MeasurementListTest::pointWhereCommasDivideFields()
 {
     const QByteArray text = "name,X,Y (cd/m2),Z\na,5.678,1.234,9.012";
     QCOMPARE(readMeasurementList(text)->measurements[0].luminance, 1.234);
-    QCOMPARE(warningsOf(text),
+    QCOMPARE(otherWarningsOf(text),
         QStringList{"line 2, column X: \"5.678\" is read with a decimal point; state the decimal sign if the "
                     "point divides thousands"});
 }
@@ -471,7 +489,7 @@ void MeasurementListTest::footLamberts()
     QCOMPARE(list->measurements[0].color->Y, list->measurements[0].luminance);
     QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
     QCOMPARE(list->recognized.unit, MeasuredUnit::FootLambert);
-    QCOMPARE(warningsOf(text),
+    QCOMPARE(otherWarningsOf(text),
         QStringList{"line 1, column Y (fL): the luminances are converted from foot-lamberts to cd/m²"});
     const auto tristimulus = readMeasurementList("name,X,Y (fL),Z\nwhite,100,100,100");
     QVERIFY(isNear(tristimulus->measurements[0].color->Y, list->measurements[0].luminance));
@@ -482,19 +500,21 @@ void MeasurementListTest::statedUnit()
 {
     MeasurementOptions options;
     options.unit = MeasuredUnit::CandelaPerSquareMetre;
-    const auto list = readMeasurementList("name,Y (fL),x,y\nwhite,100,0.3,0.3", options);
+    const QByteArray text = "name,Y (fL),x,y\nwhite,100,0.3,0.3";
+    const auto list = readMeasurementList(text, options);
     QCOMPARE(list->measurements[0].luminance, 100.0);
     QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
-    QVERIFY(list.warnings().isEmpty());
+    QVERIFY(otherWarningsOf(text, options).isEmpty());
 }
 
 void MeasurementListTest::lineOfUnits()
 {
-    const auto list = readMeasurementList("Patch;Y;x;y\n;[cd/m²];-;-\nwhite;100,5;0,3;0,4");
+    const QByteArray text = "Patch;Y;x;y\n;[cd/m²];-;-\nwhite;100,5;0,3;0,4";
+    const auto list = readMeasurementList(text);
     QVERIFY2(list, qPrintable(list.error()));
     QCOMPARE(list->measurements.size(), 1);
     QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
-    QVERIFY(list.warnings().isEmpty());
+    QVERIFY(otherWarningsOf(text).isEmpty());
     QVERIFY(!readMeasurementList("Patch;Y;x;y\n;asb;-;-\nwhite;100,5;0,3;0,4"));
 }
 
@@ -539,7 +559,7 @@ void MeasurementListTest::levelsOfAnUnknownScale()
     const QByteArray text = "name,Lv,x,y\nR 64,50,0.7,0.29\nG 64,70,0.2,0.7\nB 64,10,0.15,0.05\nW 64,100,0.28,0.29\n";
     const auto list = readMeasurementList(text);
     QVERIFY(list && !list->gamut(QString()));
-    QCOMPARE(warningsOf(text),
+    QCOMPARE(otherWarningsOf(text),
         QStringList{"line 2: the full level of \"R 64\" is not known: no level without a unit is taken as "
                     "the full one"});
 }
@@ -597,13 +617,15 @@ void MeasurementListTest::black()
     QFETCH(double, luminance);
     const auto list = readMeasurementList(text);
     QVERIFY2(list, qPrintable(list.error()));
-    QVERIFY(list.warnings().isEmpty());
+    QVERIFY(otherWarningsOf(text).isEmpty());
     QVERIFY(list->black());
     QCOMPARE(list->black()->luminance, luminance);
     QVERIFY(!list->black()->color);
-    const auto twice = readMeasurementList(text + text.mid(text.indexOf('\n') + 1));
-    QVERIFY(twice && !twice->black());
-    QCOMPARE(twice.warnings().size(), 1);
+    const QByteArray doubled = text + text.mid(text.indexOf('\n') + 1);
+    QVERIFY(!readMeasurementList(doubled)->black());
+    const QStringList warnings = otherWarningsOf(doubled);
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY(warnings[0].contains("black is there more than once"));
 }
 
 void MeasurementListTest::luminanceWithoutChromaticity()
@@ -611,7 +633,7 @@ void MeasurementListTest::luminanceWithoutChromaticity()
     const QByteArray text = "name,Lv,x,y\nBlack,0.003,0,0\n";
     const auto list = readMeasurementList(text);
     QCOMPARE(list->black()->luminance, 0.003);
-    QCOMPARE(warningsOf(text), QStringList{"line 2: has a luminance but no chromaticity"});
+    QCOMPARE(otherWarningsOf(text), QStringList{"line 2: has a luminance but no chromaticity"});
     const QByteArray red = QByteArray(known).replace("0.7,0.29", "0,0");
     QVERIFY(!readMeasurementList(red)->gamut(QString()));
     QCOMPARE(warningsOf(red),
@@ -697,14 +719,14 @@ void MeasurementListTest::whiteAsSum()
 void MeasurementListTest::missingPrimaries()
 {
     const QByteArray text = QByteArray(known).replace("Blue", "Violet");
-    QCOMPARE(warningsOf(text), QStringList{"there is no gamut; missing: blue"});
-    QCOMPARE(
-        warningsOf(QByteArray(text).replace("White", "grey")), QStringList{"there is no gamut; missing: blue, white"});
-}
-
-void MeasurementListTest::pointsNeedNoGamut()
-{
-    QVERIFY(warningsOf("name,Lv,x,y\nwhite,1,0.3,0.3\npoint,2,0.3,0.4\n").isEmpty());
+    const QString choose = QStringLiteral("; choose the lines or the names that are these colours");
+    QCOMPARE(warningsOf(text), QStringList{"there is no gamut; missing: blue" + choose});
+    QCOMPARE(warningsOf(QByteArray(text).replace("White", "grey")),
+        QStringList{"there is no gamut; missing: blue, white" + choose});
+    QCOMPARE(warningsOf(QByteArray(text).replace("Red", "punainen").replace("Green", "zelena")),
+        QStringList{"there is no gamut; missing: red, green, blue" + choose});
+    QCOMPARE(warningsOf("name,Lv,x,y\npunainen,1,0.3,0.3\n"),
+        QStringList{"there is no gamut; missing: red, green, blue, white" + choose});
 }
 
 void MeasurementListTest::optionsAreUsed()
@@ -832,13 +854,13 @@ void MeasurementListTest::doubledColumn()
 {
     const QByteArray text = "name,Lv,x,y,CIE x\na,1,0.3,0.3,0.4\n";
     QCOMPARE(readMeasurementList(text)->measurements[0].color->x, 0.3);
-    QCOMPARE(warningsOf(text), QStringList{"line 1: columns 3 and 5 are both x: column 3 is read"});
+    QCOMPARE(otherWarningsOf(text), QStringList{"line 1: columns 3 and 5 are both x: column 3 is read"});
 }
 
 void MeasurementListTest::moreFieldsThanColumns()
 {
     const QByteArray text = "name,Lv,x,y\na,1,0.3,0.3,checked\nb,1,0.3,0.3,,\n";
-    QCOMPARE(warningsOf(text), QStringList{"line 2: has more fields than the line that names the columns"});
+    QCOMPARE(otherWarningsOf(text), QStringList{"line 2: has more fields than the line that names the columns"});
 }
 
 void MeasurementListTest::dividedNumbers_data()
@@ -853,6 +875,10 @@ void MeasurementListTest::dividedNumbers_data()
     QTest::newRow("decimal commas, no header") << QByteArray("a,100,0,0,3127,0,329") << false;
     QTest::newRow("decimal commas of XYZ") << QByteArray("name,X,Y,Z\na,41,24,21,26,1,93") << false;
     QTest::newRow("thousand of XYZ") << QByteArray("name,X,Y,Z\na,1,234.5,900.1,700.2") << false;
+    QTest::newRow("decimal commas of XYZ, padded header") << QByteArray("name,X,Y,Z,,,\na,41,24,21,26,1,93") << false;
+    QTest::newRow("thousand of XYZ, padded header") << QByteArray("name,X,Y,Z,\na,1,234.5,900.1,700.2") << false;
+    QTest::newRow("decimal commas, padded header") << QByteArray("name,Lv,x,y,,,\na,100,0,0,3127,0,329") << false;
+    QTest::newRow("padded lines") << QByteArray("name,X,Y,Z,,\na,41.2,21.3,1.9,,") << true;
     QTest::newRow("semicolons") << QByteArray("name;Lv;x;y\na;1;000;0.3127;0.329") << true;
     QTest::newRow("further column, no header") << QByteArray("a,100.5,0.3127,0.329,6504") << true;
     QTest::newRow("black, no header") << QByteArray("a,0,0,0,0") << true;
