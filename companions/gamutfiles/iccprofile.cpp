@@ -343,7 +343,9 @@ Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes, const IccMemory &mem
         warnings.append({IccText::tr("the name of the profile cannot be read"), QStringLiteral("desc"), 0, 0});
     }
     warnings += warningsOfTheTags(profile, bytes);
-    return {display, warnings + warningsOfTheLocus(gamut->getTargets()) + warningsOfTheSource(display.metadata)};
+    return {display,
+        warnings + warningsOfTheTriangle(gamut->getTargets()) + warningsOfTheLocus(gamut->getTargets())
+            + warningsOfTheSource(display.metadata)};
 }
 
 Outcome<DisplayGamut> readIccProfile(const QByteArray &bytes)

@@ -893,7 +893,11 @@ void MeasurementReader::warnOfParts(const MeasurementList &list, const QString &
             where);
     }
     const bool shouldHaveGamut = isUsable && present == 3 && (!isWhiteMissing || m_options.whiteIsSum);
-    if (shouldHaveGamut && !list.gamut(QString())) {
+    if (const auto gamut = list.gamut(QString())) {
+        for (const Problem &warning : warningsOfTheTriangle(gamut->getTargets())) {
+            warn(warning.text, where);
+        }
+    } else if (shouldHaveGamut) {
         if (where.isEmpty()) {
             fail(noTriangleText());
         } else {

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void missingWhite();
     void whiteAsSum();
     void missingPrimaries();
+    void unlikelyTriangles();
     void optionsAreUsed();
     void cabinets();
     void cabinetsByRowAndColumn();
@@ -727,6 +728,18 @@ void MeasurementListTest::missingPrimaries()
         QStringList{"there is no gamut; missing: red, green, blue" + choose});
     QCOMPARE(warningsOf("name,Lv,x,y\npunainen,1,0.3,0.3\n"),
         QStringList{"there is no gamut; missing: red, green, blue, white" + choose});
+}
+
+void MeasurementListTest::unlikelyTriangles()
+{
+    const QByteArray exchanged
+        = QByteArray(known).replace("Red", "x").replace("Green", "Red").replace("\nx,", "\nGreen,");
+    QVERIFY(readMeasurementList(exchanged)->gamut(QString()));
+    QCOMPARE(
+        warningsOf(exchanged), QStringList{"red, green and blue lie clockwise in x, y: two of them may be exchanged"});
+    const QByteArray outside = QByteArray(known).replace("White,1000,0.28,0.29", "White,1000,0.1,0.5");
+    QCOMPARE(warningsOf(outside), QStringList{"the white lies outside of the triangle of the primaries"});
+    QCOMPARE(warningsOf(known), QStringList());
 }
 
 void MeasurementListTest::optionsAreUsed()
