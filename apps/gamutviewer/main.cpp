@@ -172,7 +172,12 @@ int main(int argc, char *argv[])
     }
     if (commandLine.hasMeasurementOptions() && !opened->hasLists) {
         printError(QApplication::translate(
-            "main", "--red, --green, --blue, --white, --unit and --decimal require a measurement list"));
+            "main", "--red, --green, --blue, --white, --cabinet, --unit and --decimal require a measurement list"));
+        return WrongInput;
+    }
+    const QString noView = commandLine.whyNoView(opened->description);
+    if (!noView.isEmpty()) {
+        printError(noView);
         return WrongInput;
     }
     const bool isAsked = commandLine.action() == CommandLine::Action::Show && opened->needsChoice;

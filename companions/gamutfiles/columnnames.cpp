@@ -271,16 +271,22 @@ bool isLuminance(ColumnPart part)
 bool isCie1931(const QString &note)
 {
     static const QStringList notes{QStringLiteral("cie"), QStringLiteral("1931"), QStringLiteral("cie1931"),
-        QStringLiteral("2°"), QStringLiteral("2deg"), QStringLiteral("cie19312°"), QStringLiteral("-"),
-        QStringLiteral("1"), QString()};
+        QStringLiteral("2°"), QStringLiteral("2deg"), QStringLiteral("cie19312°"), QStringLiteral("1"), QString()};
     return notes.contains(note.toLower());
+}
+
+//! Says that the CIE 1964 (10°) observer is meant, whose coordinates are other numbers.
+bool isOtherObserver(const QString &note)
+{
+    return note.contains(QLatin1String("1964")) || note.contains(QStringLiteral("10°"))
+        || note.contains(QLatin1String("10deg"), Qt::CaseInsensitive);
 }
 
 //! A luminance without a unit beside it: Lv is in cd/m², by the definition of the symbol.
 ColumnName unitless(ColumnPart part, const QString &name)
 {
     const bool isLv = part == ColumnPart::Luminance && name.endsWith(QLatin1String("lv"), Qt::CaseInsensitive);
-    return {part, isLv ? MeasuredUnit::CandelaPerSquareMetre : MeasuredUnit::NotStated, QString()};
+    return {part, isLv ? MeasuredUnit::CandelaPerSquareMetre : MeasuredUnit::NotStated, QString(), false};
 }
 
 //! "Lv (cd/m²)", "x (CIE 1931)", "u (CIE 1976)".
@@ -297,14 +303,27 @@ std::optional<ColumnName> withBrackets(const QString &key)
         return columnName(name.endsWith(QLatin1Char('\'')) ? name : name + QLatin1Char('\''));
     }
     auto result = columnName(name);
-    if (!result || isCie1931(note) || result->part == ColumnPart::Name) {
+    if (!result || result->part == ColumnPart::Name) {
+        return result;
+    }
+    if (result->part == ColumnPart::Y && isOtherObserver(note)) {
+        return std::nullopt;
+    }
+    if (isLuminance(result->part) && note == QLatin1String("1")) {
+        return ColumnName{result->part, MeasuredUnit::Relative, note, false}; // a ratio has the unit one
+    }
+    if (isLuminance(result->part) && note.isEmpty()) { // "[-]" says that there is no unit, also beside Lv
+        return ColumnName{result->part, MeasuredUnit::NotKnown, QStringLiteral("-"), false};
+    }
+    if (isCie1931(note)) {
         return result;
     }
     if (isLuminance(result->part)) {
-        return ColumnName{result->part, measuredUnit(note), note};
+        return ColumnName{result->part, measuredUnit(note), note, false};
     }
-    // A chromaticity has no unit: another system is meant, such as the 10° observer.
-    return result->part == ColumnPart::X || result->part == ColumnPart::Z ? result : std::nullopt;
+    // A chromaticity has no unit: another system is meant.
+    const bool isTristimulus = result->part == ColumnPart::X || result->part == ColumnPart::Z;
+    return isTristimulus && !isOtherObserver(note) ? result : std::nullopt;
 }
 
 //! "nits", "Luminance cd/m2", "Lv / cd/m²", "Leuchtdichte in cd/m²".
@@ -321,7 +340,7 @@ std::optional<ColumnName> withUnitBehind(const QString &key)
             // A percentage or a ratio of something unnamed is no luminance.
             return known.unit == MeasuredUnit::Relative
                 ? std::nullopt
-                : std::make_optional(ColumnName{ColumnPart::Luminance, known.unit, unitText});
+                : std::make_optional(ColumnName{ColumnPart::Luminance, known.unit, unitText, true});
         }
         for (const char *const joint : {"/", ",", "in", "en"}) {
             if (name.endsWith(QLatin1String(joint))) {
@@ -330,7 +349,8 @@ std::optional<ColumnName> withUnitBehind(const QString &key)
             }
         }
         const auto part = partNamed(name);
-        return part && isLuminance(*part) ? std::make_optional(ColumnName{*part, known.unit, unitText}) : std::nullopt;
+        return part && isLuminance(*part) ? std::make_optional(ColumnName{*part, known.unit, unitText, false})
+                                          : std::nullopt;
     }
     return std::nullopt;
 }
@@ -360,6 +380,23 @@ std::optional<ColumnName> columnName(const QString &text)
         return bracketed;
     }
     return withUnitBehind(key);
+}
+
+bool isOfOtherObserver(const QString &text)
+{
+    if (text.size() > longestHeader) {
+        return false;
+    }
+    QString key = compact(text);
+    if (!isOtherObserver(key)) {
+        return false;
+    }
+    for (const char *const word : {"cie", "1964", "10°", "10degrees", "10deg", "observer", ",", "(", ")", "[", "]"}) {
+        key.remove(QString::fromUtf8(word), Qt::CaseInsensitive);
+    }
+    const auto part = partNamed(key);
+    return part == ColumnPart::x || part == ColumnPart::y || part == ColumnPart::X || part == ColumnPart::Y
+        || part == ColumnPart::Z;
 }
 
 MeasuredUnit measuredUnit(const QString &text)

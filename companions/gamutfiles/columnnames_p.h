@@ -36,6 +36,7 @@ struct ColumnName {
     ColumnPart part = ColumnPart::Name;
     MeasuredUnit unit = MeasuredUnit::NotStated; //!< of a luminance
     QString unitText; //!< as the header writes it; empty when it does not
+    bool isUnitOnly = false; //!< whether the header is a unit and nothing else
 };
 
 /*!
@@ -44,6 +45,13 @@ struct ColumnName {
  * Case matters only between x and X, y and Y, z and Z.
  */
 std::optional<ColumnName> columnName(const QString &text);
+
+/*!
+ * \brief Whether the header \a text names a coordinate or a tristimulus value of the CIE 1964 (10°) observer.
+ *
+ * columnName() names nothing for it.
+ */
+bool isOfOtherObserver(const QString &text);
 
 /*! \brief The unit that \a text is; NotKnown when it is none. */
 MeasuredUnit measuredUnit(const QString &text);

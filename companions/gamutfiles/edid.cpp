@@ -179,8 +179,8 @@ Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
     }
     display.gamut = DisplayGamut(*gamut, isAbsolute ? LuminanceUnit::CandelaPerSquareMetre : LuminanceUnit::Relative);
     return {display,
-        copies(display) + warningsOfTheLocus(gamut->getTargets()) + contradictions(display, base)
-            + extensions.warnings()};
+        copies(display) + warningsOfTheTriangle(gamut->getTargets()) + warningsOfTheLocus(gamut->getTargets())
+            + contradictions(display, base) + extensions.warnings()};
 }
 
 Outcome<DisplayGamut> readEdid(const QByteArray &bytes)

@@ -56,6 +56,20 @@ Format expectedFormat(const QString &fileName)
     return isEdidName ? Format::Edid : Format::Unknown;
 }
 
+//! Whether lists are saved under such names; some begin with a line such as "[Measurements]".
+bool isTextName(const QString &fileName)
+{
+    const QString suffix = QFileInfo(fileName).suffix().toLower();
+    return suffix == QLatin1String("csv") || suffix == QLatin1String("tsv") || suffix == QLatin1String("txt");
+}
+
+//! Whether text that begins with a bracket goes on as an object or an array of objects does.
+bool isJson(const QByteArray &text)
+{
+    const QByteArray next = text.mid(1).trimmed().left(1);
+    return text.startsWith('{') ? next == "\"" || next == "}" : next == "{" || next == "[" || next == "\"";
+}
+
 Format format(const QByteArray &bytes, const QString &fileName)
 {
     if (isEdid(bytes)) {
@@ -66,10 +80,10 @@ Format format(const QByteArray &bytes, const QString &fileName)
     }
     const QByteArray start = bytes.startsWith("\xEF\xBB\xBF") ? bytes.mid(3, 4096) : bytes.left(4096);
     const QByteArray trimmed = start.trimmed();
-    if (trimmed.startsWith('{') || trimmed.startsWith('[')) {
+    const Format expected = expectedFormat(fileName);
+    if ((trimmed.startsWith('{') || trimmed.startsWith('[')) && !(isTextName(fileName) && !isJson(trimmed))) {
         return Format::Description;
     }
-    const Format expected = expectedFormat(fileName);
     if (expected != Format::Unknown) {
         return expected;
     }

@@ -110,6 +110,29 @@ QVector<Problem> warningsOfTheLocus(const Model::Targets &gamut)
     return warnings;
 }
 
+QVector<Problem> warningsOfTheTriangle(const Model::Targets &gamut)
+{
+    if (!Model::spanTriangle(gamut)) {
+        return {};
+    }
+    // Twice the area of a, b, c: greater than 0 when they are counter-clockwise.
+    const auto area = [](const Model::Target &a, const Model::Target &b, const Model::Target &c) {
+        return (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
+    };
+    const double whole = area(gamut.red, gamut.green, gamut.blue);
+    QVector<Problem> warnings;
+    if (whole < 0.0) {
+        warnings.append(
+            {PrimariesText::tr("red, green and blue lie clockwise in x, y: two of them may be exchanged"), {}, 0, 0});
+    }
+    const double red = area(gamut.white, gamut.green, gamut.blue) / whole;
+    const double green = area(gamut.red, gamut.white, gamut.blue) / whole;
+    if (red < 0.0 || green < 0.0 || 1.0 - red - green < 0.0) {
+        warnings.append({PrimariesText::tr("the white lies outside of the triangle of the primaries"), {}, 0, 0});
+    }
+    return warnings;
+}
+
 QString noTriangleText()
 {
     return PrimariesText::tr("the primaries do not form a triangle");

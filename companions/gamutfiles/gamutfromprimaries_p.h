@@ -45,6 +45,13 @@ Outcome<Model::ColorGamut> gamutFromPrimaries(
 /*! \brief A warning for each primary of \a gamut that is so far outside of the spectral locus that no light has it. */
 QVector<Problem> warningsOfTheLocus(const Model::Targets &gamut);
 
+/*!
+ * \brief Warnings of primaries that are clockwise, as when two of them are exchanged, and of a white outside of them.
+ *
+ * Nothing for primaries that span no triangle.
+ */
+QVector<Problem> warningsOfTheTriangle(const Model::Targets &gamut);
+
 /*! \brief What to say of primaries that are too near to one line to mix anything. */
 QString noTriangleText();
 

@@ -9,6 +9,7 @@
 
 #include <lcms2.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -216,15 +217,62 @@ QVector<Problem> warningsOfTheSource(const QVector<IccMetadata> &entries)
     return warnings;
 }
 
-//! From the D50 of the profile to the white of the device.
-Matrix unadaptation(const Profile &profile)
+//! Whether the profile's table of tags has \a signature; Little CMS leaves out those that lie beyond the end.
+bool isListed(const QByteArray &bytes, quint32 signature)
+{
+    constexpr int entrySize = 12;
+    if (bytes.size() < headerSize + 4) {
+        return false;
+    }
+    const quint32 count = bigEndian(bytes, headerSize);
+    const auto fitting = quint32((bytes.size() - headerSize - 4) / entrySize);
+    for (quint32 i = 0; i < std::min(count, fitting); ++i) {
+        if (bigEndian(bytes, headerSize + 4 + int(i) * entrySize) == signature) {
+            return true;
+        }
+    }
+    return false;
+}
+
+//! From the D50 of the profile to the white of the device; nothing when the tag that says it cannot be read.
+std::optional<Matrix> unadaptation(const Profile &profile, const QByteArray &bytes)
 {
     if (const auto *rows = tag<cmsCIEXYZ>(profile, cmsSigChromaticAdaptationTag, 36)) {
         return inverse({vector(rows[0]), vector(rows[1]), vector(rows[2])});
     }
-    const auto *mediaWhite = colorTag(profile, cmsSigMediaWhitePointTag);
-    return mediaWhite ? bradford(vector(*cmsD50_XYZ()), vector(*mediaWhite))
-                      : Matrix{{{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}}};
+    if (isListed(bytes, cmsSigChromaticAdaptationTag)) {
+        return std::nullopt;
+    }
+    if (const auto *mediaWhite = colorTag(profile, cmsSigMediaWhitePointTag)) {
+        return bradford(vector(*cmsD50_XYZ()), vector(*mediaWhite));
+    }
+    if (isListed(bytes, cmsSigMediaWhitePointTag)) {
+        return std::nullopt;
+    }
+    return Matrix{{{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}}};
+}
+
+//! What a reader of the gamut must know of the tags \a bytes list, beside those that were read.
+QVector<Problem> warningsOfTheTags(const Profile &profile, const QByteArray &bytes)
+{
+    QVector<Problem> warnings;
+    if (isListed(bytes, cmsSigLuminanceTag) && !colorTag(profile, cmsSigLuminanceTag)) {
+        warnings.append({IccText::tr("the luminance of white cannot be read: luminances are relative"),
+            QStringLiteral("lumi"), 0, 0});
+    }
+    const struct {
+        quint32 signature;
+        QString name;
+    } tables[] = {{cmsSigAToB0Tag, QStringLiteral("A2B0")}, {cmsSigAToB1Tag, QStringLiteral("A2B1")}};
+    for (const auto &table : tables) {
+        if (isListed(bytes, table.signature)) {
+            warnings.append({IccText::tr("the colours of the profile follow a table: its colorants, which are read, "
+                                         "need not be the primaries of the display"),
+                table.name, 0, 0});
+            break;
+        }
+    }
+    return warnings;
 }
 
 } // namespace
@@ -267,9 +315,12 @@ Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes, const IccMemory &mem
     if (!red || !green || !blue) {
         return Failure::failure(IccText::tr("has no primaries: the ICC profile has no colorant tags"));
     }
-    const Matrix native = unadaptation(profile);
-    const Primaries primaries{chromaticity(native * vector(*red)), chromaticity(native * vector(*green)),
-        chromaticity(native * vector(*blue)), chromaticity(native * vector(*cmsD50_XYZ()))};
+    const auto native = unadaptation(profile, bytes);
+    if (!native) {
+        return Failure::failure(IccText::tr("is a damaged ICC profile: its white cannot be read"));
+    }
+    const Primaries primaries{chromaticity(*native * vector(*red)), chromaticity(*native * vector(*green)),
+        chromaticity(*native * vector(*blue)), chromaticity(*native * vector(*cmsD50_XYZ()))};
     IccDisplay display;
     if (const auto *luminance = colorTag(profile, cmsSigLuminanceTag);
         luminance && std::isfinite(luminance->Y) && luminance->Y > 0.0) {
@@ -291,7 +342,10 @@ Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes, const IccMemory &mem
         && !cmsReadTag(profile.get(), cmsSigProfileDescriptionTag)) {
         warnings.append({IccText::tr("the name of the profile cannot be read"), QStringLiteral("desc"), 0, 0});
     }
-    return {display, warnings + warningsOfTheLocus(gamut->getTargets()) + warningsOfTheSource(display.metadata)};
+    warnings += warningsOfTheTags(profile, bytes);
+    return {display,
+        warnings + warningsOfTheTriangle(gamut->getTargets()) + warningsOfTheLocus(gamut->getTargets())
+            + warningsOfTheSource(display.metadata)};
 }
 
 Outcome<DisplayGamut> readIccProfile(const QByteArray &bytes)

@@ -41,8 +41,10 @@ GAMUTFILES_EXPORT bool isIccProfile(const QByteArray &bytes);
 /*!
  * \brief Reads an RGB matrix profile (ICC.1:2010 and ICC.1:2001).
  *
- * The memory that reading takes is bounded by the size of the profile, whatever its counts say. A description that
- * cannot be read gives a warning, and so do primaries that no light has, and metadata by which the numbers are those of
+ * The memory that reading takes is bounded by the size of the profile, whatever its counts say. A profile that lists
+ * the tag of its adaptation, or without one that of its white, but where it cannot be read, is refused as damaged.
+ * Warnings tell of a description or a luminance that cannot be read, of primaries that no light has, of a table (A2B0,
+ * A2B1) beside the colorants, which then need not be the primaries, and of metadata by which the numbers are those of
  * an EDID or a standard, not measured ones.
  */
 GAMUTFILES_EXPORT Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes);

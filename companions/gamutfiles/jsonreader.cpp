@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "jsonreader_p.h"
 
+#include "excerpt_p.h"
 #include "json_p.h"
 
 #include <QJsonArray>
@@ -19,14 +20,14 @@ QString memberPath(const QString &path, const QString &key)
     if (!plain.match(key).hasMatch()) {
         return path + QLatin1Char('[') + quoted(key) + QLatin1Char(']');
     }
-    return path.isEmpty() ? key : path + QLatin1Char('.') + key;
+    return path.isEmpty() ? excerpt(key) : path + QLatin1Char('.') + excerpt(key);
 }
 
 } // namespace
 
 QString quoted(const QString &text)
 {
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    return QLatin1Char('"') + excerpt(text) + QLatin1Char('"');
 }
 
 std::optional<JsonReader::Node> JsonReader::parse(const QByteArray &utf8, int maximum, const QString &tooLarge)

@@ -65,6 +65,50 @@ ColumnPart missingPart(const std::array<int, columnPartCount> &columns)
     return has(ColumnPart::x) ? ColumnPart::y : ColumnPart::x;
 }
 
+//! How sure it is that a column gives the luminance, and in which unit; of several the one of the highest is read.
+int luminanceRank(const ColumnName &name)
+{
+    const bool isY = name.part == ColumnPart::Y;
+    switch (name.unit) {
+    case MeasuredUnit::CandelaPerSquareMetre:
+        return 7;
+    case MeasuredUnit::FootLambert:
+        // "FL" alone can be anything, for example flicker.
+        return name.isUnitOnly ? 1 : 6;
+    case MeasuredUnit::NotStated: // "Brightness" can be a setting
+        return isY ? 5 : 2;
+    case MeasuredUnit::Relative:
+        return isY ? 4 : 0;
+    case MeasuredUnit::NotKnown:
+        break;
+    }
+    return isY ? 3 : 1;
+}
+
+bool isLightness(const QString &header)
+{
+    return header.trimmed().compare(QLatin1String("L"), Qt::CaseInsensitive) == 0;
+}
+
+//! Whether there is an "a" and a "b": the L beside them is the lightness of CIELAB.
+bool namesLab(const QStringList &headers)
+{
+    const auto has = [&headers](QChar letter) {
+        return std::any_of(headers.begin(), headers.end(), [letter](const QString &header) {
+            const QString text = header.trimmed().toLower();
+            return text == letter || text == QString(letter) + QLatin1Char('*');
+        });
+    };
+    return has(QLatin1Char('a')) && has(QLatin1Char('b'));
+}
+
+//! As instruments write it for what they did not measure.
+bool isDashOrNothing(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(),
+        [](QChar c) { return c.isSpace() || c == QLatin1Char('-') || c == QChar(0x2013) || c == QChar(0x2014); });
+}
+
 QString joined(const QStringList &names)
 {
     return names.join(QStringLiteral(", "));
@@ -111,20 +155,33 @@ MeasurementReader::Header MeasurementReader::headerOf(const CsvRow &row)
 {
     Header header;
     header.columns.fill(-1);
+    const bool isLab = namesLab(row.fields);
+    bool toldOfDoubled = false;
     for (int i = 0; i < row.fields.size(); ++i) {
+        if (isOfOtherObserver(row.fields.at(i))) {
+            if (!header.hasOtherObserver) {
+                header.warnings.append(
+                    {tr("column %1 is of the 10° observer and is not read").arg(i + 1), place(row.line), 0, 0});
+            }
+            header.hasOtherObserver = true;
+            continue;
+        }
         const auto name = columnName(row.fields.at(i));
-        if (!name) {
+        if (!name || (isLab && isLightness(row.fields.at(i)))) {
             continue;
         }
         const auto part = std::size_t(name->part);
-        if (header.columns[part] < 0) {
+        const bool isLuminance = name->part == ColumnPart::Luminance || name->part == ColumnPart::Y;
+        header.luminances += isLuminance ? 1 : 0;
+        if (header.columns[part] < 0 || (isLuminance && luminanceRank(*name) > luminanceRank(header.names[part]))) {
             header.columns[part] = i;
             header.names[part] = *name;
-        } else if (header.doubled.isEmpty()) {
-            header.doubled.append({tr("columns %1 and %2 are both %3: column %1 is read")
-                                       .arg(header.columns[part] + 1)
-                                       .arg(i + 1)
-                                       .arg(columnPartName(name->part)),
+        } else if (!isLuminance && !toldOfDoubled) {
+            toldOfDoubled = true;
+            header.warnings.append({tr("columns %1 and %2 are both %3: column %1 is read")
+                                        .arg(header.columns[part] + 1)
+                                        .arg(i + 1)
+                                        .arg(columnPartName(name->part)),
                 place(row.line), 0, 0});
         }
     }
@@ -135,12 +192,16 @@ bool MeasurementReader::findColumns()
 {
     int mostNames = 0;
     int likeliestLine = 0;
+    int otherObserverLine = 0;
     Columns likeliest{};
     for (int i = 0; i < m_table.rows.size(); ++i) {
         const Header header = headerOf(m_table.rows.at(i));
         if (isComplete(header.columns)) {
             useHeader(header, i);
-            return true;
+            return m_failure.text.isEmpty();
+        }
+        if (header.hasOtherObserver && otherObserverLine == 0) {
+            otherObserverLine = m_table.rows.at(i).line;
         }
         const auto names
             = int(std::count_if(header.columns.begin(), header.columns.end(), [](int c) { return c >= 0; }));
@@ -149,6 +210,10 @@ bool MeasurementReader::findColumns()
             likeliestLine = m_table.rows.at(i).line;
             likeliest = header.columns;
         }
+    }
+    if (otherObserverLine > 0) {
+        return fail(
+            tr("the columns are of the 10° observer: those of CIE 1931 (2°) are needed"), place(otherObserverLine));
     }
     const CsvRow &first = m_table.rows.first();
     const bool startsWithNumbers = std::any_of(first.fields.begin(), first.fields.end(), isNumber);
@@ -169,7 +234,7 @@ bool MeasurementReader::findColumns()
     return fail(tr("missing column %1").arg(columnPartName(missingPart(likeliest))), place(likeliestLine));
 }
 
-void MeasurementReader::useHeader(const Header &header, int rowIndex)
+void MeasurementReader::useHeader(Header header, int rowIndex)
 {
     const CsvRow &row = m_table.rows.at(rowIndex);
     m_firstRow = rowIndex + 1;
@@ -178,21 +243,30 @@ void MeasurementReader::useHeader(const Header &header, int rowIndex)
         --m_width;
     }
     m_headerFields = int(row.fields.size());
-    m_warnings += header.doubled;
-    Columns columns = header.columns;
-    // Of two luminances the one whose unit is known is read.
-    const auto luminance = std::size_t(ColumnPart::Luminance);
-    const auto tristimulusY = std::size_t(ColumnPart::Y);
-    const bool onlyYHasUnit = columns[tristimulusY] >= 0 && header.names[luminance].unit == MeasuredUnit::NotStated
-        && header.names[tristimulusY].unit != MeasuredUnit::NotStated;
-    const bool useLuminance = columns[luminance] >= 0 && !onlyYHasUnit;
-    columns[luminance] = useLuminance ? columns[luminance] : -1;
-    useColumns(columns, row.fields);
-    ColumnName unit = header.names[useLuminance ? luminance : tristimulusY];
-    if (unit.unit == MeasuredUnit::NotStated) {
-        readUnitRow();
-    } else {
-        useUnit(unit, row.line);
+    chooseLuminance(header, row);
+    m_warnings += header.warnings;
+    useColumns(header.columns, row.fields);
+    const bool useLuminance = header.columns[std::size_t(ColumnPart::Luminance)] >= 0;
+    readUnitRow(header.names[std::size_t(useLuminance ? ColumnPart::Luminance : ColumnPart::Y)]);
+}
+
+//! Leaves in \a header the column that the luminances are read from, and a Y beside it for X, Y, Z alone.
+void MeasurementReader::chooseLuminance(Header &header, const CsvRow &row)
+{
+    int &luminance = header.columns[std::size_t(ColumnPart::Luminance)];
+    const int tristimulusY = header.columns[std::size_t(ColumnPart::Y)];
+    if (luminance >= 0 && tristimulusY >= 0
+        && luminanceRank(header.names[std::size_t(ColumnPart::Y)])
+            > luminanceRank(header.names[std::size_t(ColumnPart::Luminance)])) {
+        luminance = -1;
+    }
+    if (header.luminances > 1) {
+        const int read = luminance >= 0 ? luminance : tristimulusY;
+        header.warnings.append({tr("%1 columns give a luminance: column %2, \"%3\", is read")
+                                    .arg(header.luminances)
+                                    .arg(read + 1)
+                                    .arg(excerpt(row.fields.at(read).simplified())),
+            place(row.line), 0, 0});
     }
 }
 
@@ -221,7 +295,7 @@ void MeasurementReader::useColumns(const Columns &columns, const QStringList &he
     }
     m_numberParts = parts;
     useCabinets(columns, headers);
-    if (!has(ColumnPart::Name) && !has(ColumnPart::Cabinet) && !has(ColumnPart::Row)) {
+    if (isNameless()) {
         warn(tr("no column names the measurements: choose the lines of red, green, blue and white"),
             place(m_list.recognized.headerLine));
     }
@@ -261,22 +335,33 @@ void MeasurementReader::keep(ColumnPart part, int column, const QStringList &hea
     m_list.recognized.columns.append({columnPartName(part), column + 1, header});
 }
 
-//! Below the names there may be a line of units.
-void MeasurementReader::readUnitRow()
+//! Below the names there may be a line of units. \a unit is that of the header.
+void MeasurementReader::readUnitRow(ColumnName unit)
 {
-    ColumnName unit;
     int line = m_list.recognized.headerLine;
     if (m_firstRow < m_table.rows.size()) {
         const CsvRow &row = m_table.rows.at(m_firstRow);
         const auto isWord = [&](ColumnPart part) { return !isNumber(row.fields.value(columnOf(part))); };
-        QString text = row.fields.value(columnOf(m_numberParts.first())).trimmed();
+        QString text = row.fields
+                           .value(columnOf(m_numberParts.contains(ColumnPart::Luminance) ? ColumnPart::Luminance
+                                   : has(ColumnPart::X)                                  ? ColumnPart::Y
+                                                                                         : m_numberParts.first()))
+                           .trimmed();
         text.remove(QLatin1Char('(')).remove(QLatin1Char(')')).remove(QLatin1Char('[')).remove(QLatin1Char(']'));
-        if (std::all_of(m_numberParts.begin(), m_numberParts.end(), isWord)
-            && measuredUnit(text) != MeasuredUnit::NotKnown) {
-            unit.unit = measuredUnit(text);
+        const MeasuredUnit inRow = measuredUnit(text);
+        if (std::all_of(m_numberParts.begin(), m_numberParts.end(), isWord) && inRow != MeasuredUnit::NotKnown) {
+            if (!unit.unitText.isEmpty() && unit.unit != inRow && !m_options.unit) {
+                fail(tr("the unit \"%1\" is not that of the line of the names, \"%2\": state the unit")
+                         .arg(excerpt(text), excerpt(unit.unitText)),
+                    place(row.line, m_numberParts.first()));
+                return;
+            }
+            unit.unit = inRow;
             unit.unitText = text;
             line = row.line;
             ++m_firstRow;
+        } else if (std::all_of(row.fields.begin(), row.fields.end(), isDashOrNothing)) {
+            ++m_firstRow; // a line of units that names none
         }
     }
     useUnit(unit, line);
@@ -347,6 +432,7 @@ bool MeasurementReader::decideDecimalSign()
     bool otherPoint = false; // in columns that are not read
     bool otherComma = false;
     bool ambiguousComma = false;
+    bool ambiguousPoint = false;
     for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
         const CsvRow &row = m_table.rows.at(i);
         for (int column = 0; column < row.fields.size(); ++column) {
@@ -364,6 +450,8 @@ bool MeasurementReader::decideDecimalSign()
             }
             ambiguousComma
                 = ambiguousComma || (evidence == DecimalEvidence::Ambiguous && text.contains(QLatin1Char(',')));
+            ambiguousPoint
+                = ambiguousPoint || (evidence == DecimalEvidence::Ambiguous && text.contains(QLatin1Char('.')));
         }
     }
     const auto &point = kind(DecimalEvidence::Point);
@@ -382,11 +470,13 @@ bool MeasurementReader::decideDecimalSign()
         m_decimalSign = QLatin1Char(comma ? ',' : '.');
         return true;
     }
-    if (otherPoint != otherComma) {
+    // A column that is not read may be a date or a version: it can confirm decimals, but not make thousands of them.
+    const bool makesThousands = otherComma ? ambiguousPoint : ambiguousComma;
+    if (otherPoint != otherComma && !makesThousands) {
         m_decimalSign = QLatin1Char(otherComma ? ',' : '.');
         return true;
     }
-    if (m_table.separator == QLatin1Char(',') && !ambiguousComma) {
+    if (otherPoint == otherComma && m_table.separator == QLatin1Char(',') && !ambiguousComma) {
         // Where the comma divides fields it does not divide numbers.
         warn(tr("\"%1\" is read with a decimal point; state the decimal sign if the point divides thousands")
                  .arg(ambiguous->text),
@@ -397,7 +487,7 @@ bool MeasurementReader::decideDecimalSign()
     plain.remove(QLatin1Char('.')).remove(QLatin1Char(','));
     QString decimal = ambiguous->text;
     decimal.replace(QLatin1Char(','), QLatin1Char('.'));
-    return fail(tr("\"%1\" can be %2 or %3, and no other number tells: state the decimal sign")
+    return fail(tr("\"%1\" can be %2 or %3, and no other number that is read tells: state the decimal sign")
                     .arg(ambiguous->text, plain, decimal),
         ambiguous->where);
 }
@@ -447,13 +537,21 @@ bool MeasurementReader::isDivided(const CsvRow &row, const Measurement &measurem
         return false;
     }
     const auto begin = row.fields.begin();
-    const int columns = m_headerFields > 0 ? m_headerFields : int(m_numberParts.size()) + 1;
-    const bool hasMore = std::any_of(begin + std::min(columns, int(row.fields.size())), row.fields.end(), isNumber);
+    const auto hasMoreThan = [&](int columns) {
+        return std::any_of(begin + std::min(columns, int(row.fields.size())), row.fields.end(), isNumber);
+    };
+    const bool hasMore = hasMoreThan(m_headerFields > 0 ? m_headerFields : int(m_numberParts.size()) + 1);
     const auto isTail = [&](ColumnPart part) {
         const QString text = given(row, part);
         return text.size() == 3 && text.startsWith(QLatin1Char('0')) && text.at(1).isDigit() && text.at(2).isDigit();
     };
     if (std::any_of(m_numberParts.begin(), m_numberParts.end(), isTail)) {
+        return true;
+    }
+    // A number below a header without a name can be a further column, or the rest of numbers that were divided.
+    const auto hasPoint = [&](ColumnPart part) { return given(row, part).contains(QLatin1Char('.')); };
+    const bool canBeColumn = !has(ColumnPart::X) && std::any_of(m_numberParts.begin(), m_numberParts.end(), hasPoint);
+    if (m_headerFields > m_width && hasMoreThan(m_width) && !canBeColumn) {
         return true;
     }
     return hasMore && (m_headerFields > 0 || (!measurement.color && measurement.luminance > 0.0));
@@ -634,9 +732,7 @@ bool MeasurementReader::isNotGiven(const CsvRow &row, ColumnPart part) const
     if (columnOf(part) >= row.fields.size()) {
         return false;
     }
-    const QString text = given(row, part);
-    return std::all_of(text.begin(), text.end(),
-        [](QChar c) { return c == QLatin1Char('-') || c == QChar(0x2013) || c == QChar(0x2014); });
+    return isDashOrNothing(given(row, part));
 }
 
 std::optional<QString> MeasurementReader::field(const CsvRow &row, ColumnPart part)
@@ -872,12 +968,18 @@ void MeasurementReader::warnOfParts(const MeasurementList &list, const QString &
                 : tr("white is missing: there is no gamut; choose a measurement as white, or ask for the sum of red, "
                      "green and blue"),
             where);
-    } else if (present == 2) {
+    } else if (present == 2 || (present < 2 && where.isEmpty() && !isNameless())) {
         missing += isWhiteMissing ? QStringList{measurementPartName(MeasurementPart::White)} : QStringList();
-        warn(tr("there is no gamut; missing: %1").arg(joined(missing)), where);
+        warn(tr("there is no gamut; missing: %1; choose the lines or the names that are these colours")
+                 .arg(joined(missing)),
+            where);
     }
     const bool shouldHaveGamut = isUsable && present == 3 && (!isWhiteMissing || m_options.whiteIsSum);
-    if (shouldHaveGamut && !list.gamut(QString())) {
+    if (const auto gamut = list.gamut(QString())) {
+        for (const Problem &warning : warningsOfTheTriangle(gamut->getTargets())) {
+            warn(warning.text, where);
+        }
+    } else if (shouldHaveGamut) {
         if (where.isEmpty()) {
             fail(noTriangleText());
         } else {

@@ -31,7 +31,9 @@ private:
     struct Header {
         Columns columns;
         std::array<ColumnName, columnPartCount> names;
-        QVector<Problem> doubled; // columns of the same part
+        QVector<Problem> warnings; // columns that are not read though they could be meant
+        int luminances = 0; // columns that give one
+        bool hasOtherObserver = false; // columns of the 10° observer
     };
 
     // Each step returns false, with m_failure set, when the list is refused.
@@ -43,11 +45,12 @@ private:
     bool checkGamut();
 
     static Header headerOf(const CsvRow &row);
-    void useHeader(const Header &header, int rowIndex);
+    void useHeader(Header header, int rowIndex);
+    void chooseLuminance(Header &header, const CsvRow &row);
     void useColumns(const Columns &columns, const QStringList &headers);
     void useCabinets(const Columns &columns, const QStringList &headers);
     void keep(ColumnPart part, int column, const QStringList &headers);
-    void readUnitRow();
+    void readUnitRow(ColumnName unit);
     void useUnit(const ColumnName &luminance, int line);
     void warnOfUnits(const ColumnName &luminance, const QString &where);
 
@@ -69,6 +72,8 @@ private:
     bool choose(const MeasurementChoice &choice, MeasurementPart part);
     void warnOfParts(const MeasurementList &list, const QString &where);
 
+    //! Whether nothing but the line tells one measurement from the other.
+    bool isNameless() const { return !has(ColumnPart::Name) && !has(ColumnPart::Cabinet) && !has(ColumnPart::Row); }
     bool has(ColumnPart part) const { return columnOf(part) >= 0; }
     int columnOf(ColumnPart part) const { return m_columns[std::size_t(part)]; }
     static QString place(int line) { return tr("line %1").arg(line); }

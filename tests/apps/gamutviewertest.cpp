@@ -433,7 +433,8 @@ void GamutViewerTest::listsThatNeedAChoice()
     write("monitor.bin", samplefiles::plainEdid());
     const Result none = run({"--report", "json", "monitor.bin", "--unit", "cd/m2"});
     QCOMPARE(none.error,
-        QByteArray("gamutviewer: --red, --green, --blue, --white, --unit and --decimal require a measurement list\n"));
+        QByteArray("gamutviewer: --red, --green, --blue, --white, --cabinet, --unit and --decimal require a "
+                   "measurement list\n"));
     QCOMPARE(none.exitCode, 2);
 }
 

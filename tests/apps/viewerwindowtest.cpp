@@ -304,9 +304,11 @@ void ViewerWindowTest::droppedFileIsOpened()
     QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(f.window.get(), &enter);
     QVERIFY(enter.isAccepted());
+    const FilesAnswer alone(FilesAnswer::Alone);
     QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(f.window.get(), &drop);
     QCoreApplication::processEvents();
+    QVERIFY(alone.isAsked());
     QCOMPARE(f.document().fileName(), file);
     QCOMPARE(f.document().description().target, QStringLiteral("Rec.709"));
 }

@@ -11,6 +11,7 @@ class DisplayDescriptionTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void messagesAreShort();
     void readsEverything();
     void optionalPartsMayBeMissing();
     void numbersAreExact();
@@ -467,6 +468,18 @@ void DisplayDescriptionTest::documentedExampleIsRead()
     QVERIFY(!refused);
     const QString message = refused.problem().message(QStringLiteral("wall.json"));
     QVERIFY2(documentation.contains(("gamutviewer: " + message + "\n").toUtf8()), qPrintable(message));
+}
+
+void DisplayDescriptionTest::messagesAreShort()
+{
+    const QByteArray word(100000, 'k');
+    for (const QByteArray &text : {QByteArray("{\"version\": 1, \"gamuts\": [], \"" + word + "\": 1}"),
+             QByteArray("{\"version\": 1, \"gamuts\": [], \" " + word + "\": 1}"),
+             QByteArray("{\"version\": 1, \"gamuts\": [], \"target\": \"" + word + "\"}")}) {
+        const auto description = readDescription(text);
+        QVERIFY(!description);
+        QVERIFY2(description.problem().message().size() < 150, qPrintable(description.problem().message().left(200)));
+    }
 }
 
 QTEST_GUILESS_MAIN(DisplayDescriptionTest)

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void damagedEdidInAText();
     void patternsMatch_data();
     void patternsMatch();
+    void listsThatBeginWithABracket();
     void factsOfAnEdid();
     void factsOfAProfile();
 
@@ -98,6 +99,20 @@ void GamutFileFormatsTest::damagedEdidInAText()
     QCOMPARE(readGamutFile(write("edid", "")).error(), QStringLiteral("is empty"));
     QCOMPARE(readGamutFile(write("edid", "nothing of the kind")).error(),
         QStringLiteral("is a truncated EDID: 19 bytes instead of at least 128"));
+}
+
+void GamutFileFormatsTest::listsThatBeginWithABracket()
+{
+    for (const char *begin : {"[Measurements]\n", "{wall 3}\n", "[1] first run\n"}) {
+        for (const char *name : {"list.csv", "list.txt", "list.tsv"}) {
+            const auto file = readGamutFile(write(name, begin + QByteArray("name,Lv,x,y\nwhite,100,0.3,0.3\n")));
+            QVERIFY2(file, qPrintable(file.error()));
+            QVERIFY(file->content == GamutFile::Content::Measurements);
+        }
+    }
+    const auto description = readGamutFile(write("wall.txt", "{ \"version\": 1, \"gamuts\": [] }"));
+    QVERIFY2(description, qPrintable(description.error()));
+    QVERIFY(description->content == GamutFile::Content::Description);
 }
 
 void GamutFileFormatsTest::patternsMatch_data()

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void colorSpaceWithImaginaryPrimaries();
     void colorSpaceThatIsNoEnumerator();
     void shortAdaptationTag();
+    void tagsThatCannotBeRead();
+    void tableBesideColorants();
     void luminanceOfTheTag();
     void metadata();
     void damagedMetadata();
@@ -311,7 +313,7 @@ void IccProfileTest::colorSpaceThatIsNoEnumerator()
     }
 }
 
-// Nine numbers are read: with fewer in the tag, there is no adaptation in it.
+// Nine numbers are read. With fewer, the white of the display is not known, whatever the media white point says.
 void IccProfileTest::shortAdaptationTag()
 {
     const auto shortened = [](int size) {
@@ -323,7 +325,53 @@ void IccProfileTest::shortAdaptationTag()
     QVERIFY(isNear(readIccProfile(shortened(44))->getTargets().white, 0.3127, 0.3290, 0.0001));
     for (const int size : {43, 40, 20, 8, 0}) {
         const auto gamut = readIccProfile(shortened(size));
-        QVERIFY(!gamut || isNear(gamut->getTargets().white, 0.3457, 0.3585, 0.0001));
+        QVERIFY2(!gamut, qPrintable(QString::number(size)));
+        QVERIFY2(gamut.error().startsWith("is a damaged ICC profile"), qPrintable(gamut.error()));
+    }
+}
+
+void IccProfileTest::tagsThatCannotBeRead()
+{
+    const QByteArray adapted = samplefiles::version4Profile();
+    const QByteArray beyondTheEnd("\x7F\x00\x00\x00", 4);
+    QByteArray damaged = adapted;
+    damaged.replace(damaged.indexOf("chad", 128) + 4, 4, beyondTheEnd);
+    QCOMPARE(readIccProfile(damaged).error(), QStringLiteral("is a damaged ICC profile: its white cannot be read"));
+    damaged = adapted;
+    damaged.replace(damaged.indexOf("sf32"), 4, "what");
+    QCOMPARE(readIccProfile(damaged).error(), QStringLiteral("is a damaged ICC profile: its white cannot be read"));
+    damaged = samplefiles::version2Profile();
+    damaged.replace(damaged.indexOf("wtpt", 128) + 4, 4, beyondTheEnd);
+    QCOMPARE(readIccProfile(damaged).error(), QStringLiteral("is a damaged ICC profile: its white cannot be read"));
+
+    damaged = samplefiles::version4Profile([](cmsHPROFILE profile) {
+        const cmsCIEXYZ value{0.0, 250.0, 0.0};
+        cmsWriteTag(profile, cmsSigLuminanceTag, &value);
+    });
+    QVERIFY(readIccDisplay(damaged).warnings().isEmpty());
+    damaged.replace(damaged.indexOf("lumi", 128) + 4, 4, beyondTheEnd);
+    const auto display = readIccDisplay(damaged);
+    QVERIFY2(display, qPrintable(display.error()));
+    QVERIFY(!display->whiteLuminance);
+    QCOMPARE(display.warnings().size(), 1);
+    QCOMPARE(display.warnings().first().message(),
+        QStringLiteral("lumi: the luminance of white cannot be read: luminances are relative"));
+}
+
+void IccProfileTest::tableBesideColorants()
+{
+    for (const char *name : {"A2B0", "A2B1"}) {
+        // What the table holds does not matter, only that it is there.
+        QByteArray bytes = samplefiles::version4Profile(
+            [](cmsHPROFILE profile) { cmsWriteTag(profile, cmsSigMediaBlackPointTag, cmsD50_XYZ()); });
+        bytes.replace(bytes.indexOf("bkpt", 128), 4, name);
+        const auto gamut = readIccProfile(bytes);
+        QVERIFY2(gamut, qPrintable(gamut.error()));
+        QCOMPARE(gamut.warnings().size(), 1);
+        QCOMPARE(gamut.warnings().first().message(),
+            name
+                + QStringLiteral(": the colours of the profile follow a table: its colorants, which are read, need not "
+                                 "be the primaries of the display"));
     }
 }
 

@@ -25,6 +25,10 @@ private Q_SLOTS:
     void systemsOfCoordinates_data();
     void systemsOfCoordinates();
     void luminanceOfTwoColumns();
+    void surestLuminance_data();
+    void surestLuminance();
+    void lightnessIsNoLuminance();
+    void otherObserver();
     void textBeforeTheHeader();
     void emptyColumnsAndLines();
     void linesWithoutNumbers();
@@ -37,6 +41,7 @@ private Q_SLOTS:
     void footLamberts();
     void statedUnit();
     void lineOfUnits();
+    void lineOfUnitsBelowUnits();
     void levels();
     void levelsOfAnUnknownScale();
     void colorTemperatureIsNotBlack();
@@ -52,7 +57,7 @@ private Q_SLOTS:
     void missingWhite();
     void whiteAsSum();
     void missingPrimaries();
-    void pointsNeedNoGamut();
+    void unlikelyTriangles();
     void optionsAreUsed();
     void cabinets();
     void chosenCabinet();
@@ -96,6 +101,17 @@ QStringList warningsOf(const QByteArray &text, const MeasurementOptions &options
     for (const Problem &warning : list.warnings()) {
         messages.append(warning.message());
     }
+    return messages;
+}
+
+//! The warnings of a list without all of the colours of a gamut, but for the last one, which says so.
+QStringList otherWarningsOf(const QByteArray &text, const MeasurementOptions &options = {})
+{
+    QStringList messages = warningsOf(text, options);
+    if (messages.isEmpty() || !messages.last().startsWith("there is no gamut; missing: ")) {
+        return {QStringLiteral("nothing says that there is no gamut")};
+    }
+    messages.removeLast();
     return messages;
 }
 
@@ -273,6 +289,56 @@ void MeasurementListTest::luminanceOfTwoColumns()
     QCOMPARE(withUnit->measurements[0].luminance, 200.0);
 }
 
+void MeasurementListTest::surestLuminance_data()
+{
+    QTest::addColumn<QString>("read");
+    for (const char *headers :
+        {"Brightness,Y", "Helligkeit,Y", "brillo,Y", "L,Y", "FL,Y", "Luminance,Y", "Luminance,Lv", "Luminance (%),Lv",
+            "L (%),Y", "Luminance (%),nits", "Y (%),Luminance (cd/m2)", "Y,Lv", "Lv (%),Y (cd/m2)", "Y [1],Lv"}) {
+        const QByteArray both(headers);
+        const QByteArray first = both.left(both.indexOf(','));
+        const QByteArray second = both.mid(both.indexOf(',') + 1);
+        QTest::newRow(headers) << QString::fromUtf8(second);
+        QTest::newRow((second + ',' + first).constData()) << QString::fromUtf8(second);
+    }
+}
+
+void MeasurementListTest::surestLuminance()
+{
+    QFETCH(QString, read);
+    const QByteArray headers(QTest::currentDataTag());
+    const bool isFirst = headers.startsWith(read.toUtf8() + ',');
+    const QByteArray text = "name,x,y," + headers + "\na,0.3,0.4," + (isFirst ? "200,1" : "1,200");
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->measurements[0].luminance, 200.0);
+    QCOMPARE(warningsOf(text).first(),
+        QStringLiteral("line 1: 2 columns give a luminance: column %1, \"%2\", is read")
+            .arg(isFirst ? 4 : 5)
+            .arg(read));
+}
+
+void MeasurementListTest::lightnessIsNoLuminance()
+{
+    QCOMPARE(errorOf("name,x,y,L,a,b\nwhite,0.3,0.3,100,0,0"), QStringLiteral("line 1: missing column Y"));
+    const auto list = readMeasurementList("name,L,a*,b*,x,y,Lv\nwhite,100,0,0,0.3,0.3,200");
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->measurements[0].luminance, 200.0);
+    QVERIFY(readMeasurementList("name,L,a,x,y\nwhite,100,0,0.3,0.3"));
+}
+
+void MeasurementListTest::otherObserver()
+{
+    for (const char *header :
+        {"X (10°),Y (10°),Z (10°)", "X (1964),Y (1964),Z (1964)", "X [CIE 1964],Y (CIE 1964),Z (10 deg)"}) {
+        QCOMPARE(errorOf(QByteArray("name,") + header + "\na,20,30,40"),
+            QStringLiteral("line 1: the columns are of the 10° observer: those of CIE 1931 (2°) are needed"));
+    }
+    const QByteArray both = "name,X (10°),Y (10°),Z (10°),X,Y,Z\na,20,30,40,50,60,70";
+    QCOMPARE(readMeasurementList(both)->measurements[0].luminance, 60.0);
+    QCOMPARE(warningsOf(both).first(), QStringLiteral("line 1: column 2 is of the 10° observer and is not read"));
+}
+
 void MeasurementListTest::textBeforeTheHeader()
 {
     const auto list = readMeasurementList(
@@ -286,17 +352,18 @@ void MeasurementListTest::textBeforeTheHeader()
 
 void MeasurementListTest::emptyColumnsAndLines()
 {
-    const auto list = readMeasurementList("name;Lv;x;y;;;\n;;;;;;\na;1;0,3;0,4;;;\n;;;;;;\nb;2;0,3;0,4\n;;\n");
+    const QByteArray text = "name;Lv;x;y;;;\n;;;;;;\na;1;0,3;0,4;;;\n;;;;;;\nb;2;0,3;0,4\n;;\n";
+    const auto list = readMeasurementList(text);
     QVERIFY2(list, qPrintable(list.error()));
     QCOMPARE(namesOf(list->measurements), (QStringList{"a", "b"}));
-    QVERIFY(list.warnings().isEmpty());
+    QVERIFY(otherWarningsOf(text).isEmpty());
 }
 
 void MeasurementListTest::linesWithoutNumbers()
 {
     const QByteArray text = "name,Lv,x,y\na,1,0.3,0.4\nSecond run,,,\nOperator: X\nb,2,0.3,0.4\n";
     QCOMPARE(namesOf(readMeasurementList(text)->measurements), (QStringList{"a", "b"}));
-    QCOMPARE(warningsOf(text), QStringList{"line 3: has no numbers and is not read; so in 1 further line(s)"});
+    QCOMPARE(otherWarningsOf(text), QStringList{"line 3: has no numbers and is not read; so in 1 further line(s)"});
 }
 
 void MeasurementListTest::thousands_data()
@@ -323,13 +390,13 @@ void MeasurementListTest::thousands_data()
     row("quoted between commas", "name,Lv,x,y\na,\"1,234.5\",0.3,0.4", 1234.5, ",");
     row("nothing tells", "name;X;Y;Z\na;5,678;1,234;9,012", -1.0,
         "line 2, column X: \"5,678\" can be 5678 or 5.678, and "
-        "no other number tells: state the decimal sign");
+        "no other number that is read tells: state the decimal sign");
     row("nothing tells, points", "name\tX\tY\tZ\na\t5.678\t1.234\t9.012", -1.0,
         "line 2, column X: \"5.678\" can be 5678 "
-        "or 5.678, and no other number tells: state the decimal sign");
+        "or 5.678, and no other number that is read tells: state the decimal sign");
     row("nothing tells between commas", "name,X,Y,Z\na,\"5,678\",\"1,234\",\"9,012\"", -1.0,
         "line 2, column X: \"5,678\" "
-        "can be 5678 or 5.678, and no other number tells: state the decimal sign");
+        "can be 5678 or 5.678, and no other number that is read tells: state the decimal sign");
     row("both signs", "name;Lv;x;y\na;1;0.3;0.4\nb;1;0,3;0,4", -1.0,
         "line 3, column x: \"0,3\" has a decimal comma, but "
         "\"0.3\" (line 2, column x) has a decimal point: state the decimal sign");
@@ -360,13 +427,20 @@ void MeasurementListTest::decimalSignOfOtherColumns()
     QVERIFY2(list, qPrintable(list.error()));
     QCOMPARE(list->measurements[0].luminance, 1.234);
     QVERIFY(!readMeasurementList("name;X;Y;Z;T;D\na;5,678;1,234;9,012;6504,3;0.1"));
+    // It may not make thousands of what could be decimals.
+    QCOMPARE(errorOf("name;X;Y;Z;T\na;5.678;1.234;9.012;6504,3"),
+        QStringLiteral(
+            "line 2, column X: \"5.678\" can be 5678 or 5.678, and no other number that is read tells: state "
+            "the decimal sign"));
+    QVERIFY(!readMeasurementList("name;X;Y;Z;T\na;5,678;1,234;9,012;1.5"));
+    QVERIFY(!readMeasurementList("name,X,Y,Z,T\na,5.678,1.234,9.012,\"6504,3\""));
 }
 
 void MeasurementListTest::pointWhereCommasDivideFields()
 {
     const QByteArray text = "name,X,Y (cd/m2),Z\na,5.678,1.234,9.012";
     QCOMPARE(readMeasurementList(text)->measurements[0].luminance, 1.234);
-    QCOMPARE(warningsOf(text),
+    QCOMPARE(otherWarningsOf(text),
         QStringList{"line 2, column X: \"5.678\" is read with a decimal point; state the decimal sign if the "
                     "point divides thousands"});
 }
@@ -382,6 +456,9 @@ void MeasurementListTest::units_data()
     row("Lv", LuminanceUnit::CandelaPerSquareMetre);
     row("Y (cd/m2)", LuminanceUnit::CandelaPerSquareMetre);
     row("nits", LuminanceUnit::CandelaPerSquareMetre);
+    row("Lv [1]", LuminanceUnit::Relative);
+    row("Lv (-)", LuminanceUnit::NotKnown,
+        {"line 1, column Lv (-): the unit \"-\" is not known: the luminances are read as numbers of an unknown unit"});
     row("Y (%)", LuminanceUnit::Relative);
     row("Y", LuminanceUnit::NotKnown, {"line 1, column Y: the unit of the luminances is not stated"});
     row("L", LuminanceUnit::NotKnown, {"line 1, column L: the unit of the luminances is not stated"});
@@ -414,7 +491,7 @@ void MeasurementListTest::footLamberts()
     QCOMPARE(list->measurements[0].color->Y, list->measurements[0].luminance);
     QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
     QCOMPARE(list->recognized.unit, MeasuredUnit::FootLambert);
-    QCOMPARE(warningsOf(text),
+    QCOMPARE(otherWarningsOf(text),
         QStringList{"line 1, column Y (fL): the luminances are converted from foot-lamberts to cd/m²"});
     const auto tristimulus = readMeasurementList("name,X,Y (fL),Z\nwhite,100,100,100");
     QVERIFY(isNear(tristimulus->measurements[0].color->Y, list->measurements[0].luminance));
@@ -425,34 +502,56 @@ void MeasurementListTest::statedUnit()
 {
     MeasurementOptions options;
     options.unit = MeasuredUnit::CandelaPerSquareMetre;
-    const auto list = readMeasurementList("name,Y (fL),x,y\nwhite,100,0.3,0.3", options);
+    const QByteArray text = "name,Y (fL),x,y\nwhite,100,0.3,0.3";
+    const auto list = readMeasurementList(text, options);
     QCOMPARE(list->measurements[0].luminance, 100.0);
     QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
-    QCOMPARE(warningsOf("name,Y (fL),x,y\nwhite,100,0.3,0.3", options),
+    QCOMPARE(otherWarningsOf("name,Y (fL),x,y\nwhite,100,0.3,0.3", options),
         QStringList("line 1, column Y (fL): states foot-lambert; cd/m² was chosen"));
-    QCOMPARE(warningsOf("name,Y (lux),x,y\nwhite,100,0.3,0.3", options),
+    QCOMPARE(otherWarningsOf("name,Y (lux),x,y\nwhite,100,0.3,0.3", options),
         QStringList("line 1, column Y (lux): states \"lux\"; cd/m² was chosen"));
     // Where the list says the same, or nothing, there is nothing to tell.
-    QVERIFY(warningsOf("name,Lv,x,y\nwhite,100,0.3,0.3", options).isEmpty());
-    QVERIFY(warningsOf("name,Y,x,y\nwhite,100,0.3,0.3", options).isEmpty());
+    QVERIFY(otherWarningsOf("name,Lv,x,y\nwhite,100,0.3,0.3", options).isEmpty());
+    QVERIFY(otherWarningsOf("name,Y,x,y\nwhite,100,0.3,0.3", options).isEmpty());
     // The line of units is named where it is that one that says so.
     options.unit = MeasuredUnit::Relative;
-    QCOMPARE(warningsOf("Patch;Y;x;y\n;[cd/m²];-;-\nwhite;100,5;0,3;0,4", options),
+    QCOMPARE(otherWarningsOf("Patch;Y;x;y\n;[cd/m²];-;-\nwhite;100,5;0,3;0,4", options),
         QStringList("line 2, column Y: states cd/m²; relative was chosen"));
     options.unit = MeasuredUnit::FootLambert;
-    QCOMPARE(warningsOf("name,Lv,x,y\nwhite,100,0.3,0.3", options),
+    QCOMPARE(otherWarningsOf("name,Lv,x,y\nwhite,100,0.3,0.3", options),
         (QStringList{"line 1, column Lv: states cd/m²; foot-lambert was chosen",
             "line 1, column Lv: the luminances are converted from foot-lamberts to cd/m²"}));
 }
 
 void MeasurementListTest::lineOfUnits()
 {
-    const auto list = readMeasurementList("Patch;Y;x;y\n;[cd/m²];-;-\nwhite;100,5;0,3;0,4");
+    const QByteArray text = "Patch;Y;x;y\n;[cd/m²];-;-\nwhite;100,5;0,3;0,4";
+    const auto list = readMeasurementList(text);
     QVERIFY2(list, qPrintable(list.error()));
     QCOMPARE(list->measurements.size(), 1);
     QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
-    QVERIFY(list.warnings().isEmpty());
+    QVERIFY(otherWarningsOf(text).isEmpty());
     QVERIFY(!readMeasurementList("Patch;Y;x;y\n;asb;-;-\nwhite;100,5;0,3;0,4"));
+}
+
+void MeasurementListTest::lineOfUnitsBelowUnits()
+{
+    const auto list = readMeasurementList("Patch;Lv;x;y\n;fL;;\nwhite;100;0,3;0,4");
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->recognized.unit, MeasuredUnit::FootLambert);
+    QVERIFY(std::abs(list->measurements[0].luminance - 342.6259) < 5e-5);
+    QVERIFY(readMeasurementList("Patch;Lv (cd/m2);x;y\n;nits;;\nwhite;100;0,3;0,4"));
+    const QByteArray contradicting = "Patch;Lv (cd/m2);x;y\n;fL;;\nwhite;100;0,3;0,4";
+    QCOMPARE(errorOf(contradicting),
+        QStringLiteral("line 2, column Lv (cd/m2): the unit \"fL\" is not that of the line of the names, \"cd/m2\": "
+                       "state the unit"));
+    MeasurementOptions options;
+    options.unit = MeasuredUnit::FootLambert;
+    QVERIFY(readMeasurementList(contradicting, options));
+    const auto dashes = readMeasurementList("Patch;Lv;x;y\n;-;-;-\nwhite;100;0,3;0,4");
+    QVERIFY2(dashes, qPrintable(dashes.error()));
+    QCOMPARE(dashes->recognized.unit, MeasuredUnit::CandelaPerSquareMetre);
+    QCOMPARE(dashes->measurements.size(), 1);
 }
 
 void MeasurementListTest::levels()
@@ -476,7 +575,7 @@ void MeasurementListTest::levelsOfAnUnknownScale()
     const QByteArray text = "name,Lv,x,y\nR 64,50,0.7,0.29\nG 64,70,0.2,0.7\nB 64,10,0.15,0.05\nW 64,100,0.28,0.29\n";
     const auto list = readMeasurementList(text);
     QVERIFY(list && !list->gamut(QString()));
-    QCOMPARE(warningsOf(text),
+    QCOMPARE(otherWarningsOf(text),
         QStringList{"line 2: the full level of \"R 64\" is not known: no level without a unit is taken as "
                     "the full one"});
 }
@@ -534,13 +633,15 @@ void MeasurementListTest::black()
     QFETCH(double, luminance);
     const auto list = readMeasurementList(text);
     QVERIFY2(list, qPrintable(list.error()));
-    QVERIFY(list.warnings().isEmpty());
+    QVERIFY(otherWarningsOf(text).isEmpty());
     QVERIFY(list->black());
     QCOMPARE(list->black()->luminance, luminance);
     QVERIFY(!list->black()->color);
-    const auto twice = readMeasurementList(text + text.mid(text.indexOf('\n') + 1));
-    QVERIFY(twice && !twice->black());
-    QCOMPARE(twice.warnings().size(), 1);
+    const QByteArray doubled = text + text.mid(text.indexOf('\n') + 1);
+    QVERIFY(!readMeasurementList(doubled)->black());
+    const QStringList warnings = otherWarningsOf(doubled);
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY(warnings[0].contains("black is there more than once"));
 }
 
 void MeasurementListTest::luminanceWithoutChromaticity()
@@ -548,7 +649,7 @@ void MeasurementListTest::luminanceWithoutChromaticity()
     const QByteArray text = "name,Lv,x,y\nBlack,0.003,0,0\n";
     const auto list = readMeasurementList(text);
     QCOMPARE(list->black()->luminance, 0.003);
-    QCOMPARE(warningsOf(text), QStringList{"line 2: has a luminance but no chromaticity"});
+    QCOMPARE(otherWarningsOf(text), QStringList{"line 2: has a luminance but no chromaticity"});
     const QByteArray red = QByteArray(known).replace("0.7,0.29", "0,0");
     QVERIFY(!readMeasurementList(red)->gamut(QString()));
     QCOMPARE(warningsOf(red),
@@ -634,14 +735,26 @@ void MeasurementListTest::whiteAsSum()
 void MeasurementListTest::missingPrimaries()
 {
     const QByteArray text = QByteArray(known).replace("Blue", "Violet");
-    QCOMPARE(warningsOf(text), QStringList{"there is no gamut; missing: blue"});
-    QCOMPARE(
-        warningsOf(QByteArray(text).replace("White", "grey")), QStringList{"there is no gamut; missing: blue, white"});
+    const QString choose = QStringLiteral("; choose the lines or the names that are these colours");
+    QCOMPARE(warningsOf(text), QStringList{"there is no gamut; missing: blue" + choose});
+    QCOMPARE(warningsOf(QByteArray(text).replace("White", "grey")),
+        QStringList{"there is no gamut; missing: blue, white" + choose});
+    QCOMPARE(warningsOf(QByteArray(text).replace("Red", "punainen").replace("Green", "zelena")),
+        QStringList{"there is no gamut; missing: red, green, blue" + choose});
+    QCOMPARE(warningsOf("name,Lv,x,y\npunainen,1,0.3,0.3\n"),
+        QStringList{"there is no gamut; missing: red, green, blue, white" + choose});
 }
 
-void MeasurementListTest::pointsNeedNoGamut()
+void MeasurementListTest::unlikelyTriangles()
 {
-    QVERIFY(warningsOf("name,Lv,x,y\nwhite,1,0.3,0.3\npoint,2,0.3,0.4\n").isEmpty());
+    const QByteArray exchanged
+        = QByteArray(known).replace("Red", "x").replace("Green", "Red").replace("\nx,", "\nGreen,");
+    QVERIFY(readMeasurementList(exchanged)->gamut(QString()));
+    QCOMPARE(
+        warningsOf(exchanged), QStringList{"red, green and blue lie clockwise in x, y: two of them may be exchanged"});
+    const QByteArray outside = QByteArray(known).replace("White,1000,0.28,0.29", "White,1000,0.1,0.5");
+    QCOMPARE(warningsOf(outside), QStringList{"the white lies outside of the triangle of the primaries"});
+    QCOMPARE(warningsOf(known), QStringList());
 }
 
 void MeasurementListTest::optionsAreUsed()
@@ -813,13 +926,13 @@ void MeasurementListTest::doubledColumn()
 {
     const QByteArray text = "name,Lv,x,y,CIE x\na,1,0.3,0.3,0.4\n";
     QCOMPARE(readMeasurementList(text)->measurements[0].color->x, 0.3);
-    QCOMPARE(warningsOf(text), QStringList{"line 1: columns 3 and 5 are both x: column 3 is read"});
+    QCOMPARE(otherWarningsOf(text), QStringList{"line 1: columns 3 and 5 are both x: column 3 is read"});
 }
 
 void MeasurementListTest::moreFieldsThanColumns()
 {
     const QByteArray text = "name,Lv,x,y\na,1,0.3,0.3,checked\nb,1,0.3,0.3,,\n";
-    QCOMPARE(warningsOf(text), QStringList{"line 2: has more fields than the line that names the columns"});
+    QCOMPARE(otherWarningsOf(text), QStringList{"line 2: has more fields than the line that names the columns"});
 }
 
 void MeasurementListTest::dividedNumbers_data()
@@ -834,6 +947,10 @@ void MeasurementListTest::dividedNumbers_data()
     QTest::newRow("decimal commas, no header") << QByteArray("a,100,0,0,3127,0,329") << false;
     QTest::newRow("decimal commas of XYZ") << QByteArray("name,X,Y,Z\na,41,24,21,26,1,93") << false;
     QTest::newRow("thousand of XYZ") << QByteArray("name,X,Y,Z\na,1,234.5,900.1,700.2") << false;
+    QTest::newRow("decimal commas of XYZ, padded header") << QByteArray("name,X,Y,Z,,,\na,41,24,21,26,1,93") << false;
+    QTest::newRow("thousand of XYZ, padded header") << QByteArray("name,X,Y,Z,\na,1,234.5,900.1,700.2") << false;
+    QTest::newRow("decimal commas, padded header") << QByteArray("name,Lv,x,y,,,\na,100,0,0,3127,0,329") << false;
+    QTest::newRow("padded lines") << QByteArray("name,X,Y,Z,,\na,41.2,21.3,1.9,,") << true;
     QTest::newRow("semicolons") << QByteArray("name;Lv;x;y\na;1;000;0.3127;0.329") << true;
     QTest::newRow("further column, no header") << QByteArray("a,100.5,0.3127,0.329,6504") << true;
     QTest::newRow("black, no header") << QByteArray("a,0,0,0,0") << true;
