@@ -240,9 +240,14 @@ Q_SIGNALS:
     /*! \brief A step was not made, or not all of it; \a reason is for people. */
     void editRefused(const QString &reason);
 
-    /*! \brief The pointer is over the CIE 1931 chromaticity \a xy. */
+    /*!
+     * \brief The pointer is over the CIE 1931 chromaticity \a xy: it has moved, or the view has moved below it.
+     *
+     * In the second case it comes after viewChanged() and before diagramChanged(), and also when \a xy is what it was:
+     * coordinatesText() may be another.
+     */
     void hovered(const QPointF &xy);
-    /*! \brief The pointer has left the diagram, or is over what is no chromaticity. */
+    /*! \brief The pointer has left the diagram, or is over what is no chromaticity; also as the view moves below it. */
     void hoverEnded();
 
 protected:
