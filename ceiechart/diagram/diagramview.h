@@ -49,8 +49,8 @@ namespace ceiechart {
  *
  * A press becomes a drag when the pointer is farther away from it than QStyleHints::startDragDistance(): within that, a
  * handle is selected and nothing moves. Then the handle sets out from its place without a jump, slow drags too, and
- * has caught up with the pointer after half as much again. Only Esc and a click on free ground let go of the handle
- * that is selected: looking elsewhere does not.
+ * has caught up with the pointer after half as much again in the same direction. Only Esc and a click on free ground
+ * let go of the handle that is selected: looking elsewhere does not.
  *
  * A view that is hidden or disabled lets go of everything: a drag is cancelled, a move by keys ends. Its signals come
  * when the event loop runs again, or before the next one that is emitted, so that slots may delete the view.
