@@ -7,7 +7,7 @@ namespace ceiechart {
 
 namespace {
 
-constexpr double catchingUp = 2.0; // pixels to each of the hand's own
+constexpr double catchingUp = 2.0; // pixels to each that the hand goes in the direction of what is owed
 
 } // namespace
 
@@ -27,7 +27,9 @@ QPointF Grip::moveTo(const QPointF &position)
     }
     const double owed = distance(m_owed, QPointF());
     if (owed > 0.0) {
-        const QPointF paid = m_owed * std::min(1.0, catchingUp * distance(way, QPointF()) / owed);
+        // Only as the hand goes on that way: when it turns back, what it holds must not go against it.
+        const double onward = std::max(0.0, QPointF::dotProduct(way, m_owed) / owed);
+        const QPointF paid = m_owed * std::min(1.0, catchingUp * onward / owed);
         m_owed -= paid;
         way += paid;
     }

@@ -42,8 +42,9 @@ inline double distanceTo(const QRectF &place, const QPointF &point)
  * The way of a hand that has taken hold of something.
  *
  * No hand is quite still: nothing moves before it is farther than a threshold from where it pressed. Then what is held
- * sets out from its place and goes faster than the hand until it has made up for the threshold. It never jumps, and the
- * hand soon has it again where it took hold of it.
+ * sets out from its place and goes faster than the hand, as long as that goes on in the direction in which it set out,
+ * until it has made up for the threshold. It never jumps, it never goes against the hand, and the hand soon has it
+ * again where it took hold of it.
  */
 class Grip {
 public:

@@ -71,6 +71,7 @@ void DiagramView::Private::moveTo(const QPointF &position, Qt::KeyboardModifiers
 {
     const QPointer<DiagramView> view(q);
     const QPointF way = grip.moveTo(position);
+    pointer = position;
     switch (hand) {
     case Hand::Idle:
     case Hand::Spent:
@@ -157,8 +158,16 @@ bool DiagramView::Private::tellUntold()
 void DiagramView::Private::hover(const QPointF &position)
 {
     pointer = position;
-    const bool isInside = viewport.plot().contains(position);
-    const auto handle = hand == Hand::Idle ? handleAt(position) : hovered;
+    hoverAgain();
+}
+
+void DiagramView::Private::hoverAgain()
+{
+    if (!pointer) {
+        return;
+    }
+    const bool isInside = viewport.plot().contains(*pointer);
+    const auto handle = hand == Hand::Idle ? handleAt(*pointer) : hovered;
     if (handle != hovered) {
         const QRegion former = overlayRegion(overlay);
         hovered = handle;
@@ -170,23 +179,27 @@ void DiagramView::Private::hover(const QPointF &position)
     placeReadout();
     q->update(QRegion(formerReadout) + overlay.readoutPlace.toAlignedRect());
     updateCursor();
-    const QPointF xy = viewport.toChromaticity(position);
-    const bool wasTold = isHoverTold;
-    isHoverTold = isInside && isChromaticity(xy);
-    if (isHoverTold) {
-        tell(&DiagramView::hovered, xy);
-    } else if (wasTold) {
+    const QPointF xy = viewport.toChromaticity(*pointer);
+    const auto former = hoverTold;
+    hoverTold = isInside && isChromaticity(xy) ? std::make_optional(HoverTold{xy, viewport}) : std::nullopt;
+    if (hoverTold) {
+        // A hand that moves the view hovers with the view and once more by itself.
+        if (!former || former->xy != xy || !(former->viewport == viewport)) {
+            tell(&DiagramView::hovered, xy);
+        }
+    } else if (former) {
         tell(&DiagramView::hoverEnded);
     }
 }
 
 void DiagramView::Private::endHover()
 {
-    const bool wasTold = isHoverTold;
+    const bool wasTold = hoverTold.has_value();
     const QRegion former = overlayRegion(overlay);
     pointer.reset();
     hovered.reset();
-    isHovering = isHoverTold = false;
+    hoverTold.reset();
+    isHovering = false;
     refreshOverlay();
     q->update(former + overlayRegion(overlay));
     updateCursor();
@@ -262,6 +275,7 @@ void DiagramView::wheelEvent(QWheelEvent *event)
     const QPointer<DiagramView> view(this);
     const QPointF position = event->position();
     event->accept();
+    d->pointer = position;
     const QPoint angle = event->angleDelta();
     const bool isZoom = event->modifiers() & Qt::ControlModifier;
     // Within one movement of fingers an event may look like a notch: straight up, or without pixels.

@@ -80,8 +80,11 @@ bool DiagramView::Private::touch(QTouchEvent *event)
         } else {
             pinching = true;
             panRest = QPointF();
-            // The first finger did not mean to move anything.
+            // The first finger did not mean to move anything, nor to point at something.
             endHand();
+            if (view) {
+                endHover();
+            }
         }
     } else if (event->type() == QEvent::TouchBegin && fingers.size() == 1) {
         if (q->focusPolicy() & Qt::ClickFocus) {

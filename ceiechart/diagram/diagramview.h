@@ -49,8 +49,8 @@ namespace ceiechart {
  *
  * A press becomes a drag when the pointer is farther away from it than QStyleHints::startDragDistance(): within that, a
  * handle is selected and nothing moves. Then the handle sets out from its place without a jump, slow drags too, and
- * has caught up with the pointer after half as much again. Only Esc and a click on free ground let go of the handle
- * that is selected: looking elsewhere does not.
+ * has caught up with the pointer after half as much again in the same direction. Only Esc and a click on free ground
+ * let go of the handle that is selected: looking elsewhere does not.
  *
  * A view that is hidden or disabled lets go of everything: a drag is cancelled, a move by keys ends. Its signals come
  * when the event loop runs again, or before the next one that is emitted, so that slots may delete the view.
@@ -240,9 +240,14 @@ Q_SIGNALS:
     /*! \brief A step was not made, or not all of it; \a reason is for people. */
     void editRefused(const QString &reason);
 
-    /*! \brief The pointer is over the CIE 1931 chromaticity \a xy. */
+    /*!
+     * \brief The pointer is over the CIE 1931 chromaticity \a xy: it has moved, or the view has moved below it.
+     *
+     * In the second case it comes after viewChanged() and before diagramChanged(), and also when \a xy is what it was:
+     * coordinatesText() may be another.
+     */
     void hovered(const QPointF &xy);
-    /*! \brief The pointer has left the diagram, or is over what is no chromaticity. */
+    /*! \brief The pointer has left the diagram, or is over what is no chromaticity; also as the view moves below it. */
     void hoverEnded();
 
 protected:

@@ -136,6 +136,8 @@ public:
     void moveTo(const QPointF &position, Qt::KeyboardModifiers modifiers);
     void release(Qt::MouseButton button);
     void hover(const QPointF &position);
+    //! Hovers where the pointer is, if it is over the widget, after something has changed below it.
+    void hoverAgain();
     void endHover();
     void drag(const QPointF &way, Qt::KeyboardModifiers modifiers);
     //! The diagram has moved below the hand, which held on to \a point: what it drags comes along.
@@ -197,7 +199,12 @@ public:
     std::optional<QPointF> pointer; //!< over the widget
     std::optional<GamutVertex> hovered;
     bool isHovering = false; //!< over the plot
-    bool isHoverTold = false; //!< over a chromaticity, and signalled
+    //! What was signalled, and of which view: in another one, its text is another.
+    struct HoverTold {
+        QPointF xy;
+        DiagramViewport viewport;
+    };
+    std::optional<HoverTold> hoverTold; //!< nothing while the pointer is over no chromaticity
     bool touching = false;
     bool pinching = false;
     std::pair<int, int> pinchFingers;

@@ -35,7 +35,9 @@ void DiagramView::Private::look(DiagramViewport wanted, const QPointF &anchor)
     linesAreReady = false;
     refreshOverlay();
     q->update();
-    tell(&DiagramView::viewChanged);
+    if (tell(&DiagramView::viewChanged)) {
+        hoverAgain(); // a pointer at rest is over something else now
+    }
 }
 
 void DiagramView::Private::look(const DiagramViewport &wanted)

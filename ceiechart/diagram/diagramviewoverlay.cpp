@@ -13,6 +13,7 @@ namespace ceiechart {
 namespace {
 
 constexpr double labelDistance = 26.0; // logical pixels from the middle of a handle to its label
+constexpr double costOfName = 60.0; // of a name that it covers, in logical pixels farther away from the handle
 constexpr double cornerRoom = 6.0; // logical pixels round a corner that the hand may move to
 
 //! Small boxes along the line from \a from to \a to.
@@ -146,24 +147,34 @@ void DiagramView::Private::placeLabel()
 
 QRectF DiagramView::Private::labelPlace(const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid) const
 {
+    const QVector<DiagramLabel> names = painter->labels();
+    const auto costOf = [&names, &at](const QRectF &place) {
+        const auto covered = std::count_if(
+            names.cbegin(), names.cend(), [&place](const DiagramLabel &name) { return name.place.intersects(place); });
+        return distanceTo(place, at) + costOfName * double(covered);
+    };
     QRectF best = painter->freePlace(size, at, labelDistance, avoid);
-    if (!best.isEmpty()) {
-        return best;
+    double least = best.isEmpty() ? std::numeric_limits<double>::max() : costOf(best);
+    if (least < costOfName) {
+        return best; // on no name
     }
     // Farther away where there is no room beside it; a line leads from the label to the handle.
     constexpr int tries = 40; // each way
     // And over the digits of the scale where the plot is narrower than the coordinates.
     const QRectF area = size.width() <= viewport.plot().width() ? viewport.plot() : QRectF(q->rect());
     const QSizeF room(area.width() - size.width(), area.height() - size.height());
-    double least = std::numeric_limits<double>::max();
     for (int row = 0; row <= tries && room.isValid(); ++row) {
         for (int column = 0; column <= tries; ++column) {
             const QPointF corner(area.left() + room.width() * column / tries, area.top() + room.height() * row / tries);
             const QRectF place(corner, size);
             const double away = distanceTo(place, at);
             const auto covers = [&place](const QRectF &box) { return box.intersects(place); };
-            if (away >= labelDistance && away < least && std::none_of(avoid.cbegin(), avoid.cend(), covers)) {
-                least = away;
+            if (away < labelDistance || away >= least || std::any_of(avoid.cbegin(), avoid.cend(), covers)) {
+                continue;
+            }
+            const double cost = costOf(place);
+            if (cost < least) {
+                least = cost;
                 best = place;
             }
         }

@@ -135,6 +135,12 @@ QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
     if (!some.readout.isEmpty()) {
         region += some.readoutPlace.toAlignedRect();
     }
+    if (some.showsFocusFrame) {
+        constexpr double frameRoom = 4.0; // from the edge of the plot inwards, for the width of the frame
+        const QRectF plot = viewport.plot();
+        region += QRegion(around(plot, 1.0))
+                      .subtracted(plot.adjusted(frameRoom, frameRoom, -frameRoom, -frameRoom).toRect());
+    }
     return region & q->rect();
 }
 

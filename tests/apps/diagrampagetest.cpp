@@ -15,6 +15,7 @@
 #include <QActionGroup>
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QStatusBar>
@@ -24,7 +25,10 @@
 #include <cmath>
 
 using namespace gamutviewer;
+using ceiechart::DiagramContent;
+using ceiechart::DiagramGamut;
 using ceiechart::DiagramLayer;
+using ceiechart::DiagramView;
 using ceiechart::GamutRole;
 
 class DiagramPageTest : public QObject {
@@ -41,6 +45,8 @@ private Q_SLOTS:
     void shiftIsSlow();
     void heldAndLockedAreRefused();
     void selectionIsShared();
+    void deselectionIsShared();
+    void hiddenTargetsKeepTheSelection();
     void lensMovesTheWhite();
     void lensFollowsTheWhite();
     void lensShowsTheRingsAfterAnEdit();
@@ -249,7 +255,7 @@ void DiagramPageTest::arrowKeysMove()
     WindowFixture f;
     view(f)->setFocus();
     QTest::keyClick(view(f), Qt::Key_B);
-    QCOMPARE(f.window->session()->selected(), Vertex::Blue);
+    QCOMPARE(f.window->session()->selected(), std::make_optional(Vertex::Blue));
     const QPointF before = f.xy(Vertex::Blue);
     QTest::keyClick(view(f), Qt::Key_Right);
     QVERIFY(f.xy(Vertex::Blue).x() > before.x());
@@ -298,8 +304,58 @@ void DiagramPageTest::selectionIsShared()
     QCOMPARE(view(f)->selectedVertex(), std::make_optional(Vertex::Blue));
     view(f)->setFocus();
     QTest::keyClick(view(f), Qt::Key_W);
-    QCOMPARE(f.window->session()->selected(), Vertex::White);
+    QCOMPARE(f.window->session()->selected(), std::make_optional(Vertex::White));
     QCOMPARE(f.window->diagramPage()->lens()->view()->selectedVertex(), std::make_optional(Vertex::White));
+}
+
+void DiagramPageTest::deselectionIsShared()
+{
+    WindowFixture f;
+    DiagramView *lens = f.window->diagramPage()->lens()->view();
+    TargetSession *session = f.window->session();
+    const auto boldLabels = [&f] {
+        QStringList bold;
+        for (const QLabel *label : f.window->panel()->editor()->findChildren<QLabel *>()) {
+            if (label->font().bold() && label->isVisibleTo(f.window->panel()->editor())) {
+                bold.append(label->text());
+            }
+        }
+        return bold;
+    };
+    session->select(std::nullopt);
+    const QStringList always = boldLabels(); // such as the name of the target
+    view(f)->setFocus();
+    for (DiagramView *from : {static_cast<DiagramView *>(view(f)), lens}) {
+        session->select(Vertex::Red);
+        QCOMPARE(view(f)->selectedVertex(), std::make_optional(Vertex::Red));
+        QCOMPARE(lens->selectedVertex(), std::make_optional(Vertex::Red));
+        QCOMPARE(boldLabels().count(), always.count() + 1);
+        QTest::keyClick(from, Qt::Key_Escape);
+        QCOMPARE(session->selected(), std::optional<Vertex>());
+        QCOMPARE(view(f)->selectedVertex(), std::optional<Vertex>());
+        QCOMPARE(lens->selectedVertex(), std::optional<Vertex>());
+        QCOMPARE(boldLabels(), always);
+    }
+    // An edit of the document selects nothing by itself.
+    QVERIFY(session->setChromaticity(Vertex::Green, QPointF(0.27, 0.68)));
+    QCOMPARE(view(f)->selectedVertex(), std::optional<Vertex>());
+    session->select(Vertex::Red);
+    QCOMPARE(view(f)->selectedVertex(), std::make_optional(Vertex::Red));
+}
+
+void DiagramPageTest::hiddenTargetsKeepTheSelection()
+{
+    WindowFixture f;
+    f.window->session()->select(Vertex::Blue);
+    DiagramContent content = view(f)->content();
+    for (DiagramGamut &gamut : content.gamuts) {
+        gamut.visible = gamut.visible && gamut.role != GamutRole::Target;
+    }
+    view(f)->setContent(content);
+    QCOMPARE(view(f)->selectedVertex(), std::optional<Vertex>());
+    QCOMPARE(f.window->session()->selected(), std::make_optional(Vertex::Blue));
+    view(f)->refresh();
+    QCOMPARE(view(f)->selectedVertex(), std::make_optional(Vertex::Blue));
 }
 
 void DiagramPageTest::lensMovesTheWhite()
@@ -611,7 +667,7 @@ void DiagramPageTest::groundsArePointedOut()
     QVERIFY(green->toolTip().contains(QLatin1String("green")));
     lines->scrollToItem(green);
     QTest::mouseClick(lines->viewport(), Qt::LeftButton, Qt::NoModifier, lines->visualItemRect(green).center());
-    QCOMPARE(f.window->session()->selected(), Vertex::Green);
+    QCOMPARE(f.window->session()->selected(), std::make_optional(Vertex::Green));
     QVERIFY(view(f)->zoomFactor() > 5.0);
     const QPointF away = view(f)->centre() - f.xy(Vertex::Green);
     QVERIFY(std::hypot(away.x(), away.y()) < 1e-6);
@@ -619,7 +675,7 @@ void DiagramPageTest::groundsArePointedOut()
     lines->setFocus();
     lines->setCurrentRow(0);
     QTest::keyClick(lines, Qt::Key_Return);
-    QCOMPARE(f.window->session()->selected(), Vertex::Red);
+    QCOMPARE(f.window->session()->selected(), std::make_optional(Vertex::Red));
 }
 
 void DiagramPageTest::verdictKeepsItsHeight()

@@ -86,7 +86,7 @@ void TargetEditorTest::typedValueMovesThePrimary()
     type(editor(f)->firstCoordinate(Vertex::Green), QStringLiteral("0.3"));
     QCOMPARE(f.xy(Vertex::Green).x(), 0.3);
     QCOMPARE(f.xy(Vertex::Green).y(), 0.69);
-    QCOMPARE(int(f.window->session()->selected()), int(Vertex::Green));
+    QCOMPARE(f.window->session()->selected(), std::make_optional(Vertex::Green));
     QCOMPARE(f.document().history()->count(), 1);
     press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(f.xy(Vertex::Green).x(), 0.265);

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void trembleMovesNothing();
     void dragsBeginWithoutAJump_data();
     void dragsBeginWithoutAJump();
+    void handsThatTurnBackAreFollowed();
     void dragKeepsTheGrip();
     void dragTellsItsHost();
     void escapeBringsTheTargetBack();
@@ -150,6 +151,36 @@ void DiagramViewEditingTest::dragsBeginWithoutAJump()
         }
     }
     view.release(grip);
+}
+
+void DiagramViewEditingTest::handsThatTurnBackAreFollowed()
+{
+    View view;
+    view.setDigits(10); // so that rounding plays no part
+    view.setZoomFactor(50.0);
+    view.setCentre(view.xy(GamutVertex::Green));
+    const QPointF start = view.at(GamutVertex::Green);
+    const int threshold = QGuiApplication::styleHints()->startDragDistance();
+    QPointF hand = start;
+    const auto wayOfHandle = [&](const QPointF &way) {
+        const QPointF former = view.at(GamutVertex::Green);
+        hand += way;
+        view.drag(hand);
+        return view.at(GamutVertex::Green) - former;
+    };
+    view.press(start);
+    QVERIFY(wayOfHandle(QPointF(threshold + 1, 0)).x() > 1.5); // more than the hand beyond the threshold
+    for (int i = 0; i < 4; ++i) {
+        const QPointF back = wayOfHandle(QPointF(-1, 0));
+        QVERIFY2(length(back - QPointF(-1, 0)) < 0.01, qPrintable(QString::number(back.x())));
+    }
+    QVERIFY(length(wayOfHandle(QPointF(0, -3)) - QPointF(0, -3)) < 0.01);
+    QVERIFY(length(wayOfHandle(QPointF(-2, -2)) - QPointF(-2, -2)) < 0.01);
+    // And where it goes on, it is caught up with.
+    QVERIFY(wayOfHandle(QPointF(1, 1)).x() > 2.5);
+    wayOfHandle(QPointF(threshold, 0));
+    QVERIFY(length(view.at(GamutVertex::Green) - hand) < 0.01);
+    view.release(hand);
 }
 
 void DiagramViewEditingTest::dragKeepsTheGrip()

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void digitsFollowTheZoom();
     void isothermsAreNamed_data();
     void isothermsAreNamed();
+    void editLabelsLeaveNamesWhereThereIsRoom();
     void hoverTells();
     void hoverTellsChromaticitiesOnly();
     void readoutStandsOnTheOtherSideFromRightToLeft();
@@ -367,6 +368,34 @@ void DiagramViewLabelsTest::isothermsAreNamed()
         }
     }
     QVERIFY(drawn > 0);
+}
+
+void DiagramViewLabelsTest::editLabelsLeaveNamesWhereThereIsRoom()
+{
+    View view;
+    view.setStandards({Model::rec709(), Model::rec2020(), Model::dciP3D65()});
+    int labels = 0;
+    int covered = 0;
+    for (const GamutVertex vertex : {GamutVertex::Red, GamutVertex::Green, GamutVertex::White}) {
+        const QPointF start = view.at(vertex);
+        view.press(start);
+        for (int i = -8; i <= 8; ++i) {
+            view.drag(start + QPointF(6.0 * i, 4.0 * i + (i == 0 ? 1.0 : 0.0)));
+            const QRectF place = view.d->overlay.labelPlace;
+            if (place.isEmpty()) {
+                continue;
+            }
+            ++labels;
+            QVERIFY(view.viewport().plot().contains(place));
+            for (const DiagramLabel &name : view.d->painter->labels()) {
+                covered += name.place.intersects(place) ? 1 : 0;
+            }
+        }
+        QTest::keyClick(&view, Qt::Key_Escape);
+        view.release(start);
+    }
+    QVERIFY(labels > 40);
+    QCOMPARE(covered, 0);
 }
 
 void DiagramViewLabelsTest::hoverTells()

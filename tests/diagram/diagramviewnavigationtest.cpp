@@ -7,6 +7,9 @@
 
 using namespace diagramtests;
 
+using Change = void (*)(View &); // of what is seen
+Q_DECLARE_METATYPE(Change)
+
 namespace {
 
 //! A pan goes by whole pixels of the device: how far it may be from the hand.
@@ -42,6 +45,14 @@ private Q_SLOTS:
     void doubleClickShowsAll();
     void views();
     void resizeKeepsWhatIsSeen();
+    void movedViewsHoverAgain_data();
+    void movedViewsHoverAgain();
+    void movedViewsEndTheHover();
+    void movedViewsFindTheHandle();
+    void movedViewsTellTheHoverLast();
+    void handsThatMoveTheViewHoverOnce();
+    void movedViewsLeaveADragAlone();
+    void hoversOfMovedViewsMayDeleteThem();
 };
 
 void DiagramViewNavigationTest::showsAllAtFirst()
@@ -329,6 +340,166 @@ void DiagramViewNavigationTest::resizeKeepsWhatIsSeen()
     view.resize(500, 400);
     QCOMPARE(view.zoomFactor(), 30.0);
     QVERIFY(length(view.centre() - QPointF(0.31, 0.33)) < 1e-6);
+}
+
+void DiagramViewNavigationTest::movedViewsHoverAgain_data()
+{
+    QTest::addColumn<Change>("change");
+    const auto add = [](const char *name, Change change) { QTest::newRow(name) << change; };
+    add("arrow", [](View &view) { QTest::keyClick(&view, Qt::Key_Right); });
+    add("zoom", [](View &view) { view.setZoomFactor(7.0); });
+    add("diagram", [](View &view) { view.setDiagram(Model::Diagram::Cie1976); });
+    add("all", [](View &view) { view.showAll(); });
+    add("target", [](View &view) { view.showTarget(); });
+    add("centre", [](View &view) { view.setCentre(QPointF(0.29, 0.37)); });
+    add("size", [](View &view) { view.resize(640, 600); });
+}
+
+void DiagramViewNavigationTest::movedViewsHoverAgain()
+{
+    QFETCH(Change, change);
+    View view;
+    view.setZoomFactor(5.0);
+    view.setCentre(QPointF(0.3, 0.35));
+    const QPointF pointer = view.viewport().plot().center() + QPointF(-60.0, 40.0);
+    view.hover(pointer);
+    QSignalSpy hovered(&view, &DiagramView::hovered);
+    const QString former = view.d->overlay.readout;
+    change(view);
+    QCOMPARE(hovered.count(), 1);
+    const QPointF xy = view.viewport().toChromaticity(pointer);
+    QVERIFY(length(hovered.at(0).at(0).toPointF() - xy) < 1e-9);
+    QCOMPARE(view.d->overlay.readout, view.coordinatesText(xy));
+    QVERIFY(view.d->overlay.readout != former);
+    // A pointer that has left is over nothing, whatever moves.
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&view, &leave);
+    view.setCentre(QPointF(0.31, 0.36));
+    QCOMPARE(hovered.count(), 1);
+    QVERIFY(view.d->overlay.readout.isEmpty());
+}
+
+void DiagramViewNavigationTest::movedViewsEndTheHover()
+{
+    View view;
+    view.setZoomFactor(5.0);
+    view.setCentre(QPointF(0.25, 0.45));
+    const QPointF pointer = view.viewport().plot().center();
+    view.hover(pointer);
+    QSignalSpy hovered(&view, &DiagramView::hovered);
+    QSignalSpy ended(&view, &DiagramView::hoverEnded);
+    view.setDiagram(Model::Diagram::Cie1976);
+    QCOMPARE(hovered.count(), 1);
+    // No light has the coordinates below zero.
+    view.setCentre(QPointF(-0.05, 0.2));
+    QCOMPARE(ended.count(), 1);
+    QCOMPARE(hovered.count(), 1);
+    view.setCentre(QPointF(0.25, 0.45));
+    QCOMPARE(ended.count(), 1);
+    QCOMPARE(hovered.count(), 2);
+    // The plot has shrunk away from the pointer.
+    view.resize(int(pointer.x()) - 40, 600);
+    QCOMPARE(ended.count(), 2);
+    QVERIFY(view.d->overlay.readout.isEmpty());
+    QCOMPARE(view.cursor().shape(), Qt::ArrowCursor);
+}
+
+void DiagramViewNavigationTest::movedViewsFindTheHandle()
+{
+    View view;
+    view.setZoomFactor(5.0);
+    view.setCentre(QPointF(0.45, 0.45));
+    view.hover(view.viewport().plot().center());
+    QCOMPARE(view.cursor().shape(), Qt::CrossCursor);
+    const QImage free = view.grab().toImage();
+    view.setCentre(view.xy(GamutVertex::Red));
+    QCOMPARE(view.cursor().shape(), Qt::SizeAllCursor);
+    QCOMPARE(view.d->hovered, std::make_optional(GamutVertex::Red));
+    view.setCentre(QPointF(0.45, 0.45));
+    QCOMPARE(view.cursor().shape(), Qt::CrossCursor);
+    QCOMPARE(view.grab().toImage(), free);
+}
+
+void DiagramViewNavigationTest::movedViewsTellTheHoverLast()
+{
+    View view;
+    view.setZoomFactor(5.0);
+    view.hover(view.viewport().plot().center());
+    QStringList order;
+    connect(&view, &DiagramView::viewChanged, [&order] { order.append("view"); });
+    connect(&view, &DiagramView::hovered, [&order] { order.append("hovered"); });
+    connect(&view, &DiagramView::diagramChanged, [&order] { order.append("diagram"); });
+    view.setDiagram(Model::Diagram::Cie1976);
+    QCOMPARE(order, QStringList({"view", "hovered", "diagram"}));
+}
+
+void DiagramViewNavigationTest::handsThatMoveTheViewHoverOnce()
+{
+    View view;
+    view.setZoomFactor(5.0);
+    view.setCentre(QPointF(0.25, 0.45));
+    const QPointF start = view.viewport().plot().center();
+    view.hover(start);
+    QSignalSpy hovered(&view, &DiagramView::hovered);
+    view.press(start, Qt::MiddleButton);
+    for (int i = 1; i <= 5; ++i) {
+        const int before = int(hovered.count());
+        const QPointF at = start + QPointF(7.5 * i, 3.0 * i);
+        view.drag(at, Qt::NoModifier, Qt::MiddleButton);
+        // Once, and not where the hand was before.
+        QCOMPARE(hovered.count(), before + 1);
+        QVERIFY(length(hovered.last().at(0).toPointF() - view.viewport().toChromaticity(at)) < 1e-9);
+    }
+    view.release(start + QPointF(37.5, 15.0), Qt::MiddleButton);
+    // A wheel elsewhere than the pointer was seen last.
+    hovered.clear();
+    const QPointF elsewhere = start + QPointF(-50.0, 20.0);
+    view.wheel(elsewhere, QPoint(0, 120));
+    QCOMPARE(hovered.count(), 1);
+    QVERIFY(length(hovered.at(0).at(0).toPointF() - view.viewport().toChromaticity(elsewhere)) < 1e-9);
+}
+
+void DiagramViewNavigationTest::movedViewsLeaveADragAlone()
+{
+    View view;
+    view.setZoomFactor(3.0);
+    view.setCentre(view.xy(GamutVertex::Red));
+    QSignalSpy finished(&view, &DiagramView::editingFinished);
+    const QPointF start = view.at(GamutVertex::Red);
+    view.press(start);
+    view.drag(start + QPointF(-40.0, -20.0));
+    QVERIFY(view.isEditing());
+    const QPointF held = view.xy(GamutVertex::Red);
+    // What is brought below the pointer is not what the hand has.
+    view.setCentre(view.xy(GamutVertex::White));
+    QCOMPARE(view.xy(GamutVertex::Red), held);
+    QVERIFY(view.isEditing());
+    QCOMPARE(view.cursor().shape(), Qt::SizeAllCursor);
+    QVERIFY(view.d->overlay.readout.isEmpty());
+    QCOMPARE(view.selectedVertex(), std::make_optional(GamutVertex::Red));
+    QCOMPARE(finished.count(), 0);
+    view.release(start + QPointF(-40.0, -20.0));
+    QCOMPARE(finished.count(), 1);
+}
+
+void DiagramViewNavigationTest::hoversOfMovedViewsMayDeleteThem()
+{
+    for (const bool ends : {false, true}) {
+        auto *view = new View;
+        const QPointer<View> alive(view);
+        view->setZoomFactor(5.0);
+        view->setCentre(QPointF(0.25, 0.45));
+        view->hover(view->viewport().plot().center());
+        const auto away = [view] { delete view; };
+        if (ends) {
+            connect(view, &DiagramView::hoverEnded, away);
+            view->setCentre(QPointF(-0.05, 0.2));
+        } else {
+            connect(view, &DiagramView::hovered, away);
+            view->setDiagram(Model::Diagram::Cie1976);
+        }
+        QVERIFY(!alive);
+    }
 }
 
 QTEST_MAIN(DiagramViewNavigationTest)

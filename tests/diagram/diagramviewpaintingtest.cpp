@@ -57,6 +57,7 @@ private Q_SLOTS:
     void dragRepaintsItsSurroundingsOnly();
     void partialRepaintsLeaveNothingBehind_data();
     void partialRepaintsLeaveNothingBehind();
+    void focusFramesComeAndGo();
     void dragPaintsTheScaleNoMore();
     void hiddenViewsKeepNoPictures();
     void followsThePalette();
@@ -173,6 +174,55 @@ void DiagramViewPaintingTest::partialRepaintsLeaveNothingBehind()
         view.release(freeGround(view), Qt::MiddleButton);
         compare("pan");
     }
+}
+
+void DiagramViewPaintingTest::focusFramesComeAndGo()
+{
+    View view;
+    view.activateWindow();
+    view.setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    QVERIFY(view.hasFocus());
+    view.setReadoutShown(false);
+    view.setZoomFactor(4.0);
+    view.setCentre(view.xy(GamutVertex::Red));
+    view.setSelectedVertex(std::nullopt);
+    view.update();
+    const QPoint edge = view.viewport().plot().topLeft().toPoint() + QPoint(1, 40);
+    QRgb framed = 0;
+    const auto isFramed = [&](bool wanted) {
+        view.paintAll();
+        const QImage shown = shownBy(view);
+        const QRgb color = shown.pixel(edge * view.devicePixelRatioF());
+        framed = framed ? framed : color; // it is there at first
+        return (color == framed) == wanted && difference(shown, view.grab().toImage()).isEmpty();
+    };
+    QVERIFY(isFramed(true));
+    QTest::keyClick(&view, Qt::Key_R);
+    QVERIFY(isFramed(false));
+    QTest::keyClick(&view, Qt::Key_Escape);
+    QVERIFY(isFramed(true));
+    const QPointF red = view.at(GamutVertex::Red);
+    view.press(red);
+    view.release(red);
+    QVERIFY(isFramed(false));
+    // The handle that has the focus leaves what is seen, and comes back.
+    const QPointF xy = view.xy(GamutVertex::Red);
+    QVERIFY(view.moveVertex(GamutVertex::Red, QPointF(0.45, 0.3)));
+    QVERIFY(!view.viewport().plot().contains(view.at(GamutVertex::Red)));
+    QVERIFY(isFramed(true));
+    QVERIFY(view.moveVertex(GamutVertex::Red, xy));
+    QVERIFY(isFramed(false));
+    // So it does in a drag, until that is taken back.
+    view.press(red);
+    view.drag(red + QPointF(-40.0, 0.0));
+    QVERIFY(isFramed(false));
+    view.drag(QPointF(-300.0, red.y()));
+    QVERIFY(!view.viewport().plot().contains(view.at(GamutVertex::Red)));
+    QVERIFY(isFramed(true));
+    QTest::keyClick(&view, Qt::Key_Escape);
+    QVERIFY(isFramed(false));
+    view.release(red);
 }
 
 void DiagramViewPaintingTest::dragPaintsTheScaleNoMore()

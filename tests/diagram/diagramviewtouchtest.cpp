@@ -18,6 +18,7 @@ private Q_SLOTS:
     void twoFingersZoomAndPan();
     void oneFingerDragsAHandle();
     void secondFingerTakesADragBack();
+    void secondFingerEndsTheHover();
     void otherFingersBeginAnew();
     void tapsOfAFingerMoveNothing();
     void doubleTapsZoomAtTheFinger();
@@ -109,6 +110,30 @@ void DiagramViewTouchTest::secondFingerTakesADragBack()
     QCOMPARE(view.xy(GamutVertex::Green), xy);
     QTest::touchEvent(&view, device).release(0, finger, &view).release(1, finger, &view);
     QVERIFY(!view.isEditing());
+}
+
+void DiagramViewTouchTest::secondFingerEndsTheHover()
+{
+    auto *device = QTest::createTouchDevice();
+    View view;
+    view.setZoomFactor(4.0);
+    QSignalSpy hovered(&view, &DiagramView::hovered);
+    QSignalSpy ended(&view, &DiagramView::hoverEnded);
+    const QPoint start = view.at(QPointF(0.3, 0.4)).toPoint();
+    QTest::touchEvent(&view, device).press(0, start, &view);
+    QTest::touchEvent(&view, device).move(0, start + QPoint(30, 0), &view);
+    QVERIFY(hovered.count() > 0);
+    QCOMPARE(ended.count(), 0);
+    const QPoint second = start + QPoint(90, 0);
+    QTest::touchEvent(&view, device).move(0, start + QPoint(30, 0), &view).press(1, second, &view);
+    QCOMPARE(ended.count(), 1);
+    // Neither of two fingers points at anything.
+    hovered.clear();
+    QTest::touchEvent(&view, device).move(0, start, &view).move(1, second + QPoint(40, 0), &view);
+    QVERIFY(view.zoomFactor() > 4.5);
+    QCOMPARE(hovered.count(), 0);
+    QTest::touchEvent(&view, device).release(0, start, &view).release(1, second + QPoint(40, 0), &view);
+    QCOMPARE(ended.count(), 1);
 }
 
 void DiagramViewTouchTest::otherFingersBeginAnew()

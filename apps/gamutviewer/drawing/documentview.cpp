@@ -17,7 +17,7 @@ DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches
     setDigits(chromaticityDecimals);
     setReadoutShown(false); // the window has it for all views
     connect(this, &DiagramView::editingStarted, this,
-        [this] { m_session->beginDrag(selectedVertex().value_or(m_session->selected())); });
+        [this] { m_session->beginDrag(selectedVertex().value_or(m_session->selected().value_or(Vertex::Red))); });
     connect(this, &DiagramView::targetEdited, this,
         [this](const Model::ColorGamut &gamut) { m_session->dragTo(gamut.getTargets()); });
     connect(this, &DiagramView::editingCanceled, m_session, &TargetSession::cancelDrag);
@@ -26,8 +26,10 @@ DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches
     connect(this, &DiagramView::editingFinished, this, &DocumentView::refresh);
     connect(this, &DiagramView::editRefused, m_session, &TargetSession::refuse);
     connect(this, &DiagramView::selectedVertexChanged, this, [this] {
-        if (const auto vertex = selectedVertex()) {
-            m_session->select(*vertex);
+        // Without handles none can be selected here, which says nothing of the others.
+        const ceiechart::DiagramGamut *target = content().find(ceiechart::GamutRole::Target);
+        if (selectedVertex() || (!isReadOnly() && target && content().shows(*target))) {
+            m_session->select(selectedVertex());
         }
     });
     connect(session, &TargetSession::selectionChanged, this, [this] {
@@ -48,8 +50,9 @@ void DocumentView::applyRules()
 
 void DocumentView::note()
 {
-    const double outside = m_session->distanceOutside(m_session->selected());
-    const bool isOutside = m_session->selected() != ceiechart::GamutVertex::White && outside > 0.0;
+    const auto selected = m_session->selected();
+    const double outside = selected ? m_session->distanceOutside(*selected) : 0.0;
+    const bool isOutside = selected != ceiechart::GamutVertex::White && outside > 0.0;
     setEditNote(isOutside ? tr("outside by Δu′v′ %1").arg(fixedText(outside, 4)) : QString());
 }
 

@@ -49,7 +49,7 @@ void TargetSession::setSnaps(bool snap)
     }
 }
 
-void TargetSession::select(Vertex vertex)
+void TargetSession::select(std::optional<Vertex> vertex)
 {
     if (m_selected != vertex) {
         m_selected = vertex;

@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 namespace gamutviewer {
 
@@ -30,14 +31,15 @@ public:
     bool holdWhite() const { return m_rules->holdsWhite(); }
     bool lockPrimaries() const { return m_rules->locksPrimaries(); }
     bool snaps() const { return m_rules->snaps(); }
-    Vertex selected() const { return m_selected; }
+    /*! \brief The vertex that diagrams and numbers mark; nothing for none. */
+    std::optional<Vertex> selected() const { return m_selected; }
     /*! \brief Whether the rules let \a vertex be moved. */
     bool isMovable(Vertex vertex) const { return m_rules->isMovable(vertex); }
 
     void setHoldWhite(bool hold);
     void setLockPrimaries(bool lock);
     void setSnaps(bool snap);
-    void select(Vertex vertex);
+    void select(std::optional<Vertex> vertex);
 
     /*! \brief What the display is judged by; nothing for no tolerances. They are not part of the document. */
     const std::optional<Tolerances> &tolerances() const { return m_tolerances; }
@@ -92,7 +94,7 @@ private:
     Document *m_document;
     std::shared_ptr<ceiechart::StandardTargetRules> m_rules = std::make_shared<ceiechart::StandardTargetRules>();
     std::optional<Tolerances> m_tolerances;
-    Vertex m_selected = Vertex::Red;
+    std::optional<Vertex> m_selected = Vertex::Red;
     Vertex m_dragged = Vertex::Red;
 };
 
