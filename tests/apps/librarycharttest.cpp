@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/librarychart.h"
-#include <gamutfiles/descriptionfile.h>
 #include "drawing/documentcontent.h"
 #include "expectedchart.h"
+#include <gamutfiles/descriptionfile.h>
 
 #include <ceiechart/diagram/chartstyle.h>
 #include <reference/picturedifference.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/picture.h"
-#include <gamutfiles/descriptionfile.h>
 #include "drawing/documentcontent.h"
 #include "expectedchart.h"
+#include <gamutfiles/descriptionfile.h>
 
 #include <ceiechart/diagram/diagrampainter.h>
 #include <reference/picturedifference.h>

@@ -332,6 +332,7 @@ void ViewerWindowTest::openAsksBeforeChangesAreLost()
 {
     WindowFixture f;
     change(f);
+    const FilesAnswer alone(FilesAnswer::Alone);
     const Answer cancel(QMessageBox::Cancel);
     QVERIFY(!f.window->openPath(QStringLiteral(SAMPLE_FILE)));
     QVERIFY(!cancel.text().isEmpty());
@@ -342,6 +343,7 @@ void ViewerWindowTest::recentFilesAreRemembered()
 {
     WindowFixture f;
     QVERIFY(RecentFiles::list().isEmpty());
+    const FilesAnswer alone(FilesAnswer::Alone);
     QVERIFY(f.window->openPath(QStringLiteral(SAMPLE_FILE)));
     QCOMPARE(RecentFiles::list(), QStringList(QFileInfo(QStringLiteral(SAMPLE_FILE)).absoluteFilePath()));
     for (int i = 0; i < 12; ++i) {

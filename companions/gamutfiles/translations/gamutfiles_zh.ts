@@ -383,6 +383,18 @@
         <source>the name of the profile cannot be read</source>
         <translation>无法读取特性文件的名称</translation>
     </message>
+    <message>
+        <source>the luminance of white cannot be read: luminances are relative</source>
+        <translation>无法读取白色的亮度：亮度为相对值</translation>
+    </message>
+    <message>
+        <source>the colours of the profile follow a table: its colorants, which are read, need not be the primaries of the display</source>
+        <translation>此特性文件的颜色由查找表决定：所读取的三原色标签不一定是显示屏的基色</translation>
+    </message>
+    <message>
+        <source>is a damaged ICC profile: its white cannot be read</source>
+        <translation>是已损坏的 ICC 特性文件：无法读取其白点</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Json</name>
@@ -521,10 +533,6 @@
         <translation>“%1”中的点按小数点读取；如果它是千位分隔符，请指定小数符号</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; can be %2 or %3, and no other number tells: state the decimal sign</source>
-        <translation>“%1”可能是 %2 或 %3，没有其他数字可供判断：请指定小数符号</translation>
-    </message>
-    <message>
         <source>the separator seems to divide numbers: quote them or use another separator</source>
         <translation>分隔符似乎把数字拆开了：请给数字加引号，或使用其他分隔符</translation>
     </message>
@@ -605,10 +613,6 @@
     <message>
         <source>white is missing: there is no gamut; choose a measurement as white, or ask for the sum of red, green and blue</source>
         <translation>缺少白：没有色域；请选择一个测量数据作为白，或指定采用红、绿、蓝之和</translation>
-    </message>
-    <message>
-        <source>there is no gamut; missing: %1</source>
-        <translation>没有色域；缺少：%1</translation>
     </message>
     <message>
         <source>line %1, column %2</source>
@@ -759,6 +763,30 @@
         <source>%1 cabinets (%2): there is no measured gamut of all of them; choose a cabinet</source>
         <translation>%1 个箱体（%2）：它们合起来没有实测色域；请选择一个箱体</translation>
     </message>
+    <message>
+        <source>column %1 is of the 10° observer and is not read</source>
+        <translation>第 %1 列属于 10° 观察者，不读取</translation>
+    </message>
+    <message>
+        <source>the columns are of the 10° observer: those of CIE 1931 (2°) are needed</source>
+        <translation>这些列属于 10° 观察者：需要 CIE 1931（2°）的数据</translation>
+    </message>
+    <message>
+        <source>%1 columns give a luminance: column %2, &quot;%3&quot;, is read</source>
+        <translation>有 %1 列给出亮度：读取第 %2 列“%3”</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is not that of the line of the names, &quot;%2&quot;: state the unit</source>
+        <translation>单位“%1”与列名行中的单位“%2”不一致：请指定单位</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can be %2 or %3, and no other number that is read tells: state the decimal sign</source>
+        <translation>“%1”可能是 %2 或 %3，所读取的其他数字无法判断：请指定小数符号</translation>
+    </message>
+    <message>
+        <source>there is no gamut; missing: %1; choose the lines or the names that are these colours</source>
+        <translation>没有色域；缺少：%1；请选择这些颜色对应的行或名称</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Primaries</name>
@@ -797,6 +825,14 @@
     <message>
         <source>%1 has no chromaticity</source>
         <translation>%1没有色度</translation>
+    </message>
+    <message>
+        <source>red, green and blue lie clockwise in x, y: two of them may be exchanged</source>
+        <translation>红、绿、蓝在 x、y 图上按顺时针排列：其中两个可能互换了</translation>
+    </message>
+    <message>
+        <source>the white lies outside of the triangle of the primaries</source>
+        <translation>白点位于基色三角形之外</translation>
     </message>
 </context>
 <context>
