@@ -42,6 +42,9 @@ QString diagramName(Model::Diagram diagram)
 class TolerancesReader : public JsonReader {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::TolerancesReader)
 
+    // A return type of another namespace would be taken for the context of the texts.
+    using Diagram = Model::Diagram;
+
 public:
     std::optional<Tolerances> read(const QByteArray &utf8)
     {
@@ -125,7 +128,7 @@ private:
         return limit;
     }
 
-    Model::Diagram readDiagram(const Node &node)
+    Diagram readDiagram(const Node &node)
     {
         const QString name = readString(node);
         for (const Model::Diagram diagram : {Model::Diagram::Cie1931, Model::Diagram::Cie1976}) {
