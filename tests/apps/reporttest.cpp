@@ -51,7 +51,7 @@ DisplayDescription wall()
 //! Rec.709 with a white of \a luminance in cd/m².
 DisplayGamut absolute(const char *name, double luminance)
 {
-    const Model::Targets &t = Model::rec709().getTargets();
+    const Model::Targets t = Model::rec709().getTargets();
     const auto at = [luminance](const Model::Target &c) { return Model::Target::fromYxy(c.Y * luminance, c.x, c.y); };
     return {Model::ColorGamut(name, {at(t.red), at(t.green), at(t.blue), at(t.white)}),
         LuminanceUnit::CandelaPerSquareMetre};
