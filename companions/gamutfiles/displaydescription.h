@@ -2,7 +2,9 @@
 #ifndef GAMUTFILES_DISPLAYDESCRIPTION_H
 #define GAMUTFILES_DISPLAYDESCRIPTION_H
 
+#include <gamutfiles/displaywall.h>
 #include <gamutfiles/gamutfiles_export.h>
+#include <gamutfiles/luminanceunit.h>
 #include <gamutmodel/colorgamut.h>
 
 #include <QPointF>
@@ -19,13 +21,6 @@ namespace gamutfiles {
 struct NamedPoint {
     QString name; //!< empty when it has none
     QPointF xy; //!< CIE 1931 x, y
-};
-
-/*! \brief What the luminances of a gamut are measured in. */
-enum class LuminanceUnit {
-    NotKnown, //!< the file does not say
-    Relative, //!< to an unstated white or maximum; comparable inside of the gamut alone
-    CandelaPerSquareMetre //!< cd/m²
 };
 
 /*!
@@ -73,6 +68,8 @@ struct DisplayDescription {
     QVector<NamedPoint> colorTemperaturePoints; //!< whites to mark
     QVector<NamedPoint> measurePoints; //!< measured colours to mark
     QVector<NamedPoint> cmyPoints; //!< cyan, magenta and yellow, in this order
+
+    DisplayWall wall; //!< the cabinets of an LED wall; no cabinets: not known
 
     /*!
      * \brief The gamut that \a gamutName stands for: the description's own, or else the published gamut of exactly

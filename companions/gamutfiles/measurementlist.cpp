@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/measurementlist.h>
 
+#include <gamutfiles/displaywall.h>
+
 #include <gamutmodel/gamutcoverage.h>
 
 #include <QHash>
@@ -111,11 +113,7 @@ std::optional<Measurement> MeasurementList::black() const
 
 QString CabinetMeasurements::label() const
 {
-    if (!row || !column) {
-        return cabinet;
-    }
-    const QString place = QStringLiteral("%1/%2").arg(*row).arg(*column);
-    return cabinet.isEmpty() ? place : QStringLiteral("%1 %2").arg(cabinet, place);
+    return cabinetLabel(cabinet, row, column);
 }
 
 QVector<CabinetMeasurements> MeasurementList::cabinets() const
