@@ -4,6 +4,7 @@
 #include "numbers_p.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace gamutfiles {
 
@@ -23,8 +24,8 @@ int lineEnd(const QString &text, int index)
     return end < 0 ? int(text.size()) : end;
 }
 
-//! Skips blank lines and comments; returns whether there is anything after them.
-bool skipIdleLines(const QString &text, Position &position)
+//! Skips blank lines and comments, and keeps the comments; returns whether there is anything after them.
+bool skipIdleLines(const QString &text, Position &position, QVector<std::pair<int, QString>> *comments = nullptr)
 {
     while (position.index < text.size()) {
         const int end = lineEnd(text, position.index);
@@ -36,6 +37,12 @@ bool skipIdleLines(const QString &text, Position &position)
             = std::all_of(text.constBegin() + first, text.constBegin() + end, [](QChar c) { return c.isSpace(); });
         if (!blank && text.at(first) != QLatin1Char('#')) {
             return true;
+        }
+        if (!blank && comments) {
+            while (first < end && text.at(first) == QLatin1Char('#')) {
+                ++first;
+            }
+            comments->append({position.line, text.mid(first, end - first)});
         }
         position.index = end + 1;
         ++position.line;
@@ -118,8 +125,9 @@ std::optional<QStringList> readRecord(const QString &text, Position &position, Q
 
 CsvTable readTable(const QString &text, Position position, QChar separator)
 {
-    CsvTable table{separator, {}, 0};
-    while (skipIdleLines(text, position)) {
+    CsvTable table{separator, {}, {}, 0};
+    QVector<std::pair<int, QString>> comments;
+    while (skipIdleLines(text, position, &comments)) {
         const int line = position.line;
         const auto fields = readRecord(text, position, separator);
         if (!fields) {
@@ -127,6 +135,12 @@ CsvTable readTable(const QString &text, Position position, QChar separator)
             break;
         }
         table.rows.append({line, *fields});
+    }
+    for (const auto &[line, comment] : std::as_const(comments)) {
+        Position begin;
+        if (const auto fields = readRecord(comment, begin, separator)) {
+            table.comments.append({line, *fields});
+        }
     }
     return table;
 }

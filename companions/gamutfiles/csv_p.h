@@ -16,11 +16,14 @@ struct CsvRow {
     QStringList fields;
 };
 
-/*! \brief The records of a CSV text, without empty lines, lines that begin with # and a line that names the separator.
+/*!
+ * \brief The records of a CSV text, without empty lines and a line that names the separator; apart from them, the lines
+ * that begin with #.
  */
 struct CsvTable {
     QChar separator;
     QVector<CsvRow> rows;
+    QVector<CsvRow> comments; //!< the lines that begin with #, without it
     int unterminatedLine = 0; //!< where the record begins, not among \a rows, that has a quote never closed; 0: none
 };
 

@@ -45,13 +45,16 @@ private:
     bool checkGamut();
 
     static Header headerOf(const CsvRow &row);
-    void useHeader(Header header, int rowIndex);
+    bool useCommentedHeader();
+    void useHeader(Header header, const CsvRow &row, int firstRow);
     void chooseLuminance(Header &header, const CsvRow &row);
     void useColumns(const Columns &columns, const QStringList &headers);
     void useCabinets(const Columns &columns, const QStringList &headers);
     void keep(ColumnPart part, int column, const QStringList &headers);
     void readUnitRow(ColumnName unit);
     void useUnit(const ColumnName &luminance, int line);
+    bool isRepeatedHeader(const CsvRow &row) const;
+    bool isOtherHeader(const CsvRow &row) const;
     void warnOfUnits(const ColumnName &luminance, const QString &where);
 
     std::optional<Measurement> readRow(const CsvRow &row);
@@ -94,6 +97,8 @@ private:
 
     MeasurementOptions m_options;
     CsvTable m_table;
+    Header m_header{}; // as the list gives it
+    CsvRow m_unitRow; // below the header; without fields: there is none
     int m_firstRow = 0; // of the measurements
     int m_headerFields = 0; // how many the header has; 0: there is none
     int m_width = 0; // of them, up to the last with a name
@@ -102,6 +107,7 @@ private:
     QVector<ColumnPart> m_numberParts; // the columns that must be numbers
     QChar m_decimalSign = QLatin1Char('.');
     double m_luminanceScale = 1.0;
+    Lines m_repeatedHeaders;
     Lines m_withoutNumbers;
     Lines m_withoutChromaticity;
     Lines m_wider;

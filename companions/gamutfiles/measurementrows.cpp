@@ -98,6 +98,14 @@ bool MeasurementReader::readRows()
         if (std::all_of(row.fields.begin(), row.fields.end(), isEmpty)) {
             continue;
         }
+        if (isRepeatedHeader(row)) {
+            m_repeatedHeaders.add(row.line);
+            continue;
+        }
+        if (isOtherHeader(row)) {
+            return fail(tr("names other columns than line %1: divide the list here").arg(m_list.recognized.headerLine),
+                place(row.line));
+        }
         if (std::all_of(m_numberParts.begin(), m_numberParts.end(),
                 [&](ColumnPart part) { return isEmpty(given(row, part)); })) {
             m_withoutNumbers.add(row.line);
@@ -164,6 +172,7 @@ void MeasurementReader::warnOfRows()
             warn(text + more, place(lines.first));
         }
     };
+    tell(m_repeatedHeaders, tr("repeats the line that names the columns and is not read"));
     tell(m_withoutNumbers, tr("has no numbers and is not read"));
     tell(m_wider, tr("has more fields than the line that names the columns"));
     tell(m_withoutChromaticity, tr("has a luminance but no chromaticity"));
