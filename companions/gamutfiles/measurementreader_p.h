@@ -57,10 +57,14 @@ private:
     bool isOtherHeader(const CsvRow &row) const;
     void warnOfUnits(const ColumnName &luminance, const QString &where);
 
+    void findNoise();
+    ColumnPart luminancePart() const;
     std::optional<Measurement> readRow(const CsvRow &row);
     bool readColor(const CsvRow &row, Measurement &measurement);
+    void readWithoutChromaticity(const CsvRow &row, const Measurement &measurement);
+    bool readXy(const CsvRow &row, Measurement &measurement, bool isDark);
     bool readTristimulus(const CsvRow &row, Measurement &measurement);
-    bool readUv(const CsvRow &row, Measurement &measurement);
+    bool readUv(const CsvRow &row, Measurement &measurement, bool isDark);
     void readPlace(const CsvRow &row, Measurement &measurement);
     std::optional<QString> field(const CsvRow &row, ColumnPart part);
     std::optional<double> number(const CsvRow &row, ColumnPart part);
@@ -107,9 +111,12 @@ private:
     QVector<ColumnPart> m_numberParts; // the columns that must be numbers
     QChar m_decimalSign = QLatin1Char('.');
     double m_luminanceScale = 1.0;
+    std::array<double, columnPartCount> m_noise{}; // of Y and of the luminances: how far below 0 they can be
     Lines m_repeatedHeaders;
     Lines m_withoutNumbers;
     Lines m_withoutChromaticity;
+    Lines m_dark;
+    Lines m_belowZero;
     Lines m_wider;
     MeasurementList m_list;
     QVector<Problem> m_warnings;
