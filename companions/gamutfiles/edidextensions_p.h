@@ -15,6 +15,12 @@ constexpr int edidBlockSize = 128;
 bool edidChecksumIsRight(const QByteArray &block);
 
 /*!
+ * \brief The first colour by which \a first and \a second differ by more than their digits, with both chromaticities;
+ * empty when there is none.
+ */
+QString chromaticityDifference(const EdidChromaticities &first, const EdidChromaticities &second);
+
+/*!
  * \brief Reads what the extension blocks of an EDID say of colour.
  *
  * Every count and offset is checked against the block it stands in. What is wrong is warned of; the reading goes on
@@ -51,12 +57,15 @@ private:
     void readColorCharacteristics(int revision, const Bytes &payload);
     void readParameters2(const Bytes &payload);
 
+    void setChromaticities(const EdidChromaticities &colors, int byte);
+    void setLuminances(const EdidNativeLuminance &luminances, int byte);
     bool isLongEnough(const Bytes &payload, int size, const QString &name);
     void warn(const QString &text, int byte = -1);
 
     EdidDisplay *m_display = nullptr;
     int m_block = 0;
     int m_blockCount = 0;
+    bool m_hasLuminances = false;
     QVector<Problem> m_warnings;
 };
 
