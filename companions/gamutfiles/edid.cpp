@@ -75,7 +75,7 @@ QVector<Problem> contradictions(const EdidDisplay &display, const EdidChromatici
     if (!display.displayIdChromaticities || !havePrimaries(*display.displayIdChromaticities) || !havePrimaries(base)) {
         return {};
     }
-    const QString difference = chromaticityDifference(base, *display.displayIdChromaticities);
+    const QString difference = EdidExtensions::difference(base, *display.displayIdChromaticities);
     if (difference.isEmpty()) {
         return {};
     }

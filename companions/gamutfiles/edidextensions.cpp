@@ -71,22 +71,19 @@ bool edidChecksumIsRight(const QByteArray &block)
     return quint8(std::accumulate(block.begin(), block.end(), 0)) == 0;
 }
 
-QString chromaticityDifference(const EdidChromaticities &first, const EdidChromaticities &second)
+QString EdidExtensions::difference(const EdidChromaticities &first, const EdidChromaticities &second)
 {
     constexpr double rounding = 0.002; // the ten bits of a base block have steps of 0.001
-    struct Text {
-        Q_DECLARE_TR_FUNCTIONS(gamutfiles::Edid)
-    };
     const struct {
         QPointF EdidChromaticities::*member;
         QString name;
-    } colors[] = {{&EdidChromaticities::red, Text::tr("red")}, {&EdidChromaticities::green, Text::tr("green")},
-        {&EdidChromaticities::blue, Text::tr("blue")}, {&EdidChromaticities::white, Text::tr("white")}};
+    } colors[] = {{&EdidChromaticities::red, tr("red")}, {&EdidChromaticities::green, tr("green")},
+        {&EdidChromaticities::blue, tr("blue")}, {&EdidChromaticities::white, tr("white")}};
     for (const auto &[member, name] : colors) {
         const QPointF a = first.*member;
         const QPointF b = second.*member;
         if (std::fabs(a.x() - b.x()) > rounding || std::fabs(a.y() - b.y()) > rounding) {
-            return Text::tr("%1 at %2, %3 and at %4, %5")
+            return tr("%1 at %2, %3 and at %4, %5")
                 .arg(name)
                 .arg(a.x(), 0, 'f', 4)
                 .arg(a.y(), 0, 'f', 4)
@@ -339,9 +336,9 @@ void EdidExtensions::setChromaticities(const EdidChromaticities &colors, int byt
         m_display->displayIdChromaticities = colors;
         return;
     }
-    const QString difference = chromaticityDifference(*m_display->displayIdChromaticities, colors);
-    if (!difference.isEmpty()) {
-        warn(tr("two data blocks state different gamuts: %1; that of the first is kept").arg(difference), byte);
+    const QString different = difference(*m_display->displayIdChromaticities, colors);
+    if (!different.isEmpty()) {
+        warn(tr("two data blocks state different gamuts: %1; that of the first is kept").arg(different), byte);
     }
 }
 

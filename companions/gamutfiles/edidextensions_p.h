@@ -15,12 +15,6 @@ constexpr int edidBlockSize = 128;
 bool edidChecksumIsRight(const QByteArray &block);
 
 /*!
- * \brief The first colour by which \a first and \a second differ by more than their digits, with both chromaticities;
- * empty when there is none.
- */
-QString chromaticityDifference(const EdidChromaticities &first, const EdidChromaticities &second);
-
-/*!
  * \brief Reads what the extension blocks of an EDID say of colour.
  *
  * Every count and offset is checked against the block it stands in. What is wrong is warned of; the reading goes on
@@ -35,6 +29,12 @@ public:
 
     /*! \brief What was wrong with them, in the order of the file. */
     const QVector<Problem> &warnings() const { return m_warnings; }
+
+    /*!
+     * \brief The first colour by which \a first and \a second differ by more than their digits, with both
+     * chromaticities; empty when there is none.
+     */
+    static QString difference(const EdidChromaticities &first, const EdidChromaticities &second);
 
 private:
     //! Bytes of a block, with where they begin in it.
