@@ -58,6 +58,27 @@ constexpr std::array knownNames{
     KnownName{"画面", ColumnPart::Name},
     KnownName{"测试画面", ColumnPart::Name},
     KnownName{"项目", ColumnPart::Name},
+    KnownName{"dataname", ColumnPart::Name},
+    KnownName{"primary", ColumnPart::Name},
+    KnownName{"nome", ColumnPart::Name},
+    KnownName{"colore", ColumnPart::Name},
+    KnownName{"note", ColumnPart::Note},
+    KnownName{"notes", ColumnPart::Note},
+    KnownName{"remark", ColumnPart::Note},
+    KnownName{"remarks", ColumnPart::Note},
+    KnownName{"comment", ColumnPart::Note},
+    KnownName{"description", ColumnPart::Note},
+    KnownName{"bemerkung", ColumnPart::Note},
+    KnownName{"kommentar", ColumnPart::Note},
+    KnownName{"remarque", ColumnPart::Note},
+    KnownName{"commentaire", ColumnPart::Note},
+    KnownName{"nota", ColumnPart::Note},
+    KnownName{"备注", ColumnPart::Note},
+
+    // CGATS.17 has XYY_Y for the chromaticity; written as xyY the last letter is that of the value.
+    KnownName{"=x=y=Y=x", ColumnPart::x},
+    KnownName{"=x=y=Y=y", ColumnPart::y},
+    KnownName{"=x=y=Y=Y", ColumnPart::Luminance},
     KnownName{"测试项目", ColumnPart::Name},
 
     KnownName{"lv", ColumnPart::Luminance},
@@ -82,6 +103,7 @@ constexpr std::array knownNames{
     KnownName{"cie1931=Y", ColumnPart::Y},
     KnownName{"xyz=Y", ColumnPart::Y},
     KnownName{"tristimulus=Y", ColumnPart::Y},
+    KnownName{"measured=Y", ColumnPart::Y},
     KnownName{"三刺激值=Y", ColumnPart::Y},
 
     KnownName{"=x", ColumnPart::x},
@@ -92,6 +114,7 @@ constexpr std::array knownNames{
     KnownName{"s=x", ColumnPart::x},
     KnownName{"xyy=X", ColumnPart::x},
     KnownName{"chromaticity=x", ColumnPart::x},
+    KnownName{"measured=x", ColumnPart::x},
     KnownName{"=xchromaticity", ColumnPart::x},
     KnownName{"ciexchromaticity", ColumnPart::x},
     KnownName{"farbort=x", ColumnPart::x},
@@ -111,6 +134,7 @@ constexpr std::array knownNames{
     KnownName{"s=y", ColumnPart::y},
     KnownName{"xyy=Y", ColumnPart::y},
     KnownName{"chromaticity=y", ColumnPart::y},
+    KnownName{"measured=y", ColumnPart::y},
     KnownName{"=ychromaticity", ColumnPart::y},
     KnownName{"cieychromaticity", ColumnPart::y},
     KnownName{"farbort=y", ColumnPart::y},
@@ -363,7 +387,7 @@ std::optional<ColumnName> withUnitBehind(const QString &key)
 QString columnPartName(ColumnPart part)
 {
     static const std::array<const char *, columnPartCount> names{
-        "name", "Y", "Y", "x", "y", "u'", "v'", "X", "Z", "cabinet", "row", "column", "number"};
+        "name", "Y", "Y", "x", "y", "u'", "v'", "X", "Z", "cabinet", "row", "column", "number", "name"};
     return QString::fromLatin1(names[std::size_t(part)]);
 }
 

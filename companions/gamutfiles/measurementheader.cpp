@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "colornames_p.h"
 #include "excerpt_p.h"
 #include "measurementreader_p.h"
 #include "numbers_p.h"
@@ -105,13 +106,20 @@ MeasurementReader::Header MeasurementReader::headerOf(const CsvRow &row)
         if (!name || (isLab && isLightness(row.fields.at(i)))) {
             continue;
         }
+        if (name->part == ColumnPart::Note) {
+            header.nameColumns.append(i);
+            continue;
+        }
         const auto part = std::size_t(name->part);
+        if (name->part == ColumnPart::Name) {
+            header.nameColumns.insert(header.nameCount++, i);
+        }
         const bool isLuminance = name->part == ColumnPart::Luminance || name->part == ColumnPart::Y;
         header.luminances += isLuminance ? 1 : 0;
         if (header.columns[part] < 0 || (isLuminance && luminanceRank(*name) > luminanceRank(header.names[part]))) {
             header.columns[part] = i;
             header.names[part] = *name;
-        } else if (!isLuminance && !toldOfDoubled) {
+        } else if (!isLuminance && name->part != ColumnPart::Name && !toldOfDoubled) {
             toldOfDoubled = true;
             header.warnings.append({tr("columns %1 and %2 are both %3: column %1 is read")
                                         .arg(header.columns[part] + 1)
@@ -202,11 +210,40 @@ void MeasurementReader::useHeader(Header header, const CsvRow &row, int firstRow
         --m_width;
     }
     m_headerFields = int(row.fields.size());
+    chooseName(header, row);
     chooseLuminance(header, row);
     m_warnings += header.warnings;
     useColumns(header.columns, row.fields);
     const bool useLuminance = header.columns[std::size_t(ColumnPart::Luminance)] >= 0;
     readUnitRow(header.names[std::size_t(useLuminance ? ColumnPart::Luminance : ColumnPart::Y)]);
+}
+
+//! Of the columns that can name the measurements the one counts that names the most colours.
+void MeasurementReader::chooseName(Header &header, const CsvRow &row)
+{
+    int &name = header.columns[std::size_t(ColumnPart::Name)];
+    int most = 0;
+    for (const int column : std::as_const(header.nameColumns)) {
+        int colors = 0;
+        bool isGap = false; // whether a measurement has no name in this column
+        for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
+            const QStringList &fields = m_table.rows.at(i).fields;
+            const QString text = fields.value(column).trimmed();
+            colors += colorName(text).part == MeasurementPart::None ? 0 : 1;
+            isGap = isGap || (text.isEmpty() && std::count_if(fields.begin(), fields.end(), isNumber) >= 3);
+        }
+        if (colors > most && (column == name || !isGap)) {
+            most = colors;
+            name = column;
+        }
+    }
+    if (most == 0 && header.nameCount > 1) {
+        header.warnings.append({tr("columns %1 and %2 are both %3: column %1 is read")
+                                    .arg(header.nameColumns.at(0) + 1)
+                                    .arg(header.nameColumns.at(1) + 1)
+                                    .arg(columnPartName(ColumnPart::Name)),
+            place(row.line), 0, 0});
+    }
 }
 
 //! Leaves in \a header the column that the luminances are read from, and a Y beside it for X, Y, Z alone.

@@ -31,6 +31,8 @@ private:
     struct Header {
         Columns columns;
         std::array<ColumnName, columnPartCount> names;
+        QVector<int> nameColumns; // those that can name the measurements, remarks behind the others
+        int nameCount = 0; // how many of these are no remarks
         QVector<Problem> warnings; // columns that are not read though they could be meant
         int luminances = 0; // columns that give one
         bool hasOtherObserver = false; // columns of the 10° observer
@@ -47,6 +49,7 @@ private:
     static Header headerOf(const CsvRow &row);
     bool useCommentedHeader();
     void useHeader(Header header, const CsvRow &row, int firstRow);
+    void chooseName(Header &header, const CsvRow &row);
     void chooseLuminance(Header &header, const CsvRow &row);
     void useColumns(const Columns &columns, const QStringList &headers);
     void useCabinets(const Columns &columns, const QStringList &headers);

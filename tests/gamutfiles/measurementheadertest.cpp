@@ -31,6 +31,8 @@ private Q_SLOTS:
     void lineOfUnits();
     void lineOfUnitsBelowUnits();
     void doubledColumn();
+    void columnThatNamesColors();
+    void remarks();
     void namelessLines();
 };
 
@@ -312,6 +314,28 @@ void MeasurementHeaderTest::doubledColumn()
     const QByteArray text = "name,Lv,x,y,CIE x\na,1,0.3,0.3,0.4\n";
     QCOMPARE(readMeasurementList(text)->measurements[0].color->x, 0.3);
     QCOMPARE(otherWarningsOf(text), QStringList{"line 1: columns 3 and 5 are both x: column 3 is read"});
+}
+
+void MeasurementHeaderTest::columnThatNamesColors()
+{
+    const QByteArray text = "Measurement;Label;Lv;x;y\n1;red;200;0,7;0,29\n2;P2;100;0,3;0,3\n";
+    QCOMPARE(namesOf(readMeasurementList(text)->measurements), (QStringList{"red", "P2"}));
+    QVERIFY(otherWarningsOf(text).isEmpty());
+    const QByteArray unknown = QByteArray(text).replace("red", "P1");
+    QCOMPARE(namesOf(readMeasurementList(unknown)->measurements), (QStringList{"1", "2"}));
+    QCOMPARE(otherWarningsOf(unknown), QStringList{"line 1: columns 1 and 2 are both name: column 1 is read"});
+}
+
+void MeasurementHeaderTest::remarks()
+{
+    const QByteArray text = "No.,Lv,x,y,Note\n1,200,0.7,0.29,Red\n2,100,0.3,0.3,again\n";
+    QCOMPARE(namesOf(readMeasurementList(text)->measurements), (QStringList{"Red", "again"}));
+    for (const char *some : {"again", "red"}) { // which name not all
+        const QByteArray text = QByteArray("No.,Lv,x,y,Note\n1,200,0.7,0.29,\n2,100,0.3,0.3,") + some;
+        QCOMPARE(namesOf(readMeasurementList(text)->measurements), (QStringList{"1", "2"}));
+    }
+    const QByteArray named = "Patch,Lv,x,y,Note\nRed,200,0.7,0.29,green\nW,100,0.3,0.3,\n";
+    QCOMPARE(namesOf(readMeasurementList(named)->measurements), (QStringList{"Red", "W"}));
 }
 
 void MeasurementHeaderTest::namelessLines()
