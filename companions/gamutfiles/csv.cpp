@@ -111,7 +111,10 @@ std::optional<QStringList> readRecord(const QString &text, Position &position, Q
             field = quoted ? QString() : field;
             blank = false;
         } else if (c == separator && !quoted) {
-            fields.append(QString());
+            // Spaces that align columns are one separator.
+            if (separator != QLatin1Char(' ') || !blank) {
+                fields.append(QString());
+            }
             blank = true;
         } else {
             field += c;
@@ -120,6 +123,9 @@ std::optional<QStringList> readRecord(const QString &text, Position &position, Q
     }
     ++position.index;
     ++position.line;
+    if (separator == QLatin1Char(' ') && blank && fields.size() > 1) {
+        fields.removeLast();
+    }
     return quoted ? std::nullopt : std::make_optional(fields);
 }
 
@@ -175,6 +181,12 @@ CsvTable readCsv(const QString &raw, std::optional<QChar> separator)
         if (records > most) {
             best = table;
             most = records;
+        }
+    }
+    if (most == 0) {
+        const CsvTable table = readTable(text, begin, QLatin1Char(' '));
+        if (recordsOfNumbers(table) > 0) {
+            return table;
         }
     }
     return most > 0 ? best : readTable(text, begin, separatorOfFirstRecord(text, begin));

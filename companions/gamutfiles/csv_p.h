@@ -32,7 +32,8 @@ struct CsvTable {
  *
  * Fields are separated by \a separator, or else by the character that a first line such as "sep=;" names, or else by
  * tabs, semicolons or commas: the one that finds the most records with three numbers or more. If none finds any it is
- * the first of the three, in this order, that the first record has outside of quotes.
+ * the space if this does, any number of them counting as one; otherwise the first of the three, in this order, that the
+ * first record has outside of quotes.
  */
 CsvTable readCsv(const QString &text, std::optional<QChar> separator = {});
 
