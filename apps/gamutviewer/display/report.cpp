@@ -2,6 +2,7 @@
 #include "display/report.h"
 
 #include "display/assessment.h"
+#include "display/chromaticity.h"
 #include "display/gamutfiles.h"
 
 #include <ceiechart/diagram/whitepoint.h>
@@ -129,9 +130,7 @@ QString colorName(ceiechart::GamutVertex vertex)
 
 QString primaryName(Model::Primary primary)
 {
-    return colorName(primary == Model::Primary::Red ? ceiechart::GamutVertex::Red
-            : primary == Model::Primary::Green      ? ceiechart::GamutVertex::Green
-                                                    : ceiechart::GamutVertex::Blue);
+    return colorName(vertexOf(primary));
 }
 
 QString subjectName(AssessmentLine::Subject subject)

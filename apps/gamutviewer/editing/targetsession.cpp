@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "editing/targetsession.h"
 
-#include "display/assessment.h"
+#include "display/knowndisplay.h"
 #include "display/valuetexts.h"
 #include "editing/document.h"
 
 #include <ceiechart/diagram/whitepoint.h>
+#include <gamutmodel/drive.h>
 #include <gamutmodel/nearestinside.h>
 
 #include <QCoreApplication>
