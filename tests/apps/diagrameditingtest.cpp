@@ -24,6 +24,7 @@ private Q_SLOTS:
     void theFirstDragKeepsTheHandleUnderThePointer();
     void theFirstKeyStepKeepsTheDiagram();
     void panelAndVerdictFollowADrag();
+    void noteTellsWhatThePrimaryIsOutsideOf();
     void escapeCancelsADrag();
     void undoInADragEndsIt();
     void arrowKeysMove();
@@ -114,6 +115,33 @@ void DiagramEditingTest::panelAndVerdictFollowADrag()
     QCOMPARE(verdict->accessibleName(), verdict->text());
     QCOMPARE(f.window->panel()->editor()->firstCoordinate(Vertex::Green)->value(), f.xy(Vertex::Green).x());
     QVERIFY(view(f)->editNote().contains(QLatin1String("outside")));
+    pointer.release(QPointF(0.10, 0.78));
+}
+
+void DiagramEditingTest::noteTellsWhatThePrimaryIsOutsideOf()
+{
+    WindowFixture f;
+    DisplayDescription d = f.document().description();
+    // The meter has seen less green than the original has.
+    Model::Targets measured = d.gamut(d.original)->getTargets();
+    measured.green = Model::Target::fromYxy(measured.green.Y, 0.25, 0.65);
+    d.gamuts.emplace_back(Model::ColorGamut("Meter", measured), LuminanceUnit::CandelaPerSquareMetre);
+    d.measured = QStringLiteral("Meter");
+    d.target = d.original;
+    f.window->setDescription(d, QString());
+    DiagramPointer pointer(view(f));
+    pointer.press(f.xy(Vertex::Green));
+    const auto noteAt = [&](const QPointF &xy) {
+        pointer.move(xy);
+        return view(f)->editNote();
+    };
+    const QString inside = noteAt(QPointF(0.26, 0.62));
+    QVERIFY2(inside.isEmpty(), qPrintable(inside));
+    const QString measuredNote = noteAt(QPointF(0.22, 0.68));
+    QVERIFY2(measuredNote.startsWith(QLatin1String("outside of the measured gamut by ")), qPrintable(measuredNote));
+    QVERIFY(f.window->panel()->verdict()->text().contains(QLatin1String("Green lies outside of the measured gamut")));
+    const QString originalNote = noteAt(QPointF(0.10, 0.78));
+    QVERIFY2(originalNote.startsWith(QLatin1String("outside of the original by ")), qPrintable(originalNote));
     pointer.release(QPointF(0.10, 0.78));
 }
 

@@ -34,11 +34,6 @@ QString judgementName(Judgement judgement);
 /*! \brief Drives up to this count as full: the four decimals of a white point leave about 0.001 open. */
 constexpr double fullDrive = 1.002;
 
-/*! \brief By which part the luminance of an additive display's white may differ from the sum of its primaries. */
-constexpr double additiveLuminance = 0.02;
-/*! \brief By how much, in Δu′v′, the white of an additive display may differ from the mixture of its primaries. */
-constexpr double additiveUv = 0.003;
-
 /*! \brief One judgement with what it means and what to do about it. */
 struct AssessmentLine {
     /*! \brief What is judged. */

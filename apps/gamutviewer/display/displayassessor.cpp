@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/displayassessor.h"
 
+#include "display/additivity.h"
 #include "display/assessmenttexts.h"
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
@@ -46,32 +47,6 @@ QString otherTarget(const DisplayDescription &description)
         }
     }
     return best;
-}
-
-//! A display whose white is held against the mixture of its primaries.
-struct Additivity {
-    Model::Target sum; //!< of the primaries
-    bool isAdditive = false; //!< whether the white is that sum
-    bool isUpperBound = false; //!< whether the display shows no more than the sum: no primary is brighter in the white
-    bool differsInLuminance = false; //!< whether the luminance is what is not additive
-};
-
-//! Of \a drive, which has no fault, with the colours of \a display.
-Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Targets &display)
-{
-    Additivity result;
-    const auto sum = drive.lightAt({1.0, 1.0, 1.0});
-    if (!sum) {
-        return result;
-    }
-    result.sum = *sum;
-    constexpr double rounding = 1e-9;
-    result.differsInLuminance = !(std::fabs(display.white.Y - sum->Y) <= sum->Y * (additiveLuminance + rounding));
-    const auto difference = Model::uvDifference(display.white, *sum);
-    result.isAdditive = !result.differsInLuminance && difference && *difference <= additiveUv + rounding;
-    const auto white = drive.driveOf(display.white);
-    result.isUpperBound = result.isAdditive || (white && highest(*white) <= 1.0 + additiveLuminance + rounding);
-    return result;
 }
 
 //! Makes the lines of what the display can show.

@@ -58,6 +58,19 @@ double distanceOutside(const Model::Targets &target, Vertex primary, const Model
     return nearest ? nearest->distance : std::numeric_limits<double>::infinity();
 }
 
+std::optional<OutsideOf> outsideOf(const DisplayDescription &description, Vertex primary)
+{
+    const auto target = description.gamut(description.target);
+    for (const KnownDisplay &display : knownDisplays(description)) {
+        const double distance
+            = target ? distanceOutside(target->getTargets(), primary, display.gamut.getTargets()) : 0.0;
+        if (distance > 0.0) {
+            return OutsideOf{display, distance};
+        }
+    }
+    return std::nullopt;
+}
+
 bool luminancesCompare(LuminanceUnit a, LuminanceUnit b)
 {
     // The scales of two relative ones need not be the same: 100 here can be 1 there.

@@ -41,6 +41,18 @@ std::optional<KnownDisplay> exceededDisplay(const DisplayDescription &descriptio
  */
 double distanceOutside(const Model::Targets &target, ceiechart::GamutVertex primary, const Model::Targets &display);
 
+/*! \brief A gamut of the display that a primary lies outside of. */
+struct OutsideOf {
+    KnownDisplay display; //!< the gamut
+    double distance = 0.0; //!< by how much: distanceOutside()
+};
+
+/*!
+ * \brief The first of knownDisplays() that \a primary of the target lies outside of; nothing without such a one, and
+ * without a target.
+ */
+std::optional<OutsideOf> outsideOf(const DisplayDescription &description, ceiechart::GamutVertex primary);
+
 /*! \brief Whether luminances in the units \a a and \a b can be compared: both are in cd/m². */
 bool luminancesCompare(LuminanceUnit a, LuminanceUnit b);
 

@@ -144,8 +144,8 @@ void TargetEditor::buildHeader(QGridLayout *grid)
             m_luminanceUnit->count() - 1, tr("Luminance: %1").arg(luminanceUnitText(unit)), Qt::ToolTipRole);
     }
     m_luminanceUnit->setToolTip(
-        tr("Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display reaches; "
-           "from cd/m² to relative, it becomes 1."));
+        tr("Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display is "
+           "known to reach; from cd/m² to relative, it becomes 1."));
     grid->addWidget(m_luminanceUnit, 0, column);
 }
 
