@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "columnnames_p.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <QVector>
 
@@ -11,6 +12,10 @@
 namespace gamutfiles {
 
 namespace {
+
+struct ColumnText {
+    Q_DECLARE_TR_FUNCTIONS(gamutfiles::ColumnNames)
+};
 
 //! Longer headers name no column.
 constexpr int longestHeader = 100;
@@ -386,9 +391,35 @@ std::optional<ColumnName> withUnitBehind(const QString &key)
 
 QString columnPartName(ColumnPart part)
 {
-    static const std::array<const char *, columnPartCount> names{
-        "name", "Y", "Y", "x", "y", "u'", "v'", "X", "Z", "cabinet", "row", "column", "number", "name"};
-    return QString::fromLatin1(names[std::size_t(part)]);
+    switch (part) {
+    case ColumnPart::Name:
+    case ColumnPart::Note:
+        return ColumnText::tr("name", "column of a measurement list");
+    case ColumnPart::Cabinet:
+        return ColumnText::tr("cabinet", "column of a measurement list");
+    case ColumnPart::Row:
+        return ColumnText::tr("row", "column of a measurement list");
+    case ColumnPart::Column:
+        return ColumnText::tr("column", "column of a measurement list");
+    case ColumnPart::Number:
+        return ColumnText::tr("number", "column of a measurement list");
+    case ColumnPart::Luminance:
+    case ColumnPart::Y:
+        return QStringLiteral("Y");
+    case ColumnPart::x:
+        return QStringLiteral("x");
+    case ColumnPart::y:
+        return QStringLiteral("y");
+    case ColumnPart::u:
+        return QStringLiteral("u'");
+    case ColumnPart::v:
+        return QStringLiteral("v'");
+    case ColumnPart::X:
+        return QStringLiteral("X");
+    case ColumnPart::Z:
+        return QStringLiteral("Z");
+    }
+    return {};
 }
 
 std::optional<ColumnName> columnName(const QString &text)

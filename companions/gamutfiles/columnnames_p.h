@@ -29,7 +29,7 @@ enum class ColumnPart {
 };
 constexpr int columnPartCount = 14; //!< how many there are
 
-/*! \brief How a column is called in messages. */
+/*! \brief How a column is called in messages, in their language. */
 QString columnPartName(ColumnPart part);
 
 /*! \brief What the header of a column says. */

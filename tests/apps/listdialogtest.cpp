@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "givenfiles.h"
 
+#include "program/interfacetranslations.h"
 #include "window/listdialog.h"
 #include "window/recentfiles.h"
 
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void cabinetIsChosen();
     void listsAreAskedAbout();
     void listOfTwoReadingsIsAskedAbout();
+    void columnsAreNamedInTheLanguageOfTheWindow();
     void canceledListIsNotOpened();
 };
 
@@ -129,6 +131,21 @@ void ListDialogTest::listOfTwoReadingsIsAskedAbout()
     QVERIFY(f.window->openPath(file));
     QVERIFY(answer.isAsked());
     QVERIFY(!f.document().description().measurePoints.isEmpty());
+}
+
+void ListDialogTest::columnsAreNamedInTheLanguageOfTheWindow()
+{
+    installInterfaceTranslations(QLocale(QLocale::Chinese, QLocale::China));
+    WindowFixture f;
+    QString preview;
+    const ListAnswer answer([&](const ListDialog *dialog) { preview = dialog->preview()->toPlainText(); });
+    f.window->openPath(writeFile(f.settings, QStringLiteral("meter.csv"),
+        "cabinet,row,column,name,Y (lux),x,y\nA,1,1,red,190,0.69,0.30\nA,1,1,green,600,0.2,0.7\n"));
+    QVERIFY(answer.isAsked());
+    for (const char *name : {"箱体", "行", "列", "名称"}) {
+        QVERIFY2(preview.contains(QString::fromUtf8("%1 在第").arg(QString::fromUtf8(name))), qPrintable(preview));
+    }
+    installInterfaceTranslations(QLocale(QLocale::English));
 }
 
 void ListDialogTest::canceledListIsNotOpened()

@@ -2,6 +2,34 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>gamutfiles::ColumnNames</name>
+    <message>
+        <source>name</source>
+        <comment>column of a measurement list</comment>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>cabinet</source>
+        <comment>column of a measurement list</comment>
+        <translation>箱体</translation>
+    </message>
+    <message>
+        <source>row</source>
+        <comment>column of a measurement list</comment>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>column</source>
+        <comment>column of a measurement list</comment>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <comment>column of a measurement list</comment>
+        <translation>编号</translation>
+    </message>
+</context>
+<context>
     <name>gamutfiles::DescriptionReader</name>
     <message>
         <source>is too large for a display description (more than %1 KiB)</source>
