@@ -51,7 +51,7 @@ QString nameFor(const DisplayDescription &description, const DisplayGamut &gamut
         if (isSame && mayBeSame && sameNumbers.isEmpty()) {
             sameNumbers = name;
         }
-        name = QStringLiteral("%1 (%2)").arg(wantedName(gamut)).arg(number);
+        name = QStringLiteral("%1 (%2)").arg(wantedName(gamut), QString::number(number));
     }
     return sameNumbers.isEmpty() ? name : sameNumbers;
 }

@@ -7,6 +7,7 @@
 #include "editing/gamutparts.h"
 #include "editing/targetsession.h"
 #include "panel/coordinatepair.h"
+#include "panel/plaintooltip.h"
 
 #include <gamutmodel/publishedgamuts.h>
 
@@ -230,7 +231,7 @@ void TargetEditor::refresh()
     const GamutPart shownTarget{
         ceiechart::GamutRole::Target, target.value_or(Model::ColorGamut()), m_session->document()->targetIsDefault()};
     m_name->setText(target ? shownTarget.name() : tr("No target"));
-    m_name->setToolTip(m_name->text());
+    m_name->setToolTip(plainToolTip(m_name->text()));
     m_firstHeader->setText(showsUv() ? tr("u′") : tr("x"));
     m_secondHeader->setText(showsUv() ? tr("v′") : tr("y"));
     const Model::Targets targets = target ? target->getTargets() : Model::Targets();
