@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "display/knowndisplay.h"
 #include "editing/document.h"
+#include "display/knowndisplay.h"
 #include "editing/targetsession.h"
 
 #include <gamutmodel/drive.h>
