@@ -81,20 +81,6 @@ inline QImage pixels(Picture picture, const QSize &size, bool withKey, qreal rat
     return pixelsOf(picture, {size, ratio});
 }
 
-/*! Where two pictures of the same size differ. */
-inline QRect difference(const QImage &a, const QImage &b)
-{
-    QRect changed;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            if (a.pixel(x, y) != b.pixel(x, y)) {
-                changed |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return changed;
-}
-
 inline QStringList textsOf(const QByteArray &svg)
 {
     QStringList texts;

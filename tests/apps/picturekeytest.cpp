@@ -36,7 +36,7 @@ void PictureKeyTest::keyStandsOnFreeGround()
     picture.content.layers.setFlag(DiagramLayer::Grid, false);
     const QImage without = pixels(picture, size, false);
     const QImage with = pixels(picture, size, true);
-    const QRect key = difference(with, without);
+    const QRect key = reference::changedPixels(with, without);
     QVERIFY(key.width() > 100 && key.height() > 60);
     QVERIFY(QRect(QPoint(), size).adjusted(4, 4, -4, -4).contains(key));
     for (int y = key.top(); y <= key.bottom(); ++y) {
@@ -82,7 +82,7 @@ void PictureKeyTest::keyOnDarkGround()
     Picture picture = sample();
     picture.content.ground = ceiechart::DiagramGround::Dark;
     const QImage with = pixels(picture, size, true);
-    const QRect key = difference(with, pixels(picture, size, false));
+    const QRect key = reference::changedPixels(with, pixels(picture, size, false));
     QVERIFY(key.isValid());
     int light = 0;
     for (int y = key.top(); y <= key.bottom(); ++y) {
@@ -146,7 +146,7 @@ void PictureKeyTest::longNamesFitIntoTheKey()
     picture.content.layers.setFlag(DiagramLayer::Names, false);
     const QSize size(800, 800);
     QVERIFY(!lacksRoomForKey(picture, size));
-    const QRect key = difference(pixels(picture, size, true), pixels(picture, size, false));
+    const QRect key = reference::changedPixels(pixels(picture, size, true), pixels(picture, size, false));
     QVERIFY(QRect(QPoint(), size).adjusted(4, 4, -4, -4).contains(key));
     const QStringList texts = textsOf(exported(picture, PictureFormat::Svg, {size, 1.0}));
     QVERIFY(!texts.filter(QRegularExpression(QStringLiteral("^The wall m+…m+ of the stage$"))).isEmpty());
