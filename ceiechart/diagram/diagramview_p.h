@@ -131,6 +131,8 @@ public:
 
     // Hands
     std::optional<GamutVertex> handleAt(const QPointF &position) const;
+    //! The handle that the pointer is over; that which it has hold of stays the one.
+    std::optional<GamutVertex> handleBelowPointer() const;
     QPointF positionOf(GamutVertex vertex) const;
     void press(const QPointF &position, Qt::MouseButton button);
     void moveTo(const QPointF &position, Qt::KeyboardModifiers modifiers);
