@@ -252,4 +252,13 @@ std::optional<double> commonFullLevel(const QVector<ColorLevel> &levels)
     return std::nullopt;
 }
 
+MeasurementPart playedPart(const ColorName &name, const std::optional<double> &common)
+{
+    const std::optional<double> full = name.level && name.level->full ? name.level->full : common;
+    const bool isFull = !name.level || (full && name.level->value == *full);
+    // "5000 K" is a colour temperature.
+    const bool plays = name.part == MeasurementPart::Black ? !name.level || name.level->value == 0.0 : isFull;
+    return plays ? name.part : MeasurementPart::None;
+}
+
 } // namespace gamutfiles

@@ -37,6 +37,12 @@ ColorName colorName(const QString &name);
  */
 std::optional<double> commonFullLevel(const QVector<ColorLevel> &levels);
 
+/*!
+ * \brief The part that the measurement called \a name plays: that of its colour at the full level, that of black at
+ * level 0. \a common is the full level of the levels without a stated one, if it is known.
+ */
+MeasurementPart playedPart(const ColorName &name, const std::optional<double> &common);
+
 } // namespace gamutfiles
 
 #endif

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/measurementlist.h>
 
+#include "cabinetkey_p.h"
+
 #include <gamutfiles/displaywall.h>
 
 #include <gamutmodel/gamutcoverage.h>
@@ -21,12 +23,6 @@ using GamutIndices = std::array<int, 4>;
 bool isOfSameCabinet(const Measurement &a, const Measurement &b)
 {
     return a.cabinet == b.cabinet && a.row == b.row && a.column == b.column;
-}
-
-QString cabinetKey(const Measurement &measurement)
-{
-    const auto number = [](const std::optional<int> &value) { return value ? QString::number(*value) : QString(); };
-    return measurement.cabinet + QChar(0) + number(measurement.row) + QChar(0) + number(measurement.column);
 }
 
 bool hasOneCabinet(const QVector<Measurement> &measurements)

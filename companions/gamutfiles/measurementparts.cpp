@@ -59,13 +59,9 @@ void MeasurementReader::assignByName()
     for (int i = 0; i < names.size(); ++i) {
         const ColorName &name = names.at(i);
         Measurement &measurement = m_list.measurements[i];
-        const std::optional<double> full = name.level && name.level->full ? name.level->full : common;
-        const bool isFull = !name.level || (full && name.level->value == *full);
-        const bool isBlack = name.part == MeasurementPart::Black;
-        // "5000 K" is a colour temperature.
-        const bool plays = isBlack ? !name.level || name.level->value == 0.0 : isFull;
-        measurement.part = plays ? name.part : MeasurementPart::None;
-        if (!isBlack && name.level && !full && !toldOfScale) {
+        measurement.part = playedPart(name, common);
+        const bool isScaleKnown = common || (name.level && name.level->full);
+        if (name.part != MeasurementPart::Black && name.level && !isScaleKnown && !toldOfScale) {
             warn(tr("the full level of \"%1\" is not known: no level without a unit is taken as the full one")
                      .arg(excerpt(measurement.name)),
                 place(measurement.line));
@@ -105,15 +101,18 @@ bool MeasurementReader::chooseCabinet()
     return true;
 }
 
+bool MeasurementReader::answersTo(const Measurement &measurement, const MeasurementChoice &choice)
+{
+    return choice.line > 0 ? measurement.line == choice.line
+                           : measurement.name.compare(choice.name.trimmed(), Qt::CaseInsensitive) == 0;
+}
+
 bool MeasurementReader::choose(const MeasurementChoice &choice, MeasurementPart part)
 {
     if (choice.isEmpty()) {
         return true;
     }
-    const auto isChosen = [&choice](const Measurement &measurement) {
-        return choice.line > 0 ? measurement.line == choice.line
-                               : measurement.name.compare(choice.name.trimmed(), Qt::CaseInsensitive) == 0;
-    };
+    const auto isChosen = [&choice](const Measurement &measurement) { return answersTo(measurement, choice); };
     QVector<Measurement> &all = m_list.measurements;
     const auto chosen = std::find_if(all.constBegin(), all.constEnd(), isChosen);
     if (chosen == all.constEnd()) {

@@ -26,7 +26,7 @@ public:
     /*! \brief The list in \a bytes. To be called once. */
     Outcome<MeasurementList> read(const QByteArray &bytes);
 
-private:
+protected: // for lists that are still being written
     using Columns = std::array<int, columnPartCount>; // index of each part's column, -1: there is none
     struct Header {
         Columns columns;
@@ -43,6 +43,7 @@ private:
     bool findColumns();
     bool decideDecimalSign();
     bool readRows();
+    bool takeRow(const CsvRow &row);
     bool assignParts();
     bool checkGamut();
 
@@ -60,7 +61,7 @@ private:
     bool isOtherHeader(const CsvRow &row) const;
     void warnOfUnits(const ColumnName &luminance, const QString &where);
 
-    void findNoise();
+    void findNoise(const CsvRow &row);
     ColumnPart luminancePart() const;
     std::optional<Measurement> readRow(const CsvRow &row);
     bool readColor(const CsvRow &row, Measurement &measurement);
@@ -79,6 +80,7 @@ private:
     void assignByName();
     bool chooseCabinet();
     void warnOfCabinets(const QVector<CabinetMeasurements> &cabinets);
+    static bool answersTo(const Measurement &measurement, const MeasurementChoice &choice);
     bool choose(const MeasurementChoice &choice, MeasurementPart part);
     void warnOfParts(const MeasurementList &list, const QString &where);
 

@@ -92,40 +92,13 @@ bool MeasurementReader::decideDecimalSign()
 
 bool MeasurementReader::readRows()
 {
-    findNoise();
     for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
-        const CsvRow &row = m_table.rows.at(i);
-        const auto isEmpty = [](const QString &text) { return text.trimmed().isEmpty(); };
-        if (std::all_of(row.fields.begin(), row.fields.end(), isEmpty)) {
-            continue;
-        }
-        if (isRepeatedHeader(row)) {
-            m_repeatedHeaders.add(row.line);
-            continue;
-        }
-        if (isOtherHeader(row)) {
-            return fail(tr("names other columns than line %1: divide the list here").arg(m_list.recognized.headerLine),
-                place(row.line));
-        }
-        if (std::all_of(m_numberParts.begin(), m_numberParts.end(),
-                [&](ColumnPart part) { return isNotMeasured(given(row, part)); })) {
-            m_withoutNumbers.add(row.line);
-            continue;
-        }
-        if (m_width > 0
-            && !std::all_of(
-                row.fields.begin() + std::min(m_width, int(row.fields.size())), row.fields.end(), isEmpty)) {
-            m_wider.add(row.line);
-        }
-        const auto measurement = readRow(row);
-        if (!measurement) {
+        findNoise(m_table.rows.at(i));
+    }
+    for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
+        if (!takeRow(m_table.rows.at(i))) {
             return false;
         }
-        if (isDivided(row, *measurement)) {
-            return fail(
-                tr("the separator seems to divide numbers: quote them or use another separator"), place(row.line));
-        }
-        m_list.measurements.append(*measurement);
     }
     if (m_list.measurements.isEmpty()) {
         return fail(tr("contains no measurements"));
@@ -134,23 +107,60 @@ bool MeasurementReader::readRows()
     return true;
 }
 
-//! What a column can have below 0 by the noise of an instrument is judged by its largest number.
-void MeasurementReader::findNoise()
+/*
+ * What a column can have below 0 by the noise of an instrument is judged by its largest number: of the whole list, or as
+ * far as it has been written.
+ */
+void MeasurementReader::findNoise(const CsvRow &row)
 {
     constexpr double noise = 0.001;
     constexpr double leastNoise = 0.01; // cd/m², which few instruments resolve
+    const auto raise = [this](ColumnPart part, double to) {
+        double &present = m_noise[std::size_t(part)];
+        present = std::max(present, to);
+    };
     for (const ColumnPart part : {luminancePart(), ColumnPart::Y}) {
-        double largest = 0.0;
-        for (int i = m_firstRow; i < m_table.rows.size() && has(part); ++i) {
-            const auto read = readNumber(given(m_table.rows.at(i), part), m_decimalSign);
-            largest = std::max(largest, read ? read->value : 0.0);
-        }
-        m_noise[std::size_t(part)] = noise * largest;
+        const auto read = has(part) ? readNumber(given(row, part), m_decimalSign) : std::nullopt;
+        raise(part, read ? noise * read->value : 0.0);
     }
     if (m_list.unit == LuminanceUnit::CandelaPerSquareMetre) {
-        double &least = m_noise[std::size_t(luminancePart())];
-        least = std::max(least, leastNoise / m_luminanceScale);
+        raise(luminancePart(), leastNoise / m_luminanceScale);
     }
+}
+
+//! Adds what \a row measures, if anything, to the list.
+bool MeasurementReader::takeRow(const CsvRow &row)
+{
+    const auto isEmpty = [](const QString &text) { return text.trimmed().isEmpty(); };
+    if (std::all_of(row.fields.begin(), row.fields.end(), isEmpty)) {
+        return true;
+    }
+    if (isRepeatedHeader(row)) {
+        m_repeatedHeaders.add(row.line);
+        return true;
+    }
+    if (isOtherHeader(row)) {
+        return fail(tr("names other columns than line %1: divide the list here").arg(m_list.recognized.headerLine),
+            place(row.line));
+    }
+    if (std::all_of(m_numberParts.begin(), m_numberParts.end(),
+            [&](ColumnPart part) { return isNotMeasured(given(row, part)); })) {
+        m_withoutNumbers.add(row.line);
+        return true;
+    }
+    if (m_width > 0
+        && !std::all_of(row.fields.begin() + std::min(m_width, int(row.fields.size())), row.fields.end(), isEmpty)) {
+        m_wider.add(row.line);
+    }
+    const auto measurement = readRow(row);
+    if (!measurement) {
+        return false;
+    }
+    if (isDivided(row, *measurement)) {
+        return fail(tr("the separator seems to divide numbers: quote them or use another separator"), place(row.line));
+    }
+    m_list.measurements.append(*measurement);
+    return true;
 }
 
 /*

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTFILES_LATESTMEASUREMENTS_H
+#define GAMUTFILES_LATESTMEASUREMENTS_H
+
+#include <gamutfiles/gamutfiles_export.h>
+#include <gamutfiles/measurementlist.h>
+
+#include <QVector>
+
+#include <memory>
+
+namespace gamutfiles {
+
+/*! \brief As many colours are kept as points. */
+constexpr int mostLatestPoints = 256;
+/*! \brief The colours of a gamut are kept of as many cabinets. */
+constexpr int mostLatestCabinets = 10000;
+
+/*!
+ * \brief What a measurement that goes on has come to: of every colour the measurement that came last.
+ *
+ * Colours are the same if they play the same part, or have the same name, in the same cabinet; without a name every
+ * measurement is a colour of its own. Red, green, blue, white and black are kept of each cabinet, and the last
+ * mostLatestPoints colours of any kind. Of more cabinets than mostLatestCabinets those are forgotten that were
+ * measured the longest ago.
+ */
+class GAMUTFILES_EXPORT LatestMeasurements {
+public:
+    /*! \param whiteIsSum whether a missing white is the sum of red, green and blue */
+    explicit LatestMeasurements(bool whiteIsSum = false);
+    ~LatestMeasurements();
+
+    /*! \brief The unit of what is added from now on. Measurements in another unit are forgotten. */
+    void setUnit(LuminanceUnit unit);
+    /*!
+     * \brief Adds \a measurement, the last for now.
+     *
+     * A primary or a white without a chromaticity, as of an instrument that was in the dark, takes no one's place.
+     */
+    void add(const Measurement &measurement);
+    /*! \brief Forgets everything but the unit. */
+    void clear();
+
+    /*!
+     * \brief What there is to show: the gamut of one cabinet, and the last colours that do not belong to it as points,
+     * the oldest first.
+     *
+     * The cabinet is the one that was measured last among those that have a gamut, or else among all. The measurements
+     * name no cabinet, as they are shown together; the name of a point begins with that of its cabinet.
+     */
+    MeasurementList list() const;
+    /*!
+     * \brief Red, green, blue, white and black of each cabinet, as far as they have been measured, in the order in
+     * which the cabinets were measured last; empty when no measurement names a cabinet.
+     */
+    QVector<CabinetMeasurements> cabinets() const;
+
+    int pointCount() const; //!< colours that are kept as points
+    int cabinetCount() const; //!< cabinets that are kept; without names of cabinets there is one
+
+private:
+    Q_DISABLE_COPY(LatestMeasurements)
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace gamutfiles
+
+#endif // GAMUTFILES_LATESTMEASUREMENTS_H

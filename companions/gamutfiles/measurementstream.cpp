@@ -1,0 +1,450 @@
+// SPDX-License-Identifier: MIT
+#include <gamutfiles/measurementstream.h>
+
+#include "colornames_p.h"
+#include "linesplitter_p.h"
+#include "measurementreader_p.h"
+#include "numbers_p.h"
+#include "textencoding_p.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace gamutfiles {
+
+namespace {
+
+struct StreamText {
+    Q_DECLARE_TR_FUNCTIONS(gamutfiles::MeasurementStream)
+};
+
+//! A line of text.
+struct NumberedLine {
+    qint64 number = 0; //!< from 1
+    QString text;
+};
+
+bool isAscii(const QByteArray &bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return uchar(c) < 0x80; });
+}
+
+//! Whether a first line such as "sep=;" names the separator of those that follow.
+bool namesSeparator(const QString &line)
+{
+    return line.startsWith(QLatin1String("sep="), Qt::CaseInsensitive);
+}
+
+MeasurementOptions usable(MeasurementOptions options)
+{
+    if (options.decimalSign && *options.decimalSign != QLatin1Char('.') && *options.decimalSign != QLatin1Char(',')) {
+        options.decimalSign.reset();
+    }
+    return options;
+}
+
+} // namespace
+
+/*! \brief The lines below one header, read as they come by the steps that read a whole list. */
+class StreamRows : public MeasurementReader {
+public:
+    using MeasurementReader::MeasurementReader;
+
+    //! Finds the header in \a lines; false where there is none, or where what follows it is wanting.
+    bool begin(const QVector<NumberedLine> &lines);
+    //! Whether \a line is a header by itself.
+    bool isHeader(const NumberedLine &line);
+    //! Reads \a row, or else the rows that it decides how to read. What cannot be read is told to \a refuse.
+    template <typename Refuse>
+    QVector<Measurement> take(const CsvRow &row, const Refuse &refuse);
+    //! The rows that no later one can decide any more are refused.
+    template <typename Refuse>
+    void refuseHeld(const Refuse &refuse);
+
+    QChar separator() const { return m_table.separator; }
+    const Problem &failure() const { return m_failure; }
+    const QVector<Problem> &warnings() const { return m_warnings; }
+    LuminanceUnit unit() const { return m_list.unit; }
+    const MeasurementRecognition &recognized() const { return m_list.recognized; }
+    int heldRows() const { return int(m_held.size()); }
+    //! The rows below the header that begin() was given.
+    QVector<CsvRow> takeFirstRows() { return std::exchange(m_firstRows, {}); }
+
+    static QString placeOf(qint64 line) { return place(int(line)); }
+    static bool isChosen(const Measurement &measurement, const MeasurementChoice &choice)
+    {
+        return answersTo(measurement, choice);
+    }
+
+private:
+    bool contradictsItself(const CsvRow &row) const;
+    template <typename Refuse>
+    void read(const CsvRow &row, QVector<Measurement> &found, const Refuse &refuse);
+
+    QVector<CsvRow> m_firstRows;
+    QVector<CsvRow> m_held; // until the decimal sign is known
+};
+
+bool StreamRows::begin(const QVector<NumberedLine> &lines)
+{
+    QString text;
+    for (const NumberedLine &line : lines) {
+        text += line.text + QLatin1Char('\n');
+    }
+    m_table = readCsv(text, m_options.separator);
+    for (CsvRow &row : m_table.rows) {
+        row.line = int(lines.at(row.line - 1).number);
+    }
+    if (m_table.rows.isEmpty() || !findColumns()) {
+        return false;
+    }
+    MeasurementRecognition &recognized = m_list.recognized;
+    recognized.separator = m_table.separator;
+    const CsvRow &last = m_table.rows.last();
+    const auto isNumber
+        = [&last](int field) { return decimalEvidence(last.fields.value(field)) != DecimalEvidence::NotANumber; };
+    // A line below the header may tell the units. Without a header anything may precede the first measurement.
+    if (recognized.headerLine > 0 ? last.line <= recognized.headerLine : !isNumber(1) || !isNumber(2) || !isNumber(3)) {
+        return fail(StreamText::tr("the header and the first measurement are awaited"));
+    }
+    m_decimalSign = m_options.decimalSign.value_or(m_decimalSign);
+    m_firstRows = m_table.rows.mid(m_firstRow);
+    m_table.rows.clear();
+    m_firstRow = 0;
+    return true;
+}
+
+bool StreamRows::isHeader(const NumberedLine &line)
+{
+    m_table = readCsv(line.text, m_options.separator);
+    return m_table.rows.size() == 1 && findColumns() && m_list.recognized.headerLine > 0;
+}
+
+//! Whether \a row has both decimal points and decimal commas.
+bool StreamRows::contradictsItself(const CsvRow &row) const
+{
+    const auto has = [&](DecimalEvidence evidence) {
+        return std::any_of(m_numberParts.begin(), m_numberParts.end(),
+            [&](ColumnPart part) { return decimalEvidence(given(row, part)) == evidence; });
+    };
+    return has(DecimalEvidence::Point) && has(DecimalEvidence::Comma);
+}
+
+template <typename Refuse>
+QVector<Measurement> StreamRows::take(const CsvRow &row, const Refuse &refuse)
+{
+    QVector<Measurement> found;
+    if (m_list.recognized.decimalSign || m_options.decimalSign) {
+        read(row, found, refuse);
+        return found;
+    }
+    m_failure = Problem();
+    m_table.rows = {row};
+    if (contradictsItself(row)) {
+        decideDecimalSign();
+        refuse(row.line, m_failure);
+        return found;
+    }
+    m_held.append(row);
+    m_table.rows = m_held;
+    if (decideDecimalSign()) {
+        for (const CsvRow &held : std::exchange(m_held, {})) {
+            read(held, found, refuse);
+        }
+    } else if (m_held.size() >= maximumHeldLines) {
+        refuseHeld(refuse);
+    }
+    m_table.rows.clear();
+    return found;
+}
+
+template <typename Refuse>
+void StreamRows::refuseHeld(const Refuse &refuse)
+{
+    for (const CsvRow &held : std::exchange(m_held, {})) {
+        refuse(held.line, m_failure);
+    }
+}
+
+template <typename Refuse>
+void StreamRows::read(const CsvRow &row, QVector<Measurement> &found, const Refuse &refuse)
+{
+    m_failure = Problem();
+    m_withoutNumbers = Lines();
+    m_list.measurements.clear();
+    findNoise(row);
+    if (!takeRow(row)) {
+        refuse(row.line, m_failure);
+    } else if (m_withoutNumbers.count > 0) {
+        refuse(row.line, Problem{StreamText::tr("has no numbers"), place(row.line), 0, 0});
+    }
+    found += m_list.measurements;
+}
+
+class MeasurementStream::Private {
+public:
+    explicit Private(const MeasurementOptions &asked)
+        : options(usable(asked))
+        , splitter(options.encoding, maximumStreamLineBytes)
+    {
+    }
+
+    void takeLine(const StreamLine &line);
+    void takeText(const NumberedLine &line);
+    void takeRow(const CsvRow &row, const NumberedLine &line);
+    bool beginAnew(const NumberedLine &line);
+    void findHeader();
+    void dropOldest(int count);
+    void refuseAllHeld();
+    std::optional<QString> decoded(const QByteArray &bytes);
+    void playParts(QVector<Measurement> &measurements);
+    bool isOfCabinet(const Measurement &measurement) const;
+    void refuse(qint64 line, const Problem &problem);
+    void refreshState();
+
+    MeasurementOptions options;
+    LineSplitter splitter;
+    std::optional<TextEncoding> encoding; // nothing while all has been ASCII
+    QVector<NumberedLine> head; // until there is a header
+    Problem headProblem; // why there is none in it
+    std::unique_ptr<StreamRows> rows; // nothing until there is a header
+    QVector<CsvRow> firstRows; // below the header, to be read next
+    QVector<Measurement> found;
+    QVector<ColorLevel> highestLevel; // of those without a stated full level: one, or none
+    bool isFinished = false;
+    bool hasLines = false;
+    MeasurementStreamState state;
+};
+
+void MeasurementStream::Private::refuse(qint64 line, const Problem &problem)
+{
+    ++state.notRead;
+    state.lastNotRead = problem;
+    if (state.lastNotRead.place.isEmpty()) {
+        state.lastNotRead.place = StreamRows::placeOf(line);
+    }
+}
+
+std::optional<QString> MeasurementStream::Private::decoded(const QByteArray &bytes)
+{
+    const auto known = splitter.encoding() ? splitter.encoding() : encoding;
+    const auto text = decodeText(bytes, known);
+    if (!text) {
+        refuse(state.lines, text.problem());
+        return std::nullopt;
+    }
+    if (!known && !isAscii(bytes)) {
+        encoding = text->encoding;
+        state.warnings += text.warnings();
+    }
+    return text->text;
+}
+
+void MeasurementStream::Private::takeLine(const StreamLine &line)
+{
+    ++state.lines;
+    if (line.isTooLong) {
+        refuse(state.lines,
+            Problem{StreamText::tr("is longer than %1 KiB").arg(maximumStreamLineBytes / 1024), QString(), 0, 0});
+        return;
+    }
+    if (const auto text = decoded(line.bytes)) {
+        takeText({state.lines, *text});
+    }
+}
+
+void MeasurementStream::Private::takeText(const NumberedLine &line)
+{
+    const QChar separator = rows ? rows->separator() : QLatin1Char(',');
+    const CsvTable table = readCsv(line.text, separator);
+    if (table.unterminatedLine > 0) {
+        refuse(line.number, Problem{StreamText::tr("unterminated quote"), QString(), 0, 0});
+    } else if (rows && !table.rows.isEmpty()) {
+        CsvRow row = table.rows.first();
+        row.line = int(line.number);
+        takeRow(row, line);
+    } else if (!rows && (!table.rows.isEmpty() || namesSeparator(line.text))) {
+        head.append(line);
+        findHeader();
+    }
+}
+
+void MeasurementStream::Private::findHeader()
+{
+    auto candidate = std::make_unique<StreamRows>(options);
+    if (candidate->begin(head)) {
+        rows = std::move(candidate);
+        firstRows = rows->takeFirstRows();
+        head.clear();
+        headProblem = Problem();
+        state.warnings = rows->warnings();
+        return;
+    }
+    headProblem = candidate->failure();
+    if (head.size() >= maximumHeldLines) {
+        // Half of them, as looking through them anew for every line takes time.
+        dropOldest(maximumHeldLines / 2);
+    }
+}
+
+void MeasurementStream::Private::dropOldest(int count)
+{
+    const int kept = !head.isEmpty() && namesSeparator(head.first().text) ? 1 : 0;
+    for (int i = kept; i < count; ++i) {
+        refuse(head.at(i).number, Problem{headProblem.text, QString(), 0, 0});
+    }
+    head.remove(kept, std::max(count - kept, 0));
+}
+
+//! Whether \a line, which is no measurement, is the header of a list that begins here.
+bool MeasurementStream::Private::beginAnew(const NumberedLine &line)
+{
+    if (!StreamRows(options).isHeader(line)) {
+        return false;
+    }
+    rows->refuseHeld([this](qint64 held, const Problem &problem) { refuse(held, problem); });
+    rows.reset();
+    firstRows.clear();
+    head = {line};
+    findHeader();
+    return true;
+}
+
+void MeasurementStream::Private::takeRow(const CsvRow &row, const NumberedLine &line)
+{
+    std::optional<std::pair<qint64, Problem>> refused;
+    const auto keepRefused = [&](qint64 number, const Problem &problem) {
+        if (refused) {
+            refuse(refused->first, refused->second);
+        }
+        refused = {number, problem};
+    };
+    QVector<Measurement> measurements = rows->take(row, keepRefused);
+    if (refused && !(refused->first == row.line && !line.text.isEmpty() && beginAnew(line))) {
+        refuse(refused->first, refused->second);
+    }
+    playParts(measurements);
+    for (const Measurement &measurement : std::as_const(measurements)) {
+        ++state.measurements;
+        if (isOfCabinet(measurement)) {
+            found.append(measurement);
+        }
+    }
+}
+
+void MeasurementStream::Private::playParts(QVector<Measurement> &measurements)
+{
+    for (Measurement &measurement : measurements) {
+        const ColorName name = colorName(measurement.name);
+        if (name.level && !name.level->full && name.part != MeasurementPart::Black) {
+            const bool isHigher = highestLevel.isEmpty() || name.level->value > highestLevel.first().value;
+            const bool hasDecimals
+                = name.level->hasDecimals || (!highestLevel.isEmpty() && highestLevel.first().hasDecimals);
+            if (isHigher) {
+                highestLevel = {*name.level};
+            }
+            highestLevel.first().hasDecimals = hasDecimals;
+        }
+        measurement.part = playedPart(name, commonFullLevel(highestLevel));
+        const std::pair<const MeasurementChoice *, MeasurementPart> choices[]
+            = {{&options.red, MeasurementPart::Red}, {&options.green, MeasurementPart::Green},
+                {&options.blue, MeasurementPart::Blue}, {&options.white, MeasurementPart::White}};
+        for (const auto &[choice, part] : choices) {
+            if (choice->isEmpty()) {
+                continue;
+            }
+            if (StreamRows::isChosen(measurement, *choice)) {
+                measurement.part = part;
+            } else if (measurement.part == part) {
+                measurement.part = MeasurementPart::None;
+            }
+        }
+    }
+}
+
+bool MeasurementStream::Private::isOfCabinet(const Measurement &measurement) const
+{
+    const QString wanted = options.cabinet.trimmed();
+    const auto is = [&wanted](const QString &name) { return name.compare(wanted, Qt::CaseInsensitive) == 0; };
+    return wanted.isEmpty() || is(measurement.cabinet)
+        || is(CabinetMeasurements{measurement.cabinet, measurement.row, measurement.column, {}}.label());
+}
+
+//! What nothing more will come to explain.
+void MeasurementStream::Private::refuseAllHeld()
+{
+    dropOldest(int(head.size()));
+    head.clear();
+    if (rows) {
+        rows->refuseHeld([this](qint64 line, const Problem &problem) { refuse(line, problem); });
+    }
+}
+
+void MeasurementStream::Private::refreshState()
+{
+    state.heldLines = int(head.size() + firstRows.size()) + (rows ? rows->heldRows() : 0);
+    state.heldBytes = splitter.keptBytes();
+    state.waitsFor = !head.isEmpty() ? headProblem : rows && rows->heldRows() > 0 ? rows->failure() : Problem();
+    if (rows) {
+        state.recognized = rows->recognized();
+    }
+    state.recognized.encoding
+        = splitter.encoding() ? *splitter.encoding() : encoding.value_or(options.encoding.value_or(TextEncoding::Utf8));
+    state.recognized.fullLevel = commonFullLevel(highestLevel);
+}
+
+MeasurementStream::MeasurementStream(const MeasurementOptions &options)
+    : d(std::make_unique<Private>(options))
+{
+}
+
+MeasurementStream::~MeasurementStream() = default;
+
+void MeasurementStream::feed(const QByteArray &bytes)
+{
+    d->splitter.feed(bytes);
+    d->hasLines = true;
+}
+
+void MeasurementStream::finish()
+{
+    d->splitter.finish();
+    d->isFinished = true;
+    d->hasLines = true;
+}
+
+QVector<Measurement> MeasurementStream::read(int most)
+{
+    for (int i = 0; i < most && d->hasLines; ++i) {
+        if (d->rows && d->rows->unit() != d->state.unit) {
+            if (!d->found.isEmpty()) {
+                break; // those before the header are told first
+            }
+            d->state.unit = d->rows->unit();
+        }
+        for (const CsvRow &row : std::exchange(d->firstRows, {})) {
+            d->takeRow(row, {row.line, QString()});
+        }
+        const auto line = d->splitter.next();
+        d->hasLines = line.has_value();
+        if (line) {
+            d->takeLine(*line);
+        } else if (d->isFinished) {
+            d->refuseAllHeld();
+        }
+    }
+    d->refreshState();
+    return std::exchange(d->found, {});
+}
+
+bool MeasurementStream::hasLines() const
+{
+    return d->hasLines;
+}
+
+const MeasurementStreamState &MeasurementStream::state() const
+{
+    return d->state;
+}
+
+} // namespace gamutfiles

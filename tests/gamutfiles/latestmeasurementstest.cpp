@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#include <gamutfiles/latestmeasurements.h>
+
+#include <QtTest>
+
+using namespace gamutfiles;
+
+namespace {
+
+Measurement measured(const QString &name, MeasurementPart part, double x, double y, const QString &cabinet = QString())
+{
+    Measurement measurement;
+    measurement.name = name;
+    measurement.part = part;
+    measurement.luminance = 100.0;
+    measurement.color = Model::Target::fromYxy(100.0, x, y);
+    measurement.cabinet = cabinet;
+    return measurement;
+}
+
+void addGamut(LatestMeasurements &latest, const QString &cabinet = QString(), double redX = 0.64)
+{
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, redX, 0.33, cabinet));
+    latest.add(measured(QStringLiteral("Green"), MeasurementPart::Green, 0.3, 0.6, cabinet));
+    latest.add(measured(QStringLiteral("Blue"), MeasurementPart::Blue, 0.15, 0.06, cabinet));
+    latest.add(measured(QStringLiteral("White"), MeasurementPart::White, 0.3127, 0.329, cabinet));
+}
+
+double redOf(const LatestMeasurements &latest)
+{
+    const auto gamut = latest.list().gamut(QStringLiteral("wall"));
+    return gamut ? gamut->getTargets().red.x : -1.0;
+}
+
+QStringList pointsOf(const LatestMeasurements &latest)
+{
+    QStringList names;
+    for (const Measurement &point : latest.list().others()) {
+        names.append(point.name);
+    }
+    return names;
+}
+
+} // namespace
+
+class LatestMeasurementsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void countsTheLatestOfAColour();
+    void showsPointsUntilThereIsAGamut();
+    void keepsABlackWithoutAChromaticity();
+    void ignoresAPrimaryWithoutAChromaticity();
+    void forgetsTheOldestPoints();
+    void forgetsTheOldestCabinets();
+    void showsTheCabinetThatWasCompletedLast();
+    void tellsTheCabinets();
+    void forgetsAnotherUnit();
+    void takesTheSumAsWhite();
+};
+
+void LatestMeasurementsTest::countsTheLatestOfAColour()
+{
+    LatestMeasurements latest;
+    latest.setUnit(LuminanceUnit::CandelaPerSquareMetre);
+    addGamut(latest);
+    QCOMPARE(redOf(latest), 0.64);
+    QVERIFY(pointsOf(latest).isEmpty());
+    // Under another name it is red all the same.
+    latest.add(measured(QStringLiteral("R 100 %"), MeasurementPart::Red, 0.66, 0.32));
+    QCOMPARE(redOf(latest), 0.66);
+    QCOMPARE(latest.list().gamut(QStringLiteral("wall"))->unit, LuminanceUnit::CandelaPerSquareMetre);
+    latest.add(measured(QStringLiteral("grey 50 %"), MeasurementPart::None, 0.31, 0.33));
+    latest.add(measured(QStringLiteral("skin"), MeasurementPart::None, 0.4, 0.35));
+    latest.add(measured(QStringLiteral("Grey  50 %"), MeasurementPart::None, 0.32, 0.34));
+    QCOMPARE(pointsOf(latest), (QStringList{QStringLiteral("skin"), QStringLiteral("Grey  50 %")}));
+    QCOMPARE(latest.list().others().last().color->x, 0.32);
+    latest.clear();
+    QVERIFY(latest.list().measurements.isEmpty());
+    QCOMPARE(latest.pointCount(), 0);
+    QCOMPARE(latest.cabinetCount(), 0);
+}
+
+void LatestMeasurementsTest::showsPointsUntilThereIsAGamut()
+{
+    LatestMeasurements latest;
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.64, 0.33));
+    latest.add(measured(QStringLiteral("grey"), MeasurementPart::None, 0.31, 0.33));
+    QVERIFY(!latest.list().gamut(QString()));
+    QCOMPARE(pointsOf(latest), (QStringList{QStringLiteral("Red"), QStringLiteral("grey")}));
+}
+
+void LatestMeasurementsTest::keepsABlackWithoutAChromaticity()
+{
+    LatestMeasurements latest;
+    Measurement black = measured(QStringLiteral("Black"), MeasurementPart::Black, 0.3, 0.3);
+    black.color.reset();
+    black.luminance = 0.02;
+    latest.add(black);
+    addGamut(latest);
+    QCOMPARE(latest.list().black().value_or(Measurement()).luminance, 0.02);
+    QCOMPARE(latest.pointCount(), 4);
+}
+
+void LatestMeasurementsTest::ignoresAPrimaryWithoutAChromaticity()
+{
+    LatestMeasurements latest;
+    addGamut(latest);
+    Measurement dark = measured(QStringLiteral("Red"), MeasurementPart::Red, 0.3, 0.3);
+    dark.color.reset();
+    latest.add(dark);
+    QCOMPARE(redOf(latest), 0.64);
+}
+
+void LatestMeasurementsTest::forgetsTheOldestPoints()
+{
+    LatestMeasurements latest;
+    addGamut(latest);
+    for (int i = 0; i < 2 * mostLatestPoints; ++i) {
+        Measurement nameless = measured(QString(), MeasurementPart::None, 0.3, 0.3);
+        nameless.line = i + 1;
+        latest.add(nameless);
+        QVERIFY(latest.pointCount() <= mostLatestPoints);
+    }
+    QCOMPARE(latest.pointCount(), mostLatestPoints);
+    const auto points = latest.list().others();
+    QCOMPARE(points.first().line, mostLatestPoints + 1);
+    QCOMPARE(points.last().line, 2 * mostLatestPoints);
+    QCOMPARE(redOf(latest), 0.64); // of the gamut none is forgotten
+}
+
+void LatestMeasurementsTest::forgetsTheOldestCabinets()
+{
+    LatestMeasurements latest;
+    for (int i = 0; i <= mostLatestCabinets; ++i) {
+        latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.64, 0.33, QString::number(i)));
+    }
+    latest.add(measured(QStringLiteral("Blue"), MeasurementPart::Blue, 0.15, 0.06, QStringLiteral("1")));
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.64, 0.33, QStringLiteral("new")));
+    QCOMPARE(latest.cabinetCount(), mostLatestCabinets);
+    const auto cabinets = latest.cabinets();
+    QCOMPARE(cabinets.size(), mostLatestCabinets);
+    QCOMPARE(cabinets.first().cabinet, QStringLiteral("3"));
+    QCOMPARE(cabinets.last().cabinet, QStringLiteral("new"));
+    QCOMPARE(cabinets.at(cabinets.size() - 2).cabinet, QStringLiteral("1"));
+    QCOMPARE(cabinets.at(cabinets.size() - 2).list.measurements.size(), 2);
+}
+
+void LatestMeasurementsTest::showsTheCabinetThatWasCompletedLast()
+{
+    LatestMeasurements latest;
+    addGamut(latest, QStringLiteral("A"), 0.64);
+    QCOMPARE(redOf(latest), 0.64);
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.7, 0.29, QStringLiteral("B")));
+    latest.add(measured(QStringLiteral("grey"), MeasurementPart::None, 0.31, 0.33, QStringLiteral("A")));
+    // Of two cabinets no gamut is made.
+    QCOMPARE(redOf(latest), 0.64);
+    QCOMPARE(pointsOf(latest), (QStringList{QStringLiteral("B Red"), QStringLiteral("A grey")}));
+    addGamut(latest, QStringLiteral("B"), 0.71);
+    QCOMPARE(redOf(latest), 0.71);
+    QVERIFY(pointsOf(latest).contains(QStringLiteral("A Red")));
+    QVERIFY(!pointsOf(latest).contains(QStringLiteral("B Red")));
+}
+
+void LatestMeasurementsTest::tellsTheCabinets()
+{
+    LatestMeasurements latest;
+    addGamut(latest);
+    QVERIFY(latest.cabinets().isEmpty());
+    latest.clear();
+    addGamut(latest, QStringLiteral("A"), 0.64);
+    addGamut(latest, QStringLiteral("B"), 0.65);
+    addGamut(latest, QStringLiteral("A"), 0.66);
+    const auto cabinets = latest.cabinets();
+    QCOMPARE(cabinets.size(), 2);
+    QCOMPARE(cabinets.first().label(), QStringLiteral("B"));
+    QCOMPARE(cabinets.last().list.measurements.size(), 4);
+    QCOMPARE(cabinets.last().list.gamut(QString())->getTargets().red.x, 0.66);
+}
+
+void LatestMeasurementsTest::forgetsAnotherUnit()
+{
+    LatestMeasurements latest;
+    addGamut(latest);
+    latest.setUnit(LuminanceUnit::NotKnown);
+    QCOMPARE(redOf(latest), 0.64);
+    latest.setUnit(LuminanceUnit::Relative);
+    QVERIFY(latest.list().measurements.isEmpty());
+}
+
+void LatestMeasurementsTest::takesTheSumAsWhite()
+{
+    for (const bool isSum : {false, true}) {
+        LatestMeasurements latest(isSum);
+        latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.64, 0.33));
+        latest.add(measured(QStringLiteral("Green"), MeasurementPart::Green, 0.3, 0.6));
+        latest.add(measured(QStringLiteral("Blue"), MeasurementPart::Blue, 0.15, 0.06));
+        QCOMPARE(latest.list().gamut(QString()).has_value(), isSum);
+    }
+}
+
+QTEST_GUILESS_MAIN(LatestMeasurementsTest)
+#include "latestmeasurementstest.moc"

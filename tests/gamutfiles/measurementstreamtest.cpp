@@ -1,0 +1,497 @@
+// SPDX-License-Identifier: MIT
+#include <gamutfiles/latestmeasurements.h>
+#include <gamutfiles/measurementstream.h>
+
+#include <QtTest>
+
+Q_DECLARE_METATYPE(gamutfiles::TextEncoding)
+
+using namespace gamutfiles;
+
+namespace {
+
+const QByteArray header = QByteArrayLiteral("name,Y (cd/m2),x,y\n");
+
+//! Everything that can be read of what was fed.
+QVector<Measurement> readAll(MeasurementStream &stream)
+{
+    QVector<Measurement> all;
+    while (stream.hasLines()) {
+        all += stream.read(100);
+    }
+    return all;
+}
+
+QVector<Measurement> readAll(MeasurementStream &stream, const QByteArray &bytes)
+{
+    stream.feed(bytes);
+    return readAll(stream);
+}
+
+QByteArray utf16(const QString &text, bool littleEndian)
+{
+    QByteArray bytes;
+    for (const QChar c : text) {
+        const char low = char(c.unicode() & 0xFF);
+        const char high = char(c.unicode() >> 8);
+        bytes.append(littleEndian ? low : high).append(littleEndian ? high : low);
+    }
+    return bytes;
+}
+
+QStringList namesOf(const QVector<Measurement> &measurements)
+{
+    QStringList names;
+    for (const Measurement &measurement : measurements) {
+        names.append(measurement.name);
+    }
+    return names;
+}
+
+} // namespace
+
+class MeasurementStreamTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsLinesAsTheyCome();
+    void readsTheSameAsAWholeList_data();
+    void readsTheSameAsAWholeList();
+    void waitsForTheEndOfALine();
+    void takesTheLastLineWithoutAnEndWhenNoMoreComes();
+    void takesAnyLineEnds();
+    void keepsAByteOrderMarkAndItsEncoding_data();
+    void keepsAByteOrderMarkAndItsEncoding();
+    void decidesTheEncodingByTheFirstLineThatTells();
+    void countsLinesThatCannotBeRead();
+    void passesOverALineThatIsTooLong();
+    void beginsAnewWithAHeader();
+    void passesOverWhatPrecedesTheHeader();
+    void forgetsLinesThatAreNeverExplained();
+    void readsUnitsBelowTheHeader();
+    void holdsLinesUntilTheDecimalSignIsKnown();
+    void readsAListWithoutAHeader();
+    void takesTheHighestLevelAsTheFullOne();
+    void heedsTheOptions();
+    void tellsTheUnitOfWhatItReads();
+    void readsNoMoreLinesThanAsked();
+    void needsNoMoreMemoryForMoreLines();
+};
+
+void MeasurementStreamTest::readsLinesAsTheyCome()
+{
+    MeasurementStream stream;
+    QVERIFY(!stream.hasLines());
+    QVERIFY(readAll(stream, header).isEmpty());
+    QVERIFY(!stream.state().waitsFor.text.isEmpty());
+    const auto red = readAll(stream, "Red,21.26,0.64,0.33\n");
+    QCOMPARE(red.size(), 1);
+    QCOMPARE(red.first().name, QStringLiteral("Red"));
+    QCOMPARE(red.first().part, MeasurementPart::Red);
+    QCOMPARE(red.first().line, 2);
+    QCOMPARE(red.first().color->x, 0.64);
+    QCOMPARE(red.first().luminance, 21.26);
+    QCOMPARE(namesOf(readAll(stream, "# by hand\n\ngrey,3,0.31,0.33\nBlack,0,-,-\n")),
+        (QStringList{QStringLiteral("grey"), QStringLiteral("Black")}));
+    const MeasurementStreamState &state = stream.state();
+    QCOMPARE(state.lines, 6);
+    QCOMPARE(state.measurements, 3);
+    QCOMPARE(state.notRead, 0);
+    QCOMPARE(state.heldLines, 0);
+    QVERIFY(state.waitsFor.text.isEmpty());
+    QCOMPARE(state.unit, LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(state.recognized.headerLine, 1);
+    QCOMPARE(state.recognized.separator, QLatin1Char(','));
+    QCOMPARE(state.recognized.decimalSign, std::make_optional(QChar(QLatin1Char('.'))));
+}
+
+void MeasurementStreamTest::readsTheSameAsAWholeList_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("comma") << header
+            + "Red,196.8,0.7031,0.296\nGreen,608.6,0.1954,0.7142\nBlue,123.5,0.1304,0.0798\nWhite,928.9,0.2727,0.3031\n"
+              "grey 50 %,203.2,0.2731,0.3036\n";
+    QTest::newRow("semicolon") << QByteArray(
+        "Patch;Lv (cd/m\xC2\xB2);CIE x;CIE y\r\nRed 100 %;196,8;0,7031;0,2960\r\nWhite 100 %;1.928,9;0,2727;0,3031\r\n"
+        "\"Black; off\";0;0;0\r\n");
+    QTest::newRow("tab, u'v', foot-lambert")
+        << QByteArray("No.\tColour\tu'\tv'\tLuminance (fL)\n1\tRot\t0.45\t0.52\t10\n2\tGr\xC3\xBCn\t0.08\t0.58\t20\n");
+    QTest::newRow("tristimulus") << QByteArray("name,X,Y (cd/m2),Z\nR,41.245,21.264,1.932\nW,95.05,100,108.91\n");
+    QTest::newRow("windows")
+        << QByteArray("Name;Leuchtdichte (cd/m\xB2);x;y\nWei\xDF;100;0,3127;0,3290\nGr\xFCn;70;0,3;0,6\n");
+    QTest::newRow("sep=") << QByteArray("sep=|\nname|Y|x|y\nred|21|0.64|0.33\n");
+    QTest::newRow("cabinets") << QByteArray("row,column,name,Y,x,y\n1,2,red,21,0.64,0.33\nA,3,red,22,0.65,0.33\n");
+    QTest::newRow("title and units")
+        << QByteArray("Wall of hall 3\nmeasured twice\nname,Y,x,y\n,cd/m2,,\nred,21,0.64,0.33\n");
+}
+
+void MeasurementStreamTest::readsTheSameAsAWholeList()
+{
+    QFETCH(QByteArray, bytes);
+    const auto list = readMeasurementList(bytes);
+    QVERIFY2(list, qPrintable(list.error()));
+    for (const int piece : {1, 2, 7, int(bytes.size())}) {
+        MeasurementStream stream;
+        QVector<Measurement> all;
+        for (int i = 0; i < bytes.size(); i += piece) {
+            all += readAll(stream, bytes.mid(i, piece));
+        }
+        QCOMPARE(all.size(), list->measurements.size());
+        for (int i = 0; i < all.size(); ++i) {
+            const Measurement &read = all.at(i);
+            const Measurement &whole = list->measurements.at(i);
+            QCOMPARE(read.name, whole.name);
+            QCOMPARE(read.luminance, whole.luminance);
+            QCOMPARE(read.line, whole.line);
+            QCOMPARE(read.part, whole.part);
+            QCOMPARE(read.cabinet, whole.cabinet);
+            QCOMPARE(read.row, whole.row);
+            QCOMPARE(read.column, whole.column);
+            QCOMPARE(read.color.has_value(), whole.color.has_value());
+            QVERIFY(!read.color || (read.color->x == whole.color->x && read.color->y == whole.color->y));
+        }
+        QCOMPARE(stream.state().unit, list->unit);
+        QCOMPARE(stream.state().recognized.text().section(QLatin1Char('\n'), 0, 3),
+            list->recognized.text().section(QLatin1Char('\n'), 0, 3));
+        QCOMPARE(stream.state().notRead, 0);
+    }
+}
+
+void MeasurementStreamTest::waitsForTheEndOfALine()
+{
+    MeasurementStream stream;
+    QVERIFY(readAll(stream, header + "Red,21.26,0.64,0.3").isEmpty());
+    QCOMPARE(stream.state().heldBytes, 18);
+    QVERIFY(readAll(stream, "3").isEmpty());
+    const auto red = readAll(stream, "\n");
+    QCOMPARE(red.size(), 1);
+    QCOMPARE(red.first().color->y, 0.33);
+    QCOMPARE(stream.state().heldBytes, 0);
+}
+
+void MeasurementStreamTest::takesTheLastLineWithoutAnEndWhenNoMoreComes()
+{
+    MeasurementStream stream;
+    QVERIFY(readAll(stream, header + "Red,21.26,0.64,0.33").isEmpty());
+    stream.finish();
+    QCOMPARE(readAll(stream).size(), 1);
+    QVERIFY(!stream.hasLines());
+
+    // What is held is explained by nothing any more.
+    MeasurementStream undecided;
+    QVERIFY(readAll(undecided, "name;X;Y;Z\nR;41,245;21,264;1,932\n").isEmpty());
+    QCOMPARE(undecided.state().heldLines, 1);
+    undecided.finish();
+    QVERIFY(readAll(undecided).isEmpty());
+    QCOMPARE(undecided.state().notRead, 1);
+    QVERIFY(undecided.state().lastNotRead.text.contains(QStringLiteral("state the decimal sign")));
+    QCOMPARE(undecided.state().heldLines, 0);
+}
+
+void MeasurementStreamTest::takesAnyLineEnds()
+{
+    for (const QByteArray &end : {QByteArray("\n"), QByteArray("\r\n"), QByteArray("\r")}) {
+        MeasurementStream stream;
+        QVector<Measurement> all;
+        const QByteArray bytes = "name,Y,x,y" + end + "Red,21,0.64,0.33" + end + end + "Blue,7,0.15,0.06" + end;
+        for (const char c : bytes) {
+            all += readAll(stream, QByteArray(1, c));
+        }
+        QCOMPARE(all.size(), 2);
+        QCOMPARE(all.last().line, 4);
+        QCOMPARE(stream.state().lines, 4);
+        QCOMPARE(stream.state().notRead, 0);
+    }
+}
+
+void MeasurementStreamTest::keepsAByteOrderMarkAndItsEncoding_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<TextEncoding>("encoding");
+    const QString text = QString::fromUtf8("名称,Y,x,y\n红,21,0.64,0.33\n蓝,7,0.15,0.06\n");
+    const QString mark(QChar(0xFEFF));
+    QTest::newRow("UTF-8") << text.toUtf8() << TextEncoding::Utf8;
+    QTest::newRow("UTF-8 with a mark") << (mark + text).toUtf8() << TextEncoding::Utf8;
+    QTest::newRow("UTF-16LE") << utf16(text, true) << TextEncoding::Utf16LittleEndian;
+    QTest::newRow("UTF-16LE with a mark") << utf16(mark + text, true) << TextEncoding::Utf16LittleEndian;
+    QTest::newRow("UTF-16BE") << utf16(text, false) << TextEncoding::Utf16BigEndian;
+    QTest::newRow("UTF-16BE with a mark") << utf16(mark + text, false) << TextEncoding::Utf16BigEndian;
+    QTest::newRow("UTF-16LE after blank lines")
+        << utf16(QStringLiteral("\n\n") + text, true) << TextEncoding::Utf16LittleEndian;
+}
+
+void MeasurementStreamTest::keepsAByteOrderMarkAndItsEncoding()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(TextEncoding, encoding);
+    for (const int piece : {1, 3, int(bytes.size())}) {
+        MeasurementStream stream;
+        QVector<Measurement> all;
+        for (int i = 0; i < bytes.size(); i += piece) {
+            all += readAll(stream, bytes.mid(i, piece));
+        }
+        QCOMPARE(stream.state().notRead, 0);
+        QCOMPARE(stream.state().recognized.encoding, encoding);
+        QCOMPARE(namesOf(all), (QStringList{QString::fromUtf8("红"), QString::fromUtf8("蓝")}));
+        QCOMPARE(all.first().part, MeasurementPart::Red);
+    }
+}
+
+void MeasurementStreamTest::decidesTheEncodingByTheFirstLineThatTells()
+{
+    MeasurementStream stream;
+    readAll(stream, header + "Red,21,0.64,0.33\n");
+    QCOMPARE(stream.state().recognized.encoding, TextEncoding::Utf8);
+    const auto white = readAll(stream, "Wei\xDF,100,0.3127,0.329\n");
+    QCOMPARE(stream.state().recognized.encoding, TextEncoding::Windows1252);
+    QCOMPARE(white.value(0).part, MeasurementPart::White);
+
+    // A line in another encoding is one line that is not read.
+    MeasurementStream utf8;
+    readAll(utf8, header + "Gr\xC3\xBCn,70,0.3,0.6\n");
+    QVERIFY(readAll(utf8, "Gr\xFCn,70,0.3,0.6\n").isEmpty());
+    QCOMPARE(utf8.state().notRead, 1);
+    QCOMPARE(utf8.state().lastNotRead.message(), QStringLiteral("line 3: is not UTF-8 text"));
+    QCOMPARE(readAll(utf8, "Gr\xC3\xBCn,70,0.3,0.6\n").size(), 1);
+}
+
+void MeasurementStreamTest::countsLinesThatCannotBeRead()
+{
+    MeasurementStream stream;
+    readAll(stream, header + "Red,21,0.64,0.33\n");
+    const std::pair<QByteArray, QString> broken[] = {
+        {"Red,#DIV/0!,0.64,0.33\n", QStringLiteral("line 3, column Y (cd/m2): not a number: \"#DIV/0!\"")},
+        {"Red,21\n", QStringLiteral("line 4, column x: missing")},
+        {"\"Red,21,0.64,0.33\n", QStringLiteral("line 5: unterminated quote")},
+        {"instrument ready\n", QStringLiteral("line 6: has no numbers")},
+        {"Red,21,0.64,0.93\n", QStringLiteral("line 7, column x: x + y must not exceed 1")},
+        {",21,0.64,0.33\n", QStringLiteral("line 8, column name: the name must not be empty")},
+        {QByteArray("R\0d,21,0.64,0.33\n", 17), QStringLiteral("line 9: is not UTF-8 text")},
+    };
+    int count = 0;
+    for (const auto &[line, message] : broken) {
+        QVERIFY(readAll(stream, line).isEmpty());
+        QCOMPARE(stream.state().notRead, ++count);
+        QCOMPARE(stream.state().lastNotRead.message(), message);
+    }
+    QCOMPARE(readAll(stream, "Blue,7,0.15,0.06\n").size(), 1);
+    QCOMPARE(stream.state().measurements, 2);
+}
+
+void MeasurementStreamTest::passesOverALineThatIsTooLong()
+{
+    MeasurementStream stream;
+    readAll(stream, header + "Red,21,0.64,0.33\n");
+    int most = 0;
+    for (int i = 0; i < 100; ++i) {
+        QVERIFY(readAll(stream, QByteArray(4096, 'x')).isEmpty());
+        most = std::max(most, stream.state().heldBytes);
+    }
+    QVERIFY2(most <= maximumStreamLineBytes + 4096, qPrintable(QString::number(most)));
+    QCOMPARE(readAll(stream, "\nBlue,7,0.15,0.06\n").size(), 1);
+    QCOMPARE(stream.state().notRead, 1);
+    QCOMPARE(stream.state().lastNotRead.message(), QStringLiteral("line 3: is longer than 64 KiB"));
+}
+
+void MeasurementStreamTest::beginsAnewWithAHeader()
+{
+    MeasurementStream stream;
+    readAll(stream, header + "Red,21,0.64,0.33\n");
+    // The tool was started again, with other settings.
+    const auto all = readAll(stream, "Patch;u';v';Lv\nGreen;0,1250;0,5625;70,5\n");
+    QCOMPARE(stream.state().notRead, 0);
+    QCOMPARE(all.size(), 1);
+    QCOMPARE(all.first().part, MeasurementPart::Green);
+    QCOMPARE(all.first().line, 4);
+    QCOMPARE(all.first().luminance, 70.5);
+    QCOMPARE(stream.state().recognized.headerLine, 3);
+    QCOMPARE(stream.state().recognized.separator, QLatin1Char(';'));
+}
+
+void MeasurementStreamTest::passesOverWhatPrecedesTheHeader()
+{
+    MeasurementStream stream;
+    const auto all = readAll(stream, "Instrument,XR-7,12345\nDate,2026-01-05\n\n" + header + "Red,21,0.64,0.33\n");
+    QCOMPARE(namesOf(all), QStringList(QStringLiteral("Red")));
+    QCOMPARE(stream.state().notRead, 0);
+}
+
+void MeasurementStreamTest::forgetsLinesThatAreNeverExplained()
+{
+    MeasurementStream stream;
+    for (int i = 0; i < 1000; ++i) {
+        QVERIFY(readAll(stream, "instrument ready\n").isEmpty());
+        QVERIFY(stream.state().heldLines < maximumHeldLines);
+    }
+    QVERIFY(stream.state().notRead >= 1000 - maximumHeldLines);
+    QVERIFY(!stream.state().lastNotRead.text.isEmpty());
+    QCOMPARE(readAll(stream, header + "Red,21,0.64,0.33\n").size(), 1);
+}
+
+void MeasurementStreamTest::readsUnitsBelowTheHeader()
+{
+    MeasurementStream stream;
+    QVERIFY(readAll(stream, "name,Y,x,y\n").isEmpty());
+    QVERIFY(readAll(stream, ",fL,,\n").isEmpty());
+    QCOMPARE(stream.state().notRead, 0);
+    const auto red = readAll(stream, "Red,1,0.64,0.33\n");
+    QCOMPARE(stream.state().recognized.unit, MeasuredUnit::FootLambert);
+    QVERIFY(std::abs(red.value(0).luminance - 3.4262590996) < 1e-9);
+}
+
+void MeasurementStreamTest::holdsLinesUntilTheDecimalSignIsKnown()
+{
+    MeasurementStream stream;
+    // Whole numbers are the same with either sign.
+    QCOMPARE(readAll(stream, "name;X;Y;Z\nK;0;0;0\n").size(), 1);
+    QVERIFY(!stream.state().recognized.decimalSign);
+    QVERIFY(readAll(stream, "R;41,245;21,264;1,932\n").isEmpty());
+    QCOMPARE(stream.state().heldLines, 1);
+    QVERIFY(stream.state().waitsFor.text.contains(QStringLiteral("state the decimal sign")));
+    // A line that has both decides nothing and holds nothing up.
+    QVERIFY(readAll(stream, "R;41.25;21,26;1,93\n").isEmpty());
+    QCOMPARE(stream.state().notRead, 1);
+    const auto both = readAll(stream, "G;35,76;71,52;11,92\n");
+    QCOMPARE(both.size(), 2);
+    QCOMPARE(both.first().luminance, 21.264);
+    QCOMPARE(both.last().luminance, 71.52);
+    QCOMPARE(stream.state().heldLines, 0);
+    // From then on the point divides thousands.
+    QCOMPARE(readAll(stream, "W;950,5;1.000;1089,1\n").value(0).luminance, 1000.0);
+
+    MeasurementStream never;
+    readAll(never, "name;X;Y;Z\n");
+    for (int i = 0; i < 3 * maximumHeldLines; ++i) {
+        QVERIFY(readAll(never, "R;41,245;21,264;1,932\n").isEmpty());
+        QVERIFY(never.state().heldLines < maximumHeldLines);
+    }
+    QCOMPARE(never.state().notRead, 3 * maximumHeldLines);
+}
+
+void MeasurementStreamTest::readsAListWithoutAHeader()
+{
+    MeasurementStream stream;
+    QCOMPARE(readAll(stream, "Red,21,0.64,0.33\n").size(), 1);
+    QCOMPARE(stream.state().recognized.headerLine, 0);
+    QCOMPARE(readAll(stream, "Blue,7,0.15,0.06\n").value(0).part, MeasurementPart::Blue);
+}
+
+void MeasurementStreamTest::takesTheHighestLevelAsTheFullOne()
+{
+    MeasurementStream stream;
+    readAll(stream, header);
+    const auto partOf = [&stream](const QByteArray &name) {
+        return readAll(stream, name + ",21,0.64,0.33\n").value(0).part;
+    };
+    QCOMPARE(partOf("R 128"), MeasurementPart::None);
+    QCOMPARE(partOf("R 255"), MeasurementPart::Red);
+    QCOMPARE(partOf("R 100"), MeasurementPart::None);
+    QCOMPARE(partOf("G 255"), MeasurementPart::Green);
+    QCOMPARE(partOf("B 50 %"), MeasurementPart::None);
+    QCOMPARE(partOf("B 100 %"), MeasurementPart::Blue);
+    QCOMPARE(stream.state().recognized.fullLevel, std::make_optional(255.0));
+}
+
+void MeasurementStreamTest::heedsTheOptions()
+{
+    MeasurementOptions options;
+    options.white.name = QStringLiteral("D65");
+    options.red.line = 3;
+    options.cabinet = QStringLiteral("b");
+    options.unit = MeasuredUnit::Relative;
+    options.decimalSign = QLatin1Char(',');
+    MeasurementStream stream(options);
+    const auto all = readAll(stream,
+        "cabinet;name;X;Y;Z\nA;first;1,234;1,234;1,234\nB;first;1,234;1,234;1,234\nB;red;2;1;0\nB;white;1;1;1\n"
+        "B;d65;1;1;1\n");
+    QCOMPARE(all.size(), 4);
+    QCOMPARE(all.at(0).part, MeasurementPart::Red);
+    QCOMPARE(all.at(0).luminance, 1.234);
+    QCOMPARE(all.at(1).part, MeasurementPart::None);
+    QCOMPARE(all.at(2).part, MeasurementPart::None);
+    QCOMPARE(all.at(3).part, MeasurementPart::White);
+    QCOMPARE(stream.state().unit, LuminanceUnit::Relative);
+
+    MeasurementOptions odd;
+    odd.decimalSign = QLatin1Char('!');
+    MeasurementStream plain(odd);
+    QCOMPARE(readAll(plain, header + "Red,21.5,0.64,0.33\n").size(), 1);
+}
+
+void MeasurementStreamTest::tellsTheUnitOfWhatItReads()
+{
+    MeasurementStream stream;
+    stream.feed(header + "Red,21,0.64,0.33\nname,Y (%),x,y\nBlue,7,0.15,0.06\nGreen,70,0.3,0.6\n");
+    QCOMPARE(namesOf(stream.read(100)), QStringList(QStringLiteral("Red")));
+    QCOMPARE(stream.state().unit, LuminanceUnit::CandelaPerSquareMetre);
+    QVERIFY(stream.hasLines());
+    QCOMPARE(namesOf(stream.read(100)), (QStringList{QStringLiteral("Blue"), QStringLiteral("Green")}));
+    QCOMPARE(stream.state().unit, LuminanceUnit::Relative);
+}
+
+void MeasurementStreamTest::readsNoMoreLinesThanAsked()
+{
+    MeasurementStream stream;
+    QByteArray lines = header;
+    for (int i = 0; i < 50; ++i) {
+        lines += "grey,21,0.31,0.33\n";
+    }
+    stream.feed(lines);
+    qint64 before = 0;
+    while (stream.hasLines()) {
+        stream.read(7);
+        QVERIFY(stream.state().lines - before <= 7);
+        before = stream.state().lines;
+    }
+    QCOMPARE(stream.state().measurements, 50);
+}
+
+void MeasurementStreamTest::needsNoMoreMemoryForMoreLines()
+{
+    // Ten minutes of 1000 lines a second, some of them broken, some of other cabinets, most with a name of their own.
+    constexpr int count = 600000;
+    MeasurementStream stream;
+    LatestMeasurements latest;
+    QByteArray piece = "cabinet,name,Y (cd/m2),x,y\n";
+    int mostBytes = 0;
+    int mostLines = 0;
+    const char *const names[] = {"Red", "Green", "Blue", "White"};
+    const char *const colors[] = {",21,0.64,0.33\n", ",71,0.3,0.6\n", ",7,0.15,0.06\n", ",100,0.3127,0.329\n"};
+    for (int i = 0; i < count; ++i) {
+        piece += QByteArray::number(i / 8) + ',';
+        if (i % 100 == 99) {
+            piece += "#DIV/0!\n";
+        } else if (i % 2 == 0) {
+            piece += QByteArray(names[i / 2 % 4]) + colors[i / 2 % 4];
+        } else {
+            piece += "grey " + QByteArray::number(i) + ",21,0.31,0.33\n";
+        }
+        if (piece.size() > 8000 || i == count - 1) {
+            stream.feed(piece);
+            piece.clear();
+            while (stream.hasLines()) {
+                const auto measurements = stream.read(64);
+                latest.setUnit(stream.state().unit);
+                for (const Measurement &measurement : measurements) {
+                    latest.add(measurement);
+                }
+                mostBytes = std::max(mostBytes, stream.state().heldBytes);
+                mostLines = std::max(mostLines, stream.state().heldLines);
+            }
+            QVERIFY(latest.pointCount() <= mostLatestPoints);
+            QVERIFY(latest.cabinetCount() <= mostLatestCabinets);
+        }
+    }
+    QCOMPARE(stream.state().measurements, count - count / 100);
+    QCOMPARE(stream.state().notRead, count / 100);
+    QCOMPARE(stream.state().lines, count + 1);
+    QVERIFY(mostBytes < 9000);
+    QVERIFY(mostLines <= 2);
+    QVERIFY(stream.state().warnings.size() < 10);
+    QCOMPARE(latest.pointCount(), mostLatestPoints);
+    QCOMPARE(latest.cabinetCount(), mostLatestCabinets);
+    QVERIFY(latest.list().gamut(QString()));
+}
+
+QTEST_GUILESS_MAIN(MeasurementStreamTest)
+#include "measurementstreamtest.moc"
