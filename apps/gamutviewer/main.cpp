@@ -9,6 +9,8 @@
 #include "program/commandline.h"
 #include "program/interfacetranslations.h"
 #include "program/platform.h"
+#include "program/streaminput.h"
+#include "window/followmenu.h"
 #include "window/viewerwindow.h"
 
 #include <QApplication>
@@ -96,7 +98,8 @@ int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances
     return statusOf(assessment.judgement());
 }
 
-int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine)
+int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine,
+    std::unique_ptr<FollowedInput> input)
 {
     installInterfaceTranslations();
     ViewerWindow window;
@@ -110,6 +113,9 @@ int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances,
         window.resize(commandLine.extent().size.boundedTo(QApplication::primaryScreen()->availableSize()));
     }
     window.show();
+    if (input) {
+        window.followMenu()->follow(std::move(input), commandLine.measurementOptions());
+    }
     if (opened.needsChoice) {
         // The user is asked what the list means, over the window.
         QMetaObject::invokeMethod(
@@ -155,8 +161,9 @@ int main(int argc, char *argv[])
     }
 
     const QStringList files = commandLine.files();
+    const bool follows = !commandLine.followedFile().isEmpty();
     const Outcome<OpenedFiles> opened
-        = openFiles(files.isEmpty() ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
+        = openFiles(files.isEmpty() && !follows ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
     if (!opened) {
         printError(opened.error());
         return WrongInput;
@@ -170,7 +177,7 @@ int main(int argc, char *argv[])
         }
         tolerances = *read;
     }
-    if (commandLine.hasMeasurementOptions() && !opened->hasLists) {
+    if (commandLine.hasMeasurementOptions() && !opened->hasLists && !follows) {
         printError(QApplication::translate(
             "main", "--red, --green, --blue, --white, --cabinet, --unit and --decimal require a measurement list"));
         return WrongInput;
@@ -195,5 +202,13 @@ int main(int argc, char *argv[])
             "main", "no display is available; use --render to write a picture or --report to print a report"));
         return Failed;
     }
-    return show(*opened, tolerances, commandLine);
+    InputToFollow followed;
+    if (follows) {
+        followed = inputToFollow(commandLine.followedFile());
+        if (!followed.input) {
+            printError(followed.error);
+            return WrongInput;
+        }
+    }
+    return show(*opened, tolerances, commandLine, std::move(followed.input));
 }

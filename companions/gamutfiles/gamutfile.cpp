@@ -196,7 +196,7 @@ Outcome<GamutFile> readGamutFile(const QString &fileName, const MeasurementOptio
         return Failure::failure(FileText::tr("is empty"));
     }
     GamutFile file;
-    file.name = isStandardInput(fileName) ? FileText::tr("standard input") : QFileInfo(fileName).completeBaseName();
+    file.name = nameByFile(fileName);
     if (const auto dumped = edidFromHexDump(*bytes)) {
         const auto opened = declared(readEdidDisplay(*dumped), file);
         return opened ? Outcome<GamutFile>(*opened, dumped.warnings() + opened.warnings()) : opened;
@@ -228,6 +228,11 @@ Outcome<GamutFile> readGamutFile(const QString &fileName, const MeasurementOptio
     }
     return Failure::failure(
         FileText::tr("is not a display description (JSON), measurement list (CSV), ICC profile or EDID"));
+}
+
+QString nameByFile(const QString &fileName)
+{
+    return isStandardInput(fileName) ? FileText::tr("standard input") : QFileInfo(fileName).completeBaseName();
 }
 
 QStringList gamutFilePatterns()

@@ -54,6 +54,9 @@ constexpr int maximumFileBytes = 32 * 1024 * 1024;
 GAMUTFILES_EXPORT Outcome<GamutFile> readGamutFile(
     const QString &fileName, const MeasurementOptions &options = MeasurementOptions());
 
+/*! \brief What GamutFile::name is for the file \a fileName: its name without folder and suffix, or "standard input". */
+GAMUTFILES_EXPORT QString nameByFile(const QString &fileName);
+
 /*! \brief File name patterns for a dialog, such as "*.json", of every format that readGamutFile() reads. */
 GAMUTFILES_EXPORT QStringList gamutFilePatterns();
 

@@ -12,7 +12,7 @@
 namespace gamutfiles {
 
 /*! \brief As many colours are kept as points. */
-constexpr int mostLatestPoints = 256;
+constexpr int mostLatestPoints = 100;
 /*! \brief The colours of a gamut are kept of as many cabinets. */
 constexpr int mostLatestCabinets = 10000;
 

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "editing/document.h"
 
+#include "editing/gamutroles.h"
+#include "editing/openedfiles.h"
 #include "editing/targetedits.h"
 
 #include <QUndoCommand>
+
+#include <algorithm>
 
 namespace gamutviewer {
 
@@ -11,6 +15,19 @@ namespace {
 
 constexpr int trailLength = 12;
 constexpr int mergeable = 1;
+
+bool samePoints(const QVector<NamedPoint> &a, const QVector<NamedPoint> &b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const NamedPoint &one, const NamedPoint &other) {
+        return one.name == other.name && one.xy.x() == other.xy.x() && one.xy.y() == other.xy.y();
+    });
+}
+
+bool playsAnyRole(const DisplayDescription &description, const QString &gamutName)
+{
+    return std::any_of(std::begin(allGamutRoles), std::end(allGamutRoles),
+        [&](GamutRole role) { return playsRole(description, gamutName, role); });
+}
 
 } // namespace
 
@@ -83,7 +100,7 @@ void Document::open(const DisplayDescription &description, const QString &fileNa
 void Document::markSaved(const QString &fileName)
 {
     m_fileName = fileName;
-    m_saved = m_description;
+    m_saved = m_own;
     breakMerging();
     m_history.setClean();
     Q_EMIT fileNameChanged();
@@ -94,19 +111,19 @@ void Document::change(const DisplayDescription &description, const QString &text
     if (m_dragging) {
         cancelDrag();
     }
-    m_history.push(new Step(this, m_description, description, text, mergeKey));
+    m_history.push(new Step(this, m_own, withoutFollowed(description), text, mergeKey));
 }
 
 void Document::beginDrag()
 {
     m_dragging = true;
-    m_beforeDrag = m_description;
+    m_beforeDrag = m_own;
 }
 
 void Document::drag(const DisplayDescription &description)
 {
     if (m_dragging) {
-        show(description);
+        show(withoutFollowed(description));
     }
 }
 
@@ -117,12 +134,12 @@ void Document::endDrag(const QString &text)
     }
     m_dragging = false;
     const auto before = targetToEdit(m_beforeDrag);
-    const auto after = target();
-    if (m_beforeDrag.target == m_description.target
+    const auto after = targetToEdit(m_own);
+    if (m_beforeDrag.target == m_own.target
         && (!before || !after || sameTargets(before->getTargets(), after->getTargets()))) {
         return;
     }
-    const DisplayDescription dragged = m_description;
+    const DisplayDescription dragged = m_own;
     m_history.push(new Step(this, m_beforeDrag, dragged, text, 0));
 }
 
@@ -134,16 +151,70 @@ void Document::cancelDrag()
     }
 }
 
-void Document::show(const DisplayDescription &description)
+void Document::showFollowed(const std::optional<GamutFile> &measurements)
 {
-    m_description = description;
+    m_followed = measurements;
+    refresh();
     Q_EMIT changed();
 }
 
-void Document::show(const DisplayDescription &description, const QVector<QPointF> &trail)
+bool Document::hasUnkept() const
+{
+    return m_followed && descriptionText(m_description) != descriptionText(m_own);
+}
+
+void Document::keepFollowed(const QString &text)
+{
+    if (m_dragging) {
+        cancelDrag();
+    }
+    if (hasUnkept()) {
+        m_history.push(new Step(this, m_own, DisplayDescription(m_description), text, 0));
+    }
+}
+
+void Document::refresh()
+{
+    m_description = m_followed ? withFile(m_own, *m_followed, usualRole(*m_followed)) : m_own;
+}
+
+//! \a edited, which was made from what is shown, without what is shown of the followed measurement.
+DisplayDescription Document::withoutFollowed(const DisplayDescription &edited) const
+{
+    DisplayDescription own = edited;
+    if (!m_followed) {
+        return own;
+    }
+    if (usualRole(*m_followed)) {
+        const QString name = m_description.measured;
+        if (own.measured == name || own.measured.isEmpty()) {
+            own.measured = m_own.measured;
+        }
+        if (!hasOwnGamut(m_own, name) && !playsAnyRole(own, name)) {
+            own.gamuts.erase(std::remove_if(own.gamuts.begin(), own.gamuts.end(),
+                                 [followed = name.toStdString()](
+                                     const DisplayGamut &gamut) { return gamut.colorGamutName() == followed; }),
+                own.gamuts.end());
+        }
+    }
+    if (samePoints(own.measurePoints, m_description.measurePoints)) {
+        own.measurePoints = m_own.measurePoints;
+    }
+    return own;
+}
+
+void Document::show(const DisplayDescription &own)
+{
+    m_own = own;
+    refresh();
+    Q_EMIT edited();
+    Q_EMIT changed();
+}
+
+void Document::show(const DisplayDescription &own, const QVector<QPointF> &trail)
 {
     m_whiteTrail = trail;
-    show(description);
+    show(own);
 }
 
 QVector<QPointF> Document::trailWith(const DisplayDescription &description) const

@@ -21,7 +21,10 @@ class Document : public QObject {
 public:
     explicit Document(QObject *parent = nullptr);
 
+    /*! \brief What is shown: own(), with the measurement that is followed if there is one. */
     const DisplayDescription &description() const { return m_description; }
+    /*! \brief What the history and the file are about: without a measurement that is followed. */
+    const DisplayDescription &own() const { return m_own; }
     std::optional<DisplayGamut> original() const { return m_description.gamut(m_description.original); }
     std::optional<DisplayGamut> declared() const { return m_description.gamut(m_description.declared); }
     std::optional<DisplayGamut> measured() const { return m_description.gamut(m_description.measured); }
@@ -63,12 +66,26 @@ public:
     /*! \brief Ends the drag with the description as it was when it began. */
     void cancelDrag();
 
+    /*!
+     * \brief Shows \a measurements over the description as withFile() would add them; nothing: no longer.
+     *
+     * That is no edit: it is neither a step of the history nor saved. An edit that is based on what is shown takes over
+     * nothing of it, but for a gamut that gets another part or another name by it.
+     */
+    void showFollowed(const std::optional<GamutFile> &measurements);
+    /*! \brief Whether a measurement is shown that own() does not have. */
+    bool hasUnkept() const;
+    /*! \brief Takes the measurement that is shown into the description, as one step of the history called \a text. */
+    void keepFollowed(const QString &text);
+
     /*! \brief Where the target's white has been after the last steps, oldest first, the present one last. */
     const QVector<QPointF> &whiteTrail() const { return m_whiteTrail; }
 
 Q_SIGNALS:
     /*! \brief There is something else to show. */
     void changed();
+    /*! \brief The description itself has changed, not only the measurement that is followed. */
+    void edited();
     /*! \brief Another description has been opened. */
     void opened();
     void modifiedChanged(bool modified);
@@ -77,11 +94,15 @@ Q_SIGNALS:
 private:
     class Step;
 
-    void show(const DisplayDescription &description);
-    void show(const DisplayDescription &description, const QVector<QPointF> &trail);
+    void show(const DisplayDescription &own);
+    void show(const DisplayDescription &own, const QVector<QPointF> &trail);
+    void refresh();
+    DisplayDescription withoutFollowed(const DisplayDescription &edited) const;
     QVector<QPointF> trailWith(const DisplayDescription &description) const;
 
     DisplayDescription m_description;
+    DisplayDescription m_own;
+    std::optional<GamutFile> m_followed;
     DisplayDescription m_saved;
     QString m_fileName;
     QUndoStack m_history;

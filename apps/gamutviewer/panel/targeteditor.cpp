@@ -102,7 +102,8 @@ TargetEditor::TargetEditor(TargetSession *session, QWidget *parent)
     connect(m_luminanceUnit, QOverload<int>::of(&QComboBox::activated), session,
         [this] { m_session->setLuminanceUnit(LuminanceUnit(m_luminanceUnit->currentData().toInt())); });
     connect(m_resetMenu, &QMenu::aboutToShow, this, &TargetEditor::fillResetMenu);
-    connect(session->document(), &Document::changed, this, &TargetEditor::dropWaiting);
+    // A measurement that is followed changes nothing here, and must not disturb who is typing.
+    connect(session->document(), &Document::edited, this, &TargetEditor::dropWaiting);
     connect(qApp, &QApplication::focusChanged, this, &TargetEditor::dropUnlessFocused);
     connect(session, &TargetSession::rulesChanged, this, &TargetEditor::refreshRules);
     connect(session, &TargetSession::selectionChanged, this, &TargetEditor::refresh);

@@ -99,6 +99,10 @@ CommandLine::CommandLine(const QStringList &arguments)
            "the verdict, and its grounds are printed unless the report is. Requires a file."));
     const QCommandLineOption tolerances(QStringLiteral("tolerances"),
         tr("Judge what was measured by the limits in <file> (JSON), and draw them."), tr("file"));
+    const QCommandLineOption follow(QStringLiteral("follow"),
+        tr("Follow the measurement list <file> in the window while lines are appended to it: a file, which need not be "
+           "there yet, a named pipe, a device, or - for standard input."),
+        tr("file"));
     const auto colorOption = [](const QString &name) {
         return QCommandLineOption(name,
             tr("The measurement that is %1 in a measurement list: its name, or its line as line:<number>.").arg(name),
@@ -127,10 +131,11 @@ CommandLine::CommandLine(const QStringList &arguments)
            "Each error is one line on standard error."));
     m_parser.addPositionalArgument(tr("file"),
         tr("Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any "
-           "number of the others, which are added to it. Without files, a sample is opened."),
+           "number of the others, which are added to it. Without files, a sample is opened, unless a measurement is "
+           "followed."),
         tr("[file...]"));
-    m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, tolerances, red, green, blue, white,
-        cabinet, unit, decimal, help, version});
+    m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, tolerances, follow, red, green,
+        blue, white, cabinet, unit, decimal, help, version});
 
     // Or else -have.icc, the name of a file, would ask for help by its first letter.
     m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
@@ -194,6 +199,9 @@ CommandLine::CommandLine(const QStringList &arguments)
         if (m_tolerancesFile.isEmpty()) {
             refuse(tr("The file name of --tolerances is empty."));
         }
+    }
+    if (m_parser.isSet(follow)) {
+        readFollowed(m_parser.values(follow));
     }
     if (m_parser.isSet(render)) {
         readPicture(m_parser.value(render));
@@ -394,6 +402,20 @@ void CommandLine::readReport(const QString &format)
     m_wantsReport = format == QLatin1String("json");
     if (!m_wantsReport) {
         refuse(tr("Unsupported report format, expected json: %1").arg(format));
+    }
+}
+
+void CommandLine::readFollowed(const QStringList &fileNames)
+{
+    m_followedFile = fileNames.first();
+    if (fileNames.size() > 1) {
+        refuse(tr("--follow can be used only once."));
+    } else if (m_followedFile.isEmpty()) {
+        refuse(tr("The file name of --follow is empty."));
+    } else if (!m_needsDisplay) {
+        refuse(tr("--follow requires the window and does not apply to --render, --report and --check."));
+    } else if (isStandardInput(m_followedFile) && m_files.contains(m_followedFile)) {
+        refuse(tr("Standard input cannot be both opened and followed."));
     }
 }
 

@@ -57,6 +57,8 @@ public:
     bool wantsCheck() const { return m_wantsCheck; }
     /*! \brief The file of tolerances; empty for none. */
     QString tolerancesFile() const { return m_tolerancesFile; }
+    /*! \brief What the window is to follow; empty for nothing. */
+    QString followedFile() const { return m_followedFile; }
     /*! \brief Needs the application to exist. */
     QString helpText() const { return m_parser.helpText(); }
     /*! \brief Whether a window is wanted; also known of refused arguments. */
@@ -75,6 +77,7 @@ private:
     void readLayers(const QString &list);
     void readMeasurementOptions();
     void readReport(const QString &format);
+    void readFollowed(const QStringList &fileNames);
 
     QCommandLineParser m_parser;
     Action m_action = Action::Show;
@@ -94,6 +97,7 @@ private:
     bool m_wantsReport = false;
     bool m_wantsCheck = false;
     QString m_tolerancesFile;
+    QString m_followedFile;
     bool m_needsDisplay = true;
 };
 

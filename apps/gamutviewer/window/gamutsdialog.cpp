@@ -35,6 +35,16 @@ GamutRole roleOf(int column)
     return allGamutRoles[column - 1];
 }
 
+//! The names of the gamuts of \a description and of those that play a part.
+QStringList parts(const DisplayDescription &description)
+{
+    QStringList names{description.original, description.declared, description.measured, description.target};
+    for (const DisplayGamut &gamut : description.gamuts) {
+        names.append(QString::fromStdString(gamut.colorGamutName()));
+    }
+    return names + description.standards;
+}
+
 } // namespace
 
 GamutsDialog::GamutsDialog(Document *document, QWidget *parent)
@@ -81,7 +91,13 @@ GamutsDialog::GamutsDialog(Document *document, QWidget *parent)
     connect(m_table, &QTableWidget::currentCellChanged, this, &GamutsDialog::refreshButtons);
     connect(m_remove, &QPushButton::clicked, this, &GamutsDialog::removeCurrent);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(document, &Document::changed, this, &GamutsDialog::refresh);
+    connect(document, &Document::edited, this, &GamutsDialog::refresh);
+    connect(document, &Document::changed, this, [this] {
+        // The numbers of a measurement that is followed are not shown here; somebody may be typing.
+        if (m_shownParts != parts(m_document->description())) {
+            refresh();
+        }
+    });
     refresh();
     m_table->setCurrentCell(0, nameColumn);
     m_table->setFocus();
@@ -108,6 +124,7 @@ void GamutsDialog::refresh()
     }
     const QScopedValueRollback<bool> filling(m_isFilling, true);
     const DisplayDescription &description = m_document->description();
+    m_shownParts = parts(description);
     m_displayName->setText(description.name);
     QStringList names;
     for (const DisplayGamut &gamut : description.gamuts) {

@@ -56,6 +56,7 @@ private:
     QPushButton *m_remove;
     QLabel *m_message;
     bool m_isFilling = false;
+    QStringList m_shownParts;
 };
 
 } // namespace gamutviewer

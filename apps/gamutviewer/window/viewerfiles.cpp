@@ -106,7 +106,7 @@ QString ViewerWindow::stepName(const QStringList &added)
 
 bool ViewerWindow::givesWay() const
 {
-    return !m_document.isModified() && (m_isSample || isEmpty(m_document.description()));
+    return !m_document.isModified() && (m_isSample || isEmpty(m_document.own()));
 }
 
 void ViewerWindow::newDocument()
@@ -229,7 +229,7 @@ bool ViewerWindow::saveAs()
 bool ViewerWindow::saveTo(const QString &fileName)
 {
     m_panel->editor()->takeTyped();
-    const QString error = writeDescription(m_document.description(), fileName);
+    const QString error = writeDescription(m_document.own(), fileName);
     if (!error.isEmpty()) {
         warn(tr("%1: cannot be written: %2").arg(fileName, error));
         return false;
@@ -238,7 +238,10 @@ bool ViewerWindow::saveTo(const QString &fileName)
     m_isSample = false;
     m_document.markSaved(fileName);
     RecentFiles::add(fileName);
-    statusBar()->showMessage(tr("Saved as %1").arg(oneLine(fileName)), messageMilliseconds);
+    statusBar()->showMessage(
+        (m_document.hasUnkept() ? tr("Saved as %1, without the measurement in progress") : tr("Saved as %1"))
+            .arg(oneLine(fileName)),
+        messageMilliseconds);
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "panel/targeteditor.h"
 #include "window/diagrampage.h"
 #include "window/exportdialog.h"
+#include "window/followmenu.h"
 #include "window/gamutsdialog.h"
 #include "window/recentfiles.h"
 #include "window/tolerancesmenu.h"
@@ -55,6 +56,8 @@ void ViewerWindow::buildFileMenu()
     addItem(menu, tr("A&dd…"), Qt::CTRL | Qt::SHIFT | Qt::Key_O, this, [this] { openByDialog(Manner::Add); });
     m_recentMenu = menu->addMenu(tr("Open &recent"));
     connect(m_recentMenu, &QMenu::aboutToShow, this, &ViewerWindow::fillRecentMenu);
+    m_followMenu = new FollowMenu(&m_document, this);
+    menu->addMenu(m_followMenu);
     menu->addSeparator();
     addItem(menu, tr("&Save"), QKeySequence::Save, this, &ViewerWindow::save);
     addItem(menu, tr("Save &as…"), Qt::CTRL | Qt::SHIFT | Qt::Key_S, this, &ViewerWindow::saveAs);

@@ -10,6 +10,7 @@
 #include "panel/warningbar.h"
 #include "window/comparepage.h"
 #include "window/diagrampage.h"
+#include "window/followmenu.h"
 #include "window/librarypage.h"
 #include "window/settings.h"
 
@@ -49,7 +50,7 @@ ViewerWindow::ViewerWindow(QWidget *parent)
     connect(&m_document, &Document::changed, this, &ViewerWindow::refreshTitle);
     connect(m_session, &TargetSession::refused, this,
         [this](const QString &reason) { statusBar()->showMessage(reason, messageMilliseconds); });
-    connect(&m_document, &Document::changed, this, [this] { statusBar()->clearMessage(); });
+    connect(&m_document, &Document::edited, this, [this] { statusBar()->clearMessage(); });
     refreshTitle();
     resize(firstSize);
     restoreSettings();
@@ -103,6 +104,7 @@ void ViewerWindow::buildStatusBar()
     // A message takes the place of the hints, never that of the readout.
     m_hints = new HintLabel(this);
     statusBar()->addWidget(m_hints, 1);
+    statusBar()->addPermanentWidget(m_followMenu->label());
     m_readout = new QLabel(this);
     // In a window of 1024 pixels there is room for both.
     constexpr double textScale = 0.85;
@@ -199,6 +201,9 @@ void ViewerWindow::warn(const QString &text)
 
 void ViewerWindow::closeEvent(QCloseEvent *event)
 {
+    if (m_followMenu->wouldLose()) {
+        m_followMenu->keep();
+    }
     if (!mayLoseChanges()) {
         event->ignore();
         return;

@@ -19,6 +19,7 @@ namespace gamutviewer {
 
 class ComparePage;
 class DiagramPage;
+class FollowMenu;
 class GamutsDialog;
 class HintLabel;
 class LibraryPage;
@@ -84,6 +85,7 @@ public:
     LibraryPage *libraryPage() const { return m_libraryPage; }
     SidePanel *panel() const { return m_panel; }
     TolerancesMenu *tolerancesMenu() const { return m_tolerancesMenu; }
+    FollowMenu *followMenu() const { return m_followMenu; }
     QLabel *readout() const { return m_readout; }
     WarningBar *warnings() const { return m_warnings; }
     /*! \brief What the open display is called in questions: its name, or else that of its file. */
@@ -151,6 +153,7 @@ private:
     WarningBar *m_warnings;
     QMenu *m_recentMenu;
     TolerancesMenu *m_tolerancesMenu;
+    FollowMenu *m_followMenu;
     QAction *m_undo;
     QAction *m_redo;
     QPointer<GamutsDialog> m_gamuts;

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "following/following.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <numeric>
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr int pieceBytes = 16 * 1024;
+//! So long a turn may last before it is broken off: lines that cannot be read take longer than others.
+constexpr int turnMilliseconds = 4;
+//! Between two looks at the clock.
+constexpr int linesPerLook = 16;
+constexpr int countMilliseconds = 250;
+constexpr int countsPerSecond = 1000 / countMilliseconds;
+
+} // namespace
+
+Following::Following(std::unique_ptr<FollowedInput> input, const MeasurementOptions &options, QObject *parent)
+    : QObject(parent)
+    , m_input(std::move(input))
+    , m_options(options)
+{
+    begin();
+    m_turn.setSingleShot(true);
+    connect(&m_turn, &QTimer::timeout, this, &Following::turn);
+    m_frame.setSingleShot(true);
+    m_frame.setTimerType(Qt::PreciseTimer);
+    m_frame.setInterval(frameMilliseconds);
+    connect(&m_frame, &QTimer::timeout, this, &Following::measured);
+    m_count.setInterval(countMilliseconds);
+    connect(&m_count, &QTimer::timeout, this, &Following::countLines);
+    connect(m_input.get(), &FollowedInput::arrived, this, [this] { m_turn.start(0); });
+    connect(m_input.get(), &FollowedInput::restarted, this, [this] {
+        begin();
+        m_frame.start();
+    });
+    m_count.start();
+    m_turn.start(0);
+}
+
+void Following::begin()
+{
+    m_stream = std::make_unique<MeasurementStream>(m_options);
+    m_latest = std::make_unique<LatestMeasurements>(m_options.whiteIsSum);
+}
+
+GamutFile Following::file() const
+{
+    GamutFile file;
+    file.content = GamutFile::Content::Measurements;
+    file.name = nameByFile(m_input->fileName());
+    file.measurements = m_latest->list();
+    file.measurements.recognized = m_stream->state().recognized;
+    return file;
+}
+
+//! Whether there was a piece to read.
+bool Following::readPiece()
+{
+    const QByteArray piece = m_input->read(pieceBytes);
+    if (!piece.isEmpty()) {
+        m_stream->feed(piece);
+        return true;
+    }
+    if (m_input->hasEnded() && !m_isFinished) {
+        m_isFinished = true;
+        m_stream->finish();
+        return true;
+    }
+    return false;
+}
+
+void Following::turn()
+{
+    QElapsedTimer time;
+    time.start();
+    int lines = 0;
+    bool hasMore = true;
+    while (lines < linesPerTurn && time.elapsed() < turnMilliseconds) {
+        hasMore = m_stream->hasLines() || readPiece();
+        if (!hasMore) {
+            break;
+        }
+        const qint64 before = m_stream->state().lines;
+        const auto measurements = m_stream->read(std::min(linesPerLook, linesPerTurn - lines));
+        m_latest->setUnit(m_stream->state().unit);
+        for (const Measurement &measurement : measurements) {
+            m_latest->add(measurement);
+        }
+        lines += int(m_stream->state().lines - before);
+        if (!measurements.isEmpty() && !m_frame.isActive()) {
+            m_frame.start();
+        }
+    }
+    m_mostLines = std::max(m_mostLines, lines);
+    m_lines.last() += lines;
+    if (hasMore) {
+        m_turn.start(0);
+    }
+}
+
+void Following::countLines()
+{
+    m_linesPerSecond = std::accumulate(m_lines.begin(), m_lines.end(), 0);
+    m_lines.append(0);
+    m_lines = m_lines.mid(std::max(0, int(m_lines.size()) - countsPerSecond));
+    Q_EMIT stateChanged();
+}
+
+} // namespace gamutviewer

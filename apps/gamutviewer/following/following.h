@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_FOLLOWING_H
+#define GAMUTVIEWER_FOLLOWING_H
+
+#include "display/gamutfiles.h"
+#include "following/followedinput.h"
+
+#include <gamutfiles/latestmeasurements.h>
+#include <gamutfiles/measurementstream.h>
+
+#include <QTimer>
+
+#include <memory>
+
+namespace gamutviewer {
+
+/*!
+ * \brief Reads a measurement while it is made, a little in each turn of the event loop, and keeps what it has come to.
+ *
+ * Nothing that is kept grows with the number of lines.
+ */
+class Following : public QObject {
+    Q_OBJECT
+
+public:
+    /*! \brief As many lines are read at most before other events have their turn. */
+    static constexpr int linesPerTurn = 256;
+    /*! \brief measured() comes no sooner after the one before: 60 of them are a second. */
+    static constexpr int frameMilliseconds = 16;
+
+    Following(std::unique_ptr<FollowedInput> input, const MeasurementOptions &options, QObject *parent = nullptr);
+
+    const FollowedInput &input() const { return *m_input; }
+    /*! \brief How far the present text has been read. */
+    const MeasurementStreamState &state() const { return m_stream->state(); }
+    /*! \brief What the measurement has come to, also by cabinets. */
+    const LatestMeasurements &latest() const { return *m_latest; }
+    /*! \brief The same as if a file had been read that has nothing but it. */
+    GamutFile file() const;
+    /*! \brief How many lines came in the last second. */
+    int linesPerSecond() const { return m_linesPerSecond; }
+    /*! \brief The most lines that were read in one turn of the event loop. */
+    int mostLinesInATurn() const { return m_mostLines; }
+
+Q_SIGNALS:
+    /*! \brief latest() has changed since the last time. */
+    void measured();
+    /*! \brief state(), linesPerSecond() or what is known of the input may have changed: a few times a second. */
+    void stateChanged();
+
+private:
+    void turn();
+    void begin();
+    bool readPiece();
+    void countLines();
+
+    std::unique_ptr<FollowedInput> m_input;
+    MeasurementOptions m_options;
+    std::unique_ptr<MeasurementStream> m_stream;
+    std::unique_ptr<LatestMeasurements> m_latest;
+    QTimer m_turn;
+    QTimer m_frame;
+    QTimer m_count;
+    bool m_isFinished = false;
+    int m_mostLines = 0;
+    QVector<int> m_lines{0}; // of the last second, in parts of it; the present part last
+    int m_linesPerSecond = 0;
+};
+
+} // namespace gamutviewer
+
+#endif

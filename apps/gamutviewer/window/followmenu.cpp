@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "window/followmenu.h"
+
+#include "editing/document.h"
+#include "following/followedfile.h"
+#include "following/following.h"
+#include "window/recentfiles.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLocale>
+#include <QTextDocument>
+
+namespace gamutviewer {
+
+namespace {
+
+QString shownName(const FollowedInput &input)
+{
+    return oneLine(
+        isStandardInput(input.fileName()) ? nameByFile(input.fileName()) : QFileInfo(input.fileName()).fileName());
+}
+
+} // namespace
+
+FollowMenu::FollowMenu(Document *document, QWidget *parent)
+    : QMenu(tr("&Measurement in progress"), parent)
+    , m_document(document)
+    , m_label(new QLabel(parent))
+{
+    m_follow = addAction(tr("&Follow…"), this, &FollowMenu::followByDialog);
+    m_keep = addAction(tr("&Keep the measurement"), this, &FollowMenu::keep);
+    m_stop = addAction(tr("&Stop following"), this, &FollowMenu::stop);
+    m_label->setTextFormat(Qt::PlainText);
+    refresh();
+}
+
+FollowMenu::~FollowMenu() = default;
+
+void FollowMenu::follow(std::unique_ptr<FollowedInput> input, const MeasurementOptions &options)
+{
+    stop();
+    m_following = std::make_unique<Following>(std::move(input), options);
+    connect(m_following.get(), &Following::measured, this, &FollowMenu::show);
+    connect(m_following.get(), &Following::stateChanged, this, &FollowMenu::refresh);
+    refresh();
+}
+
+void FollowMenu::followByDialog()
+{
+    const QString fileName
+        = QFileDialog::getOpenFileName(parentWidget(), tr("Follow a measurement"), RecentFiles::folder(),
+            tr("Measurement lists (*.csv *.tsv *.txt)") + QStringLiteral(";;") + tr("All files (*)"));
+    if (!fileName.isEmpty()) {
+        follow(std::make_unique<FollowedFile>(fileName));
+    }
+}
+
+void FollowMenu::show()
+{
+    m_document->showFollowed(m_following->file());
+}
+
+void FollowMenu::keep()
+{
+    if (m_following) {
+        show(); // what came since the last frame
+        m_document->keepFollowed(tr("keep %1").arg(shownName(m_following->input())));
+    }
+}
+
+void FollowMenu::stop()
+{
+    if (m_following) {
+        keep();
+        m_following.reset();
+        m_document->showFollowed(std::nullopt);
+        refresh();
+    }
+}
+
+bool FollowMenu::wouldLose() const
+{
+    return m_following && !m_following->input().isRepeatable() && m_document->hasUnkept();
+}
+
+QString FollowMenu::text() const
+{
+    const QLocale locale;
+    const FollowedInput &input = m_following->input();
+    const MeasurementStreamState &state = m_following->state();
+    const QString name = shownName(input);
+    const QString lines = locale.toString(state.lines);
+    const QString notRead = locale.toString(state.notRead);
+    if (input.hasEnded()) {
+        return tr("%1 has ended: %2 lines, %3 not read").arg(name, lines, notRead);
+    }
+    if (!input.isThere()) {
+        return tr("Waiting for %1").arg(name);
+    }
+    return tr("Following %1: %2 lines, %3 not read, %4 a second")
+        .arg(name, lines, notRead, locale.toString(m_following->linesPerSecond()));
+}
+
+QString FollowMenu::details() const
+{
+    const MeasurementStreamState &state = m_following->state();
+    QStringList lines;
+    if (state.notRead > 0) {
+        lines.append(tr("The last line that was not read: %1").arg(state.lastNotRead.message()));
+    }
+    if (!state.waitsFor.text.isEmpty()) {
+        lines.append(tr("Lines wait to be read: %1").arg(state.waitsFor.message()));
+    }
+    for (const Problem &warning : state.warnings) {
+        lines.append(warning.message());
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+void FollowMenu::refresh()
+{
+    m_keep->setEnabled(m_following != nullptr);
+    m_stop->setEnabled(m_following != nullptr);
+    m_label->setVisible(m_following != nullptr);
+    const QString shown = m_following ? text() : QString();
+    if (m_label->text() != shown) {
+        m_label->setText(shown);
+    }
+    const QString told = m_following ? details() : QString();
+    if (m_label->accessibleDescription() != told) {
+        m_label->setAccessibleDescription(told);
+        // Parts of the list stand in it, which are text and no markup.
+        m_label->setToolTip(told.isEmpty() ? QString() : Qt::convertFromPlainText(told));
+    }
+}
+
+} // namespace gamutviewer
