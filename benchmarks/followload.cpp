@@ -132,6 +132,7 @@ int main(int argc, char **argv)
     });
     QTimer::singleShot(1000, [&] { // when the window has come up
         sinceBeat.start();
+        busySince = std::clock();
         beat.start();
         tell.start(between * 1000);
     });

@@ -117,12 +117,12 @@ void MeasurementStreamTest::readsTheSameAsAWholeList_data()
     QTest::newRow("tab, u'v', foot-lambert")
         << QByteArray("No.\tColour\tu'\tv'\tLuminance (fL)\n1\tRot\t0.45\t0.52\t10\n2\tGr\xC3\xBCn\t0.08\t0.58\t20\n");
     QTest::newRow("tristimulus") << QByteArray("name,X,Y (cd/m2),Z\nR,41.245,21.264,1.932\nW,95.05,100,108.91\n");
-    QTest::newRow("windows")
-        << QByteArray("Name;Leuchtdichte (cd/m\xB2);x;y\nWei\xDF;100;0,3127;0,3290\nGr\xFCn;70;0,3;0,6\n");
+    QTest::newRow("windows") << QByteArray(
+        "Name;Leuchtdichte (cd/m\xB2);x;y\nWei\xDF;100;0,3127;0,3290\nGr\xFCn;70;0,3;0,6\n");
     QTest::newRow("sep=") << QByteArray("sep=|\nname|Y|x|y\nred|21|0.64|0.33\n");
     QTest::newRow("cabinets") << QByteArray("row,column,name,Y,x,y\n1,2,red,21,0.64,0.33\nA,3,red,22,0.65,0.33\n");
-    QTest::newRow("title and units")
-        << QByteArray("Wall of hall 3\nmeasured twice\nname,Y,x,y\n,cd/m2,,\nred,21,0.64,0.33\n");
+    QTest::newRow("title and units") << QByteArray(
+        "Wall of hall 3\nmeasured twice\nname,Y,x,y\n,cd/m2,,\nred,21,0.64,0.33\n");
 }
 
 void MeasurementStreamTest::readsTheSameAsAWholeList()
@@ -380,9 +380,8 @@ void MeasurementStreamTest::takesTheHighestLevelAsTheFullOne()
 {
     MeasurementStream stream;
     readAll(stream, header);
-    const auto partOf = [&stream](const QByteArray &name) {
-        return readAll(stream, name + ",21,0.64,0.33\n").value(0).part;
-    };
+    const auto partOf
+        = [&stream](const QByteArray &name) { return readAll(stream, name + ",21,0.64,0.33\n").value(0).part; };
     QCOMPARE(partOf("R 128"), MeasurementPart::None);
     QCOMPARE(partOf("R 255"), MeasurementPart::Red);
     QCOMPARE(partOf("R 100"), MeasurementPart::None);

@@ -19,6 +19,7 @@ constexpr int tailBytes = 1024;
 FollowedFile::FollowedFile(const QString &fileName, QObject *parent)
     : FollowedInput(fileName, parent)
     , m_path(QFileInfo(fileName).absoluteFilePath())
+    , m_watcher(this)
 {
     m_soon.setSingleShot(true);
     m_soon.setInterval(gatherMilliseconds);

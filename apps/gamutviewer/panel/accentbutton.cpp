@@ -12,9 +12,16 @@ void AccentButton::paintEvent(QPaintEvent *)
     QStyleOptionToolButton option;
     initStyleOption(&option);
     if (isChecked()) {
-        const QColor accent = palette().color(QPalette::Highlight);
-        option.palette.setColor(QPalette::Button, accent);
-        option.palette.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
+        // Styles keep what they paint by the palette: a new one every time would fill their cache.
+        if (m_accentOf != palette().cacheKey()) {
+            m_accentOf = palette().cacheKey();
+            m_accent = palette();
+            m_accent.setColor(QPalette::Button, palette().color(QPalette::Highlight));
+            m_accent.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
+        }
+        const QPalette::ColorGroup group = option.palette.currentColorGroup();
+        option.palette = m_accent;
+        option.palette.setCurrentColorGroup(group);
         // The style would darken it as one that is pressed.
         option.state &= ~(QStyle::State_On | QStyle::State_Sunken);
         option.state |= QStyle::State_Raised;

@@ -15,6 +15,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QPalette m_accent;
+    qint64 m_accentOf = 0; // the key of the palette that it was made of
 };
 
 } // namespace gamutviewer

@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: MIT
+#include "editing/document.h"
+#include "editing/gamutroles.h"
+#include "editing/targetsession.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace gamutviewer;
+
+namespace {
+
+Model::Targets targets(double redX)
+{
+    return {Model::Target::fromYxy(240, redX, 0.299), Model::Target::fromYxy(634, 0.189, 0.718),
+        Model::Target::fromYxy(126, 0.133, 0.075), Model::Target::fromYxy(1000, 0.2829, 0.2971)};
+}
+
+DisplayDescription description()
+{
+    DisplayDescription d;
+    d.gamuts.push_back({Model::ColorGamut("Wall", targets(0.700)), LuminanceUnit::CandelaPerSquareMetre});
+    d.gamuts.push_back({Model::ColorGamut("Before", targets(0.698)), LuminanceUnit::CandelaPerSquareMetre});
+    d.original = QStringLiteral("Wall");
+    d.measured = QStringLiteral("Before");
+    d.target = QStringLiteral("Rec.709");
+    d.measurePoints = {{QStringLiteral("old"), QPointF(0.4, 0.4)}};
+    return d;
+}
+
+//! As of a list called "meter" with a gamut and a point.
+GamutFile followed(double redX, const QString &point = QStringLiteral("grey"))
+{
+    GamutFile file;
+    file.content = GamutFile::Content::Measurements;
+    file.name = QStringLiteral("meter");
+    file.measurements.unit = LuminanceUnit::CandelaPerSquareMetre;
+    const Model::Targets t = targets(redX);
+    const std::pair<MeasurementPart, Model::Target> colors[] = {{MeasurementPart::Red, t.red},
+        {MeasurementPart::Green, t.green}, {MeasurementPart::Blue, t.blue}, {MeasurementPart::White, t.white}};
+    for (const auto &[part, color] : colors) {
+        Measurement measurement;
+        measurement.part = part;
+        measurement.color = color;
+        file.measurements.measurements.append(measurement);
+    }
+    Measurement other;
+    other.name = point;
+    other.color = Model::Target::fromYxy(100, 0.31, 0.33);
+    file.measurements.measurements.append(other);
+    return file;
+}
+
+//! Before a gamut is complete.
+GamutFile pointOnly()
+{
+    GamutFile file = followed(0.7);
+    file.measurements.measurements = file.measurements.measurements.mid(4);
+    return file;
+}
+
+struct Fixture {
+    Fixture() { document.open(description(), QStringLiteral("wall.json")); }
+    double measuredRed() const { return document.measured() ? document.measured()->getTargets().red.x : -1.0; }
+    QString points() const
+    {
+        QStringList names;
+        for (const NamedPoint &point : document.description().measurePoints) {
+            names.append(point.name);
+        }
+        return names.join(QLatin1Char(' '));
+    }
+    bool ownIs(const DisplayDescription &expected) const
+    {
+        return descriptionText(document.own()) == descriptionText(expected);
+    }
+
+    Document document;
+    TargetSession session{&document};
+};
+
+} // namespace
+
+class FollowedDocumentTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsWhatIsFollowedWithoutAStep();
+    void showsPointsBeforeThereIsAGamut();
+    void editsTakeNothingOver();
+    void dragsGoOnMeanwhile();
+    void undoIsOfTheDescription();
+    void keepsAsOneStep();
+    void keepsNothingTwice();
+    void keepsTheGamutThatGetsAnotherPart();
+    void keepsTheGamutThatIsRenamed();
+    void measuredPartThatIsTakenAwayComesBack();
+    void addedPointsAreOfTheDescription();
+    void savedIsTheDescription();
+};
+
+void FollowedDocumentTest::showsWhatIsFollowedWithoutAStep()
+{
+    Fixture f;
+    QSignalSpy changed(&f.document, &Document::changed);
+    QSignalSpy edited(&f.document, &Document::edited);
+    f.document.showFollowed(followed(0.69));
+    QCOMPARE(changed.size(), 1);
+    f.document.showFollowed(followed(0.68));
+    QCOMPARE(changed.size(), 2);
+    QVERIFY(edited.isEmpty());
+    QCOMPARE(f.document.description().measured, QStringLiteral("meter"));
+    QCOMPARE(f.measuredRed(), 0.68);
+    QCOMPARE(f.points(), QStringLiteral("grey"));
+    QCOMPARE(f.document.description().gamuts.size(), std::size_t(3));
+    QCOMPARE(f.document.history()->count(), 0);
+    QVERIFY(!f.document.isModified());
+    QVERIFY(f.document.hasUnkept());
+    QVERIFY(f.ownIs(description()));
+    f.document.showFollowed(std::nullopt);
+    QCOMPARE(f.measuredRed(), 0.698);
+    QCOMPARE(f.points(), QStringLiteral("old"));
+    QVERIFY(!f.document.hasUnkept());
+}
+
+void FollowedDocumentTest::showsPointsBeforeThereIsAGamut()
+{
+    Fixture f;
+    f.document.showFollowed(pointOnly());
+    QCOMPARE(f.points(), QStringLiteral("grey"));
+    QCOMPARE(f.measuredRed(), 0.698); // until there is another
+    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    QCOMPARE(f.document.own().measurePoints.size(), 1);
+    QCOMPARE(f.document.own().measurePoints.first().name, QStringLiteral("old"));
+    QCOMPARE(f.document.own().measured, QStringLiteral("Before"));
+}
+
+void FollowedDocumentTest::editsTakeNothingOver()
+{
+    Fixture alone;
+    QVERIFY(alone.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    Fixture f;
+    f.document.showFollowed(followed(0.69));
+    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    QVERIFY(f.ownIs(alone.document.description()));
+    QCOMPARE(f.measuredRed(), 0.69);
+    QCOMPARE(f.document.history()->count(), 1);
+    f.document.showFollowed(followed(0.68));
+    QCOMPARE(f.measuredRed(), 0.68);
+    f.document.history()->undo();
+    QCOMPARE(f.measuredRed(), 0.68);
+    QVERIFY(f.ownIs(description()));
+}
+
+void FollowedDocumentTest::dragsGoOnMeanwhile()
+{
+    Fixture alone;
+    Fixture f;
+    for (Fixture *fixture : {&alone, &f}) {
+        fixture->session.beginDrag(Vertex::Red);
+        const auto move = [fixture](double x) {
+            fixture->session.dragTo(
+                *ceiechart::withPrimary(fixture->document.target()->getTargets(), Vertex::Red, QPointF(x, 0.32)));
+        };
+        move(0.65);
+        if (fixture == &f) {
+            f.document.showFollowed(followed(0.69));
+        }
+        move(0.66);
+        fixture->session.endDrag();
+    }
+    QVERIFY(f.ownIs(alone.document.description()));
+    QCOMPARE(f.document.history()->count(), 1);
+    QCOMPARE(f.measuredRed(), 0.69);
+    f.session.beginDrag(Vertex::Red);
+    f.session.dragTo(*ceiechart::withPrimary(f.document.target()->getTargets(), Vertex::Red, QPointF(0.67, 0.32)));
+    f.session.cancelDrag();
+    QVERIFY(f.ownIs(alone.document.description()));
+    f.session.beginDrag(Vertex::Red);
+    f.session.endDrag();
+    QCOMPARE(f.document.history()->count(), 1); // which changed nothing
+}
+
+void FollowedDocumentTest::undoIsOfTheDescription()
+{
+    Fixture f;
+    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    f.document.showFollowed(followed(0.69));
+    f.document.history()->undo();
+    QVERIFY(f.ownIs(description()));
+    QCOMPARE(f.measuredRed(), 0.69);
+    f.document.showFollowed(std::nullopt);
+    QCOMPARE(f.measuredRed(), 0.698);
+    QVERIFY(f.document.history()->canRedo());
+}
+
+void FollowedDocumentTest::keepsAsOneStep()
+{
+    Fixture f;
+    f.document.showFollowed(followed(0.69));
+    f.document.keepFollowed(QStringLiteral("keep meter"));
+    QCOMPARE(f.document.history()->count(), 1);
+    QCOMPARE(f.document.history()->undoText(), QStringLiteral("keep meter"));
+    QVERIFY(f.document.isModified());
+    QVERIFY(!f.document.hasUnkept());
+    QCOMPARE(f.document.own().measured, QStringLiteral("meter"));
+    QCOMPARE(f.document.own().measurePoints.first().name, QStringLiteral("grey"));
+    // The one that was kept stays; what is followed goes on under a name of its own.
+    f.document.showFollowed(followed(0.68));
+    QCOMPARE(f.measuredRed(), 0.68);
+    QCOMPARE(f.document.description().measured, QStringLiteral("meter (2)"));
+    QCOMPARE(f.document.own().gamut(QStringLiteral("meter"))->getTargets().red.x, 0.69);
+    f.document.showFollowed(std::nullopt);
+    QCOMPARE(f.measuredRed(), 0.69);
+    f.document.history()->undo();
+    QVERIFY(f.ownIs(description()));
+    QVERIFY(!f.document.isModified());
+}
+
+void FollowedDocumentTest::keepsNothingTwice()
+{
+    Fixture f;
+    f.document.keepFollowed(QStringLiteral("keep"));
+    QCOMPARE(f.document.history()->count(), 0);
+    f.document.showFollowed(followed(0.69));
+    f.document.keepFollowed(QStringLiteral("keep"));
+    f.document.keepFollowed(QStringLiteral("keep"));
+    QCOMPARE(f.document.history()->count(), 1);
+    f.document.showFollowed(followed(0.69));
+    QVERIFY(!f.document.hasUnkept());
+}
+
+void FollowedDocumentTest::keepsTheGamutThatGetsAnotherPart()
+{
+    Fixture f;
+    f.document.showFollowed(followed(0.69));
+    f.document.change(
+        withRole(f.document.description(), QStringLiteral("meter"), GamutRole::Original, true), QStringLiteral("part"));
+    QCOMPARE(f.document.own().original, QStringLiteral("meter"));
+    QCOMPARE(f.document.own().measured, QStringLiteral("Before"));
+    QVERIFY(hasOwnGamut(f.document.own(), QStringLiteral("meter")));
+    f.document.showFollowed(followed(0.68));
+    QCOMPARE(f.document.original()->getTargets().red.x, 0.69);
+    QCOMPARE(f.measuredRed(), 0.68);
+}
+
+void FollowedDocumentTest::keepsTheGamutThatIsRenamed()
+{
+    Fixture f;
+    f.document.showFollowed(followed(0.69));
+    f.document.change(withGamutRenamed(f.document.description(), QStringLiteral("meter"), QStringLiteral("first run")),
+        QStringLiteral("rename"));
+    QCOMPARE(f.document.own().measured, QStringLiteral("first run"));
+    f.document.showFollowed(followed(0.68));
+    QCOMPARE(f.document.description().measured, QStringLiteral("meter"));
+    QCOMPARE(f.document.own().gamut(QStringLiteral("first run"))->getTargets().red.x, 0.69);
+}
+
+void FollowedDocumentTest::measuredPartThatIsTakenAwayComesBack()
+{
+    Fixture f;
+    f.document.showFollowed(followed(0.69));
+    f.document.change(withoutGamut(f.document.description(), QStringLiteral("meter")), QStringLiteral("remove"));
+    QVERIFY(f.ownIs(description()));
+    QCOMPARE(f.measuredRed(), 0.69);
+}
+
+void FollowedDocumentTest::addedPointsAreOfTheDescription()
+{
+    Fixture f;
+    f.document.showFollowed(followed(0.69));
+    DisplayDescription added = f.document.description();
+    added.measurePoints = {{QStringLiteral("new"), QPointF(0.2, 0.2)}};
+    f.document.change(added, QStringLiteral("add"));
+    QCOMPARE(f.document.own().measurePoints.first().name, QStringLiteral("new"));
+    QCOMPARE(f.points(), QStringLiteral("grey"));
+}
+
+void FollowedDocumentTest::savedIsTheDescription()
+{
+    Fixture f;
+    f.document.showFollowed(followed(0.69));
+    f.document.markSaved(QStringLiteral("other.json"));
+    QCOMPARE(descriptionText(f.document.saved()), descriptionText(description()));
+    QVERIFY(f.document.hasUnkept());
+    f.document.open(description(), QStringLiteral("again.json"));
+    QCOMPARE(f.measuredRed(), 0.69);
+    QVERIFY(f.ownIs(description()));
+}
+
+QTEST_GUILESS_MAIN(FollowedDocumentTest)
+#include "followeddocumenttest.moc"

@@ -1,0 +1,441 @@
+// SPDX-License-Identifier: MIT
+#include "following/following.h"
+#include "following/followedfile.h"
+#include "program/streaminput.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cstdio>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+using namespace gamutviewer;
+
+namespace {
+
+const QByteArray header = QByteArrayLiteral("name,Y (cd/m2),x,y\n");
+const QByteArray gamut
+    = QByteArrayLiteral("Red,21,0.64,0.33\nGreen,71,0.3,0.6\nBlue,7,0.15,0.06\nWhite,99,0.3127,0.329\n");
+
+double redX(const Following &following)
+{
+    const auto measured = following.file().measurements.gamut(QString());
+    return measured ? measured->getTargets().red.x : -1.0;
+}
+
+//! A file in a folder of its own, written as an instrument's tool writes it, and what follows it.
+struct FileFixture {
+    void append(const QByteArray &bytes) { write(path, bytes, QIODevice::Append); }
+    void overwrite(const QByteArray &bytes) { write(path, bytes, QIODevice::Truncate); }
+    void replace(const QByteArray &bytes)
+    {
+        const QString other = path + QStringLiteral(".new");
+        write(other, bytes, QIODevice::Truncate);
+        QVERIFY(std::rename(QFile::encodeName(other).constData(), QFile::encodeName(path).constData()) == 0);
+    }
+    static void write(const QString &name, const QByteArray &bytes, QIODevice::OpenMode mode)
+    {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly | mode));
+        QCOMPARE(file.write(bytes), qint64(bytes.size()));
+    }
+    void follow(const MeasurementOptions &options = MeasurementOptions())
+    {
+        following = std::make_unique<Following>(std::make_unique<FollowedFile>(path), options);
+    }
+    qint64 lines() const { return following->state().lines; }
+    double redX() const { return ::redX(*following); }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("wall.csv"));
+    std::unique_ptr<Following> following;
+};
+
+} // namespace
+
+class FollowingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void followsAFileThatGrows();
+    void waitsForTheEndOfALine();
+    void countsTheLatestOfAColour();
+    void followsAFileInUtf16();
+    void beginsAnewWithAFileThatIsReplaced();
+    void beginsAnewWithAFileThatIsTruncated();
+    void goesOnWithAListThatIsWrittenAnew();
+    void waitsForAFileThatIsNotThere();
+    void followsAFileWithoutNotices();
+    void countsBrokenLines();
+    void tellsTheRate();
+    void tellsOncePerFrame();
+    void doesALittleInEachTurn();
+    void followsCabinets();
+    void readsStandardInputAsItComes();
+    void awaitsTheNextWriterOfANamedPipe();
+    void readsAStreamInAThread();
+    void threadEndsWithItsReader();
+    void refusesWhatCannotBeFollowed();
+};
+
+void FollowingTest::followsAFileThatGrows()
+{
+    FileFixture f;
+    f.overwrite(header);
+    f.follow();
+    QSignalSpy measured(f.following.get(), &Following::measured);
+    QTRY_COMPARE(f.lines(), 1);
+    QVERIFY(f.following->input().isThere());
+    f.append("Red,21,0.64,0.33\r\n");
+    QTRY_COMPARE(measured.size(), 1);
+    QVERIFY(!f.following->file().measurements.gamut(QString()));
+    QCOMPARE(f.following->file().measurements.others().size(), 1);
+    f.append("Green,71,0.3,0.6\r\nBlue,7,0.15,0.06\r\nWhite,99,0.3127,0.329\r\n");
+    QTRY_COMPARE(f.redX(), 0.64);
+    QCOMPARE(f.following->file().name, QStringLiteral("wall"));
+    QCOMPARE(f.following->file().measurements.unit, LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(f.following->file().measurements.recognized.headerLine, 1);
+    QCOMPARE(f.lines(), 5);
+    QCOMPARE(f.following->state().notRead, 0);
+}
+
+void FollowingTest::waitsForTheEndOfALine()
+{
+    FileFixture f;
+    f.overwrite(header + "Red,21,0.6");
+    f.follow();
+    QTRY_VERIFY(f.following->state().heldBytes > 0);
+    QCOMPARE(f.following->state().measurements, 0);
+    f.append("4,0.33\n");
+    QTRY_COMPARE(f.following->state().measurements, 1);
+    QCOMPARE(f.following->file().measurements.measurements.first().color->x, 0.64);
+    QCOMPARE(f.following->state().notRead, 0);
+}
+
+void FollowingTest::countsTheLatestOfAColour()
+{
+    FileFixture f;
+    f.overwrite(header + gamut);
+    f.follow();
+    QTRY_COMPARE(f.redX(), 0.64);
+    f.append("Red,22,0.65,0.33\n");
+    QTRY_COMPARE(f.redX(), 0.65);
+    f.append("R 100 %,22,0.66,0.33\n");
+    QTRY_COMPARE(f.redX(), 0.66);
+    QVERIFY(f.following->file().measurements.others().isEmpty());
+}
+
+void FollowingTest::followsAFileInUtf16()
+{
+    const auto utf16 = [](const QString &text) {
+        QByteArray bytes;
+        for (const QChar c : text) {
+            bytes.append(char(c.unicode() & 0xFF)).append(char(c.unicode() >> 8));
+        }
+        return bytes;
+    };
+    FileFixture f;
+    f.overwrite("\xFF\xFE" + utf16(QString::fromUtf8("名称\tY\tx\ty\r\n红\t21\t0,64\t0,")));
+    f.follow();
+    QTRY_COMPARE(f.lines(), 1);
+    f.append(utf16(QString::fromUtf8("33\r\n绿\t71\t0,3\t0,6\r\n蓝\t7\t0,15\t0,06\r\n")).chopped(1));
+    f.append(QByteArray(1, '\0') + utf16(QString::fromUtf8("白\t99\t0,3127\t0,329\r\n")));
+    QTRY_COMPARE(f.redX(), 0.64);
+    QCOMPARE(f.following->state().notRead, 0);
+}
+
+void FollowingTest::beginsAnewWithAFileThatIsReplaced()
+{
+    FileFixture f;
+    f.overwrite(header + gamut + "grey,3,0.31,0.33\nRed,#N/A\n");
+    f.follow();
+    QTRY_COMPARE(f.lines(), 7);
+    QCOMPARE(f.redX(), 0.64);
+    // Of the same length, and a longer one.
+    f.replace(header + "Red,21,0.69,0.30\nGreen,71,0.3,0.6\nBlue,7,0.15,0.06\nWhite,99,0.3127,0.329\n");
+    QTRY_COMPARE(f.redX(), 0.69);
+    QCOMPARE(f.lines(), 5);
+    QCOMPARE(f.following->state().notRead, 0);
+    QVERIFY(f.following->file().measurements.others().isEmpty());
+    f.replace("name;Y;x;y\nBlau;7,5;0,15;0,06\n" + QByteArray(2000, '#') + '\n');
+    QTRY_COMPARE(f.following->state().recognized.separator, QLatin1Char(';'));
+    QCOMPARE(f.redX(), -1.0);
+    f.append("Rot;21,5;0,7;0,29\n");
+    QTRY_COMPARE(f.following->state().measurements, 2);
+}
+
+void FollowingTest::beginsAnewWithAFileThatIsTruncated()
+{
+    FileFixture f;
+    f.overwrite(header + gamut);
+    f.follow();
+    QTRY_COMPARE(f.redX(), 0.64);
+    QSignalSpy measured(f.following.get(), &Following::measured);
+    f.overwrite(QByteArray());
+    QTRY_COMPARE(f.lines(), 0);
+    QTRY_VERIFY(!measured.isEmpty()); // what is shown goes, too
+    QVERIFY(f.following->file().measurements.measurements.isEmpty());
+    f.append(header + "Red,21,0.7,0.29\n");
+    QTRY_COMPARE(f.following->state().measurements, 1);
+}
+
+void FollowingTest::goesOnWithAListThatIsWrittenAnew()
+{
+    FileFixture f;
+    f.overwrite(header + gamut);
+    f.follow();
+    QTRY_COMPARE(f.lines(), 5);
+    QSignalSpy restarted(&f.following->input(), &FollowedInput::restarted);
+    f.replace(header + gamut + "Red,22,0.65,0.33\n");
+    QTRY_COMPARE(f.redX(), 0.65);
+    QCOMPARE(f.lines(), 6);
+    QVERIFY(restarted.isEmpty());
+}
+
+void FollowingTest::waitsForAFileThatIsNotThere()
+{
+    FileFixture f;
+    f.follow();
+    QSignalSpy told(f.following.get(), &Following::stateChanged);
+    QTRY_VERIFY(told.size() > 1);
+    QVERIFY(!f.following->input().isThere());
+    f.overwrite(header + gamut);
+    QTRY_COMPARE(f.redX(), 0.64);
+    QVERIFY(f.following->input().isThere());
+    QVERIFY(QFile::remove(f.path));
+    QTRY_VERIFY(!f.following->input().isThere());
+    QCOMPARE(f.redX(), 0.64); // until there is something else
+    f.overwrite(header + gamut + "Red,22,0.65,0.33\n");
+    QTRY_COMPARE(f.redX(), 0.65);
+    // What has become a folder is not there, either.
+    QVERIFY(QFile::remove(f.path));
+    QVERIFY(QDir().mkdir(f.path));
+    QTRY_VERIFY(!f.following->input().isThere());
+}
+
+void FollowingTest::followsAFileWithoutNotices()
+{
+    FileFixture f;
+    f.overwrite(header + gamut);
+    f.follow();
+    QTRY_COMPARE(f.lines(), 5);
+    const auto *input = qobject_cast<const FollowedFile *>(&f.following->input());
+    QVERIFY(input);
+    auto *watcher = input->findChild<QFileSystemWatcher *>();
+    QVERIFY(watcher);
+    watcher->blockSignals(true);
+    f.append("Red,22,0.65,0.33\n");
+    QTRY_COMPARE(f.redX(), 0.65);
+}
+
+void FollowingTest::countsBrokenLines()
+{
+    FileFixture f;
+    f.overwrite(header + gamut + "Red,#DIV/0!,0.64,0.33\nRed,22,0.65,0.33\n\nGreen\n");
+    f.follow();
+    QTRY_COMPARE(f.lines(), 9);
+    QCOMPARE(f.following->state().notRead, 2);
+    QCOMPARE(f.following->state().lastNotRead.place, QStringLiteral("line 9"));
+    QCOMPARE(f.redX(), 0.65);
+}
+
+void FollowingTest::tellsTheRate()
+{
+    FileFixture f;
+    f.overwrite(header);
+    f.follow();
+    QSignalSpy told(f.following.get(), &Following::stateChanged);
+    QTRY_COMPARE(f.lines(), 1);
+    QByteArray lines;
+    for (int i = 0; i < 300; ++i) {
+        lines += "grey,21,0.31,0.33\n";
+    }
+    f.append(lines);
+    QTRY_VERIFY(f.following->linesPerSecond() >= 300);
+    QVERIFY(f.following->linesPerSecond() <= 301);
+    QTRY_COMPARE(f.following->linesPerSecond(), 0);
+}
+
+void FollowingTest::tellsOncePerFrame()
+{
+    FileFixture f;
+    f.overwrite(header);
+    f.follow();
+    QTRY_COMPARE(f.lines(), 1);
+    QSignalSpy measured(f.following.get(), &Following::measured);
+    QElapsedTimer time;
+    time.start();
+    constexpr int count = 200;
+    for (int i = 0; i < count; ++i) {
+        f.append("grey,21,0.31,0.33\n");
+        QTest::qWait(1);
+    }
+    QTRY_COMPARE(f.following->state().measurements, count);
+    QVERIFY(!measured.isEmpty());
+    QVERIFY2(measured.size() <= time.elapsed() / Following::frameMilliseconds + 1,
+        qPrintable(QStringLiteral("%1 in %2 ms").arg(measured.size()).arg(time.elapsed())));
+}
+
+void FollowingTest::doesALittleInEachTurn()
+{
+    FileFixture f;
+    constexpr int count = 600000;
+    {
+        QFile file(f.path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("cabinet,name,Y (cd/m2),x,y\n");
+        for (int i = 1; i < count; ++i) {
+            file.write(i % 50 == 0 ? QByteArrayLiteral("instrument ready\n")
+                                   : QByteArray::number(i / 5) + ",patch " + QByteArray::number(i) + ",21,0.31,0.33\n");
+        }
+    }
+    f.follow();
+    // Every turn of the event loop that reads lines lets others have theirs.
+    int othersTurns = 0;
+    QTimer other;
+    connect(&other, &QTimer::timeout, [&othersTurns] { ++othersTurns; });
+    other.start(0);
+    qint64 mostBytes = 0;
+    connect(&other, &QTimer::timeout, [&] { mostBytes = std::max<qint64>(mostBytes, f.following->state().heldBytes); });
+    QTRY_COMPARE_WITH_TIMEOUT(f.lines(), count, 120000);
+    QCOMPARE(f.following->state().notRead, (count - 1) / 50);
+    QVERIFY2(f.following->mostLinesInATurn() <= Following::linesPerTurn,
+        qPrintable(QString::number(f.following->mostLinesInATurn())));
+    QVERIFY2(othersTurns >= count / Following::linesPerTurn, qPrintable(QString::number(othersTurns)));
+    QVERIFY2(mostBytes <= 32 * 1024, qPrintable(QString::number(mostBytes)));
+    QVERIFY(f.following->state().heldLines <= maximumHeldLines);
+    QVERIFY(f.following->latest().pointCount() <= mostLatestPoints);
+    QVERIFY(f.following->latest().cabinetCount() <= mostLatestCabinets);
+    QCOMPARE(f.following->file().measurements.measurements.size(), mostLatestPoints);
+}
+
+void FollowingTest::followsCabinets()
+{
+    FileFixture f;
+    f.overwrite("row,column,name,Y,x,y\n");
+    f.follow();
+    for (const QByteArray &cabinet : {QByteArray("1,1,"), QByteArray("1,2,")}) {
+        for (const QByteArray &line : gamut.trimmed().split('\n')) {
+            f.append(cabinet + line + '\n');
+        }
+    }
+    QTRY_COMPARE(f.lines(), 9);
+    const auto cabinets = f.following->latest().cabinets();
+    QCOMPARE(cabinets.size(), 2);
+    QCOMPARE(cabinets.last().label(), QStringLiteral("1/2"));
+    QVERIFY(cabinets.first().list.gamut(QString()));
+    QCOMPARE(f.redX(), 0.64);
+
+    MeasurementOptions options;
+    options.cabinet = QStringLiteral("1/1");
+    f.follow(options);
+    QTRY_COMPARE(f.lines(), 9);
+    QCOMPARE(f.following->latest().cabinets().size(), 1);
+}
+
+void FollowingTest::readsStandardInputAsItComes()
+{
+#ifdef Q_OS_UNIX
+    int ends[2];
+    QCOMPARE(::pipe(ends), 0);
+    const auto write = [&ends](const QByteArray &bytes) {
+        QCOMPARE(::write(ends[1], bytes.constData(), size_t(bytes.size())), ssize_t(bytes.size()));
+    };
+    Following following(
+        std::make_unique<StreamInput>(QStringLiteral("-"), ends[0], StreamInput::AtEnd::Ends), MeasurementOptions());
+    QVERIFY(!following.input().isRepeatable());
+    write(header + gamut);
+    QTRY_COMPARE(redX(following), 0.64);
+    QTest::qWait(50); // nothing comes, and nothing waits for it
+    write("Red,22,0.65,");
+    QTRY_VERIFY(following.state().heldBytes > 0);
+    write("0.33\nRed,23,0.66,0.33");
+    QTRY_COMPARE(redX(following), 0.65);
+    QVERIFY(!following.input().hasEnded());
+    ::close(ends[1]);
+    // The last line needs no end when nothing can follow.
+    QTRY_COMPARE(redX(following), 0.66);
+    QVERIFY(following.input().hasEnded());
+    QCOMPARE(following.state().notRead, 0);
+    QCOMPARE(following.file().name, QStringLiteral("standard input"));
+    ::close(ends[0]);
+#else
+    QSKIP("reads pipes by a thread");
+#endif
+}
+
+void FollowingTest::awaitsTheNextWriterOfANamedPipe()
+{
+#ifdef Q_OS_UNIX
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("meter"));
+    QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    InputToFollow opened = inputToFollow(path); // which does not wait for a writer
+    QVERIFY2(opened.input, qPrintable(opened.error));
+    Following following(std::move(opened.input), MeasurementOptions());
+    FileFixture::write(path, header + gamut, QIODevice::NotOpen);
+    QTRY_COMPARE(redX(following), 0.64);
+    QTRY_VERIFY(!following.input().isThere());
+    QVERIFY(!following.input().hasEnded());
+    FileFixture::write(path, "Red,22,0.65,0.33\n", QIODevice::NotOpen);
+    QTRY_COMPARE(redX(following), 0.65);
+    FileFixture::write(path, header + "Red,22,0.66,0.33\n", QIODevice::NotOpen);
+    QTRY_COMPARE(redX(following), 0.66);
+    QCOMPARE(following.state().notRead, 0);
+#else
+    QSKIP("has no named pipes of this kind");
+#endif
+}
+
+void FollowingTest::readsAStreamInAThread()
+{
+    FileFixture f;
+    QByteArray lines = header + gamut;
+    while (lines.size() < 1024 * 1024) { // more than is kept at a time
+        lines += "grey,21,0.31,0.33\n";
+    }
+    f.overwrite(lines + "Red,22,0.65,0.33");
+    std::FILE *stream = std::fopen(QFile::encodeName(f.path).constData(), "rb");
+    QVERIFY(stream);
+    Following following(std::make_unique<ThreadInput>(QStringLiteral("-"), stream), MeasurementOptions());
+    QTRY_VERIFY(following.input().hasEnded() && redX(following) == 0.65);
+    QCOMPARE(following.state().lines, lines.count('\n') + 1);
+    QCOMPARE(following.state().notRead, 0);
+    std::fclose(stream);
+}
+
+void FollowingTest::threadEndsWithItsReader()
+{
+    FileFixture f;
+    f.overwrite(QByteArray(1024 * 1024, '\n'));
+    std::FILE *stream = std::fopen(QFile::encodeName(f.path).constData(), "rb");
+    QVERIFY(stream);
+    {
+        ThreadInput input(QStringLiteral("-"), stream);
+        QTRY_VERIFY(!input.read(1).isEmpty());
+    }
+    // The thread was waiting for room; the stream is not read to its end.
+    long before = -1;
+    QTRY_VERIFY(std::exchange(before, std::ftell(stream)) == std::ftell(stream));
+    QVERIFY(std::ftell(stream) < 1024 * 1024);
+    std::fclose(stream);
+}
+
+void FollowingTest::refusesWhatCannotBeFollowed()
+{
+    QTemporaryDir folder;
+    QCOMPARE(inputToFollow(folder.path()).error, QStringLiteral("%1: is a folder").arg(folder.path()));
+    const QString nowhere = folder.filePath(QStringLiteral("none/wall.csv"));
+    QCOMPARE(inputToFollow(nowhere).error, QStringLiteral("%1: there is no such folder").arg(nowhere));
+    const InputToFollow later = inputToFollow(folder.filePath(QStringLiteral("later.csv")));
+    QVERIFY(later.input && later.error.isEmpty());
+    QVERIFY(later.input->isRepeatable());
+}
+
+QTEST_GUILESS_MAIN(FollowingTest)
+#include "followingtest.moc"
