@@ -40,6 +40,7 @@ private Q_SLOTS:
     void layersAreDocumented();
     void severalFiles();
     void measurementOptions();
+    void followedFile();
     void refusals_data();
     void refusals();
 };
@@ -390,6 +391,16 @@ void CommandLineTest::measurementOptions()
         QStringLiteral("The name of --cabinet is empty."));
 }
 
+void CommandLineTest::followedFile()
+{
+    QVERIFY(CommandLine(withProgram("wall.json")).followedFile().isEmpty());
+    const CommandLine line(withProgram("wall.json --follow meter.csv --unit fL"));
+    QCOMPARE(line.action(), Action::Show);
+    QCOMPARE(line.followedFile(), QStringLiteral("meter.csv"));
+    QCOMPARE(line.files(), QStringList("wall.json"));
+    QCOMPARE(CommandLine(withProgram("--follow -")).followedFile(), QStringLiteral("-"));
+}
+
 void CommandLineTest::refusals_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -444,6 +455,17 @@ void CommandLineTest::refusals_data()
     QTest::newRow("check and report of nothing")
         << QStringList{"--check", "--report", "json"} << "No file to check: --check requires one.";
     QTest::newRow("empty tolerances") << QStringList{"--tolerances", ""} << "The file name of --tolerances is empty.";
+    QTest::newRow("empty followed file") << QStringList{"--follow", ""} << "The file name of --follow is empty.";
+    QTest::newRow("two followed files") << QStringList{"--follow", "a.csv", "--follow", "b.csv"}
+                                        << "--follow can be used only once.";
+    QTest::newRow("standard input twice")
+        << QStringList{"--follow", "-", "-"} << "Standard input cannot be both opened and followed.";
+    for (const QStringList &writing : {QStringList{"--render", "a.png"}, QStringList{"--report", "json"},
+             QStringList{"--check", "a.json"}}) {
+        QTest::newRow(qPrintable("followed with " + writing.first()))
+            << writing + QStringList{"--follow", "a.csv"}
+            << "--follow requires the window and does not apply to --render, --report and --check.";
+    }
     QTest::newRow("first reason") << QStringList{"--dpr", "0", "--size", "0x0"}
                                   << "Invalid size, expected 1x1 to 8192x8192: 0x0";
 }

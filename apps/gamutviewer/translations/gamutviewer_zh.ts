@@ -527,6 +527,10 @@
         <comment>gamut and distance</comment>
         <translation>超出%1，Δu′v′ 为 %2</translation>
     </message>
+    <message>
+        <source>outside by Δu′v′ %1</source>
+        <translation>超出 Δu′v′ %1</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::ExportDialog</name>
@@ -1264,6 +1268,10 @@
         <source>Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display is known to reach; from cd/m² to relative, it becomes 1.</source>
         <translation>亮度的单位。从相对值改为 cd/m² 时，白点取已知显示屏所能达到的最大亮度；从 cd/m² 改为相对值时，白点为 1。</translation>
     </message>
+    <message>
+        <source>Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display reaches; from cd/m² to relative, it becomes 1.</source>
+        <translation>亮度的单位。从相对值改为 cd/m² 时，白点取显示屏所能达到的最大亮度；从 cd/m² 改为相对值时，白点为 1。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::TargetSession</name>
@@ -1648,6 +1656,10 @@ Ctrl+1 到 Ctrl+3 – 显示页面</translation>
         <comment>dominant wavelength and purity, for the white of the target</comment>
         <translation>   λ %1 nm  p %2</translation>
     </message>
+    <message>
+        <source>Saved as %1, without the measurement in progress</source>
+        <translation>已保存为 %1，不含进行中的测量</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WarningBar</name>
@@ -1663,6 +1675,61 @@ Ctrl+1 到 Ctrl+3 – 显示页面</translation>
         <source>Warnings about what was opened: %1</source>
         <comment>with their number</comment>
         <translation>所打开文件的警告：%1</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::FollowMenu</name>
+    <message>
+        <source>&amp;Measurement in progress</source>
+        <translation>进行中的测量(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Follow…</source>
+        <translation>跟随(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the measurement</source>
+        <translation>保留测量结果(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop following</source>
+        <translation>停止跟随(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Follow a measurement</source>
+        <translation>跟随测量</translation>
+    </message>
+    <message>
+        <source>Measurement lists (*.csv *.tsv *.txt)</source>
+        <translation>测量列表 (*.csv *.tsv *.txt)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>keep %1</source>
+        <translation>保留 %1</translation>
+    </message>
+    <message>
+        <source>%1 has ended: %2 lines, %3 not read</source>
+        <translation>%1 已结束：%2 行，其中 %3 行无法读取</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>正在等待 %1</translation>
+    </message>
+    <message>
+        <source>Following %1: %2 lines, %3 not read, %4 a second</source>
+        <translation>正在跟随 %1：%2 行，其中 %3 行无法读取，每秒 %4 行</translation>
+    </message>
+    <message>
+        <source>The last line that was not read: %1</source>
+        <translation>最近一个无法读取的行：%1</translation>
+    </message>
+    <message>
+        <source>Lines wait to be read: %1</source>
+        <translation>有待读取的行：%1</translation>
     </message>
 </context>
 </TS>

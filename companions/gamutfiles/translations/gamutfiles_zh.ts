@@ -870,6 +870,25 @@
     </message>
 </context>
 <context>
+    <name>gamutfiles::MeasurementStream</name>
+    <message>
+        <source>the header and the first measurement are awaited</source>
+        <translation>正在等待表头和第一个测量值</translation>
+    </message>
+    <message>
+        <source>has no numbers</source>
+        <translation>没有数字</translation>
+    </message>
+    <message>
+        <source>is longer than %1 KiB</source>
+        <translation>超过 %1 KiB</translation>
+    </message>
+    <message>
+        <source>unterminated quote</source>
+        <translation>引号未闭合</translation>
+    </message>
+</context>
+<context>
     <name>gamutfiles::Primaries</name>
     <message>
         <source>the red primary</source>
