@@ -460,8 +460,8 @@ void CommandLineTest::refusals_data()
                                         << "--follow can be used only once.";
     QTest::newRow("standard input twice")
         << QStringList{"--follow", "-", "-"} << "Standard input cannot be both opened and followed.";
-    for (const QStringList &writing : {QStringList{"--render", "a.png"}, QStringList{"--report", "json"},
-             QStringList{"--check", "a.json"}}) {
+    for (const QStringList &writing :
+        {QStringList{"--render", "a.png"}, QStringList{"--report", "json"}, QStringList{"--check", "a.json"}}) {
         QTest::newRow(qPrintable("followed with " + writing.first()))
             << writing + QStringList{"--follow", "a.csv"}
             << "--follow requires the window and does not apply to --render, --report and --check.";
