@@ -170,8 +170,11 @@ QString utf16(const QByteArray &bytes, quint32 offset, quint32 size)
  *
  * A count, the length of a record, and records that begin with offset and size of a name and of a value. Little CMS
  * would read them, too, but frees a piece twice when it is refused memory for them.
+ *
+ * Any number of records may point at the same bytes. Names and values together are therefore limited to the size of the
+ * tag, which those that do not overlap cannot exceed.
  */
-QVector<IccMetadata> metadata(const Profile &profile)
+QVector<IccMetadata> metadata(const Profile &profile, QVector<Problem> &warnings)
 {
     constexpr int maximumEntries = 256;
     constexpr int maximumSize = 1024 * 1024;
@@ -190,10 +193,19 @@ QVector<IccMetadata> metadata(const Profile &profile)
         return {};
     }
     QVector<IccMetadata> entries;
+    quint32 room = size;
     for (quint32 i = 0; i < count && entries.size() < maximumEntries && firstRecord + (i + 1) * length <= size; ++i) {
         const auto number
             = [&bytes, at = int(firstRecord + i * length)](int index) { return bigEndian(bytes, at + 4 * index); };
-        entries.append({utf16(bytes, number(0), number(1)), utf16(bytes, number(2), number(3))});
+        const IccMetadata entry{utf16(bytes, number(0), number(1)), utf16(bytes, number(2), number(3))};
+        const auto entrySize = quint32(entry.name.size() + entry.value.size()) * quint32(sizeof(QChar));
+        if (entrySize > room) {
+            warnings.append({IccText::tr("the metadata are larger than their tag: the further ones are left out"),
+                QStringLiteral("meta"), 0, 0});
+            break;
+        }
+        room -= entrySize;
+        entries.append(entry);
     }
     return entries;
 }
@@ -335,9 +347,9 @@ Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes, const IccMemory &mem
     display.gamut
         = DisplayGamut(*gamut, display.whiteLuminance ? LuminanceUnit::CandelaPerSquareMetre : LuminanceUnit::Relative);
     display.hasVideoCardTable = cmsIsTag(profile.get(), cmsSigVcgtTag) != 0;
-    display.metadata = metadata(profile);
-
     QVector<Problem> warnings;
+    display.metadata = metadata(profile, warnings);
+
     if (name.isEmpty() && cmsIsTag(profile.get(), cmsSigProfileDescriptionTag)
         && !cmsReadTag(profile.get(), cmsSigProfileDescriptionTag)) {
         warnings.append({IccText::tr("the name of the profile cannot be read"), QStringLiteral("desc"), 0, 0});

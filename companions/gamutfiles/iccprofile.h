@@ -32,7 +32,8 @@ struct IccDisplay {
     DisplayGamut gamut;
     std::optional<double> whiteLuminance; //!< cd/m², of the "lumi" tag
     bool hasVideoCardTable = false; //!< whether the gamut holds only with curves of the profile in the video card
-    QVector<IccMetadata> metadata; //!< of the "meta" tag (ICC.1:2010, dictType), at most 256 entries
+    //! Of the "meta" tag (ICC.1:2010, dictType): at most 256 entries, with names and values no larger than the tag.
+    QVector<IccMetadata> metadata;
 };
 
 /*! \brief Whether \a bytes begin like an ICC profile: the signature "acsp" at its place. */
@@ -44,8 +45,8 @@ GAMUTFILES_EXPORT bool isIccProfile(const QByteArray &bytes);
  * The memory that reading takes is bounded by the size of the profile, whatever its counts say. A profile that lists
  * the tag of its adaptation, or without one that of its white, but where it cannot be read, is refused as damaged.
  * Warnings tell of a description or a luminance that cannot be read, of primaries that no light has, of a table (A2B0,
- * A2B1) beside the colorants, which then need not be the primaries, and of metadata by which the numbers are those of
- * an EDID or a standard, not measured ones.
+ * A2B1) beside the colorants, which then need not be the primaries, of metadata that are larger than their tag, and of
+ * metadata by which the numbers are those of an EDID or a standard, not measured ones.
  */
 GAMUTFILES_EXPORT Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes);
 

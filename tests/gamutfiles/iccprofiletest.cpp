@@ -3,6 +3,7 @@
 
 #include <gamutfiles/iccprofile.h>
 
+#include <QtEndian>
 #include <QtTest>
 
 #include <cmath>
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void luminanceOfTheTag();
     void metadata();
     void damagedMetadata();
+    void overlappingMetadata();
     void metadataThatDenyAMeasurement_data();
     void metadataThatDenyAMeasurement();
     void videoCardTable();
@@ -445,6 +447,47 @@ void IccProfileTest::damagedMetadata()
         }
     }
     QVERIFY(readIccDisplay(QByteArray(whole).replace(begin + 8, 4, "\xFF\xFF\xFF\xFF"))->metadata.size() <= 6);
+}
+
+// Many records that all point at the same long value would take many times the memory of the profile.
+void IccProfileTest::overlappingMetadata()
+{
+    constexpr int length = 5000;
+    constexpr int count = 200;
+    QVector<QPair<QString, QString>> entries{{QStringLiteral("long"), QString(length, QLatin1Char('x'))}};
+    for (int i = 1; i < count; ++i) {
+        entries.append({QStringLiteral("short"), QStringLiteral("y")});
+    }
+    QByteArray bytes = samplefiles::version4Profile(withMetadata(entries));
+    QCOMPARE(readIccDisplay(bytes)->metadata.size(), count);
+    QVERIFY(readIccDisplay(bytes).warnings().isEmpty());
+
+    const int records = bytes.indexOf("dict") + 16;
+    const auto recordLength = qFromBigEndian<qint32>(bytes.constData() + records - 4);
+    const QByteArray value = [&] {
+        for (int i = 0; i < count; ++i) {
+            const QByteArray place = bytes.mid(records + i * recordLength + 8, 8);
+            if (qFromBigEndian<qint32>(place.constData() + 4) >= 2 * length) {
+                return place;
+            }
+        }
+        return QByteArray();
+    }();
+    QCOMPARE(value.size(), 8);
+    for (int i = 0; i < count; ++i) {
+        bytes.replace(records + i * recordLength + 8, 8, value);
+    }
+    const auto display = readIccDisplay(bytes);
+    QVERIFY2(display, qPrintable(display.error()));
+    int characters = 0;
+    for (const IccMetadata &entry : display->metadata) {
+        characters += int(entry.name.size() + entry.value.size());
+    }
+    QVERIFY2(2 * characters <= bytes.size(), qPrintable(QString::number(characters)));
+    QCOMPARE(display->metadata.size(), 1);
+    QCOMPARE(display.warnings().size(), 1);
+    QCOMPARE(display.warnings().first().message(),
+        QStringLiteral("meta: the metadata are larger than their tag: the further ones are left out"));
 }
 
 void IccProfileTest::metadataThatDenyAMeasurement_data()
