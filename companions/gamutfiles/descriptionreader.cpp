@@ -33,6 +33,7 @@ Outcome<DisplayDescription> readDescriptionFile(const QString &fileName)
 std::optional<DisplayDescription> DescriptionReader::read(const QByteArray &utf8)
 {
     m_description = DisplayDescription();
+    m_places.clear();
     const auto root
         = parse(utf8, maximumDescriptionBytes, tr("is too large for a display description (more than %1 KiB)"));
     if (!root) {
@@ -58,15 +59,14 @@ void DescriptionReader::readDescription(const Node &node)
     m_description.notes = readString(member(node, QStringLiteral("notes")));
 
     const QSet<QString> shown = shownNames(node);
-    QSet<QString> names;
     for (const Node &element : elements(member(node, QStringLiteral("gamuts")))) {
         const QString given = member(element, QStringLiteral("name")).value.toString();
         m_description.gamuts.push_back(
             readGamut(element, shown.contains(given) ? PrimariesOf::Display : PrimariesOf::ColorSpace));
-        if (names.contains(given)) {
+        if (m_places.contains(given)) {
             fail(member(element, QStringLiteral("name")), tr("there is already a gamut named %1").arg(quoted(given)));
         }
-        names.insert(given);
+        m_places.insert(given, int(m_description.gamuts.size()) - 1);
     }
     m_description.original = readDisplayReference(member(node, QStringLiteral("original")));
     m_description.declared = readGamutReference(member(node, QStringLiteral("declared")));
@@ -183,7 +183,7 @@ QString DescriptionReader::readGamutReference(const Node &node)
         return {};
     }
     QString name = readName(node);
-    if (!failed() && !m_description.gamut(name)) {
+    if (!failed() && !m_description.gamut(name, m_places)) {
         fail(node, tr("there is no gamut named %1").arg(quoted(name)));
     }
     return name;
@@ -193,7 +193,7 @@ QString DescriptionReader::readGamutReference(const Node &node)
 QString DescriptionReader::readDisplayReference(const Node &node)
 {
     QString name = readGamutReference(node);
-    const auto gamut = m_description.gamut(name);
+    const auto gamut = m_description.gamut(name, m_places);
     if (gamut && !hasRealPrimaries(gamut->getTargets())) {
         fail(node, tr("no display can show %1: it has primaries with x < 0, y <= 0 or x + y > 1").arg(quoted(name)));
     }
@@ -203,11 +203,13 @@ QString DescriptionReader::readDisplayReference(const Node &node)
 QStringList DescriptionReader::readStandards(const Node &node)
 {
     QStringList standards;
+    QSet<QString> listed;
     for (const Node &element : elements(node)) {
         const QString name = readGamutReference(element);
-        if (standards.contains(name)) {
+        if (listed.contains(name)) {
             fail(element, tr("%1 is listed twice").arg(quoted(name)));
         }
+        listed.insert(name);
         standards.append(name);
         if (failed()) {
             break;

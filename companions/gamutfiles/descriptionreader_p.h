@@ -7,6 +7,7 @@
 #include <gamutfiles/descriptionfile.h>
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QSet>
 #include <optional>
 
@@ -43,6 +44,7 @@ private:
     QPointF readChromaticity(const Node &node, PrimariesOf kind = PrimariesOf::Display);
 
     DisplayDescription m_description;
+    QHash<QString, int> m_places; //!< DisplayDescription::gamutPlaces() of what has been read
 };
 
 } // namespace gamutfiles

@@ -6,8 +6,32 @@
 #include <gamutmodel/publishedgamuts.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace gamutfiles {
+
+namespace {
+
+QString nameOf(const Model::ColorGamut &gamut)
+{
+    return QString::fromStdString(gamut.colorGamutName());
+}
+
+//! The published gamut of exactly the name \a gamutName.
+std::optional<DisplayGamut> published(const QString &gamutName)
+{
+    static const QHash<QString, Model::ColorGamut> gamuts = [] {
+        QHash<QString, Model::ColorGamut> all;
+        for (const Model::PublishedGamut &gamut : Model::publishedGamuts()) {
+            all.insert(nameOf(gamut.gamut), gamut.gamut);
+        }
+        return all;
+    }();
+    const auto found = gamuts.constFind(gamutName);
+    return found != gamuts.cend() ? std::make_optional(DisplayGamut(*found, LuminanceUnit::Relative)) : std::nullopt;
+}
+
+} // namespace
 
 bool hasRealPrimaries(const Model::Targets &gamut)
 {
@@ -17,29 +41,58 @@ bool hasRealPrimaries(const Model::Targets &gamut)
 
 std::optional<DisplayGamut> DisplayDescription::gamut(const QString &gamutName) const
 {
-    const std::string wanted = gamutName.toStdString();
-    const auto isWanted = [&wanted](const Model::ColorGamut &gamut) { return gamut.colorGamutName() == wanted; };
-    const auto own = std::find_if(gamuts.begin(), gamuts.end(), isWanted);
-    if (own != gamuts.end()) {
-        return *own;
+    const DisplayGamut *own = ownGamut(gamutName);
+    return own ? std::make_optional(*own) : published(gamutName);
+}
+
+QHash<QString, int> DisplayDescription::gamutPlaces() const
+{
+    QHash<QString, int> places;
+    places.reserve(int(gamuts.size()));
+    for (int i = int(gamuts.size()) - 1; i >= 0; --i) {
+        places.insert(nameOf(gamuts[std::size_t(i)]), i);
     }
-    const std::vector<Model::PublishedGamut> &published = Model::publishedGamuts();
-    const auto standard = std::find_if(published.begin(), published.end(),
-        [&isWanted](const Model::PublishedGamut &candidate) { return isWanted(candidate.gamut); });
-    return standard == published.end() ? std::nullopt
-                                       : std::make_optional(DisplayGamut(standard->gamut, LuminanceUnit::Relative));
+    return places;
+}
+
+std::optional<DisplayGamut> DisplayDescription::gamut(const QString &gamutName, const QHash<QString, int> &places) const
+{
+    const auto place = places.constFind(gamutName);
+    return place != places.cend() ? std::make_optional(gamuts.at(std::size_t(*place))) : published(gamutName);
+}
+
+const DisplayGamut *DisplayDescription::ownGamut(const QString &gamutName) const
+{
+    const auto found = std::find_if(gamuts.begin(), gamuts.end(),
+        [wanted = gamutName.toStdString()](const DisplayGamut &gamut) { return gamut.colorGamutName() == wanted; });
+    return found != gamuts.end() ? &*found : nullptr;
+}
+
+DisplayGamut *DisplayDescription::ownGamut(const QString &gamutName)
+{
+    return const_cast<DisplayGamut *>(std::as_const(*this).ownGamut(gamutName));
+}
+
+bool DisplayDescription::removeOwnGamut(const QString &gamutName)
+{
+    const DisplayGamut *gamut = ownGamut(gamutName);
+    if (gamut) {
+        gamuts.erase(gamuts.begin() + (gamut - gamuts.data()));
+    }
+    return gamut != nullptr;
 }
 
 std::vector<DisplayGamut> DisplayDescription::allStandards() const
 {
     QStringList names = standards;
     for (const Model::ColorGamut &published : Model::standardGamuts()) {
-        names.append(QString::fromStdString(published.colorGamutName()));
+        names.append(nameOf(published));
     }
     names.removeDuplicates();
+    const QHash<QString, int> places = gamutPlaces();
     std::vector<DisplayGamut> found;
     for (const QString &name : qAsConst(names)) {
-        if (const auto standard = gamut(name)) {
+        if (const auto standard = gamut(name, places)) {
             found.push_back(*standard);
         }
     }

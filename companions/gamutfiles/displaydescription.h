@@ -7,6 +7,7 @@
 #include <gamutfiles/luminanceunit.h>
 #include <gamutmodel/colorgamut.h>
 
+#include <QHash>
 #include <QPointF>
 #include <QString>
 #include <QStringList>
@@ -76,6 +77,27 @@ struct DisplayDescription {
      * that name (Model::publishedGamuts()); nothing when there is neither.
      */
     GAMUTFILES_EXPORT std::optional<DisplayGamut> gamut(const QString &gamutName) const;
+
+    /*!
+     * \brief Where each gamut of the description's own stands in the list, by name; of equal names the first.
+     *
+     * For many look-ups: each of gamut() without it goes through the whole list. It holds until the list changes.
+     */
+    GAMUTFILES_EXPORT QHash<QString, int> gamutPlaces() const;
+    /*! \brief gamut() of \a gamutName, by the \a places that gamutPlaces() has given. */
+    GAMUTFILES_EXPORT std::optional<DisplayGamut> gamut(
+        const QString &gamutName, const QHash<QString, int> &places) const;
+
+    /*!
+     * \brief The description's own gamut of exactly that name; null without one.
+     *
+     * It is valid until the list of gamuts changes.
+     */
+    GAMUTFILES_EXPORT const DisplayGamut *ownGamut(const QString &gamutName) const;
+    /*! \brief The same, to be changed. */
+    GAMUTFILES_EXPORT DisplayGamut *ownGamut(const QString &gamutName);
+    /*! \brief Removes ownGamut() from the list, but from no part; whether there was one. */
+    GAMUTFILES_EXPORT bool removeOwnGamut(const QString &gamutName);
 
     /*! \brief The gamuts to compare with: the description's standards, then the other ones of Model::standardGamuts().
      */

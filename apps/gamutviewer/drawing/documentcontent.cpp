@@ -39,8 +39,9 @@ ceiechart::DiagramContent documentContent(const DisplayDescription &description,
             }
         }
     }
+    const QHash<QString, int> places = description.gamutPlaces();
     for (const QString &name : description.standards) {
-        if (const auto gamut = description.gamut(name)) {
+        if (const auto gamut = description.gamut(name, places)) {
             add({GamutRole::Standard, *gamut});
         }
     }

@@ -27,10 +27,9 @@ void LayerSwitches::setColors(ceiechart::HorseshoeColors colors)
     }
 }
 
-bool LayerSwitches::isStandardShown(const QString &gamutName, const DisplayDescription &description) const
+bool LayerSwitches::isStandardShown(const QString &gamutName, const QSet<QString> &named) const
 {
-    return isShown(ceiechart::DiagramLayer::Standards)
-        && m_state.standards.value(gamutName, description.standards.contains(gamutName));
+    return isShown(ceiechart::DiagramLayer::Standards) && m_state.standards.value(gamutName, named.contains(gamutName));
 }
 
 void LayerSwitches::setStandardShown(const QString &gamutName, bool shown)
@@ -49,9 +48,10 @@ ceiechart::DiagramContent LayerSwitches::content(const DisplayDescription &descr
 {
     DisplayDescription shown = description;
     shown.standards.clear();
+    const QSet<QString> named(description.standards.begin(), description.standards.end());
     for (const Model::ColorGamut &standard : description.allStandards()) {
         const QString name = QString::fromStdString(standard.colorGamutName());
-        if (isStandardShown(name, description)) {
+        if (isStandardShown(name, named)) {
             shown.standards.append(name);
         }
     }

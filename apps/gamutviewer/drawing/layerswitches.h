@@ -8,6 +8,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 namespace gamutviewer {
 
@@ -32,13 +33,13 @@ public:
     bool isShown(ceiechart::DiagramLayer layer) const { return m_state.layers.testFlag(layer); }
     void setShown(ceiechart::DiagramLayer layer, bool shown);
     void setColors(ceiechart::HorseshoeColors colors);
-    bool isStandardShown(const QString &gamutName, const DisplayDescription &description) const;
+    /*! \brief Whether the standard \a gamutName is shown of a description that names the standards \a named. */
+    bool isStandardShown(const QString &gamutName, const QSet<QString> &named) const;
     void setStandardShown(const QString &gamutName, bool shown);
     /*! \brief Shows the standards that the description names, as for another description. */
     void forgetStandards();
 
     /*! \brief Whether a diagram shows the default target where nobody has chosen one; it does at first. */
-    bool showsDefaultTarget() const { return m_showsDefaultTarget; }
     void setShowsDefaultTarget(bool shows) { m_showsDefaultTarget = shows; }
 
     /*! \brief What a diagram shows of \a description. */

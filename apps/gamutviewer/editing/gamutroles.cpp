@@ -34,13 +34,6 @@ auto nameIn(Description &description, GamutRole role) -> decltype(&description.t
     return nullptr;
 }
 
-template <typename Gamuts>
-auto find(Gamuts &gamuts, const QString &name)
-{
-    return std::find_if(gamuts.begin(), gamuts.end(),
-        [wanted = name.toStdString()](const Model::ColorGamut &gamut) { return gamut.colorGamutName() == wanted; });
-}
-
 } // namespace
 
 QString gamutRolePhrase(std::optional<GamutRole> role)
@@ -111,11 +104,9 @@ DisplayDescription withRole(DisplayDescription description, const QString &gamut
 
 DisplayDescription withoutGamut(DisplayDescription description, const QString &gamutName)
 {
-    const auto gamut = find(description.gamuts, gamutName);
-    if (gamut == description.gamuts.end()) {
+    if (!description.removeOwnGamut(gamutName)) {
         return description;
     }
-    description.gamuts.erase(gamut);
     // A published gamut of the name is another one.
     for (const GamutRole role : allGamutRoles) {
         description = withRole(description, gamutName, role, false);
@@ -139,8 +130,8 @@ QString whyNotRenamed(const DisplayDescription &description, const QString &from
 
 DisplayDescription withGamutRenamed(DisplayDescription description, const QString &from, const QString &to)
 {
-    const auto gamut = find(description.gamuts, from);
-    if (gamut == description.gamuts.end() || !whyNotRenamed(description, from, to).isEmpty()) {
+    DisplayGamut *gamut = description.ownGamut(from);
+    if (!gamut || !whyNotRenamed(description, from, to).isEmpty()) {
         return description;
     }
     *gamut = DisplayGamut({to.toStdString(), gamut->getTargets()}, gamut->unit);
@@ -156,7 +147,7 @@ DisplayDescription withGamutRenamed(DisplayDescription description, const QStrin
 
 bool hasOwnGamut(const DisplayDescription &description, const QString &gamutName)
 {
-    return find(description.gamuts, gamutName) != description.gamuts.end();
+    return description.ownGamut(gamutName) != nullptr;
 }
 
 bool isEmpty(const DisplayDescription &description)

@@ -3,6 +3,8 @@
 
 #include "display/valuetexts.h"
 
+#include <ceiechart/diagram/targetrules.h>
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -17,33 +19,25 @@ struct OpenText {
 
 using Content = GamutFile::Content;
 
-bool same(const Model::Target &a, const Model::Target &b)
-{
-    return a.Y == b.Y && a.x == b.x && a.y == b.y;
-}
-
-bool same(const Model::Targets &a, const Model::Targets &b)
-{
-    return same(a.red, b.red) && same(a.green, b.green) && same(a.blue, b.blue) && same(a.white, b.white);
-}
-
 QString wantedName(const DisplayGamut &gamut)
 {
     const QString wanted = QString::fromStdString(gamut.colorGamutName());
     return wanted.trimmed().isEmpty() ? OpenText::tr("Gamut") : wanted;
 }
 
+using GamutPlaces = QHash<QString, int>; // DisplayDescription::gamutPlaces()
+
 /*!
  * \brief The name that \a description has \a gamut by, or that is free for it.
  *
  * The same numbers are the same gamut in the same unit, or where one of the units is not known.
  */
-QString nameFor(const DisplayDescription &description, const DisplayGamut &gamut)
+QString nameFor(const DisplayDescription &description, const GamutPlaces &places, const DisplayGamut &gamut)
 {
     QString name = wantedName(gamut);
     QString sameNumbers;
-    for (int number = 2; const auto taken = description.gamut(name); ++number) {
-        const bool isSame = same(taken->getTargets(), gamut.getTargets());
+    for (int number = 2; const auto taken = description.gamut(name, places); ++number) {
+        const bool isSame = ceiechart::sameTargets(taken->getTargets(), gamut.getTargets());
         if (isSame && taken->unit == gamut.unit) {
             return name;
         }
@@ -57,21 +51,21 @@ QString nameFor(const DisplayDescription &description, const DisplayGamut &gamut
 }
 
 //! Whether adding \a gamut tells the unit of the gamut that \a description has by \a name.
-bool tellsUnit(const DisplayDescription &description, const QString &name, const DisplayGamut &gamut)
+bool tellsUnit(
+    const DisplayDescription &description, const GamutPlaces &places, const QString &name, const DisplayGamut &gamut)
 {
-    const auto there = description.gamut(name);
+    const auto there = description.gamut(name, places);
     return there && there->unit == LuminanceUnit::NotKnown && gamut.unit != LuminanceUnit::NotKnown;
 }
 
 //! Returns the name by which \a description has \a gamut, which is added unless it is there already.
-QString addGamut(DisplayDescription &description, const DisplayGamut &gamut)
+QString addGamut(DisplayDescription &description, GamutPlaces &places, const DisplayGamut &gamut)
 {
-    const QString name = nameFor(description, gamut);
-    if (tellsUnit(description, name, gamut)) {
-        const auto isMeant
-            = [wanted = name.toStdString()](const DisplayGamut &other) { return other.colorGamutName() == wanted; };
-        std::find_if(description.gamuts.begin(), description.gamuts.end(), isMeant)->unit = gamut.unit;
-    } else if (!description.gamut(name)) {
+    const QString name = nameFor(description, places, gamut);
+    if (tellsUnit(description, places, name, gamut)) {
+        description.gamuts.at(std::size_t(places.value(name))).unit = gamut.unit;
+    } else if (!description.gamut(name, places)) {
+        places.insert(name, int(description.gamuts.size()));
         description.gamuts.emplace_back(Model::ColorGamut(name.toStdString(), gamut.getTargets()), gamut.unit);
     }
     return name;
@@ -133,12 +127,13 @@ std::optional<GamutRole> usualRole(const GamutFile &file)
 DisplayDescription withFile(const DisplayDescription &open, const GamutFile &file, std::optional<GamutRole> role)
 {
     DisplayDescription result = open;
+    GamutPlaces places = open.gamutPlaces();
     if (file.content == Content::Description) {
         if (isEmpty(open)) {
             return file.description;
         }
         for (const DisplayGamut &gamut : file.description.gamuts) {
-            addGamut(result, gamut);
+            addGamut(result, places, gamut);
         }
         return result;
     }
@@ -146,7 +141,7 @@ DisplayDescription withFile(const DisplayDescription &open, const GamutFile &fil
         result.name = displayName(file);
     }
     if (const auto gamut = gamutOf(file)) {
-        const QString name = addGamut(result, *gamut);
+        const QString name = addGamut(result, places, *gamut);
         if (role) {
             result = withRole(result, name, *role, true);
         }
@@ -166,13 +161,14 @@ QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile 
 {
     QVector<Problem> remarks;
     const auto remark = [&remarks](const QString &text) { remarks.append({oneLine(text), QString(), 0, 0}); };
+    const GamutPlaces places = open.gamutPlaces();
     const QString name = displayName(added.file);
     if (!name.isEmpty() && !open.name.isEmpty() && !mayBeDisplayOf(open, name)) {
         remark(OpenText::tr("is of the display \"%1\", not of \"%2\"").arg(name, open.name));
     }
     const auto remarkOnUnit = [&](const DisplayGamut &gamut) {
-        const QString there = nameFor(open, gamut);
-        if (tellsUnit(open, there, gamut)) {
+        const QString there = nameFor(open, places, gamut);
+        if (tellsUnit(open, places, there, gamut)) {
             remark(OpenText::tr("tells the unit of \"%1\", which was not known: %2", "gamut and unit")
                        .arg(there, luminanceUnitText(gamut.unit)));
         }
@@ -185,10 +181,11 @@ QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile 
         return remarks;
     }
     const auto gamut = gamutOf(added.file);
-    if (gamut && nameFor(open, *gamut) != wantedName(*gamut)) {
-        remark(OpenText::tr("is called \"%1\" here, since another gamut has its name").arg(nameFor(open, *gamut)));
-    }
     if (gamut) {
+        const QString here = nameFor(open, places, *gamut);
+        if (here != wantedName(*gamut)) {
+            remark(OpenText::tr("is called \"%1\" here, since another gamut has its name").arg(here));
+        }
         remarkOnUnit(*gamut);
     }
     const DisplayDescription result = withFile(open, added.file, added.role);

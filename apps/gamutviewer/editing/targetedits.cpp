@@ -36,37 +36,6 @@ bool isOnlyTheTarget(DisplayDescription d)
     return !isReferredTo(d, name);
 }
 
-template <typename Gamuts>
-auto find(Gamuts &gamuts, const QString &name)
-{
-    const std::string wanted = name.toStdString();
-    return std::find_if(gamuts.begin(), gamuts.end(),
-        [&wanted](const Model::ColorGamut &gamut) { return gamut.colorGamutName() == wanted; });
-}
-
-bool contains(const std::vector<DisplayGamut> &gamuts, const QString &name)
-{
-    return find(gamuts, name) != gamuts.end();
-}
-
-void put(std::vector<DisplayGamut> &gamuts, const DisplayGamut &gamut)
-{
-    const auto existing = find(gamuts, QString::fromStdString(gamut.colorGamutName()));
-    if (existing != gamuts.end()) {
-        *existing = gamut;
-    } else {
-        gamuts.push_back(gamut);
-    }
-}
-
-void remove(std::vector<DisplayGamut> &gamuts, const QString &name)
-{
-    const auto existing = find(gamuts, name);
-    if (existing != gamuts.end()) {
-        gamuts.erase(existing);
-    }
-}
-
 //! "X (edited)", "X (edited 2)" and so on.
 QString editedName(const QString &plain, int number)
 {
@@ -78,7 +47,7 @@ QString freeEditedName(const DisplayDescription &description)
     const QString plain = plainName(
         description.target.isEmpty() ? QString::fromStdString(defaultTarget().colorGamutName()) : description.target);
     int number = 1;
-    while (contains(description.gamuts, editedName(plain, number))) {
+    while (description.ownGamut(editedName(plain, number))) {
         ++number;
     }
     return editedName(plain, number);
@@ -99,15 +68,15 @@ bool isMadeToMatch(
     const DisplayDescription &description, const Model::ColorGamut &published, const DisplayDescription &saved)
 {
     const QString name = QString::fromStdString(published.colorGamutName());
-    const auto own = find(description.gamuts, name);
-    return own != description.gamuts.end() && !contains(saved.gamuts, name) && !playsAnotherPart(description, name)
+    const DisplayGamut *own = description.ownGamut(name);
+    return own && !saved.ownGamut(name) && !playsAnotherPart(description, name)
         && sameTargets(own->getTargets(), scaledTo(published.getTargets(), own->getTargets().white.Y));
 }
 
 //! Published gamuts are relative to a white of 1: the description gets one of its own for a target of \a luminance.
 void matchLuminance(DisplayDescription &description, double luminance, LuminanceUnit unit)
 {
-    const bool isPublished = !contains(description.gamuts, description.target);
+    const bool isPublished = !description.ownGamut(description.target);
     const auto published = description.gamut(description.target);
     const bool isFree = isPublished && !playsAnotherPart(description, description.target);
     if (published && isFree && luminance > 0.0 && luminance != published->getTargets().white.Y) {
@@ -146,7 +115,12 @@ DisplayDescription withEditedTarget(DisplayDescription description, const Model:
     if (!isEditedName(description.target) || !isOnlyTheTarget(description)) {
         description.target = freeEditedName(description);
     }
-    put(description.gamuts, {Model::ColorGamut(description.target.toStdString(), targets), unit});
+    const DisplayGamut edited(Model::ColorGamut(description.target.toStdString(), targets), unit);
+    if (DisplayGamut *former = description.ownGamut(description.target)) {
+        *former = edited;
+    } else {
+        description.gamuts.push_back(edited);
+    }
     return description;
 }
 
@@ -176,14 +150,14 @@ DisplayDescription withTargetNamed(
     description.target = gamutName;
     for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
         if (isMadeToMatch(description, published.gamut, saved)) {
-            remove(description.gamuts, QString::fromStdString(published.gamut.colorGamutName()));
+            description.removeOwnGamut(QString::fromStdString(published.gamut.colorGamutName()));
         }
     }
     if (targetBefore) {
         matchLuminance(description, targetBefore->getTargets().white.Y, targetBefore->unit);
     }
-    if (isEditedName(before) && !isReferredTo(description, before) && !contains(saved.gamuts, before)) {
-        remove(description.gamuts, before);
+    if (isEditedName(before) && !isReferredTo(description, before) && !saved.ownGamut(before)) {
+        description.removeOwnGamut(before);
     }
     return description;
 }

@@ -349,10 +349,11 @@ void LayerKey::refresh()
         build();
     }
     measure();
+    const QSet<QString> named = namedStandards();
     const QSignalBlocker blocker(this);
     for (int row = 0; row < count(); ++row) {
         if (item(row)->flags() & Qt::ItemIsUserCheckable) {
-            item(row)->setCheckState(isShown(item(row)) ? Qt::Checked : Qt::Unchecked);
+            item(row)->setCheckState(isShown(item(row), named) ? Qt::Checked : Qt::Unchecked);
         }
     }
     if (QAbstractButton *button = m_colors->button(int(m_switches->state().colors))) {
@@ -361,12 +362,17 @@ void LayerKey::refresh()
     viewport()->update();
 }
 
-bool LayerKey::isShown(const QListWidgetItem *entry) const
+QSet<QString> LayerKey::namedStandards() const
+{
+    const QStringList &names = m_document->description().standards;
+    return QSet<QString>(names.begin(), names.end());
+}
+
+bool LayerKey::isShown(const QListWidgetItem *entry, const QSet<QString> &named) const
 {
     const auto layer = DiagramLayer(entry->data(LayerRole).toInt());
-    return layer == DiagramLayer::Standards
-        ? m_switches->isStandardShown(entry->data(NameRole).toString(), m_document->description())
-        : m_switches->isShown(layer);
+    return layer == DiagramLayer::Standards ? m_switches->isStandardShown(entry->data(NameRole).toString(), named)
+                                            : m_switches->isShown(layer);
 }
 
 void LayerKey::toggle(QListWidgetItem *entry)
@@ -375,7 +381,7 @@ void LayerKey::toggle(QListWidgetItem *entry)
         return;
     }
     m_alone[isGamut(entry)].reset();
-    const bool show = !isShown(entry);
+    const bool show = !isShown(entry, namedStandards());
     const auto layer = DiagramLayer(entry->data(LayerRole).toInt());
     if (layer == DiagramLayer::Standards) {
         m_switches->setStandardShown(entry->data(NameRole).toString(), show);

@@ -66,7 +66,9 @@ private:
     void addColors();
     QListWidgetItem *addEntry(const QString &name, const QString &detail, std::optional<ceiechart::GamutRole> role,
         ceiechart::DiagramLayer layer);
-    bool isShown(const QListWidgetItem *entry) const;
+    //! The standards that the description names.
+    QSet<QString> namedStandards() const;
+    bool isShown(const QListWidgetItem *entry, const QSet<QString> &named) const;
     void toggle(QListWidgetItem *entry);
     void showAlone(const QListWidgetItem *entry);
 

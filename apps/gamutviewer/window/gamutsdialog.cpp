@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QSet>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -130,6 +131,8 @@ void GamutsDialog::refresh()
     for (const DisplayGamut &gamut : description.gamuts) {
         names.append(QString::fromStdString(gamut.colorGamutName()));
     }
+    const QHash<QString, int> places = description.gamutPlaces();
+    const QSet<QString> standards(description.standards.begin(), description.standards.end());
     for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
         names.append(QString::fromStdString(published.gamut.colorGamutName()));
     }
@@ -137,7 +140,8 @@ void GamutsDialog::refresh()
     m_table->setRowCount(names.size());
     for (int row = 0; row < names.size(); ++row) {
         const QString &name = names.at(row);
-        const bool isOwn = hasOwnGamut(description, name);
+        const bool isOwn = places.contains(name);
+        const Model::Targets targets = description.gamut(name, places)->getTargets();
         for (int column = 0; column < m_table->columnCount(); ++column) {
             QTableWidgetItem *item = m_table->item(row, column);
             if (!item) {
@@ -155,8 +159,10 @@ void GamutsDialog::refresh()
                     Qt::ItemIsEnabled | Qt::ItemIsSelectable | (isOwn ? Qt::ItemIsEditable : Qt::NoItemFlags));
                 continue;
             }
-            const bool plays = playsRole(description, name, roleOf(column));
-            const QString reason = whyNotInRole(description.gamut(name)->getTargets(), roleOf(column));
+            const GamutRole role = roleOf(column);
+            const bool plays
+                = role == GamutRole::Standard ? standards.contains(name) : gamutInRole(description, role) == name;
+            const QString reason = whyNotInRole(targets, role);
             // What a file already has can be taken away.
             item->setToolTip(reason);
             item->setFlags(reason.isEmpty() || plays
@@ -164,7 +170,7 @@ void GamutsDialog::refresh()
                     : Qt::ItemIsSelectable);
             item->setCheckState(plays ? Qt::Checked : Qt::Unchecked);
             item->setData(Qt::AccessibleTextRole,
-                tr("%1: %2", "gamut and part").arg(oneLine(name), ceiechart::gamutRoleName(roleOf(column))));
+                tr("%1: %2", "gamut and part").arg(oneLine(name), ceiechart::gamutRoleName(role)));
             item->setData(Qt::AccessibleDescriptionRole, reason);
         }
     }
