@@ -43,7 +43,7 @@ enum class DiagramLayer {
     MeasuredGamuts = 0x000800, //!< gamuts of GamutRole::Measured
     DeclaredGamuts = 0x001000, //!< gamuts of GamutRole::Declared
     Targets = 0x002000, //!< gamuts of GamutRole::Target
-    Names = 0x004000, //!< names of gamuts at their lines, and of marks
+    Names = 0x004000, //!< names of gamuts at their lines, up to 100 standards, and of up to 500 marks in the plot
     Whites = 0x008000, //!< white points of all gamuts but standards
     MeasurePoints = 0x010000, //!< DiagramContent::measurePoints
     ColorTemperaturePoints = 0x020000, //!< DiagramContent::colorTemperaturePoints
@@ -90,7 +90,12 @@ struct DiagramGamut {
     bool visible = true; //!< a switch of its own, besides that of the role's layer
 };
 
-/*! \brief A point that is marked on the diagram. */
+/*!
+ * \brief A point that is marked on the diagram.
+ *
+ * More than 2000 marks in the plot are drawn as one picture, to a quarter of a pixel, and in vector files with two
+ * pixels for each logical pixel.
+ */
 struct DiagramMark {
     QPointF xy; //!< CIE 1931 x, y
     QString name{}; //!< stands beside the mark; empty for none

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 
 namespace ceiechart {
 
@@ -23,15 +24,26 @@ constexpr double hatchDistance = 8.0;
 constexpr std::array drawingOrder{
     GamutRole::Standard, GamutRole::Declared, GamutRole::Original, GamutRole::Measured, GamutRole::Target};
 
+//! Where the corners lie together. Equal outlines are in the same cell or in cells side by side.
+OutlineCell equalityCell(const QPolygonF &corners)
+{
+    constexpr double side = 3.0 * equalWithin; // the most by which the sums of three corners can differ
+    const QPointF sum = corners.at(0) + corners.at(1) + corners.at(2);
+    const auto cell
+        = [](double position) { return std::int64_t(std::floor(std::clamp(position / side, -1e15, 1e15))); };
+    return {cell(sum.x()), cell(sum.y())};
+}
+
 } // namespace
 
-DiagramGamuts::DiagramGamuts(const DiagramSheet &sheet)
+DiagramGamuts::DiagramGamuts(const DiagramSheet &sheet, const ShownMarks &marks)
     : m_sheet(sheet)
     , m_content(sheet.content)
     , m_palette(sheet.palette())
     , m_innerPalette(sheet.innerPalette())
     , m_plot(sheet.viewport.plot())
     , m_inner(m_plot.adjusted(labelGap, labelGap, -labelGap, -labelGap))
+    , m_marks(marks)
 {
     for (const GamutRole role : drawingOrder) {
         for (int i = 0; i < m_content.gamuts.size(); ++i) {
@@ -44,10 +56,16 @@ DiagramGamuts::DiagramGamuts(const DiagramSheet &sheet)
             }
         }
     }
+    const auto standards = std::count_if(
+        m_shown.begin(), m_shown.end(), [](const Shown &gamut) { return gamut.role == GamutRole::Standard; });
+    m_namesStandards = standards <= mostNamedStandards;
     // Painted again and again, the soft edges of a line would harden.
     for (size_t i = m_shown.size(); i-- > 0;) {
-        for (size_t k = i + 1; k < m_shown.size() && m_shown[k].role == m_shown[i].role; ++k) {
-            m_shown[i].isCovered = m_shown[i].isCovered || (!m_shown[k].isCovered && areEqual(i, k));
+        const std::vector<size_t> equals = equalsOf(i);
+        m_shown[i].isCovered
+            = std::any_of(equals.begin(), equals.end(), [&](size_t k) { return m_shown[k].role == m_shown[i].role; });
+        if (!m_shown[i].isCovered) {
+            m_outlines[equalityCell(m_shown[i].corners)].push_back(i);
         }
     }
 }
@@ -80,7 +98,7 @@ DiagramStep DiagramGamuts::takeEdited(const DiagramStep &scale)
     for (size_t i = 0; i < m_shown.size(); ++i) {
         const bool isTarget = m_shown[i].role == GamutRole::Target;
         // What the target would cover comes out on both sides of it.
-        if (isDrawn(i, true) && (isTarget || equalsAbove(i, false) != equalsAbove(i, true))) {
+        if (isDrawn(i, true) && (isTarget || equalsTarget(i))) {
             drawOutline(i, true);
         }
     }
@@ -90,14 +108,14 @@ DiagramStep DiagramGamuts::takeEdited(const DiagramStep &scale)
     if (m_sheet.shows(DiagramLayer::Trail)) {
         drawTrail();
     }
-    drawMarks();
+    m_step.drawing.marks(m_marks.marks);
     if (m_sheet.shows(DiagramLayer::Whites)) {
         drawWhites();
     }
     if (m_sheet.shows(DiagramLayer::Names)) {
         drawNames();
-        for (const auto &[at, name] : m_named) {
-            drawMarkName(at, name);
+        for (int i = 0; i < m_marks.names.size(); ++i) {
+            drawMarkName(m_marks.marks.at(i).at, m_marks.names.at(i));
         }
     }
     return std::move(m_step);
@@ -107,8 +125,10 @@ bool DiagramGamuts::areEqual(size_t i, size_t k) const
 {
     const QPolygonF &a = m_shown[i].corners;
     const QPolygonF &b = m_shown[k].corners;
-    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(),
-        [](const QPointF &p, const QPointF &q) { return length(p - q) < equalWithin; });
+    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(), [](const QPointF &p, const QPointF &q) {
+        const QPointF way = p - q;
+        return QPointF::dotProduct(way, way) < equalWithin * equalWithin;
+    });
 }
 
 bool DiagramGamuts::isDrawn(size_t i, bool targetsToo) const
@@ -116,13 +136,30 @@ bool DiagramGamuts::isDrawn(size_t i, bool targetsToo) const
     return !m_shown[i].isCovered && (targetsToo || m_shown[i].role != GamutRole::Target);
 }
 
+std::vector<size_t> DiagramGamuts::equalsOf(size_t i) const
+{
+    std::vector<size_t> equals;
+    const auto [column, row] = equalityCell(m_shown[i].corners);
+    for (const std::int64_t dx : {-1, 0, 1}) {
+        for (const std::int64_t dy : {-1, 0, 1}) {
+            const auto cell = m_outlines.find({column + dx, row + dy});
+            if (cell != m_outlines.end()) {
+                std::copy_if(cell->second.begin(), cell->second.end(), std::back_inserter(equals),
+                    [&](size_t k) { return k != i && areEqual(i, k); });
+            }
+        }
+    }
+    std::sort(equals.begin(), equals.end());
+    return equals;
+}
+
 int DiagramGamuts::equalsAbove(size_t i, bool targetsToo) const
 {
     int count = 0;
     GamutRole last = m_shown[i].role;
-    for (size_t k = i + 1; k < m_shown.size(); ++k) {
+    for (const size_t k : equalsOf(i)) {
         // A role's gamuts follow one another.
-        if (m_shown[k].role != last && isDrawn(k, targetsToo) && areEqual(i, k)) {
+        if (k > i && m_shown[k].role != last && isDrawn(k, targetsToo)) {
             ++count;
             last = m_shown[k].role;
         }
@@ -132,7 +169,14 @@ int DiagramGamuts::equalsAbove(size_t i, bool targetsToo) const
 
 bool DiagramGamuts::hasEqualBelow(size_t i) const
 {
-    for (size_t k = 0; k < i; ++k) {
+    const std::vector<size_t> equals = equalsOf(i);
+    return !equals.empty() && equals.front() < i;
+}
+
+bool DiagramGamuts::equalsTarget(size_t i) const
+{
+    // Targets come last.
+    for (size_t k = m_shown.size(); k-- > 0 && m_shown[k].role == GamutRole::Target;) {
         if (!m_shown[k].isCovered && areEqual(i, k)) {
             return true;
         }
@@ -208,14 +252,14 @@ void DiagramGamuts::drawLostArea()
     m_step.drawing.lines(hatch, QPen(m_palette.hatch, 1.0, Qt::SolidLine, Qt::FlatCap));
 }
 
-DiagramStep gamutsStep(const DiagramSheet &sheet)
+DiagramStep gamutsStep(const DiagramSheet &sheet, const ShownMarks &marks)
 {
-    return DiagramGamuts(sheet).takeUnedited();
+    return DiagramGamuts(sheet, marks).takeUnedited();
 }
 
-DiagramStep editedStep(const DiagramSheet &sheet, const DiagramStep &scale)
+DiagramStep editedStep(const DiagramSheet &sheet, const DiagramStep &scale, const ShownMarks &marks)
 {
-    return DiagramGamuts(sheet).takeEdited(scale);
+    return DiagramGamuts(sheet, marks).takeEdited(scale);
 }
 
 } // namespace ceiechart

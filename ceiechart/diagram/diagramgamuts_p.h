@@ -3,21 +3,25 @@
 #define CEIECHART_DIAGRAM_DIAGRAMGAMUTS_P_H
 
 #include <ceiechart/diagram/diagramsheet_p.h>
+#include <ceiechart/diagram/shownmarks_p.h>
 
+#include <cstdint>
+#include <map>
 #include <utility>
 #include <vector>
 
 namespace ceiechart {
 
 // Logical pixels
-constexpr double markRadius = 4.0;
 constexpr double whiteRadius = 5.0;
 constexpr double whiteArm = 4.0; // of the cross through the target's white
+
+using OutlineCell = std::pair<std::int64_t, std::int64_t>;
 
 /*! \brief Lays out what lies over the scale: gamuts, marks and their names. */
 class DiagramGamuts {
 public:
-    explicit DiagramGamuts(const DiagramSheet &sheet);
+    DiagramGamuts(const DiagramSheet &sheet, const ShownMarks &marks);
 
     /*! \brief The outlines that no edit of a target changes. */
     DiagramStep takeUnedited();
@@ -42,9 +46,13 @@ private:
     //! Whether the outlines number \a i and \a k fall on one another.
     bool areEqual(size_t i, size_t k) const;
     bool isDrawn(size_t i, bool targetsToo) const;
+    //! Those that are not covered and equal number \a i, from bottom to top.
+    std::vector<size_t> equalsOf(size_t i) const;
     //! How many other roles have gamuts that are drawn later and equal number \a i: those of one role look the same.
     int equalsAbove(size_t i, bool targetsToo) const;
     bool hasEqualBelow(size_t i) const;
+    //! Whether a target falls on number \a i, which is drawn once more then: it comes out on both sides.
+    bool equalsTarget(size_t i) const;
     //! Of gamuts that equal one another the lower ones are wider, so that each shows on both sides of the next.
     void drawOutline(size_t i, bool targetsToo);
     void drawCommonArea();
@@ -60,16 +68,16 @@ private:
     //! Whether the line of some ring meets \a place.
     bool isOnRing(const QRectF &place) const;
     void drawTrail();
-    void drawMarks();
-    void drawMark(const DiagramMark &mark, const QPainterPath &shape, const QColor &color);
     void drawWhites();
 
     // Texts, in diagramnames.cpp
     //! What the handles of a target may cover.
     QVector<QRectF> handles() const;
     void placeWavelengths(const QVector<PendingNumber> &wavelengths);
-    //! What numbers must leave to be seen: marks, whites and handles.
+    //! What numbers must leave to be seen, beside marks: whites and handles.
     QVector<QRectF> clearOfNumbers() const;
+    //! Whether a number at \a place would cover one of \a clear, a mark or a ring.
+    bool isTaken(const QRectF &place, const QVector<QRectF> &clear) const;
     void drawIsothermNumber(const QString &number, const QRectF &place);
     //! The isotherm's number at the nearest free place, with a line from there to the isotherm.
     bool leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear);
@@ -93,10 +101,12 @@ private:
     QRectF m_plot;
     QRectF m_inner; // where texts may stand
     std::vector<Shown> m_shown; // from bottom to top
+    bool m_namesStandards = true; // or there are too many, also for other names to keep clear of them
+    std::map<OutlineCell, std::vector<size_t>> m_outlines; // those that are not covered, by where they lie
     QVector<QRectF> m_handles;
     std::vector<Ring> m_rings;
-    QVector<QRectF> m_marks;
-    std::vector<std::pair<QPointF, QString>> m_named; // marks, with their names as they were given
+    const ShownMarks &m_marks;
+    QVector<QRectF> m_whites; // what their marks cover
     DiagramStep m_step;
 };
 

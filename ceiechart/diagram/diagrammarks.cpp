@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Rings, the trail, measured points and whites.
+// Rings, the trail and whites.
 #include <ceiechart/diagram/diagramgamuts_p.h>
 #include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/polylines_p.h>
@@ -26,12 +26,6 @@ QString decimal(double value)
     return QString::number(QString::number(value, 'g', 6).toDouble(), 'f', QLocale::FloatingPointShortest);
 }
 
-QPolygonF diamond(const QPointF &at, double radius)
-{
-    return QPolygonF(
-        {at - QPointF(0.0, radius), at + QPointF(radius, 0.0), at + QPointF(0.0, radius), at - QPointF(radius, 0.0)});
-}
-
 //! Each role's white has a shape of its own.
 QPainterPath whiteShape(GamutRole role, const QPointF &at)
 {
@@ -50,7 +44,7 @@ QPainterPath whiteShape(GamutRole role, const QPointF &at)
         path.addRect(QRectF(at - QPointF(r, r), at + QPointF(r, r)));
         break;
     case GamutRole::Measured:
-        path = closedPath(diamond(at, r + 1.5));
+        path = closedPath(diamondAt(at, r + 1.5));
         break;
     case GamutRole::Declared:
         path = closedPath(QPolygonF(
@@ -176,45 +170,6 @@ void DiagramGamuts::drawTrail()
     }
 }
 
-void DiagramGamuts::drawMarks()
-{
-    const QColor cmy[] = {QColor(0, 200, 220), QColor(220, 40, 200), QColor(240, 205, 0)};
-    if (m_sheet.shows(DiagramLayer::MeasurePoints)) {
-        for (const DiagramMark &mark : m_content.measurePoints) {
-            QPainterPath disc;
-            disc.addEllipse(m_sheet.viewport.toPosition(mark.xy), markRadius, markRadius);
-            drawMark(mark, disc, Qt::white);
-        }
-    }
-    if (m_sheet.shows(DiagramLayer::ColorTemperaturePoints)) {
-        for (const DiagramMark &mark : m_content.colorTemperaturePoints) {
-            drawMark(mark, closedPath(diamond(m_sheet.viewport.toPosition(mark.xy), markRadius + 1.5)), Qt::white);
-        }
-    }
-    if (m_sheet.shows(DiagramLayer::CmyPoints)) {
-        for (int i = 0; i < m_content.cmyPoints.size(); ++i) {
-            const DiagramMark &mark = m_content.cmyPoints.at(i);
-            const QPointF at = m_sheet.viewport.toPosition(mark.xy);
-            QPainterPath square;
-            square.addRect(QRectF(at - QPointF(markRadius, markRadius), at + QPointF(markRadius, markRadius)));
-            drawMark(mark, square, cmy[i % 3]);
-        }
-    }
-}
-
-void DiagramGamuts::drawMark(const DiagramMark &mark, const QPainterPath &shape, const QColor &color)
-{
-    const QPointF at = m_sheet.viewport.toPosition(mark.xy);
-    if (!isSeen(at, markRadius + 2.0)) {
-        return;
-    }
-    // White round black round the mark's colour can be seen on every ground.
-    m_step.drawing.shape(shape, QPen(Qt::white, 3.5), Qt::NoBrush);
-    m_step.drawing.shape(shape, QPen(QColor(24, 26, 30), 1.4), mark.color.isValid() ? mark.color : color);
-    m_marks.append(QRectF(at - QPointF(markRadius, markRadius), at + QPointF(markRadius, markRadius)));
-    m_named.push_back({at, mark.name});
-}
-
 void DiagramGamuts::drawWhites()
 {
     for (const Shown &gamut : m_shown) {
@@ -227,8 +182,7 @@ void DiagramGamuts::drawWhites()
         pen.setStyle(Qt::SolidLine);
         m_step.drawing.shape(shape, QPen(m_innerPalette.casing, pen.widthF() + lineCasing), Qt::NoBrush);
         m_step.drawing.shape(shape, pen, Qt::NoBrush);
-        const QPointF reach(whiteRadius + whiteArm, whiteRadius + whiteArm);
-        m_marks.append(QRectF(at - reach, at + reach));
+        m_whites.append(around(at, whiteRadius + whiteArm));
     }
 }
 

@@ -19,6 +19,8 @@ constexpr double nameGap = 6.0; // between a line and its name
 constexpr double platePadding = 4.0; // beside a name
 constexpr double plateRadius = 3.0;
 constexpr double plateOpacity = 0.94; // leaves names a contrast of 3:1 on every colour
+constexpr double sameMark = 0.5; // distance up to which marks count as one
+constexpr int mostCovered = 1000; // marks to count below a name: a place that covers as many is none
 constexpr double namedMarks = 30.0; // least distance of marks that have names beside them
 constexpr double leaderWidth = 1.0; // from a number to its isotherm
 constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
@@ -98,23 +100,17 @@ void DiagramGamuts::placeWavelengths(const QVector<PendingNumber> &wavelengths)
 QVector<QRectF> DiagramGamuts::clearOfNumbers() const
 {
     QVector<QRectF> result = m_handles;
-    const auto add = [&](DiagramLayer layer, const QVector<DiagramMark> &marks) {
-        for (const DiagramMark &mark : m_sheet.shows(layer) ? marks : QVector<DiagramMark>()) {
-            const QPointF at = m_sheet.viewport.toPosition(mark.xy);
-            if (isSeen(at, markRadius + 2.0)) {
-                result.append(around(at, markRadius + 2.0));
-            }
-        }
-    };
-    add(DiagramLayer::MeasurePoints, m_content.measurePoints);
-    add(DiagramLayer::ColorTemperaturePoints, m_content.colorTemperaturePoints);
-    add(DiagramLayer::CmyPoints, m_content.cmyPoints);
     for (const Shown &gamut : m_shown) {
         if (gamut.role != GamutRole::Standard && m_sheet.shows(DiagramLayer::Whites) && isFinite(whiteOf(gamut))) {
             result.append(around(whiteOf(gamut), whiteRadius + 2.0));
         }
     }
     return result;
+}
+
+bool DiagramGamuts::isTaken(const QRectF &place, const QVector<QRectF> &clear) const
+{
+    return meetsAny(clear, place) || m_marks.places.meets(place, markRadius + 2.0) || isOnRing(place);
 }
 
 void DiagramGamuts::drawIsothermNumber(const QString &number, const QRectF &place)
@@ -142,11 +138,15 @@ bool DiagramGamuts::leadToIsotherm(const PendingNumber &number, const QVector<QR
             const QLineF ends[] = {wayTo(number.line.p1()), wayTo(number.line.p2())};
             const QLineF &way = ends[0].length() < ends[1].length() ? ends[0] : ends[1];
             const double toMiddle = length(way.p2() - place.center());
-            const bool isNearerToOther = std::any_of(clear.cbegin(), clear.cend(),
-                [&](const QRectF &mark) { return length(mark.center() - place.center()) < toMiddle; });
+            if (way.length() <= labelGap || toMiddle >= least || !m_step.places.isFree(place, m_inner, labelGap)
+                || isTaken(place, clear)) {
+                continue;
+            }
+            const bool isNearerToOther = m_marks.places.isBetween(place.center(), 0.0, toMiddle)
+                || std::any_of(clear.cbegin(), clear.cend(),
+                    [&](const QRectF &mark) { return length(mark.center() - place.center()) < toMiddle; });
             const double away = toMiddle + (isNearerToOther ? farther : 0.0);
-            if (way.length() > labelGap && away < least && m_step.places.isFree(place, m_inner, labelGap)
-                && !meetsAny(clear, place) && !isOnRing(place)) {
+            if (away < least) {
                 least = away;
                 best = place;
                 leader = way;
@@ -185,7 +185,7 @@ void DiagramGamuts::placeIsotherms(const QVector<PendingNumber> &isotherms)
         for (const QRectF &place : number.places) {
             const auto isNear = [&](const QPointF &other) { return length(other - place.center()) < isothermNumbers; };
             if (m_step.places.isFree(place, m_inner, labelGap) && std::none_of(placed.cbegin(), placed.cend(), isNear)
-                && !meetsAny(clear, place) && !isOnRing(place)) {
+                && !isTaken(place, clear)) {
                 placed.append(place.center());
                 drawIsothermNumber(number.text, place);
                 break;
@@ -260,14 +260,15 @@ int DiagramGamuts::covered(const QRectF &place) const
 {
     int count = 0;
     for (const Shown &gamut : m_shown) {
-        for (int i = 0; i < 3; ++i) {
+        const bool counts = m_namesStandards || gamut.role != GamutRole::Standard;
+        for (int i = 0; counts && i < 3; ++i) {
             count += meets(QLineF(gamut.corners.at(i), gamut.corners.at((i + 1) % 3)), place) ? 2 : 0;
         }
     }
-    for (const QRectF &mark : m_marks) {
-        count += mark.intersects(place) ? 3 : 0;
+    for (const QRectF &white : m_whites) {
+        count += white.intersects(place) ? 3 : 0;
     }
-    return count;
+    return count + 3 * m_marks.places.meeting(place, markRadius, mostCovered);
 }
 
 QRectF DiagramGamuts::bestPlace(const Shown &gamut, const QSizeF &text) const
@@ -295,7 +296,7 @@ void DiagramGamuts::drawNames()
     // The target first, as the last is the most likely to find no room.
     for (auto gamut = m_shown.crbegin(); gamut != m_shown.crend(); ++gamut) {
         const QString name = nameOf(m_content.gamuts.at(gamut->index));
-        if (name.isEmpty()) {
+        if (name.isEmpty() || (gamut->role == GamutRole::Standard && !m_namesStandards)) {
             continue;
         }
         const TextStyle &style = gamut->role == GamutRole::Standard ? m_sheet.fonts.texts : m_sheet.fonts.names;
@@ -324,11 +325,11 @@ void DiagramGamuts::drawMarkName(const QPointF &at, const QString &markName)
     if (name.isEmpty()) {
         return;
     }
-    const auto isNear = [&at](const QRectF &mark) {
-        const double distance = length(mark.center() - at);
-        return distance > 0.5 && distance < namedMarks;
+    const auto isNear = [&at](const QRectF &white) {
+        const double distance = length(white.center() - at);
+        return distance > sameMark && distance < namedMarks;
     };
-    if (std::any_of(m_marks.cbegin(), m_marks.cend(), isNear)) {
+    if (m_marks.places.isBetween(at, sameMark, namedMarks) || std::any_of(m_whites.cbegin(), m_whites.cend(), isNear)) {
         return;
     }
     const TextStyle &style = m_sheet.fonts.texts;
@@ -338,7 +339,7 @@ void DiagramGamuts::drawMarkName(const QPointF &at, const QString &markName)
         const QPointF centre
             = at + QPointF(way.x() * (reach + size.width() / 2.0), way.y() * (reach + size.height() / 2.0));
         const QRectF place(centre - QPointF(size.width(), size.height()) / 2.0, size);
-        if (!meetsAny(m_marks, place) && !meetsAny(m_handles, place)
+        if (!meetsAny(m_whites, place) && !m_marks.places.meets(place, markRadius) && !meetsAny(m_handles, place)
             && m_step.places.isFree(place, m_inner, labelGap)) {
             m_step.places.add(DiagramLabel::Kind::Mark, name, place);
             m_step.texts.textIn(place, name, style, m_innerPalette.text, m_innerPalette.casing);

@@ -2,6 +2,7 @@
 #include <ceiechart/diagram/diagramcolors_p.h>
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramsheet_p.h>
+#include <ceiechart/diagram/shownmarks_p.h>
 
 #include <QGuiApplication>
 #include <QPaintEngine>
@@ -19,8 +20,6 @@ namespace {
 constexpr double logicalPixelsPerInch = 96.0;
 constexpr double pointsPerInch = 72.0;
 constexpr double dashesOfKey = 32.0; // logical pixels, at most: enough for any dash pattern to be known by
-constexpr double pictureRatioOfFiles = 2.0; // pixels of the colours for each logical pixel of a file
-constexpr double mostPicturePixels = 3e7;
 constexpr double longestSide = 32768.0; // logical pixels to lay out: on a coarse device there is no more to be seen
 constexpr int ringCorners = 720;
 
@@ -43,6 +42,16 @@ QFont fontForDiagrams(QFont font)
     return font;
 }
 
+//! Whether \a a and \a b share their lists of marks, as copies do, and show the same of them.
+bool hasMarksOf(const DiagramContent &a, const DiagramContent &b)
+{
+    const auto areShared = [](const QVector<DiagramMark> &some, const QVector<DiagramMark> &others) {
+        return some.size() == others.size() && some.constData() == others.constData();
+    };
+    return a.layers == b.layers && areShared(a.measurePoints, b.measurePoints)
+        && areShared(a.colorTemperaturePoints, b.colorTemperaturePoints) && areShared(a.cmyPoints, b.cmyPoints);
+}
+
 } // namespace
 
 class DiagramPainter::Private {
@@ -55,6 +64,7 @@ public:
     // What has been laid out for the screen; gone when something changes on which it depends.
     std::optional<DiagramFonts> fonts;
     std::optional<DiagramStep> scale;
+    std::optional<ShownMarks> marks;
     std::optional<DiagramStep> gamuts;
     std::optional<DiagramStep> edited;
 
@@ -76,10 +86,18 @@ public:
         return *scale;
     }
 
+    const ShownMarks &marksLayout()
+    {
+        if (!marks) {
+            marks = shownMarks(sheet());
+        }
+        return *marks;
+    }
+
     const DiagramStep &gamutsLayout()
     {
         if (!gamuts) {
-            gamuts = gamutsStep(sheet());
+            gamuts = gamutsStep(sheet(), marksLayout());
         }
         return *gamuts;
     }
@@ -87,7 +105,7 @@ public:
     const DiagramStep &editedLayout()
     {
         if (!edited) {
-            edited = editedStep(sheet(), scaleLayout());
+            edited = editedStep(sheet(), scaleLayout(), marksLayout());
         }
         return *edited;
     }
@@ -95,6 +113,7 @@ public:
     void forgetLayout()
     {
         scale.reset();
+        marks.reset();
         gamuts.reset();
         edited.reset();
     }
@@ -133,6 +152,9 @@ void DiagramPainter::setContent(const DiagramContent &content)
     if (content.ground != d->content.ground || content.colors != d->content.colors
         || scaleLayers(content) != scaleLayers(d->content)) {
         d->scale.reset();
+    }
+    if (!hasMarksOf(d->content, content)) {
+        d->marks.reset();
     }
     d->gamuts.reset();
     d->edited.reset();
@@ -201,8 +223,9 @@ void DiagramPainter::paint(QPainter *painter, const QRectF &place) const
             colors.update(Private::colorsRequest(d->content, viewport, std::min(ratio, most)), nullptr, nullptr));
     }
     const DiagramStep scale = scaleStep(sheet);
-    const DiagramStep gamuts = gamutsStep(sheet);
-    const DiagramStep edited = editedStep(sheet, scale);
+    const ShownMarks marks = shownMarks(sheet);
+    const DiagramStep gamuts = gamutsStep(sheet, marks);
+    const DiagramStep edited = editedStep(sheet, scale, marks);
     scale.drawing.paint(painter);
     gamuts.drawing.paint(painter);
     edited.drawing.paint(painter);

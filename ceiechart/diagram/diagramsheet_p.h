@@ -17,6 +17,10 @@ constexpr double handleRing = 13.0; // radius of the ring round a handle that is
 constexpr double handleLine = 2.5; // width of the lines of handles and their rings
 constexpr double handleExtent = handleRing + handleLine; // from the middle of a handle to the edge of all it covers
 
+// Among more of them, names say nothing
+constexpr int mostNamedMarks = 500; // in the plot
+constexpr int mostNamedStandards = 100;
+
 /*! \brief The fonts of a diagram on one device. */
 struct DiagramFonts {
     DiagramFonts(const QFont &font, const QPaintDevice *device, double unit);
@@ -26,6 +30,8 @@ struct DiagramFonts {
     TextStyle texts; //!< of marks
     TextStyle axes; //!< names of the coordinates
 };
+
+struct ShownMarks;
 
 /*! \brief What is painted, and on what. */
 struct DiagramSheet {
@@ -78,9 +84,9 @@ struct DiagramStep {
  * @{
  */
 DiagramStep scaleStep(const DiagramSheet &sheet);
-DiagramStep gamutsStep(const DiagramSheet &sheet);
+DiagramStep gamutsStep(const DiagramSheet &sheet, const ShownMarks &marks);
 //! With the numbers that \a scale, the step of the scale, has left to be placed.
-DiagramStep editedStep(const DiagramSheet &sheet, const DiagramStep &scale);
+DiagramStep editedStep(const DiagramSheet &sheet, const DiagramStep &scale, const ShownMarks &marks);
 /*! @} */
 
 /*! \brief A line of \a pen with a casing of \a casing under it, as far as it is within \a area. */

@@ -156,6 +156,18 @@ void paintPieces(QPainter &painter, const QPolygonF &points, bool closed, QPen p
     }
 }
 
+//! What \a marks, of which there is one, cover together.
+QRectF boundsOf(const QVector<PlacedMark> &marks)
+{
+    QPointF least = marks.first().at;
+    QPointF most = least;
+    for (const PlacedMark &mark : marks) {
+        least = QPointF(std::min(least.x(), mark.at.x()), std::min(least.y(), mark.at.y()));
+        most = QPointF(std::max(most.x(), mark.at.x()), std::max(most.y(), mark.at.y()));
+    }
+    return widened(QRectF(least, most), markReach);
+}
+
 } // namespace
 
 TextStyle::TextStyle(const QFont &font, const QPaintDevice *device, double unit)
@@ -223,6 +235,13 @@ void DrawList::addText(const QPointF &at, const QRectF &place, const QString &te
     // Glyphs may lean out of their place, and marks be stacked above letters.
     m_items.push_back({widened(place, casingWidth + style.height() / 2.0),
         Text{at, text, style.font(), style.unit(), style.pixelSize(), color, casing}});
+}
+
+void DrawList::marks(const QVector<PlacedMark> &marks)
+{
+    if (!marks.isEmpty()) {
+        m_items.push_back({boundsOf(marks), Marks{marks}});
+    }
 }
 
 void DrawList::paint(QPainter *painter, const QRegion &needed) const
@@ -343,6 +362,32 @@ void DrawList::paintItem(QPainter *painter, const Text &item, const QRegion & /*
     painter->scale(1.0 / item.unit, 1.0 / item.unit);
     painter->drawText(QPointF(), item.text);
     painter->restore();
+}
+
+void DrawList::paintItem(QPainter *painter, const Marks &item, const QRegion &needed)
+{
+    if (item.marks.size() <= mostMarksByOutline) {
+        for (const PlacedMark &mark : item.marks) {
+            if (isNeeded(widened(QRectF(mark.at, mark.at), markReach), needed)) {
+                paintMark(painter, mark);
+            }
+        }
+        return;
+    }
+    QRectF bounds = boundsOf(item.marks);
+    if (!needed.isEmpty()) {
+        bounds &= QRectF(needed.boundingRect());
+    }
+    const double most = std::sqrt(mostPicturePixels / std::max(1.0, bounds.width() * bounds.height()));
+    const double ratio = std::min(pictureRatioOfFiles, most);
+    const QTransform transform = isRaster(*painter) ? painter->deviceTransform() : QTransform::fromScale(ratio, ratio);
+    const QRect pixels = transform.mapRect(bounds).toAlignedRect();
+    // In bands, as a picture of all would double the memory of a large one.
+    const int height = int(mostPicturePixels / std::max(1, pixels.width()));
+    for (int top = pixels.top(); top <= pixels.bottom(); top += height) {
+        const QRect band = pixels & QRect(pixels.left(), top, pixels.width(), height);
+        painter->drawImage(transform.inverted().mapRect(QRectF(band)), markPicture(item.marks, transform, band));
+    }
 }
 
 } // namespace ceiechart

@@ -2,6 +2,8 @@
 #ifndef CEIECHART_DIAGRAM_DRAWLIST_P_H
 #define CEIECHART_DIAGRAM_DRAWLIST_P_H
 
+#include <ceiechart/diagram/markpicture_p.h>
+
 #include <QBrush>
 #include <QColor>
 #include <QFont>
@@ -20,6 +22,10 @@ class QPaintDevice;
 class QPainter;
 
 namespace ceiechart {
+
+constexpr double pictureRatioOfFiles = 2.0; // pixels of a picture for each logical pixel of a file
+constexpr double mostPicturePixels = 3e7;
+constexpr int mostMarksByOutline = 2000; // in the plot: each takes as long as a line, and hundreds of bytes of a file
 
 /*! \brief A font and its measures in logical pixels. */
 class TextStyle {
@@ -74,6 +80,9 @@ public:
     void textIn(const QRectF &place, const QString &text, const TextStyle &style, const QColor &color,
         const QColor &casing = QColor());
 
+    //! Marks, from bottom to top. More than mostMarksByOutline become one picture.
+    void marks(const QVector<PlacedMark> &marks);
+
     /*!
      * \brief Paints all of it, or what can be seen within \a needed.
      *
@@ -116,9 +125,12 @@ private:
         QColor color;
         QColor casing;
     };
+    struct Marks {
+        QVector<PlacedMark> marks;
+    };
     struct Item {
         QRectF bounds; // with the width of the pen
-        std::variant<Hairline, Line, Lines, Shape, Ellipse, Text> what;
+        std::variant<Hairline, Line, Lines, Shape, Ellipse, Text, Marks> what;
     };
     void addText(const QPointF &at, const QRectF &place, const QString &text, const TextStyle &style,
         const QColor &color, const QColor &casing);
@@ -128,6 +140,7 @@ private:
     static void paintItem(QPainter *painter, const Shape &item, const QRegion &needed);
     static void paintItem(QPainter *painter, const Ellipse &item, const QRegion &needed);
     static void paintItem(QPainter *painter, const Text &item, const QRegion &needed);
+    static void paintItem(QPainter *painter, const Marks &item, const QRegion &needed);
 
     std::vector<Item> m_items;
 };

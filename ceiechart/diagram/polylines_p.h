@@ -29,6 +29,13 @@ inline QPainterPath closedPath(const QPolygonF &corners)
     return path;
 }
 
+/*! \brief The corners of a square that stands on one of them, \a radius away from its middle \a at. */
+inline QPolygonF diamondAt(const QPointF &at, double radius)
+{
+    return QPolygonF(
+        {at - QPointF(0.0, radius), at + QPointF(radius, 0.0), at + QPointF(0.0, radius), at - QPointF(radius, 0.0)});
+}
+
 /*! \brief A part of a line that lies within a rectangle. */
 struct LinePart {
     QPolygonF points; //!< from where it enters to where it leaves
