@@ -4,6 +4,17 @@
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/CeieChart)
+# As 0 or 1: a containing project need not set the variables, and "if(NOT )" would be false in silence.
+set(gamutfiles_is_static 0)
+set(gamutfiles_has_iconv 0)
+if(CEIECHART_BUILD_GAMUTFILES AND NOT BUILD_SHARED_LIBS)
+    set(gamutfiles_is_static 1)
+    get_target_property(gamutfiles_links gamutfiles LINK_LIBRARIES)
+    if("Iconv::Iconv" IN_LIST gamutfiles_links)
+        set(gamutfiles_has_iconv 1)
+        set(gamutfiles_libs " -liconv")
+    endif()
+endif()
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/CeieChartConfig.cmake.in
     ${PROJECT_BINARY_DIR}/CeieChartConfig.cmake INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/CeieChartConfigVersion.cmake COMPATIBILITY SameMajorVersion)
