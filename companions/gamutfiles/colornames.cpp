@@ -10,7 +10,7 @@ namespace gamutfiles {
 
 namespace {
 
-//! Longer names are no colours with a level.
+//! The longest name that is looked through for a colour and its level.
 constexpr int longestName = 60;
 
 struct Word {

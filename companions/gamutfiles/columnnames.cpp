@@ -299,7 +299,7 @@ bool isLuminance(ColumnPart part)
     return part == ColumnPart::Luminance || part == ColumnPart::Y;
 }
 
-//! Says which colorimetric system is meant, that of 1931, so nothing more.
+//! Names the colorimetric system of 1931, which is meant in any case.
 bool isCie1931(const QString &note)
 {
     static const QStringList notes{QStringLiteral("cie"), QStringLiteral("1931"), QStringLiteral("cie1931"),

@@ -10,12 +10,6 @@
 
 namespace gamutfiles {
 
-namespace {
-
-constexpr int knownVersion = 1;
-
-} // namespace
-
 Outcome<DisplayDescription> readDescription(const QByteArray &utf8)
 {
     DescriptionReader reader;
@@ -54,7 +48,7 @@ void DescriptionReader::readDescription(const Node &node)
                 {QStringLiteral("cmyPoints"), false}})) {
         return;
     }
-    checkVersion(member(node, QStringLiteral("version")), knownVersion);
+    checkVersion(member(node, QStringLiteral("version")), descriptionVersion);
     m_description.name = readString(member(node, QStringLiteral("name")));
     m_description.notes = readString(member(node, QStringLiteral("notes")));
 

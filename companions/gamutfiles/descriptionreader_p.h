@@ -2,6 +2,7 @@
 #ifndef GAMUTFILES_DESCRIPTIONREADER_P_H
 #define GAMUTFILES_DESCRIPTIONREADER_P_H
 
+#include "descriptionformat_p.h"
 #include "gamutfromprimaries_p.h"
 #include "jsonreader_p.h"
 #include <gamutfiles/descriptionfile.h>
@@ -12,11 +13,6 @@
 #include <optional>
 
 namespace gamutfiles {
-
-/*! \brief The key of a gamut that states the unit of its luminances. */
-QString luminanceUnitKey();
-/*! \brief How a description writes \a unit; empty when it is not known. */
-QString luminanceUnitName(LuminanceUnit unit);
 
 /*!
  * \brief Reads display descriptions and says of the first thing that is wrong with one where it stands.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/descriptionfile.h>
 
-#include "descriptionreader_p.h"
+#include "descriptionformat_p.h"
 #include <gamutfiles/filebytes.h>
 
 #include <QJsonArray>
@@ -56,31 +56,13 @@ void insertPoints(QJsonObject &object, const QString &key, const QVector<NamedPo
 
 } // namespace
 
-QString luminanceUnitKey()
-{
-    return QStringLiteral("luminanceUnit");
-}
-
-QString luminanceUnitName(LuminanceUnit unit)
-{
-    switch (unit) {
-    case LuminanceUnit::Relative:
-        return QStringLiteral("relative");
-    case LuminanceUnit::CandelaPerSquareMetre:
-        return QStringLiteral("cd/m2");
-    case LuminanceUnit::NotKnown:
-        break;
-    }
-    return {};
-}
-
 QByteArray descriptionText(const DisplayDescription &description)
 {
     QJsonArray gamuts;
     for (const DisplayGamut &gamut : description.gamuts) {
         gamuts.append(gamutObject(gamut));
     }
-    QJsonObject object{{QStringLiteral("version"), 1}, {QStringLiteral("gamuts"), gamuts}};
+    QJsonObject object{{QStringLiteral("version"), descriptionVersion}, {QStringLiteral("gamuts"), gamuts}};
     insertText(object, QStringLiteral("name"), description.name);
     insertText(object, QStringLiteral("notes"), description.notes);
     insertText(object, QStringLiteral("original"), description.original);

@@ -6,6 +6,7 @@
 #include <gamutfiles/outcome.h>
 
 #include <QByteArray>
+#include <QPointF>
 #include <QString>
 #include <QStringList>
 

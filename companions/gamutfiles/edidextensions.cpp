@@ -12,6 +12,7 @@ namespace gamutfiles {
 
 namespace {
 
+constexpr int mostWarnings = 20; // as many again could be said of each of 255 damaged blocks
 constexpr int ctaTag = 0x02;
 constexpr int displayIdTag = 0x70;
 
@@ -371,6 +372,13 @@ bool EdidExtensions::isLongEnough(const Bytes &payload, int size, const QString 
 
 void EdidExtensions::warn(const QString &text, int byte)
 {
+    if (m_warnings.size() > mostWarnings) {
+        return;
+    }
+    if (m_warnings.size() == mostWarnings) {
+        m_warnings.append({tr("there is more that is wrong"), tr("extension block %1").arg(m_block), 0, 0});
+        return;
+    }
     const QString place
         = byte < 0 ? tr("extension block %1").arg(m_block) : tr("extension block %1, byte %2").arg(m_block).arg(byte);
     m_warnings.append({text, place, 0, 0});

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 
 namespace gamutfiles {
 
@@ -78,9 +79,10 @@ Outcome<QByteArray> readBytes(const QString &fileName, int maximum)
         return unreadable(whyNotRead(fileName));
     }
     // One byte more than allowed tells a longer file, also where a size is not known beforehand (a pipe, a device).
+    const int most = std::clamp(maximum, 0, std::numeric_limits<int>::max() - 1);
     QByteArray bytes;
-    while (bytes.size() <= maximum) {
-        const QByteArray piece = file.read(std::min(maximum + 1 - int(bytes.size()), pieceSize));
+    while (bytes.size() <= most) {
+        const QByteArray piece = file.read(std::min(most + 1 - int(bytes.size()), pieceSize));
         if (piece.isEmpty()) {
             break;
         }
@@ -89,8 +91,8 @@ Outcome<QByteArray> readBytes(const QString &fileName, int maximum)
     if (file.error() != QFileDevice::NoError) {
         return unreadable(BytesText::tr("reading fails after %1 bytes").arg(bytes.size()));
     }
-    if (bytes.size() > maximum) {
-        return failure(BytesText::tr("is larger than %1 KiB").arg(maximum / 1024));
+    if (bytes.size() > most) {
+        return failure(BytesText::tr("is larger than %1 KiB").arg(most / 1024));
     }
     return bytes;
 }

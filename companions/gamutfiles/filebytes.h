@@ -15,7 +15,8 @@ GAMUTFILES_EXPORT bool isStandardInput(const QString &fileName);
  * \brief The content of \a fileName: a file, a device, a pipe that a shell opened ("/dev/stdin", "/dev/fd/63"), or
  * standard input if isStandardInput().
  *
- * A failure when it is longer than \a maximum bytes or cannot be read. A named pipe is refused, as opening it would
+ * A failure when it is longer than \a maximum bytes, which are 0 to INT_MAX - 1 and otherwise taken as the nearer of
+ * these, or cannot be read. A named pipe is refused, as opening it would
  * wait for a program that writes to it.
  */
 GAMUTFILES_EXPORT Outcome<QByteArray> readBytes(const QString &fileName, int maximum);

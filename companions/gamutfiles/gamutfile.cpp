@@ -30,11 +30,11 @@ int numbersBetweenSpaces(const QString &line)
     return int(std::count_if(fields.begin(), fields.end(), isNumber));
 }
 
-//! Whether a line near the beginning has fields, or says that it has.
-bool isList(const QByteArray &start)
+//! Whether a line near the beginning has fields, or says that it has. The encoding is known from \a bytes as a whole.
+bool isList(const QByteArray &bytes)
 {
     constexpr int mostLines = 50;
-    const auto decoded = decodeText(start);
+    const auto decoded = decodeText(bytes);
     if (!decoded) {
         return false;
     }

@@ -3,6 +3,7 @@
 
 #include <colortemperature/colortemperature.h>
 #include <gamutmodel/gamutcoverage.h>
+#include <gamutmodel/plane_p.h>
 #include <gamutmodel/spectrallocus.h>
 
 #include <QCoreApplication>
@@ -54,16 +55,13 @@ double distanceFromLight(const Model::DiagramPoint &xy)
     for (std::size_t i = 0; i < points.size(); ++i) {
         const Model::DiagramPoint &from = points[i];
         const Model::DiagramPoint &to = points[(i + 1) % points.size()];
-        const Model::DiagramPoint side{to.x - from.x, to.y - from.y};
-        const Model::DiagramPoint offset{xy.x - from.x, xy.y - from.y};
+        const Model::DiagramPoint side = to - from;
+        const Model::DiagramPoint offset = xy - from;
         // By crossings of a ray to the right: the tabulated locus is not quite convex at its red end.
         if ((from.y > xy.y) != (to.y > xy.y) && offset.x < side.x * offset.y / side.y) {
             isInside = !isInside;
         }
-        const double length = side.x * side.x + side.y * side.y;
-        const double share
-            = length > 0.0 ? std::clamp((side.x * offset.x + side.y * offset.y) / length, 0.0, 1.0) : 0.0;
-        distance = std::min(distance, std::hypot(offset.x - share * side.x, offset.y - share * side.y));
+        distance = std::min(distance, Model::length(xy - Model::nearestOnPiece(xy, from, to)));
     }
     return isInside ? 0.0 : distance;
 }
@@ -113,9 +111,8 @@ QVector<Problem> warningsOfTheTriangle(const Model::Targets &gamut)
     if (!Model::spanTriangle(gamut)) {
         return {};
     }
-    // Twice the area of a, b, c: greater than 0 when they are counter-clockwise.
     const auto area = [](const Model::Target &a, const Model::Target &b, const Model::Target &c) {
-        return (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
+        return Model::turn({a.x, a.y}, {b.x, b.y}, {c.x, c.y});
     };
     const double whole = area(gamut.red, gamut.green, gamut.blue);
     QVector<Problem> warnings;

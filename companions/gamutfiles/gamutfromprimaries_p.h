@@ -24,7 +24,7 @@ enum class PrimariesOf {
     /*!
      * \brief Also others, as colour spaces have them to encode every colour (ACES2065-1, for example).
      *
-     * y is not 0, as the amount of such a colour can not be stated by a luminance. The coordinates are from -1 to 2 and
+     * y is not 0, as the amount of such a colour cannot be stated by a luminance. The coordinates are from -1 to 2 and
      * have a place on the uniform diagrams, that is -2x + 12y + 3 > 0; no published space is near to these limits.
      */
     ColorSpace

@@ -48,7 +48,7 @@ ColumnPart missingPart(const std::array<int, columnPartCount> &columns)
     return has(ColumnPart::x) ? ColumnPart::y : ColumnPart::x;
 }
 
-//! How sure it is that a column gives the luminance, and in which unit; of several the one of the highest is read.
+//! How likely a column is to give the luminance, and its unit. Of several columns, the most likely one is read.
 int luminanceRank(const ColumnName &name)
 {
     const bool isY = name.part == ColumnPart::Y;

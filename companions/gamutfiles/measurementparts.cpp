@@ -12,7 +12,7 @@ namespace gamutfiles {
 
 namespace {
 
-//! More warnings about cabinets than these tell nothing more.
+//! The most warnings about cabinets: further ones would say the same of others.
 constexpr int mostWarnings = 20;
 constexpr int mostNamedCabinets = 4;
 
@@ -70,7 +70,7 @@ void MeasurementReader::assignByName()
     }
 }
 
-//! What levels are full is known from the list as a whole; the colours are chosen in the cabinet.
+//! The highest level is taken from the whole list, the colours from the chosen cabinet.
 bool MeasurementReader::chooseCabinet()
 {
     const QString wanted = m_options.cabinet.trimmed();

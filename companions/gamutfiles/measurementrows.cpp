@@ -3,6 +3,8 @@
 #include "measurementreader_p.h"
 #include "numbers_p.h"
 
+#include <gamutmodel/diagram.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -351,11 +353,8 @@ bool MeasurementReader::readUv(const CsvRow &row, Measurement &measurement, bool
         readWithoutChromaticity(row, measurement);
         return true;
     }
-    // ISO 11664-5:2009, the inverse of the equations for u' and v'.
-    const double divisor = 6.0 * *u - 16.0 * *v + 12.0;
-    const double x = 9.0 * *u / divisor;
-    const double y = 4.0 * *v / divisor;
-    const bool isColor = divisor > 0.0 && x + y <= 1.0 + decimalRounding;
+    const Model::DiagramPoint xy = Model::fromDiagram(Model::Diagram::Cie1976, {*u, *v});
+    const bool isColor = xy.y > 0.0 && xy.x + xy.y <= 1.0 + decimalRounding;
     if (isDark && (*u < 0.0 || *v <= 0.0 || !isColor)) {
         m_dark.add(row.line);
         return true;
@@ -369,7 +368,7 @@ bool MeasurementReader::readUv(const CsvRow &row, Measurement &measurement, bool
     if (!isColor) {
         return fail(tr("u' and v' are not those of a colour"), place(row.line, ColumnPart::u));
     }
-    measurement.color = Model::Target::fromYxy(measurement.luminance, x, y);
+    measurement.color = Model::Target::fromYxy(measurement.luminance, xy.x, xy.y);
     return true;
 }
 

@@ -60,8 +60,8 @@ GAMUTMODEL_EXPORT std::optional<DominantWavelength> dominantWavelength(DiagramPo
 /*!
  * \brief The CIE 1931 chromaticity that has \a hue for the white \a white: the inverse of dominantWavelength().
  *
- * There and back the wavelength keeps to 1e-6 nm and the chromaticity to 1e-12, for a white that is 0.01 and more from
- * the locus and a purity of at least 0.01.
+ * Converting there and back changes the wavelength by at most 1e-6 nm and the chromaticity by at most 1e-12, for a
+ * white that is 0.01 and more from the locus and a purity of at least 0.01.
  *
  * \param hue a wavelength from shortestWavelength up to 830 nm is defined; the locus has the same chromaticity for all
  *     from longestWavelength. A negative one is defined if it is the complementary wavelength of a purple: for most

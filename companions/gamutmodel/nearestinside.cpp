@@ -144,7 +144,7 @@ private:
         }
     }
 
-    /*! \brief Enough for a diagram in steps of 0.0001. With more decimals it ends the search of needles. */
+    /*! \brief Enough for a diagram in steps of 0.0001. With more decimals it limits the search in narrow triangles. */
     static constexpr int mostColumns = 20000;
 
     const Triangle m_triangle;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gamutmodel/publishedgamuts.h>
 
+#include <gamutmodel/plane_p.h>
+
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -10,10 +12,7 @@ namespace Model {
 
 namespace {
 
-struct Chromaticity {
-    double x;
-    double y;
-};
+using Chromaticity = DiagramPoint;
 
 constexpr Chromaticity d65{0.3127, 0.3290};
 /*! \brief TB-2018-001: near to the daylight of 6000 K. */
@@ -65,16 +64,13 @@ ColorGamut gamutOf(const Entry &entry)
     // those of the white. The share of a primary in the S of the white is therefore the area of the triangle in which
     // the white replaces that primary, divided by the area of the whole triangle.
     const auto &[name, red, green, blue, white, source, otherNames] = entry;
-    const auto area = [](Chromaticity a, Chromaticity b, Chromaticity c) {
-        return (b.x - a.x) * (c.y - a.y) - (c.x - a.x) * (b.y - a.y);
-    };
-    const double total = area(red, green, blue);
+    const double total = turn(red, green, blue);
     const auto luminance
         = [total, whiteY = white.y](Chromaticity primary, double share) { return share / total * primary.y / whiteY; };
     return ColorGamut(name,
-        {Target::fromYxy(luminance(red, area(white, green, blue)), red.x, red.y),
-            Target::fromYxy(luminance(green, area(red, white, blue)), green.x, green.y),
-            Target::fromYxy(luminance(blue, area(red, green, white)), blue.x, blue.y),
+        {Target::fromYxy(luminance(red, turn(white, green, blue)), red.x, red.y),
+            Target::fromYxy(luminance(green, turn(red, white, blue)), green.x, green.y),
+            Target::fromYxy(luminance(blue, turn(red, green, white)), blue.x, blue.y),
             Target::fromYxy(1.0, white.x, white.y)});
 }
 

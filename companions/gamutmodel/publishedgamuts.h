@@ -83,8 +83,8 @@ GAMUTMODEL_EXPORT std::optional<PublishedGamut> publishedGamut(std::string_view 
  *
  * \param gamut only x and y of its colours are used.
  * \param tolerance the greatest difference of each coordinate, which is to allow for the digits of a file: an EDID has
- *     steps of 1/1024, so that its coordinates differ by up to 0.0005. Nothing equals a gamut with a coordinate that is
- *     not a number.
+ *     steps of 1/1024, so that its coordinates differ by up to 0.0005 if they are rounded and by up to 0.001 if they
+ * are cut off. Nothing equals a gamut with a coordinate that is not a number.
  */
 GAMUTMODEL_EXPORT std::vector<PublishedGamut> publishedGamutsEqualTo(const Targets &gamut, double tolerance = 1e-9);
 

@@ -13,7 +13,7 @@ namespace Model {
 
 namespace {
 
-/*! \brief What a cabinet shows; a place that no other has if its position is known. */
+/*! \brief What a cabinet shows, as far as it is known. */
 struct Shown {
     DiagramPoint uv;
     double luminance = 0.0;

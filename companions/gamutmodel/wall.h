@@ -10,7 +10,7 @@
 
 /*!
  * \file
- * \brief The cabinets of a wall, as far as its maths reads them.
+ * \brief The cabinets of a wall, with the values that the computations for walls use.
  *
  * commongamut.h, gamutfit.h, correction.h and uniformity.h name cabinets by their index in the list that they are
  * given.

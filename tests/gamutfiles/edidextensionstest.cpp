@@ -12,6 +12,7 @@ class EdidExtensionsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void warningsAreLimited();
     void extensionBlocks();
     void hdrStaticMetadata();
     void contentLuminancesMayBeMissing();
@@ -317,6 +318,22 @@ void EdidExtensionsTest::extensionsTruncatedAnywhere()
         QVERIFY(isSound(display));
         QCOMPARE(messages(display.warnings()).filter("extension block").size(), 1);
     }
+}
+
+// A block has room for dozens of faults, and a file for 255 blocks.
+void EdidExtensionsTest::warningsAreLimited()
+{
+    QByteArray faults;
+    for (int i = 0; i < 30; ++i) {
+        faults += ctaDataBlock(5, "\x80");
+    }
+    const auto display = readEdidDisplay(withExtensions(edid(), {ctaBlock(faults), ctaBlock(faults)}));
+    QVERIFY(display);
+    const QStringList texts = messages(display.warnings()).filter(QStringLiteral("extension block"));
+    QCOMPARE(texts.size(), 21);
+    QCOMPARE(texts.first(),
+        QStringLiteral("extension block 1, byte 6: the colorimetry data block has 1 bytes instead of at least 2"));
+    QCOMPARE(texts.last(), QStringLiteral("extension block 1: there is more that is wrong"));
 }
 
 QTEST_GUILESS_MAIN(EdidExtensionsTest)

@@ -10,6 +10,7 @@
 #endif
 
 #include <cstdio>
+#include <limits>
 #include <thread>
 
 using namespace gamutfiles;
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void writes();
     void writingFails();
     void writesToANamedPipeThatIsRead();
+    void anyMaximumIsTaken();
 
 private:
     QString path(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
@@ -216,6 +218,18 @@ void FileBytesTest::writesToANamedPipeThatIsRead()
     QCOMPARE(error, QString());
     QVERIFY(received == content);
 #endif
+}
+
+void FileBytesTest::anyMaximumIsTaken()
+{
+    const QString file = write("file", "four");
+    const auto all = readBytes(file, std::numeric_limits<int>::max());
+    QVERIFY2(all, qPrintable(all.error()));
+    QCOMPARE(*all, QByteArray("four"));
+    for (const int least : {0, -1, std::numeric_limits<int>::min()}) {
+        QCOMPARE(readBytes(file, least).error(), QStringLiteral("is larger than 0 KiB"));
+        QVERIFY(readBytes(write("empty", ""), least));
+    }
 }
 
 QTEST_GUILESS_MAIN(FileBytesTest)

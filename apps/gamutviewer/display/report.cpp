@@ -25,15 +25,7 @@ QString diagramName(Model::Diagram diagram)
 
 QJsonValue unitValue(LuminanceUnit unit)
 {
-    switch (unit) {
-    case LuminanceUnit::CandelaPerSquareMetre:
-        return QStringLiteral("cd/m2");
-    case LuminanceUnit::Relative:
-        return QStringLiteral("relative");
-    case LuminanceUnit::NotKnown:
-        break;
-    }
-    return QJsonValue::Null;
+    return unit == LuminanceUnit::NotKnown ? QJsonValue() : QJsonValue(luminanceUnitName(unit));
 }
 
 QJsonObject colorObject(const Model::Target &target, const Model::Target &white)

@@ -239,6 +239,14 @@
         <source>two data blocks state different luminances of a white screen: %1 and %2; that of the first is kept</source>
         <translation>两个数据块声明的全白屏亮度不同：%1和%2；保留第一个数据块的亮度</translation>
     </message>
+    <message>
+        <source>the base block states another gamut than the DisplayID extension: %1 at %2, %3 instead of %4, %5; that of the base block is used</source>
+        <translation>基本块声明的色域与 DisplayID 扩展不同：%1位于 %2, %3，而不是 %4, %5；采用基本块的色域</translation>
+    </message>
+    <message>
+        <source>there is more that is wrong</source>
+        <translation>还有其他错误</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::FileBytes</name>
@@ -455,6 +463,10 @@
     <message>
         <source>is a damaged ICC profile: its white cannot be read</source>
         <translation>是已损坏的 ICC 特性文件：无法读取其白点</translation>
+    </message>
+    <message>
+        <source>the metadata are larger than their tag: the further ones are left out</source>
+        <translation>元数据大于其标签：其余的被忽略</translation>
     </message>
 </context>
 <context>
