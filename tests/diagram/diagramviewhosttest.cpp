@@ -35,6 +35,7 @@ class DiagramViewHostTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void declaredGamutAndCmyPointsAreSet();
     void readOnlyDoesNotEdit();
     void hiddenTargetIsNotEdited();
     void hostsMayReplaceTheTargetInADrag();
@@ -477,6 +478,24 @@ void DiagramViewHostTest::contentMayBeReplacedInADrag()
         QVERIFY(length(view.at(GamutVertex::Green) - start - QPointF(25, -15)) < 0.2);
         view.release(start);
     }
+}
+
+void Deleter::declaredGamutAndCmyPointsAreSet()
+{
+    DiagramView view;
+    view.setOriginal(Model::rec2020());
+    view.setDeclared(Model::rec709());
+    QCOMPARE(view.gamut(GamutRole::Declared)->colorGamutName(), Model::rec709().colorGamutName());
+    QCOMPARE(view.gamut(GamutRole::Original)->colorGamutName(), Model::rec2020().colorGamutName());
+    view.setDeclared(Model::dciP3D65());
+    QCOMPARE(view.gamut(GamutRole::Declared)->colorGamutName(), Model::dciP3D65().colorGamutName());
+    QCOMPARE(view.gamuts().size(), 2);
+
+    view.setCmyPoints({{QPointF(0.22, 0.33), QStringLiteral("cyan"), QColor()}});
+    QCOMPARE(view.content().cmyPoints.size(), 1);
+    QCOMPARE(view.content().cmyPoints.first().name, QStringLiteral("cyan"));
+    QVERIFY(view.content().measurePoints.isEmpty());
+    QVERIFY(view.content().colorTemperaturePoints.isEmpty());
 }
 
 QTEST_MAIN(DiagramViewHostTest)

@@ -18,7 +18,7 @@ namespace gamutviewer {
 /*! \brief The gamut that stands for what the display can show. */
 struct KnownDisplay {
     DisplayGamut gamut;
-    bool isMeasured = false; //!< it is the measured gamut, because there is no original
+    bool isMeasured = false; //!< whether it is the measured gamut; otherwise the original
 };
 
 /*!

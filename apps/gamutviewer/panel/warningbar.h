@@ -18,7 +18,7 @@ class WarningBar : public QFrame {
 public:
     explicit WarningBar(QWidget *parent = nullptr);
 
-    /*! \brief Shows \a warnings, one a line, instead of those before; without any, the bar goes. */
+    /*! \brief Shows \a warnings, one a line, instead of those before; without any, the bar is hidden. */
     void setWarnings(const QStringList &warnings);
     /*! \brief Shows \a warnings below those before. */
     void addWarnings(const QStringList &warnings);

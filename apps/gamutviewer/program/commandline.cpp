@@ -95,8 +95,7 @@ CommandLine::CommandLine(const QStringList &arguments)
         tr("format"));
     const QCommandLineOption check(QStringLiteral("check"),
         tr("Judge whether the display in the files can show the target, without opening a window: the exit status "
-           "tells "
-           "the verdict, and its grounds are printed unless the report is. Requires a file."));
+           "tells the verdict, and its grounds are printed unless the report is. Requires a file."));
     const QCommandLineOption tolerances(QStringLiteral("tolerances"),
         tr("Judge what was measured by the limits in <file> (JSON), and draw them."), tr("file"));
     const QCommandLineOption follow(QStringLiteral("follow"),

@@ -49,8 +49,8 @@ void installInterfaceTranslations(const QLocale &locale)
     delete interface;
     delete messages;
     delete toolkit;
-    const QLocale chinese = language(locale);
-    if (chinese.language() == QLocale::Chinese) {
+    const QLocale translated = language(locale);
+    if (translated.language() == QLocale::Chinese) {
         initTranslationResource();
         install(interface, QStringLiteral("gamutviewer_zh"), QStringLiteral(":/gamutviewer/translations"));
         install(messages, gamutfiles::translationFile(locale), QString());
@@ -61,8 +61,8 @@ void installInterfaceTranslations(const QLocale &locale)
         const QString toolkitTranslations = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
 #endif
         // There is one for mainland China and one for Taiwan: Hong Kong, say, reads the latter.
-        const bool isTraditional = chinese.script() == QLocale::TraditionalHanScript;
-        if (!install(toolkit, QStringLiteral("qtbase_") + chinese.name(), toolkitTranslations)) {
+        const bool isTraditional = translated.script() == QLocale::TraditionalHanScript;
+        if (!install(toolkit, QStringLiteral("qtbase_") + translated.name(), toolkitTranslations)) {
             install(toolkit, isTraditional ? QStringLiteral("qtbase_zh_TW") : QStringLiteral("qtbase_zh_CN"),
                 toolkitTranslations);
         }

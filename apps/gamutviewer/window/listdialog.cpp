@@ -48,12 +48,15 @@ bool ListDialog::canHelp(const QString &fileName, const MeasurementOptions &opti
     if (read) {
         return needsChoice(*read);
     }
+    if (options.decimalSign) {
+        return false;
+    }
     // It may have two readings, of which one has to be chosen.
     MeasurementOptions other = options;
     for (const QChar sign : signs) {
         other.decimalSign = sign;
         const Outcome<GamutFile> again = readGamutFile(fileName, other);
-        if (!options.decimalSign && again && again->content == GamutFile::Content::Measurements) {
+        if (again && again->content == GamutFile::Content::Measurements) {
             return true;
         }
     }

@@ -11,6 +11,7 @@
 #include "window/comparepage.h"
 #include "window/diagrampage.h"
 #include "window/followmenu.h"
+#include "window/gamutsdialog.h"
 #include "window/librarypage.h"
 #include "window/settings.h"
 
@@ -61,6 +62,10 @@ ViewerWindow::~ViewerWindow()
     // A field that loses the focus may have an edit to make, of a document that is still there.
     hide();
     qApp->removeEventFilter(this);
+    delete m_gamuts; // which shows the document, and would be deleted after it
+    // The history tells that it is empty as it goes. By then, half of the window is gone.
+    disconnect(m_document.history(), nullptr, nullptr, nullptr);
+    disconnect(&m_document, nullptr, nullptr, nullptr);
 }
 
 void ViewerWindow::buildPages()
