@@ -480,7 +480,7 @@ void DiagramViewHostTest::contentMayBeReplacedInADrag()
     }
 }
 
-void Deleter::declaredGamutAndCmyPointsAreSet()
+void DiagramViewHostTest::declaredGamutAndCmyPointsAreSet()
 {
     DiagramView view;
     view.setOriginal(Model::rec2020());
