@@ -485,6 +485,8 @@ void DiagramViewHostTest::declaredGamutAndCmyPointsAreSet()
     DiagramView view;
     view.setOriginal(Model::rec2020());
     view.setDeclared(Model::rec709());
+    QVERIFY(view.gamut(GamutRole::Declared).has_value());
+    QVERIFY(!view.gamut(GamutRole::Measured).has_value());
     QCOMPARE(view.gamut(GamutRole::Declared)->colorGamutName(), Model::rec709().colorGamutName());
     QCOMPARE(view.gamut(GamutRole::Original)->colorGamutName(), Model::rec2020().colorGamutName());
     view.setDeclared(Model::dciP3D65());
