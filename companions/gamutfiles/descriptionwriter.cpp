@@ -24,13 +24,6 @@ void insertText(QJsonObject &object, const QString &key, const QString &text)
     }
 }
 
-//! Other than QString::fromStdString(), with a byte order mark at its begin, which is a character there.
-QString nameOf(const Model::ColorGamut &gamut)
-{
-    const std::string name = gamut.colorGamutName();
-    return QString::fromStdString('_' + name).mid(1);
-}
-
 QJsonObject gamutObject(const DisplayGamut &gamut)
 {
     const Model::Targets &targets = gamut.getTargets();

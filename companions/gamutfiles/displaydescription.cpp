@@ -12,11 +12,6 @@ namespace gamutfiles {
 
 namespace {
 
-QString nameOf(const Model::ColorGamut &gamut)
-{
-    return QString::fromStdString(gamut.colorGamutName());
-}
-
 //! The published gamut of exactly the name \a gamutName.
 std::optional<DisplayGamut> published(const QString &gamutName)
 {
@@ -32,6 +27,12 @@ std::optional<DisplayGamut> published(const QString &gamutName)
 }
 
 } // namespace
+
+QString nameOf(const Model::ColorGamut &gamut)
+{
+    // QString::fromStdString() takes a byte order mark at the beginning away.
+    return QString::fromStdString('_' + gamut.colorGamutName()).mid(1);
+}
 
 bool hasRealPrimaries(const Model::Targets &gamut)
 {

@@ -24,6 +24,9 @@ struct NamedPoint {
     QPointF xy; //!< CIE 1931 x, y
 };
 
+/*! \brief The name of \a gamut to the last character: a byte order mark at its beginning is kept. */
+GAMUTFILES_EXPORT QString nameOf(const Model::ColorGamut &gamut);
+
 /*!
  * \brief Whether every primary of \a gamut is a chromaticity that light can have by its numbers: x >= 0, y > 0 and
  * x + y <= 1.

@@ -121,7 +121,7 @@ QVector<Problem> copies(const EdidDisplay &display)
     }
     QStringList names;
     for (const Model::PublishedGamut &published : equal) {
-        names += QString::fromStdString(published.gamut.colorGamutName());
+        names += nameOf(published.gamut);
     }
     const QString name = names.contains(QStringLiteral("sRGB")) ? QStringLiteral("sRGB") : names.first();
     QString text = EdidText::tr("the EDID states exactly %1: many makers write this without measuring").arg(name);

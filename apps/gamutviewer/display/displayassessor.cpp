@@ -39,7 +39,7 @@ QString otherTarget(const DisplayDescription &description)
     QString best;
     double bestArea = 0.0;
     for (const DisplayGamut &standard : description.allStandards()) {
-        const QString name = QString::fromStdString(standard.colorGamutName());
+        const QString name = nameOf(standard);
         const double area = Model::gamutArea(standard.getTargets(), Model::Diagram::Cie1976);
         if (name != description.target && area > bestArea && isInside(standard.getTargets())) {
             best = name;

@@ -60,7 +60,7 @@ QJsonObject standardObject(const Model::ColorGamut &gamut, const Model::ColorGam
         return QJsonObject{
             {QStringLiteral("coverage"), comparison.coverage}, {QStringLiteral("areaRatio"), comparison.areaRatio}};
     });
-    object.insert(QStringLiteral("standard"), QString::fromStdString(standard.colorGamutName()));
+    object.insert(QStringLiteral("standard"), nameOf(standard));
     return object;
 }
 
@@ -71,8 +71,7 @@ QJsonObject gamutObject(const DisplayGamut &gamut, const std::vector<DisplayGamu
     for (const Model::ColorGamut &standard : standards) {
         comparisons.append(standardObject(gamut, standard));
     }
-    return {{QStringLiteral("name"), QString::fromStdString(gamut.colorGamutName())},
-        {QStringLiteral("unit"), unitValue(gamut.unit)},
+    return {{QStringLiteral("name"), nameOf(gamut)}, {QStringLiteral("unit"), unitValue(gamut.unit)},
         {QStringLiteral("referenceWhite"),
             QJsonObject{{QStringLiteral("x"), targets.white.x}, {QStringLiteral("y"), targets.white.y}}},
         {QStringLiteral("red"), colorObject(targets.red, targets.white)},

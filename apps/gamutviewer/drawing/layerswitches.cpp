@@ -50,7 +50,7 @@ ceiechart::DiagramContent LayerSwitches::content(const DisplayDescription &descr
     shown.standards.clear();
     const QSet<QString> named(description.standards.begin(), description.standards.end());
     for (const Model::ColorGamut &standard : description.allStandards()) {
-        const QString name = QString::fromStdString(standard.colorGamutName());
+        const QString name = nameOf(standard);
         if (isStandardShown(name, named)) {
             shown.standards.append(name);
         }

@@ -158,8 +158,7 @@ PictureKey::PictureKey(const DiagramContent &content, int pixelSize)
             if (gamut.role != role || !content.shows(gamut)) {
                 continue;
             }
-            const QString name = metrics.elidedText(
-                QString::fromStdString(gamut.gamut.colorGamutName()), Qt::ElideMiddle, longestName * pixelSize);
+            const QString name = metrics.elidedText(nameOf(gamut.gamut), Qt::ElideMiddle, longestName * pixelSize);
             m_rows.append({role, name, ceiechart::gamutRoleName(role)});
             m_nameWidth = std::max(m_nameWidth, std::ceil(metrics.horizontalAdvance(name)));
             roleWidth = std::max(roleWidth, std::ceil(metrics.horizontalAdvance(m_rows.last().roleName)));

@@ -17,7 +17,7 @@ QString GamutPart::title() const
 
 QString GamutPart::name() const
 {
-    const QString shown = oneLine(shownGamutName(QString::fromStdString(gamut.colorGamutName())));
+    const QString shown = oneLine(shownGamutName(nameOf(gamut)));
     return isDefault
         ? QCoreApplication::translate("gamutviewer", "%1 (default)", "gamut that nobody has chosen").arg(shown)
         : shown;

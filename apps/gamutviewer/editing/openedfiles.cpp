@@ -21,7 +21,7 @@ using Content = GamutFile::Content;
 
 QString wantedName(const DisplayGamut &gamut)
 {
-    const QString wanted = QString::fromStdString(gamut.colorGamutName());
+    const QString wanted = nameOf(gamut);
     return wanted.trimmed().isEmpty() ? OpenText::tr("Gamut") : wanted;
 }
 

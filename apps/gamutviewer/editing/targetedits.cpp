@@ -44,8 +44,7 @@ QString editedName(const QString &plain, int number)
 
 QString freeEditedName(const DisplayDescription &description)
 {
-    const QString plain = plainName(
-        description.target.isEmpty() ? QString::fromStdString(defaultTarget().colorGamutName()) : description.target);
+    const QString plain = plainName(description.target.isEmpty() ? nameOf(defaultTarget()) : description.target);
     int number = 1;
     while (description.ownGamut(editedName(plain, number))) {
         ++number;
@@ -67,7 +66,7 @@ Model::Targets scaledTo(Model::Targets targets, double whiteLuminance)
 bool isMadeToMatch(
     const DisplayDescription &description, const Model::ColorGamut &published, const DisplayDescription &saved)
 {
-    const QString name = QString::fromStdString(published.colorGamutName());
+    const QString name = nameOf(published);
     const DisplayGamut *own = description.ownGamut(name);
     return own && !saved.ownGamut(name) && !playsAnotherPart(description, name)
         && sameTargets(own->getTargets(), scaledTo(published.getTargets(), own->getTargets().white.Y));
@@ -150,7 +149,7 @@ DisplayDescription withTargetNamed(
     description.target = gamutName;
     for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
         if (isMadeToMatch(description, published.gamut, saved)) {
-            description.removeOwnGamut(QString::fromStdString(published.gamut.colorGamutName()));
+            description.removeOwnGamut(nameOf(published.gamut));
         }
     }
     if (targetBefore) {

@@ -293,8 +293,7 @@ void LayerKey::build()
     }
     addSection(tr("Standards"));
     for (const Model::ColorGamut &standard : description.allStandards()) {
-        addEntry(
-            QString::fromStdString(standard.colorGamutName()), QString(), GamutRole::Standard, DiagramLayer::Standards);
+        addEntry(nameOf(standard), QString(), GamutRole::Standard, DiagramLayer::Standards);
     }
     addSection(tr("Layers"));
     addColors();
@@ -338,7 +337,7 @@ void LayerKey::refresh()
         made.append(part.title());
     }
     for (const Model::ColorGamut &standard : description.allStandards()) {
-        made.append(QString::fromStdString(standard.colorGamutName()));
+        made.append(nameOf(standard));
     }
     made.append(QStringLiteral("%1 %2 %3")
                     .arg(description.measurePoints.isEmpty())

@@ -30,7 +30,7 @@ QStringList valueCells(Vertex vertex, const Model::Target &t)
 
 QStringList coverageCells(const Model::ColorGamut &gamut, const Model::ColorGamut &standard)
 {
-    QStringList cells{QString::fromStdString(standard.colorGamutName())};
+    QStringList cells{nameOf(standard)};
     for (const Model::Diagram diagram : {Model::Diagram::Cie1931, Model::Diagram::Cie1976}) {
         const Model::GamutCoverage c = Model::gamutCoverage(gamut.getTargets(), standard.getTargets(), diagram);
         cells << percent(c.coverage) << percent(c.areaRatio);

@@ -284,12 +284,12 @@ void TargetEditor::fillResetMenu()
     const DisplayDescription &description = m_session->document()->description();
     QStringList names;
     for (const Model::ColorGamut &gamut : description.gamuts) {
-        names.append(QString::fromStdString(gamut.colorGamutName()));
+        names.append(nameOf(gamut));
     }
     const int ownNames = names.size();
     for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
         if (canBeTarget(published.gamut.getTargets())) {
-            names.append(QString::fromStdString(published.gamut.colorGamutName()));
+            names.append(nameOf(published.gamut));
         }
     }
     names.removeDuplicates();

@@ -152,7 +152,7 @@ QString AddDialog::noteFor(const DisplayDescription &open, const ReadFile &file)
 {
     QStringList lines;
     if (const auto gamut = gamutOf(file.file)) {
-        lines.append(tr("Gamut \"%1\"").arg(oneLine(QString::fromStdString(gamut->colorGamutName()))));
+        lines.append(tr("Gamut \"%1\"").arg(oneLine(nameOf(*gamut))));
     }
     if (file.file.content == GamutFile::Content::Measurements && !file.file.measurements.others().isEmpty()) {
         lines.append(tr("Measured points: %1").arg(file.file.measurements.others().size()));

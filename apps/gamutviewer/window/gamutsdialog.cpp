@@ -41,7 +41,7 @@ QStringList parts(const DisplayDescription &description)
 {
     QStringList names{description.original, description.declared, description.measured, description.target};
     for (const DisplayGamut &gamut : description.gamuts) {
-        names.append(QString::fromStdString(gamut.colorGamutName()));
+        names.append(nameOf(gamut));
     }
     return names + description.standards;
 }
@@ -129,12 +129,12 @@ void GamutsDialog::refresh()
     m_displayName->setText(description.name);
     QStringList names;
     for (const DisplayGamut &gamut : description.gamuts) {
-        names.append(QString::fromStdString(gamut.colorGamutName()));
+        names.append(nameOf(gamut));
     }
     const QHash<QString, int> places = description.gamutPlaces();
     const QSet<QString> standards(description.standards.begin(), description.standards.end());
     for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
-        names.append(QString::fromStdString(published.gamut.colorGamutName()));
+        names.append(nameOf(published.gamut));
     }
     names.removeDuplicates();
     m_table->setRowCount(names.size());
