@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A minimal host: a chart with the gamuts of an LED display, and a line with the reports of the chart.
+// A minimal host: a chart with the gamuts of an LED display, and the name of the target.
 #include <ceiechart/widgets/ceiegraphicsview.h>
 #include <ceiechart/widgets/translations.h>
 
@@ -16,10 +16,9 @@ int main(int argc, char **argv)
 
     QWidget window;
     auto *chart = new NewCEIE::CEIEGraphicsView(&window);
-    auto *report = new QLabel(QStringLiteral("Target gamut: Rec.709"), &window);
     auto *layout = new QVBoxLayout(&window);
     layout->addWidget(chart);
-    layout->addWidget(report);
+    layout->addWidget(new QLabel(QStringLiteral("Target gamut: Rec.709"), &window));
 
     // The size at which the chart is not scaled.
     chart->setImageWidth(672);
@@ -33,13 +32,6 @@ int main(int argc, char **argv)
         {Target::fromYxy(197, 0.703, 0.296), Target::fromYxy(609, 0.195, 0.714), Target::fromYxy(124, 0.130, 0.080),
             Target::fromYxy(929, 0.2727, 0.3031)});
     chart->setColorGamut(Model::rec709(), original, measured, {Model::rec2020(), Model::dciP3D65()});
-
-    QObject::connect(chart, &NewCEIE::CEIEGraphicsView::signal_targetInfoChanged, report,
-        [report](const TargetInfoChangedEventArgs &info) {
-            report->setText(QStringLiteral("Target gamut: white at %1 K%2")
-                                .arg(info.colourTemperature())
-                                .arg(info.isReasonableData() ? QString() : QStringLiteral(", out of reach")));
-        });
 
     window.setWindowTitle(QStringLiteral("Chromaticity chart"));
     window.show();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A minimal host of the legacy chart: drag the target's primaries and its white with the mouse.
+// A minimal host of the legacy chart: drag the target's primaries with the mouse.
 #include <ceiechart/legacy/ceiegraphicsview.h>
 #include <ceiechart/widgets/translations.h>
 
