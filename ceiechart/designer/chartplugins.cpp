@@ -21,17 +21,19 @@ struct Entry {
     const char *header;
     const char *icon;
     const char *toolTip;
-    QSize size;
+    QSize size; //!< of the widget
+    QSize imageSize; //!< of the picture in a new form; empty for a widget without this property
     QWidget *(*make)(QWidget *parent);
 };
+
+constexpr QSize pictureSize(400, 400);
 
 template <typename Chart>
 QWidget *makeChart(QWidget *parent)
 {
-    // A chart draws no picture before it has a size.
+    // A chart draws no picture before it has a size, and a form can be without one.
     auto *chart = new Chart(parent);
-    chart->setImageWidth(400);
-    chart->setImageHeight(400);
+    chart->setImageSize(pictureSize);
     return chart;
 }
 
@@ -41,22 +43,20 @@ QWidget *make(QWidget *parent)
     return new Widget(parent);
 }
 
-constexpr char chartIcon[] = ":/ceiechart/designer/chart.svg";
-
 const Entry entries[] = {
-    {"ceiechart::DiagramView", "diagramView", "QWidget", "ceiechart/diagram/diagramview.h",
-        ":/ceiechart/designer/diagram.svg", "Chromaticity diagram to look at and to edit a target on", QSize(480, 480),
-        make<DiagramView>},
-    {"NewCEIE::CEIEGraphicsView", "chart", "QFrame", "ceiechart/widgets/ceiegraphicsview.h", chartIcon,
-        "CIE 1931 x, y chart with gamuts and legend", QSize(402, 440), makeChart<NewCEIE::CEIEGraphicsView>},
-    {"NewCEIE::CEIELegend", "legend", "QFrame", "ceiechart/widgets/ceielegend.h", chartIcon, "Legend of a chart",
-        QSize(360, 32), make<NewCEIE::CEIELegend>},
-    {"ceiechart::LegacyXyChart", "xyChart", "QFrame", "ceiechart/legacy/legacycharts.h", chartIcon,
-        "Legacy CIE 1931 x, y chart, edited with the mouse", QSize(402, 440), makeChart<LegacyXyChart>},
-    {"ceiechart::LegacyUvChart", "uvChart", "QFrame", "ceiechart/legacy/legacycharts.h", chartIcon,
-        "Legacy CIE 1976 u', v' chart, edited with the mouse", QSize(402, 440), makeChart<LegacyUvChart>},
-    {"CEIELegend", "legacyLegend", "QFrame", "ceiechart/legacy/ceielegend.h", chartIcon, "Legend of a legacy chart",
-        QSize(360, 32), make<::CEIELegend>},
+    {"ceiechart::DiagramView", "diagramView", "QWidget", "ceiechart/diagram/diagramview.h", "diagram",
+        "Chromaticity diagram to look at and to edit a target on", QSize(480, 480), QSize(), make<DiagramView>},
+    {"NewCEIE::CEIEGraphicsView", "chart", "QFrame", "ceiechart/widgets/ceiegraphicsview.h", "chart",
+        "CIE 1931 x, y chart with gamuts and legend", QSize(402, 440), pictureSize,
+        makeChart<NewCEIE::CEIEGraphicsView>},
+    {"NewCEIE::CEIELegend", "legend", "QFrame", "ceiechart/widgets/ceielegend.h", "legend", "Legend of a chart",
+        QSize(360, 32), QSize(), make<NewCEIE::CEIELegend>},
+    {"ceiechart::LegacyXyChart", "xyChart", "QFrame", "ceiechart/legacy/legacycharts.h", "xychart",
+        "Legacy CIE 1931 x, y chart, edited with the mouse", QSize(402, 440), pictureSize, makeChart<LegacyXyChart>},
+    {"ceiechart::LegacyUvChart", "uvChart", "QFrame", "ceiechart/legacy/legacycharts.h", "uvchart",
+        "Legacy CIE 1976 u', v' chart, edited with the mouse", QSize(402, 440), pictureSize, makeChart<LegacyUvChart>},
+    {"CEIELegend", "legacyLegend", "QFrame", "ceiechart/legacy/ceielegend.h", "legend", "Legend of a legacy chart",
+        QSize(360, 32), QSize(), make<::CEIELegend>},
 };
 
 class ChartPlugin : public QDesignerCustomWidgetInterface {
@@ -71,7 +71,10 @@ public:
     QString toolTip() const override { return QString::fromLatin1(m_entry.toolTip); }
     QString whatsThis() const override { return toolTip(); }
     QString includeFile() const override { return QString::fromLatin1(m_entry.header); }
-    QIcon icon() const override { return QIcon(QString::fromLatin1(m_entry.icon)); }
+    QIcon icon() const override
+    {
+        return QIcon(QStringLiteral(":/ceiechart/designer/%1.png").arg(QLatin1String(m_entry.icon)));
+    }
     bool isContainer() const override { return false; }
     QWidget *createWidget(QWidget *parent) override { return m_entry.make(parent); }
     bool isInitialized() const override { return m_initialized; }
@@ -85,14 +88,21 @@ public:
 
     QString domXml() const override
     {
+        // With the size of the picture, without which the chart of the finished program would be blank.
+        const QString imageSize = m_entry.imageSize.isEmpty()
+            ? QString()
+            : QStringLiteral(
+                "<property name=\"imageSize\"><size><width>%1</width><height>%2</height></size></property>")
+                  .arg(m_entry.imageSize.width())
+                  .arg(m_entry.imageSize.height());
         return QStringLiteral("<ui language=\"c++\"><widget class=\"%1\" name=\"%2\"><property name=\"geometry\"><rect>"
-                              "<x>0</x><y>0</y><width>%3</width><height>%4</height></rect></property></widget>"
+                              "<x>0</x><y>0</y><width>%3</width><height>%4</height></rect></property>%7</widget>"
                               "<customwidgets><customwidget><class>%1</class><extends>%6</extends>"
                               "<header location=\"global\">%5</header></customwidget></customwidgets></ui>")
             .arg(name(), QString::fromLatin1(m_entry.objectName))
             .arg(m_entry.size.width())
             .arg(m_entry.size.height())
-            .arg(includeFile(), QString::fromLatin1(m_entry.base));
+            .arg(includeFile(), QString::fromLatin1(m_entry.base), imageSize);
     }
 
 private:

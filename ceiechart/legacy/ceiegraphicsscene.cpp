@@ -62,7 +62,11 @@ QPointF CEIEGraphicsScene::Private::toImage(const QPointF &chroma)
 
 QPointF CEIEGraphicsScene::Private::toChroma(const QPointF &position)
 {
-    const QPointF shown = renderer.CurCoordinateToChroma(position);
+    return fromDiagram(renderer.CurCoordinateToChroma(position));
+}
+
+QPointF CEIEGraphicsScene::Private::fromDiagram(const QPointF &shown)
+{
     if (type != DrawCEIPicture::UvDiagram) {
         return shown;
     }
@@ -93,9 +97,14 @@ bool CEIEGraphicsScene::SetEllipseDieplay(
 void CEIEGraphicsScene::drawBackground(QPainter *painter, const QRectF &)
 {
     d->drawPicture(painter);
-    DrawEllipseSignPosition(painter);
+    d->drawOver(painter);
+}
+
+void CEIEGraphicsScene::Private::drawOver(QPainter *painter)
+{
+    scene()->DrawEllipseSignPosition(painter);
     painter->save();
-    refreshArea(painter);
+    q->refreshArea(painter);
     painter->restore();
 }
 

@@ -24,6 +24,9 @@ public:
     QImage *renderPicture() override;
     void setGraphColor(const QColor &line, const QColor &ground) override { renderer.setGraphColor(line, ground); }
     void drawFurtherSigns(QPainter *painter) override;
+    QPointF fromDiagram(const QPointF &shown) override;
+    void drawOver(QPainter *painter) override;
+    ceiechart::DiagramRenderer &diagramRenderer() override { return renderer; }
 
     // Mouse editing, in mouseediting.cpp
     /*! \brief Whether the chromaticity at \a position lies inside the original gamut. */

@@ -4,6 +4,7 @@
 #include <ceiechart/diagram/chartstyle.h>
 #include <ceiechart/diagram/gamutstyle.h>
 #include <ceiechart/legacy/ceiegraphicsscene.h>
+#include <ceiechart/model/gamutrecords.h>
 #include <ceiechart/widgets/chartframe_p.h>
 
 #include <QBoxLayout>
@@ -14,14 +15,11 @@ namespace {
  * \brief The gamut as it is put into the list. Kind and opacity remain those of a new object, which hosts see in the
  * list.
  */
-template <class Record>
-ColorTriangleObject listedGamut(const Record &gamut, ceiechart::GamutKind kind)
+ColorTriangleObject listedGamut(const Model::ColorGamutInfo &gamut, ceiechart::GamutKind kind)
 {
     const ceiechart::GamutStyle style = ceiechart::legacyChartStyle(kind);
-    TrianglePoint triangle;
-    ceiechart::copyGamut(gamut, triangle);
     ColorTriangleObject object;
-    object.setTrianglePoint(triangle);
+    object.setTrianglePoint(ceiechart::gamutTriangle(gamut));
     object.setForeColor(style.color);
     object.setTrigleLineWidth(style.width);
     return object;
@@ -38,7 +36,25 @@ public:
 
     CEIEGraphicsScene *typedScene() const { return static_cast<CEIEGraphicsScene *>(scene.data()); }
 
+    void groundChanged() override
+    {
+        // A style sheet of the host is left alone.
+        if (scene && view->styleSheet() == innerStyleSheet) {
+            setInnerGround(*view, scene->isLightGround() ? scene->pictureGround() : darkGround());
+        }
+    }
+
+    /*! \brief Sets the colour that is seen where the inner view is larger than the picture. */
+    void setInnerGround(QGraphicsView &innerView, const QColor &color)
+    {
+        innerStyleSheet = QStringLiteral("background: ") + color.name();
+        innerView.setStyleSheet(innerStyleSheet);
+    }
+
+    static QColor darkGround() { return ceiechart::chartStyle(ceiechart::ChartKind::LegacyUv).ground; }
+
     DrawCEIPicture::CEIEType type;
+    QString innerStyleSheet;
 };
 
 CEIEGraphicsView::CEIEGraphicsView(QWidget *parent, DrawCEIPicture::CEIEType type)
@@ -75,7 +91,7 @@ void CEIEGraphicsView::setColorGamut(const Model::ColorGamutInfo &target, const 
 
 void CEIEGraphicsView::colorGamutToTriangle(const Model::ColorGamutInfo &gamut, TrianglePoint &triangle)
 {
-    ceiechart::copyGamut(gamut, triangle);
+    triangle = ceiechart::gamutTriangle(gamut);
 }
 
 void CEIEGraphicsView::setMeasureValuePoints(const QList<QPointF> &points)
@@ -115,8 +131,7 @@ NQCEIEGraphicsView *CEIEGraphicsView::view() const
 void CEIEGraphicsView::buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignment)
 {
     auto *innerView = new NQCEIEGraphicsView(this);
-    const ceiechart::ChartStyle &style = ceiechart::chartStyle(ceiechart::ChartKind::LegacyUv);
-    innerView->setStyleSheet(QStringLiteral("background: ") + style.ground.name());
+    own().setInnerGround(*innerView, Private::darkGround());
     d->setView(innerView);
     auto *scene = new CEIEGraphicsScene(own().type, d->triangles);
     d->setScene(scene);

@@ -34,6 +34,38 @@
  */
 class CEIECHART_EXPORT CEIEGraphicsView : public ceiechart::ChartFrame {
     Q_OBJECT
+    /*! \brief Width and height of the picture in pixels; see setImageSize(). */
+    Q_PROPERTY(QSize imageSize READ imageSize WRITE setImageSize)
+    /*! \brief The width of imageSize. */
+    Q_PROPERTY(int imageWidth READ imageWidth WRITE setImageWidth DESIGNABLE false STORED false)
+    /*! \brief The height of imageSize. */
+    Q_PROPERTY(int imageHeight READ imageHeight WRITE setImageHeight DESIGNABLE false STORED false)
+    /*! \brief Whether axes and grid are drawn. */
+    Q_PROPERTY(bool isDrawCoordinate READ isDrawCoordinate WRITE setIsDrawCoordinate)
+    /*! \brief A switch that is stored; see setIsDrawBBRLine(). */
+    Q_PROPERTY(bool isDrawBBRLine READ isDrawBBRLine WRITE setIsDrawBBRLine)
+    /*! \brief Whether a legacy x, y chart draws the wavelengths; see setIsDrawWaveLength(). */
+    Q_PROPERTY(bool isDrawWaveLength READ isDrawWaveLength WRITE setIsDrawWaveLength)
+    /*! \brief The colour of locus edge and axes. */
+    Q_PROPERTY(QColor graphLineColor READ graphLineColor WRITE setGraphLineColor)
+    /*! \brief The background colour of the picture. */
+    Q_PROPERTY(QColor graphPictureColor READ graphPictureColor WRITE setGraphPictureColor)
+    /*! \brief Whether the picture is drawn legibly on a light ground. */
+    Q_PROPERTY(bool lightPicture READ isLightPicture WRITE setLightPicture)
+    /*! \brief Whether the palette decides on the ground of the picture. */
+    Q_PROPERTY(bool paletteFollowed READ isPaletteFollowed WRITE setPaletteFollowed)
+    /*! \brief Whether the picture has the pixels of the screen. */
+    Q_PROPERTY(bool devicePixelRatioFollowed READ isDevicePixelRatioFollowed WRITE setDevicePixelRatioFollowed)
+    /*! \brief Where the legend is; see setLegendAlignament(). */
+    Q_PROPERTY(Qt::Alignment legendAlignament READ legendAlignament WRITE setLegendAlignament)
+    /*! \brief Whether drawing the handles resets the white point; see setDrawColorTPoint(). */
+    Q_PROPERTY(bool drawColorTPoint READ isDrawColorTPoint WRITE setDrawColorTPoint)
+    /*! \brief Whether moving a primary keeps the white point; see setColorTempertureChecked(). */
+    Q_PROPERTY(bool colorTempertureChecked READ isColorTempertureChecked WRITE setColorTempertureChecked)
+    /*! \brief Whether the primaries can be moved. */
+    Q_PROPERTY(bool RGBPointEnable READ isRGBPointEnable WRITE setRGBPointEnable)
+    /*! \brief Whether a mouse press can start an edit. */
+    Q_PROPERTY(bool useMouseOpertator READ isUseMouseOpertator WRITE setUseMouseOpertator)
 
 public:
     /*!

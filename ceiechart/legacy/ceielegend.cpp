@@ -3,6 +3,29 @@
 
 #include <ceiechart/widgets/legendentries_p.h>
 
+namespace {
+
+QString translatedCaption(ceiechart::LegendEntry entry)
+{
+    switch (entry) {
+    case ceiechart::LegendEntry::CommonGamut:
+        return CEIELegend::tr("公共色域");
+    case ceiechart::LegendEntry::TargetGamut:
+        return CEIELegend::tr("目标色域");
+    case ceiechart::LegendEntry::OriginalGamut:
+        return CEIELegend::tr("原始色域");
+    case ceiechart::LegendEntry::TargetPoint:
+        return CEIELegend::tr("目标点");
+    case ceiechart::LegendEntry::OriginalPoint:
+        return CEIELegend::tr("原始点");
+    case ceiechart::LegendEntry::ManagedPoint:
+        return CEIELegend::tr("管理后点");
+    }
+    return QString();
+}
+
+} // namespace
+
 CEIELegend::CEIELegend(QWidget *parent)
     : CEIELegend(false, Qt::AlignBottom, parent)
 {
@@ -26,6 +49,11 @@ void CEIELegend::setLegendVisible(legendType type, bool visible)
     d->setVisible(static_cast<ceiechart::LegendEntry>(type), visible);
 }
 
+bool CEIELegend::isLegendVisible(legendType type) const
+{
+    return d->isShown(static_cast<ceiechart::LegendEntry>(type));
+}
+
 void CEIELegend::initUI(QFlags<Qt::AlignmentFlag> alignment)
 {
     drawColorLegend(alignment);
@@ -37,10 +65,10 @@ void CEIELegend::initUI(QFlags<Qt::AlignmentFlag> alignment)
 
 void CEIELegend::drawColorLegend(QFlags<Qt::AlignmentFlag> alignment)
 {
-    d->addGamuts(tr("公共色域"), tr("目标色域"), tr("原始色域"), alignment);
+    d->addGamuts(&translatedCaption, alignment);
 }
 
 void CEIELegend::drawQCPoint(QFlags<Qt::AlignmentFlag> alignment)
 {
-    d->addPoints(tr("目标点"), tr("原始点"), tr("管理后点"), alignment);
+    d->addPoints(&translatedCaption, alignment);
 }

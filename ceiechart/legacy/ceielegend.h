@@ -18,6 +18,18 @@
  */
 class CEIECHART_EXPORT CEIELegend : public ceiechart::ChartLegend {
     Q_OBJECT
+    /*! \brief How the entries are arranged; see setLegendAlignament(). */
+    Q_PROPERTY(Qt::Alignment legendAlignament READ legendAlignament WRITE setLegendAlignament)
+    /*! \brief The caption of the original gamut. */
+    Q_PROPERTY(QString showOriginalText READ showOriginalText WRITE setShowOriginalText)
+    /*! \brief The caption of the target gamut. */
+    Q_PROPERTY(QString showTargetText READ showTargetText WRITE setShowTargetText)
+    /*! \brief The caption of the target point. */
+    Q_PROPERTY(QString targetPointText READ targetPointText WRITE setTargetPointText)
+    /*! \brief The caption of the original point. */
+    Q_PROPERTY(QString originalPointText READ originalPointText WRITE setOriginalPointText)
+    /*! \brief The caption of the managed point. */
+    Q_PROPERTY(QString managedPointText READ managedPointText WRITE setManagedPointText)
 
 public:
     /*! \brief An entry of the legend. */
@@ -44,6 +56,8 @@ public:
      * Values that are not a legendType, and points in a legend without point entries, are ignored.
      */
     void setLegendVisible(legendType type, bool visible);
+    /*! \brief Whether an entry is shown; false for values that are not a legendType and for missing points. */
+    bool isLegendVisible(legendType type) const;
 
 protected:
     /*! \copydoc NewCEIE::CEIELegend::initUI */

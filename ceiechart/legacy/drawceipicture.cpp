@@ -12,7 +12,7 @@
 
 namespace {
 
-ceiechart::ChartKind chartKind(DrawCEIPicture::CEIEType type)
+ceiechart::ChartKind kindOf(DrawCEIPicture::CEIEType type)
 {
     return type == DrawCEIPicture::UvDiagram ? ceiechart::ChartKind::LegacyUv : ceiechart::ChartKind::LegacyXy;
 }
@@ -22,11 +22,10 @@ ceiechart::ChartKind chartKind(DrawCEIPicture::CEIEType type)
 class Q_DECL_HIDDEN DrawCEIPicture::Private : public ceiechart::DiagramRenderer::Private {
 public:
     explicit Private(CEIEType diagramType)
-        : ceiechart::DiagramRenderer::Private(chartKind(diagramType))
+        : ceiechart::DiagramRenderer::Private(kindOf(diagramType))
         , type(diagramType)
         , xTitle(QString::fromUtf8(ceiechart::chartStyle(kind).xTitle))
         , yTitle(QString::fromUtf8(ceiechart::chartStyle(kind).yTitle))
-        , backgroundColor(ceiechart::chartStyle(kind).horseshoeGround)
     {
         if (type == UvDiagram) {
             xy2uv(atlas.spectrumLocus, uvLocus);
@@ -39,7 +38,6 @@ public:
     QString xTitle;
     QString yTitle;
     std::vector<QPointF> uvLocus;
-    QColor backgroundColor;
     QList<QPointF> measurePoints;
 };
 
@@ -72,16 +70,22 @@ QImage *DrawCEIPicture::drawCEIPicture(
     constexpr auto kind = ceiechart::ChartKind::LegacyXy;
     const ceiechart::ChartStyle &style = ceiechart::chartStyle(kind);
     d->beginDrawing(width, height, style.marginPercent);
-    auto picture = ceiechart::newPicture(width, height, style.ground);
+    const QColor ground = d->ground(style.ground);
+    auto picture = d->newPicture(ground);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
     }
 
     QPainter painter(picture.get());
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.fillRect(picture->rect(), style.ground);
+    painter.fillRect(picture->rect(), ground);
+    if (d->lightGround) {
+        d->drawHorseshoeWithin(*picture, d->locusPolygon(), ceiechart::ClipOutline::Hidden, ground);
+    }
     paintCEIEdge(painter);
-    painterPixColor(picture.get());
+    if (!d->lightGround) {
+        painterPixColor(picture.get());
+    }
     if (drawCoordinate) {
         painterCoordinate(style.gridStyle, ceiechart::chartNumberFont(kind, height), painter);
     }
@@ -101,21 +105,22 @@ QImage *DrawCEIPicture::drawCEIEPicture(int width, int height, bool drawCoordina
     constexpr auto kind = ceiechart::ChartKind::LegacyUv;
     const ceiechart::ChartStyle &style = ceiechart::chartStyle(kind);
     d->beginDrawing(width, height, style.marginPercent);
-    auto picture = ceiechart::newPicture(width, height, own().backgroundColor);
+    const QColor ground = d->ground(d->groundColor);
+    auto picture = d->newPicture(ground);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
     }
 
     QPainter painter(picture.get());
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.fillRect(picture->rect(), own().backgroundColor);
+    painter.fillRect(picture->rect(), ground);
 
     QPolygonF locus;
     locus.reserve(int(own().uvLocus.size()));
     for (const QPointF &point : own().uvLocus) {
         locus.append(CoordinateTransformation(point));
     }
-    d->drawHorseshoeWithin(*picture, locus, ceiechart::ClipOutline::Drawn, style.horseshoeGround);
+    d->drawHorseshoeWithin(*picture, locus, ceiechart::ClipOutline::Drawn, d->ground(style.horseshoeGround));
 
     if (drawCoordinate) {
         painterCoordinate(style.gridStyle, ceiechart::chartNumberFont(kind, height), painter);
@@ -127,7 +132,8 @@ QImage *DrawCEIPicture::drawCEIEPicture(int width, int height, bool drawCoordina
 
 QImage DrawCEIPicture::getColorImage()
 {
-    QImage colors(d->pictureWidth, d->pictureHeight, QImage::Format_ARGB32);
+    QImage colors(d->devicePixels(d->pictureWidth), d->devicePixels(d->pictureHeight), QImage::Format_ARGB32);
+    colors.setDevicePixelRatio(d->pixelRatio);
     colors.fill(ceiechart::chartStyle(d->kind).horseshoeGround);
     painterPixColor(&colors);
     return colors;
@@ -151,7 +157,7 @@ void DrawCEIPicture::setYTitle(const QString &title)
 void DrawCEIPicture::setGraphColor(QColor line, QColor background)
 {
     d->lineColor = line;
-    own().backgroundColor = background;
+    d->groundColor = background;
 }
 
 void DrawCEIPicture::painterPoints(QPainter &painter, QList<QPointF> points)

@@ -118,7 +118,7 @@ private:
 
 void DiagramRenderer::Private::drawAxes(QPainter &painter, const AxesStyle &style)
 {
-    AxesPainter axes(painter, style, lineColor);
+    AxesPainter axes(painter, style, drawnLineColor());
     const auto [xMin, xMax, yMin, yMax] = chartStyle(kind).range;
 
     for (int k = 0; k < (xMax - xMin) / chartTickStep; ++k) {

@@ -1,6 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/arithmetic_p.h>
+#include <ceiechart/diagram/contrast_p.h>
+#include <ceiechart/diagram/diagrampainter.h>
+#include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/render/diagramrenderer_p.h>
+#include <ceiechart/render/picture_p.h>
+
+#include <QPolygonF>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace ceiechart {
 
@@ -14,6 +24,47 @@ DiagramRenderer::DiagramRenderer(std::unique_ptr<Private> own, QWidget *parent)
 }
 
 DiagramRenderer::~DiagramRenderer() = default;
+
+ChartKind DiagramRenderer::chartKind() const
+{
+    return d->kind;
+}
+
+QColor DiagramRenderer::graphLineColor() const
+{
+    return d->lineColor;
+}
+
+QColor DiagramRenderer::graphPictureColor() const
+{
+    return d->groundColor;
+}
+
+QColor DiagramRenderer::pictureGround() const
+{
+    return d->ground(d->kind == ChartKind::LegacyXy ? chartStyle(d->kind).ground : d->groundColor);
+}
+
+void DiagramRenderer::setLightGround(bool light)
+{
+    d->lightGround = light;
+}
+
+bool DiagramRenderer::isLightGround() const
+{
+    return d->lightGround;
+}
+
+void DiagramRenderer::setPixelRatio(double ratio)
+{
+    constexpr double highest = 8.0;
+    d->pixelRatio = ratio > 1.0 ? std::min(ratio, highest) : 1.0;
+}
+
+double DiagramRenderer::pixelRatio() const
+{
+    return d->pixelRatio;
+}
 
 double DiagramRenderer::mulDiv(int a, int b, int c)
 {
@@ -56,6 +107,65 @@ void DiagramRenderer::Private::beginDrawing(int width, int height, int marginPer
     pictureHeight = height;
     geometry.setPicture(width, height, marginPercent, chartStyle(kind).range);
     locus = atlas.atlasCoordinates;
+}
+
+std::unique_ptr<QImage> DiagramRenderer::Private::newPicture(const QColor &ground) const
+{
+    auto picture = ceiechart::newPicture(devicePixels(pictureWidth), devicePixels(pictureHeight), ground);
+    if (pixelRatio != 1.0) {
+        // A part of a pixel at the right and bottom edges is beyond what the caller fills.
+        picture->fill(ground);
+        picture->setDevicePixelRatio(pixelRatio);
+    }
+    return picture;
+}
+
+int DiagramRenderer::Private::devicePixels(int extent) const
+{
+    constexpr double most = std::numeric_limits<int>::max();
+    return pixelRatio == 1.0 ? extent : int(std::clamp(std::round(extent * pixelRatio), 0.0, most));
+}
+
+HorseshoeFill DiagramRenderer::Private::horseshoeFill() const
+{
+    DiagramGeometry device = geometry;
+    if (pixelRatio != 1.0) {
+        const QRectF &plot = geometry.plot();
+        device.set(QRectF(plot.topLeft() * pixelRatio, plot.size() * pixelRatio), geometry.chroma());
+    }
+    return {device, atlas.colorSystem, gamma};
+}
+
+QColor DiagramRenderer::Private::ground(const QColor &stated) const
+{
+    if (!lightGround) {
+        return stated;
+    }
+    return groundColor.alpha() == 255 && isLight(groundColor) ? groundColor
+                                                              : diagramPalette(DiagramGround::Light).ground;
+}
+
+QColor DiagramRenderer::Private::drawn(const QColor &stated, double contrast) const
+{
+    return lightGround ? legibleOn(stated, ground(stated), contrast) : stated;
+}
+
+QColor DiagramRenderer::Private::drawnLineColor() const
+{
+    return drawn(lineColor, comfortableTextContrast);
+}
+
+QPolygonF DiagramRenderer::Private::locusPolygon()
+{
+    QPolygonF polygon;
+    for (const CEIAtlasValue::CEIAtlasCoordinate &row : qAsConst(locus)) {
+        makeCurrent(row);
+        const QPointF position = mapCurrent();
+        if (isFinite(position)) {
+            polygon.append(position);
+        }
+    }
+    return polygon;
 }
 
 void DiagramRenderer::Private::loadFirstLocusRow()

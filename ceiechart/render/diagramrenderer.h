@@ -4,7 +4,9 @@
 
 #include <ceiechart/atlas/ceiatlasvalue.h>
 #include <ceiechart/ceiechart_export.h>
+#include <ceiechart/diagram/chartstyle.h>
 
+#include <QColor>
 #include <QList>
 #include <QPointF>
 #include <QString>
@@ -36,6 +38,39 @@ public:
      * scales remain those of the previous picture, and only the corner of the plot has moved.
      */
     QPointF CoordinateTransformation(const QPointF &xy);
+
+    /*! \brief The kind of the pictures. */
+    ChartKind chartKind() const;
+
+    /*! \brief The colour of locus edge and axes that was set by setGraphColor(); white by default. */
+    QColor graphLineColor() const;
+    /*! \brief The background colour that was set by setGraphColor(), or its default. */
+    QColor graphPictureColor() const;
+    /*! \brief The colour that fills the next picture. It depends on setLightGround() and, with it off, on the diagram.
+     */
+    QColor pictureGround() const;
+
+    /*!
+     * \brief Sets whether the next pictures are drawn on a light ground, and legibly; false by default.
+     *
+     * The ground is graphPictureColor() if that is opaque and light, otherwise a near-white of the library's. Lines,
+     * numbers and outlines keep their hue and are darkened until their contrast ratio with the ground is at least 3, of
+     * text and axes 7 (WCAG 2.1). The horseshoe is coloured inside its outline only, also in pictures without gamuts.
+     */
+    void setLightGround(bool light);
+    /*! \brief The switch of setLightGround(). */
+    bool isLightGround() const;
+
+    /*!
+     * \brief Sets the device pixels for each pixel of the next pictures: 1 by default, at most 8.
+     *
+     * A picture then has as many times the width and height that are asked for, and \a ratio as its
+     * QImage::devicePixelRatio(): lines and text have the same size in it, and more detail. Positions and rectangles
+     * remain in pixels of the size that is asked for. Values below 1 and values that are not numbers count as 1.
+     */
+    void setPixelRatio(double ratio);
+    /*! \brief The ratio of setPixelRatio(). */
+    double pixelRatio() const;
 
 protected:
     class Private;

@@ -3,12 +3,14 @@
 #define CEIECHART_RENDER_DIAGRAMRENDERER_P_H
 
 #include <ceiechart/diagram/chartstyle.h>
+#include <ceiechart/diagram/horseshoefill_p.h>
 #include <ceiechart/render/diagramrenderer.h>
 
 #include <QColor>
 #include <QFont>
 #include <QLineF>
 
+class QImage;
 class QPolygonF;
 
 namespace ceiechart {
@@ -33,6 +35,7 @@ class Q_DECL_HIDDEN DiagramRenderer::Private {
 public:
     explicit Private(ChartKind chartKind)
         : kind(chartKind)
+        , groundColor(chartStyle(chartKind).horseshoeGround)
     {
     }
     virtual ~Private();
@@ -41,6 +44,24 @@ public:
      * \brief Begins a drawing: stores its size, computes its geometry and copies the rows of the locus from the atlas.
      */
     void beginDrawing(int width, int height, int marginPercent);
+    /*!
+     * \brief The picture of the drawing that has begun, in the pixels of the device. The caller must first fill it with
+     * \a ground, in pixels of the drawing.
+     */
+    std::unique_ptr<QImage> newPicture(const QColor &ground) const;
+    /*! \brief The number of pixels of the device for \a extent pixels of the drawing. */
+    int devicePixels(int extent) const;
+    /*! \brief What fills the horseshoe of the drawing, with the mapping of the pixels of the device. */
+    HorseshoeFill horseshoeFill() const;
+    /*! \brief The colour that fills the picture: \a stated, or a light one on a light ground. */
+    QColor ground(const QColor &stated) const;
+    /*! \brief The colour that is drawn for \a stated: on a light ground, one with the contrast ratio \a contrast. */
+    QColor drawn(const QColor &stated, double contrast) const;
+    /*! \brief The colour in which locus edge and axes are drawn. */
+    QColor drawnLineColor() const;
+    /*! \brief The locus with the line of purples, in pixels of the drawing. The chromaticity of a row is current then.
+     */
+    QPolygonF locusPolygon();
     /*! \brief Makes the first row of the locus current and maps it, as every drawing does once. */
     void loadFirstLocusRow();
     /*! \brief Makes the chromaticity of \a row the current one. The third coordinate is not changed. */
@@ -76,6 +97,9 @@ public:
     int pictureHeight = 0;
     double gamma = 1.0;
     QColor lineColor = chartLineColor();
+    QColor groundColor; //!< set by setGraphColor()
+    bool lightGround = false;
+    double pixelRatio = 1.0;
     QList<QPointF> colorTemperaturePoints;
     QList<CEIAtlasValue::CEIAtlasCoordinate> locus;
     QList<CEIAtlasValue::CEITemperatureCoordinate> planckianPoints;

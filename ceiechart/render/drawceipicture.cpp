@@ -24,22 +24,28 @@ QImage *DrawCEIPicture::drawCEIPicture(
 {
     d->colorTemperaturePoints = colourTemperaturePoints;
     d->beginDrawing(w, h, ceiechart::chartStyle(Private::chart).marginPercent);
-    auto picture = ceiechart::newPicture(w, h, own().pictureColor);
+    const QColor ground = pictureGround();
+    auto picture = d->newPicture(ground);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
     }
 
     QPainter painter(picture.get());
-    painter.fillRect(QRect(0, 0, w, h), own().pictureColor);
+    painter.fillRect(QRect(0, 0, w, h), ground);
     if (showCoordinate) {
         painterCoordinate(painter);
     }
+    if (d->lightGround) {
+        d->drawHorseshoeWithin(*picture, d->locusPolygon(), ceiechart::ClipOutline::Hidden, ground);
+    }
     paintCEIEdge(painter);
     d->loadFirstLocusRow();
-    painter.save();
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);
-    painterPixColor(picture.get());
-    painter.restore();
+    if (!d->lightGround) {
+        painter.save();
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);
+        painterPixColor(picture.get());
+        painter.restore();
+    }
     painter.end();
     return ceiechart::finished(std::move(picture));
 }
@@ -53,14 +59,15 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
     own().clipPolygon = clipPolygon;
     own().polygonFlag = polygonFlag;
     d->beginDrawing(w, h, ceiechart::chartStyle(Private::chart).marginPercent);
-    auto picture = ceiechart::newPicture(w, h, own().pictureColor);
+    const QColor ground = pictureGround();
+    auto picture = d->newPicture(ground);
     if (picture->isNull()) {
         return ceiechart::finished(std::move(picture));
     }
 
     QPainter painter(picture.get());
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.fillRect(QRect(0, 0, w, h), own().pictureColor);
+    painter.fillRect(QRect(0, 0, w, h), ground);
     if (showCoordinate) {
         painterCoordinate(painter);
     }
@@ -69,7 +76,8 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
         paintCEIEdge(painter);
         d->loadFirstLocusRow();
         painterStandard(painter, standards);
-        d->drawHorseshoeWithin(*picture, own().clipPolygon, ceiechart::ClipOutline::Hidden, own().backgroundColor);
+        d->drawHorseshoeWithin(
+            *picture, own().clipPolygon, ceiechart::ClipOutline::Hidden, d->ground(own().backgroundColor));
         painterTriangle(painter, triangles);
     }
     painterBBRLine(painter);
@@ -87,12 +95,17 @@ QPolygonF DrawCEIPicture::intersectPolygon() const
 void DrawCEIPicture::setGraphColor(QColor line, QColor picture)
 {
     d->lineColor = line;
-    own().pictureColor = picture;
+    d->groundColor = picture;
 }
 
 void DrawCEIPicture::setBackgroudColor(const QColor &color)
 {
     own().backgroundColor = color;
+}
+
+QColor DrawCEIPicture::backgroudColor() const
+{
+    return own().backgroundColor;
 }
 
 void DrawCEIPicture::setPointData(const QList<QRectF> &rectangles)

@@ -93,6 +93,8 @@ public:
      * If its red component is 0, the horseshoe is not coloured.
      */
     void setBackgroudColor(const QColor &color);
+    /*! \brief The background colour of the horseshoe that was set by setBackgroudColor(). */
+    QColor backgroudColor() const;
     /*!
      * \brief Sets the measurement points of the next pictures of the gamut form, in pixels of the picture.
      *

@@ -32,7 +32,6 @@ public:
     QPolygonF clipPolygon;
     bool polygonFlag = false;
     QColor backgroundColor = ceiechart::chartStyle(chart).horseshoeGround;
-    QColor pictureColor = ceiechart::chartStyle(chart).ground;
 };
 
 } // namespace NewCEIE

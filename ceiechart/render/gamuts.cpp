@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/arithmetic_p.h>
+#include <ceiechart/diagram/contrast_p.h>
 #include <ceiechart/diagram/pens_p.h>
 #include <ceiechart/model/gamutkind.h>
 #include <ceiechart/render/drawceipicture_p.h>
@@ -36,7 +37,7 @@ void DrawCEIPicture::painterStandard(QPainter &painter, const QList<ColorTriangl
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
     for (ColorTriangleObject standard : standards) {
-        const QColor color = standard.foreColor();
+        const QColor color = d->drawn(standard.foreColor(), ceiechart::leastLineContrast);
         painter.setPen(ceiechart::solidPen(color, standard.trigleLineWidth()));
         const QPolygonF polygon = own().trianglePolygon(standard);
         ceiechart::drawPolygonOutline(painter, polygon);
@@ -86,7 +87,7 @@ void DrawCEIPicture::Private::drawOutline(QPainter &painter, const ColorTriangle
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
     ColorTriangleObject copy(triangle);
-    painter.setPen(ceiechart::solidPen(copy.foreColor(), copy.trigleLineWidth()));
+    painter.setPen(ceiechart::solidPen(drawn(copy.foreColor(), ceiechart::leastLineContrast), copy.trigleLineWidth()));
     ceiechart::drawPolygonOutline(painter, trianglePolygon(copy));
     painter.restore();
 }

@@ -6,12 +6,13 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPolygonF>
+#include <QTransform>
 
 namespace ceiechart {
 
 void DiagramRenderer::painterPixColor(QImage *picture)
 {
-    fillHorseshoe(*picture, d->pictureWidth, d->pictureHeight, {d->geometry, d->atlas.colorSystem, d->gamma});
+    fillHorseshoe(*picture, d->devicePixels(d->pictureWidth), d->devicePixels(d->pictureHeight), d->horseshoeFill());
 }
 
 void DiagramRenderer::GetPointRGB(int px, int py, QImage *picture)
@@ -39,12 +40,14 @@ void DiagramRenderer::Private::drawHorseshoeWithin(
     QPainter painter(&straight);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);
     QPainterPath path;
-    path.addPolygon(clip);
+    const QPolygonF deviceClip = pixelRatio == 1.0 ? clip : QTransform::fromScale(pixelRatio, pixelRatio).map(clip);
+    path.addPolygon(deviceClip);
     painter.setClipPath(path, Qt::ReplaceClip);
     if (outline == ClipOutline::Drawn) {
         painter.drawPath(path);
     }
-    drawHorseshoe(painter, clip, pictureWidth, pictureHeight, {geometry, atlas.colorSystem, gamma}, background);
+    drawHorseshoe(
+        painter, deviceClip, devicePixels(pictureWidth), devicePixels(pictureHeight), horseshoeFill(), background);
 }
 
 void DiagramRenderer::Private::makeColorOfPixelCurrent(int px, int py)

@@ -30,7 +30,7 @@ void DiagramRenderer::paintCEIEdge(QPainter &painter)
     // The pending line now leads from the red end to the violet end: the line of purples.
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(solidPen(d->lineColor, edgeWidth));
+    painter.setPen(solidPen(d->drawnLineColor(), edgeWidth));
     painter.drawLine(d->pendingLine);
     painter.restore();
 }
@@ -42,7 +42,7 @@ QPointF DiagramRenderer::DrawPointFToLine(
     painter.setRenderHint(QPainter::Antialiasing, true);
     GetPointF(row);
     const QPointF point = CoordinateTransformation();
-    painter.setPen(solidPen(d->lineColor, edgeWidth));
+    painter.setPen(solidPen(d->drawnLineColor(), edgeWidth));
     painter.drawLine(previous, point);
     painter.restore();
     return point;

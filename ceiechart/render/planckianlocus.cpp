@@ -30,7 +30,7 @@ void DiagramRenderer::DrawColorTempreturePoint(QPainter &painter, QList<QPointF>
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setBrush(QBrush(d->lineColor));
+    painter.setBrush(QBrush(d->drawnLineColor()));
     const int diameter = truncated(mulDiv(size, 2, 100));
     const int half = diameter / 2;
     for (const QPointF &point : qAsConst(points)) {

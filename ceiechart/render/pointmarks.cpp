@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/contrast_p.h>
 #include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/render/drawceipicture_p.h>
 
@@ -25,7 +26,7 @@ void DrawCEIPicture::Private::drawMeasurePoints(QPainter &painter) const
     const QColor colors[] = {QColor(255, 0, 0), QColor(0, 255, 0), QColor(0, 0, 255), QColor(255, 255, 255)};
     for (int i = 0; i < measureRectangles.size(); ++i) {
         painter.save();
-        painter.setPen(QColor(255, 255, 255, 255));
+        painter.setPen(drawn(QColor(255, 255, 255, 255), ceiechart::leastLineContrast));
         painter.setBrush(QBrush(colorAt(colors, i)));
         if (ceiechart::isFinite(measureRectangles.at(i))) {
             painter.drawEllipse(measureRectangles.at(i));

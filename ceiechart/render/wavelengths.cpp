@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/arithmetic_p.h>
+#include <ceiechart/diagram/contrast_p.h>
 #include <ceiechart/render/diagramrenderer_p.h>
 
 #include <QFontMetrics>
@@ -62,7 +63,7 @@ void DiagramRenderer::painterWaveLength(QPainter &painter)
 {
     painter.save();
     QPen pen = painter.pen();
-    pen.setColor(Qt::white);
+    pen.setColor(d->drawn(Qt::white, comfortableTextContrast));
     painter.setPen(pen);
     painter.setFont(QFont(QStringLiteral("Arial"), 14));
     for (const CEIAtlasValue::CEIAtlasCoordinate &row : qAsConst(d->locus)) {
@@ -119,7 +120,7 @@ void DiagramRenderer::ShowAnnotation(QPainter &painter, int x1, int y1, int x2, 
     font.setPointSize(8);
     painter.setFont(font);
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(QColor(255, 255, 255, 255));
+    painter.setPen(d->drawn(Qt::white, comfortableTextContrast));
 
     double degrees = (std::atan2(y1 - y2, x2 - x1) / M_PI + 1) * 180;
     if (degrees >= 360) {

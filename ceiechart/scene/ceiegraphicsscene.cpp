@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/chartstyle.h>
 #include <ceiechart/model/gamutkind.h>
 #include <ceiechart/render/drawceipicture.h>
 #include <ceiechart/scene/ceiegraphicsscene.h>
@@ -8,6 +9,7 @@
 #include <QPolygonF>
 
 #include <algorithm>
+#include <optional>
 
 namespace NewCEIE {
 
@@ -33,15 +35,41 @@ public:
         return QPointF((position.x() - originX) / unitLength, (originY - position.y()) / unitLength);
     }
 
-    QPointF toImage(const QPointF &chroma) override { return renderer.CoordinateTransformation(chroma); }
+    QPointF toImage(const QPointF &chroma) override
+    {
+        return ahead ? ahead->toPixel(chroma) : renderer.CoordinateTransformation(chroma);
+    }
+
+    ceiechart::DiagramRenderer &diagramRenderer() override { return renderer; }
 
     QImage *renderPicture() override
     {
-        QImage *rendered = renderer.drawCEIPicture(
-            imageWidth, imageHeight, drawCoordinate, drawCoordinate, drawWavelengths, QList<QPointF>());
+        QImage *rendered = nullptr;
+        if (gamutsKept && gamuts) {
+            rendered = renderGamutsAgain();
+        } else {
+            gamutsShown = false;
+            rendered = renderer.drawCEIPicture(
+                imageWidth, imageHeight, drawCoordinate, drawCoordinate, drawWavelengths, QList<QPointF>());
+        }
         q->setSceneRect(0, 0, ceiechart::defaultPictureSize.width(), ceiechart::defaultPictureSize.height());
         return rendered;
     }
+
+    QImage *renderShown() override { return gamutsShown ? renderGamutsAgain() : renderPicture(); }
+
+    void gamutsReplaced() override
+    {
+        if (gamuts) {
+            gamuts->triangles = triangles;
+        }
+    }
+
+    /*! \brief Renders \a gamuts with positions by the mapping of the last picture. There must be gamuts. */
+    QImage *renderGamuts();
+    /*! \brief Renders \a gamuts and the CMY points in the stored size, which the last picture need not have. */
+    QImage *renderGamutsAgain();
+    void passCmyPoints();
 
     void setGraphColor(const QColor &line, const QColor &ground) override { renderer.setGraphColor(line, ground); }
 
@@ -50,8 +78,22 @@ public:
         return QPolygonF({toImage(triangle.redPos()), toImage(triangle.greenPos()), toImage(triangle.bluePos())});
     }
 
+    /*! \brief What the last picture of gamuts was rendered from. */
+    struct Gamuts {
+        QList<ColorTriangleObject> triangles;
+        TrianglePoint first;
+        TrianglePoint other;
+        bool flag;
+        QString text;
+    };
+
     DrawCEIPicture renderer{nullptr};
     QList<ColorTriangleObject> standards;
+    std::optional<Gamuts> gamuts;
+    bool gamutsShown = false; //!< whether the picture that is shown is one of gamuts
+    bool gamutsKept = false;
+    QList<QPointF> cmyPoints;
+    std::optional<ceiechart::DiagramGeometry> ahead; //!< the mapping of a picture that is about to be rendered
     QList<QRectF> vertexRectangles;
 };
 
@@ -75,34 +117,71 @@ void CEIEGraphicsScene::setLsColorTriangleObject(const QList<ColorTriangleObject
     Private &scene = own();
     scene.standards = second;
     setLsColorTriangleObject(triangles);
+    scene.gamuts = Private::Gamuts{triangles, first, other, flag, text};
+    scene.picture.reset(scene.renderGamuts());
+}
 
+QImage *CEIEGraphicsScene::Private::renderGamuts()
+{
     QPolygonF common;
-    if (!first.isEmpty() && !other.isEmpty()) {
+    if (!gamuts->first.isEmpty() && !gamuts->other.isEmpty()) {
         // Positions are whole pixels within the range of int, which the clipper can take.
-        common = scene.imagePolygon(first).intersected(scene.imagePolygon(other));
+        common = imagePolygon(gamuts->first).intersected(imagePolygon(gamuts->other));
     }
 
-    scene.vertexRectangles.clear();
-    const auto target = std::find_if(triangles.cbegin(), triangles.cend(),
+    vertexRectangles.clear();
+    const QList<ColorTriangleObject> &shown = gamuts->triangles;
+    const auto target = std::find_if(shown.cbegin(), shown.cend(),
         [](const ColorTriangleObject &triangle) { return triangle.type() == ceiechart::TargetGamut; });
-    if (target != triangles.cend() && !target->trianglePoint().isEmpty()) {
+    if (target != shown.cend() && !target->trianglePoint().isEmpty()) {
         const TrianglePoint &points = target->trianglePoint();
         for (const QPointF &position : {points.redPos(), points.greenPos(), points.bluePos(), points.whitePos()}) {
-            scene.vertexRectangles.append(markAround(scene.toImage(position)));
+            vertexRectangles.append(markAround(toImage(position)));
         }
     }
-    scene.renderer.setPointData(scene.vertexRectangles);
-    scene.picture.reset(scene.renderer.drawCEIPicture(
-        imageWidth(), imageHeight(), isDrawCoordinate(), triangles, second, common, flag, text));
+    renderer.setPointData(vertexRectangles);
+    gamutsShown = true;
+    return renderer.drawCEIPicture(
+        imageWidth, imageHeight, drawCoordinate, shown, standards, common, gamuts->flag, gamuts->text);
+}
+
+QImage *CEIEGraphicsScene::Private::renderGamutsAgain()
+{
+    ahead = ceiechart::chartGeometry(renderer.chartKind(), imageWidth, imageHeight);
+    passCmyPoints();
+    QImage *rendered = renderGamuts();
+    ahead.reset();
+    return rendered;
+}
+
+void CEIEGraphicsScene::Private::passCmyPoints()
+{
+    QList<QRectF> marks;
+    for (const QPointF &point : qAsConst(cmyPoints)) {
+        marks.append(markAround(toImage(point)));
+    }
+    renderer.setCMYPointData(marks);
 }
 
 void CEIEGraphicsScene::setCMYPointData(const QList<QPointF> &points)
 {
-    QList<QRectF> marks;
-    for (const QPointF &point : points) {
-        marks.append(markAround(d->toImage(point)));
-    }
-    own().renderer.setCMYPointData(marks);
+    own().cmyPoints = points;
+    own().passCmyPoints();
+}
+
+void CEIEGraphicsScene::setGamutsKept(bool kept)
+{
+    own().gamutsKept = kept;
+}
+
+bool CEIEGraphicsScene::isGamutsKept() const
+{
+    return own().gamutsKept;
+}
+
+QColor CEIEGraphicsScene::backgroudColor() const
+{
+    return own().renderer.backgroudColor();
 }
 
 void CEIEGraphicsScene::setBackgroudColor(const QColor &color)

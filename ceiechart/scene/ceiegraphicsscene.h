@@ -61,6 +61,19 @@ public:
     void setCMYPointData(const QList<QPointF> &points);
     /*! \brief Sets the background colour of the horseshoe in the next picture of gamuts. */
     void setBackgroudColor(const QColor &color);
+    /*! \brief The background colour of the horseshoe that was set by setBackgroudColor(). */
+    QColor backgroudColor() const;
+    /*!
+     * \brief Sets whether what renders the bare diagram renders the last gamuts and CMY points instead; false by
+     * default.
+     *
+     * That is getBitMap() and with it a new size, a layer switch and new colour-temperature points. With gamuts that
+     * were set before, the next rendering shows them. The picture is the one that setLsColorTriangleObject() gives at
+     * this size.
+     */
+    void setGamutsKept(bool kept);
+    /*! \brief The switch of setGamutsKept(). */
+    bool isGamutsKept() const;
     /*! \brief Does nothing; kept for hosts that call it. */
     void setTargetItemVisable(bool visible);
     /*! \brief Converts \a p from CIE 1931 x, y to scene coordinates. */

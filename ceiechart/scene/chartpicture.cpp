@@ -50,9 +50,19 @@ void ChartPicture::reset(QImage *picture)
 {
     const std::unique_ptr<QImage> owned(picture);
     m_image = owned ? std::move(*owned) : QImage();
+    // Everything below counts in the picture's own pixels.
+    m_pixelRatio = m_image.devicePixelRatio();
+    m_image.setDevicePixelRatio(1.0);
     m_opaque = m_image.format() == QImage::Format_ARGB32 && isOpaque(m_image);
     m_scaled = QImage();
     m_set = owned != nullptr;
+}
+
+QImage ChartPicture::image() const
+{
+    QImage image = m_image;
+    image.setDevicePixelRatio(m_pixelRatio);
+    return image;
 }
 
 QImage ChartPicture::readyFor(const QPainter &painter) const

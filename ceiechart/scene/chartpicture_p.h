@@ -3,6 +3,7 @@
 #define CEIECHART_SCENE_CHARTPICTURE_P_H
 
 #include <QImage>
+#include <QSize>
 
 class QPainter;
 
@@ -23,8 +24,12 @@ public:
     bool isSet() const { return m_set; }
     /*! \brief Whether there is no picture or the picture is a null image. */
     bool isNull() const { return m_image.isNull(); }
-    /*! \brief The size of the picture in pixels. */
+    /*! \brief The size of the picture in its own pixels, of the device that it was rendered for. */
     QSize size() const { return m_image.size(); }
+    /*! \brief The size of the picture in pixels of the scene: what was asked for when it was rendered. */
+    QSize sceneSize() const { return (QSizeF(m_image.size()) / m_pixelRatio).toSize(); }
+    /*! \brief The picture with its ratio of pixels; a null image if there is none. */
+    QImage image() const;
 
     /*! \brief Draws the whole picture, smoothly scaled to \a target. */
     void draw(QPainter *painter, const QRectF &target);
@@ -39,6 +44,7 @@ private:
     QImage m_scaled;
     bool m_set = false;
     bool m_opaque = false;
+    double m_pixelRatio = 1.0;
 };
 
 } // namespace ceiechart

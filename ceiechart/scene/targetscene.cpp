@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/atlas/chromasets.h>
 #include <ceiechart/diagram/arithmetic_p.h>
-#include <ceiechart/scene/backgroundplacement_p.h>
 #include <ceiechart/scene/containment_p.h>
 #include <ceiechart/scene/targetscene_p.h>
 
-#include <QGraphicsView>
 #include <QPainter>
 
 namespace ceiechart {
@@ -60,6 +58,7 @@ void TargetScene::setLsColorTriangleObject(const QList<ColorTriangleObject> &tri
     d->triangles = triangles;
     d->centreHandleDrawn = false;
     d->centreHandleChroma = QPointF();
+    d->gamutsReplaced();
     update();
     if (d->triangles.isEmpty()) {
         return;
@@ -168,15 +167,14 @@ void TargetScene::getBitMap()
     d->picture.reset();
     d->imageWidth = zoomed(d->imageWidth, d->zoom);
     d->imageHeight = zoomed(d->imageHeight, d->zoom);
-    d->picture.reset(d->renderPicture());
-    CoordinateTransformation();
-    update();
+    d->showPicture(d->renderPicture());
 }
 
 void TargetScene::CoordinateTransformation()
 {
     if (d->picture.isSet()) {
-        const AxesPlacement axes = axesPlacement(d->picture.size().width(), d->picture.size().height());
+        const QSize size = d->picture.sceneSize();
+        const AxesPlacement axes = axesPlacement(size.width(), size.height());
         d->originX = axes.originX;
         d->originY = axes.originY;
         d->unitLength = axes.unitLength;
@@ -185,9 +183,7 @@ void TargetScene::CoordinateTransformation()
 
 void TargetScene::Private::drawPicture(QPainter *painter)
 {
-    const QList<QGraphicsView *> views = q->views();
-    const QRectF scene = q->sceneRect();
-    backgroundTarget = backgroundPlacement(scene, views.isEmpty() ? scene.size().toSize() : views.constFirst()->size());
+    backgroundTarget = q->pictureRect();
     if (!picture.isNull() && !backgroundTarget.isEmpty()) {
         picture.draw(painter, backgroundTarget);
     }
@@ -219,9 +215,19 @@ void TargetScene::setColorTempertureChecked(bool checked)
     d->whiteHeld = checked;
 }
 
+bool TargetScene::isColorTempertureChecked() const
+{
+    return d->whiteHeld;
+}
+
 void TargetScene::setRGBPointEnable(bool enable)
 {
     d->editMode = enable ? Private::EverythingEditable : Private::VerticesLocked;
+}
+
+bool TargetScene::isRGBPointEnable() const
+{
+    return d->editMode == Private::EverythingEditable;
 }
 
 void TargetScene::setFunctionKeyMode(int mode)

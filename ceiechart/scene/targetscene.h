@@ -8,11 +8,14 @@
 
 #include <QColor>
 #include <QGraphicsScene>
+#include <QImage>
 #include <QList>
 #include <QPointF>
+#include <QRectF>
 #include <QSize>
 
 #include <memory>
+#include <optional>
 
 class QPainter;
 
@@ -113,6 +116,68 @@ public:
     /*! @} */
 
     /*!
+     * \name Picture, further operations
+     * What they set is kept. Until one of them is called, pictures are as described above.
+     * @{
+     */
+    /*!
+     * \brief Sets width and height like setImageWidth() and setImageHeight(), in one rendering.
+     *
+     * All sizes are accepted, also invalid ones; with a width or height below 1 the picture is empty.
+     */
+    void setImageSize(const QSize &size);
+    /*! \brief The colour of locus edge and axes that was set by setGraphColor(); white by default. */
+    QColor graphLineColor() const;
+    /*! \brief The background colour that was set by setGraphColor(), or its default. */
+    QColor graphPictureColor() const;
+    /*! \brief The colour that fills the next picture. */
+    QColor pictureGround() const;
+    /*!
+     * \brief Sets whether pictures are drawn legibly on a light ground; see
+     * ceiechart::DiagramRenderer::setLightGround().
+     *
+     * What is shown is rendered again, gamuts included. False by default.
+     */
+    void setLightGround(bool light);
+    /*! \brief The switch of setLightGround(). */
+    bool isLightGround() const;
+    /*!
+     * \brief Sets the pixels of the picture for each pixel of the scene; see
+     * ceiechart::DiagramRenderer::setPixelRatio().
+     *
+     * What is shown is rendered again, gamuts included. 1 by default.
+     */
+    void setPixelRatio(double ratio);
+    /*! \brief The ratio of setPixelRatio(). */
+    double pixelRatio() const;
+    /*! \brief Renders again what is shown, with gamuts if there are any, in the stored size. Ignored before the first
+     * picture. */
+    void renderAgain();
+
+    /*!
+     * \brief What the scene shows, in the size of the picture: the picture, in a legacy scene with the handles and the
+     * measurement points over it.
+     *
+     * Emits nothing and changes nothing. A null image before the first picture.
+     */
+    QImage toImage();
+    /*! \brief The size for which the picture was rendered, in pixels; empty before the first picture. */
+    QSize pictureSize() const;
+    /*! \brief The rectangle, in scene coordinates, into which the first view's picture is painted; empty without one.
+     */
+    QRectF pictureRect() const;
+    /*!
+     * \brief The position of \a xy (CIE 1931 x, y) in the picture, in pixels of the size that was set, as lines and
+     * gamuts are drawn there, but not truncated to whole pixels. The position can be outside the picture.
+     *
+     * Nothing if there is no picture, if it is less than 2 pixels wide or high, or for what has no position in it.
+     */
+    std::optional<QPointF> picturePosition(const QPointF &xy) const;
+    /*! \brief The chromaticity (CIE 1931 x, y) at \a position in the picture: the inverse of picturePosition(). */
+    std::optional<QPointF> chromaticityInPicture(const QPointF &position) const;
+    /*! @} */
+
+    /*!
      * \name Editing
      * @{
      */
@@ -138,12 +203,16 @@ public:
      * setDrawColorTPoint() must be false: otherwise drawing the handles resets the white point.
      */
     void setColorTempertureChecked(bool checked);
+    /*! \brief The switch of setColorTempertureChecked(). */
+    bool isColorTempertureChecked() const;
     /*!
      * \brief Sets whether the primaries of the target can be moved.
      *
      * True allows moves of the primaries and of the white point. False allows moves of the white point only.
      */
     void setRGBPointEnable(bool enable);
+    /*! \brief The switch of setRGBPointEnable(); true by default. */
+    bool isRGBPointEnable() const;
     /*!
      * \brief Sets the FunctionKeyMode that applyFunctionKey() applies; NoFunction by default.
      *

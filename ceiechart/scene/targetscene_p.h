@@ -2,8 +2,10 @@
 #ifndef CEIECHART_SCENE_TARGETSCENE_P_H
 #define CEIECHART_SCENE_TARGETSCENE_P_H
 
+#include <ceiechart/diagram/chartstyle.h>
 #include <ceiechart/model/targetinfochangedeventargs.h>
 #include <ceiechart/model/triangleobjeciinitializedeventargs.h>
+#include <ceiechart/render/diagramrenderer.h>
 #include <ceiechart/scene/chartpicture_p.h>
 #include <ceiechart/scene/handle_p.h>
 #include <ceiechart/scene/keystepper_p.h>
@@ -40,8 +42,18 @@ public:
     virtual QPointF toImage(const QPointF &chroma) = 0;
     /*! \brief Renders a new picture of the stored size and sets the scene rectangle. The caller owns the picture. */
     virtual QImage *renderPicture() = 0;
+    /*! \brief Renders a new picture of what is shown, which can be more than the bare diagram. */
+    virtual QImage *renderShown() { return renderPicture(); }
     /*! \brief See TargetScene::setGraphColor(). */
     virtual void setGraphColor(const QColor &line, const QColor &picture) = 0;
+    /*! \brief The renderer of the pictures. */
+    virtual DiagramRenderer &diagramRenderer() = 0;
+    /*! \brief The chromaticity for coordinates of the diagram: the inverse of toDiagram(). */
+    virtual QPointF fromDiagram(const QPointF &shown) { return shown; }
+    /*! \brief Told when a host has replaced the gamuts. */
+    virtual void gamutsReplaced() { }
+    /*! \brief Draws over the picture what drawBackground() draws there. */
+    virtual void drawOver(QPainter *) { }
     /*! \brief Draws the signs that refreshArea() draws in addition to the handles of the primaries. */
     virtual void drawFurtherSigns(QPainter *) { }
 
@@ -74,6 +86,12 @@ public:
     TrianglePoint &targetPoints() { return triangles[1].trianglePoint(); }
     /*! \brief The chromaticity of a primary or of the white point of the target; (0, 0) for Handle::None. */
     QPointF targetPosition(Handle handle);
+
+    // Pictures, in scenepictures.cpp
+    /*! \brief Shows \a rendered, of which it takes ownership. */
+    void showPicture(QImage *rendered);
+    /*! \brief The mapping of the picture that is shown; nothing if there is none with an extent. */
+    std::optional<DiagramGeometry> pictureGeometry();
 
     // Hit tests, in hittests.cpp
     /*! \brief The side of the square around a handle in which it can be selected, in scene pixels. */

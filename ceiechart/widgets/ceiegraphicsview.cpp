@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/widgets/ceiegraphicsview_p.h>
 
+#include <ceiechart/diagram/contrast_p.h>
 #include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/gamutstyle.h>
+#include <ceiechart/model/gamutrecords.h>
 
 #include <QLabel>
 
@@ -18,13 +20,6 @@ QPolygonF vertices(const TrianglePoint &triangle)
 int centred(int outer, int inner)
 {
     return static_cast<int>((static_cast<qint64>(outer) - inner) / 2);
-}
-
-TrianglePoint triangleOf(const Model::ColorGamut &gamut)
-{
-    TrianglePoint triangle;
-    ceiechart::copyGamut(gamut.getTargets(), triangle);
-    return triangle;
 }
 
 ColorTriangleObject drawnGamut(
@@ -53,7 +48,8 @@ void CEIEGraphicsView::Private::beginGamuts(const QList<Model::ColorGamut> &stan
     }
     for (const Model::ColorGamut &standard : standards) {
         if (const auto style = ceiechart::currentChartStandardStyle(standard.colorGamutName())) {
-            standardTriangles.append(drawnGamut(triangleOf(standard), ceiechart::StandardGamut, *style));
+            standardTriangles.append(
+                drawnGamut(ceiechart::gamutTriangle(standard.getTargets()), ceiechart::StandardGamut, *style));
         }
     }
 }
@@ -70,6 +66,20 @@ void CEIEGraphicsView::Private::addTarget(
         addGamut(triangle, ceiechart::TargetGamut, besideMeasured);
         triangles.last().setShow(!target.colorGamutName().empty());
     }
+}
+
+void CEIEGraphicsView::Private::colorMessage()
+{
+    if (!scene) {
+        return;
+    }
+    // The palette's own text colour is made for the ground of windows. The picture can be translucent.
+    const QWidget *below = view->viewport();
+    const QColor ground
+        = ceiechart::composited(scene->pictureGround(), below->palette().color(below->backgroundRole()));
+    QPalette palette = mixInfoLabel->palette();
+    palette.setColor(QPalette::WindowText, ceiechart::textColorOn(ground));
+    mixInfoLabel->setPalette(palette);
 }
 
 CEIEGraphicsView::CEIEGraphicsView(QWidget *parent)
@@ -101,14 +111,14 @@ void CEIEGraphicsView::setColorGamut(const Model::ColorGamut &target, const Mode
     const Model::ColorGamut &measured, const QList<Model::ColorGamut> &standards)
 {
     Private &chart = own();
-    const TrianglePoint targetTriangle = triangleOf(target);
-    const TrianglePoint originalTriangle = triangleOf(original);
+    const TrianglePoint targetTriangle = ceiechart::gamutTriangle(target.getTargets());
+    const TrianglePoint originalTriangle = ceiechart::gamutTriangle(original.getTargets());
     chart.beginGamuts(standards);
     if (chart.showOriginal) {
         chart.addGamut(originalTriangle, ceiechart::OriginalGamut, true);
     }
     if (chart.showMeasure) {
-        chart.addGamut(triangleOf(measured), ceiechart::MeasuredGamut, true);
+        chart.addGamut(ceiechart::gamutTriangle(measured.getTargets()), ceiechart::MeasuredGamut, true);
     }
     chart.addTarget(target, targetTriangle, true);
     if (chart.showActual) {
@@ -122,8 +132,8 @@ void CEIEGraphicsView::setColorGamut(
     const Model::ColorGamut &target, const Model::ColorGamut &original, const QList<Model::ColorGamut> &standards)
 {
     Private &chart = own();
-    const TrianglePoint targetTriangle = triangleOf(target);
-    const TrianglePoint originalTriangle = triangleOf(original);
+    const TrianglePoint targetTriangle = ceiechart::gamutTriangle(target.getTargets());
+    const TrianglePoint originalTriangle = ceiechart::gamutTriangle(original.getTargets());
     chart.beginGamuts(standards);
     if (chart.showOriginal) {
         chart.addGamut(originalTriangle, ceiechart::OriginalGamut, false);
@@ -138,7 +148,7 @@ void CEIEGraphicsView::setColorGamut(
 
 void CEIEGraphicsView::colorGamutToTriangle(const Model::ColorGamut &gamut, TrianglePoint &triangle)
 {
-    ceiechart::copyGamut(gamut.getTargets(), triangle);
+    triangle = ceiechart::gamutTriangle(gamut.getTargets());
 }
 
 void CEIEGraphicsView::updateLanGamut(bool flag, const QString &text)
@@ -172,6 +182,25 @@ void CEIEGraphicsView::setGraphColor(QColor first, QColor second)
     d->view->setStyleSheet(QStringLiteral("background-color: white;"));
 }
 
+QColor CEIEGraphicsView::backgroudColor() const
+{
+    const CEIEGraphicsScene *scene = own().typedScene();
+    return scene ? scene->backgroudColor() : QColor();
+}
+
+void CEIEGraphicsView::setGamutsKept(bool kept)
+{
+    if (CEIEGraphicsScene *scene = own().typedScene()) {
+        scene->setGamutsKept(kept);
+    }
+}
+
+bool CEIEGraphicsView::isGamutsKept() const
+{
+    const CEIEGraphicsScene *scene = own().typedScene();
+    return scene && scene->isGamutsKept();
+}
+
 void CEIEGraphicsView::setIsShowStandard(bool show)
 {
     own().showStandard = show;
@@ -195,6 +224,31 @@ void CEIEGraphicsView::setIsShowActual(bool show)
 void CEIEGraphicsView::setIsShowMeasure(bool show)
 {
     own().showMeasure = show;
+}
+
+bool CEIEGraphicsView::isShowStandard() const
+{
+    return own().showStandard;
+}
+
+bool CEIEGraphicsView::isShowTarget() const
+{
+    return own().showTarget;
+}
+
+bool CEIEGraphicsView::isShowOriginal() const
+{
+    return own().showOriginal;
+}
+
+bool CEIEGraphicsView::isShowActual() const
+{
+    return own().showActual;
+}
+
+bool CEIEGraphicsView::isShowMeasure() const
+{
+    return own().showMeasure;
 }
 
 void CEIEGraphicsView::setLegendAlignament(QFlags<Qt::AlignmentFlag> alignment)
@@ -250,6 +304,7 @@ void CEIEGraphicsView::updateMixInfo(const QString &text)
     QLabel *label = own().mixInfoLabel;
     label->setVisible(!text.isEmpty());
     label->setText(text);
+    own().colorMessage();
     label->move(centred(imageWidth(), label->width()), centred(imageHeight(), label->height()));
 }
 

@@ -32,7 +32,7 @@ namespace NewCEIE {
  * \endcode
  *
  * A new size or layer switch renders the bare diagram; the next updateLanGamut(), setColorGamut() or resize draws the
- * gamuts again. Therefore set the size first and the gamuts last.
+ * gamuts again. Therefore set the size first and the gamuts last, or call setGamutsKept().
  *
  * The inner view, the legend and a label for messages are children of the chart. The scene has no parent; the chart
  * deletes it. Chromaticities are CIE 1931 x, y (unitless), luminances have the host's unit. Invalid input is ignored,
@@ -40,6 +40,52 @@ namespace NewCEIE {
  */
 class CEIECHART_EXPORT CEIEGraphicsView : public ceiechart::ChartFrame {
     Q_OBJECT
+    /*! \brief Width and height of the picture in pixels; see setImageSize(). */
+    Q_PROPERTY(QSize imageSize READ imageSize WRITE setImageSize)
+    /*! \brief The width of imageSize. */
+    Q_PROPERTY(int imageWidth READ imageWidth WRITE setImageWidth DESIGNABLE false STORED false)
+    /*! \brief The height of imageSize. */
+    Q_PROPERTY(int imageHeight READ imageHeight WRITE setImageHeight DESIGNABLE false STORED false)
+    /*! \brief Whether axes and grid are drawn. */
+    Q_PROPERTY(bool isDrawCoordinate READ isDrawCoordinate WRITE setIsDrawCoordinate)
+    /*! \brief A switch that is stored; see setIsDrawBBRLine(). */
+    Q_PROPERTY(bool isDrawBBRLine READ isDrawBBRLine WRITE setIsDrawBBRLine)
+    /*! \brief Whether a legacy x, y chart draws the wavelengths; see setIsDrawWaveLength(). */
+    Q_PROPERTY(bool isDrawWaveLength READ isDrawWaveLength WRITE setIsDrawWaveLength)
+    /*! \brief Whether the next setColorGamut() includes the standards. */
+    Q_PROPERTY(bool isShowStandard READ isShowStandard WRITE setIsShowStandard)
+    /*! \brief Whether the next setColorGamut() includes the target gamut. */
+    Q_PROPERTY(bool isShowTarget READ isShowTarget WRITE setIsShowTarget)
+    /*! \brief Whether the next setColorGamut() includes the original gamut. */
+    Q_PROPERTY(bool isShowOriginal READ isShowOriginal WRITE setIsShowOriginal)
+    /*! \brief Whether the next setColorGamut() includes the common area. */
+    Q_PROPERTY(bool isShowActual READ isShowActual WRITE setIsShowActual)
+    /*! \brief Whether the next setColorGamut() includes the measured gamut. */
+    Q_PROPERTY(bool isShowMeasure READ isShowMeasure WRITE setIsShowMeasure)
+    /*! \brief Whether the gamuts are kept over a change of size. */
+    Q_PROPERTY(bool gamutsKept READ isGamutsKept WRITE setGamutsKept)
+    /*! \brief The colour of locus edge and axes. */
+    Q_PROPERTY(QColor graphLineColor READ graphLineColor WRITE setGraphLineColor)
+    /*! \brief The background colour of the picture. */
+    Q_PROPERTY(QColor graphPictureColor READ graphPictureColor WRITE setGraphPictureColor)
+    /*! \brief The background colour of the horseshoe in the next picture of gamuts. */
+    Q_PROPERTY(QColor backgroudColor READ backgroudColor WRITE setBackgroudColor)
+    /*! \brief Whether the picture is drawn legibly on a light ground. */
+    Q_PROPERTY(bool lightPicture READ isLightPicture WRITE setLightPicture)
+    /*! \brief Whether the palette decides on the ground of the picture. */
+    Q_PROPERTY(bool paletteFollowed READ isPaletteFollowed WRITE setPaletteFollowed)
+    /*! \brief Whether the picture has the pixels of the screen. */
+    Q_PROPERTY(bool devicePixelRatioFollowed READ isDevicePixelRatioFollowed WRITE setDevicePixelRatioFollowed)
+    /*! \brief Where the legend is; see setLegendAlignament(). */
+    Q_PROPERTY(Qt::Alignment legendAlignament READ legendAlignament WRITE setLegendAlignament)
+    /*! \brief Whether drawing the handles resets the white point; see setDrawColorTPoint(). */
+    Q_PROPERTY(bool drawColorTPoint READ isDrawColorTPoint WRITE setDrawColorTPoint)
+    /*! \brief Whether moving a primary keeps the white point; see setColorTempertureChecked(). */
+    Q_PROPERTY(bool colorTempertureChecked READ isColorTempertureChecked WRITE setColorTempertureChecked)
+    /*! \brief Whether the primaries can be moved. */
+    Q_PROPERTY(bool RGBPointEnable READ isRGBPointEnable WRITE setRGBPointEnable)
+    /*! \brief Whether a mouse press can start an edit. */
+    Q_PROPERTY(bool useMouseOpertator READ isUseMouseOpertator WRITE setUseMouseOpertator)
 
 public:
     /*!
@@ -81,7 +127,8 @@ public:
      */
     void colorGamutToTriangle(const Model::ColorGamut &gamut, TrianglePoint &triangle);
     /*!
-     * \brief Draws the gamuts again and shows \a text over the chart.
+     * \brief Draws the gamuts again and shows \a text over the chart, in black or white, whichever is more legible on
+     * the picture. A style sheet for QLabel can set another colour.
      *
      * \param flag is ignored
      * \param text a message. If it is not empty, the picture has no locus edge, horseshoe and gamuts. The next resize
@@ -121,6 +168,29 @@ public:
     void setIsShowActual(bool show);
     /*! \brief Sets whether the next setColorGamut() includes the measured gamut. */
     void setIsShowMeasure(bool show);
+
+    /*! \brief The switch of setIsShowStandard(); true by default. */
+    bool isShowStandard() const;
+    /*! \brief The switch of setIsShowTarget(); true by default. */
+    bool isShowTarget() const;
+    /*! \brief The switch of setIsShowOriginal(); true by default. */
+    bool isShowOriginal() const;
+    /*! \brief The switch of setIsShowActual(); true by default. */
+    bool isShowActual() const;
+    /*! \brief The switch of setIsShowMeasure(); true by default. */
+    bool isShowMeasure() const;
+    /*! \brief The colour of setBackgroudColor(), by default rgb(23, 23, 26); invalid if the scene has been deleted. */
+    QColor backgroudColor() const;
+
+    /*!
+     * \brief Sets whether gamuts, message and CMY points remain in the picture when a new size, a layer switch or
+     * colour-temperature points render it again; false by default.
+     *
+     * Otherwise each of these renders the bare diagram. The switch itself renders nothing.
+     */
+    void setGamutsKept(bool kept);
+    /*! \brief The switch of setGamutsKept(); false if the scene has been deleted. */
+    bool isGamutsKept() const;
 
     /*!
      * \brief Moves the legend to the right of the chart if \a alignment is exactly Qt::AlignLeft or exactly

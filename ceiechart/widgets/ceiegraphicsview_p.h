@@ -24,6 +24,10 @@ public:
     /*! \brief Adds the target gamut, if it is switched on. */
     void addTarget(const Model::ColorGamut &target, const TrianglePoint &triangle, bool besideMeasured);
 
+    void groundChanged() override { colorMessage(); }
+    /*! \brief Gives the message a colour that is legible over the picture. A style sheet of the host prevails. */
+    void colorMessage();
+
     QList<ColorTriangleObject> standardTriangles;
     TrianglePoint targetTriangle;
     TrianglePoint originalTriangle;

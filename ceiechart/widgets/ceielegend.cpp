@@ -5,6 +5,29 @@
 
 namespace NewCEIE {
 
+namespace {
+
+QString translatedCaption(ceiechart::LegendEntry entry)
+{
+    switch (entry) {
+    case ceiechart::LegendEntry::CommonGamut:
+        return CEIELegend::tr("公共色域");
+    case ceiechart::LegendEntry::TargetGamut:
+        return CEIELegend::tr("目标色域");
+    case ceiechart::LegendEntry::OriginalGamut:
+        return CEIELegend::tr("原始色域");
+    case ceiechart::LegendEntry::TargetPoint:
+        return CEIELegend::tr("目标点");
+    case ceiechart::LegendEntry::OriginalPoint:
+        return CEIELegend::tr("原始点");
+    case ceiechart::LegendEntry::ManagedPoint:
+        return CEIELegend::tr("管理后点");
+    }
+    return QString();
+}
+
+} // namespace
+
 CEIELegend::CEIELegend(QWidget *parent)
     : CEIELegend(false, Qt::AlignBottom, parent)
 {
@@ -31,6 +54,11 @@ void CEIELegend::setLegendVisible(legendType type, bool visible)
     }
 }
 
+bool CEIELegend::isLegendVisible(legendType type) const
+{
+    return type != NoEntry && d->isShown(static_cast<ceiechart::LegendEntry>(type < NoEntry ? type : type - 1));
+}
+
 void CEIELegend::initUI(QFlags<Qt::AlignmentFlag> alignment)
 {
     drawColorLegend(alignment);
@@ -42,12 +70,12 @@ void CEIELegend::initUI(QFlags<Qt::AlignmentFlag> alignment)
 
 void CEIELegend::drawColorLegend(QFlags<Qt::AlignmentFlag> alignment)
 {
-    d->addGamuts(tr("公共色域"), tr("目标色域"), tr("原始色域"), alignment);
+    d->addGamuts(&translatedCaption, alignment);
 }
 
 void CEIELegend::drawQCPoint(QFlags<Qt::AlignmentFlag> alignment)
 {
-    d->addPoints(tr("目标点"), tr("原始点"), tr("管理后点"), alignment);
+    d->addPoints(&translatedCaption, alignment);
 }
 
 } // namespace NewCEIE

@@ -12,7 +12,8 @@ namespace NewCEIE {
  *
  * The entries form a row, or a column if the legend is beside the chart. Their order is original gamut, target gamut,
  * common gamut, target point, original point, managed point. The captions are Chinese in the source code. They are
- * translated by tr() in the constructor: install a translator before (see ceiechart::installTranslations()).
+ * translated by tr() in the constructor and again when the language of the application changes (see
+ * ceiechart::installTranslations()). A caption that the host has replaced remains.
  *
  * A chart creates its legend. A host changes it there:
  *
@@ -25,6 +26,18 @@ namespace NewCEIE {
  */
 class CEIECHART_EXPORT CEIELegend : public ceiechart::ChartLegend {
     Q_OBJECT
+    /*! \brief How the entries are arranged; see setLegendAlignament(). */
+    Q_PROPERTY(Qt::Alignment legendAlignament READ legendAlignament WRITE setLegendAlignament)
+    /*! \brief The caption of the original gamut. */
+    Q_PROPERTY(QString showOriginalText READ showOriginalText WRITE setShowOriginalText)
+    /*! \brief The caption of the target gamut. */
+    Q_PROPERTY(QString showTargetText READ showTargetText WRITE setShowTargetText)
+    /*! \brief The caption of the target point. */
+    Q_PROPERTY(QString targetPointText READ targetPointText WRITE setTargetPointText)
+    /*! \brief The caption of the original point. */
+    Q_PROPERTY(QString originalPointText READ originalPointText WRITE setOriginalPointText)
+    /*! \brief The caption of the managed point. */
+    Q_PROPERTY(QString managedPointText READ managedPointText WRITE setManagedPointText)
 
 public:
     /*! \brief An entry of the legend. */
@@ -61,6 +74,9 @@ public:
      * NoEntry, values that are not a legendType, and points in a legend without point entries are ignored.
      */
     void setLegendVisible(legendType type, bool visible);
+    /*! \brief Whether an entry is shown; false for NoEntry, for other values without an entry and for missing points.
+     */
+    bool isLegendVisible(legendType type) const;
 
 protected:
     /*! \brief Creates the entries and arranges them. The last step of the constructors. */

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/contrast_p.h>
 #include <ceiechart/widgets/chartframe_p.h>
 #include <ceiechart/widgets/legendplacement_p.h>
 
+#include <QEvent>
 #include <QHBoxLayout>
+#include <QTransform>
 #include <QVBoxLayout>
 #include <QVariant>
 
 #include <algorithm>
+#include <functional>
 
 namespace ceiechart {
 
@@ -19,6 +23,29 @@ int viewExtent(int extent)
 {
     return static_cast<int>(std::clamp<qint64>(static_cast<qint64>(extent) + 2, 0, QWIDGETSIZE_MAX));
 }
+
+/*! \brief Calls a function before an object receives an event of one type. */
+class EventFollower : public QObject {
+public:
+    EventFollower(QObject *watched, QEvent::Type type, std::function<void()> follow)
+        : m_type(type)
+        , m_follow(std::move(follow))
+    {
+        watched->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == m_type) {
+            m_follow();
+        }
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+    std::function<void()> m_follow;
+};
 
 } // namespace
 
@@ -47,6 +74,7 @@ void ChartFrame::Private::setLegend(ChartLegend *chartLegend)
 
 QBoxLayout *ChartFrame::Private::arrange(QFrame *frame, Qt::Alignment alignment)
 {
+    legendAlignment = alignment;
     // A widget does not accept a second layout.
     delete frame->layout();
     QBoxLayout *layout = nullptr;
@@ -63,6 +91,31 @@ QBoxLayout *ChartFrame::Private::arrange(QFrame *frame, Qt::Alignment alignment)
     layout->addWidget(view);
     layout->addWidget(legend);
     return layout;
+}
+
+void ChartFrame::Private::applyGround(const QFrame &frame)
+{
+    const bool light = paletteFollower ? isLight(frame.palette().color(QPalette::Window)) : lightPicture;
+    if (scene && scene->isLightGround() != light) {
+        scene->setLightGround(light);
+        groundChanged();
+    }
+}
+
+QTransform ChartFrame::Private::pictureToView() const
+{
+    const QRectF shown = scene->pictureRect();
+    const QSize size = scene->pictureSize();
+    if (size.isEmpty()) {
+        return QTransform();
+    }
+    return QTransform::fromScale(shown.width() / size.width(), shown.height() / size.height())
+        * QTransform::fromTranslate(shown.x(), shown.y()) * view->viewportTransform();
+}
+
+void ChartFrame::Private::applyPixelRatio()
+{
+    tell(&TargetScene::setPixelRatio, pixelRatioFollower ? view->devicePixelRatioF() : 1.0);
 }
 
 ChartFrame::ChartFrame(std::unique_ptr<Private> own, QWidget *parent)
@@ -207,6 +260,135 @@ void ChartFrame::setRGBPointEnable(bool enable)
 void ChartFrame::setUseMouseOpertator(bool enable)
 {
     d->tell(&TargetScene::setIsMouseOper, enable);
+}
+
+bool ChartFrame::isColorTempertureChecked() const
+{
+    return d->scene && d->scene->isColorTempertureChecked();
+}
+
+bool ChartFrame::isRGBPointEnable() const
+{
+    return d->scene && d->scene->isRGBPointEnable();
+}
+
+bool ChartFrame::isUseMouseOpertator() const
+{
+    return d->scene && d->scene->getIsMouseOper();
+}
+
+QFlags<Qt::AlignmentFlag> ChartFrame::legendAlignament() const
+{
+    return d->legendAlignment;
+}
+
+QColor ChartFrame::graphLineColor() const
+{
+    return d->scene ? d->scene->graphLineColor() : QColor();
+}
+
+QColor ChartFrame::graphPictureColor() const
+{
+    return d->scene ? d->scene->graphPictureColor() : QColor();
+}
+
+QSize ChartFrame::imageSize() const
+{
+    return QSize(d->imageWidth, d->imageHeight);
+}
+
+void ChartFrame::setImageSize(const QSize &size)
+{
+    d->imageWidth = size.width();
+    d->imageHeight = size.height();
+    d->view->setFixedSize(viewExtent(size.width()), viewExtent(size.height()));
+    d->tell(&TargetScene::setImageSize, size);
+}
+
+void ChartFrame::setGraphLineColor(const QColor &color)
+{
+    d->tell(&TargetScene::setGraphColor, color, graphPictureColor());
+    d->tell(&TargetScene::renderAgain);
+}
+
+void ChartFrame::setGraphPictureColor(const QColor &color)
+{
+    d->tell(&TargetScene::setGraphColor, graphLineColor(), color);
+    d->tell(&TargetScene::renderAgain);
+    d->groundChanged();
+}
+
+void ChartFrame::setLightPicture(bool light)
+{
+    d->lightPicture = light;
+    d->applyGround(*this);
+}
+
+bool ChartFrame::isLightPicture() const
+{
+    return d->lightPicture;
+}
+
+void ChartFrame::setPaletteFollowed(bool followed)
+{
+    d->paletteFollower.reset();
+    if (followed) {
+        d->paletteFollower
+            = std::make_unique<EventFollower>(this, QEvent::PaletteChange, [this] { d->applyGround(*this); });
+    }
+    d->applyGround(*this);
+}
+
+bool ChartFrame::isPaletteFollowed() const
+{
+    return d->paletteFollower != nullptr;
+}
+
+void ChartFrame::setDevicePixelRatioFollowed(bool followed)
+{
+    d->pixelRatioFollower.reset();
+    if (followed) {
+        // There is no event for another screen that all versions of Qt have, but none is seen without being painted.
+        d->pixelRatioFollower
+            = std::make_unique<EventFollower>(d->view->viewport(), QEvent::Paint, [this] { d->applyPixelRatio(); });
+    }
+    d->applyPixelRatio();
+}
+
+bool ChartFrame::isDevicePixelRatioFollowed() const
+{
+    return d->pixelRatioFollower != nullptr;
+}
+
+QImage ChartFrame::toImage() const
+{
+    return d->scene ? d->scene->toImage() : QImage();
+}
+
+std::optional<QPointF> ChartFrame::picturePosition(const QPointF &xy) const
+{
+    return d->scene ? d->scene->picturePosition(xy) : std::nullopt;
+}
+
+std::optional<QPointF> ChartFrame::chromaticityInPicture(const QPointF &position) const
+{
+    return d->scene ? d->scene->chromaticityInPicture(position) : std::nullopt;
+}
+
+std::optional<QPointF> ChartFrame::viewPosition(const QPointF &xy) const
+{
+    const std::optional<QPointF> position = picturePosition(xy);
+    return position ? std::optional<QPointF>(d->pictureToView().map(*position)) : std::nullopt;
+}
+
+std::optional<QPointF> ChartFrame::chromaticityInView(const QPointF &position) const
+{
+    if (!d->scene) {
+        return std::nullopt;
+    }
+    bool invertible = false;
+    const QTransform toPicture = d->pictureToView().inverted(&invertible);
+    return invertible ? chromaticityInPicture(toPicture.map(position)) : std::nullopt;
 }
 
 } // namespace ceiechart

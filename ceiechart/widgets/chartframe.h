@@ -7,10 +7,13 @@
 
 #include <QColor>
 #include <QFrame>
+#include <QImage>
 #include <QList>
 #include <QPointF>
+#include <QSize>
 
 #include <memory>
+#include <optional>
 
 namespace ceiechart {
 
@@ -140,6 +143,102 @@ public:
     void setRGBPointEnable(bool enable);
     /*! \brief Sets whether a mouse press can start an edit; true by default. In the current chart no press does. */
     void setUseMouseOpertator(bool enable);
+
+    /*!
+     * \name What is set
+     * @{
+     */
+    /*! \brief The switch of setColorTempertureChecked(); false by default, and if the scene has been deleted. */
+    bool isColorTempertureChecked() const;
+    /*! \brief The switch of setRGBPointEnable(); true by default, false if the scene has been deleted. */
+    bool isRGBPointEnable() const;
+    /*! \brief The switch of setUseMouseOpertator(); true by default, false if the scene has been deleted. */
+    bool isUseMouseOpertator() const;
+    /*! \brief The alignment of the constructor or of setLegendAlignament(), whichever was last. */
+    QFlags<Qt::AlignmentFlag> legendAlignament() const;
+    /*!
+     * \brief The first colour of setGraphColor(), that of locus edge and axes; white by default. Invalid if the scene
+     * has been deleted.
+     */
+    QColor graphLineColor() const;
+    /*!
+     * \brief The second colour of setGraphColor(), that of the picture's background; rgb(23, 23, 26) by default, of a
+     * legacy chart "#323238". Invalid if the scene has been deleted.
+     */
+    QColor graphPictureColor() const;
+    /*! \brief imageWidth() and imageHeight(). */
+    QSize imageSize() const;
+    /*! @} */
+
+    /*!
+     * \name Appearance, further operations
+     * Each renders what is shown again, gamuts included, and changes nothing before it is called. A chart that has not
+     * been rendered yet remains blank.
+     * @{
+     */
+    /*! \brief Sets width and height like setImageWidth() and setImageHeight(), in one rendering. */
+    void setImageSize(const QSize &size);
+    /*! \brief Sets graphLineColor() and leaves everything else as it is, also the background of the inner view. */
+    void setGraphLineColor(const QColor &color);
+    /*! \brief Sets graphPictureColor() and leaves everything else as it is, also the background of the inner view. */
+    void setGraphPictureColor(const QColor &color);
+    /*!
+     * \brief Sets whether the picture is drawn legibly on a light ground; false by default. Ignored while
+     * isPaletteFollowed().
+     *
+     * The ground is graphPictureColor() if that is opaque and light, otherwise near-white. Lines, numbers and outlines
+     * keep their hue and become dark enough for it. The list of gamuts and the legend are not changed.
+     */
+    void setLightPicture(bool light);
+    /*! \brief The switch of setLightPicture(). */
+    bool isLightPicture() const;
+    /*!
+     * \brief Sets whether the picture has a light ground, as by setLightPicture(), whenever the window colour of the
+     * chart's palette is light, also when the palette changes. False by default.
+     */
+    void setPaletteFollowed(bool followed);
+    /*! \brief The switch of setPaletteFollowed(). */
+    bool isPaletteFollowed() const;
+    /*!
+     * \brief Sets whether the picture has as many pixels as the screen has for it, also when the chart is moved to
+     * another screen; false by default.
+     *
+     * Otherwise the picture has one pixel for each logical pixel, and a screen of high density shows it enlarged. Sizes
+     * and positions are in logical pixels in both cases.
+     */
+    void setDevicePixelRatioFollowed(bool followed);
+    /*! \brief The switch of setDevicePixelRatioFollowed(). */
+    bool isDevicePixelRatioFollowed() const;
+    /*! @} */
+
+    /*!
+     * \name Picture and positions
+     * Positions in the picture are in pixels of imageSize(), with y growing downwards; positions in the view are in
+     * logical pixels of the viewport of the inner view, as in its mouse events. Both are where lines and gamuts are
+     * drawn, and not truncated to whole pixels. Over an x, y as over a u′, v′ diagram, chromaticities are CIE 1931 x,
+     * y.
+     *
+     * The result is nothing before the first picture, for a picture less than 2 pixels wide or high, and for what has
+     * no chromaticity or no position. Results can lie outside of picture and view.
+     * @{
+     */
+    /*!
+     * \brief The chart without its legend, in the size of the picture. The handles and measurement points of a legacy
+     * chart are in it, the message of updateLanGamut() is not.
+     *
+     * With setDevicePixelRatioFollowed() the image has the ratio of the screen. A null image before the first picture.
+     * Neither the chart nor the list of gamuts is changed, and nothing is emitted.
+     */
+    QImage toImage() const;
+    /*! \brief The position of the chromaticity \a xy in the picture. */
+    std::optional<QPointF> picturePosition(const QPointF &xy) const;
+    /*! \brief The chromaticity at \a position in the picture: the inverse of picturePosition(). */
+    std::optional<QPointF> chromaticityInPicture(const QPointF &position) const;
+    /*! \brief The position of the chromaticity \a xy in the view. */
+    std::optional<QPointF> viewPosition(const QPointF &xy) const;
+    /*! \brief The chromaticity at \a position in the view: the inverse of viewPosition(). */
+    std::optional<QPointF> chromaticityInView(const QPointF &position) const;
+    /*! @} */
 
 protected:
     class Private;

@@ -32,6 +32,16 @@ public:
     /*! \brief Puts the inner view and the legend into a new layout of \a frame, which replaces the previous layout. */
     QBoxLayout *arrange(QFrame *frame, Qt::Alignment alignment);
 
+    /*! \brief The ground of the picture has changed. */
+    virtual void groundChanged() { }
+
+    /*! \brief Switches the light ground as setLightPicture() and, if it is followed, the palette of \a frame demand. */
+    void applyGround(const QFrame &frame);
+    /*! \brief The way from positions in the picture to positions in the viewport. There must be a scene. */
+    QTransform pictureToView() const;
+    /*! \brief Has the picture rendered with the pixels of the inner view's screen, if they are followed. */
+    void applyPixelRatio();
+
     /*! \brief Calls \a operation of the scene, unless a host has deleted the scene. */
     template <typename... Parameters, typename... Arguments>
     void tell(void (TargetScene::*operation)(Parameters...), Arguments &&...arguments)
@@ -51,6 +61,10 @@ public:
     bool drawWavelengths = true;
     QList<ColorTriangleObject> triangles;
     QList<QPointF> colorTemperaturePoints;
+    Qt::Alignment legendAlignment = Qt::AlignBottom;
+    bool lightPicture = false;
+    std::unique_ptr<QObject> paletteFollower; //!< null while the palette is not followed
+    std::unique_ptr<QObject> pixelRatioFollower; //!< null while the device pixel ratio is not followed
 };
 
 /*! \brief Connects the signals of \a scene to the signals of \a view with the same names. */
@@ -62,20 +76,6 @@ void relaySignals(const Scene *scene, View *view)
     QObject::connect(scene, &Scene::signal_triangleObjecIinitialized, view, &View::signal_triangleObjecIinitialized);
     QObject::connect(scene, &Scene::signal_colorGamutValueChanged, view, &View::signal_colorGamutValueChanged);
     QObject::connect(scene, &Scene::signal_colorGamutWhiteChanged, view, &View::signal_colorGamutWhiteChanged);
-}
-
-/*! \brief Copies the chromaticities and luminances of a record with the members red, green, blue and white. */
-template <class Record>
-void copyGamut(const Record &gamut, TrianglePoint &triangle)
-{
-    triangle.setRedPos(QPointF(gamut.red.x, gamut.red.y));
-    triangle.setGreenPos(QPointF(gamut.green.x, gamut.green.y));
-    triangle.setBluePos(QPointF(gamut.blue.x, gamut.blue.y));
-    triangle.setWhitePos(QPointF(gamut.white.x, gamut.white.y));
-    triangle.setRedLum(gamut.red.Y);
-    triangle.setGreenLum(gamut.green.Y);
-    triangle.setBlueLum(gamut.blue.Y);
-    triangle.setWhiteLum(gamut.white.Y);
 }
 
 } // namespace ceiechart

@@ -34,4 +34,49 @@ void ChartLegend::setshowPointText(const QString &target, const QString &origina
     d->setPointCaptions(target, original, managed);
 }
 
+QFlags<Qt::AlignmentFlag> ChartLegend::legendAlignament() const
+{
+    return d->alignment();
+}
+
+QString ChartLegend::showOriginalText() const
+{
+    return d->caption(LegendEntry::OriginalGamut);
+}
+
+QString ChartLegend::showTargetText() const
+{
+    return d->caption(LegendEntry::TargetGamut);
+}
+
+QString ChartLegend::targetPointText() const
+{
+    return d->caption(LegendEntry::TargetPoint);
+}
+
+QString ChartLegend::originalPointText() const
+{
+    return d->caption(LegendEntry::OriginalPoint);
+}
+
+QString ChartLegend::managedPointText() const
+{
+    return d->caption(LegendEntry::ManagedPoint);
+}
+
+void ChartLegend::setTargetPointText(const QString &text)
+{
+    d->setCaption(LegendEntry::TargetPoint, text);
+}
+
+void ChartLegend::setOriginalPointText(const QString &text)
+{
+    d->setCaption(LegendEntry::OriginalPoint, text);
+}
+
+void ChartLegend::setManagedPointText(const QString &text)
+{
+    d->setCaption(LegendEntry::ManagedPoint, text);
+}
+
 } // namespace ceiechart

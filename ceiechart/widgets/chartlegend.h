@@ -42,6 +42,25 @@ public:
      */
     void setshowPointText(const QString &target, const QString &original, const QString &managed);
 
+    /*! \brief The alignment of the constructor or of setLegendAlignament(), whichever was last. */
+    QFlags<Qt::AlignmentFlag> legendAlignament() const;
+    /*! \brief The caption of the original gamut, as it is read across. */
+    QString showOriginalText() const;
+    /*! \brief The caption of the target gamut, as it is read across. */
+    QString showTargetText() const;
+    /*! \brief The caption of the target point, as it is read across; empty for a legend without point entries. */
+    QString targetPointText() const;
+    /*! \brief The caption of the original point, as it is read across; empty for a legend without point entries. */
+    QString originalPointText() const;
+    /*! \brief The caption of the managed point, as it is read across; empty for a legend without point entries. */
+    QString managedPointText() const;
+    /*! \brief Replaces one caption like setshowPointText(). Ignored by a legend without point entries. */
+    void setTargetPointText(const QString &text);
+    /*! \brief Replaces one caption like setshowPointText(). Ignored by a legend without point entries. */
+    void setOriginalPointText(const QString &text);
+    /*! \brief Replaces one caption like setshowPointText(). Ignored by a legend without point entries. */
+    void setManagedPointText(const QString &text);
+
 protected:
     ChartLegend(bool showPoint, QWidget *parent);
 

@@ -4,6 +4,7 @@
 #include <ceiechart/widgets/legendplacement_p.h>
 #include <ceiechart/widgets/legendswatches_p.h>
 
+#include <QEvent>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -33,28 +34,29 @@ LegendEntries::LegendEntries(QFrame *legend, bool withPoints)
     : m_legend(legend)
     , m_withPoints(withPoints)
 {
+    // A legend has no handlers of events of its own.
+    legend->installEventFilter(this);
 }
 
-void LegendEntries::addGamuts(
-    const QString &common, const QString &target, const QString &original, Qt::Alignment alignment)
+void LegendEntries::addGamuts(Translate translate, Qt::Alignment alignment)
 {
-    add(LegendEntry::CommonGamut, common, alignment);
-    add(LegendEntry::TargetGamut, target, alignment);
-    add(LegendEntry::OriginalGamut, original, alignment);
+    add(LegendEntry::CommonGamut, translate, alignment);
+    add(LegendEntry::TargetGamut, translate, alignment);
+    add(LegendEntry::OriginalGamut, translate, alignment);
 }
 
-void LegendEntries::addPoints(
-    const QString &target, const QString &original, const QString &managed, Qt::Alignment alignment)
+void LegendEntries::addPoints(Translate translate, Qt::Alignment alignment)
 {
-    add(LegendEntry::TargetPoint, target, alignment);
-    add(LegendEntry::OriginalPoint, original, alignment);
-    add(LegendEntry::ManagedPoint, managed, alignment);
+    add(LegendEntry::TargetPoint, translate, alignment);
+    add(LegendEntry::OriginalPoint, translate, alignment);
+    add(LegendEntry::ManagedPoint, translate, alignment);
 }
 
 void LegendEntries::arrange(Qt::Alignment alignment)
 {
     const bool wasBesideChart = m_besideChart;
     m_besideChart = standsBesideChart(alignment);
+    m_alignment = alignment;
 
     // A widget does not accept a second layout.
     delete m_legend->layout();
@@ -70,7 +72,7 @@ void LegendEntries::arrange(Qt::Alignment alignment)
     layout->setSpacing(8);
 
     for (const LegendEntry entry : displayOrder) {
-        const Labels &shown = labels(entry);
+        Labels &shown = labels(entry);
         if (!shown.caption || (isPoint(entry) && !m_withPoints)) {
             continue;
         }
@@ -88,12 +90,25 @@ void LegendEntries::arrange(Qt::Alignment alignment)
 
 void LegendEntries::setVisible(LegendEntry entry, bool visible)
 {
-    const int index = static_cast<int>(entry);
-    if (index < 0 || index >= static_cast<int>(m_labels.size()) || !labels(entry).caption) {
-        return;
+    if (const Labels *shown = created(entry)) {
+        shown->caption->setVisible(visible);
+        shown->swatch->setVisible(visible);
     }
-    labels(entry).caption->setVisible(visible);
-    labels(entry).swatch->setVisible(visible);
+}
+
+bool LegendEntries::isShown(LegendEntry entry) const
+{
+    const Labels *shown = created(entry);
+    return shown && !shown->caption->isHidden();
+}
+
+QString LegendEntries::caption(LegendEntry entry) const
+{
+    const Labels *shown = created(entry);
+    if (!shown) {
+        return QString();
+    }
+    return shown->verticalCaption.isNull() ? shown->caption->text() : shown->verticalCaption;
 }
 
 void LegendEntries::setCaption(LegendEntry entry, const QString &text)
@@ -102,6 +117,7 @@ void LegendEntries::setCaption(LegendEntry entry, const QString &text)
     if (changed.caption) {
         changed.caption->setText(text);
         changed.verticalCaption = QString();
+        changed.translated = QString();
     }
 }
 
@@ -112,16 +128,61 @@ void LegendEntries::setPointCaptions(const QString &target, const QString &origi
     setCaption(LegendEntry::ManagedPoint, managed);
 }
 
-void LegendEntries::add(LegendEntry entry, const QString &caption, Qt::Alignment alignment)
+bool LegendEntries::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_legend && event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    return false;
+}
+
+void LegendEntries::add(LegendEntry entry, Translate translate, Qt::Alignment alignment)
+{
+    m_translate = translate;
+    const QString caption = translate(entry);
     Labels &made = labels(entry);
     made.swatch = new QLabel(m_legend);
     made.swatch->setPixmap(legendSwatch(entry));
-    made.caption = new QLabel(caption, m_legend);
+    made.caption = new QLabel(m_legend);
     if (standsBesideChart(alignment)) {
         made.verticalCaption = caption;
-        made.caption->setText(writtenDownwards(caption));
     }
+    made.translated = standsBesideChart(alignment) ? writtenDownwards(caption) : caption;
+    made.caption->setText(made.translated);
+}
+
+void LegendEntries::retranslate()
+{
+    for (const LegendEntry entry : displayOrder) {
+        Labels &shown = labels(entry);
+        // A host can have changed the label itself.
+        if (!shown.caption || shown.translated.isNull() || shown.caption->text() != shown.translated) {
+            continue;
+        }
+        const QString caption = m_translate(entry);
+        if (!shown.verticalCaption.isNull()) {
+            shown.verticalCaption = caption;
+        }
+        write(shown, !shown.verticalCaption.isNull() && m_besideChart ? writtenDownwards(caption) : caption);
+    }
+}
+
+void LegendEntries::write(Labels &labels, const QString &text)
+{
+    labels.caption->setText(text);
+    if (!labels.translated.isNull()) {
+        labels.translated = text;
+    }
+}
+
+const LegendEntries::Labels *LegendEntries::created(LegendEntry entry) const
+{
+    const int index = static_cast<int>(entry);
+    if (index < 0 || index >= static_cast<int>(m_labels.size())) {
+        return nullptr;
+    }
+    const Labels &found = m_labels[static_cast<std::size_t>(index)];
+    return found.caption ? &found : nullptr;
 }
 
 LegendEntries::Labels &LegendEntries::labels(LegendEntry entry)
@@ -129,12 +190,12 @@ LegendEntries::Labels &LegendEntries::labels(LegendEntry entry)
     return m_labels[static_cast<std::size_t>(entry)];
 }
 
-void LegendEntries::styleCaption(const Labels &labels, bool besideChart) const
+void LegendEntries::styleCaption(Labels &labels, bool besideChart) const
 {
     labels.caption->setWordWrap(besideChart);
     labels.caption->setAlignment(besideChart ? Qt::AlignHCenter | Qt::AlignTop : Qt::AlignLeft | Qt::AlignVCenter);
     if (!labels.verticalCaption.isNull()) {
-        labels.caption->setText(besideChart ? writtenDownwards(labels.verticalCaption) : labels.verticalCaption);
+        write(labels, besideChart ? writtenDownwards(labels.verticalCaption) : labels.verticalCaption);
     }
 }
 

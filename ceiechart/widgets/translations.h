@@ -12,8 +12,9 @@ namespace ceiechart {
 /*!
  * \brief Installs the translations of the library for the language of \a locale.
  *
- * If the first user-interface language of \a locale is Chinese, captions are Chinese, otherwise English. Legends
- * translate their captions in the constructor: call this function before the first chart is constructed.
+ * If the first user-interface language of \a locale is Chinese, captions are Chinese, otherwise English. Charts that
+ * exist already follow when the event loop turns. Call this function before the first chart is constructed, so that
+ * none is shown in another language.
  *
  * \code
  * QApplication app(argc, argv);

@@ -2,9 +2,12 @@
 #include <ceiechart/legacy/legacycharts.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QGraphicsView>
+#include <QMetaProperty>
 #include <QPluginLoader>
 #include <QTest>
+#include <QVector>
 #include <QXmlStreamReader>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
@@ -21,7 +24,11 @@ private Q_SLOTS:
     void makesEachWidget();
     void domXmlNamesClassAndHeader_data();
     void domXmlNamesClassAndHeader();
-    void diagramHasAnIconOfItsOwn();
+    void iconsAreTheirOwn();
+    void iconsNeedNoPluginForDrawings();
+    void chartsAreEditedByProperties_data() { chartsShowAPicture_data(); }
+    void chartsAreEditedByProperties();
+    void newFormsHaveThePicturesSize();
     void diagramIsEditedByProperties();
     void chartsShowAPicture_data();
     void chartsShowAPicture();
@@ -145,12 +152,60 @@ void DesignerPluginTest::domXmlNamesClassAndHeader()
     QCOMPARE(headerInForm, header);
 }
 
-void DesignerPluginTest::diagramHasAnIconOfItsOwn()
+void DesignerPluginTest::iconsAreTheirOwn()
 {
-    const QImage diagram = find(QStringLiteral("ceiechart::DiagramView"))->icon().pixmap(32, 32).toImage();
-    const QImage chart = find(QStringLiteral("NewCEIE::CEIEGraphicsView"))->icon().pixmap(32, 32).toImage();
-    QVERIFY(!diagram.isNull());
-    QVERIFY(diagram != chart);
+    QVector<QImage> icons;
+    for (const QDesignerCustomWidgetInterface *widget : qAsConst(m_widgets)) {
+        const QImage icon = widget->icon().pixmap(24, 24).toImage();
+        QCOMPARE(icon.size(), QSize(24, 24));
+        // Both legends have the same one.
+        QCOMPARE(icons.contains(icon), widget->name() == QLatin1String("CEIELegend"));
+        icons.append(icon);
+    }
+}
+
+void DesignerPluginTest::iconsNeedNoPluginForDrawings()
+{
+    const QStringList files = QDir(QStringLiteral(":/ceiechart/designer")).entryList();
+    QVERIFY(files.size() >= 10);
+    for (const QString &file : files) {
+        QVERIFY2(file.endsWith(QLatin1String(".png")), qPrintable(file));
+        const QImage image(QStringLiteral(":/ceiechart/designer/") + file);
+        QCOMPARE(image.width(), file.contains(QLatin1String("@2x")) ? 48 : 24);
+    }
+}
+
+void DesignerPluginTest::chartsAreEditedByProperties()
+{
+    QFETCH(QString, name);
+    const std::unique_ptr<QWidget> chart(find(name)->createWidget(nullptr));
+    chart->resize(500, 560);
+    chart->show();
+    QApplication::processEvents();
+    const QList<QPair<const char *, QVariant>> edits = {{"isDrawCoordinate", false}, {"lightPicture", true},
+        {"graphLineColor", QColor(200, 0, 0)}, {"graphPictureColor", QColor(255, 255, 200)},
+        {"imageSize", QSize(300, 320)}, {"legendAlignament", QVariant::fromValue(Qt::Alignment(Qt::AlignRight))}};
+    const QMetaObject *meta = chart->metaObject();
+    for (const auto &[property, value] : edits) {
+        const QMetaProperty offered = meta->property(meta->indexOfProperty(property));
+        QVERIFY2(offered.isDesignable() && offered.isStored(), property);
+        const QImage before = chart->grab().toImage();
+        QVERIFY2(chart->setProperty(property, value), property);
+        QApplication::processEvents();
+        QVERIFY2(chart->grab().toImage() != before, property);
+    }
+}
+
+// What is dropped on a form is shown in the finished program as in Qt Designer.
+void DesignerPluginTest::newFormsHaveThePicturesSize()
+{
+    for (const QDesignerCustomWidgetInterface *widget : qAsConst(m_widgets)) {
+        const QString size = QStringLiteral(
+            "<property name=\"imageSize\"><size><width>400</width><height>400</height></size></property>");
+        const bool isChart
+            = widget->name().endsWith(QLatin1String("Chart")) || widget->name().endsWith(QLatin1String("GraphicsView"));
+        QCOMPARE(widget->domXml().count(size), isChart ? 1 : 0);
+    }
 }
 
 void DesignerPluginTest::diagramIsEditedByProperties()

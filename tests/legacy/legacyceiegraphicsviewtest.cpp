@@ -15,7 +15,14 @@ class LegacyCEIEGraphicsViewTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void metaObject() { Tests::metaObject("CEIEGraphicsView", "MouseCursorStyle"); }
+    void metaObject()
+    {
+        Tests::metaObject("CEIEGraphicsView", "MouseCursorStyle",
+            QStringList({"imageSize", "imageWidth", "imageHeight", "isDrawCoordinate", "isDrawBBRLine",
+                "isDrawWaveLength", "graphLineColor", "graphPictureColor", "lightPicture", "paletteFollowed",
+                "devicePixelRatioFollowed", "legendAlignament", "drawColorTPoint", "colorTempertureChecked",
+                "RGBPointEnable", "useMouseOpertator"}));
+    }
     void constructors();
     void diagramType();
     void innerView();

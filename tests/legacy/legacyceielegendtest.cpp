@@ -14,6 +14,8 @@ private Q_SLOTS:
     void constructors() { Tests::constructors(); }
     void metaObject() { Tests::metaObject("CEIELegend"); }
     void captionsAreTranslated() { Tests::captionsAreTranslated("CEIELegend"); }
+    void captionsFollowTheLanguage() { Tests::captionsFollowTheLanguage(); }
+    void getters() { Tests::getters(); }
     void swatches() { Tests::swatches(); }
     void layout_data() { Tests::layout_data(); }
     void layout() { Tests::layout(); }

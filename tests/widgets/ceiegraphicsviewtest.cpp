@@ -24,7 +24,15 @@ class CEIEGraphicsViewTest : public QObject {
 private Q_SLOTS:
     void hugeChromaticitiesHaveNoCommonGamut();
     void hostMayDeleteTheScene();
-    void metaObject() { Tests::metaObject("NewCEIE::CEIEGraphicsView", "NewCEIE::MouseCursorStyle"); }
+    void metaObject()
+    {
+        Tests::metaObject("NewCEIE::CEIEGraphicsView", "NewCEIE::MouseCursorStyle",
+            QStringList({"imageSize", "imageWidth", "imageHeight", "isDrawCoordinate", "isDrawBBRLine",
+                "isDrawWaveLength", "isShowStandard", "isShowTarget", "isShowOriginal", "isShowActual", "isShowMeasure",
+                "gamutsKept", "graphLineColor", "graphPictureColor", "backgroudColor", "lightPicture",
+                "paletteFollowed", "devicePixelRatioFollowed", "legendAlignament", "drawColorTPoint",
+                "colorTempertureChecked", "RGBPointEnable", "useMouseOpertator"}));
+    }
     void constructors();
     void innerView();
     void chartsBackground();

@@ -8,6 +8,7 @@
 #include <ceiechart/model/targetinfochangedeventargs.h>
 #include <ceiechart/model/triangleobjeciinitializedeventargs.h>
 #include <reference/metatypefacts.h>
+#include <reference/propertyfacts.h>
 #include <reference/quietmessages.h>
 #include <reference/scenemodel.h>
 #include <reference/scenesignalfacts.h>
@@ -101,13 +102,13 @@ template <class View, class Scene, class InnerView, class Legend>
 struct ChartViewTests {
     static Scene *sceneOf(const View &view) { return qobject_cast<Scene *>(view.view()->scene()); }
 
-    static void metaObject(const char *className, const char *cursorType)
+    static void metaObject(const char *className, const char *cursorType, const QStringList &ownProperties)
     {
         static_assert(std::is_base_of_v<QFrame, View>);
         const QMetaObject &meta = View::staticMetaObject;
         QCOMPARE(meta.className(), className);
         QCOMPARE(meta.superClass(), &QFrame::staticMetaObject);
-        QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+        QCOMPARE(reference::declaredProperties(meta), ownProperties);
         QCOMPARE(meta.methodCount() - meta.methodOffset(), 6);
         QStringList expected = reference::sceneSignals();
         expected.replaceInStrings(QStringLiteral("QCursor"), QLatin1String(cursorType));

@@ -3,6 +3,7 @@
 #define CEIECHART_TESTS_WIDGETS_LEGENDTESTS_H
 
 #include <reference/picturedifference.h>
+#include <reference/propertyfacts.h>
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -12,6 +13,8 @@
 #include <QPointer>
 #include <QTest>
 #include <QTranslator>
+
+#include <limits>
 
 /*! \brief Notes what a class asks to be translated, and answers "<source>!" where told to. */
 class TranslationLog : public QTranslator {
@@ -224,7 +227,9 @@ struct LegendTests {
         QCOMPARE(meta.className(), className);
         QCOMPARE(meta.superClass(), &QFrame::staticMetaObject);
         QCOMPARE(meta.methodCount(), meta.methodOffset());
-        QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+        QCOMPARE(reference::declaredProperties(meta),
+            QStringList({"legendAlignament", "showOriginalText", "showTargetText", "targetPointText",
+                "originalPointText", "managedPointText"}));
         QVERIFY((std::is_base_of_v<QFrame, Legend>));
         QVERIFY((!std::is_convertible_v<QWidget *, Legend>));
     }
@@ -248,6 +253,80 @@ struct LegendTests {
             QCOMPARE(legendCaptions(row).at(entry), log.answer);
             QCOMPARE(legendCaptions(column).at(entry), QStringLiteral("t\nw\no\n \nw\no\nr\nd\ns"));
         }
+    }
+
+    static void captionsFollowTheLanguage()
+    {
+        Legend row(true, nullptr);
+        Legend column(true, Qt::AlignLeft, nullptr);
+        Legend turned(true, Qt::AlignLeft, nullptr);
+        turned.setLegendAlignament(Qt::AlignBottom);
+        row.setShowTargetText(QStringLiteral("of the host"));
+        legendLabels(row).at(ManagedPoint).caption->setText(QStringLiteral("by hand"));
+        TranslationLog log;
+        log.answer = QStringLiteral("new");
+        QCOMPARE(legendCaptions(row).constFirst(), allCaptions().constFirst());
+        QCoreApplication::processEvents();
+        QStringList expected;
+        for (int entry = 0; entry < 6; ++entry) {
+            expected.append(log.answer);
+        }
+        QCOMPARE(legendCaptions(turned), expected);
+        QCOMPARE(legendCaptions(column), downwards(expected));
+        turned.setLegendAlignament(Qt::AlignRight);
+        QCOMPARE(legendCaptions(turned), downwards(expected));
+        expected[TargetGamut] = QStringLiteral("of the host");
+        expected[ManagedPoint] = QStringLiteral("by hand");
+        QCOMPARE(legendCaptions(row), expected);
+
+        // Again, and back.
+        log.answer = QStringLiteral("other");
+        QCoreApplication::removeTranslator(&log);
+        QCoreApplication::installTranslator(&log);
+        QCoreApplication::processEvents();
+        QCOMPARE(legendCaptions(row).constFirst(), QStringLiteral("other"));
+        QCOMPARE(legendCaptions(row).at(TargetGamut), QStringLiteral("of the host"));
+        QCoreApplication::removeTranslator(&log);
+        QCoreApplication::processEvents();
+        QCOMPARE(legendCaptions(row).constFirst(), allCaptions().constFirst());
+    }
+
+    static void getters()
+    {
+        Legend legend(true, Qt::AlignRight, nullptr);
+        QCOMPARE(legend.legendAlignament(), Qt::Alignment(Qt::AlignRight));
+        // As they are read across, although they are written downwards.
+        QCOMPARE(legend.showOriginalText(), allCaptions().at(OriginalGamut));
+        QCOMPARE(legend.showTargetText(), allCaptions().at(TargetGamut));
+        QCOMPARE(legend.targetPointText(), allCaptions().at(TargetPoint));
+        QCOMPARE(legend.originalPointText(), allCaptions().at(OriginalPoint));
+        QCOMPARE(legend.managedPointText(), allCaptions().at(ManagedPoint));
+        legend.setLegendAlignament(Qt::AlignTop | Qt::AlignLeft);
+        QCOMPARE(legend.legendAlignament(), Qt::AlignTop | Qt::AlignLeft);
+        legend.setTargetPointText(QStringLiteral("a"));
+        legend.setOriginalPointText(QStringLiteral("b"));
+        legend.setManagedPointText(QStringLiteral("c"));
+        QCOMPARE(legendCaptions(legend).mid(3), QStringList({"a", "b", "c"}));
+        legend.setshowPointText(QStringLiteral("d"), QStringLiteral("e"), QStringLiteral("f"));
+        legend.setShowOriginalText(QStringLiteral("g"));
+        QCOMPARE(QStringList({legend.targetPointText(), legend.originalPointText(), legend.managedPointText(),
+                     legend.showOriginalText()}),
+            QStringList({"d", "e", "f", "g"}));
+
+        for (const auto type : {Legend::CommonGamut, Legend::TargetGamut, Legend::OriginalGamut, Legend::TargetPoint,
+                 Legend::OriginalPoint, Legend::ManagedPoint}) {
+            QVERIFY(legend.isLegendVisible(type));
+            legend.setLegendVisible(type, false);
+            QVERIFY(!legend.isLegendVisible(type));
+        }
+        for (const int none : {-1, 7, 1000, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
+            QVERIFY(!legend.isLegendVisible(static_cast<typename Legend::legendType>(none)));
+        }
+        Legend withoutPoints(nullptr);
+        QVERIFY(!withoutPoints.isLegendVisible(Legend::TargetPoint));
+        QVERIFY(withoutPoints.isLegendVisible(Legend::TargetGamut));
+        withoutPoints.setTargetPointText(QStringLiteral("a"));
+        QVERIFY(withoutPoints.targetPointText().isEmpty());
     }
 
     static void swatches()
