@@ -150,7 +150,9 @@ void ChartPositionsTest::measurementsAreWhereTheyAreSaidToBe()
     Model::uvFromXy(xy.x(), xy.y(), u, v);
     chart->setMeasureValuePoints({QPointF(u, v)});
     chart->setImageSize(QSize(640, 600));
-    QCOMPARE(chart->toImage().pixelColor(chart->picturePosition(xy)->toPoint()), QColor(Qt::black));
+    // The dot is centred on a whole pixel.
+    const QPointF position = *chart->picturePosition(xy);
+    QCOMPARE(chart->toImage().pixelColor(int(position.x()), int(position.y())), QColor(Qt::black));
 }
 
 // The scene always has the same size and shows a picture of another one stretched.
@@ -276,8 +278,10 @@ void ChartPositionsTest::moreDetailAndTheSameLook()
     const QImage detailed = chart->toImage();
     QCOMPARE(detailed.size(), QSize(qRound(501 * ratio), qRound(523 * ratio)));
     // The ground reaches the last row and column, opaque.
-    QCOMPARE(detailed.pixel(detailed.width() - 1, detailed.height() - 1), usual.pixel(500, 522));
-    QCOMPARE(qAlpha(detailed.pixel(detailed.width() - 1, 3)), 255);
+    const QColor corner = detailed.pixelColor(detailed.width() - 1, detailed.height() - 1);
+    QCOMPARE(corner.alpha(), 255);
+    QVERIFY(qAbs(corner.red() - usual.pixelColor(500, 522).red()) <= 1);
+    QVERIFY(qAbs(corner.blue() - usual.pixelColor(500, 522).blue()) <= 1);
 
     const QImage reduced
         = detailed.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGB32);
@@ -293,9 +297,8 @@ void ChartPositionsTest::moreDetailAndTheSameLook()
         }
     }
     const double mean = double(sum) / (size.width() * size.height());
-    QVERIFY2(mean < 9.0, qPrintable(QString::number(mean)));
+    QVERIFY2(mean < 7.0, qPrintable(QString::number(mean)));
     QVERIFY2(strong < size.width() * size.height() / 50, qPrintable(QString::number(strong)));
-    qInfo() << mean << strong;
 }
 
 QTEST_MAIN(ChartPositionsTest)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "hostcharts.h"
 
+#include <ceiechart/scene/targetscene.h>
+
 #include <QGraphicsScene>
 #include <QMetaProperty>
 #include <QSignalSpy>
