@@ -150,8 +150,11 @@ public:
     void setPixelRatio(double ratio);
     /*! \brief The ratio of setPixelRatio(). */
     double pixelRatio() const;
-    /*! \brief Renders again what is shown, with gamuts if there are any, in the stored size. Ignored before the first
-     * picture. */
+    /*!
+     * \brief Renders again what is shown, with gamuts if they are in the picture, in the stored size.
+     *
+     * Ignored before the first picture.
+     */
     void renderAgain();
 
     /*!
@@ -163,8 +166,7 @@ public:
     QImage toImage();
     /*! \brief The size for which the picture was rendered, in pixels; empty before the first picture. */
     QSize pictureSize() const;
-    /*! \brief The rectangle, in scene coordinates, into which the first view's picture is painted; empty without one.
-     */
+    /*! \brief Where the picture is painted, in scene coordinates, in the first view; empty if that has no height. */
     QRectF pictureRect() const;
     /*!
      * \brief The position of \a xy (CIE 1931 x, y) in the picture, in pixels of the size that was set, as lines and

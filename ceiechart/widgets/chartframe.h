@@ -93,6 +93,10 @@ public:
      * pixels.
      */
     int imageHeight() const;
+    /*! \brief Sets width and height like setImageWidth() and setImageHeight(), but renders only once. */
+    void setImageSize(const QSize &size);
+    /*! \brief imageWidth() and imageHeight(). */
+    QSize imageSize() const;
     /*!
      * \brief Sets whether axes and grid are drawn, in a legacy x, y chart also the Planckian locus, and renders the
      * bare diagram.
@@ -166,8 +170,6 @@ public:
      * legacy chart "#323238". Invalid if the scene has been deleted.
      */
     QColor graphPictureColor() const;
-    /*! \brief imageWidth() and imageHeight(). */
-    QSize imageSize() const;
     /*! @} */
 
     /*!
@@ -176,8 +178,6 @@ public:
      * been rendered yet remains blank.
      * @{
      */
-    /*! \brief Sets width and height like setImageWidth() and setImageHeight(), in one rendering. */
-    void setImageSize(const QSize &size);
     /*! \brief Sets graphLineColor() and leaves everything else as it is, also the background of the inner view. */
     void setGraphLineColor(const QColor &color);
     /*! \brief Sets graphPictureColor() and leaves everything else as it is, also the background of the inner view. */
@@ -213,10 +213,10 @@ public:
 
     /*!
      * \name Picture and positions
-     * Positions in the picture are in pixels of imageSize(), with y growing downwards; positions in the view are in
-     * logical pixels of the viewport of the inner view, as in its mouse events. Both are where lines and gamuts are
-     * drawn, and not truncated to whole pixels. Over an x, y as over a u′, v′ diagram, chromaticities are CIE 1931 x,
-     * y.
+     * Positions in the picture are in its pixels (logical ones, where it has those of the screen), with y growing
+     * downwards; positions in the view are in logical pixels of the viewport of the inner view, as in its mouse events.
+     * Both are where lines and gamuts are drawn, and not truncated to whole pixels. Chromaticities are CIE 1931 x, y on
+     * both diagrams.
      *
      * The result is nothing before the first picture, for a picture less than 2 pixels wide or high, and for what has
      * no chromaticity or no position. Results can lie outside of picture and view.

@@ -182,9 +182,9 @@ void DesignerPluginTest::chartsAreEditedByProperties()
     chart->resize(500, 560);
     chart->show();
     QApplication::processEvents();
-    const QList<QPair<const char *, QVariant>> edits = {{"isDrawCoordinate", false}, {"lightPicture", true},
-        {"graphLineColor", QColor(200, 0, 0)}, {"graphPictureColor", QColor(255, 255, 200)},
-        {"imageSize", QSize(300, 320)}, {"legendAlignament", QVariant::fromValue(Qt::Alignment(Qt::AlignRight))}};
+    const QList<QPair<const char *, QVariant>> edits = {{"graphLineColor", QColor(200, 0, 0)}, {"lightPicture", true},
+        {"graphPictureColor", QColor(255, 255, 200)}, {"imageSize", QSize(300, 320)},
+        {"legendAlignament", QVariant::fromValue(Qt::Alignment(Qt::AlignRight))}, {"isDrawCoordinate", false}};
     const QMetaObject *meta = chart->metaObject();
     for (const auto &[property, value] : edits) {
         const QMetaProperty offered = meta->property(meta->indexOfProperty(property));
