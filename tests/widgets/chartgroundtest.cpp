@@ -111,9 +111,8 @@ void ChartGroundTest::messageIsLegible()
     QFETCH(bool, lightPicture);
     const auto chart = currentChart();
     chart->setPalette(paletteOf(lightPalette));
-    // Where the picture has nothing but its ground.
     chart->setIsDrawCoordinate(false);
-    chart->setImageSize(QSize(1200, 1200));
+    chart->setImageSize(QSize(672, 728));
     chart->setLightPicture(lightPicture);
     if (ground.isValid()) {
         chart->setGraphColor(Qt::white, ground);
@@ -124,8 +123,9 @@ void ChartGroundTest::messageIsLegible()
     settle();
     QLabel *label = messageOf(*chart);
     QVERIFY(label->isVisible());
-    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    label->move(900, 40);
+    // Where the picture has nothing but its ground.
+    label->setFixedSize(200, 150);
+    label->move(440, 30);
     const QImage picture = chart->grab().toImage().convertToFormat(QImage::Format_RGB32);
     const QRgb behind = picture.pixel(label->geometry().bottomRight());
     const double reached = greatestContrast(picture, label->geometry(), behind);
