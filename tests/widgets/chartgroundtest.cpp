@@ -135,7 +135,7 @@ void ChartGroundTest::messageIsLegible()
 void ChartGroundTest::messageInTheColorOfAStyleSheet()
 {
     const auto chart = currentChart();
-    chart->setStyleSheet(QStringLiteral("QLabel { color: rgb(250, 0, 250) }"));
+    chart->setStyleSheet(QStringLiteral("QLabel { color: rgb(250, 0, 250); font-size: 24px }"));
     chart->setImageSize(QSize(600, 600));
     chart->show();
     chart->updateLanGamut(true, QStringLiteral("No measurement yet"));
