@@ -147,7 +147,14 @@ QColor DiagramRenderer::Private::ground(const QColor &stated) const
 
 QColor DiagramRenderer::Private::drawn(const QColor &stated, double contrast) const
 {
-    return lightGround ? legibleOn(stated, ground(stated), contrast) : stated;
+    if (!lightGround) {
+        return stated;
+    }
+    const QColor light = ground(stated);
+    if (lastDrawn.stated != stated || lastDrawn.ground != light || lastDrawn.contrast != contrast) {
+        lastDrawn = {stated, light, contrast, legibleOn(stated, light, contrast)};
+    }
+    return lastDrawn.drawn;
 }
 
 QColor DiagramRenderer::Private::drawnLineColor() const

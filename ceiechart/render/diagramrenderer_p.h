@@ -100,6 +100,16 @@ public:
     QColor groundColor; //!< set by setGraphColor()
     bool lightGround = false;
     double pixelRatio = 1.0;
+
+    /*! \brief The last result of drawn(): the locus edge alone asks for the same one hundreds of times. */
+    struct Drawn {
+        QColor stated;
+        QColor ground;
+        double contrast = 0.0;
+        QColor drawn;
+    };
+    mutable Drawn lastDrawn;
+
     QList<QPointF> colorTemperaturePoints;
     QList<CEIAtlasValue::CEIAtlasCoordinate> locus;
     QList<CEIAtlasValue::CEITemperatureCoordinate> planckianPoints;

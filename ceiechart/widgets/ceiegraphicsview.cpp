@@ -70,7 +70,7 @@ void CEIEGraphicsView::Private::addTarget(
 
 void CEIEGraphicsView::Private::colorMessage()
 {
-    if (!scene) {
+    if (!scene || mixInfoLabel->text().isEmpty()) {
         return;
     }
     // The palette's own text colour is made for the ground of windows. The picture can be translucent.
