@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/picturekey.h"
 
+#include "display/gamutfiles.h"
+
 #include <ceiechart/diagram/diagrampainter.h>
 
 #include <QFontMetricsF>
