@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "descriptionreader_p.h"
 
-#include <cmath>
-#include <limits>
 #include <utility>
 
 namespace gamutfiles {
@@ -86,17 +84,6 @@ Model::Target DescriptionReader::readBlack(const Node &node)
     }
     checkObject(node, {{QStringLiteral("Y"), true}});
     return Model::Target();
-}
-
-int DescriptionReader::readWhole(const Node &node)
-{
-    const double number = readNumber(node);
-    const bool isWhole = number == std::floor(number) && number >= double(std::numeric_limits<int>::min())
-        && number <= double(std::numeric_limits<int>::max());
-    if (!isWhole) {
-        fail(node, tr("expected a whole number"));
-    }
-    return isWhole ? int(number) : 0;
 }
 
 } // namespace gamutfiles
