@@ -16,8 +16,6 @@ namespace gamutfiles {
 
 namespace {
 
-constexpr double roundingTolerance = 0.0005;
-
 using Failure = Outcome<Model::ColorGamut>;
 
 struct PrimariesText {
@@ -27,11 +25,11 @@ struct PrimariesText {
 //! Moves \a xy by no more than rounding may have moved it.
 QPointF withoutRounding(QPointF xy)
 {
-    if (xy.x() < 0.0 && xy.x() > -roundingTolerance) {
+    if (xy.x() < 0.0 && xy.x() > -chromaticityRounding) {
         xy.setX(0.0);
     }
     const double sum = xy.x() + xy.y();
-    if (sum > 1.0 && sum < 1.0 + roundingTolerance) {
+    if (sum > 1.0 && sum < 1.0 + chromaticityRounding) {
         xy.setX(1.0 - xy.y());
     }
     return xy;

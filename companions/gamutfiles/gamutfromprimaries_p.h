@@ -18,6 +18,9 @@ struct Primaries {
     QPointF white;
 };
 
+/*! \brief How far a chromaticity may lie beyond a limit because a file has few digits of it. */
+constexpr double chromaticityRounding = 0.0005;
+
 /*! \brief Which chromaticities primaries may have. */
 enum class PrimariesOf {
     Display, //!< those of light: x >= 0, y > 0, x + y <= 1
@@ -37,7 +40,8 @@ bool isPrimary(const QPointF &xy, PrimariesOf kind);
  * \brief The gamut whose primaries mix to a white of luminance \a whiteLuminance, checked as a file may hold anything.
  *
  * A failure names what is not a chromaticity (as \a kind has it, of which rounding to a file's precision may have
- * taken up to 0.0005; the white is always that of a light), primaries that span no triangle, and a white outside of it.
+ * taken up to chromaticityRounding; the white is always that of a light), primaries that span no triangle, and a white
+ * outside of it.
  */
 Outcome<Model::ColorGamut> gamutFromPrimaries(
     const QString &name, Primaries primaries, double whiteLuminance, PrimariesOf kind = PrimariesOf::Display);
