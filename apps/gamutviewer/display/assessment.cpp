@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "display/assessment.h"
 
+#include "display/assessmentparts.h"
 #include "display/valuetexts.h"
+#include "display/wallassessment.h"
 
 #include <ceiechart/diagram/whitepoint.h>
 #include <gamutmodel/gamutcoverage.h>
@@ -29,26 +31,6 @@ struct AssessmentText {
     Q_DECLARE_TR_FUNCTIONS(gamutviewer::Assessment)
 };
 
-Model::DiagramPoint pointOf(const Model::Target &target)
-{
-    return {target.x, target.y};
-}
-
-Vertex vertexOf(Model::Primary primary)
-{
-    return primary == Model::Primary::Red  ? Vertex::Red
-        : primary == Model::Primary::Green ? Vertex::Green
-                                           : Vertex::Blue;
-}
-
-QString capitalised(QString text)
-{
-    if (!text.isEmpty()) {
-        text[0] = text.at(0).toUpper();
-    }
-    return text;
-}
-
 QString displayName(const KnownDisplay &display)
 {
     return display.isMeasured ? AssessmentText::tr("measured gamut") : AssessmentText::tr("original");
@@ -57,20 +39,6 @@ QString displayName(const KnownDisplay &display)
 QString handleName(Vertex vertex)
 {
     return AssessmentText::tr("handle “%1” of the target").arg(gamutVertexName(vertex));
-}
-
-QString pointText(const Model::DiagramPoint &point)
-{
-    return QStringLiteral("%1, %2").arg(
-        fixedText(point.x, chromaticityDecimals), fixedText(point.y, chromaticityDecimals));
-}
-
-//! Of \a luminance no more than it is, but for rounding, so that what is shown can be reached.
-QString reachableText(double luminance, LuminanceUnit unit)
-{
-    constexpr double rounding = 1e-6;
-    const double step = std::fabs(luminance) < 10.0 ? 1e4 : 10.0;
-    return luminanceText(std::floor(luminance * step + rounding) / step, unit);
 }
 
 QString drivesText(const Model::Drive &drive)
@@ -124,59 +92,6 @@ Model::DeviationValues rounded(Model::DeviationValues values)
     return values;
 }
 
-//! A distance that is not 0 in Δu′v′, so that it does not look like 0 either.
-QString distanceText(double distance)
-{
-    constexpr int most = 6;
-    int decimals = 4;
-    while (decimals < most && fixedText(distance, decimals) == fixedText(0.0, decimals)) {
-        ++decimals;
-    }
-    return fixedText(distance, decimals);
-}
-
-double highest(const Model::Drive &drive)
-{
-    return std::max({drive.red, drive.green, drive.blue});
-}
-
-bool compare(LuminanceUnit a, LuminanceUnit b)
-{
-    // The scales of two relative ones need not be the same: 100 here can be 1 there.
-    return a == LuminanceUnit::CandelaPerSquareMetre && b == LuminanceUnit::CandelaPerSquareMetre;
-}
-
-QString unitPhrase(LuminanceUnit unit)
-{
-    switch (unit) {
-    case LuminanceUnit::CandelaPerSquareMetre:
-        return AssessmentText::tr("in cd/m²");
-    case LuminanceUnit::Relative:
-        return AssessmentText::tr("relative");
-    case LuminanceUnit::NotKnown:
-        break;
-    }
-    return AssessmentText::tr("in a unit that is not known");
-}
-
-//! Why luminances of the target and of \a other cannot be compared, and what to do.
-QString incomparableText(LuminanceUnit target, LuminanceUnit other, const QString &otherName)
-{
-    const QString why = target == LuminanceUnit::Relative && other == LuminanceUnit::Relative
-        ? AssessmentText::tr("The luminances cannot be compared: those of the target and those of the %1 are relative, "
-                             "and their scales need not be the same.")
-              .arg(otherName)
-        : AssessmentText::tr("The luminances cannot be compared: those of the target are %1, those of "
-                             "the %2 %3.")
-              .arg(unitPhrase(target), otherName, unitPhrase(other));
-    const QString what = other == LuminanceUnit::NotKnown
-        ? AssessmentText::tr("State the unit of the %1 in its file.").arg(otherName)
-        : other == LuminanceUnit::Relative
-        ? AssessmentText::tr("It takes luminances of the %1 in cd/m².").arg(otherName)
-        : AssessmentText::tr("Choose the unit of the target beside Y.");
-    return why + QLatin1Char(' ') + what;
-}
-
 //! The gamut with the largest area in u′, v′ that could be the target instead; nothing without one.
 QString otherTarget(const DisplayDescription &description)
 {
@@ -197,32 +112,6 @@ QString otherTarget(const DisplayDescription &description)
         }
     }
     return best;
-}
-
-//! A display whose white is held against the mixture of its primaries.
-struct Additivity {
-    Model::Target sum; //!< of the primaries
-    bool isAdditive = false; //!< whether the white is that sum
-    bool isUpperBound = false; //!< whether the display shows no more than the sum: no primary is brighter in the white
-    bool differsInLuminance = false; //!< whether the luminance is what is not additive
-};
-
-//! Of \a drive, which has no fault, with the colours of \a display.
-Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Targets &display)
-{
-    Additivity result;
-    const auto sum = drive.lightAt({1.0, 1.0, 1.0});
-    if (!sum) {
-        return result;
-    }
-    result.sum = *sum;
-    constexpr double rounding = 1e-9;
-    result.differsInLuminance = !(std::fabs(display.white.Y - sum->Y) <= sum->Y * (additiveLuminance + rounding));
-    const auto difference = Model::uvDifference(display.white, *sum);
-    result.isAdditive = !result.differsInLuminance && difference && *difference <= additiveUv + rounding;
-    const auto white = drive.driveOf(display.white);
-    result.isUpperBound = result.isAdditive || (white && highest(*white) <= 1.0 + additiveLuminance + rounding);
-    return result;
 }
 
 /*! \brief Makes the lines of an assessment. */
@@ -275,7 +164,7 @@ private:
                     "What the display is to show is not known: nobody has chosen a target. Choose one, or edit the "
                     "default."));
         }
-        if (m_result.displays.empty()) {
+        if (m_result.displays.empty() && m_description.wall.cabinets.empty()) {
             add(Subject::Display, Judgement::NotKnown,
                 AssessmentText::tr("What the display can show is not known: no gamut of the display is known, neither "
                                    "its original nor a measured one."));
@@ -288,6 +177,22 @@ private:
             judgeDisplay();
         }
         m_current = nullptr;
+        judgeWall();
+    }
+
+    void judgeWall()
+    {
+        if (m_description.wall.cabinets.empty()) {
+            return;
+        }
+        const WallAssessment wall = assessWall(m_description.wall, *m_target);
+        add(Subject::Wall, wall.judgement, AssessmentText::tr("%1.", "a sentence").arg(wall.headline));
+        for (const WallLine &line : wall.lines) {
+            if (line.judgement) {
+                add(Subject::Wall, *line.judgement, line.text);
+            }
+        }
+        m_result.wall = std::make_shared<const WallAssessment>(wall);
     }
 
     void judgeDisplay()
@@ -315,7 +220,7 @@ private:
                 addOutside(primary, distance, other);
             }
         }
-        const auto distance = whiteDistance();
+        const auto distance = distanceFrom(displayTargets(), target.white);
         constexpr double rounding = 1e-9;
         if (!distance) {
             add(Subject::Gamut, Judgement::NotKnown,
@@ -328,14 +233,6 @@ private:
             add(Subject::Gamut, Judgement::Pass,
                 AssessmentText::tr("All primaries and the white lie inside of the %1.").arg(name));
         }
-    }
-
-    //! Of the white from the triangle, in Δu′v′: it takes no luminances. Nothing without a chromaticity.
-    std::optional<double> whiteDistance() const
-    {
-        const Model::Target &white = m_target->getTargets().white;
-        const auto nearest = Model::nearestPoint(displayTargets(), pointOf(white), Model::Diagram::Cie1976);
-        return nearest ? Model::uvDifference(Model::Target::fromYxy(1.0, nearest->x, nearest->y), white) : std::nullopt;
     }
 
     void addOutside(Vertex vertex, double distance, const QString &other)
@@ -370,9 +267,9 @@ private:
             return;
         }
         const Model::Target &white = m_target->getTargets().white;
-        const Additivity additivity = additivityOf(displayDrive, displayTargets());
+        const Additivity additivity = additivityOf(displayDrive, displayTargets().white);
         const auto largest = displayDrive.largestLuminance(pointOf(white));
-        m_current->luminancesCompare = compare(m_target->unit, display.gamut.unit);
+        m_current->luminancesCompare = luminancesCompare(m_target->unit, display.gamut.unit);
         if (additivity.isAdditive) {
             m_current->largestWhite = largest;
         }
@@ -503,7 +400,7 @@ private:
         const Model::Tolerances &limits = m_tolerances->limits;
         Model::DeviationValues values;
         if (m_measured && m_target) {
-            const bool isSame = compare(m_measured->unit, m_target->unit);
+            const bool isSame = luminancesCompare(m_measured->unit, m_target->unit);
             values = Model::deviations(m_measured->getTargets(), m_target->getTargets(),
                 isSame ? Model::LuminanceUnits::Same : Model::LuminanceUnits::Different, m_tolerances->coverageDiagram);
             const Model::Target &is = m_measured->getTargets().white;
@@ -538,7 +435,7 @@ private:
         if (!m_target) {
             return AssessmentText::tr("there is no target. Choose one.");
         }
-        if (subject == Model::ToleranceSubject::Luminance && !compare(m_measured->unit, m_target->unit)) {
+        if (subject == Model::ToleranceSubject::Luminance && !luminancesCompare(m_measured->unit, m_target->unit)) {
             return incomparableText(m_target->unit, m_measured->unit, AssessmentText::tr("measured gamut"));
         }
         if (subject == Model::ToleranceSubject::Temperature) {

@@ -145,6 +145,8 @@ QString subjectName(AssessmentLine::Subject subject)
         return QStringLiteral("gamut");
     case AssessmentLine::Subject::Luminance:
         return QStringLiteral("luminance");
+    case AssessmentLine::Subject::Wall:
+        return QStringLiteral("wall");
     case AssessmentLine::Subject::Tolerance:
         break;
     }
