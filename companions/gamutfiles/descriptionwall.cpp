@@ -45,7 +45,8 @@ WallCabinet DescriptionReader::readCabinet(const Node &node)
     if (!checkObject(node,
             {{QStringLiteral("name"), false}, {QStringLiteral("row"), false}, {QStringLiteral("column"), false},
                 {QStringLiteral("red"), true}, {QStringLiteral("green"), true}, {QStringLiteral("blue"), true},
-                {QStringLiteral("white"), false}, {QStringLiteral("black"), false}})) {
+                {QStringLiteral("white"), false}, {QStringLiteral("black"), false},
+                {QStringLiteral("leftOut"), false}})) {
         return cabinet;
     }
     const auto optional = [this, &node](const QString &key, auto read) {
@@ -66,6 +67,8 @@ WallCabinet DescriptionReader::readCabinet(const Node &node)
     cabinet.blue = color(member(node, QStringLiteral("blue")));
     cabinet.white = optional(QStringLiteral("white"), color);
     cabinet.black = optional(QStringLiteral("black"), [this](const Node &of) { return readBlack(of); });
+    const Node leftOut = member(node, QStringLiteral("leftOut"));
+    cabinet.isLeftOut = checkType(leftOut, QJsonValue::Bool) && leftOut.value.toBool();
     return cabinet;
 }
 
