@@ -15,6 +15,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 
 namespace gamutviewer {
 
@@ -146,11 +147,14 @@ void keepOnly(std::size_t cabinet, Corrected &corrected)
     }
 }
 
-bool showsTarget(const Model::CorrectionMatrix &matrix)
+//! Whether nothing that is shown of a number remains between the target and what a cabinet shows of it.
+bool showsTarget(const Model::DeviationValues &remaining)
 {
-    const Model::Drive white = matrix.driveFor({1.0, 1.0, 1.0});
-    return Model::entriesBelowZero(matrix).empty() && Model::entriesAboveOne(matrix).empty()
-        && !Model::isTooBright(white);
+    constexpr double noticeableUv = 0.00005;
+    constexpr double noticeableLuminance = fullDrive - 1.0;
+    const auto isSmall = [](const std::optional<double> &uv) { return uv && *uv < noticeableUv; };
+    return isSmall(remaining.whiteUv) && isSmall(remaining.redUv) && isSmall(remaining.greenUv)
+        && isSmall(remaining.blueUv) && remaining.luminance && std::fabs(*remaining.luminance) < noticeableLuminance;
 }
 
 QStringList notesOn(const Corrected &corrected, bool isWall)
@@ -168,10 +172,10 @@ QStringList notesOn(const Corrected &corrected, bool isWall)
     std::vector<std::size_t> beyond;
     std::vector<std::size_t> without;
     for (std::size_t i = 0; i < corrected.solved.corrections.size(); ++i) {
-        const auto &matrix = corrected.solved.corrections[i].matrix;
-        if (!matrix) {
+        const Model::Correction &correction = corrected.solved.corrections[i];
+        if (!correction.matrix) {
             without.push_back(i);
-        } else if (!showsTarget(*matrix)) {
+        } else if (!showsTarget(correction.remaining)) {
             beyond.push_back(i);
         }
     }
@@ -278,17 +282,28 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
         return Failure::failure(target ? CommandText::tr("there is no wall to fit the target to")
                                        : CommandText::tr("there is no target to fit to the wall"));
     }
-    const WallAssessment assessment = assessWall(description.wall, *target);
-    const auto fitted = fittedToWall(*target, assessment);
+    FittedTarget result{description, {}};
+    auto wanted = target;
+    const auto largestWhite = assessWall(description.wall, *target).largestWhite;
+    if (target->unit == LuminanceUnit::Relative && description.wall.unit == LuminanceUnit::CandelaPerSquareMetre
+        && largestWhite) {
+        result.description = withLuminanceUnit(description, description.wall.unit, largestWhite->luminance);
+        wanted = result.description.gamut(result.description.target);
+        result.notes.append(CommandText::tr("the luminance of the target is relative; its white is taken at %1, the "
+                                            "largest that all cabinets reach")
+                                .arg(luminanceText(largestWhite->luminance, description.wall.unit)));
+    }
+    const WallAssessment assessment = assessWall(description.wall, *wanted);
+    const auto fitted = fittedToWall(*wanted, assessment);
     if (!fitted) {
         const QString problem = fitProblem(description.wall, assessment);
         if (!problem.isEmpty()) {
             return Failure::failure(problem);
         }
-        return FittedTarget{
-            description, {CommandText::tr("the target fits the wall as it is, as far as that is known")}};
+        result.notes.append(CommandText::tr("the target fits the wall as it is, as far as that is known"));
+        return result;
     }
-    FittedTarget result{withEditedTarget(description, *fitted), {}};
+    result.description = withEditedTarget(result.description, *fitted);
     const struct {
         const Model::FittedPrimary &primary;
         QString name;
@@ -306,10 +321,10 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
         result.notes.append(CommandText::tr("fitted to the wall, the target has moved towards its white: %1")
                                 .arg(parts.join(QStringLiteral(", "))));
     }
-    if (fitted->white.Y != target->getTargets().white.Y) {
+    if (fitted->white.Y != wanted->getTargets().white.Y) {
         result.notes.append(CommandText::tr("fitted to the wall, the target has a white of %1 instead of %2")
-                                .arg(luminanceText(fitted->white.Y, target->unit),
-                                    luminanceText(target->getTargets().white.Y, target->unit)));
+                                .arg(luminanceText(fitted->white.Y, wanted->unit),
+                                    luminanceText(wanted->getTargets().white.Y, wanted->unit)));
     }
     return result;
 }
