@@ -147,15 +147,36 @@ void keepOnly(std::size_t cabinet, Corrected &corrected)
     }
 }
 
-//! Whether nothing that is shown of a number remains between the target and what a cabinet shows of it.
-bool showsTarget(const Model::DeviationValues &remaining)
-{
-    constexpr double noticeableUv = 0.00005;
-    constexpr double noticeableLuminance = fullDrive - 1.0;
-    const auto isSmall = [](const std::optional<double> &uv) { return uv && *uv < noticeableUv; };
-    return isSmall(remaining.whiteUv) && isSmall(remaining.redUv) && isSmall(remaining.greenUv)
-        && isSmall(remaining.blueUv) && remaining.luminance && std::fabs(*remaining.luminance) < noticeableLuminance;
-}
+//! What remains between the target and what cabinets show of it with their corrections.
+class Remainder {
+public:
+    //! Returns whether there is any that can be noticed in the digits that are shown.
+    bool add(const Model::DeviationValues &remaining)
+    {
+        constexpr double noticeableUv = 0.00005;
+        constexpr double noticeableLuminance = fullDrive - 1.0;
+        double uv = 0.0;
+        for (const auto &color : {remaining.whiteUv, remaining.redUv, remaining.greenUv, remaining.blueUv}) {
+            uv = std::max(uv, color.value_or(0.0));
+        }
+        const double luminance = std::fabs(remaining.luminance.value_or(0.0));
+        if (uv < noticeableUv && luminance < noticeableLuminance) {
+            return false;
+        }
+        m_uv = std::max(m_uv, uv);
+        m_luminance = std::max(m_luminance, luminance);
+        return true;
+    }
+    QString text() const
+    {
+        return CommandText::tr("Δu′v′ %1 and %2 of the luminance", "how much remains")
+            .arg(fixedText(m_uv, chromaticityDecimals), percent(m_luminance));
+    }
+
+private:
+    double m_uv = 0.0;
+    double m_luminance = 0.0;
+};
 
 QStringList notesOn(const Corrected &corrected, bool isWall)
 {
@@ -169,13 +190,14 @@ QStringList notesOn(const Corrected &corrected, bool isWall)
                                               "reaches, as the luminance of the target cannot be compared with it")
                                   .arg(white));
     }
+    Remainder remainder;
     std::vector<std::size_t> beyond;
     std::vector<std::size_t> without;
     for (std::size_t i = 0; i < corrected.solved.corrections.size(); ++i) {
         const Model::Correction &correction = corrected.solved.corrections[i];
         if (!correction.matrix) {
             without.push_back(i);
-        } else if (!showsTarget(correction.remaining)) {
+        } else if (remainder.add(correction.remaining)) {
             beyond.push_back(i);
         }
     }
@@ -184,8 +206,9 @@ QStringList notesOn(const Corrected &corrected, bool isWall)
     }
     if (!beyond.empty()) {
         notes.append(
-            CommandText::tr("cabinets that do not show the target even so, as drives are below 0 or above 1: %1")
-                .arg(namesOf(corrected.wall, beyond)));
+            CommandText::tr("cabinets that differ from the target even so, by up to %1, as they cannot show all "
+                            "of it: %2")
+                .arg(remainder.text(), namesOf(corrected.wall, beyond)));
     }
     if (!corrected.notAdditive.empty()) {
         notes.append(CommandText::tr("cabinets whose measured white is not the sum of their primaries, for which the "
