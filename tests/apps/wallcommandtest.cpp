@@ -34,6 +34,7 @@ private Q_SLOTS:
     void tablesOfOneDisplay();
     void fitsTheTarget();
     void wallOfADescription();
+    void wallAmongTheFiles();
     void wallTakesThePlaceOfAnother();
     void targetsByName();
     void commandLine_data();
@@ -350,6 +351,31 @@ void WallCommandTest::wallOfADescription()
     // As the description itself.
     const Result alone = run({"wall.json", "--target", "Rec.709", "--corrections", "e.csv"});
     QVERIFY2(alone.exitCode == 0, alone.error);
+    QCOMPARE(run({"wall.json", "--target", "Rec.709", "--cabinet", "A2", "--corrections", "f.csv"}).exitCode, 0);
+    QVERIFY(read("f.csv").contains("\nA2,1,2,") && !read("f.csv").contains("\nA1,1,1,"));
+}
+
+// Without a window nobody can be asked what a list of several cabinets is.
+void WallCommandTest::wallAmongTheFiles()
+{
+    QCOMPARE(run({"stage.json", "--wall", "wall.csv", "--corrections", "a.csv"}).exitCode, 0);
+    const Result result = run({"stage.json", "wall.csv", "--check", "--corrections", "b.csv"});
+    QVERIFY2(result.exitCode == 0, result.output + result.error);
+    QCOMPARE(result.error, QByteArray());
+    QVERIFY(read("a.csv").size() > 500);
+    QCOMPARE(read("b.csv"), read("a.csv"));
+    QCOMPARE(run({"stage.json", "wall.csv", "--cabinet", "A2", "--corrections", "c.csv"}).exitCode, 0);
+    QVERIFY(read("c.csv").contains("\nA2,1,2,") && !read("c.csv").contains("\nA1,1,1,"));
+    // One cabinet that is chosen is a display.
+    write("white.csv", wallList + "A1,1,1,white,0.28,0.30,1029.3\nA2,1,2,white,0.28,0.30,1026.5\n");
+    const Result one = run({"white.csv", "--cabinet", "A2", "--report", "json"});
+    QVERIFY2(one.output.contains("\"measured\"") && !one.output.contains("\"wall\""), one.output);
+    // Two lists could both be the wall.
+    write("other.csv", wallList);
+    QCOMPARE(run({"wall.csv", "other.csv", "--report", "json"}).exitCode, 5);
+    QCOMPARE(wallAmong({path("other.csv"), path("wall.csv")}, {}), QString());
+    QCOMPARE(
+        wallAmong({path("none.csv"), path("wall.csv"), path("stage.json"), "-", "/dev/null"}, {}), path("wall.csv"));
 }
 
 void WallCommandTest::wallTakesThePlaceOfAnother()

@@ -8,6 +8,7 @@
 
 #include <gamutfiles/correctionsfile.h>
 #include <gamutfiles/cubepair.h>
+#include <gamutfiles/filebytes.h>
 #include <gamutmodel/publishedgamuts.h>
 
 #include <QCoreApplication>
@@ -280,6 +281,26 @@ Outcome<OpenedFiles> withWall(const OpenedFiles &opened, const QString &fileName
     result.description.wall = wall;
     result.fileNames.append(fileName);
     return result;
+}
+
+QString wallAmong(const QStringList &fileNames, MeasurementOptions options)
+{
+    options.cabinet.clear();
+    QStringList found;
+    for (const QString &fileName : fileNames) {
+        if (isStandardInput(fileName) || !QFileInfo(fileName).isFile()) {
+            continue;
+        }
+        const auto file = readGamutFile(fileName, options);
+        if (!file || file->content != GamutFile::Content::Measurements) {
+            continue;
+        }
+        const auto wall = wallFromMeasurements(file->measurements);
+        if (wall && wall->cabinets.size() > 1) {
+            found.append(fileName);
+        }
+    }
+    return found.size() == 1 ? found.first() : QString();
 }
 
 Outcome<DisplayDescription> withChosenTarget(const DisplayDescription &description, const QString &gamutName)
