@@ -113,12 +113,31 @@ void hover(benchmark::State &state, const QSize &screen)
     }
 }
 
-void drag(
-    benchmark::State &state, const QSize &screen, ceiechart::HorseshoeColors colors, ceiechart::GamutVertex vertex)
+//! Names on all sides of \a xy, so that the label at what is dragged there has to be looked for a place.
+void crowd(ceiechart::DiagramView &view, const QPointF &xy)
+{
+    QVector<ceiechart::DiagramMark> marks;
+    constexpr int reach = 2;
+    for (int row = -reach; row <= reach; ++row) {
+        for (int column = -reach; column <= reach; ++column) {
+            const QPointF way(90.0 * column, 35.0 * row); // logical pixels
+            marks.append({xy + way / view.viewport().scale(), QStringLiteral("cabinet")});
+        }
+    }
+    view.setMeasurePoints(marks);
+}
+
+void drag(benchmark::State &state, const QSize &screen, ceiechart::HorseshoeColors colors,
+    ceiechart::GamutVertex vertex, bool isCrowded)
 {
     Desk desk(screen, colors);
     const Model::Targets targets = Model::dciP3D65().getTargets();
-    const QPointF start = desk.view().viewport().toPosition(ceiechart::xyOf(ceiechart::targetAt(targets, vertex)));
+    const QPointF held = ceiechart::xyOf(ceiechart::targetAt(targets, vertex));
+    const QPointF start = desk.view().viewport().toPosition(held);
+    if (isCrowded) {
+        crowd(desk.view(), held);
+        paintWhatIsDue();
+    }
     desk.mouse(QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
     int step = 0;
     for (auto _ : state) {
@@ -181,9 +200,10 @@ int main(int argc, char **argv)
         const QString hands = QStringLiteral("hands %1/").arg(size);
         add(hands + "plain", showPicture, screen);
         add(hands + "hover", hover, screen);
-        add(hands + "drag green, dimmed", drag, screen, HorseshoeColors::Dimmed, GamutVertex::Green);
-        add(hands + "drag green, full", drag, screen, HorseshoeColors::Full, GamutVertex::Green);
-        add(hands + "drag white", drag, screen, HorseshoeColors::Dimmed, GamutVertex::White);
+        add(hands + "drag green, dimmed", drag, screen, HorseshoeColors::Dimmed, GamutVertex::Green, false);
+        add(hands + "drag green, full", drag, screen, HorseshoeColors::Full, GamutVertex::Green, false);
+        add(hands + "drag white", drag, screen, HorseshoeColors::Dimmed, GamutVertex::White, false);
+        add(hands + "drag green, crowded", drag, screen, HorseshoeColors::Dimmed, GamutVertex::Green, true);
         const QString view = QStringLiteral("view %1/").arg(size);
         add(view + "plain", fillPlain, screen);
         add(view + "pan", pan, screen, 1.0);

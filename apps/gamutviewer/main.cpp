@@ -53,7 +53,7 @@ ReportNotes notesOf(const OpenedFiles &opened)
     for (const FileWarning &warning : opened.warnings) {
         notes.warnings.append(warning.message());
     }
-    notes.facts = opened.facts;
+    static_cast<FileNotes &>(notes) = opened.notes;
     return notes;
 }
 

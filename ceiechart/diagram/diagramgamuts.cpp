@@ -25,7 +25,7 @@ constexpr std::array drawingOrder{
 
 } // namespace
 
-DiagramGamuts::DiagramGamuts(const DiagramSheet &sheet, const LabelPlaces &places)
+DiagramGamuts::DiagramGamuts(const DiagramSheet &sheet)
     : m_sheet(sheet)
     , m_content(sheet.content)
     , m_palette(sheet.palette())
@@ -33,7 +33,6 @@ DiagramGamuts::DiagramGamuts(const DiagramSheet &sheet, const LabelPlaces &place
     , m_plot(sheet.viewport.plot())
     , m_inner(m_plot.adjusted(labelGap, labelGap, -labelGap, -labelGap))
 {
-    m_step.places = places;
     for (const GamutRole role : drawingOrder) {
         for (int i = 0; i < m_content.gamuts.size(); ++i) {
             const DiagramGamut &gamut = m_content.gamuts.at(i);
@@ -63,9 +62,17 @@ DiagramStep DiagramGamuts::takeUnedited()
     return std::move(m_step);
 }
 
-DiagramStep DiagramGamuts::takeEdited(const QVector<PendingNumber> &isotherms)
+DiagramStep DiagramGamuts::takeEdited(const DiagramStep &scale)
 {
-    placeIsotherms(isotherms);
+    m_step.places = scale.places;
+    m_handles = handles();
+    placeWavelengths(scale.wavelengths);
+    if (m_sheet.shows(DiagramLayer::Rings)) {
+        for (const DiagramRings &rings : m_content.rings) {
+            placeRings(rings);
+        }
+    }
+    placeIsotherms(scale.isotherms);
     drawCommonArea();
     if (m_sheet.shows(DiagramLayer::LostArea)) {
         drawLostArea();
@@ -77,10 +84,8 @@ DiagramStep DiagramGamuts::takeEdited(const QVector<PendingNumber> &isotherms)
             drawOutline(i, true);
         }
     }
-    if (m_sheet.shows(DiagramLayer::Rings)) {
-        for (const DiagramRings &rings : m_content.rings) {
-            drawRings(rings);
-        }
+    for (const Ring &ring : m_rings) {
+        drawRing(ring);
     }
     if (m_sheet.shows(DiagramLayer::Trail)) {
         drawTrail();
@@ -203,14 +208,14 @@ void DiagramGamuts::drawLostArea()
     m_step.drawing.lines(hatch, QPen(m_palette.hatch, 1.0, Qt::SolidLine, Qt::FlatCap));
 }
 
-DiagramStep gamutsStep(const DiagramSheet &sheet, const LabelPlaces &places)
+DiagramStep gamutsStep(const DiagramSheet &sheet)
 {
-    return DiagramGamuts(sheet, places).takeUnedited();
+    return DiagramGamuts(sheet).takeUnedited();
 }
 
-DiagramStep editedStep(const DiagramSheet &sheet, const LabelPlaces &places, const QVector<PendingNumber> &isotherms)
+DiagramStep editedStep(const DiagramSheet &sheet, const DiagramStep &scale)
 {
-    return DiagramGamuts(sheet, places).takeEdited(isotherms);
+    return DiagramGamuts(sheet).takeEdited(scale);
 }
 
 } // namespace ceiechart

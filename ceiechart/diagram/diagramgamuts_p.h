@@ -17,12 +17,12 @@ constexpr double whiteArm = 4.0; // of the cross through the target's white
 /*! \brief Lays out what lies over the scale: gamuts, marks and their names. */
 class DiagramGamuts {
 public:
-    DiagramGamuts(const DiagramSheet &sheet, const LabelPlaces &places);
+    explicit DiagramGamuts(const DiagramSheet &sheet);
 
     /*! \brief The outlines that no edit of a target changes. */
     DiagramStep takeUnedited();
-    /*! \brief The rest, with the numbers of \a isotherms where they cover no mark. */
-    DiagramStep takeEdited(const QVector<PendingNumber> &isotherms);
+    /*! \brief The rest, with the numbers that \a scale has left to be placed. */
+    DiagramStep takeEdited(const DiagramStep &scale);
 
 private:
     struct Shown {
@@ -30,6 +30,12 @@ private:
         GamutRole role;
         QPolygonF corners;
         bool isCovered = false; // by the equal outline of another gamut of the role, which looks the same
+    };
+
+    struct Ring {
+        QPointF centre; // u', v'
+        double radius; // there, too
+        QPolygonF curve;
     };
 
     // Outlines and areas, in diagramgamuts.cpp
@@ -48,15 +54,20 @@ private:
     bool isSeen(const QPointF &at, double radius) const;
     static QRectF around(const QPointF &at, double reach);
     QPointF whiteOf(const Shown &gamut) const;
-    void drawRings(const DiagramRings &rings);
+    //! Lays out \a rings and places their numbers.
+    void placeRings(const DiagramRings &rings);
+    void drawRing(const Ring &ring);
+    //! Whether the line of some ring meets \a place.
+    bool isOnRing(const QRectF &place) const;
     void drawTrail();
     void drawMarks();
     void drawMark(const DiagramMark &mark, const QPainterPath &shape, const QColor &color);
     void drawWhites();
 
     // Texts, in diagramnames.cpp
-    //! Where a target has its handles.
+    //! What the handles of a target may cover.
     QVector<QRectF> handles() const;
+    void placeWavelengths(const QVector<PendingNumber> &wavelengths);
     //! What numbers must leave to be seen: marks, whites and handles.
     QVector<QRectF> clearOfNumbers() const;
     void drawIsothermNumber(const QString &number, const QRectF &place);
@@ -71,7 +82,7 @@ private:
     //! How much \a place would cover.
     int covered(const QRectF &place) const;
     //! Where a name of the size \a text covers least; null where it has no place.
-    QRectF bestPlace(const Shown &gamut, const QSizeF &text, const QVector<QRectF> &handles) const;
+    QRectF bestPlace(const Shown &gamut, const QSizeF &text) const;
     void drawNames();
     void drawMarkName(const QPointF &at, const QString &markName);
 
@@ -82,6 +93,8 @@ private:
     QRectF m_plot;
     QRectF m_inner; // where texts may stand
     std::vector<Shown> m_shown; // from bottom to top
+    QVector<QRectF> m_handles;
+    std::vector<Ring> m_rings;
     QVector<QRectF> m_marks;
     std::vector<std::pair<QPointF, QString>> m_named; // marks, with their names as they were given
     DiagramStep m_step;

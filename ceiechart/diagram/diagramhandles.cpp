@@ -30,6 +30,14 @@ std::optional<GamutVertex> DiagramView::Private::handleAt(const QPointF &positio
     return nearest;
 }
 
+std::optional<GamutVertex> DiagramView::Private::handleBelowPointer() const
+{
+    if (!pointer || overlay.handles.isEmpty()) {
+        return std::nullopt;
+    }
+    return hand == Hand::Idle ? handleAt(*pointer) : hovered;
+}
+
 QPointF DiagramView::Private::positionOf(GamutVertex vertex) const
 {
     const DiagramGamut *gamut = target();

@@ -77,47 +77,80 @@ QPointF DiagramGamuts::whiteOf(const Shown &gamut) const
     return m_sheet.viewport.toPosition(xyOf(m_content.gamuts.at(gamut.index).gamut.getTargets().white));
 }
 
-void DiagramGamuts::drawRings(const DiagramRings &rings)
+void DiagramGamuts::placeRings(const DiagramRings &rings)
 {
-    const QPointF centre = m_sheet.viewport.toPosition(rings.xy);
-    if (!isFinite(centre)) {
+    const QPointF middle = m_sheet.viewport.toPosition(rings.xy);
+    if (!isFinite(middle)) {
         return;
     }
-    const QColor color = gamutStyle(GamutRole::Target).color;
+    const Model::DiagramPoint centre = Model::toDiagram(Model::Diagram::Cie1976, {rings.xy.x(), rings.xy.y()});
     const TextStyle &style = m_sheet.fonts.numbers;
     for (const double radius : rings.radii) {
         const QPolygonF curve = DiagramPainter::ring(m_sheet.viewport, rings.xy, radius);
         if (curve.isEmpty() || !isFinite(curve)) {
             continue;
         }
-        QPen pen(color, ringWidth, Qt::CustomDashLine, Qt::FlatCap);
-        pen.setDashPattern({5.0, 3.0});
-        const QRectF bounds = curve.boundingRect();
-        if (m_plot.contains(bounds) && m_sheet.viewport.diagram() != Model::Diagram::Cie1931) {
-            // As an ellipse, which files keep as one.
-            m_step.drawing.ellipse(bounds.center(), bounds.width() / 2.0, bounds.height() / 2.0,
-                QPen(m_innerPalette.casing, ringWidth + lineCasing), Qt::NoBrush);
-            m_step.drawing.ellipse(bounds.center(), bounds.width() / 2.0, bounds.height() / 2.0, pen, Qt::NoBrush);
-        } else {
-            drawCased(m_step.drawing, thinned(curve, curvePieces), true, m_plot, pen, m_innerPalette.casing);
-        }
+        m_rings.push_back({QPointF(centre.x, centre.y), radius, curve});
         const QString number = decimal(radius);
         const QSizeF size = style.size(number);
-        if (bounds.height() < 3.2 * size.height()) {
+        if (curve.boundingRect().height() < 3.2 * size.height()) {
             continue;
         }
         const auto ends = std::minmax_element(
             curve.cbegin(), curve.cend(), [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); });
         for (const QPointF &end : {*ends.second, *ends.first}) {
             const QRectF place(end - QPointF(size.width(), size.height()) / 2.0, size);
-            if (m_step.places.isFree(place, m_inner, labelGap)) {
+            const bool isOnHandle = std::any_of(m_handles.cbegin(), m_handles.cend(),
+                [&place](const QRectF &handle) { return handle.intersects(place); });
+            if (!isOnHandle && m_step.places.isFree(place, m_inner, labelGap)) {
                 m_step.places.add(DiagramLabel::Kind::Ring, number, place);
                 drawPlate(place, m_innerPalette);
-                m_step.texts.textIn(place, number, style, color);
+                m_step.texts.textIn(place, number, style, gamutStyle(GamutRole::Target).color);
                 break;
             }
         }
     }
+}
+
+void DiagramGamuts::drawRing(const Ring &ring)
+{
+    QPen pen(gamutStyle(GamutRole::Target).color, ringWidth, Qt::CustomDashLine, Qt::FlatCap);
+    pen.setDashPattern({5.0, 3.0});
+    const QRectF bounds = ring.curve.boundingRect();
+    if (m_plot.contains(bounds) && m_sheet.viewport.diagram() != Model::Diagram::Cie1931) {
+        // As an ellipse, which files keep as one.
+        m_step.drawing.ellipse(bounds.center(), bounds.width() / 2.0, bounds.height() / 2.0,
+            QPen(m_innerPalette.casing, ringWidth + lineCasing), Qt::NoBrush);
+        m_step.drawing.ellipse(bounds.center(), bounds.width() / 2.0, bounds.height() / 2.0, pen, Qt::NoBrush);
+    } else {
+        drawCased(m_step.drawing, thinned(ring.curve, curvePieces), true, m_plot, pen, m_innerPalette.casing);
+    }
+}
+
+bool DiagramGamuts::isOnRing(const QRectF &place) const
+{
+    if (m_rings.empty()) {
+        return false;
+    }
+    // In u', v', where rings are circles and a box has straight sides still.
+    QPolygonF box;
+    for (const QPointF &corner : {place.topLeft(), place.topRight(), place.bottomRight(), place.bottomLeft()}) {
+        const QPointF xy = m_sheet.viewport.toChromaticity(corner);
+        const Model::DiagramPoint uv = Model::toDiagram(Model::Diagram::Cie1976, {xy.x(), xy.y()});
+        box.append(QPointF(uv.x, uv.y));
+    }
+    return std::any_of(m_rings.begin(), m_rings.end(), [&box](const Ring &ring) {
+        double nearest = box.containsPoint(ring.centre, Qt::WindingFill) ? 0.0 : HUGE_VAL;
+        double farthest = 0.0;
+        for (int i = 0; i < box.size(); ++i) {
+            const QPointF from = box.at(i) - ring.centre;
+            const QPointF way = box.at((i + 1) % box.size()) - box.at(i);
+            const double share = std::clamp(-QPointF::dotProduct(from, way) / QPointF::dotProduct(way, way), 0.0, 1.0);
+            nearest = std::min(nearest, length(from + way * share));
+            farthest = std::max(farthest, length(from));
+        }
+        return nearest <= ring.radius && ring.radius <= farthest;
+    });
 }
 
 void DiagramGamuts::drawTrail()

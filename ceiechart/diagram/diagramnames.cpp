@@ -20,10 +20,10 @@ constexpr double platePadding = 4.0; // beside a name
 constexpr double plateRadius = 3.0;
 constexpr double plateOpacity = 0.94; // leaves names a contrast of 3:1 on every colour
 constexpr double namedMarks = 30.0; // least distance of marks that have names beside them
-constexpr double handleRoom = 11.0; // round the corners of a target, where handles are
 constexpr double leaderWidth = 1.0; // from a number to its isotherm
 constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
 constexpr double leastNameShare = 0.2; // of the plot's width, to which names may be shortened
+constexpr int leastLetters = 3; // of a name that is shortened: fewer say nothing
 
 //! On one line: what controls a terminal or breaks a line has no glyph.
 QString onOneLine(QString text)
@@ -43,6 +43,11 @@ QString nameOf(const DiagramGamut &gamut)
     return onOneLine(QString::fromStdString(gamut.gamut.colorGamutName()));
 }
 
+bool meetsAny(const QVector<QRectF> &some, const QRectF &place)
+{
+    return std::any_of(some.cbegin(), some.cend(), [&place](const QRectF &other) { return other.intersects(place); });
+}
+
 //! Whether the line from \a line's first to its second point meets \a area.
 bool meets(const QLineF &line, const QRectF &area)
 {
@@ -57,17 +62,42 @@ QVector<QRectF> DiagramGamuts::handles() const
     for (const Shown &gamut : m_shown) {
         if (gamut.role == GamutRole::Target) {
             for (const QPointF &corner : gamut.corners) {
-                result.append(around(corner, handleRoom));
+                result.append(around(corner, handleExtent));
             }
-            result.append(around(whiteOf(gamut), handleRoom));
+            result.append(around(whiteOf(gamut), handleExtent));
         }
     }
     return result;
 }
 
+void DiagramGamuts::placeWavelengths(const QVector<PendingNumber> &wavelengths)
+{
+    // Only those that have to give way look for room between the others.
+    QVector<PendingNumber> moved;
+    const auto draw = [this](const PendingNumber &number, const QRectF &place) {
+        m_step.places.add(DiagramLabel::Kind::Wavelength, number.text, place);
+        m_step.texts.textIn(place, number.text, m_sheet.fonts.numbers, m_palette.numbers, m_palette.casing);
+    };
+    for (const PendingNumber &number : wavelengths) {
+        if (meetsAny(m_handles, number.places.first())) {
+            moved.append(number);
+        } else {
+            draw(number, number.places.first());
+        }
+    }
+    for (const PendingNumber &number : qAsConst(moved)) {
+        for (const QRectF &place : number.places) {
+            if (!meetsAny(m_handles, place) && m_step.places.isFree(place, m_inner, labelGap)) {
+                draw(number, place);
+                break;
+            }
+        }
+    }
+}
+
 QVector<QRectF> DiagramGamuts::clearOfNumbers() const
 {
-    QVector<QRectF> result = handles();
+    QVector<QRectF> result = m_handles;
     const auto add = [&](DiagramLayer layer, const QVector<DiagramMark> &marks) {
         for (const DiagramMark &mark : m_sheet.shows(layer) ? marks : QVector<DiagramMark>()) {
             const QPointF at = m_sheet.viewport.toPosition(mark.xy);
@@ -116,8 +146,7 @@ bool DiagramGamuts::leadToIsotherm(const PendingNumber &number, const QVector<QR
                 [&](const QRectF &mark) { return length(mark.center() - place.center()) < toMiddle; });
             const double away = toMiddle + (isNearerToOther ? farther : 0.0);
             if (way.length() > labelGap && away < least && m_step.places.isFree(place, m_inner, labelGap)
-                && std::none_of(
-                    clear.cbegin(), clear.cend(), [&place](const QRectF &mark) { return mark.intersects(place); })) {
+                && !meetsAny(clear, place) && !isOnRing(place)) {
                 least = away;
                 best = place;
                 leader = way;
@@ -155,9 +184,8 @@ void DiagramGamuts::placeIsotherms(const QVector<PendingNumber> &isotherms)
     for (const PendingNumber &number : isotherms) {
         for (const QRectF &place : number.places) {
             const auto isNear = [&](const QPointF &other) { return length(other - place.center()) < isothermNumbers; };
-            const auto isCovered = [&](const QRectF &mark) { return mark.intersects(place); };
             if (m_step.places.isFree(place, m_inner, labelGap) && std::none_of(placed.cbegin(), placed.cend(), isNear)
-                && std::none_of(clear.cbegin(), clear.cend(), isCovered)) {
+                && !meetsAny(clear, place) && !isOnRing(place)) {
                 placed.append(place.center());
                 drawIsothermNumber(number.text, place);
                 break;
@@ -242,14 +270,12 @@ int DiagramGamuts::covered(const QRectF &place) const
     return count;
 }
 
-QRectF DiagramGamuts::bestPlace(const Shown &gamut, const QSizeF &text, const QVector<QRectF> &handles) const
+QRectF DiagramGamuts::bestPlace(const Shown &gamut, const QSizeF &text) const
 {
     QRectF best;
     int least = std::numeric_limits<int>::max();
     for (const QRectF &place : namePlaces(gamut, text + QSizeF(2.0 * platePadding, 0.0))) {
-        const bool isOnHandle = std::any_of(
-            handles.cbegin(), handles.cend(), [&place](const QRectF &handle) { return handle.intersects(place); });
-        if (isOnHandle || !m_step.places.isFree(place, m_inner, labelGap)) {
+        if (meetsAny(m_handles, place) || !m_step.places.isFree(place, m_inner, labelGap)) {
             continue;
         }
         const int cost = covered(place);
@@ -266,7 +292,6 @@ QRectF DiagramGamuts::bestPlace(const Shown &gamut, const QSizeF &text, const QV
 
 void DiagramGamuts::drawNames()
 {
-    const QVector<QRectF> handles = this->handles();
     // The target first, as the last is the most likely to find no room.
     for (auto gamut = m_shown.crbegin(); gamut != m_shown.crend(); ++gamut) {
         const QString name = nameOf(m_content.gamuts.at(gamut->index));
@@ -276,12 +301,12 @@ void DiagramGamuts::drawNames()
         const TextStyle &style = gamut->role == GamutRole::Standard ? m_sheet.fonts.texts : m_sheet.fonts.names;
         // What finds no room as a whole is shortened, more and more.
         QString shown = name;
-        QRectF best = bestPlace(*gamut, style.size(shown), handles);
+        QRectF best = bestPlace(*gamut, style.size(shown));
         for (double share = 0.6; best.isNull() && share >= leastNameShare; share -= 0.2) {
             const QString shorter = style.elided(name, share * m_plot.width());
-            if (shorter != shown) {
+            if (shorter != shown && shorter.size() > leastLetters) {
                 shown = shorter;
-                best = bestPlace(*gamut, style.size(shown), handles);
+                best = bestPlace(*gamut, style.size(shown));
             }
         }
         if (!best.isNull()) {
@@ -313,9 +338,8 @@ void DiagramGamuts::drawMarkName(const QPointF &at, const QString &markName)
         const QPointF centre
             = at + QPointF(way.x() * (reach + size.width() / 2.0), way.y() * (reach + size.height() / 2.0));
         const QRectF place(centre - QPointF(size.width(), size.height()) / 2.0, size);
-        const bool coversMark = std::any_of(
-            m_marks.cbegin(), m_marks.cend(), [&place](const QRectF &mark) { return mark.intersects(place); });
-        if (!coversMark && m_step.places.isFree(place, m_inner, labelGap)) {
+        if (!meetsAny(m_marks, place) && !meetsAny(m_handles, place)
+            && m_step.places.isFree(place, m_inner, labelGap)) {
             m_step.places.add(DiagramLabel::Kind::Mark, name, place);
             m_step.texts.textIn(place, name, style, m_innerPalette.text, m_innerPalette.casing);
             return;

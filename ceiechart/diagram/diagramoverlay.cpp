@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
 
 #include <QFontMetricsF>
@@ -17,9 +18,7 @@ namespace {
 constexpr double radius = 7.0; // of a handle
 constexpr double hoveredRadius = 8.5;
 constexpr double lockedRadius = 5.0;
-constexpr double ringRadius = 13.0; // of the ring round the one that is selected
 constexpr double crossReach = 12.0; // of the arms at the white
-constexpr double outlineWidth = 2.5;
 constexpr double labelPadding = 6.0;
 constexpr double guideWidth = 1.5;
 
@@ -66,8 +65,7 @@ QFont boldOf(QFont font)
 
 QRectF DiagramOverlay::bounds(const Handle &handle)
 {
-    const double reach = ringRadius + outlineWidth;
-    return QRectF(handle.at.x() - reach, handle.at.y() - reach, 2.0 * reach, 2.0 * reach);
+    return QRectF(handle.at.x() - handleExtent, handle.at.y() - handleExtent, 2.0 * handleExtent, 2.0 * handleExtent);
 }
 
 QStringList DiagramOverlay::wrapped(const QStringList &lines, const QFont &font, double width)
@@ -108,10 +106,10 @@ void DiagramOverlay::paintHandle(QPainter &painter, const Handle &handle, const 
     const QPainterPath shape = shapeOf(handle);
     const QPainterPath arms = armsOf(handle);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(palette.casing, outlineWidth + 2.0));
+    painter.setPen(QPen(palette.casing, handleLine + 2.0));
     painter.drawPath(arms);
     painter.drawPath(shape);
-    painter.setPen(QPen(line, outlineWidth));
+    painter.setPen(QPen(line, handleLine));
     painter.drawPath(arms);
     painter.setBrush(handle.isMovable ? QColor(Qt::white) : palette.ground);
     painter.drawPath(shape);
@@ -122,11 +120,11 @@ void DiagramOverlay::paintHandle(QPainter &painter, const Handle &handle, const 
     }
     if (handle.isSelected) {
         painter.setBrush(Qt::NoBrush);
-        const double width = handle.hasFocus ? outlineWidth : 1.0;
+        const double width = handle.hasFocus ? handleLine : 1.0;
         painter.setPen(QPen(palette.casing, width + 2.0));
-        painter.drawEllipse(handle.at, ringRadius, ringRadius);
+        painter.drawEllipse(handle.at, handleRing, handleRing);
         painter.setPen(QPen(palette.accent, width));
-        painter.drawEllipse(handle.at, ringRadius, ringRadius);
+        painter.drawEllipse(handle.at, handleRing, handleRing);
     }
 }
 
@@ -171,9 +169,9 @@ void DiagramOverlay::paint(
             std::clamp(at.y(), labelPlace.top(), labelPlace.bottom()));
         const QPointF way = at - from;
         const double length = std::hypot(way.x(), way.y());
-        if (length > ringRadius + outlineWidth) {
+        if (length > handleExtent) {
             painter.setPen(QPen(palette.numbers, 1.0));
-            painter.drawLine(from, at - way * ((ringRadius + outlineWidth) / length));
+            painter.drawLine(from, at - way * ((handleExtent) / length));
         }
     }
     for (const Handle &handle : handles) {

@@ -79,7 +79,7 @@ public:
     const DiagramStep &gamutsLayout()
     {
         if (!gamuts) {
-            gamuts = gamutsStep(sheet(), scaleLayout().places);
+            gamuts = gamutsStep(sheet());
         }
         return *gamuts;
     }
@@ -87,7 +87,7 @@ public:
     const DiagramStep &editedLayout()
     {
         if (!edited) {
-            edited = editedStep(sheet(), gamutsLayout().places, scaleLayout().isotherms);
+            edited = editedStep(sheet(), scaleLayout());
         }
         return *edited;
     }
@@ -201,12 +201,11 @@ void DiagramPainter::paint(QPainter *painter, const QRectF &place) const
             colors.update(Private::colorsRequest(d->content, viewport, std::min(ratio, most)), nullptr, nullptr));
     }
     const DiagramStep scale = scaleStep(sheet);
-    const DiagramStep gamuts = gamutsStep(sheet, scale.places);
-    const DiagramStep edited = editedStep(sheet, gamuts.places, scale.isotherms);
+    const DiagramStep gamuts = gamutsStep(sheet);
+    const DiagramStep edited = editedStep(sheet, scale);
     scale.drawing.paint(painter);
     gamuts.drawing.paint(painter);
     edited.drawing.paint(painter);
-    scale.texts.paint(painter);
     edited.texts.paint(painter);
     painter->restore();
 }
@@ -234,7 +233,6 @@ void DiagramPainter::paintGamuts(QPainter *painter) const
 void DiagramPainter::paintEdited(QPainter *painter, const QRegion &needed) const
 {
     d->editedLayout().drawing.paint(painter, needed);
-    d->scaleLayout().texts.paint(painter, needed);
     d->editedLayout().texts.paint(painter, needed);
 }
 

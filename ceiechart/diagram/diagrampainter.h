@@ -118,14 +118,15 @@ public:
      */
     void paintColors(QPainter *painter, qreal devicePixelRatio);
 
-    /*! \brief Grid, axes, locus, wavelengths, Planckian locus, isotherms without temperatures: what no edit changes. */
+    /*! \brief Grid, axes, locus, wavelengths, Planckian locus, isotherms, these without numbers: what no edit changes.
+     */
     void paintScale(QPainter *painter) const;
     /*! \brief Outlines of all gamuts but targets. */
     void paintGamuts(QPainter *painter) const;
     /*!
      * \brief What depends on the target, and what must not be covered by it: lost and common area, outlines of targets
-     *        and of what equals them, rings, trail, marks, whites, names; and the temperatures of isotherms, above all
-     *        lines.
+     *        and of what equals them, rings, trail, marks, whites, names; and the numbers of wavelengths and isotherms,
+     *        above all lines.
      *
      * \param needed in logical pixels; what does not meet it may be left out, which is faster. Empty for everything.
      */

@@ -167,10 +167,8 @@ void DiagramView::Private::hoverAgain()
         return;
     }
     const bool isInside = viewport.plot().contains(*pointer);
-    const auto handle = hand == Hand::Idle ? handleAt(*pointer) : hovered;
-    if (handle != hovered) {
+    if (handleBelowPointer() != hovered) {
         const QRegion former = overlayRegion(overlay);
-        hovered = handle;
         refreshOverlay();
         q->update(former + overlayRegion(overlay));
     }
@@ -197,12 +195,10 @@ void DiagramView::Private::endHover()
     const bool wasTold = hoverTold.has_value();
     const QRegion former = overlayRegion(overlay);
     pointer.reset();
-    hovered.reset();
     hoverTold.reset();
     isHovering = false;
     refreshOverlay();
     q->update(former + overlayRegion(overlay));
-    updateCursor();
     if (wasTold) {
         tell(&DiagramView::hoverEnded);
     }

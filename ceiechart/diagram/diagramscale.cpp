@@ -260,6 +260,7 @@ private:
     {
         const TextStyle &style = m_sheet.fonts.numbers;
         QVector<QPointF> numbered;
+        LabelPlaces places = m_step.places;
         for (const Wavelength &wavelength : wavelengths()) {
             const QPointF tip = wavelength.foot + wavelength.outwards * longTick;
             bool isNumbered = false;
@@ -267,13 +268,17 @@ private:
                 const QString number = QString::number(wavelength.nanometres, 'g', 6);
                 const QRectF place
                     = besides(tip + wavelength.outwards * tickGap, wavelength.outwards, style.size(number));
-                isNumbered = isApart(numbered, place.center(), wavelengthNumbers)
-                    && m_step.places.isFree(place, m_inner, labelGap);
+                isNumbered
+                    = isApart(numbered, place.center(), wavelengthNumbers) && places.isFree(place, m_inner, labelGap);
                 if (isNumbered) {
                     numbered.append(place.center());
-                    m_step.places.add(DiagramLabel::Kind::Wavelength, number, place);
-                    // Outlines of wide gamuts pass below.
-                    m_step.texts.textIn(place, number, style, m_palette.numbers, m_palette.casing);
+                    places.add(DiagramLabel::Kind::Wavelength, number, place);
+                    PendingNumber pending{number, {place}, QLineF(wavelength.foot, tip)};
+                    // Farther out, where a handle is on the locus.
+                    for (const double farther : {0.5, 1.0}) {
+                        pending.places.append(place.translated(wavelength.outwards * (farther * 2.0 * handleExtent)));
+                    }
+                    m_step.wavelengths.append(pending);
                 }
             }
             const QLineF tick(wavelength.foot, isNumbered ? tip : wavelength.foot + wavelength.outwards * shortTick);

@@ -13,6 +13,9 @@ namespace ceiechart {
 // Logical pixels
 constexpr double labelGap = 3.0; // round any text
 constexpr double lineCasing = 2.5; // of a line, on both sides together
+constexpr double handleRing = 13.0; // radius of the ring round a handle that is selected
+constexpr double handleLine = 2.5; // width of the lines of handles and their rings
+constexpr double handleExtent = handleRing + handleLine; // from the middle of a handle to the edge of all it covers
 
 /*! \brief The fonts of a diagram on one device. */
 struct DiagramFonts {
@@ -55,7 +58,7 @@ private:
 /*! \brief The margins that numbers of \a fonts need. */
 QMarginsF diagramMargins(const DiagramContent &content, const DiagramFonts &fonts);
 
-/*! \brief A number that a later step places, where it covers no mark. */
+/*! \brief A number that a later step places, where it covers no mark and no handle. */
 struct PendingNumber {
     QString text;
     QVector<QRectF> places; //!< the best first
@@ -65,8 +68,9 @@ struct PendingNumber {
 /*! \brief What is painted and the texts in it. */
 struct DiagramStep {
     DrawList drawing; //!< lines and marks
-    DrawList texts; //!< what no line of a later step may cross
+    DrawList texts; //!< what no line may cross
     LabelPlaces places; //!< those of the steps before as well
+    QVector<PendingNumber> wavelengths; //!< none of whose first places meets another's
     QVector<PendingNumber> isotherms; //!< from the most important on
 };
 
@@ -74,8 +78,9 @@ struct DiagramStep {
  * @{
  */
 DiagramStep scaleStep(const DiagramSheet &sheet);
-DiagramStep gamutsStep(const DiagramSheet &sheet, const LabelPlaces &places);
-DiagramStep editedStep(const DiagramSheet &sheet, const LabelPlaces &places, const QVector<PendingNumber> &isotherms);
+DiagramStep gamutsStep(const DiagramSheet &sheet);
+//! With the numbers that \a scale, the step of the scale, has left to be placed.
+DiagramStep editedStep(const DiagramSheet &sheet, const DiagramStep &scale);
 /*! @} */
 
 /*! \brief A line of \a pen with a casing of \a casing under it, as far as it is within \a area. */

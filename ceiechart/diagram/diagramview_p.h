@@ -99,6 +99,14 @@ public:
     bool hasHandles() const;
     TargetContext context() const;
     void change(const DiagramContent &changed);
+    //! Changes what no signal tells of.
+    template <typename Part>
+    void changePart(Part DiagramContent::*part, const Part &value)
+    {
+        DiagramContent changed = content;
+        changed.*part = value;
+        change(changed);
+    }
     void replace(GamutRole role, const std::vector<Model::ColorGamut> &gamuts);
     void putTarget(const Model::Targets &targets);
     static DiagramGround groundOf(const QPalette &palette);
@@ -131,6 +139,8 @@ public:
 
     // Hands
     std::optional<GamutVertex> handleAt(const QPointF &position) const;
+    //! The handle that the pointer is over; that which it has hold of stays the one.
+    std::optional<GamutVertex> handleBelowPointer() const;
     QPointF positionOf(GamutVertex vertex) const;
     void press(const QPointF &position, Qt::MouseButton button);
     void moveTo(const QPointF &position, Qt::KeyboardModifiers modifiers);

@@ -193,37 +193,27 @@ void DiagramView::clearGamuts(GamutRole role)
 
 void DiagramView::setMeasurePoints(const QVector<DiagramMark> &points)
 {
-    DiagramContent changed = d->content;
-    changed.measurePoints = points;
-    d->change(changed);
+    d->changePart(&DiagramContent::measurePoints, points);
 }
 
 void DiagramView::setColorTemperaturePoints(const QVector<DiagramMark> &points)
 {
-    DiagramContent changed = d->content;
-    changed.colorTemperaturePoints = points;
-    d->change(changed);
+    d->changePart(&DiagramContent::colorTemperaturePoints, points);
 }
 
 void DiagramView::setCmyPoints(const QVector<DiagramMark> &points)
 {
-    DiagramContent changed = d->content;
-    changed.cmyPoints = points;
-    d->change(changed);
+    d->changePart(&DiagramContent::cmyPoints, points);
 }
 
 void DiagramView::setRings(const QVector<DiagramRings> &rings)
 {
-    DiagramContent changed = d->content;
-    changed.rings = rings;
-    d->change(changed);
+    d->changePart(&DiagramContent::rings, rings);
 }
 
 void DiagramView::setTrail(const QVector<QPointF> &trail)
 {
-    DiagramContent changed = d->content;
-    changed.trail = trail;
-    d->change(changed);
+    d->changePart(&DiagramContent::trail, trail);
 }
 
 void DiagramView::setLayers(ShownLayers layers)

@@ -44,9 +44,13 @@ void DiagramView::Private::refreshOverlay()
         const auto add = [&](GamutVertex vertex) {
             const QPointF at = positionOf(vertex);
             if (reach.contains(at)) {
-                const bool isSelected = selected == vertex;
-                fresh.handles.append(
-                    {vertex, at, rules->isMovable(vertex), isSelected, hovered == vertex, isSelected && q->hasFocus()});
+                DiagramOverlay::Handle handle;
+                handle.vertex = vertex;
+                handle.at = at;
+                handle.isMovable = rules->isMovable(vertex);
+                handle.isSelected = selected == vertex;
+                handle.hasFocus = handle.isSelected && q->hasFocus();
+                fresh.handles.append(handle);
             }
         };
         // White first, as a primary on it must not be covered, and what is selected over all.
@@ -72,6 +76,12 @@ void DiagramView::Private::refreshOverlay()
         [](const DiagramOverlay::Handle &handle) { return handle.hasFocus; });
     fresh.showsFocusFrame = q->hasFocus() && !showsFocus;
     overlay = fresh;
+    // A pointer at rest may be over something else now.
+    hovered = handleBelowPointer();
+    for (DiagramOverlay::Handle &handle : overlay.handles) {
+        handle.isHovered = hovered == handle.vertex;
+    }
+    updateCursor();
     readoutCorners.clear();
     placeReadout();
     placeLabel();

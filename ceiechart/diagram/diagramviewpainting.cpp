@@ -119,9 +119,11 @@ QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
     }
     if (!some.label.isEmpty()) {
         region += around(some.labelPlace, 2.0);
-        // The line from the label to the handle.
-        region += around(
-            some.labelPlace | QRectF(positionOf(selected.value_or(GamutVertex::White)), QSizeF(1.0, 1.0)), 2.0);
+        // The line from the label to the handle, which may be far away.
+        const QPointF at = positionOf(selected.value_or(GamutVertex::White));
+        const QRectF &box = some.labelPlace;
+        const QPointF from(std::clamp(at.x(), box.left(), box.right()), std::clamp(at.y(), box.top(), box.bottom()));
+        region += regionBetween(QLineF(from, at), QLineF(from, at), QRectF(q->rect()), lineRoom);
     }
     for (const QPolygonF &guide : some.guides) {
         if (guide.size() == 1) {

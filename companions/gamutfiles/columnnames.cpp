@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "columnnames_p.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <QVector>
 
@@ -11,6 +12,10 @@
 namespace gamutfiles {
 
 namespace {
+
+struct ColumnText {
+    Q_DECLARE_TR_FUNCTIONS(gamutfiles::ColumnNames)
+};
 
 //! Longer headers name no column.
 constexpr int longestHeader = 100;
@@ -58,6 +63,27 @@ constexpr std::array knownNames{
     KnownName{"画面", ColumnPart::Name},
     KnownName{"测试画面", ColumnPart::Name},
     KnownName{"项目", ColumnPart::Name},
+    KnownName{"dataname", ColumnPart::Name},
+    KnownName{"primary", ColumnPart::Name},
+    KnownName{"nome", ColumnPart::Name},
+    KnownName{"colore", ColumnPart::Name},
+    KnownName{"note", ColumnPart::Note},
+    KnownName{"notes", ColumnPart::Note},
+    KnownName{"remark", ColumnPart::Note},
+    KnownName{"remarks", ColumnPart::Note},
+    KnownName{"comment", ColumnPart::Note},
+    KnownName{"description", ColumnPart::Note},
+    KnownName{"bemerkung", ColumnPart::Note},
+    KnownName{"kommentar", ColumnPart::Note},
+    KnownName{"remarque", ColumnPart::Note},
+    KnownName{"commentaire", ColumnPart::Note},
+    KnownName{"nota", ColumnPart::Note},
+    KnownName{"备注", ColumnPart::Note},
+
+    // CGATS.17 has XYY_Y for the chromaticity; written as xyY the last letter is that of the value.
+    KnownName{"=x=y=Y=x", ColumnPart::x},
+    KnownName{"=x=y=Y=y", ColumnPart::y},
+    KnownName{"=x=y=Y=Y", ColumnPart::Luminance},
     KnownName{"测试项目", ColumnPart::Name},
 
     KnownName{"lv", ColumnPart::Luminance},
@@ -82,6 +108,7 @@ constexpr std::array knownNames{
     KnownName{"cie1931=Y", ColumnPart::Y},
     KnownName{"xyz=Y", ColumnPart::Y},
     KnownName{"tristimulus=Y", ColumnPart::Y},
+    KnownName{"measured=Y", ColumnPart::Y},
     KnownName{"三刺激值=Y", ColumnPart::Y},
 
     KnownName{"=x", ColumnPart::x},
@@ -92,6 +119,7 @@ constexpr std::array knownNames{
     KnownName{"s=x", ColumnPart::x},
     KnownName{"xyy=X", ColumnPart::x},
     KnownName{"chromaticity=x", ColumnPart::x},
+    KnownName{"measured=x", ColumnPart::x},
     KnownName{"=xchromaticity", ColumnPart::x},
     KnownName{"ciexchromaticity", ColumnPart::x},
     KnownName{"farbort=x", ColumnPart::x},
@@ -111,6 +139,7 @@ constexpr std::array knownNames{
     KnownName{"s=y", ColumnPart::y},
     KnownName{"xyy=Y", ColumnPart::y},
     KnownName{"chromaticity=y", ColumnPart::y},
+    KnownName{"measured=y", ColumnPart::y},
     KnownName{"=ychromaticity", ColumnPart::y},
     KnownName{"cieychromaticity", ColumnPart::y},
     KnownName{"farbort=y", ColumnPart::y},
@@ -362,9 +391,35 @@ std::optional<ColumnName> withUnitBehind(const QString &key)
 
 QString columnPartName(ColumnPart part)
 {
-    static const std::array<const char *, columnPartCount> names{
-        "name", "Y", "Y", "x", "y", "u'", "v'", "X", "Z", "cabinet", "row", "column", "number"};
-    return QString::fromLatin1(names[std::size_t(part)]);
+    switch (part) {
+    case ColumnPart::Name:
+    case ColumnPart::Note:
+        return ColumnText::tr("name", "column of a measurement list");
+    case ColumnPart::Cabinet:
+        return ColumnText::tr("cabinet", "column of a measurement list");
+    case ColumnPart::Row:
+        return ColumnText::tr("row", "column of a measurement list");
+    case ColumnPart::Column:
+        return ColumnText::tr("column", "column of a measurement list");
+    case ColumnPart::Number:
+        return ColumnText::tr("number", "column of a measurement list");
+    case ColumnPart::Luminance:
+    case ColumnPart::Y:
+        return QStringLiteral("Y");
+    case ColumnPart::x:
+        return QStringLiteral("x");
+    case ColumnPart::y:
+        return QStringLiteral("y");
+    case ColumnPart::u:
+        return QStringLiteral("u'");
+    case ColumnPart::v:
+        return QStringLiteral("v'");
+    case ColumnPart::X:
+        return QStringLiteral("X");
+    case ColumnPart::Z:
+        return QStringLiteral("Z");
+    }
+    return {};
 }
 
 std::optional<ColumnName> columnName(const QString &text)

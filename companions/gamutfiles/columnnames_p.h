@@ -24,11 +24,12 @@ enum class ColumnPart {
     Cabinet,
     Row,
     Column,
-    Number //!< a running number or an identifier, of a measurement or of a cabinet
+    Number, //!< a running number or an identifier, of a measurement or of a cabinet
+    Note //!< remarks, which can be the names of the colours
 };
-constexpr int columnPartCount = 13; //!< how many there are
+constexpr int columnPartCount = 14; //!< how many there are
 
-/*! \brief How a column is called in messages. */
+/*! \brief How a column is called in messages, in their language. */
 QString columnPartName(ColumnPart part);
 
 /*! \brief What the header of a column says. */

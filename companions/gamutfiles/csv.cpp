@@ -4,6 +4,7 @@
 #include "numbers_p.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace gamutfiles {
 
@@ -23,8 +24,8 @@ int lineEnd(const QString &text, int index)
     return end < 0 ? int(text.size()) : end;
 }
 
-//! Skips blank lines and comments; returns whether there is anything after them.
-bool skipIdleLines(const QString &text, Position &position)
+//! Skips blank lines and comments, and keeps the comments; returns whether there is anything after them.
+bool skipIdleLines(const QString &text, Position &position, QVector<std::pair<int, QString>> *comments = nullptr)
 {
     while (position.index < text.size()) {
         const int end = lineEnd(text, position.index);
@@ -36,6 +37,12 @@ bool skipIdleLines(const QString &text, Position &position)
             = std::all_of(text.constBegin() + first, text.constBegin() + end, [](QChar c) { return c.isSpace(); });
         if (!blank && text.at(first) != QLatin1Char('#')) {
             return true;
+        }
+        if (!blank && comments) {
+            while (first < end && text.at(first) == QLatin1Char('#')) {
+                ++first;
+            }
+            comments->append({position.line, text.mid(first, end - first)});
         }
         position.index = end + 1;
         ++position.line;
@@ -104,7 +111,10 @@ std::optional<QStringList> readRecord(const QString &text, Position &position, Q
             field = quoted ? QString() : field;
             blank = false;
         } else if (c == separator && !quoted) {
-            fields.append(QString());
+            // Spaces that align columns are one separator.
+            if (separator != QLatin1Char(' ') || !blank) {
+                fields.append(QString());
+            }
             blank = true;
         } else {
             field += c;
@@ -113,13 +123,17 @@ std::optional<QStringList> readRecord(const QString &text, Position &position, Q
     }
     ++position.index;
     ++position.line;
+    if (separator == QLatin1Char(' ') && blank && fields.size() > 1) {
+        fields.removeLast();
+    }
     return quoted ? std::nullopt : std::make_optional(fields);
 }
 
 CsvTable readTable(const QString &text, Position position, QChar separator)
 {
-    CsvTable table{separator, {}, 0};
-    while (skipIdleLines(text, position)) {
+    CsvTable table{separator, {}, {}, 0};
+    QVector<std::pair<int, QString>> comments;
+    while (skipIdleLines(text, position, &comments)) {
         const int line = position.line;
         const auto fields = readRecord(text, position, separator);
         if (!fields) {
@@ -127,6 +141,12 @@ CsvTable readTable(const QString &text, Position position, QChar separator)
             break;
         }
         table.rows.append({line, *fields});
+    }
+    for (const auto &[line, comment] : std::as_const(comments)) {
+        Position begin;
+        if (const auto fields = readRecord(comment, begin, separator)) {
+            table.comments.append({line, *fields});
+        }
     }
     return table;
 }
@@ -161,6 +181,12 @@ CsvTable readCsv(const QString &raw, std::optional<QChar> separator)
         if (records > most) {
             best = table;
             most = records;
+        }
+    }
+    if (most == 0) {
+        const CsvTable table = readTable(text, begin, QLatin1Char(' '));
+        if (recordsOfNumbers(table) > 0) {
+            return table;
         }
     }
     return most > 0 ? best : readTable(text, begin, separatorOfFirstRecord(text, begin));

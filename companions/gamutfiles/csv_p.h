@@ -16,11 +16,14 @@ struct CsvRow {
     QStringList fields;
 };
 
-/*! \brief The records of a CSV text, without empty lines, lines that begin with # and a line that names the separator.
+/*!
+ * \brief The records of a CSV text, without empty lines and a line that names the separator; apart from them, the lines
+ * that begin with #.
  */
 struct CsvTable {
     QChar separator;
     QVector<CsvRow> rows;
+    QVector<CsvRow> comments; //!< the lines that begin with #, without it
     int unterminatedLine = 0; //!< where the record begins, not among \a rows, that has a quote never closed; 0: none
 };
 
@@ -29,7 +32,8 @@ struct CsvTable {
  *
  * Fields are separated by \a separator, or else by the character that a first line such as "sep=;" names, or else by
  * tabs, semicolons or commas: the one that finds the most records with three numbers or more. If none finds any it is
- * the first of the three, in this order, that the first record has outside of quotes.
+ * the space if this does, any number of them counting as one; otherwise the first of the three, in this order, that the
+ * first record has outside of quotes.
  */
 CsvTable readCsv(const QString &text, std::optional<QChar> separator = {});
 

@@ -6,6 +6,8 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
+
 namespace gamutfiles {
 
 namespace {
@@ -18,7 +20,7 @@ Outcome<DisplayDescription> readDescription(const QByteArray &utf8)
 {
     DescriptionReader reader;
     const auto description = reader.read(utf8);
-    return description ? Outcome<DisplayDescription>(*description)
+    return description ? Outcome<DisplayDescription>(*description, reader.warnings())
                        : Outcome<DisplayDescription>::failure(reader.problem());
 }
 
@@ -55,17 +57,16 @@ void DescriptionReader::readDescription(const Node &node)
     m_description.name = readString(member(node, QStringLiteral("name")));
     m_description.notes = readString(member(node, QStringLiteral("notes")));
 
-    const QSet<QString> spaces = colorSpaces(node);
+    const QSet<QString> shown = shownNames(node);
     QSet<QString> names;
     for (const Node &element : elements(member(node, QStringLiteral("gamuts")))) {
         const QString given = member(element, QStringLiteral("name")).value.toString();
         m_description.gamuts.push_back(
-            readGamut(element, spaces.contains(given) ? PrimariesOf::ColorSpace : PrimariesOf::Display));
-        const QString name = QString::fromStdString(m_description.gamuts.back().colorGamutName());
-        if (names.contains(name)) {
-            fail(member(element, QStringLiteral("name")), tr("there is already a gamut named %1").arg(quoted(name)));
+            readGamut(element, shown.contains(given) ? PrimariesOf::Display : PrimariesOf::ColorSpace));
+        if (names.contains(given)) {
+            fail(member(element, QStringLiteral("name")), tr("there is already a gamut named %1").arg(quoted(given)));
         }
-        names.insert(name);
+        names.insert(given);
     }
     m_description.original = readDisplayReference(member(node, QStringLiteral("original")));
     m_description.declared = readGamutReference(member(node, QStringLiteral("declared")));
@@ -78,15 +79,12 @@ void DescriptionReader::readDescription(const Node &node)
     m_description.wall = readWall(member(node, QStringLiteral("wall")));
 }
 
-//! The names of the gamuts that are declared or standards, and nothing that a display shows.
-QSet<QString> DescriptionReader::colorSpaces(const Node &node)
+//! The names of the gamuts that a display shows or is meant to show.
+QSet<QString> DescriptionReader::shownNames(const Node &node)
 {
-    QSet<QString> names{member(node, QStringLiteral("declared")).value.toString()};
-    for (const QJsonValue &standard : member(node, QStringLiteral("standards")).value.toArray()) {
-        names.insert(standard.toString());
-    }
+    QSet<QString> names;
     for (const QString &part : {QStringLiteral("original"), QStringLiteral("measured"), QStringLiteral("target")}) {
-        names.remove(member(node, part).value.toString());
+        names.insert(member(node, part).value.toString());
     }
     return names;
 }
@@ -115,7 +113,23 @@ DisplayGamut DescriptionReader::readGamut(const Node &node, PrimariesOf kind)
             fail(node, mixed.error());
         }
     }
+    warnOfGamut(node, targets, kind);
     return {Model::ColorGamut(name.toStdString(), targets), readUnit(member(node, luminanceUnitKey()))};
+}
+
+/*
+ * One warning at most, of what only a slip makes: that a white is not quite the sum of its primaries is normal for many
+ * displays.
+ */
+void DescriptionReader::warnOfGamut(const Node &node, const Model::Targets &gamut, PrimariesOf kind)
+{
+    constexpr double rounding = 1.001;
+    const QVector<Problem> triangle = kind == PrimariesOf::Display ? warningsOfTheTriangle(gamut) : QVector<Problem>();
+    if (!triangle.isEmpty()) {
+        warn(node, triangle.first().text);
+    } else if (gamut.white.Y > 0.0 && std::max({gamut.red.Y, gamut.green.Y, gamut.blue.Y}) > gamut.white.Y * rounding) {
+        warn(member(node, QStringLiteral("white")), tr("the white is darker than one of the primaries"));
+    }
 }
 
 LuminanceUnit DescriptionReader::readUnit(const Node &node)

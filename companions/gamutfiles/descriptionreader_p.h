@@ -31,8 +31,9 @@ public:
 
 private:
     void readDescription(const Node &node);
-    static QSet<QString> colorSpaces(const Node &node);
+    static QSet<QString> shownNames(const Node &node);
     DisplayGamut readGamut(const Node &node, PrimariesOf kind);
+    void warnOfGamut(const Node &node, const Model::Targets &gamut, PrimariesOf kind);
     LuminanceUnit readUnit(const Node &node);
     Model::Target readTarget(const Node &node, PrimariesOf kind, double rounding = 0.0);
     QVector<NamedPoint> readPoints(const Node &node);

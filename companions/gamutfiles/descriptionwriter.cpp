@@ -24,12 +24,19 @@ void insertText(QJsonObject &object, const QString &key, const QString &text)
     }
 }
 
+//! Other than QString::fromStdString(), with a byte order mark at its begin, which is a character there.
+QString nameOf(const Model::ColorGamut &gamut)
+{
+    const std::string name = gamut.colorGamutName();
+    return QString::fromStdString('_' + name).mid(1);
+}
+
 QJsonObject gamutObject(const DisplayGamut &gamut)
 {
     const Model::Targets &targets = gamut.getTargets();
-    QJsonObject object{{QStringLiteral("name"), QString::fromStdString(gamut.colorGamutName())},
-        {QStringLiteral("red"), colorObject(targets.red)}, {QStringLiteral("green"), colorObject(targets.green)},
-        {QStringLiteral("blue"), colorObject(targets.blue)}, {QStringLiteral("white"), colorObject(targets.white)}};
+    QJsonObject object{{QStringLiteral("name"), nameOf(gamut)}, {QStringLiteral("red"), colorObject(targets.red)},
+        {QStringLiteral("green"), colorObject(targets.green)}, {QStringLiteral("blue"), colorObject(targets.blue)},
+        {QStringLiteral("white"), colorObject(targets.white)}};
     insertText(object, luminanceUnitKey(), luminanceUnitName(gamut.unit));
     return object;
 }

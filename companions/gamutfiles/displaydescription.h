@@ -28,8 +28,8 @@ struct NamedPoint {
  * x + y <= 1.
  *
  * Colour spaces may have others, such as ACES2065-1, whose blue has y < 0 and therefore a luminance below 0. They serve
- * as declared gamut and as standards, but no display shows or is meant to show them: not as original, measured or
- * target.
+ * as declared gamut and as standards, and may play no part at all, but no display shows or is meant to show them: not
+ * as original, measured or target.
  */
 GAMUTFILES_EXPORT bool hasRealPrimaries(const Model::Targets &gamut);
 

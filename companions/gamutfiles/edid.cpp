@@ -72,30 +72,43 @@ bool havePrimaries(const EdidChromaticities &colors)
 //! Says when two statements about the same display differ by more than their digits.
 QVector<Problem> contradictions(const EdidDisplay &display, const EdidChromaticities &base)
 {
-    constexpr double rounding = 0.002; // the ten bits have steps of 0.001
     if (!display.displayIdChromaticities || !havePrimaries(*display.displayIdChromaticities) || !havePrimaries(base)) {
         return {};
     }
+    const QString difference = EdidExtensions::difference(base, *display.displayIdChromaticities);
+    if (difference.isEmpty()) {
+        return {};
+    }
+    return {
+        {EdidText::tr("the base block states another gamut than the DisplayID extension: %1; that of the base block "
+                      "is used")
+                .arg(difference),
+            {}, 0, 0}};
+}
+
+//! Says which primaries were moved as rounding had left them beyond the diagram.
+QVector<Problem> roundings(const EdidChromaticities &stated, const Model::Targets &read)
+{
     const struct {
-        QPointF EdidChromaticities::*member;
+        QPointF stated;
+        const Model::Target &read;
         QString name;
-    } colors[] = {{&EdidChromaticities::red, EdidText::tr("red")}, {&EdidChromaticities::green, EdidText::tr("green")},
-        {&EdidChromaticities::blue, EdidText::tr("blue")}, {&EdidChromaticities::white, EdidText::tr("white")}};
-    for (const auto &[member, name] : colors) {
-        const QPointF first = base.*member;
-        const QPointF second = (*display.displayIdChromaticities).*member;
-        if (std::fabs(first.x() - second.x()) > rounding || std::fabs(first.y() - second.y()) > rounding) {
-            return {{EdidText::tr("the base block states another gamut than the DisplayID extension: %1 at %2, %3 "
-                                  "instead of %4, %5; that of the base block is used")
-                         .arg(name)
-                         .arg(first.x(), 0, 'f', 4)
-                         .arg(first.y(), 0, 'f', 4)
-                         .arg(second.x(), 0, 'f', 4)
-                         .arg(second.y(), 0, 'f', 4),
-                {}, 0, 0}};
+    } colors[] = {{stated.red, read.red, EdidText::tr("red")}, {stated.green, read.green, EdidText::tr("green")},
+        {stated.blue, read.blue, EdidText::tr("blue")}, {stated.white, read.white, EdidText::tr("white")}};
+    QVector<Problem> warnings;
+    for (const auto &color : colors) {
+        if (color.stated != QPointF(color.read.x, color.read.y)) {
+            warnings.append(
+                {EdidText::tr("%1 at %2, %3 has x + y above 1, as rounding can make it: it is read as %4, %5")
+                        .arg(color.name)
+                        .arg(color.stated.x(), 0, 'f', 4)
+                        .arg(color.stated.y(), 0, 'f', 4)
+                        .arg(color.read.x, 0, 'f', 4)
+                        .arg(color.read.y, 0, 'f', 4),
+                    {}, 0, 0});
         }
     }
-    return {};
+    return warnings;
 }
 
 //! Says when a gamut is the copy of a standard rather than what was measured.
@@ -172,15 +185,16 @@ Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
     }
     const EdidNativeLuminance &native = display.nativeLuminance;
     const bool isAbsolute = native.guaranteed && native.fullScreen.value_or(0.0) > 0.0;
-    const auto gamut = gamutFromPrimaries(
-        display.name, {colors.red, colors.green, colors.blue, colors.white}, isAbsolute ? *native.fullScreen : 1.0);
+    constexpr double tenBitRounding = 0.001; // half a step of each coordinate
+    const auto gamut = gamutFromPrimaries(display.name, {colors.red, colors.green, colors.blue, colors.white},
+        isAbsolute ? *native.fullScreen : 1.0, PrimariesOf::Display, tenBitRounding);
     if (!gamut) {
         return Failure::failure(EdidText::tr("is an EDID without usable primaries: %1").arg(gamut.error()));
     }
     display.gamut = DisplayGamut(*gamut, isAbsolute ? LuminanceUnit::CandelaPerSquareMetre : LuminanceUnit::Relative);
     return {display,
-        copies(display) + warningsOfTheTriangle(gamut->getTargets()) + warningsOfTheLocus(gamut->getTargets())
-            + contradictions(display, base) + extensions.warnings()};
+        roundings(colors, gamut->getTargets()) + copies(display) + warningsOfTheTriangle(gamut->getTargets())
+            + warningsOfTheLocus(gamut->getTargets()) + contradictions(display, base) + extensions.warnings()};
 }
 
 Outcome<DisplayGamut> readEdid(const QByteArray &bytes)

@@ -59,8 +59,9 @@ struct EdidDisplay {
     bool srgbIsDefault = false; //!< whether the base block says that sRGB is the default colour space
 
     EdidContentLuminance contentLuminance; //!< of a CTA-861 extension
-    EdidNativeLuminance nativeLuminance; //!< of a DisplayID 2 extension
-    std::optional<EdidChromaticities> displayIdChromaticities; //!< of a DisplayID extension, twelve bits each
+    EdidNativeLuminance nativeLuminance; //!< of the first data block of a DisplayID 2 extension that states them
+    //! Of the first data block of a DisplayID extension that states them, twelve bits each.
+    std::optional<EdidChromaticities> displayIdChromaticities;
     /*!
      * \brief The colour signals that the display takes besides its default, by the names of CTA-861-H, 7.5.5, for
      * example "BT2020RGB"; what it makes of them is not said.
@@ -80,7 +81,8 @@ GAMUTFILES_EXPORT bool isEdid(const QByteArray &bytes);
  * kinds of extensions are skipped.
  *
  * A gamut that is legal but hardly measured gives a warning, too: one that is exactly a standard's, primaries that no
- * light has, two statements that contradict each other.
+ * light has, two statements that contradict each other. A primary with x + y above 1 by less than 0.001, as the
+ * rounding to ten bits can make it, is read with x = 1 - y and a warning.
  */
 GAMUTFILES_EXPORT Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes);
 

@@ -71,10 +71,34 @@ bool edidChecksumIsRight(const QByteArray &block)
     return quint8(std::accumulate(block.begin(), block.end(), 0)) == 0;
 }
 
+QString EdidExtensions::difference(const EdidChromaticities &first, const EdidChromaticities &second)
+{
+    constexpr double rounding = 0.002; // the ten bits of a base block have steps of 0.001
+    const struct {
+        QPointF EdidChromaticities::*member;
+        QString name;
+    } colors[] = {{&EdidChromaticities::red, tr("red")}, {&EdidChromaticities::green, tr("green")},
+        {&EdidChromaticities::blue, tr("blue")}, {&EdidChromaticities::white, tr("white")}};
+    for (const auto &[member, name] : colors) {
+        const QPointF a = first.*member;
+        const QPointF b = second.*member;
+        if (std::fabs(a.x() - b.x()) > rounding || std::fabs(a.y() - b.y()) > rounding) {
+            return tr("%1 at %2, %3 and at %4, %5")
+                .arg(name)
+                .arg(a.x(), 0, 'f', 4)
+                .arg(a.y(), 0, 'f', 4)
+                .arg(b.x(), 0, 'f', 4)
+                .arg(b.y(), 0, 'f', 4);
+        }
+    }
+    return {};
+}
+
 void EdidExtensions::read(const QByteArray &edid, EdidDisplay &display)
 {
     m_display = &display;
     m_warnings.clear();
+    m_hasLuminances = false;
     m_blockCount = quint8(edid.at(edidBlockSize - 2));
     for (m_block = 1; m_block <= m_blockCount; ++m_block) {
         const Bytes block{edid.mid(m_block * edidBlockSize, edidBlockSize), 0};
@@ -279,7 +303,7 @@ void EdidExtensions::readColorCharacteristics(int revision, const Bytes &payload
         const QPointF pair = twelveBits(payload.at(at), payload.at(at + 1), payload.at(at + 2));
         return uniform ? fromUniform(pair) : pair;
     };
-    m_display->displayIdChromaticities = EdidChromaticities{color(0), color(1), color(2), color(3)};
+    setChromaticities({color(0), color(1), color(2), color(3)}, payload.offset);
 }
 
 void EdidExtensions::readParameters2(const Bytes &payload)
@@ -300,9 +324,40 @@ void EdidExtensions::readParameters2(const Bytes &payload)
         const int at = firstLuminance + 2 * index;
         return nativeLuminance(payload.at(at) | payload.at(at + 1) << 8);
     };
-    m_display->displayIdChromaticities = EdidChromaticities{color(0), color(1), color(2), color(3)};
-    m_display->nativeLuminance = {luminance(0), luminance(1), luminance(2), (payload.at(flagsByte) >> 3 & 0x03) == 0};
+    setChromaticities({color(0), color(1), color(2), color(3)}, payload.offset);
+    setLuminances({luminance(0), luminance(1), luminance(2), (payload.at(flagsByte) >> 3 & 0x03) == 0}, payload.offset);
     m_display->gamma = displayIdGamma(payload.at(gammaByte));
+}
+
+//! The first block that states them counts; another that contradicts it is warned of.
+void EdidExtensions::setChromaticities(const EdidChromaticities &colors, int byte)
+{
+    if (!m_display->displayIdChromaticities) {
+        m_display->displayIdChromaticities = colors;
+        return;
+    }
+    const QString different = difference(*m_display->displayIdChromaticities, colors);
+    if (!different.isEmpty()) {
+        warn(tr("two data blocks state different gamuts: %1; that of the first is kept").arg(different), byte);
+    }
+}
+
+void EdidExtensions::setLuminances(const EdidNativeLuminance &luminances, int byte)
+{
+    const EdidNativeLuminance &first = m_display->nativeLuminance;
+    if (!m_hasLuminances) {
+        m_hasLuminances = true;
+        m_display->nativeLuminance = luminances;
+    } else if (first.fullScreen != luminances.fullScreen || first.guaranteed != luminances.guaranteed) {
+        const auto text = [](const EdidNativeLuminance &luminance) {
+            const QString value = luminance.fullScreen ? tr("%1 cd/m²").arg(*luminance.fullScreen, 0, 'g', 4)
+                                                       : tr("not stated", "a luminance");
+            return luminance.guaranteed ? tr("%1, guaranteed").arg(value) : value;
+        };
+        warn(tr("two data blocks state different luminances of a white screen: %1 and %2; that of the first is kept")
+                 .arg(text(first), text(luminances)),
+            byte);
+    }
 }
 
 bool EdidExtensions::isLongEnough(const Bytes &payload, int size, const QString &name)

@@ -30,6 +30,12 @@ public:
     /*! \brief What was wrong with them, in the order of the file. */
     const QVector<Problem> &warnings() const { return m_warnings; }
 
+    /*!
+     * \brief The first colour by which \a first and \a second differ by more than their digits, with both
+     * chromaticities; empty when there is none.
+     */
+    static QString difference(const EdidChromaticities &first, const EdidChromaticities &second);
+
 private:
     //! Bytes of a block, with where they begin in it.
     struct Bytes {
@@ -51,12 +57,15 @@ private:
     void readColorCharacteristics(int revision, const Bytes &payload);
     void readParameters2(const Bytes &payload);
 
+    void setChromaticities(const EdidChromaticities &colors, int byte);
+    void setLuminances(const EdidNativeLuminance &luminances, int byte);
     bool isLongEnough(const Bytes &payload, int size, const QString &name);
     void warn(const QString &text, int byte = -1);
 
     EdidDisplay *m_display = nullptr;
     int m_block = 0;
     int m_blockCount = 0;
+    bool m_hasLuminances = false;
     QVector<Problem> m_warnings;
 };
 

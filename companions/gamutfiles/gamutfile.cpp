@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/gamutfile.h>
 
+#include "numbers_p.h"
 #include "textencoding_p.h"
 
 #include <gamutfiles/descriptionfile.h>
@@ -23,6 +24,12 @@ struct FileText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::GamutFile)
 };
 
+int numbersBetweenSpaces(const QString &line)
+{
+    const QStringList fields = line.simplified().split(QLatin1Char(' '));
+    return int(std::count_if(fields.begin(), fields.end(), isNumber));
+}
+
 //! Whether a line near the beginning has fields, or says that it has.
 bool isList(const QByteArray &start)
 {
@@ -34,7 +41,7 @@ bool isList(const QByteArray &start)
     const QStringList lines = decoded->text.split(QLatin1Char('\n')).mid(0, mostLines);
     return std::any_of(lines.begin(), lines.end(), [](const QString &line) {
         return line.startsWith(QLatin1Char('#')) || line.contains(QLatin1Char(',')) || line.contains(QLatin1Char(';'))
-            || line.contains(QLatin1Char('\t'));
+            || line.contains(QLatin1Char('\t')) || numbersBetweenSpaces(line) >= 3;
     });
 }
 

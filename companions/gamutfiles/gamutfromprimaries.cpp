@@ -22,14 +22,14 @@ struct PrimariesText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::Primaries)
 };
 
-//! Moves \a xy by no more than rounding may have moved it.
-QPointF withoutRounding(QPointF xy)
+//! Moves \a xy by no more than \a rounding may have moved it.
+QPointF withoutRounding(QPointF xy, double rounding)
 {
-    if (xy.x() < 0.0 && xy.x() > -chromaticityRounding) {
+    if (xy.x() < 0.0 && xy.x() > -rounding) {
         xy.setX(0.0);
     }
     const double sum = xy.x() + xy.y();
-    if (sum > 1.0 && sum < 1.0 + chromaticityRounding) {
+    if (sum > 1.0 && sum < 1.0 + rounding) {
         xy.setX(1.0 - xy.y());
     }
     return xy;
@@ -137,7 +137,7 @@ QString noTriangleText()
 }
 
 Outcome<Model::ColorGamut> gamutFromPrimaries(
-    const QString &name, Primaries primaries, double whiteLuminance, PrimariesOf kind)
+    const QString &name, Primaries primaries, double whiteLuminance, PrimariesOf kind, double rounding)
 {
     const struct {
         QPointF &xy;
@@ -152,7 +152,7 @@ Outcome<Model::ColorGamut> gamutFromPrimaries(
         if (!std::isfinite(given.x()) || !std::isfinite(given.y())) {
             return Failure::failure(PrimariesText::tr("%1 has no chromaticity").arg(color.name));
         }
-        color.xy = withoutRounding(given);
+        color.xy = withoutRounding(given, rounding);
         if (!isPrimary(color.xy, color.kind)) {
             return Failure::failure(PrimariesText::tr("%1 is not a valid chromaticity: x %2, y %3")
                                         .arg(color.name)

@@ -40,11 +40,11 @@ bool isPrimary(const QPointF &xy, PrimariesOf kind);
  * \brief The gamut whose primaries mix to a white of luminance \a whiteLuminance, checked as a file may hold anything.
  *
  * A failure names what is not a chromaticity (as \a kind has it, of which rounding to a file's precision may have
- * taken up to chromaticityRounding; the white is always that of a light), primaries that span no triangle, and a white
+ * taken less than \a rounding; the white is always that of a light), primaries that span no triangle, and a white
  * outside of it.
  */
-Outcome<Model::ColorGamut> gamutFromPrimaries(
-    const QString &name, Primaries primaries, double whiteLuminance, PrimariesOf kind = PrimariesOf::Display);
+Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries primaries, double whiteLuminance,
+    PrimariesOf kind = PrimariesOf::Display, double rounding = chromaticityRounding);
 
 /*! \brief A warning for each primary of \a gamut that is so far outside of the spectral locus that no light has it. */
 QVector<Problem> warningsOfTheLocus(const Model::Targets &gamut);

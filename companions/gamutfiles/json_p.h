@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QJsonDocument>
 #include <QString>
+#include <QVector>
 
 namespace gamutfiles {
 
@@ -23,6 +24,15 @@ struct ParsedJson {
     QString error; //!< why it is null
     TextPosition position; //!< where the first thing stands that is not JSON
 };
+
+/*! \brief A key that an object has more than once. */
+struct RepeatedKey {
+    QString key;
+    TextPosition position; //!< of its last place
+};
+
+/*! \brief The first \a most keys that objects in \a utf8, which is JSON, have more than once. */
+QVector<RepeatedKey> repeatedKeys(const QByteArray &utf8, int most);
 
 /*! \brief Reads \a utf8, with or without a byte order mark. */
 ParsedJson parseJson(const QByteArray &utf8);

@@ -36,6 +36,7 @@ std::optional<JsonReader::Node> JsonReader::parse(const QByteArray &utf8, int ma
 {
     m_failed = false;
     m_error = Problem();
+    m_warnings.clear();
     if (utf8.size() > maximum) {
         fail(QString(), tooLarge.arg(maximum / 1024));
         return std::nullopt;
@@ -51,6 +52,12 @@ std::optional<JsonReader::Node> JsonReader::parse(const QByteArray &utf8, int ma
         m_error.line = parsed.position.line;
         m_error.column = parsed.position.column;
         return std::nullopt;
+    }
+    constexpr int mostWarnings = 5;
+    for (const RepeatedKey &repeated : repeatedKeys(utf8, mostWarnings)) {
+        m_warnings.append(
+            {tr("the key %1 is there twice in this object: the last one counts").arg(quoted(repeated.key)), {},
+                repeated.position.line, repeated.position.column});
     }
     return Node{document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object()), QString()};
 }

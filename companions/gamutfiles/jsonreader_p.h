@@ -28,6 +28,8 @@ class JsonReader {
 public:
     /*! \brief The first thing that is wrong. */
     const Problem &problem() const { return m_error; }
+    /*! \brief What a user must know of a text that was taken: keys that an object has twice, and what warn() said. */
+    const QVector<Problem> &warnings() const { return m_warnings; }
 
 protected:
     struct Node {
@@ -55,11 +57,13 @@ protected:
 
     void fail(const QString &path, const QString &reason);
     void fail(const Node &node, const QString &reason) { fail(node.path, reason); }
+    void warn(const Node &node, const QString &text) { m_warnings.append({text, node.path, 0, 0}); }
     bool failed() const { return m_failed; }
 
 private:
     bool m_failed = false;
     Problem m_error;
+    QVector<Problem> m_warnings;
 };
 
 } // namespace gamutfiles

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "colornames_p.h"
 #include "excerpt_p.h"
 #include "measurementreader_p.h"
 #include "numbers_p.h"
@@ -23,6 +24,11 @@ bool isComplete(const std::array<int, columnPartCount> &columns)
     return (hasLuminance && has(ColumnPart::x) && has(ColumnPart::y))
         || (hasLuminance && has(ColumnPart::u) && has(ColumnPart::v))
         || (has(ColumnPart::X) && has(ColumnPart::Y) && has(ColumnPart::Z));
+}
+
+std::array<MeasuredUnit, 2> unitsOf(const std::array<ColumnName, columnPartCount> &names)
+{
+    return {names[std::size_t(ColumnPart::Luminance)].unit, names[std::size_t(ColumnPart::Y)].unit};
 }
 
 //! The first column that an incomplete header lacks.
@@ -100,13 +106,20 @@ MeasurementReader::Header MeasurementReader::headerOf(const CsvRow &row)
         if (!name || (isLab && isLightness(row.fields.at(i)))) {
             continue;
         }
+        if (name->part == ColumnPart::Note) {
+            header.nameColumns.append(i);
+            continue;
+        }
         const auto part = std::size_t(name->part);
+        if (name->part == ColumnPart::Name) {
+            header.nameColumns.insert(header.nameCount++, i);
+        }
         const bool isLuminance = name->part == ColumnPart::Luminance || name->part == ColumnPart::Y;
         header.luminances += isLuminance ? 1 : 0;
         if (header.columns[part] < 0 || (isLuminance && luminanceRank(*name) > luminanceRank(header.names[part]))) {
             header.columns[part] = i;
             header.names[part] = *name;
-        } else if (!isLuminance && !toldOfDoubled) {
+        } else if (!isLuminance && name->part != ColumnPart::Name && !toldOfDoubled) {
             toldOfDoubled = true;
             header.warnings.append({tr("columns %1 and %2 are both %3: column %1 is read")
                                         .arg(header.columns[part] + 1)
@@ -127,7 +140,7 @@ bool MeasurementReader::findColumns()
     for (int i = 0; i < m_table.rows.size(); ++i) {
         const Header header = headerOf(m_table.rows.at(i));
         if (isComplete(header.columns)) {
-            useHeader(header, i);
+            useHeader(header, m_table.rows.at(i), i + 1);
             return m_failure.text.isEmpty();
         }
         if (header.hasOtherObserver && otherObserverLine == 0) {
@@ -140,6 +153,9 @@ bool MeasurementReader::findColumns()
             likeliestLine = m_table.rows.at(i).line;
             likeliest = header.columns;
         }
+    }
+    if (useCommentedHeader()) {
+        return m_failure.text.isEmpty();
     }
     if (otherObserverLine > 0) {
         return fail(
@@ -164,20 +180,70 @@ bool MeasurementReader::findColumns()
     return fail(tr("missing column %1").arg(columnPartName(missingPart(likeliest))), place(likeliestLine));
 }
 
-void MeasurementReader::useHeader(Header header, int rowIndex)
+//! Some programs write the names behind a #. They count if no other line names the columns and numbers follow them
+//! only.
+bool MeasurementReader::useCommentedHeader()
 {
-    const CsvRow &row = m_table.rows.at(rowIndex);
-    m_firstRow = rowIndex + 1;
+    const auto numbers = std::find_if(m_table.rows.begin(), m_table.rows.end(),
+        [](const CsvRow &row) { return std::count_if(row.fields.begin(), row.fields.end(), isNumber) >= 3; });
+    for (const CsvRow &comment : std::as_const(m_table.comments)) {
+        if (numbers != m_table.rows.end() && comment.line > numbers->line) {
+            break;
+        }
+        const Header header = headerOf(comment);
+        if (isComplete(header.columns)) {
+            const auto next = std::find_if(m_table.rows.begin(), m_table.rows.end(),
+                [&comment](const CsvRow &row) { return row.line > comment.line; });
+            useHeader(header, comment, int(next - m_table.rows.begin()));
+            return true;
+        }
+    }
+    return false;
+}
+
+void MeasurementReader::useHeader(Header header, const CsvRow &row, int firstRow)
+{
+    m_header = header;
+    m_firstRow = firstRow;
     m_list.recognized.headerLine = row.line;
     for (m_width = int(row.fields.size()); m_width > 0 && row.fields.at(m_width - 1).trimmed().isEmpty();) {
         --m_width;
     }
     m_headerFields = int(row.fields.size());
+    chooseName(header, row);
     chooseLuminance(header, row);
     m_warnings += header.warnings;
     useColumns(header.columns, row.fields);
     const bool useLuminance = header.columns[std::size_t(ColumnPart::Luminance)] >= 0;
     readUnitRow(header.names[std::size_t(useLuminance ? ColumnPart::Luminance : ColumnPart::Y)]);
+}
+
+//! Of the columns that can name the measurements the one counts that names the most colours.
+void MeasurementReader::chooseName(Header &header, const CsvRow &row)
+{
+    int &name = header.columns[std::size_t(ColumnPart::Name)];
+    int most = 0;
+    for (const int column : std::as_const(header.nameColumns)) {
+        int colors = 0;
+        bool isGap = false; // whether a measurement has no name in this column
+        for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
+            const QStringList &fields = m_table.rows.at(i).fields;
+            const QString text = fields.value(column).trimmed();
+            colors += colorName(text).part == MeasurementPart::None ? 0 : 1;
+            isGap = isGap || (text.isEmpty() && std::count_if(fields.begin(), fields.end(), isNumber) >= 3);
+        }
+        if (colors > most && (column == name || !isGap)) {
+            most = colors;
+            name = column;
+        }
+    }
+    if (most == 0 && header.nameCount > 1) {
+        header.warnings.append({tr("columns %1 and %2 are both %3: column %1 is read")
+                                    .arg(header.nameColumns.at(0) + 1)
+                                    .arg(header.nameColumns.at(1) + 1)
+                                    .arg(columnPartName(ColumnPart::Name)),
+            place(row.line), 0, 0});
+    }
 }
 
 //! Leaves in \a header the column that the luminances are read from, and a Y beside it for X, Y, Z alone.
@@ -237,17 +303,25 @@ void MeasurementReader::useCabinets(const Columns &columns, const QStringList &h
     if (column(ColumnPart::Cabinet) >= 0) {
         keep(ColumnPart::Cabinet, column(ColumnPart::Cabinet), headers);
     } else if (column(ColumnPart::Number) >= 0 && column(ColumnPart::Name) >= 0) {
-        // A number that each line has for itself counts the lines; one that several share is that of a cabinet.
-        QSet<QString> seen;
+        // A number that each line has for itself counts the lines; one that several share is that of a cabinet, unless
+        // the count begins anew: then each name has a number of its own.
+        QSet<QString> numbers;
+        QSet<QString> names;
+        QSet<QString> pairs;
         int lines = 0;
         for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
-            const QString number = m_table.rows.at(i).fields.value(column(ColumnPart::Number)).trimmed();
-            if (!number.isEmpty()) {
-                seen.insert(number);
+            const CsvRow &row = m_table.rows.at(i);
+            const QString number = row.fields.value(column(ColumnPart::Number)).trimmed();
+            const QString name = row.fields.value(column(ColumnPart::Name)).trimmed();
+            if (!number.isEmpty() && !isRepeatedHeader(row)) {
+                numbers.insert(number);
+                names.insert(name);
+                pairs.insert(number + QChar(0) + name);
                 ++lines;
             }
         }
-        if (seen.size() < lines) {
+        const bool isCount = pairs.size() == numbers.size() && pairs.size() == names.size();
+        if (numbers.size() < lines && !isCount) {
             keep(ColumnPart::Cabinet, column(ColumnPart::Number), headers);
         }
     }
@@ -289,8 +363,10 @@ void MeasurementReader::readUnitRow(ColumnName unit)
             unit.unit = inRow;
             unit.unitText = text;
             line = row.line;
+            m_unitRow = row;
             ++m_firstRow;
         } else if (std::all_of(row.fields.begin(), row.fields.end(), isDashOrNothing)) {
+            m_unitRow = row;
             ++m_firstRow; // a line of units that names none
         }
     }
@@ -327,6 +403,28 @@ void MeasurementReader::useUnit(const ColumnName &luminance, int line)
         m_list.unit = LuminanceUnit::Relative;
         break;
     }
+}
+
+//! Whether \a row names the columns once more, or the units, as it is where sessions are appended to each other.
+bool MeasurementReader::isRepeatedHeader(const CsvRow &row) const
+{
+    if (m_list.recognized.headerLine == 0) {
+        return false;
+    }
+    const auto isUnitRow = [&] {
+        return !m_unitRow.fields.isEmpty() && row.fields == m_unitRow.fields
+            && !std::all_of(row.fields.begin(), row.fields.end(), isDashOrNothing);
+    };
+    const Header header = headerOf(row);
+    return isUnitRow()
+        || (isComplete(header.columns) && header.columns == m_header.columns
+            && unitsOf(header.names) == unitsOf(m_header.names));
+}
+
+//! Whether \a row names columns, but others than the header.
+bool MeasurementReader::isOtherHeader(const CsvRow &row) const
+{
+    return m_list.recognized.headerLine > 0 && isComplete(headerOf(row).columns) && !isRepeatedHeader(row);
 }
 
 void MeasurementReader::warnOfUnits(const ColumnName &luminance, const QString &where)

@@ -31,6 +31,8 @@ private:
     struct Header {
         Columns columns;
         std::array<ColumnName, columnPartCount> names;
+        QVector<int> nameColumns; // those that can name the measurements, remarks behind the others
+        int nameCount = 0; // how many of these are no remarks
         QVector<Problem> warnings; // columns that are not read though they could be meant
         int luminances = 0; // columns that give one
         bool hasOtherObserver = false; // columns of the 10° observer
@@ -45,19 +47,27 @@ private:
     bool checkGamut();
 
     static Header headerOf(const CsvRow &row);
-    void useHeader(Header header, int rowIndex);
+    bool useCommentedHeader();
+    void useHeader(Header header, const CsvRow &row, int firstRow);
+    void chooseName(Header &header, const CsvRow &row);
     void chooseLuminance(Header &header, const CsvRow &row);
     void useColumns(const Columns &columns, const QStringList &headers);
     void useCabinets(const Columns &columns, const QStringList &headers);
     void keep(ColumnPart part, int column, const QStringList &headers);
     void readUnitRow(ColumnName unit);
     void useUnit(const ColumnName &luminance, int line);
+    bool isRepeatedHeader(const CsvRow &row) const;
+    bool isOtherHeader(const CsvRow &row) const;
     void warnOfUnits(const ColumnName &luminance, const QString &where);
 
+    void findNoise();
+    ColumnPart luminancePart() const;
     std::optional<Measurement> readRow(const CsvRow &row);
     bool readColor(const CsvRow &row, Measurement &measurement);
+    void readWithoutChromaticity(const CsvRow &row, const Measurement &measurement);
+    bool readXy(const CsvRow &row, Measurement &measurement, bool isDark);
     bool readTristimulus(const CsvRow &row, Measurement &measurement);
-    bool readUv(const CsvRow &row, Measurement &measurement);
+    bool readUv(const CsvRow &row, Measurement &measurement, bool isDark);
     void readPlace(const CsvRow &row, Measurement &measurement);
     std::optional<QString> field(const CsvRow &row, ColumnPart part);
     std::optional<double> number(const CsvRow &row, ColumnPart part);
@@ -94,6 +104,8 @@ private:
 
     MeasurementOptions m_options;
     CsvTable m_table;
+    Header m_header{}; // as the list gives it
+    CsvRow m_unitRow; // below the header; without fields: there is none
     int m_firstRow = 0; // of the measurements
     int m_headerFields = 0; // how many the header has; 0: there is none
     int m_width = 0; // of them, up to the last with a name
@@ -102,8 +114,12 @@ private:
     QVector<ColumnPart> m_numberParts; // the columns that must be numbers
     QChar m_decimalSign = QLatin1Char('.');
     double m_luminanceScale = 1.0;
+    std::array<double, columnPartCount> m_noise{}; // of Y and of the luminances: how far below 0 they can be
+    Lines m_repeatedHeaders;
     Lines m_withoutNumbers;
     Lines m_withoutChromaticity;
+    Lines m_dark;
+    Lines m_belowZero;
     Lines m_wider;
     MeasurementList m_list;
     QVector<Problem> m_warnings;

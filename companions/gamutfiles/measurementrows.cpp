@@ -92,14 +92,23 @@ bool MeasurementReader::decideDecimalSign()
 
 bool MeasurementReader::readRows()
 {
+    findNoise();
     for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
         const CsvRow &row = m_table.rows.at(i);
         const auto isEmpty = [](const QString &text) { return text.trimmed().isEmpty(); };
         if (std::all_of(row.fields.begin(), row.fields.end(), isEmpty)) {
             continue;
         }
+        if (isRepeatedHeader(row)) {
+            m_repeatedHeaders.add(row.line);
+            continue;
+        }
+        if (isOtherHeader(row)) {
+            return fail(tr("names other columns than line %1: divide the list here").arg(m_list.recognized.headerLine),
+                place(row.line));
+        }
         if (std::all_of(m_numberParts.begin(), m_numberParts.end(),
-                [&](ColumnPart part) { return isEmpty(given(row, part)); })) {
+                [&](ColumnPart part) { return isNotMeasured(given(row, part)); })) {
             m_withoutNumbers.add(row.line);
             continue;
         }
@@ -123,6 +132,25 @@ bool MeasurementReader::readRows()
     }
     warnOfRows();
     return true;
+}
+
+//! What a column can have below 0 by the noise of an instrument is judged by its largest number.
+void MeasurementReader::findNoise()
+{
+    constexpr double noise = 0.001;
+    constexpr double leastNoise = 0.01; // cd/m², which few instruments resolve
+    for (const ColumnPart part : {luminancePart(), ColumnPart::Y}) {
+        double largest = 0.0;
+        for (int i = m_firstRow; i < m_table.rows.size() && has(part); ++i) {
+            const auto read = readNumber(given(m_table.rows.at(i), part), m_decimalSign);
+            largest = std::max(largest, read ? read->value : 0.0);
+        }
+        m_noise[std::size_t(part)] = noise * largest;
+    }
+    if (m_list.unit == LuminanceUnit::CandelaPerSquareMetre) {
+        double &least = m_noise[std::size_t(luminancePart())];
+        least = std::max(least, leastNoise / m_luminanceScale);
+    }
 }
 
 /*
@@ -164,9 +192,12 @@ void MeasurementReader::warnOfRows()
             warn(text + more, place(lines.first));
         }
     };
+    tell(m_repeatedHeaders, tr("repeats the line that names the columns and is not read"));
     tell(m_withoutNumbers, tr("has no numbers and is not read"));
     tell(m_wider, tr("has more fields than the line that names the columns"));
     tell(m_withoutChromaticity, tr("has a luminance but no chromaticity"));
+    tell(m_dark, tr("is as dark as noise, with numbers that no colour has: it is read without a chromaticity"));
+    tell(m_belowZero, tr("has a value slightly below 0, as noise gives: it is read as 0"));
 }
 
 std::optional<Measurement> MeasurementReader::readRow(const CsvRow &row)
@@ -191,40 +222,59 @@ std::optional<Measurement> MeasurementReader::readRow(const CsvRow &row)
     return measurement;
 }
 
+ColumnPart MeasurementReader::luminancePart() const
+{
+    return m_numberParts.first() == ColumnPart::X ? ColumnPart::Y : m_numberParts.first();
+}
+
 bool MeasurementReader::readColor(const CsvRow &row, Measurement &measurement)
 {
-    const ColumnPart luminancePart = m_numberParts.first() == ColumnPart::X ? ColumnPart::Y : m_numberParts.first();
-    const auto luminance = number(row, luminancePart);
+    const ColumnPart part = luminancePart();
+    const auto luminance = number(row, part);
     if (!luminance) {
         return false;
     }
-    measurement.luminance = *luminance * m_luminanceScale;
-    if (*luminance < 0.0) {
-        return fail(tr("luminance must not be negative"), place(row.line, luminancePart));
+    const double noise = m_noise[std::size_t(part)];
+    if (*luminance < -noise) {
+        return fail(tr("luminance must not be negative"), place(row.line, part));
     }
+    measurement.luminance = std::max(*luminance, 0.0) * m_luminanceScale;
     if (has(ColumnPart::X)) {
         return readTristimulus(row, measurement);
     }
     const bool isUv = has(ColumnPart::u);
-    if (isNotGiven(row, isUv ? ColumnPart::u : ColumnPart::x)
-        && isNotGiven(row, isUv ? ColumnPart::v : ColumnPart::y)) {
-        if (*luminance > 0.0) {
-            m_withoutChromaticity.add(row.line);
-        }
+    if (*luminance < 0.0) {
+        m_dark.add(row.line);
         return true;
     }
-    if (isUv) {
-        return readUv(row, measurement);
+    if (isNotGiven(row, isUv ? ColumnPart::u : ColumnPart::x)
+        && isNotGiven(row, isUv ? ColumnPart::v : ColumnPart::y)) {
+        readWithoutChromaticity(row, measurement);
+        return true;
     }
+    return isUv ? readUv(row, measurement, *luminance <= noise) : readXy(row, measurement, *luminance <= noise);
+}
+
+void MeasurementReader::readWithoutChromaticity(const CsvRow &row, const Measurement &measurement)
+{
+    if (measurement.luminance > 0.0) {
+        m_withoutChromaticity.add(row.line);
+    }
+}
+
+bool MeasurementReader::readXy(const CsvRow &row, Measurement &measurement, bool isDark)
+{
     const auto x = number(row, ColumnPart::x);
     const auto y = x ? number(row, ColumnPart::y) : std::nullopt;
     if (!y) {
         return false;
     }
     if (*x == 0.0 && *y == 0.0) {
-        if (*luminance > 0.0) {
-            m_withoutChromaticity.add(row.line);
-        }
+        readWithoutChromaticity(row, measurement);
+        return true;
+    }
+    if (isDark && (*x < 0.0 || *y <= 0.0 || *x + *y > 1.0 + binaryRounding)) {
+        m_dark.add(row.line);
         return true;
     }
     if (*x < 0.0) {
@@ -242,17 +292,32 @@ bool MeasurementReader::readColor(const CsvRow &row, Measurement &measurement)
 
 bool MeasurementReader::readTristimulus(const CsvRow &row, Measurement &measurement)
 {
+    if (isNotGiven(row, ColumnPart::X) && isNotGiven(row, ColumnPart::Z)) {
+        readWithoutChromaticity(row, measurement);
+        return true;
+    }
     std::array<double, 3> values{};
     const std::array parts{ColumnPart::X, ColumnPart::Y, ColumnPart::Z};
+    const double noise = m_noise[std::size_t(ColumnPart::Y)];
+    bool isBelowZero = false;
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const auto value = number(row, parts[i]);
         if (!value) {
             return false;
         }
-        if (*value < 0.0) {
+        if (*value < -noise) {
             return fail(tr("a tristimulus value must not be negative"), place(row.line, parts[i]));
         }
+        isBelowZero = isBelowZero || *value < 0.0;
         values[i] = *value;
+    }
+    if (isBelowZero && std::all_of(values.begin(), values.end(), [noise](double value) { return value <= noise; })) {
+        m_dark.add(row.line);
+        return true;
+    }
+    if (isBelowZero) {
+        m_belowZero.add(row.line);
+        std::transform(values.begin(), values.end(), values.begin(), [](double value) { return std::max(value, 0.0); });
     }
     // An instrument rounds what is too dark for it to 0: what is left has no chromaticity.
     if (values[1] > 0.0) {
@@ -265,7 +330,7 @@ bool MeasurementReader::readTristimulus(const CsvRow &row, Measurement &measurem
     return true;
 }
 
-bool MeasurementReader::readUv(const CsvRow &row, Measurement &measurement)
+bool MeasurementReader::readUv(const CsvRow &row, Measurement &measurement, bool isDark)
 {
     const auto u = number(row, ColumnPart::u);
     const auto v = u ? number(row, ColumnPart::v) : std::nullopt;
@@ -273,9 +338,16 @@ bool MeasurementReader::readUv(const CsvRow &row, Measurement &measurement)
         return false;
     }
     if (*u == 0.0 && *v == 0.0) {
-        if (measurement.luminance > 0.0) {
-            m_withoutChromaticity.add(row.line);
-        }
+        readWithoutChromaticity(row, measurement);
+        return true;
+    }
+    // ISO 11664-5:2009, the inverse of the equations for u' and v'.
+    const double divisor = 6.0 * *u - 16.0 * *v + 12.0;
+    const double x = 9.0 * *u / divisor;
+    const double y = 4.0 * *v / divisor;
+    const bool isColor = divisor > 0.0 && x + y <= 1.0 + decimalRounding;
+    if (isDark && (*u < 0.0 || *v <= 0.0 || !isColor)) {
+        m_dark.add(row.line);
         return true;
     }
     if (*u < 0.0) {
@@ -284,11 +356,7 @@ bool MeasurementReader::readUv(const CsvRow &row, Measurement &measurement)
     if (*v <= 0.0) {
         return fail(tr("v' must be greater than 0"), place(row.line, ColumnPart::v));
     }
-    // ISO 11664-5:2009, the inverse of the equations for u' and v'.
-    const double divisor = 6.0 * *u - 16.0 * *v + 12.0;
-    const double x = 9.0 * *u / divisor;
-    const double y = 4.0 * *v / divisor;
-    if (divisor <= 0.0 || !(x + y <= 1.0 + decimalRounding)) {
+    if (!isColor) {
         return fail(tr("u' and v' are not those of a colour"), place(row.line, ColumnPart::u));
     }
     measurement.color = Model::Target::fromYxy(measurement.luminance, x, y);
@@ -324,13 +392,13 @@ QString MeasurementReader::given(const CsvRow &row, ColumnPart part) const
     return has(part) ? row.fields.value(columnOf(part)).trimmed() : QString();
 }
 
-//! Instruments write dashes, spreadsheets nothing, for the chromaticity of what is too dark.
+//! Instruments write dashes, spreadsheets nothing or "n/a", for the chromaticity of what is too dark.
 bool MeasurementReader::isNotGiven(const CsvRow &row, ColumnPart part) const
 {
     if (columnOf(part) >= row.fields.size()) {
         return false;
     }
-    return isDashOrNothing(given(row, part));
+    return isNotMeasured(given(row, part));
 }
 
 std::optional<QString> MeasurementReader::field(const CsvRow &row, ColumnPart part)

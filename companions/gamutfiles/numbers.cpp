@@ -119,8 +119,20 @@ bool isNumber(const QString &text)
 
 bool isDashOrNothing(const QString &text)
 {
-    return std::all_of(text.begin(), text.end(),
-        [](QChar c) { return c.isSpace() || c == QLatin1Char('-') || c == QChar(0x2013) || c == QChar(0x2014); });
+    // Hyphen-minus, the hyphens and dashes of Unicode up to the horizontal bar, minus.
+    return std::all_of(text.begin(), text.end(), [](QChar c) {
+        return c.isSpace() || c == QLatin1Char('-') || (c >= QChar(0x2010) && c <= QChar(0x2015)) || c == QChar(0x2212);
+    });
+}
+
+bool isNotMeasured(const QString &text)
+{
+    static const QStringList words{QStringLiteral("n/a"), QStringLiteral("n.a."), QStringLiteral("na"),
+        QStringLiteral("nan"), QStringLiteral("-nan"), QStringLiteral("nan(ind)"), QStringLiteral("-nan(ind)"),
+        QStringLiteral("1.#ind"), QStringLiteral("-1.#ind"), QStringLiteral("1.#qnan"), QStringLiteral("-1.#qnan"),
+        QStringLiteral("null"), QStringLiteral("none"), QStringLiteral("/"), QStringLiteral("#n/a"),
+        QStringLiteral("#nv"), QStringLiteral("#div/0!")};
+    return isDashOrNothing(text) || words.contains(text.trimmed(), Qt::CaseInsensitive);
 }
 
 std::optional<Number> readNumber(const QString &text, QChar decimalSign)

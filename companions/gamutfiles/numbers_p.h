@@ -28,10 +28,14 @@ DecimalEvidence decimalEvidence(const QString &text);
 /*! \brief Whether \a text, white space around it aside, is a number with either decimal sign. */
 bool isNumber(const QString &text);
 
-/*! \brief Whether \a text has nothing but white space and dashes, as instruments write it for what they did not
- * measure.
- */
+/*! \brief Whether \a text has nothing but white space and dashes. */
 bool isDashOrNothing(const QString &text);
+
+/*!
+ * \brief Whether \a text says that there is no number: dashes or nothing, "n/a", "NaN" in the spellings of several
+ * compilers, a lone stroke, or what spreadsheets show for a division by zero.
+ */
+bool isNotMeasured(const QString &text);
 
 /*! \brief A number that was read. */
 struct Number {

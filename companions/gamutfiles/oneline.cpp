@@ -3,20 +3,44 @@
 
 namespace gamutfiles {
 
+namespace {
+
+//! Ends lines, turns the direction of writing, or is not to be seen; half of a pair cannot be written at all.
+bool mayAlterLine(uint character)
+{
+    constexpr uint nonJoiner = 0x200C; // with the joiner behind it a part of words and of emoji
+    switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_Surrogate:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    case QChar::Other_Format:
+        return character != nonJoiner && character != nonJoiner + 1;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 QString oneLine(const QString &text)
 {
     QString line;
     line.reserve(text.size());
-    for (const QChar c : text) {
-        switch (c.category()) {
-        case QChar::Other_Control:
-        case QChar::Separator_Line:
-        case QChar::Separator_Paragraph:
-            line += QStringLiteral("\\u%1").arg(uint(c.unicode()), 4, 16, QLatin1Char('0'));
-            break;
-        default:
-            line += c;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool isPair = c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        const int end = isPair ? i + 2 : i + 1;
+        const uint character = isPair ? QChar::surrogateToUcs4(c, text.at(i + 1)) : c.unicode();
+        if (!mayAlterLine(character)) {
+            line += text.mid(i, end - i);
+        } else {
+            for (int unit = i; unit < end; ++unit) {
+                line += QStringLiteral("\\u%1").arg(uint(text.at(unit).unicode()), 4, 16, QLatin1Char('0'));
+            }
         }
+        i = end - 1;
     }
     return line;
 }

@@ -151,7 +151,8 @@ Outcome<Tolerances> readTolerances(const QByteArray &utf8)
 {
     TolerancesReader reader;
     const auto tolerances = reader.read(utf8);
-    return tolerances ? Outcome<Tolerances>(*tolerances) : Outcome<Tolerances>::failure(reader.problem());
+    return tolerances ? Outcome<Tolerances>(*tolerances, reader.warnings())
+                      : Outcome<Tolerances>::failure(reader.problem());
 }
 
 Outcome<Tolerances> readTolerancesFile(const QString &fileName)

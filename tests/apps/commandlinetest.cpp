@@ -395,6 +395,11 @@ void CommandLineTest::refusals_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("error");
     QTest::newRow("unknown option") << QStringList{"--bogus"} << "Unknown option 'bogus'.";
+    // Not a word for help, and a file besides.
+    QTest::newRow("file with a hyphen") << QStringList{"--report", "json", "-have.icc"} << "Unknown option 'have.icc'.";
+    QTest::newRow("file with a hyphen and v") << QStringList{"-view.icc"} << "Unknown option 'view.icc'.";
+    QTest::newRow("report of no file") << QStringList{"--report", "json"}
+                                       << "No file to report on: --report requires one.";
     QTest::newRow("no picture file") << QStringList{"--render"} << "Missing value after '--render'.";
     QTest::newRow("unknown unit") << QStringList{"--unit", "lux"}
                                   << "Unknown unit, expected cd/m2, fL or relative: lux";

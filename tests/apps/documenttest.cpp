@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "editing/document.h"
+#include "display/knowndisplay.h"
 #include "editing/targetsession.h"
 
 #include <gamutmodel/drive.h>
@@ -9,6 +10,8 @@
 #include <QtTest>
 
 using namespace gamutviewer;
+
+Q_DECLARE_METATYPE(LuminanceUnit)
 
 class DocumentTest : public QObject {
     Q_OBJECT
@@ -27,6 +30,8 @@ private Q_SLOTS:
     void lockedAndHeldAreRefused();
     void fitsToTheOriginal();
     void unitOfLuminancesIsChosen();
+    void brightestWhiteIsKnownToBeReached_data();
+    void brightestWhiteIsKnownToBeReached();
     void heldWhiteHasTheUnitOfTheOriginal();
     void whiteByTemperature();
 };
@@ -228,16 +233,19 @@ void DocumentTest::fitsToTheOriginal()
 {
     Fixture f;
     QVERIFY(f.session.setChromaticity(Vertex::Green, QPointF(0.17, 0.78)));
-    QVERIFY(f.session.distanceOutside(Vertex::Green) > 0.005);
+    const auto outside = [&f](Vertex primary) {
+        const auto of = outsideOf(f.document.description(), primary);
+        return of ? of->distance : 0.0;
+    };
+    QVERIFY(outside(Vertex::Green) > 0.005);
     const int steps = f.document.history()->count();
     f.session.fitToDisplay();
     QCOMPARE(f.document.history()->count(), steps + 1);
     for (const Vertex primary : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
-        QCOMPARE(f.session.distanceOutside(primary), 0.0);
+        QCOMPARE(outside(primary), 0.0);
     }
-    const Model::PrimariesOutside outside
-        = Model::primariesOutside(f.document.target()->getTargets(), f.document.original()->getTargets());
-    QVERIFY(!outside.red && !outside.green && !outside.blue);
+    const auto original = f.document.original();
+    QVERIFY(!Model::primariesOutside(f.document.target()->getTargets(), original->getTargets()).any());
     // At the decimals that are shown, and so what the verdict has proposed.
     QCOMPARE(f.xy(Vertex::Green).x(), QString::number(f.xy(Vertex::Green).x(), 'f', 4).toDouble());
 }
@@ -271,6 +279,62 @@ void DocumentTest::unitOfLuminancesIsChosen()
     f.document.history()->undo();
     QCOMPARE(unit(), LuminanceUnit::NotKnown);
     QVERIFY(relative > 0.0);
+}
+
+void DocumentTest::brightestWhiteIsKnownToBeReached_data()
+{
+    QTest::addColumn<double>("originalPrimaries"); // the white that they add to, in cd/m²
+    QTest::addColumn<double>("originalWhite");
+    QTest::addColumn<double>("measuredPrimaries"); // 0: not measured
+    QTest::addColumn<double>("measuredWhite");
+    QTest::addColumn<LuminanceUnit>("measuredUnit");
+    QTest::addColumn<double>("expected"); // 0: not known
+    constexpr auto absolute = LuminanceUnit::CandelaPerSquareMetre;
+    constexpr auto relative = LuminanceUnit::Relative;
+    QTest::newRow("original alone") << 1000.0 << 1000.0 << 0.0 << 0.0 << absolute << 1000.0;
+    QTest::newRow("measured dimmer") << 1000.0 << 1000.0 << 600.0 << 600.0 << absolute << 600.0;
+    QTest::newRow("measured brighter") << 1000.0 << 1000.0 << 1200.0 << 1200.0 << absolute << 1000.0;
+    QTest::newRow("measured without a scale") << 1000.0 << 1000.0 << 1.0 << 1.0 << relative << 1000.0;
+    QTest::newRow("measured not additive") << 1000.0 << 1000.0 << 1000.0 << 400.0 << absolute << 0.0;
+    QTest::newRow("original not additive") << 1000.0 << 400.0 << 0.0 << 0.0 << absolute << 0.0;
+    QTest::newRow("original not additive, measured") << 1000.0 << 400.0 << 600.0 << 600.0 << absolute << 0.0;
+}
+
+void DocumentTest::brightestWhiteIsKnownToBeReached()
+{
+    QFETCH(double, originalPrimaries);
+    QFETCH(double, originalWhite);
+    QFETCH(double, measuredPrimaries);
+    QFETCH(double, measuredWhite);
+    QFETCH(LuminanceUnit, measuredUnit);
+    QFETCH(double, expected);
+    // The white of Rec.2020 is the sum of its primaries.
+    const auto gamut = [](const char *name, double primaries, double white, LuminanceUnit unit) {
+        const Model::Targets &t = Model::rec2020().getTargets();
+        const auto at
+            = [](const Model::Target &c, double factor) { return Model::Target::fromYxy(c.Y * factor, c.x, c.y); };
+        return DisplayGamut(
+            Model::ColorGamut(
+                name, {at(t.red, primaries), at(t.green, primaries), at(t.blue, primaries), at(t.white, white)}),
+            unit);
+    };
+    DisplayDescription d;
+    d.gamuts.push_back(gamut("Wall", originalPrimaries, originalWhite, LuminanceUnit::CandelaPerSquareMetre));
+    d.original = QStringLiteral("Wall");
+    if (measuredPrimaries > 0.0) {
+        d.gamuts.push_back(gamut("Meter", measuredPrimaries, measuredWhite, measuredUnit));
+        d.measured = QStringLiteral("Meter");
+    }
+    d.target = QStringLiteral("Rec.709");
+    Document document;
+    document.open(d, QString());
+    TargetSession session(&document);
+    QSignalSpy refused(&session, &TargetSession::refused);
+    session.setLuminanceUnit(LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(document.target()->unit, LuminanceUnit::CandelaPerSquareMetre);
+    const double white = document.target()->getTargets().white.Y;
+    QCOMPARE(refused.size(), expected > 0.0 ? 0 : 1);
+    QVERIFY2(qAbs(white - (expected > 0.0 ? expected : 1.0)) < 1e-4 * white, qPrintable(QString::number(white)));
 }
 
 void DocumentTest::heldWhiteHasTheUnitOfTheOriginal()

@@ -437,12 +437,12 @@ void OpenedFilesTest::warningsOfReadersAreKept()
     QCOMPARE(lines(openedWith(wall(), {file})), expected);
     file.warnings.clear();
     QVERIFY(openedAlone({file}).warnings.isEmpty());
-    QVERIFY(openedAlone({file}).facts.isEmpty());
+    QVERIFY(openedAlone({file}).notes.facts.isEmpty());
     file.file.facts = {{QStringLiteral("made by"), QStringLiteral("XYZ")}};
     for (const OpenedFiles &opened : {openedAlone({file}), openedWith(wall(), {file})}) {
-        QCOMPARE(opened.facts.size(), 1);
-        QCOMPARE(opened.facts.first().fileName, file.fileName);
-        QCOMPARE(opened.facts.first().fact.value, QStringLiteral("XYZ"));
+        QCOMPARE(opened.notes.facts.size(), 1);
+        QCOMPARE(opened.notes.facts.first().fileName, file.fileName);
+        QCOMPARE(opened.notes.facts.first().fact.value, QStringLiteral("XYZ"));
     }
 }
 

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void drive();
     void driveThatIsNotKnown();
     void notes();
+    void lists();
     void emptyDescription();
     void textIsTheReport();
     void documentedKeys();
@@ -351,6 +352,34 @@ void ReportTest::notes()
     QCOMPARE(at(all, "facts.0.value").toString(), QStringLiteral("XYZ"));
 }
 
+void ReportTest::lists()
+{
+    QVERIFY(report(wall()).value("lists").isArray() && report(wall()).value("lists").toArray().isEmpty());
+    const auto read = readMeasurementList("Patch;Lv [fL];x;y\nW 100;1,5;0,31;0,33\n");
+    QVERIFY2(read, qPrintable(read.error()));
+    ReportNotes notes;
+    notes.lists = {{QStringLiteral("meter.csv"), read->recognized}, {QStringLiteral("b.csv"), {}}};
+    const QJsonObject all = QJsonDocument::fromJson(reportText(wall(), std::nullopt, notes)).object();
+    QCOMPARE(at(all, "lists").toArray().size(), 2);
+    QCOMPARE(at(all, "lists.0.file").toString(), QStringLiteral("meter.csv"));
+    QCOMPARE(at(all, "lists.0.separator").toString(), QStringLiteral(";"));
+    QCOMPARE(at(all, "lists.0.decimalSign").toString(), QStringLiteral(","));
+    QCOMPARE(at(all, "lists.0.unit").toString(), QStringLiteral("fL"));
+    QCOMPARE(at(all, "lists.0.columns").toArray().size(), 4);
+    QCOMPARE(at(all, "lists.0.columns.1.column").toInt(), 2);
+    QCOMPARE(at(all, "lists.0.columns.1.part").toString(), QStringLiteral("Y"));
+    QCOMPARE(at(all, "lists.0.columns.1.header").toString(), QStringLiteral("Lv [fL]"));
+    QCOMPARE(at(all, "lists.0.colors.0.line").toInt(), 2);
+    QCOMPARE(at(all, "lists.0.colors.0.name").toString(), QStringLiteral("W 100"));
+    QCOMPARE(at(all, "lists.0.colors.0.color").toString(), QStringLiteral("white"));
+    QStringList lines;
+    for (const QJsonValue &line : at(all, "lists.0.text").toArray()) {
+        lines.append(line.toString());
+    }
+    QCOMPARE(lines.join('\n'), read->recognized.text());
+    QVERIFY(at(all, "lists.1.unit").isNull() && at(all, "lists.1.decimalSign").isNull());
+}
+
 void ReportTest::emptyDescription()
 {
     const QJsonObject all = report(DisplayDescription());
@@ -379,7 +408,8 @@ void ReportTest::documentedKeys()
              "file", "wall", "correctedWhite", "commonGamut", "shape", "corners", "excluding", "fit", "moved", "limit",
              "uniformity", "before", "after", "neighborUv", "neighborLuminance", "luminance", "difference", "cabinets",
              "cabinet", "row", "column", "leftOut", "gamut", "additive", "uvBefore", "uvAfter", "neighborBefore",
-             "neighborAfter", "matrix"}) {
+             "neighborAfter", "matrix",
+             "lists", "separator", "decimalSign", "columns", "column", "part", "header", "colors", "line"}) {
         QVERIFY2(documentation.contains('`' + QByteArray(key) + '`'), key);
     }
 }

@@ -6,6 +6,7 @@
 #include "editing/document.h"
 #include "editing/openedfiles.h"
 #include "editing/targetedits.h"
+#include "editing/targetsession.h"
 #include "window/adddialog.h"
 #include "window/diagrampage.h"
 #include "window/viewerwindow.h"
@@ -63,6 +64,8 @@ struct WindowFixture {
         description.measured.clear();
         window->setDescription(description, QString());
     }
+    /*! Makes a change that can be lost. */
+    void change() { window->session()->setChromaticity(gamutviewer::Vertex::Red, QPointF(0.66, 0.32)); }
     void show(QWidget *page)
     {
         window->pages()->setCurrentWidget(page);

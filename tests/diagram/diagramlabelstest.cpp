@@ -21,6 +21,10 @@ private Q_SLOTS:
     void namesOfGamutsAreShown();
     void oddNamesAreShown();
     void numbersLeaveMarksToBeSeen();
+    void textsLeaveHandles_data();
+    void textsLeaveHandles();
+    void numbersLeaveRings();
+    void shortenedNamesSaySomething();
     void outlinesDoNotCutWavelengths();
     void negativeNumbersAreShown_data();
     void negativeNumbersAreShown();
@@ -235,6 +239,91 @@ void DiagramLabelsTest::numbersLeaveMarksToBeSeen()
         }
     }
     QVERIFY2(numbers > 20, qPrintable(QString::number(numbers)));
+}
+
+void DiagramLabelsTest::textsLeaveHandles_data()
+{
+    labelsStandApart_data();
+}
+
+void DiagramLabelsTest::textsLeaveHandles()
+{
+    QFETCH(int, diagram);
+    QFETCH(QSizeF, size);
+    QFETCH(double, zoom);
+    // With the ring round the one that is selected.
+    constexpr double reach = 15.0;
+    DiagramPainter painter;
+    DiagramContent content = fullContent();
+    // On the locus beside numbers of wavelengths, and beside marks with names.
+    content.gamuts.append(
+        {gamut("On the locus", {0.6915, 0.3083}, {0.0743, 0.8338}, {0.1241, 0.0578}, {0.32, 0.34}), GamutRole::Target});
+    content.measurePoints.append({QPointF(0.3127, 0.3291), QStringLiteral("white")});
+    for (const QPointF &at : {d65, QPointF(0.0743, 0.8338)}) {
+        prepare(painter, content, Model::Diagram(diagram), size, zoom, at);
+        for (int i = 0; i < content.gamuts.size(); ++i) {
+            if (content.gamuts.at(i).role != GamutRole::Target) {
+                continue;
+            }
+            const Model::Target white = content.gamuts.at(i).gamut.getTargets().white;
+            QPolygonF handles = painter.outline(i);
+            handles.append(painter.viewport().toPosition(QPointF(white.x, white.y)));
+            for (const DiagramLabel &label : painter.labels()) {
+                for (const QPointF &handle : handles) {
+                    QVERIFY2(label.kind == DiagramLabel::Kind::Axis
+                            || !label.place.adjusted(-reach, -reach, reach, reach).contains(handle),
+                        qPrintable(label.text));
+                }
+            }
+        }
+    }
+}
+
+void DiagramLabelsTest::numbersLeaveRings()
+{
+    DiagramPainter painter;
+    DiagramContent content = fullContent();
+    content.measurePoints.clear();
+    int numbers = 0;
+    for (const Model::Diagram diagram : allDiagrams) {
+        for (const double zoom : {10.0, 30.0, 60.0, 90.0, 140.0, 300.0}) {
+            for (const QSizeF &size : {QSizeF(250, 250), QSizeF(1024, 768)}) {
+                prepare(painter, content, diagram, size, zoom);
+                const QVector<DiagramLabel> labels = painter.labels();
+                for (const double radius : content.rings.first().radii) {
+                    const QPolygonF ring = DiagramPainter::ring(painter.viewport(), d65, radius);
+                    for (const DiagramLabel &label : labels) {
+                        if (label.kind != DiagramLabel::Kind::Isotherm) {
+                            continue;
+                        }
+                        ++numbers;
+                        for (int i = 0; i < ring.size(); ++i) {
+                            QVERIFY2(!label.place.contains(ring.at(i)), qPrintable(label.text));
+                        }
+                    }
+                }
+            }
+        }
+    }
+    QVERIFY2(numbers > 100, qPrintable(QString::number(numbers)));
+}
+
+void DiagramLabelsTest::shortenedNamesSaySomething()
+{
+    DiagramPainter painter;
+    int shortened = 0;
+    for (int width = 60; width < 400; width += 7) {
+        for (const double zoom : {1.0, 2.0, 5.0}) {
+            prepare(painter, fullContent(), Model::Diagram::Cie1931, QSizeF(width, 0.8 * width), zoom);
+            for (const DiagramLabel &label : painter.labels()) {
+                if (label.text.endsWith(QChar(0x2026))) {
+                    ++shortened;
+                    QVERIFY2(label.text.size() > 3, qPrintable(QStringLiteral("%1 at %2").arg(label.text).arg(width)));
+                }
+            }
+        }
+    }
+    QVERIFY2(shortened > 10, qPrintable(QString::number(shortened)));
 }
 
 void DiagramLabelsTest::outlinesDoNotCutWavelengths()

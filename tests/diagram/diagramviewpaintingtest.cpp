@@ -66,6 +66,7 @@ private Q_SLOTS:
     void imagesOfNoRatioAreNull();
     void imagesShowNoHands();
     void cursorsSayWhatAHandDoes();
+    void hoverFollowsWhatChanges();
 };
 
 void DiagramViewPaintingTest::hoverRepaintsTheReadoutOnly()
@@ -354,6 +355,50 @@ void DiagramViewPaintingTest::cursorsSayWhatAHandDoes()
     QCOMPARE(view.cursor().shape(), Qt::ForbiddenCursor);
     view.hover(QPointF(1, 1));
     QCOMPARE(view.cursor().shape(), Qt::ArrowCursor);
+}
+
+void DiagramViewPaintingTest::hoverFollowsWhatChanges()
+{
+    View view;
+    const auto isOnRed = [&view](Qt::CursorShape shape) {
+        const auto &handles = view.d->overlay.handles;
+        return view.cursor().shape() == shape && view.d->hovered == GamutVertex::Red
+            && std::count_if(handles.cbegin(), handles.cend(),
+                   [](const DiagramOverlay::Handle &handle) { return handle.isHovered; })
+            == 1;
+    };
+    const auto isOnNone = [&view] {
+        const auto &handles = view.d->overlay.handles;
+        return view.cursor().shape() == Qt::CrossCursor && !view.d->hovered
+            && std::none_of(handles.cbegin(), handles.cend(),
+                [](const DiagramOverlay::Handle &handle) { return handle.isHovered; });
+    };
+    // The pointer rests where red is.
+    view.hover(view.at(GamutVertex::Red));
+    QVERIFY(isOnRed(Qt::SizeAllCursor));
+    Model::Targets moved = Model::rec709().getTargets();
+    moved.red = Model::Target::fromYxy(moved.red.Y, 0.55, 0.40);
+    view.takePainted();
+    view.setTarget(Model::ColorGamut("moved", moved));
+    QVERIFY(isOnNone());
+    const QImage left = view.grab().toImage();
+    view.hover(view.at(QPointF(0.45, 0.45)));
+    view.hover(view.at(xyOf(Model::rec709().getTargets().red)));
+    QCOMPARE(difference(view.grab().toImage(), left), QRect());
+    view.setTarget(Model::rec709());
+    QVERIFY(isOnRed(Qt::SizeAllCursor));
+    auto rules = std::make_shared<StandardTargetRules>();
+    rules->setLocksPrimaries(true);
+    view.setRules(rules);
+    QVERIFY(isOnRed(Qt::ForbiddenCursor));
+    view.setRules(nullptr);
+    QVERIFY(isOnRed(Qt::SizeAllCursor));
+    view.setReadOnly(true);
+    QVERIFY(isOnNone());
+    view.setReadOnly(false);
+    QVERIFY(isOnRed(Qt::SizeAllCursor));
+    view.clearGamuts(GamutRole::Target);
+    QVERIFY(isOnNone());
 }
 
 QTEST_MAIN(DiagramViewPaintingTest)

@@ -33,12 +33,13 @@ void ColumnNamesTest::parts_data()
             "颜色"});
     rows(ColumnPart::Luminance,
         {"Lv", "LV", "lv", "L", "Luminance", "Luminance (cd/m2)", "nits", "cd/m²", "Leuchtdichte in cd/m²",
-            "Lv [cd/m²]", "XYY_CAPY", "亮度", "亮度（cd/㎡）", "fL", "L_v", "Luminance, nits", "Luminance Y"});
-    rows(ColumnPart::Y, {"Y", "CIE Y", "Y (cd/m2)", "Y [cd/m²]", "XYZ_Y", "CIE 1931 Y", "Y (CIE 1931)", "Y/nits"});
+            "Lv [cd/m²]", "XYY_CAPY", "xyY_Y", "亮度", "亮度（cd/㎡）", "fL", "L_v", "Luminance, nits", "Luminance Y"});
+    rows(ColumnPart::Y,
+        {"Y", "CIE Y", "Measured Y", "Y (cd/m2)", "Y [cd/m²]", "XYZ_Y", "CIE 1931 Y", "Y (CIE 1931)", "Y/nits"});
     rows(ColumnPart::x,
-        {"x", " x ", "CIE x", "cie x", "CIE 1931 x", "CIE_x", "CIE1931-x", "sx", "XYY_X", "x (CIE 1931)", "x [-]",
-            "x (2°)", "色坐标x", "色坐标 x", "x chromaticity", "Ｃｉｅ ｘ"});
-    rows(ColumnPart::y, {"y", "CIE y", "CIE 1931 y", "sy", "XYY_Y", "色坐标y", "Farbort y"});
+        {"x", " x ", "CIE x", "xyY_x", "Measured x", "cie x", "CIE 1931 x", "CIE_x", "CIE1931-x", "sx", "XYY_X",
+            "x (CIE 1931)", "x [-]", "x (2°)", "色坐标x", "色坐标 x", "x chromaticity", "Ｃｉｅ ｘ"});
+    rows(ColumnPart::y, {"y", "CIE y", "CIE 1931 y", "sy", "XYY_Y", "xyY_y", "Measured y", "色坐标y", "Farbort y"});
     rows(ColumnPart::u, {"u'", "u′", "u’", "U'", "CIE u'", "CIE 1976 u′", "u (CIE 1976)", "u' (CIE 1976)", "u_prime"});
     rows(ColumnPart::v, {"v'", "v′", "CIE v'", "CIE 1976 v"});
     rows(ColumnPart::X, {"X", "CIE X", "XYZ_X", "X (cd/m2)"});
@@ -46,6 +47,7 @@ void ColumnNamesTest::parts_data()
     rows(ColumnPart::Cabinet, {"Cabinet", "module", "Panel", "TILE", "Panel ID", "箱体", "Modul"});
     rows(ColumnPart::Row, {"Row", "Zeile", "行"});
     rows(ColumnPart::Column, {"Column", "col", "Spalte", "列"});
+    rows(ColumnPart::Note, {"Note", "Remarks", "Bemerkung", "备注"});
     rows(ColumnPart::Number, {"id", "No.", "SAMPLE_ID", "序号"});
 }
 
@@ -60,8 +62,8 @@ void ColumnNamesTest::parts()
 void ColumnNamesTest::noNames_data()
 {
     QTest::addColumn<int>("unused");
-    for (const char *name : {"", "time", "L*", "u", "v", "u*", "CIE 1960 u", "x10", "x (10°)", "x (CIE 1964)", "z",
-             "CIE z", "xy", "XY", "%", "CCT (K)", "Δu'v'", "0.31", "(", "[cd/m2", "red", "Lvx"}) {
+    for (const char *name : {"", "time", "Target x", "L*", "u", "v", "u*", "CIE 1960 u", "x10", "x (10°)",
+             "x (CIE 1964)", "z", "CIE z", "xy", "XY", "%", "CCT (K)", "Δu'v'", "0.31", "(", "[cd/m2", "red", "Lvx"}) {
         QTest::newRow(name) << 0;
     }
     QTest::newRow("brackets only") << 0;

@@ -72,6 +72,9 @@ void CsvTest::separators_data()
     row("stated bar", "sep=|\r\na|1|2|3", '|', 4);
     row("stated tab", "sep=\\t\na\t1,2,3", '\t', 2);
     row("stated in capitals", "SEP=|\na|1,2,3,4", '|', 2);
+    row("spaces", "# made by hand\n  red   0.7 0.29   200 \n\"light green\" 0.2 0.7 700", ' ', 4);
+    row("spaces beside tabs", "a\t1\t2\t3\nb 1 2 3", '\t', 1);
+    row("stated space", "sep= \na 1,2 3", ' ', 3);
     row("as many by either", "1,2,3,a;4;5;6", ';', 4);
     row("stated in quotes", "\"sep=;\"\na;1,2,3", ';', 2);
     row("stated letter is no separator", "sep=x\na,1,2,3", ',', 4);

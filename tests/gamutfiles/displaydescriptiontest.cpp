@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/descriptionfile.h>
+#include <gamutfiles/oneline.h>
 
 #include <QtTest>
 
@@ -33,6 +34,10 @@ private Q_SLOTS:
     void refusedWalls_data();
     void refusedWalls();
     void messageIsOneLine();
+    void messageIsReadFromLeftToRight();
+    void warnings_data();
+    void warnings();
+    void samplesHaveNoWarnings();
     void documentedExampleIsRead();
 };
 
@@ -299,7 +304,7 @@ void DisplayDescriptionTest::colorSpaces_data()
     row("target", wide(R"("target": "wide")"), negative);
     row("declared and target", wide(R"("declared": "wide", "target": "wide")"), negative);
     row("standard and original", wide(R"("standards": ["wide"], "original": "wide")"), negative);
-    row("no part", wide(R"("name": "none")"), negative);
+    row("no part", wide(R"("name": "none")"), "taken");
     row("published target", R"({"version": 1, "gamuts": [], "target": "ACES2065-1"})",
         "f: target: no display can show \"ACES2065-1\": it has primaries with x < 0, y <= 0 or x + y > 1");
     row("published original", R"({"version": 1, "gamuts": [], "original": "ACEScg"})",
@@ -553,6 +558,65 @@ void DisplayDescriptionTest::messageIsOneLine()
     QVERIFY(!read);
     QCOMPARE(read.problem().message(QStringLiteral("odd\nname")),
         QStringLiteral("odd\\u000aname: target: there is no gamut named \"a\\u000ab\\u0000\\u2028\""));
+}
+
+void DisplayDescriptionTest::messageIsReadFromLeftToRight()
+{
+    // U+202E turns the direction, U+200B and U+FEFF are not to be seen, half a pair cannot be written; U+E0041 is a
+    // tag.
+    const QString odd = QString::fromUtf8("\u202Eevil\u2066\u200F\u200B\uFEFF\U000E0041") + QChar(0xD800);
+    QCOMPARE(oneLine(odd), QStringLiteral("\\u202eevil\\u2066\\u200f\\u200b\\ufeff\\udb40\\udc41\\ud800"));
+    // Joiners belong to words and to emoji; right-to-left text is no mark.
+    const QString fair = QString::fromUtf8("می‌خواهم 👨‍👩‍👧 שלום 屏幕");
+    QCOMPARE(oneLine(fair), fair);
+    QCOMPARE(messageFor(replaced("\"Rec.2020\"", "\"\u202Exyz\"")),
+        QStringLiteral("f: target: there is no gamut named \"\\u202exyz\""));
+}
+
+void DisplayDescriptionTest::warnings_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QStringList>("messages");
+    const auto row = [](const char *name, const QByteArray &text, const QStringList &messages = {}) {
+        QTest::newRow(name) << text << messages;
+    };
+    row("none", description);
+    row("key twice", replaced("\"blue\": {\"Y\": 100", "\"blue\": {\"Y\": 1, \"Y\": 100"),
+        {"f:10:30: the key \"Y\" is there twice in this object: the last one counts"});
+    row("part twice", replaced("\"target\":", "\"target\": \"Rec.709\",\n\"target\":"),
+        {"f:25:1: the key \"target\" is there twice in this object: the last one counts"});
+    row("exchanged primaries",
+        replaced("\"x\": 0.7, \"y\": 0.3}", "\"x\": 0.1, \"y\": 0.1}").replace("0.13, \"y\": 0.06", "0.7, \"y\": 0.3"),
+        {"f: gamuts[0]: red, green and blue lie clockwise in x, y: two of them may be exchanged"});
+    row("white outside", replaced("0.29, \"y\": 0.3}", "0.29, \"y\": 0.03}"),
+        {"f: gamuts[1]: the white lies outside of the triangle of the primaries"});
+    row("dark white", replaced("1000", "100"), {"f: gamuts[0].white: the white is darker than one of the primaries"});
+    row("one each", replaced("1000", "100").replace("0.28, \"y\": 0.29", "0.28, \"y\": 0.029"),
+        {"f: gamuts[0]: the white lies outside of the triangle of the primaries"});
+    row("white as bright as a primary", replaced("1000", "700"));
+    row("white that is no sum", replaced("1000", "1800"));
+    row("no luminance of the white", replaced("1000", "0"));
+    row("role without a display",
+        replaced("\"measured\": \"as measured\",", "").replace("0.29, \"y\": 0.3}", "0.9, \"y\": 0.03}"));
+}
+
+void DisplayDescriptionTest::warnings()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QStringList, messages);
+    const auto read = readDescription(text);
+    QVERIFY2(read, qPrintable(read.error()));
+    QStringList given;
+    for (const Problem &warning : read.warnings()) {
+        given += warning.message(QStringLiteral("f"));
+    }
+    QCOMPARE(given, messages);
+}
+
+void DisplayDescriptionTest::samplesHaveNoWarnings()
+{
+    const auto sample = readDescriptionFile(QStringLiteral(SAMPLE_FILE));
+    QVERIFY(sample && sample.warnings().isEmpty());
 }
 
 void DisplayDescriptionTest::documentedExampleIsRead()

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void displayIdOfTheFirstVersion();
     void displayIdInUniformCoordinates();
     void displayIdWithoutBasePrimaries();
+    void dataBlocksThatContradict();
+    void dataBlocksThatAgree();
     void dataBlocksInsideOfDisplayId();
     void moreExtensionsThanTheBaseBlockCounts();
     void halfPrecision_data();
@@ -139,6 +141,34 @@ void EdidExtensionsTest::displayIdWithoutBasePrimaries()
     QVERIFY2(gamut, qPrintable(gamut.error()));
     QVERIFY(gamut->getTargets().red.x == 2785 / 4096.0);
     QVERIFY(gamut->getTargets().white.Y == 700.0);
+}
+
+void EdidExtensionsTest::dataBlocksThatContradict()
+{
+    const QByteArray second
+        = twelveBits(2621, 1352) + twelveBits(1229, 2458) + twelveBits(614, 246) + twelveBits(1281, 1348);
+    const auto display = readEdidDisplay(withExtensions(plainEdid(),
+        {displayIdBlock(0x20,
+            displayIdDataBlock(0x21, 0, displayIdParameters(displayP3(), halves))
+                + displayIdDataBlock(0x21, 0, displayIdParameters(second, {0x6000, 0x63D0, 0x1C00}, '\x08')))}));
+    QVERIFY2(display, qPrintable(display.error()));
+    QVERIFY(display->displayIdChromaticities->red == QPointF(2785 / 4096.0, 1311 / 4096.0));
+    QVERIFY(display->nativeLuminance.fullScreen == 700.0 && display->nativeLuminance.guaranteed);
+    QCOMPARE(display->gamut.getTargets().white.Y, 700.0);
+    QCOMPARE(messages(display.warnings()).filter("extension block"),
+        (QStringList{"extension block 1, byte 40: two data blocks state different gamuts: red at 0.6799, 0.3201 and at "
+                     "0.6399, 0.3301; that of the first is kept",
+            "extension block 1, byte 40: two data blocks state different luminances of a white screen: 700 cd/m², "
+            "guaranteed and 512 cd/m²; that of the first is kept"}));
+}
+
+void EdidExtensionsTest::dataBlocksThatAgree()
+{
+    const QByteArray parameters = displayIdDataBlock(0x21, 0, displayIdParameters(displayP3(), halves));
+    const auto display = readEdidDisplay(
+        withExtensions(plainEdid(), {displayIdBlock(0x20, parameters), displayIdBlock(0x20, parameters)}));
+    QCOMPARE(messages(display.warnings()).filter("extension block"), QStringList());
+    QVERIFY(display->nativeLuminance.fullScreen == 700.0);
 }
 
 void EdidExtensionsTest::dataBlocksInsideOfDisplayId()

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void primaryThatNoLightHas();
     void primariesWithinTheLocus();
     void contradictions();
+    void sumsAboveOneByRounding();
     void tenBitsOfEveryCoordinate();
     void refusals_data();
     void refusals();
@@ -136,11 +137,27 @@ void EdidFileTest::contradictions()
     const auto display = readEdidDisplay(nativeDisplay('\x00'));
     QCOMPARE(messages(display.warnings()),
         QStringList({stampedSrgb,
-            "the base block states another gamut than the DisplayID extension: red at 0.6396, 0.3301 instead of "
+            "the base block states another gamut than the DisplayID extension: red at 0.6396, 0.3301 and at "
             "0.6799, 0.3201; that of the base block is used"}));
 }
 
 // The low two bits of each coordinate stand apart from the high eight.
+void EdidFileTest::sumsAboveOneByRounding()
+{
+    // red 724, 301: x + y is 1025/1024
+    const auto gamut = readEdid(edidOf(QByteArray("\x1E\x51\xB5\x4B\x4C\x99\x26\x0F\x50\x54", 10)));
+    QVERIFY2(gamut, qPrintable(gamut.error()));
+    QCOMPARE(gamut->getTargets().red.y, 301 / 1024.0);
+    QCOMPARE(gamut->getTargets().red.x, 723 / 1024.0);
+    QCOMPARE(messages(gamut.warnings()).first(),
+        QStringLiteral(
+            "red at 0.7070, 0.2939 has x + y above 1, as rounding can make it: it is read as 0.7061, 0.2939"));
+    // 725, 301
+    QCOMPARE(readEdid(edidOf(QByteArray("\x5E\x51\xB5\x4B\x4C\x99\x26\x0F\x50\x54", 10))).error(),
+        QStringLiteral("is an EDID without usable primaries: the red primary is not a valid chromaticity: x 0.708008, "
+                       "y 0.293945"));
+}
+
 void EdidFileTest::tenBitsOfEveryCoordinate()
 {
     QByteArray colors("\x1B\x2D\xA3\x54\x4C\x99\x26\x0F\x50\x54", 10);

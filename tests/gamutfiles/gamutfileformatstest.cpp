@@ -20,6 +20,7 @@ private Q_SLOTS:
     void patternsMatch_data();
     void patternsMatch();
     void listsThatBeginWithABracket();
+    void listsAlignedBySpaces();
     void factsOfAnEdid();
     void factsOfAProfile();
 
@@ -113,6 +114,14 @@ void GamutFileFormatsTest::listsThatBeginWithABracket()
     const auto description = readGamutFile(write("wall.txt", "{ \"version\": 1, \"gamuts\": [] }"));
     QVERIFY2(description, qPrintable(description.error()));
     QVERIFY(description->content == GamutFile::Content::Description);
+}
+
+void GamutFileFormatsTest::listsAlignedBySpaces()
+{
+    const auto aligned = readGamutFile(write("list.txt", "name  Y     x    y\nred   200.5 0.7  0.29\n"));
+    QVERIFY2(aligned, qPrintable(aligned.error()));
+    QCOMPARE(aligned->content, GamutFile::Content::Measurements);
+    QVERIFY(!readGamutFile(write("list.txt", "three words here and 4 5\n")));
 }
 
 void GamutFileFormatsTest::patternsMatch_data()

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void otherErrorsAreNotTakenForCuts_data();
     void otherErrorsAreNotTakenForCuts();
     void deepNesting();
+    void byteOrderMarksInStrings();
+    void keysThatRepeat();
     void positions_data();
     void positions();
 };
@@ -132,6 +134,41 @@ void JsonTest::deepNesting()
 {
     QVERIFY(parseJson(QByteArray(1000000, '[')).document.isNull());
     QVERIFY(parseJson(QByteArray("{\"a\":").repeated(200000)).document.isNull());
+}
+
+void JsonTest::byteOrderMarksInStrings()
+{
+    const QJsonObject object = parseJson(
+        "\xEF\xBB\xBF{\"a\": \"\xEF\xBB\xBFx\", \"b\": \"\\ufeffx\", \"\xEF\xBB\xBFkey\": \"\\\"\xEF\xBB\xBF\"}")
+                                   .document.object();
+    const QString mark(QChar(0xFEFF));
+    QCOMPARE(object.value("a").toString(), mark + 'x');
+    QCOMPARE(object.value("b").toString(), mark + 'x');
+    QCOMPARE(object.value(mark + "key").toString(), '"' + mark);
+    QVERIFY(object.value("key").isUndefined());
+    // An error keeps its place.
+    const ParsedJson wrong = parseJson("[\"\xEF\xBB\xBF\", x]");
+    QCOMPARE(wrong.position.column, parseJson("[\"_\", x]").position.column);
+}
+
+void JsonTest::keysThatRepeat()
+{
+    const auto keys = [](const QByteArray &text, int most = 9) {
+        QStringList all;
+        for (const RepeatedKey &repeated : repeatedKeys(text, most)) {
+            all += QStringLiteral("%1 %2:%3")
+                       .arg(repeated.key)
+                       .arg(repeated.position.line)
+                       .arg(repeated.position.column);
+        }
+        return all;
+    };
+    QCOMPARE(
+        keys("{\"a\": 1, \"b\": {\"a\": 2}, \"c\": [{\"a\": 3}, {\"a\": 4}], \"d\": \"a\", \"e\": \"\\\"a\\\":\"}"),
+        QStringList());
+    QCOMPARE(keys("{\"a\": {\"b\": 1,\n \"b\" : 2}, \"\\u0061\": [\"a\"]}"), (QStringList{"b 2:2", "a 2:12"}));
+    QCOMPARE(keys("{\"a\": 1, \"a\": 2, \"a\": 3, \"a\": 4}", 2).size(), 2);
+    QCOMPARE(keys("[1, \"a\", \"a\"]"), QStringList());
 }
 
 void JsonTest::positions_data()

@@ -20,6 +20,10 @@ private Q_SLOTS:
     void lightnessIsNoLuminance();
     void otherObserver();
     void textBeforeTheHeader();
+    void commentedHeader();
+    void commentsThatAreNoHeader();
+    void repeatedHeader();
+    void otherHeader();
     void units_data();
     void units();
     void footLamberts();
@@ -27,6 +31,8 @@ private Q_SLOTS:
     void lineOfUnits();
     void lineOfUnitsBelowUnits();
     void doubledColumn();
+    void columnThatNamesColors();
+    void remarks();
     void namelessLines();
 };
 
@@ -135,6 +141,63 @@ void MeasurementHeaderTest::textBeforeTheHeader()
     QCOMPARE(namesOf(list->measurements), QStringList{"red"});
     QCOMPARE(list->measurements[0].luminance, 1.5);
     QCOMPARE(list->measurements[0].line, 6);
+}
+
+void MeasurementHeaderTest::commentedHeader()
+{
+    const QByteArray text = "Wall 3\n# made by hand, \"today\n# Name, x, y, Y (cd/m2)\nred,0.7,0.29,200\n# x, Y, y\n"
+                            "green,0.2,0.7,700\n";
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->recognized.headerLine, 3);
+    QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(namesOf(list->measurements), (QStringList{"red", "green"}));
+    QCOMPARE(list->measurements[0].luminance, 200.0);
+    QCOMPARE(list->measurements[1].color->y, 0.7);
+    QVERIFY(otherWarningsOf(text).isEmpty());
+    const auto indented = readMeasurementList("  ## name;Lv;x;y\n;nits;;\na;1,5;0,3;0,4\n");
+    QVERIFY2(indented, qPrintable(indented.error()));
+    QCOMPARE(indented->measurements[0].luminance, 1.5);
+    QCOMPARE(namesOf(indented->measurements), QStringList{"a"});
+}
+
+void MeasurementHeaderTest::commentsThatAreNoHeader()
+{
+    // A line that is not commented comes first.
+    const auto both = readMeasurementList("# name,x,y,Y\nname,Y,x,y\nred,200,0.7,0.29\n");
+    QCOMPARE(both->measurements[0].luminance, 200.0);
+    QCOMPARE(both->recognized.headerLine, 2);
+    // What stands behind numbers does not name them.
+    const auto behind = readMeasurementList("red,200,0.7,0.29\n# name,x,y,Y\n");
+    QCOMPARE(behind->measurements[0].luminance, 200.0);
+    QCOMPARE(behind->recognized.headerLine, 0);
+    const auto incomplete = readMeasurementList("# name,x\nred,200,0.7,0.29\n");
+    QCOMPARE(incomplete->recognized.headerLine, 0);
+}
+
+// Programs append a session to the last one.
+void MeasurementHeaderTest::repeatedHeader()
+{
+    const QByteArray text = "No.;Patch;Y;x;y\n;;cd/m²;;\n1;red;200;0,7;0,29\n2;green;700;0,2;0,7\n\nSession 2\n"
+                            "No.; patch ;Y;x;y;\n;;cd/m²;;\n1;red;210;0,7;0,29\n2;green;710;0,2;0,7\n";
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(namesOf(list->measurements), (QStringList{"red", "green", "red", "green"}));
+    QCOMPARE(list->measurements[2].luminance, 210.0);
+    QVERIFY(list->cabinets().isEmpty()); // though each number is there twice
+    QCOMPARE(warningsOf(text),
+        (QStringList{"line 7: repeats the line that names the columns and is not read; so in 1 further line(s)",
+            "line 6: has no numbers and is not read",
+            "line 9: red is there more than once, first in line 3: there is no gamut; choose the line or the name that "
+            "is red"}));
+}
+
+void MeasurementHeaderTest::otherHeader()
+{
+    QCOMPARE(errorOf("name,Lv,x,y\nred,200,0.7,0.29\nname,x,y,Lv\nred,0.7,0.29,200\n"),
+        QStringLiteral("line 3: names other columns than line 1: divide the list here"));
+    QCOMPARE(errorOf("name,Y (cd/m2),x,y\nred,200,0.7,0.29\nname,Y (%),x,y\nred,20,0.7,0.29\n"),
+        QStringLiteral("line 3: names other columns than line 1: divide the list here"));
 }
 
 void MeasurementHeaderTest::units_data()
@@ -251,6 +314,28 @@ void MeasurementHeaderTest::doubledColumn()
     const QByteArray text = "name,Lv,x,y,CIE x\na,1,0.3,0.3,0.4\n";
     QCOMPARE(readMeasurementList(text)->measurements[0].color->x, 0.3);
     QCOMPARE(otherWarningsOf(text), QStringList{"line 1: columns 3 and 5 are both x: column 3 is read"});
+}
+
+void MeasurementHeaderTest::columnThatNamesColors()
+{
+    const QByteArray text = "Measurement;Label;Lv;x;y\n1;red;200;0,7;0,29\n2;P2;100;0,3;0,3\n";
+    QCOMPARE(namesOf(readMeasurementList(text)->measurements), (QStringList{"red", "P2"}));
+    QVERIFY(otherWarningsOf(text).isEmpty());
+    const QByteArray unknown = QByteArray(text).replace("red", "P1");
+    QCOMPARE(namesOf(readMeasurementList(unknown)->measurements), (QStringList{"1", "2"}));
+    QCOMPARE(otherWarningsOf(unknown), QStringList{"line 1: columns 1 and 2 are both name: column 1 is read"});
+}
+
+void MeasurementHeaderTest::remarks()
+{
+    const QByteArray text = "No.,Lv,x,y,Note\n1,200,0.7,0.29,Red\n2,100,0.3,0.3,again\n";
+    QCOMPARE(namesOf(readMeasurementList(text)->measurements), (QStringList{"Red", "again"}));
+    for (const char *some : {"again", "red"}) { // which name not all
+        const QByteArray partly = QByteArray("No.,Lv,x,y,Note\n1,200,0.7,0.29,\n2,100,0.3,0.3,") + some;
+        QCOMPARE(namesOf(readMeasurementList(partly)->measurements), (QStringList{"1", "2"}));
+    }
+    const QByteArray named = "Patch,Lv,x,y,Note\nRed,200,0.7,0.29,green\nW,100,0.3,0.3,\n";
+    QCOMPARE(namesOf(readMeasurementList(named)->measurements), (QStringList{"Red", "W"}));
 }
 
 void MeasurementHeaderTest::namelessLines()

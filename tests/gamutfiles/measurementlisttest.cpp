@@ -33,6 +33,8 @@ void MeasurementListTest::reads_data()
     QTest::newRow("spaces") << QByteArray(" white , 100.5,  0.3127 ,0.329 ");
     QTest::newRow("semicolons and commas") << QByteArray("Name;Y;x;y\nwhite;100,5;0,3127;0,329\n");
     QTest::newRow("tabs") << QByteArray("white\t100.5\t0.3127\t0.329\n");
+    QTest::newRow("columns aligned by spaces")
+        << QByteArray("name       Y      x      y\nwhite  100.5 0.3127  0.329 \n");
     QTest::newRow("quotes") << QByteArray("\"name\",\"Y\",\"x\",\"y\"\n\"white\",\"100.5\",0.3127,0.329\n");
     QTest::newRow("exponents") << QByteArray("white,1.005e2,3127e-4,0.329\n");
     QTest::newRow("more columns") << QByteArray("white,100.5,0.3127,0.329,6504,\n");

@@ -19,6 +19,13 @@ private Q_SLOTS:
     void black_data();
     void black();
     void luminanceWithoutChromaticity();
+    void notMeasured_data();
+    void notMeasured();
+    void noise_data();
+    void noise();
+    void noiseIsSmall_data();
+    void noiseIsSmall();
+    void saturatedColorsBelowZero();
     void moreFieldsThanColumns();
     void dividedNumbers_data();
     void dividedNumbers();
@@ -167,6 +174,115 @@ void MeasurementRowsTest::luminanceWithoutChromaticity()
     QCOMPARE(warningsOf(red),
         (QStringList{
             "line 2: has a luminance but no chromaticity", "line 2: red has no chromaticity: there is no gamut"}));
+}
+
+void MeasurementRowsTest::notMeasured_data()
+{
+    QTest::addColumn<QByteArray>("word");
+    for (const char *word : {"n/a", "N/A", "NA", "n.a.", "-", "--", "—", "‒", "−", "nan", "NaN", "-nan(ind)", "1.#QNAN",
+             "null", "None", "/", "#N/A", "#DIV/0!", " n/a "}) {
+        QTest::newRow(word) << QByteArray(word);
+    }
+    QTest::newRow("nothing") << QByteArray();
+}
+
+void MeasurementRowsTest::notMeasured()
+{
+    QFETCH(QByteArray, word);
+    const QByteArray pair = word + ',' + word;
+    for (const QByteArray &text : {"name,Lv,x,y\nW,100,0.3,0.3\nblack,0," + pair,
+             "name,Lv,u',v'\nW,100,0.2,0.4\nblack,0," + pair, "name,Y (cd/m2),X,Z\nW,100,90,80\nblack,0," + pair}) {
+        const auto list = readMeasurementList(text);
+        QVERIFY2(list, qPrintable(list.error()));
+        QVERIFY(list->black() && !list->black()->color && list->black()->luminance == 0.0);
+        QCOMPARE(otherWarningsOf(text), QStringList());
+        const QByteArray lit = QByteArray(text).replace("black,0", "black,0.002");
+        QCOMPARE(readMeasurementList(lit)->black()->luminance, 0.002);
+        QCOMPARE(otherWarningsOf(lit), QStringList("line 3: has a luminance but no chromaticity"));
+    }
+    // Of a line without any numbers nothing is read; half of a chromaticity is an error.
+    const QByteArray none = "name,Lv,x,y\nW,100,0.3,0.3\nblack," + word + ',' + pair;
+    QVERIFY(!readMeasurementList(none)->black());
+    QCOMPARE(otherWarningsOf(none), QStringList("line 3: has no numbers and is not read"));
+    QVERIFY(!readMeasurementList("name,Lv,x,y\nblack,0,0.3," + word));
+}
+
+void MeasurementRowsTest::noise_data()
+{
+    QTest::addColumn<QByteArray>("header");
+    QTest::addColumn<QByteArray>("white");
+    QTest::addColumn<QByteArray>("black");
+    QTest::addColumn<double>("luminance");
+    const auto row = [](const char *name, const char *header, const char *white, const char *black, double luminance) {
+        QTest::newRow(name) << QByteArray(header) << QByteArray(white) << QByteArray(black) << luminance;
+    };
+    row("X below 0", "X,Y (cd/m2),Z", "95,100,109", "-0.0001,0.0002,0.0001", 0.0002);
+    row("Y below 0", "X,Y (cd/m2),Z", "95,100,109", "0.0001,-0.0002,0.0001", 0.0);
+    row("all below 0", "X,Y (cd/m2),Z", "95,100,109", "-0.1,-0.1,-0.1", 0.0);
+    row("relative X, Y, Z beside Lv", "X,Y,Z,Lv", ".95,1,1.09,500", "-0.0001,0,0,0.03", 0.03);
+    row("Lv below 0", "x,y,Lv", "0.3,0.3,100", "0.3,0.3,-0.0003", 0.0);
+    row("x below 0", "x,y,Lv", "0.3,0.3,100", "-0.3,0.3,0.0003", 0.0003);
+    row("y below 0", "x,y,Lv", "0.3,0.3,100", "0.3,-4.2,0.1", 0.1);
+    row("x + y above 1", "x,y,Lv", "0.3,0.3,100", "0.6,0.5,0.0003", 0.0003);
+    row("u' below 0", "u',v',Lv", "0.2,0.4,100", "-0.3,0.3,0.0003", 0.0003);
+    row("v' below 0", "u',v',Lv", "0.2,0.4,100", "0.3,-0.3,0.0003", 0.0003);
+    row("u' and v' of no colour", "u',v',Lv", "0.2,0.4,100", "0.9,0.9,0.0003", 0.0003);
+    row("dashes and Lv below 0", "x,y,Lv", "0.3,0.3,100", "-,-,-0.001", 0.0);
+    row("a list of dark colours", "x,y,Lv", "0.3,0.3,0.002", "0.3,0.3,-0.01", 0.0);
+}
+
+void MeasurementRowsTest::noise()
+{
+    QFETCH(QByteArray, header);
+    QFETCH(QByteArray, white);
+    QFETCH(QByteArray, black);
+    QFETCH(double, luminance);
+    const QByteArray text = header + ",name\n" + white + ",W\n" + black + ",K\n";
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QVERIFY(list->black());
+    QCOMPARE(list->black()->luminance, luminance);
+    QVERIFY(!list->black()->color);
+    QVERIFY(list->measurements[0].color);
+    QVERIFY2(otherWarningsOf(text).contains(
+                 "line 3: is as dark as noise, with numbers that no colour has: it is read without a chromaticity"),
+        qPrintable(warningsOf(text).join('\n')));
+}
+
+void MeasurementRowsTest::noiseIsSmall_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("error");
+    const auto row = [](const char *name, const QByteArray &text, const char *error) {
+        QTest::newRow(name) << text << QString::fromUtf8(error);
+    };
+    row("X", "name,X,Y,Z\nW,95,100,109\nK,-0.11,0,0", "line 3, column X: a tristimulus value must not be negative");
+    row("Lv", "name,Lv,x,y\nW,100,0.3,0.3\nK,-0.11,0.3,0.3", "line 3, column Lv: luminance must not be negative");
+    row("x", "name,Lv,x,y\nW,100,0.3,0.3\nK,0.11,-0.1,0.3",
+        "line 3, column x: a chromaticity coordinate must not be negative");
+    row("u'", "name,Lv,u',v'\nW,100,0.2,0.4\nK,0.11,-0.1,0.3",
+        "line 3, column u': a chromaticity coordinate must not be negative");
+    row("relative", "name,Y (%),x,y\nW,1,0.3,0.3\nK,-0.005,0.3,0.3",
+        "line 3, column Y (%): luminance must not be negative");
+}
+
+void MeasurementRowsTest::noiseIsSmall()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, error);
+    QCOMPARE(errorOf(text), error);
+}
+
+// A laser's red has hardly any Z.
+void MeasurementRowsTest::saturatedColorsBelowZero()
+{
+    const QByteArray text = "name,X,Y (cd/m2),Z\nR,60,20,-0.01\nW,95,100,109\n";
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QVERIFY(list->measurements[0].color);
+    QCOMPARE(list->measurements[0].color->x, 0.75);
+    QCOMPARE(
+        otherWarningsOf(text), QStringList("line 2: has a value slightly below 0, as noise gives: it is read as 0"));
 }
 
 void MeasurementRowsTest::moreFieldsThanColumns()

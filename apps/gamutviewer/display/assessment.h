@@ -2,7 +2,7 @@
 #ifndef GAMUTVIEWER_ASSESSMENT_H
 #define GAMUTVIEWER_ASSESSMENT_H
 
-#include "display/gamutfiles.h"
+#include "display/knowndisplay.h"
 
 #include <ceiechart/diagram/targetrules.h>
 #include <gamutmodel/drive.h>
@@ -34,39 +34,8 @@ QString judgementMark(Judgement judgement);
 /*! \brief "pass", "fail" or "not known", for programs: not translated. */
 QString judgementName(Judgement judgement);
 
-/*! \brief The gamut that stands for what the display can show. */
-struct KnownDisplay {
-    DisplayGamut gamut;
-    bool isMeasured = false; //!< it is the measured gamut, because there is no original
-};
-
-/*!
- * \brief The gamuts of \a description that a target is held against: the original, then the measured gamut.
- *
- * A gamut that has both parts is there once, as the original.
- */
-std::vector<KnownDisplay> knownDisplays(const DisplayDescription &description);
-
-/*! \brief The first of knownDisplays(). */
-std::optional<KnownDisplay> knownDisplay(const DisplayDescription &description);
-
-/*! \brief The first of knownDisplays() that a primary of the target lies outside of; nothing without such a one. */
-std::optional<KnownDisplay> exceededDisplay(const DisplayDescription &description);
-
 /*! \brief Drives up to this count as full: the four decimals of a white point leave about 0.001 open. */
 constexpr double fullDrive = 1.002;
-
-/*! \brief By which part the luminance of an additive display's white may differ from the sum of its primaries. */
-constexpr double additiveLuminance = 0.02;
-/*! \brief By how much, in Δu′v′, the white of an additive display may differ from the mixture of its primaries. */
-constexpr double additiveUv = 0.003;
-
-/*!
- * \brief By how much the chromaticity of \a primary lies outside of \a display, in Δu′v′; 0 when it does not.
- *
- * It lies outside by the rule of Model::primariesOutside().
- */
-double distanceOutside(const Model::Targets &target, ceiechart::GamutVertex primary, const Model::Targets &display);
 
 /*! \brief One judgement with what it means and what to do about it. */
 struct AssessmentLine {

@@ -2,6 +2,7 @@
 #include "display/report.h"
 
 #include "display/assessment.h"
+#include "display/chromaticity.h"
 #include "display/gamutfiles.h"
 #include "display/reportvalues.h"
 #include "display/wallreport.h"
@@ -177,6 +178,52 @@ QJsonArray factsArray(const QVector<FileFact> &facts)
     return array;
 }
 
+QJsonValue measuredUnitValue(MeasuredUnit unit)
+{
+    switch (unit) {
+    case MeasuredUnit::CandelaPerSquareMetre:
+        return unitValue(LuminanceUnit::CandelaPerSquareMetre);
+    case MeasuredUnit::FootLambert:
+        return QStringLiteral("fL");
+    case MeasuredUnit::Relative:
+        return unitValue(LuminanceUnit::Relative);
+    case MeasuredUnit::NotStated:
+    case MeasuredUnit::NotKnown:
+        break;
+    }
+    return QJsonValue::Null;
+}
+
+QJsonObject listObject(const FileRecognition &list)
+{
+    const MeasurementRecognition &recognized = list.recognized;
+    QJsonArray columns;
+    for (const RecognizedColumn &column : recognized.columns) {
+        columns.append(QJsonObject{{QStringLiteral("column"), column.column}, {QStringLiteral("part"), column.part},
+            {QStringLiteral("header"), column.header.isEmpty() ? QJsonValue() : QJsonValue(column.header)}});
+    }
+    QJsonArray colors;
+    for (const RecognizedPart &part : recognized.parts) {
+        colors.append(QJsonObject{{QStringLiteral("line"), part.line}, {QStringLiteral("name"), part.name},
+            {QStringLiteral("color"), measurementPartName(part.part)}});
+    }
+    return {{QStringLiteral("file"), list.fileName}, {QStringLiteral("separator"), QString(recognized.separator)},
+        {QStringLiteral("decimalSign"),
+            recognized.decimalSign ? QJsonValue(QString(*recognized.decimalSign)) : QJsonValue()},
+        {QStringLiteral("unit"), measuredUnitValue(recognized.unit)}, {QStringLiteral("columns"), columns},
+        {QStringLiteral("colors"), colors},
+        {QStringLiteral("text"), QJsonArray::fromStringList(recognized.text().split(QLatin1Char('\n')))}};
+}
+
+QJsonArray listsArray(const QVector<FileRecognition> &lists)
+{
+    QJsonArray array;
+    for (const FileRecognition &list : lists) {
+        array.append(listObject(list));
+    }
+    return array;
+}
+
 } // namespace
 
 QJsonObject report(
@@ -217,6 +264,7 @@ QJsonObject report(
     }
     object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(notes.warnings));
     object.insert(QStringLiteral("facts"), factsArray(notes.facts));
+    object.insert(QStringLiteral("lists"), listsArray(notes.lists));
     return object;
 }
 

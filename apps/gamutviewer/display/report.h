@@ -2,28 +2,21 @@
 #ifndef GAMUTVIEWER_REPORT_H
 #define GAMUTVIEWER_REPORT_H
 
+#include "display/filenotes.h"
 #include "display/gamutfiles.h"
 
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
-#include <QVector>
 
 #include <optional>
 
 namespace gamutviewer {
 
-/*! \brief Something that a file says of a display besides its gamut. */
-struct FileFact {
-    QString fileName; //!< as it was given
-    DisplayFact fact; //!< what it says
-};
-
 /*! \brief What is known of the files that were read, besides the description that they make. */
-struct ReportNotes {
+struct ReportNotes : FileNotes {
     QStringList warnings; //!< each as one line: the file, the place and the text
-    QVector<FileFact> facts; //!< in the order of the files
 };
 
 /*!

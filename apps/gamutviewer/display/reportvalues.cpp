@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "display/reportvalues.h"
 
+#include "display/chromaticity.h"
+
 namespace gamutviewer {
 
 QJsonValue unitValue(LuminanceUnit unit)
@@ -33,9 +35,7 @@ QString colorName(ceiechart::GamutVertex vertex)
 
 QString primaryName(Model::Primary primary)
 {
-    return colorName(primary == Model::Primary::Red ? ceiechart::GamutVertex::Red
-            : primary == Model::Primary::Green      ? ceiechart::GamutVertex::Green
-                                                    : ceiechart::GamutVertex::Blue);
+    return colorName(vertexOf(primary));
 }
 
 } // namespace gamutviewer

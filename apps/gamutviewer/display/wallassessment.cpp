@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "display/wallassessment.h"
 
+#include "display/additivity.h"
 #include "display/assessmentparts.h"
+#include "display/assessmenttexts.h"
+#include "display/chromaticity.h"
+#include "display/knowndisplay.h"
 #include "display/valuetexts.h"
 
 #include <gamutmodel/gamutcoverage.h>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/documentview.h"
 
+#include "display/assessmenttexts.h"
 #include "display/valuetexts.h"
 #include "drawing/documentcontent.h"
 #include "drawing/layerswitches.h"
@@ -51,9 +52,12 @@ void DocumentView::applyRules()
 void DocumentView::note()
 {
     const auto selected = m_session->selected();
-    const double outside = selected ? m_session->distanceOutside(*selected) : 0.0;
-    const bool isOutside = selected != ceiechart::GamutVertex::White && outside > 0.0;
-    setEditNote(isOutside ? tr("outside by Δu′v′ %1").arg(fixedText(outside, 4)) : QString());
+    const auto outside = selected && *selected != ceiechart::GamutVertex::White
+        ? outsideOf(m_session->document()->description(), *selected)
+        : std::nullopt;
+    setEditNote(outside ? tr("outside of the %1 by Δu′v′ %2", "gamut and distance")
+                              .arg(displayName(outside->display), distanceText(outside->distance))
+                        : QString());
 }
 
 QVector<ceiechart::DiagramRings> DocumentView::rings() const

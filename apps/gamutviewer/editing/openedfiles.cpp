@@ -51,7 +51,7 @@ QString nameFor(const DisplayDescription &description, const DisplayGamut &gamut
         if (isSame && mayBeSame && sameNumbers.isEmpty()) {
             sameNumbers = name;
         }
-        name = QStringLiteral("%1 (%2)").arg(wantedName(gamut)).arg(number);
+        name = QStringLiteral("%1 (%2)").arg(wantedName(gamut), QString::number(number));
     }
     return sameNumbers.isEmpty() ? name : sameNumbers;
 }
@@ -259,7 +259,10 @@ OpenedFiles openedWith(const DisplayDescription &open, const QVector<ReadFile> &
             opened.warnings.append({file.fileName, warning});
         }
         for (const DisplayFact &fact : file.file.facts) {
-            opened.facts.append({file.fileName, fact});
+            opened.notes.facts.append({file.fileName, fact});
+        }
+        if (file.file.content == Content::Measurements) {
+            opened.notes.lists.append({file.fileName, file.file.measurements.recognized});
         }
     }
     return opened;
@@ -271,7 +274,7 @@ OpenedFiles openedAlone(const QVector<ReadFile> &files)
     for (const ReadFile &file : files) {
         const OpenedFiles next = openedWith(opened.description, {file});
         opened.warnings += next.warnings;
-        opened.facts += next.facts;
+        opened.notes += next.notes;
         for (const Problem &remark : remarksOnAdding(opened.description, file)) {
             opened.warnings.append({file.fileName, remark});
         }

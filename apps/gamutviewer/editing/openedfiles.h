@@ -2,8 +2,8 @@
 #ifndef GAMUTVIEWER_OPENEDFILES_H
 #define GAMUTVIEWER_OPENEDFILES_H
 
+#include "display/filenotes.h"
 #include "display/gamutfiles.h"
-#include "display/report.h"
 #include "editing/gamutroles.h"
 
 #include <QStringList>
@@ -72,7 +72,7 @@ struct OpenedFiles {
     DisplayDescription inDescriptionFile; //!< what that one has, without the additions
     QStringList fileNames; //!< all of them
     QVector<FileWarning> warnings; //!< of their readers, and about what the additions change
-    QVector<FileFact> facts; //!< what the files say of a display besides its gamut
+    FileNotes notes; //!< what the files say besides their gamuts, and how lists were understood
     bool needsChoice = false; //!< as needsChoice() says of one of them
     bool hasLists = false; //!< whether one of them is a measurement list
 };

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "editing/targetsession.h"
 
-#include "display/assessment.h"
+#include "display/additivity.h"
+#include "display/knowndisplay.h"
 #include "display/valuetexts.h"
 #include "editing/document.h"
 
@@ -107,14 +108,6 @@ QString TargetSession::whyNot(Vertex vertex, const QPointF &xy) const
     return move.targets ? QString() : move.reason;
 }
 
-double TargetSession::distanceOutside(Vertex primary) const
-{
-    const auto target = m_document->target();
-    const auto display = knownDisplay(m_document->description());
-    return target && display ? gamutviewer::distanceOutside(target->getTargets(), primary, display->gamut.getTargets())
-                             : 0.0;
-}
-
 bool TargetSession::setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey)
 {
     const ceiechart::TargetMove move = edited(vertex, xy);
@@ -152,16 +145,11 @@ void TargetSession::setLuminanceUnit(LuminanceUnit unit)
     if (!target || target->unit == unit) {
         return;
     }
-    const auto display = knownDisplay(m_document->description());
-    std::optional<double> brightest;
-    if (display && display->gamut.unit == LuminanceUnit::CandelaPerSquareMetre) {
-        const Model::Target &white = target->getTargets().white;
-        if (const auto largest
-            = Model::DisplayDrive(display->gamut.getTargets()).largestLuminance({white.x, white.y})) {
-            brightest = largest->luminance;
-        }
-    }
+    const auto brightest = reachableLuminance(m_document->description(), target->getTargets().white);
     m_document->change(withLuminanceUnit(m_document->description(), unit, brightest), tr("change unit of luminances"));
+    if (target->unit == LuminanceUnit::Relative && unit == LuminanceUnit::CandelaPerSquareMetre && !brightest) {
+        refuse(tr("What luminance the display reaches is not known. Enter that of the white."));
+    }
 }
 
 void TargetSession::reset(const QString &gamutName)
@@ -182,7 +170,7 @@ void TargetSession::fitToDisplay()
     const Model::Targets &limit = display->gamut.getTargets();
     std::optional<Model::Targets> fitted = target->getTargets();
     for (const Vertex primary : primaries) {
-        if (!fitted || gamutviewer::distanceOutside(target->getTargets(), primary, limit) == 0.0) {
+        if (!fitted || distanceOutside(target->getTargets(), primary, limit) == 0.0) {
             continue;
         }
         const QPointF from = xyOf(targetAt(*fitted, primary));

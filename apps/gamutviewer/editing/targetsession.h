@@ -47,14 +47,15 @@ public:
 
     /*! \brief Why \a vertex cannot be moved to \a xy, for people; empty when it can. */
     QString whyNot(Vertex vertex, const QPointF &xy) const;
-    /*! \brief By how much \a primary of the target lies outside of the display, in Δu′v′; 0 when it does not. */
-    double distanceOutside(Vertex primary) const;
 
     /*! \brief One step of the history; false, and refused(), when it cannot be made. */
     bool setChromaticity(Vertex vertex, const QPointF &xy, int mergeKey = 0);
     bool setLuminance(Vertex vertex, double luminance, int mergeKey = 0);
     bool setWhiteTemperature(double kelvin, double duv, int mergeKey = 0);
-    /*! \brief Puts the luminances of the target in \a unit; see withLuminanceUnit(). */
+    /*!
+     * \brief Puts the luminances of the target in \a unit; see withLuminanceUnit(). The brightest white is that which
+     * all known gamuts of the display are known to reach; where it is not known, refused() says so, and numbers stay.
+     */
     void setLuminanceUnit(LuminanceUnit unit);
     /*! \brief Puts the gamut called \a gamutName in place of the target. */
     void reset(const QString &gamutName);

@@ -7,6 +7,7 @@
 #include "editing/targetedits.h"
 #include "editing/targetsession.h"
 #include "panel/accentbutton.h"
+#include "panel/plaintooltip.h"
 
 #include <ceiechart/diagram/diagrampainter.h>
 
@@ -262,7 +263,8 @@ QListWidgetItem *LayerKey::addEntry(
         item->setData(GamutRoleRole, int(*role));
     }
     item->setCheckState(Qt::Checked);
-    item->setToolTip(detail.isEmpty() ? name : tr("%1: %2", "role and name of a gamut").arg(detail, name));
+    item->setToolTip(
+        plainToolTip(detail.isEmpty() ? name : tr("%1: %2", "role and name of a gamut").arg(detail, name)));
     item->setData(Qt::AccessibleTextRole,
         detail.isEmpty() ? name : tr("%1, %2", "name of a gamut, and its role").arg(name, detail));
     return item;

@@ -11,6 +11,7 @@
 #include "panel/targeteditor.h"
 #include "panel/verdict.h"
 
+#include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -87,10 +88,32 @@ SidePanel::SidePanel(TargetSession *session, QWidget *parent)
     m_tabs->addTab(m_values, tr("V&alues"));
     m_tabs->addTab(m_coverage, tr("Covera&ge"));
     m_tabs->addTab(m_hues, tr("H&ue"));
+    m_files = new QPlainTextEdit(m_tabs);
+    m_files->setReadOnly(true);
+    m_files->setTabChangesFocus(true);
+    m_files->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_files->setFrameShape(QFrame::NoFrame);
+    m_files->setAccessibleName(tr("What the files say"));
+    m_tabs->addTab(m_files, tr("File&s"));
+    m_tabs->setTabToolTip(m_tabs->indexOf(m_files), m_files->accessibleName());
     layout->addWidget(m_tabs, 1);
 
     connect(m_document, &Document::changed, this, &SidePanel::refresh);
     refresh();
+    setFileNotes({});
+}
+
+void SidePanel::setFileNotes(const FileNotes &notes)
+{
+    m_notes = notes;
+    m_files->setPlainText(fileNotesText(m_notes));
+    m_tabs->setTabVisible(m_tabs->indexOf(m_files), !m_notes.isEmpty());
+}
+
+void SidePanel::addFileNotes(const FileNotes &notes)
+{
+    FileNotes all = m_notes;
+    setFileNotes(all += notes);
 }
 
 void SidePanel::refresh()

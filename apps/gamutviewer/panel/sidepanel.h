@@ -2,8 +2,11 @@
 #ifndef GAMUTVIEWER_SIDEPANEL_H
 #define GAMUTVIEWER_SIDEPANEL_H
 
+#include "display/filenotes.h"
+
 #include <QWidget>
 
+class QPlainTextEdit;
 class QTabWidget;
 
 namespace gamutviewer {
@@ -27,6 +30,12 @@ public:
     GroupedTable *coverage() const { return m_coverage; }
     GroupedTable *hues() const { return m_hues; }
     Verdict *verdict() const { return m_verdict; }
+    /*! \brief What the files say besides their gamuts; its tab is there if they say anything. */
+    QPlainTextEdit *files() const { return m_files; }
+    /*! \brief Shows \a notes instead of those before. */
+    void setFileNotes(const FileNotes &notes);
+    /*! \brief Shows \a notes below those before. */
+    void addFileNotes(const FileNotes &notes);
 
 private:
     void refresh();
@@ -41,6 +50,8 @@ private:
     GroupedTable *m_values;
     GroupedTable *m_coverage;
     GroupedTable *m_hues;
+    QPlainTextEdit *m_files;
+    FileNotes m_notes;
 };
 
 } // namespace gamutviewer

@@ -7,6 +7,7 @@
 #include "editing/gamutparts.h"
 #include "editing/targetsession.h"
 #include "panel/coordinatepair.h"
+#include "panel/plaintooltip.h"
 
 #include <gamutmodel/publishedgamuts.h>
 
@@ -144,8 +145,8 @@ void TargetEditor::buildHeader(QGridLayout *grid)
             m_luminanceUnit->count() - 1, tr("Luminance: %1").arg(luminanceUnitText(unit)), Qt::ToolTipRole);
     }
     m_luminanceUnit->setToolTip(
-        tr("Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display reaches; "
-           "from cd/m² to relative, it becomes 1."));
+        tr("Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display is "
+           "known to reach; from cd/m² to relative, it becomes 1."));
     grid->addWidget(m_luminanceUnit, 0, column);
 }
 
@@ -230,7 +231,7 @@ void TargetEditor::refresh()
     const GamutPart shownTarget{
         ceiechart::GamutRole::Target, target.value_or(Model::ColorGamut()), m_session->document()->targetIsDefault()};
     m_name->setText(target ? shownTarget.name() : tr("No target"));
-    m_name->setToolTip(m_name->text());
+    m_name->setToolTip(plainToolTip(m_name->text()));
     m_firstHeader->setText(showsUv() ? tr("u′") : tr("x"));
     m_secondHeader->setText(showsUv() ? tr("v′") : tr("y"));
     const Model::Targets targets = target ? target->getTargets() : Model::Targets();

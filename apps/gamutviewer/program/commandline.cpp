@@ -91,7 +91,7 @@ CommandLine::CommandLine(const QStringList &arguments)
         tr("list"));
     const QCommandLineOption report(QStringLiteral("report"),
         tr("Print coverage, colour temperatures and validity, and what the cabinets of a wall show, without opening a "
-           "window. The format is json, or text for people."),
+           "window. The format is json, or text for people. Requires a file."),
         tr("format"));
     const QCommandLineOption check(QStringLiteral("check"),
         tr("Judge whether the display in the files can show the target, without opening a window: the exit status "
@@ -149,6 +149,8 @@ CommandLine::CommandLine(const QStringList &arguments)
     m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, wall, target, fit, corrections,
         tolerances, red, green, blue, white, cabinet, unit, decimal, help, version});
 
+    // Or else -have.icc, the name of a file, would ask for help by its first letter.
+    m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     const bool understood = m_parser.parse(arguments);
     m_needsDisplay = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(check)
         && !m_parser.isSet(corrections) && !m_parser.isSet(help) && !m_parser.isSet(version);
@@ -228,6 +230,9 @@ CommandLine::CommandLine(const QStringList &arguments)
     }
     if (m_parser.isSet(report)) {
         readReport(m_parser.value(report));
+        if (m_files.isEmpty() && m_wallFile.isEmpty()) {
+            refuse(tr("No file to report on: --report requires one."));
+        }
     }
 }
 

@@ -523,8 +523,9 @@
 <context>
     <name>gamutviewer::DocumentView</name>
     <message>
-        <source>outside by Δu′v′ %1</source>
-        <translation>超出 Δu′v′ %1</translation>
+        <source>outside of the %1 by Δu′v′ %2</source>
+        <comment>gamut and distance</comment>
+        <translation>超出%1，Δu′v′ 为 %2</translation>
     </message>
 </context>
 <context>
@@ -592,6 +593,24 @@
     <message>
         <source>Lines and texts as vectors, the colours as one image</source>
         <translation>线条和文字为矢量，颜色为一幅图像</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::FileNotes</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>what it is and its value</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1 says:</source>
+        <comment>file</comment>
+        <translation>%1 注明：</translation>
+    </message>
+    <message>
+        <source>%1 was read as follows:</source>
+        <comment>file</comment>
+        <translation>%1 按如下方式读取：</translation>
     </message>
 </context>
 <context>
@@ -1091,6 +1110,14 @@
         <comment>gamut and its reference white</comment>
         <translation>%1 – 白点：%2, %3</translation>
     </message>
+    <message>
+        <source>What the files say</source>
+        <translation>文件的说明</translation>
+    </message>
+    <message>
+        <source>File&amp;s</source>
+        <translation>文件(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::SignalLog</name>
@@ -1230,12 +1257,12 @@
         <translation>亮度：%1</translation>
     </message>
     <message>
-        <source>Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display reaches; from cd/m² to relative, it becomes 1.</source>
-        <translation>亮度的单位。从相对值改为 cd/m² 时，白点取显示屏所能达到的最大亮度；从 cd/m² 改为相对值时，白点为 1。</translation>
-    </message>
-    <message>
         <source>Unit of the luminances: %1</source>
         <translation>亮度的单位：%1</translation>
+    </message>
+    <message>
+        <source>Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display is known to reach; from cd/m² to relative, it becomes 1.</source>
+        <translation>亮度的单位。从相对值改为 cd/m² 时，白点取已知显示屏所能达到的最大亮度；从 cd/m² 改为相对值时，白点为 1。</translation>
     </message>
 </context>
 <context>
@@ -1275,6 +1302,10 @@
     <message>
         <source>change unit of luminances</source>
         <translation>更改亮度单位</translation>
+    </message>
+    <message>
+        <source>What luminance the display reaches is not known. Enter that of the white.</source>
+        <translation>显示屏能达到的亮度未知。请输入白点的亮度。</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "window/adddialog.h"
 
+#include "panel/plaintooltip.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileInfo>
@@ -106,7 +108,7 @@ QWidget *AddDialog::makeRow(int index)
     auto *layout = new QFormLayout(box);
     layout->setContentsMargins(0, 4, 0, 4);
     QLabel *name = plainLabel(shortName(file.fileName), box);
-    name->setToolTip(oneLine(file.fileName));
+    name->setToolTip(plainToolTip(oneLine(file.fileName)));
     QFont bold = name->font();
     bold.setBold(true);
     name->setFont(bold);

@@ -9,6 +9,7 @@
 #include "editing/gamutroles.h"
 #include "editing/targetsession.h"
 #include "panel/copytable.h"
+#include "panel/plaintooltip.h"
 
 #include <gamutmodel/gamutcoverage.h>
 
@@ -116,7 +117,7 @@ void ComparePage::refresh()
     for (int column = 0; column < parts.size(); ++column) {
         const GamutPart &part = parts.at(column);
         auto *header = new QTableWidgetItem(part.title());
-        header->setToolTip(part.title());
+        header->setToolTip(plainToolTip(part.title()));
         m_table->setHorizontalHeaderItem(column, header);
         const Model::Targets &t = part.gamut.getTargets();
         for (const Vertex vertex : allVertices) {

@@ -120,9 +120,10 @@ void DiagramPage::buildBar(QHBoxLayout *bar)
     connect(m_view, &DiagramView::viewChanged, this, &DiagramPage::showLens);
 }
 
-QString DiagramPage::hints() const
+QStringList DiagramPage::hints() const
 {
-    return tr("Shift: slow   Ctrl: towards white   Alt: along an axis   Esc: cancel");
+    return {tr("Shift: slow   Ctrl: towards white   Alt: along an axis   Esc: cancel"),
+        tr("Shift: slow  Ctrl: to white  Alt: axis  Esc: cancel"), tr("Shift: slow  Esc: cancel")};
 }
 
 Picture DiagramPage::picture() const

@@ -30,7 +30,7 @@ public:
     explicit DiagramPage(TargetSession *session, QWidget *parent = nullptr);
 
     QString title() const override { return tr("&Diagram"); }
-    QString hints() const override;
+    QStringList hints() const override;
     Picture picture() const override;
 
     DocumentView *view() const { return m_view; }

@@ -4,6 +4,7 @@
 #include "editing/document.h"
 #include "editing/targetedits.h"
 #include "editing/targetsession.h"
+#include "panel/plaintooltip.h"
 
 #include <gamutmodel/publishedgamuts.h>
 
@@ -129,7 +130,7 @@ void GamutsDialog::refresh()
             if (column == nameColumn) {
                 item->setData(nameRole, name);
                 item->setText(oneLine(name));
-                item->setToolTip(isOwn ? oneLine(name) : tr("%1: published gamut").arg(oneLine(name)));
+                item->setToolTip(plainToolTip(isOwn ? oneLine(name) : tr("%1: published gamut").arg(oneLine(name))));
                 QFont font = m_table->font();
                 font.setItalic(!isOwn);
                 item->setFont(font);

@@ -5,6 +5,7 @@
 #include "drawing/picture.h"
 
 #include <QPointF>
+#include <QStringList>
 #include <QWidget>
 
 namespace gamutviewer {
@@ -22,8 +23,8 @@ public:
 
     /*! \brief What the page is called, with a mnemonic. */
     virtual QString title() const = 0;
-    /*! \brief What hands and modifiers do on the page, in a few words. */
-    virtual QString hints() const { return QString(); }
+    /*! \brief What hands and modifiers do on the page, in a few words and then in fewer; empty for nothing. */
+    virtual QStringList hints() const { return QStringList(); }
     /*! \brief What is exported and copied while the page is shown; all of the document unless the page says more. */
     virtual Picture picture() const;
 

@@ -4,6 +4,7 @@
 #include "display/gamutfiles.h"
 #include "display/samples.h"
 #include "editing/targetsession.h"
+#include "panel/plaintooltip.h"
 #include "window/settings.h"
 
 #include <QActionGroup>
@@ -73,7 +74,7 @@ void TolerancesMenu::fill()
         QAction *action = addAction(text, this, [this, fileName] { choose(fileName); });
         action->setCheckable(true);
         action->setChecked(fileName == m_fileName && fileName.isEmpty() == !m_session->tolerances());
-        action->setToolTip(fileName);
+        action->setToolTip(plainToolTip(fileName));
         choices->addAction(action);
     };
     add(tr("&None"), QString());

@@ -72,6 +72,7 @@ void ViewerWindow::setDescription(const DisplayDescription &description, const Q
     m_isSample = !path.isEmpty() && path == QFileInfo(sampleFile()).canonicalFilePath();
     m_document.open(description, m_isSample ? QString() : m_shownFile);
     m_warnings->setWarnings({});
+    m_panel->setFileNotes({});
     fitPanel();
 }
 
@@ -88,6 +89,7 @@ void ViewerWindow::setOpened(const OpenedFiles &opened)
         m_shownFile = opened.fileNames.value(0);
     }
     m_warnings->setWarnings(shortMessages(opened.warnings));
+    m_panel->setFileNotes(opened.notes);
     for (int i = opened.fileNames.size() - 1; i >= 0; --i) {
         if (!m_isSample || opened.fileNames.at(i) != opened.descriptionFile) {
             RecentFiles::add(opened.fileNames.at(i));
@@ -190,6 +192,7 @@ void ViewerWindow::addFiles(const QVector<ReadFile> &files)
     m_document.change(opened.description, stepName(opened.fileNames));
     print(opened.warnings);
     m_warnings->addWarnings(shortMessages(opened.warnings));
+    m_panel->addFileNotes(opened.notes);
     for (int i = opened.fileNames.size() - 1; i >= 0; --i) {
         RecentFiles::add(opened.fileNames.at(i));
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/gamutfiles.h"
 #include "editing/targetsession.h"
+#include "panel/plaintooltip.h"
 #include "panel/sidepanel.h"
 #include "panel/targeteditor.h"
 #include "window/diagrampage.h"
@@ -153,7 +154,7 @@ void ViewerWindow::fillRecentMenu()
     for (const QString &file : files) {
         QAction *action
             = m_recentMenu->addAction(menuText(QFileInfo(file).fileName()), this, [this, file] { openPath(file); });
-        action->setToolTip(file);
+        action->setToolTip(plainToolTip(file));
         action->setStatusTip(file);
     }
     if (files.isEmpty()) {

@@ -4,6 +4,7 @@
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
 #include "editing/targetsession.h"
+#include "panel/hintlabel.h"
 #include "panel/sidepanel.h"
 #include "panel/targeteditor.h"
 #include "panel/warningbar.h"
@@ -100,10 +101,15 @@ void ViewerWindow::addPage(Page *page)
 void ViewerWindow::buildStatusBar()
 {
     // A message takes the place of the hints, never that of the readout.
-    m_hints = new QLabel(this);
-    m_hints->setMinimumWidth(1);
+    m_hints = new HintLabel(this);
     statusBar()->addWidget(m_hints, 1);
     m_readout = new QLabel(this);
+    // In a window of 1024 pixels there is room for both.
+    constexpr double textScale = 0.85;
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * textScale);
+    m_hints->setFont(small);
+    m_readout->setFont(small);
     m_readout->setTextFormat(Qt::PlainText);
     m_readout->setToolTip(tr("Dominant wavelength λ and excitation purity p are relative to the white of the target"));
     statusBar()->addPermanentWidget(m_readout);
@@ -119,7 +125,7 @@ Page *ViewerWindow::currentPage() const
 
 void ViewerWindow::followPage()
 {
-    m_hints->setText(currentPage()->hints());
+    m_hints->setForms(currentPage()->hints());
     setReadout(QString());
 }
 

@@ -20,6 +20,7 @@ namespace gamutviewer {
 class ComparePage;
 class DiagramPage;
 class GamutsDialog;
+class HintLabel;
 class LibraryPage;
 class Page;
 class SidePanel;
@@ -146,7 +147,7 @@ private:
     LibraryPage *m_libraryPage;
     SidePanel *m_panel;
     QLabel *m_readout;
-    QLabel *m_hints;
+    HintLabel *m_hints;
     WarningBar *m_warnings;
     QMenu *m_recentMenu;
     TolerancesMenu *m_tolerancesMenu;

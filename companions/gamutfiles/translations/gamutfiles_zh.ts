@@ -2,6 +2,34 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>gamutfiles::ColumnNames</name>
+    <message>
+        <source>name</source>
+        <comment>column of a measurement list</comment>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>cabinet</source>
+        <comment>column of a measurement list</comment>
+        <translation>箱体</translation>
+    </message>
+    <message>
+        <source>row</source>
+        <comment>column of a measurement list</comment>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>column</source>
+        <comment>column of a measurement list</comment>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <comment>column of a measurement list</comment>
+        <translation>编号</translation>
+    </message>
+</context>
+<context>
     <name>gamutfiles::DescriptionReader</name>
     <message>
         <source>is too large for a display description (more than %1 KiB)</source>
@@ -51,6 +79,10 @@
         <source>x and y must be from -1 to 2, y not 0 and -2x + 12y + 3 greater than 0</source>
         <translation>x 和 y 必须在 -1 到 2 之间，y 不能为 0，且 -2x + 12y + 3 必须大于 0</translation>
     </message>
+    <message>
+        <source>the white is darker than one of the primaries</source>
+        <translation>白色比其中一种基色还暗</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Edid</name>
@@ -93,10 +125,6 @@
     <message>
         <source>white</source>
         <translation>白</translation>
-    </message>
-    <message>
-        <source>the base block states another gamut than the DisplayID extension: %1 at %2, %3 instead of %4, %5; that of the base block is used</source>
-        <translation>基本块声明的色域与 DisplayID 扩展不同：%1位于 %2, %3，而不是 %4, %5；采用基本块的色域</translation>
     </message>
     <message>
         <source>the EDID states exactly %1: many makers write this without measuring</source>
@@ -177,6 +205,39 @@
     <message>
         <source>extension block %1, byte %2</source>
         <translation>扩展块 %1，字节 %2</translation>
+    </message>
+    <message>
+        <source>the base block states another gamut than the DisplayID extension: %1; that of the base block is used</source>
+        <translation>基本块声明的色域与 DisplayID 扩展不同：%1；采用基本块的色域</translation>
+    </message>
+    <message>
+        <source>%1 at %2, %3 has x + y above 1, as rounding can make it: it is read as %4, %5</source>
+        <translation>%1位于 %2, %3，x + y 大于 1，可能是舍入所致：按 %4, %5 读取</translation>
+    </message>
+    <message>
+        <source>%1 at %2, %3 and at %4, %5</source>
+        <translation>%1分别位于 %2, %3 和 %4, %5</translation>
+    </message>
+    <message>
+        <source>two data blocks state different gamuts: %1; that of the first is kept</source>
+        <translation>两个数据块声明的色域不同：%1；保留第一个数据块的色域</translation>
+    </message>
+    <message>
+        <source>%1 cd/m²</source>
+        <translation>%1 cd/m²</translation>
+    </message>
+    <message>
+        <source>not stated</source>
+        <comment>a luminance</comment>
+        <translation>未声明</translation>
+    </message>
+    <message>
+        <source>%1, guaranteed</source>
+        <translation>%1（有保证）</translation>
+    </message>
+    <message>
+        <source>two data blocks state different luminances of a white screen: %1 and %2; that of the first is kept</source>
+        <translation>两个数据块声明的全白屏亮度不同：%1和%2；保留第一个数据块的亮度</translation>
     </message>
 </context>
 <context>
@@ -452,6 +513,10 @@
     <message>
         <source>the name must not be empty</source>
         <translation>名称不能为空</translation>
+    </message>
+    <message>
+        <source>the key %1 is there twice in this object: the last one counts</source>
+        <translation>键 %1 在此对象中出现两次：以最后一个为准</translation>
     </message>
 </context>
 <context>
@@ -786,6 +851,22 @@
     <message>
         <source>there is no gamut; missing: %1; choose the lines or the names that are these colours</source>
         <translation>没有色域；缺少：%1；请选择这些颜色对应的行或名称</translation>
+    </message>
+    <message>
+        <source>names other columns than line %1: divide the list here</source>
+        <translation>列名与第 %1 行不同：请在此处拆分列表</translation>
+    </message>
+    <message>
+        <source>repeats the line that names the columns and is not read</source>
+        <translation>重复了列名所在的行，未读取</translation>
+    </message>
+    <message>
+        <source>is as dark as noise, with numbers that no colour has: it is read without a chromaticity</source>
+        <translation>暗至噪声水平，其数值不属于任何颜色：按没有色度读取</translation>
+    </message>
+    <message>
+        <source>has a value slightly below 0, as noise gives: it is read as 0</source>
+        <translation>有一个值因噪声略小于 0：按 0 读取</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_ADDITIVITY_H
+#define GAMUTVIEWER_ADDITIVITY_H
+
+#include "display/gamutfiles.h"
+
+#include <gamutmodel/drive.h>
+
+#include <optional>
+
+/*!
+ * \file
+ * \brief Whether the light of a display's primaries adds up, and what it therefore reaches.
+ */
+namespace gamutviewer {
+
+/*! \brief By which part the luminance of an additive display's white may differ from the sum of its primaries. */
+constexpr double additiveLuminance = 0.02;
+/*! \brief By how much, in Δu′v′, the white of an additive display may differ from the mixture of its primaries. */
+constexpr double additiveUv = 0.003;
+
+/*! \brief A display whose white is held against the mixture of its primaries. */
+struct Additivity {
+    Model::Target sum; //!< of the primaries
+    bool isAdditive = false; //!< whether the white is that sum
+    bool isUpperBound = false; //!< whether the display shows no more than the sum: no primary is brighter in the white
+    bool differsInLuminance = false; //!< whether the luminance is what is not additive
+};
+
+/*! \brief Of \a drive, which has no fault, with the white that was \a measured of the same display. */
+Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Target &measured);
+
+/*!
+ * \brief The largest luminance, in cd/m², of a white with the chromaticity of \a white that the display is known to
+ * reach: the least of the gamuts of knownDisplays() whose luminances are in cd/m².
+ *
+ * Nothing without such a gamut, and where one of them is not additive or cannot show the chromaticity.
+ */
+std::optional<double> reachableLuminance(const DisplayDescription &description, const Model::Target &white);
+
+} // namespace gamutviewer
+
+#endif

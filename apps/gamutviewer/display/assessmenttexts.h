@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_ASSESSMENTTEXTS_H
+#define GAMUTVIEWER_ASSESSMENTTEXTS_H
+
+#include "display/knowndisplay.h"
+
+#include <ceiechart/diagram/targetrules.h>
+#include <gamutmodel/drive.h>
+
+#include <QCoreApplication>
+#include <QString>
+
+/*!
+ * \file
+ * \brief What the sentences of an assessment are made of.
+ */
+namespace gamutviewer {
+
+/*! \brief The texts of assessments, of whatever file. */
+struct AssessmentText {
+    Q_DECLARE_TR_FUNCTIONS(gamutviewer::Assessment)
+};
+
+/*! \brief \a text with a capital at its beginning. */
+QString capitalised(QString text);
+
+/*! \brief "original" or "measured gamut". */
+QString displayName(const KnownDisplay &display);
+/*! \brief The mark of \a vertex on the diagram: "handle “red” of the target". */
+QString handleName(ceiechart::GamutVertex vertex);
+
+/*! \brief "0.3127, 0.3290". */
+QString pointText(const Model::DiagramPoint &point);
+/*! \brief A distance that is not 0 in Δu′v′, with the decimals that it takes not to look like 0 either. */
+QString distanceText(double distance);
+
+/*! \brief Of \a luminance no more than it is, but for rounding, so that what is shown can be reached. */
+QString reachableText(double luminance, LuminanceUnit unit);
+/*! \brief "red 71.0 %, green 68.2 %, blue 64.9 %". */
+QString drivesText(const Model::Drive &drive);
+
+/*! \brief Why luminances of the target and of \a other, called \a otherName, cannot be compared, and what to do. */
+QString incomparableText(LuminanceUnit target, LuminanceUnit other, const QString &otherName);
+
+} // namespace gamutviewer
+
+#endif

@@ -1,0 +1,321 @@
+// SPDX-License-Identifier: MIT
+#include "display/displayassessor.h"
+
+#include "display/additivity.h"
+#include "display/assessmentparts.h"
+#include "display/assessmenttexts.h"
+#include "display/chromaticity.h"
+#include "display/valuetexts.h"
+
+#include <gamutmodel/gamutcoverage.h>
+#include <gamutmodel/nearestinside.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace gamutviewer {
+
+namespace {
+
+using ceiechart::gamutVertexName;
+using ceiechart::targetAt;
+using Vertex = ceiechart::GamutVertex;
+
+constexpr Vertex primaries[] = {Vertex::Red, Vertex::Green, Vertex::Blue};
+
+//! The gamut with the largest area in u′, v′ that could be the target instead; nothing without one.
+QString otherTarget(const DisplayDescription &description)
+{
+    const std::vector<KnownDisplay> displays = knownDisplays(description);
+    const auto isInside = [&displays](const Model::Targets &target) {
+        return std::none_of(displays.begin(), displays.end(), [&target](const KnownDisplay &display) {
+            return Model::primariesOutside(target, display.gamut.getTargets()).any();
+        });
+    };
+    QString best;
+    double bestArea = 0.0;
+    for (const DisplayGamut &standard : description.allStandards()) {
+        const QString name = QString::fromStdString(standard.colorGamutName());
+        const double area = Model::gamutArea(standard.getTargets(), Model::Diagram::Cie1976);
+        if (name != description.target && area > bestArea && isInside(standard.getTargets())) {
+            best = name;
+            bestArea = area;
+        }
+    }
+    return best;
+}
+
+//! Makes the lines of what the display can show.
+class DisplayAssessor {
+public:
+    DisplayAssessor(const DisplayDescription &description, Assessment &result)
+        : m_description(description)
+        , m_target(description.gamut(description.target))
+        , m_result(result)
+    {
+    }
+
+    void assess()
+    {
+        for (const KnownDisplay &display : knownDisplays(m_description)) {
+            m_result.displays.push_back({display, false, std::nullopt, std::nullopt});
+        }
+        judgeTarget();
+    }
+
+private:
+    using Subject = AssessmentLine::Subject;
+
+    void add(Subject subject, Judgement judgement, const QString &text)
+    {
+        m_result.lines.append({subject, judgement, text, std::nullopt, QString(), isOfMeasured()});
+    }
+    void add(Subject subject, Judgement judgement, const QString &text, Vertex vertex, const QString &mark)
+    {
+        m_result.lines.append({subject, judgement, text, vertex, mark, isOfMeasured()});
+    }
+
+    std::optional<bool> isOfMeasured() const
+    {
+        return m_current ? std::make_optional(m_current->display.isMeasured) : std::nullopt;
+    }
+
+    const Model::Targets &displayTargets() const { return m_current->display.gamut.getTargets(); }
+
+    void judgeTarget()
+    {
+        if (!m_target) {
+            add(Subject::Target, Judgement::NotKnown,
+                AssessmentText::tr(
+                    "What the display is to show is not known: nobody has chosen a target. Choose one, or edit the "
+                    "default."));
+        }
+        if (m_result.displays.empty() && m_description.wall.cabinets.empty()) {
+            add(Subject::Display, Judgement::NotKnown,
+                AssessmentText::tr("What the display can show is not known: no gamut of the display is known, neither "
+                                   "its original nor a measured one."));
+        }
+        if (!m_target) {
+            return;
+        }
+        for (DriveAssessment &display : m_result.displays) {
+            m_current = &display;
+            judgeDisplay();
+        }
+        m_current = nullptr;
+    }
+
+    void judgeDisplay()
+    {
+        if (!Model::spanTriangle(displayTargets())) {
+            add(Subject::Display, Judgement::NotKnown,
+                AssessmentText::tr("What the display can show is not known: the primaries of the %1 span no triangle.")
+                    .arg(displayName(m_current->display)));
+            return;
+        }
+        judgeGamut();
+        judgeLuminance();
+    }
+
+    void judgeGamut()
+    {
+        const Model::Targets &target = m_target->getTargets();
+        const QString other = otherTarget(m_description);
+        const QString name = displayName(m_current->display);
+        bool isInside = true;
+        for (const Vertex primary : primaries) {
+            const double distance = distanceOutside(target, primary, displayTargets());
+            if (distance > 0.0) {
+                isInside = false;
+                addOutside(primary, distance, other);
+            }
+        }
+        const auto distance = distanceFrom(displayTargets(), m_target->getTargets().white);
+        constexpr double rounding = 1e-9;
+        if (!distance) {
+            add(Subject::Gamut, Judgement::NotKnown,
+                AssessmentText::tr("Whether the white lies inside of the %1 is not known: it has no chromaticity.")
+                    .arg(name),
+                Vertex::White, handleName(Vertex::White));
+        } else if (*distance > rounding) {
+            addOutside(Vertex::White, *distance, other);
+        } else if (isInside) {
+            add(Subject::Gamut, Judgement::Pass,
+                AssessmentText::tr("All primaries and the white lie inside of the %1.").arg(name));
+        }
+    }
+
+    void addOutside(Vertex vertex, double distance, const QString &other)
+    {
+        const Model::Target &color = targetAt(m_target->getTargets(), vertex);
+        const auto nearest = Model::nearestInside(displayTargets(), pointOf(color), chromaticityDecimals);
+        const QString what
+            = AssessmentText::tr("%1 lies outside of the %2 by Δu′v′ %3")
+                  .arg(capitalised(gamutVertexName(vertex)), displayName(m_current->display), distanceText(distance));
+        const QString move = nearest ? AssessmentText::tr("move it to %1").arg(pointText(nearest->xy)) : QString();
+        const QString choose = other.isEmpty()
+            ? QString()
+            : AssessmentText::tr("choose %1 as the target, which lies inside").arg(oneLine(other));
+        QString text = what;
+        if (!move.isEmpty() || !choose.isEmpty()) {
+            const QString either = move.isEmpty() ? choose
+                : choose.isEmpty()                ? move
+                                                  : AssessmentText::tr("%1, or %2").arg(move, choose);
+            text = AssessmentText::tr("%1: %2", "what is wrong and what to do").arg(what, either);
+        }
+        add(Subject::Gamut, Judgement::Fail, AssessmentText::tr("%1.", "a sentence").arg(text), vertex,
+            handleName(vertex));
+    }
+
+    void judgeLuminance()
+    {
+        const KnownDisplay &display = m_current->display;
+        const QString name = displayName(display);
+        const Model::DisplayDrive displayDrive(displayTargets());
+        if (displayDrive.fault() != Model::DisplayFault::None) {
+            addFault(displayDrive);
+            return;
+        }
+        const Model::Target &white = m_target->getTargets().white;
+        const Additivity additivity = additivityOf(displayDrive, displayTargets().white);
+        const auto largest = displayDrive.largestLuminance(pointOf(white));
+        m_current->luminancesCompare = luminancesCompare(m_target->unit, display.gamut.unit);
+        if (additivity.isAdditive) {
+            m_current->largestWhite = largest;
+        }
+        if (!m_current->luminancesCompare) {
+            QString text = incomparableText(m_target->unit, display.gamut.unit, name);
+            if (m_current->largestWhite) {
+                text += QLatin1Char(' ')
+                    + AssessmentText::tr("At this white the %1 reaches %2.")
+                          .arg(name, reachableText(m_current->largestWhite->luminance, display.gamut.unit));
+            }
+            addOfWhite(Judgement::NotKnown, text);
+            return;
+        }
+        const auto drive = displayDrive.driveFor(m_target->getTargets());
+        if (!drive || !(white.Y > 0.0)) {
+            addOfWhite(Judgement::NotKnown,
+                AssessmentText::tr("The luminance of the target is not known: its white has none. Enter it beside Y."));
+            return;
+        }
+        if (!largest) {
+            addOfWhite(Judgement::NotKnown,
+                AssessmentText::tr("The drive of the %1 is not known: the white lies outside of it.").arg(name));
+            return;
+        }
+        if (!additivity.isAdditive) {
+            judgeWithoutAdditivity(additivity, *drive, largest->luminance);
+            return;
+        }
+        m_current->drive = drive;
+        judgeWhiteLuminance(drive->white, largest->luminance);
+        judgePrimaryLuminances(*drive);
+    }
+
+    void addOfWhite(Judgement judgement, const QString &text)
+    {
+        add(Subject::Luminance, judgement, text, Vertex::White, handleName(Vertex::White));
+    }
+
+    //! What it reaches is not known, but where the sum of the primaries is the most that it can be, that can fail.
+    void judgeWithoutAdditivity(const Additivity &additivity, const Model::TargetDrive &drive, double largest)
+    {
+        const QString name = displayName(m_current->display);
+        const LuminanceUnit unit = m_target->unit;
+        const Model::Target &white = m_target->getTargets().white;
+        if (additivity.isUpperBound && highest(drive.white) > fullDrive) {
+            addOfWhite(Judgement::Fail,
+                AssessmentText::tr("The target is too bright: the %1 reaches at most %2 at this white, if its "
+                                   "primaries add up, and the target has %3. Lower the luminance of the white.")
+                    .arg(name, reachableText(largest, unit), luminanceText(white.Y, unit)));
+            return;
+        }
+        const Model::Target &stated = displayTargets().white;
+        const QString is = additivity.differsInLuminance ? luminanceText(stated.Y, unit) : pointText(pointOf(stated));
+        const QString sum = additivity.differsInLuminance ? luminanceText(additivity.sum.Y, unit)
+                                                          : pointText(pointOf(additivity.sum));
+        addOfWhite(Judgement::NotKnown,
+            AssessmentText::tr("The white of the %1 is %2, its primaries add to %3: what luminance it reaches at the "
+                               "white of the target cannot be worked out. Measure it there.")
+                .arg(name, is, sum));
+        if (additivity.isUpperBound) {
+            judgePrimaryLuminances(drive);
+        }
+    }
+
+    void addFault(const Model::DisplayDrive &drive)
+    {
+        const QString name = displayName(m_current->display);
+        const auto primary = drive.faultyPrimary();
+        const QString text = drive.fault() == Model::DisplayFault::NoLight && primary
+            ? AssessmentText::tr("What luminance the display reaches is not known: %1 of the %2 has no luminance.")
+                  .arg(gamutVertexName(vertexOf(*primary)), name)
+            : AssessmentText::tr("What luminance the display reaches is not known: the primaries of the %1 cannot be "
+                                 "told apart.")
+                  .arg(name);
+        add(Subject::Luminance, Judgement::NotKnown, text);
+    }
+
+    void judgeWhiteLuminance(const Model::Drive &drive, double reached)
+    {
+        const Model::Target &white = m_target->getTargets().white;
+        const QString name = displayName(m_current->display);
+        const LuminanceUnit unit = m_target->unit;
+        if (highest(drive) <= fullDrive) {
+            QString text
+                = AssessmentText::tr("The white of %1 needs of the %2: %3. It reaches %4 at this white (headroom %5).")
+                      .arg(luminanceText(white.Y, unit), name, drivesText(drive), reachableText(reached, unit),
+                          fixedText(reached / white.Y, 2));
+            if (highest(drive) > 1.0 + Model::driveRounding) {
+                text += QLatin1Char(' ')
+                    + AssessmentText::tr("That is within %1 of full drive, and counts as full.")
+                          .arg(percent(fullDrive - 1.0));
+            }
+            addOfWhite(Judgement::Pass, text);
+            return;
+        }
+        QString text
+            = AssessmentText::tr("The target is too bright: the %1 reaches %2 at this white, and the target has %3. It "
+                                 "would need %4. Lower the luminance of the white to %2.")
+                  .arg(name, reachableText(reached, unit), luminanceText(white.Y, unit), drivesText(drive));
+        if (percent(highest(drive)) == percent(fullDrive)) {
+            text += QLatin1Char(' ')
+                + AssessmentText::tr("That is more than %1 above full drive.").arg(percent(fullDrive - 1.0));
+        }
+        addOfWhite(Judgement::Fail, text);
+    }
+
+    //! They follow from the white, unless a file has luminances that do not mix to it.
+    void judgePrimaryLuminances(const Model::TargetDrive &target)
+    {
+        const Model::Drive drives[] = {target.red, target.green, target.blue};
+        for (const Vertex primary : primaries) {
+            const Model::Drive &drive = drives[int(primary)];
+            const bool isShownAtAll = distanceOutside(m_target->getTargets(), primary, displayTargets()) == 0.0;
+            if (!isShownAtAll || highest(drive) <= fullDrive || highest(target.white) > fullDrive) {
+                continue;
+            }
+            const double luminance = targetAt(m_target->getTargets(), primary).Y;
+            add(Subject::Luminance, Judgement::Fail,
+                AssessmentText::tr("The luminance %1 of %2 is more than the %3 reaches: %4. Lower it to that.")
+                    .arg(luminanceText(luminance, m_target->unit), gamutVertexName(primary),
+                        displayName(m_current->display), reachableText(luminance / highest(drive), m_target->unit)),
+                primary, handleName(primary));
+        }
+    }
+
+    const DisplayDescription &m_description;
+    const std::optional<DisplayGamut> m_target;
+    Assessment &m_result;
+    DriveAssessment *m_current = nullptr; // of m_result.displays, while it is judged
+};
+
+} // namespace
+
+void assessDisplays(const DisplayDescription &description, Assessment &assessment)
+{
+    DisplayAssessor(description, assessment).assess();
+}
+
+} // namespace gamutviewer

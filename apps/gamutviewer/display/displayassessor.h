@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_DISPLAYASSESSOR_H
+#define GAMUTVIEWER_DISPLAYASSESSOR_H
+
+#include "display/assessment.h"
+
+namespace gamutviewer {
+
+/*!
+ * \brief Adds to \a assessment what the target is held against, how it is driven, and whether the display can show it:
+ * its chromaticities and its luminances.
+ */
+void assessDisplays(const DisplayDescription &description, Assessment &assessment);
+
+} // namespace gamutviewer
+
+#endif

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_TOLERANCEASSESSOR_H
+#define GAMUTVIEWER_TOLERANCEASSESSOR_H
+
+#include "display/assessment.h"
+
+namespace gamutviewer {
+
+/*!
+ * \brief Adds to \a assessment whether the measured gamut is within \a tolerances of the target, and covers the
+ * standards as they want.
+ */
+void assessTolerances(const DisplayDescription &description, const Tolerances &tolerances, Assessment &assessment);
+
+} // namespace gamutviewer
+
+#endif

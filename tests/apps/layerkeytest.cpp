@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "diagramfixture.h"
+
+#include "drawing/layerswitches.h"
+#include "panel/layerkey.h"
+
+#include <QAccessible>
+#include <QButtonGroup>
+#include <QtTest>
+
+using namespace gamutviewer;
+using namespace diagramfixture;
+
+class LayerKeyTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keySwitchesLayers_data();
+    void keySwitchesLayers();
+    void doubleClickShowsAlone();
+    void anotherEntryIsShownAlone();
+    void showingAloneKeepsOtherSwitches();
+    void aloneEndsWithTheDescription();
+    void returnShowsAlone();
+    void standardsAreThoseOfTheDescription();
+    void keySpeaks();
+};
+
+namespace {
+
+QPoint middleOf(const LayerKey *key, const QListWidgetItem *entry)
+{
+    return key->visualItemRect(entry).center();
+}
+
+void doubleClick(const WindowFixture &f, const QString &name)
+{
+    QListWidgetItem *entry = key(f)->entry(name);
+    key(f)->scrollToItem(entry);
+    const QPoint place = middleOf(key(f), entry);
+    QTest::mouseClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseDClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
+QStringList shownGamuts(const WindowFixture &f)
+{
+    QStringList names;
+    for (const ceiechart::DiagramGamut &gamut : view(f)->gamuts()) {
+        if (view(f)->content().shows(gamut)) {
+            names.append(QString::fromStdString(gamut.gamut.colorGamutName()));
+        }
+    }
+    return names;
+}
+
+//! Whether two pictures are the same but for the rounding of glyphs, which a first painting differs by.
+bool looksLike(const QImage &one, const QImage &other)
+{
+    constexpr int rounding = 4;
+    if (one.size() != other.size()) {
+        return false;
+    }
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            if (qAbs(qRed(a) - qRed(b)) > rounding || qAbs(qGreen(a) - qGreen(b)) > rounding
+                || qAbs(qBlue(a) - qBlue(b)) > rounding) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+void LayerKeyTest::keySwitchesLayers_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"DCI-P3(D65)", "LED wall", "LED wall, warm", "Rec.709", "Common area", "Given up",
+             "Planckian locus", "Isotherms", "Wavelengths", "CMY points", "Axes", "Grid"}) {
+        QTest::newRow(name) << QString::fromLatin1(name);
+    }
+}
+
+void LayerKeyTest::keySwitchesLayers()
+{
+    QFETCH(QString, name);
+    WindowFixture f;
+    QListWidgetItem *entry = key(f)->entry(name);
+    QVERIFY(entry);
+    QCOMPARE(entry->checkState(), Qt::Checked);
+    const QImage with = view(f)->grab().toImage();
+    key(f)->scrollToItem(entry);
+    QTest::mouseClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(key(f), entry));
+    QCOMPARE(key(f)->entry(name)->checkState(), Qt::Unchecked);
+    const QImage without = view(f)->grab().toImage();
+    QVERIFY(!looksLike(without, with));
+    key(f)->setFocus();
+    key(f)->setCurrentItem(entry);
+    QTest::keyClick(key(f), Qt::Key_Space);
+    QCOMPARE(key(f)->entry(name)->checkState(), Qt::Checked);
+    QVERIFY(looksLike(view(f)->grab().toImage(), with));
+}
+
+void LayerKeyTest::doubleClickShowsAlone()
+{
+    WindowFixture f;
+    const QStringList all = shownGamuts(f);
+    QVERIFY(all.size() > 3);
+    doubleClick(f, QStringLiteral("LED wall"));
+    QCOMPARE(shownGamuts(f), QStringList(QStringLiteral("LED wall")));
+    // Layers are another matter.
+    QVERIFY(view(f)->isLayerShown(DiagramLayer::Grid));
+    doubleClick(f, QStringLiteral("LED wall"));
+    QCOMPARE(shownGamuts(f), all);
+    doubleClick(f, QStringLiteral("Rec.709"));
+    QCOMPARE(shownGamuts(f), QStringList(QStringLiteral("Rec.709")));
+}
+
+void LayerKeyTest::anotherEntryIsShownAlone()
+{
+    WindowFixture f;
+    const QStringList all = shownGamuts(f);
+    doubleClick(f, QStringLiteral("LED wall"));
+    doubleClick(f, QStringLiteral("Rec.709"));
+    QCOMPARE(shownGamuts(f), QStringList(QStringLiteral("Rec.709")));
+    doubleClick(f, QStringLiteral("DCI-P3(D65)"));
+    QCOMPARE(shownGamuts(f), QStringList(QStringLiteral("DCI-P3(D65)")));
+    // What was shown before any of them was alone.
+    doubleClick(f, QStringLiteral("DCI-P3(D65)"));
+    QCOMPARE(shownGamuts(f), all);
+}
+
+void LayerKeyTest::showingAloneKeepsOtherSwitches()
+{
+    WindowFixture f;
+    const QStringList all = shownGamuts(f);
+    doubleClick(f, QStringLiteral("LED wall"));
+    QTest::mouseClick(key(f)->colors()->button(int(ceiechart::HorseshoeColors::None)), Qt::LeftButton);
+    key(f)->setFocus();
+    key(f)->setCurrentItem(key(f)->entry(QStringLiteral("Grid")));
+    QTest::keyClick(key(f), Qt::Key_Space);
+    doubleClick(f, QStringLiteral("LED wall"));
+    QCOMPARE(shownGamuts(f), all);
+    QCOMPARE(view(f)->horseshoeColors(), ceiechart::HorseshoeColors::None);
+    QVERIFY(!view(f)->isLayerShown(DiagramLayer::Grid));
+}
+
+void LayerKeyTest::aloneEndsWithTheDescription()
+{
+    WindowFixture f;
+    doubleClick(f, QStringLiteral("LED wall"));
+    f.window->setDescription(f.document().description(), QString());
+    f.window->diagramPage()->switches()->setShown(DiagramLayer::Targets, true);
+    doubleClick(f, QStringLiteral("LED wall"));
+    QCOMPARE(shownGamuts(f), QStringList(QStringLiteral("LED wall")));
+}
+
+void LayerKeyTest::returnShowsAlone()
+{
+    WindowFixture f;
+    key(f)->setFocus();
+    key(f)->setCurrentItem(key(f)->entry(QStringLiteral("Grid")));
+    QTest::keyClick(key(f), Qt::Key_Return);
+    QVERIFY(view(f)->isLayerShown(DiagramLayer::Grid));
+    QVERIFY(!view(f)->isLayerShown(DiagramLayer::Isotherms));
+    QVERIFY(view(f)->isLayerShown(DiagramLayer::Targets));
+    QTest::keyClick(key(f), Qt::Key_Return);
+    QVERIFY(view(f)->isLayerShown(DiagramLayer::Isotherms));
+}
+
+void LayerKeyTest::standardsAreThoseOfTheDescription()
+{
+    WindowFixture f;
+    DisplayDescription description = f.document().description();
+    description.standards = QStringList{QStringLiteral("Rec.2020")};
+    f.window->setDescription(description, QString());
+    QCOMPARE(key(f)->entry(QStringLiteral("Rec.2020"))->checkState(), Qt::Checked);
+    QCOMPARE(key(f)->entry(QStringLiteral("Rec.709"))->checkState(), Qt::Unchecked);
+    // The others are a click away, for this description.
+    f.window->diagramPage()->switches()->setStandardShown(QStringLiteral("Rec.709"), true);
+    QCOMPARE(key(f)->entry(QStringLiteral("Rec.709"))->checkState(), Qt::Checked);
+    f.window->setDescription(description, QString());
+    QCOMPARE(key(f)->entry(QStringLiteral("Rec.709"))->checkState(), Qt::Unchecked);
+}
+
+void LayerKeyTest::keySpeaks()
+{
+    WindowFixture f;
+    const QAccessibleInterface *list = QAccessible::queryAccessibleInterface(key(f));
+    QVERIFY(list);
+    QStringList names;
+    for (int i = 0; i < list->childCount(); ++i) {
+        const QAccessibleInterface *child = list->child(i);
+        names.append(child->text(QAccessible::Name));
+        if (names.last() == QLatin1String("LED wall, Original")) {
+            QVERIFY(child->state().checkable);
+            QVERIFY(child->state().checked);
+        }
+    }
+    QVERIFY2(names.contains(QStringLiteral("LED wall, Original")), qPrintable(names.join(QLatin1Char(';'))));
+    QVERIFY(names.contains(QStringLiteral("Isotherms")));
+}
+
+QTEST_MAIN(LayerKeyTest)
+#include "layerkeytest.moc"

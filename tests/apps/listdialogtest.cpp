@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "givenfiles.h"
+
+#include "program/interfacetranslations.h"
+#include "window/listdialog.h"
+#include "window/recentfiles.h"
+
+#include <ceiechart/widgets/ceiegraphicsview.h>
+
+#include <QPlainTextEdit>
+#include <QtTest>
+
+#include <functional>
+
+using namespace gamutviewer;
+using namespace givenfiles;
+
+class ListDialogTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cabinetIsChosen();
+    void listsAreAskedAbout();
+    void listOfTwoReadingsIsAskedAbout();
+    void columnsAreNamedInTheLanguageOfTheWindow();
+    void canceledListIsNotOpened();
+};
+
+namespace {
+
+//! Answers the next question what a measurement list means.
+class ListAnswer : public QObject {
+public:
+    explicit ListAnswer(const std::function<void(ListDialog *)> &answer)
+    {
+        connect(&m_timer, &QTimer::timeout, this, [this, answer] {
+            auto *dialog = qobject_cast<ListDialog *>(QApplication::activeModalWidget());
+            if (dialog && !m_isAsked) {
+                m_isAsked = true;
+                answer(dialog);
+                if (dialog->isVisible()) {
+                    dialog->reject(); // it has not been answered
+                }
+            }
+        });
+        m_timer.start(1);
+    }
+    bool isAsked() const { return m_isAsked; }
+
+private:
+    bool m_isAsked = false;
+    QTimer m_timer;
+};
+
+} // namespace
+
+void ListDialogTest::cabinetIsChosen()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    const QString file = writeFile(f.settings, QStringLiteral("wall.csv"),
+        "cabinet,name,Lv,x,y\nA1,R,200,0.7,0.29\nA1,G,700,0.2,0.7\nA1,B,100,0.15,0.05\nA1,W,1000,0.28,0.29\n"
+        "A2,R,210,0.7,0.29\nA2,G,710,0.2,0.7\nA2,B,110,0.15,0.05\nA2,W,1010,0.28,0.29\n");
+    QString before;
+    QString after;
+    const ListAnswer answer([&](ListDialog *dialog) {
+        before = dialog->preview()->toPlainText();
+        QVERIFY(dialog->cabinet()->isVisible());
+        QTest::keyClick(dialog->cabinet(), Qt::Key_Down);
+        QTest::keyClick(dialog->cabinet(), Qt::Key_Down);
+        QCOMPARE(dialog->cabinet()->currentText(), QStringLiteral("A2"));
+        after = dialog->preview()->toPlainText();
+        QTest::mouseClick(dialog->useButton(), Qt::LeftButton);
+    });
+    QVERIFY(f.window->openPath(file));
+    QVERIFY(answer.isAsked());
+    QVERIFY2(before.contains(QLatin1String("2 cabinets (A1, A2)")), qPrintable(before));
+    QVERIFY2(after.contains(QLatin1String("The list makes a gamut.")), qPrintable(after));
+    const auto measured = f.document().description().gamut(QStringLiteral("wall"));
+    QVERIFY(measured);
+    QCOMPARE(measured->getTargets().white.Y, 1010.0);
+}
+
+void ListDialogTest::listsAreAskedAbout()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    const QString file = writeFile(f.settings, QStringLiteral("meter.csv"),
+        "name,Y (lux),x,y\nred,190,0.69,0.30\nred,180,0.64,0.33\ngreen,600,0.2,0.7\nblue,120,0.14,0.08\n");
+    QString before;
+    QString after;
+    const ListAnswer answer([&](ListDialog *dialog) {
+        before = dialog->preview()->toPlainText();
+        // By its keys, as a user: the second red, the sum, cd/m2.
+        QComboBox *red = dialog->choice(Vertex::Red);
+        QTest::keyClick(red, Qt::Key_End);
+        while (!red->currentText().startsWith(QLatin1String("line 3:")) && red->currentIndex() > 0) {
+            QTest::keyClick(red, Qt::Key_Up);
+        }
+        QTest::keyClick(dialog->choice(Vertex::White), Qt::Key_Down);
+        QTest::keyClick(dialog->unit(), Qt::Key_Down);
+        after = dialog->preview()->toPlainText();
+        QTest::mouseClick(dialog->useButton(), Qt::LeftButton);
+    });
+    QVERIFY(f.window->openPath(file));
+    QVERIFY(answer.isAsked());
+    QVERIFY2(before.contains(QLatin1String("makes no gamut")), qPrintable(before));
+    QVERIFY2(after.contains(QLatin1String("The list makes a gamut.")), qPrintable(after));
+    const auto measured = f.document().description().gamut(QStringLiteral("meter"));
+    QVERIFY(measured);
+    QCOMPARE(f.document().description().measured, QStringLiteral("meter"));
+    QCOMPARE(measured->getTargets().red.x, 0.64);
+    QCOMPARE(measured->getTargets().white.Y, 180.0 + 600.0 + 120.0);
+    QVERIFY(measured->unit == LuminanceUnit::CandelaPerSquareMetre);
+}
+
+void ListDialogTest::listOfTwoReadingsIsAskedAbout()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    // A thousand and more, or one and a bit.
+    const QString file = writeFile(f.settings, QStringLiteral("meter.csv"),
+        "name;X (cd/m2);Y;Z\nred;1,234;1,000;1,500\ngreen;1,000;2,000;1,000\n");
+    QVERIFY(!readGamutFile(file));
+    const ListAnswer answer([](ListDialog *dialog) {
+        QVERIFY(!dialog->useButton()->isEnabled());
+        QTest::keyClick(dialog->decimalSign(), Qt::Key_End);
+        QVERIFY2(dialog->useButton()->isEnabled(), qPrintable(dialog->preview()->toPlainText()));
+        QTest::mouseClick(dialog->useButton(), Qt::LeftButton);
+    });
+    QVERIFY(f.window->openPath(file));
+    QVERIFY(answer.isAsked());
+    QVERIFY(!f.document().description().measurePoints.isEmpty());
+}
+
+void ListDialogTest::columnsAreNamedInTheLanguageOfTheWindow()
+{
+    installInterfaceTranslations(QLocale(QLocale::Chinese, QLocale::China));
+    WindowFixture f;
+    QString preview;
+    const ListAnswer answer([&](const ListDialog *dialog) { preview = dialog->preview()->toPlainText(); });
+    f.window->openPath(writeFile(f.settings, QStringLiteral("meter.csv"),
+        "cabinet,row,column,name,Y (lux),x,y\nA,1,1,red,190,0.69,0.30\nA,1,1,green,600,0.2,0.7\n"));
+    QVERIFY(answer.isAsked());
+    for (const char *name : {"箱体", "行", "列", "名称"}) {
+        QVERIFY2(preview.contains(QString::fromUtf8("%1 在第").arg(QString::fromUtf8(name))), qPrintable(preview));
+    }
+    installInterfaceTranslations(QLocale(QLocale::English));
+}
+
+void ListDialogTest::canceledListIsNotOpened()
+{
+    WindowFixture f;
+    const QString file
+        = writeFile(f.settings, QStringLiteral("meter.csv"), "name,Y,x,y\nred,190,0.69,0.30\nred,180,0.64,0.33\n");
+    const ListAnswer answer([](ListDialog *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+    QVERIFY(!f.window->openPath(file));
+    QVERIFY(answer.isAsked());
+    QCOMPARE(f.document().description().name, QStringLiteral("LED wall"));
+    QVERIFY(!f.window->isWindowModified());
+    QVERIFY(RecentFiles::list().isEmpty());
+}
+
+QTEST_MAIN(ListDialogTest)
+#include "listdialogtest.moc"

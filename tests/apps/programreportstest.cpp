@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "programrunner.h"
+
+#include <gamutmodel/colorgamut.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+class ProgramReportsTest : public QObject, private ProgramRunner {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { renewFolder(); }
+    void reports();
+    void reportsAndRenders();
+    void checks_data();
+    void checks();
+    void checkPrintsTheGroundsOrTheReport();
+    void refusesTolerances();
+    void checkAndReportNeedAFile();
+    void reportHasTheWarnings();
+    void checkThatCannotRenderFails();
+    void reportCannotBeWritten();
+};
+
+namespace {
+
+//! Rec.2020 with a white of 1000 cd/m² called Wall, and Rec.709 with \a luminance called Wanted.
+QByteArray wallText(const QByteArray &parts, double luminance)
+{
+    const auto gamut = [](const char *name, const Model::Targets &t, double factor) {
+        const auto color = [factor](const Model::Target &c) {
+            return QJsonObject{{"Y", c.Y * factor}, {"x", c.x}, {"y", c.y}};
+        };
+        return QJsonDocument(QJsonObject{{"name", name}, {"luminanceUnit", "cd/m2"}, {"red", color(t.red)},
+                                 {"green", color(t.green)}, {"blue", color(t.blue)}, {"white", color(t.white)}})
+            .toJson();
+    };
+    return R"({"version": 1, "gamuts": [)" + gamut("Wall", Model::rec2020().getTargets(), 1000.0) + ','
+        + gamut("Wanted", Model::rec709().getTargets(), luminance) + "], " + parts + '}';
+}
+
+} // namespace
+
+void ProgramReportsTest::reports()
+{
+    const Result result = run({"--report", "json", SAMPLE_FILE});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    const QJsonObject report = QJsonDocument::fromJson(result.output).object();
+    QCOMPARE(report.value("name").toString(), QStringLiteral("LED wall"));
+    const QJsonObject validity = report.value("validity").toObject();
+    QCOMPARE(validity.value("valid").toBool(true), false);
+    QCOMPARE(validity.value("outside").toArray(), (QJsonArray{"red", "green", "blue"}));
+    QVERIFY(entries().isEmpty());
+}
+
+void ProgramReportsTest::reportsAndRenders()
+{
+    const Result result = run({"--report", "json", "--render", "chart.svg", SAMPLE_FILE});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(QJsonDocument::fromJson(result.output).isObject());
+    QCOMPARE(entries(), QStringList("chart.svg"));
+}
+
+void ProgramReportsTest::checks_data()
+{
+    QTest::addColumn<QByteArray>("parts");
+    QTest::addColumn<double>("luminance");
+    QTest::addColumn<QByteArray>("tolerances");
+    QTest::addColumn<int>("status");
+    const QByteArray original = R"("original": "Wall", "target": "Wanted")";
+    const QByteArray measured = original + R"(, "measured": "Wall")";
+    QTest::newRow("passes") << original << 1000.0 << QByteArray() << 0;
+    QTest::newRow("too bright") << original << 5000.0 << QByteArray() << 3;
+    QTest::newRow("outside") << QByteArray(R"("original": "Wanted", "target": "Rec.2020")") << 1000.0 << QByteArray()
+                             << 3;
+    QTest::newRow("published target") << QByteArray(R"("original": "Wall", "target": "Rec.709")") << 1000.0
+                                      << QByteArray() << 4;
+    QTest::newRow("no original") << QByteArray(R"("declared": "Wall", "target": "Wanted")") << 1000.0 << QByteArray()
+                                 << 4;
+    QTest::newRow("no target") << QByteArray(R"("original": "Wall")") << 1000.0 << QByteArray() << 4;
+    QTest::newRow("within tolerance") << measured << 1000.0 << QByteArray(R"({"version": 1, "whiteUv": 0.001})") << 0;
+    QTest::newRow("out of tolerance") << measured << 1000.0 << QByteArray(R"({"version": 1, "primariesUv": 0.001})")
+                                      << 3;
+    QTest::newRow("not measured") << original << 1000.0 << QByteArray(R"({"version": 1, "whiteUv": 0.001})") << 4;
+}
+
+void ProgramReportsTest::checks()
+{
+    QFETCH(QByteArray, parts);
+    QFETCH(double, luminance);
+    QFETCH(QByteArray, tolerances);
+    QFETCH(int, status);
+    QStringList arguments{"--check", write("wall.json", wallText(parts, luminance))};
+    if (!tolerances.isEmpty()) {
+        arguments << "--tolerances" << write("tolerances.json", tolerances);
+    }
+    const Result result = run(arguments);
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, status);
+    const QByteArray first = status == 0 ? "pass: " : status == 3 ? "fail: " : "not known: ";
+    QVERIFY2(result.output.startsWith(first), result.output.constData());
+    QVERIFY(result.output.count('\n') >= 2);
+    // The report has the same verdict, and leaves the exit status alone.
+    const Result reported = run(QStringList{"--report", "json"} + arguments.mid(1));
+    QCOMPARE(reported.exitCode, 0);
+    const QJsonObject verdict = QJsonDocument::fromJson(reported.output).object().value("verdict").toObject();
+    QCOMPARE(verdict.value("status").toString().toLatin1() + ": ", first);
+    QStringList lines{verdict.value("status").toString() + ": " + verdict.value("text").toString()};
+    for (const QJsonValue &line : verdict.value("lines").toArray()) {
+        lines << line.toObject().value("status").toString() + ": " + line.toObject().value("text").toString();
+    }
+    QCOMPARE(QString::fromUtf8(result.output), lines.join('\n') + '\n');
+}
+
+void ProgramReportsTest::checkPrintsTheGroundsOrTheReport()
+{
+    const QString file = write("wall.json", wallText(R"("original": "Wall", "target": "Wanted")", 5000.0));
+    const Result grounds = run({"--check", file});
+    QVERIFY(grounds.output.contains("5000.0 cd/m\xC2\xB2"));
+    QVERIFY(grounds.output.contains("1000.0 cd/m\xC2\xB2"));
+    const Result report = run({"--check", "--report", "json", file});
+    QCOMPARE(report.exitCode, 3);
+    QVERIFY(QJsonDocument::fromJson(report.output).isObject());
+}
+
+void ProgramReportsTest::refusesTolerances()
+{
+    const QString file = write("t.json", R"({"version": 1, "whiteUV": 0.001})");
+    for (const QStringList &asked : {QStringList{"--check"}, QStringList{"--report", "json"}, QStringList()}) {
+        const Result result = run(asked + QStringList{"--tolerances", file, QStringLiteral(SAMPLE_FILE)});
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(result.output, QByteArray());
+        QCOMPARE(result.error, "gamutviewer: " + file.toUtf8() + ": whiteUV: unknown key\n");
+    }
+    QCOMPARE(run({"--check", "--tolerances", "missing.json", SAMPLE_FILE}).exitCode, 2);
+}
+
+void ProgramReportsTest::checkAndReportNeedAFile()
+{
+    const auto refusal = [this](const QStringList &asked) {
+        const Result result = run(asked);
+        return result.exitCode == 2 && result.output.isEmpty() ? result.error : QByteArray("accepted");
+    };
+    const QByteArray noCheck("gamutviewer: No file to check: --check requires one.\n");
+    QCOMPARE(refusal({"--check"}), noCheck);
+    QCOMPARE(refusal({"--check", "--report", "json"}), noCheck);
+    QCOMPARE(refusal({"--report", "json"}), QByteArray("gamutviewer: No file to report on: --report requires one.\n"));
+    QVERIFY(refusal({"--report", "json", "-have.icc"}).contains("'have.icc'"));
+}
+
+void ProgramReportsTest::reportHasTheWarnings()
+{
+    const QString list = write("meter.csv",
+        "name,Y (cd/m2),x,y\nred,200,0.64,0.33\nred,210,0.64,0.33\ngreen,600,0.3,0.6\nblue,70,0.15,0.06\n");
+    const Result result = run({"--report", "json", list});
+    QCOMPARE(result.exitCode, 5);
+    const QJsonArray warnings = QJsonDocument::fromJson(result.output).object().value("warnings").toArray();
+    QVERIFY(!warnings.isEmpty());
+    QByteArray lines;
+    for (const QJsonValue &warning : warnings) {
+        lines += "gamutviewer: " + warning.toString().toUtf8() + '\n';
+    }
+    QCOMPARE(lines, result.error);
+    QVERIFY(warnings.first().toString().startsWith(list));
+}
+
+void ProgramReportsTest::checkThatCannotRenderFails()
+{
+    QCOMPARE(run({"--check", "--render", "no/such/folder.png", SAMPLE_FILE}).exitCode, 1);
+}
+
+void ProgramReportsTest::reportCannotBeWritten()
+{
+#ifdef Q_OS_LINUX
+    const Result result = run({"-c", "exec \"$0\" --report json \"$1\" >/dev/full", GAMUTVIEWER_PROGRAM, SAMPLE_FILE},
+        bare(), {}, QStringLiteral("/bin/sh"));
+    QCOMPARE(result.error, QByteArray("gamutviewer: the report cannot be written to standard output\n"));
+    QCOMPARE(result.exitCode, 1);
+#endif
+}
+
+QTEST_MAIN(ProgramReportsTest)
+#include "programreportstest.moc"
