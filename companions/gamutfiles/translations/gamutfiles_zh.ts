@@ -33,7 +33,7 @@
     <name>gamutfiles::Corrections</name>
     <message>
         <source>line %1</source>
-        <translation type="unfinished">第 %1 行</translation>
+        <translation>第 %1 行</translation>
     </message>
     <message>
         <source>%1, column %2</source>
@@ -141,15 +141,15 @@
     <name>gamutfiles::CubePair</name>
     <message>
         <source>red</source>
-        <translation type="unfinished">红</translation>
+        <translation>红</translation>
     </message>
     <message>
         <source>green</source>
-        <translation type="unfinished">绿</translation>
+        <translation>绿</translation>
     </message>
     <message>
         <source>blue</source>
-        <translation type="unfinished">蓝</translation>
+        <translation>蓝</translation>
     </message>
     <message>
         <source>is too large for one of a pair of tables (more than %1 KiB)</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished">第 %1 行</translation>
+        <translation>第 %1 行</translation>
     </message>
     <message>
         <source>not three numbers, nor a keyword with its numbers: %1</source>
@@ -1158,7 +1158,7 @@
     </message>
     <message>
         <source>names no cabinets: a wall needs a column with the cabinet, or one with the row and one with the column</source>
-        <translation>没有指明箱体：屏墙需要一列箱体，或一列行号和一列列号</translation>
+        <translation>没有指明箱体：墙需要一列箱体，或一列行号和一列列号</translation>
     </message>
     <message>
         <source>no cabinet has a name, and red, green and blue once each</source>
