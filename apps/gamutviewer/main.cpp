@@ -3,6 +3,7 @@
 #include "display/messages.h"
 #include "display/report.h"
 #include "display/samples.h"
+#include "display/textreport.h"
 #include "drawing/picture.h"
 #include "editing/openedfiles.h"
 #include "editing/targetsession.h"
@@ -10,8 +11,11 @@
 #include "program/interfacetranslations.h"
 #include "program/platform.h"
 #include "program/streaminput.h"
+#include "program/wallcommand.h"
 #include "window/followmenu.h"
 #include "window/viewerwindow.h"
+
+#include <gamutfiles/filebytes.h>
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -30,18 +34,6 @@ int print(const QByteArray &text)
     const bool written = std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout) == std::size_t(text.size())
         && std::fflush(stdout) == 0;
     return written ? Done : Failed;
-}
-
-QByteArray verdictText(const Assessment &assessment)
-{
-    const auto line = [](Judgement judgement, const QString &text) {
-        return QStringLiteral("%1: %2\n").arg(judgementName(judgement), text);
-    };
-    QString text = line(assessment.judgement(), assessment.headline());
-    for (const AssessmentLine &ground : assessment.lines) {
-        text += line(ground.judgement, ground.text);
-    }
-    return text.toUtf8();
 }
 
 ExitStatus statusOf(Judgement judgement)
@@ -67,6 +59,71 @@ ReportNotes notesOf(const OpenedFiles &opened)
     return notes;
 }
 
+ExitStatus writeCorrections(const DisplayDescription &description, const CommandLine &commandLine)
+{
+    const QString fileName = commandLine.correctionsFile();
+    const auto made = corrections(description, commandLine.measurementOptions().cabinet, fileName);
+    if (!made) {
+        printError(QStringLiteral("%1: %2").arg(fileName, made.error()));
+        return WrongInput;
+    }
+    for (const CorrectionsOutput &file : made->files) {
+        const QString error = gamutfiles::writeBytes(file.bytes, file.fileName);
+        if (!error.isEmpty()) {
+            printError(QApplication::translate("main", "%1: cannot be written: %2").arg(file.fileName, error));
+            return Failed;
+        }
+    }
+    for (const QString &note : made->notes) {
+        printError(QStringLiteral("%1: %2").arg(fileName, note));
+    }
+    return Done;
+}
+
+/*!
+ * \brief The file with the wall: that of --wall, or else, where no window asks what a list of several cabinets means,
+ * the list among the files. A cabinet that was chosen is one display, unless corrections are wanted.
+ */
+QString wallFile(const CommandLine &commandLine)
+{
+    const bool isOneDisplay
+        = !commandLine.measurementOptions().cabinet.isEmpty() && commandLine.correctionsFile().isEmpty();
+    return commandLine.wallFile().isEmpty() && commandLine.action() == CommandLine::Action::Write && !isOneDisplay
+        ? wallAmong(commandLine.files(), commandLine.measurementOptions())
+        : commandLine.wallFile();
+}
+
+//! \a opened with the wall in \a wall and the target that the command line asks for.
+Outcome<OpenedFiles> withRequests(const OpenedFiles &opened, const QString &wall, const CommandLine &commandLine)
+{
+    OpenedFiles result = opened;
+    if (!wall.isEmpty()) {
+        const auto withIt = withWall(result, wall, commandLine.measurementOptions());
+        if (!withIt) {
+            return withIt;
+        }
+        result = *withIt;
+    }
+    if (!commandLine.targetName().isEmpty()) {
+        const auto described = withChosenTarget(result.description, commandLine.targetName());
+        if (!described) {
+            return Outcome<OpenedFiles>::failure(QStringLiteral("--target: ") + described.error());
+        }
+        result.description = *described;
+    }
+    if (commandLine.wantsFit()) {
+        const auto fitted = withTargetFittedToWall(result.description);
+        if (!fitted) {
+            return Outcome<OpenedFiles>::failure(QStringLiteral("--fit: ") + fitted.error());
+        }
+        result.description = fitted->description;
+        for (const QString &note : fitted->notes) {
+            result.warnings.append({QStringLiteral("--fit"), {note, {}, 0, 0}});
+        }
+    }
+    return result;
+}
+
 int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine)
 {
     const DisplayDescription &description = opened.description;
@@ -83,7 +140,17 @@ int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances
             printError(QApplication::translate("main", "%1: has no room for the key").arg(picture));
         }
     }
-    if (commandLine.wantsReport() && print(reportText(description, tolerances, notesOf(opened))) != Done) {
+    if (!commandLine.correctionsFile().isEmpty()) {
+        const ExitStatus status = writeCorrections(description, commandLine);
+        if (status != Done) {
+            return status;
+        }
+    }
+    const auto reportOf = [&] {
+        return commandLine.wantsTextReport() ? textReport(description, tolerances)
+                                             : reportText(description, tolerances, notesOf(opened));
+    };
+    if (commandLine.wantsReport() && print(reportOf()) != Done) {
         printError(QApplication::translate("main", "the report cannot be written to standard output"));
         return Failed;
     }
@@ -160,10 +227,18 @@ int main(int argc, char *argv[])
         break;
     }
 
-    const QStringList files = commandLine.files();
+    const QString wall = wallFile(commandLine);
     const bool follows = !commandLine.followedFile().isEmpty();
-    const Outcome<OpenedFiles> opened
-        = openFiles(files.isEmpty() && !follows ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
+    const bool isSample = commandLine.files().isEmpty() && wall.isEmpty() && !follows;
+    QStringList files = commandLine.files();
+    if (commandLine.wallFile().isEmpty()) {
+        files.removeAll(wall);
+    }
+    Outcome<OpenedFiles> opened
+        = openFiles(isSample ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
+    if (opened) {
+        opened = withRequests(*opened, wall, commandLine);
+    }
     if (!opened) {
         printError(opened.error());
         return WrongInput;
@@ -177,7 +252,8 @@ int main(int argc, char *argv[])
         }
         tolerances = *read;
     }
-    if (commandLine.hasMeasurementOptions() && !opened->hasLists && !follows) {
+    if (commandLine.hasMeasurementOptions() && !opened->hasLists && opened->description.wall.cabinets.empty()
+        && !follows) {
         printError(QApplication::translate(
             "main", "--red, --green, --blue, --white, --cabinet, --unit and --decimal require a measurement list"));
         return WrongInput;

@@ -45,7 +45,7 @@ void DescriptionReader::readDescription(const Node &node)
                 {QStringLiteral("declared"), false}, {QStringLiteral("measured"), false},
                 {QStringLiteral("target"), false}, {QStringLiteral("standards"), false},
                 {QStringLiteral("colorTemperaturePoints"), false}, {QStringLiteral("measurePoints"), false},
-                {QStringLiteral("cmyPoints"), false}})) {
+                {QStringLiteral("cmyPoints"), false}, {QStringLiteral("wall"), false}})) {
         return;
     }
     checkVersion(member(node, QStringLiteral("version")), descriptionVersion);
@@ -70,6 +70,7 @@ void DescriptionReader::readDescription(const Node &node)
     m_description.colorTemperaturePoints = readPoints(member(node, QStringLiteral("colorTemperaturePoints")));
     m_description.measurePoints = readPoints(member(node, QStringLiteral("measurePoints")));
     m_description.cmyPoints = readPoints(member(node, QStringLiteral("cmyPoints")));
+    m_description.wall = readWall(member(node, QStringLiteral("wall")));
 }
 
 //! The names of the gamuts that a display shows or is meant to show.
@@ -142,14 +143,14 @@ LuminanceUnit DescriptionReader::readUnit(const Node &node)
     return LuminanceUnit::NotKnown;
 }
 
-Model::Target DescriptionReader::readTarget(const Node &node, PrimariesOf kind)
+Model::Target DescriptionReader::readTarget(const Node &node, PrimariesOf kind, double rounding)
 {
     if (!checkObject(node, {{QStringLiteral("Y"), true}, {QStringLiteral("x"), true}, {QStringLiteral("y"), true}})) {
         return {};
     }
     const Node luminance = member(node, QStringLiteral("Y"));
     const double value = readNumber(luminance);
-    const QPointF xy = readChromaticity(node, kind);
+    const QPointF xy = readChromaticity(node, kind, rounding);
     if (xy.y() > 0.0 && value < 0.0) {
         fail(luminance, tr("luminance must not be negative"));
     }
@@ -212,7 +213,7 @@ QStringList DescriptionReader::readStandards(const Node &node)
     return standards;
 }
 
-QPointF DescriptionReader::readChromaticity(const Node &node, PrimariesOf kind)
+QPointF DescriptionReader::readChromaticity(const Node &node, PrimariesOf kind, double rounding)
 {
     const Node x = member(node, QStringLiteral("x"));
     const Node y = member(node, QStringLiteral("y"));
@@ -229,7 +230,7 @@ QPointF DescriptionReader::readChromaticity(const Node &node, PrimariesOf kind)
     if (xy.y() <= 0.0) {
         fail(y, tr("y must be greater than 0"));
     }
-    if (xy.x() + xy.y() > 1.0) {
+    if (xy.x() + xy.y() > 1.0 + rounding) {
         fail(node, tr("x + y must not exceed 1"));
     }
     return xy;

@@ -32,12 +32,18 @@ private:
     DisplayGamut readGamut(const Node &node, PrimariesOf kind);
     void warnOfGamut(const Node &node, const Model::Targets &gamut, PrimariesOf kind);
     LuminanceUnit readUnit(const Node &node);
-    Model::Target readTarget(const Node &node, PrimariesOf kind);
+    Model::Target readTarget(const Node &node, PrimariesOf kind, double rounding = 0.0);
     QVector<NamedPoint> readPoints(const Node &node);
     QString readGamutReference(const Node &node);
     QString readDisplayReference(const Node &node);
     QStringList readStandards(const Node &node);
-    QPointF readChromaticity(const Node &node, PrimariesOf kind = PrimariesOf::Display);
+    //! \a rounding is how far the sum of x and y of a display's colour may exceed 1.
+    QPointF readChromaticity(const Node &node, PrimariesOf kind = PrimariesOf::Display, double rounding = 0.0);
+
+    DisplayWall readWall(const Node &node);
+    WallCabinet readCabinet(const Node &node);
+    Model::Target readMeasured(const Node &node);
+    Model::Target readBlack(const Node &node);
 
     DisplayDescription m_description;
     QHash<QString, int> m_places; //!< DisplayDescription::gamutPlaces() of what has been read

@@ -34,6 +34,43 @@ QJsonObject gamutObject(const DisplayGamut &gamut)
     return object;
 }
 
+QJsonObject cabinetObject(const WallCabinet &cabinet)
+{
+    QJsonObject object{{QStringLiteral("red"), colorObject(cabinet.red)},
+        {QStringLiteral("green"), colorObject(cabinet.green)}, {QStringLiteral("blue"), colorObject(cabinet.blue)}};
+    insertText(object, QStringLiteral("name"), cabinet.name);
+    if (cabinet.row && cabinet.column) {
+        object.insert(QStringLiteral("row"), *cabinet.row);
+        object.insert(QStringLiteral("column"), *cabinet.column);
+    }
+    if (cabinet.white) {
+        object.insert(QStringLiteral("white"), colorObject(*cabinet.white));
+    }
+    if (const auto &black = cabinet.black) {
+        const bool hasNoLight = black->Y == 0.0 && black->x == 0.0 && black->y == 0.0;
+        object.insert(
+            QStringLiteral("black"), hasNoLight ? QJsonObject{{QStringLiteral("Y"), black->Y}} : colorObject(*black));
+    }
+    if (cabinet.isLeftOut) {
+        object.insert(QStringLiteral("leftOut"), true);
+    }
+    return object;
+}
+
+void insertWall(QJsonObject &object, const DisplayWall &wall)
+{
+    if (wall.cabinets.empty()) {
+        return;
+    }
+    QJsonArray cabinets;
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        cabinets.append(cabinetObject(cabinet));
+    }
+    QJsonObject entry{{QStringLiteral("cabinets"), cabinets}};
+    insertText(entry, luminanceUnitKey(), luminanceUnitName(wall.unit));
+    object.insert(QStringLiteral("wall"), entry);
+}
+
 void insertPoints(QJsonObject &object, const QString &key, const QVector<NamedPoint> &points)
 {
     QJsonArray array;
@@ -68,6 +105,7 @@ QByteArray descriptionText(const DisplayDescription &description)
     insertPoints(object, QStringLiteral("colorTemperaturePoints"), description.colorTemperaturePoints);
     insertPoints(object, QStringLiteral("measurePoints"), description.measurePoints);
     insertPoints(object, QStringLiteral("cmyPoints"), description.cmyPoints);
+    insertWall(object, description.wall);
     return QJsonDocument(object).toJson();
 }
 

@@ -25,6 +25,7 @@ struct WallCabinet {
     Model::Target blue; //!< the blue primary at full drive
     std::optional<Model::Target> white; //!< all three at full drive; nothing where it was not measured
     std::optional<Model::Target> black; //!< the light at drive 0; nothing where it was not measured
+    bool isLeftOut = false; //!< whether the wall is judged without it, by the wish of its owner
 
     /*! \brief How people call it: its name, row and column as "3/4", or both, "A 3/4". */
     GAMUTFILES_EXPORT QString label() const;

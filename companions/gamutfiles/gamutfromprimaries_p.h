@@ -18,6 +18,9 @@ struct Primaries {
     QPointF white;
 };
 
+/*! \brief How far a chromaticity may lie beyond a limit because a file has few digits of it. */
+constexpr double chromaticityRounding = 0.0005;
+
 /*! \brief Which chromaticities primaries may have. */
 enum class PrimariesOf {
     Display, //!< those of light: x >= 0, y > 0, x + y <= 1
@@ -41,7 +44,7 @@ bool isPrimary(const QPointF &xy, PrimariesOf kind);
  * outside of it.
  */
 Outcome<Model::ColorGamut> gamutFromPrimaries(const QString &name, Primaries primaries, double whiteLuminance,
-    PrimariesOf kind = PrimariesOf::Display, double rounding = 0.0005);
+    PrimariesOf kind = PrimariesOf::Display, double rounding = chromaticityRounding);
 
 /*! \brief A warning for each primary of \a gamut that is so far outside of the spectral locus that no light has it. */
 QVector<Problem> warningsOfTheLocus(const Model::Targets &gamut);

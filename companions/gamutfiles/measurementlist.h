@@ -120,6 +120,19 @@ struct CabinetMeasurements {
 GAMUTFILES_EXPORT Outcome<MeasurementList> readMeasurementList(
     const QByteArray &bytes, const MeasurementOptions &options = MeasurementOptions());
 
+/*!
+ * \brief The cabinets of \a list as a wall, in the order of the file and in the unit of the list.
+ *
+ * A cabinet needs red, green and blue once each, with chromaticities. White and black are taken where they are there; a
+ * black whose luminance is 0 has no light. Warnings name the cabinets that are left out, and why.
+ *
+ * Where two cabinets of different names have the same row and column, these count inside of something else, such as
+ * modules in a cabinet. Rows and columns are then parts of the names, and no cabinet has a place.
+ *
+ * A failure for a list that names no cabinets, or has none with red, green and blue.
+ */
+GAMUTFILES_EXPORT Outcome<DisplayWall> wallFromMeasurements(const MeasurementList &list);
+
 } // namespace gamutfiles
 
 #endif // GAMUTFILES_MEASUREMENTLIST_H

@@ -139,6 +139,9 @@ bool MeasurementReader::checkGamut()
         warnOfParts(m_list, QString());
         return m_failure.text.isEmpty();
     }
+    if (m_options.isWall) {
+        return true;
+    }
     warnOfCabinets(cabinets);
     const int before = int(m_warnings.size());
     for (int i = 0; i < cabinets.size() && m_warnings.size() < before + mostWarnings; ++i) {

@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+#include <ctime>
+#include <limits>
 #include <random>
 
 using namespace gamutfiles;
@@ -17,6 +19,7 @@ private Q_SLOTS:
     void oddTextSurvives();
     void anyDescriptionSurvives();
     void emptyPartsAreLeftOut();
+    void largestWallFits();
     void writesAFile();
     void cannotWrite();
 };
@@ -43,6 +46,22 @@ bool same(const QVector<NamedPoint> &a, const QVector<NamedPoint> &b)
     });
 }
 
+bool same(const std::optional<Model::Target> &a, const std::optional<Model::Target> &b)
+{
+    return a.has_value() == b.has_value() && (!a || same(*a, *b));
+}
+
+bool same(const DisplayWall &a, const DisplayWall &b)
+{
+    return a.unit == b.unit
+        && std::equal(a.cabinets.begin(), a.cabinets.end(), b.cabinets.begin(), b.cabinets.end(),
+            [](const WallCabinet &p, const WallCabinet &q) {
+                return p.name == q.name && p.row == q.row && p.column == q.column && same(p.red, q.red)
+                    && same(p.green, q.green) && same(p.blue, q.blue) && same(p.white, q.white)
+                    && same(p.black, q.black) && p.isLeftOut == q.isLeftOut;
+            });
+}
+
 bool same(const DisplayDescription &a, const DisplayDescription &b)
 {
     return a.name == b.name && a.notes == b.notes && a.original == b.original && a.declared == b.declared
@@ -50,7 +69,7 @@ bool same(const DisplayDescription &a, const DisplayDescription &b)
         && std::equal(a.gamuts.begin(), a.gamuts.end(), b.gamuts.begin(), b.gamuts.end(),
             [](const DisplayGamut &p, const DisplayGamut &q) { return same(p, q) && p.unit == q.unit; })
         && same(a.colorTemperaturePoints, b.colorTemperaturePoints) && same(a.measurePoints, b.measurePoints)
-        && same(a.cmyPoints, b.cmyPoints);
+        && same(a.cmyPoints, b.cmyPoints) && same(a.wall, b.wall);
 }
 
 void verifySurvives(const DisplayDescription &description)
@@ -82,6 +101,24 @@ DisplayDescription everything()
     description.colorTemperaturePoints = {{QStringLiteral("warm"), {0.44, 0.4}}};
     description.measurePoints = {{QString(), {0.1 + 0.2, 0.1}}, {QStringLiteral("x"), {0.0, 1.0}}};
     description.cmyPoints = {{QStringLiteral("cyan"), {0.2, 0.33}}};
+    description.wall.unit = LuminanceUnit::CandelaPerSquareMetre;
+    WallCabinet cabinet;
+    cabinet.red = target(0.1 + 0.2, 0.7, 0.29);
+    cabinet.green = target(1000.0 / 3, 0.17, 0.7);
+    cabinet.blue = target(1e-300, 0.15, 0.1 / 3);
+    cabinet.row = -1;
+    cabinet.column = 2;
+    description.wall.cabinets.push_back(cabinet);
+    cabinet.name = QStringLiteral("A");
+    cabinet.column = std::numeric_limits<int>::max();
+    cabinet.white = target(1000.0, 0.3127, 0.329);
+    cabinet.black = target(0.01, 0.3, 0.3);
+    description.wall.cabinets.push_back(cabinet);
+    cabinet.row.reset();
+    cabinet.column.reset();
+    cabinet.black = Model::Target(); // no light
+    cabinet.isLeftOut = true;
+    description.wall.cabinets.push_back(cabinet);
     return description;
 }
 
@@ -218,11 +255,52 @@ void DescriptionWriterTest::emptyPartsAreLeftOut()
     description.target = QStringLiteral("Rec.709");
     const QByteArray text = descriptionText(description);
     for (const char *key : {"name", "notes", "declared", "measured", "standards", "colorTemperaturePoints",
-             "measurePoints", "cmyPoints"}) {
+             "measurePoints", "cmyPoints", "wall"}) {
         QVERIFY2(!text.contains('"' + QByteArray(key) + '"'), key);
     }
     QVERIFY(text.endsWith("}\n"));
     verifySurvives(description);
+}
+
+// 10 000 cabinets, of which everything is known with all digits, and names of 40 characters.
+void DescriptionWriterTest::largestWallFits()
+{
+    const auto wallOf = [](int count) {
+        DisplayDescription description;
+        for (int i = 0; i < count; ++i) {
+            const double offset = (i + 1) / 3e6;
+            const Model::Target color = Model::Target::fromYxy(1234.0 + offset, 0.3 + offset, 0.3 - offset);
+            WallCabinet cabinet;
+            cabinet.name = QString::number(i).rightJustified(40, QLatin1Char('0'));
+            cabinet.row = 1000000000 + i / 100;
+            cabinet.column = 1000000000 + i % 100;
+            cabinet.red = cabinet.green = cabinet.blue = color;
+            cabinet.white = cabinet.black = color;
+            description.wall.cabinets.push_back(cabinet);
+        }
+        return description;
+    };
+    const auto survives = [](const DisplayDescription &description) {
+        const QByteArray text = descriptionText(description);
+        const auto read = readDescription(text);
+        return text.size() <= maximumDescriptionBytes && read && same(*read, description);
+    };
+    const auto leastTime = [&survives](const DisplayDescription &description) {
+        qint64 least = std::numeric_limits<qint64>::max();
+        for (int run = 0; run < 3; ++run) {
+            const std::clock_t start = std::clock(); // which other programs do not move
+            if (!survives(description)) {
+                return qint64(-1);
+            }
+            least = std::min(least, qint64(std::clock() - start));
+        }
+        return least;
+    };
+    const qint64 small = leastTime(wallOf(1000));
+    const qint64 large = leastTime(wallOf(10000));
+    QVERIFY(small > 0 && large > 0);
+    // 10 times the cabinets take about 10 times as long; with each compared with all others it would be 100.
+    QVERIFY2(large < 50 * small, qPrintable(QStringLiteral("%1 and %2 ticks").arg(small).arg(large)));
 }
 
 void DescriptionWriterTest::writesAFile()

@@ -30,6 +30,9 @@ private Q_SLOTS:
     void everyNumberMustBeOne();
     void refusedFiles();
     void largestFile();
+    void readsTheWall();
+    void refusedWalls_data();
+    void refusedWalls();
     void messageIsOneLine();
     void messageIsReadFromLeftToRight();
     void warnings_data();
@@ -445,6 +448,108 @@ void DisplayDescriptionTest::largestFile()
     const auto read = readDescriptionFile(file.fileName());
     QCOMPARE(read.problem().message(QStringLiteral("f")), QStringLiteral("f: is larger than 16384 KiB"));
     QVERIFY(!readDescription(largest + ' '));
+}
+
+namespace {
+
+const QByteArray colors = R"("red": {"Y": 200, "x": 0.7, "y": 0.3}, "green": {"Y": 700, "x": 0.17, "y": 0.72},
+    "blue": {"Y": 100, "x": 0.13, "y": 0.06})";
+
+QByteArray described(const QByteArray &wall)
+{
+    return R"({"version": 1, "gamuts": [], "wall": )" + wall + '}';
+}
+
+QByteArray withCabinets(const QList<QByteArray> &cabinets)
+{
+    return described("{\"cabinets\": [{" + cabinets.join("}, {") + "}]}");
+}
+
+} // namespace
+
+void DisplayDescriptionTest::readsTheWall()
+{
+    const auto read = readDescription(described(R"({"luminanceUnit": "cd/m2", "cabinets": [{"name": "A1", )" + colors
+        + R"(}, {"row": 2, "column": -3, "white": {"Y": 1000, "x": 0.31, "y": 0.33}, "black": {"Y": 0.1, "x": 0.3,
+            "y": 0.2}, )"
+        + colors + R"(}, {"name": "A1", "row": 0, "column": 1, "black": {"Y": 0}, )" + colors + "}]}"));
+    QVERIFY2(read, qPrintable(read.error()));
+    const DisplayWall &wall = read->wall;
+    QVERIFY(wall.unit == LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(wall.cabinets.size(), std::size_t(3));
+    QCOMPARE(wall.cabinets[0].label(), QStringLiteral("A1"));
+    QVERIFY(!wall.cabinets[0].row && !wall.cabinets[0].column);
+    QVERIFY(!wall.cabinets[0].white && !wall.cabinets[0].black);
+    QVERIFY(isExactly(wall.cabinets[0].red, 200.0, 0.7, 0.3));
+    QVERIFY(isExactly(wall.cabinets[0].green, 700.0, 0.17, 0.72));
+    QVERIFY(isExactly(wall.cabinets[0].blue, 100.0, 0.13, 0.06));
+    QCOMPARE(wall.cabinets[1].label(), QStringLiteral("2/-3"));
+    QVERIFY(isExactly(*wall.cabinets[1].white, 1000.0, 0.31, 0.33));
+    QVERIFY(isExactly(*wall.cabinets[1].black, 0.1, 0.3, 0.2));
+    QCOMPARE(wall.cabinets[2].label(), QStringLiteral("A1 0/1"));
+    QVERIFY(isExactly(*wall.cabinets[2].black, 0.0, 0.0, 0.0));
+    QVERIFY(readDescription(described(R"({"cabinets": []})")));
+    // What the assessment of the wall names, and what the rounding of u', v' takes.
+    QCOMPARE(messageFor(withCabinets(
+                 {"\"name\": \"a\"," + QByteArray(colors).replace("0.17, \"y\": 0.72", "0.7, \"y\": 0.3")})),
+        QStringLiteral("taken"));
+    QCOMPARE(messageFor(withCabinets({"\"name\": \"a\"," + QByteArray(colors).replace("0.7,", "0.7005,")})),
+        QStringLiteral("taken"));
+}
+
+void DisplayDescriptionTest::refusedWalls_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *name, const QByteArray &text, const char *message) {
+        QTest::newRow(name) << text << QString::fromUtf8(message);
+    };
+    const QByteArray a = "\"name\": \"a\", " + colors;
+    row("array", described("[]"), "f: wall: expected an object, found an array");
+    row("no cabinets", described("{}"), "f: wall.cabinets: missing");
+    row("unknown key", described("{\"cabinets\": [], \"rows\": 2}"), "f: wall.rows: unknown key");
+    row("leaving out by a number", withCabinets({a + ", \"leftOut\": 1"}),
+        "f: wall.cabinets[0].leftOut: expected a boolean, found a number");
+    row("odd unit", described("{\"cabinets\": [], \"luminanceUnit\": \"fL\"}"),
+        "f: wall.luminanceUnit: expected \"cd/m2\" or \"relative\"");
+    row("number for a cabinet", described("{\"cabinets\": [1]}"),
+        "f: wall.cabinets[0]: expected an object, found a number");
+    row("unknown key of a cabinet", withCabinets({a + ", \"grey\": 1"}), "f: wall.cabinets[0].grey: unknown key");
+    row("no name", withCabinets({colors}), "f: wall.cabinets[0]: a cabinet needs a name, or row and column");
+    row("blank name", withCabinets({"\"name\": \" \", " + colors}),
+        "f: wall.cabinets[0]: a cabinet needs a name, or row and column");
+    row("no blue", withCabinets({QByteArray(a).replace("\"blue\"", "\"white\"")}), "f: wall.cabinets[0].blue: missing");
+    row("row alone", withCabinets({a + ", \"row\": 1"}),
+        "f: wall.cabinets[0].column: missing: row and column are only known together");
+    row("column alone", withCabinets({a + ", \"column\": 1"}),
+        "f: wall.cabinets[0].row: missing: row and column are only known together");
+    row("half a row", withCabinets({a + ", \"row\": 1.5, \"column\": 1"}),
+        "f: wall.cabinets[0].row: expected a whole number");
+    row("column beyond", withCabinets({a + ", \"row\": 1, \"column\": 1e10"}),
+        "f: wall.cabinets[0].column: expected a whole number");
+    row("same name", withCabinets({a, a}), "f: wall.cabinets[1]: there is already a cabinet \"a\"");
+    row("same name by its place", withCabinets({"\"row\": 3, \"column\": 4, " + a, "\"name\": \"a 3/4\", " + colors}),
+        "f: wall.cabinets[1]: there is already a cabinet \"a 3/4\"");
+    row("same place", withCabinets({"\"row\": 3, \"column\": 4, " + a, "\"row\": 3, \"column\": 4, " + colors}),
+        "f: wall.cabinets[1]: there is already a cabinet in row 3, column 4");
+    row("negative luminance", withCabinets({QByteArray(a).replace("700", "-1")}),
+        "f: wall.cabinets[0].green.Y: luminance must not be negative");
+    row("no chromaticity", withCabinets({QByteArray(a).replace("0.72", "0")}),
+        "f: wall.cabinets[0].green.y: y must be greater than 0");
+    row("beyond the rounding", withCabinets({QByteArray(a).replace("0.7,", "0.7006,")}),
+        "f: wall.cabinets[0].red: x + y must not exceed 1");
+    row("black without chromaticity", withCabinets({a + ", \"black\": {\"Y\": 0.1}"}),
+        "f: wall.cabinets[0].black.x: missing");
+    row("black without anything", withCabinets({a + ", \"black\": {}"}), "f: wall.cabinets[0].black.Y: missing");
+    row("odd black", withCabinets({a + ", \"black\": {\"Y\": 0, \"z\": 1}"}),
+        "f: wall.cabinets[0].black.z: unknown key");
+    row("black as a number", withCabinets({a + ", \"black\": 0"}),
+        "f: wall.cabinets[0].black: expected an object, found a number");
+}
+
+void DisplayDescriptionTest::refusedWalls()
+{
+    refused();
 }
 
 void DisplayDescriptionTest::messageIsOneLine()

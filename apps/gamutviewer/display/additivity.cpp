@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/additivity.h"
 
+#include "display/assessmentparts.h"
 #include "display/chromaticity.h"
 #include "display/knowndisplay.h"
 
@@ -11,7 +12,7 @@
 
 namespace gamutviewer {
 
-Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Targets &display)
+Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Target &measured)
 {
     Additivity result;
     const auto sum = drive.lightAt({1.0, 1.0, 1.0});
@@ -20,12 +21,11 @@ Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Targets &
     }
     result.sum = *sum;
     constexpr double rounding = 1e-9;
-    result.differsInLuminance = !(std::fabs(display.white.Y - sum->Y) <= sum->Y * (additiveLuminance + rounding));
-    const auto difference = Model::uvDifference(display.white, *sum);
+    result.differsInLuminance = !(std::fabs(measured.Y - sum->Y) <= sum->Y * (additiveLuminance + rounding));
+    const auto difference = Model::uvDifference(measured, *sum);
     result.isAdditive = !result.differsInLuminance && difference && *difference <= additiveUv + rounding;
-    const auto white = drive.driveOf(display.white);
-    result.isUpperBound = result.isAdditive
-        || (white && std::max({white->red, white->green, white->blue}) <= 1.0 + additiveLuminance + rounding);
+    const auto white = drive.driveOf(measured);
+    result.isUpperBound = result.isAdditive || (white && highest(*white) <= 1.0 + additiveLuminance + rounding);
     return result;
 }
 
@@ -38,7 +38,8 @@ std::optional<double> reachableLuminance(const DisplayDescription &description, 
         }
         const Model::Targets &targets = display.gamut.getTargets();
         const Model::DisplayDrive drive(targets);
-        const bool isAdditive = drive.fault() == Model::DisplayFault::None && additivityOf(drive, targets).isAdditive;
+        const bool isAdditive
+            = drive.fault() == Model::DisplayFault::None && additivityOf(drive, targets.white).isAdditive;
         const auto largest = isAdditive ? drive.largestLuminance(pointOf(white)) : std::nullopt;
         if (!largest) {
             return std::nullopt;

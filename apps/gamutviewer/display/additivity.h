@@ -27,8 +27,8 @@ struct Additivity {
     bool differsInLuminance = false; //!< whether the luminance is what is not additive
 };
 
-/*! \brief Of \a drive, which has no fault, with the colours of \a display. */
-Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Targets &display);
+/*! \brief Of \a drive, which has no fault, with the white that was \a measured of the same display. */
+Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Target &measured);
 
 /*!
  * \brief The largest luminance, in cd/m², of a white with the chromaticity of \a white that the display is known to

@@ -4,6 +4,7 @@
 #include "display/assessmenttexts.h"
 #include "display/displayassessor.h"
 #include "display/toleranceassessor.h"
+#include "display/wallassessment.h"
 
 #include <algorithm>
 
@@ -26,6 +27,26 @@ Judgement worst(const QVector<AssessmentLine> &lines, bool ofTolerances)
         }
     }
     return found;
+}
+
+//! Adds to \a result what the cabinets of the wall show of the target, where both are known.
+void assessTheWall(const DisplayDescription &description, Assessment &result)
+{
+    const auto target = description.gamut(description.target);
+    if (description.wall.cabinets.empty() || !target) {
+        return;
+    }
+    const auto add = [&result](Judgement judgement, const QString &text) {
+        result.lines.append({AssessmentLine::Subject::Wall, judgement, text, std::nullopt, QString(), std::nullopt});
+    };
+    const WallAssessment wall = assessWall(description.wall, *target);
+    add(wall.judgement, AssessmentText::tr("%1.", "a sentence").arg(wall.headline));
+    for (const WallLine &line : wall.lines) {
+        if (line.judgement) {
+            add(*line.judgement, line.text);
+        }
+    }
+    result.wall = std::make_shared<const WallAssessment>(wall);
 }
 
 } // namespace
@@ -87,6 +108,7 @@ Assessment assess(const DisplayDescription &description, const std::optional<Tol
 {
     Assessment result;
     assessDisplays(description, result);
+    assessTheWall(description, result);
     if (tolerances) {
         assessTolerances(description, *tolerances, result);
     }

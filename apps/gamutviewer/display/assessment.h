@@ -10,6 +10,7 @@
 #include <QString>
 #include <QVector>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -18,6 +19,8 @@
  * \brief What can be said of a display and its target, and how sure it is. Panel, report and command line show this.
  */
 namespace gamutviewer {
+
+struct WallAssessment;
 
 /*! \brief A judgement, and whether there is enough to judge by. */
 enum class Judgement {
@@ -42,6 +45,7 @@ struct AssessmentLine {
         Display, //!< whether it is known what the display can show
         Gamut, //!< whether the display can show the chromaticities of the target
         Luminance, //!< whether it reaches the luminances of the target
+        Wall, //!< whether the cabinets of the wall show the target
         Tolerance //!< whether what was measured is within a tolerance
     };
 
@@ -68,6 +72,7 @@ struct DriveAssessment {
 struct Assessment {
     std::vector<DriveAssessment> displays; //!< what the target is held against: of knownDisplays()
     QVector<AssessmentLine> lines; //!< at least one
+    std::shared_ptr<const WallAssessment> wall; //!< of the wall and the target; null if there is no wall or no target
 
     /*! \brief Fail when a line fails, or else NotKnown when one is not known. */
     Judgement judgement() const;
@@ -75,7 +80,12 @@ struct Assessment {
     QString headline() const;
 };
 
-/*! \brief Judges \a description, and what was measured by \a tolerances where there are any. */
+/*!
+ * \brief Judges \a description, and what was measured by \a tolerances where there are any.
+ *
+ * What all cabinets of a wall show, the display shows. Where it has an original or a measured gamut as well, all of
+ * them have to show the target.
+ */
 Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt);
 
 } // namespace gamutviewer

@@ -2,6 +2,7 @@
 #include "display/displayassessor.h"
 
 #include "display/additivity.h"
+#include "display/assessmentparts.h"
 #include "display/assessmenttexts.h"
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
@@ -21,11 +22,6 @@ using ceiechart::targetAt;
 using Vertex = ceiechart::GamutVertex;
 
 constexpr Vertex primaries[] = {Vertex::Red, Vertex::Green, Vertex::Blue};
-
-double highest(const Model::Drive &drive)
-{
-    return std::max({drive.red, drive.green, drive.blue});
-}
 
 //! The gamut with the largest area in u′, v′ that could be the target instead; nothing without one.
 QString otherTarget(const DisplayDescription &description)
@@ -94,7 +90,7 @@ private:
                     "What the display is to show is not known: nobody has chosen a target. Choose one, or edit the "
                     "default."));
         }
-        if (m_result.displays.empty()) {
+        if (m_result.displays.empty() && m_description.wall.cabinets.empty()) {
             add(Subject::Display, Judgement::NotKnown,
                 AssessmentText::tr("What the display can show is not known: no gamut of the display is known, neither "
                                    "its original nor a measured one."));
@@ -134,7 +130,7 @@ private:
                 addOutside(primary, distance, other);
             }
         }
-        const auto distance = whiteDistance();
+        const auto distance = distanceFrom(displayTargets(), m_target->getTargets().white);
         constexpr double rounding = 1e-9;
         if (!distance) {
             add(Subject::Gamut, Judgement::NotKnown,
@@ -147,14 +143,6 @@ private:
             add(Subject::Gamut, Judgement::Pass,
                 AssessmentText::tr("All primaries and the white lie inside of the %1.").arg(name));
         }
-    }
-
-    //! Of the white from the triangle, in Δu′v′: it takes no luminances. Nothing without a chromaticity.
-    std::optional<double> whiteDistance() const
-    {
-        const Model::Target &white = m_target->getTargets().white;
-        const auto nearest = Model::nearestPoint(displayTargets(), pointOf(white), Model::Diagram::Cie1976);
-        return nearest ? Model::uvDifference(Model::Target::fromYxy(1.0, nearest->x, nearest->y), white) : std::nullopt;
     }
 
     void addOutside(Vertex vertex, double distance, const QString &other)
@@ -189,7 +177,7 @@ private:
             return;
         }
         const Model::Target &white = m_target->getTargets().white;
-        const Additivity additivity = additivityOf(displayDrive, displayTargets());
+        const Additivity additivity = additivityOf(displayDrive, displayTargets().white);
         const auto largest = displayDrive.largestLuminance(pointOf(white));
         m_current->luminancesCompare = luminancesCompare(m_target->unit, display.gamut.unit);
         if (additivity.isAdditive) {

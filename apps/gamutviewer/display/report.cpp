@@ -4,6 +4,8 @@
 #include "display/assessment.h"
 #include "display/chromaticity.h"
 #include "display/gamutfiles.h"
+#include "display/reportvalues.h"
+#include "display/wallreport.h"
 
 #include <ceiechart/diagram/whitepoint.h>
 #include <gamutmodel/dominantwavelength.h>
@@ -15,13 +17,6 @@
 namespace gamutviewer {
 
 namespace {
-
-constexpr Model::Diagram diagrams[] = {Model::Diagram::Cie1931, Model::Diagram::Cie1976};
-
-QString diagramName(Model::Diagram diagram)
-{
-    return diagram == Model::Diagram::Cie1931 ? QStringLiteral("xy") : QStringLiteral("uv");
-}
 
 QJsonValue unitValue(LuminanceUnit unit)
 {
@@ -39,17 +34,6 @@ QJsonObject colorObject(const Model::Target &target, const Model::Target &white)
     const auto hue = Model::dominantWavelength({target.x, target.y}, {white.x, white.y});
     object.insert(QStringLiteral("dominantWavelength"), hue ? QJsonValue(hue->wavelength) : QJsonValue::Null);
     object.insert(QStringLiteral("purity"), hue ? QJsonValue(hue->purity) : QJsonValue::Null);
-    return object;
-}
-
-//! One entry for each diagram.
-template <typename Value>
-QJsonObject perDiagram(Value value)
-{
-    QJsonObject object;
-    for (const Model::Diagram diagram : diagrams) {
-        object.insert(diagramName(diagram), value(diagram));
-    }
     return object;
 }
 
@@ -103,27 +87,6 @@ QJsonObject validityObject(const Model::Targets &target, const Model::Targets &o
     return {{QStringLiteral("valid"), validValue(assessment.judgement())}, {QStringLiteral("outside"), names}};
 }
 
-//! The name of \a vertex as keys have it.
-QString colorName(ceiechart::GamutVertex vertex)
-{
-    switch (vertex) {
-    case ceiechart::GamutVertex::Red:
-        return QStringLiteral("red");
-    case ceiechart::GamutVertex::Green:
-        return QStringLiteral("green");
-    case ceiechart::GamutVertex::Blue:
-        return QStringLiteral("blue");
-    case ceiechart::GamutVertex::White:
-        break;
-    }
-    return QStringLiteral("white");
-}
-
-QString primaryName(Model::Primary primary)
-{
-    return colorName(vertexOf(primary));
-}
-
 QString subjectName(AssessmentLine::Subject subject)
 {
     switch (subject) {
@@ -135,6 +98,8 @@ QString subjectName(AssessmentLine::Subject subject)
         return QStringLiteral("gamut");
     case AssessmentLine::Subject::Luminance:
         return QStringLiteral("luminance");
+    case AssessmentLine::Subject::Wall:
+        return QStringLiteral("wall");
     case AssessmentLine::Subject::Tolerance:
         break;
     }
@@ -293,6 +258,9 @@ QJsonObject report(
     }
     if (assessment.displays.size() > 1 && target) {
         object.insert(QStringLiteral("measuredDrive"), driveObject(assessment.displays.at(1)));
+    }
+    if (!description.wall.cabinets.empty()) {
+        object.insert(QStringLiteral("wall"), wallReport(description.wall, assessment.wall.get()));
     }
     if (tolerances) {
         object.insert(QStringLiteral("tolerances"),

@@ -30,6 +30,165 @@
     </message>
 </context>
 <context>
+    <name>gamutfiles::Corrections</name>
+    <message>
+        <source>line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>%1, column %2</source>
+        <comment>line and column</comment>
+        <translation>%1，%2 列</translation>
+    </message>
+    <message>
+        <source>expected %1</source>
+        <translation>应为 %1</translation>
+    </message>
+    <message>
+        <source>not a number: %1</source>
+        <translation>不是数字：%1</translation>
+    </message>
+    <message>
+        <source>expected x and y</source>
+        <translation>应为 x 和 y</translation>
+    </message>
+    <message>
+        <source>expected the name of the target in quotes</source>
+        <translation>应为带引号的目标名称</translation>
+    </message>
+    <message>
+        <source>the luminance of the white must be greater than 0</source>
+        <translation>白的亮度必须大于 0</translation>
+    </message>
+    <message>
+        <source>expected %1, %2 or %3</source>
+        <translation>应为 %1、%2 或 %3</translation>
+    </message>
+    <message>
+        <source>expected the columns %1</source>
+        <translation>应有以下各列：%1</translation>
+    </message>
+    <message>
+        <source>a quote is never closed</source>
+        <translation>引号没有结束</translation>
+    </message>
+    <message>
+        <source>there is no cabinet</source>
+        <translation>没有箱体</translation>
+    </message>
+    <message>
+        <source>expected %1 fields, found %2</source>
+        <translation>应有 %1 个字段，实有 %2 个</translation>
+    </message>
+    <message>
+        <source>row and column are only known together</source>
+        <translation>行和列须同时给出</translation>
+    </message>
+    <message>
+        <source>expected a whole number</source>
+        <translation>应为整数</translation>
+    </message>
+    <message>
+        <source>a colour of the target is not finite</source>
+        <translation>目标的一种颜色不是有限值</translation>
+    </message>
+    <message>
+        <source>the primaries of the target lie nearly on a line</source>
+        <translation>目标的三基色几乎在一条直线上</translation>
+    </message>
+    <message>
+        <source>the white of the target is not a mixture of its primaries</source>
+        <translation>目标的白不能由其三基色混合而成</translation>
+    </message>
+    <message>
+        <source>there is no luminance for the white of the target: no cabinet can show it</source>
+        <translation>目标的白没有亮度：没有箱体能显示它</translation>
+    </message>
+    <message>
+        <source>a cabinet needs a name, or row and column</source>
+        <translation>箱体需要名称，或行和列</translation>
+    </message>
+    <message>
+        <source>there is already a cabinet %1</source>
+        <translation>已有箱体 %1</translation>
+    </message>
+    <message>
+        <source>there is a matrix, and a reason why there is none</source>
+        <translation>既有矩阵，又有没有矩阵的原因</translation>
+    </message>
+    <message>
+        <source>there is neither a matrix nor a reason why there is none</source>
+        <translation>既没有矩阵，也没有说明原因</translation>
+    </message>
+    <message>
+        <source>no cabinet has a matrix</source>
+        <translation>没有箱体有矩阵</translation>
+    </message>
+    <message>
+        <source>is too large for a file of corrections (more than %1 KiB)</source>
+        <translation>对校正文件来说太大（超过 %1 KiB）</translation>
+    </message>
+    <message>
+        <source>expected three rows of three numbers</source>
+        <translation>应为三行，每行三个数字</translation>
+    </message>
+    <message>
+        <source>expected three numbers</source>
+        <translation>应为三个数字</translation>
+    </message>
+</context>
+<context>
+    <name>gamutfiles::CubePair</name>
+    <message>
+        <source>red</source>
+        <translation>红</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>绿</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>蓝</translation>
+    </message>
+    <message>
+        <source>is too large for one of a pair of tables (more than %1 KiB)</source>
+        <translation>对成对的表来说太大（超过 %1 KiB）</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>not three numbers, nor a keyword with its numbers: %1</source>
+        <translation>不是三个数字，也不是关键字及其数字：%1</translation>
+    </message>
+    <message>
+        <source>is not that of a table of size 2 from 0 to 1: %1</source>
+        <translation>不属于范围为 0 到 1、大小为 2 的表：%1</translation>
+    </message>
+    <message>
+        <source>expected %1 lines of numbers, found %2</source>
+        <translation>应有 %1 行数字，实有 %2 行</translation>
+    </message>
+    <message>
+        <source>the drive of %1 for %2 is %3: a table is not exact below 0</source>
+        <translation>显示%2时%1的驱动为 %3：低于 0 时表不精确</translation>
+    </message>
+    <message>
+        <source>the drive of %1 for white is %2: a table is not exact above 1</source>
+        <translation>显示白时%1的驱动为 %2：高于 1 时表不精确</translation>
+    </message>
+    <message>
+        <source>the table of three dimensions is not that of a matrix</source>
+        <translation>三维表不是矩阵的表</translation>
+    </message>
+    <message>
+        <source>the table of one dimension is not that of gains</source>
+        <translation>一维表不是增益的表</translation>
+    </message>
+</context>
+<context>
     <name>gamutfiles::DescriptionReader</name>
     <message>
         <source>is too large for a display description (more than %1 KiB)</source>
@@ -82,6 +241,22 @@
     <message>
         <source>the white is darker than one of the primaries</source>
         <translation>白色比其中一种基色还暗</translation>
+    </message>
+    <message>
+        <source>a cabinet needs a name, or row and column</source>
+        <translation>箱体需要名称，或行和列</translation>
+    </message>
+    <message>
+        <source>there is already a cabinet %1</source>
+        <translation>已有箱体 %1</translation>
+    </message>
+    <message>
+        <source>there is already a cabinet in row %1, column %2</source>
+        <translation>第 %1 行、第 %2 列已有箱体</translation>
+    </message>
+    <message>
+        <source>missing: row and column are only known together</source>
+        <translation>缺少：行和列须同时给出</translation>
     </message>
 </context>
 <context>
@@ -529,6 +704,10 @@
     <message>
         <source>the key %1 is there twice in this object: the last one counts</source>
         <translation>键 %1 在此对象中出现两次：以最后一个为准</translation>
+    </message>
+    <message>
+        <source>expected a whole number</source>
+        <translation>应为整数</translation>
     </message>
 </context>
 <context>
@@ -995,6 +1174,46 @@
     <message>
         <source>expected %1 or %2</source>
         <translation>应为 %1 或 %2</translation>
+    </message>
+</context>
+<context>
+    <name>gamutfiles::Wall</name>
+    <message>
+        <source>one without a name</source>
+        <translation>一个没有名称的箱体</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <comment>names of cabinets and a number</comment>
+        <translation>%1 以及另外 %2 个</translation>
+    </message>
+    <message>
+        <source>names no cabinets: a wall needs a column with the cabinet, or one with the row and one with the column</source>
+        <translation>没有指明箱体：墙需要一列箱体，或一列行号和一列列号</translation>
+    </message>
+    <message>
+        <source>no cabinet has a name, and red, green and blue once each</source>
+        <translation>没有箱体既有名称，又有红、绿、蓝各一次</translation>
+    </message>
+    <message>
+        <source>cabinets left out, as they have no name of their own: %1</source>
+        <translation>以下箱体没有自己的名称，未采用：%1</translation>
+    </message>
+    <message>
+        <source>cabinets left out, as red, green or blue is missing or has no chromaticity: %1</source>
+        <translation>以下箱体缺少红、绿或蓝，或其没有色品，未采用：%1</translation>
+    </message>
+    <message>
+        <source>cabinets left out, as a colour is there more than once: %1</source>
+        <translation>以下箱体有颜色出现多次，未采用：%1</translation>
+    </message>
+    <message>
+        <source>cabinets whose black is not used, as it has no chromaticity: %1</source>
+        <translation>以下箱体的黑没有色品，未使用：%1</translation>
+    </message>
+    <message>
+        <source>several cabinets have the same row and column: they are parts of the names, and no place is known</source>
+        <translation>有多个箱体的行和列相同：行和列成为名称的一部分，位置未知</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_WALLASSESSMENT_H
+#define GAMUTVIEWER_WALLASSESSMENT_H
+
+#include "display/assessment.h"
+#include "display/gamutfiles.h"
+
+#include <ceiechart/diagram/targetrules.h>
+#include <gamutmodel/commongamut.h>
+#include <gamutmodel/correction.h>
+#include <gamutmodel/gamutfit.h>
+#include <gamutmodel/uniformity.h>
+
+#include <QString>
+#include <QVector>
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+/*!
+ * \file
+ * \brief What can be said of a wall's cabinets and a target, and how sure it is. Page, report and command line show it.
+ *
+ * Cabinets are named by their index in DisplayWall::cabinets.
+ */
+namespace gamutviewer {
+
+/*! \brief A cabinet that is compared with another. */
+struct NeighborDifference {
+    std::size_t cabinet = 0; //!< the other one
+    double uv = 0.0; //!< Δu′v′ between the whites
+};
+
+/*! \brief What can be said of one cabinet. What is not known has no value. */
+struct CabinetAssessment {
+    Judgement judgement = Judgement::NotKnown; //!< whether it shows the target, of \a gamut and \a luminance
+    Judgement gamut = Judgement::NotKnown; //!< whether all chromaticities of the target lie inside of its gamut
+    Judgement luminance = Judgement::NotKnown; //!< whether it reaches the luminances of the target
+    bool isLeftOut = false; //!< WallCabinet::isLeftOut: its judgement does not count for that of the wall
+    /*!
+     * \brief The colour that limits it: of those of the target that lie outside the one that does so by the most, or
+     * else the primary of the cabinet that is at full drive for the target's white.
+     */
+    std::optional<ceiechart::GamutVertex> limit;
+    /*! \brief How far each colour of the target lies outside of its gamut, in Δu′v′; 0 if it does not. */
+    std::array<double, 4> outside{};
+    /*! \brief The largest luminance of the target's white, in the unit of the wall. */
+    std::optional<double> largestWhite;
+    /*! \brief largestWhite divided by the luminance of the target's white; only where the two can be compared. */
+    std::optional<double> headroom;
+    /*! \brief False when it does not add up: its measured white is not the sum of its primaries. */
+    bool isAdditive = true;
+    std::optional<Model::Target> white; //!< without a correction: as measured, or else the sum of the primaries
+    std::optional<double> uvBefore; //!< Δu′v′ between that white and the target's
+    std::optional<double> uvAfter; //!< Δu′v′ between its white with the correction and the target's
+    std::optional<NeighborDifference> neighborBefore; //!< the neighbour whose white differs most, without corrections
+    std::optional<NeighborDifference> neighborAfter; //!< the same with the corrections
+};
+
+/*! \brief A sentence on a wall. */
+struct WallLine {
+    std::optional<Judgement> judgement; //!< nothing for a remark, which judges nothing
+    QString text; //!< sentences, in the language of the interface
+    std::optional<std::size_t> cabinet{}; //!< the cabinet that it is about
+};
+
+/*! \brief All that can be said of a wall. */
+struct WallAssessment {
+    Judgement judgement = Judgement::NotKnown; //!< whether all cabinets that count show the target
+    QString headline; //!< that in one sentence without a full stop
+    QVector<WallLine> lines; //!< the grounds, worst first, then remarks
+    std::vector<CabinetAssessment> cabinets; //!< of each, in the order of the wall
+    /*!
+     * \brief All cabinets: those that fail first, then those that are not known, the others, and those that are left
+     * out; in each of these the one with the least white first.
+     */
+    std::vector<std::size_t> worstFirst;
+    bool luminancesCompare = false; //!< whether those of wall and target are both in cd/m²
+    /*! \brief What the cabinets have in common that count and whose gamut is known. */
+    Model::CommonGamut common;
+    /*! \brief The target fitted into \a common, with its luminance as it was. */
+    Model::GamutFit fit;
+    /*! \brief The largest white of all cabinets that count and for which it is known, and who limits it. */
+    std::optional<Model::WallWhite> largestWhite;
+    /*!
+     * \brief The corrections of all cabinets, also of those that are left out.
+     *
+     * They are for the luminance of the target's white, or, where that cannot be compared, for the largest that all
+     * cabinets reach which count. That of a cabinet that is not additive is for the sum of its primaries.
+     */
+    Model::WallCorrection correction;
+    Model::Uniformity before; //!< of the whites without corrections, of the cabinets that count
+    Model::Uniformity after; //!< of the whites with them
+};
+
+/*!
+ * \brief Judges what the cabinets of \a wall, of which there is at least one, show of \a target.
+ *
+ * Of luminances nothing is said unless both are in cd/m². A white that was measured has to be the sum of the primaries
+ * for anything to be said of what a cabinet reaches.
+ */
+WallAssessment assessWall(const DisplayWall &wall, const DisplayGamut &target);
+
+/*! \brief What \a assessment says of \a cabinet in a sentence, with its name: "F9: white reaches 938.0 cd/m² only." */
+QString cabinetText(
+    const DisplayWall &wall, const DisplayGamut &target, const WallAssessment &assessment, std::size_t cabinet);
+
+/*! \brief What \a common lacks for a target: "A1 and C7 have no colour in common"; empty when it is an area. */
+QString commonGamutProblem(const DisplayWall &wall, const Model::CommonGamut &common);
+
+/*! \brief Why a target cannot be fitted, and what to do; empty without a fault. */
+QString fitProblem(const DisplayWall &wall, const WallAssessment &assessment);
+
+/*! \brief The name of \a cabinet of \a wall on one line. */
+QString cabinetName(const DisplayWall &wall, std::size_t cabinet);
+
+/*!
+ * \brief The \a target fitted to the wall that \a assessment is of, with a white that all cabinets reach; nothing where
+ * that cannot be done, see fitProblem(), or where it is the target itself.
+ */
+std::optional<Model::Targets> fittedToWall(const DisplayGamut &target, const WallAssessment &assessment);
+
+} // namespace gamutviewer
+
+#endif

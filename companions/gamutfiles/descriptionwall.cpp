@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "descriptionreader_p.h"
+
+#include <utility>
+
+namespace gamutfiles {
+
+DisplayWall DescriptionReader::readWall(const Node &node)
+{
+    DisplayWall wall;
+    if (!checkObject(node, {{luminanceUnitKey(), false}, {QStringLiteral("cabinets"), true}})) {
+        return wall;
+    }
+    wall.unit = readUnit(member(node, luminanceUnitKey()));
+    QSet<QString> labels;
+    QSet<std::pair<int, int>> places;
+    for (const Node &element : elements(member(node, QStringLiteral("cabinets")))) {
+        WallCabinet cabinet = readCabinet(element);
+        const QString label = cabinet.label();
+        if (label.trimmed().isEmpty()) {
+            fail(element, tr("a cabinet needs a name, or row and column"));
+        }
+        if (labels.contains(label)) {
+            fail(element, tr("there is already a cabinet %1").arg(quoted(label)));
+        }
+        labels.insert(label);
+        if (cabinet.row && cabinet.column) {
+            const std::pair<int, int> place(*cabinet.row, *cabinet.column);
+            if (places.contains(place)) {
+                fail(element, tr("there is already a cabinet in row %1, column %2").arg(place.first).arg(place.second));
+            }
+            places.insert(place);
+        }
+        if (failed()) {
+            return {};
+        }
+        wall.cabinets.push_back(std::move(cabinet));
+    }
+    return wall;
+}
+
+WallCabinet DescriptionReader::readCabinet(const Node &node)
+{
+    WallCabinet cabinet;
+    if (!checkObject(node,
+            {{QStringLiteral("name"), false}, {QStringLiteral("row"), false}, {QStringLiteral("column"), false},
+                {QStringLiteral("red"), true}, {QStringLiteral("green"), true}, {QStringLiteral("blue"), true},
+                {QStringLiteral("white"), false}, {QStringLiteral("black"), false},
+                {QStringLiteral("leftOut"), false}})) {
+        return cabinet;
+    }
+    const auto optional = [this, &node](const QString &key, auto read) {
+        const Node found = member(node, key);
+        return found.value.isUndefined() ? std::nullopt : std::make_optional(read(found));
+    };
+    const auto color = [this](const Node &of) { return readMeasured(of); };
+    const auto whole = [this](const Node &of) { return readWhole(of); };
+    cabinet.name = readString(member(node, QStringLiteral("name")));
+    cabinet.row = optional(QStringLiteral("row"), whole);
+    cabinet.column = optional(QStringLiteral("column"), whole);
+    if (cabinet.row.has_value() != cabinet.column.has_value()) {
+        fail(member(node, cabinet.row ? QStringLiteral("column") : QStringLiteral("row")),
+            tr("missing: row and column are only known together"));
+    }
+    cabinet.red = color(member(node, QStringLiteral("red")));
+    cabinet.green = color(member(node, QStringLiteral("green")));
+    cabinet.blue = color(member(node, QStringLiteral("blue")));
+    cabinet.white = optional(QStringLiteral("white"), color);
+    cabinet.black = optional(QStringLiteral("black"), [this](const Node &of) { return readBlack(of); });
+    const Node leftOut = member(node, QStringLiteral("leftOut"));
+    cabinet.isLeftOut = checkType(leftOut, QJsonValue::Bool) && leftOut.value.toBool();
+    return cabinet;
+}
+
+//! The chromaticities of deep reds stand on the limit x + y = 1, and u', v' with four digits may exceed it.
+Model::Target DescriptionReader::readMeasured(const Node &node)
+{
+    return readTarget(node, PrimariesOf::Display, chromaticityRounding);
+}
+
+//! Where there is no light there is no chromaticity.
+Model::Target DescriptionReader::readBlack(const Node &node)
+{
+    const auto is = [&node](const char *key) { return !member(node, QString::fromLatin1(key)).value.isUndefined(); };
+    if (is("x") || is("y") || readNumber(member(node, QStringLiteral("Y"))) != 0.0) {
+        return readMeasured(node);
+    }
+    checkObject(node, {{QStringLiteral("Y"), true}});
+    return Model::Target();
+}
+
+} // namespace gamutfiles

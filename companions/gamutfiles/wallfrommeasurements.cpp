@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include <gamutfiles/measurementlist.h>
+
+#include "excerpt_p.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QSet>
+#include <QStringList>
+
+#include <array>
+#include <utility>
+
+namespace gamutfiles {
+
+namespace {
+
+struct WallText {
+    Q_DECLARE_TR_FUNCTIONS(gamutfiles::Wall)
+};
+
+//! Cabinets of which one warning speaks together.
+class NamedCabinets {
+public:
+    void add(const QString &label)
+    {
+        if (m_count++ < mostNamed) {
+            m_names.append(label.isEmpty() ? WallText::tr("one without a name") : excerpt(label));
+        }
+    }
+    bool isEmpty() const { return m_count == 0; }
+    QString text() const
+    {
+        const QString names = m_names.join(QStringLiteral(", "));
+        return m_count > mostNamed
+            ? WallText::tr("%1 and %2 more", "names of cabinets and a number").arg(names).arg(m_count - mostNamed)
+            : names;
+    }
+
+private:
+    static constexpr int mostNamed = 4; // more are not read
+    QStringList m_names;
+    int m_count = 0;
+};
+
+struct Colors {
+    std::array<const Measurement *, 6> of{}; // by MeasurementPart; null: there is none
+    bool isAmbiguous = false; // whether a colour is there more than once
+
+    const Measurement *operator[](MeasurementPart part) const { return of[std::size_t(part)]; }
+};
+
+Colors colorsOf(const MeasurementList &list)
+{
+    Colors colors;
+    for (const Measurement &measurement : list.measurements) {
+        if (measurement.part == MeasurementPart::None) {
+            continue;
+        }
+        const Measurement *&found = colors.of[std::size_t(measurement.part)];
+        colors.isAmbiguous = colors.isAmbiguous || found;
+        found = &measurement;
+    }
+    return colors;
+}
+
+//! Whether no two of \a cabinets stand in the same row and column.
+bool haveDifferentPlaces(const QVector<CabinetMeasurements> &cabinets)
+{
+    QSet<std::pair<int, int>> places;
+    for (const CabinetMeasurements &cabinet : cabinets) {
+        if (!cabinet.row || !cabinet.column) {
+            continue;
+        }
+        const std::pair<int, int> place(*cabinet.row, *cabinet.column);
+        if (places.contains(place)) {
+            return false;
+        }
+        places.insert(place);
+    }
+    return true;
+}
+
+bool havePrimaries(const Colors &colors)
+{
+    const auto isThere = [&colors](MeasurementPart part) { return colors[part] && colors[part]->color; };
+    return isThere(MeasurementPart::Red) && isThere(MeasurementPart::Green) && isThere(MeasurementPart::Blue);
+}
+
+//! Where there is no light, nothing has a chromaticity.
+std::optional<Model::Target> blackOf(const Colors &colors)
+{
+    const Measurement *black = colors[MeasurementPart::Black];
+    if (!black) {
+        return std::nullopt;
+    }
+    return !black->color && black->luminance == 0.0 ? std::make_optional(Model::Target()) : black->color;
+}
+
+} // namespace
+
+Outcome<DisplayWall> wallFromMeasurements(const MeasurementList &list)
+{
+    using Failure = Outcome<DisplayWall>;
+    const QVector<CabinetMeasurements> cabinets = list.cabinets();
+    if (cabinets.isEmpty()) {
+        return Failure::failure(
+            WallText::tr("names no cabinets: a wall needs a column with the cabinet, or one with the row and one with "
+                         "the column"));
+    }
+    const bool hasPlaces = haveDifferentPlaces(cabinets);
+    DisplayWall wall;
+    wall.unit = list.unit;
+    NamedCabinets incomplete;
+    NamedCabinets ambiguous;
+    NamedCabinets unnamed;
+    NamedCabinets withoutBlack;
+    QSet<QString> labels;
+    for (const CabinetMeasurements &measured : cabinets) {
+        const QString label = measured.label();
+        const Colors colors = colorsOf(measured.list);
+        if (label.trimmed().isEmpty() || labels.contains(label)) {
+            unnamed.add(label);
+            continue;
+        }
+        labels.insert(label);
+        if (!havePrimaries(colors)) {
+            incomplete.add(label);
+            continue;
+        }
+        if (colors.isAmbiguous) {
+            ambiguous.add(label);
+            continue;
+        }
+        WallCabinet cabinet;
+        cabinet.name = hasPlaces ? measured.cabinet : label;
+        if (hasPlaces && measured.row && measured.column) {
+            cabinet.row = measured.row;
+            cabinet.column = measured.column;
+        }
+        cabinet.red = *colors[MeasurementPart::Red]->color;
+        cabinet.green = *colors[MeasurementPart::Green]->color;
+        cabinet.blue = *colors[MeasurementPart::Blue]->color;
+        if (const Measurement *white = colors[MeasurementPart::White]) {
+            cabinet.white = white->color;
+        }
+        cabinet.black = blackOf(colors);
+        if (colors[MeasurementPart::Black] && !cabinet.black) {
+            withoutBlack.add(label);
+        }
+        wall.cabinets.push_back(cabinet);
+    }
+    if (wall.cabinets.empty()) {
+        return Failure::failure(WallText::tr("no cabinet has a name, and red, green and blue once each"));
+    }
+    QVector<Problem> warnings;
+    const auto warn = [&warnings](const QString &text) { warnings.append({text, {}, 0, 0}); };
+    if (!unnamed.isEmpty()) {
+        warn(WallText::tr("cabinets left out, as they have no name of their own: %1").arg(unnamed.text()));
+    }
+    if (!incomplete.isEmpty()) {
+        warn(WallText::tr("cabinets left out, as red, green or blue is missing or has no chromaticity: %1")
+                 .arg(incomplete.text()));
+    }
+    if (!ambiguous.isEmpty()) {
+        warn(WallText::tr("cabinets left out, as a colour is there more than once: %1").arg(ambiguous.text()));
+    }
+    if (!withoutBlack.isEmpty()) {
+        warn(WallText::tr("cabinets whose black is not used, as it has no chromaticity: %1").arg(withoutBlack.text()));
+    }
+    if (!hasPlaces) {
+        warn(WallText::tr(
+            "several cabinets have the same row and column: they are parts of the names, and no place is known"));
+    }
+    return {wall, warnings};
+}
+
+} // namespace gamutfiles

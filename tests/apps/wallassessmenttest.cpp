@@ -1,0 +1,501 @@
+// SPDX-License-Identifier: MIT
+#include "display/wallassessment.h"
+
+#include <ceiechart/diagram/targetrules.h>
+#include <gamutmodel/nearestinside.h>
+
+#include <QtTest>
+
+#include <cmath>
+
+using namespace gamutviewer;
+using Vertex = ceiechart::GamutVertex;
+
+Q_DECLARE_METATYPE(LuminanceUnit)
+
+class WallAssessmentTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void equalCabinets();
+    void oneDimCabinet();
+    void oneNarrowCabinet();
+    void twoBadCabinetsAreNamed();
+    void manyBadCabinetsAreCounted();
+    void allBadCabinets();
+    void headroomAgainstCramersRule();
+    void luminancesThatDoNotCompare_data();
+    void luminancesThatDoNotCompare();
+    void targetWithoutLuminance();
+    void nearlySingularCabinet();
+    void cabinetWithoutLight();
+    void whiteThatIsNotTheSum();
+    void whiteThatIsBelowTheSumAndTooDim();
+    void nothingInCommon();
+    void whiteOutsideOfTheWall();
+    void fittedTargetIsShownByAll();
+    void leftOutCabinetDoesNotCount();
+    void neighbors();
+    void blacksAreCorrected();
+    void namesStandOnOneLine();
+    void wallStandsForTheDisplay();
+    void wallAndOriginalAreBothGrounds();
+    void wallWithoutATarget();
+};
+
+namespace {
+
+constexpr LuminanceUnit cd = LuminanceUnit::CandelaPerSquareMetre;
+
+Model::Target color(double Y, double x, double y)
+{
+    return Model::Target::fromYxy(Y, x, y);
+}
+
+//! Primaries of Rec.2020 that mix to a D65 of \a luminance.
+WallCabinet cabinet(const QString &name, int row, int column, double luminance = 1100.0)
+{
+    const Model::Targets of = Model::rec2020().getTargets();
+    WallCabinet result;
+    result.name = name;
+    result.row = row;
+    result.column = column;
+    result.red = color(of.red.Y * luminance, of.red.x, of.red.y);
+    result.green = color(of.green.Y * luminance, of.green.x, of.green.y);
+    result.blue = color(of.blue.Y * luminance, of.blue.x, of.blue.y);
+    return result;
+}
+
+//! \a rows of 12 cabinets, "A1" at the top left.
+DisplayWall wallOf(int rows, LuminanceUnit unit = cd)
+{
+    DisplayWall wall;
+    wall.unit = unit;
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < 12; ++column) {
+            WallCabinet of = cabinet(QStringLiteral("%1%2").arg(QChar('A' + row)).arg(column + 1), row, column);
+            of.row.reset(); // known by its name
+            of.row = row;
+            wall.cabinets.push_back(of);
+        }
+    }
+    return wall;
+}
+
+constexpr std::size_t f9 = 5 * 12 + 8;
+constexpr std::size_t c4 = 2 * 12 + 3;
+
+DisplayGamut targetOf(double luminance, LuminanceUnit unit = cd)
+{
+    Model::Targets of = Model::rec709().getTargets();
+    for (Model::Target *t : {&of.red, &of.green, &of.blue, &of.white}) {
+        *t = color(t->Y * luminance, t->x, t->y);
+    }
+    return {Model::ColorGamut("Wanted", of), unit};
+}
+
+QString textOf(const WallAssessment &assessment)
+{
+    QStringList lines(judgementMark(assessment.judgement) + QLatin1Char(' ') + assessment.headline);
+    for (const WallLine &line : assessment.lines) {
+        lines.append(
+            (line.judgement ? judgementMark(*line.judgement) : QStringLiteral("-")) + QLatin1Char(' ') + line.text);
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+void dim(WallCabinet &of, double factor)
+{
+    for (Model::Target *t : {&of.red, &of.green, &of.blue}) {
+        *t = color(t->Y * factor, t->x, t->y);
+    }
+}
+
+double determinant(const Model::Target &a, const Model::Target &b, const Model::Target &c)
+{
+    return a.X * (b.Y * c.Z - b.Z * c.Y) - b.X * (a.Y * c.Z - a.Z * c.Y) + c.X * (a.Y * b.Z - a.Z * b.Y);
+}
+
+//! The highest drive for a colour without a black, by Cramer's rule.
+double highestDrive(const WallCabinet &of, const Model::Target &t)
+{
+    const double all = determinant(of.red, of.green, of.blue);
+    return std::max({determinant(t, of.green, of.blue) / all, determinant(of.red, t, of.blue) / all,
+        determinant(of.red, of.green, t) / all});
+}
+
+} // namespace
+
+void WallAssessmentTest::equalCabinets()
+{
+    const DisplayWall wall = wallOf(8);
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(textOf(found),
+        QStringLiteral("✓ All 96 cabinets show this target\n"
+                       "✓ All reach a white of 1100.0 cd/m² (A1 0/0 is the limit, with red at full drive)."));
+    QCOMPARE(found.cabinets.size(), std::size_t(96));
+    for (const CabinetAssessment &of : found.cabinets) {
+        QCOMPARE(of.judgement, Judgement::Pass);
+        QVERIFY(std::fabs(*of.headroom - 1.1) < 1e-9);
+        QVERIFY(std::fabs(*of.largestWhite - 1100.0) < 1e-6);
+        QVERIFY(*of.uvBefore < 1e-9);
+        QVERIFY(*of.uvAfter < 1e-9);
+        QVERIFY(of.neighborBefore->uv < 1e-9);
+    }
+    QVERIFY(!fittedToWall(targetOf(1000.0), found));
+}
+
+void WallAssessmentTest::oneDimCabinet()
+{
+    DisplayWall wall = wallOf(8);
+    wall.cabinets[f9].name = QStringLiteral("F9");
+    dim(wall.cabinets[f9], 0.85);
+    dim(wall.cabinets[c4], 0.92);
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(textOf(found),
+        QStringLiteral("✗ 95 of 96 cabinets show this target; F9 5/8 does not\n"
+                       "✗ F9 5/8: white reaches 935.0 cd/m² only, of 1000.0 cd/m² (red is the limit).\n"
+                       "- All others reach a white of 1012.0 cd/m² (C4 2/3 is the limit, with red at full drive).\n"
+                       "- Fitted to the wall, the target keeps 100.0 % of its area in u′, v′ and has a white of 935.0 "
+                       "cd/m².\n"
+                       "- Without F9 5/8, all show the target."));
+    QCOMPARE(found.worstFirst.at(0), f9);
+    QCOMPARE(found.worstFirst.at(1), c4);
+    QCOMPARE(found.cabinets[f9].judgement, Judgement::Fail);
+    QCOMPARE(found.cabinets[f9].gamut, Judgement::Pass);
+    QVERIFY(std::fabs(*found.cabinets[f9].headroom - 0.935) < 1e-9);
+    QCOMPARE(found.largestWhite->cabinet, f9);
+    QCOMPARE(found.lines.first().cabinet, std::make_optional(f9));
+}
+
+void WallAssessmentTest::oneNarrowCabinet()
+{
+    DisplayWall wall = wallOf(8);
+    WallCabinet &bad = wall.cabinets[f9];
+    bad.green = color(bad.green.Y, 0.32, 0.55);
+    const DisplayGamut target = targetOf(900.0);
+    const WallAssessment found = assessWall(wall, target);
+    QCOMPARE(found.judgement, Judgement::Fail);
+    QCOMPARE(found.headline, QStringLiteral("95 of 96 cabinets show this target; F9 5/8 does not"));
+    const CabinetAssessment &of = found.cabinets[f9];
+    QCOMPARE(of.gamut, Judgement::Fail);
+    QCOMPARE(of.limit, std::make_optional(Vertex::Green));
+    const Model::Targets colors{bad.red, bad.green, bad.blue, {}};
+    QCOMPARE(of.outside[std::size_t(Vertex::Green)],
+        gamutviewer::distanceOutside(target.getTargets(), Vertex::Green, colors));
+    QVERIFY(of.outside[std::size_t(Vertex::Green)] > 0.005);
+    QCOMPARE(of.outside[std::size_t(Vertex::White)], 0.0);
+    QVERIFY2(found.lines.first().text.startsWith(QStringLiteral("F9 5/8: green reaches 0.")),
+        qPrintable(found.lines.first().text));
+    QVERIFY(*of.uvAfter < 1e-9); // the white is still right
+}
+
+void WallAssessmentTest::twoBadCabinetsAreNamed()
+{
+    DisplayWall wall = wallOf(2);
+    dim(wall.cabinets[3], 0.8);
+    dim(wall.cabinets[5], 0.7);
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(found.headline, QStringLiteral("22 of 24 cabinets show this target; A6 0/5 and A4 0/3 do not"));
+    QVERIFY(textOf(found).contains(QStringLiteral("- Without A6 0/5 and A4 0/3, all show the target.")));
+}
+
+void WallAssessmentTest::manyBadCabinetsAreCounted()
+{
+    DisplayWall wall = wallOf(2);
+    for (int i = 0; i < 10; ++i) {
+        dim(wall.cabinets[std::size_t(i)], 0.8 + 0.001 * i);
+    }
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(found.headline, QStringLiteral("14 of 24 cabinets show this target; A1 0/0 and 9 others do not"));
+    QVERIFY(textOf(found).contains(QStringLiteral("✗ A3 0/2: white reaches ")));
+    QVERIFY(!textOf(found).contains(QStringLiteral("A4 0/3")));
+    QVERIFY(textOf(found).contains(QStringLiteral("✗ 7 other cabinets do not show it either.")));
+}
+
+void WallAssessmentTest::allBadCabinets()
+{
+    const WallAssessment found = assessWall(wallOf(1), targetOf(2000.0));
+    QCOMPARE(found.headline, QStringLiteral("None of the 12 cabinets shows this target"));
+    QVERIFY(!textOf(found).contains(QStringLiteral("others reach")));
+    QVERIFY(!textOf(found).contains(QStringLiteral("Without")));
+}
+
+void WallAssessmentTest::headroomAgainstCramersRule()
+{
+    DisplayWall wall = wallOf(2);
+    for (std::size_t i = 0; i < wall.cabinets.size(); ++i) {
+        WallCabinet &of = wall.cabinets[i];
+        const double shift = 0.0004 * double(i);
+        of.red = color(of.red.Y * (1.0 + shift), of.red.x - shift, of.red.y);
+        of.blue = color(of.blue.Y, of.blue.x + shift, of.blue.y + shift);
+    }
+    const DisplayGamut target = targetOf(1000.0);
+    const WallAssessment found = assessWall(wall, target);
+    for (std::size_t i = 0; i < wall.cabinets.size(); ++i) {
+        const double drive = highestDrive(wall.cabinets[i], target.getTargets().white);
+        QVERIFY(std::fabs(*found.cabinets[i].headroom * drive - 1.0) < 1e-9);
+        QCOMPARE(found.cabinets[i].luminance, drive > fullDrive ? Judgement::Fail : Judgement::Pass);
+    }
+}
+
+void WallAssessmentTest::luminancesThatDoNotCompare_data()
+{
+    QTest::addColumn<LuminanceUnit>("ofWall");
+    QTest::addColumn<LuminanceUnit>("ofTarget");
+    QTest::newRow("wall not known") << LuminanceUnit::NotKnown << cd;
+    QTest::newRow("wall relative") << LuminanceUnit::Relative << cd;
+    QTest::newRow("target relative") << cd << LuminanceUnit::Relative;
+    QTest::newRow("both relative") << LuminanceUnit::Relative << LuminanceUnit::Relative;
+    QTest::newRow("neither known") << LuminanceUnit::NotKnown << LuminanceUnit::NotKnown;
+}
+
+void WallAssessmentTest::luminancesThatDoNotCompare()
+{
+    QFETCH(LuminanceUnit, ofWall);
+    QFETCH(LuminanceUnit, ofTarget);
+    DisplayWall wall = wallOf(2, ofWall);
+    dim(wall.cabinets[3], 0.5);
+    const WallAssessment found = assessWall(wall, targetOf(1.0, ofTarget));
+    QCOMPARE(found.judgement, Judgement::NotKnown);
+    QCOMPARE(found.headline, QStringLiteral("Not known whether the cabinets show this target"));
+    QVERIFY(!found.luminancesCompare);
+    for (const CabinetAssessment &of : found.cabinets) {
+        QCOMPARE(of.judgement, Judgement::NotKnown);
+        QCOMPARE(of.gamut, Judgement::Pass);
+        QVERIFY(!of.headroom);
+        QVERIFY(of.largestWhite);
+    }
+    const QString text = textOf(found);
+    QCOMPARE(text.count(QStringLiteral("The luminances cannot be compared")), 1);
+    QVERIFY(text.contains(QStringLiteral("- All reach a white of 550.0")));
+    QVERIFY(text.contains(QStringLiteral("- The corrections are for a white of 550.0")));
+    QVERIFY(!text.contains(QStringLiteral(": white reaches"))); // nothing of each cabinet
+    // Chromaticities fail without luminances.
+    wall.cabinets[3].green = color(10.0, 0.32, 0.55);
+    const WallAssessment narrow = assessWall(wall, targetOf(1.0, ofTarget));
+    QCOMPARE(narrow.judgement, Judgement::Fail);
+    QCOMPARE(
+        narrow.headline, QStringLiteral("1 of 24 cabinets do not show this target; of the others it is not known"));
+}
+
+void WallAssessmentTest::targetWithoutLuminance()
+{
+    const WallAssessment found = assessWall(wallOf(1), targetOf(0.0));
+    QCOMPARE(found.judgement, Judgement::NotKnown);
+    QVERIFY(textOf(found).contains(QStringLiteral("? The luminance of the target is not known")));
+}
+
+void WallAssessmentTest::nearlySingularCabinet()
+{
+    DisplayWall wall = wallOf(2);
+    WallCabinet &bad = wall.cabinets[4];
+    bad.green = color(bad.green.Y, bad.red.x - 0.00001, bad.red.y + 0.00001);
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    const QString text = textOf(found);
+    QVERIFY2(text.contains(QStringLiteral("? A5 0/4: the primaries cannot be told apart")), qPrintable(text));
+    QCOMPARE(found.headline, QStringLiteral("23 of 24 cabinets show this target; of 1 it is not known"));
+    QCOMPARE(found.cabinets[4].judgement, Judgement::NotKnown);
+    QVERIFY(!found.cabinets[4].headroom);
+    QVERIFY(!found.correction.corrections[4].matrix);
+    QCOMPARE(found.common.shape, Model::CommonShape::Area); // of the others
+}
+
+void WallAssessmentTest::cabinetWithoutLight()
+{
+    DisplayWall wall = wallOf(2);
+    wall.cabinets[4].blue = color(0.0, 0.131, 0.046);
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(found.judgement, Judgement::NotKnown);
+    QVERIFY(textOf(found).contains(QStringLiteral("? A5 0/4: blue has no luminance of its own.")));
+}
+
+void WallAssessmentTest::whiteThatIsNotTheSum()
+{
+    DisplayWall wall = wallOf(2);
+    const Model::Target d65 = Model::rec2020().getTargets().white;
+    wall.cabinets[4].white = color(1050.0, d65.x, d65.y); // a power limit
+    wall.cabinets[5].white = color(1095.0, d65.x, d65.y); // within what instruments repeat
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(found.cabinets[4].judgement, Judgement::NotKnown);
+    QVERIFY(!found.cabinets[4].isAdditive);
+    QVERIFY(!found.cabinets[4].headroom);
+    QVERIFY(!found.cabinets[4].uvAfter);
+    QCOMPARE(found.cabinets[5].judgement, Judgement::Pass);
+    QVERIFY2(textOf(found).contains(QStringLiteral("? A5 0/4: the white is 1050.0 cd/m², the primaries add to 1100.0 "
+                                                   "cd/m²: what it reaches cannot be worked out.")),
+        qPrintable(textOf(found)));
+}
+
+void WallAssessmentTest::whiteThatIsBelowTheSumAndTooDim()
+{
+    DisplayWall wall = wallOf(2);
+    const Model::Target d65 = Model::rec2020().getTargets().white;
+    wall.cabinets[4].white = color(1050.0, d65.x, d65.y);
+    const WallAssessment found = assessWall(wall, targetOf(1200.0));
+    QCOMPARE(found.cabinets[4].judgement, Judgement::Fail); // it shows no more than its primaries do
+    wall.cabinets[4].white = color(1500.0, d65.x, d65.y); // more than they do, by a white LED
+    QCOMPARE(assessWall(wall, targetOf(1200.0)).cabinets[4].judgement, Judgement::NotKnown);
+}
+
+void WallAssessmentTest::nothingInCommon()
+{
+    DisplayWall wall = wallOf(1);
+    WallCabinet &bad = wall.cabinets[7];
+    bad.red = color(200.0, 0.05, 0.40);
+    bad.green = color(200.0, 0.10, 0.80);
+    bad.blue = color(200.0, 0.04, 0.55);
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(found.common.shape, Model::CommonShape::Empty);
+    QVERIFY2(textOf(found).contains(
+                 QStringLiteral("✗ A1 0/0 and A8 0/7 have no colour in common: no target can be shown by all.")),
+        qPrintable(textOf(found)));
+    QVERIFY(!fittedToWall(targetOf(1000.0), found));
+    QCOMPARE(fitProblem(wall, found),
+        QStringLiteral("The target cannot be fitted: A1 0/0 and A8 0/7 have no colour in common."));
+}
+
+void WallAssessmentTest::whiteOutsideOfTheWall()
+{
+    DisplayWall wall = wallOf(1);
+    WallCabinet &bad = wall.cabinets[7];
+    bad.blue = color(bad.blue.Y, 0.40, 0.35);
+    const DisplayGamut target = targetOf(1000.0);
+    const WallAssessment found = assessWall(wall, target);
+    QCOMPARE(found.cabinets[7].judgement, Judgement::Fail);
+    QVERIFY(!found.cabinets[7].largestWhite);
+    QVERIFY(found.cabinets[7].outside[std::size_t(Vertex::White)] > 0.0);
+    QVERIFY2(textOf(found).contains(QStringLiteral("white reaches ")), qPrintable(textOf(found)));
+    QVERIFY2(textOf(found).contains(QStringLiteral("not all cabinets can show its white (A8 0/7 is the limit)")),
+        qPrintable(textOf(found)));
+}
+
+void WallAssessmentTest::fittedTargetIsShownByAll()
+{
+    DisplayWall wall = wallOf(8);
+    dim(wall.cabinets[c4], 0.8);
+    WallCabinet &bad = wall.cabinets[f9];
+    bad.green = color(bad.green.Y, 0.32, 0.56);
+    const DisplayGamut target = targetOf(1000.0);
+    const auto fitted = fittedToWall(target, assessWall(wall, target));
+    QVERIFY(fitted);
+    const WallAssessment found = assessWall(wall, {Model::ColorGamut("Fitted", *fitted), cd});
+    QCOMPARE(found.judgement, Judgement::Pass);
+    QVERIFY(*found.cabinets[c4].headroom >= 1.0 - 1e-9);
+    QCOMPARE(fitted->white.x, target.getTargets().white.x);
+    QVERIFY(!fittedToWall({Model::ColorGamut("Fitted", *fitted), cd}, found));
+}
+
+void WallAssessmentTest::leftOutCabinetDoesNotCount()
+{
+    DisplayWall wall = wallOf(8);
+    dim(wall.cabinets[f9], 0.5);
+    wall.cabinets[f9].green = color(100.0, 0.32, 0.55);
+    wall.cabinets[f9].isLeftOut = true;
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(textOf(found),
+        QStringLiteral("✓ 95 cabinets show this target; one is left out\n"
+                       "✓ All reach a white of 1100.0 cd/m² (A1 0/0 is the limit, with red at full drive).\n"
+                       "- Left out of this verdict: F9 5/8."));
+    QCOMPARE(found.cabinets[f9].judgement, Judgement::Fail);
+    QCOMPARE(found.worstFirst.back(), f9);
+    QVERIFY(found.correction.corrections[f9].matrix); // it is corrected as far as it can be
+    QVERIFY(found.correction.largestWhite->cabinet != f9);
+    QVERIFY(!found.before.chromaticity || found.before.chromaticity->difference < 1e-9);
+    // Where luminances cannot be compared, the others decide on that of the corrections.
+    wall.unit = LuminanceUnit::Relative;
+    const WallAssessment relative = assessWall(wall, targetOf(1000.0));
+    QVERIFY(std::fabs(relative.correction.target.white.Y - 1100.0) < 1e-6);
+    for (WallCabinet &of : wall.cabinets) {
+        of.isLeftOut = true;
+    }
+    const WallAssessment nothing = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(nothing.judgement, Judgement::NotKnown);
+    QCOMPARE(nothing.headline, QStringLiteral("Nothing is judged: all cabinets are left out"));
+}
+
+void WallAssessmentTest::neighbors()
+{
+    DisplayWall wall = wallOf(2);
+    wall.cabinets[4].red = color(wall.cabinets[4].red.Y * 1.2, 0.700, 0.295);
+    wall.cabinets[20].row.reset();
+    const WallAssessment found = assessWall(wall, targetOf(900.0));
+    for (const std::size_t i : {std::size_t(3), std::size_t(5), std::size_t(16)}) {
+        QCOMPARE(found.cabinets[i].neighborBefore->cabinet, std::size_t(4));
+        QCOMPARE(found.cabinets[i].neighborBefore->uv,
+            *Model::uvDifference(*found.cabinets[i].white, *found.cabinets[4].white));
+        QVERIFY(found.cabinets[i].neighborAfter->uv < 1e-9);
+    }
+    QVERIFY(found.cabinets[0].neighborBefore->uv < 1e-9);
+    QVERIFY(!found.cabinets[20].neighborBefore);
+    QCOMPARE(found.before.neighborChromaticity->difference, found.cabinets[3].neighborBefore->uv);
+}
+
+void WallAssessmentTest::blacksAreCorrected()
+{
+    DisplayWall wall = wallOf(1);
+    for (WallCabinet &of : wall.cabinets) {
+        of.black = color(0.5, 0.30, 0.31);
+    }
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(found.judgement, Judgement::Pass);
+    QVERIFY(*found.cabinets[0].uvAfter < 1e-9);
+    QVERIFY(*found.cabinets[0].largestWhite < 1100.0); // the black is in each of the primaries, and once in the white
+}
+
+void WallAssessmentTest::namesStandOnOneLine()
+{
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[2].name = QStringLiteral("left\nstage <b>");
+    dim(wall.cabinets[2], 0.5);
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QVERIFY(!found.headline.contains(QLatin1Char('\n')));
+    QVERIFY(found.headline.contains(QStringLiteral("<b>")));
+}
+
+void WallAssessmentTest::wallStandsForTheDisplay()
+{
+    DisplayDescription description;
+    description.wall = wallOf(2);
+    description.gamuts.push_back(targetOf(1000.0));
+    description.target = QStringLiteral("Wanted");
+    const Assessment found = assess(description);
+    QCOMPARE(found.judgement(), Judgement::Pass);
+    QCOMPARE(found.headline(), QStringLiteral("The display can show the target"));
+    QCOMPARE(found.lines.first().text, QStringLiteral("All 24 cabinets show this target."));
+    QCOMPARE(found.lines.first().subject, AssessmentLine::Subject::Wall);
+    QVERIFY(found.wall);
+    dim(description.wall.cabinets[3], 0.5);
+    QCOMPARE(assess(description).judgement(), Judgement::Fail);
+    description.wall.unit = LuminanceUnit::NotKnown;
+    QCOMPARE(assess(description).judgement(), Judgement::NotKnown);
+}
+
+void WallAssessmentTest::wallAndOriginalAreBothGrounds()
+{
+    DisplayDescription description;
+    description.wall = wallOf(2);
+    description.gamuts.push_back(targetOf(1000.0));
+    description.target = QStringLiteral("Wanted");
+    DisplayGamut original = targetOf(900.0);
+    description.gamuts.push_back({Model::ColorGamut("Data sheet", original.getTargets()), cd});
+    description.original = QStringLiteral("Data sheet");
+    const Assessment found = assess(description);
+    QCOMPARE(found.judgement(), Judgement::Fail); // the data sheet has less
+    QVERIFY(found.wall);
+    QCOMPARE(found.wall->judgement, Judgement::Pass);
+}
+
+void WallAssessmentTest::wallWithoutATarget()
+{
+    DisplayDescription description;
+    description.wall = wallOf(2);
+    const Assessment found = assess(description);
+    QCOMPARE(found.judgement(), Judgement::NotKnown);
+    QCOMPARE(found.lines.size(), 1);
+    QCOMPARE(found.lines.first().subject, AssessmentLine::Subject::Target);
+    QVERIFY(!found.wall);
+}
+
+QTEST_GUILESS_MAIN(WallAssessmentTest)
+#include "wallassessmenttest.moc"
