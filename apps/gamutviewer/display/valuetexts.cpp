@@ -69,6 +69,11 @@ QString wavelengthText(const Model::DominantWavelength &hue)
     return fixedText(hue.wavelength, 1);
 }
 
+QString plainToolTip(const QString &text)
+{
+    return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+}
+
 QString purityText(const Model::DominantWavelength &hue)
 {
     return fixedText(hue.purity, 3);

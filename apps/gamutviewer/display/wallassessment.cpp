@@ -614,7 +614,25 @@ QString whiteText(const DisplayWall &wall, const DisplayGamut &target, const Cab
 
 QString cabinetName(const DisplayWall &wall, std::size_t cabinet)
 {
-    return oneLine(wall.cabinets[cabinet].label());
+    const QString &name = wall.cabinets[cabinet].name;
+    const auto same = std::count_if(
+        wall.cabinets.begin(), wall.cabinets.end(), [&name](const WallCabinet &other) { return other.name == name; });
+    return oneLine(name.isEmpty() || same > 1 ? wall.cabinets[cabinet].label() : name);
+}
+
+std::vector<QString> cabinetNames(const DisplayWall &wall)
+{
+    QHash<QString, int> counts;
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        ++counts[cabinet.name];
+    }
+    std::vector<QString> names;
+    names.reserve(wall.cabinets.size());
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        const bool isUnique = !cabinet.name.isEmpty() && counts.value(cabinet.name) == 1;
+        names.push_back(oneLine(isUnique ? cabinet.name : cabinet.label()));
+    }
+    return names;
 }
 
 QString cabinetText(

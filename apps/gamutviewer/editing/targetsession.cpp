@@ -3,6 +3,7 @@
 
 #include "display/assessment.h"
 #include "display/valuetexts.h"
+#include "display/wallassessment.h"
 #include "editing/document.h"
 
 #include <ceiechart/diagram/whitepoint.h>
@@ -22,6 +23,30 @@ TargetSession::TargetSession(Document *document, QObject *parent)
     : QObject(parent)
     , m_document(document)
 {
+    // Before all others hear of it.
+    connect(document, &Document::changed, this, [this] {
+        m_assessment.reset();
+        if (m_selectedCabinet && *m_selectedCabinet >= m_document->description().wall.cabinets.size()) {
+            selectCabinet(std::nullopt);
+        }
+    });
+    connect(document, &Document::opened, this, [this] { selectCabinet(std::nullopt); });
+}
+
+const Assessment &TargetSession::assessment() const
+{
+    if (!m_assessment) {
+        m_assessment = assess(m_document->description(), m_tolerances);
+    }
+    return *m_assessment;
+}
+
+void TargetSession::selectCabinet(std::optional<std::size_t> cabinet)
+{
+    if (m_selectedCabinet != cabinet) {
+        m_selectedCabinet = cabinet;
+        Q_EMIT selectedCabinetChanged();
+    }
 }
 
 void TargetSession::setHoldWhite(bool hold)
@@ -60,6 +85,7 @@ void TargetSession::select(std::optional<Vertex> vertex)
 void TargetSession::setTolerances(const std::optional<Tolerances> &tolerances)
 {
     m_tolerances = tolerances;
+    m_assessment.reset();
     Q_EMIT tolerancesChanged();
 }
 
@@ -160,6 +186,11 @@ void TargetSession::setLuminanceUnit(LuminanceUnit unit)
             = Model::DisplayDrive(display->gamut.getTargets()).largestLuminance({white.x, white.y})) {
             brightest = largest->luminance;
         }
+    } else if (!display && m_document->description().wall.unit == LuminanceUnit::CandelaPerSquareMetre) {
+        const auto wall = assessment().wall;
+        if (wall && wall->largestWhite) {
+            brightest = wall->largestWhite->luminance;
+        }
     }
     m_document->change(withLuminanceUnit(m_document->description(), unit, brightest), tr("change unit of luminances"));
 }
@@ -197,6 +228,46 @@ void TargetSession::fitToDisplay()
     if (!apply(fitted, unitAfterMoving(Vertex::Red), tr("fit to the display"), 0)) {
         refuse(tr("The white would lie outside of the target."));
     }
+}
+
+void TargetSession::fitToWall()
+{
+    const auto target = m_document->description().gamut(m_document->description().target);
+    const auto wall = assessment().wall;
+    if (!target || !wall) {
+        refuse(target ? tr("There is no wall to fit the target to.") : tr("There is no target to fit."));
+        return;
+    }
+    if (const auto fitted = fittedToWall(*target, *wall)) {
+        apply(fitted, target->unit, tr("fit to the wall"), 0);
+        return;
+    }
+    const QString problem = fitProblem(m_document->description().wall, *wall);
+    refuse(problem.isEmpty() ? tr("The target fits the wall as far as is known.") : problem);
+}
+
+void TargetSession::setLeftOut(const std::vector<std::size_t> &cabinets, bool isLeftOut)
+{
+    DisplayDescription description = m_document->description();
+    bool isAnother = false;
+    for (const std::size_t cabinet : cabinets) {
+        WallCabinet &of = description.wall.cabinets.at(cabinet);
+        isAnother = isAnother || of.isLeftOut != isLeftOut;
+        of.isLeftOut = isLeftOut;
+    }
+    if (isAnother) {
+        m_document->change(description, isLeftOut ? tr("leave out cabinets") : tr("count cabinets again"));
+    }
+}
+
+void TargetSession::removeWall()
+{
+    if (m_document->description().wall.cabinets.empty()) {
+        return;
+    }
+    DisplayDescription description = m_document->description();
+    description.wall = DisplayWall();
+    m_document->change(description, tr("remove the wall"));
 }
 
 void TargetSession::pointOut(Vertex vertex)

@@ -81,7 +81,7 @@ QString Verdict::text() const
 void Verdict::refresh()
 {
     const QString before = text();
-    show(assess(m_session->document()->description(), m_session->tolerances()));
+    show(m_session->assessment());
     if (text() != before) {
         // A screen reader says it as it changes.
         setAccessibleName(text());

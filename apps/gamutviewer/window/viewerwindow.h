@@ -25,6 +25,7 @@ class Page;
 class SidePanel;
 class TargetSession;
 class TolerancesMenu;
+class WallPage;
 class WarningBar;
 
 /*! \brief The program's window: pages and a panel over one document. */
@@ -80,6 +81,7 @@ public:
     QTabWidget *pages() const { return m_pages; }
     DiagramPage *diagramPage() const { return m_diagramPage; }
     ComparePage *comparePage() const { return m_comparePage; }
+    WallPage *wallPage() const { return m_wallPage; }
     LibraryPage *libraryPage() const { return m_libraryPage; }
     SidePanel *panel() const { return m_panel; }
     TolerancesMenu *tolerancesMenu() const { return m_tolerancesMenu; }
@@ -100,6 +102,7 @@ private:
     void buildFileMenu();
     void buildEditMenu();
     void buildViewMenu();
+    void buildWallMenu();
     void buildHelpMenu();
     void buildStatusBar();
     void addPage(Page *page);
@@ -143,6 +146,7 @@ private:
     QTabWidget *m_pages;
     DiagramPage *m_diagramPage;
     ComparePage *m_comparePage;
+    WallPage *m_wallPage;
     LibraryPage *m_libraryPage;
     SidePanel *m_panel;
     QLabel *m_readout;
