@@ -272,6 +272,9 @@ void paintWallLegend(
     const double width = std::min(
         place.width() * (scale.unitText().isEmpty() ? 1.0 : 0.85), 36.0 * metrics.averageCharWidth() + 200.0);
     const double step = count > 0 ? width / count : 0.0;
+    // Every second number where there is no room for all.
+    const bool isNarrow = std::any_of(scale.steps().cbegin(), scale.steps().cend(),
+        [&](const WallScale::Step &of) { return metrics.horizontalAdvance(of.lower) > step * 0.95; });
     for (int i = 0; i < count; ++i) {
         const WallScale::Step &of = scale.steps().at(i);
         const QRectF box(place.left() + i * step, place.top(), step, line * 0.7);
@@ -281,9 +284,8 @@ void paintWallLegend(
         if (scale.quantity() == WallQuantity::Limit) {
             painter->drawText(QRectF(box.left(), below, step, line), Qt::AlignHCenter | Qt::AlignTop, of.lower);
         } else if (i > 0) {
-            // At the border between two steps; every second one where there is little room.
-            const bool isNarrow = metrics.horizontalAdvance(of.lower) > step * 0.9;
-            if (!isNarrow || i % 2 == 1) {
+            // At the border between two steps.
+            if (!isNarrow || i % 2 == 0) {
                 painter->drawText(
                     QRectF(box.left() - step, below, 2.0 * step, line), Qt::AlignHCenter | Qt::AlignTop, of.lower);
             }

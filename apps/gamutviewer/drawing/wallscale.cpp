@@ -198,7 +198,8 @@ WallScale::WallScale(WallQuantity quantity, const std::vector<CabinetAssessment>
     }
     for (int i = 1; i < stepCount; ++i) {
         const double lower = m_first + (i - 1) * m_width;
-        m_steps[i].lower = numberText(quantity, std::fabs(lower) < m_width * 1e-6 ? 0.0 : lower);
+        const bool isZero = std::fabs(lower) < m_width * 1e-6;
+        m_steps[i].lower = isZero ? QStringLiteral("0") : numberText(quantity, lower);
     }
     m_unit = quantity == WallQuantity::Luminance ? luminanceUnitText(unit) : QString();
 }

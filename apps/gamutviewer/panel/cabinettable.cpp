@@ -80,15 +80,16 @@ void CabinetTable::showSelection()
 //! Each as wide as its header and its widest usual value, whatever is shown: it must not change in a drag.
 void CabinetTable::fitColumns()
 {
-    constexpr int padding = 14;
+    constexpr int padding = 10;
     const QFontMetrics metrics(font());
+    horizontalHeader()->setFont(font());
     QFont bold = font();
     bold.setBold(true);
     const QFontMetrics wide(bold);
     for (int column = 0; column < CabinetModel::ColumnCount; ++column) {
         const QString title = m_model->headerData(column, Qt::Horizontal).toString();
         const int header = QFontMetrics(horizontalHeader()->font()).horizontalAdvance(title);
-        const QString widest = column == CabinetModel::Name ? QStringLiteral("✗ AB12 10/12") : QStringLiteral("0.0000");
+        const QString widest = column == CabinetModel::Name ? QStringLiteral("✗ AB12") : QStringLiteral("0.0000");
         setColumnWidth(column, std::max(header, wide.horizontalAdvance(widest)) + padding);
     }
     verticalHeader()->setDefaultSectionSize(metrics.height() + 6);
