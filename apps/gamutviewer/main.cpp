@@ -3,13 +3,17 @@
 #include "display/messages.h"
 #include "display/report.h"
 #include "display/samples.h"
+#include "display/textreport.h"
 #include "drawing/picture.h"
 #include "editing/openedfiles.h"
 #include "editing/targetsession.h"
 #include "program/commandline.h"
 #include "program/interfacetranslations.h"
 #include "program/platform.h"
+#include "program/wallcommand.h"
 #include "window/viewerwindow.h"
+
+#include <gamutfiles/filebytes.h>
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -28,18 +32,6 @@ int print(const QByteArray &text)
     const bool written = std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout) == std::size_t(text.size())
         && std::fflush(stdout) == 0;
     return written ? Done : Failed;
-}
-
-QByteArray verdictText(const Assessment &assessment)
-{
-    const auto line = [](Judgement judgement, const QString &text) {
-        return QStringLiteral("%1: %2\n").arg(judgementName(judgement), text);
-    };
-    QString text = line(assessment.judgement(), assessment.headline());
-    for (const AssessmentLine &ground : assessment.lines) {
-        text += line(ground.judgement, ground.text);
-    }
-    return text.toUtf8();
 }
 
 ExitStatus statusOf(Judgement judgement)
@@ -65,6 +57,58 @@ ReportNotes notesOf(const OpenedFiles &opened)
     return notes;
 }
 
+ExitStatus writeCorrections(const DisplayDescription &description, const CommandLine &commandLine)
+{
+    const QString fileName = commandLine.correctionsFile();
+    const auto made = corrections(description, commandLine.measurementOptions().cabinet, fileName);
+    if (!made) {
+        printError(QStringLiteral("%1: %2").arg(fileName, made.error()));
+        return WrongInput;
+    }
+    for (const CorrectionsOutput &file : made->files) {
+        const QString error = gamutfiles::writeBytes(file.bytes, file.fileName);
+        if (!error.isEmpty()) {
+            printError(QApplication::translate("main", "%1: cannot be written: %2").arg(file.fileName, error));
+            return Failed;
+        }
+    }
+    for (const QString &note : made->notes) {
+        printError(QStringLiteral("%1: %2").arg(fileName, note));
+    }
+    return Done;
+}
+
+//! \a opened with the wall and the target that the command line asks for.
+Outcome<OpenedFiles> withRequests(const OpenedFiles &opened, const CommandLine &commandLine)
+{
+    OpenedFiles result = opened;
+    if (!commandLine.wallFile().isEmpty()) {
+        const auto wall = withWall(result, commandLine.wallFile(), commandLine.measurementOptions());
+        if (!wall) {
+            return wall;
+        }
+        result = *wall;
+    }
+    if (!commandLine.targetName().isEmpty()) {
+        const auto described = withChosenTarget(result.description, commandLine.targetName());
+        if (!described) {
+            return Outcome<OpenedFiles>::failure(QStringLiteral("--target: ") + described.error());
+        }
+        result.description = *described;
+    }
+    if (commandLine.wantsFit()) {
+        const auto fitted = withTargetFittedToWall(result.description);
+        if (!fitted) {
+            return Outcome<OpenedFiles>::failure(QStringLiteral("--fit: ") + fitted.error());
+        }
+        result.description = fitted->description;
+        for (const QString &note : fitted->notes) {
+            result.warnings.append({QStringLiteral("--fit"), {note, {}, 0, 0}});
+        }
+    }
+    return result;
+}
+
 int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine)
 {
     const DisplayDescription &description = opened.description;
@@ -81,7 +125,17 @@ int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances
             printError(QApplication::translate("main", "%1: has no room for the key").arg(picture));
         }
     }
-    if (commandLine.wantsReport() && print(reportText(description, tolerances, notesOf(opened))) != Done) {
+    if (!commandLine.correctionsFile().isEmpty()) {
+        const ExitStatus status = writeCorrections(description, commandLine);
+        if (status != Done) {
+            return status;
+        }
+    }
+    const auto reportOf = [&] {
+        return commandLine.wantsTextReport() ? textReport(description, tolerances)
+                                             : reportText(description, tolerances, notesOf(opened));
+    };
+    if (commandLine.wantsReport() && print(reportOf()) != Done) {
         printError(QApplication::translate("main", "the report cannot be written to standard output"));
         return Failed;
     }
@@ -155,8 +209,12 @@ int main(int argc, char *argv[])
     }
 
     const QStringList files = commandLine.files();
-    const Outcome<OpenedFiles> opened
-        = openFiles(files.isEmpty() ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
+    const bool isSample = files.isEmpty() && commandLine.wallFile().isEmpty();
+    Outcome<OpenedFiles> opened
+        = openFiles(isSample ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
+    if (opened) {
+        opened = withRequests(*opened, commandLine);
+    }
     if (!opened) {
         printError(opened.error());
         return WrongInput;

@@ -210,6 +210,9 @@ constexpr std::array knownUnits{
     KnownUnit{"cd/sqm", MeasuredUnit::CandelaPerSquareMetre},
     KnownUnit{"cd/qm", MeasuredUnit::CandelaPerSquareMetre},
     KnownUnit{"cd/m2", MeasuredUnit::CandelaPerSquareMetre},
+    // The raised two, saved in an encoding that does not have it, as GBK.
+    KnownUnit{"cd/m?", MeasuredUnit::CandelaPerSquareMetre},
+    KnownUnit{"cd/m\uFFFD", MeasuredUnit::CandelaPerSquareMetre},
     KnownUnit{"cdm2", MeasuredUnit::CandelaPerSquareMetre},
     KnownUnit{"nits", MeasuredUnit::CandelaPerSquareMetre},
     KnownUnit{"nit", MeasuredUnit::CandelaPerSquareMetre},

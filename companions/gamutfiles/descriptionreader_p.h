@@ -46,7 +46,6 @@ private:
     WallCabinet readCabinet(const Node &node);
     Model::Target readMeasured(const Node &node);
     Model::Target readBlack(const Node &node);
-    int readWhole(const Node &node);
 
     DisplayDescription m_description;
 };

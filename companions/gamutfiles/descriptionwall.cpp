@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "descriptionreader_p.h"
 
-#include <cmath>
-#include <limits>
 #include <utility>
 
 namespace gamutfiles {
@@ -47,7 +45,8 @@ WallCabinet DescriptionReader::readCabinet(const Node &node)
     if (!checkObject(node,
             {{QStringLiteral("name"), false}, {QStringLiteral("row"), false}, {QStringLiteral("column"), false},
                 {QStringLiteral("red"), true}, {QStringLiteral("green"), true}, {QStringLiteral("blue"), true},
-                {QStringLiteral("white"), false}, {QStringLiteral("black"), false}})) {
+                {QStringLiteral("white"), false}, {QStringLiteral("black"), false},
+                {QStringLiteral("leftOut"), false}})) {
         return cabinet;
     }
     const auto optional = [this, &node](const QString &key, auto read) {
@@ -68,6 +67,8 @@ WallCabinet DescriptionReader::readCabinet(const Node &node)
     cabinet.blue = color(member(node, QStringLiteral("blue")));
     cabinet.white = optional(QStringLiteral("white"), color);
     cabinet.black = optional(QStringLiteral("black"), [this](const Node &of) { return readBlack(of); });
+    const Node leftOut = member(node, QStringLiteral("leftOut"));
+    cabinet.isLeftOut = checkType(leftOut, QJsonValue::Bool) && leftOut.value.toBool();
     return cabinet;
 }
 
@@ -86,17 +87,6 @@ Model::Target DescriptionReader::readBlack(const Node &node)
     }
     checkObject(node, {{QStringLiteral("Y"), true}});
     return Model::Target();
-}
-
-int DescriptionReader::readWhole(const Node &node)
-{
-    const double number = readNumber(node);
-    const bool isWhole = number == std::floor(number) && number >= double(std::numeric_limits<int>::min())
-        && number <= double(std::numeric_limits<int>::max());
-    if (!isWhole) {
-        fail(node, tr("expected a whole number"));
-    }
-    return isWhole ? int(number) : 0;
 }
 
 } // namespace gamutfiles

@@ -51,6 +51,9 @@ QJsonObject cabinetObject(const WallCabinet &cabinet)
         object.insert(
             QStringLiteral("black"), hasNoLight ? QJsonObject{{QStringLiteral("Y"), black->Y}} : colorObject(*black));
     }
+    if (cabinet.isLeftOut) {
+        object.insert(QStringLiteral("leftOut"), true);
+    }
     return object;
 }
 

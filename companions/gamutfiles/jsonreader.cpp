@@ -9,6 +9,8 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace gamutfiles {
 
@@ -128,6 +130,17 @@ QString JsonReader::readName(const Node &node)
 double JsonReader::readNumber(const Node &node)
 {
     return checkType(node, QJsonValue::Double) ? node.value.toDouble() : 0.0;
+}
+
+int JsonReader::readWhole(const Node &node)
+{
+    const double number = readNumber(node);
+    const bool isWhole = number == std::floor(number) && number >= double(std::numeric_limits<int>::min())
+        && number <= double(std::numeric_limits<int>::max());
+    if (!isWhole) {
+        fail(node, tr("expected a whole number"));
+    }
+    return isWhole ? int(number) : 0;
 }
 
 std::vector<JsonReader::Node> JsonReader::elements(const Node &node)

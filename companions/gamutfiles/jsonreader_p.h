@@ -49,6 +49,7 @@ protected:
     QString readString(const Node &node);
     QString readName(const Node &node);
     double readNumber(const Node &node);
+    int readWhole(const Node &node);
     std::vector<Node> elements(const Node &node);
     static Node member(const Node &node, const QString &key);
 

@@ -62,6 +62,9 @@ struct MeasurementOptions {
      * case; empty: all of them are kept.
      */
     QString cabinet;
+    /*! \brief Whether the list is wanted for its cabinets: nothing is then said of a gamut that it has not as a whole.
+     */
+    bool isWall = false;
 };
 
 } // namespace gamutfiles

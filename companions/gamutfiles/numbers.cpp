@@ -112,6 +112,17 @@ DecimalEvidence decimalEvidence(const QString &text)
     return withPoint ? DecimalEvidence::Point : DecimalEvidence::Comma;
 }
 
+bool isNumber(const QString &text)
+{
+    return decimalEvidence(text) != DecimalEvidence::NotANumber;
+}
+
+bool isDashOrNothing(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(),
+        [](QChar c) { return c.isSpace() || c == QLatin1Char('-') || c == QChar(0x2013) || c == QChar(0x2014); });
+}
+
 std::optional<Number> readNumber(const QString &text, QChar decimalSign)
 {
     const auto spelled = spelling(text, decimalSign);

@@ -25,6 +25,14 @@ enum class DecimalEvidence {
  */
 DecimalEvidence decimalEvidence(const QString &text);
 
+/*! \brief Whether \a text, white space around it aside, is a number with either decimal sign. */
+bool isNumber(const QString &text);
+
+/*! \brief Whether \a text has nothing but white space and dashes, as instruments write it for what they did not
+ * measure.
+ */
+bool isDashOrNothing(const QString &text);
+
 /*! \brief A number that was read. */
 struct Number {
     double value = 0.0; //!< finite

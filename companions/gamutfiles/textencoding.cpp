@@ -95,10 +95,23 @@ std::optional<TextEncoding> utf16WithoutMark(const QByteArray &bytes)
 
 //! What text would be if it were GB18030.
 struct ChineseEvidence {
-    int common = 0; //!< characters of GB 2312: punctuation, full-width forms and the frequent ideographs of its level 1
+    int common = 0; //!< characters of GB 2312 that are frequent, and those that units are written with
     int rare = 0; //!< others
     bool valid = true;
 };
+
+//! Punctuation, full-width forms and the ideographs of level 1 of GB 2312, and the square metre of GBK, U+33A1.
+bool isCommonPair(uint lead, uint trail)
+{
+    const bool isSquareMetre = lead == 0xA9 && trail == 0x4F;
+    return isSquareMetre || (trail >= 0xA1 && ((lead >= 0xB0 && lead <= 0xD7) || (lead >= 0xA1 && lead <= 0xA3)));
+}
+
+//! The raised two of GB18030, which the older GBK does not have.
+bool isRaisedTwo(const QByteArray &bytes, int index)
+{
+    return bytes.mid(index, 4) == QByteArrayLiteral("\x81\x30\x85\x35");
+}
 
 ChineseEvidence chineseEvidence(const QByteArray &bytes)
 {
@@ -114,8 +127,7 @@ ChineseEvidence chineseEvidence(const QByteArray &bytes)
             evidence.valid = false;
             return evidence;
         }
-        const bool frequent = trail >= 0xA1 && ((lead >= 0xB0 && lead <= 0xD7) || (lead >= 0xA1 && lead <= 0xA3));
-        ++(frequent ? evidence.common : evidence.rare);
+        ++(isCommonPair(lead, trail) || isRaisedTwo(bytes, i) ? evidence.common : evidence.rare);
         i += trail <= 0x39 ? 3 : 1;
     }
     return evidence;

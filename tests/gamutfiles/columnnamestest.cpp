@@ -83,7 +83,7 @@ void ColumnNamesTest::units_data()
     };
     rows(MeasuredUnit::CandelaPerSquareMetre,
         {"Lv", "Y (cd/m2)", "Y [cd/m²]", "Y (cd/m^2)", "Y (cd·m⁻²)", "L (cd m-2)", "nits", "Luminance [nit]",
-            "亮度(cd/㎡)", "亮度（尼特）", "Lv / cd/m²", "Y (CD/M2)"});
+            "亮度(cd/㎡)", "亮度（尼特）", "Lv / cd/m²", "Y (CD/M2)", "Y (cd/m?)", "Y (cd/m\uFFFD)"});
     rows(MeasuredUnit::FootLambert, {"fL", "Y (fL)", "Luminance (ft-L)", "Lv (fL)", "L [foot-lamberts]"});
     rows(MeasuredUnit::Relative, {"Y (%)", "Y (rel.)", "Luminance (relative)"});
     rows(MeasuredUnit::NotStated, {"Y", "L", "Luminance", "亮度", "Y (CIE 1931)"});

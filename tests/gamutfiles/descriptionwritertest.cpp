@@ -56,7 +56,7 @@ bool same(const DisplayWall &a, const DisplayWall &b)
             [](const WallCabinet &p, const WallCabinet &q) {
                 return p.name == q.name && p.row == q.row && p.column == q.column && same(p.red, q.red)
                     && same(p.green, q.green) && same(p.blue, q.blue) && same(p.white, q.white)
-                    && same(p.black, q.black);
+                    && same(p.black, q.black) && p.isLeftOut == q.isLeftOut;
             });
 }
 
@@ -115,6 +115,7 @@ DisplayDescription everything()
     cabinet.row.reset();
     cabinet.column.reset();
     cabinet.black = Model::Target(); // no light
+    cabinet.isLeftOut = true;
     description.wall.cabinets.push_back(cabinet);
     return description;
 }

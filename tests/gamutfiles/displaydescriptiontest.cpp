@@ -503,6 +503,8 @@ void DisplayDescriptionTest::refusedWalls_data()
     row("array", described("[]"), "f: wall: expected an object, found an array");
     row("no cabinets", described("{}"), "f: wall.cabinets: missing");
     row("unknown key", described("{\"cabinets\": [], \"rows\": 2}"), "f: wall.rows: unknown key");
+    row("leaving out by a number", withCabinets({a + ", \"leftOut\": 1"}),
+        "f: wall.cabinets[0].leftOut: expected a boolean, found a number");
     row("odd unit", described("{\"cabinets\": [], \"luminanceUnit\": \"fL\"}"),
         "f: wall.luminanceUnit: expected \"cd/m2\" or \"relative\"");
     row("number for a cabinet", described("{\"cabinets\": [1]}"),

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void samePlacesArePartsOfNames();
     void listsWithoutAWall_data();
     void listsWithoutAWall();
+    void nothingIsSaidOfAGamut();
     void everyWallCanBeStored();
     void timeGrowsWithTheCabinets();
 };
@@ -163,6 +164,18 @@ void DisplayWallTest::listsWithoutAWall()
     const auto wall = wallFromMeasurements(text.isEmpty() ? MeasurementList() : listOf(text));
     QVERIFY(!wall);
     QTEST(wall.error(), "error");
+}
+
+void DisplayWallTest::nothingIsSaidOfAGamut()
+{
+    const QByteArray text = header + rgb("A") + rgb("B") + "B,red,0.7,0.29,200\nB,white,0.3,0.3,900\n";
+    MeasurementOptions options;
+    QVERIFY(!readMeasurementList(text, options).warnings().isEmpty());
+    options.isWall = true;
+    const auto list = readMeasurementList(text, options);
+    QCOMPARE(messages(list.warnings()), QStringList());
+    QCOMPARE(messages(wallFromMeasurements(*list).warnings()),
+        QStringList{"cabinets left out, as a colour is there more than once: B"});
 }
 
 // Names and places as lists have them: some without a name, some called as others are with their place.

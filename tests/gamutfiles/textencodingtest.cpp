@@ -73,6 +73,14 @@ void TextEncodingTest::recognizes_data()
     row("GBK", "\xC3\xFB\xB3\xC6,\xC1\xC1\xB6\xC8(cd/\xA9\x4F),\xC9\xAB\xD7\xF8\xB1\xEAx\n\xBA\xEC,1.5,0.31", chinese,
         TextEncoding::Gb18030);
     row("one Chinese character", "\xBA\xEC,1", QStringLiteral("红,1"), TextEncoding::Gb18030);
+    // Latin names, and a unit that is all that tells.
+    row("square metre of GBK alone", "name,Lv(cd/\xA9\x4F),x,y\nred,1,0.6,0.3",
+        QStringLiteral("name,Lv(cd/㎡),x,y\nred,1,0.6,0.3"), TextEncoding::Gb18030);
+    row("raised two of GB18030 alone", "Lv(cd/m\x81\x30\x85\x35),x", QStringLiteral("Lv(cd/m²),x"),
+        TextEncoding::Gb18030);
+    row("raised two in front of each separator",
+        "cd/m\xB2,cd/m\xB2;cd/m\xB2\tcd/m\xB2)cd/m\xB2]cd/m\xB2 \"cd/m\xB2\"\r\n",
+        QStringLiteral("cd/m²,cd/m²;cd/m²\tcd/m²)cd/m²]cd/m² \"cd/m²\"\r\n"), TextEncoding::Windows1252);
     row("four bytes of GB18030", "\xBA\xEC\xB0\xD7\xBA\xEC\xB0\xD7\x81\x30\x84\x36", QStringLiteral("红白红白¥"),
         TextEncoding::Gb18030);
 }

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void construction() { Tests::construction(); }
     void metaObject() { Tests::metaObject("NQCEIEGraphicsView"); }
     void cursorUntilThePointerLeaves() { Tests::cursorUntilThePointerLeaves(); }
+    void scrollBarsGoAtOnce() { Tests::scrollBarsGoAtOnce(); }
     void sceneRectangleIsTheScenes();
 };
 

@@ -4,6 +4,7 @@
 
 #include <QGraphicsView>
 #include <QMetaMethod>
+#include <QScrollBar>
 #include <QTest>
 
 inline const QWidget *leftByTheBase = nullptr;
@@ -60,6 +61,21 @@ struct InnerViewTests {
         QCOMPARE(leftByTheBase, &view);
         QVERIFY(!view.testAttribute(Qt::WA_SetCursor));
         QCOMPARE(view.cursor().shape(), Qt::ArrowCursor);
+    }
+
+    // A picture that a host grabs before the event loop turns would otherwise contain them.
+    static void scrollBarsGoAtOnce()
+    {
+        QGraphicsScene scene;
+        scene.setSceneRect(0, 0, 672, 728);
+        InnerView view(nullptr);
+        view.setScene(&scene);
+        view.resize(300, 200);
+        view.show();
+        scene.setSceneRect(0, 0, 300, 200);
+        QCOMPARE(view.viewport()->size(), QSize(300, 200));
+        QVERIFY(!view.horizontalScrollBar()->isVisible());
+        QVERIFY(!view.verticalScrollBar()->isVisible());
     }
 };
 

@@ -3,6 +3,8 @@
 
 #include "display/assessment.h"
 #include "display/gamutfiles.h"
+#include "display/reportvalues.h"
+#include "display/wallreport.h"
 
 #include <ceiechart/diagram/whitepoint.h>
 #include <gamutmodel/dominantwavelength.h>
@@ -15,26 +17,6 @@ namespace gamutviewer {
 
 namespace {
 
-constexpr Model::Diagram diagrams[] = {Model::Diagram::Cie1931, Model::Diagram::Cie1976};
-
-QString diagramName(Model::Diagram diagram)
-{
-    return diagram == Model::Diagram::Cie1931 ? QStringLiteral("xy") : QStringLiteral("uv");
-}
-
-QJsonValue unitValue(LuminanceUnit unit)
-{
-    switch (unit) {
-    case LuminanceUnit::CandelaPerSquareMetre:
-        return QStringLiteral("cd/m2");
-    case LuminanceUnit::Relative:
-        return QStringLiteral("relative");
-    case LuminanceUnit::NotKnown:
-        break;
-    }
-    return QJsonValue::Null;
-}
-
 QJsonObject colorObject(const Model::Target &target, const Model::Target &white)
 {
     const Model::DiagramPoint uv = Model::toDiagram(Model::Diagram::Cie1976, {target.x, target.y});
@@ -46,17 +28,6 @@ QJsonObject colorObject(const Model::Target &target, const Model::Target &white)
     const auto hue = Model::dominantWavelength({target.x, target.y}, {white.x, white.y});
     object.insert(QStringLiteral("dominantWavelength"), hue ? QJsonValue(hue->wavelength) : QJsonValue::Null);
     object.insert(QStringLiteral("purity"), hue ? QJsonValue(hue->purity) : QJsonValue::Null);
-    return object;
-}
-
-//! One entry for each diagram.
-template <typename Value>
-QJsonObject perDiagram(Value value)
-{
-    QJsonObject object;
-    for (const Model::Diagram diagram : diagrams) {
-        object.insert(diagramName(diagram), value(diagram));
-    }
     return object;
 }
 
@@ -109,29 +80,6 @@ QJsonObject validityObject(const Model::Targets &target, const Model::Targets &o
     name(outside.green, QStringLiteral("green"));
     name(outside.blue, QStringLiteral("blue"));
     return {{QStringLiteral("valid"), validValue(assessment.judgement())}, {QStringLiteral("outside"), names}};
-}
-
-//! The name of \a vertex as keys have it.
-QString colorName(ceiechart::GamutVertex vertex)
-{
-    switch (vertex) {
-    case ceiechart::GamutVertex::Red:
-        return QStringLiteral("red");
-    case ceiechart::GamutVertex::Green:
-        return QStringLiteral("green");
-    case ceiechart::GamutVertex::Blue:
-        return QStringLiteral("blue");
-    case ceiechart::GamutVertex::White:
-        break;
-    }
-    return QStringLiteral("white");
-}
-
-QString primaryName(Model::Primary primary)
-{
-    return colorName(primary == Model::Primary::Red ? ceiechart::GamutVertex::Red
-            : primary == Model::Primary::Green      ? ceiechart::GamutVertex::Green
-                                                    : ceiechart::GamutVertex::Blue);
 }
 
 QString subjectName(AssessmentLine::Subject subject)
@@ -259,6 +207,9 @@ QJsonObject report(
     }
     if (assessment.displays.size() > 1 && target) {
         object.insert(QStringLiteral("measuredDrive"), driveObject(assessment.displays.at(1)));
+    }
+    if (!description.wall.cabinets.empty()) {
+        object.insert(QStringLiteral("wall"), wallReport(description.wall, assessment.wall.get()));
     }
     if (tolerances) {
         object.insert(QStringLiteral("tolerances"),

@@ -2,6 +2,7 @@
 #include "program/commandline.h"
 
 #include "drawing/documentcontent.h"
+#include "program/wallcommand.h"
 
 #include <QFileInfo>
 #include <QMetaEnum>
@@ -89,12 +90,27 @@ CommandLine::CommandLine(const QStringList &arguments)
             .arg(layerNames()),
         tr("list"));
     const QCommandLineOption report(QStringLiteral("report"),
-        tr("Print coverage, colour temperatures and validity without opening a window. The only format is json."),
+        tr("Print coverage, colour temperatures and validity, and what the cabinets of a wall show, without opening a "
+           "window. The format is json, or text for people."),
         tr("format"));
     const QCommandLineOption check(QStringLiteral("check"),
         tr("Judge whether the display in the files can show the target, without opening a window: the exit status "
            "tells "
            "the verdict, and its grounds are printed unless the report is. Requires a file."));
+    const QCommandLineOption wall(QStringLiteral("wall"),
+        tr("The cabinets of the display's LED wall: a measurement list with a column for the cabinet, or a display "
+           "description with a wall."),
+        tr("file"));
+    const QCommandLineOption target(
+        QStringLiteral("target"), tr("The gamut of the files, or the published one, that is the target."), tr("gamut"));
+    const QCommandLineOption fit(QStringLiteral("fit"),
+        tr("Fit the target to the wall: move its primaries towards its white, and lower its luminance, as far as all "
+           "cabinets need."));
+    const QCommandLineOption corrections(QStringLiteral("corrections"),
+        tr("Write the matrices with which the cabinets of the wall show the target, or the one of a single display, to "
+           "<file> without opening a window. The suffix selects csv, json or, for one display or --cabinet, cube: a "
+           "pair of tables."),
+        tr("file"));
     const QCommandLineOption tolerances(QStringLiteral("tolerances"),
         tr("Judge what was measured by the limits in <file> (JSON), and draw them."), tr("file"));
     const auto colorOption = [](const QString &name) {
@@ -109,7 +125,10 @@ CommandLine::CommandLine(const QStringList &arguments)
         tr("The same for white; or sum, for the sum of red, green and blue where the list has no white."),
         tr("measurement"));
     const QCommandLineOption cabinet(QStringLiteral("cabinet"),
-        tr("The cabinet of a measurement list that has several: its name, or <row>/<column>."), tr("cabinet"));
+        tr("The cabinet of a measurement list that has several, or the only one that --corrections is for: its name, "
+           "or "
+           "<row>/<column>."),
+        tr("cabinet"));
     const QCommandLineOption unit(
         QStringLiteral("unit"), tr("Unit of the luminances in a measurement list: cd/m2, fL or relative."), tr("unit"));
     const QCommandLineOption decimal(
@@ -127,12 +146,12 @@ CommandLine::CommandLine(const QStringList &arguments)
         tr("Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any "
            "number of the others, which are added to it. Without files, a sample is opened."),
         tr("[file...]"));
-    m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, tolerances, red, green, blue, white,
-        cabinet, unit, decimal, help, version});
+    m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, wall, target, fit, corrections,
+        tolerances, red, green, blue, white, cabinet, unit, decimal, help, version});
 
     const bool understood = m_parser.parse(arguments);
     m_needsDisplay = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(check)
-        && !m_parser.isSet(help) && !m_parser.isSet(version);
+        && !m_parser.isSet(corrections) && !m_parser.isSet(help) && !m_parser.isSet(version);
     if (m_parser.isSet(help)) {
         m_action = Action::Help;
         return;
@@ -181,9 +200,22 @@ CommandLine::CommandLine(const QStringList &arguments)
         refuse(tr("--size requires --render when used with --check."));
     }
     m_wantsCheck = m_parser.isSet(check);
-    if (m_wantsCheck && m_files.isEmpty()) {
+    if (m_wantsCheck && m_files.isEmpty() && !m_parser.isSet(wall)) {
         // The verdict on the sample would be mistaken for one on a display.
         refuse(tr("No file to check: --check requires one."));
+    }
+    const auto value = [this](const QCommandLineOption &option) {
+        const QString text = m_parser.value(option);
+        if (m_parser.isSet(option) && text.isEmpty()) {
+            refuse(tr("The value of --%1 is empty.").arg(option.names().first()));
+        }
+        return text;
+    };
+    m_wallFile = value(wall);
+    m_targetName = value(target);
+    m_wantsFit = m_parser.isSet(fit);
+    if (m_parser.isSet(corrections)) {
+        readCorrections(value(corrections));
     }
     if (m_parser.isSet(tolerances)) {
         m_tolerancesFile = m_parser.value(tolerances);
@@ -384,9 +416,22 @@ void CommandLine::readLayers(const QString &list)
 
 void CommandLine::readReport(const QString &format)
 {
-    m_wantsReport = format == QLatin1String("json");
+    m_wantsTextReport = format == QLatin1String("text");
+    m_wantsReport = m_wantsTextReport || format == QLatin1String("json");
     if (!m_wantsReport) {
-        refuse(tr("Unsupported report format, expected json: %1").arg(format));
+        refuse(tr("Unsupported report format, expected json or text: %1").arg(format));
+    }
+}
+
+void CommandLine::readCorrections(const QString &fileName)
+{
+    m_correctionsFile = fileName;
+    if (!fileName.isEmpty() && !correctionsFormat(fileName)) {
+        refuse(tr("Unsupported format of corrections, expected csv, json or cube: %1").arg(fileName));
+    }
+    if (m_files.isEmpty() && m_wallFile.isEmpty()) {
+        // Those of the sample would be loaded into another display.
+        refuse(tr("No file to correct by: --corrections requires one, or --wall."));
     }
 }
 

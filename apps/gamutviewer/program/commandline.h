@@ -53,8 +53,18 @@ public:
     bool hasSize() const { return m_hasSize; }
     /*! \brief Whether Write writes the report to the standard output. */
     bool wantsReport() const { return m_wantsReport; }
+    /*! \brief Whether that is the report for people; otherwise it is JSON. */
+    bool wantsTextReport() const { return m_wantsTextReport; }
     /*! \brief Whether Write judges the display, and the exit status is to tell the verdict. */
     bool wantsCheck() const { return m_wantsCheck; }
+    /*! \brief The file with the wall; empty for none but that of the files. */
+    QString wallFile() const { return m_wallFile; }
+    /*! \brief The name of the gamut that is to be the target; empty for that of the files. */
+    QString targetName() const { return m_targetName; }
+    /*! \brief Whether the target is to be fitted to the wall. */
+    bool wantsFit() const { return m_wantsFit; }
+    /*! \brief Where Write writes the corrections to; empty for none. */
+    QString correctionsFile() const { return m_correctionsFile; }
     /*! \brief The file of tolerances; empty for none. */
     QString tolerancesFile() const { return m_tolerancesFile; }
     /*! \brief Needs the application to exist. */
@@ -75,6 +85,7 @@ private:
     void readLayers(const QString &list);
     void readMeasurementOptions();
     void readReport(const QString &format);
+    void readCorrections(const QString &fileName);
 
     QCommandLineParser m_parser;
     Action m_action = Action::Show;
@@ -92,7 +103,12 @@ private:
     bool m_hasKey = true;
     bool m_hasSize = false;
     bool m_wantsReport = false;
+    bool m_wantsTextReport = false;
     bool m_wantsCheck = false;
+    QString m_wallFile;
+    QString m_targetName;
+    bool m_wantsFit = false;
+    QString m_correctionsFile;
     QString m_tolerancesFile;
     bool m_needsDisplay = true;
 };

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "display/textreport.h"
+
+#include "display/valuetexts.h"
+#include "display/wallassessment.h"
+
+#include <gamutmodel/gamutcoverage.h>
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+namespace {
+
+struct ReportText {
+    Q_DECLARE_TR_FUNCTIONS(gamutviewer::TextReport)
+};
+
+using Row = QVector<QString>;
+
+QString judgementLine(Judgement judgement, const QString &text)
+{
+    return QStringLiteral("%1: %2").arg(judgementName(judgement), text);
+}
+
+QStringList verdictLines(const Assessment &assessment)
+{
+    QStringList lines{judgementLine(assessment.judgement(), assessment.headline())};
+    for (const AssessmentLine &ground : assessment.lines) {
+        lines.append(judgementLine(ground.judgement, ground.text));
+    }
+    return lines;
+}
+
+//! \a rows with the columns below each other; the last one is not filled up.
+QStringList aligned(const QVector<Row> &rows)
+{
+    Row::size_type columns = 0;
+    for (const Row &row : rows) {
+        columns = std::max(columns, row.size());
+    }
+    QVector<int> widths(columns, 0);
+    for (const Row &row : rows) {
+        for (Row::size_type i = 0; i < row.size(); ++i) {
+            widths[i] = std::max(widths[i], int(row.at(i).size()));
+        }
+    }
+    QStringList lines;
+    for (const Row &row : rows) {
+        QString line;
+        for (Row::size_type i = 0; i < row.size(); ++i) {
+            line += i + 1 < row.size() ? row.at(i).leftJustified(widths[i] + 2) : row.at(i);
+        }
+        lines.append(line);
+    }
+    return lines;
+}
+
+QString pointText(const Model::Target &color)
+{
+    return QStringLiteral("%1 %2").arg(
+        fixedText(color.x, chromaticityDecimals), fixedText(color.y, chromaticityDecimals));
+}
+
+QStringList gamutLines(const DisplayDescription &description)
+{
+    const std::pair<QString, QString> parts[]
+        = {{ReportText::tr("declared"), description.declared}, {ReportText::tr("original"), description.original},
+            {ReportText::tr("measured"), description.measured}, {ReportText::tr("target"), description.target}};
+    QVector<Row> rows{{QString(), ReportText::tr("gamut"), ReportText::tr("red x y"), ReportText::tr("green x y"),
+        ReportText::tr("blue x y"), ReportText::tr("white x y"), ReportText::tr("luminance of white")}};
+    for (const auto &part : parts) {
+        if (const auto gamut = description.gamut(part.second)) {
+            const Model::Targets &t = gamut->getTargets();
+            rows.append({part.first, oneLine(part.second), pointText(t.red), pointText(t.green), pointText(t.blue),
+                pointText(t.white), luminanceText(t.white.Y, gamut->unit)});
+        }
+    }
+    return rows.size() > 1 ? aligned(rows) : QStringList();
+}
+
+QString uvText(const std::optional<double> &value)
+{
+    return value ? fixedText(*value, chromaticityDecimals) : undefinedText();
+}
+
+QString pairText(const DisplayWall &wall, const std::optional<Model::CabinetPair> &pair, const QString &difference)
+{
+    return pair
+        ? QStringLiteral("%1 (%2, %3)").arg(difference, cabinetName(wall, pair->first), cabinetName(wall, pair->second))
+        : undefinedText();
+}
+
+QStringList uniformityLines(const DisplayWall &wall, const WallAssessment &assessment)
+{
+    const auto uv = [&wall](const std::optional<Model::CabinetPair> &pair) {
+        return pairText(wall, pair, pair ? fixedText(pair->difference, chromaticityDecimals) : QString());
+    };
+    const auto luminance = [&wall](const std::optional<Model::CabinetPair> &pair) {
+        return pairText(wall, pair, pair ? percent(pair->difference) : QString());
+    };
+    const Model::Uniformity &before = assessment.before;
+    const Model::Uniformity &after = assessment.after;
+    return aligned({{ReportText::tr("difference of whites"), ReportText::tr("without corrections"),
+                        ReportText::tr("with corrections")},
+        {ReportText::tr("Δu′v′, any two"), uv(before.chromaticity), uv(after.chromaticity)},
+        {ReportText::tr("Δu′v′, neighbours"), uv(before.neighborChromaticity), uv(after.neighborChromaticity)},
+        {ReportText::tr("luminance, any two"), luminance(before.luminance), luminance(after.luminance)},
+        {ReportText::tr("luminance, neighbours"), luminance(before.neighborLuminance),
+            luminance(after.neighborLuminance)}});
+}
+
+QStringList cabinetLines(const DisplayWall &wall, const WallAssessment &assessment)
+{
+    QVector<Row> rows{{ReportText::tr("cabinet"), ReportText::tr("shows the target"), ReportText::tr("limit"),
+        ReportText::tr("largest white, %1").arg(luminanceUnitText(wall.unit)), ReportText::tr("headroom"),
+        ReportText::tr("Δu′v′ without correction"), ReportText::tr("with correction")}};
+    for (const std::size_t i : assessment.worstFirst) {
+        const CabinetAssessment &cabinet = assessment.cabinets[i];
+        rows.append(
+            {cabinetName(wall, i), cabinet.isLeftOut ? ReportText::tr("left out") : judgementName(cabinet.judgement),
+                cabinet.limit ? gamutVertexName(*cabinet.limit) : undefinedText(),
+                cabinet.largestWhite ? luminanceText(*cabinet.largestWhite) : undefinedText(),
+                cabinet.headroom ? percent(*cabinet.headroom) : undefinedText(), uvText(cabinet.uvBefore),
+                uvText(cabinet.uvAfter)});
+    }
+    return aligned(rows);
+}
+
+} // namespace
+
+QByteArray verdictText(const Assessment &assessment)
+{
+    return (verdictLines(assessment).join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8();
+}
+
+QByteArray textReport(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+{
+    const Assessment assessment = assess(description, tolerances);
+    QVector<QStringList> blocks{description.name.isEmpty() ? QStringList() : QStringList(oneLine(description.name)),
+        gamutLines(description), verdictLines(assessment)};
+    if (!description.wall.cabinets.empty() && assessment.wall) {
+        QStringList remarks;
+        for (const WallLine &line : assessment.wall->lines) {
+            if (!line.judgement) {
+                remarks.append(line.text);
+            }
+        }
+        blocks.append(remarks);
+        blocks.append(uniformityLines(description.wall, *assessment.wall));
+        blocks.append(cabinetLines(description.wall, *assessment.wall));
+    }
+    QStringList texts;
+    for (const QStringList &block : qAsConst(blocks)) {
+        if (!block.isEmpty()) {
+            texts.append(block.join(QLatin1Char('\n')));
+        }
+    }
+    return (texts.join(QStringLiteral("\n\n")) + QLatin1Char('\n')).toUtf8();
+}
+
+} // namespace gamutviewer

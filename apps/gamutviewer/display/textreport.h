@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_TEXTREPORT_H
+#define GAMUTVIEWER_TEXTREPORT_H
+
+#include "display/assessment.h"
+#include "display/gamutfiles.h"
+
+#include <QByteArray>
+
+#include <optional>
+
+namespace gamutviewer {
+
+/*! \brief The verdict and its grounds: a line each, with the judgement in front. */
+QByteArray verdictText(const Assessment &assessment);
+
+/*!
+ * \brief The report for people: the gamuts of \a description, the verdict, and a table of the cabinets of a wall, those
+ * first that fail. In UTF-8, with a line end at the end.
+ */
+QByteArray textReport(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt);
+
+} // namespace gamutviewer
+
+#endif

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_WALLREPORT_H
+#define GAMUTVIEWER_WALLREPORT_H
+
+#include "display/gamutfiles.h"
+
+#include <QJsonObject>
+
+namespace gamutviewer {
+
+struct WallAssessment;
+
+/*!
+ * \brief The report on \a wall: what \a assessment says of it and of each cabinet; docs/gamut-viewer.md describes the
+ * keys. Without an assessment, as where there is no target, only what is measured.
+ */
+QJsonObject wallReport(const DisplayWall &wall, const WallAssessment *assessment);
+
+} // namespace gamutviewer
+
+#endif

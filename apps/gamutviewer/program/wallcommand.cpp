@@ -1,0 +1,374 @@
+// SPDX-License-Identifier: MIT
+#include "program/wallcommand.h"
+
+#include "display/assessment.h"
+#include "display/valuetexts.h"
+#include "display/wallassessment.h"
+#include "editing/targetedits.h"
+
+#include <gamutfiles/correctionsfile.h>
+#include <gamutfiles/cubepair.h>
+#include <gamutmodel/publishedgamuts.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+namespace {
+
+struct CommandText {
+    Q_DECLARE_TR_FUNCTIONS(gamutviewer::WallCommand)
+};
+
+constexpr int namedCabinets = 4; // in a note
+
+//! What a name on the command line stands for: the only one of \a names that is it, in any case of letters.
+std::optional<QString> meantName(const QStringList &names, const QString &wanted)
+{
+    if (names.contains(wanted)) {
+        return wanted;
+    }
+    const QStringList found
+        = names.filter(QRegularExpression(QRegularExpression::anchoredPattern(QRegularExpression::escape(wanted)),
+            QRegularExpression::CaseInsensitiveOption));
+    return found.size() == 1 ? std::make_optional(found.first()) : std::nullopt;
+}
+
+QStringList gamutNames(const DisplayDescription &description)
+{
+    QStringList names;
+    for (const DisplayGamut &gamut : description.gamuts) {
+        names.append(QString::fromStdString(gamut.colorGamutName()));
+    }
+    for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
+        names.append(QString::fromStdString(published.gamut.colorGamutName()));
+    }
+    names.removeDuplicates();
+    return names;
+}
+
+//! The index of the only cabinet that is called \a wanted.
+Outcome<std::size_t> cabinetCalled(const DisplayWall &wall, const QString &wanted)
+{
+    using Failure = Outcome<std::size_t>;
+    std::vector<std::size_t> found;
+    const auto find = [&](auto nameOf) {
+        for (std::size_t i = 0; i < wall.cabinets.size() && found.size() < 2; ++i) {
+            if (nameOf(wall.cabinets[i]).compare(wanted, Qt::CaseInsensitive) == 0) {
+                found.push_back(i);
+            }
+        }
+    };
+    find([](const WallCabinet &cabinet) { return cabinet.label(); });
+    if (found.empty()) {
+        find([](const WallCabinet &cabinet) { return cabinet.name; });
+    }
+    if (found.empty()) {
+        find([](const WallCabinet &cabinet) { return cabinetLabel(QString(), cabinet.row, cabinet.column); });
+    }
+    if (found.empty()) {
+        return Failure::failure(CommandText::tr("no cabinet of the wall is called \"%1\"").arg(oneLine(wanted)));
+    }
+    if (found.size() > 1) {
+        return Failure::failure(CommandText::tr("several cabinets are called \"%1\": %2 and %3, for example")
+                                    .arg(oneLine(wanted), cabinetName(wall, found[0]), cabinetName(wall, found[1])));
+    }
+    return found.front();
+}
+
+QString namesOf(const DisplayWall &wall, const std::vector<std::size_t> &cabinets)
+{
+    QStringList names;
+    for (std::size_t i = 0; i < cabinets.size() && i < namedCabinets; ++i) {
+        names.append(cabinetName(wall, cabinets[i]));
+    }
+    const QString text = names.join(QStringLiteral(", "));
+    return cabinets.size() > namedCabinets ? CommandText::tr("%1 and %2 more", "names of cabinets and a number")
+                                                 .arg(text)
+                                                 .arg(cabinets.size() - namedCabinets)
+                                           : text;
+}
+
+//! What is to be corrected: a wall, or a single display as a wall of one.
+struct Corrected {
+    DisplayWall wall;
+    Model::WallCorrection solved;
+    bool luminancesCompare = false;
+    std::vector<std::size_t> notAdditive; //!< the cabinets whose white is not the sum of their primaries
+};
+
+Corrected correctedWall(const DisplayWall &wall, const DisplayGamut &target)
+{
+    const WallAssessment assessment = assessWall(wall, target);
+    Corrected result{wall, assessment.correction, assessment.luminancesCompare, {}};
+    for (std::size_t i = 0; i < assessment.cabinets.size(); ++i) {
+        if (!assessment.cabinets[i].isAdditive) {
+            result.notAdditive.push_back(i);
+        }
+    }
+    return result;
+}
+
+//! The gamut that was measured is what a correction is for; the original is what a maker states.
+std::optional<DisplayWall> singleDisplay(const DisplayDescription &description)
+{
+    const auto measured = description.gamut(description.measured);
+    const auto gamut = measured ? measured : description.gamut(description.original);
+    if (!gamut) {
+        return std::nullopt;
+    }
+    const Model::Targets &targets = gamut->getTargets();
+    WallCabinet cabinet;
+    cabinet.name = QString::fromStdString(gamut->colorGamutName());
+    cabinet.red = targets.red;
+    cabinet.green = targets.green;
+    cabinet.blue = targets.blue;
+    cabinet.white = targets.white;
+    DisplayWall wall;
+    wall.unit = gamut->unit;
+    wall.cabinets.push_back(cabinet);
+    return wall;
+}
+
+void keepOnly(std::size_t cabinet, Corrected &corrected)
+{
+    corrected.wall.cabinets = {corrected.wall.cabinets[cabinet]};
+    corrected.solved.corrections = {corrected.solved.corrections[cabinet]};
+    const bool isNotAdditive
+        = std::find(corrected.notAdditive.begin(), corrected.notAdditive.end(), cabinet) != corrected.notAdditive.end();
+    corrected.notAdditive.clear();
+    if (isNotAdditive) {
+        corrected.notAdditive.push_back(0);
+    }
+}
+
+bool showsTarget(const Model::CorrectionMatrix &matrix)
+{
+    const Model::Drive white = matrix.driveFor({1.0, 1.0, 1.0});
+    return Model::entriesBelowZero(matrix).empty() && Model::entriesAboveOne(matrix).empty()
+        && !Model::isTooBright(white);
+}
+
+QStringList notesOn(const Corrected &corrected, bool isWall)
+{
+    QStringList notes;
+    if (!corrected.luminancesCompare) {
+        const QString white = luminanceText(corrected.solved.target.white.Y, corrected.wall.unit);
+        notes.append(isWall ? CommandText::tr("the corrections are for a white of %1, the largest that all cabinets "
+                                              "reach, as the luminance of the target cannot be compared with theirs")
+                                  .arg(white)
+                            : CommandText::tr("the correction is for a white of %1, the largest that the display "
+                                              "reaches, as the luminance of the target cannot be compared with it")
+                                  .arg(white));
+    }
+    std::vector<std::size_t> beyond;
+    std::vector<std::size_t> without;
+    for (std::size_t i = 0; i < corrected.solved.corrections.size(); ++i) {
+        const auto &matrix = corrected.solved.corrections[i].matrix;
+        if (!matrix) {
+            without.push_back(i);
+        } else if (!showsTarget(*matrix)) {
+            beyond.push_back(i);
+        }
+    }
+    if (!without.empty()) {
+        notes.append(CommandText::tr("cabinets without a correction: %1").arg(namesOf(corrected.wall, without)));
+    }
+    if (!beyond.empty()) {
+        notes.append(
+            CommandText::tr("cabinets that do not show the target even so, as drives are below 0 or above 1: %1")
+                .arg(namesOf(corrected.wall, beyond)));
+    }
+    if (!corrected.notAdditive.empty()) {
+        notes.append(CommandText::tr("cabinets whose measured white is not the sum of their primaries, for which the "
+                                     "corrections are: %1")
+                         .arg(namesOf(corrected.wall, corrected.notAdditive)));
+    }
+    return notes;
+}
+
+Outcome<QVector<CorrectionsOutput>> tableFiles(const WallCorrections &corrections, const QString &fileName)
+{
+    using Failure = Outcome<QVector<CorrectionsOutput>>;
+    if (corrections.cabinets.size() > 1) {
+        return Failure::failure(CommandText::tr(
+            "a pair of tables is for one display: choose a cabinet by --cabinet, or write csv or json"));
+    }
+    const CabinetCorrection &cabinet = corrections.cabinets.front();
+    const auto pair = cubePair(*cabinet.matrix);
+    if (!pair) {
+        return Failure::failure(CommandText::tr("%1; csv and json have the matrix as it is").arg(pair.error()));
+    }
+    const QFileInfo file(fileName);
+    const QString base = file.path() == QLatin1String(".") && !fileName.startsWith(QLatin1String("./"))
+        ? file.completeBaseName()
+        : file.path() + QLatin1Char('/') + file.completeBaseName();
+    const QString title = cabinet.label() + QStringLiteral(": ") + corrections.target.name;
+    return QVector<CorrectionsOutput>{{base + QStringLiteral("-3x3.cube"), matrixCube(*pair, title)},
+        {base + QStringLiteral("-1d.cube"), gainsCube(*pair, title)}};
+}
+
+} // namespace
+
+Outcome<OpenedFiles> withWall(const OpenedFiles &opened, const QString &fileName, MeasurementOptions options)
+{
+    using Failure = Outcome<OpenedFiles>;
+    const auto failure = [&fileName](const Problem &problem) { return Failure::failure(problem.message(fileName)); };
+    options.cabinet.clear();
+    options.isWall = true;
+    const auto file = readGamutFile(fileName, options);
+    if (!file) {
+        return failure(file.problem());
+    }
+    OpenedFiles result = opened;
+    QVector<Problem> warnings = file.warnings();
+    DisplayWall wall = file->description.wall;
+    if (file->content == GamutFile::Content::Measurements) {
+        const auto measured = wallFromMeasurements(file->measurements);
+        if (!measured) {
+            return failure(measured.problem());
+        }
+        wall = *measured;
+        warnings += measured.warnings();
+        result.hasLists = true;
+        if (file->measurements.recognized.unit == MeasuredUnit::NotKnown) {
+            result.needsChoice = true;
+        }
+    }
+    if (wall.cabinets.empty()) {
+        return failure({CommandText::tr("has no wall: that is in a measurement list with a column for the cabinet, or "
+                                        "in a display description"),
+            {}, 0, 0});
+    }
+    if (!opened.description.wall.cabinets.empty()) {
+        warnings.append({CommandText::tr("takes the place of the wall that there was"), {}, 0, 0});
+    }
+    for (const Problem &warning : warnings) {
+        result.warnings.append({fileName, warning});
+    }
+    result.description.wall = wall;
+    result.fileNames.append(fileName);
+    return result;
+}
+
+Outcome<DisplayDescription> withChosenTarget(const DisplayDescription &description, const QString &gamutName)
+{
+    using Failure = Outcome<DisplayDescription>;
+    const QStringList names = gamutNames(description);
+    const auto meant = meantName(names, gamutName);
+    if (!meant) {
+        return Failure::failure(CommandText::tr("there is no gamut called \"%1\" for the target; there are %2")
+                                    .arg(oneLine(gamutName), oneLine(names.join(QStringLiteral(", ")))));
+    }
+    if (!canBeTarget(description.gamut(*meant)->getTargets())) {
+        return Failure::failure(CommandText::tr("no display can show \"%1\"").arg(oneLine(*meant)));
+    }
+    return withTargetNamed(description, *meant);
+}
+
+Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &description)
+{
+    using Failure = Outcome<FittedTarget>;
+    const auto target = description.gamut(description.target);
+    if (description.wall.cabinets.empty() || !target) {
+        return Failure::failure(target ? CommandText::tr("there is no wall to fit the target to")
+                                       : CommandText::tr("there is no target to fit to the wall"));
+    }
+    const WallAssessment assessment = assessWall(description.wall, *target);
+    const auto fitted = fittedToWall(*target, assessment);
+    if (!fitted) {
+        const QString problem = fitProblem(description.wall, assessment);
+        if (!problem.isEmpty()) {
+            return Failure::failure(problem);
+        }
+        return FittedTarget{
+            description, {CommandText::tr("the target fits the wall as it is, as far as that is known")}};
+    }
+    FittedTarget result{withEditedTarget(description, *fitted), {}};
+    const struct {
+        const Model::FittedPrimary &primary;
+        QString name;
+    } primaries[] = {{assessment.fit.red, CommandText::tr("red")}, {assessment.fit.green, CommandText::tr("green")},
+        {assessment.fit.blue, CommandText::tr("blue")}};
+    QStringList parts;
+    for (const auto &of : primaries) {
+        if (of.primary.limit) {
+            parts.append(CommandText::tr("%1 by Δu′v′ %2 (%3 is the limit)", "primary, how far, and cabinet")
+                             .arg(of.name, fixedText(of.primary.moved, chromaticityDecimals),
+                                 cabinetName(description.wall, *of.primary.limit)));
+        }
+    }
+    if (!parts.isEmpty()) {
+        result.notes.append(CommandText::tr("fitted to the wall, the target has moved towards its white: %1")
+                                .arg(parts.join(QStringLiteral(", "))));
+    }
+    if (fitted->white.Y != target->getTargets().white.Y) {
+        result.notes.append(CommandText::tr("fitted to the wall, the target has a white of %1 instead of %2")
+                                .arg(luminanceText(fitted->white.Y, target->unit),
+                                    luminanceText(target->getTargets().white.Y, target->unit)));
+    }
+    return result;
+}
+
+std::optional<CorrectionsFormat> correctionsFormat(const QString &fileName)
+{
+    const QString suffix = QFileInfo(fileName).suffix().toLower();
+    return suffix == QLatin1String("csv") ? std::make_optional(CorrectionsFormat::Csv)
+        : suffix == QLatin1String("json") ? std::make_optional(CorrectionsFormat::Json)
+        : suffix == QLatin1String("cube") ? std::make_optional(CorrectionsFormat::Cube)
+                                          : std::nullopt;
+}
+
+Outcome<CorrectionsOutputs> corrections(
+    const DisplayDescription &description, const QString &cabinet, const QString &fileName)
+{
+    using Failure = Outcome<CorrectionsOutputs>;
+    const auto target = description.gamut(description.target);
+    if (!target) {
+        return Failure::failure(
+            CommandText::tr("there is no target, which corrections are for: choose one by --target"));
+    }
+    const bool isWall = !description.wall.cabinets.empty();
+    const auto wall = isWall ? std::make_optional(description.wall) : singleDisplay(description);
+    if (!wall) {
+        return Failure::failure(
+            CommandText::tr("there is nothing to correct: no wall, and no measured or original gamut"));
+    }
+    Corrected corrected = correctedWall(*wall, *target);
+    if (isWall && !cabinet.isEmpty()) {
+        const auto found = cabinetCalled(*wall, cabinet);
+        if (!found) {
+            return Failure::failure(found.problem());
+        }
+        keepOnly(*found, corrected);
+    }
+    const auto made = wallCorrections(corrected.wall, corrected.solved, description.target);
+    if (!made) {
+        return Failure::failure(made.problem());
+    }
+    CorrectionsOutputs outputs;
+    outputs.notes = notesOn(corrected, isWall);
+    switch (correctionsFormat(fileName).value_or(CorrectionsFormat::Csv)) {
+    case CorrectionsFormat::Csv:
+        outputs.files = {{fileName, correctionsCsv(*made)}};
+        break;
+    case CorrectionsFormat::Json:
+        outputs.files = {{fileName, correctionsJson(*made)}};
+        break;
+    case CorrectionsFormat::Cube: {
+        const auto files = tableFiles(*made, fileName);
+        if (!files) {
+            return Failure::failure(files.problem());
+        }
+        outputs.files = *files;
+        break;
+    }
+    }
+    return outputs;
+}
+
+} // namespace gamutviewer

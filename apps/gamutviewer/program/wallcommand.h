@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_WALLCOMMAND_H
+#define GAMUTVIEWER_WALLCOMMAND_H
+
+#include "display/gamutfiles.h"
+#include "editing/openedfiles.h"
+
+#include <QString>
+#include <QStringList>
+
+/*!
+ * \file
+ * \brief What the command line does with a wall: reads it, fits the target to it and writes its corrections.
+ *
+ * Failures and notes are lines for the standard error stream, without the name of the program.
+ */
+namespace gamutviewer {
+
+/*!
+ * \brief \a opened with the wall in the file \a fileName: a measurement list with a column for the cabinet, read by
+ * \a options without their cabinet, or a display description with a wall.
+ *
+ * A wall that was there gives way, with a warning. Of a description only the wall is taken.
+ */
+Outcome<OpenedFiles> withWall(const OpenedFiles &opened, const QString &fileName, MeasurementOptions options);
+
+/*!
+ * \brief \a description with the gamut \a gamutName for its target: one of its own, or a published one, in any case
+ * of letters where that is clear.
+ */
+Outcome<DisplayDescription> withChosenTarget(const DisplayDescription &description, const QString &gamutName);
+
+/*! \brief A description with a changed target, and what to tell of it. */
+struct FittedTarget {
+    DisplayDescription description; //!< with the target as it is now
+    QStringList notes; //!< what became of the target
+};
+
+/*! \brief \a description with its target fitted to its wall. A failure without either, or if it cannot be fitted. */
+Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &description);
+
+/*! \brief How corrections are written. */
+enum class CorrectionsFormat {
+    Csv, //!< correctionsCsv()
+    Json, //!< correctionsJson()
+    Cube //!< a pair of tables, matrixCube() and gainsCube(), for one cabinet or display
+};
+
+/*! \brief The format that the suffix of \a fileName names; nothing if it names none. */
+std::optional<CorrectionsFormat> correctionsFormat(const QString &fileName);
+
+/*! \brief A file to write. */
+struct CorrectionsOutput {
+    QString fileName; //!< where to
+    QByteArray bytes; //!< what
+};
+
+/*! \brief The files that corrections are written to, and what a user must know of them. */
+struct CorrectionsOutputs {
+    QVector<CorrectionsOutput> files; //!< one, or the two of a pair of tables
+    QStringList notes; //!< for example, for which luminance they are
+};
+
+/*!
+ * \brief The corrections with which the wall of \a description shows its target, or, without a wall, its measured gamut
+ * or else its original.
+ *
+ * \param cabinet the only cabinet of the wall that is wanted, by its label or its name, in any case; empty: all
+ * \param fileName names the format by its suffix. A pair of tables is written to two files beside it.
+ */
+Outcome<CorrectionsOutputs> corrections(
+    const DisplayDescription &description, const QString &cabinet, const QString &fileName);
+
+} // namespace gamutviewer
+
+#endif

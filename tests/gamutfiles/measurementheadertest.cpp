@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: MIT
+#include "measurementmessages.h"
+
+#include <QtTest>
+
+#include <cmath>
+
+using namespace gamutfiles;
+
+class MeasurementHeaderTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void headerOrdersTheColumns();
+    void systemsOfCoordinates_data();
+    void systemsOfCoordinates();
+    void luminanceOfTwoColumns();
+    void surestLuminance_data();
+    void surestLuminance();
+    void lightnessIsNoLuminance();
+    void otherObserver();
+    void textBeforeTheHeader();
+    void units_data();
+    void units();
+    void footLamberts();
+    void statedUnit();
+    void lineOfUnits();
+    void lineOfUnitsBelowUnits();
+    void doubledColumn();
+    void namelessLines();
+};
+
+void MeasurementHeaderTest::headerOrdersTheColumns()
+{
+    const auto list = readMeasurementList("time,x,y,NAME,Y\n12:00,0.3,0.32,white,90\n");
+    QVERIFY2(list, qPrintable(list.error()));
+    const Measurement &white = list->measurements[0];
+    QCOMPARE(white.name, QStringLiteral("white"));
+    QVERIFY(white.color && white.color->Y == 90.0 && white.color->x == 0.3 && white.color->y == 0.32);
+}
+
+void MeasurementHeaderTest::systemsOfCoordinates_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    // D65 at 100 cd/m2: x 0.3127, y 0.329, u' 0.19783, v' 0.46832, X 95.0456, Z 108.9058.
+    QTest::newRow("x, y, Y") << QByteArray("name,x,y,Y\nwhite,0.3127,0.3290,100\n");
+    QTest::newRow("u', v', Y") << QByteArray("name,Lv,u',v'\nwhite,100,0.1978300066,0.4683199949\n");
+    QTest::newRow("primes") << QByteArray("name;Lv;CIE u′;CIE v′\nwhite;100;0,1978300066;0,4683199949\n");
+    QTest::newRow("X, Y, Z") << QByteArray("name,X,Y,Z\nwhite,95.0455927,100,108.9057751\n");
+    QTest::newRow("XYZ and xy") << QByteArray("name,X,Y,Z,x,y\nwhite,1,100,1,0.3127,0.3290\n");
+    QTest::newRow("xy and u'v'") << QByteArray("name,u',v',Y,x,y\nwhite,0.1,0.1,100,0.3127,0.3290\n");
+    QTest::newRow("relative XYZ and Lv") << QByteArray("name,X,Y,Z,Lv\nwhite,.950455927,1,1.089057751,100\n");
+    QTest::newRow("field names of CGATS")
+        << QByteArray("SAMPLE_NAME\tXYY_X\tXYY_Y\tXYY_CAPY\nwhite\t0,3127\t0,3290\t100\n");
+    QTest::newRow("Chinese") << QByteArray("名称,亮度,色坐标x,色坐标y\nwhite,100,0.3127,0.3290\n");
+}
+
+void MeasurementHeaderTest::systemsOfCoordinates()
+{
+    QFETCH(QByteArray, text);
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    const auto &color = list->measurements[0].color;
+    QVERIFY(color);
+    QVERIFY(std::abs(color->Y - 100.0) < 1e-9);
+    QVERIFY(std::abs(color->x - 0.3127) < 1e-8 && std::abs(color->y - 0.329) < 1e-8);
+}
+
+void MeasurementHeaderTest::luminanceOfTwoColumns()
+{
+    // Instruments list the relative Y beside Lv.
+    const auto withLv = readMeasurementList("name,Y,Lv,x,y\nwhite,1,200,0.3,0.3\n");
+    QCOMPARE(withLv->measurements[0].luminance, 200.0);
+    QCOMPARE(withLv->unit, LuminanceUnit::CandelaPerSquareMetre);
+    const auto withUnit = readMeasurementList("name,Luminance,Y (cd/m2),x,y\nwhite,1,200,0.3,0.3\n");
+    QCOMPARE(withUnit->measurements[0].luminance, 200.0);
+}
+
+void MeasurementHeaderTest::surestLuminance_data()
+{
+    QTest::addColumn<QString>("read");
+    for (const char *headers :
+        {"Brightness,Y", "Helligkeit,Y", "brillo,Y", "L,Y", "FL,Y", "Luminance,Y", "Luminance,Lv", "Luminance (%),Lv",
+            "L (%),Y", "Luminance (%),nits", "Y (%),Luminance (cd/m2)", "Y,Lv", "Lv (%),Y (cd/m2)", "Y [1],Lv"}) {
+        const QByteArray both(headers);
+        const QByteArray first = both.left(both.indexOf(','));
+        const QByteArray second = both.mid(both.indexOf(',') + 1);
+        QTest::newRow(headers) << QString::fromUtf8(second);
+        QTest::newRow((second + ',' + first).constData()) << QString::fromUtf8(second);
+    }
+}
+
+void MeasurementHeaderTest::surestLuminance()
+{
+    QFETCH(QString, read);
+    const QByteArray headers(QTest::currentDataTag());
+    const bool isFirst = headers.startsWith(read.toUtf8() + ',');
+    const QByteArray text = "name,x,y," + headers + "\na,0.3,0.4," + (isFirst ? "200,1" : "1,200");
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->measurements[0].luminance, 200.0);
+    QCOMPARE(warningsOf(text).first(),
+        QStringLiteral("line 1: 2 columns give a luminance: column %1, \"%2\", is read")
+            .arg(isFirst ? 4 : 5)
+            .arg(read));
+}
+
+void MeasurementHeaderTest::lightnessIsNoLuminance()
+{
+    QCOMPARE(errorOf("name,x,y,L,a,b\nwhite,0.3,0.3,100,0,0"), QStringLiteral("line 1: missing column Y"));
+    const auto list = readMeasurementList("name,L,a*,b*,x,y,Lv\nwhite,100,0,0,0.3,0.3,200");
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->measurements[0].luminance, 200.0);
+    QVERIFY(readMeasurementList("name,L,a,x,y\nwhite,100,0,0.3,0.3"));
+}
+
+void MeasurementHeaderTest::otherObserver()
+{
+    for (const char *header :
+        {"X (10°),Y (10°),Z (10°)", "X (1964),Y (1964),Z (1964)", "X [CIE 1964],Y (CIE 1964),Z (10 deg)"}) {
+        QCOMPARE(errorOf(QByteArray("name,") + header + "\na,20,30,40"),
+            QStringLiteral("line 1: the columns are of the 10° observer: those of CIE 1931 (2°) are needed"));
+    }
+    const QByteArray both = "name,X (10°),Y (10°),Z (10°),X,Y,Z\na,20,30,40,50,60,70";
+    QCOMPARE(readMeasurementList(both)->measurements[0].luminance, 60.0);
+    QCOMPARE(warningsOf(both).first(), QStringLiteral("line 1: column 2 is of the 10° observer and is not read"));
+}
+
+void MeasurementHeaderTest::textBeforeTheHeader()
+{
+    const auto list = readMeasurementList(
+        "Report, of the wall\nDate;2024-05-01\nx,is,not,a,header\n\nPatch;Lv;x;y;\nred;1,5;0,3;0,4;\n");
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->recognized.headerLine, 5);
+    QCOMPARE(namesOf(list->measurements), QStringList{"red"});
+    QCOMPARE(list->measurements[0].luminance, 1.5);
+    QCOMPARE(list->measurements[0].line, 6);
+}
+
+void MeasurementHeaderTest::units_data()
+{
+    QTest::addColumn<QByteArray>("header");
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<QStringList>("warnings");
+    const auto row = [](const char *header, LuminanceUnit unit, const QStringList &warnings = {}) {
+        QTest::newRow(header) << QByteArray(header) << int(unit) << warnings;
+    };
+    row("Lv", LuminanceUnit::CandelaPerSquareMetre);
+    row("Y (cd/m2)", LuminanceUnit::CandelaPerSquareMetre);
+    row("nits", LuminanceUnit::CandelaPerSquareMetre);
+    row("Lv [1]", LuminanceUnit::Relative);
+    row("Lv (-)", LuminanceUnit::NotKnown,
+        {"line 1, column Lv (-): the unit \"-\" is not known: the luminances are read as numbers of an unknown unit"});
+    row("Y (%)", LuminanceUnit::Relative);
+    row("Y", LuminanceUnit::NotKnown, {"line 1, column Y: the unit of the luminances is not stated"});
+    row("L", LuminanceUnit::NotKnown, {"line 1, column L: the unit of the luminances is not stated"});
+    row("Y (asb)", LuminanceUnit::NotKnown,
+        {"line 1, column Y (asb): the unit \"asb\" is not known: the luminances are read as "
+         "numbers of an unknown unit"});
+}
+
+void MeasurementHeaderTest::units()
+{
+    QFETCH(QByteArray, header);
+    QFETCH(int, unit);
+    QFETCH(QStringList, warnings);
+    const QByteArray text = QByteArray(whole).replace("name,Y", "name," + header);
+    const auto list = readMeasurementList(text);
+    QVERIFY(list);
+    QCOMPARE(int(list->unit), unit);
+    QCOMPARE(int(list->gamut(QString())->unit), unit);
+    QCOMPARE(warningsOf(text), warnings);
+    QCOMPARE(list->measurements[0].luminance, 200.0);
+}
+
+void MeasurementHeaderTest::footLamberts()
+{
+    const QByteArray text = "name,Y (fL),x,y\nwhite,100,0.3,0.3";
+    const auto list = readMeasurementList(text);
+    QVERIFY(list);
+    // NIST SP 811: 1 fL = 3.426 259 cd/m2.
+    QVERIFY(std::abs(list->measurements[0].luminance - 342.6259) < 5e-5);
+    QCOMPARE(list->measurements[0].color->Y, list->measurements[0].luminance);
+    QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(list->recognized.unit, MeasuredUnit::FootLambert);
+    QCOMPARE(otherWarningsOf(text),
+        QStringList{"line 1, column Y (fL): the luminances are converted from foot-lamberts to cd/m²"});
+    const auto tristimulus = readMeasurementList("name,X,Y (fL),Z\nwhite,100,100,100");
+    QVERIFY(isNear(tristimulus->measurements[0].color->Y, list->measurements[0].luminance));
+    QVERIFY(isNear(tristimulus->measurements[0].color->x, 1.0 / 3.0));
+}
+
+void MeasurementHeaderTest::statedUnit()
+{
+    MeasurementOptions options;
+    options.unit = MeasuredUnit::CandelaPerSquareMetre;
+    const QByteArray text = "name,Y (fL),x,y\nwhite,100,0.3,0.3";
+    const auto list = readMeasurementList(text, options);
+    QCOMPARE(list->measurements[0].luminance, 100.0);
+    QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(otherWarningsOf("name,Y (fL),x,y\nwhite,100,0.3,0.3", options),
+        QStringList("line 1, column Y (fL): states foot-lambert; cd/m² was chosen"));
+    QCOMPARE(otherWarningsOf("name,Y (lux),x,y\nwhite,100,0.3,0.3", options),
+        QStringList("line 1, column Y (lux): states \"lux\"; cd/m² was chosen"));
+    // Where the list says the same, or nothing, there is nothing to tell.
+    QVERIFY(otherWarningsOf("name,Lv,x,y\nwhite,100,0.3,0.3", options).isEmpty());
+    QVERIFY(otherWarningsOf("name,Y,x,y\nwhite,100,0.3,0.3", options).isEmpty());
+    // The line of units is named where it is that one that says so.
+    options.unit = MeasuredUnit::Relative;
+    QCOMPARE(otherWarningsOf("Patch;Y;x;y\n;[cd/m²];-;-\nwhite;100,5;0,3;0,4", options),
+        QStringList("line 2, column Y: states cd/m²; relative was chosen"));
+    options.unit = MeasuredUnit::FootLambert;
+    QCOMPARE(otherWarningsOf("name,Lv,x,y\nwhite,100,0.3,0.3", options),
+        (QStringList{"line 1, column Lv: states cd/m²; foot-lambert was chosen",
+            "line 1, column Lv: the luminances are converted from foot-lamberts to cd/m²"}));
+}
+
+void MeasurementHeaderTest::lineOfUnits()
+{
+    const QByteArray text = "Patch;Y;x;y\n;[cd/m²];-;-\nwhite;100,5;0,3;0,4";
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->measurements.size(), 1);
+    QCOMPARE(list->unit, LuminanceUnit::CandelaPerSquareMetre);
+    QVERIFY(otherWarningsOf(text).isEmpty());
+    QVERIFY(!readMeasurementList("Patch;Y;x;y\n;asb;-;-\nwhite;100,5;0,3;0,4"));
+}
+
+void MeasurementHeaderTest::lineOfUnitsBelowUnits()
+{
+    const auto list = readMeasurementList("Patch;Lv;x;y\n;fL;;\nwhite;100;0,3;0,4");
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->recognized.unit, MeasuredUnit::FootLambert);
+    QVERIFY(std::abs(list->measurements[0].luminance - 342.6259) < 5e-5);
+    QVERIFY(readMeasurementList("Patch;Lv (cd/m2);x;y\n;nits;;\nwhite;100;0,3;0,4"));
+    const QByteArray contradicting = "Patch;Lv (cd/m2);x;y\n;fL;;\nwhite;100;0,3;0,4";
+    QCOMPARE(errorOf(contradicting),
+        QStringLiteral("line 2, column Lv (cd/m2): the unit \"fL\" is not that of the line of the names, \"cd/m2\": "
+                       "state the unit"));
+    MeasurementOptions options;
+    options.unit = MeasuredUnit::FootLambert;
+    QVERIFY(readMeasurementList(contradicting, options));
+    const auto dashes = readMeasurementList("Patch;Lv;x;y\n;-;-;-\nwhite;100;0,3;0,4");
+    QVERIFY2(dashes, qPrintable(dashes.error()));
+    QCOMPARE(dashes->recognized.unit, MeasuredUnit::CandelaPerSquareMetre);
+    QCOMPARE(dashes->measurements.size(), 1);
+}
+
+void MeasurementHeaderTest::doubledColumn()
+{
+    const QByteArray text = "name,Lv,x,y,CIE x\na,1,0.3,0.3,0.4\n";
+    QCOMPARE(readMeasurementList(text)->measurements[0].color->x, 0.3);
+    QCOMPARE(otherWarningsOf(text), QStringList{"line 1: columns 3 and 5 are both x: column 3 is read"});
+}
+
+void MeasurementHeaderTest::namelessLines()
+{
+    const QByteArray text = "Lv,x,y\n200,0.7,0.29\n700,0.2,0.7\n100,0.15,0.05\n1000,0.28,0.29\n";
+    QCOMPARE(warningsOf(text),
+        QStringList{"line 1: no column names the measurements: choose the lines of red, green, blue and white"});
+    QVERIFY(!readMeasurementList(text)->gamut(QString()));
+    MeasurementOptions options;
+    options.red.line = 2;
+    options.green.line = 3;
+    options.blue.line = 4;
+    options.white.line = 5;
+    const auto gamut = readMeasurementList(text, options)->gamut(QString());
+    QVERIFY(gamut);
+    QCOMPARE(gamut->getTargets().white.Y, 1000.0);
+}
+
+QTEST_GUILESS_MAIN(MeasurementHeaderTest)
+#include "measurementheadertest.moc"
