@@ -10,7 +10,7 @@
 #include "program/commandline.h"
 #include "program/interfacetranslations.h"
 #include "program/platform.h"
-#include "program/wallcommand.h"
+#include "editing/wallcommand.h"
 #include "window/viewerwindow.h"
 
 #include <gamutfiles/filebytes.h>

@@ -6,7 +6,6 @@
 #include "editing/document.h"
 #include "editing/targetsession.h"
 
-#include <QCollator>
 #include <QFont>
 
 #include <algorithm>
@@ -39,6 +38,48 @@ std::optional<double> sortValue(const CabinetAssessment &cabinet, int column)
     return std::nullopt;
 }
 
+//! The number that begins at \a at, of which \a at is then behind the last digit.
+QString digits(const QString &text, int &at)
+{
+    const int first = at;
+    while (at < text.size() && text.at(at).isDigit()) {
+        ++at;
+    }
+    int significant = first;
+    while (significant < at - 1 && text.at(significant) == QLatin1Char('0')) {
+        ++significant;
+    }
+    return text.mid(significant, at - significant);
+}
+
+//! Whether name \a a comes before \a b, with numbers by their value: A2 before A10. Not all platforms' collation can.
+bool isBefore(const QString &a, const QString &b)
+{
+    int i = 0;
+    int j = 0;
+    while (i < a.size() && j < b.size()) {
+        if (a.at(i).isDigit() && b.at(j).isDigit()) {
+            const QString numberA = digits(a, i);
+            const QString numberB = digits(b, j);
+            if (numberA.size() != numberB.size()) {
+                return numberA.size() < numberB.size();
+            }
+            if (numberA != numberB) {
+                return numberA < numberB;
+            }
+            continue;
+        }
+        const QChar letterA = a.at(i).toCaseFolded();
+        const QChar letterB = b.at(j).toCaseFolded();
+        if (letterA != letterB) {
+            return letterA < letterB;
+        }
+        ++i;
+        ++j;
+    }
+    return a.size() - i < b.size() - j;
+}
+
 } // namespace
 
 CabinetModel::CabinetModel(const TargetSession *session, QObject *parent)
@@ -58,15 +99,9 @@ std::vector<std::size_t> CabinetModel::orderNow() const
     std::vector<std::size_t> order(wall().cabinets.size());
     std::iota(order.begin(), order.end(), std::size_t(0));
     if (m_column == Name) {
-        QCollator collator;
-        collator.setNumericMode(true); // A2 before A10
-        std::vector<QCollatorSortKey> keys;
-        keys.reserve(order.size());
-        for (const std::size_t cabinet : order) {
-            keys.push_back(collator.sortKey(m_names[cabinet]));
-        }
         std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-            return m_sortOrder == Qt::AscendingOrder ? keys[a] < keys[b] : keys[b] < keys[a];
+            return m_sortOrder == Qt::AscendingOrder ? isBefore(m_names[a], m_names[b])
+                                                     : isBefore(m_names[b], m_names[a]);
         });
         return order;
     }

@@ -49,6 +49,9 @@ void CabinetTable::refresh()
     m_isShowing = true;
     m_model->refresh();
     m_isShowing = false;
+    if (m_unit != m_model->headerData(CabinetModel::White, Qt::Horizontal).toString()) {
+        fitColumns();
+    }
     showSelection();
 }
 
@@ -80,6 +83,7 @@ void CabinetTable::showSelection()
 //! Each as wide as its header and its widest usual value, whatever is shown: it must not change in a drag.
 void CabinetTable::fitColumns()
 {
+    m_unit = m_model->headerData(CabinetModel::White, Qt::Horizontal).toString();
     constexpr int padding = 10;
     const QFontMetrics metrics(font());
     horizontalHeader()->setFont(font());

@@ -35,6 +35,7 @@ private:
 
     TargetSession *m_session;
     CabinetModel *m_model;
+    QString m_unit; // the header with the unit that the columns are fitted to
     bool m_isShowing = false; // the selection of the session, which is not to be told of it
 };
 

@@ -40,6 +40,8 @@ public:
 
     /*! \brief The height that the map needs for cells as large as \a width allows. */
     int heightFor(int width) const;
+    QSize minimumSizeHint() const override { return QSize(60, 40); }
+    QSize sizeHint() const override { return QSize(320, maximumHeight()); }
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

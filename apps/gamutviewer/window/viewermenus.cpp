@@ -137,12 +137,15 @@ void ViewerWindow::buildWallMenu()
         }
     });
     menu->addSeparator();
+    QAction *write = menu->addAction(tr("&Export corrections…"), this, &ViewerWindow::exportCorrectionsByDialog);
+    menu->addSeparator();
     QAction *remove = menu->addAction(tr("&Remove the wall"), m_session, &TargetSession::removeWall);
-    const auto refresh = [this, fit, leaveOut, remove] {
+    const auto refresh = [this, fit, leaveOut, write, remove] {
         const DisplayWall &wall = m_document.description().wall;
         const auto cabinet = m_session->selectedCabinet();
         const bool isOne = cabinet && *cabinet < wall.cabinets.size();
         fit->setEnabled(!wall.cabinets.empty());
+        write->setEnabled(!wall.cabinets.empty());
         remove->setEnabled(!wall.cabinets.empty());
         leaveOut->setEnabled(isOne);
         leaveOut->setChecked(isOne && wall.cabinets.at(*cabinet).isLeftOut);

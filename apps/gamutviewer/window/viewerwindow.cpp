@@ -71,6 +71,7 @@ void ViewerWindow::buildPages()
     m_diagramPage = new DiagramPage(m_session);
     m_comparePage = new ComparePage(m_session);
     m_wallPage = new WallPage(m_session);
+    connect(m_wallPage, &WallPage::exportWanted, this, &ViewerWindow::exportCorrectionsByDialog);
     m_libraryPage = new LibraryPage(&m_document);
     for (Page *page : {static_cast<Page *>(m_diagramPage), static_cast<Page *>(m_comparePage),
              static_cast<Page *>(m_wallPage), static_cast<Page *>(m_libraryPage)}) {

@@ -71,6 +71,9 @@ public:
     bool saveTo(const QString &fileName);
     /*! \brief Writes \a picture in the format of \a fileName's suffix; false, with a message, when that fails. */
     bool exportTo(const QString &fileName, const Picture &picture, const PictureExtent &extent);
+    /*! \brief Writes the corrections of the wall to \a fileName, CSV or JSON; false, with a message, when that fails.
+     */
+    bool exportCorrectionsTo(const QString &fileName);
     /*! \brief Copies the picture of the page to the clipboard. */
     void copyPicture();
     /*! \brief The page that is shown. */
@@ -119,6 +122,7 @@ private:
     bool save();
     bool saveAs();
     void exportByDialog();
+    void exportCorrectionsByDialog();
     void fillRecentMenu();
     void undo();
     void redo();

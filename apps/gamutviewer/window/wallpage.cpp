@@ -85,18 +85,19 @@ QWidget *WallPage::buildMaps()
     column->addLayout(bar);
     buildQuantities(bar);
     m_map = new WallMap(m_session, WallMap::Cabinets::Placed, m_maps);
-    m_map->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_map->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     column->addWidget(m_map);
     m_unplacedTitle = new QLabel(tr("Position not known"), m_maps);
     m_unplacedTitle->setFont(small);
     column->addWidget(m_unplacedTitle);
     m_unplaced = new WallMap(m_session, WallMap::Cabinets::Unplaced, m_maps);
-    m_unplaced->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_unplaced->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     column->addWidget(m_unplaced);
     m_legend = new WallLegend(m_maps);
     column->addWidget(m_legend);
     column->addStretch(1);
     for (WallMap *map : {m_map, m_unplaced}) {
+        map->setMaximumHeight(1); // until there is a wall
         map->setFont(small);
     }
     return m_maps;
@@ -246,8 +247,10 @@ void WallPage::shareRoom()
     const int placed = m_map->heightFor(width);
     const int others = m_unplaced->heightFor(width);
     const double share = std::min(1.0, double(std::max(room, 40)) / std::max(placed + others, 1));
-    m_map->setFixedHeight(std::max(int(placed * share), 1));
-    m_unplaced->setFixedHeight(std::max(int(others * share), 1));
+    m_map->setMaximumHeight(std::max(int(placed * share), 1));
+    m_unplaced->setMaximumHeight(std::max(int(others * share), 1));
+    m_map->updateGeometry();
+    m_unplaced->updateGeometry();
 }
 
 void WallPage::resizeEvent(QResizeEvent *event)
