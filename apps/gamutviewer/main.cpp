@@ -78,16 +78,29 @@ ExitStatus writeCorrections(const DisplayDescription &description, const Command
     return Done;
 }
 
-//! \a opened with the wall and the target that the command line asks for.
-Outcome<OpenedFiles> withRequests(const OpenedFiles &opened, const CommandLine &commandLine)
+/*!
+ * \brief The file with the wall: that of --wall, or else, where no window asks what a list of several cabinets means,
+ * the list among the files. A cabinet that was chosen is one display, unless corrections are wanted.
+ */
+QString wallFile(const CommandLine &commandLine)
+{
+    const bool isOneDisplay
+        = !commandLine.measurementOptions().cabinet.isEmpty() && commandLine.correctionsFile().isEmpty();
+    return commandLine.wallFile().isEmpty() && commandLine.action() == CommandLine::Action::Write && !isOneDisplay
+        ? wallAmong(commandLine.files(), commandLine.measurementOptions())
+        : commandLine.wallFile();
+}
+
+//! \a opened with the wall in \a wall and the target that the command line asks for.
+Outcome<OpenedFiles> withRequests(const OpenedFiles &opened, const QString &wall, const CommandLine &commandLine)
 {
     OpenedFiles result = opened;
-    if (!commandLine.wallFile().isEmpty()) {
-        const auto wall = withWall(result, commandLine.wallFile(), commandLine.measurementOptions());
-        if (!wall) {
-            return wall;
+    if (!wall.isEmpty()) {
+        const auto withIt = withWall(result, wall, commandLine.measurementOptions());
+        if (!withIt) {
+            return withIt;
         }
-        result = *wall;
+        result = *withIt;
     }
     if (!commandLine.targetName().isEmpty()) {
         const auto described = withChosenTarget(result.description, commandLine.targetName());
@@ -208,12 +221,16 @@ int main(int argc, char *argv[])
         break;
     }
 
-    const QStringList files = commandLine.files();
-    const bool isSample = files.isEmpty() && commandLine.wallFile().isEmpty();
+    const QString wall = wallFile(commandLine);
+    const bool isSample = commandLine.files().isEmpty() && wall.isEmpty();
+    QStringList files = commandLine.files();
+    if (commandLine.wallFile().isEmpty()) {
+        files.removeAll(wall);
+    }
     Outcome<OpenedFiles> opened
         = openFiles(isSample ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
     if (opened) {
-        opened = withRequests(*opened, commandLine);
+        opened = withRequests(*opened, wall, commandLine);
     }
     if (!opened) {
         printError(opened.error());
@@ -228,7 +245,7 @@ int main(int argc, char *argv[])
         }
         tolerances = *read;
     }
-    if (commandLine.hasMeasurementOptions() && !opened->hasLists) {
+    if (commandLine.hasMeasurementOptions() && !opened->hasLists && opened->description.wall.cabinets.empty()) {
         printError(QApplication::translate(
             "main", "--red, --green, --blue, --white, --cabinet, --unit and --decimal require a measurement list"));
         return WrongInput;

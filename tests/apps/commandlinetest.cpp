@@ -409,7 +409,7 @@ void CommandLineTest::refusals_data()
     QTest::newRow("unknown picture") << QStringList{"--render", "a.jpg"}
                                      << "Unsupported picture format, expected png, svg or pdf: a.jpg";
     QTest::newRow("unknown report") << QStringList{"--report", "xml"}
-                                    << "Unsupported report format, expected json: xml";
+                                    << "Unsupported report format, expected json or text: xml";
     QTest::newRow("no report format") << QStringList{"--report"} << "Missing value after '--report'.";
     QTest::newRow("too many pixels") << QStringList{"--render", "a.png", "--size", "4097x5", "--dpr", "2"}
                                      << "The picture would have more than 8192 pixels per side.";

@@ -371,12 +371,15 @@ void ReportTest::documentedKeys()
     QFile file(QStringLiteral(VIEWER_DOCUMENTATION));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray documentation = file.readAll();
-    for (const char *key :
-        {"version", "name", "declared", "original", "measured", "target", "red", "green", "blue", "white", "cct", "duv",
-            "area", "standards", "standard", "coverage", "areaRatio", "validity", "valid", "outside", "givenUp",
-            "share", "xy", "uv", "unit", "referenceWhite", "dominantWavelength", "purity", "verdict", "status",
-            "against", "text", "lines", "subject", "color", "drive", "comparable", "headroom", "largestWhite",
-            "fullDrive", "tolerances", "source", "measuredDrive", "warnings", "facts", "fact", "value", "file"}) {
+    for (const char *key : {"version", "name", "declared", "original", "measured", "target", "red", "green", "blue",
+             "white", "cct", "duv", "area", "standards", "standard", "coverage", "areaRatio", "validity", "valid",
+             "outside", "givenUp", "share", "xy", "uv", "unit", "referenceWhite", "dominantWavelength", "purity",
+             "verdict", "status", "against", "text", "lines", "subject", "color", "drive", "comparable", "headroom",
+             "largestWhite", "fullDrive", "tolerances", "source", "measuredDrive", "warnings", "facts", "fact", "value",
+             "file", "wall", "correctedWhite", "commonGamut", "shape", "corners", "excluding", "fit", "moved", "limit",
+             "uniformity", "before", "after", "neighborUv", "neighborLuminance", "luminance", "difference", "cabinets",
+             "cabinet", "row", "column", "leftOut", "gamut", "additive", "uvBefore", "uvAfter", "neighborBefore",
+             "neighborAfter", "matrix"}) {
         QVERIFY2(documentation.contains('`' + QByteArray(key) + '`'), key);
     }
 }

@@ -482,6 +482,7 @@ void WallPageTest::listIsOpenedAsAWall()
     QCOMPARE(first, QStringLiteral("the whole wall, 2 cabinets"));
     QVERIFY2(preview.contains(QStringLiteral("The list makes a wall.")), qPrintable(preview));
     QVERIFY2(preview.contains(QStringLiteral("A3")), qPrintable(preview));
+    QVERIFY2(!preview.contains(QStringLiteral("choose")), qPrintable(preview)); // nothing is missing for a wall
     const DisplayDescription &description = f.document().description();
     QCOMPARE(description.wall.cabinets.size(), std::size_t(2));
     QVERIFY(description.measurePoints.isEmpty());

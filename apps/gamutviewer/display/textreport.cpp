@@ -87,6 +87,13 @@ QString uvText(const std::optional<double> &value)
     return value ? fixedText(*value, chromaticityDecimals) : undefinedText();
 }
 
+//! "+9.0 %".
+QString changeText(double share)
+{
+    const QString text = percent(share);
+    return text.startsWith(QLatin1Char('-')) ? text : QLatin1Char('+') + text;
+}
+
 QString pairText(const DisplayWall &wall, const std::optional<Model::CabinetPair> &pair, const QString &difference)
 {
     return pair
@@ -124,7 +131,7 @@ QStringList cabinetLines(const DisplayWall &wall, const WallAssessment &assessme
             {cabinetName(wall, i), cabinet.isLeftOut ? ReportText::tr("left out") : judgementName(cabinet.judgement),
                 cabinet.limit ? gamutVertexName(*cabinet.limit) : undefinedText(),
                 cabinet.largestWhite ? luminanceText(*cabinet.largestWhite) : undefinedText(),
-                cabinet.headroom ? percent(*cabinet.headroom) : undefinedText(), uvText(cabinet.uvBefore),
+                cabinet.headroom ? changeText(*cabinet.headroom - 1.0) : undefinedText(), uvText(cabinet.uvBefore),
                 uvText(cabinet.uvAfter)});
     }
     return aligned(rows);

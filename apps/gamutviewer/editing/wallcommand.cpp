@@ -8,6 +8,7 @@
 
 #include <gamutfiles/correctionsfile.h>
 #include <gamutfiles/cubepair.h>
+#include <gamutfiles/filebytes.h>
 #include <gamutmodel/publishedgamuts.h>
 
 #include <QCoreApplication>
@@ -15,6 +16,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 
 namespace gamutviewer {
 
@@ -146,12 +148,36 @@ void keepOnly(std::size_t cabinet, Corrected &corrected)
     }
 }
 
-bool showsTarget(const Model::CorrectionMatrix &matrix)
-{
-    const Model::Drive white = matrix.driveFor({1.0, 1.0, 1.0});
-    return Model::entriesBelowZero(matrix).empty() && Model::entriesAboveOne(matrix).empty()
-        && !Model::isTooBright(white);
-}
+//! What remains between the target and what cabinets show of it with their corrections.
+class Remainder {
+public:
+    //! Returns whether there is any that can be noticed in the digits that are shown.
+    bool add(const Model::DeviationValues &remaining)
+    {
+        constexpr double noticeableUv = 0.00005;
+        constexpr double noticeableLuminance = fullDrive - 1.0;
+        double uv = 0.0;
+        for (const auto &color : {remaining.whiteUv, remaining.redUv, remaining.greenUv, remaining.blueUv}) {
+            uv = std::max(uv, color.value_or(0.0));
+        }
+        const double luminance = std::fabs(remaining.luminance.value_or(0.0));
+        if (uv < noticeableUv && luminance < noticeableLuminance) {
+            return false;
+        }
+        m_uv = std::max(m_uv, uv);
+        m_luminance = std::max(m_luminance, luminance);
+        return true;
+    }
+    QString text() const
+    {
+        return CommandText::tr("Δu′v′ %1 and %2 of the luminance", "how much remains")
+            .arg(fixedText(m_uv, chromaticityDecimals), percent(m_luminance));
+    }
+
+private:
+    double m_uv = 0.0;
+    double m_luminance = 0.0;
+};
 
 QStringList notesOn(const Corrected &corrected, bool isWall)
 {
@@ -165,13 +191,14 @@ QStringList notesOn(const Corrected &corrected, bool isWall)
                                               "reaches, as the luminance of the target cannot be compared with it")
                                   .arg(white));
     }
+    Remainder remainder;
     std::vector<std::size_t> beyond;
     std::vector<std::size_t> without;
     for (std::size_t i = 0; i < corrected.solved.corrections.size(); ++i) {
-        const auto &matrix = corrected.solved.corrections[i].matrix;
-        if (!matrix) {
+        const Model::Correction &correction = corrected.solved.corrections[i];
+        if (!correction.matrix) {
             without.push_back(i);
-        } else if (!showsTarget(*matrix)) {
+        } else if (remainder.add(correction.remaining)) {
             beyond.push_back(i);
         }
     }
@@ -180,8 +207,9 @@ QStringList notesOn(const Corrected &corrected, bool isWall)
     }
     if (!beyond.empty()) {
         notes.append(
-            CommandText::tr("cabinets that do not show the target even so, as drives are below 0 or above 1: %1")
-                .arg(namesOf(corrected.wall, beyond)));
+            CommandText::tr("cabinets that differ from the target even so, by up to %1, as they cannot show all "
+                            "of it: %2")
+                .arg(remainder.text(), namesOf(corrected.wall, beyond)));
     }
     if (!corrected.notAdditive.empty()) {
         notes.append(CommandText::tr("cabinets whose measured white is not the sum of their primaries, for which the "
@@ -255,6 +283,26 @@ Outcome<OpenedFiles> withWall(const OpenedFiles &opened, const QString &fileName
     return result;
 }
 
+QString wallAmong(const QStringList &fileNames, MeasurementOptions options)
+{
+    options.cabinet.clear();
+    QStringList found;
+    for (const QString &fileName : fileNames) {
+        if (isStandardInput(fileName) || !QFileInfo(fileName).isFile()) {
+            continue;
+        }
+        const auto file = readGamutFile(fileName, options);
+        if (!file || file->content != GamutFile::Content::Measurements) {
+            continue;
+        }
+        const auto wall = wallFromMeasurements(file->measurements);
+        if (wall && wall->cabinets.size() > 1) {
+            found.append(fileName);
+        }
+    }
+    return found.size() == 1 ? found.first() : QString();
+}
+
 Outcome<DisplayDescription> withChosenTarget(const DisplayDescription &description, const QString &gamutName)
 {
     using Failure = Outcome<DisplayDescription>;
@@ -278,17 +326,28 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
         return Failure::failure(target ? CommandText::tr("there is no wall to fit the target to")
                                        : CommandText::tr("there is no target to fit to the wall"));
     }
-    const WallAssessment assessment = assessWall(description.wall, *target);
-    const auto fitted = fittedToWall(*target, assessment);
+    FittedTarget result{description, {}};
+    auto wanted = target;
+    const auto largestWhite = assessWall(description.wall, *target).largestWhite;
+    if (target->unit == LuminanceUnit::Relative && description.wall.unit == LuminanceUnit::CandelaPerSquareMetre
+        && largestWhite) {
+        result.description = withLuminanceUnit(description, description.wall.unit, largestWhite->luminance);
+        wanted = result.description.gamut(result.description.target);
+        result.notes.append(CommandText::tr("the luminance of the target is relative; its white is taken at %1, the "
+                                            "largest that all cabinets reach")
+                                .arg(luminanceText(largestWhite->luminance, description.wall.unit)));
+    }
+    const WallAssessment assessment = assessWall(description.wall, *wanted);
+    const auto fitted = fittedToWall(*wanted, assessment);
     if (!fitted) {
         const QString problem = fitProblem(description.wall, assessment);
         if (!problem.isEmpty()) {
             return Failure::failure(problem);
         }
-        return FittedTarget{
-            description, {CommandText::tr("the target fits the wall as it is, as far as that is known")}};
+        result.notes.append(CommandText::tr("the target fits the wall as it is, as far as that is known"));
+        return result;
     }
-    FittedTarget result{withEditedTarget(description, *fitted), {}};
+    result.description = withEditedTarget(result.description, *fitted);
     const struct {
         const Model::FittedPrimary &primary;
         QString name;
@@ -306,10 +365,10 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
         result.notes.append(CommandText::tr("fitted to the wall, the target has moved towards its white: %1")
                                 .arg(parts.join(QStringLiteral(", "))));
     }
-    if (fitted->white.Y != target->getTargets().white.Y) {
+    if (fitted->white.Y != wanted->getTargets().white.Y) {
         result.notes.append(CommandText::tr("fitted to the wall, the target has a white of %1 instead of %2")
-                                .arg(luminanceText(fitted->white.Y, target->unit),
-                                    luminanceText(target->getTargets().white.Y, target->unit)));
+                                .arg(luminanceText(fitted->white.Y, wanted->unit),
+                                    luminanceText(wanted->getTargets().white.Y, wanted->unit)));
     }
     return result;
 }

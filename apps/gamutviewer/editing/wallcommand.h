@@ -25,6 +25,12 @@ namespace gamutviewer {
 Outcome<OpenedFiles> withWall(const OpenedFiles &opened, const QString &fileName, MeasurementOptions options);
 
 /*!
+ * \brief The only one of \a fileNames that is a measurement list from which a wall of several cabinets can be made;
+ * empty if none is, or if several are. Only what can be read twice is looked at: no standard input, no pipes.
+ */
+QString wallAmong(const QStringList &fileNames, MeasurementOptions options);
+
+/*!
  * \brief \a description with the gamut \a gamutName for its target: one of its own, or a published one, in any case
  * of letters where that is clear.
  */

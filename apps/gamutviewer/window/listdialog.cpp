@@ -121,6 +121,7 @@ ListDialog::ListDialog(const QString &fileName, const MeasurementOptions &option
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     resize(520, 460);
+    readAsChosen();
     refresh();
 }
 
@@ -185,7 +186,7 @@ void ListDialog::fillChoices()
 
 bool ListDialog::isWall() const
 {
-    return m_read && m_cabinet->count() > 2 && m_cabinet->currentData(wallRole).toBool();
+    return m_read && m_options.isWall;
 }
 
 void ListDialog::take()
@@ -208,8 +209,20 @@ void ListDialog::take()
     m_options.whiteIsSum = choice(Vertex::White)->currentData().toInt() == sumOfPrimaries;
     m_read = readGamutFile(m_fileName, m_options);
     fillCabinets();
+    readAsChosen();
     fillChoices();
     refresh();
+}
+
+//! Reads the list again if it turns out to make a wall, or to make none: what is missing for one gamut is no matter
+//! then.
+void ListDialog::readAsChosen()
+{
+    const bool makesWall = m_cabinet->count() > 2 && m_cabinet->currentData(wallRole).toBool();
+    if (m_options.isWall != makesWall) {
+        m_options.isWall = makesWall;
+        m_read = readGamutFile(m_fileName, m_options);
+    }
 }
 
 void ListDialog::refresh()

@@ -50,6 +50,7 @@ private:
     void fillCabinets();
     void fillChoices();
     void take();
+    void readAsChosen();
     void refresh();
 
     QString m_fileName;

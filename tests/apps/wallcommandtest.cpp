@@ -1,0 +1,517 @@
+// SPDX-License-Identifier: MIT
+#include "program/wallcommand.h"
+#include "display/report.h"
+#include "display/textreport.h"
+#include "program/commandline.h"
+
+#include <gamutfiles/correctionsfile.h>
+#include <gamutfiles/cubepair.h>
+#include <gamutfiles/descriptionfile.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+#include <cmath>
+
+using namespace gamutviewer;
+
+/*! What the command line does with walls; the program is run as a script would. */
+class WallCommandTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void sampleIsWhatTheScriptGenerates();
+    void reportsOnTheWall();
+    void reportWithoutATarget();
+    void textReportHasEveryCabinet();
+    void exitStatusTellsTheVerdict_data();
+    void exitStatusTellsTheVerdict();
+    void correctionsAreThoseOfTheReport();
+    void correctionsOfOneCabinet();
+    void tablesOfOneDisplay();
+    void fitsTheTarget();
+    void wallOfADescription();
+    void wallAmongTheFiles();
+    void wallTakesThePlaceOfAnother();
+    void targetsByName();
+    void commandLine_data();
+    void commandLine();
+    void refused_data();
+    void refused();
+    void cannotWrite();
+    void documentedCommandsWork();
+
+private:
+    struct Result {
+        int exitCode = -1;
+        QByteArray output;
+        QByteArray error;
+    };
+
+    Result run(const QStringList &arguments);
+    QString path(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
+    QString write(const char *name, const QByteArray &bytes);
+    QByteArray read(const char *name) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace {
+
+const QString sample = QStringLiteral(SIMULATED_WALL);
+
+const QByteArray wallList = R"(cabinet,row,column,name,x,y,Lv (cd/m2)
+A1,1,1,red,0.6996,0.2999,231.2
+A1,1,1,green,0.1781,0.7214,718.4
+A1,1,1,blue,0.1412,0.0493,79.7
+A2,1,2,red,0.6950,0.3040,250.8
+A2,1,2,green,0.1812,0.7170,690.4
+A2,1,2,blue,0.1405,0.0510,85.3
+)";
+
+//! A target in cd/m² with a white of \a luminance.
+QByteArray targetText(double luminance, double redX = 0.64)
+{
+    const auto color = [](double Y, double x, double y) { return QJsonObject{{"Y", Y}, {"x", x}, {"y", y}}; };
+    return QJsonDocument(
+        QJsonObject{{"version", 1}, {"target", "Stage"},
+            {"gamuts",
+                QJsonArray{QJsonObject{{"name", "Stage"}, {"luminanceUnit", "cd/m2"},
+                    {"red", color(0.2126 * luminance, redX, 0.33)}, {"green", color(0.7152 * luminance, 0.3, 0.6)},
+                    {"blue", color(0.0722 * luminance, 0.15, 0.07)}, {"white", color(luminance, 0.3127, 0.329)}}}}})
+        .toJson();
+}
+
+} // namespace
+
+WallCommandTest::Result WallCommandTest::run(const QStringList &arguments)
+{
+    QProcess process;
+    process.setWorkingDirectory(m_folder->path());
+    process.start(QStringLiteral(GAMUTVIEWER_PROGRAM), arguments);
+    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit) {
+        return {};
+    }
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+QString WallCommandTest::write(const char *name, const QByteArray &bytes)
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        qFatal("cannot write %s", name);
+    }
+    return file.fileName();
+}
+
+QByteArray WallCommandTest::read(const char *name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WallCommandTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+    write("wall.csv", wallList);
+    write("stage.json", targetText(500.0));
+}
+
+void WallCommandTest::sampleIsWhatTheScriptGenerates()
+{
+    const auto file = readGamutFile(sample);
+    QVERIFY2(file, qPrintable(file.error()));
+    const auto wall = wallFromMeasurements(file->measurements);
+    QVERIFY2(wall, qPrintable(wall.error()));
+    QVERIFY(wall.warnings().isEmpty());
+    QCOMPARE(wall->cabinets.size(), std::size_t(8 * 12));
+    QVERIFY(wall->unit == LuminanceUnit::CandelaPerSquareMetre);
+    for (const WallCabinet &cabinet : wall->cabinets) {
+        QVERIFY(cabinet.white && cabinet.black);
+        // The white is the sum of what the primaries add to the black, to the four digits of the meter.
+        const double sum = cabinet.red.Y + cabinet.green.Y + cabinet.blue.Y - 2.0 * cabinet.black->Y;
+        QVERIFY(std::fabs(cabinet.white->Y / sum - 1.0) < 2e-3);
+    }
+}
+
+void WallCommandTest::reportsOnTheWall()
+{
+    const Result result = run({"stage.json", "--wall", "wall.csv", "--report", "json"});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    const QJsonObject report = QJsonDocument::fromJson(result.output).object();
+    QCOMPARE(report.value("verdict").toObject().value("status").toString(), QStringLiteral("pass"));
+    const QJsonObject wall = report.value("wall").toObject();
+    QCOMPARE(wall.value("unit").toString(), QStringLiteral("cd/m2"));
+    QCOMPARE(wall.value("status").toString(), QStringLiteral("pass"));
+    QCOMPARE(wall.value("text").toString(), QStringLiteral("All 2 cabinets show this target"));
+    QVERIFY(wall.value("comparable").toBool());
+    QCOMPARE(wall.value("correctedWhite").toDouble(), 500.0);
+    QCOMPARE(wall.value("commonGamut").toObject().value("shape").toString(), QStringLiteral("area"));
+    QVERIFY(wall.value("commonGamut").toObject().value("area").toObject().value("uv").toDouble() > 0.09);
+    QCOMPARE(wall.value("fit").toObject().value("coverage").toObject().value("xy").toDouble(), 1.0);
+    QVERIFY(wall.value("fit").toObject().value("red").toObject().value("limit").isNull());
+    const QJsonObject before = wall.value("uniformity").toObject().value("before").toObject();
+    const QJsonObject after = wall.value("uniformity").toObject().value("after").toObject();
+    QVERIFY(before.value("uv").toObject().value("difference").toDouble() > 0.001);
+    QVERIFY(after.value("uv").toObject().value("difference").toDouble() < 1e-12);
+    QCOMPARE(before.value("neighborUv").toObject().value("cabinets").toArray(), (QJsonArray{"A1 1/1", "A2 1/2"}));
+    const QJsonArray cabinets = wall.value("cabinets").toArray();
+    QCOMPARE(cabinets.size(), 2);
+    const QJsonObject cabinet = cabinets.at(1).toObject();
+    QCOMPARE(cabinet.value("cabinet").toString(), QStringLiteral("A2 1/2"));
+    QCOMPARE(cabinet.value("row").toInt(), 1);
+    QCOMPARE(cabinet.value("column").toInt(), 2);
+    QCOMPARE(cabinet.value("status").toString(), QStringLiteral("pass"));
+    QCOMPARE(cabinet.value("headroom").toDouble(), cabinet.value("largestWhite").toDouble() / 500.0);
+    QCOMPARE(wall.value("largestWhite").toObject().value("cabinet").toString(), QStringLiteral("A1 1/1"));
+    QCOMPARE(cabinet.value("matrix").toArray().size(), 3);
+    QVERIFY(cabinet.value("uvBefore").toDouble() > 0.001);
+    QVERIFY(cabinet.value("uvAfter").toDouble() < 1e-12);
+}
+
+void WallCommandTest::reportWithoutATarget()
+{
+    const Result result = run({"--wall", "wall.csv", "--report", "json"});
+    QCOMPARE(result.exitCode, 0);
+    const QJsonObject wall = QJsonDocument::fromJson(result.output).object().value("wall").toObject();
+    QCOMPARE(wall.value("cabinets").toArray().size(), 2);
+    QVERIFY(!wall.contains("status"));
+    QCOMPARE(run({"stage.json", "--report", "json"}).output.count("\"wall\""), 0);
+}
+
+void WallCommandTest::textReportHasEveryCabinet()
+{
+    const Result result = run({"stage.json", "--wall", sample, "--report", "text"});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.output.contains("\npass: All 96 cabinets"), result.output);
+    for (int row = 0; row < 8; ++row) {
+        for (int column = 1; column <= 12; ++column) {
+            const QByteArray name = QByteArray(1, char('A' + row)) + QByteArray::number(column) + ' '
+                + QByteArray::number(row + 1) + '/' + QByteArray::number(column) + ' ';
+            QVERIFY2(result.output.contains('\n' + name), name);
+        }
+    }
+    // Columns stand below each other.
+    const QList<QByteArray> lines = result.output.trimmed().split('\n');
+    const int column = QString::fromUtf8(lines.at(lines.size() - 97)).indexOf(QStringLiteral("limit"));
+    QVERIFY(column > 0);
+    for (int i = lines.size() - 96; i < lines.size(); ++i) {
+        QVERIFY2(QString::fromUtf8(lines.at(i)).mid(column - 1, 1) == QLatin1String(" "), lines.at(i));
+        QVERIFY2(QString::fromUtf8(lines.at(i)).mid(column, 1) != QLatin1String(" "), lines.at(i));
+    }
+    // A display without a wall has the verdict and its gamuts.
+    const Result plain = run({"stage.json", "--report", "text"});
+    QVERIFY2(plain.output.contains("target  Stage"), plain.output);
+    QVERIFY2(plain.output.contains("not known: "), plain.output);
+}
+
+void WallCommandTest::exitStatusTellsTheVerdict_data()
+{
+    QTest::addColumn<QByteArray>("target");
+    QTest::addColumn<QByteArray>("list");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("ground");
+    QTest::newRow("pass") << targetText(500.0) << wallList << 0 << QByteArray("pass: All 2 cabinets show this target.");
+    QTest::newRow("one is too dark") << targetText(500.0)
+                                     << QByteArray(wallList).replace("0.1812,0.7170,690.4", "0.1812,0.7170,300") << 3
+                                     << QByteArray("fail: A2 1/2: white reaches ");
+    QTest::newRow("one bad red") << targetText(500.0) << QByteArray(wallList).replace("0.6996,0.2999", "0.5996,0.3299")
+                                 << 3 << QByteArray("fail: A1 1/1: red reaches ");
+    QTest::newRow("unit not known") << targetText(500.0) << QByteArray(wallList).replace("Lv (cd/m2)", "Y") << 4
+                                    << QByteArray("not known: The luminances cannot be compared");
+    QTest::newRow("no target") << QByteArray(R"({"version": 1, "gamuts": []})") << wallList << 4
+                               << QByteArray("not known: What the display is to show is not known");
+}
+
+void WallCommandTest::exitStatusTellsTheVerdict()
+{
+    QFETCH(QByteArray, target);
+    QFETCH(QByteArray, list);
+    QFETCH(QByteArray, ground);
+    write("stage.json", target);
+    write("wall.csv", list);
+    const Result result = run({"stage.json", "--wall", "wall.csv", "--check"});
+    QVERIFY2(result.output.contains(ground), result.output);
+    QTEST(result.exitCode, "status");
+}
+
+void WallCommandTest::correctionsAreThoseOfTheReport()
+{
+    const Result result = run({"stage.json", "--wall", "wall.csv", "--corrections", "c.csv", "--report", "json"});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(run({"stage.json", "--wall", "wall.csv", "--corrections", "c.json"}).exitCode, 0);
+    const QJsonArray reported
+        = QJsonDocument::fromJson(result.output).object().value("wall").toObject().value("cabinets").toArray();
+    for (const char *name : {"c.csv", "c.json"}) {
+        const auto corrections = gamutfiles::readCorrectionsFile(path(name));
+        QVERIFY2(corrections, qPrintable(corrections.error()));
+        QCOMPARE(corrections->target.name, QStringLiteral("Stage"));
+        QCOMPARE(corrections->target.luminance, 500.0);
+        QCOMPARE(corrections->cabinets.size(), std::size_t(2));
+        for (std::size_t i = 0; i < 18; ++i) {
+            const QJsonArray matrix = reported.at(int(i / 9)).toObject().value("matrix").toArray();
+            QVERIFY(matrix.at(int(i % 9 / 3)).toArray().at(int(i % 3)).toDouble()
+                == corrections->cabinets[i / 9].matrix->rows[i % 9 / 3][i % 3]);
+        }
+    }
+}
+
+void WallCommandTest::correctionsOfOneCabinet()
+{
+    for (const char *name : {"A2", "a2 1/2", "1/2"}) {
+        const Result result = run({"stage.json", "--wall", "wall.csv", "--cabinet", name, "--corrections", "c.csv"});
+        QVERIFY2(result.exitCode == 0, result.error);
+        const auto corrections = gamutfiles::readCorrectionsFile(path("c.csv"));
+        QVERIFY2(corrections, qPrintable(corrections.error()));
+        QCOMPARE(corrections->cabinets.size(), std::size_t(1));
+        QCOMPARE(corrections->cabinets[0].name, QStringLiteral("A2"));
+    }
+    // Its white is that of the wall, which all reach.
+    const Result relative
+        = run({"--target", "rec.709", "--wall", "wall.csv", "--cabinet", "A2", "--corrections", "c.json"});
+    QVERIFY2(relative.error.contains("c.json: the corrections are for a white of "), relative.error);
+    QVERIFY2(relative.error.contains(" cd/m²,"), relative.error);
+    const auto one = gamutfiles::readCorrectionsFile(path("c.json"));
+    QVERIFY(one);
+    QVERIFY(one->target.luminance < *one->cabinets[0].largestWhite);
+}
+
+void WallCommandTest::tablesOfOneDisplay()
+{
+    const Result result = run({"stage.json", "--wall", "wall.csv", "--cabinet", "A1", "--corrections", "c.cube"});
+    QVERIFY2(result.exitCode == 0, result.error);
+    QVERIFY(!QFile::exists(path("c.cube")));
+    const auto pair = gamutfiles::readCubePair(read("c-3x3.cube"), read("c-1d.cube"));
+    QVERIFY2(pair, qPrintable(pair.error()));
+    QVERIFY(run({"stage.json", "--wall", "wall.csv", "--corrections", "c.csv"}).exitCode == 0);
+    const auto corrections = gamutfiles::readCorrectionsFile(path("c.csv"));
+    QVERIFY(corrections);
+    for (std::size_t i = 0; i < 9; ++i) {
+        QVERIFY(std::fabs(pair->gains[i / 3] * pair->matrix.rows[i / 3][i % 3]
+                    - corrections->cabinets[0].matrix->rows[i / 3][i % 3])
+            < 1e-15);
+    }
+
+    // A display without a wall: what was measured of it goes before its original.
+    write("one.csv",
+        "name,x,y,Lv\nred,0.6996,0.2999,231.2\ngreen,0.1781,0.7214,718.4\nblue,0.1412,0.0493,79.7\n"
+        "white,0.29,0.31,1029.3\n");
+    const Result measured = run({"stage.json", "one.csv", "--corrections", "one.json"});
+    QVERIFY2(measured.exitCode == 0, measured.error);
+    const auto display = gamutfiles::readCorrectionsFile(path("one.json"));
+    QVERIFY2(display, qPrintable(display.error()));
+    QCOMPARE(display->cabinets.size(), std::size_t(1));
+    QCOMPARE(display->cabinets[0].name, QStringLiteral("one"));
+    QVERIFY(display->cabinets[0].matrix->rows == corrections->cabinets[0].matrix->rows);
+    const Result tables = run({"stage.json", "one.csv", "--corrections", "sub/one.cube"});
+    QCOMPARE(tables.exitCode, 1); // there is no such folder
+    QVERIFY2(tables.error.startsWith("gamutviewer: sub/one-3x3.cube: cannot be written: "), tables.error);
+}
+
+void WallCommandTest::fitsTheTarget()
+{
+    const Result before = run({"--wall", sample, "--target", "DCI-P3(D65)", "--check"});
+    QCOMPARE(before.exitCode, 3);
+    const Result after = run({"--wall", sample, "--target", "DCI-P3(D65)", "--fit", "--check"});
+    QVERIFY2(after.exitCode == 0, after.output + after.error);
+    QVERIFY2(
+        after.error.contains("gamutviewer: --fit: the luminance of the target is relative; its white is taken at "),
+        after.error);
+    QVERIFY2(
+        after.error.contains("gamutviewer: --fit: fitted to the wall, the target has moved towards its white: red "),
+        after.error);
+    const Result bright = run({write("bright.json", targetText(5000.0)), "--wall", "wall.csv", "--fit", "--check"});
+    QVERIFY2(bright.exitCode == 0, bright.output + bright.error);
+    QVERIFY2(bright.error.contains("cd/m² instead of 5000.0 cd/m²"), bright.error);
+    const Result fits = run({"stage.json", "--wall", "wall.csv", "--fit", "--check"});
+    QCOMPARE(fits.exitCode, 0);
+    QVERIFY2(fits.error.contains("--fit: the target fits the wall as it is"), fits.error);
+}
+
+void WallCommandTest::wallOfADescription()
+{
+    const auto list = readGamutFile(path("wall.csv"));
+    QVERIFY(list);
+    DisplayDescription description;
+    description.wall = *wallFromMeasurements(list->measurements);
+    write("wall.json", gamutfiles::descriptionText(description));
+    const Result fromList = run({"stage.json", "--wall", "wall.csv", "--corrections", "c.csv"});
+    const QByteArray corrections = read("c.csv");
+    const Result fromDescription = run({"stage.json", "--wall", "wall.json", "--corrections", "d.csv"});
+    QCOMPARE(fromList.exitCode, 0);
+    QCOMPARE(fromDescription.exitCode, 0);
+    QVERIFY(corrections.size() > 500);
+    QCOMPARE(read("d.csv"), corrections);
+    // As the description itself.
+    const Result alone = run({"wall.json", "--target", "Rec.709", "--corrections", "e.csv"});
+    QVERIFY2(alone.exitCode == 0, alone.error);
+    QCOMPARE(run({"wall.json", "--target", "Rec.709", "--cabinet", "A2", "--corrections", "f.csv"}).exitCode, 0);
+    QVERIFY(read("f.csv").contains("\nA2,1,2,") && !read("f.csv").contains("\nA1,1,1,"));
+}
+
+// Without a window nobody can be asked what a list of several cabinets is.
+void WallCommandTest::wallAmongTheFiles()
+{
+    QCOMPARE(run({"stage.json", "--wall", "wall.csv", "--corrections", "a.csv"}).exitCode, 0);
+    const Result result = run({"stage.json", "wall.csv", "--check", "--corrections", "b.csv"});
+    QVERIFY2(result.exitCode == 0, result.output + result.error);
+    QCOMPARE(result.error, QByteArray());
+    QVERIFY(read("a.csv").size() > 500);
+    QCOMPARE(read("b.csv"), read("a.csv"));
+    QCOMPARE(run({"stage.json", "wall.csv", "--cabinet", "A2", "--corrections", "c.csv"}).exitCode, 0);
+    QVERIFY(read("c.csv").contains("\nA2,1,2,") && !read("c.csv").contains("\nA1,1,1,"));
+    // One cabinet that is chosen is a display.
+    write("white.csv", wallList + "A1,1,1,white,0.28,0.30,1029.3\nA2,1,2,white,0.28,0.30,1026.5\n");
+    const Result one = run({"white.csv", "--cabinet", "A2", "--report", "json"});
+    QVERIFY2(one.output.contains("\"measured\"") && !one.output.contains("\"wall\""), one.output);
+    // Two lists could both be the wall.
+    write("other.csv", wallList);
+    QCOMPARE(run({"wall.csv", "other.csv", "--report", "json"}).exitCode, 5);
+    QCOMPARE(wallAmong({path("other.csv"), path("wall.csv")}, {}), QString());
+    QCOMPARE(
+        wallAmong({path("none.csv"), path("wall.csv"), path("stage.json"), "-", "/dev/null"}, {}), path("wall.csv"));
+}
+
+void WallCommandTest::wallTakesThePlaceOfAnother()
+{
+    const auto list = readGamutFile(path("wall.csv"));
+    QVERIFY(list);
+    DisplayDescription description;
+    description.wall = *wallFromMeasurements(list->measurements);
+    write("wall.json", gamutfiles::descriptionText(description));
+    const Result result = run({"wall.json", "--wall", sample, "--report", "json"});
+    QCOMPARE(result.error, "gamutviewer: " + sample.toUtf8() + ": takes the place of the wall that there was\n");
+    const QJsonObject wall = QJsonDocument::fromJson(result.output).object().value("wall").toObject();
+    QCOMPARE(wall.value("cabinets").toArray().size(), 96);
+}
+
+void WallCommandTest::targetsByName()
+{
+    for (const char *name : {"Rec.709", "rec.709", "REC.709"}) {
+        const auto chosen = withChosenTarget(DisplayDescription(), QString::fromLatin1(name));
+        QVERIFY2(chosen, qPrintable(chosen.error()));
+        QCOMPARE(chosen->target, QStringLiteral("Rec.709"));
+    }
+    const auto unknown = withChosenTarget(DisplayDescription(), QStringLiteral("Rec.7"));
+    QVERIFY2(unknown.error().startsWith("there is no gamut called \"Rec.7\" for the target; there are Rec.709, "),
+        qPrintable(unknown.error()));
+    QCOMPARE(withChosenTarget(DisplayDescription(), QStringLiteral("aces2065-1")).error(),
+        QStringLiteral("no display can show \"ACES2065-1\""));
+}
+
+void WallCommandTest::commandLine_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("all") << "--wall w.csv --target Rec.709 --fit --corrections c.json" << QString();
+    QTest::newRow("in capitals") << "--wall w.csv --corrections C.CSV" << QString();
+    QTest::newRow("format") << "--wall w.csv --corrections c.txt"
+                            << "Unsupported format of corrections, expected csv, json or cube: c.txt";
+    QTest::newRow("no suffix") << "--wall w.csv --corrections c"
+                               << "Unsupported format of corrections, expected csv, json or cube: c";
+    QTest::newRow("no file") << "--corrections c.csv"
+                             << "No file to correct by: --corrections requires one, or --wall.";
+    QTest::newRow("empty wall") << "--wall="
+                                << "The value of --wall is empty.";
+    QTest::newRow("empty target") << "--target="
+                                  << "The value of --target is empty.";
+    QTest::newRow("empty corrections") << "w.csv --corrections="
+                                       << "The value of --corrections is empty.";
+    QTest::newRow("report") << "w.csv --report xml"
+                            << "Unsupported report format, expected json or text: xml";
+}
+
+void WallCommandTest::commandLine()
+{
+    QFETCH(QString, arguments);
+    const CommandLine line(QStringList("gamutviewer") + arguments.split(QLatin1Char(' ')));
+    QTEST(line.error(), "error");
+    QCOMPARE(line.action() == CommandLine::Action::Refuse, !line.error().isEmpty());
+    if (arguments.contains(QLatin1String("--fit"))) {
+        QCOMPARE(line.action(), CommandLine::Action::Write);
+        QVERIFY(!line.needsDisplay());
+        QCOMPARE(line.wallFile(), QStringLiteral("w.csv"));
+        QCOMPARE(line.targetName(), QStringLiteral("Rec.709"));
+        QCOMPARE(line.correctionsFile(), QStringLiteral("c.json"));
+        QVERIFY(line.wantsFit());
+    }
+}
+
+void WallCommandTest::refused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("error");
+    const auto row = [](const char *arguments, const char *error) {
+        QTest::newRow(arguments) << QString::fromLatin1(arguments).split(QLatin1Char(' ')) << QByteArray(error);
+    };
+    row("--wall none.csv --check", "none.csv: cannot be read: there is no such file");
+    row("--wall stage.json --check",
+        "stage.json: has no wall: that is in a measurement list with a column for the cabinet, or in a display "
+        "description");
+    row("--wall one.csv --check",
+        "one.csv: names no cabinets: a wall needs a column with the cabinet, or one with the row and one with the "
+        "column");
+    row("--wall wall.csv --corrections c.csv",
+        "c.csv: there is no target, which corrections are for: choose one by --target");
+    row("stage.json --corrections c.csv",
+        "c.csv: there is nothing to correct: no wall, and no measured or original gamut");
+    row("stage.json --wall wall.csv --corrections c.cube",
+        "c.cube: a pair of tables is for one display: choose a cabinet by --cabinet, or write csv or json");
+    row("stage.json --wall wall.csv --cabinet A3 --corrections c.csv",
+        "c.csv: no cabinet of the wall is called \"A3\"");
+    row("wide.json --wall wall.csv --cabinet A1 --corrections c.cube",
+        "c.cube: the drive of blue for red is -0.001656: a table is not exact below 0; csv and json have the matrix as "
+        "it is");
+    row("--wall wall.csv --fit --check", "--fit: there is no target to fit to the wall");
+    row("stage.json --fit --check", "--fit: there is no wall to fit the target to");
+    row("--wall wall.csv --target Rec.700 --check", "--target: there is no gamut called \"Rec.700\" for the target; ");
+}
+
+void WallCommandTest::refused()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, error);
+    write("one.csv", "name,x,y,Y\nred,0.7,0.29,200\n");
+    write("wide.json", targetText(500.0, 0.67));
+    const Result result = run(arguments);
+    QCOMPARE(result.exitCode, 2);
+    const QByteArray last = result.error.trimmed().split('\n').last();
+    QVERIFY2(last.startsWith("gamutviewer: " + error), result.error);
+    QVERIFY(QDir(m_folder->path()).entryList({"c*"}).isEmpty());
+}
+
+void WallCommandTest::cannotWrite()
+{
+    const Result result = run({"stage.json", "--wall", "wall.csv", "--corrections", "none/c.csv"});
+    QCOMPARE(result.exitCode, 1);
+    QCOMPARE(result.error, QByteArray("gamutviewer: none/c.csv: cannot be written: there is no such folder\n"));
+}
+
+// Every command of the guide, with its files beside it.
+void WallCommandTest::documentedCommandsWork()
+{
+    QVERIFY(QFile::copy(sample, path("simulated-wall.csv")));
+    QFile guide(QStringLiteral(WALL_GUIDE));
+    QVERIFY(guide.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(guide.readAll());
+    const QRegularExpression command(
+        QStringLiteral("^gamutviewer (.+--(report|check|corrections).*)$"), QRegularExpression::MultilineOption);
+    int commands = 0;
+    for (auto matches = command.globalMatch(text); matches.hasNext(); ++commands) {
+        QStringList arguments = matches.next().captured(1).split(QLatin1Char(' '));
+        arguments.replaceInStrings(QStringLiteral("\""), QString());
+        const Result result = run(arguments);
+        const bool mayFail = arguments.contains("--check") && !arguments.contains("--fit");
+        QVERIFY2(result.exitCode == (mayFail ? 3 : 0), result.error + arguments.join(' ').toUtf8());
+    }
+    QVERIFY(commands >= 3);
+}
+
+QTEST_GUILESS_MAIN(WallCommandTest)
+#include "wallcommandtest.moc"
