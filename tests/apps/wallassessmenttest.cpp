@@ -37,6 +37,7 @@ private Q_SLOTS:
     void leftOutCabinetDoesNotCount();
     void neighbors();
     void blacksAreCorrected();
+    void oneCabinet();
     void namesStandOnOneLine();
     void namesThatAreThereTwiceHaveTheirPlace();
     void wallStandsForTheDisplay();
@@ -438,6 +439,17 @@ void WallAssessmentTest::blacksAreCorrected()
     QCOMPARE(found.judgement, Judgement::Pass);
     QVERIFY(*found.cabinets[0].uvAfter < 1e-9);
     QVERIFY(*found.cabinets[0].largestWhite < 1100.0); // the black is in each of the primaries, and once in the white
+}
+
+void WallAssessmentTest::oneCabinet()
+{
+    DisplayWall wall = wallOf(1);
+    wall.cabinets.resize(1);
+    QCOMPARE(assessWall(wall, targetOf(1000.0)).headline, QStringLiteral("The cabinet A1 shows this target"));
+    QCOMPARE(assessWall(wall, targetOf(2000.0)).headline, QStringLiteral("The cabinet A1 does not show this target"));
+    wall.unit = LuminanceUnit::NotKnown;
+    QCOMPARE(assessWall(wall, targetOf(1000.0)).headline,
+        QStringLiteral("Not known whether the cabinet A1 shows this target"));
 }
 
 void WallAssessmentTest::namesStandOnOneLine()

@@ -533,7 +533,12 @@ private:
         const int all = int(m_counted.size());
         const int fails = int(failing.size());
         QString &text = m_result.headline;
-        if (all == 0) {
+        if (m_cabinets.size() == 1 && all == 1) {
+            const QString name = cabinetName(m_wall, 0);
+            text = fails > 0  ? WallText::tr("The cabinet %1 does not show this target").arg(name)
+                : unknown > 0 ? WallText::tr("Not known whether the cabinet %1 shows this target").arg(name)
+                              : WallText::tr("The cabinet %1 shows this target").arg(name);
+        } else if (all == 0) {
             text = WallText::tr("Nothing is judged: all cabinets are left out");
         } else if (fails == 0 && unknown > 0) {
             text = int(unknown) == all ? WallText::tr("Not known whether the cabinets show this target")

@@ -160,13 +160,24 @@ WallCell wallCell(
     return cell;
 }
 
-int longestValue(const std::vector<CabinetAssessment> &cabinets, const WallScale &scale)
+QString longestValue(const std::vector<CabinetAssessment> &cabinets, const WallScale &scale)
 {
-    int longest = 1;
+    QString longest = undefinedText();
     for (const CabinetAssessment &cabinet : cabinets) {
-        longest = std::max(longest, int(wallValueText(cabinet, scale.quantity()).size()));
+        const QString value = wallValueText(cabinet, scale.quantity());
+        if (value.size() > longest.size()) {
+            longest = value;
+        }
     }
     return longest;
+}
+
+QString compactValue(const QString &value)
+{
+    QString text = value;
+    text.remove(QLatin1Char('%'));
+    text = text.trimmed();
+    return text.startsWith(QLatin1String("0.")) ? text.mid(1) : text;
 }
 
 int longestName(const DisplayWall &wall)
@@ -178,16 +189,20 @@ int longestName(const DisplayWall &wall)
     return std::min(longest, longestShownName);
 }
 
-WallCellFonts wallCellFonts(const QFont &font, const QSizeF &cell, int valueLength, int nameLength)
+WallCellFonts wallCellFonts(const QFont &font, const QSizeF &cell, const QString &longest, int nameLength)
 {
     WallCellFonts fonts;
     const double largest = QFontMetricsF(font).height() * 0.8; // about its size in pixels
     const auto fitted = [&](int letters, double share) {
-        // Digits and capitals are less wide than two thirds of the size.
-        const double byWidth = (cell.width() - 4.0) / (0.62 * letters);
+        // Digits and capitals are about six tenths of the size wide.
+        const double byWidth = (cell.width() - 3.0) / (0.6 * letters);
         return int(std::floor(std::min({byWidth, cell.height() * share, largest})));
     };
-    const int value = fitted(valueLength, 0.36);
+    int value = fitted(int(longest.size()), 0.36);
+    if (value < leastPixels + 1) {
+        fonts.isCompact = true;
+        value = fitted(int(compactValue(longest).size()), 0.36);
+    }
     const int name = std::min(fitted(nameLength, 0.30), value);
     fonts.hasValues = value >= leastPixels;
     fonts.hasNames = fonts.hasValues && name >= leastPixels;
@@ -215,7 +230,8 @@ void paintWallCell(
         const QRectF upper = fonts.hasNames
             ? QRectF(inner.left(), inner.top() + inner.height() * 0.10, inner.width(), middle - inner.top())
             : inner;
-        painter->drawText(upper, Qt::AlignCenter | Qt::TextDontClip, cell.value);
+        painter->drawText(
+            upper, Qt::AlignCenter | Qt::TextDontClip, fonts.isCompact ? compactValue(cell.value) : cell.value);
         if (fonts.hasNames) {
             painter->setFont(fonts.name);
             const QRectF lower(inner.left() + 1.0, middle, inner.width() - 2.0, inner.height() * 0.42);
@@ -256,9 +272,11 @@ void paintWallCell(
     }
 }
 
-double wallLegendHeight(const QFont &font)
+double wallLegendHeight(const WallScale &scale, const QFont &font, double width)
 {
-    return QFontMetricsF(font).height() * 3.6;
+    const QFontMetricsF metrics(font);
+    const QRectF room(0.0, 0.0, std::max(width, 1.0), 1e4);
+    return metrics.height() * 1.8 + metrics.boundingRect(room, Qt::TextWordWrap, wallLegendText(scale)).height() + 2.0;
 }
 
 void paintWallLegend(
@@ -296,7 +314,7 @@ void paintWallLegend(
         painter->drawText(QRectF(place.left() + width + 6.0, place.top() + line * 0.75, place.width() - width, line),
             Qt::AlignLeft | Qt::AlignTop, scale.unitText());
     }
-    const QRectF words(place.left(), place.top() + line * 1.75, place.width(), line * 1.8);
+    const QRectF words = place.adjusted(0.0, line * 1.75, 0.0, 0.0);
     painter->drawText(words, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, wallLegendText(scale));
 }
 
@@ -338,7 +356,7 @@ void paintWallPicture(QPainter *painter, const QRectF &place, const WallPicture 
     painter->drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, verdict, &written);
     room.setTop(written.bottom() + margin);
 
-    const double legend = wallLegendHeight(font);
+    const double legend = wallLegendHeight(scale, font, room.width());
     QRectF map = room;
     map.setBottom(map.bottom() - legend - margin);
     const WallGrid placed = placedCabinets(picture.wall);

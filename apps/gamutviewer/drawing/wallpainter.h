@@ -63,15 +63,19 @@ struct WallCellFonts {
     QFont value; //!< of the values
     QFont name; //!< of the names
     bool hasValues = false; //!< whether there is room for values at all
+    bool isCompact = false; //!< whether that is only for values as compactValue() has them
     bool hasNames = false; //!< whether there is room for names
 };
 
-/*! \brief The fonts after \a font with which texts of up to \a valueLength and \a nameLength letters fit into \a cell.
- */
-WallCellFonts wallCellFonts(const QFont &font, const QSizeF &cell, int valueLength, int nameLength);
+/*! \brief \a value without per cent sign and without a 0 before the decimal point. */
+QString compactValue(const QString &value);
 
-/*! \brief The length of the longest value that \a scale has of \a cabinets, in letters. */
-int longestValue(const std::vector<CabinetAssessment> &cabinets, const WallScale &scale);
+/*! \brief The fonts after \a font with which \a value and a name of \a nameLength letters fit into \a cell.
+ */
+WallCellFonts wallCellFonts(const QFont &font, const QSizeF &cell, const QString &value, int nameLength);
+
+/*! \brief The longest value that \a scale has of \a cabinets. */
+QString longestValue(const std::vector<CabinetAssessment> &cabinets, const WallScale &scale);
 /*! \brief The length of the longest name on the map of \a wall, in letters, but 8 at most: longer ones are cut. */
 int longestName(const DisplayWall &wall);
 
@@ -83,8 +87,8 @@ int longestName(const DisplayWall &wall);
 void paintWallCell(
     QPainter *painter, const QRectF &place, const WallCell &cell, const WallCellFonts &fonts, const QPalette &palette);
 
-/*! \brief The height of a legend in \a font. */
-double wallLegendHeight(const QFont &font);
+/*! \brief The height of the legend of \a scale in \a font where it is \a width wide. */
+double wallLegendHeight(const WallScale &scale, const QFont &font, double width);
 /*! \brief Paints the legend of \a scale into \a place: colours with numbers and unit, marks, and what is shown. */
 void paintWallLegend(
     QPainter *painter, const QRectF &place, const WallScale &scale, const QFont &font, const QPalette &palette);

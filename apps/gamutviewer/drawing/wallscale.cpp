@@ -168,14 +168,20 @@ WallScale::WallScale(WallQuantity quantity, const std::vector<CabinetAssessment>
     };
     switch (quantity) {
     case WallQuantity::Headroom: {
-        const double least = -quantile(values, 1.0 - most);
-        m_width = niceWidth(std::max({quantile(values, most) / 6.0, least / 2.0, 0.005}));
-        m_first = -m_width;
+        // As many steps below 0 as there is need for, but two at least on either side.
+        const double below = std::max(-quantile(values, 1.0 - most), 0.0);
+        const double above = std::max(quantile(values, most), 0.0);
+        const double part = below + above > 0.0 ? below / (below + above) : 0.0;
+        const int worse = int(std::clamp(std::lround(part * stepCount), 2L, long(stepCount) - 2));
+        const int better = stepCount - worse;
+        m_width = niceWidth(std::max({above / better, below / worse, 0.005}));
+        m_first = -m_width * (worse - 1);
         setColors(blues);
-        m_steps[0].color = oranges[6];
-        m_steps[1].color = oranges[4];
-        for (int i = 2; i < stepCount; ++i) {
-            m_steps[i].color = blues[i - 2];
+        for (int i = 0; i < worse; ++i) {
+            m_steps[i].color = oranges[6 - i * 4 / (worse - 1)];
+        }
+        for (int i = 0; i < better; ++i) {
+            m_steps[worse + i].color = blues[i * 5 / (better - 1)];
         }
         break;
     }

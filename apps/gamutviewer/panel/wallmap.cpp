@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
@@ -18,7 +19,7 @@ namespace gamutviewer {
 namespace {
 
 constexpr double highestCell = 1.25; // as a part of its width
-constexpr int largestCell = 96; // pixels
+constexpr int largestCell = 150; // pixels
 
 } // namespace
 
@@ -194,12 +195,21 @@ void WallLegend::setScale(const WallScale &scale)
 {
     m_scale = scale;
     setAccessibleName(wallLegendText(scale));
+    updateGeometry();
     update();
 }
 
-QSize WallLegend::sizeHint() const
+int WallLegend::heightForWidth(int width) const
 {
-    return QSize(120, int(std::ceil(wallLegendHeight(font()))));
+    return int(std::ceil(wallLegendHeight(m_scale, font(), width)));
+}
+
+void WallLegend::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) {
+        updateGeometry();
+    }
 }
 
 void WallLegend::paintEvent(QPaintEvent *)

@@ -69,11 +69,15 @@ public:
 
     void setScale(const WallScale &scale);
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    /*! \brief The height that it takes where it is \a width wide. */
+    int heightForWidth(int width) const override;
+    bool hasHeightForWidth() const override { return true; }
+    QSize sizeHint() const override { return QSize(120, heightForWidth(width())); }
+    QSize minimumSizeHint() const override { return QSize(60, sizeHint().height()); }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     WallScale m_scale;

@@ -31,7 +31,7 @@ void WallMapModel::refresh(const WallScale &scale)
 {
     m_scale = scale;
     const auto &assessment = m_session->assessment().wall;
-    m_longestValue = assessment ? gamutviewer::longestValue(assessment->cabinets, scale) : 1;
+    m_longestValue = assessment ? gamutviewer::longestValue(assessment->cabinets, scale) : undefinedText();
     const auto isSame = [](const Place &place, const WallCabinet &cabinet) {
         return place.row == cabinet.row && place.column == cabinet.column;
     };

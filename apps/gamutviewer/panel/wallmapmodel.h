@@ -26,7 +26,7 @@ public:
     QModelIndex indexOf(std::size_t cabinet) const;
     /*! \brief How the cabinet at \a index is drawn, but for its selection; nothing for a gap. */
     std::optional<WallCell> cell(const QModelIndex &index) const;
-    int longestValue() const { return m_longestValue; }
+    const QString &longestValue() const { return m_longestValue; }
     int longestName() const { return m_longestName; }
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -50,7 +50,7 @@ private:
     WallGrid m_grid;
     std::vector<Place> m_places; // that the grid is of
     std::vector<QModelIndex> m_indexes; // of each cabinet
-    int m_longestValue = 1;
+    QString m_longestValue;
     int m_longestName = 1;
 };
 

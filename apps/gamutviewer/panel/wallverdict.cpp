@@ -122,12 +122,18 @@ std::vector<std::size_t> WallVerdict::cabinetsToLeaveOut() const
             found.push_back(cabinet);
         }
     }
+    // One has to be left.
+    const auto counted = std::count_if(wall->cabinets.begin(), wall->cabinets.end(),
+        [](const CabinetAssessment &cabinet) { return !cabinet.isLeftOut; });
+    if (counted < 2) {
+        return {};
+    }
     const auto selected = m_session->selectedCabinet();
     if (selected && *selected < wall->cabinets.size() && !wall->cabinets[*selected].isLeftOut
         && (found.empty() || found.size() > mostToLeaveOut)) {
         return {*selected};
     }
-    if (found.size() > mostToLeaveOut) {
+    if (found.size() > mostToLeaveOut || found.size() == std::size_t(counted)) {
         found.resize(1);
     }
     return found;

@@ -52,6 +52,9 @@ WallPage::WallPage(TargetSession *session, QWidget *parent)
     all->setContentsMargins(6, 6, 6, 0);
     m_verdict = new WallVerdict(session, m_content);
     all->addWidget(m_verdict);
+    auto *bar = new QHBoxLayout;
+    all->addLayout(bar);
+    buildQuantities(bar);
     auto *parts = new QSplitter(Qt::Horizontal, m_content);
     parts->setChildrenCollapsible(false);
     parts->addWidget(buildMaps());
@@ -74,16 +77,8 @@ QWidget *WallPage::buildMaps()
     auto *column = new QVBoxLayout(m_maps);
     column->setContentsMargins(0, 0, 4, 4);
     column->setSpacing(4);
-    m_extent = new QLabel(m_maps);
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * barScale);
-    m_extent->setFont(small);
-    m_extent->setTextFormat(Qt::PlainText);
-    m_extent->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    column->addWidget(m_extent);
-    auto *bar = new QHBoxLayout;
-    column->addLayout(bar);
-    buildQuantities(bar);
     m_map = new WallMap(m_session, WallMap::Cabinets::Placed, m_maps);
     m_map->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     column->addWidget(m_map);
@@ -109,6 +104,11 @@ void WallPage::buildQuantities(QHBoxLayout *bar)
     m_quantities = new QActionGroup(this);
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * barScale);
+    m_extent = new QLabel(m_content);
+    m_extent->setFont(small);
+    m_extent->setTextFormat(Qt::PlainText);
+    bar->addWidget(m_extent);
+    bar->addSpacing(12);
     for (const WallQuantity quantity : allWallQuantities) {
         auto *action = new QAction(wallQuantityName(quantity), this);
         action->setCheckable(true);
@@ -121,8 +121,6 @@ void WallPage::buildQuantities(QHBoxLayout *bar)
         button->setFont(small);
         button->setDefaultAction(action);
         button->setFocusPolicy(Qt::TabFocus);
-        button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-        button->setMinimumWidth(10);
         bar->addWidget(button);
     }
     bar->addStretch();
@@ -221,11 +219,9 @@ void WallPage::refreshMaps()
     m_map->setVisible(!m_map->isEmpty());
     m_unplaced->setVisible(!m_unplaced->isEmpty());
     m_unplacedTitle->setVisible(!m_unplaced->isEmpty());
-    m_extent->setText(m_map->isEmpty() ? tr("Wall of %1 cabinets").arg(wall.cabinets.size())
-                                       : tr("Wall of %1 × %2, %3 cabinets", "rows, columns")
-                                             .arg(m_map->gridRows())
-                                             .arg(m_map->model()->columnCount())
-                                             .arg(wall.cabinets.size()));
+    m_extent->setText(m_map->isEmpty()
+            ? tr("Wall")
+            : tr("Wall %1 × %2", "rows, columns").arg(m_map->gridRows()).arg(m_map->model()->columnCount()));
     shareRoom();
 }
 
@@ -234,16 +230,11 @@ void WallPage::shareRoom()
 {
     const QMargins margins = m_maps->layout()->contentsMargins();
     const int spacing = m_maps->layout()->spacing();
-    int room = m_maps->height() - margins.top() - margins.bottom() - m_extent->sizeHint().height()
-        - m_legend->sizeHint().height() - 4 * spacing;
-    for (const AccentButton *button : m_maps->findChildren<AccentButton *>()) {
-        room -= button->sizeHint().height();
-        break;
-    }
+    const int width = m_maps->width() - margins.left() - margins.right();
+    int room = m_maps->height() - margins.top() - margins.bottom() - m_legend->heightForWidth(width) - 2 * spacing;
     if (!m_unplaced->isEmpty()) {
         room -= m_unplacedTitle->sizeHint().height() + 2 * spacing;
     }
-    const int width = m_maps->width() - margins.left() - margins.right();
     const int placed = m_map->heightFor(width);
     const int others = m_unplaced->heightFor(width);
     const double share = std::min(1.0, double(std::max(room, 40)) / std::max(placed + others, 1));
