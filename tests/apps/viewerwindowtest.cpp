@@ -17,6 +17,7 @@
 #include "window/librarypage.h"
 #include "window/recentfiles.h"
 #include "window/tolerancesmenu.h"
+#include "window/wallpage.h"
 #include <gamutfiles/descriptionfile.h>
 
 #include <ceiechart/diagram/chartstyle.h>
@@ -377,7 +378,7 @@ void ViewerWindowTest::geometryAndPageAreRemembered()
 void ViewerWindowTest::pagesByKeyboard()
 {
     WindowFixture f;
-    for (int page = 2; page >= 0; --page) {
+    for (int page = 3; page >= 0; --page) {
         QTest::keyClick(f.window.get(), Qt::Key(Qt::Key_1 + page), Qt::ControlModifier);
         QCOMPARE(f.window->pages()->currentIndex(), page);
     }
@@ -387,8 +388,8 @@ void ViewerWindowTest::keyboardGoesToThePage()
 {
     WindowFixture f;
     const QWidget *inside[] = {f.window->diagramPage()->view(), f.window->comparePage()->table(),
-        f.window->libraryPage()->currentChart()->view()};
-    for (int page = 2; page >= 0; --page) {
+        f.window->wallPage()->emptyNote(), f.window->libraryPage()->currentChart()->view()};
+    for (int page = 3; page >= 0; --page) {
         QTest::keyClick(f.window.get(), Qt::Key(Qt::Key_1 + page), Qt::ControlModifier);
         QCOMPARE(static_cast<const QWidget *>(QApplication::focusWidget()), inside[page]);
     }

@@ -405,7 +405,7 @@ void WallPageTest::verdictOfThePanelFitsToTheWall()
     WallFixture f(oneDim());
     Verdict *verdict = f.window->panel()->verdict();
     QVERIFY(verdict->text().contains(QStringLiteral("11 of 12 cabinets show this target; B2 does not.")));
-    QCOMPARE(verdict->fitButton()->text(), QStringLiteral("&Fit target to the wall"));
+    QCOMPARE(verdict->fitButton()->text(), QStringLiteral("F&it target to the wall"));
     QTest::mouseClick(verdict->fitButton(), Qt::LeftButton);
     QVERIFY(verdict->text().startsWith(QStringLiteral("✓")));
 }

@@ -181,7 +181,7 @@ WallScale::WallScale(WallQuantity quantity, const std::vector<CabinetAssessment>
             m_steps[i].color = oranges[6 - i * 4 / (worse - 1)];
         }
         for (int i = 0; i < better; ++i) {
-            m_steps[worse + i].color = blues[i * 5 / (better - 1)];
+            m_steps[worse + i].color = blues[std::min(i * 5 / (better - 1), 2 * i)];
         }
         break;
     }

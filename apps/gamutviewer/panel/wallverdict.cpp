@@ -76,14 +76,14 @@ WallVerdict::WallVerdict(TargetSession *session, QWidget *parent)
         ways->addWidget(button);
         return button;
     };
-    m_fit = addWay(tr("&Fit target to the wall"));
+    m_fit = addWay(tr("Fit target to the wall"));
     m_fit->setToolTip(tr("Moves each primary towards the white until all cabinets show it, and lowers the luminance of "
                          "the white to what all reach"));
     m_without = addWay(QString());
     m_without->setToolTip(tr("Judges the wall without the cabinet; its corrections are still made"));
-    m_again = addWay(tr("Count &all again"));
+    m_again = addWay(tr("Count all again"));
     m_again->setToolTip(tr("Judges the wall with all of its cabinets"));
-    m_export = addWay(tr("E&xport corrections…"));
+    m_export = addWay(tr("Export corrections…"));
     m_export->setToolTip(tr("Writes the matrix of each cabinet to a file"));
     ways->addStretch();
     connect(m_fit, &QToolButton::clicked, session, &TargetSession::fitToWall);
@@ -98,6 +98,7 @@ WallVerdict::WallVerdict(TargetSession *session, QWidget *parent)
     connect(m_export, &QToolButton::clicked, this, &WallVerdict::exportWanted);
     connect(m_lines, &QListWidget::itemClicked, this, &WallVerdict::choose);
     connect(m_lines, &QListWidget::itemActivated, this, &WallVerdict::choose);
+    refresh();
 }
 
 QString WallVerdict::text() const

@@ -1565,8 +1565,8 @@
         <translation>移入实测色域(&amp;M)</translation>
     </message>
     <message>
-        <source>&amp;Fit target to the wall</source>
-        <translation>将目标适配到墙(&amp;F)</translation>
+        <source>F&amp;it target to the wall</source>
+        <translation>将目标适配到墙(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -1833,10 +1833,6 @@ Shows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.<
         <translation>校正已导出到 %1</translation>
     </message>
     <message>
-        <source>Wa&amp;ll</source>
-        <translation>墙(&amp;L)</translation>
-    </message>
-    <message>
         <source>&amp;Fit target to the wall</source>
         <translation>将目标适配到墙(&amp;F)</translation>
     </message>
@@ -1901,6 +1897,10 @@ Esc – 恢复目标的数值
 Ctrl+C – 复制整个表格
 
 Ctrl+1 到 Ctrl+4 – 显示页面</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>墙</translation>
     </message>
 </context>
 <context>
@@ -2384,10 +2384,6 @@ Open a list of measurements with a column for the cabinet, or for its row and co
         <translation>方向键：下一个箱体   Esc：不选   表格中 Ctrl+C：复制</translation>
     </message>
     <message>
-        <source>&amp;Wall</source>
-        <translation>墙(&amp;W)</translation>
-    </message>
-    <message>
         <source>Wall</source>
         <translation>墙</translation>
     </message>
@@ -2456,10 +2452,6 @@ Open a list of measurements with a column for the cabinet, or for its row and co
         <translation>按回车键选择该行的箱体</translation>
     </message>
     <message>
-        <source>&amp;Fit target to the wall</source>
-        <translation>将目标适配到墙(&amp;F)</translation>
-    </message>
-    <message>
         <source>Moves each primary towards the white until all cabinets show it, and lowers the luminance of the white to what all reach</source>
         <translation>将每个基色朝白点移动，直到所有箱体都能显示，并将白色亮度降低到全部都能达到</translation>
     </message>
@@ -2468,16 +2460,8 @@ Open a list of measurements with a column for the cabinet, or for its row and co
         <translation>判断时排除该箱体；仍为其生成校正</translation>
     </message>
     <message>
-        <source>Count &amp;all again</source>
-        <translation>重新计入全部(&amp;A)</translation>
-    </message>
-    <message>
         <source>Judges the wall with all of its cabinets</source>
         <translation>判断时计入所有箱体</translation>
-    </message>
-    <message>
-        <source>E&amp;xport corrections…</source>
-        <translation>导出校正(&amp;X)…</translation>
     </message>
     <message>
         <source>Writes the matrix of each cabinet to a file</source>
@@ -2500,6 +2484,18 @@ Open a list of measurements with a column for the cabinet, or for its row and co
         <source>Without %1 and %2</source>
         <comment>names of cabinets</comment>
         <translation>排除 %1 和 %2</translation>
+    </message>
+    <message>
+        <source>Fit target to the wall</source>
+        <translation>将目标适配到墙</translation>
+    </message>
+    <message>
+        <source>Count all again</source>
+        <translation>重新计入全部</translation>
+    </message>
+    <message>
+        <source>Export corrections…</source>
+        <translation>导出校正…</translation>
     </message>
 </context>
 <context>

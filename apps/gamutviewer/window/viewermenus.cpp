@@ -125,7 +125,7 @@ void ViewerWindow::buildViewMenu()
 
 void ViewerWindow::buildWallMenu()
 {
-    QMenu *menu = menuBar()->addMenu(tr("Wa&ll"));
+    QMenu *menu = menuBar()->addMenu(tr("Wall"));
     menu->addActions(m_wallPage->actions());
     menu->addSeparator();
     QAction *fit = menu->addAction(tr("&Fit target to the wall"), m_session, &TargetSession::fitToWall);

@@ -33,7 +33,7 @@ class WallPage : public Page {
 public:
     explicit WallPage(TargetSession *session, QWidget *parent = nullptr);
 
-    QString title() const override { return tr("&Wall"); }
+    QString title() const override { return tr("Wall"); }
     QString hints() const override;
     Picture picture() const override;
 
