@@ -79,7 +79,7 @@ WallVerdict::WallVerdict(TargetSession *session, QWidget *parent)
     m_fit = addWay(tr("Fit target to the wall"));
     m_fit->setToolTip(tr("Moves each primary towards the white until all cabinets show it, and lowers the luminance of "
                          "the white to what all reach"));
-    m_without = addWay(QString());
+    m_without = addWay(tr("Without the cabinet"));
     m_without->setToolTip(tr("Judges the wall without the cabinet; its corrections are still made"));
     m_again = addWay(tr("Count all again"));
     m_again->setToolTip(tr("Judges the wall with all of its cabinets"));

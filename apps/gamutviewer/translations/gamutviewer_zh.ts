@@ -2497,6 +2497,10 @@ Open a list of measurements with a column for the cabinet, or for its row and co
         <source>Export corrections…</source>
         <translation>导出校正…</translation>
     </message>
+    <message>
+        <source>Without the cabinet</source>
+        <translation>排除该箱体</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WarningBar</name>
