@@ -7,10 +7,10 @@
 #include "drawing/picture.h"
 #include "editing/openedfiles.h"
 #include "editing/targetsession.h"
+#include "editing/wallcommand.h"
 #include "program/commandline.h"
 #include "program/interfacetranslations.h"
 #include "program/platform.h"
-#include "editing/wallcommand.h"
 #include "window/viewerwindow.h"
 
 #include <gamutfiles/filebytes.h>
