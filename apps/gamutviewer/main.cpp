@@ -7,11 +7,11 @@
 #include "drawing/picture.h"
 #include "editing/openedfiles.h"
 #include "editing/targetsession.h"
+#include "editing/wallcommand.h"
 #include "program/commandline.h"
 #include "program/interfacetranslations.h"
 #include "program/platform.h"
 #include "program/streaminput.h"
-#include "program/wallcommand.h"
 #include "window/followmenu.h"
 #include "window/viewerwindow.h"
 

@@ -436,7 +436,7 @@ void CommandLineTest::refusals_data()
     QTest::newRow("layers of a report") << QStringList{"--layers", "none", "--report", "json"}
                                         << "--layers requires --render.";
     QTest::newRow("unknown diagram") << QStringList{"--render", "a.png", "--diagram", "XY"}
-                                     << "Unknown diagram, expected xy, uv, uv1960 or chart: XY";
+                                     << "Unknown diagram, expected xy, uv, uv1960, chart or wall: XY";
     QTest::newRow("unknown view") << QStringList{"--render", "a.png", "--view", "red"}
                                   << "Unknown view, expected all, target or white: red";
     QTest::newRow("layers of the chart") << QStringList{"--render", "a.png", "--diagram", "chart", "--layers", "all"}

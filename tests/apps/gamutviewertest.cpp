@@ -158,7 +158,7 @@ void GamutViewerTest::refusesArguments_data()
     QTest::newRow("bad ratio") << QStringList{"--dpr", "0"}
                                << QByteArray("Invalid device pixel ratio, expected 0.25 to 16: 0");
     QTest::newRow("bad diagram") << QStringList{"--diagram", "lab", "--render", "a.png"}
-                                 << QByteArray("Unknown diagram, expected xy, uv, uv1960 or chart: lab");
+                                 << QByteArray("Unknown diagram, expected xy, uv, uv1960, chart or wall: lab");
     QTest::newRow("two descriptions") << QStringList{SAMPLE_FILE,
         SAMPLE_FILE} << QByteArray(SAMPLE_FILE ": is a second display description; the first is " SAMPLE_FILE);
     QTest::newRow("missing file") << QStringList{"no.json"}

@@ -126,7 +126,7 @@ void ViewerWindowTest::geometryAndPageAreRemembered()
 void ViewerWindowTest::pagesByKeyboard()
 {
     WindowFixture f;
-    for (int page = 2; page >= 0; --page) {
+    for (int page = 3; page >= 0; --page) {
         QTest::keyClick(f.window.get(), Qt::Key(Qt::Key_1 + page), Qt::ControlModifier);
         QCOMPARE(f.window->pages()->currentIndex(), page);
     }
@@ -136,8 +136,8 @@ void ViewerWindowTest::keyboardGoesToThePage()
 {
     WindowFixture f;
     const QWidget *inside[] = {f.window->diagramPage()->view(), f.window->comparePage()->table(),
-        f.window->libraryPage()->currentChart()->view()};
-    for (int page = 2; page >= 0; --page) {
+        f.window->wallPage()->emptyNote(), f.window->libraryPage()->currentChart()->view()};
+    for (int page = 3; page >= 0; --page) {
         QTest::keyClick(f.window.get(), Qt::Key(Qt::Key_1 + page), Qt::ControlModifier);
         QCOMPARE(static_cast<const QWidget *>(QApplication::focusWidget()), inside[page]);
     }

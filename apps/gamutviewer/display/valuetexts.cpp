@@ -2,8 +2,8 @@
 #include "display/valuetexts.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 
 namespace gamutviewer {
@@ -11,7 +11,10 @@ namespace gamutviewer {
 QString fixedText(double value, int decimals)
 {
     QString text = QString::number(value, 'f', decimals);
-    const bool isZero = !text.contains(QRegularExpression(QStringLiteral("[1-9a-z]")));
+    // Of numbers with digits other than 0, and of "-inf", the sign stays.
+    const bool isZero = std::all_of(text.cbegin(), text.cend(), [](QChar letter) {
+        return letter == QLatin1Char('0') || letter == QLatin1Char('.') || letter == QLatin1Char('-');
+    });
     if (isZero && text.startsWith(QLatin1Char('-'))) {
         text.remove(0, 1);
     }
@@ -67,6 +70,11 @@ QString luminanceText(double luminance, gamutfiles::LuminanceUnit unit)
 QString wavelengthText(const Model::DominantWavelength &hue)
 {
     return fixedText(hue.wavelength, 1);
+}
+
+QString plainToolTip(const QString &text)
+{
+    return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
 }
 
 QString purityText(const Model::DominantWavelength &hue)

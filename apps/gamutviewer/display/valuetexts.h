@@ -40,6 +40,9 @@ QString luminanceText(double luminance, gamutfiles::LuminanceUnit unit);
 
 /*! \brief "532.1", in nm; of a purple the complementary wavelength, negative. */
 QString wavelengthText(const Model::DominantWavelength &hue);
+/*! \brief A tool tip of \a text as it is: a name may look like markup. */
+QString plainToolTip(const QString &text);
+
 /*! \brief The excitation purity, "0.95". */
 QString purityText(const Model::DominantWavelength &hue);
 

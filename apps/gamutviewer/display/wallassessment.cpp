@@ -537,7 +537,12 @@ private:
         const int all = int(m_counted.size());
         const int fails = int(failing.size());
         QString &text = m_result.headline;
-        if (all == 0) {
+        if (m_cabinets.size() == 1 && all == 1) {
+            const QString name = cabinetName(m_wall, 0);
+            text = fails > 0  ? WallText::tr("The cabinet %1 does not show this target").arg(name)
+                : unknown > 0 ? WallText::tr("Not known whether the cabinet %1 shows this target").arg(name)
+                              : WallText::tr("The cabinet %1 shows this target").arg(name);
+        } else if (all == 0) {
             text = WallText::tr("Nothing is judged: all cabinets are left out");
         } else if (fails == 0 && unknown > 0) {
             text = int(unknown) == all ? WallText::tr("Not known whether the cabinets show this target")
@@ -618,7 +623,25 @@ QString whiteText(const DisplayWall &wall, const DisplayGamut &target, const Cab
 
 QString cabinetName(const DisplayWall &wall, std::size_t cabinet)
 {
-    return oneLine(wall.cabinets[cabinet].label());
+    const QString &name = wall.cabinets[cabinet].name;
+    const auto same = std::count_if(
+        wall.cabinets.begin(), wall.cabinets.end(), [&name](const WallCabinet &other) { return other.name == name; });
+    return oneLine(name.isEmpty() || same > 1 ? wall.cabinets[cabinet].label() : name);
+}
+
+std::vector<QString> cabinetNames(const DisplayWall &wall)
+{
+    QHash<QString, int> counts;
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        ++counts[cabinet.name];
+    }
+    std::vector<QString> names;
+    names.reserve(wall.cabinets.size());
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        const bool isUnique = !cabinet.name.isEmpty() && counts.value(cabinet.name) == 1;
+        names.push_back(oneLine(isUnique ? cabinet.name : cabinet.label()));
+    }
+    return names;
 }
 
 QString cabinetText(

@@ -113,8 +113,10 @@ QString commonGamutProblem(const DisplayWall &wall, const Model::CommonGamut &co
 /*! \brief Why a target cannot be fitted, and what to do; empty without a fault. */
 QString fitProblem(const DisplayWall &wall, const WallAssessment &assessment);
 
-/*! \brief The name of \a cabinet of \a wall on one line. */
+/*! \brief How \a cabinet of \a wall is called, on one line: by its name where no other has it, else by its label. */
 QString cabinetName(const DisplayWall &wall, std::size_t cabinet);
+/*! \brief The same of all cabinets. */
+std::vector<QString> cabinetNames(const DisplayWall &wall);
 
 /*!
  * \brief The \a target fitted to the wall that \a assessment is of, with a white that all cabinets reach; nothing where

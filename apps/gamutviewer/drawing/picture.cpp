@@ -4,6 +4,7 @@
 #include "display/gamutfiles.h"
 #include "drawing/librarychart.h"
 #include "drawing/picturekey.h"
+#include "drawing/wallpainter.h"
 
 #include <ceiechart/diagram/diagrampainter.h>
 
@@ -41,9 +42,13 @@ ceiechart::DiagramContent contentOn(const QSize &size, ceiechart::DiagramContent
     return content;
 }
 
-//! Paints the diagram and its key; the painter's units are pixels of 1/96 inch.
+//! Paints the wall, or the diagram and its key; the painter's units are pixels of 1/96 inch.
 void paintDiagram(QPainter &painter, const Picture &picture, const QSize &size)
 {
+    if (picture.wall) {
+        paintWallPicture(&painter, QRectF(QPointF(), size), *picture.wall);
+        return;
+    }
     const ceiechart::DiagramContent content = contentOn(size, picture.content);
     PictureLayout layout;
     layout.diagram = QRectF(QPointF(), size);
@@ -122,7 +127,7 @@ std::optional<PictureFormat> pictureFormat(const QString &fileName)
 
 bool lacksRoomForKey(const Picture &picture, const QSize &size)
 {
-    return picture.hasKey && !picture.isLibraryChart && !PictureKey(picture.content, 1).isEmpty()
+    return picture.hasKey && !picture.isLibraryChart && !picture.wall && !PictureKey(picture.content, 1).isEmpty()
         && layOutPicture(contentOn(size, picture.content), picture.view, size).key.isEmpty();
 }
 

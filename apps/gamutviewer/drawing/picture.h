@@ -9,9 +9,12 @@
 #include <QSize>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace gamutviewer {
+
+struct WallPicture;
 
 /*!
  * \brief What a picture for a file, the clipboard or paper shows.
@@ -23,6 +26,7 @@ struct Picture {
     ceiechart::DiagramContent content; //!< what is drawn
     ceiechart::DiagramViewport view; //!< which diagram and which part of it, on an area of any size
     bool hasKey = true; //!< whether the gamuts are named in a key, where there is room for one
+    std::shared_ptr<const WallPicture> wall{}; //!< drawn instead of the diagram, whatever view and hasKey are; or null
     bool isLibraryChart = false; //!< whether it is libraryChart() of content instead, whatever view and hasKey are
 };
 

@@ -156,7 +156,7 @@ bool isEmpty(const DisplayDescription &description)
     return description.name.isEmpty() && description.notes.isEmpty() && description.gamuts.empty()
         && std::all_of(std::begin(allGamutRoles), std::end(allGamutRoles), isFree) && description.standards.isEmpty()
         && description.colorTemperaturePoints.isEmpty() && description.measurePoints.isEmpty()
-        && description.cmyPoints.isEmpty();
+        && description.cmyPoints.isEmpty() && description.wall.cabinets.empty();
 }
 
 } // namespace gamutviewer

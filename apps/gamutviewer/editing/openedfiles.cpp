@@ -157,6 +157,34 @@ DisplayDescription withFile(const DisplayDescription &open, const GamutFile &fil
     return result;
 }
 
+DisplayDescription withFile(const DisplayDescription &open, const ReadFile &added)
+{
+    if (!added.wall) {
+        return withFile(open, added.file, added.role);
+    }
+    DisplayDescription result = open;
+    if (result.name.isEmpty()) {
+        result.name = displayName(added.file);
+    }
+    result.wall = *added.wall;
+    return result;
+}
+
+Outcome<ReadFile> asWall(const ReadFile &file)
+{
+    if (file.file.content != Content::Measurements) {
+        return Outcome<ReadFile>::failure(OpenText::tr("is no measurement list"));
+    }
+    const Outcome<DisplayWall> wall = wallFromMeasurements(file.file.measurements);
+    if (!wall) {
+        return Outcome<ReadFile>::failure(wall.problem());
+    }
+    ReadFile result = file;
+    result.wall = *wall;
+    result.warnings += wall.warnings();
+    return result;
+}
+
 QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile &added)
 {
     QVector<Problem> remarks;
@@ -173,6 +201,13 @@ QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile 
                        .arg(there, luminanceUnitText(gamut.unit)));
         }
     };
+    if (added.wall) {
+        if (!open.wall.cabinets.empty()) {
+            remark(
+                OpenText::tr("takes the place of the wall there was, of %1 cabinets").arg(open.wall.cabinets.size()));
+        }
+        return remarks;
+    }
     if (added.file.content == Content::Description && !isEmpty(open)) {
         remark(OpenText::tr("adds its gamuts only, in no part"));
         for (const DisplayGamut &gamut : added.file.description.gamuts) {
@@ -209,7 +244,7 @@ Outcome<QVector<ReadFile>> readFiles(const QStringList &fileNames, const FileRea
         if (!file) {
             return Failure::failure(file.problem().message(fileName));
         }
-        const ReadFile read{fileName, *file, file.warnings(), usualRole(*file)};
+        const ReadFile read{fileName, *file, file.warnings(), usualRole(*file), std::nullopt};
         if (file->content != Content::Description) {
             files.append(read);
             continue;
@@ -248,9 +283,9 @@ OpenedFiles openedWith(const DisplayDescription &open, const QVector<ReadFile> &
     OpenedFiles opened;
     opened.description = open;
     for (const ReadFile &file : files) {
-        opened.description = withFile(opened.description, file.file, file.role);
+        opened.description = withFile(opened.description, file);
         opened.fileNames.append(file.fileName);
-        opened.needsChoice = opened.needsChoice || needsChoice(file.file);
+        opened.needsChoice = opened.needsChoice || (!file.wall && needsChoice(file.file));
         opened.hasLists = opened.hasLists || file.file.content == Content::Measurements;
         for (const Problem &warning : file.warnings) {
             opened.warnings.append({file.fileName, warning});

@@ -27,6 +27,7 @@ struct ReadFile {
     GamutFile file; //!< what it brings
     QVector<Problem> warnings; //!< of its reader
     std::optional<GamutRole> role; //!< of its gamut, if it has one; none: it is only added to the list of gamuts
+    std::optional<DisplayWall> wall{}; //!< of the cabinets of a list, if they are to be the wall of the display
 };
 
 /*! \brief How one file is read. */
@@ -61,6 +62,19 @@ std::optional<GamutRole> usualRole(const GamutFile &file);
  * part; where \a open is empty, the description takes its place.
  */
 DisplayDescription withFile(const DisplayDescription &open, const GamutFile &file, std::optional<GamutRole> role);
+
+/*!
+ * \brief \a open with \a added: its wall in place of the one that was there, or else as withFile() of its file.
+ *
+ * The measurements of a wall are no points of the display besides.
+ */
+DisplayDescription withFile(const DisplayDescription &open, const ReadFile &added);
+
+/*!
+ * \brief \a file with the wall that its list makes; what the reader of walls warns of comes after the other warnings.
+ * A failure for what makes none.
+ */
+Outcome<ReadFile> asWall(const ReadFile &file);
 
 /*! \brief What a user must know before \a added becomes a part of \a open: that it is of another display, say. */
 QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile &added);

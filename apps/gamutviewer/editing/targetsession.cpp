@@ -4,6 +4,7 @@
 #include "display/additivity.h"
 #include "display/knowndisplay.h"
 #include "display/valuetexts.h"
+#include "display/wallassessment.h"
 #include "editing/document.h"
 
 #include <ceiechart/diagram/whitepoint.h>
@@ -23,6 +24,30 @@ TargetSession::TargetSession(Document *document, QObject *parent)
     : QObject(parent)
     , m_document(document)
 {
+    // Before all others hear of it.
+    connect(document, &Document::changed, this, [this] {
+        m_assessment.reset();
+        if (m_selectedCabinet && *m_selectedCabinet >= m_document->description().wall.cabinets.size()) {
+            selectCabinet(std::nullopt);
+        }
+    });
+    connect(document, &Document::opened, this, [this] { selectCabinet(std::nullopt); });
+}
+
+const Assessment &TargetSession::assessment() const
+{
+    if (!m_assessment) {
+        m_assessment = assess(m_document->description(), m_tolerances);
+    }
+    return *m_assessment;
+}
+
+void TargetSession::selectCabinet(std::optional<std::size_t> cabinet)
+{
+    if (m_selectedCabinet != cabinet) {
+        m_selectedCabinet = cabinet;
+        Q_EMIT selectedCabinetChanged();
+    }
 }
 
 void TargetSession::setHoldWhite(bool hold)
@@ -61,6 +86,7 @@ void TargetSession::select(std::optional<Vertex> vertex)
 void TargetSession::setTolerances(const std::optional<Tolerances> &tolerances)
 {
     m_tolerances = tolerances;
+    m_assessment.reset();
     Q_EMIT tolerancesChanged();
 }
 
@@ -145,7 +171,18 @@ void TargetSession::setLuminanceUnit(LuminanceUnit unit)
     if (!target || target->unit == unit) {
         return;
     }
-    const auto brightest = reachableLuminance(m_document->description(), target->getTargets().white);
+    const DisplayDescription &description = m_document->description();
+    auto brightest = reachableLuminance(description, target->getTargets().white);
+    if (description.wall.unit == LuminanceUnit::CandelaPerSquareMetre) {
+        const auto wall = assessment().wall;
+        const auto ofWall
+            = wall && wall->largestWhite ? std::make_optional(wall->largestWhite->luminance) : std::nullopt;
+        if (knownDisplays(description).empty()) {
+            brightest = ofWall;
+        } else if (brightest) {
+            brightest = ofWall ? std::make_optional(std::min(*brightest, *ofWall)) : std::nullopt;
+        }
+    }
     m_document->change(withLuminanceUnit(m_document->description(), unit, brightest), tr("change unit of luminances"));
     if (target->unit == LuminanceUnit::Relative && unit == LuminanceUnit::CandelaPerSquareMetre && !brightest) {
         refuse(tr("What luminance the display reaches is not known. Enter that of the white."));
@@ -185,6 +222,46 @@ void TargetSession::fitToDisplay()
     if (!apply(fitted, unitAfterMoving(Vertex::Red), tr("fit to the display"), 0)) {
         refuse(tr("The white would lie outside of the target."));
     }
+}
+
+void TargetSession::fitToWall()
+{
+    const auto target = m_document->description().gamut(m_document->description().target);
+    const auto wall = assessment().wall;
+    if (!target || !wall) {
+        refuse(target ? tr("There is no wall to fit the target to.") : tr("There is no target to fit."));
+        return;
+    }
+    if (const auto fitted = fittedToWall(*target, *wall)) {
+        apply(fitted, target->unit, tr("fit to the wall"), 0);
+        return;
+    }
+    const QString problem = fitProblem(m_document->description().wall, *wall);
+    refuse(problem.isEmpty() ? tr("The target fits the wall as far as is known.") : problem);
+}
+
+void TargetSession::setLeftOut(const std::vector<std::size_t> &cabinets, bool isLeftOut)
+{
+    DisplayDescription description = m_document->description();
+    bool isAnother = false;
+    for (const std::size_t cabinet : cabinets) {
+        WallCabinet &of = description.wall.cabinets.at(cabinet);
+        isAnother = isAnother || of.isLeftOut != isLeftOut;
+        of.isLeftOut = isLeftOut;
+    }
+    if (isAnother) {
+        m_document->change(description, isLeftOut ? tr("leave out cabinets") : tr("count cabinets again"));
+    }
+}
+
+void TargetSession::removeWall()
+{
+    if (m_document->description().wall.cabinets.empty()) {
+        return;
+    }
+    DisplayDescription description = m_document->description();
+    description.wall = DisplayWall();
+    m_document->change(description, tr("remove the wall"));
 }
 
 void TargetSession::pointOut(Vertex vertex)

@@ -2,12 +2,14 @@
 #ifndef GAMUTVIEWER_TARGETSESSION_H
 #define GAMUTVIEWER_TARGETSESSION_H
 
+#include "display/assessment.h"
 #include "editing/targetedits.h"
 
 #include <QObject>
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace gamutviewer {
 
@@ -45,6 +47,12 @@ public:
     const std::optional<Tolerances> &tolerances() const { return m_tolerances; }
     void setTolerances(const std::optional<Tolerances> &tolerances);
 
+    /*! \brief What can be said of the document by the tolerances, worked out once for each state. */
+    const Assessment &assessment() const;
+    /*! \brief The cabinet of the wall that map, close looks and table mark, by its index; nothing for none. */
+    std::optional<std::size_t> selectedCabinet() const { return m_selectedCabinet; }
+    void selectCabinet(std::optional<std::size_t> cabinet);
+
     /*! \brief Why \a vertex cannot be moved to \a xy, for people; empty when it can. */
     QString whyNot(Vertex vertex, const QPointF &xy) const;
 
@@ -64,6 +72,15 @@ public:
      * many decimals as are shown, that lies inside. Does nothing when none lies outside.
      */
     void fitToDisplay();
+    /*!
+     * \brief Puts the target that is fitted to the wall in place of the target, as one step; tells, as refused(), why
+     * that cannot be done.
+     */
+    void fitToWall();
+    /*! \brief Judges the wall without \a cabinets, or with them again, as one step. */
+    void setLeftOut(const std::vector<std::size_t> &cabinets, bool isLeftOut);
+    /*! \brief Takes the wall out of the document, as one step. */
+    void removeWall();
     /*! \brief Selects \a vertex and has it shown closely on the diagram. */
     void pointOut(Vertex vertex);
 
@@ -80,6 +97,7 @@ Q_SIGNALS:
     void rulesChanged();
     void tolerancesChanged();
     void selectionChanged();
+    void selectedCabinetChanged();
     /*! \brief The user wants to see where \a vertex is. */
     void pointedOut(gamutviewer::Vertex vertex);
     /*! \brief The drag was ended from elsewhere than from where it is made. */
@@ -97,6 +115,8 @@ private:
     std::optional<Tolerances> m_tolerances;
     std::optional<Vertex> m_selected = Vertex::Red;
     Vertex m_dragged = Vertex::Red;
+    std::optional<std::size_t> m_selectedCabinet;
+    mutable std::optional<Assessment> m_assessment; // of the present state, once it has been asked for
 };
 
 /*! \brief \a gamutName as the interface shows it: that a gamut was changed by hand is said in its language. */

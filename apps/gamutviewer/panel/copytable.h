@@ -17,14 +17,11 @@ public:
     CopyTable(int rows, int columns, QWidget *parent = nullptr);
 
     /*! \brief The whole table, a line for each row, the headers first. */
-    QString text() const { return text(false); }
+    QString text() const;
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
-
-private:
-    QString text(bool selectedOnly) const;
 };
 
 } // namespace gamutviewer

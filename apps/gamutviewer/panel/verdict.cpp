@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/verdict.h"
 
+#include "display/wallassessment.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
 
@@ -61,7 +62,13 @@ Verdict::Verdict(TargetSession *session, QWidget *parent)
     m_fit = new QPushButton(tr("&Move inside the original"), this);
     m_fit->setToolTip(tr("Moves each primary that lies outside to the nearest colour that the display can show"));
     layout->addWidget(m_fit, 0, Qt::AlignLeft);
-    connect(m_fit, &QPushButton::clicked, session, &TargetSession::fitToDisplay);
+    connect(m_fit, &QPushButton::clicked, this, [this] {
+        if (m_fitsWall) {
+            m_session->fitToWall();
+        } else {
+            m_session->fitToDisplay();
+        }
+    });
     connect(m_lines, &QListWidget::itemClicked, this, &Verdict::pointOut);
     connect(m_lines, &QListWidget::itemActivated, this, &Verdict::pointOut);
     connect(session->document(), &Document::changed, this, &Verdict::refresh);
@@ -81,7 +88,7 @@ QString Verdict::text() const
 void Verdict::refresh()
 {
     const QString before = text();
-    show(assess(m_session->document()->description(), m_session->tolerances()));
+    show(m_session->assessment());
     if (text() != before) {
         // A screen reader says it as it changes.
         setAccessibleName(text());
@@ -120,8 +127,12 @@ void Verdict::show(const Assessment &assessment)
     const auto &description = m_session->document()->description();
     const auto exceeded = exceededDisplay(description);
     const auto into = exceeded ? exceeded : knownDisplay(description);
-    m_fit->setText(into && into->isMeasured ? tr("&Move inside the measured gamut") : tr("&Move inside the original"));
-    m_fit->setEnabled(exceeded.has_value());
+    // What the display's gamuts have nothing against, the cabinets of its wall may have.
+    m_fitsWall = !exceeded && assessment.wall && (!into || assessment.wall->judgement == Judgement::Fail);
+    m_fit->setText(m_fitsWall          ? tr("F&it target to the wall")
+            : into && into->isMeasured ? tr("&Move inside the measured gamut")
+                                       : tr("&Move inside the original"));
+    m_fit->setEnabled(exceeded || (m_fitsWall && assessment.wall->judgement == Judgement::Fail));
 }
 
 void Verdict::pointOut(const QListWidgetItem *item)

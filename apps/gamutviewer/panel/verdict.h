@@ -39,6 +39,7 @@ private:
     QLabel *m_verdict;
     QListWidget *m_lines;
     QPushButton *m_fit;
+    bool m_fitsWall = false; // which is what the button does
 };
 
 } // namespace gamutviewer

@@ -2,7 +2,8 @@
 #include "program/commandline.h"
 
 #include "drawing/documentcontent.h"
-#include "program/wallcommand.h"
+#include "drawing/wallpainter.h"
+#include "editing/wallcommand.h"
 
 #include <QFileInfo>
 #include <QMetaEnum>
@@ -77,8 +78,8 @@ CommandLine::CommandLine(const QStringList &arguments)
             .arg(greatestRatio),
         tr("ratio"));
     const QCommandLineOption diagram(QStringLiteral("diagram"),
-        tr("What the picture shows: the diagram xy (the default), uv (CIE 1976 u', v') or uv1960, or chart, the "
-           "library's own chart, as PNG. Requires --render."),
+        tr("What the picture shows: the diagram xy (the default), uv (CIE 1976 u', v') uv1960, wall, "
+           "the map of the wall, or chart, the library's own chart, as PNG. Requires --render."),
         tr("diagram"));
     const QCommandLineOption part(QStringLiteral("view"),
         tr("Part of the diagram: all (the default), target, or white, the surroundings of the target's white. Requires "
@@ -197,6 +198,9 @@ CommandLine::CommandLine(const QStringList &arguments)
         }
         if (m_isLibraryChart && option != &diagram && m_parser.isSet(*option)) {
             refuse(tr("--%1 does not apply to --diagram chart.").arg(name));
+        }
+        if (m_isWall && option != &diagram && option != &ratio && m_parser.isSet(*option)) {
+            refuse(tr("--%1 does not apply to --diagram wall.").arg(name));
         }
     }
     if (m_parser.isSet(size) && m_parser.isSet(report) && !m_parser.isSet(render)) {
@@ -364,12 +368,13 @@ void CommandLine::readRatio(const QString &text)
 void CommandLine::readDiagram(const QString &name)
 {
     m_isLibraryChart = name == QLatin1String("chart");
+    m_isWall = name == QLatin1String("wall");
     if (name == QLatin1String("uv")) {
         m_diagram = Model::Diagram::Cie1976;
     } else if (name == QLatin1String("uv1960")) {
         m_diagram = Model::Diagram::Cie1960;
-    } else if (name != QLatin1String("xy") && !m_isLibraryChart) {
-        refuse(tr("Unknown diagram, expected xy, uv, uv1960 or chart: %1").arg(name));
+    } else if (name != QLatin1String("xy") && !m_isLibraryChart && !m_isWall) {
+        refuse(tr("Unknown diagram, expected xy, uv, uv1960, chart or wall: %1").arg(name));
     }
 }
 
@@ -463,6 +468,9 @@ void CommandLine::readFollowed(const QStringList &fileNames)
 
 QString CommandLine::whyNoView(const DisplayDescription &description) const
 {
+    if (m_isWall && !m_pictureFile.isEmpty() && description.wall.cabinets.empty()) {
+        return tr("--diagram wall: there is no wall.");
+    }
     if (m_pictureFile.isEmpty() || m_part == Part::All || description.gamut(description.target)) {
         return QString();
     }
@@ -478,6 +486,10 @@ Picture CommandLine::picture(const DisplayDescription &description, const std::o
     picture.hasKey = m_hasKey;
     picture.isLibraryChart = m_isLibraryChart;
     picture.view = ceiechart::DiagramViewport(m_diagram, m_extent.size);
+    if (m_isWall) {
+        picture.wall = std::make_shared<const WallPicture>(
+            WallPicture{description.wall, assess(description).wall, WallQuantity::Headroom});
+    }
     if (const ceiechart::DiagramGamut *target = picture.content.find(ceiechart::GamutRole::Target)) {
         const Model::Targets &targets = target->gamut.getTargets();
         picture.content.rings = targetRings(targets, tolerances);

@@ -101,6 +101,7 @@ private:
     PictureExtent m_extent;
     Model::Diagram m_diagram = Model::Diagram::Cie1931;
     bool m_isLibraryChart = false;
+    bool m_isWall = false;
     Part m_part = Part::All;
     ceiechart::ShownLayers m_layers = ceiechart::allDiagramLayers;
     bool m_hasKey = true;

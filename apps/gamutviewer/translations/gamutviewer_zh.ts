@@ -104,6 +104,10 @@
         <source>The display is then called &quot;%1&quot;.</source>
         <translation>之后显示屏名为“%1”。</translation>
     </message>
+    <message>
+        <source>Wall of %1 cabinets</source>
+        <translation>%1 个箱体的墙</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::Assessment</name>
@@ -976,6 +980,14 @@
         <source>all of them, which make no gamut</source>
         <translation>全部，不构成色域</translation>
     </message>
+    <message>
+        <source>the whole wall, %1 cabinets</source>
+        <translation>整面墙，%1 个箱体</translation>
+    </message>
+    <message>
+        <source>The list makes a wall.</source>
+        <translation>该列表构成一面墙。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::OpenedFiles</name>
@@ -1012,6 +1024,14 @@
         <source>tells the unit of &quot;%1&quot;, which was not known: %2</source>
         <comment>gamut and unit</comment>
         <translation>给出此前未知的“%1”的单位：%2</translation>
+    </message>
+    <message>
+        <source>is no measurement list</source>
+        <translation>不是测量列表</translation>
+    </message>
+    <message>
+        <source>takes the place of the wall there was, of %1 cabinets</source>
+        <translation>取代原有的 %1 个箱体的墙</translation>
     </message>
 </context>
 <context>
@@ -1315,6 +1335,34 @@
         <source>What luminance the display reaches is not known. Enter that of the white.</source>
         <translation>显示屏能达到的亮度未知。请输入白点的亮度。</translation>
     </message>
+    <message>
+        <source>There is no wall to fit the target to.</source>
+        <translation>没有可供目标适配的墙。</translation>
+    </message>
+    <message>
+        <source>There is no target to fit.</source>
+        <translation>没有可适配的目标。</translation>
+    </message>
+    <message>
+        <source>fit to the wall</source>
+        <translation>适配到墙</translation>
+    </message>
+    <message>
+        <source>The target fits the wall as far as is known.</source>
+        <translation>就已知而言，目标已适合该墙。</translation>
+    </message>
+    <message>
+        <source>leave out cabinets</source>
+        <translation>排除箱体</translation>
+    </message>
+    <message>
+        <source>count cabinets again</source>
+        <translation>重新计入箱体</translation>
+    </message>
+    <message>
+        <source>remove the wall</source>
+        <translation>移除墙</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::TolerancesMenu</name>
@@ -1368,6 +1416,10 @@
     <message>
         <source>&amp;Move inside the measured gamut</source>
         <translation>移入实测色域(&amp;M)</translation>
+    </message>
+    <message>
+        <source>F&amp;it target to the wall</source>
+        <translation>将目标适配到墙(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -1660,6 +1712,97 @@ Ctrl+1 到 Ctrl+3 – 显示页面</translation>
         <source>Saved as %1, without the measurement in progress</source>
         <translation>已保存为 %1，不含进行中的测量</translation>
     </message>
+    <message>
+        <source>Export corrections</source>
+        <translation>导出校正</translation>
+    </message>
+    <message>
+        <source>Corrections (*.csv)</source>
+        <translation>校正 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Corrections (*.json)</source>
+        <translation>校正 (*.json)</translation>
+    </message>
+    <message>
+        <source>%1 corrections</source>
+        <comment>proposed name of a file, without its suffix</comment>
+        <translation>%1 校正</translation>
+    </message>
+    <message>
+        <source>Corrections exported to %1</source>
+        <translation>校正已导出到 %1</translation>
+    </message>
+    <message>
+        <source>&amp;Fit target to the wall</source>
+        <translation>将目标适配到墙(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Judge without the selected &amp;cabinet</source>
+        <translation>判断时排除所选箱体(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Export corrections…</source>
+        <translation>导出校正(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove the wall</source>
+        <translation>移除墙(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Diagram:
+Wheel, + and − – zoom about the pointer; 0 – all of it
+Drag on free ground, middle button, Alt+arrows – move the view
+R, G, B, W or Tab – select a primary or the white
+Drag or arrow keys – move it; with Shift a tenth as far
+Ctrl – towards the white; the white at its colour temperature
+Alt – along an axis; Ctrl+Alt – without snapping
+Esc – cancel a drag; otherwise select nothing
+
+Key:
+Click or Space – show or hide an entry
+Double click or Return – show it alone
+
+Numbers:
+Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps
+Esc – restore the value of the target
+
+Wall:
+Arrows – select the next cabinet; Esc – none
+
+Tables:
+Ctrl+C – copy all of the table
+
+Ctrl+1 to Ctrl+4 – show a page</source>
+        <translation>色度图：
+滚轮、+ 和 − – 以指针为中心缩放；0 – 全部
+在空白处拖动、鼠标中键、Alt+方向键 – 平移
+R、G、B、W 或 Tab – 选择基色或白点
+拖动或方向键 – 移动；按住 Shift 为十分之一
+Ctrl – 朝向白点；白点保持其色温
+Alt – 沿坐标轴；Ctrl+Alt – 不吸附
+Esc – 取消拖动；否则取消选择
+
+图例：
+单击或空格键 – 显示或隐藏条目
+双击或回车键 – 单独显示
+
+数值：
+上、下方向键 – 一步；按住 Shift 为十分之一步，按住 Ctrl 为十步
+Esc – 恢复目标的数值
+
+墙：
+方向键 – 选择下一个箱体；Esc – 不选
+
+表格：
+Ctrl+C – 复制整个表格
+
+Ctrl+1 到 Ctrl+4 – 显示页面</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>墙</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WarningBar</name>
@@ -1730,6 +1873,791 @@ Ctrl+1 到 Ctrl+3 – 显示页面</translation>
     <message>
         <source>Lines wait to be read: %1</source>
         <translation>有待读取的行：%1</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::CabinetModel</name>
+    <message>
+        <source>%1 (left out)</source>
+        <comment>a cabinet</comment>
+        <translation>%1（已排除）</translation>
+    </message>
+    <message>
+        <source>Of its neighbours, %1 differs most.</source>
+        <translation>相邻箱体中与 %1 相差最大。</translation>
+    </message>
+    <message>
+        <source>The cabinet, and whether it shows the target</source>
+        <translation>箱体，以及它能否显示目标</translation>
+    </message>
+    <message>
+        <source>cabinet</source>
+        <translation>箱体</translation>
+    </message>
+    <message>
+        <source>The colour of the target that lies outside by the most, or else the primary at full drive</source>
+        <translation>目标中超出最多的颜色；若无，则为满驱动的基色</translation>
+    </message>
+    <message>
+        <source>limited by</source>
+        <translation>受限于</translation>
+    </message>
+    <message>
+        <source>Largest luminance in the white of the target</source>
+        <translation>目标白点下的最大亮度</translation>
+    </message>
+    <message>
+        <source>white %1</source>
+        <comment>with the unit of the luminance</comment>
+        <translation>白色 %1</translation>
+    </message>
+    <message>
+        <source>Room above the luminance of the target&apos;s white</source>
+        <translation>高于目标白色亮度的余量</translation>
+    </message>
+    <message>
+        <source>headroom</source>
+        <translation>余量</translation>
+    </message>
+    <message>
+        <source>Between the cabinet&apos;s white, not corrected, and the target&apos;s</source>
+        <translation>箱体未校正的白点与目标白点之间</translation>
+    </message>
+    <message>
+        <source>Δu′v′ before</source>
+        <translation>校正前 Δu′v′</translation>
+    </message>
+    <message>
+        <source>Between the cabinet&apos;s white, corrected, and the target&apos;s</source>
+        <translation>箱体校正后的白点与目标白点之间</translation>
+    </message>
+    <message>
+        <source>Δu′v′ after</source>
+        <translation>校正后 Δu′v′</translation>
+    </message>
+    <message>
+        <source>The largest Δu′v′ to the white of a neighbour, not corrected</source>
+        <translation>与相邻箱体白点的最大 Δu′v′（未校正）</translation>
+    </message>
+    <message>
+        <source>neighbours</source>
+        <translation>相邻</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::CabinetTable</name>
+    <message>
+        <source>Cabinets</source>
+        <translation>箱体</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::CloseLook</name>
+    <message>
+        <source>Close look at %1 of all cabinets</source>
+        <translation>所有箱体%1的近看</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::TextReport</name>
+    <message>
+        <source>declared</source>
+        <translation>声明</translation>
+    </message>
+    <message>
+        <source>original</source>
+        <translation>原始</translation>
+    </message>
+    <message>
+        <source>measured</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>target</source>
+        <translation>目标</translation>
+    </message>
+    <message>
+        <source>gamut</source>
+        <translation>色域</translation>
+    </message>
+    <message>
+        <source>red x y</source>
+        <translation>红 x y</translation>
+    </message>
+    <message>
+        <source>green x y</source>
+        <translation>绿 x y</translation>
+    </message>
+    <message>
+        <source>blue x y</source>
+        <translation>蓝 x y</translation>
+    </message>
+    <message>
+        <source>white x y</source>
+        <translation>白 x y</translation>
+    </message>
+    <message>
+        <source>luminance of white</source>
+        <translation>白色亮度</translation>
+    </message>
+    <message>
+        <source>difference of whites</source>
+        <translation>白点差异</translation>
+    </message>
+    <message>
+        <source>without corrections</source>
+        <translation>未校正</translation>
+    </message>
+    <message>
+        <source>with corrections</source>
+        <translation>已校正</translation>
+    </message>
+    <message>
+        <source>Δu′v′, any two</source>
+        <translation>Δu′v′，任意两个</translation>
+    </message>
+    <message>
+        <source>Δu′v′, neighbours</source>
+        <translation>Δu′v′，相邻</translation>
+    </message>
+    <message>
+        <source>luminance, any two</source>
+        <translation>亮度，任意两个</translation>
+    </message>
+    <message>
+        <source>luminance, neighbours</source>
+        <translation>亮度，相邻</translation>
+    </message>
+    <message>
+        <source>cabinet</source>
+        <translation>箱体</translation>
+    </message>
+    <message>
+        <source>shows the target</source>
+        <translation>显示目标</translation>
+    </message>
+    <message>
+        <source>limit</source>
+        <translation>限制</translation>
+    </message>
+    <message>
+        <source>largest white, %1</source>
+        <translation>最大白色，%1</translation>
+    </message>
+    <message>
+        <source>headroom</source>
+        <translation>余量</translation>
+    </message>
+    <message>
+        <source>Δu′v′ without correction</source>
+        <translation>未校正 Δu′v′</translation>
+    </message>
+    <message>
+        <source>with correction</source>
+        <translation>已校正</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>已排除</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::WallAssessment</name>
+    <message>
+        <source>%1.</source>
+        <comment>a sentence</comment>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>names of cabinets</comment>
+        <translation>%1和%2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between names</comment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1: no target can be shown by all.</source>
+        <translation>%1：没有所有箱体都能显示的目标。</translation>
+    </message>
+    <message>
+        <source>%1 other cabinets do not show it either.</source>
+        <translation>另有 %1 个箱体也不能显示。</translation>
+    </message>
+    <message>
+        <source>Of %1 other cabinets it is not known either.</source>
+        <translation>另有 %1 个箱体也未知。</translation>
+    </message>
+    <message>
+        <source>wall</source>
+        <translation>墙</translation>
+    </message>
+    <message>
+        <source>The luminance of the target is not known: its white has none. Enter it beside Y.</source>
+        <translation>目标的亮度未知：其白点没有亮度。请在 Y 旁输入。</translation>
+    </message>
+    <message>
+        <source>There are no corrections: %1</source>
+        <translation>没有校正：%1</translation>
+    </message>
+    <message>
+        <source>a colour of the target has no chromaticity.</source>
+        <translation>目标的某个颜色没有色度。</translation>
+    </message>
+    <message>
+        <source>the primaries of the target lie too close to a line.</source>
+        <translation>目标的基色几乎在一条直线上。</translation>
+    </message>
+    <message>
+        <source>the white of the target is not a mixture of its primaries.</source>
+        <translation>目标的白点不能由其基色混合而成。</translation>
+    </message>
+    <message>
+        <source>no cabinet reaches the white of the target.</source>
+        <translation>没有箱体能达到目标的白点。</translation>
+    </message>
+    <message>
+        <source>%1 (%2 is the limit, with %3 at full drive)</source>
+        <comment>luminance, cabinet, primary</comment>
+        <translation>%1（受限于 %2，其%3满驱动）</translation>
+    </message>
+    <message>
+        <source>All others reach a white of %1.</source>
+        <translation>其余箱体均可达到 %1 的白色。</translation>
+    </message>
+    <message>
+        <source>All others of which it is known reach a white of %1.</source>
+        <translation>其余已知的箱体均可达到 %1 的白色。</translation>
+    </message>
+    <message>
+        <source>All of which it is known reach a white of %1.</source>
+        <translation>已知的箱体均可达到 %1 的白色。</translation>
+    </message>
+    <message>
+        <source>All reach a white of %1.</source>
+        <translation>所有箱体均可达到 %1 的白色。</translation>
+    </message>
+    <message>
+        <source>The corrections are for a white of %1.</source>
+        <translation>校正针对 %1 的白色。</translation>
+    </message>
+    <message>
+        <source>Fitted to the wall, the target keeps %1 of its area in u′, v′ and has a white of %2.</source>
+        <translation>适配到墙后，目标在 u′, v′ 中保留 %1 的面积，白色为 %2。</translation>
+    </message>
+    <message>
+        <source>Without %1, all show the target.</source>
+        <translation>排除 %1 后，所有箱体均能显示目标。</translation>
+    </message>
+    <message>
+        <source>Left out of this verdict: %1.</source>
+        <comment>names of cabinets</comment>
+        <translation>未计入此结论：%1。</translation>
+    </message>
+    <message>
+        <source>Left out of this verdict: %1 cabinets.</source>
+        <translation>未计入此结论：%1 个箱体。</translation>
+    </message>
+    <message>
+        <source>The cabinet %1 does not show this target</source>
+        <translation>箱体 %1 不能显示此目标</translation>
+    </message>
+    <message>
+        <source>Not known whether the cabinet %1 shows this target</source>
+        <translation>箱体 %1 能否显示此目标未知</translation>
+    </message>
+    <message>
+        <source>The cabinet %1 shows this target</source>
+        <translation>箱体 %1 能显示此目标</translation>
+    </message>
+    <message>
+        <source>Nothing is judged: all cabinets are left out</source>
+        <translation>没有判断：所有箱体均被排除</translation>
+    </message>
+    <message>
+        <source>Not known whether the cabinets show this target</source>
+        <translation>箱体能否显示此目标未知</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cabinets show this target; of %3 it is not known</source>
+        <translation>%2 个箱体中有 %1 个能显示此目标；%3 个未知</translation>
+    </message>
+    <message>
+        <source>All %1 cabinets show this target</source>
+        <translation>全部 %1 个箱体均能显示此目标</translation>
+    </message>
+    <message>
+        <source>%1 cabinets show this target; one is left out</source>
+        <translation>%1 个箱体能显示此目标；1 个被排除</translation>
+    </message>
+    <message>
+        <source>%1 cabinets show this target; %2 are left out</source>
+        <translation>%1 个箱体能显示此目标；%2 个被排除</translation>
+    </message>
+    <message>
+        <source>None of the %1 cabinets shows this target</source>
+        <translation>%1 个箱体均不能显示此目标</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cabinets do not show this target; of the others it is not known</source>
+        <translation>%2 个箱体中有 %1 个不能显示此目标；其余未知</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cabinets show this target</source>
+        <comment>count that do, and of all</comment>
+        <translation>%2 个箱体中有 %1 个能显示此目标</translation>
+    </message>
+    <message>
+        <source>%1 does not</source>
+        <comment>name of a cabinet</comment>
+        <translation>%1 不能</translation>
+    </message>
+    <message>
+        <source>%1 do not</source>
+        <comment>names of cabinets</comment>
+        <translation>%1 不能</translation>
+    </message>
+    <message>
+        <source>%1 and %2 others do not</source>
+        <comment>name of a cabinet and how many</comment>
+        <translation>%1 和另外 %2 个不能</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <comment>how many cabinets show a target, and which do not</comment>
+        <translation>%1；%2</translation>
+    </message>
+    <message>
+        <source>%1; of %2 it is not known</source>
+        <comment>which cabinets show a target</comment>
+        <translation>%1；%2 个未知</translation>
+    </message>
+    <message>
+        <source>a colour has no chromaticity</source>
+        <translation>某个颜色没有色度</translation>
+    </message>
+    <message>
+        <source>a primary has no luminance</source>
+        <translation>某个基色没有亮度</translation>
+    </message>
+    <message>
+        <source>%1 has no luminance of its own</source>
+        <comment>a primary</comment>
+        <translation>%1没有自己的亮度</translation>
+    </message>
+    <message>
+        <source>the primaries cannot be told apart</source>
+        <translation>基色无法区分</translation>
+    </message>
+    <message>
+        <source>the primaries cannot be told apart: the others almost mix %1</source>
+        <translation>基色无法区分：其余基色几乎能混合出%1</translation>
+    </message>
+    <message>
+        <source>white reaches %1 (%2 is the limit)</source>
+        <translation>白色可达 %1（受限于%2）</translation>
+    </message>
+    <message>
+        <source>white reaches %1 only, of %2 (%3 is the limit)</source>
+        <translation>白色仅达 %1，目标为 %2（受限于%3）</translation>
+    </message>
+    <message>
+        <source>white reaches %1, of %2 (%3 is the limit)</source>
+        <translation>白色可达 %1，目标为 %2（受限于%3）</translation>
+    </message>
+    <message>
+        <source>%1 reaches %2 only, Δu′v′ %3 off</source>
+        <translation>%1仅达 %2，相差 Δu′v′ %3</translation>
+    </message>
+    <message>
+        <source>%1 is out of reach</source>
+        <translation>%1无法达到</translation>
+    </message>
+    <message>
+        <source>the primaries span no triangle</source>
+        <translation>基色不构成三角形</translation>
+    </message>
+    <message>
+        <source>the white is %1, the primaries add to %2: what it reaches cannot be worked out</source>
+        <translation>白色为 %1，基色相加为 %2：无法算出其能达到的亮度</translation>
+    </message>
+    <message>
+        <source>a primary of the target is too bright for it</source>
+        <translation>目标的某个基色对它过亮</translation>
+    </message>
+    <message>
+        <source>the target is too bright for it in any case</source>
+        <translation>无论如何目标对它都过亮</translation>
+    </message>
+    <message>
+        <source>not known whether it shows the target</source>
+        <translation>能否显示目标未知</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a cabinet and what is known of it</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between parts of a sentence</comment>
+        <translation>；</translation>
+    </message>
+    <message>
+        <source>It is not known what the cabinets have in common</source>
+        <translation>箱体的共同色域未知</translation>
+    </message>
+    <message>
+        <source>%1 have no colour in common</source>
+        <comment>names of cabinets</comment>
+        <translation>%1 没有共同的颜色</translation>
+    </message>
+    <message>
+        <source>The gamuts of the cabinets only touch</source>
+        <translation>箱体的色域仅相接触</translation>
+    </message>
+    <message>
+        <source>The target cannot be fitted: a colour of it has no chromaticity.</source>
+        <translation>目标无法适配：其某个颜色没有色度。</translation>
+    </message>
+    <message>
+        <source>The target cannot be fitted: %1.</source>
+        <comment>why</comment>
+        <translation>目标无法适配：%1。</translation>
+    </message>
+    <message>
+        <source>The target cannot be fitted: not all cabinets can show its white (%1 is the limit). The nearest that they can show is %2. Move the white beyond that, towards the middle.</source>
+        <translation>目标无法适配：并非所有箱体都能显示其白点（受限于 %1）。它们能显示的最近白点为 %2。请将白点移过该点，朝向中间。</translation>
+    </message>
+    <message>
+        <source>The target cannot be fitted: its white is not inside of its primaries.</source>
+        <translation>目标无法适配：其白点不在基色之内。</translation>
+    </message>
+    <message>
+        <source>The target cannot be fitted: too little of it would be left.</source>
+        <translation>目标无法适配：所剩过少。</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::WallCommand</name>
+    <message>
+        <source>no cabinet of the wall is called &quot;%1&quot;</source>
+        <translation>墙上没有名为“%1”的箱体</translation>
+    </message>
+    <message>
+        <source>several cabinets are called &quot;%1&quot;: %2 and %3, for example</source>
+        <translation>有多个箱体名为“%1”：例如 %2 和 %3</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <comment>names of cabinets and a number</comment>
+        <translation>%1 和另外 %2 个</translation>
+    </message>
+    <message>
+        <source>Δu′v′ %1 and %2 of the luminance</source>
+        <comment>how much remains</comment>
+        <translation>Δu′v′ %1 和亮度的 %2</translation>
+    </message>
+    <message>
+        <source>the corrections are for a white of %1, the largest that all cabinets reach, as the luminance of the target cannot be compared with theirs</source>
+        <translation>校正针对 %1 的白色，即所有箱体都能达到的最大值，因为目标的亮度无法与它们比较</translation>
+    </message>
+    <message>
+        <source>the correction is for a white of %1, the largest that the display reaches, as the luminance of the target cannot be compared with it</source>
+        <translation>校正针对 %1 的白色，即显示屏能达到的最大值，因为目标的亮度无法与其比较</translation>
+    </message>
+    <message>
+        <source>cabinets without a correction: %1</source>
+        <translation>没有校正的箱体：%1</translation>
+    </message>
+    <message>
+        <source>cabinets that differ from the target even so, by up to %1, as they cannot show all of it: %2</source>
+        <translation>校正后仍与目标不同的箱体，最多相差 %1，因为它们不能显示全部目标：%2</translation>
+    </message>
+    <message>
+        <source>cabinets whose measured white is not the sum of their primaries, for which the corrections are: %1</source>
+        <translation>测得的白色不等于基色之和（校正针对该和）的箱体：%1</translation>
+    </message>
+    <message>
+        <source>a pair of tables is for one display: choose a cabinet by --cabinet, or write csv or json</source>
+        <translation>一对表格只用于一台显示屏：请用 --cabinet 选择箱体，或写入 csv 或 json</translation>
+    </message>
+    <message>
+        <source>%1; csv and json have the matrix as it is</source>
+        <translation>%1；csv 和 json 中的矩阵保持原样</translation>
+    </message>
+    <message>
+        <source>has no wall: that is in a measurement list with a column for the cabinet, or in a display description</source>
+        <translation>没有墙：墙来自带有箱体列的测量列表或显示屏描述</translation>
+    </message>
+    <message>
+        <source>takes the place of the wall that there was</source>
+        <translation>取代原有的墙</translation>
+    </message>
+    <message>
+        <source>there is no gamut called &quot;%1&quot; for the target; there are %2</source>
+        <translation>没有名为“%1”的色域可作目标；现有 %2</translation>
+    </message>
+    <message>
+        <source>no display can show &quot;%1&quot;</source>
+        <translation>没有显示屏能显示“%1”</translation>
+    </message>
+    <message>
+        <source>there is no wall to fit the target to</source>
+        <translation>没有可供目标适配的墙</translation>
+    </message>
+    <message>
+        <source>there is no target to fit to the wall</source>
+        <translation>没有可适配到墙的目标</translation>
+    </message>
+    <message>
+        <source>the luminance of the target is relative; its white is taken at %1, the largest that all cabinets reach</source>
+        <translation>目标的亮度是相对的；其白色取 %1，即所有箱体都能达到的最大值</translation>
+    </message>
+    <message>
+        <source>the target fits the wall as it is, as far as that is known</source>
+        <translation>就已知而言，目标无需改变即适合该墙</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>红</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>绿</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>蓝</translation>
+    </message>
+    <message>
+        <source>%1 by Δu′v′ %2 (%3 is the limit)</source>
+        <comment>primary, how far, and cabinet</comment>
+        <translation>%1移动 Δu′v′ %2（受限于 %3）</translation>
+    </message>
+    <message>
+        <source>fitted to the wall, the target has moved towards its white: %1</source>
+        <translation>适配到墙后，目标朝其白点移动：%1</translation>
+    </message>
+    <message>
+        <source>fitted to the wall, the target has a white of %1 instead of %2</source>
+        <translation>适配到墙后，目标的白色为 %1 而不是 %2</translation>
+    </message>
+    <message>
+        <source>there is no target, which corrections are for: choose one by --target</source>
+        <translation>没有校正所针对的目标：请用 --target 选择</translation>
+    </message>
+    <message>
+        <source>there is nothing to correct: no wall, and no measured or original gamut</source>
+        <translation>没有可校正的对象：没有墙，也没有测量或原始色域</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::WallMap</name>
+    <message>
+        <source>left out</source>
+        <translation>已排除</translation>
+    </message>
+    <message>
+        <source>%1. ◥ does not show the target, ? not known, ╱ %2</source>
+        <comment>what is shown, and the legend&apos;s marks</comment>
+        <translation>%1。◥ 不能显示目标，? 未知，╱ %2</translation>
+    </message>
+    <message>
+        <source>Not known whether the cabinets show the target: there is none</source>
+        <translation>箱体能否显示目标未知：没有目标</translation>
+    </message>
+    <message>
+        <source>Position not known</source>
+        <translation>位置未知</translation>
+    </message>
+    <message>
+        <source>Map of the wall</source>
+        <translation>墙的地图</translation>
+    </message>
+    <message>
+        <source>Cabinets whose position is not known</source>
+        <translation>位置未知的箱体</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::WallMapModel</name>
+    <message>
+        <source>not known whether it shows the target</source>
+        <translation>能否显示目标未知</translation>
+    </message>
+    <message>
+        <source>does not show the target</source>
+        <translation>不能显示目标</translation>
+    </message>
+    <message>
+        <source>shows the target</source>
+        <translation>显示目标</translation>
+    </message>
+    <message>
+        <source>%1, %2 %3, %4</source>
+        <comment>cabinet, what is shown, its value, whether it shows the target</comment>
+        <translation>%1，%2 %3，%4</translation>
+    </message>
+    <message>
+        <source>%1, left out</source>
+        <comment>what is known of a cabinet</comment>
+        <translation>%1，已排除</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::WallPage</name>
+    <message>
+        <source>No wall is known of this display.
+
+Open a list of measurements with a column for the cabinet, or for its row and column, and with red, green and blue of each; or a display description that has a wall.</source>
+        <translation>此显示屏没有已知的墙。
+
+请打开带有箱体列（或行列两列）且含每个箱体红、绿、蓝的测量列表，或含有墙的显示屏描述。</translation>
+    </message>
+    <message>
+        <source>Position not known</source>
+        <translation>位置未知</translation>
+    </message>
+    <message>
+        <source>Cabinets, worst first</source>
+        <translation>箱体，最差的在前</translation>
+    </message>
+    <message>
+        <source>Sort those first that do not show the target</source>
+        <translation>将不能显示目标的排在前面</translation>
+    </message>
+    <message>
+        <source>Copy table</source>
+        <translation>复制表格</translation>
+    </message>
+    <message>
+        <source>Copy all of the table, for a spreadsheet</source>
+        <translation>复制整个表格，用于电子表格</translation>
+    </message>
+    <message>
+        <source>Arrows: next cabinet   Esc: none   Ctrl+C in the table: copy it</source>
+        <translation>方向键：下一个箱体   Esc：不选   表格中 Ctrl+C：复制</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>墙</translation>
+    </message>
+    <message>
+        <source>Wall %1 × %2</source>
+        <comment>rows, columns</comment>
+        <translation>墙 %1 × %2</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::WallScale</name>
+    <message>
+        <source>%1 %</source>
+        <comment>room above a luminance, with its sign</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>white Δu′v′</source>
+        <translation>白点 Δu′v′</translation>
+    </message>
+    <message>
+        <source>Δu′v′ corrected</source>
+        <translation>校正后 Δu′v′</translation>
+    </message>
+    <message>
+        <source>luminance</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>headroom</source>
+        <translation>余量</translation>
+    </message>
+    <message>
+        <source>limits</source>
+        <translation>限制</translation>
+    </message>
+    <message>
+        <source>Δu′v′ between each cabinet&apos;s white, not corrected, and the target&apos;s</source>
+        <translation>每个箱体未校正的白点与目标白点之间的 Δu′v′</translation>
+    </message>
+    <message>
+        <source>Δu′v′ between each cabinet&apos;s white, corrected, and the target&apos;s</source>
+        <translation>每个箱体校正后的白点与目标白点之间的 Δu′v′</translation>
+    </message>
+    <message>
+        <source>largest luminance of each cabinet in the target&apos;s white</source>
+        <translation>每个箱体在目标白点下的最大亮度</translation>
+    </message>
+    <message>
+        <source>room above the target&apos;s white on each cabinet</source>
+        <translation>每个箱体高于目标白色的余量</translation>
+    </message>
+    <message>
+        <source>colour that limits each cabinet</source>
+        <translation>限制每个箱体的颜色</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::WallVerdict</name>
+    <message>
+        <source>Grounds of the verdict on the wall</source>
+        <translation>对墙的结论的依据</translation>
+    </message>
+    <message>
+        <source>Return selects the cabinet of a line</source>
+        <translation>按回车键选择该行的箱体</translation>
+    </message>
+    <message>
+        <source>Moves each primary towards the white until all cabinets show it, and lowers the luminance of the white to what all reach</source>
+        <translation>将每个基色朝白点移动，直到所有箱体都能显示，并将白色亮度降低到全部都能达到</translation>
+    </message>
+    <message>
+        <source>Judges the wall without the cabinet; its corrections are still made</source>
+        <translation>判断时排除该箱体；仍为其生成校正</translation>
+    </message>
+    <message>
+        <source>Judges the wall with all of its cabinets</source>
+        <translation>判断时计入所有箱体</translation>
+    </message>
+    <message>
+        <source>Writes the matrix of each cabinet to a file</source>
+        <translation>将每个箱体的矩阵写入文件</translation>
+    </message>
+    <message>
+        <source>Not known whether the cabinets show the target</source>
+        <translation>箱体能否显示目标未知</translation>
+    </message>
+    <message>
+        <source>What they are to show is not known: nobody has chosen a target. Choose one, or edit the default.</source>
+        <translation>它们应显示什么未知：尚未选择目标。请选择目标，或编辑默认目标。</translation>
+    </message>
+    <message>
+        <source>Without %1</source>
+        <comment>name of a cabinet</comment>
+        <translation>排除 %1</translation>
+    </message>
+    <message>
+        <source>Without %1 and %2</source>
+        <comment>names of cabinets</comment>
+        <translation>排除 %1 和 %2</translation>
+    </message>
+    <message>
+        <source>Fit target to the wall</source>
+        <translation>将目标适配到墙</translation>
+    </message>
+    <message>
+        <source>Count all again</source>
+        <translation>重新计入全部</translation>
+    </message>
+    <message>
+        <source>Export corrections…</source>
+        <translation>导出校正…</translation>
+    </message>
+    <message>
+        <source>Without the cabinet</source>
+        <translation>排除该箱体</translation>
     </message>
 </context>
 </TS>

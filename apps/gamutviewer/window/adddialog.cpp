@@ -113,7 +113,8 @@ QWidget *AddDialog::makeRow(int index)
     bold.setBold(true);
     name->setFont(bold);
     layout->addRow(name);
-    if (const auto gamut = gamutOf(file.file)) {
+    const auto gamut = file.wall ? std::nullopt : gamutOf(file.file);
+    if (gamut) {
         row.role = new QComboBox(box);
         for (const GamutRole role : allGamutRoles) {
             row.role->addItem(gamutRolePhrase(role), int(role));
@@ -151,16 +152,19 @@ void AddDialog::takeRole(int index)
 QString AddDialog::noteFor(const DisplayDescription &open, const ReadFile &file) const
 {
     QStringList lines;
-    if (const auto gamut = gamutOf(file.file)) {
+    if (file.wall) {
+        lines.append(tr("Wall of %1 cabinets").arg(file.wall->cabinets.size()));
+    } else if (const auto gamut = gamutOf(file.file)) {
         lines.append(tr("Gamut \"%1\"").arg(oneLine(nameOf(*gamut))));
     }
-    if (file.file.content == GamutFile::Content::Measurements && !file.file.measurements.others().isEmpty()) {
+    if (!file.wall && file.file.content == GamutFile::Content::Measurements
+        && !file.file.measurements.others().isEmpty()) {
         lines.append(tr("Measured points: %1").arg(file.file.measurements.others().size()));
     }
     if (file.file.content == GamutFile::Content::Description) {
         lines.append(tr("Gamuts: %1").arg(file.file.description.gamuts.size()));
     }
-    const QString display = withFile(open, file.file, file.role).name;
+    const QString display = withFile(open, file).name;
     if (display != open.name) {
         lines.append(tr("The display is then called \"%1\".").arg(oneLine(display)));
     }
@@ -181,7 +185,7 @@ void AddDialog::refresh()
         if (QComboBox *role = m_rows.at(index).role) {
             role->setAccessibleDescription(text);
         }
-        open = withFile(open, file.file, file.role);
+        open = withFile(open, file);
     }
 }
 

@@ -90,6 +90,9 @@ Picture ExportDialog::picture() const
     const int what = m_what->currentData().toInt();
     picture.isLibraryChart = what == libraryChart;
     picture.hasKey = m_key->isChecked();
+    if (what != asShown) {
+        picture.wall.reset();
+    }
     if (what >= 0) {
         picture.view = ceiechart::DiagramViewport(Model::Diagram(what), QSizeF(extent().size));
     }
@@ -112,7 +115,8 @@ PictureFormat ExportDialog::format() const
 void ExportDialog::refresh()
 {
     const bool isLibraryChart = m_what->currentData().toInt() == libraryChart;
-    m_key->setEnabled(!isLibraryChart);
+    const bool isWall = m_shown.wall && m_what->currentData().toInt() == asShown;
+    m_key->setEnabled(!isLibraryChart && !isWall);
     m_format->setEnabled(!isLibraryChart);
     m_ratio->setEnabled(!isLibraryChart && format() == PictureFormat::Png);
     const PictureExtent asked = extent();

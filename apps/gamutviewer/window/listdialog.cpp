@@ -20,6 +20,7 @@ namespace {
 // What is not the line of a measurement.
 constexpr int asRecognized = 0;
 constexpr int sumOfPrimaries = -1;
+constexpr int wallRole = Qt::UserRole + 1; // of the whole wall among the cabinets
 
 constexpr QChar signs[] = {QLatin1Char('.'), QLatin1Char(',')};
 
@@ -123,6 +124,7 @@ ListDialog::ListDialog(const QString &fileName, const MeasurementOptions &option
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     resize(520, 460);
+    readAsChosen();
     refresh();
 }
 
@@ -138,7 +140,15 @@ void ListDialog::fillCabinets()
     const QSignalBlocker blocker(m_cabinet);
     const QVariant before = m_cabinet->count() > 0 ? m_cabinet->currentData() : QVariant(m_options.cabinet);
     m_cabinet->clear();
-    m_cabinet->addItem(tr("all of them, which make no gamut"), QString());
+    const auto wall = read && read->content == GamutFile::Content::Measurements
+        ? std::make_optional(wallFromMeasurements(read->measurements))
+        : std::nullopt;
+    if (wall && *wall) {
+        m_cabinet->addItem(tr("the whole wall, %1 cabinets").arg((*wall)->cabinets.size()), QString());
+        m_cabinet->setItemData(0, true, wallRole);
+    } else {
+        m_cabinet->addItem(tr("all of them, which make no gamut"), QString());
+    }
     if (read) {
         for (const CabinetMeasurements &cabinet : read->measurements.cabinets()) {
             if (!cabinet.label().isEmpty()) {
@@ -177,6 +187,11 @@ void ListDialog::fillChoices()
     }
 }
 
+bool ListDialog::isWall() const
+{
+    return m_read && m_options.isWall;
+}
+
 void ListDialog::take()
 {
     m_options.unit.reset();
@@ -197,8 +212,20 @@ void ListDialog::take()
     m_options.whiteIsSum = choice(Vertex::White)->currentData().toInt() == sumOfPrimaries;
     m_read = readGamutFile(m_fileName, m_options);
     fillCabinets();
+    readAsChosen();
     fillChoices();
     refresh();
+}
+
+//! Reads the list again if it turns out to make a wall, or to make none: what is missing for one gamut is no matter
+//! then.
+void ListDialog::readAsChosen()
+{
+    const bool makesWall = m_cabinet->count() > 2 && m_cabinet->currentData(wallRole).toBool();
+    if (m_options.isWall != makesWall) {
+        m_options.isWall = makesWall;
+        m_read = readGamutFile(m_fileName, m_options);
+    }
 }
 
 void ListDialog::refresh()
@@ -207,8 +234,15 @@ void ListDialog::refresh()
     if (!m_read) {
         lines.append(tr("Cannot be read so: %1").arg(m_read.error()));
     } else {
-        lines.append(gamutOf(*m_read) ? tr("The list makes a gamut.") : tr("The list makes no gamut, only points."));
-        for (const Problem &warning : m_read.warnings()) {
+        const bool makesWall = isWall();
+        lines.append(makesWall     ? tr("The list makes a wall.")
+                : gamutOf(*m_read) ? tr("The list makes a gamut.")
+                                   : tr("The list makes no gamut, only points."));
+        QVector<Problem> warnings = m_read.warnings();
+        if (makesWall) {
+            warnings += wallFromMeasurements(m_read->measurements).warnings();
+        }
+        for (const Problem &warning : qAsConst(warnings)) {
             lines.append(QStringLiteral("⚠ %1").arg(warning.message()));
         }
         lines.append(QString());

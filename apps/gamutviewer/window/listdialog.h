@@ -33,9 +33,12 @@ public:
     /*! \brief The list as it is read with what was chosen. */
     const Outcome<GamutFile> &read() const { return m_read; }
 
+    /*! \brief Whether the cabinets of the list are to be the wall of the display. */
+    bool isWall() const;
+
     QComboBox *unit() const { return m_unit; }
     QComboBox *decimalSign() const { return m_decimalSign; }
-    /*! \brief Chooses the cabinet; hidden for a list that has no more than one. */
+    /*! \brief Chooses the whole wall or one cabinet; hidden for a list that has no more than one. */
     QComboBox *cabinet() const { return m_cabinet; }
     /*! \brief Chooses the measurement that is \a vertex. */
     QComboBox *choice(Vertex vertex) const { return m_choices.at(int(vertex)); }
@@ -47,6 +50,7 @@ private:
     void fillCabinets();
     void fillChoices();
     void take();
+    void readAsChosen();
     void refresh();
 
     QString m_fileName;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/messages.h"
 #include "display/samples.h"
+#include "editing/wallcommand.h"
 #include "panel/sidepanel.h"
 #include "panel/targeteditor.h"
 #include "panel/warningbar.h"
@@ -9,6 +10,7 @@
 #include "window/listdialog.h"
 #include "window/recentfiles.h"
 #include "window/viewerwindow.h"
+#include "window/wallpage.h"
 
 #include <QApplication>
 #include <QDir>
@@ -17,7 +19,11 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QSet>
 #include <QStatusBar>
+#include <QTabWidget>
+
+#include <algorithm>
 
 namespace gamutviewer {
 
@@ -139,27 +145,43 @@ void ViewerWindow::openByDialog(Manner manner)
 bool ViewerWindow::openPaths(const QStringList &fileNames, Manner manner, const MeasurementOptions &options)
 {
     bool isCanceled = false;
-    const auto files = readFiles(fileNames, [&](const QString &fileName) {
-        const Outcome<GamutFile> read = readGamutFile(fileName, options);
-        if (!ListDialog::canHelp(fileName, options, read)) {
-            return read;
+    QSet<QString> walls; // the lists whose cabinets are to be the wall
+    const auto read = readFiles(fileNames, [&](const QString &fileName) {
+        const Outcome<GamutFile> file = readGamutFile(fileName, options);
+        if (!ListDialog::canHelp(fileName, options, file)) {
+            return file;
         }
         ListDialog dialog(fileName, options, this);
         isCanceled = dialog.exec() != QDialog::Accepted;
+        if (dialog.isWall()) {
+            walls.insert(fileName);
+        }
         return isCanceled ? Outcome<GamutFile>::failure(QString()) : dialog.read();
     });
     if (isCanceled) {
         return false;
     }
-    if (!files) {
+    if (!read) {
         if (fileNames.size() == 1) {
             RecentFiles::remove(fileNames.first());
         }
-        warn(files.error());
+        warn(read.error());
         return false;
     }
     m_panel->editor()->takeTyped();
-    return givesWay() ? openAlone(*files) : openByQuestion(*files, manner);
+    QVector<ReadFile> files = *read;
+    for (ReadFile &file : files) {
+        if (walls.contains(file.fileName)) {
+            if (const auto wall = asWall(file)) {
+                file = *wall;
+            }
+        }
+    }
+    const bool isOpened = givesWay() ? openAlone(files) : openByQuestion(files, manner);
+    if (isOpened && std::any_of(files.cbegin(), files.cend(), [](const ReadFile &file) { return bool(file.wall); })) {
+        m_pages->setCurrentWidget(m_wallPage);
+    }
+    return isOpened;
 }
 
 bool ViewerWindow::openAlone(const QVector<ReadFile> &files)
@@ -265,6 +287,50 @@ bool ViewerWindow::exportTo(const QString &fileName, const Picture &picture, con
                                                : tr("Exported to %1"))
             .arg(oneLine(fileName)),
         messageMilliseconds);
+    return true;
+}
+
+void ViewerWindow::exportCorrectionsByDialog()
+{
+    m_panel->editor()->takeTyped();
+    const QFileInfo proposed(proposedPath(QStringLiteral("csv")));
+    QFileDialog dialog(this, tr("Export corrections"), proposed.path(),
+        tr("Corrections (*.csv)") + QStringLiteral(";;") + tr("Corrections (*.json)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("csv"));
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
+        dialog.setDefaultSuffix(
+            filter.contains(QLatin1String("json")) ? QStringLiteral("json") : QStringLiteral("csv"));
+    });
+    dialog.selectFile(
+        tr("%1 corrections", "proposed name of a file, without its suffix").arg(proposed.completeBaseName())
+        + QStringLiteral(".csv"));
+    if (dialog.exec() == QDialog::Accepted) {
+        exportCorrectionsTo(dialog.selectedFiles().constFirst());
+    }
+}
+
+bool ViewerWindow::exportCorrectionsTo(const QString &fileName)
+{
+    const auto made = corrections(m_document.description(), QString(), fileName);
+    if (!made) {
+        warn(tr("%1: cannot be written: %2").arg(fileName, made.error()));
+        return false;
+    }
+    for (const CorrectionsOutput &file : made->files) {
+        const QString error = writeBytes(file.bytes, file.fileName);
+        if (!error.isEmpty()) {
+            warn(tr("%1: cannot be written: %2").arg(file.fileName, error));
+            return false;
+        }
+    }
+    QStringList notes;
+    for (const QString &note : made->notes) {
+        notes.append(QStringLiteral("%1: %2").arg(QFileInfo(fileName).fileName(), note));
+    }
+    m_warnings->addWarnings(notes);
+    RecentFiles::setFolderOf(fileName);
+    statusBar()->showMessage(tr("Corrections exported to %1").arg(oneLine(fileName)), messageMilliseconds);
     return true;
 }
 

@@ -11,6 +11,7 @@
 #include "window/recentfiles.h"
 #include "window/tolerancesmenu.h"
 #include "window/viewerwindow.h"
+#include "window/wallpage.h"
 
 #include <QAction>
 #include <QApplication>
@@ -45,6 +46,7 @@ void ViewerWindow::buildMenus()
     buildFileMenu();
     buildEditMenu();
     buildViewMenu();
+    buildWallMenu();
     buildHelpMenu();
 }
 
@@ -123,6 +125,38 @@ void ViewerWindow::buildViewMenu()
     m_tolerancesMenu = new TolerancesMenu(m_session, this);
     connect(m_tolerancesMenu, &TolerancesMenu::refused, this, &ViewerWindow::warn);
     menu->addMenu(m_tolerancesMenu);
+}
+
+void ViewerWindow::buildWallMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("Wall"));
+    menu->addActions(m_wallPage->actions());
+    menu->addSeparator();
+    QAction *fit = menu->addAction(tr("&Fit target to the wall"), m_session, &TargetSession::fitToWall);
+    QAction *leaveOut = menu->addAction(tr("Judge without the selected &cabinet"));
+    leaveOut->setCheckable(true);
+    connect(leaveOut, &QAction::triggered, this, [this](bool isLeftOut) {
+        if (const auto cabinet = m_session->selectedCabinet()) {
+            m_session->setLeftOut({*cabinet}, isLeftOut);
+        }
+    });
+    menu->addSeparator();
+    QAction *write = menu->addAction(tr("&Export corrections…"), this, &ViewerWindow::exportCorrectionsByDialog);
+    menu->addSeparator();
+    QAction *remove = menu->addAction(tr("&Remove the wall"), m_session, &TargetSession::removeWall);
+    const auto refresh = [this, fit, leaveOut, write, remove] {
+        const DisplayWall &wall = m_document.description().wall;
+        const auto cabinet = m_session->selectedCabinet();
+        const bool isOne = cabinet && *cabinet < wall.cabinets.size();
+        fit->setEnabled(!wall.cabinets.empty());
+        write->setEnabled(!wall.cabinets.empty());
+        remove->setEnabled(!wall.cabinets.empty());
+        leaveOut->setEnabled(isOne);
+        leaveOut->setChecked(isOne && wall.cabinets.at(*cabinet).isLeftOut);
+    };
+    connect(&m_document, &Document::changed, menu, refresh);
+    connect(m_session, &TargetSession::selectedCabinetChanged, menu, refresh);
+    refresh();
 }
 
 void ViewerWindow::buildHelpMenu()
@@ -219,9 +253,11 @@ void ViewerWindow::showKeys()
                    "Numbers:\n"
                    "Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps\n"
                    "Esc – restore the value of the target\n\n"
+                   "Wall:\n"
+                   "Arrows – select the next cabinet; Esc – none\n\n"
                    "Tables:\n"
                    "Ctrl+C – copy all of the table\n\n"
-                   "Ctrl+1 to Ctrl+3 – show a page"));
+                   "Ctrl+1 to Ctrl+4 – show a page"));
     box.exec();
 }
 

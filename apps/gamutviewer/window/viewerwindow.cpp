@@ -14,6 +14,7 @@
 #include "window/gamutsdialog.h"
 #include "window/librarypage.h"
 #include "window/settings.h"
+#include "window/wallpage.h"
 
 #include <ceiechart/diagram/targetrules.h>
 
@@ -76,9 +77,11 @@ void ViewerWindow::buildPages()
     m_pages->setDocumentMode(true);
     m_diagramPage = new DiagramPage(m_session);
     m_comparePage = new ComparePage(m_session);
+    m_wallPage = new WallPage(m_session);
+    connect(m_wallPage, &WallPage::exportWanted, this, &ViewerWindow::exportCorrectionsByDialog);
     m_libraryPage = new LibraryPage(&m_document);
-    for (Page *page :
-        {static_cast<Page *>(m_diagramPage), static_cast<Page *>(m_comparePage), static_cast<Page *>(m_libraryPage)}) {
+    for (Page *page : {static_cast<Page *>(m_diagramPage), static_cast<Page *>(m_comparePage),
+             static_cast<Page *>(m_wallPage), static_cast<Page *>(m_libraryPage)}) {
         addPage(page);
     }
     m_panel = new SidePanel(m_session, m_splitter);

@@ -27,6 +27,7 @@ class Page;
 class SidePanel;
 class TargetSession;
 class TolerancesMenu;
+class WallPage;
 class WarningBar;
 
 /*! \brief The program's window: pages and a panel over one document. */
@@ -72,6 +73,9 @@ public:
     bool saveTo(const QString &fileName);
     /*! \brief Writes \a picture in the format of \a fileName's suffix; false, with a message, when that fails. */
     bool exportTo(const QString &fileName, const Picture &picture, const PictureExtent &extent);
+    /*! \brief Writes the corrections of the wall to \a fileName, CSV or JSON; false, with a message, when that fails.
+     */
+    bool exportCorrectionsTo(const QString &fileName);
     /*! \brief Copies the picture of the page to the clipboard. */
     void copyPicture();
     /*! \brief The page that is shown. */
@@ -82,6 +86,7 @@ public:
     QTabWidget *pages() const { return m_pages; }
     DiagramPage *diagramPage() const { return m_diagramPage; }
     ComparePage *comparePage() const { return m_comparePage; }
+    WallPage *wallPage() const { return m_wallPage; }
     LibraryPage *libraryPage() const { return m_libraryPage; }
     SidePanel *panel() const { return m_panel; }
     TolerancesMenu *tolerancesMenu() const { return m_tolerancesMenu; }
@@ -103,6 +108,7 @@ private:
     void buildFileMenu();
     void buildEditMenu();
     void buildViewMenu();
+    void buildWallMenu();
     void buildHelpMenu();
     void buildStatusBar();
     void addPage(Page *page);
@@ -119,6 +125,7 @@ private:
     bool save();
     bool saveAs();
     void exportByDialog();
+    void exportCorrectionsByDialog();
     void fillRecentMenu();
     void undo();
     void redo();
@@ -146,6 +153,7 @@ private:
     QTabWidget *m_pages;
     DiagramPage *m_diagramPage;
     ComparePage *m_comparePage;
+    WallPage *m_wallPage;
     LibraryPage *m_libraryPage;
     SidePanel *m_panel;
     QLabel *m_readout;

@@ -10,7 +10,7 @@
 
 /*!
  * \file
- * \brief What the command line does with a wall: reads it, fits the target to it and writes its corrections.
+ * \brief What window and command line do with a wall: read it, fit the target to it and write its corrections.
  *
  * Failures and notes are lines for the standard error stream, without the name of the program.
  */

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "program/wallcommand.h"
+#include "editing/wallcommand.h"
 
 #include "display/assessment.h"
 #include "display/valuetexts.h"

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "panel/cabinettable.h"
+
+#include "editing/targetsession.h"
+#include "panel/cabinetmodel.h"
+#include "panel/copytext.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QEvent>
+#include <QHeaderView>
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+CabinetTable::CabinetTable(TargetSession *session, QWidget *parent)
+    : QTableView(parent)
+    , m_session(session)
+    , m_model(new CabinetModel(session, this))
+{
+    setModel(m_model);
+    setAccessibleName(tr("Cabinets"));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setWordWrap(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(10);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setMinimumSectionSize(10);
+    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    setSortingEnabled(true);
+    fitColumns();
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex &current) {
+        if (!m_isShowing && current.isValid()) {
+            m_session->selectCabinet(m_model->cabinetIn(current.row()));
+        }
+    });
+    connect(session, &TargetSession::selectedCabinetChanged, this, &CabinetTable::showSelection);
+}
+
+void CabinetTable::refresh()
+{
+    m_isShowing = true;
+    m_model->refresh();
+    m_isShowing = false;
+    if (m_unit != m_model->headerData(CabinetModel::White, Qt::Horizontal).toString()) {
+        fitColumns();
+    }
+    showSelection();
+}
+
+void CabinetTable::sortByJudgement()
+{
+    sortByColumn(-1, Qt::AscendingOrder);
+}
+
+void CabinetTable::copy()
+{
+    QApplication::clipboard()->setText(tableText(*this, false));
+}
+
+void CabinetTable::showSelection()
+{
+    const auto cabinet = m_session->selectedCabinet();
+    const int row = cabinet ? m_model->rowOf(*cabinet) : -1;
+    m_isShowing = true;
+    if (row < 0) {
+        clearSelection();
+        setCurrentIndex(QModelIndex());
+    } else if (currentIndex().row() != row) {
+        setCurrentIndex(m_model->index(row, std::max(currentIndex().column(), 0)));
+        scrollTo(currentIndex());
+    }
+    m_isShowing = false;
+}
+
+//! Each as wide as its header and its widest usual value, whatever is shown: it must not change in a drag.
+void CabinetTable::fitColumns()
+{
+    m_unit = m_model->headerData(CabinetModel::White, Qt::Horizontal).toString();
+    constexpr int padding = 10;
+    const QFontMetrics metrics(font());
+    horizontalHeader()->setFont(font());
+    QFont bold = font();
+    bold.setBold(true);
+    const QFontMetrics wide(bold);
+    for (int column = 0; column < CabinetModel::ColumnCount; ++column) {
+        const QString title = m_model->headerData(column, Qt::Horizontal).toString();
+        const int header = QFontMetrics(horizontalHeader()->font()).horizontalAdvance(title);
+        const QString widest = column == CabinetModel::Name ? QStringLiteral("✗ AB12") : QStringLiteral("0.0000");
+        setColumnWidth(column, std::max(header, wide.horizontalAdvance(widest)) + padding);
+    }
+    verticalHeader()->setDefaultSectionSize(metrics.height() + 6);
+}
+
+void CabinetTable::keyPressEvent(QKeyEvent *event)
+{
+    if (!copyByKey(*this, event)) {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+void CabinetTable::contextMenuEvent(QContextMenuEvent *event)
+{
+    showCopyMenu(this, event);
+}
+
+void CabinetTable::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        fitColumns();
+    }
+}
+
+} // namespace gamutviewer

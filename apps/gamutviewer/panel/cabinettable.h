@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_CABINETTABLE_H
+#define GAMUTVIEWER_CABINETTABLE_H
+
+#include <QTableView>
+
+namespace gamutviewer {
+
+class CabinetModel;
+class TargetSession;
+
+/*! \brief The table of the wall's cabinets, worst first or as a header is clicked; it is copied as a CopyTable is. */
+class CabinetTable : public QTableView {
+    Q_OBJECT
+
+public:
+    explicit CabinetTable(TargetSession *session, QWidget *parent = nullptr);
+
+    CabinetModel *cabinets() const { return m_model; }
+    /*! \brief Shows the wall as it is now. */
+    void refresh();
+    /*! \brief The worst first again. */
+    void sortByJudgement();
+    /*! \brief Copies all of the table to the clipboard. */
+    void copy();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void showSelection();
+    void fitColumns();
+
+    TargetSession *m_session;
+    CabinetModel *m_model;
+    QString m_unit; // the header with the unit that the columns are fitted to
+    bool m_isShowing = false; // the selection of the session, which is not to be told of it
+};
+
+} // namespace gamutviewer
+
+#endif

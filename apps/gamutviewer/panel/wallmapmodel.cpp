@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "panel/wallmapmodel.h"
+
+#include "display/valuetexts.h"
+#include "editing/document.h"
+#include "editing/targetsession.h"
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+WallMapModel::WallMapModel(const TargetSession *session, WallGrid (*gridOf)(const DisplayWall &), QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_session(session)
+    , m_gridOf(gridOf)
+{
+}
+
+const DisplayWall &WallMapModel::wall() const
+{
+    return m_session->document()->description().wall;
+}
+
+const CabinetAssessment *WallMapModel::assessed(std::size_t cabinet) const
+{
+    const auto &assessment = m_session->assessment().wall;
+    return assessment && cabinet < assessment->cabinets.size() ? &assessment->cabinets[cabinet] : nullptr;
+}
+
+void WallMapModel::refresh(const WallScale &scale)
+{
+    m_scale = scale;
+    const auto &assessment = m_session->assessment().wall;
+    m_longestValue = assessment ? gamutviewer::longestValue(assessment->cabinets, scale) : undefinedText();
+    const auto isSame = [](const Place &place, const WallCabinet &cabinet) {
+        return place.row == cabinet.row && place.column == cabinet.column;
+    };
+    const auto &cabinets = wall().cabinets;
+    if (!std::equal(m_places.begin(), m_places.end(), cabinets.begin(), cabinets.end(), isSame)) {
+        beginResetModel();
+        m_places.clear();
+        for (const WallCabinet &cabinet : cabinets) {
+            m_places.push_back({cabinet.row, cabinet.column});
+        }
+        m_grid = m_gridOf(wall());
+        m_longestName = gamutviewer::longestName(wall());
+        m_indexes.assign(cabinets.size(), QModelIndex());
+        for (int row = 0; row < m_grid.rows; ++row) {
+            for (int column = 0; column < m_grid.columns; ++column) {
+                if (const auto cabinet = m_grid.at(row, column)) {
+                    m_indexes[*cabinet] = createIndex(row, column);
+                }
+            }
+        }
+        endResetModel();
+    } else if (m_grid.rows > 0) {
+        Q_EMIT dataChanged(index(0, 0), index(m_grid.rows - 1, m_grid.columns - 1));
+    }
+}
+
+std::optional<std::size_t> WallMapModel::cabinetAt(const QModelIndex &index) const
+{
+    const auto cabinet = index.isValid() ? m_grid.at(index.row(), index.column()) : std::nullopt;
+    return cabinet && *cabinet < wall().cabinets.size() ? cabinet : std::nullopt;
+}
+
+QModelIndex WallMapModel::indexOf(std::size_t cabinet) const
+{
+    return cabinet < m_indexes.size() ? m_indexes[cabinet] : QModelIndex();
+}
+
+std::optional<WallCell> WallMapModel::cell(const QModelIndex &index) const
+{
+    const auto cabinet = cabinetAt(index);
+    return cabinet ? std::make_optional(wallCell(wall(), assessed(*cabinet), m_scale, *cabinet)) : std::nullopt;
+}
+
+int WallMapModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_grid.rows;
+}
+
+int WallMapModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_grid.columns;
+}
+
+Qt::ItemFlags WallMapModel::flags(const QModelIndex &index) const
+{
+    return cabinetAt(index) ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren : Qt::NoItemFlags;
+}
+
+//! "F9, headroom −6 %, does not show the target".
+QString WallMapModel::description(std::size_t cabinet) const
+{
+    const QString name = cabinetName(wall(), cabinet);
+    const CabinetAssessment *of = assessed(cabinet);
+    const QString judgement = !of || of->judgement == Judgement::NotKnown ? tr("not known whether it shows the target")
+        : of->judgement == Judgement::Fail                                ? tr("does not show the target")
+                                                                          : tr("shows the target");
+    const QString value = of ? wallValueText(*of, m_scale.quantity()) : undefinedText();
+    const QString text = tr("%1, %2 %3, %4", "cabinet, what is shown, its value, whether it shows the target")
+                             .arg(name, wallQuantityName(m_scale.quantity()), value, judgement);
+    return wall().cabinets[cabinet].isLeftOut ? tr("%1, left out", "what is known of a cabinet").arg(text) : text;
+}
+
+QVariant WallMapModel::data(const QModelIndex &index, int role) const
+{
+    const auto cabinet = cabinetAt(index);
+    if (!cabinet) {
+        return QVariant();
+    }
+    switch (role) {
+    case Qt::DisplayRole: {
+        const CabinetAssessment *of = assessed(*cabinet);
+        return of ? wallValueText(*of, m_scale.quantity()) : undefinedText();
+    }
+    case Qt::AccessibleTextRole:
+        return description(*cabinet);
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole: {
+        const DisplayDescription &display = m_session->document()->description();
+        const auto target = display.gamut(display.target);
+        const auto &assessment = m_session->assessment().wall;
+        const QString text
+            = target && assessment ? cabinetText(wall(), *target, *assessment, *cabinet) : description(*cabinet);
+        return role == Qt::ToolTipRole ? plainToolTip(text) : text;
+    }
+    default:
+        break;
+    }
+    return QVariant();
+}
+
+} // namespace gamutviewer

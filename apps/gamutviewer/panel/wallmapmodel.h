@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_WALLMAPMODEL_H
+#define GAMUTVIEWER_WALLMAPMODEL_H
+
+#include "drawing/wallpainter.h"
+
+#include <QAbstractTableModel>
+
+#include <vector>
+
+namespace gamutviewer {
+
+class TargetSession;
+
+/*! \brief The cells of a WallMap. */
+class WallMapModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    /*! \brief The cabinets that \a gridOf finds in a wall. */
+    WallMapModel(const TargetSession *session, WallGrid (*gridOf)(const DisplayWall &), QObject *parent);
+
+    void refresh(const WallScale &scale);
+    const WallGrid &grid() const { return m_grid; }
+    std::optional<std::size_t> cabinetAt(const QModelIndex &index) const;
+    QModelIndex indexOf(std::size_t cabinet) const;
+    /*! \brief How the cabinet at \a index is drawn, but for its selection; nothing for a gap. */
+    std::optional<WallCell> cell(const QModelIndex &index) const;
+    const QString &longestValue() const { return m_longestValue; }
+    int longestName() const { return m_longestName; }
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+
+private:
+    struct Place {
+        std::optional<int> row;
+        std::optional<int> column;
+    };
+
+    const DisplayWall &wall() const;
+    const CabinetAssessment *assessed(std::size_t cabinet) const;
+    QString description(std::size_t cabinet) const;
+
+    const TargetSession *m_session;
+    WallGrid (*m_gridOf)(const DisplayWall &);
+    WallScale m_scale;
+    WallGrid m_grid;
+    std::vector<Place> m_places; // that the grid is of
+    std::vector<QModelIndex> m_indexes; // of each cabinet
+    QString m_longestValue;
+    int m_longestName = 1;
+};
+
+} // namespace gamutviewer
+
+#endif

@@ -1,0 +1,257 @@
+// SPDX-License-Identifier: MIT
+#include "window/wallpage.h"
+
+#include "editing/document.h"
+#include "editing/targetsession.h"
+#include "panel/accentbutton.h"
+#include "panel/cabinettable.h"
+#include "panel/closelook.h"
+#include "panel/wallmap.h"
+#include "panel/wallverdict.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+namespace {
+
+constexpr double barScale = 0.85;
+constexpr int leastMap = 220; // pixels
+
+} // namespace
+
+WallPage::WallPage(TargetSession *session, QWidget *parent)
+    : Page(session->document(), parent)
+    , m_session(session)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_stack = new QStackedWidget(this);
+    layout->addWidget(m_stack);
+    m_note = new QLabel(tr("No wall is known of this display.\n\nOpen a list of measurements with a column for the "
+                           "cabinet, or for its row and column, and with red, green and blue of each; or a display "
+                           "description that has a wall."),
+        m_stack);
+    m_note->setWordWrap(true);
+    m_note->setMargin(40);
+    m_note->setAlignment(Qt::AlignCenter);
+    m_note->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_stack->addWidget(m_note);
+    m_content = new QWidget(m_stack);
+    m_stack->addWidget(m_content);
+    auto *all = new QVBoxLayout(m_content);
+    all->setContentsMargins(6, 6, 6, 0);
+    m_verdict = new WallVerdict(session, m_content);
+    all->addWidget(m_verdict);
+    auto *bar = new QHBoxLayout;
+    all->addLayout(bar);
+    buildQuantities(bar);
+    auto *parts = new QSplitter(Qt::Horizontal, m_content);
+    parts->setChildrenCollapsible(false);
+    parts->addWidget(buildMaps());
+    parts->addWidget(buildNumbers());
+    parts->setStretchFactor(0, 1);
+    parts->setStretchFactor(1, 1);
+    parts->setSizes({1000, 1000}); // halves of any width
+    all->addWidget(parts, 1);
+    connect(m_verdict, &WallVerdict::exportWanted, this, &WallPage::exportWanted);
+    connect(session, &TargetSession::selectedCabinetChanged, m_verdict, [this] {
+        if (isVisible()) {
+            m_verdict->refresh();
+        }
+    });
+}
+
+QWidget *WallPage::buildMaps()
+{
+    m_maps = new QWidget(m_content);
+    m_maps->setMinimumWidth(leastMap);
+    auto *column = new QVBoxLayout(m_maps);
+    column->setContentsMargins(0, 0, 4, 4);
+    column->setSpacing(4);
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * barScale);
+    m_map = new WallMap(m_session, WallMap::Cabinets::Placed, m_maps);
+    m_map->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    column->addWidget(m_map);
+    m_unplacedTitle = new QLabel(tr("Position not known"), m_maps);
+    m_unplacedTitle->setFont(small);
+    column->addWidget(m_unplacedTitle);
+    m_unplaced = new WallMap(m_session, WallMap::Cabinets::Unplaced, m_maps);
+    m_unplaced->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    column->addWidget(m_unplaced);
+    m_legend = new WallLegend(m_maps);
+    column->addWidget(m_legend);
+    column->addStretch(1);
+    for (WallMap *map : {m_map, m_unplaced}) {
+        map->setMaximumHeight(1); // until there is a wall
+        map->setFont(small);
+    }
+    return m_maps;
+}
+
+void WallPage::buildQuantities(QHBoxLayout *bar)
+{
+    bar->setSpacing(2);
+    m_quantities = new QActionGroup(this);
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * barScale);
+    m_extent = new QLabel(m_content);
+    m_extent->setFont(small);
+    m_extent->setTextFormat(Qt::PlainText);
+    bar->addWidget(m_extent);
+    bar->addSpacing(12);
+    for (const WallQuantity quantity : allWallQuantities) {
+        auto *action = new QAction(wallQuantityName(quantity), this);
+        action->setCheckable(true);
+        action->setData(int(quantity));
+        action->setToolTip(wallQuantityDescription(quantity));
+        action->setChecked(quantity == WallQuantity::Headroom);
+        m_quantities->addAction(action);
+        addAction(action);
+        auto *button = new AccentButton(this);
+        button->setFont(small);
+        button->setDefaultAction(action);
+        button->setFocusPolicy(Qt::TabFocus);
+        bar->addWidget(button);
+    }
+    bar->addStretch();
+    connect(m_quantities, &QActionGroup::triggered, this, &WallPage::refreshMaps);
+}
+
+QWidget *WallPage::buildNumbers()
+{
+    auto *numbers = new QWidget(m_content);
+    auto *column = new QVBoxLayout(numbers);
+    column->setContentsMargins(4, 0, 0, 4);
+    column->setSpacing(4);
+    auto *looks = new QHBoxLayout;
+    looks->setSpacing(4);
+    column->addLayout(looks, 2);
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * barScale);
+    for (const Vertex primary : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
+        auto *look = new CloseLook(m_session, primary, numbers);
+        look->setFont(small);
+        connect(look, &CloseLook::pointedAt, this, &Page::pointedAt);
+        connect(look, &CloseLook::pointerLeft, this, &Page::pointerLeft);
+        looks->addWidget(look);
+        m_looks.at(std::size_t(primary)) = look;
+    }
+    auto *bar = new QHBoxLayout;
+    column->addLayout(bar);
+    const auto addButton = [&](const QString &text, const QString &explanation) {
+        auto *button = new QToolButton(numbers);
+        button->setText(text);
+        button->setToolTip(explanation);
+        button->setFont(small);
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setAutoRaise(true);
+        return button;
+    };
+    m_worst = addButton(tr("Cabinets, worst first"), tr("Sort those first that do not show the target"));
+    m_copy = addButton(tr("Copy table"), tr("Copy all of the table, for a spreadsheet"));
+    bar->addWidget(m_worst);
+    bar->addStretch();
+    bar->addWidget(m_copy);
+    m_table = new CabinetTable(m_session, numbers);
+    m_table->setFont(small);
+    column->addWidget(m_table, 3);
+    connect(m_worst, &QToolButton::clicked, m_table, &CabinetTable::sortByJudgement);
+    connect(m_copy, &QToolButton::clicked, m_table, &CabinetTable::copy);
+    return numbers;
+}
+
+QStringList WallPage::hints() const
+{
+    if (document()->description().wall.cabinets.empty()) {
+        return {};
+    }
+    return {tr("Arrows: next cabinet   Esc: none   Ctrl+C in the table: copy it"),
+        tr("Arrows: next cabinet   Esc: none")};
+}
+
+WallQuantity WallPage::quantity() const
+{
+    return WallQuantity(m_quantities->checkedAction()->data().toInt());
+}
+
+Picture WallPage::picture() const
+{
+    Picture picture = Page::picture();
+    const DisplayWall &wall = document()->description().wall;
+    if (!wall.cabinets.empty()) {
+        picture.wall = std::make_shared<const WallPicture>(WallPicture{wall, m_session->assessment().wall, quantity()});
+    }
+    return picture;
+}
+
+void WallPage::refresh()
+{
+    const DisplayWall &wall = document()->description().wall;
+    const bool hasWall = !wall.cabinets.empty();
+    m_stack->setCurrentWidget(hasWall ? m_content : m_note);
+    setFocusInside(hasWall ? static_cast<QWidget *>(m_map->isEmpty() ? m_unplaced : m_map) : m_note);
+    // Without a wall all of them let go of what they have of the former one.
+    m_verdict->refresh();
+    refreshMaps();
+    for (CloseLook *look : m_looks) {
+        look->refresh();
+    }
+    m_table->refresh();
+}
+
+void WallPage::refreshMaps()
+{
+    static const std::vector<CabinetAssessment> none;
+    const DisplayWall &wall = document()->description().wall;
+    const auto &assessment = m_session->assessment().wall;
+    const WallScale scale(quantity(), assessment ? assessment->cabinets : none, wall.unit);
+    m_map->refresh(scale);
+    m_unplaced->refresh(scale);
+    m_legend->setScale(scale);
+    m_map->setVisible(!m_map->isEmpty());
+    m_unplaced->setVisible(!m_unplaced->isEmpty());
+    m_unplacedTitle->setVisible(!m_unplaced->isEmpty());
+    m_extent->setText(m_map->isEmpty()
+            ? tr("Wall")
+            : tr("Wall %1 × %2", "rows, columns").arg(m_map->gridRows()).arg(m_map->model()->columnCount()));
+    shareRoom();
+}
+
+//! The maps take what they need of the height, in proportion where there is too little.
+void WallPage::shareRoom()
+{
+    const QMargins margins = m_maps->layout()->contentsMargins();
+    const int spacing = m_maps->layout()->spacing();
+    const int width = m_maps->width() - margins.left() - margins.right();
+    int room = m_maps->height() - margins.top() - margins.bottom() - m_legend->heightForWidth(width) - 2 * spacing;
+    if (!m_unplaced->isEmpty()) {
+        room -= m_unplacedTitle->sizeHint().height() + 2 * spacing;
+    }
+    const int placed = m_map->heightFor(width);
+    const int others = m_unplaced->heightFor(width);
+    const double share = std::min(1.0, double(std::max(room, 40)) / std::max(placed + others, 1));
+    m_map->setMaximumHeight(std::max(int(placed * share), 1));
+    m_unplaced->setMaximumHeight(std::max(int(others * share), 1));
+    m_map->updateGeometry();
+    m_unplaced->updateGeometry();
+}
+
+void WallPage::resizeEvent(QResizeEvent *event)
+{
+    Page::resizeEvent(event);
+    m_content->layout()->activate();
+    shareRoom();
+}
+
+} // namespace gamutviewer

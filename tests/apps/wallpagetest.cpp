@@ -1,0 +1,521 @@
+// SPDX-License-Identifier: MIT
+#include "windowfixture.h"
+
+#include "display/wallassessment.h"
+#include "drawing/picture.h"
+#include "drawing/wallpainter.h"
+#include "editing/targetsession.h"
+#include "panel/cabinetmodel.h"
+#include "panel/cabinettable.h"
+#include "panel/closelook.h"
+#include "panel/sidepanel.h"
+#include "panel/verdict.h"
+#include "panel/wallmap.h"
+#include "panel/wallverdict.h"
+#include "panel/warningbar.h"
+#include "window/listdialog.h"
+#include "window/wallpage.h"
+
+#include <gamutfiles/correctionsfile.h>
+
+#include <QAccessible>
+#include <QActionGroup>
+#include <QClipboard>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QToolButton>
+
+using namespace gamutviewer;
+
+class WallPageTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutAWallItSaysHowToGetOne();
+    void mapHangsAsTheWall();
+    void cellsAreAccessible();
+    void arrowsSelectInMapLooksAndTable();
+    void tableAndDotsSelect();
+    void quantityIsChosen();
+    void fitIsOneStep();
+    void cabinetIsLeftOut();
+    void draggingTheTargetIsFollowed();
+    void cabinetsWithoutAPosition();
+    void tableIsSorted();
+    void tableIsCopiedWhole();
+    void wallIsRemoved();
+    void verdictOfThePanelFitsToTheWall();
+    void pictureShowsTheWall();
+    void correctionsAreWritten();
+    void listIsOpenedAsAWall();
+    void manyCabinets();
+    void sparseWallKeepsNoGaps();
+};
+
+namespace {
+
+constexpr LuminanceUnit cd = LuminanceUnit::CandelaPerSquareMetre;
+
+Model::Target color(double Y, double x, double y)
+{
+    return Model::Target::fromYxy(Y, x, y);
+}
+
+//! Rec.2020 with \a luminance, called "B2" and so on, and a target of the chromaticities of Rec.709 at 1000 cd/m².
+DisplayDescription description(int rows, int columns)
+{
+    DisplayDescription result;
+    result.name = QStringLiteral("Stage");
+    const Model::Targets of = Model::rec2020().getTargets();
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            const double luminance = 1100.0 + row + 0.1 * column;
+            WallCabinet cabinet;
+            cabinet.name = QStringLiteral("%1%2").arg(QChar('A' + row % 26)).arg(column + 1);
+            cabinet.row = row + 1;
+            cabinet.column = column + 1;
+            cabinet.red = color(of.red.Y * luminance, of.red.x, of.red.y);
+            cabinet.green = color(of.green.Y * luminance, of.green.x, of.green.y);
+            cabinet.blue = color(of.blue.Y * luminance, of.blue.x, of.blue.y);
+            result.wall.cabinets.push_back(cabinet);
+        }
+    }
+    result.wall.unit = cd;
+    Model::Targets target = Model::rec709().getTargets();
+    for (Model::Target *t : {&target.red, &target.green, &target.blue, &target.white}) {
+        *t = color(t->Y * 1000.0, t->x, t->y);
+    }
+    result.gamuts.push_back({Model::ColorGamut("Show", target), cd});
+    result.target = QStringLiteral("Show");
+    return result;
+}
+
+void dim(WallCabinet &cabinet)
+{
+    for (Model::Target *t : {&cabinet.red, &cabinet.green, &cabinet.blue}) {
+        *t = color(t->Y * 0.8, t->x, t->y);
+    }
+}
+
+struct WallFixture : WindowFixture {
+    explicit WallFixture(const DisplayDescription &of)
+    {
+        window->setDescription(of, QString());
+        show(page());
+    }
+
+    WallPage *page() { return window->wallPage(); }
+    const DisplayWall &wall() { return document().description().wall; }
+    QString selectedName()
+    {
+        const auto cabinet = window->session()->selectedCabinet();
+        return cabinet ? wall().cabinets.at(*cabinet).name : QString();
+    }
+    void click(QAbstractItemView *view, const QModelIndex &index)
+    {
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(index).center());
+    }
+};
+
+//! 3 × 4 cabinets of which "B2" is too dim.
+DisplayDescription oneDim()
+{
+    DisplayDescription result = description(3, 4);
+    dim(result.wall.cabinets[5]);
+    return result;
+}
+
+} // namespace
+
+void WallPageTest::withoutAWallItSaysHowToGetOne()
+{
+    WindowFixture f;
+    f.show(f.window->wallPage());
+    QVERIFY(f.window->wallPage()->emptyNote()->isVisible());
+    QVERIFY(f.window->wallPage()->emptyNote()->text().contains(QStringLiteral("a column for the cabinet")));
+    QVERIFY(!f.window->wallPage()->map()->isVisible());
+    QVERIFY(!f.window->wallPage()->picture().wall);
+    f.window->setDescription(oneDim(), QString());
+    QVERIFY(f.window->wallPage()->map()->isVisible());
+    QVERIFY(!f.window->wallPage()->emptyNote()->isVisible());
+}
+
+void WallPageTest::mapHangsAsTheWall()
+{
+    DisplayDescription d = oneDim();
+    d.wall.cabinets.erase(d.wall.cabinets.begin() + 6); // B3 is a gap
+    WallFixture f(d);
+    const QAbstractItemModel *model = f.page()->map()->model();
+    QCOMPARE(model->rowCount(), 3);
+    QCOMPARE(model->columnCount(), 4);
+    QCOMPARE(model->index(1, 1).data().toString(), QStringLiteral("−12 %"));
+    QCOMPARE(model->index(0, 0).data().toString(), QStringLiteral("+10 %"));
+    QVERIFY(!model->index(1, 2).flags().testFlag(Qt::ItemIsSelectable));
+    // It fills the room without scrolling.
+    const QRect last = f.page()->map()->visualRect(model->index(2, 3));
+    QVERIFY(f.page()->map()->viewport()->rect().contains(last));
+    // What falls short is marked in its corner, in a colour that is not that of the cell.
+    const QImage picture = f.page()->map()->grab().toImage();
+    const QRect bad = f.page()->map()->visualRect(model->index(1, 1));
+    const QRect good = f.page()->map()->visualRect(model->index(0, 0));
+    QVERIFY(picture.pixelColor(bad.topRight() + QPoint(-3, 3)) != picture.pixelColor(bad.topLeft() + QPoint(3, 3)));
+    QCOMPARE(picture.pixelColor(good.topRight() + QPoint(-3, 3)), picture.pixelColor(good.topLeft() + QPoint(3, 3)));
+}
+
+void WallPageTest::cellsAreAccessible()
+{
+    WallFixture f(oneDim());
+    QAccessibleInterface *map = QAccessible::queryAccessibleInterface(f.page()->map());
+    QVERIFY(map && map->tableInterface());
+    QAccessibleInterface *cell = map->tableInterface()->cellAt(1, 1);
+    QVERIFY(cell);
+    QCOMPARE(cell->text(QAccessible::Name), QStringLiteral("B2, headroom −12 %, does not show the target"));
+    QCOMPARE(map->tableInterface()->cellAt(0, 0)->text(QAccessible::Name),
+        QStringLiteral("A1, headroom +10 %, shows the target"));
+    QVERIFY(f.page()
+                ->map()
+                ->model()
+                ->index(1, 1)
+                .data(Qt::ToolTipRole)
+                .toString()
+                .contains(QStringLiteral("B2: white reaches ")));
+    DisplayDescription d = oneDim();
+    d.wall.cabinets[0].name = QStringLiteral("<b>A&1</b>");
+    f.window->setDescription(d, QString());
+    QVERIFY(f.page()
+                ->map()
+                ->model()
+                ->index(0, 0)
+                .data(Qt::ToolTipRole)
+                .toString()
+                .contains(QStringLiteral("&lt;b&gt;A&amp;1&lt;/b&gt;")));
+}
+
+void WallPageTest::arrowsSelectInMapLooksAndTable()
+{
+    WallFixture f(oneDim());
+    f.click(f.page()->map(), f.page()->map()->model()->index(0, 0));
+    QCOMPARE(f.selectedName(), QStringLiteral("A1"));
+    QTest::keyClick(f.page()->map(), Qt::Key_Right);
+    QTest::keyClick(f.page()->map(), Qt::Key_Down);
+    QCOMPARE(f.selectedName(), QStringLiteral("B2"));
+    CabinetTable *table = f.page()->table();
+    QVERIFY(table->selectionModel()->isRowSelected(0, QModelIndex())); // the worst is first
+    QCOMPARE(table->cabinets()->cabinetIn(0), std::size_t(5));
+    const QImage with = f.page()->closeLook(Vertex::Green)->grab().toImage();
+    QTest::keyClick(f.page()->map(), Qt::Key_Escape);
+    QVERIFY(!f.window->session()->selectedCabinet());
+    QVERIFY(!table->selectionModel()->hasSelection());
+    QVERIFY(f.page()->closeLook(Vertex::Green)->grab().toImage() != with);
+}
+
+void WallPageTest::tableAndDotsSelect()
+{
+    DisplayDescription d = oneDim();
+    WallCabinet &apart = d.wall.cabinets[7];
+    apart.green = color(apart.green.Y, 0.18, 0.78);
+    WallFixture f(d);
+    CabinetTable *table = f.page()->table();
+    f.click(table, table->model()->index(2, 1));
+    QCOMPARE(f.window->session()->selectedCabinet(), std::make_optional(table->cabinets()->cabinetIn(2)));
+    QCOMPARE(f.page()->map()->currentIndex(), f.page()->map()->indexOf(table->cabinets()->cabinetIn(2)));
+    CloseLook *look = f.page()->closeLook(Vertex::Green);
+    const QPoint at = look->viewport().toPosition(QPointF(0.18, 0.78)).toPoint();
+    QVERIFY(look->rect().contains(at));
+    QTest::mouseClick(look, Qt::LeftButton, Qt::NoModifier, at);
+    QCOMPARE(f.selectedName(), QStringLiteral("B4"));
+    QCOMPARE(f.page()->map()->currentIndex(), f.page()->map()->indexOf(7));
+    QCOMPARE(table->currentIndex().row(), table->cabinets()->rowOf(7));
+}
+
+void WallPageTest::quantityIsChosen()
+{
+    WallFixture f(oneDim());
+    const QModelIndex bad = f.page()->map()->indexOf(5);
+    const std::pair<WallQuantity, const char *> expected[]
+        = {{WallQuantity::UvBefore, "0.0000"}, {WallQuantity::UvAfter, "0.0000"}, {WallQuantity::Luminance, "881"},
+            {WallQuantity::Headroom, "−12 %"}, {WallQuantity::Limit, "red"}};
+    QString legend;
+    for (const auto &[quantity, text] : expected) {
+        for (QAction *action : f.page()->quantities()->actions()) {
+            if (WallQuantity(action->data().toInt()) == quantity) {
+                const auto buttons = f.page()->findChildren<QToolButton *>();
+                const auto button = std::find_if(buttons.begin(), buttons.end(),
+                    [action](const QToolButton *of) { return of->defaultAction() == action; });
+                QVERIFY(button != buttons.end());
+                QTest::mouseClick(*button, Qt::LeftButton);
+            }
+        }
+        QCOMPARE(f.page()->quantity(), quantity);
+        QCOMPARE(bad.data().toString(), QString::fromUtf8(text));
+        QVERIFY(f.page()->legend()->accessibleName() != legend);
+        legend = f.page()->legend()->accessibleName();
+    }
+}
+
+void WallPageTest::fitIsOneStep()
+{
+    WallFixture f(oneDim());
+    QVERIFY(
+        f.page()->verdict()->text().startsWith(QStringLiteral("✗ 11 of 12 cabinets show this target; B2 does not")));
+    QTest::mouseClick(f.page()->verdict()->fitButton(), Qt::LeftButton);
+    QVERIFY2(f.page()->verdict()->text().startsWith(QStringLiteral("✓ All 12 cabinets show this target")),
+        qPrintable(f.page()->verdict()->text()));
+    QVERIFY(!f.page()->verdict()->fitButton()->isEnabled());
+    QVERIFY(std::fabs(f.document().target()->getTargets().white.Y - 880.88) < 1e-6);
+    QCOMPARE(f.document().history()->count(), 1);
+    f.document().history()->undo();
+    QCOMPARE(f.document().target()->getTargets().white.Y, 1000.0);
+    QVERIFY(f.page()->verdict()->text().startsWith(QStringLiteral("✗")));
+    // A step that cannot be made says why.
+    DisplayDescription d = oneDim();
+    WallCabinet &other = d.wall.cabinets[3];
+    other.red = color(200.0, 0.05, 0.40);
+    other.green = color(200.0, 0.10, 0.80);
+    other.blue = color(200.0, 0.04, 0.55);
+    f.window->setDescription(d, QString());
+    QSignalSpy refused(f.window->session(), &TargetSession::refused);
+    QTest::mouseClick(f.page()->verdict()->fitButton(), Qt::LeftButton);
+    QCOMPARE(refused.count(), 1);
+    QVERIFY(refused.first().first().toString().contains(QStringLiteral("have no colour in common")));
+    QCOMPARE(f.document().history()->count(), 0);
+}
+
+void WallPageTest::cabinetIsLeftOut()
+{
+    WallFixture f(oneDim());
+    QToolButton *without = f.page()->verdict()->withoutButton();
+    QCOMPARE(without->text(), QStringLiteral("Without B2"));
+    QVERIFY(!f.page()->verdict()->countAgainButton()->isVisible());
+    QTest::mouseClick(without, Qt::LeftButton);
+    QVERIFY(f.wall().cabinets[5].isLeftOut);
+    QVERIFY2(f.page()->verdict()->text().startsWith(QStringLiteral("✓ 11 cabinets show this target; one is left out")),
+        qPrintable(f.page()->verdict()->text()));
+    QVERIFY(f.page()->verdict()->text().contains(QStringLiteral("Left out of this verdict: B2.")));
+    QVERIFY(f.window->panel()->verdict()->text().startsWith(QStringLiteral("✓")));
+    f.document().history()->undo();
+    QVERIFY(!f.wall().cabinets[5].isLeftOut);
+    f.document().history()->redo();
+    // It is stored.
+    const QString file = f.settings.filePath(QStringLiteral("stage.json"));
+    QVERIFY(f.window->saveTo(file));
+    const auto read = readGamutFile(file);
+    QVERIFY(read);
+    QVERIFY(read->description.wall.cabinets.at(5).isLeftOut);
+    QTest::mouseClick(f.page()->verdict()->countAgainButton(), Qt::LeftButton);
+    QVERIFY(!f.wall().cabinets[5].isLeftOut);
+    // With none that fails, the one that is selected can be left out.
+    f.window->setDescription(description(2, 2), QString());
+    QVERIFY(!without->isVisible());
+    f.click(f.page()->map(), f.page()->map()->model()->index(1, 0));
+    QCOMPARE(without->text(), QStringLiteral("Without B1"));
+}
+
+void WallPageTest::draggingTheTargetIsFollowed()
+{
+    WallFixture f(oneDim());
+    const QModelIndex cell = f.page()->map()->indexOf(0);
+    const QString before = cell.data().toString();
+    const QString white = f.page()->table()->model()->index(0, CabinetModel::White).data().toString();
+    f.window->session()->beginDrag(Vertex::White);
+    Model::Targets targets = f.document().target()->getTargets();
+    targets.white = color(targets.white.Y, 0.29, 0.30);
+    f.window->session()->dragTo(targets);
+    QVERIFY(cell.data().toString() != before);
+    QVERIFY(f.page()->table()->model()->index(0, CabinetModel::White).data().toString() != white);
+    f.window->session()->cancelDrag();
+    QCOMPARE(cell.data().toString(), before);
+}
+
+void WallPageTest::cabinetsWithoutAPosition()
+{
+    DisplayDescription d = oneDim();
+    d.wall.cabinets[5].row.reset();
+    d.wall.cabinets[5].column.reset();
+    WallFixture f(d);
+    QVERIFY(f.page()->map()->isVisible());
+    QVERIFY(f.page()->unplacedMap()->isVisible());
+    QVERIFY(!f.page()->map()->indexOf(5).isValid());
+    const QModelIndex other = f.page()->unplacedMap()->indexOf(5);
+    QVERIFY(other.isValid());
+    f.click(f.page()->unplacedMap(), other);
+    QCOMPARE(f.selectedName(), QStringLiteral("B2"));
+    for (WallCabinet &cabinet : d.wall.cabinets) {
+        cabinet.row.reset();
+        cabinet.column.reset();
+    }
+    f.window->setDescription(d, QString());
+    QVERIFY(!f.page()->map()->isVisible());
+    for (std::size_t i = 0; i < d.wall.cabinets.size(); ++i) {
+        QVERIFY(f.page()->unplacedMap()->indexOf(i).isValid());
+    }
+    f.window->setDescription(oneDim(), QString());
+    QVERIFY(!f.page()->unplacedMap()->isVisible());
+}
+
+void WallPageTest::tableIsSorted()
+{
+    DisplayDescription d = description(1, 12);
+    dim(d.wall.cabinets[4]);
+    WallFixture f(d);
+    CabinetTable *table = f.page()->table();
+    const auto name = [table](int row) { return table->model()->index(row, CabinetModel::Name).data().toString(); };
+    QCOMPARE(name(0), QStringLiteral("✗ A5"));
+    table->sortByColumn(CabinetModel::Name, Qt::DescendingOrder);
+    QCOMPARE(name(0), QStringLiteral("✓ A12"));
+    QCOMPARE(name(2), QStringLiteral("✓ A10"));
+    QCOMPARE(name(3), QStringLiteral("✓ A9"));
+    table->sortByColumn(CabinetModel::Headroom, Qt::AscendingOrder);
+    QCOMPARE(name(0), QStringLiteral("✗ A5"));
+    QCOMPARE(name(1), QStringLiteral("✓ A1"));
+    // The selection stays with its cabinet.
+    f.click(table, table->model()->index(1, 0));
+    table->sortByColumn(CabinetModel::Headroom, Qt::DescendingOrder);
+    QCOMPARE(f.selectedName(), QStringLiteral("A1"));
+    QCOMPARE(name(table->currentIndex().row()), QStringLiteral("✓ A1"));
+}
+
+void WallPageTest::tableIsCopiedWhole()
+{
+    WallFixture f(oneDim());
+    f.page()->table()->setFocus();
+    QTest::keyClick(f.page()->table(), Qt::Key_C, Qt::ControlModifier);
+    const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 13);
+    QCOMPARE(lines.first(),
+        QStringLiteral("cabinet\tlimited by\twhite cd/m²\theadroom\tΔu′v′ before\tΔu′v′ after\tneighbours"));
+    QCOMPARE(lines.at(1), QStringLiteral("✗ B2\tred\t880.9\t−12 %\t0.0000\t0.0000\t0.0000"));
+}
+
+void WallPageTest::wallIsRemoved()
+{
+    WallFixture f(oneDim());
+    f.window->session()->selectCabinet(3);
+    f.window->session()->removeWall();
+    QVERIFY(f.wall().cabinets.empty());
+    QVERIFY(!f.window->session()->selectedCabinet());
+    QVERIFY(f.page()->emptyNote()->isVisible());
+    f.document().history()->undo();
+    QCOMPARE(f.wall().cabinets.size(), std::size_t(12));
+    QVERIFY(f.page()->map()->isVisible());
+}
+
+void WallPageTest::verdictOfThePanelFitsToTheWall()
+{
+    WallFixture f(oneDim());
+    Verdict *verdict = f.window->panel()->verdict();
+    QVERIFY(verdict->text().contains(QStringLiteral("11 of 12 cabinets show this target; B2 does not.")));
+    QCOMPARE(verdict->fitButton()->text(), QStringLiteral("F&it target to the wall"));
+    QTest::mouseClick(verdict->fitButton(), Qt::LeftButton);
+    QVERIFY(verdict->text().startsWith(QStringLiteral("✓")));
+}
+
+void WallPageTest::pictureShowsTheWall()
+{
+    WallFixture f(oneDim());
+    const Picture picture = f.page()->picture();
+    QVERIFY(picture.wall);
+    PictureExtent extent;
+    extent.size = QSize(600, 500);
+    const QImage pixels = pixelsOf(picture, extent);
+    const WallScale scale(WallQuantity::Headroom, f.window->session()->assessment().wall->cabinets, cd);
+    const QRgb bad = scale.color(f.window->session()->assessment().wall->cabinets.at(5)).rgb();
+    const QRgb good = scale.color(f.window->session()->assessment().wall->cabinets.at(0)).rgb();
+    int badPixels = 0;
+    int goodPixels = 0;
+    for (int y = 0; y < pixels.height(); ++y) {
+        for (int x = 0; x < pixels.width(); ++x) {
+            badPixels += pixels.pixel(x, y) == bad;
+            goodPixels += pixels.pixel(x, y) == good;
+        }
+    }
+    QVERIFY(badPixels > 1000);
+    QVERIFY(goodPixels > 5 * badPixels);
+    const QString file = f.settings.filePath(QStringLiteral("wall.svg"));
+    QVERIFY(f.window->exportTo(file, picture, extent));
+    QFile svg(file);
+    QVERIFY(svg.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(svg.readAll());
+    QVERIFY(text.contains(QStringLiteral("11 of 12 cabinets show this target")));
+    QVERIFY(text.contains(QStringLiteral("B2")));
+}
+
+void WallPageTest::correctionsAreWritten()
+{
+    WallFixture f(oneDim());
+    QSignalSpy wanted(f.page(), &WallPage::exportWanted);
+    QVERIFY(f.page()->verdict()->exportButton()->isEnabled());
+    disconnect(f.page(), &WallPage::exportWanted, f.window.get(), nullptr); // the dialog of files
+    QTest::mouseClick(f.page()->verdict()->exportButton(), Qt::LeftButton);
+    QCOMPARE(wanted.count(), 1);
+    for (const QString &suffix : {QStringLiteral("csv"), QStringLiteral("json")}) {
+        const QString file = f.settings.filePath(QStringLiteral("corrections.") + suffix);
+        QVERIFY(f.window->exportCorrectionsTo(file));
+        QFile written(file);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        QVERIFY(written.readAll().contains("B2"));
+    }
+}
+
+void WallPageTest::listIsOpenedAsAWall()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    const QString file = writeFile(f.settings, QStringLiteral("stage.csv"),
+        "cabinet,row,column,name,Y (cd/m2),x,y\n"
+        "A1,1,1,R,200,0.7,0.29\nA1,1,1,G,700,0.2,0.7\nA1,1,1,B,100,0.15,0.05\n"
+        "A2,1,2,R,210,0.7,0.29\nA2,1,2,G,710,0.2,0.7\nA2,1,2,B,110,0.15,0.05\n"
+        "A3,1,3,R,210,0.7,0.29\n");
+    QString first;
+    QString preview;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (auto *dialog = qobject_cast<ListDialog *>(QApplication::activeModalWidget())) {
+            timer.stop();
+            first = dialog->cabinet()->currentText();
+            preview = dialog->preview()->toPlainText();
+            QTest::mouseClick(dialog->useButton(), Qt::LeftButton);
+        }
+    });
+    timer.start(1);
+    QVERIFY(f.window->openPath(file));
+    QCOMPARE(first, QStringLiteral("the whole wall, 2 cabinets"));
+    QVERIFY2(preview.contains(QStringLiteral("The list makes a wall.")), qPrintable(preview));
+    QVERIFY2(preview.contains(QStringLiteral("A3")), qPrintable(preview));
+    QVERIFY2(!preview.contains(QStringLiteral("choose")), qPrintable(preview)); // nothing is missing for a wall
+    const DisplayDescription &description = f.document().description();
+    QCOMPARE(description.wall.cabinets.size(), std::size_t(2));
+    QVERIFY(description.measurePoints.isEmpty());
+    QVERIFY(description.measured.isEmpty());
+    QCOMPARE(f.window->currentPage(), f.window->wallPage());
+    QVERIFY2(f.window->warnings()->warnings().join(QLatin1Char('\n')).contains(QStringLiteral("A3")),
+        qPrintable(f.window->warnings()->warnings().join(QLatin1Char('\n'))));
+}
+
+void WallPageTest::manyCabinets()
+{
+    WallFixture f(description(100, 100));
+    WallMap *map = f.page()->map();
+    QCOMPARE(map->model()->rowCount(), 100);
+    QVERIFY(map->viewport()->rect().contains(map->visualRect(map->model()->index(99, 99))));
+    const QSize cell = map->visualRect(map->model()->index(50, 50)).size();
+    QVERIFY(cell.width() >= 1 && cell.height() >= 1);
+    f.click(map, map->model()->index(99, 99));
+    QCOMPARE(f.window->session()->selectedCabinet(), std::make_optional(std::size_t(9999)));
+}
+
+void WallPageTest::sparseWallKeepsNoGaps()
+{
+    DisplayDescription d = description(2, 2);
+    d.wall.cabinets[3].row = 2000000000;
+    d.wall.cabinets[3].column = -2000000000;
+    const WallGrid grid = placedCabinets(d.wall);
+    QCOMPARE(grid.rows, 3);
+    QCOMPARE(grid.columns, 3);
+    QCOMPARE(grid.at(2, 0), std::make_optional(std::size_t(3)));
+    QCOMPARE(grid.at(0, 1), std::make_optional(std::size_t(0)));
+    QVERIFY(!grid.at(2, 1));
+}
+
+QTEST_MAIN(WallPageTest)
+#include "wallpagetest.moc"
