@@ -292,7 +292,7 @@ void MeasurementReader::useColumns(const Columns &columns, const QStringList &he
     m_numberParts = parts;
     useCabinets(columns, headers);
     if (isNameless()) {
-        warn(tr("no column names the measurements: choose the lines of red, green, blue and white"),
+        warn(tr("no column names the measurements; lines can be chosen as red, green, blue and white"),
             place(m_list.recognized.headerLine));
     }
 }

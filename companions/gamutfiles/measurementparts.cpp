@@ -229,7 +229,13 @@ void MeasurementReader::warnOfParts(const MeasurementList &list, const QString &
                 : tr("white is missing: there is no gamut; choose a measurement as white, or ask for the sum of red, "
                      "green and blue"),
             where);
-    } else if (present == 2 || (present < 2 && where.isEmpty() && !isNameless())) {
+    } else if (present == 0 && isWhiteMissing && where.isEmpty()) {
+        // Any colours may have been measured: such a list needs no choice.
+        if (!isNameless()) {
+            warn(tr("there is no gamut, as no measurement is recognised as red, green, blue or white; lines or names "
+                    "can be chosen as these colours"));
+        }
+    } else if (present == 2 || (present < 2 && where.isEmpty())) {
         missing += isWhiteMissing ? QStringList{measurementPartName(MeasurementPart::White)} : QStringList();
         warn(tr("there is no gamut; missing: %1; choose the lines or the names that are these colours")
                  .arg(joined(missing)),

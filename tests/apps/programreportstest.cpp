@@ -21,6 +21,8 @@ private Q_SLOTS:
     void refusesTolerances();
     void checkAndReportNeedAFile();
     void reportHasTheWarnings();
+    void listsThatNeedAChoice_data();
+    void listsThatNeedAChoice();
     void checkThatCannotRenderFails();
     void reportCannotBeWritten();
 };
@@ -167,6 +169,35 @@ void ProgramReportsTest::reportHasTheWarnings()
     }
     QCOMPARE(lines, result.error);
     QVERIFY(warnings.first().toString().startsWith(list));
+}
+
+void ProgramReportsTest::listsThatNeedAChoice_data()
+{
+    QTest::addColumn<QByteArray>("list");
+    QTest::addColumn<bool>("needsChoice");
+    QTest::newRow("any colours") << QByteArray("name,Lv,x,y\np1,200,0.64,0.33\np2,210,0.3,0.6\n") << false;
+    QTest::newRow("without names") << QByteArray("Lv,x,y\n200,0.64,0.33\n210,0.3,0.6\n") << false;
+    QTest::newRow("black") << QByteArray("name,Lv,x,y\na,200,0.64,0.33\nblack,0.1,0.3,0.3\n") << false;
+    QTest::newRow("white") << QByteArray("name,Lv,x,y\na,200,0.64,0.33\nwhite,900,0.3,0.3\n") << true;
+    QTest::newRow("red") << QByteArray("name,Lv,x,y\na,200,0.64,0.33\nred,210,0.6,0.3\n") << true;
+    QTest::newRow("no unit stated") << QByteArray("name,Y,x,y\na,200,0.64,0.33\n") << false;
+    QTest::newRow("unit not recognised") << QByteArray("name,Y (asb),x,y\na,200,0.64,0.33\n") << true;
+}
+
+//! A script must learn of what has to be chosen, and only of that.
+void ProgramReportsTest::listsThatNeedAChoice()
+{
+    QFETCH(QByteArray, list);
+    QFETCH(bool, needsChoice);
+    const QString file = write("meter.csv", list);
+    const Result report = run({"--report", "json", file});
+    QVERIFY(QJsonDocument::fromJson(report.output).isObject());
+    QCOMPARE(report.exitCode, needsChoice ? 5 : 0);
+    QVERIFY2(needsChoice || !report.error.contains("; choose"), report.error.constData());
+    // Without a gamut of the display there is no verdict, which comes first.
+    QCOMPARE(run({"--check", file}).exitCode, 4);
+    const QString wall = write("wall.json", wallText(R"("original": "Wall", "target": "Wanted")", 700.0));
+    QCOMPARE(run({"--check", wall, file}).exitCode, needsChoice ? 5 : 0);
 }
 
 void ProgramReportsTest::checkThatCannotRenderFails()

@@ -342,10 +342,13 @@ void MeasurementHeaderTest::namelessLines()
 {
     const QByteArray text = "Lv,x,y\n200,0.7,0.29\n700,0.2,0.7\n100,0.15,0.05\n1000,0.28,0.29\n";
     QCOMPARE(warningsOf(text),
-        QStringList{"line 1: no column names the measurements: choose the lines of red, green, blue and white"});
+        QStringList{"line 1: no column names the measurements; lines can be chosen as red, green, blue and white"});
     QVERIFY(!readMeasurementList(text)->gamut(QString()));
     MeasurementOptions options;
     options.red.line = 2;
+    QCOMPARE(warningsOf(text, options).last(),
+        QStringLiteral("there is no gamut; missing: green, blue, white; choose the lines or the names that are these "
+                       "colours"));
     options.green.line = 3;
     options.blue.line = 4;
     options.white.line = 5;

@@ -39,7 +39,11 @@ inline QStringList warningsOf(const QByteArray &text, const gamutfiles::Measurem
 inline QStringList otherWarningsOf(const QByteArray &text, const gamutfiles::MeasurementOptions &options = {})
 {
     QStringList messages = warningsOf(text, options);
-    if (messages.isEmpty() || !messages.last().startsWith("there is no gamut; missing: ")) {
+    const auto isOfColors = [](const QString &message) {
+        return message.startsWith("there is no gamut; missing: ")
+            || message.startsWith("there is no gamut, as no measurement is recognised");
+    };
+    if (messages.isEmpty() || !isOfColors(messages.last())) {
         return {QStringLiteral("nothing says that there is no gamut")};
     }
     messages.removeLast();

@@ -169,7 +169,9 @@ void MeasurementPartsTest::missingPrimaries()
     QCOMPARE(warningsOf(QByteArray(text).replace("Red", "punainen").replace("Green", "zelena")),
         QStringList{"there is no gamut; missing: red, green, blue" + choose});
     QCOMPARE(warningsOf("name,Lv,x,y\npunainen,1,0.3,0.3\n"),
-        QStringList{"there is no gamut; missing: red, green, blue, white" + choose});
+        QStringList{
+            "there is no gamut, as no measurement is recognised as red, green, blue or white; lines or names can "
+            "be chosen as these colours"});
 }
 
 void MeasurementPartsTest::unlikelyTriangles()

@@ -765,8 +765,8 @@
         <translation>缺少列 %1</translation>
     </message>
     <message>
-        <source>no column names the measurements: choose the lines of red, green, blue and white</source>
-        <translation>没有给出测量名称的列：请选择红、绿、蓝、白所在的行</translation>
+        <source>no column names the measurements; lines can be chosen as red, green, blue and white</source>
+        <translation>没有给出测量名称的列；可以选择红、绿、蓝、白所在的行</translation>
     </message>
     <message>
         <source>the unit of the luminances is not stated</source>
@@ -1038,6 +1038,10 @@
     <message>
         <source>&quot;%1&quot; can be %2 or %3, and no other number that is read tells: state the decimal sign</source>
         <translation>“%1”可能是 %2 或 %3，所读取的其他数字无法判断：请指定小数符号</translation>
+    </message>
+    <message>
+        <source>there is no gamut, as no measurement is recognised as red, green, blue or white; lines or names can be chosen as these colours</source>
+        <translation>没有色域，因为没有识别出红、绿、蓝或白的测量；可以选择这些颜色对应的行或名称</translation>
     </message>
     <message>
         <source>there is no gamut; missing: %1; choose the lines or the names that are these colours</source>
