@@ -101,7 +101,7 @@ void AddDialogTest::descriptionIsAskedAboutToo()
         const FilesAnswer add(FilesAnswer::Add);
         QVERIFY(f.window->openPath(wall));
         QVERIFY(add.isAsked() && add.mayOpenAlone());
-        QVERIFY2(add.note().contains(QLatin1String("adds its gamuts only, in no part")), qPrintable(add.note()));
+        QVERIFY2(add.note().contains(QLatin1String("adds its gamuts only, in no role")), qPrintable(add.note()));
         QCOMPARE(f.document().description().name, QStringLiteral("LED wall"));
         f.document().history()->undo();
     }

@@ -331,7 +331,7 @@ void OpenedFilesTest::descriptionAddsItsGamuts()
     QCOMPARE(result.name, QStringLiteral("Wall"));
     QVERIFY(hasOwnGamut(result, QStringLiteral("Native")));
     QCOMPARE(texts(remarksOnAdding(wall(), {QString(), other, {}, {}})),
-        (QStringList{"is of the display \"Other\", not of \"Wall\"", "adds its gamuts only, in no part"}));
+        (QStringList{"is of the display \"Other\", not of \"Wall\"", "adds its gamuts only, in no role"}));
     // Instead of nothing, it is all of it.
     QCOMPARE(withUsual(DisplayDescription(), other).original, QStringLiteral("Native"));
 }

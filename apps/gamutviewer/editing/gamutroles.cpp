@@ -39,7 +39,7 @@ auto nameIn(Description &description, GamutRole role) -> decltype(&description.t
 QString gamutRolePhrase(std::optional<GamutRole> role)
 {
     if (!role) {
-        return RoleText::tr("no part", "what a gamut is");
+        return RoleText::tr("no role", "what a gamut is");
     }
     switch (*role) {
     case GamutRole::Original:

@@ -14,7 +14,7 @@ using ceiechart::GamutRole;
 constexpr GamutRole allGamutRoles[]
     = {GamutRole::Original, GamutRole::Measured, GamutRole::Declared, GamutRole::Target, GamutRole::Standard};
 
-/*! \brief The part in the middle of a sentence: "the declared gamut", and "no part" for none. */
+/*! \brief The part in the middle of a sentence: "the declared gamut", and "no role" for none. */
 QString gamutRolePhrase(std::optional<GamutRole> role);
 
 /*!

@@ -209,7 +209,7 @@ QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile 
         return remarks;
     }
     if (added.file.content == Content::Description && !isEmpty(open)) {
-        remark(OpenText::tr("adds its gamuts only, in no part"));
+        remark(OpenText::tr("adds its gamuts only, in no role"));
         for (const DisplayGamut &gamut : added.file.description.gamuts) {
             remarkOnUnit(gamut);
         }

@@ -624,7 +624,7 @@
 <context>
     <name>gamutviewer::GamutRoles</name>
     <message>
-        <source>no part</source>
+        <source>no role</source>
         <comment>what a gamut is</comment>
         <translation>不担任角色</translation>
     </message>
@@ -680,11 +680,11 @@
         <translation>色域</translation>
     </message>
     <message>
-        <source>Gamuts and their parts</source>
+        <source>Gamuts and their roles</source>
         <translation>色域及其角色</translation>
     </message>
     <message>
-        <source>Space gives or takes a part, F2 renames, Delete removes</source>
+        <source>Space gives or takes a role, F2 renames, Delete removes</source>
         <translation>空格键赋予或取消角色，F2 重命名，Delete 移除</translation>
     </message>
     <message>
@@ -1004,7 +1004,7 @@
         <translation>属于显示屏“%1”，而不是“%2”</translation>
     </message>
     <message>
-        <source>adds its gamuts only, in no part</source>
+        <source>adds its gamuts only, in no role</source>
         <translation>只添加其色域，不担任角色</translation>
     </message>
     <message>

@@ -64,8 +64,8 @@ GamutsDialog::GamutsDialog(Document *document, QWidget *parent)
     }
     m_table = new QTableWidget(0, headers.size(), this);
     m_table->setHorizontalHeaderLabels(headers);
-    m_table->setAccessibleName(tr("Gamuts and their parts"));
-    m_table->setAccessibleDescription(tr("Space gives or takes a part, F2 renames, Delete removes"));
+    m_table->setAccessibleName(tr("Gamuts and their roles"));
+    m_table->setAccessibleDescription(tr("Space gives or takes a role, F2 renames, Delete removes"));
     m_table->setToolTip(m_table->accessibleDescription());
     m_table->verticalHeader()->hide();
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
