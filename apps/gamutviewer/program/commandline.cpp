@@ -140,12 +140,12 @@ CommandLine::CommandLine(const QStringList &arguments)
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Print this help text."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, tr("Print the version."));
 
-    m_parser.setApplicationDescription(
-        tr("Shows and edits the colour gamuts of a display on CIE chromaticity diagrams.\n\n"
-           "Exit status: 0 success, 1 the picture, the report or the verdict could not be written, or there is no "
-           "display for the window, 2 invalid arguments or files, 5 a measurement list needs a choice; with --check "
-           "also 3 the display fails, 4 the verdict is not known.\n"
-           "Each error is one line on standard error."));
+    m_parser.setApplicationDescription(tr(
+        "Shows and edits the colour gamuts of a display on CIE chromaticity diagrams.\n\n"
+        "Exit status: 0 success, 1 the picture, the corrections, the report or the verdict could not be written, or "
+        "there is no display for the window, 2 invalid arguments or files, 5 a measurement list needs a choice; with "
+        "--check also 3 the display fails, 4 the verdict is not known.\n"
+        "Each error is one line on standard error."));
     m_parser.addPositionalArgument(tr("file"),
         tr("Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any "
            "number of the others, which are added to it. Without files, a sample is opened, unless a measurement is "
