@@ -16,6 +16,7 @@
 #include "window/lens.h"
 #include "window/librarypage.h"
 #include "window/tolerancesmenu.h"
+#include "window/wallpage.h"
 
 #include <ceiechart/diagram/chartstyle.h>
 #include <ceiechart/legacy/ceiegraphicsview.h>

@@ -379,6 +379,89 @@
     </message>
 </context>
 <context>
+    <name>gamutviewer::CabinetModel</name>
+    <message>
+        <source>%1 (left out)</source>
+        <comment>a cabinet</comment>
+        <translation>%1（已排除）</translation>
+    </message>
+    <message>
+        <source>Of its neighbours, %1 differs most.</source>
+        <translation>相邻箱体中与 %1 相差最大。</translation>
+    </message>
+    <message>
+        <source>The cabinet, and whether it shows the target</source>
+        <translation>箱体，以及它能否显示目标</translation>
+    </message>
+    <message>
+        <source>cabinet</source>
+        <translation>箱体</translation>
+    </message>
+    <message>
+        <source>The colour of the target that lies outside by the most, or else the primary at full drive</source>
+        <translation>目标中超出最多的颜色；若无，则为满驱动的基色</translation>
+    </message>
+    <message>
+        <source>limited by</source>
+        <translation>受限于</translation>
+    </message>
+    <message>
+        <source>Largest luminance in the white of the target</source>
+        <translation>目标白点下的最大亮度</translation>
+    </message>
+    <message>
+        <source>white %1</source>
+        <comment>with the unit of the luminance</comment>
+        <translation>白色 %1</translation>
+    </message>
+    <message>
+        <source>Room above the luminance of the target&apos;s white</source>
+        <translation>高于目标白色亮度的余量</translation>
+    </message>
+    <message>
+        <source>headroom</source>
+        <translation>余量</translation>
+    </message>
+    <message>
+        <source>Between the cabinet&apos;s white, not corrected, and the target&apos;s</source>
+        <translation>箱体未校正的白点与目标白点之间</translation>
+    </message>
+    <message>
+        <source>Δu′v′ before</source>
+        <translation>校正前 Δu′v′</translation>
+    </message>
+    <message>
+        <source>Between the cabinet&apos;s white, corrected, and the target&apos;s</source>
+        <translation>箱体校正后的白点与目标白点之间</translation>
+    </message>
+    <message>
+        <source>Δu′v′ after</source>
+        <translation>校正后 Δu′v′</translation>
+    </message>
+    <message>
+        <source>The largest Δu′v′ to the white of a neighbour, not corrected</source>
+        <translation>与相邻箱体白点的最大 Δu′v′（未校正）</translation>
+    </message>
+    <message>
+        <source>neighbours</source>
+        <translation>相邻</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::CabinetTable</name>
+    <message>
+        <source>Cabinets</source>
+        <translation>箱体</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::CloseLook</name>
+    <message>
+        <source>Close look at %1 of all cabinets</source>
+        <translation>所有箱体%1的近看</translation>
+    </message>
+</context>
+<context>
     <name>gamutviewer::ComparePage</name>
     <message>
         <source>Gamuts side by side</source>
@@ -523,6 +606,14 @@
         <source>&amp;Diagram</source>
         <translation>色度图(&amp;D)</translation>
     </message>
+    <message>
+        <source>Shift: slow  Ctrl: to white  Alt: axis  Esc: cancel</source>
+        <translation>Shift：慢速  Ctrl：朝向白点  Alt：沿轴  Esc：取消</translation>
+    </message>
+    <message>
+        <source>Shift: slow  Esc: cancel</source>
+        <translation>Shift：慢速  Esc：取消</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::DocumentView</name>
@@ -530,10 +621,6 @@
         <source>outside of the %1 by Δu′v′ %2</source>
         <comment>gamut and distance</comment>
         <translation>超出%1，Δu′v′ 为 %2</translation>
-    </message>
-    <message>
-        <source>outside by Δu′v′ %1</source>
-        <translation>超出 Δu′v′ %1</translation>
     </message>
 </context>
 <context>
@@ -619,6 +706,61 @@
         <source>%1 was read as follows:</source>
         <comment>file</comment>
         <translation>%1 按如下方式读取：</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::FollowMenu</name>
+    <message>
+        <source>&amp;Measurement in progress</source>
+        <translation>进行中的测量(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Follow…</source>
+        <translation>跟随(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the measurement</source>
+        <translation>保留测量结果(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Stop following</source>
+        <translation>停止跟随(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Follow a measurement</source>
+        <translation>跟随测量</translation>
+    </message>
+    <message>
+        <source>Measurement lists (*.csv *.tsv *.txt)</source>
+        <translation>测量列表 (*.csv *.tsv *.txt)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>keep %1</source>
+        <translation>保留 %1</translation>
+    </message>
+    <message>
+        <source>%1 has ended: %2 lines, %3 not read</source>
+        <translation>%1 已结束：%2 行，其中 %3 行无法读取</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>正在等待 %1</translation>
+    </message>
+    <message>
+        <source>Following %1: %2 lines, %3 not read, %4 a second</source>
+        <translation>正在跟随 %1：%2 行，其中 %3 行无法读取，每秒 %4 行</translation>
+    </message>
+    <message>
+        <source>The last line that was not read: %1</source>
+        <translation>最近一个无法读取的行：%1</translation>
+    </message>
+    <message>
+        <source>Lines wait to be read: %1</source>
+        <translation>有待读取的行：%1</translation>
     </message>
 </context>
 <context>
@@ -1288,10 +1430,6 @@
         <source>Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display is known to reach; from cd/m² to relative, it becomes 1.</source>
         <translation>亮度的单位。从相对值改为 cd/m² 时，白点取已知显示屏所能达到的最大亮度；从 cd/m² 改为相对值时，白点为 1。</translation>
     </message>
-    <message>
-        <source>Unit of the luminances. From relative to cd/m², the white becomes the brightest that the display reaches; from cd/m² to relative, it becomes 1.</source>
-        <translation>亮度的单位。从相对值改为 cd/m² 时，白点取显示屏所能达到的最大亮度；从 cd/m² 改为相对值时，白点为 1。</translation>
-    </message>
 </context>
 <context>
     <name>gamutviewer::TargetSession</name>
@@ -1362,6 +1500,109 @@
     <message>
         <source>remove the wall</source>
         <translation>移除墙</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::TextReport</name>
+    <message>
+        <source>declared</source>
+        <translation>声明</translation>
+    </message>
+    <message>
+        <source>original</source>
+        <translation>原始</translation>
+    </message>
+    <message>
+        <source>measured</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>target</source>
+        <translation>目标</translation>
+    </message>
+    <message>
+        <source>gamut</source>
+        <translation>色域</translation>
+    </message>
+    <message>
+        <source>red x y</source>
+        <translation>红 x y</translation>
+    </message>
+    <message>
+        <source>green x y</source>
+        <translation>绿 x y</translation>
+    </message>
+    <message>
+        <source>blue x y</source>
+        <translation>蓝 x y</translation>
+    </message>
+    <message>
+        <source>white x y</source>
+        <translation>白 x y</translation>
+    </message>
+    <message>
+        <source>luminance of white</source>
+        <translation>白色亮度</translation>
+    </message>
+    <message>
+        <source>difference of whites</source>
+        <translation>白点差异</translation>
+    </message>
+    <message>
+        <source>without corrections</source>
+        <translation>未校正</translation>
+    </message>
+    <message>
+        <source>with corrections</source>
+        <translation>已校正</translation>
+    </message>
+    <message>
+        <source>Δu′v′, any two</source>
+        <translation>Δu′v′，任意两个</translation>
+    </message>
+    <message>
+        <source>Δu′v′, neighbours</source>
+        <translation>Δu′v′，相邻</translation>
+    </message>
+    <message>
+        <source>luminance, any two</source>
+        <translation>亮度，任意两个</translation>
+    </message>
+    <message>
+        <source>luminance, neighbours</source>
+        <translation>亮度，相邻</translation>
+    </message>
+    <message>
+        <source>cabinet</source>
+        <translation>箱体</translation>
+    </message>
+    <message>
+        <source>shows the target</source>
+        <translation>显示目标</translation>
+    </message>
+    <message>
+        <source>limit</source>
+        <translation>限制</translation>
+    </message>
+    <message>
+        <source>largest white, %1</source>
+        <translation>最大白色，%1</translation>
+    </message>
+    <message>
+        <source>headroom</source>
+        <translation>余量</translation>
+    </message>
+    <message>
+        <source>Δu′v′ without correction</source>
+        <translation>未校正 Δu′v′</translation>
+    </message>
+    <message>
+        <source>with correction</source>
+        <translation>已校正</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>已排除</translation>
     </message>
 </context>
 <context>
@@ -1603,50 +1844,6 @@ Shows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.<
         <translation>图片 (*.%1)</translation>
     </message>
     <message>
-        <source>Diagram:
-Wheel, + and − – zoom about the pointer; 0 – all of it
-Drag on free ground, middle button, Alt+arrows – move the view
-R, G, B, W or Tab – select a primary or the white
-Drag or arrow keys – move it; with Shift a tenth as far
-Ctrl – towards the white; the white at its colour temperature
-Alt – along an axis; Ctrl+Alt – without snapping
-Esc – cancel a drag; otherwise select nothing
-
-Key:
-Click or Space – show or hide an entry
-Double click or Return – show it alone
-
-Numbers:
-Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps
-Esc – restore the value of the target
-
-Tables:
-Ctrl+C – copy all of the table
-
-Ctrl+1 to Ctrl+3 – show a page</source>
-        <translation>色度图：
-滚轮、+ 和 − – 以指针为中心缩放；0 – 全部
-在空白处拖动、鼠标中键、Alt+方向键 – 平移
-R、G、B、W 或 Tab – 选择基色或白点
-拖动或方向键 – 移动；按住 Shift 为十分之一
-Ctrl – 朝向白点；白点保持其色温
-Alt – 沿坐标轴；Ctrl+Alt – 不吸附
-Esc – 取消拖动；否则取消选择
-
-图例：
-单击或空格键 – 显示或隐藏条目
-双击或回车键 – 单独显示
-
-数值：
-上、下方向键 – 一步；按住 Shift 为十分之一步，按住 Ctrl 为十步
-Esc – 恢复目标的数值
-
-表格：
-Ctrl+C – 复制整个表格
-
-Ctrl+1 到 Ctrl+3 – 显示页面</translation>
-    </message>
-    <message>
         <source>Exported to %1, without a key for lack of room</source>
         <translation>已导出到 %1，因空间不足没有图例</translation>
     </message>
@@ -1802,263 +1999,6 @@ Ctrl+1 到 Ctrl+4 – 显示页面</translation>
     <message>
         <source>Wall</source>
         <translation>墙</translation>
-    </message>
-</context>
-<context>
-    <name>gamutviewer::WarningBar</name>
-    <message>
-        <source>Dismiss the warnings</source>
-        <translation>关闭警告</translation>
-    </message>
-    <message>
-        <source>Warnings</source>
-        <translation>警告</translation>
-    </message>
-    <message>
-        <source>Warnings about what was opened: %1</source>
-        <comment>with their number</comment>
-        <translation>所打开文件的警告：%1</translation>
-    </message>
-</context>
-<context>
-    <name>gamutviewer::FollowMenu</name>
-    <message>
-        <source>&amp;Measurement in progress</source>
-        <translation>进行中的测量(&amp;M)</translation>
-    </message>
-    <message>
-        <source>&amp;Follow…</source>
-        <translation>跟随(&amp;F)…</translation>
-    </message>
-    <message>
-        <source>&amp;Keep the measurement</source>
-        <translation>保留测量结果(&amp;K)</translation>
-    </message>
-    <message>
-        <source>&amp;Stop following</source>
-        <translation>停止跟随(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Follow a measurement</source>
-        <translation>跟随测量</translation>
-    </message>
-    <message>
-        <source>Measurement lists (*.csv *.tsv *.txt)</source>
-        <translation>测量列表 (*.csv *.tsv *.txt)</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>keep %1</source>
-        <translation>保留 %1</translation>
-    </message>
-    <message>
-        <source>%1 has ended: %2 lines, %3 not read</source>
-        <translation>%1 已结束：%2 行，其中 %3 行无法读取</translation>
-    </message>
-    <message>
-        <source>Waiting for %1</source>
-        <translation>正在等待 %1</translation>
-    </message>
-    <message>
-        <source>Following %1: %2 lines, %3 not read, %4 a second</source>
-        <translation>正在跟随 %1：%2 行，其中 %3 行无法读取，每秒 %4 行</translation>
-    </message>
-    <message>
-        <source>The last line that was not read: %1</source>
-        <translation>最近一个无法读取的行：%1</translation>
-    </message>
-    <message>
-        <source>Lines wait to be read: %1</source>
-        <translation>有待读取的行：%1</translation>
-    </message>
-</context>
-<context>
-    <name>gamutviewer::CabinetModel</name>
-    <message>
-        <source>%1 (left out)</source>
-        <comment>a cabinet</comment>
-        <translation>%1（已排除）</translation>
-    </message>
-    <message>
-        <source>Of its neighbours, %1 differs most.</source>
-        <translation>相邻箱体中与 %1 相差最大。</translation>
-    </message>
-    <message>
-        <source>The cabinet, and whether it shows the target</source>
-        <translation>箱体，以及它能否显示目标</translation>
-    </message>
-    <message>
-        <source>cabinet</source>
-        <translation>箱体</translation>
-    </message>
-    <message>
-        <source>The colour of the target that lies outside by the most, or else the primary at full drive</source>
-        <translation>目标中超出最多的颜色；若无，则为满驱动的基色</translation>
-    </message>
-    <message>
-        <source>limited by</source>
-        <translation>受限于</translation>
-    </message>
-    <message>
-        <source>Largest luminance in the white of the target</source>
-        <translation>目标白点下的最大亮度</translation>
-    </message>
-    <message>
-        <source>white %1</source>
-        <comment>with the unit of the luminance</comment>
-        <translation>白色 %1</translation>
-    </message>
-    <message>
-        <source>Room above the luminance of the target&apos;s white</source>
-        <translation>高于目标白色亮度的余量</translation>
-    </message>
-    <message>
-        <source>headroom</source>
-        <translation>余量</translation>
-    </message>
-    <message>
-        <source>Between the cabinet&apos;s white, not corrected, and the target&apos;s</source>
-        <translation>箱体未校正的白点与目标白点之间</translation>
-    </message>
-    <message>
-        <source>Δu′v′ before</source>
-        <translation>校正前 Δu′v′</translation>
-    </message>
-    <message>
-        <source>Between the cabinet&apos;s white, corrected, and the target&apos;s</source>
-        <translation>箱体校正后的白点与目标白点之间</translation>
-    </message>
-    <message>
-        <source>Δu′v′ after</source>
-        <translation>校正后 Δu′v′</translation>
-    </message>
-    <message>
-        <source>The largest Δu′v′ to the white of a neighbour, not corrected</source>
-        <translation>与相邻箱体白点的最大 Δu′v′（未校正）</translation>
-    </message>
-    <message>
-        <source>neighbours</source>
-        <translation>相邻</translation>
-    </message>
-</context>
-<context>
-    <name>gamutviewer::CabinetTable</name>
-    <message>
-        <source>Cabinets</source>
-        <translation>箱体</translation>
-    </message>
-</context>
-<context>
-    <name>gamutviewer::CloseLook</name>
-    <message>
-        <source>Close look at %1 of all cabinets</source>
-        <translation>所有箱体%1的近看</translation>
-    </message>
-</context>
-<context>
-    <name>gamutviewer::TextReport</name>
-    <message>
-        <source>declared</source>
-        <translation>声明</translation>
-    </message>
-    <message>
-        <source>original</source>
-        <translation>原始</translation>
-    </message>
-    <message>
-        <source>measured</source>
-        <translation>测量</translation>
-    </message>
-    <message>
-        <source>target</source>
-        <translation>目标</translation>
-    </message>
-    <message>
-        <source>gamut</source>
-        <translation>色域</translation>
-    </message>
-    <message>
-        <source>red x y</source>
-        <translation>红 x y</translation>
-    </message>
-    <message>
-        <source>green x y</source>
-        <translation>绿 x y</translation>
-    </message>
-    <message>
-        <source>blue x y</source>
-        <translation>蓝 x y</translation>
-    </message>
-    <message>
-        <source>white x y</source>
-        <translation>白 x y</translation>
-    </message>
-    <message>
-        <source>luminance of white</source>
-        <translation>白色亮度</translation>
-    </message>
-    <message>
-        <source>difference of whites</source>
-        <translation>白点差异</translation>
-    </message>
-    <message>
-        <source>without corrections</source>
-        <translation>未校正</translation>
-    </message>
-    <message>
-        <source>with corrections</source>
-        <translation>已校正</translation>
-    </message>
-    <message>
-        <source>Δu′v′, any two</source>
-        <translation>Δu′v′，任意两个</translation>
-    </message>
-    <message>
-        <source>Δu′v′, neighbours</source>
-        <translation>Δu′v′，相邻</translation>
-    </message>
-    <message>
-        <source>luminance, any two</source>
-        <translation>亮度，任意两个</translation>
-    </message>
-    <message>
-        <source>luminance, neighbours</source>
-        <translation>亮度，相邻</translation>
-    </message>
-    <message>
-        <source>cabinet</source>
-        <translation>箱体</translation>
-    </message>
-    <message>
-        <source>shows the target</source>
-        <translation>显示目标</translation>
-    </message>
-    <message>
-        <source>limit</source>
-        <translation>限制</translation>
-    </message>
-    <message>
-        <source>largest white, %1</source>
-        <translation>最大白色，%1</translation>
-    </message>
-    <message>
-        <source>headroom</source>
-        <translation>余量</translation>
-    </message>
-    <message>
-        <source>Δu′v′ without correction</source>
-        <translation>未校正 Δu′v′</translation>
-    </message>
-    <message>
-        <source>with correction</source>
-        <translation>已校正</translation>
-    </message>
-    <message>
-        <source>left out</source>
-        <translation>已排除</translation>
     </message>
 </context>
 <context>
@@ -2550,6 +2490,10 @@ Open a list of measurements with a column for the cabinet, or for its row and co
         <comment>rows, columns</comment>
         <translation>墙 %1 × %2</translation>
     </message>
+    <message>
+        <source>Arrows: next cabinet   Esc: none</source>
+        <translation>方向键：下一个箱体   Esc：不选</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallScale</name>
@@ -2658,6 +2602,22 @@ Open a list of measurements with a column for the cabinet, or for its row and co
     <message>
         <source>Without the cabinet</source>
         <translation>排除该箱体</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::WarningBar</name>
+    <message>
+        <source>Dismiss the warnings</source>
+        <translation>关闭警告</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Warnings about what was opened: %1</source>
+        <comment>with their number</comment>
+        <translation>所打开文件的警告：%1</translation>
     </message>
 </context>
 </TS>

@@ -415,10 +415,6 @@
         <translation>两个数据块声明的全白屏亮度不同：%1和%2；保留第一个数据块的亮度</translation>
     </message>
     <message>
-        <source>the base block states another gamut than the DisplayID extension: %1 at %2, %3 instead of %4, %5; that of the base block is used</source>
-        <translation>基本块声明的色域与 DisplayID 扩展不同：%1位于 %2, %3，而不是 %4, %5；采用基本块的色域</translation>
-    </message>
-    <message>
         <source>there is more that is wrong</source>
         <translation>还有其他错误</translation>
     </message>
