@@ -176,8 +176,8 @@ QStringList WallPage::hints() const
     if (document()->description().wall.cabinets.empty()) {
         return {};
     }
-    return {tr("Arrows: next cabinet   Esc: none   Ctrl+C in the table: copy it"),
-        tr("Arrows: next cabinet   Esc: none")};
+    return {
+        tr("Arrows: next cabinet   Esc: none   Ctrl+C in the table: copy it"), tr("Arrows: next cabinet   Esc: none")};
 }
 
 WallQuantity WallPage::quantity() const
