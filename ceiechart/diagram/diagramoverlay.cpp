@@ -153,8 +153,8 @@ void DiagramOverlay::paint(
                 pen.setStyle(isCasing ? Qt::SolidLine : Qt::DashLine);
                 painter.setPen(pen);
                 if (guide.size() == 1) {
-                    painter.drawRect(QRectF(guide.first().x() - crossReach, guide.first().y() - crossReach,
-                        2.0 * crossReach, 2.0 * crossReach));
+                    painter.drawRect(QRectF(guide.first().x() - guideReach, guide.first().y() - guideReach,
+                        2.0 * guideReach, 2.0 * guideReach));
                 } else {
                     painter.drawPolyline(guide);
                 }

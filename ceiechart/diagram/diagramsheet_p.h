@@ -16,6 +16,7 @@ constexpr double lineCasing = 2.5; // of a line, on both sides together
 constexpr double handleRing = 13.0; // radius of the ring round a handle that is selected
 constexpr double handleLine = 2.5; // width of the lines of handles and their rings
 constexpr double handleExtent = handleRing + handleLine; // from the middle of a handle to the edge of all it covers
+constexpr double guideReach = handleExtent + 4.0; // from a place that was snapped to, below the handle, to its frame
 
 // Among more of them, names say nothing
 constexpr int mostNamedMarks = 500; // in the plot

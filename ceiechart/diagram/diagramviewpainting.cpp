@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The pictures that are kept, and what of the view is painted again.
+#include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
 #include <ceiechart/diagram/finite_p.h>
 
@@ -127,7 +128,7 @@ QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
     }
     for (const QPolygonF &guide : some.guides) {
         if (guide.size() == 1) {
-            region += around(guide.boundingRect(), markRoom);
+            region += around(guide.boundingRect(), guideReach + lineRoom);
         }
         for (int i = 1; i < guide.size(); ++i) {
             const QLineF line(guide[i - 1], guide[i]);

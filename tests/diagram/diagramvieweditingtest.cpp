@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "diagramviewfixture.h"
 
+#include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/whitepoint.h>
 #include <gamutmodel/gamutcoverage.h>
 
@@ -400,6 +401,18 @@ void DiagramViewEditingTest::snapsWithAGuide()
     QCOMPARE(view.xy(GamutVertex::Green), QPointF(0.189, 0.718));
     QCOMPARE(view.d->overlay.guides.size(), 1);
     QVERIFY(view.d->overlay.label.join(QString()).contains(QStringLiteral("original")));
+    // It stands round the handle that covers the corner.
+    const QColor accent = diagramPalette(DiagramView::Private::groundOf(view.palette())).accent;
+    const QImage picture = view.grab().toImage();
+    const double ratio = picture.devicePixelRatio();
+    int inAccent = 0;
+    for (const double along : {-8.0, -6.0, -4.0, -2.0, 0.0, 2.0, 4.0, 6.0, 8.0}) {
+        for (double away = handleExtent + 2.0; away < handleExtent + 6.0; away += 0.5) {
+            const QPointF at = (corner + QPointF(along, -away)) * ratio;
+            inAccent += picture.pixelColor(at.toPoint()) == accent ? 1 : 0;
+        }
+    }
+    QVERIFY(inAccent > 0);
     // An edge of the original, too.
     const QPointF edge = view.at((xyOf(wall().getTargets().green) + xyOf(wall().getTargets().red)) / 2.0);
     view.drag(edge + QPointF(3, 3));
