@@ -49,7 +49,7 @@ WallCabinet DescriptionReader::readCabinet(const Node &node)
                 {QStringLiteral("leftOut"), false}})) {
         return cabinet;
     }
-    const auto optional = [this, &node](const QString &key, auto read) {
+    const auto optional = [&node](const QString &key, auto read) {
         const Node found = member(node, key);
         return found.value.isUndefined() ? std::nullopt : std::make_optional(read(found));
     };

@@ -309,8 +309,8 @@ void DocumentTest::brightestWhiteIsKnownToBeReached()
     QFETCH(LuminanceUnit, measuredUnit);
     QFETCH(double, expected);
     // The white of Rec.2020 is the sum of its primaries.
-    const auto gamut = [](const char *name, double primaries, double white, LuminanceUnit unit) {
-        const Model::Targets &t = Model::rec2020().getTargets();
+    const Model::Targets t = Model::rec2020().getTargets();
+    const auto gamut = [&t](const char *name, double primaries, double white, LuminanceUnit unit) {
         const auto at
             = [](const Model::Target &c, double factor) { return Model::Target::fromYxy(c.Y * factor, c.x, c.y); };
         return DisplayGamut(

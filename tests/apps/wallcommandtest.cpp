@@ -4,6 +4,8 @@
 #include "display/textreport.h"
 #include "program/commandline.h"
 
+#include "programrunner.h"
+
 #include <gamutfiles/correctionsfile.h>
 #include <gamutfiles/cubepair.h>
 #include <gamutfiles/descriptionfile.h>
@@ -17,8 +19,8 @@
 
 using namespace gamutviewer;
 
-/*! What the command line does with walls; the program is run as a script would. */
-class WallCommandTest : public QObject {
+/*! What the command line does with walls. */
+class WallCommandTest : public QObject, private ProgramRunner {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -45,18 +47,7 @@ private Q_SLOTS:
     void documentedCommandsWork();
 
 private:
-    struct Result {
-        int exitCode = -1;
-        QByteArray output;
-        QByteArray error;
-    };
-
-    Result run(const QStringList &arguments);
-    QString path(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
-    QString write(const char *name, const QByteArray &bytes);
     QByteArray read(const char *name) const;
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 namespace {
@@ -87,26 +78,6 @@ QByteArray targetText(double luminance, double redX = 0.64)
 
 } // namespace
 
-WallCommandTest::Result WallCommandTest::run(const QStringList &arguments)
-{
-    QProcess process;
-    process.setWorkingDirectory(m_folder->path());
-    process.start(QStringLiteral(GAMUTVIEWER_PROGRAM), arguments);
-    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit) {
-        return {};
-    }
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
-QString WallCommandTest::write(const char *name, const QByteArray &bytes)
-{
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-        qFatal("cannot write %s", name);
-    }
-    return file.fileName();
-}
-
 QByteArray WallCommandTest::read(const char *name) const
 {
     QFile file(path(name));
@@ -115,8 +86,7 @@ QByteArray WallCommandTest::read(const char *name) const
 
 void WallCommandTest::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
+    renewFolder();
     write("wall.csv", wallList);
     write("stage.json", targetText(500.0));
 }
@@ -482,7 +452,7 @@ void WallCommandTest::refused()
     QCOMPARE(result.exitCode, 2);
     const QByteArray last = result.error.trimmed().split('\n').last();
     QVERIFY2(last.startsWith("gamutviewer: " + error), result.error);
-    QVERIFY(QDir(m_folder->path()).entryList({"c*"}).isEmpty());
+    QVERIFY(QDir(folder()).entryList({"c*"}).isEmpty());
 }
 
 void WallCommandTest::cannotWrite()
