@@ -174,7 +174,7 @@ bool MeasurementReader::findColumns()
         useUnit({}, 0);
         return true;
     }
-    if (mostNames < 2) {
+    if (mostNames == 0) {
         return fail(tr("missing column %1").arg(columnPartName(ColumnPart::Name)), place(first.line));
     }
     return fail(tr("missing column %1").arg(columnPartName(missingPart(likeliest))), place(likeliestLine));
