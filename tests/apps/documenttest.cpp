@@ -289,15 +289,31 @@ void DocumentTest::brightestWhiteIsKnownToBeReached_data()
     QTest::addColumn<double>("measuredWhite");
     QTest::addColumn<LuminanceUnit>("measuredUnit");
     QTest::addColumn<double>("expected"); // 0: not known
+    QTest::addColumn<QString>("target");
     constexpr auto absolute = LuminanceUnit::CandelaPerSquareMetre;
     constexpr auto relative = LuminanceUnit::Relative;
-    QTest::newRow("original alone") << 1000.0 << 1000.0 << 0.0 << 0.0 << absolute << 1000.0;
-    QTest::newRow("measured dimmer") << 1000.0 << 1000.0 << 600.0 << 600.0 << absolute << 600.0;
-    QTest::newRow("measured brighter") << 1000.0 << 1000.0 << 1200.0 << 1200.0 << absolute << 1000.0;
-    QTest::newRow("measured without a scale") << 1000.0 << 1000.0 << 1.0 << 1.0 << relative << 1000.0;
-    QTest::newRow("measured not additive") << 1000.0 << 1000.0 << 1000.0 << 400.0 << absolute << 0.0;
-    QTest::newRow("original not additive") << 1000.0 << 400.0 << 0.0 << 0.0 << absolute << 0.0;
-    QTest::newRow("original not additive, measured") << 1000.0 << 400.0 << 600.0 << 600.0 << absolute << 0.0;
+    QTest::newRow("original alone") << 1000.0 << 1000.0 << 0.0 << 0.0 << absolute << 1000.0
+                                    << QStringLiteral("Rec.709");
+    QTest::newRow("measured dimmer") << 1000.0 << 1000.0 << 600.0 << 600.0 << absolute << 600.0
+                                     << QStringLiteral("Rec.709");
+    QTest::newRow("measured brighter") << 1000.0 << 1000.0 << 1200.0 << 1200.0 << absolute << 1000.0
+                                       << QStringLiteral("Rec.709");
+    QTest::newRow("measured without a scale")
+        << 1000.0 << 1000.0 << 1.0 << 1.0 << relative << 1000.0 << QStringLiteral("Rec.709");
+    // At another white than the one that was measured:
+    QTest::newRow("measured not additive")
+        << 1000.0 << 1000.0 << 1000.0 << 400.0 << absolute << 0.0 << QStringLiteral("NTSC 1953");
+    QTest::newRow("original not additive")
+        << 1000.0 << 400.0 << 0.0 << 0.0 << absolute << 0.0 << QStringLiteral("NTSC 1953");
+    QTest::newRow("original not additive, measured")
+        << 1000.0 << 400.0 << 600.0 << 600.0 << absolute << 0.0 << QStringLiteral("NTSC 1953");
+    // At that white:
+    QTest::newRow("measured limited") << 1000.0 << 1000.0 << 1000.0 << 400.0 << absolute << 400.0
+                                      << QStringLiteral("Rec.709");
+    QTest::newRow("original limited") << 1000.0 << 400.0 << 0.0 << 0.0 << absolute << 400.0
+                                      << QStringLiteral("Rec.709");
+    QTest::newRow("original limited, measured")
+        << 1000.0 << 400.0 << 600.0 << 600.0 << absolute << 400.0 << QStringLiteral("Rec.709");
 }
 
 void DocumentTest::brightestWhiteIsKnownToBeReached()
@@ -308,6 +324,7 @@ void DocumentTest::brightestWhiteIsKnownToBeReached()
     QFETCH(double, measuredWhite);
     QFETCH(LuminanceUnit, measuredUnit);
     QFETCH(double, expected);
+    QFETCH(QString, target);
     // The white of Rec.2020 is the sum of its primaries.
     const Model::Targets t = Model::rec2020().getTargets();
     const auto gamut = [&t](const char *name, double primaries, double white, LuminanceUnit unit) {
@@ -325,7 +342,7 @@ void DocumentTest::brightestWhiteIsKnownToBeReached()
         d.gamuts.push_back(gamut("Meter", measuredPrimaries, measuredWhite, measuredUnit));
         d.measured = QStringLiteral("Meter");
     }
-    d.target = QStringLiteral("Rec.709");
+    d.target = target;
     Document document;
     document.open(d, QString());
     TargetSession session(&document);

@@ -330,7 +330,7 @@ void ReportTest::driveThatIsNotKnown()
     };
     QVERIFY(isUnknown(withWhite(2, Model::Target::fromYxy(500, 0.05, 0.4))));
     QVERIFY(isUnknown(withWhite(2, Model::Target::fromYxy(0, 0.3127, 0.3290))));
-    const DisplayDescription limited = withWhite(1, Model::Target::fromYxy(400, 0.3127, 0.3290));
+    const DisplayDescription limited = withWhite(1, Model::Target::fromYxy(400, 0.3130, 0.3300));
     QVERIFY(isUnknown(limited));
     QVERIFY(at(report(limited), "drive.largestWhite").isNull());
     QVERIFY(at(report(limited), "validity.valid").isNull());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/additivity.h"
 
+#include "display/assessment.h"
 #include "display/assessmentparts.h"
 #include "display/chromaticity.h"
 #include "display/knowndisplay.h"
@@ -29,6 +30,26 @@ Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Target &m
     return result;
 }
 
+bool isMeasuredWhite(const Model::Target &measured, const Model::Target &white)
+{
+    constexpr double writtenUv = 0.0002; // of 0.00005 in x and in y
+    const auto difference = Model::uvDifference(measured, white);
+    return difference && *difference <= writtenUv;
+}
+
+double measuredShare(const Model::DisplayDrive &drive, const Model::Target &measured, const Model::Target &white)
+{
+    const auto sum = drive.largestLuminance(pointOf(measured));
+    if (!sum || !(sum->luminance > 0.0) || !(measured.Y > 0.0)) {
+        return 1.0;
+    }
+    const double share = measured.Y / sum->luminance;
+    if (std::fabs(share - 1.0) <= fullDrive - 1.0) {
+        return 1.0;
+    }
+    return isMeasuredWhite(measured, white) ? share : std::min(share, 1.0);
+}
+
 std::optional<double> reachableLuminance(const DisplayDescription &description, const Model::Target &white)
 {
     std::optional<double> least;
@@ -37,6 +58,10 @@ std::optional<double> reachableLuminance(const DisplayDescription &description, 
             continue;
         }
         const Model::Targets &targets = display.gamut.getTargets();
+        if (targets.white.Y > 0.0 && isMeasuredWhite(targets.white, white)) {
+            least = std::min(least.value_or(targets.white.Y), targets.white.Y);
+            continue;
+        }
         const Model::DisplayDrive drive(targets);
         const bool isAdditive
             = drive.fault() == Model::DisplayFault::None && additivityOf(drive, targets.white).isAdditive;
@@ -44,7 +69,8 @@ std::optional<double> reachableLuminance(const DisplayDescription &description, 
         if (!largest) {
             return std::nullopt;
         }
-        least = std::min(least.value_or(largest->luminance), largest->luminance);
+        const double reached = largest->luminance * measuredShare(drive, targets.white, white);
+        least = std::min(least.value_or(reached), reached);
     }
     return least;
 }

@@ -31,10 +31,22 @@ struct Additivity {
 Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Target &measured);
 
 /*!
+ * \brief What is to be multiplied with the luminance at \a white that the primaries of \a drive add to, so that at the
+ * white that was \a measured it is the measured one.
+ *
+ * Elsewhere it is at most 1, so that no more light is claimed than the primaries have. Differences within fullDrive do
+ * not count. 1 where the measured white is not known.
+ */
+double measuredShare(const Model::DisplayDrive &drive, const Model::Target &measured, const Model::Target &white);
+/*! \brief Whether \a white is the \a measured one in the four decimals in which people write chromaticities. */
+bool isMeasuredWhite(const Model::Target &measured, const Model::Target &white);
+
+/*!
  * \brief The largest luminance, in cd/m², of a white with the chromaticity of \a white that the display is known to
  * reach: the least of the gamuts of knownDisplays() whose luminances are in cd/m².
  *
- * Nothing without such a gamut, and where one of them is not additive or cannot show the chromaticity.
+ * At the measured white of a gamut that is the measured luminance. Nothing without such a gamut, and elsewhere where
+ * one of them is not additive or cannot show the chromaticity.
  */
 std::optional<double> reachableLuminance(const DisplayDescription &description, const Model::Target &white);
 

@@ -178,7 +178,11 @@ private:
         }
         const Model::Target &white = m_target->getTargets().white;
         const Additivity additivity = additivityOf(displayDrive, displayTargets().white);
-        const auto largest = displayDrive.largestLuminance(pointOf(white));
+        auto largest = displayDrive.largestLuminance(pointOf(white));
+        const double share = measuredShare(displayDrive, displayTargets().white, white);
+        if (additivity.isAdditive && largest) {
+            largest->luminance *= share;
+        }
         m_current->luminancesCompare = luminancesCompare(m_target->unit, display.gamut.unit);
         if (additivity.isAdditive) {
             m_current->largestWhite = largest;
@@ -193,7 +197,7 @@ private:
             addOfWhite(Judgement::NotKnown, text);
             return;
         }
-        const auto drive = displayDrive.driveFor(m_target->getTargets());
+        auto drive = displayDrive.driveFor(m_target->getTargets());
         if (!drive || !(white.Y > 0.0)) {
             addOfWhite(Judgement::NotKnown,
                 AssessmentText::tr("The luminance of the target is not known: its white has none. Enter it beside Y."));
@@ -207,6 +211,9 @@ private:
         if (!additivity.isAdditive) {
             judgeWithoutAdditivity(additivity, *drive, largest->luminance);
             return;
+        }
+        for (double *of : {&drive->white.red, &drive->white.green, &drive->white.blue}) {
+            *of /= share;
         }
         m_current->drive = drive;
         judgeWhiteLuminance(drive->white, largest->luminance);
@@ -224,6 +231,12 @@ private:
         const QString name = displayName(m_current->display);
         const LuminanceUnit unit = m_target->unit;
         const Model::Target &white = m_target->getTargets().white;
+        const double measured = displayTargets().white.Y;
+        if (measured > 0.0 && isMeasuredWhite(displayTargets().white, white)) {
+            judgeAtMeasuredWhite(measured);
+            judgePrimaryLuminances(drive);
+            return;
+        }
         if (additivity.isUpperBound && highest(drive.white) > fullDrive) {
             addOfWhite(Judgement::Fail,
                 AssessmentText::tr("The target is too bright: the %1 reaches at most %2 at this white, if its "
@@ -242,6 +255,24 @@ private:
         if (additivity.isUpperBound) {
             judgePrimaryLuminances(drive);
         }
+    }
+
+    //! Whether its primaries add up or not: this is what a meter read.
+    void judgeAtMeasuredWhite(double reached)
+    {
+        const QString name = displayName(m_current->display);
+        const LuminanceUnit unit = m_target->unit;
+        const double luminance = m_target->getTargets().white.Y;
+        if (luminance <= reached * fullDrive) {
+            addOfWhite(Judgement::Pass,
+                AssessmentText::tr("The white of the %1 is the one of the target, and reaches %2 (headroom %3).")
+                    .arg(name, reachableText(reached, unit), fixedText(reached / luminance, 2)));
+            return;
+        }
+        addOfWhite(Judgement::Fail,
+            AssessmentText::tr("The target is too bright: the %1 reaches %2 at this white, and the target has %3. "
+                               "Lower the luminance of the white to %2.")
+                .arg(name, reachableText(reached, unit), luminanceText(luminance, unit)));
     }
 
     void addFault(const Model::DisplayDrive &drive)

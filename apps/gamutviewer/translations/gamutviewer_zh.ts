@@ -377,6 +377,14 @@
         <source>less than %1</source>
         <translation>低于 %1</translation>
     </message>
+    <message>
+        <source>The white of the %1 is the one of the target, and reaches %2 (headroom %3).</source>
+        <translation>%1的白点就是目标的白点，可达到 %2（余量 %3）。</translation>
+    </message>
+    <message>
+        <source>The target is too bright: the %1 reaches %2 at this white, and the target has %3. Lower the luminance of the white to %2.</source>
+        <translation>目标过亮：%1在此白点下可达到 %2，而目标为 %3。请将白点的亮度降低到 %2。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::CabinetModel</name>
