@@ -60,7 +60,7 @@ public:
 
 private:
     Q_DISABLE_COPY(LatestMeasurements)
-    class Private;
+    class GAMUTFILES_NO_EXPORT Private;
     std::unique_ptr<Private> d;
 };
 

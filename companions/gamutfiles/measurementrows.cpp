@@ -110,8 +110,8 @@ bool MeasurementReader::readRows()
 }
 
 /*
- * What a column can have below 0 by the noise of an instrument is judged by its largest number: of the whole list, or as
- * far as it has been written.
+ * What a column can have below 0 by the noise of an instrument is judged by its largest number: of the whole list, or
+ * as far as it has been written.
  */
 void MeasurementReader::findNoise(const CsvRow &row)
 {

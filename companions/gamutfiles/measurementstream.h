@@ -74,7 +74,7 @@ public:
 
 private:
     Q_DISABLE_COPY(MeasurementStream)
-    class Private;
+    class GAMUTFILES_NO_EXPORT Private;
     std::unique_ptr<Private> d;
 };
 

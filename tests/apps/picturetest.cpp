@@ -150,7 +150,7 @@ void PictureTest::smallPicturesHaveNoTexts()
     QVERIFY(textsOf(exported(picture, PictureFormat::Svg, {QSize(199, 400), 1.0})).isEmpty());
     QVERIFY(!textsOf(exported(picture, PictureFormat::Svg, {QSize(200, 400), 1.0})).isEmpty());
     // Names and temperatures need more room than numbers.
-    const auto hasName = [this, &picture](const QSize &size) {
+    const auto hasName = [&picture](const QSize &size) {
         return textsOf(exported(picture, PictureFormat::Svg, {size, 1.0})).contains(QStringLiteral("LED wall"));
     };
     QVERIFY(!hasName(QSize(349, 600)));
