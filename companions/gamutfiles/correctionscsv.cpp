@@ -19,6 +19,8 @@ struct CorrectionsText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::Corrections)
 };
 
+using Point = Model::DiagramPoint; // in the class below, lupdate of Qt 6 would take Model:: for the context of texts
+
 //! The first lines, word for word: a file that says anything else is not to be loaded as if it did not.
 QStringList conventionLines()
 {
@@ -135,7 +137,7 @@ private:
         return result;
     }
 
-    Model::DiagramPoint point(const char *name)
+    Point point(const char *name)
     {
         const QStringList parts = value(name).split(QLatin1Char(' '));
         if (parts.size() != 2) {
