@@ -18,6 +18,7 @@
 #include <gamutfiles/filebytes.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QScreen>
 
@@ -66,6 +67,17 @@ ExitStatus writeCorrections(const DisplayDescription &description, const Command
     if (!made) {
         printError(QStringLiteral("%1: %2").arg(fileName, made.error()));
         return WrongInput;
+    }
+    // Measurement lists and corrections have the same suffix: a slip must not cost the measurements.
+    const QStringList read = commandLine.files() + QStringList{commandLine.wallFile(), commandLine.tolerancesFile()};
+    for (const CorrectionsOutput &file : made->files) {
+        for (const QString &input : read) {
+            if (!input.isEmpty() && QFileInfo(input) == QFileInfo(file.fileName)) {
+                printError(QApplication::translate("main", "%1: is read, and would be replaced by the corrections")
+                               .arg(file.fileName));
+                return WrongInput;
+            }
+        }
     }
     for (const CorrectionsOutput &file : made->files) {
         const QString error = gamutfiles::writeBytes(file.bytes, file.fileName);

@@ -426,6 +426,8 @@ void WallCommandTest::refused_data()
     row("--wall one.csv --check",
         "one.csv: names no cabinets: a wall needs a column with the cabinet, or one with the row and one with the "
         "column");
+    row("stage.json --wall wall.csv --corrections ./wall.csv",
+        "./wall.csv: is read, and would be replaced by the corrections");
     row("--wall wall.csv --corrections c.csv",
         "c.csv: there is no target, which corrections are for: choose one by --target");
     row("stage.json --corrections c.csv",
