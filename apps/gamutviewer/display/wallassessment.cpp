@@ -149,6 +149,16 @@ void judgeLuminance(CabinetAssessment &result, const WallCabinet &cabinet, const
     }
 }
 
+//! Whether a cabinet is off the target by more than anyone sees in spite of its correction.
+bool leavesColor(const Model::DeviationValues &remaining)
+{
+    constexpr double visibleUv = 0.0005;
+    const std::optional<double> differences[]
+        = {remaining.whiteUv, remaining.redUv, remaining.greenUv, remaining.blueUv};
+    return std::any_of(std::begin(differences), std::end(differences),
+        [](const std::optional<double> &uv) { return uv && *uv > visibleUv; });
+}
+
 //! Makes a WallAssessment step by step.
 class WallAssessor {
 public:
@@ -236,6 +246,10 @@ private:
             result.judgement = result.gamut == Judgement::Fail ? Judgement::Fail
                 : result.gamut == Judgement::NotKnown          ? worse(result.luminance, Judgement::NotKnown)
                                                                : result.luminance;
+            // The primaries alone say nothing of the black, which takes colour away where the target is dark.
+            if (cabinet.black && result.judgement == Judgement::Pass && leavesColor(correction.remaining)) {
+                result.judgement = Judgement::NotKnown;
+            }
         }
     }
 
