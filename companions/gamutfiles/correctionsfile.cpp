@@ -158,6 +158,16 @@ Outcome<WallCorrections> wallCorrections(
     if (!hasMatrix) {
         return Failure::failure(CorrectionsText::tr("no cabinet has a matrix"));
     }
+    for (const IncompleteCabinet &of : wall.incomplete) {
+        CabinetCorrection cabinet;
+        cabinet.name = of.name;
+        if (of.position) {
+            cabinet.row = of.position->row;
+            cabinet.column = of.position->column;
+        }
+        cabinet.fault = of.reason;
+        result.cabinets.push_back(cabinet);
+    }
     return result;
 }
 

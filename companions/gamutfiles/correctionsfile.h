@@ -74,6 +74,8 @@ struct WallCorrections {
 /*!
  * \brief What is to be stored of \a solved, which was computed for wall.modelCabinets() and the target \a targetName.
  *
+ * Those of wall.incomplete come last, without a matrix and with their reason as fault.
+ *
  * A failure if there are no matrices at all: the fault of the target, or no cabinet that has one.
  */
 GAMUTFILES_EXPORT Outcome<WallCorrections> wallCorrections(

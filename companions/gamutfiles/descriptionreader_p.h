@@ -42,6 +42,8 @@ private:
 
     DisplayWall readWall(const Node &node);
     WallCabinet readCabinet(const Node &node);
+    IncompleteCabinet readIncomplete(const Node &node);
+    std::optional<Model::GridPosition> readPosition(const Node &node);
     Model::Target readMeasured(const Node &node);
     Model::Target readBlack(const Node &node);
 

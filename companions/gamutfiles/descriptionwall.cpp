@@ -5,18 +5,26 @@
 
 namespace gamutfiles {
 
+namespace {
+
+std::optional<Model::GridPosition> positionOf(const std::optional<int> &row, const std::optional<int> &column)
+{
+    return row && column ? std::make_optional(Model::GridPosition{*row, *column}) : std::nullopt;
+}
+
+} // namespace
+
 DisplayWall DescriptionReader::readWall(const Node &node)
 {
     DisplayWall wall;
-    if (!checkObject(node, {{luminanceUnitKey(), false}, {QStringLiteral("cabinets"), true}})) {
+    if (!checkObject(node,
+            {{luminanceUnitKey(), false}, {QStringLiteral("cabinets"), true}, {QStringLiteral("incomplete"), false}})) {
         return wall;
     }
     wall.unit = readUnit(member(node, luminanceUnitKey()));
     QSet<QString> labels;
     QSet<std::pair<int, int>> places;
-    for (const Node &element : elements(member(node, QStringLiteral("cabinets")))) {
-        WallCabinet cabinet = readCabinet(element);
-        const QString label = cabinet.label();
+    const auto check = [&](const Node &element, const QString &label, const std::optional<Model::GridPosition> &at) {
         if (label.trimmed().isEmpty()) {
             fail(element, tr("a cabinet needs a name, or row and column"));
         }
@@ -24,19 +32,69 @@ DisplayWall DescriptionReader::readWall(const Node &node)
             fail(element, tr("there is already a cabinet %1").arg(quoted(label)));
         }
         labels.insert(label);
-        if (cabinet.row && cabinet.column) {
-            const std::pair<int, int> place(*cabinet.row, *cabinet.column);
+        if (at) {
+            const std::pair<int, int> place(at->row, at->column);
             if (places.contains(place)) {
                 fail(element, tr("there is already a cabinet in row %1, column %2").arg(place.first).arg(place.second));
             }
             places.insert(place);
         }
+    };
+    for (const Node &element : elements(member(node, QStringLiteral("cabinets")))) {
+        WallCabinet cabinet = readCabinet(element);
+        check(element, cabinet.label(), positionOf(cabinet.row, cabinet.column));
         if (failed()) {
             return {};
         }
         wall.cabinets.push_back(std::move(cabinet));
     }
+    const Node incomplete = member(node, QStringLiteral("incomplete"));
+    for (const Node &element : elements(incomplete)) {
+        IncompleteCabinet cabinet = readIncomplete(element);
+        check(element, incompleteLabel(cabinet), cabinet.position);
+        if (failed()) {
+            return {};
+        }
+        wall.incomplete.push_back(std::move(cabinet));
+    }
+    if (wall.cabinets.empty() && !wall.incomplete.empty()) {
+        fail(incomplete, tr("there is no other cabinet"));
+        return {};
+    }
     return wall;
+}
+
+IncompleteCabinet DescriptionReader::readIncomplete(const Node &node)
+{
+    IncompleteCabinet cabinet;
+    if (!checkObject(node,
+            {{QStringLiteral("name"), false}, {QStringLiteral("row"), false}, {QStringLiteral("column"), false},
+                {QStringLiteral("reason"), true}})) {
+        return cabinet;
+    }
+    cabinet.name = readString(member(node, QStringLiteral("name")));
+    cabinet.position = readPosition(node);
+    const Node reason = member(node, QStringLiteral("reason"));
+    cabinet.reason = readString(reason);
+    if (cabinet.reason.trimmed().isEmpty()) {
+        fail(reason, tr("must not be empty"));
+    }
+    return cabinet;
+}
+
+std::optional<Model::GridPosition> DescriptionReader::readPosition(const Node &node)
+{
+    const auto whole = [this, &node](const QString &key) {
+        const Node found = member(node, key);
+        return found.value.isUndefined() ? std::nullopt : std::make_optional(readWhole(found));
+    };
+    const std::optional<int> row = whole(QStringLiteral("row"));
+    const std::optional<int> column = whole(QStringLiteral("column"));
+    if (row.has_value() != column.has_value()) {
+        fail(member(node, row ? QStringLiteral("column") : QStringLiteral("row")),
+            tr("missing: row and column are only known together"));
+    }
+    return positionOf(row, column);
 }
 
 WallCabinet DescriptionReader::readCabinet(const Node &node)
@@ -54,13 +112,10 @@ WallCabinet DescriptionReader::readCabinet(const Node &node)
         return found.value.isUndefined() ? std::nullopt : std::make_optional(read(found));
     };
     const auto color = [this](const Node &of) { return readMeasured(of); };
-    const auto whole = [this](const Node &of) { return readWhole(of); };
     cabinet.name = readString(member(node, QStringLiteral("name")));
-    cabinet.row = optional(QStringLiteral("row"), whole);
-    cabinet.column = optional(QStringLiteral("column"), whole);
-    if (cabinet.row.has_value() != cabinet.column.has_value()) {
-        fail(member(node, cabinet.row ? QStringLiteral("column") : QStringLiteral("row")),
-            tr("missing: row and column are only known together"));
+    if (const auto position = readPosition(node)) {
+        cabinet.row = position->row;
+        cabinet.column = position->column;
     }
     cabinet.red = color(member(node, QStringLiteral("red")));
     cabinet.green = color(member(node, QStringLiteral("green")));

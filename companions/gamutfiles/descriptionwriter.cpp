@@ -57,6 +57,17 @@ QJsonObject cabinetObject(const WallCabinet &cabinet)
     return object;
 }
 
+QJsonObject incompleteObject(const IncompleteCabinet &cabinet)
+{
+    QJsonObject object{{QStringLiteral("reason"), cabinet.reason}};
+    insertText(object, QStringLiteral("name"), cabinet.name);
+    if (cabinet.position) {
+        object.insert(QStringLiteral("row"), cabinet.position->row);
+        object.insert(QStringLiteral("column"), cabinet.position->column);
+    }
+    return object;
+}
+
 void insertWall(QJsonObject &object, const DisplayWall &wall)
 {
     if (wall.cabinets.empty()) {
@@ -67,6 +78,13 @@ void insertWall(QJsonObject &object, const DisplayWall &wall)
         cabinets.append(cabinetObject(cabinet));
     }
     QJsonObject entry{{QStringLiteral("cabinets"), cabinets}};
+    QJsonArray incomplete;
+    for (const IncompleteCabinet &cabinet : wall.incomplete) {
+        incomplete.append(incompleteObject(cabinet));
+    }
+    if (!incomplete.isEmpty()) {
+        entry.insert(QStringLiteral("incomplete"), incomplete);
+    }
     insertText(entry, luminanceUnitKey(), luminanceUnitName(wall.unit));
     object.insert(QStringLiteral("wall"), entry);
 }

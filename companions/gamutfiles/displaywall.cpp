@@ -1,7 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/displaywall.h>
 
+#include "incompletereasons_p.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
 namespace gamutfiles {
+
+namespace {
+
+//! With their texts for lupdate.
+constexpr const char *reasons[] = {QT_TRANSLATE_NOOP("gamutfiles::Wall", "red is missing"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "green is missing"), QT_TRANSLATE_NOOP("gamutfiles::Wall", "blue is missing"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "red has no chromaticity"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "green has no chromaticity"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "blue has no chromaticity"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "red is there more than once"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "green is there more than once"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "blue is there more than once"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "white is there more than once"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "black is there more than once"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "it has no name of its own")};
+
+} // namespace
 
 QString cabinetLabel(const QString &name, const std::optional<int> &row, const std::optional<int> &column)
 {
@@ -15,6 +37,27 @@ QString cabinetLabel(const QString &name, const std::optional<int> &row, const s
 QString WallCabinet::label() const
 {
     return cabinetLabel(name, row, column);
+}
+
+QString incompleteLabel(const IncompleteCabinet &cabinet)
+{
+    const auto &position = cabinet.position;
+    return cabinetLabel(cabinet.name, position ? std::make_optional(position->row) : std::nullopt,
+        position ? std::make_optional(position->column) : std::nullopt);
+}
+
+QString incompleteReasonText(const IncompleteCabinet &cabinet)
+{
+    QStringList parts = cabinet.reason.split(reasonSeparator());
+    for (QString &part : parts) {
+        for (const char *reason : reasons) {
+            if (part == QLatin1String(reason)) {
+                part = QCoreApplication::translate("gamutfiles::Wall", reason);
+                break;
+            }
+        }
+    }
+    return parts.join(reasonSeparator());
 }
 
 std::vector<Model::Cabinet> DisplayWall::modelCabinets() const

@@ -31,10 +31,23 @@ struct WallCabinet {
     GAMUTFILES_EXPORT QString label() const;
 };
 
+/*! \brief A cabinet of which too little was measured for its gamut: all that is known is that it is there. */
+struct IncompleteCabinet {
+    QString name; //!< as WallCabinet::name
+    std::optional<Model::GridPosition> position; //!< row and column, as those of WallCabinet; nothing: not known
+    QString reason; //!< what its measurements lack, in English and in one line, as files state it; not empty
+};
+
 /*! \brief The cabinets of a wall. */
 struct DisplayWall {
     LuminanceUnit unit = LuminanceUnit::NotKnown; //!< of all luminances
     std::vector<WallCabinet> cabinets; //!< each label() once; empty: the display is not a wall, or it was not measured
+    /*!
+     * \brief Further cabinets of the wall, of which nothing can be said; none without \a cabinets.
+     *
+     * Their incompleteLabel() and their positions differ from each other and from those of all \a cabinets.
+     */
+    std::vector<IncompleteCabinet> incomplete;
 
     /*! \brief The cabinets as the maths of gamutmodel reads them, in the same order. */
     GAMUTFILES_EXPORT std::vector<Model::Cabinet> modelCabinets() const;
@@ -43,6 +56,14 @@ struct DisplayWall {
 /*! \brief How people call a cabinet: \a name, its place as "3/4" where both are known, or both, "A 3/4". */
 GAMUTFILES_EXPORT QString cabinetLabel(
     const QString &name, const std::optional<int> &row, const std::optional<int> &column);
+
+/*! \brief How people call \a cabinet, as WallCabinet::label(). */
+GAMUTFILES_EXPORT QString incompleteLabel(const IncompleteCabinet &cabinet);
+/*!
+ * \brief Its reason for people: in the language of the interface where it is one that wallFromMeasurements() gives, and
+ * as it is otherwise.
+ */
+GAMUTFILES_EXPORT QString incompleteReasonText(const IncompleteCabinet &cabinet);
 
 } // namespace gamutfiles
 

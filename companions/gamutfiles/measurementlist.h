@@ -124,7 +124,8 @@ GAMUTFILES_EXPORT Outcome<MeasurementList> readMeasurementList(
  * \brief The cabinets of \a list as a wall, in the order of the file and in the unit of the list.
  *
  * A cabinet needs red, green and blue once each, with chromaticities. White and black are taken where they are there; a
- * black whose luminance is 0 has no light. Warnings name the cabinets that are left out, and why.
+ * black whose luminance is 0 has no light. All other cabinets are in DisplayWall::incomplete, and warnings name them
+ * and what they lack. Those that have no name of their own are called "?", "? 2" and so on.
  *
  * Where two cabinets of different names have the same row and column, these count inside of something else, such as
  * modules in a cabinet. Rows and columns are then parts of the names, and no cabinet has a place.

@@ -2,12 +2,14 @@
 #include <gamutfiles/measurementlist.h>
 
 #include "excerpt_p.h"
+#include "incompletereasons_p.h"
 
 #include <QCoreApplication>
 #include <QHash>
 #include <QSet>
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -45,7 +47,7 @@ private:
 
 struct Colors {
     std::array<const Measurement *, 6> of{}; // by MeasurementPart; null: there is none
-    bool isAmbiguous = false; // whether a colour is there more than once
+    std::array<bool, 6> isAmbiguous{}; // by MeasurementPart; whether the colour is there more than once
 
     const Measurement *operator[](MeasurementPart part) const { return of[std::size_t(part)]; }
 };
@@ -58,7 +60,8 @@ Colors colorsOf(const MeasurementList &list)
             continue;
         }
         const Measurement *&found = colors.of[std::size_t(measurement.part)];
-        colors.isAmbiguous = colors.isAmbiguous || found;
+        bool &isAmbiguous = colors.isAmbiguous[std::size_t(measurement.part)];
+        isAmbiguous = isAmbiguous || found;
         found = &measurement;
     }
     return colors;
@@ -81,10 +84,57 @@ bool haveDifferentPlaces(const QVector<CabinetMeasurements> &cabinets)
     return true;
 }
 
-bool havePrimaries(const Colors &colors)
+constexpr std::pair<MeasurementPart, const char *> partNames[]
+    = {{MeasurementPart::Red, "red"}, {MeasurementPart::Green, "green"}, {MeasurementPart::Blue, "blue"},
+        {MeasurementPart::White, "white"}, {MeasurementPart::Black, "black"}};
+
+bool isPrimary(MeasurementPart part)
 {
-    const auto isThere = [&colors](MeasurementPart part) { return colors[part] && colors[part]->color; };
-    return isThere(MeasurementPart::Red) && isThere(MeasurementPart::Green) && isThere(MeasurementPart::Blue);
+    return part == MeasurementPart::Red || part == MeasurementPart::Green || part == MeasurementPart::Blue;
+}
+
+//! What keeps \a colors from being those of a cabinet, as IncompleteCabinet::reason; empty: nothing.
+QStringList missingPrimaries(const Colors &colors)
+{
+    QStringList reasons;
+    for (const auto &of : partNames) {
+        const Measurement *measurement = colors[of.first];
+        if (isPrimary(of.first) && !(measurement && measurement->color)) {
+            reasons.append(
+                QLatin1String(of.second) + QLatin1String(measurement ? " has no chromaticity" : " is missing"));
+        }
+    }
+    return reasons;
+}
+
+QStringList ambiguousColors(const Colors &colors)
+{
+    QStringList reasons;
+    for (const auto &of : partNames) {
+        if (colors.isAmbiguous[std::size_t(of.first)]) {
+            reasons.append(QLatin1String(of.second) + QLatin1String(" is there more than once"));
+        }
+    }
+    return reasons;
+}
+
+/*!
+ * \brief The cabinets without a name of their own, which differ in nothing that people could call them by.
+ *
+ * Only those of which a colour was measured: a line without a cabinet may be of the room.
+ */
+void addUnnamed(DisplayWall &wall, int count, QSet<QString> labels)
+{
+    int number = 1;
+    for (int i = 0; i < count; ++i) {
+        QString name;
+        do {
+            name = number > 1 ? QStringLiteral("? %1").arg(number) : QStringLiteral("?");
+            ++number;
+        } while (labels.contains(name));
+        labels.insert(name);
+        wall.incomplete.push_back({name, std::nullopt, QStringLiteral("it has no name of its own")});
+    }
 }
 
 //! Where there is no light, nothing has a chromaticity.
@@ -116,27 +166,34 @@ Outcome<DisplayWall> wallFromMeasurements(const MeasurementList &list)
     NamedCabinets unnamed;
     NamedCabinets withoutBlack;
     QSet<QString> labels;
+    int unnamedCount = 0;
     for (const CabinetMeasurements &measured : cabinets) {
         const QString label = measured.label();
         const Colors colors = colorsOf(measured.list);
         if (label.trimmed().isEmpty() || labels.contains(label)) {
             unnamed.add(label);
+            const bool hasColor
+                = std::any_of(colors.of.begin(), colors.of.end(), [](const Measurement *of) { return of; });
+            unnamedCount += hasColor ? 1 : 0;
             continue;
         }
         labels.insert(label);
-        if (!havePrimaries(colors)) {
-            incomplete.add(label);
-            continue;
-        }
-        if (colors.isAmbiguous) {
-            ambiguous.add(label);
+        const QString name = hasPlaces ? measured.cabinet : label;
+        const auto position = hasPlaces && measured.row && measured.column
+            ? std::make_optional(Model::GridPosition{*measured.row, *measured.column})
+            : std::nullopt;
+        const QStringList missing = missingPrimaries(colors);
+        const QStringList twice = ambiguousColors(colors);
+        if (!missing.isEmpty() || !twice.isEmpty()) {
+            (missing.isEmpty() ? ambiguous : incomplete).add(label);
+            wall.incomplete.push_back({name, position, (missing + twice).join(reasonSeparator())});
             continue;
         }
         WallCabinet cabinet;
-        cabinet.name = hasPlaces ? measured.cabinet : label;
-        if (hasPlaces && measured.row && measured.column) {
-            cabinet.row = measured.row;
-            cabinet.column = measured.column;
+        cabinet.name = name;
+        if (position) {
+            cabinet.row = position->row;
+            cabinet.column = position->column;
         }
         cabinet.red = *colors[MeasurementPart::Red]->color;
         cabinet.green = *colors[MeasurementPart::Green]->color;
@@ -153,17 +210,21 @@ Outcome<DisplayWall> wallFromMeasurements(const MeasurementList &list)
     if (wall.cabinets.empty()) {
         return Failure::failure(WallText::tr("no cabinet has a name, and red, green and blue once each"));
     }
+    addUnnamed(wall, unnamedCount, labels);
     QVector<Problem> warnings;
     const auto warn = [&warnings](const QString &text) { warnings.append({text, {}, 0, 0}); };
     if (!unnamed.isEmpty()) {
-        warn(WallText::tr("cabinets left out, as they have no name of their own: %1").arg(unnamed.text()));
+        warn(WallText::tr("cabinets of which nothing is known, as they have no name of their own: %1")
+                 .arg(unnamed.text()));
     }
     if (!incomplete.isEmpty()) {
-        warn(WallText::tr("cabinets left out, as red, green or blue is missing or has no chromaticity: %1")
+        warn(WallText::tr(
+            "cabinets of which nothing is known, as red, green or blue is missing or has no chromaticity: %1")
                  .arg(incomplete.text()));
     }
     if (!ambiguous.isEmpty()) {
-        warn(WallText::tr("cabinets left out, as a colour is there more than once: %1").arg(ambiguous.text()));
+        warn(WallText::tr("cabinets of which nothing is known, as a colour is there more than once: %1")
+                 .arg(ambiguous.text()));
     }
     if (!withoutBlack.isEmpty()) {
         warn(WallText::tr("cabinets whose black is not used, as it has no chromaticity: %1").arg(withoutBlack.text()));

@@ -254,6 +254,7 @@ void CorrectionsFileTest::faultyCabinetIsStated()
     wall.cabinets = {measuredCabinet("good"), measuredCabinet("dark"), measuredCabinet("flat")};
     wall.cabinets[1].green.Y = 0.0;
     wall.cabinets[2].blue = color(125.0, 0.7, 0.2981);
+    wall.incomplete = {{QStringLiteral("gap"), Model::GridPosition{4, -1}, QStringLiteral("red is missing")}};
     const auto corrections = wallCorrections(wall, Model::wallCorrection(wall.modelCabinets(), target()), QString());
     QVERIFY2(corrections, qPrintable(corrections.error()));
     QVERIFY(corrections->cabinets[0].matrix);
@@ -261,6 +262,10 @@ void CorrectionsFileTest::faultyCabinetIsStated()
     QCOMPARE(corrections->cabinets[1].fault, QStringLiteral("a primary has no more luminance than the black: green"));
     QVERIFY(!corrections->cabinets[2].matrix);
     QVERIFY(corrections->cabinets[2].fault.startsWith("the primaries are nearly on a line"));
+    QCOMPARE(corrections->cabinets.size(), std::size_t(4));
+    QCOMPARE(corrections->cabinets[3].label(), QStringLiteral("gap 4/-1"));
+    QCOMPARE(corrections->cabinets[3].fault, QStringLiteral("red is missing"));
+    QVERIFY(!corrections->cabinets[3].matrix && !corrections->cabinets[3].largestWhite);
     verifySurvives(*corrections, correctionsCsv(*corrections));
     verifySurvives(*corrections, correctionsJson(*corrections));
 }

@@ -59,6 +59,10 @@ bool same(const DisplayWall &a, const DisplayWall &b)
                 return p.name == q.name && p.row == q.row && p.column == q.column && same(p.red, q.red)
                     && same(p.green, q.green) && same(p.blue, q.blue) && same(p.white, q.white)
                     && same(p.black, q.black) && p.isLeftOut == q.isLeftOut;
+            })
+        && std::equal(a.incomplete.begin(), a.incomplete.end(), b.incomplete.begin(), b.incomplete.end(),
+            [](const IncompleteCabinet &p, const IncompleteCabinet &q) {
+                return p.name == q.name && p.reason == q.reason && incompleteLabel(p) == incompleteLabel(q);
             });
 }
 
@@ -119,6 +123,9 @@ DisplayDescription everything()
     cabinet.black = Model::Target(); // no light
     cabinet.isLeftOut = true;
     description.wall.cabinets.push_back(cabinet);
+    description.wall.incomplete = {{QStringLiteral("B"), std::nullopt, QStringLiteral("red is missing")},
+        {QString(), Model::GridPosition{-7, 0}, QString::fromUtf8("two\nlines, \"é\"")},
+        {QStringLiteral("A"), Model::GridPosition{3, 3}, QStringLiteral("green is there more than once")}};
     return description;
 }
 

@@ -545,6 +545,29 @@ void DisplayDescriptionTest::refusedWalls_data()
         "f: wall.cabinets[0].black.z: unknown key");
     row("black as a number", withCabinets({a + ", \"black\": 0"}),
         "f: wall.cabinets[0].black: expected an object, found a number");
+    const auto incomplete = [&](const char *name, const QByteArray &entries, const char *message) {
+        row(name, described("{\"cabinets\": [{" + a + "}], \"incomplete\": " + entries + '}'), message);
+    };
+    incomplete("incomplete as an object", "{}", "f: wall.incomplete: expected an array, found an object");
+    incomplete("incomplete as a name", "[\"b\"]", "f: wall.incomplete[0]: expected an object, found a string");
+    incomplete("incomplete without a reason", R"([{"name": "b"}])", "f: wall.incomplete[0].reason: missing");
+    incomplete("incomplete by a blank", R"([{"name": "b", "reason": " "}])",
+        "f: wall.incomplete[0].reason: must not be empty");
+    incomplete("incomplete by a number", R"([{"name": "b", "reason": 1}])",
+        "f: wall.incomplete[0].reason: expected a string, found a number");
+    incomplete("incomplete without a name", R"([{"reason": "r"}])",
+        "f: wall.incomplete[0]: a cabinet needs a name, or row and column");
+    incomplete("incomplete with a colour", R"([{"name": "b", "reason": "r", "red": {}}])",
+        "f: wall.incomplete[0].red: unknown key");
+    incomplete("incomplete with a row", R"([{"name": "b", "reason": "r", "row": 1}])",
+        "f: wall.incomplete[0].column: missing: row and column are only known together");
+    incomplete("incomplete called as another", R"([{"name": "a", "reason": "r"}])",
+        "f: wall.incomplete[0]: there is already a cabinet \"a\"");
+    incomplete("incomplete in the same place", R"([{"name": "b", "row": 1, "column": 2, "reason": "r"},
+        {"name": "c", "row": 1, "column": 2, "reason": "r"}])",
+        "f: wall.incomplete[1]: there is already a cabinet in row 1, column 2");
+    row("nothing but incomplete", described(R"({"cabinets": [], "incomplete": [{"name": "b", "reason": "r"}]})"),
+        "f: wall.incomplete: there is no other cabinet");
 }
 
 void DisplayDescriptionTest::refusedWalls()

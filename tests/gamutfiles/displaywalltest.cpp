@@ -14,9 +14,11 @@ class DisplayWallTest : public QObject {
 private Q_SLOTS:
     void cabinetsAreTakenOver();
     void placesAreTakenOver();
-    void cabinetsWithoutAPrimaryAreLeftOut();
-    void cabinetsWithAColorTwiceAreLeftOut();
+    void cabinetsWithoutAPrimaryAreIncomplete();
+    void cabinetsWithAColorTwiceAreIncomplete();
     void blackWithoutChromaticity();
+    void incompleteCabinetsKeepTheirPlaces();
+    void reasonsAreTranslated();
     void samePlacesArePartsOfNames();
     void listsWithoutAWall_data();
     void listsWithoutAWall();
@@ -48,6 +50,15 @@ QStringList messages(const QVector<Problem> &warnings)
 bool isExactly(const Model::Target &target, double Y, double x, double y)
 {
     return target.Y == Y && target.x == x && target.y == y;
+}
+
+QStringList incompleteOf(const DisplayWall &wall)
+{
+    QStringList texts;
+    for (const IncompleteCabinet &cabinet : wall.incomplete) {
+        texts.append(incompleteLabel(cabinet) + QStringLiteral(": ") + cabinet.reason);
+    }
+    return texts;
 }
 
 const QByteArray header = "cabinet,name,x,y,Lv (cd/m2)\n";
@@ -91,7 +102,7 @@ void DisplayWallTest::placesAreTakenOver()
     QVERIFY(isExactly(wall->cabinets[1].red, 0.0, 0.69, 0.3)); // which the assessment of the wall names
 }
 
-void DisplayWallTest::cabinetsWithoutAPrimaryAreLeftOut()
+void DisplayWallTest::cabinetsWithoutAPrimaryAreIncomplete()
 {
     QByteArray text = header + rgb("good");
     for (const char *name : {"a", "b", "c", "d", "e", "f"}) {
@@ -102,18 +113,23 @@ void DisplayWallTest::cabinetsWithoutAPrimaryAreLeftOut()
     QVERIFY2(wall, qPrintable(wall.error()));
     QCOMPARE(wall->cabinets.size(), std::size_t(1));
     QCOMPARE(messages(wall.warnings()),
-        QStringList{
-            "cabinets left out, as red, green or blue is missing or has no chromaticity: a, b, c, d and 2 more"});
+        QStringList{"cabinets of which nothing is known, as red, green or blue is missing or has no chromaticity: a, "
+                    "b, c, d and 2 more"});
+    QCOMPARE(incompleteOf(*wall),
+        (QStringList{"a: green is missing", "b: green has no chromaticity", "c: green is missing",
+            "d: green is missing", "e: green is missing", "f: green is missing"}));
 }
 
-void DisplayWallTest::cabinetsWithAColorTwiceAreLeftOut()
+void DisplayWallTest::cabinetsWithAColorTwiceAreIncomplete()
 {
     for (const char *color : {"red", "green", "blue", "white", "black"}) {
         const QByteArray line = QByteArray("two,") + color + ",0.3,0.3,5\n";
         const auto wall = wallFromMeasurements(listOf(header + rgb("good") + rgb("two") + line + line));
         QVERIFY2(wall, qPrintable(wall.error()));
         QCOMPARE(wall->cabinets.size(), std::size_t(1));
-        QCOMPARE(messages(wall.warnings()), QStringList{"cabinets left out, as a colour is there more than once: two"});
+        QCOMPARE(messages(wall.warnings()),
+            QStringList{"cabinets of which nothing is known, as a colour is there more than once: two"});
+        QCOMPARE(incompleteOf(*wall), QStringList{QStringLiteral("two: %1 is there more than once").arg(color)});
     }
 }
 
@@ -127,6 +143,45 @@ void DisplayWallTest::blackWithoutChromaticity()
     QVERIFY(!wall->cabinets[1].black);
     QCOMPARE(
         messages(wall.warnings()), QStringList{"cabinets whose black is not used, as it has no chromaticity: grey"});
+}
+
+void DisplayWallTest::incompleteCabinetsKeepTheirPlaces()
+{
+    const auto wall = wallFromMeasurements(listOf("cabinet,row,column,name,x,y,Y\n" + rgb("A,1,1")
+        + "B,1,2,white,0.3,0.3,900\nB,1,2,red,0.7,0.29,200\nB,1,2,red,0.7,0.29,200\n,2,2,blue,0.13,0.06,100\n"));
+    QVERIFY2(wall, qPrintable(wall.error()));
+    QCOMPARE(wall->cabinets.size(), std::size_t(1));
+    QCOMPARE(incompleteOf(*wall),
+        (QStringList{"B 1/2: green is missing, blue is missing, red is there more than once",
+            "2/2: red is missing, green is missing"}));
+    QCOMPARE(wall->incomplete[0].name, QStringLiteral("B"));
+    QVERIFY(wall->incomplete[0].position && wall->incomplete[0].position->row == 1
+        && wall->incomplete[0].position->column == 2);
+}
+
+// Files have them in English, and people read them in their language.
+void DisplayWallTest::reasonsAreTranslated()
+{
+    class Upper : public QTranslator {
+    public:
+        bool isEmpty() const override { return false; }
+        QString translate(const char *context, const char *text, const char *, int) const override
+        {
+            return qstrcmp(context, "gamutfiles::Wall") == 0 ? QString::fromLatin1(text).toUpper() : QString();
+        }
+    };
+    const auto wall = wallFromMeasurements(listOf(header + rgb("good") + "bad,red,0,0,5\n,blue,0.1,0.1,5\n"));
+    QVERIFY2(wall, qPrintable(wall.error()));
+    QCOMPARE(incompleteOf(*wall),
+        (QStringList{
+            "bad: red has no chromaticity, green is missing, blue is missing", "?: it has no name of its own"}));
+    Upper upper;
+    QVERIFY(QCoreApplication::installTranslator(&upper));
+    QCOMPARE(incompleteReasonText(wall->incomplete[0]),
+        QStringLiteral("RED HAS NO CHROMATICITY, GREEN IS MISSING, BLUE IS MISSING"));
+    QCOMPARE(incompleteReasonText(wall->incomplete[1]), QStringLiteral("IT HAS NO NAME OF ITS OWN"));
+    QCOMPARE(incompleteReasonText({QString(), std::nullopt, QStringLiteral("fell, off")}), QStringLiteral("fell, off"));
+    QCoreApplication::removeTranslator(&upper);
 }
 
 void DisplayWallTest::samePlacesArePartsOfNames()
@@ -177,7 +232,7 @@ void DisplayWallTest::nothingIsSaidOfAGamut()
     const auto list = readMeasurementList(text, options);
     QCOMPARE(messages(list.warnings()), QStringList());
     QCOMPARE(messages(wallFromMeasurements(*list).warnings()),
-        QStringList{"cabinets left out, as a colour is there more than once: B"});
+        QStringList{"cabinets of which nothing is known, as a colour is there more than once: B"});
 }
 
 // Names and places as lists have them: some without a name, some called as others are with their place.
@@ -192,12 +247,16 @@ void DisplayWallTest::everyWallCanBeStored()
     }
     QCOMPARE(labels, (QStringList{"A 3/4", "B", "C", "7", "3/5"}));
     QCOMPARE(messages(wall.warnings()),
-        QStringList{"cabinets left out, as they have no name of their own: A 3/4, one without a name"});
+        QStringList{
+            "cabinets of which nothing is known, as they have no name of their own: A 3/4, one without a name"});
     DisplayDescription description;
     description.wall = *wall;
     const auto read = readDescription(descriptionText(description));
     QVERIFY2(read, qPrintable(read.error()));
     QCOMPARE(read->wall.cabinets.size(), wall->cabinets.size());
+    // Those that nobody can name are there all the same.
+    QCOMPARE(incompleteOf(*wall), (QStringList{"?: it has no name of its own", "? 2: it has no name of its own"}));
+    QCOMPARE(incompleteOf(read->wall), incompleteOf(*wall));
 }
 
 void DisplayWallTest::timeGrowsWithTheCabinets()
