@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// What the gamut viewer does while it follows a measurement: a thread appends lines to a file at a steady rate, and the
-// program tells every few seconds how much memory it has and how long its event loop was away.
+// What the gamut viewer does while it follows a measurement: a thread appends lines to a file, or writes them to a
+// pipe, at a steady rate, and the program tells every few seconds how much memory it has and how long its event loop
+// was away.
 #include "editing/document.h"
-#include "following/followedfile.h"
 #include "following/following.h"
+#include "program/streaminput.h"
 #include "window/followmenu.h"
 #include "window/viewerwindow.h"
 
@@ -20,6 +21,11 @@
 #include <ctime>
 #include <thread>
 #include <vector>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <sys/types.h>
+#endif
 
 namespace {
 
@@ -70,6 +76,16 @@ void append(const QString &fileName, int linesPerSecond, int seconds)
     }
 }
 
+bool makePipe(const QString &fileName)
+{
+#ifdef Q_OS_UNIX
+    return mkfifo(QFile::encodeName(fileName).constData(), S_IRUSR | S_IWUSR) == 0;
+#else
+    Q_UNUSED(fileName);
+    return false;
+#endif
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -77,17 +93,22 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     const int linesPerSecond = argc > 1 ? QByteArray(argv[1]).toInt() : 1000;
     const int seconds = argc > 2 ? QByteArray(argv[2]).toInt() : 60;
-    if (linesPerSecond <= 0 || seconds <= 0) {
-        std::puts("followload [lines per second] [seconds]");
+    const bool isPipe = argc > 3 && QByteArray(argv[3]) == "pipe";
+    if (linesPerSecond <= 0 || seconds <= 0 || (argc > 3 && !isPipe)) {
+        std::puts("followload [lines per second] [seconds] [pipe]");
         return 2;
     }
     QTemporaryDir folder;
     const QString fileName = folder.filePath(QStringLiteral("wall.csv"));
+    if (isPipe && !makePipe(fileName)) {
+        std::puts("there is no pipe");
+        return 1;
+    }
     gamutviewer::ViewerWindow window;
     window.setOpened({});
     window.resize(1280, 900);
     window.show();
-    window.followMenu()->follow(std::make_unique<gamutviewer::FollowedFile>(fileName));
+    window.followMenu()->follow(gamutviewer::inputToFollow(fileName).input);
     std::thread instrument(append, fileName, linesPerSecond, seconds);
 
     // What waits for its turn waits as long as this timer.

@@ -254,6 +254,14 @@ constexpr std::array knownUnits{
 };
 
 //! \a text without what is written in many ways: spaces and joining signs, kinds of primes, wide and raised characters.
+//! Most fields of a list are numbers, of which nothing need be looked up: no column is called by digits alone.
+bool isPlainNumber(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) {
+        return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('.') || c == QLatin1Char('-');
+    });
+}
+
 QString compact(const QString &text)
 {
     QString result = text;
@@ -424,7 +432,7 @@ QString columnPartName(ColumnPart part)
 
 std::optional<ColumnName> columnName(const QString &text)
 {
-    if (text.size() > longestHeader) {
+    if (text.size() > longestHeader || isPlainNumber(text)) {
         return std::nullopt;
     }
     const QString key = compact(text);
@@ -442,7 +450,7 @@ std::optional<ColumnName> columnName(const QString &text)
 
 bool isOfOtherObserver(const QString &text)
 {
-    if (text.size() > longestHeader) {
+    if (text.size() > longestHeader || isPlainNumber(text)) {
         return false;
     }
     QString key = compact(text);

@@ -16,8 +16,8 @@
 
 namespace gamutfiles {
 
-/*! \brief Longer measurement lists are refused. There is room for about 20 000 measurements. */
-constexpr int maximumMeasurementBytes = 1024 * 1024;
+/*! \brief Longer measurement lists are refused. There is room for five colours of each of some 20 000 cabinets. */
+constexpr int maximumMeasurementBytes = 8 * 1024 * 1024;
 
 /*! \brief One line of a measurement list. */
 struct Measurement {

@@ -135,12 +135,13 @@ bool MeasurementReader::choose(const MeasurementChoice &choice, MeasurementPart 
 bool MeasurementReader::checkGamut()
 {
     const QVector<CabinetMeasurements> cabinets = m_list.cabinets();
+    // A wall of one cabinet is a wall: its white need not be there.
+    if (m_options.isWall && !cabinets.isEmpty()) {
+        return true;
+    }
     if (cabinets.size() <= 1) {
         warnOfParts(m_list, QString());
         return m_failure.text.isEmpty();
-    }
-    if (m_options.isWall) {
-        return true;
     }
     warnOfCabinets(cabinets);
     const int before = int(m_warnings.size());

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void followedFile();
     void refusals_data();
     void refusals();
+    void combinations();
 };
 
 namespace {
@@ -459,13 +460,23 @@ void CommandLineTest::refusals_data()
     QTest::newRow("two followed files") << QStringList{"--follow", "a.csv", "--follow", "b.csv"}
                                         << "--follow can be used only once.";
     QTest::newRow("standard input twice")
-        << QStringList{"--follow", "-", "-"} << "Standard input cannot be both opened and followed.";
-    for (const QStringList &writing :
-        {QStringList{"--render", "a.png"}, QStringList{"--report", "json"}, QStringList{"--check", "a.json"}}) {
-        QTest::newRow(qPrintable("followed with " + writing.first()))
-            << writing + QStringList{"--follow", "a.csv"}
-            << "--follow requires the window and does not apply to --render, --report and --check.";
+        << QStringList{"--follow", "-", "-"} << "Standard input can be read only once, not as a file and as --follow.";
+    QTest::newRow("two files of standard input")
+        << QStringList{"-", "-"} << "Standard input can be read only once, not as a file and as a file.";
+    QTest::newRow("wall that is followed") << QStringList{"--follow", "-", "--wall", "-"}
+                                           << "Standard input can be read only once, not as --wall and as --follow.";
+    QTest::newRow("wall and tolerances") << QStringList{"--tolerances", "-", "--check", "--wall", "-"}
+                                         << "Standard input can be read only once, not as --wall and as --tolerances.";
+    for (const char *option : {"--wall", "--target", "--tolerances"}) {
+        QTest::newRow(option) << QStringList{option, "a", option, "b"}
+                              << QStringLiteral("%1 can be used only once.").arg(option);
     }
+    QTest::newRow("two corrections") << QStringList{"a.json", "--corrections", "a.csv", "--corrections", "a.json"}
+                                     << "--corrections can be used only once.";
+    QTest::newRow("two reports") << QStringList{"a.json", "--report", "text", "--report", "json"}
+                                 << "--report can be used only once.";
+    QTest::newRow("two pictures") << QStringList{"--render", "a.png", "--render", "b.png"}
+                                  << "--render can be used only once.";
     QTest::newRow("first reason") << QStringList{"--dpr", "0", "--size", "0x0"}
                                   << "Invalid size, expected 1x1 to 8192x8192: 0x0";
 }
@@ -477,6 +488,51 @@ void CommandLineTest::refusals()
     const CommandLine line(QStringList{"gamutviewer"} + arguments);
     QCOMPARE(line.action(), Action::Refuse);
     QCOMPARE(line.error(), error);
+}
+
+// Each set of the options that say what is done: it works, or the refusal names what cannot be.
+void CommandLineTest::combinations()
+{
+    const QStringList options[] = {{"--wall", "w.csv"}, {"--target", "Rec.709"}, {"--fit"}, {"--render", "p.png"},
+        {"--report", "text"}, {"--check"}, {"--corrections", "c.csv"}, {"--follow", "f.csv"}, {"display.json"}};
+    constexpr int count = int(std::size(options));
+    enum { Wall, Target, Fit, Render, Report, Check, Corrections, Follow, File };
+    for (int set = 0; set < 1 << count; ++set) {
+        const auto has = [set](int option) { return (set >> option & 1) != 0; };
+        QStringList arguments{"gamutviewer"};
+        for (int option = 0; option < count; ++option) {
+            arguments += has(option) ? options[option] : QStringList();
+        }
+        const CommandLine line(arguments);
+        const QByteArray context = (arguments.join(' ') + ": " + line.error()).toUtf8();
+        const bool writes = has(Render) || has(Report) || has(Check) || has(Corrections);
+        const bool readsNothing = !has(Wall) && !has(File);
+        const bool needsFile = has(Report) || has(Check) || has(Corrections);
+        if (needsFile && readsNothing) {
+            QVERIFY2(line.action() == Action::Refuse, context);
+            QVERIFY2(
+                line.error().contains(" requires one") || line.error().startsWith("--follow cannot be used with --"),
+                context);
+        } else if (has(Follow) && writes) {
+            QVERIFY2(line.action() == Action::Refuse, context);
+            const QString other = has(Render) ? "--render"
+                : has(Report)                 ? "--report"
+                : has(Check)                  ? "--check"
+                                              : "--corrections";
+            QCOMPARE(
+                line.error(), QStringLiteral("--follow cannot be used with %1: it requires the window.").arg(other));
+        } else {
+            QVERIFY2(line.action() == (writes ? Action::Write : Action::Show), context);
+            QCOMPARE(line.wallFile(), has(Wall) ? QStringLiteral("w.csv") : QString());
+            QCOMPARE(line.targetName(), has(Target) ? QStringLiteral("Rec.709") : QString());
+            QCOMPARE(line.wantsFit(), has(Fit));
+            QCOMPARE(line.pictureFile(), has(Render) ? QStringLiteral("p.png") : QString());
+            QCOMPARE(line.wantsTextReport(), has(Report));
+            QCOMPARE(line.wantsCheck(), has(Check));
+            QCOMPARE(line.correctionsFile(), has(Corrections) ? QStringLiteral("c.csv") : QString());
+            QCOMPARE(line.followedFile(), has(Follow) ? QStringLiteral("f.csv") : QString());
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(CommandLineTest)

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void theFirstKeyStepKeepsTheDiagram();
     void panelAndVerdictFollowADrag();
     void noteTellsWhatThePrimaryIsOutsideOf();
+    void noteTellsOfTheWall();
     void escapeCancelsADrag();
     void undoInADragEndsIt();
     void arrowKeysMove();
@@ -143,6 +144,44 @@ void DiagramEditingTest::noteTellsWhatThePrimaryIsOutsideOf()
     const QString originalNote = noteAt(QPointF(0.10, 0.78));
     QVERIFY2(originalNote.startsWith(QLatin1String("outside of the original by ")), qPrintable(originalNote));
     pointer.release(QPointF(0.10, 0.78));
+}
+
+void DiagramEditingTest::noteTellsOfTheWall()
+{
+    WindowFixture f;
+    DisplayDescription d;
+    d.target = QStringLiteral("Rec.709");
+    const Model::Targets of = Model::rec2020().getTargets();
+    const auto add = [&](const char *name, const Model::Target &green) {
+        WallCabinet cabinet;
+        cabinet.name = QString::fromLatin1(name);
+        cabinet.red = of.red;
+        cabinet.green = green;
+        cabinet.blue = of.blue;
+        d.wall.cabinets.push_back(cabinet);
+    };
+    add("A1", of.green);
+    add("A2", Model::Target::fromYxy(of.green.Y, 0.23, 0.68));
+    add("A3", Model::Target::fromYxy(of.green.Y, 0.25, 0.65));
+    f.window->setDescription(d, QString());
+    DiagramPointer pointer(view(f));
+    pointer.press(f.xy(Vertex::Green));
+    const auto noteAt = [&](const QPointF &xy) {
+        pointer.move(xy);
+        return view(f)->editNote();
+    };
+    QCOMPARE(noteAt(QPointF(0.28, 0.60)), QString());
+    const QString one = noteAt(QPointF(0.235, 0.67));
+    QVERIFY2(one.startsWith(QString::fromUtf8("outside of the cabinet A3 by Δu′v′ 0.0")), qPrintable(one));
+    const QString two = noteAt(QPointF(0.19, 0.74));
+    QVERIFY2(two.startsWith(QString::fromUtf8("outside of 2 cabinets, of A3 by Δu′v′ 0.0")), qPrintable(two));
+    pointer.release(QPointF(0.19, 0.74));
+    d.wall.cabinets[2].isLeftOut = true;
+    d.target = QStringLiteral("DCI-P3(D65)");
+    f.window->setDescription(d, QString());
+    pointer.press(f.xy(Vertex::Green));
+    QVERIFY(!noteAt(QPointF(0.235, 0.67)).contains(QLatin1String("A3")));
+    pointer.release(QPointF(0.235, 0.67));
 }
 
 void DiagramEditingTest::escapeCancelsADrag()

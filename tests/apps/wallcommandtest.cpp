@@ -29,6 +29,10 @@ private Q_SLOTS:
     void reportsOnTheWall();
     void reportWithoutATarget();
     void textReportHasEveryCabinet();
+    void textReportNamesItsColumns();
+    void incompleteCabinetsAreNamed();
+    void wallOfOneCabinet();
+    void combinationsWork();
     void exitStatusTellsTheVerdict_data();
     void exitStatusTellsTheVerdict();
     void correctionsAreThoseOfTheReport();
@@ -177,6 +181,94 @@ void WallCommandTest::textReportHasEveryCabinet()
     const Result plain = run({"stage.json", "--report", "text"});
     QVERIFY2(plain.output.contains("target  Stage"), plain.output);
     QVERIFY2(plain.output.contains("not known: "), plain.output);
+}
+
+void WallCommandTest::textReportNamesItsColumns()
+{
+    const Result result = run({"stage.json", "--wall", "wall.csv", "--report", "text"});
+    for (const char *header : {"largest white, cd/m²", "Δu′v′ of the white without correction",
+             "Δu′v′ of the white with correction", "difference of whites"}) {
+        QVERIFY2(result.output.contains(header), result.output);
+    }
+}
+
+//! The list with a cabinet whose green was not measured, and one whose red was measured twice.
+static QByteArray gapList()
+{
+    return wallList + "A3,1,3,red,0.6950,0.3040,250.8\nA3,1,3,blue,0.1405,0.0510,85.3\n"
+        + QByteArray(wallList).mid(wallList.indexOf('\n') + 1).replace("A1,1,1", "A4,2,1").replace("A2,1,2", "A5,2,2")
+        + "A5,2,2,red,0.6950,0.3040,250.8\n";
+}
+
+void WallCommandTest::incompleteCabinetsAreNamed()
+{
+    write("gaps.csv", gapList());
+    const Result result = run({"stage.json", "--wall", "gaps.csv", "--corrections", "c.csv", "--report", "text"});
+    QVERIFY2(result.exitCode == 0, result.error);
+    QVERIFY2(result.error.contains("gamutviewer: c.csv: cabinets without a correction: A3 1/3 (green is missing), "
+                                   "A5 2/2 (red is there more than once)\n"),
+        result.error);
+    QVERIFY2(result.output.contains("A3 1/3 (green is missing) "), result.output);
+    const auto corrections = gamutfiles::readCorrectionsFile(path("c.csv"));
+    QVERIFY2(corrections, qPrintable(corrections.error()));
+    QStringList faults;
+    for (const CabinetCorrection &cabinet : corrections->cabinets) {
+        faults.append(cabinet.label() + QLatin1Char(':') + cabinet.fault);
+        QCOMPARE(cabinet.matrix.has_value(), cabinet.fault.isEmpty());
+    }
+    QCOMPARE(faults,
+        (QStringList{
+            "A1 1/1:", "A2 1/2:", "A4 2/1:", "A3 1/3:green is missing", "A5 2/2:red is there more than once"}));
+    for (const char *name : {"A3", "a3 1/3", "1/3"}) {
+        const Result one = run({"stage.json", "--wall", "gaps.csv", "--cabinet", name, "--corrections", "one.json"});
+        QCOMPARE(one.exitCode, 2);
+        QVERIFY2(one.error.endsWith("one.json: there is no correction for A3 1/3: green is missing\n"), one.error);
+    }
+    // The others are corrected as ever.
+    const Result one = run({"stage.json", "--wall", "gaps.csv", "--cabinet", "A4", "--corrections", "one.cube"});
+    QVERIFY2(one.exitCode == 0, one.error);
+    QVERIFY2(!one.error.contains("without a correction"), one.error);
+}
+
+// Nobody needs a white for a wall, however small.
+void WallCommandTest::wallOfOneCabinet()
+{
+    write("one.csv", wallList.left(wallList.indexOf("A2")));
+    const Result wall = run({"stage.json", "--wall", "one.csv", "--check"});
+    QCOMPARE(wall.error, QByteArray());
+    QCOMPARE(wall.exitCode, 0);
+    // As a display, it lacks one.
+    const Result display = run({"stage.json", "one.csv", "--check"});
+    QVERIFY2(display.error.contains("white is missing: there is no gamut; "), display.error);
+}
+
+// The options that write, and those that come before them, in pairs and all together.
+void WallCommandTest::combinationsWork()
+{
+    const QVector<QStringList> options{{"--target", "Rec.709"}, {"--fit"}, {"--report", "text"}, {"--check"},
+        {"--corrections", "c.csv"}, {"--render", "p.png"}};
+    QVector<QVector<int>> sets{{0, 1, 2, 3, 4, 5}};
+    for (int first = 0; first < options.size(); ++first) {
+        for (int second = std::max(first + 1, 2); second < options.size(); ++second) {
+            sets.append({first, second});
+        }
+    }
+    for (const QVector<int> &set : qAsConst(sets)) {
+        renewFolder();
+        write("wall.csv", wallList);
+        write("stage.json", targetText(500.0));
+        QStringList arguments{"stage.json", "--wall", "wall.csv"};
+        for (const int option : set) {
+            arguments += options.at(option);
+        }
+        const Result result = run(arguments);
+        const QByteArray context = arguments.join(' ').toUtf8() + '\n' + result.error;
+        QVERIFY2(result.exitCode == 0, context);
+        QVERIFY2(QFile::exists(path("c.csv")) == set.contains(4), context);
+        QVERIFY2(QFile::exists(path("p.png")) == set.contains(5), context);
+        QVERIFY2(result.output.isEmpty() == !(set.contains(2) || set.contains(3)), context);
+        QVERIFY2(result.output.contains("Δu′v′ of the white") == set.contains(2), context);
+    }
 }
 
 void WallCommandTest::exitStatusTellsTheVerdict_data()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "windowfixture.h"
 
+#include "display/samples.h"
 #include "display/wallassessment.h"
 #include "drawing/picture.h"
 #include "drawing/wallpainter.h"
@@ -11,6 +12,7 @@
 #include "panel/sidepanel.h"
 #include "panel/verdict.h"
 #include "panel/wallmap.h"
+#include "panel/wallmapmodel.h"
 #include "panel/wallverdict.h"
 #include "panel/warningbar.h"
 #include "window/listdialog.h"
@@ -19,8 +21,10 @@
 #include <gamutfiles/correctionsfile.h>
 
 #include <QAccessible>
+#include <QAction>
 #include <QActionGroup>
 #include <QClipboard>
+#include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QToolButton>
@@ -41,6 +45,8 @@ private Q_SLOTS:
     void cabinetIsLeftOut();
     void draggingTheTargetIsFollowed();
     void cabinetsWithoutAPosition();
+    void incompleteCabinetsAreShown();
+    void sampleWallIsOpened();
     void tableIsSorted();
     void tableIsCopiedWhole();
     void wallIsRemoved();
@@ -353,6 +359,62 @@ void WallPageTest::cabinetsWithoutAPosition()
     QVERIFY(!f.page()->unplacedMap()->isVisible());
 }
 
+void WallPageTest::incompleteCabinetsAreShown()
+{
+    DisplayDescription d = oneDim();
+    d.wall.incomplete = {{QStringLiteral("C9"), Model::GridPosition{3, 5}, QStringLiteral("red is missing")},
+        {QStringLiteral("X"), std::nullopt, QStringLiteral("lost")}};
+    WallFixture f(d);
+    WallMap *map = f.page()->map();
+    const auto *model = qobject_cast<const WallMapModel *>(map->model());
+    QVERIFY(model);
+    QCOMPARE(model->columnCount(), 5);
+    const QModelIndex index = model->index(2, 4);
+    const auto cell = model->cell(index);
+    QVERIFY(cell);
+    QCOMPARE(cell->name, QStringLiteral("C9"));
+    QVERIFY(cell->judgement == Judgement::NotKnown);
+    QVERIFY(!cell->color.isValid());
+    QCOMPARE(index.data(Qt::AccessibleTextRole).toString(),
+        QStringLiteral("C9 3/5: nothing is known of it: red is missing"));
+    QVERIFY(!model->cell(model->index(0, 4))); // a gap
+    f.click(map, index);
+    QCOMPARE(f.selectedName(), QString());
+    f.click(map, map->indexOf(5));
+    QCOMPARE(f.selectedName(), QStringLiteral("B2"));
+    QVERIFY(f.page()->unplacedMap()->isVisible());
+    QVERIFY(f.page()->incompleteNote()->isVisible());
+    QCOMPARE(
+        f.page()->incompleteNote()->text(), QStringLiteral("Nothing is known of C9 3/5 (red is missing), X (lost)."));
+    PictureExtent extent;
+    extent.size = QSize(600, 500);
+    const QString file = f.settings.filePath(QStringLiteral("gaps.svg"));
+    QVERIFY(f.window->exportTo(file, f.page()->picture(), extent));
+    QFile svg(file);
+    QVERIFY(svg.open(QIODevice::ReadOnly));
+    QVERIFY(svg.readAll().contains("C9"));
+    f.window->setDescription(oneDim(), QString());
+    QVERIFY(!f.page()->incompleteNote()->isVisible());
+    QCOMPARE(model->columnCount(), 4);
+}
+
+void WallPageTest::sampleWallIsOpened()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    QAction *open = nullptr;
+    for (QAction *action : f.window->findChildren<QAction *>()) {
+        open = action->text() == QLatin1String("The &cabinets of a simulated wall") ? action : open;
+    }
+    QVERIFY(open);
+    const QString sample
+        = QFileInfo(QStringLiteral(SAMPLE_FILE)).dir().filePath(QFileInfo(sampleWallFile()).fileName());
+    QVERIFY(f.window->openWall(sample));
+    QCOMPARE(f.document().description().wall.cabinets.size(), std::size_t(96));
+    QCOMPARE(f.window->currentPage(), f.window->wallPage());
+    QVERIFY(f.window->warnings()->isHidden());
+}
+
 void WallPageTest::tableIsSorted()
 {
     DisplayDescription d = description(1, 12);
@@ -479,7 +541,7 @@ void WallPageTest::listIsOpenedAsAWall()
     });
     timer.start(1);
     QVERIFY(f.window->openPath(file));
-    QCOMPARE(first, QStringLiteral("the whole wall, 2 cabinets"));
+    QCOMPARE(first, QStringLiteral("the whole wall, 3 cabinets"));
     QVERIFY2(preview.contains(QStringLiteral("The list makes a wall.")), qPrintable(preview));
     QVERIFY2(preview.contains(QStringLiteral("A3")), qPrintable(preview));
     QVERIFY2(!preview.contains(QStringLiteral("choose")), qPrintable(preview)); // nothing is missing for a wall

@@ -150,8 +150,8 @@ void GamutFileTest::hugeFiles()
 
     const QString json = write("huge.json", QByteArray(16 * 1024 * 1024 + 1, '{'));
     QCOMPARE(messageFor(json), json + ": is too large for a display description (more than 16384 KiB)");
-    const QString csv = write("huge.csv", QByteArray("a,1,0.3,0.3\n").repeated(1024 * 1024 / 12 + 1));
-    QCOMPARE(messageFor(csv), csv + ": is too large for a measurement list (more than 1024 KiB)");
+    const QString csv = write("huge.csv", QByteArray("a,1,0.3,0.3\n").repeated(8 * 1024 * 1024 / 12 + 1));
+    QCOMPARE(messageFor(csv), csv + ": is too large for a measurement list (more than 8192 KiB)");
 #ifdef Q_OS_UNIX
     QCOMPARE(messageFor("/dev/zero"), QStringLiteral("/dev/zero: is larger than 32768 KiB"));
 #endif

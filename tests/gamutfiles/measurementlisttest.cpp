@@ -193,7 +193,7 @@ void MeasurementListTest::longest()
     QByteArray text = "a,1,0.3,0.3\n";
     text += QByteArray(maximumMeasurementBytes - text.size(), '#');
     QVERIFY(readMeasurementList(text));
-    QCOMPARE(errorOf(text + "#"), QStringLiteral("is too large for a measurement list (more than 1024 KiB)"));
+    QCOMPARE(errorOf(text + "#"), QStringLiteral("is too large for a measurement list (more than 8192 KiB)"));
 }
 
 void MeasurementListTest::spreadsheets_data()

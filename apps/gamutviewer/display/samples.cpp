@@ -26,6 +26,11 @@ QString sampleFile()
     return samplePath(QStringLiteral("led-wall.json"));
 }
 
+QString sampleWallFile()
+{
+    return samplePath(QStringLiteral("simulated-wall.csv"));
+}
+
 QStringList shippedTolerances()
 {
     const QDir folder(samplePath(QStringLiteral("tolerances")));

@@ -13,6 +13,9 @@ namespace gamutviewer {
  */
 QString sampleFile();
 
+/*! \brief The measurement list of a simulated wall that comes with the program. */
+QString sampleWallFile();
+
 /*! \brief The files of tolerances that come with the program, in the order of their names. */
 QStringList shippedTolerances();
 

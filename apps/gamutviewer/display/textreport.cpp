@@ -124,7 +124,7 @@ QStringList cabinetLines(const DisplayWall &wall, const WallAssessment &assessme
 {
     QVector<Row> rows{{ReportText::tr("cabinet"), ReportText::tr("shows the target"), ReportText::tr("limit"),
         ReportText::tr("largest white, %1").arg(luminanceUnitText(wall.unit)), ReportText::tr("headroom"),
-        ReportText::tr("Δu′v′ without correction"), ReportText::tr("with correction")}};
+        ReportText::tr("Δu′v′ of the white without correction"), ReportText::tr("Δu′v′ of the white with correction")}};
     for (const std::size_t i : assessment.worstFirst) {
         const CabinetAssessment &cabinet = assessment.cabinets[i];
         rows.append(
@@ -133,6 +133,12 @@ QStringList cabinetLines(const DisplayWall &wall, const WallAssessment &assessme
                 cabinet.largestWhite ? luminanceText(*cabinet.largestWhite) : undefinedText(),
                 cabinet.headroom ? changeText(*cabinet.headroom - 1.0) : undefinedText(), uvText(cabinet.uvBefore),
                 uvText(cabinet.uvAfter)});
+    }
+    for (const IncompleteCabinet &cabinet : wall.incomplete) {
+        rows.append({ReportText::tr("%1 (%2)", "cabinet, and why nothing is known of it")
+                         .arg(oneLine(incompleteLabel(cabinet)), oneLine(incompleteReasonText(cabinet))),
+            judgementName(Judgement::NotKnown), undefinedText(), undefinedText(), undefinedText(), undefinedText(),
+            undefinedText()});
     }
     return aligned(rows);
 }

@@ -60,6 +60,27 @@ QString shortName(const WallCabinet &cabinet)
     return oneLine(cabinet.name.isEmpty() ? cabinet.label() : cabinet.name);
 }
 
+QString shortName(const IncompleteCabinet &cabinet)
+{
+    return oneLine(cabinet.name.isEmpty() ? incompleteLabel(cabinet) : cabinet.name);
+}
+
+//! The position of each cabinet, by its number in a WallGrid.
+std::vector<std::optional<Model::GridPosition>> gridPositions(const DisplayWall &wall)
+{
+    std::vector<std::optional<Model::GridPosition>> positions;
+    positions.reserve(wall.cabinets.size() + wall.incomplete.size());
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        positions.push_back(cabinet.row && cabinet.column
+                ? std::make_optional(Model::GridPosition{*cabinet.row, *cabinet.column})
+                : std::nullopt);
+    }
+    for (const IncompleteCabinet &cabinet : wall.incomplete) {
+        positions.push_back(cabinet.position);
+    }
+    return positions;
+}
+
 QString leftOutMark()
 {
     return PainterText::tr("left out");
@@ -78,10 +99,11 @@ WallGrid placedCabinets(const DisplayWall &wall)
     std::set<int> rows;
     std::set<int> columns;
     std::size_t count = 0;
-    for (const WallCabinet &cabinet : wall.cabinets) {
-        if (cabinet.row && cabinet.column) {
-            rows.insert(*cabinet.row);
-            columns.insert(*cabinet.column);
+    const auto positions = gridPositions(wall);
+    for (const auto &position : positions) {
+        if (position) {
+            rows.insert(position->row);
+            columns.insert(position->column);
             ++count;
         }
     }
@@ -103,13 +125,13 @@ WallGrid placedCabinets(const DisplayWall &wall)
         return WallGrid();
     }
     grid.cells.resize(std::size_t(grid.rows) * std::size_t(grid.columns));
-    for (std::size_t i = 0; i < wall.cabinets.size(); ++i) {
-        const WallCabinet &cabinet = wall.cabinets[i];
-        if (!cabinet.row || !cabinet.column) {
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        if (!positions[i]) {
             continue;
         }
-        const int row = keepsGaps ? *cabinet.row - *rows.begin() : rowRanks.at(*cabinet.row);
-        const int column = keepsGaps ? *cabinet.column - *columns.begin() : columnRanks.at(*cabinet.column);
+        const Model::GridPosition &at = *positions[i];
+        const int row = keepsGaps ? at.row - *rows.begin() : rowRanks.at(at.row);
+        const int column = keepsGaps ? at.column - *columns.begin() : columnRanks.at(at.column);
         auto &cell = grid.cells[std::size_t(row) * std::size_t(grid.columns) + std::size_t(column)];
         if (!cell) {
             cell = i;
@@ -120,7 +142,7 @@ WallGrid placedCabinets(const DisplayWall &wall)
 
 WallGrid unplacedCabinets(const DisplayWall &wall)
 {
-    std::vector<bool> isPlaced(wall.cabinets.size(), false);
+    std::vector<bool> isPlaced(wall.cabinets.size() + wall.incomplete.size(), false);
     for (const auto &cell : placedCabinets(wall).cells) {
         if (cell) {
             isPlaced[*cell] = true;
@@ -148,10 +170,14 @@ WallCell wallCell(
     const DisplayWall &wall, const CabinetAssessment *assessment, const WallScale &scale, std::size_t cabinet)
 {
     WallCell cell;
-    cell.name = shortName(wall.cabinets[cabinet]);
-    cell.isLeftOut = wall.cabinets[cabinet].isLeftOut;
     cell.judgement = Judgement::NotKnown;
     cell.value = undefinedText();
+    if (cabinet >= wall.cabinets.size()) {
+        cell.name = shortName(wall.incomplete[cabinet - wall.cabinets.size()]);
+        return cell;
+    }
+    cell.name = shortName(wall.cabinets[cabinet]);
+    cell.isLeftOut = wall.cabinets[cabinet].isLeftOut;
     if (assessment) {
         cell.color = scale.color(*assessment);
         cell.value = wallValueText(*assessment, scale.quantity());
@@ -184,6 +210,9 @@ int longestName(const DisplayWall &wall)
 {
     int longest = 1;
     for (const WallCabinet &cabinet : wall.cabinets) {
+        longest = std::max(longest, int(shortName(cabinet).size()));
+    }
+    for (const IncompleteCabinet &cabinet : wall.incomplete) {
         longest = std::max(longest, int(shortName(cabinet).size()));
     }
     return std::min(longest, longestShownName);
@@ -372,10 +401,10 @@ void paintWallPicture(QPainter *painter, const QRectF &place, const WallPicture 
         for (int row = 0; row < grid.rows; ++row) {
             for (int column = 0; column < grid.columns; ++column) {
                 if (const auto cabinet = grid.at(row, column)) {
+                    const CabinetAssessment *assessed = *cabinet < cabinets.size() ? &cabinets[*cabinet] : nullptr;
                     paintWallCell(painter,
                         QRectF(QPointF(map.left() + column * cell.width(), top + row * cell.height()), cell),
-                        wallCell(picture.wall, picture.assessment ? &cabinets[*cabinet] : nullptr, scale, *cabinet),
-                        fonts, palette);
+                        wallCell(picture.wall, assessed, scale, *cabinet), fonts, palette);
                 }
             }
         }

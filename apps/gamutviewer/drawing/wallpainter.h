@@ -27,7 +27,12 @@ namespace gamutviewer {
 struct WallGrid {
     int rows = 0; //!< downwards
     int columns = 0; //!< to the right
-    std::vector<std::optional<std::size_t>> cells; //!< the cabinet of each place, row by row; nothing for a gap
+    /*!
+     * \brief The cabinet of each place, row by row; nothing for a gap.
+     *
+     * After the numbers of DisplayWall::cabinets come those of DisplayWall::incomplete.
+     */
+    std::vector<std::optional<std::size_t>> cells;
 
     /*! \brief The cabinet in \a row and \a column, which are counted from 0; nothing for a gap or outside. */
     std::optional<std::size_t> at(int row, int column) const;
@@ -54,7 +59,7 @@ struct WallCell {
     bool isSelected = false; //!< with a frame in the accent colour
 };
 
-/*! \brief How \a cabinet is drawn. */
+/*! \brief How \a cabinet, by its number in a WallGrid, is drawn. */
 WallCell wallCell(
     const DisplayWall &wall, const CabinetAssessment *assessment, const WallScale &scale, std::size_t cabinet);
 

@@ -26,7 +26,7 @@ struct CommandText {
     Q_DECLARE_TR_FUNCTIONS(gamutviewer::WallCommand)
 };
 
-constexpr int namedCabinets = 4; // in a note
+constexpr std::size_t namedCabinets = 4; // in a note
 
 //! What a name on the command line stands for: the only one of \a names that is it, in any case of letters.
 std::optional<QString> meantName(const QStringList &names, const QString &wanted)
@@ -53,46 +53,75 @@ QStringList gamutNames(const DisplayDescription &description)
     return names;
 }
 
+//! What a cabinet can be called.
+struct Called {
+    QString label;
+    QString name;
+    QString place;
+};
+
+//! All cabinets of \a wall, those that were measured incompletely last.
+std::vector<Called> calledCabinets(const DisplayWall &wall)
+{
+    std::vector<Called> result;
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        result.push_back({cabinet.label(), cabinet.name, cabinetLabel(QString(), cabinet.row, cabinet.column)});
+    }
+    for (const IncompleteCabinet &cabinet : wall.incomplete) {
+        result.push_back({incompleteLabel(cabinet), cabinet.name, incompleteLabel({{}, cabinet.position, {}})});
+    }
+    return result;
+}
+
 //! The index of the only cabinet that is called \a wanted.
 Outcome<std::size_t> cabinetCalled(const DisplayWall &wall, const QString &wanted)
 {
     using Failure = Outcome<std::size_t>;
+    const std::vector<Called> all = calledCabinets(wall);
     std::vector<std::size_t> found;
-    const auto find = [&](auto nameOf) {
-        for (std::size_t i = 0; i < wall.cabinets.size() && found.size() < 2; ++i) {
-            if (nameOf(wall.cabinets[i]).compare(wanted, Qt::CaseInsensitive) == 0) {
+    for (const auto &text : {&Called::label, &Called::name, &Called::place}) {
+        for (std::size_t i = 0; i < all.size() && found.size() < 2; ++i) {
+            if ((all[i].*text).compare(wanted, Qt::CaseInsensitive) == 0) {
                 found.push_back(i);
             }
         }
-    };
-    find([](const WallCabinet &cabinet) { return cabinet.label(); });
-    if (found.empty()) {
-        find([](const WallCabinet &cabinet) { return cabinet.name; });
-    }
-    if (found.empty()) {
-        find([](const WallCabinet &cabinet) { return cabinetLabel(QString(), cabinet.row, cabinet.column); });
+        if (!found.empty()) {
+            break;
+        }
     }
     if (found.empty()) {
         return Failure::failure(CommandText::tr("no cabinet of the wall is called \"%1\"").arg(oneLine(wanted)));
     }
     if (found.size() > 1) {
         return Failure::failure(CommandText::tr("several cabinets are called \"%1\": %2 and %3, for example")
-                                    .arg(oneLine(wanted), cabinetName(wall, found[0]), cabinetName(wall, found[1])));
+                                    .arg(oneLine(wanted), oneLine(all[found[0]].label), oneLine(all[found[1]].label)));
+    }
+    if (found.front() >= wall.cabinets.size()) {
+        const IncompleteCabinet &incomplete = wall.incomplete[found.front() - wall.cabinets.size()];
+        return Failure::failure(
+            CommandText::tr("there is no correction for %1: %2", "cabinet, and why")
+                .arg(oneLine(incompleteLabel(incomplete)), oneLine(incompleteReasonText(incomplete))));
     }
     return found.front();
 }
 
-QString namesOf(const DisplayWall &wall, const std::vector<std::size_t> &cabinets)
+//! The first of \a cabinets and then of \a incomplete, and how many there are besides.
+QString namesOf(const DisplayWall &wall, const std::vector<std::size_t> &cabinets,
+    const std::vector<IncompleteCabinet> &incomplete = {})
 {
     QStringList names;
     for (std::size_t i = 0; i < cabinets.size() && i < namedCabinets; ++i) {
         names.append(cabinetName(wall, cabinets[i]));
     }
+    for (std::size_t i = 0; i < incomplete.size() && names.size() < int(namedCabinets); ++i) {
+        names.append(CommandText::tr("%1 (%2)", "cabinet, and why nothing is known of it")
+                         .arg(oneLine(incompleteLabel(incomplete[i])), oneLine(incompleteReasonText(incomplete[i]))));
+    }
     const QString text = names.join(QStringLiteral(", "));
-    return cabinets.size() > namedCabinets ? CommandText::tr("%1 and %2 more", "names of cabinets and a number")
-                                                 .arg(text)
-                                                 .arg(cabinets.size() - namedCabinets)
-                                           : text;
+    const std::size_t all = cabinets.size() + incomplete.size();
+    return all > namedCabinets
+        ? CommandText::tr("%1 and %2 more", "names of cabinets and a number").arg(text).arg(all - namedCabinets)
+        : text;
 }
 
 //! What is to be corrected: a wall, or a single display as a wall of one.
@@ -139,6 +168,7 @@ std::optional<DisplayWall> singleDisplay(const DisplayDescription &description)
 void keepOnly(std::size_t cabinet, Corrected &corrected)
 {
     corrected.wall.cabinets = {corrected.wall.cabinets[cabinet]};
+    corrected.wall.incomplete.clear();
     corrected.solved.corrections = {corrected.solved.corrections[cabinet]};
     const bool isNotAdditive
         = std::find(corrected.notAdditive.begin(), corrected.notAdditive.end(), cabinet) != corrected.notAdditive.end();
@@ -202,8 +232,9 @@ QStringList notesOn(const Corrected &corrected, bool isWall)
             beyond.push_back(i);
         }
     }
-    if (!without.empty()) {
-        notes.append(CommandText::tr("cabinets without a correction: %1").arg(namesOf(corrected.wall, without)));
+    if (!without.empty() || !corrected.wall.incomplete.empty()) {
+        notes.append(CommandText::tr("cabinets without a correction: %1")
+                         .arg(namesOf(corrected.wall, without, corrected.wall.incomplete)));
     }
     if (!beyond.empty()) {
         notes.append(

@@ -32,19 +32,24 @@ void WallMapModel::refresh(const WallScale &scale)
     m_scale = scale;
     const auto &assessment = m_session->assessment().wall;
     m_longestValue = assessment ? gamutviewer::longestValue(assessment->cabinets, scale) : undefinedText();
-    const auto isSame = [](const Place &place, const WallCabinet &cabinet) {
-        return place.row == cabinet.row && place.column == cabinet.column;
+    std::vector<Place> places;
+    for (const WallCabinet &cabinet : wall().cabinets) {
+        places.push_back({cabinet.row, cabinet.column, false});
+    }
+    for (const IncompleteCabinet &cabinet : wall().incomplete) {
+        const auto &at = cabinet.position;
+        places.push_back({at ? std::make_optional(at->row) : std::nullopt,
+            at ? std::make_optional(at->column) : std::nullopt, true});
+    }
+    const auto isSame = [](const Place &a, const Place &b) {
+        return a.row == b.row && a.column == b.column && a.isIncomplete == b.isIncomplete;
     };
-    const auto &cabinets = wall().cabinets;
-    if (!std::equal(m_places.begin(), m_places.end(), cabinets.begin(), cabinets.end(), isSame)) {
+    if (!std::equal(m_places.begin(), m_places.end(), places.begin(), places.end(), isSame)) {
         beginResetModel();
-        m_places.clear();
-        for (const WallCabinet &cabinet : cabinets) {
-            m_places.push_back({cabinet.row, cabinet.column});
-        }
+        m_places = std::move(places);
         m_grid = m_gridOf(wall());
         m_longestName = gamutviewer::longestName(wall());
-        m_indexes.assign(cabinets.size(), QModelIndex());
+        m_indexes.assign(m_places.size(), QModelIndex());
         for (int row = 0; row < m_grid.rows; ++row) {
             for (int column = 0; column < m_grid.columns; ++column) {
                 if (const auto cabinet = m_grid.at(row, column)) {
@@ -64,6 +69,14 @@ std::optional<std::size_t> WallMapModel::cabinetAt(const QModelIndex &index) con
     return cabinet && *cabinet < wall().cabinets.size() ? cabinet : std::nullopt;
 }
 
+const IncompleteCabinet *WallMapModel::incompleteAt(const QModelIndex &index) const
+{
+    const std::size_t before = wall().cabinets.size();
+    const auto number = index.isValid() ? m_grid.at(index.row(), index.column()) : std::nullopt;
+    const bool isIncomplete = number && *number >= before && *number - before < wall().incomplete.size();
+    return isIncomplete ? &wall().incomplete[*number - before] : nullptr;
+}
+
 QModelIndex WallMapModel::indexOf(std::size_t cabinet) const
 {
     return cabinet < m_indexes.size() ? m_indexes[cabinet] : QModelIndex();
@@ -71,8 +84,11 @@ QModelIndex WallMapModel::indexOf(std::size_t cabinet) const
 
 std::optional<WallCell> WallMapModel::cell(const QModelIndex &index) const
 {
-    const auto cabinet = cabinetAt(index);
-    return cabinet ? std::make_optional(wallCell(wall(), assessed(*cabinet), m_scale, *cabinet)) : std::nullopt;
+    const auto number = index.isValid() ? m_grid.at(index.row(), index.column()) : std::nullopt;
+    if (!number || *number >= wall().cabinets.size() + wall().incomplete.size()) {
+        return std::nullopt;
+    }
+    return wallCell(wall(), assessed(*number), m_scale, *number);
 }
 
 int WallMapModel::rowCount(const QModelIndex &parent) const
@@ -87,7 +103,9 @@ int WallMapModel::columnCount(const QModelIndex &parent) const
 
 Qt::ItemFlags WallMapModel::flags(const QModelIndex &index) const
 {
-    return cabinetAt(index) ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren : Qt::NoItemFlags;
+    return cabinetAt(index)   ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren
+        : incompleteAt(index) ? Qt::ItemIsEnabled | Qt::ItemNeverHasChildren
+                              : Qt::NoItemFlags;
 }
 
 //! "F9, headroom −6 %, does not show the target".
@@ -106,6 +124,15 @@ QString WallMapModel::description(std::size_t cabinet) const
 
 QVariant WallMapModel::data(const QModelIndex &index, int role) const
 {
+    if (const IncompleteCabinet *incomplete = incompleteAt(index)) {
+        const QString text
+            = tr("%1: nothing is known of it: %2", "cabinet, and why")
+                  .arg(oneLine(incompleteLabel(*incomplete)), oneLine(incompleteReasonText(*incomplete)));
+        return role == Qt::DisplayRole                                                ? QVariant(undefinedText())
+            : role == Qt::ToolTipRole                                                 ? QVariant(plainToolTip(text))
+            : role == Qt::AccessibleTextRole || role == Qt::AccessibleDescriptionRole ? QVariant(text)
+                                                                                      : QVariant();
+    }
     const auto cabinet = cabinetAt(index);
     if (!cabinet) {
         return QVariant();

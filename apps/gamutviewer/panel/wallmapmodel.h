@@ -22,7 +22,10 @@ public:
 
     void refresh(const WallScale &scale);
     const WallGrid &grid() const { return m_grid; }
+    /*! \brief The cabinet that can be selected at \a index: none that was measured incompletely. */
     std::optional<std::size_t> cabinetAt(const QModelIndex &index) const;
+    /*! \brief The incompletely measured cabinet at \a index; null for others and for gaps. */
+    const IncompleteCabinet *incompleteAt(const QModelIndex &index) const;
     QModelIndex indexOf(std::size_t cabinet) const;
     /*! \brief How the cabinet at \a index is drawn, but for its selection; nothing for a gap. */
     std::optional<WallCell> cell(const QModelIndex &index) const;
@@ -38,6 +41,7 @@ private:
     struct Place {
         std::optional<int> row;
         std::optional<int> column;
+        bool isIncomplete = false;
     };
 
     const DisplayWall &wall() const;

@@ -239,6 +239,12 @@ CommandLine::CommandLine(const QStringList &arguments)
     if (m_parser.isSet(render)) {
         readPicture(m_parser.value(render));
     }
+    checkStandardInput();
+    for (const QCommandLineOption *option : {&wall, &target, &corrections, &tolerances, &render, &report}) {
+        if (m_parser.values(*option).size() > 1) {
+            refuse(tr("--%1 can be used only once.").arg(option->names().first()));
+        }
+    }
     if (m_parser.isSet(report)) {
         readReport(m_parser.value(report));
         if (m_files.isEmpty() && m_wallFile.isEmpty()) {
@@ -459,10 +465,34 @@ void CommandLine::readFollowed(const QStringList &fileNames)
         refuse(tr("--follow can be used only once."));
     } else if (m_followedFile.isEmpty()) {
         refuse(tr("The file name of --follow is empty."));
-    } else if (!m_needsDisplay) {
-        refuse(tr("--follow requires the window and does not apply to --render, --report and --check."));
-    } else if (isStandardInput(m_followedFile) && m_files.contains(m_followedFile)) {
-        refuse(tr("Standard input cannot be both opened and followed."));
+    }
+    for (const char *writing : {"render", "report", "check", "corrections"}) {
+        const QString name = QString::fromLatin1(writing);
+        if (m_parser.isSet(name)) {
+            refuse(tr("--follow cannot be used with --%1: it requires the window.").arg(name));
+        }
+    }
+}
+
+//! Each file is read from the beginning and as a whole, which standard input gives once.
+void CommandLine::checkStandardInput()
+{
+    const QString opened = tr("a file");
+    QStringList users;
+    for (const QString &file : qAsConst(m_files)) {
+        if (isStandardInput(file)) {
+            users.append(opened);
+        }
+    }
+    const std::pair<const char *, const QString *> options[]
+        = {{"--wall", &m_wallFile}, {"--tolerances", &m_tolerancesFile}, {"--follow", &m_followedFile}};
+    for (const auto &option : options) {
+        if (isStandardInput(*option.second)) {
+            users.append(QString::fromLatin1(option.first));
+        }
+    }
+    if (users.size() > 1) {
+        refuse(tr("Standard input can be read only once, not as %1 and as %2.").arg(users.at(0), users.at(1)));
     }
 }
 

@@ -89,6 +89,7 @@ private:
     void readReport(const QString &format);
     void readFollowed(const QStringList &fileNames);
     void readCorrections(const QString &fileName);
+    void checkStandardInput();
 
     QCommandLineParser m_parser;
     Action m_action = Action::Show;

@@ -630,6 +630,15 @@
         <comment>gamut and distance</comment>
         <translation>超出%1，Δu′v′ 为 %2</translation>
     </message>
+    <message>
+        <source>outside of the cabinet %1 by Δu′v′ %2</source>
+        <translation>超出箱体 %1，Δu′v′ 为 %2</translation>
+    </message>
+    <message>
+        <source>outside of %1 cabinets, of %2 by Δu′v′ %3</source>
+        <comment>how many, the farthest, and how far</comment>
+        <translation>超出 %1 个箱体，其中超出 %2 的 Δu′v′ 为 %3</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::ExportDialog</name>
@@ -1601,16 +1610,21 @@
         <translation>余量</translation>
     </message>
     <message>
-        <source>Δu′v′ without correction</source>
-        <translation>未校正 Δu′v′</translation>
-    </message>
-    <message>
-        <source>with correction</source>
-        <translation>已校正</translation>
-    </message>
-    <message>
         <source>left out</source>
         <translation>已排除</translation>
+    </message>
+    <message>
+        <source>Δu′v′ of the white without correction</source>
+        <translation>未校正时白的 Δu′v′</translation>
+    </message>
+    <message>
+        <source>Δu′v′ of the white with correction</source>
+        <translation>校正后白的 Δu′v′</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>cabinet, and why nothing is known of it</comment>
+        <translation>%1（%2）</translation>
     </message>
 </context>
 <context>
@@ -2008,6 +2022,18 @@ Ctrl+1 到 Ctrl+4 – 显示页面</translation>
         <source>Wall</source>
         <translation>墙</translation>
     </message>
+    <message>
+        <source>Open sam&amp;ple</source>
+        <translation>打开示例(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The &amp;gamuts of an LED wall</source>
+        <translation>LED 墙的色域(&amp;G)</translation>
+    </message>
+    <message>
+        <source>The &amp;cabinets of a simulated wall</source>
+        <translation>模拟墙的箱体(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallAssessment</name>
@@ -2401,6 +2427,16 @@ Ctrl+1 到 Ctrl+4 – 显示页面</translation>
         <source>there is nothing to correct: no wall, and no measured or original gamut</source>
         <translation>没有可校正的对象：没有墙，也没有测量或原始色域</translation>
     </message>
+    <message>
+        <source>there is no correction for %1: %2</source>
+        <comment>cabinet, and why</comment>
+        <translation>%1 没有校正：%2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>cabinet, and why nothing is known of it</comment>
+        <translation>%1（%2）</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallMap</name>
@@ -2454,6 +2490,11 @@ Ctrl+1 到 Ctrl+4 – 显示页面</translation>
         <comment>what is known of a cabinet</comment>
         <translation>%1，已排除</translation>
     </message>
+    <message>
+        <source>%1: nothing is known of it: %2</source>
+        <comment>cabinet, and why</comment>
+        <translation>%1：情况未知：%2</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallPage</name>
@@ -2501,6 +2542,21 @@ Open a list of measurements with a column for the cabinet, or for its row and co
     <message>
         <source>Arrows: next cabinet   Esc: none</source>
         <translation>方向键：下一个箱体   Esc：不选</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>cabinet, and why nothing is known of it</comment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <comment>names of cabinets and a number</comment>
+        <translation>%1 以及另外 %2 个</translation>
+    </message>
+    <message>
+        <source>Nothing is known of %1.</source>
+        <comment>cabinets</comment>
+        <translation>以下箱体情况未知：%1。</translation>
     </message>
 </context>
 <context>

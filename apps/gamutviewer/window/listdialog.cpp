@@ -144,7 +144,8 @@ void ListDialog::fillCabinets()
         ? std::make_optional(wallFromMeasurements(read->measurements))
         : std::nullopt;
     if (wall && *wall) {
-        m_cabinet->addItem(tr("the whole wall, %1 cabinets").arg((*wall)->cabinets.size()), QString());
+        m_cabinet->addItem(
+            tr("the whole wall, %1 cabinets").arg((*wall)->cabinets.size() + (*wall)->incomplete.size()), QString());
         m_cabinet->setItemData(0, true, wallRole);
     } else {
         m_cabinet->addItem(tr("all of them, which make no gamut"), QString());

@@ -168,7 +168,6 @@ bool ViewerWindow::openPaths(const QStringList &fileNames, Manner manner, const 
         warn(read.error());
         return false;
     }
-    m_panel->editor()->takeTyped();
     QVector<ReadFile> files = *read;
     for (ReadFile &file : files) {
         if (walls.contains(file.fileName)) {
@@ -177,6 +176,25 @@ bool ViewerWindow::openPaths(const QStringList &fileNames, Manner manner, const 
             }
         }
     }
+    return openRead(files, manner);
+}
+
+bool ViewerWindow::openWall(const QString &fileName)
+{
+    MeasurementOptions options;
+    options.isWall = true;
+    const auto read = readFiles({fileName}, [&options](const QString &file) { return readGamutFile(file, options); });
+    const auto wall = read ? asWall(read->constFirst()) : Outcome<ReadFile>::failure(read.problem());
+    if (!wall) {
+        warn(wall.error());
+        return false;
+    }
+    return openRead({*wall}, Manner::Open);
+}
+
+bool ViewerWindow::openRead(const QVector<ReadFile> &files, Manner manner)
+{
+    m_panel->editor()->takeTyped();
     const bool isOpened = givesWay() ? openAlone(files) : openByQuestion(files, manner);
     if (isOpened && std::any_of(files.cbegin(), files.cend(), [](const ReadFile &file) { return bool(file.wall); })) {
         m_pages->setCurrentWidget(m_wallPage);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "display/gamutfiles.h"
+#include "display/samples.h"
 #include "editing/targetsession.h"
 #include "panel/plaintooltip.h"
 #include "panel/sidepanel.h"
@@ -58,6 +59,9 @@ void ViewerWindow::buildFileMenu()
     addItem(menu, tr("A&dd…"), Qt::CTRL | Qt::SHIFT | Qt::Key_O, this, [this] { openByDialog(Manner::Add); });
     m_recentMenu = menu->addMenu(tr("Open &recent"));
     connect(m_recentMenu, &QMenu::aboutToShow, this, &ViewerWindow::fillRecentMenu);
+    QMenu *samples = menu->addMenu(tr("Open sam&ple"));
+    samples->addAction(tr("The &gamuts of an LED wall"), this, [this] { openPath(sampleFile()); });
+    samples->addAction(tr("The &cabinets of a simulated wall"), this, [this] { openWall(sampleWallFile()); });
     m_followMenu = new FollowMenu(&m_document, this);
     menu->addMenu(m_followMenu);
     menu->addSeparator();

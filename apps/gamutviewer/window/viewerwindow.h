@@ -65,6 +65,11 @@ public:
     bool openPaths(const QStringList &fileNames, Manner manner = Manner::Open,
         const MeasurementOptions &options = MeasurementOptions());
     bool openPath(const QString &fileName) { return openPaths({fileName}); }
+    /*!
+     * \brief Opens the measurement list \a fileName as openPaths() does, but as a wall without a question, and shows
+     * the page of walls.
+     */
+    bool openWall(const QString &fileName);
     /*! \brief An empty description instead of what is open; false when the user would lose changes by it. */
     bool closeDocument();
     /*! \brief Shows the list of gamuts, which stays open beside the window. */
@@ -115,6 +120,7 @@ private:
 
     void newDocument();
     void openByDialog(Manner manner);
+    bool openRead(const QVector<ReadFile> &files, Manner manner);
     bool openAlone(const QVector<ReadFile> &files);
     bool openByQuestion(const QVector<ReadFile> &files, Manner manner);
     static QString stepName(const QStringList &added);

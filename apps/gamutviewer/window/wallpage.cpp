@@ -166,6 +166,13 @@ QWidget *WallPage::buildNumbers()
     m_table = new CabinetTable(m_session, numbers);
     m_table->setFont(small);
     column->addWidget(m_table, 3);
+    m_incomplete = new QLabel(numbers);
+    m_incomplete->setFont(small);
+    m_incomplete->setTextFormat(Qt::PlainText);
+    m_incomplete->setWordWrap(true);
+    m_incomplete->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_incomplete->hide();
+    column->addWidget(m_incomplete);
     connect(m_worst, &QToolButton::clicked, m_table, &CabinetTable::sortByJudgement);
     connect(m_copy, &QToolButton::clicked, m_table, &CabinetTable::copy);
     return numbers;
@@ -208,6 +215,24 @@ void WallPage::refresh()
         look->refresh();
     }
     m_table->refresh();
+    refreshIncomplete();
+}
+
+void WallPage::refreshIncomplete()
+{
+    constexpr std::size_t mostNamed = 4;
+    const auto &incomplete = document()->description().wall.incomplete;
+    QStringList names;
+    for (std::size_t i = 0; i < incomplete.size() && i < mostNamed; ++i) {
+        names.append(tr("%1 (%2)", "cabinet, and why nothing is known of it")
+                         .arg(oneLine(incompleteLabel(incomplete[i])), oneLine(incompleteReasonText(incomplete[i]))));
+    }
+    QString text = names.join(QStringLiteral(", "));
+    if (incomplete.size() > mostNamed) {
+        text = tr("%1 and %2 more", "names of cabinets and a number").arg(text).arg(incomplete.size() - mostNamed);
+    }
+    m_incomplete->setText(tr("Nothing is known of %1.", "cabinets").arg(text));
+    m_incomplete->setVisible(!incomplete.empty());
 }
 
 void WallPage::refreshMaps()

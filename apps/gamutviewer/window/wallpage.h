@@ -43,6 +43,8 @@ public:
     WallMap *unplacedMap() const { return m_unplaced; }
     WallLegend *legend() const { return m_legend; }
     CabinetTable *table() const { return m_table; }
+    /*! \brief Names the cabinets that were measured incompletely; hidden while there are none. */
+    QLabel *incompleteNote() const { return m_incomplete; }
     CloseLook *closeLook(ceiechart::GamutVertex primary) const { return m_looks.at(std::size_t(primary)); }
     /*! \brief Chooses what the map is coloured by; its actions carry a WallQuantity. */
     QActionGroup *quantities() const { return m_quantities; }
@@ -63,6 +65,7 @@ private:
     QWidget *buildNumbers();
     void buildQuantities(QHBoxLayout *bar);
     void refreshMaps();
+    void refreshIncomplete();
     void shareRoom();
 
     TargetSession *m_session;
@@ -81,6 +84,7 @@ private:
     QToolButton *m_worst;
     QToolButton *m_copy;
     CabinetTable *m_table;
+    QLabel *m_incomplete;
 };
 
 } // namespace gamutviewer

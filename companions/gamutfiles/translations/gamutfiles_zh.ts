@@ -258,6 +258,14 @@
         <source>missing: row and column are only known together</source>
         <translation>缺少：行和列须同时给出</translation>
     </message>
+    <message>
+        <source>there is no other cabinet</source>
+        <translation>没有其他箱体</translation>
+    </message>
+    <message>
+        <source>must not be empty</source>
+        <translation>不得为空</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Edid</name>
@@ -1196,24 +1204,72 @@
         <translation>没有箱体既有名称，又有红、绿、蓝各一次</translation>
     </message>
     <message>
-        <source>cabinets left out, as they have no name of their own: %1</source>
-        <translation>以下箱体没有自己的名称，未采用：%1</translation>
-    </message>
-    <message>
-        <source>cabinets left out, as red, green or blue is missing or has no chromaticity: %1</source>
-        <translation>以下箱体缺少红、绿或蓝，或其没有色品，未采用：%1</translation>
-    </message>
-    <message>
-        <source>cabinets left out, as a colour is there more than once: %1</source>
-        <translation>以下箱体有颜色出现多次，未采用：%1</translation>
-    </message>
-    <message>
         <source>cabinets whose black is not used, as it has no chromaticity: %1</source>
         <translation>以下箱体的黑没有色品，未使用：%1</translation>
     </message>
     <message>
         <source>several cabinets have the same row and column: they are parts of the names, and no place is known</source>
         <translation>有多个箱体的行和列相同：行和列成为名称的一部分，位置未知</translation>
+    </message>
+    <message>
+        <source>red is missing</source>
+        <translation>缺少红</translation>
+    </message>
+    <message>
+        <source>green is missing</source>
+        <translation>缺少绿</translation>
+    </message>
+    <message>
+        <source>blue is missing</source>
+        <translation>缺少蓝</translation>
+    </message>
+    <message>
+        <source>red has no chromaticity</source>
+        <translation>红没有色品</translation>
+    </message>
+    <message>
+        <source>green has no chromaticity</source>
+        <translation>绿没有色品</translation>
+    </message>
+    <message>
+        <source>blue has no chromaticity</source>
+        <translation>蓝没有色品</translation>
+    </message>
+    <message>
+        <source>red is there more than once</source>
+        <translation>红出现多次</translation>
+    </message>
+    <message>
+        <source>green is there more than once</source>
+        <translation>绿出现多次</translation>
+    </message>
+    <message>
+        <source>blue is there more than once</source>
+        <translation>蓝出现多次</translation>
+    </message>
+    <message>
+        <source>white is there more than once</source>
+        <translation>白出现多次</translation>
+    </message>
+    <message>
+        <source>black is there more than once</source>
+        <translation>黑出现多次</translation>
+    </message>
+    <message>
+        <source>it has no name of its own</source>
+        <translation>没有自己的名称</translation>
+    </message>
+    <message>
+        <source>cabinets of which nothing is known, as they have no name of their own: %1</source>
+        <translation>以下箱体没有自己的名称，情况未知：%1</translation>
+    </message>
+    <message>
+        <source>cabinets of which nothing is known, as red, green or blue is missing or has no chromaticity: %1</source>
+        <translation>以下箱体缺少红、绿或蓝，或其没有色品，情况未知：%1</translation>
+    </message>
+    <message>
+        <source>cabinets of which nothing is known, as a colour is there more than once: %1</source>
+        <translation>以下箱体有颜色出现多次，情况未知：%1</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "promises.h"
+
+#include <gamutfiles/correctionsfile.h>
+
+#include <algorithm>
+
+namespace {
+
+void requireFinite(const gamutfiles::WallCorrections &corrections)
+{
+    const gamutfiles::CorrectionTarget &target = corrections.target;
+    for (const Model::DiagramPoint &xy : {target.red, target.green, target.blue, target.white}) {
+        fuzz::require(std::isfinite(xy.x) && std::isfinite(xy.y), "a chromaticity is finite");
+    }
+    fuzz::require(std::isfinite(target.luminance) && target.luminance > 0.0, "the white has a luminance");
+    fuzz::require(!corrections.cabinets.empty(), "there is a cabinet");
+    for (const gamutfiles::CabinetCorrection &cabinet : corrections.cabinets) {
+        fuzz::require(!cabinet.label().trimmed().isEmpty(), "a cabinet has a name");
+        fuzz::require(cabinet.row.has_value() == cabinet.column.has_value(), "a place is a row and a column");
+        fuzz::require(cabinet.matrix.has_value() == cabinet.fault.isEmpty(), "there is a matrix or a fault");
+        fuzz::require(!cabinet.largestWhite || std::isfinite(*cabinet.largestWhite), "a luminance is finite");
+        if (cabinet.matrix) {
+            for (const auto &row : cabinet.matrix->rows) {
+                for (const double entry : row) {
+                    fuzz::require(std::isfinite(entry), "an entry is finite");
+                }
+            }
+        }
+    }
+}
+
+//! CSV has one line end, in which two names may become the same.
+bool hasCarriageReturn(const gamutfiles::WallCorrections &corrections)
+{
+    return std::any_of(
+        corrections.cabinets.begin(), corrections.cabinets.end(), [](const gamutfiles::CabinetCorrection &cabinet) {
+            return cabinet.name.contains(QLatin1Char('\r')) || cabinet.fault.contains(QLatin1Char('\r'));
+        });
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const auto corrections = gamutfiles::readCorrections(fuzz::bytes(data, size));
+    fuzz::requireOutcome(corrections);
+    if (!corrections) {
+        return 0;
+    }
+    requireFinite(*corrections);
+    // The numbers are written with as many digits as it takes, so that equal texts mean equal bits.
+    const QByteArray json = gamutfiles::correctionsJson(*corrections);
+    const auto again = gamutfiles::readCorrections(json);
+    fuzz::require(bool(again), "what is written as JSON can be read");
+    fuzz::require(gamutfiles::correctionsJson(*again) == json, "writing and reading JSON changes nothing");
+    if (hasCarriageReturn(*corrections)) {
+        return 0;
+    }
+    const QByteArray csv = gamutfiles::correctionsCsv(*corrections);
+    const auto table = gamutfiles::readCorrections(csv);
+    fuzz::require(bool(table), "what is written as CSV can be read");
+    fuzz::require(gamutfiles::correctionsCsv(*table) == csv, "writing and reading CSV changes nothing");
+    return 0;
+}
