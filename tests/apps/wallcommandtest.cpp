@@ -224,6 +224,9 @@ void WallCommandTest::incompleteCabinetsAreNamed()
         QCOMPARE(one.exitCode, 2);
         QVERIFY2(one.error.endsWith("one.json: there is no correction for A3 1/3: green is missing\n"), one.error);
     }
+    // A cabinet and one that is not known are a wall, too.
+    write("two.csv", wallList.left(wallList.indexOf("A2")) + "A2,1,2,red,0.6950,0.3040,250.8\n");
+    QCOMPARE(wallAmong({path("two.csv")}, {}), path("two.csv"));
     // The others are corrected as ever.
     const Result one = run({"stage.json", "--wall", "gaps.csv", "--cabinet", "A4", "--corrections", "one.cube"});
     QVERIFY2(one.exitCode == 0, one.error);

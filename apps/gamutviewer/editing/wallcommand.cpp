@@ -327,7 +327,7 @@ QString wallAmong(const QStringList &fileNames, MeasurementOptions options)
             continue;
         }
         const auto wall = wallFromMeasurements(file->measurements);
-        if (wall && wall->cabinets.size() > 1) {
+        if (wall && wall->cabinets.size() + wall->incomplete.size() > 1) {
             found.append(fileName);
         }
     }

@@ -2558,6 +2558,10 @@ Open a list of measurements with a column for the cabinet, or for its row and co
         <comment>cabinets</comment>
         <translation>以下箱体情况未知：%1。</translation>
     </message>
+    <message>
+        <source>Cabinets of which nothing is known</source>
+        <translation>情况未知的箱体</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallScale</name>

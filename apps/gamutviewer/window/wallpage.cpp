@@ -169,6 +169,7 @@ QWidget *WallPage::buildNumbers()
     m_incomplete = new QLabel(numbers);
     m_incomplete->setFont(small);
     m_incomplete->setTextFormat(Qt::PlainText);
+    m_incomplete->setAccessibleName(tr("Cabinets of which nothing is known"));
     m_incomplete->setWordWrap(true);
     m_incomplete->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_incomplete->hide();
