@@ -57,6 +57,7 @@ ReportNotes notesOf(const OpenedFiles &opened)
         notes.warnings.append(warning.message());
     }
     static_cast<FileNotes &>(notes) = opened.notes;
+    notes.needsChoice = opened.needsChoice;
     return notes;
 }
 
@@ -159,7 +160,7 @@ int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances
         }
     }
     const auto reportOf = [&] {
-        return commandLine.wantsTextReport() ? textReport(description, tolerances)
+        return commandLine.wantsTextReport() ? textReport(description, tolerances, notesOf(opened))
                                              : reportText(description, tolerances, notesOf(opened));
     };
     if (commandLine.wantsReport() && print(reportOf()) != Done) {
@@ -169,7 +170,7 @@ int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances
     if (!commandLine.wantsCheck()) {
         return Done;
     }
-    const Assessment assessment = assess(description, tolerances);
+    const Assessment assessment = assess(description, tolerances, opened.needsChoice);
     if (!commandLine.wantsReport() && print(verdictText(assessment)) != Done) {
         printError(QApplication::translate("main", "the verdict cannot be written to standard output"));
         return Failed;
@@ -283,7 +284,8 @@ int main(int argc, char *argv[])
     }
     if (commandLine.action() == CommandLine::Action::Write) {
         const int status = write(*opened, tolerances, commandLine);
-        return status == Done && opened->needsChoice ? NeedsChoice : status;
+        const bool isWritten = status == Done || status == DisplayFails || status == VerdictNotKnown;
+        return isWritten && opened->needsChoice ? NeedsChoice : status;
     }
     if (!canShow) {
         printError(QApplication::translate(

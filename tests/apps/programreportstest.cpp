@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "gamutfiles/sampleedids.h"
 #include "programrunner.h"
 
 #include <gamutmodel/colorgamut.h>
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void refusesTolerances();
     void checkAndReportNeedAFile();
     void reportHasTheWarnings();
+    void textReportHasWhatTheReportHas();
     void listsThatNeedAChoice_data();
     void listsThatNeedAChoice();
     void checkThatCannotRenderFails();
@@ -171,6 +173,47 @@ void ProgramReportsTest::reportHasTheWarnings()
     QVERIFY(warnings.first().toString().startsWith(list));
 }
 
+void ProgramReportsTest::textReportHasWhatTheReportHas()
+{
+    const QString list = write("meter.csv",
+        "name,Y (cd/m2),x,y\nred,200,0.64,0.33\ngreen,700,0.3,0.6\nblue,100,0.15,0.06\nwhite,990,0.3127,0.329\n"
+        "a line of text\n");
+    const QByteArray hex = samplefiles::hdrDisplay(QByteArray("\x8A\x6A\x02", 3));
+    const QString monitor = write("monitor.bin", hex);
+    const Result json = run({"--report", "json", list, monitor});
+    const Result text = run({"--report", "text", list, monitor});
+    QCOMPARE(text.exitCode, 0);
+    QCOMPARE(text.error, json.error);
+    const QJsonObject report = QJsonDocument::fromJson(json.output).object();
+    QVERIFY(!report.value("warnings").toArray().isEmpty());
+    for (const QJsonValue &warning : report.value("warnings").toArray()) {
+        QVERIFY2(text.output.contains("\nwarning: " + warning.toString().toUtf8() + '\n'), text.output.constData());
+    }
+    QVERIFY(!report.value("facts").toArray().isEmpty());
+    for (const QJsonValue &fact : report.value("facts").toArray()) {
+        const QJsonObject of = fact.toObject();
+        const QString line = of.value("fact").toString() + ": " + of.value("value").toString();
+        QVERIFY2(text.output.contains("\n  " + line.toUtf8() + '\n'), qPrintable(line));
+    }
+    for (const QJsonValue &line : report.value("lists").toArray().first().toObject().value("text").toArray()) {
+        QVERIFY2(text.output.contains("\n  " + line.toString().toUtf8()), qPrintable(line.toString()));
+    }
+    for (const QJsonValue &standard : report.value("measured").toObject().value("standards").toArray()) {
+        const QJsonObject of = standard.toObject();
+        QString line;
+        for (const QByteArray &candidate : text.output.split('\n')) {
+            line = candidate.startsWith(of.value("standard").toString().toUtf8() + ' ') ? QString::fromUtf8(candidate)
+                                                                                        : line;
+        }
+        for (const char *diagram : {"xy", "uv"}) {
+            const double coverage = of.value(diagram).toObject().value("coverage").toDouble();
+            QVERIFY2(line.contains(QString::number(coverage * 100.0, 'f', 1) + " %"), qPrintable(line));
+        }
+    }
+    const double kelvin = report.value("measured").toObject().value("white").toObject().value("cct").toDouble();
+    QVERIFY2(text.output.contains(QByteArray::number(kelvin, 'f', 0) + " K"), text.output.constData());
+}
+
 void ProgramReportsTest::listsThatNeedAChoice_data()
 {
     QTest::addColumn<QByteArray>("list");
@@ -194,10 +237,21 @@ void ProgramReportsTest::listsThatNeedAChoice()
     QVERIFY(QJsonDocument::fromJson(report.output).isObject());
     QCOMPARE(report.exitCode, needsChoice ? 5 : 0);
     QVERIFY2(needsChoice || !report.error.contains("; choose"), report.error.constData());
-    // Without a gamut of the display there is no verdict, which comes first.
-    QCOMPARE(run({"--check", file}).exitCode, 4);
-    const QString wall = write("wall.json", wallText(R"("original": "Wall", "target": "Wanted")", 700.0));
-    QCOMPARE(run({"--check", wall, file}).exitCode, needsChoice ? 5 : 0);
+    QCOMPARE(run({"--check", file}).exitCode, needsChoice ? 5 : 4);
+    const auto check = [&](double luminance) {
+        return run(
+            {"--check", write("wall.json", wallText(R"("original": "Wall", "target": "Wanted")", luminance)), file});
+    };
+    // What was left out could be what fails.
+    const Result fits = check(700.0);
+    QCOMPARE(fits.exitCode, needsChoice ? 5 : 0);
+    QVERIFY2(fits.output.startsWith(needsChoice ? "not known: " : "pass: "), fits.output.constData());
+    const Result isTooBright = check(5000.0);
+    QCOMPARE(isTooBright.exitCode, needsChoice ? 5 : 3);
+    QVERIFY2(isTooBright.output.startsWith("fail: "), isTooBright.output.constData());
+    const Result reported = run({"--check", "--report", "json", path("wall.json"), file});
+    const QJsonObject verdict = QJsonDocument::fromJson(reported.output).object().value("verdict").toObject();
+    QCOMPARE(verdict.value("lines").toArray().first().toObject().value("subject").toString() == "display", needsChoice);
 }
 
 void ProgramReportsTest::checkThatCannotRenderFails()

@@ -104,9 +104,15 @@ QString Assessment::headline() const
                                                   : AssessmentText::tr("Not known whether it can show the target");
 }
 
-Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances, bool needsChoice)
 {
     Assessment result;
+    if (needsChoice) {
+        result.lines.append({AssessmentLine::Subject::Display, Judgement::NotKnown,
+            AssessmentText::tr("A measurement list needs a choice: what it says of the display is not judged. Make the "
+                               "choice that the warnings ask for."),
+            std::nullopt, QString(), std::nullopt});
+    }
     assessDisplays(description, result);
     assessTheWall(description, result);
     if (tolerances) {

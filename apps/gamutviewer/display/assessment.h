@@ -84,9 +84,11 @@ struct Assessment {
  * \brief Judges \a description, and what was measured by \a tolerances where there are any.
  *
  * What all cabinets of a wall show, the display shows. Where it has an original or a measured gamut as well, all of
- * them have to show the target.
+ * them have to show the target. While a measurement list \a needsChoice, what it says of the display is not known:
+ * nothing passes.
  */
-Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt);
+Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt,
+    bool needsChoice = false);
 
 } // namespace gamutviewer
 

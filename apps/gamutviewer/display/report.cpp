@@ -18,11 +18,6 @@ namespace gamutviewer {
 
 namespace {
 
-QJsonValue unitValue(LuminanceUnit unit)
-{
-    return unit == LuminanceUnit::NotKnown ? QJsonValue() : QJsonValue(luminanceUnitName(unit));
-}
-
 QJsonObject colorObject(const Model::Target &target, const Model::Target &white)
 {
     const Model::DiagramPoint uv = Model::toDiagram(Model::Diagram::Cie1976, {target.x, target.y});
@@ -244,7 +239,7 @@ QJsonObject report(
     insertPart(QStringLiteral("original"), description.original);
     insertPart(QStringLiteral("measured"), description.measured);
     insertPart(QStringLiteral("target"), description.target);
-    const Assessment assessment = assess(description, tolerances);
+    const Assessment assessment = assess(description, tolerances, notes.needsChoice);
     const auto original = description.gamut(description.original);
     const auto target = description.gamut(description.target);
     if (original && target) {

@@ -17,6 +17,7 @@ namespace gamutviewer {
 /*! \brief What is known of the files that were read, besides the description that they make. */
 struct ReportNotes : FileNotes {
     QStringList warnings; //!< each as one line: the file, the place and the text
+    bool needsChoice = false; //!< whether a measurement list leaves open what of it the display is judged by
 };
 
 /*!

@@ -7,15 +7,7 @@ namespace gamutviewer {
 
 QJsonValue unitValue(LuminanceUnit unit)
 {
-    switch (unit) {
-    case LuminanceUnit::CandelaPerSquareMetre:
-        return QStringLiteral("cd/m2");
-    case LuminanceUnit::Relative:
-        return QStringLiteral("relative");
-    case LuminanceUnit::NotKnown:
-        break;
-    }
-    return QJsonValue::Null;
+    return unit == LuminanceUnit::NotKnown ? QJsonValue() : QJsonValue(luminanceUnitName(unit));
 }
 
 QString colorName(ceiechart::GamutVertex vertex)

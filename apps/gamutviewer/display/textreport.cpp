@@ -65,21 +65,71 @@ QString pointText(const Model::Target &color)
         fixedText(color.x, chromaticityDecimals), fixedText(color.y, chromaticityDecimals));
 }
 
-QStringList gamutLines(const DisplayDescription &description)
+//! A gamut with the part that it plays.
+struct PlayedPart {
+    QString part;
+    DisplayGamut gamut;
+};
+
+QVector<PlayedPart> playedParts(const DisplayDescription &description)
 {
-    const std::pair<QString, QString> parts[]
+    const std::pair<QString, QString> names[]
         = {{ReportText::tr("declared"), description.declared}, {ReportText::tr("original"), description.original},
             {ReportText::tr("measured"), description.measured}, {ReportText::tr("target"), description.target}};
-    QVector<Row> rows{{QString(), ReportText::tr("gamut"), ReportText::tr("red x y"), ReportText::tr("green x y"),
-        ReportText::tr("blue x y"), ReportText::tr("white x y"), ReportText::tr("luminance of white")}};
-    for (const auto &part : parts) {
-        if (const auto gamut = description.gamut(part.second)) {
-            const Model::Targets &t = gamut->getTargets();
-            rows.append({part.first, oneLine(part.second), pointText(t.red), pointText(t.green), pointText(t.blue),
-                pointText(t.white), luminanceText(t.white.Y, gamut->unit)});
+    QVector<PlayedPart> parts;
+    for (const auto &name : names) {
+        if (const auto gamut = description.gamut(name.second)) {
+            parts.append({name.first, *gamut});
         }
     }
-    return rows.size() > 1 ? aligned(rows) : QStringList();
+    return parts;
+}
+
+QStringList gamutLines(const QVector<PlayedPart> &parts)
+{
+    QVector<Row> rows{{QString(), ReportText::tr("gamut"), ReportText::tr("red x y"), ReportText::tr("green x y"),
+        ReportText::tr("blue x y"), ReportText::tr("white x y"), ReportText::tr("luminance of white"),
+        ReportText::tr("temperature of white"), ReportText::tr("Duv")}};
+    for (const PlayedPart &part : parts) {
+        const Model::Targets &t = part.gamut.getTargets();
+        const auto temperature = ceiechart::colorTemperature({t.white.x, t.white.y});
+        rows.append({part.part, oneLine(nameOf(part.gamut)), pointText(t.red), pointText(t.green), pointText(t.blue),
+            pointText(t.white), luminanceText(t.white.Y, part.gamut.unit),
+            temperature ? temperatureText(*temperature) : undefinedText(),
+            temperature ? duvText(*temperature) : undefinedText()});
+    }
+    return parts.isEmpty() ? QStringList() : aligned(rows);
+}
+
+//! What each gamut covers of each standard, in x, y and in u′, v′.
+QStringList coverageLines(const QVector<PlayedPart> &parts, const std::vector<DisplayGamut> &standards)
+{
+    Row titles{ReportText::tr("coverage of")};
+    for (const PlayedPart &part : parts) {
+        titles.append(ReportText::tr("%1 x, y", "part of a gamut: measured x, y").arg(part.part));
+        titles.append(ReportText::tr("u′, v′"));
+    }
+    QVector<Row> rows{titles};
+    for (const DisplayGamut &standard : standards) {
+        Row row{oneLine(nameOf(standard))};
+        for (const PlayedPart &part : parts) {
+            for (const Model::Diagram diagram : {Model::Diagram::Cie1931, Model::Diagram::Cie1976}) {
+                const Model::Targets &targets = part.gamut.getTargets();
+                row.append(percent(Model::gamutCoverage(targets, standard.getTargets(), diagram).coverage));
+            }
+        }
+        rows.append(row);
+    }
+    return parts.isEmpty() ? QStringList() : aligned(rows);
+}
+
+QStringList warningLines(const QStringList &warnings)
+{
+    QStringList lines;
+    for (const QString &warning : warnings) {
+        lines.append(ReportText::tr("warning: %1").arg(oneLine(warning)));
+    }
+    return lines;
 }
 
 QString uvText(const std::optional<double> &value)
@@ -150,11 +200,14 @@ QByteArray verdictText(const Assessment &assessment)
     return (verdictLines(assessment).join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8();
 }
 
-QByteArray textReport(const DisplayDescription &description, const std::optional<Tolerances> &tolerances)
+QByteArray textReport(
+    const DisplayDescription &description, const std::optional<Tolerances> &tolerances, const ReportNotes &notes)
 {
-    const Assessment assessment = assess(description, tolerances);
+    const Assessment assessment = assess(description, tolerances, notes.needsChoice);
+    const QVector<PlayedPart> parts = playedParts(description);
     QVector<QStringList> blocks{description.name.isEmpty() ? QStringList() : QStringList(oneLine(description.name)),
-        gamutLines(description), verdictLines(assessment)};
+        gamutLines(parts), coverageLines(parts, description.allStandards()), verdictLines(assessment),
+        warningLines(notes.warnings), fileNotesText(notes).split(QLatin1Char('\n'))};
     if (!description.wall.cabinets.empty() && assessment.wall) {
         QStringList remarks;
         for (const WallLine &line : assessment.wall->lines) {
@@ -168,8 +221,9 @@ QByteArray textReport(const DisplayDescription &description, const std::optional
     }
     QStringList texts;
     for (const QStringList &block : qAsConst(blocks)) {
-        if (!block.isEmpty()) {
-            texts.append(block.join(QLatin1Char('\n')));
+        const QString text = block.join(QLatin1Char('\n'));
+        if (!text.isEmpty()) {
+            texts.append(text);
         }
     }
     return (texts.join(QStringLiteral("\n\n")) + QLatin1Char('\n')).toUtf8();

@@ -4,6 +4,7 @@
 
 #include "display/assessment.h"
 #include "display/gamutfiles.h"
+#include "display/report.h"
 
 #include <QByteArray>
 
@@ -15,11 +16,11 @@ namespace gamutviewer {
 QByteArray verdictText(const Assessment &assessment);
 
 /*!
- * \brief The report for people: the gamuts of \a description, the verdict, and a table of the cabinets of a wall, those
- * first that fail. In UTF-8, with a line end at the end.
+ * \brief The report for people: the gamuts of \a description, what they cover of the standards, the verdict, a table of
+ * the cabinets of a wall, those first that fail, and \a notes. In UTF-8, with a line end at the end.
  */
-QByteArray textReport(
-    const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt);
+QByteArray textReport(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt,
+    const ReportNotes &notes = ReportNotes());
 
 } // namespace gamutviewer
 

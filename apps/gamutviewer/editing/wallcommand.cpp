@@ -294,6 +294,7 @@ Outcome<OpenedFiles> withWall(const OpenedFiles &opened, const QString &fileName
         wall = *measured;
         warnings += measured.warnings();
         result.hasLists = true;
+        result.notes.lists.append({fileName, file->measurements.recognized});
         if (file->measurements.recognized.unit == MeasuredUnit::NotKnown) {
             result.needsChoice = true;
         }

@@ -91,8 +91,8 @@ CommandLine::CommandLine(const QStringList &arguments)
             .arg(layerNames()),
         tr("list"));
     const QCommandLineOption report(QStringLiteral("report"),
-        tr("Print coverage, colour temperatures and validity, and what the cabinets of a wall show, without opening a "
-           "window. The format is json, or text for people. Requires a file."),
+        tr("Print coverage, colour temperatures, the verdict, what the cabinets of a wall show, and what is known of "
+           "the files, without opening a window. The format is json, or text for people. Requires a file."),
         tr("format"));
     const QCommandLineOption check(QStringLiteral("check"),
         tr("Judge whether the display in the files can show the target, without opening a window: the exit status "
@@ -144,7 +144,7 @@ CommandLine::CommandLine(const QStringList &arguments)
         "Shows and edits the colour gamuts of a display on CIE chromaticity diagrams.\n\n"
         "Exit status: 0 success, 1 the picture, the corrections, the report or the verdict could not be written, or "
         "there is no display for the window, 2 invalid arguments or files, 5 a measurement list needs a choice; with "
-        "--check also 3 the display fails, 4 the verdict is not known.\n"
+        "--check also 3 the display fails, 4 the verdict is not known, unless a list needs a choice.\n"
         "Each error is one line on standard error."));
     m_parser.addPositionalArgument(tr("file"),
         tr("Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any "
