@@ -24,6 +24,8 @@ constexpr std::array colorWords{
     Word{"rot", MeasurementPart::Red},
     Word{"rouge", MeasurementPart::Red},
     Word{"rojo", MeasurementPart::Red},
+    Word{"rosso", MeasurementPart::Red},
+    Word{"vermelho", MeasurementPart::Red},
     Word{"红", MeasurementPart::Red},
     Word{"紅", MeasurementPart::Red},
     Word{"green", MeasurementPart::Green},
@@ -39,6 +41,7 @@ constexpr std::array colorWords{
     Word{"blau", MeasurementPart::Blue},
     Word{"bleu", MeasurementPart::Blue},
     Word{"azul", MeasurementPart::Blue},
+    Word{"blu", MeasurementPart::Blue},
     Word{"蓝", MeasurementPart::Blue},
     Word{"藍", MeasurementPart::Blue},
     Word{"white", MeasurementPart::White},
@@ -47,12 +50,16 @@ constexpr std::array colorWords{
     Word{"weiss", MeasurementPart::White},
     Word{"blanc", MeasurementPart::White},
     Word{"blanco", MeasurementPart::White},
+    Word{"bianco", MeasurementPart::White},
+    Word{"branco", MeasurementPart::White},
     Word{"白", MeasurementPart::White},
     Word{"black", MeasurementPart::Black},
     Word{"k", MeasurementPart::Black},
     Word{"schwarz", MeasurementPart::Black},
     Word{"noir", MeasurementPart::Black},
     Word{"negro", MeasurementPart::Black},
+    Word{"nero", MeasurementPart::Black},
+    Word{"preto", MeasurementPart::Black},
     Word{"黑", MeasurementPart::Black},
 };
 
@@ -61,7 +68,8 @@ bool isFiller(const QString &word)
 {
     static const QStringList fillers{QStringLiteral("full"), QStringLiteral("pure"), QStringLiteral("solid"),
         QStringLiteral("primary"), QStringLiteral("field"), QStringLiteral("screen"), QStringLiteral("patch"),
-        QStringLiteral("level"), QStringLiteral("point")};
+        QStringLiteral("level"), QStringLiteral("point"), QStringLiteral("pegel"), QStringLiteral("niveau"),
+        QStringLiteral("nivel"), QStringLiteral("nível"), QStringLiteral("livello")};
     return fillers.contains(word);
 }
 

@@ -25,9 +25,9 @@ struct ColorName {
 };
 
 /*!
- * \brief The colour in \a name: red, green, blue, white or black in English, German, French, Spanish or Chinese, or its
- * initial, with or without a level ("Red 100 %", "W 50", "R255", "blue 0,0,255"). A name with anything else in it is
- * another colour.
+ * \brief The colour in \a name: red, green, blue, white or black in English, German, French, Spanish, Italian,
+ * Portuguese or Chinese, or its initial, with or without a level ("Red 100 %", "W 50", "R255", "blue 0,0,255"). A name
+ * with anything else in it is another colour.
  */
 ColorName colorName(const QString &name);
 

@@ -2,8 +2,10 @@
 #include "columnnames_p.h"
 
 #include "knowncolumns_p.h"
+#include "numbers_p.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QVector>
 
@@ -179,6 +181,8 @@ QString columnPartName(ColumnPart part)
         return ColumnText::tr("column", "column of a measurement list");
     case ColumnPart::Number:
         return ColumnText::tr("number", "column of a measurement list");
+    case ColumnPart::Unit:
+        return ColumnText::tr("unit", "column of a measurement list");
     case ColumnPart::Luminance:
     case ColumnPart::Y:
         return QStringLiteral("Y");
@@ -218,19 +222,49 @@ std::optional<ColumnName> columnName(const QString &text)
 
 bool isOfOtherObserver(const QString &text)
 {
-    if (text.size() > longestHeader || isPlainNumber(text)) {
+    // Every field of every row is asked: most of them go here.
+    constexpr int shortestHeader = 3; // "x10"
+    if (text.size() < shortestHeader || text.size() > longestHeader || isPlainNumber(text)) {
         return false;
     }
     QString key = compact(text);
+    const auto isColor = [](const QString &name) {
+        const auto part = partNamed(name);
+        return part == ColumnPart::x || part == ColumnPart::y || part == ColumnPart::u || part == ColumnPart::v
+            || part == ColumnPart::X || part == ColumnPart::Y || part == ColumnPart::Z;
+    };
+    // The symbols of ISO/CIE 11664-1: an index behind the letter, and behind it the prime or a unit.
+    static const QRegularExpression index(QStringLiteral("\\A(.*[^0-9])10('?)(?:[(\\[/].*)?\\z"));
+    const QRegularExpressionMatch indexed = index.match(key);
+    if (indexed.hasMatch()) {
+        const QString name = indexed.captured(1);
+        const bool hasPrime = name.endsWith(QLatin1Char('\''));
+        if (isColor(name + (hasPrime ? QString() : indexed.captured(2)))) {
+            return true;
+        }
+    }
     if (!isOtherObserver(key)) {
         return false;
     }
     for (const char *const word : {"cie", "1964", "10°", "10degrees", "10deg", "observer", ",", "(", ")", "[", "]"}) {
         key.remove(QString::fromUtf8(word), Qt::CaseInsensitive);
     }
-    const auto part = partNamed(key);
-    return part == ColumnPart::x || part == ColumnPart::y || part == ColumnPart::X || part == ColumnPart::Y
-        || part == ColumnPart::Z;
+    return isColor(key);
+}
+
+bool statesOtherObserver(const QString &line)
+{
+    constexpr int longestLine = 1000;
+    const QString text = line.left(longestLine).normalized(QString::NormalizationForm_KC);
+    static const QString observer
+        = QStringLiteral("(?:observer|observador|observateur|osservatore|beobachter|观察|觀察|视场|視場)");
+    static const QRegularExpression tenDegrees(observer
+            + QStringLiteral("[^0-9]{0,20}10(?![0-9]|[.,][0-9])|(?<![0-9.,])10 ?(?:°|deg|grad|grados|度)[^0-9]{0,20}")
+            + observer,
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression cie1964(
+        QStringLiteral("cie[\\s_-]*1964"), QRegularExpression::CaseInsensitiveOption);
+    return cie1964.match(text).hasMatch() || tenDegrees.match(text).hasMatch();
 }
 
 MeasuredUnit measuredUnit(const QString &text)

@@ -25,9 +25,10 @@ enum class ColumnPart {
     Row,
     Column,
     Number, //!< a running number or an identifier, of a measurement or of a cabinet
-    Note //!< remarks, which can be the names of the colours
+    Note, //!< remarks, which can be the names of the colours
+    Unit //!< the unit of the luminance, in each line
 };
-constexpr int columnPartCount = 14; //!< how many there are
+constexpr int columnPartCount = 15; //!< how many there are
 
 /*! \brief How a column is called in messages, in their language. */
 QString columnPartName(ColumnPart part);
@@ -48,11 +49,15 @@ struct ColumnName {
 std::optional<ColumnName> columnName(const QString &text);
 
 /*!
- * \brief Whether the header \a text names a coordinate or a tristimulus value of the CIE 1964 (10°) observer.
+ * \brief Whether the header \a text names a coordinate or a tristimulus value of the CIE 1964 (10°) observer: "x10",
+ * "Y10 (cd/m²)", "X (10°)".
  *
  * columnName() names nothing for it.
  */
 bool isOfOtherObserver(const QString &text);
+
+/*! \brief Whether the line of text \a line says that the CIE 1964 (10°) observer was used: "Observer: 10°". */
+bool statesOtherObserver(const QString &line);
 
 /*! \brief The unit that \a text is; NotKnown when it is none. */
 MeasuredUnit measuredUnit(const QString &text);

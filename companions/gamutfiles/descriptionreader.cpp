@@ -117,12 +117,13 @@ DisplayGamut DescriptionReader::readGamut(const Node &node, PrimariesOf kind)
  */
 void DescriptionReader::warnOfGamut(const Node &node, const Model::Targets &gamut, PrimariesOf kind)
 {
-    constexpr double rounding = 1.001;
     const QVector<Problem> triangle = kind == PrimariesOf::Display ? warningsOfTheTriangle(gamut) : QVector<Problem>();
     if (!triangle.isEmpty()) {
         warn(node, triangle.first().text);
-    } else if (gamut.white.Y > 0.0 && std::max({gamut.red.Y, gamut.green.Y, gamut.blue.Y}) > gamut.white.Y * rounding) {
-        warn(member(node, QStringLiteral("white")), tr("the white is darker than one of the primaries"));
+        return;
+    }
+    for (const Problem &warning : warningsOfTheWhite(gamut)) {
+        warn(member(node, QStringLiteral("white")), warning.text);
     }
 }
 

@@ -128,6 +128,15 @@ QVector<Problem> warningsOfTheTriangle(const Model::Targets &gamut)
     return warnings;
 }
 
+QVector<Problem> warningsOfTheWhite(const Model::Targets &gamut)
+{
+    constexpr double rounding = 1.001;
+    const double brightest = std::max({gamut.red.Y, gamut.green.Y, gamut.blue.Y});
+    return gamut.white.Y > 0.0 && brightest > gamut.white.Y * rounding
+        ? QVector<Problem>{{PrimariesText::tr("the white is darker than one of the primaries"), {}, 0, 0}}
+        : QVector<Problem>();
+}
+
 QString noTriangleText()
 {
     return PrimariesText::tr("the primaries do not form a triangle");

@@ -56,6 +56,12 @@ QVector<Problem> warningsOfTheLocus(const Model::Targets &gamut);
  */
 QVector<Problem> warningsOfTheTriangle(const Model::Targets &gamut);
 
+/*!
+ * \brief A warning if the white of \a gamut is darker than one of its primaries, by more than rounding: only a slip
+ * makes it so.
+ */
+QVector<Problem> warningsOfTheWhite(const Model::Targets &gamut);
+
 /*! \brief What to say of primaries that are too near to one line to mix anything. */
 QString noTriangleText();
 

@@ -17,6 +17,9 @@ constexpr double binaryRounding = 1e-9;
 //! What rounding u' and v' to four digits can add to x + y.
 constexpr double decimalRounding = 0.0005;
 
+//! A difference of x, y or u', v' beyond this is not that of the digits of an instrument.
+constexpr double noticeable = 0.001;
+
 } // namespace
 
 /*
@@ -105,7 +108,64 @@ bool MeasurementReader::readXy(const CsvRow &row, Measurement &measurement, bool
         return fail(tr("x + y must not exceed 1"), place(row.line, ColumnPart::x));
     }
     measurement.color = Model::Target::fromYxy(measurement.luminance, *x, *y);
+    if (!isDark) {
+        compareWithTristimulus(row, *x, *y);
+        compareWithUv(row, *x, *y);
+    }
     return true;
+}
+
+/*
+ * Columns that are not read can say something else than those that are: of another observer, of another calibration, or
+ * by a slip. They are compared as far as their digits go.
+ */
+void MeasurementReader::compareWithTristimulus(const CsvRow &row, double x, double y)
+{
+    const auto X = unread(row, ColumnPart::X);
+    const auto Y = unread(row, ColumnPart::Y);
+    const auto Z = unread(row, ColumnPart::Z);
+    if (!X || !Y || !Z || X->value < 0.0 || Y->value <= 0.0 || Z->value < 0.0) {
+        return;
+    }
+    const double sum = X->value + Y->value + Z->value;
+    const double rounding = (X->rounding + Y->rounding + Z->rounding) / sum;
+    const bool isSame = std::fabs(X->value / sum - x) <= noticeable + rounding
+        && std::fabs(Y->value / sum - y) <= noticeable + rounding;
+    if (!isSame) {
+        m_otherTristimulus.add(row.line);
+    }
+}
+
+void MeasurementReader::compareWithUv(const CsvRow &row, double x, double y)
+{
+    const auto u = unread(row, ColumnPart::u);
+    const auto v = unread(row, ColumnPart::v);
+    if (!u || !v || (u->value == 0.0 && v->value == 0.0)) {
+        return;
+    }
+    const Model::DiagramPoint uv = Model::toDiagram(Model::Diagram::Cie1976, {x, y});
+    const bool isSame = std::fabs(u->value - uv.x) <= noticeable + u->rounding
+        && std::fabs(v->value - uv.y) <= noticeable + v->rounding;
+    if (!isSame) {
+        m_otherUv.add(row.line);
+    }
+}
+
+//! A number in a column that has a name but is not read.
+std::optional<MeasurementReader::RoundedNumber> MeasurementReader::unread(const CsvRow &row, ColumnPart part) const
+{
+    const int column = m_list.recognized.headerLine > 0 ? m_header.columns[std::size_t(part)] : -1;
+    const QString text = column >= 0 ? row.fields.value(column) : QString();
+    const auto read = readNumber(text, m_decimalSign);
+    if (!read) {
+        return std::nullopt;
+    }
+    const int exponent = int(text.indexOf(QLatin1Char('e'), 0, Qt::CaseInsensitive));
+    const QString mantissa = text.left(exponent).trimmed();
+    const int sign = int(mantissa.lastIndexOf(m_decimalSign));
+    const int decimals
+        = (sign < 0 ? 0 : int(mantissa.size()) - sign - 1) - (exponent < 0 ? 0 : text.mid(exponent + 1).toInt());
+    return RoundedNumber{read->value, 0.5 * std::pow(10.0, -decimals)};
 }
 
 bool MeasurementReader::readTristimulus(const CsvRow &row, Measurement &measurement)

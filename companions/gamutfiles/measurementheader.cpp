@@ -210,9 +210,25 @@ void MeasurementReader::useHeader(Header header, const CsvRow &row, int firstRow
     chooseName(header, row);
     chooseLuminance(header, row);
     m_warnings += header.warnings;
+    warnOfObserver(row.line);
     useColumns(header.columns, row.fields);
     const bool useLuminance = header.columns[std::size_t(ColumnPart::Luminance)] >= 0;
     readUnitRow(header.names[std::size_t(useLuminance ? ColumnPart::Luminance : ColumnPart::Y)]);
+}
+
+//! Text above the header, in \a headerLine, can say of which observer the columns are.
+void MeasurementReader::warnOfObserver(int headerLine)
+{
+    for (const QVector<CsvRow> &rows : {m_table.rows, m_table.comments}) {
+        for (const CsvRow &row : rows) {
+            if (row.line < headerLine && statesOtherObserver(row.fields.join(QLatin1Char(' ')))) {
+                warn(tr("the list says that it is of the 10° observer, but the names of the columns do not: they are "
+                        "read as those of CIE 1931 (2°)"),
+                    place(row.line));
+                return;
+            }
+        }
+    }
 }
 
 //! Of the columns that can name the measurements the one counts that names the most colours.
@@ -288,6 +304,9 @@ void MeasurementReader::useColumns(const Columns &columns, const QStringList &he
     }
     m_numberParts = parts;
     useCabinets(columns, headers);
+    if (given(ColumnPart::Unit)) {
+        keep(ColumnPart::Unit, columns[std::size_t(ColumnPart::Unit)], headers);
+    }
     if (isNameless()) {
         warn(tr("no column names the measurements; lines can be chosen as red, green, blue and white"),
             place(m_list.recognized.headerLine));

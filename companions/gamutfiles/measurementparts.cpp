@@ -214,6 +214,9 @@ void MeasurementReader::warnOfParts(const MeasurementList &list, const QString &
             isUsable = false;
             warn(tr("%1 has no chromaticity: there is no gamut").arg(name), place(measurement.line));
         }
+        if (measurement.color && measurement.luminance == 0.0 && measurement.part != MeasurementPart::Black) {
+            warn(tr("%1 has a chromaticity but a luminance of 0").arg(name), place(measurement.line));
+        }
     }
     int present = 0;
     for (const MeasurementPart part : primaryParts) {
@@ -246,6 +249,10 @@ void MeasurementReader::warnOfParts(const MeasurementList &list, const QString &
     if (const auto gamut = list.gamut(QString())) {
         for (const Problem &warning : warningsOfTheTriangle(gamut->getTargets())) {
             warn(warning.text, where);
+        }
+        const int whiteLine = firstLines[std::size_t(MeasurementPart::White)];
+        for (const Problem &warning : warningsOfTheWhite(gamut->getTargets())) {
+            warn(warning.text, whiteLine > 0 ? place(whiteLine) : where);
         }
     } else if (shouldHaveGamut) {
         if (where.isEmpty()) {

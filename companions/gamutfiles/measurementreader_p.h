@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 
 #include <array>
+#include <utility>
 
 namespace gamutfiles {
 
@@ -55,7 +56,10 @@ protected: // for lists that are still being written
     void useColumns(const Columns &columns, const QStringList &headers);
     void useCabinets(const Columns &columns, const QStringList &headers);
     void keep(ColumnPart part, int column, const QStringList &headers);
+    void warnOfObserver(int headerLine);
     void readUnitRow(ColumnName unit);
+    bool readUnitColumn(ColumnName &unit, int &line);
+    bool hasUnitOfList(const CsvRow &row);
     void useUnit(const ColumnName &luminance, int line);
     bool isRepeatedHeader(const CsvRow &row) const;
     bool isOtherHeader(const CsvRow &row) const;
@@ -69,6 +73,14 @@ protected: // for lists that are still being written
     bool readXy(const CsvRow &row, Measurement &measurement, bool isDark);
     bool readTristimulus(const CsvRow &row, Measurement &measurement);
     bool readUv(const CsvRow &row, Measurement &measurement, bool isDark);
+    //! A number with the half of its last digit.
+    struct RoundedNumber {
+        double value = 0.0;
+        double rounding = 0.0;
+    };
+    std::optional<RoundedNumber> unread(const CsvRow &row, ColumnPart part) const;
+    void compareWithTristimulus(const CsvRow &row, double x, double y);
+    void compareWithUv(const CsvRow &row, double x, double y);
     void readPlace(const CsvRow &row, Measurement &measurement);
     std::optional<QString> field(const CsvRow &row, ColumnPart part);
     std::optional<double> number(const CsvRow &row, ColumnPart part);
@@ -108,6 +120,7 @@ protected: // for lists that are still being written
     CsvTable m_table;
     Header m_header{}; // as the list gives it
     CsvRow m_unitRow; // below the header; without fields: there is none
+    std::pair<int, QString> m_columnUnit; // of the column of units: the line of the first one, and how it is written
     int m_firstRow = 0; // of the measurements
     int m_headerFields = 0; // how many the header has; 0: there is none
     int m_width = 0; // of them, up to the last with a name
@@ -122,6 +135,8 @@ protected: // for lists that are still being written
     Lines m_withoutChromaticity;
     Lines m_dark;
     Lines m_belowZero;
+    Lines m_otherTristimulus;
+    Lines m_otherUv;
     Lines m_wider;
     MeasurementList m_list;
     QVector<Problem> m_warnings;

@@ -50,7 +50,7 @@ bool MeasurementReader::takeRow(const CsvRow &row)
         m_wider.add(row.line);
     }
     const auto measurement = readRow(row);
-    if (!measurement) {
+    if (!measurement || !hasUnitOfList(row)) {
         return false;
     }
     if (isDivided(row, *measurement)) {
@@ -75,6 +75,8 @@ void MeasurementReader::warnOfRows()
     tell(m_withoutChromaticity, tr("has a luminance but no chromaticity"));
     tell(m_dark, tr("is as dark as noise, with numbers that no colour has: it is read without a chromaticity"));
     tell(m_belowZero, tr("has a value slightly below 0, as noise gives: it is read as 0"));
+    tell(m_otherTristimulus, tr("x and y are not those of X, Y and Z: x and y are read"));
+    tell(m_otherUv, tr("x and y are not those of u' and v': x and y are read"));
 }
 
 std::optional<Measurement> MeasurementReader::readRow(const CsvRow &row)

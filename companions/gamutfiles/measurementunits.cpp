@@ -45,7 +45,52 @@ void MeasurementReader::readUnitRow(ColumnName unit)
             ++m_firstRow; // a line of units that names none
         }
     }
-    useUnit(unit, line);
+    if (readUnitColumn(unit, line)) {
+        useUnit(unit, line);
+    }
+}
+
+//! The unit that the first measurement has in a column of its own goes to \a unit, and its line to \a line.
+bool MeasurementReader::readUnitColumn(ColumnName &unit, int &line)
+{
+    const auto first = std::find_if(m_table.rows.constBegin() + m_firstRow, m_table.rows.constEnd(),
+        [&](const CsvRow &row) { return !isDashOrNothing(given(row, ColumnPart::Unit)); });
+    if (first == m_table.rows.constEnd()) {
+        return true;
+    }
+    const QString text = given(*first, ColumnPart::Unit);
+    const MeasuredUnit inColumn = measuredUnit(text);
+    if (!unit.unitText.isEmpty() && inColumn == MeasuredUnit::NotKnown) {
+        return true; // of something else than the luminance
+    }
+    if (!unit.unitText.isEmpty() && unit.unit != inColumn && !m_options.unit) {
+        return fail(tr("the unit \"%1\" is not that of the line of the names, \"%2\": state the unit")
+                        .arg(excerpt(text), excerpt(unit.unitText)),
+            place(first->line, ColumnPart::Unit));
+    }
+    unit.unit = inColumn;
+    unit.unitText = text;
+    line = first->line;
+    m_columnUnit = {line, text};
+    return true;
+}
+
+//! Whether \a row has no other unit than the list.
+bool MeasurementReader::hasUnitOfList(const CsvRow &row)
+{
+    const QString text = given(row, ColumnPart::Unit);
+    if (m_columnUnit.first == 0 || m_options.unit || isDashOrNothing(text)) {
+        return true;
+    }
+    const MeasuredUnit unit = measuredUnit(text);
+    const bool isSame = unit == m_list.recognized.unit
+        && (unit != MeasuredUnit::NotKnown || text.compare(m_columnUnit.second, Qt::CaseInsensitive) == 0);
+    return isSame
+        || fail(tr("the unit \"%1\" is not that of line %2, \"%3\": state the unit")
+                    .arg(excerpt(text))
+                    .arg(m_columnUnit.first)
+                    .arg(excerpt(m_columnUnit.second)),
+            place(row.line, ColumnPart::Unit));
 }
 
 //! \a luminance is what the list states, in \a line; 0: it has no line that could state it.

@@ -28,14 +28,16 @@ void ColorNamesTest::parts_data()
     };
     rows(MeasurementPart::Red,
         {"red", "Red", "RED", "R", "r", "rot", "Rouge", "rojo", "红", "红色", "红场", "纯红", "全红画面", "Red 100 %",
-            "R255", "100% red", "Full Red", "Red primary", "Red_255", "Red (255,0,0)", "R @ 50%", "Red-128/255", "紅"});
+            "R255", "100% red", "Full Red", "Red primary", "Red_255", "Red (255,0,0)", "R @ 50%", "Red-128/255", "紅",
+            "rosso", "Vermelho 100 %"});
     rows(MeasurementPart::Green,
         {"green", "G", "grün", "Gruen", "GRÜN", "vert", "Verde", "绿", "绿色", "Green 0,255,0"});
-    rows(MeasurementPart::Blue, {"blue", "B", "Blau", "bleu", "azul", "蓝", "蓝场"});
+    rows(MeasurementPart::Blue, {"blue", "B", "Blau", "bleu", "azul", "蓝", "蓝场", "Blu 100%", "azul 255"});
     rows(MeasurementPart::White,
         {"white", "W", "weiß", "Weiss", "WEIß", "Blanc 100%", "blanco", "白", "白场", "白色画面", "White field", "W 50",
-            "White 255/255/255"});
-    rows(MeasurementPart::Black, {"black", "K", "schwarz", "noir", "negro", "黑", "黑场", "Black 0,0,0"});
+            "White 255/255/255", "Bianco", "branco 50%", "Weiß Pegel 255", "Bianco livello 100%", "Branco nível 50%"});
+    rows(MeasurementPart::Black,
+        {"black", "K", "schwarz", "noir", "negro", "nero", "preto", "黑", "黑场", "Black 0,0,0"});
     rows(MeasurementPart::None,
         {"", "grey 50 %", "cyan", "red green", "dark red", "red+green", "5000", "reddish", "Red 255,255,0", "Red 1,2,3",
             "Red 1/2/3", "Red 5 6", "红绿", "场", "%", "Red 50% 60%", "R255 G0 B0"});
@@ -66,6 +68,8 @@ void ColorNamesTest::levels_data()
     row("White (64, 64, 64)", 64.0, -1.0);
     row("100 % blanc", 100.0, 100.0);
     row("红 １００％", 100.0, 100.0);
+    row("Rosso 100 %", 100.0, 100.0);
+    row("vermelho 128/255", 128.0, 255.0);
 }
 
 void ColorNamesTest::levels()

@@ -7,6 +7,8 @@
 
 using namespace gamutfiles;
 
+Q_DECLARE_METATYPE(gamutfiles::MeasuredUnit)
+
 class MeasurementHeaderTest : public QObject {
     Q_OBJECT
 
@@ -19,6 +21,11 @@ private Q_SLOTS:
     void surestLuminance();
     void lightnessIsNoLuminance();
     void otherObserver();
+    void otherObserverAboveTheHeader_data();
+    void otherObserverAboveTheHeader();
+    void columnOfUnits_data();
+    void columnOfUnits();
+    void columnOfUnitsThatContradicts();
     void textBeforeTheHeader();
     void commentedHeader();
     void commentsThatAreNoHeader();
@@ -122,14 +129,85 @@ void MeasurementHeaderTest::lightnessIsNoLuminance()
 
 void MeasurementHeaderTest::otherObserver()
 {
-    for (const char *header :
-        {"X (10°),Y (10°),Z (10°)", "X (1964),Y (1964),Z (1964)", "X [CIE 1964],Y (CIE 1964),Z (10 deg)"}) {
+    for (const char *header : {"X (10°),Y (10°),Z (10°)", "X (1964),Y (1964),Z (1964)",
+             "X [CIE 1964],Y (CIE 1964),Z (10 deg)", "X10,Y10,Z10", "x10,y10,Y10", "x_10,y_10,Y_10 (cd/m²)",
+             "CIE x10,CIE y10,Lv", "x₁₀,y₁₀,Y₁₀", "u'10,v'10,Lv", "u10',v10',Y10"}) {
         QCOMPARE(errorOf(QByteArray("name,") + header + "\na,20,30,40"),
             QStringLiteral("line 1: the columns are of the 10° observer: those of CIE 1931 (2°) are needed"));
     }
     const QByteArray both = "name,X (10°),Y (10°),Z (10°),X,Y,Z\na,20,30,40,50,60,70";
     QCOMPARE(readMeasurementList(both)->measurements[0].luminance, 60.0);
     QCOMPARE(warningsOf(both).first(), QStringLiteral("line 1: column 2 is of the 10° observer and is not read"));
+}
+
+void MeasurementHeaderTest::otherObserverAboveTheHeader_data()
+{
+    QTest::addColumn<bool>("isTold");
+    for (const char *line : {"Observer: 10°", "Observer,10", "Standard observer;CIE 1964", "10° Normalbeobachter",
+             "Observateur 10 deg", "观察者：10°", "CIE 1964", "# Observer 10 degrees"}) {
+        QTest::newRow(line) << true;
+    }
+    for (const char *line : {"Observer: 2°", "Observer: 2°, 2024-10-05", "10 patches", "1964", "Observer 2,10 ms"}) {
+        QTest::newRow(line) << false;
+    }
+}
+
+void MeasurementHeaderTest::otherObserverAboveTheHeader()
+{
+    QFETCH(bool, isTold);
+    const QByteArray line(QTest::currentDataTag());
+    const QByteArray list = known;
+    const QString warning = QStringLiteral("line 1: the list says that it is of the 10° observer, but the names of the "
+                                           "columns do not: they are read as those of CIE 1931 (2°)");
+    QCOMPARE(warningsOf(line + '\n' + list).contains(warning), isTold);
+    QVERIFY(!warningsOf(list + line + '\n').contains(warning));
+}
+
+void MeasurementHeaderTest::columnOfUnits_data()
+{
+    QTest::addColumn<QByteArray>("header");
+    QTest::addColumn<QByteArray>("unit");
+    QTest::addColumn<MeasuredUnit>("read");
+    QTest::newRow("English") << QByteArray("name,Y,Unit,x,y") << QByteArray("cd/m2")
+                             << MeasuredUnit::CandelaPerSquareMetre;
+    QTest::newRow("German") << QByteArray("Name,Leuchtdichte,Einheit,x,y") << QByteArray("nits")
+                            << MeasuredUnit::CandelaPerSquareMetre;
+    QTest::newRow("Chinese") << QByteArray("名称,亮度,单位,x,y") << QByteArray("cd/㎡")
+                             << MeasuredUnit::CandelaPerSquareMetre;
+    QTest::newRow("percent") << QByteArray("name,Y,Unit,x,y") << QByteArray("%") << MeasuredUnit::Relative;
+    QTest::newRow("foot-lamberts") << QByteArray("name,Y,units,x,y") << QByteArray("fL") << MeasuredUnit::FootLambert;
+    QTest::newRow("not known") << QByteArray("name,Y,Unit,x,y") << QByteArray("asb") << MeasuredUnit::NotKnown;
+    QTest::newRow("nothing") << QByteArray("name,Y,Unit,x,y") << QByteArray("-") << MeasuredUnit::NotStated;
+    QTest::newRow("of something else") << QByteArray("name,Y (cd/m2),Unit,x,y") << QByteArray("px")
+                                       << MeasuredUnit::CandelaPerSquareMetre;
+    QTest::newRow("the same twice") << QByteArray("name,Y (cd/m2),Unit,x,y") << QByteArray("nits")
+                                    << MeasuredUnit::CandelaPerSquareMetre;
+}
+
+void MeasurementHeaderTest::columnOfUnits()
+{
+    QFETCH(QByteArray, header);
+    QFETCH(QByteArray, unit);
+    QFETCH(MeasuredUnit, read);
+    const auto list = readMeasurementList(
+        header + "\nred,200," + unit + ",0.64,0.33\nblack,0,,0,0\ngreen,700," + unit + ",0.3,0.6\n");
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(int(list->recognized.unit), int(read));
+    QCOMPARE(
+        list->measurements.at(0).luminance, read == MeasuredUnit::FootLambert ? 200.0 * 3.4262590996353905 : 200.0);
+}
+
+void MeasurementHeaderTest::columnOfUnitsThatContradicts()
+{
+    const QByteArray mixed = "name,Y,Unit,x,y\nred,200,cd/m2,0.64,0.33\ngreen,70,%,0.3,0.6\n";
+    QCOMPARE(errorOf(mixed),
+        QStringLiteral("line 3, column Unit: the unit \"%\" is not that of line 2, \"cd/m2\": state the unit"));
+    MeasurementOptions options;
+    options.unit = MeasuredUnit::Relative;
+    QCOMPARE(errorOf(mixed, options), QStringLiteral("taken"));
+    QCOMPARE(errorOf("name,Y (fL),Unit,x,y\nred,200,cd/m2,0.64,0.33\n"),
+        QStringLiteral(
+            "line 2, column Unit: the unit \"cd/m2\" is not that of the line of the names, \"fL\": state the unit"));
 }
 
 void MeasurementHeaderTest::textBeforeTheHeader()

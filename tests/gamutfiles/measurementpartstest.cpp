@@ -22,6 +22,7 @@ private Q_SLOTS:
     void whiteAsSum();
     void missingPrimaries();
     void unlikelyTriangles();
+    void unlikelyLuminances();
 };
 
 void MeasurementPartsTest::levels()
@@ -184,6 +185,18 @@ void MeasurementPartsTest::unlikelyTriangles()
     const QByteArray outside = QByteArray(known).replace("White,1000,0.28,0.29", "White,1000,0.1,0.5");
     QCOMPARE(warningsOf(outside), QStringList{"the white lies outside of the triangle of the primaries"});
     QCOMPARE(warningsOf(known), QStringList());
+}
+
+void MeasurementPartsTest::unlikelyLuminances()
+{
+    const auto withWhite = [](const char *luminance) {
+        return warningsOf(QByteArray(known).replace("White,1000", QByteArray("White,") + luminance));
+    };
+    QCOMPARE(withWhite("650"), QStringList{"line 5: the white is darker than one of the primaries"});
+    QCOMPARE(withWhite("699.9"), QStringList()); // within the digits of an instrument
+    QCOMPARE(warningsOf(QByteArray(known).replace("Red,200", "Red,0")),
+        QStringList{"line 2: red has a chromaticity but a luminance of 0"});
+    QCOMPARE(warningsOf(known + "Black,0,0.3,0.3\n"), QStringList());
 }
 
 QTEST_GUILESS_MAIN(MeasurementPartsTest)

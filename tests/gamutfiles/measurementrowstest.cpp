@@ -29,6 +29,8 @@ private Q_SLOTS:
     void moreFieldsThanColumns();
     void dividedNumbers_data();
     void dividedNumbers();
+    void contradictions_data();
+    void contradictions();
 };
 
 void MeasurementRowsTest::numbersAreExact()
@@ -322,6 +324,40 @@ void MeasurementRowsTest::dividedNumbers()
         = QStringLiteral("line %1: the separator seems to divide numbers: quote them or use another separator")
               .arg(line);
     QCOMPARE(errorOf(text), isTaken ? QStringLiteral("taken") : refused);
+}
+
+void MeasurementRowsTest::contradictions_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("warning");
+    const QString ofXyz = QStringLiteral("line 2: x and y are not those of X, Y and Z: x and y are read");
+    const QString ofUv = QStringLiteral("line 2: x and y are not those of u' and v': x and y are read");
+    // D65: X 95.0456, Y 100, Z 108.9058; u' 0.19783, v' 0.46832.
+    const QByteArray header("name,x,y,X,Y (cd/m2),Z\n");
+    QTest::newRow("agree") << header + "a,0.3127,0.3290,95.0456,100,108.9058\n" << QString();
+    QTest::newRow("few digits") << header + "a,0.3127,0.3290,10,10,11\n" << QString();
+    QTest::newRow("exponents") << header + "a,3.127e-1,0.329,9.5e+01,1.0e+02,1.1e+02\n" << QString();
+    QTest::newRow("as dark as noise") << header + "w,0.3127,0.3290,95.0456,100,108.9058\na,0.2,0.6,0.01,0.01,0.01\n"
+                                      << QString();
+    QTest::newRow("empty") << header + "a,0.3127,0.3290,,100,\n" << QString();
+    QTest::newRow("differ") << header + "a,0.3127,0.3310,95.0456,100,108.9058\n" << ofXyz;
+    QTest::newRow("exchanged") << header + "a,0.3290,0.3127,95.0456,100,108.9058\n" << ofXyz;
+    QTest::newRow("several") << header + "a,0.34,0.33,95,100,109\nb,0.3127,0.3290,95,100,109\nc,0.34,0.33,95,100,109\n"
+                             << ofXyz + QStringLiteral("; so in 1 further line(s)");
+    QTest::newRow("relative") << QByteArray("name,Lv,x,y,X,Y,Z\na,200,0.34,0.33,0.950,1.000,1.089\n") << ofXyz;
+    QTest::newRow("u', v' agree") << QByteArray("name,Lv,x,y,u',v'\na,200,0.3127,0.3290,0.1978,0.4683\n") << QString();
+    QTest::newRow("u', v' differ") << QByteArray("name,Lv,x,y,u',v'\na,200,0.3127,0.3290,0.1978,0.4703\n") << ofUv;
+    QTest::newRow("decimal commas") << QByteArray("name;Lv;x;y;u';v'\na;200;0,3127;0,3290;0,1978;0,4703\n") << ofUv;
+}
+
+void MeasurementRowsTest::contradictions()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, warning);
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QStringList told = otherWarningsOf(text).filter(QStringLiteral("x and y are"));
+    QCOMPARE(told, warning.isEmpty() ? QStringList() : QStringList{warning});
 }
 
 QTEST_GUILESS_MAIN(MeasurementRowsTest)
