@@ -4,8 +4,6 @@
 #include "edidextensions_p.h"
 #include "gamutfromprimaries_p.h"
 
-#include <gamutmodel/publishedgamuts.h>
-
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -115,15 +113,10 @@ QVector<Problem> roundings(const EdidChromaticities &stated, const Model::Target
 QVector<Problem> copies(const EdidDisplay &display)
 {
     constexpr double lessThanAStep = 0.99 / 1024.0; // coordinates are rounded or cut off
-    const auto equal = Model::publishedGamutsEqualTo(display.gamut.getTargets(), lessThanAStep);
-    if (equal.empty()) {
+    const QString name = standardEqualTo(display.gamut.getTargets(), lessThanAStep);
+    if (name.isEmpty()) {
         return {};
     }
-    QStringList names;
-    for (const Model::PublishedGamut &published : equal) {
-        names += nameOf(published.gamut);
-    }
-    const QString name = names.contains(QStringLiteral("sRGB")) ? QStringLiteral("sRGB") : names.first();
     QString text = EdidText::tr("the EDID states exactly %1: many makers write this without measuring").arg(name);
     QStringList wide = display.colorimetries.filter(QStringLiteral("BT2020"));
     wide += display.colorimetries.filter(QStringLiteral("DCI-P3"));
@@ -171,8 +164,8 @@ Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
 
     EdidExtensions extensions;
     extensions.read(bytes, display);
-    if (const int code = quint8(block.at(gammaByte)); !display.gamma && code != 0xFF) {
-        display.gamma = (100 + code) / 100.0;
+    if (!display.gamma) {
+        display.gamma = edidGamma(quint8(block.at(gammaByte)));
     }
 
     const EdidChromaticities base{chromaticity(cd_edid_get_red(edid.get())),

@@ -26,12 +26,17 @@ struct EdidContentLuminance {
     std::optional<double> minimum; //!< desired content minimum: maximum * (code / 255)^2 / 100
 };
 
-/*! \brief The luminances of the display itself, in cd/m² (VESA DisplayID 2.0, display parameters data block, 0x21). */
+/*!
+ * \brief The luminances of the display itself, in cd/m² (VESA DisplayID 2.0, display parameters data block, 0x21).
+ *
+ * They are what the display states, not what was measured. A white of 0 counts as not stated; so does a black of 0
+ * without any white.
+ */
 struct EdidNativeLuminance {
     std::optional<double> fullScreen; //!< of a white on the whole screen
     std::optional<double> tenPercent; //!< of a white rectangle on 10 % of the screen
     std::optional<double> minimum; //!< of black
-    bool guaranteed = false; //!< whether the display reaches them at least; otherwise guidance for the source
+    bool guaranteed = false; //!< whether the display states that it reaches them at least
 };
 
 /*! \brief CIE 1931 chromaticities of a display's primaries and white. */

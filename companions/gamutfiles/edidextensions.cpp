@@ -53,12 +53,6 @@ std::optional<double> nativeLuminance(int bits)
     return exponent == 0 ? std::ldexp(fraction, -24) : std::ldexp(fraction + 0x400, exponent - 25);
 }
 
-//! DisplayID: (100 + code) / 100; 0xFF says that there is none.
-std::optional<double> displayIdGamma(int code)
-{
-    return code == 0xFF ? std::nullopt : std::make_optional((100 + code) / 100.0);
-}
-
 QPointF fromUniform(const QPointF &uv)
 {
     const Model::DiagramPoint xy = Model::fromDiagram(Model::Diagram::Cie1976, {uv.x(), uv.y()});
@@ -66,6 +60,11 @@ QPointF fromUniform(const QPointF &uv)
 }
 
 } // namespace
+
+std::optional<double> edidGamma(int code)
+{
+    return code == 0xFF ? std::nullopt : std::make_optional((100 + code) / 100.0);
+}
 
 bool edidChecksumIsRight(const QByteArray &block)
 {
@@ -271,7 +270,7 @@ void EdidExtensions::readParameters1(const Bytes &payload)
 {
     constexpr int gammaByte = 9;
     if (isLongEnough(payload, 12, tr("display parameters data block"))) {
-        m_display->gamma = displayIdGamma(payload.at(gammaByte));
+        m_display->gamma = edidGamma(payload.at(gammaByte));
     }
 }
 
@@ -279,10 +278,11 @@ namespace {
 
 constexpr int chromaticityBytes = 3;
 
-//! Two numbers of twelve bits, in 4096ths, the low bits first.
-QPointF twelveBits(int first, int second, int third)
+//! Two numbers of twelve bits, in 4096ths, the low bits first: x, y or, \a isUniform, u', v'.
+QPointF twelveBits(int first, int second, int third, bool isUniform)
 {
-    return QPointF(first | (second & 0x0F) << 8, second >> 4 | third << 4) / 4096.0;
+    const QPointF pair = QPointF(first | (second & 0x0F) << 8, second >> 4 | third << 4) / 4096.0;
+    return isUniform ? fromUniform(pair) : pair;
 }
 
 } // namespace
@@ -301,8 +301,7 @@ void EdidExtensions::readColorCharacteristics(int revision, const Bytes &payload
     }
     const auto color = [&payload, uniform = (revision & 0x80) != 0](int index) {
         const int at = 1 + chromaticityBytes * index;
-        const QPointF pair = twelveBits(payload.at(at), payload.at(at + 1), payload.at(at + 2));
-        return uniform ? fromUniform(pair) : pair;
+        return twelveBits(payload.at(at), payload.at(at + 1), payload.at(at + 2), uniform);
     };
     setChromaticities({color(0), color(1), color(2), color(3)}, payload.offset);
 }
@@ -318,16 +317,47 @@ void EdidExtensions::readParameters2(const Bytes &payload)
     }
     const auto color = [&payload, uniform = (payload.at(flagsByte) & 0x40) != 0](int index) {
         const int at = firstColor + chromaticityBytes * index;
-        const QPointF pair = twelveBits(payload.at(at), payload.at(at + 1), payload.at(at + 2));
-        return uniform ? fromUniform(pair) : pair;
+        return twelveBits(payload.at(at), payload.at(at + 1), payload.at(at + 2), uniform);
     };
     const auto luminance = [&payload](int index) {
         const int at = firstLuminance + 2 * index;
         return nativeLuminance(payload.at(at) | payload.at(at + 1) << 8);
     };
     setChromaticities({color(0), color(1), color(2), color(3)}, payload.offset);
-    setLuminances({luminance(0), luminance(1), luminance(2), (payload.at(flagsByte) >> 3 & 0x03) == 0}, payload.offset);
-    m_display->gamma = displayIdGamma(payload.at(gammaByte));
+    setLuminances(
+        plausible({luminance(0), luminance(1), luminance(2), (payload.at(flagsByte) >> 3 & 0x03) == 0}, payload.offset),
+        payload.offset);
+    m_display->gamma = edidGamma(payload.at(gammaByte));
+}
+
+/*
+ * A display whose white is 0 cd/m² is none: the fields were left empty, and so was that of black, for which 0 could be
+ * meant otherwise. 0 in the flags means "guaranteed", so that empty fields would even be a promise.
+ */
+EdidNativeLuminance EdidExtensions::plausible(EdidNativeLuminance luminances, int byte)
+{
+    for (std::optional<double> *white : {&luminances.fullScreen, &luminances.tenPercent}) {
+        if (*white == 0.0) {
+            white->reset();
+        }
+    }
+    if (luminances.minimum == 0.0 && !luminances.fullScreen && !luminances.tenPercent) {
+        luminances.minimum.reset();
+    }
+    if (luminances.fullScreen && luminances.tenPercent && *luminances.fullScreen > *luminances.tenPercent) {
+        warn(tr("the display states a white screen of %1 cd/m², but white on 10 % of it with %2 cd/m²")
+                 .arg(*luminances.fullScreen, 0, 'g', 4)
+                 .arg(*luminances.tenPercent, 0, 'g', 4),
+            byte);
+    }
+    const auto &white = luminances.fullScreen ? luminances.fullScreen : luminances.tenPercent;
+    if (luminances.minimum && white && *luminances.minimum >= *white) {
+        warn(tr("the display states a black of %1 cd/m² and a white of %2 cd/m²")
+                 .arg(*luminances.minimum, 0, 'g', 4)
+                 .arg(*white, 0, 'g', 4),
+            byte);
+    }
+    return luminances;
 }
 
 //! The first block that states them counts; another that contradicts it is warned of.

@@ -11,6 +11,9 @@ namespace gamutfiles {
 /*! \brief The size of the base block and of each extension. */
 constexpr int edidBlockSize = 128;
 
+/*! \brief The gamma that \a code says, in a base block and in DisplayID: (100 + code) / 100; 0xFF: it is not stated. */
+std::optional<double> edidGamma(int code);
+
 /*! \brief Whether the bytes of \a block add up to a multiple of 256. */
 bool edidChecksumIsRight(const QByteArray &block);
 
@@ -58,6 +61,7 @@ private:
     void readParameters2(const Bytes &payload);
 
     void setChromaticities(const EdidChromaticities &colors, int byte);
+    EdidNativeLuminance plausible(EdidNativeLuminance luminances, int byte);
     void setLuminances(const EdidNativeLuminance &luminances, int byte);
     bool isLongEnough(const Bytes &payload, int size, const QString &name);
     void warn(const QString &text, int byte = -1);

@@ -132,7 +132,8 @@ QVector<DisplayFact> facts(const EdidDisplay &display)
     add(facts, FileText::tr("luminance of black"), native.minimum);
     if (native.fullScreen || native.tenPercent || native.minimum) {
         add(facts, FileText::tr("these luminances are"),
-            native.guaranteed ? FileText::tr("guaranteed") : FileText::tr("guidance for the source"));
+            native.guaranteed ? FileText::tr("guaranteed, by the display's own statement")
+                              : FileText::tr("not guaranteed"));
     }
     add(facts, FileText::tr("desired maximum luminance of content"), content.maximum);
     add(facts, FileText::tr("desired maximum average of a frame"), content.maximumFrameAverage);

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "gamutfromprimaries_p.h"
 
+#include <gamutfiles/displaydescription.h>
+
 #include <colortemperature/colortemperature.h>
 #include <gamutmodel/gamutcoverage.h>
 #include <gamutmodel/plane_p.h>
+#include <gamutmodel/publishedgamuts.h>
 #include <gamutmodel/spectrallocus.h>
 
 #include <QCoreApplication>
@@ -135,6 +138,16 @@ QVector<Problem> warningsOfTheWhite(const Model::Targets &gamut)
     return gamut.white.Y > 0.0 && brightest > gamut.white.Y * rounding
         ? QVector<Problem>{{PrimariesText::tr("the white is darker than one of the primaries"), {}, 0, 0}}
         : QVector<Problem>();
+}
+
+QString standardEqualTo(const Model::Targets &gamut, double tolerance)
+{
+    QStringList names;
+    for (const Model::PublishedGamut &published : Model::publishedGamutsEqualTo(gamut, tolerance)) {
+        names += nameOf(published.gamut);
+    }
+    const QString srgb = QStringLiteral("sRGB");
+    return names.contains(srgb) ? srgb : names.value(0);
 }
 
 QString noTriangleText()

@@ -7,6 +7,7 @@
 #include <gamutmodel/colorgamut.h>
 
 #include <QPointF>
+#include <QString>
 
 namespace gamutfiles {
 
@@ -61,6 +62,12 @@ QVector<Problem> warningsOfTheTriangle(const Model::Targets &gamut);
  * makes it so.
  */
 QVector<Problem> warningsOfTheWhite(const Model::Targets &gamut);
+
+/*!
+ * \brief The published gamut that \a gamut is but for \a tolerance in each coordinate: "sRGB", of those of its numbers;
+ * empty for none.
+ */
+QString standardEqualTo(const Model::Targets &gamut, double tolerance);
 
 /*! \brief What to say of primaries that are too near to one line to mix anything. */
 QString noTriangleText();

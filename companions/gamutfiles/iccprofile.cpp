@@ -229,6 +229,18 @@ QVector<Problem> warningsOfTheSource(const QVector<IccMetadata> &entries)
     return warnings;
 }
 
+//! Says when the gamut is the copy of a standard rather than what was measured.
+QVector<Problem> copies(const Model::Targets &gamut)
+{
+    constexpr double adaptation = 0.001; // what adapting to D50 and back with few digits leaves
+    const QString name = standardEqualTo(gamut, adaptation);
+    return name.isEmpty()
+        ? QVector<Problem>()
+        : QVector<Problem>{
+            {IccText::tr("the profile states exactly %1: that is a standard, not a measurement of a display").arg(name),
+                {}, 0, 0}};
+}
+
 //! Whether the profile's table of tags has \a signature; Little CMS leaves out those that lie beyond the end.
 bool isListed(const QByteArray &bytes, quint32 signature)
 {
@@ -356,8 +368,8 @@ Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes, const IccMemory &mem
     }
     warnings += warningsOfTheTags(profile, bytes);
     return {display,
-        warnings + warningsOfTheTriangle(gamut->getTargets()) + warningsOfTheLocus(gamut->getTargets())
-            + warningsOfTheSource(display.metadata)};
+        warnings + copies(gamut->getTargets()) + warningsOfTheTriangle(gamut->getTargets())
+            + warningsOfTheLocus(gamut->getTargets()) + warningsOfTheSource(display.metadata)};
 }
 
 Outcome<DisplayGamut> readIccProfile(const QByteArray &bytes)

@@ -45,8 +45,9 @@ GAMUTFILES_EXPORT bool isIccProfile(const QByteArray &bytes);
  * The memory that reading takes is bounded by the size of the profile, whatever its counts say. A profile that lists
  * the tag of its adaptation, or without one that of its white, but where it cannot be read, is refused as damaged.
  * Warnings tell of a description or a luminance that cannot be read, of primaries that no light has, of a table (A2B0,
- * A2B1) beside the colorants, which then need not be the primaries, of metadata that are larger than their tag, and of
- * metadata by which the numbers are those of an EDID or a standard, not measured ones.
+ * A2B1) beside the colorants, which then need not be the primaries, of metadata that are larger than their tag, of
+ * metadata by which the numbers are those of an EDID or a standard, not measured ones, and of a gamut that is exactly a
+ * standard's.
  */
 GAMUTFILES_EXPORT Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes);
 

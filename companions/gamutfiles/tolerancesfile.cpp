@@ -7,8 +7,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <algorithm>
+#include <QPair>
+#include <QSet>
 
 namespace gamutfiles {
 
@@ -90,6 +90,9 @@ private:
         for (const Node &element : elements(member(node, QStringLiteral("standards")))) {
             readStandard(element);
             hasLimit = true;
+            if (failed()) {
+                break;
+            }
         }
         if (!hasLimit) {
             fail(node, tr("has no limit"));
@@ -107,13 +110,11 @@ private:
         limit.standard = readName(member(node, QStringLiteral("standard")));
         limit.diagram = readDiagram(member(node, QStringLiteral("diagram")));
         limit.coverage = readLimit(member(node, QStringLiteral("coverage")), 1.0);
-        const bool isThere = std::any_of(
-            m_tolerances.standards.begin(), m_tolerances.standards.end(), [&](const StandardCoverage &other) {
-                return other.standard == limit.standard && other.diagram == limit.diagram;
-            });
-        if (isThere) {
+        const QPair<QString, int> place{limit.standard, int(limit.diagram)};
+        if (m_listed.contains(place)) {
             fail(node, tr("%1 in this diagram is listed twice").arg(quoted(limit.standard)));
         }
+        m_listed.insert(place);
         m_tolerances.standards.append(limit);
     }
 
@@ -143,6 +144,7 @@ private:
     }
 
     Tolerances m_tolerances;
+    QSet<QPair<QString, int>> m_listed; // the standards with their diagrams
 };
 
 } // namespace

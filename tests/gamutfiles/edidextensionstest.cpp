@@ -18,6 +18,8 @@ private Q_SLOTS:
     void contentLuminancesMayBeMissing();
     void contentLuminanceIsNotThatOfTheDisplay();
     void nativeLuminances();
+    void nativeLuminancesThatAreEmpty();
+    void nativeLuminancesThatContradict();
     void displayIdOfTheFirstVersion();
     void displayIdInUniformCoordinates();
     void displayIdWithoutBasePrimaries();
@@ -106,6 +108,33 @@ void EdidExtensionsTest::nativeLuminances()
         QVERIFY(unknown->gamut.unit == LuminanceUnit::Relative);
         QVERIFY(unknown->gamut.getTargets().white.Y == 1.0);
     }
+}
+
+void EdidExtensionsTest::nativeLuminancesThatAreEmpty()
+{
+    const auto native = [](const QList<quint16> &luminances) {
+        return readEdidDisplay(nativeDisplay('\x00', luminances))->nativeLuminance;
+    };
+    // A white without light is none, and neither are the flags with it a promise.
+    const EdidNativeLuminance none = native({0, 0, 0});
+    QVERIFY(!none.fullScreen && !none.tenPercent && !none.minimum);
+    const EdidNativeLuminance oneWhite = native({0, 0x63D0, 0});
+    QVERIFY(!oneWhite.fullScreen && oneWhite.tenPercent == 1000.0 && oneWhite.minimum == 0.0);
+    QVERIFY(native({0x6178, 0x8000, 0}).minimum == 0.0); // of a display that can be black
+    QVERIFY(!native({0x8000, 0x8000, 0}).minimum);
+}
+
+void EdidExtensionsTest::nativeLuminancesThatContradict()
+{
+    const auto told = [](const QList<quint16> &luminances) {
+        return messages(readEdidDisplay(nativeDisplay('\x00', luminances)).warnings()).filter("the display states");
+    };
+    QCOMPARE(told(halves), QStringList());
+    QCOMPARE(told({0x63D0, 0x6178, 0x1C00}),
+        QStringList("extension block 1, byte 8: the display states a white screen of 1000 cd/m², but white on 10 % of "
+                    "it with 700 cd/m²"));
+    QCOMPARE(told({0x6178, 0x63D0, 0x6178}),
+        QStringList("extension block 1, byte 8: the display states a black of 700 cd/m² and a white of 700 cd/m²"));
 }
 
 void EdidExtensionsTest::displayIdOfTheFirstVersion()
