@@ -385,6 +385,10 @@
         <source>The target is too bright: the %1 reaches %2 at this white, and the target has %3. Lower the luminance of the white to %2.</source>
         <translation>目标过亮：%1在此白点下可达到 %2，而目标为 %3。请将白点的亮度降低到 %2。</translation>
     </message>
+    <message>
+        <source>A measurement list needs a choice: what it says of the display is not judged. Make the choice that the warnings ask for.</source>
+        <translation>有测量列表需要作出选择：其中关于显示屏的内容未作判定。请按警告的要求作出选择。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::CabinetModel</name>
@@ -1625,6 +1629,39 @@
         <source>%1 (%2)</source>
         <comment>cabinet, and why nothing is known of it</comment>
         <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Δu′v′ without correction</source>
+        <translation>未校正 Δu′v′</translation>
+    </message>
+    <message>
+        <source>with correction</source>
+        <translation>已校正</translation>
+    </message>
+    <message>
+        <source>temperature of white</source>
+        <translation>白色的色温</translation>
+    </message>
+    <message>
+        <source>Duv</source>
+        <translation>Duv</translation>
+    </message>
+    <message>
+        <source>coverage of</source>
+        <translation>覆盖率</translation>
+    </message>
+    <message>
+        <source>%1 x, y</source>
+        <comment>part of a gamut: measured x, y</comment>
+        <translation>%1 x, y</translation>
+    </message>
+    <message>
+        <source>u′, v′</source>
+        <translation>u′, v′</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>警告：%1</translation>
     </message>
 </context>
 <context>

@@ -28,6 +28,11 @@
         <comment>column of a measurement list</comment>
         <translation>编号</translation>
     </message>
+    <message>
+        <source>unit</source>
+        <comment>column of a measurement list</comment>
+        <translation>单位</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Corrections</name>
@@ -239,10 +244,6 @@
         <translation>x 和 y 必须在 -1 到 2 之间，y 不能为 0，且 -2x + 12y + 3 必须大于 0</translation>
     </message>
     <message>
-        <source>the white is darker than one of the primaries</source>
-        <translation>白色比其中一种基色还暗</translation>
-    </message>
-    <message>
         <source>a cabinet needs a name, or row and column</source>
         <translation>箱体需要名称，或行和列</translation>
     </message>
@@ -426,6 +427,14 @@
         <source>there is more that is wrong</source>
         <translation>还有其他错误</translation>
     </message>
+    <message>
+        <source>the display states a white screen of %1 cd/m², but white on 10 % of it with %2 cd/m²</source>
+        <translation>显示屏声明全屏白色为 %1 cd/m²，而 10 % 面积的白色只有 %2 cd/m²</translation>
+    </message>
+    <message>
+        <source>the display states a black of %1 cd/m² and a white of %2 cd/m²</source>
+        <translation>显示屏声明黑色为 %1 cd/m²，白色为 %2 cd/m²</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::FileBytes</name>
@@ -525,14 +534,6 @@
         <translation>以上亮度为</translation>
     </message>
     <message>
-        <source>guaranteed</source>
-        <translation>保证值</translation>
-    </message>
-    <message>
-        <source>guidance for the source</source>
-        <translation>供信号源参考的值</translation>
-    </message>
-    <message>
         <source>desired maximum luminance of content</source>
         <translation>期望的内容最大亮度</translation>
     </message>
@@ -567,6 +568,14 @@
     <message>
         <source>standard input</source>
         <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>guaranteed, by the display&apos;s own statement</source>
+        <translation>由显示屏自己声明为保证值</translation>
+    </message>
+    <message>
+        <source>not guaranteed</source>
+        <translation>不保证</translation>
     </message>
 </context>
 <context>
@@ -646,6 +655,10 @@
     <message>
         <source>the metadata are larger than their tag: the further ones are left out</source>
         <translation>元数据大于其标签：其余的被忽略</translation>
+    </message>
+    <message>
+        <source>the profile states exactly %1: that is a standard, not a measurement of a display</source>
+        <translation>该特性文件与 %1 完全相同：这是标准的数值，不是对显示屏的测量</translation>
     </message>
 </context>
 <context>
@@ -1067,6 +1080,26 @@
         <source>has a value slightly below 0, as noise gives: it is read as 0</source>
         <translation>有一个值因噪声略小于 0：按 0 读取</translation>
     </message>
+    <message>
+        <source>the list says that it is of the 10° observer, but the names of the columns do not: they are read as those of CIE 1931 (2°)</source>
+        <translation>列表声明采用 10° 观察者，但列名没有说明：这些列按 CIE 1931（2°）读取</translation>
+    </message>
+    <message>
+        <source>%1 has a chromaticity but a luminance of 0</source>
+        <translation>%1有色度，但亮度为 0</translation>
+    </message>
+    <message>
+        <source>x and y are not those of X, Y and Z: x and y are read</source>
+        <translation>x、y 与 X、Y、Z 不一致：读取 x、y</translation>
+    </message>
+    <message>
+        <source>x and y are not those of u&apos; and v&apos;: x and y are read</source>
+        <translation>x、y 与 u&apos;、v&apos; 不一致：读取 x、y</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is not that of line %2, &quot;%3&quot;: state the unit</source>
+        <translation>单位“%1”与第 %2 行的单位“%3”不同：请指定单位</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::MeasurementStream</name>
@@ -1132,6 +1165,10 @@
     <message>
         <source>the white lies outside of the triangle of the primaries</source>
         <translation>白点位于基色三角形之外</translation>
+    </message>
+    <message>
+        <source>the white is darker than one of the primaries</source>
+        <translation>白色比其中一种基色还暗</translation>
     </message>
 </context>
 <context>
