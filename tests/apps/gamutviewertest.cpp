@@ -40,7 +40,9 @@ void GamutViewerTest::opensEveryFormat()
     for (const auto &file : expected) {
         const Result result = run({"--report", "json", file.first});
         QVERIFY2(result.exitCode == 0, result.error);
-        QCOMPARE(result.error, QByteArray());
+        const QByteArray remark("gamutviewer: profile.icc: the profile states exactly sRGB: that is a standard, not a "
+                                "measurement of a display\n");
+        QCOMPARE(result.error, file.first == QByteArray("profile.icc") ? remark : QByteArray());
         const QJsonObject report = QJsonDocument::fromJson(result.output).object();
         for (const char *part : {"declared", "original", "measured", "target"}) {
             QVERIFY2(report.contains(part) == file.second.contains(part), part);

@@ -34,8 +34,11 @@ QString judgementMark(Judgement judgement);
 /*! \brief "pass", "fail" or "not known", for programs: not translated. */
 QString judgementName(Judgement judgement);
 
-/*! \brief Drives up to this count as full: the four decimals of a white point leave about 0.001 open. */
-constexpr double fullDrive = 1.002;
+/*!
+ * \brief Drives up to this count as full: the four decimals of a white point leave about 0.001 open. What is beyond
+ * 1.002 by less than 1e-12 of it comes from the computation.
+ */
+constexpr double fullDrive = 1.002 * (1.0 + 1e-12);
 
 /*! \brief One judgement with what it means and what to do about it. */
 struct AssessmentLine {
