@@ -49,7 +49,9 @@ void readOnce(benchmark::State &state, std::size_t count)
 
 Model::Targets wish()
 {
-    return Model::dciP3D65().getTargets();
+    Model::Targets targets = Model::dciP3D65().getTargets();
+    targets.white = Model::Target::fromYxy(700.0, targets.white.x, targets.white.y); // so that the blacks count
+    return targets;
 }
 
 void common(benchmark::State &state, std::size_t count)
@@ -66,6 +68,15 @@ void fit(benchmark::State &state, std::size_t count)
     for (auto _ : state) {
         benchmark::DoNotOptimize(Model::fittedTarget(gamut, wish()));
         benchmark::DoNotOptimize(Model::largestTarget(gamut, wish(), Model::Diagram::Cie1976));
+    }
+}
+
+void fitOverBlacks(benchmark::State &state, std::size_t count)
+{
+    const auto cabinets = wallOf(count);
+    const auto gamut = Model::commonGamut(cabinets);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(Model::fittedTarget(gamut, wish(), cabinets));
     }
 }
 
@@ -96,7 +107,7 @@ void drag(benchmark::State &state, std::size_t count)
     const auto gamut = Model::commonGamut(cabinets);
     const auto positions = Model::positionsOf(cabinets);
     for (auto _ : state) {
-        const auto target = Model::fittedTarget(gamut, wish()).target;
+        const auto target = Model::fittedTarget(gamut, wish(), cabinets).target;
         const auto wall = Model::wallCorrection(cabinets, target);
         benchmark::DoNotOptimize(Model::uniformity(Model::whitesAfter(wall), positions));
     }
@@ -106,7 +117,7 @@ void wholeChain(benchmark::State &state, std::size_t count)
 {
     const auto cabinets = wallOf(count);
     for (auto _ : state) {
-        const auto target = Model::fittedTarget(Model::commonGamut(cabinets), wish()).target;
+        const auto target = Model::fittedTarget(Model::commonGamut(cabinets), wish(), cabinets).target;
         const auto wall = Model::wallCorrection(cabinets, target);
         const auto positions = Model::positionsOf(cabinets);
         benchmark::DoNotOptimize(Model::uniformity(Model::whitesBefore(wall), positions));
@@ -145,6 +156,7 @@ int main(int argc, char **argv)
     add("wall of 10000/common gamut", common, 10000);
     add("wall of 10000/common gamut, nothing in common", nothingInCommon, 10000);
     add("wall of 10000/fit and largest triangle", fit, 10000);
+    add("wall of 10000/fit over blacks", fitOverBlacks, 10000);
     add("wall of 10000/corrections", corrections, 10000);
     add("wall of 10000/uniformity before and after", uniformity, 10000);
     add("wall of 10000/whole chain", wholeChain, 10000);

@@ -3,6 +3,7 @@
 
 #include <gamutmodel/nearestinside.h>
 #include <gamutmodel/plane_p.h>
+#include <gamutmodel/sharesoverblack_p.h>
 
 #include <algorithm>
 #include <array>
@@ -185,6 +186,34 @@ GamutFit fittedTarget(const CommonGamut &common, const Targets &wish)
         return fit;
     }
     complete(fit, primaries, white, wish);
+    return fit;
+}
+
+GamutFit fittedTarget(const CommonGamut &common, const Targets &wish, const std::vector<Cabinet> &cabinets)
+{
+    GamutFit fit = fittedTarget(common, wish);
+    if (fit.fault != FitFault::None || !(wish.white.Y > 0.0)) {
+        return fit;
+    }
+    const SharesOverBlack over = sharesOverBlack(cabinets, fit.target);
+    if (over.tooBright) {
+        fit.fault = FitFault::BlackTooBright;
+        fit.whiteLimit = over.tooBright;
+        return fit;
+    }
+    const DiagramPoint white = xyOf(fit.target.white);
+    Triangle primaries{xyOf(fit.target.red), xyOf(fit.target.green), xyOf(fit.target.blue)};
+    FittedPrimary *const fitted[] = {&fit.red, &fit.green, &fit.blue};
+    for (std::size_t i = 0; i < 3; ++i) {
+        if (over.limits[i]) {
+            primaries[i] = white + over.shares[i] * (primaries[i] - white);
+            fitted[i]->share *= over.shares[i];
+            fitted[i]->limit = over.limits[i];
+        }
+    }
+    if (over.limits != decltype(over.limits)()) {
+        complete(fit, primaries, white, wish);
+    }
     return fit;
 }
 

@@ -8,9 +8,11 @@
 #include <gamutmodel/drive.h>
 #include <gamutmodel/gamutcoverage.h>
 #include <gamutmodel/gamutmodel_export.h>
+#include <gamutmodel/wall.h>
 
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 /*!
  * \file
@@ -44,7 +46,13 @@ enum class FitFault {
      * DisplayDrive::largestCondition), or has a primary that lies on the white: with a share below a millionth.
      * FittedPrimary::share and limit say why.
      */
-    NoTriangle
+    NoTriangle,
+    /*!
+     * \brief The black of a cabinet is too bright for the luminance of the white, wherever the primaries lie.
+     *
+     * GamutFit::whiteLimit is that cabinet. A brighter white can be fitted.
+     */
+    BlackTooBright
 };
 
 /*! \brief What became of a primary of the wish. */
@@ -73,7 +81,10 @@ struct GamutFit {
     FittedPrimary red; //!< the red primary
     FittedPrimary green; //!< the green primary
     FittedPrimary blue; //!< the blue primary
-    /*! \brief With FitFault::WhiteOutside a cabinet that cannot show more than the nearest white, in u', v'. */
+    /*!
+     * \brief With FitFault::WhiteOutside a cabinet that cannot show more than the nearest white, in u', v'. With
+     * FitFault::BlackTooBright the cabinet whose black it is.
+     */
     std::optional<std::size_t> whiteLimit;
     double whiteMoved = 0.0; //!< Δu'v' between the wished white and that of the target
     GamutCoverage costXy; //!< the target compared with the wish in x, y
@@ -96,6 +107,22 @@ struct GamutFit {
  * Of \a wish x and y are used, and Y of the white.
  */
 GAMUTMODEL_EXPORT GamutFit fittedTarget(const CommonGamut &common, const Targets &wish);
+
+/*!
+ * \brief The same for \a cabinets, of which \a common is what they have in common, with their blacks counted in.
+ *
+ * A cabinet shows its primaries at full drive only. A primary of the target that is darker lies between that and the
+ * black, and so inside of what the chromaticities of the primaries promise. Each primary therefore moves on towards the
+ * white, until no cabinet needs a drive below 0 for it in the correction for this target: see correction.h. As the
+ * primaries have to mix to the white, how far one moves depends on the others.
+ *
+ * The luminance of the white of \a wish has to be in the unit of the cabinets. The darker it is, the more the blacks
+ * take. Whether the cabinets reach it does not matter here.
+ *
+ * Cabinets without a black, and those that have no drives (see DisplayDrive::fault()), take nothing more.
+ */
+GAMUTMODEL_EXPORT GamutFit fittedTarget(
+    const CommonGamut &common, const Targets &wish, const std::vector<Cabinet> &cabinets);
 
 /*!
  * \brief The triangle with the largest area inside of \a common: by its area in the coordinates of \a diagram, as the

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include <gamutmodel/correction.h>
 #include <gamutmodel/gamutfit.h>
 #include <gamutmodel/nearestinside.h>
 
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <random>
 #include <vector>
 
@@ -24,6 +27,9 @@ private Q_SLOTS:
     void isTheLargestOnItsHueLines();
     void faults();
     void whiteOfNoLight();
+    void blacksTakeNothingWithoutLight();
+    void blacksLeaveNoDriveBelowZero();
+    void blackTooBright();
     void largestOfATriangle();
     void largestAgreesWithAllTriples_data();
     void largestAgreesWithAllTriples();
@@ -92,6 +98,22 @@ bool mixes(const Targets &t)
     const double Y = t.red.Y + t.green.Y + t.blue.Y - t.white.Y;
     const double Z = t.red.Z + t.green.Z + t.blue.Z - t.white.Z;
     return std::fabs(X) + std::fabs(Y) + std::fabs(Z) < 1e-12 * (t.white.X + t.white.Y + t.white.Z);
+}
+
+//! Cabinets of a series of some 1000 cd/m² with blacks of about \a black
+std::vector<Cabinet> glowingWall(std::mt19937 &random, std::size_t count, double black)
+{
+    std::uniform_real_distribution<double> xy(-0.008, 0.008);
+    std::uniform_real_distribution<double> part(0.8, 1.2);
+    const auto color = [&](double Y, double x, double y) {
+        return Target::fromYxy(Y * part(random), x + xy(random), y + xy(random));
+    };
+    std::vector<Cabinet> cabinets(count);
+    for (Cabinet &cabinet : cabinets) {
+        cabinet.colors = {color(250, 0.69, 0.305), color(680, 0.20, 0.71), color(80, 0.14, 0.055), Target()};
+        cabinet.black = color(black, 0.30, 0.31);
+    }
+    return cabinets;
 }
 
 } // namespace
@@ -257,6 +279,81 @@ void GamutFitTest::whiteOfNoLight()
     const GamutFit fit = fittedTarget(commonGamut(Wall{triangleOf(rec709())}), wish);
     QCOMPARE(fit.fault, FitFault::None);
     QVERIFY(fit.target.red.Y == 0.0 && fit.target.green.Y == 0.0 && fit.target.blue.Y == 0.0);
+}
+
+void GamutFitTest::blacksTakeNothingWithoutLight()
+{
+    std::mt19937 random(21);
+    auto cabinets = glowingWall(random, 20, 0.0);
+    const Targets wish = targets({0.68, 0.32}, {0.265, 0.69}, {0.15, 0.06}, {0.3127, 0.329}, 300.0);
+    const GamutFit plain = fittedTarget(commonGamut(cabinets), wish);
+    QCOMPARE(plain.fault, FitFault::None);
+    for (const bool hasBlack : {true, false}) {
+        const GamutFit fit = fittedTarget(commonGamut(cabinets), wish, cabinets);
+        QCOMPARE(fit.fault, FitFault::None);
+        for (const Primary primary : {Primary::Red, Primary::Green, Primary::Blue}) {
+            QVERIFY(std::fabs(fit.of(primary).share - plain.of(primary).share) < 1e-9);
+        }
+        for (Cabinet &cabinet : cabinets) {
+            cabinet.black = hasBlack ? std::nullopt : cabinet.black;
+        }
+    }
+}
+
+void GamutFitTest::blacksLeaveNoDriveBelowZero()
+{
+    std::mt19937 random(20);
+    std::uniform_real_distribution<double> any(0.0, 1.0);
+    int farther = 0;
+    for (int i = 0; i < 2000; ++i) {
+        const double luminance = 100.0 + 700.0 * any(random);
+        const auto cabinets = glowingWall(random, 1 + std::size_t(i % 30), 0.02 * luminance * any(random));
+        const Targets wish = targets({0.68, 0.32}, {0.265, 0.69}, {0.15, 0.06}, {0.3127, 0.329}, luminance);
+        const auto common = commonGamut(cabinets);
+        const GamutFit plain = fittedTarget(common, wish);
+        const GamutFit fit = fittedTarget(common, wish, cabinets);
+        QCOMPARE(plain.fault, FitFault::None);
+        QCOMPARE(fit.fault, FitFault::None);
+        QCOMPARE(fit.target.white.Y, luminance);
+        QVERIFY(mixes(fit.target));
+        const auto correctionFor = [&](const Targets &target) { return wallCorrection(cabinets, target, luminance); };
+        for (const Correction &of : correctionFor(fit.target).corrections) {
+            QVERIFY(entriesBelowZero(*of.matrix).empty());
+            for (const auto &uv : {of.remaining.redUv, of.remaining.greenUv, of.remaining.blueUv}) {
+                QVERIFY(*uv < 1e-8);
+            }
+        }
+        for (const Primary primary : {Primary::Red, Primary::Green, Primary::Blue}) {
+            const FittedPrimary &of = fit.of(primary);
+            QVERIFY(of.share <= plain.of(primary).share);
+            if (of.share == plain.of(primary).share) {
+                continue;
+            }
+            // Farther out, the cabinet that is named would need a drive below 0.
+            ++farther;
+            QVERIFY(of.limit);
+            Targets out = fit.target;
+            Target &moved = primary == Primary::Red ? out.red : primary == Primary::Green ? out.green : out.blue;
+            moved = Target::fromYxy(
+                1.0, moved.x + 1e-4 * (moved.x - out.white.x), moved.y + 1e-4 * (moved.y - out.white.y));
+            const auto below = entriesBelowZero(*correctionFor(out).corrections[*of.limit].matrix);
+            QVERIFY(std::any_of(
+                below.begin(), below.end(), [primary](const MatrixEntry &entry) { return entry.content == primary; }));
+        }
+    }
+    QVERIFY(farther > 2000);
+}
+
+void GamutFitTest::blackTooBright()
+{
+    std::mt19937 random(22);
+    auto cabinets = glowingWall(random, 10, 1.0);
+    cabinets[7].black = Target::fromYxy(30.0, 0.3, 0.31);
+    const Targets wish = targets({0.68, 0.32}, {0.265, 0.69}, {0.15, 0.06}, {0.3127, 0.329}, 20.0);
+    const GamutFit fit = fittedTarget(commonGamut(cabinets), wish, cabinets);
+    QCOMPARE(fit.fault, FitFault::BlackTooBright);
+    QCOMPARE(fit.whiteLimit, std::make_optional(std::size_t(7)));
+    QCOMPARE(fittedTarget(commonGamut(cabinets), wish).fault, FitFault::None);
 }
 
 void GamutFitTest::largestOfATriangle()

@@ -740,6 +740,10 @@ QString fitProblem(const DisplayWall &wall, const WallAssessment &assessment)
         return WallText::tr("The target cannot be fitted: its white is not inside of its primaries.");
     case Model::FitFault::NoTriangle:
         return WallText::tr("The target cannot be fitted: too little of it would be left.");
+    case Model::FitFault::BlackTooBright:
+        return WallText::tr("The target cannot be fitted: its white is too dark over the black of %1. Raise the "
+                            "luminance of the white, or measure the black again without stray light.")
+            .arg(limit(fit.whiteLimit));
     }
     return QString();
 }
