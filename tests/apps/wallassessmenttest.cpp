@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "display/wallassessment.h"
+#include "display/textreport.h"
+#include "display/wallassessmenttexts.h"
+#include "display/wallreport.h"
+#include "editing/wallcommand.h"
 
 #include <ceiechart/diagram/targetrules.h>
 #include <gamutmodel/nearestinside.h>
 
 #include <QtTest>
 
+#include <QJsonArray>
+
 #include <cmath>
+#include <random>
 
 using namespace gamutviewer;
 using Vertex = ceiechart::GamutVertex;
@@ -31,12 +37,23 @@ private Q_SLOTS:
     void cabinetWithoutLight();
     void whiteThatIsNotTheSum();
     void whiteThatIsBelowTheSumAndTooDim();
+    void measuredWhiteDecidesWhereItWasMeasured();
     void nothingInCommon();
     void whiteOutsideOfTheWall();
     void fittedTargetIsShownByAll();
     void leftOutCabinetDoesNotCount();
     void neighbors();
     void blacksAreCorrected();
+    void blackThatKeepsACabinetOff();
+    void blackThatIsNotSeen();
+    void blackTooBrightForAnyTarget();
+    void fittedTargetPassesOverBlacks();
+    void reachedLuminancesAreRoundedDown();
+    void largestOfWhichItIsKnown();
+    void exchangedPrimariesAreTold();
+    void exchangedPrimariesOfManyAreCounted();
+    void incompleteCabinetsAreNotKnown();
+    void manyIncompleteCabinetsAreCounted();
     void oneCabinet();
     void namesStandOnOneLine();
     void namesThatAreThereTwiceHaveTheirPlace();
@@ -317,12 +334,65 @@ void WallAssessmentTest::whiteThatIsNotTheSum()
     const WallAssessment found = assessWall(wall, targetOf(1000.0));
     QCOMPARE(found.cabinets[4].judgement, Judgement::NotKnown);
     QVERIFY(!found.cabinets[4].isAdditive);
-    QVERIFY(!found.cabinets[4].headroom);
+    QVERIFY(std::fabs(*found.cabinets[4].headroom - 1.05) < 1e-12); // it was measured at the white of the target
     QVERIFY(!found.cabinets[4].uvAfter);
     QCOMPARE(found.cabinets[5].judgement, Judgement::Pass);
     QVERIFY2(textOf(found).contains(QStringLiteral("? A5: the white is 1050.0 cd/m², the primaries add to 1100.0 "
-                                                   "cd/m²: what it reaches cannot be worked out.")),
+                                                   "cd/m²: what it shows with its correction cannot be worked out.")),
         qPrintable(textOf(found)));
+    // Elsewhere nothing tells what it reaches.
+    wall.cabinets[4].white = color(1050.0, d65.x + 0.001, d65.y);
+    const WallAssessment other = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(other.cabinets[4].judgement, Judgement::NotKnown);
+    QVERIFY(!other.cabinets[4].headroom);
+    QVERIFY2(textOf(other).contains(QStringLiteral("? A5: the white is 1050.0 cd/m², the primaries add to 1100.0 "
+                                                   "cd/m²: what it reaches cannot be worked out.")),
+        qPrintable(textOf(other)));
+}
+
+void WallAssessmentTest::measuredWhiteDecidesWhereItWasMeasured()
+{
+    const Model::Target d65 = Model::rec2020().getTargets().white;
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].white = color(1085.0, d65.x, d65.y); // additive within the tolerance
+    const DisplayGamut bright = targetOf(1095.0);
+    const WallAssessment found = assessWall(wall, bright);
+    QVERIFY(found.cabinets[4].isAdditive);
+    QCOMPARE(found.cabinets[4].judgement, Judgement::Fail);
+    QVERIFY(std::fabs(*found.cabinets[4].largestWhite - 1085.0) < 1e-9);
+    QVERIFY2(textOf(found).contains(QStringLiteral("✗ A5: white reaches 1085.0 cd/m² only, of 1095.0 cd/m²")),
+        qPrintable(textOf(found)));
+    const auto fitted = fittedToWall(bright, found);
+    QVERIFY(fitted);
+    QVERIFY(std::fabs(fitted->white.Y - 1085.0) < 1e-9);
+    QCOMPARE(assessWall(wall, {Model::ColorGamut("Fitted", *fitted), cd}).judgement, Judgement::Pass);
+    // As of a single display
+    DisplayDescription display;
+    Model::Targets colors{wall.cabinets[4].red, wall.cabinets[4].green, wall.cabinets[4].blue, *wall.cabinets[4].white};
+    display.gamuts = {{Model::ColorGamut("Measured", colors), cd}, bright};
+    display.measured = QStringLiteral("Measured");
+    display.target = QStringLiteral("Wanted");
+    const Assessment single = assess(display);
+    QCOMPARE(single.judgement(), Judgement::Fail);
+    QVERIFY(std::fabs(single.displays.front().largestWhite->luminance - *found.cabinets[4].largestWhite) < 1e-9);
+    // At another white it has no more than its part of the sum, and never more than the sum.
+    for (const double measured : {1085.0, 1115.0}) {
+        wall.cabinets[4].white = color(measured, d65.x + 0.0008, d65.y);
+        const double sum = assessWall(wall, bright).correction.corrections[4].largestWhite->luminance;
+        const double reached = *assessWall(wall, bright).cabinets[4].largestWhite;
+        QVERIFY(measured < 1100.0 ? reached < sum - 1.0 : std::fabs(reached - sum) < 1e-9);
+    }
+    // Of one that is not additive, the measured white alone fails it, and the fit goes by it.
+    wall.cabinets[4].white = color(600.0, d65.x, d65.y);
+    const DisplayGamut target = targetOf(900.0);
+    const WallAssessment limited = assessWall(wall, target);
+    QCOMPARE(limited.cabinets[4].judgement, Judgement::Fail);
+    QVERIFY2(textOf(limited).contains(QStringLiteral("✗ A5: white reaches 600.0 cd/m² only, of 900.0 cd/m².")),
+        qPrintable(textOf(limited)));
+    const auto dimmed = fittedToWall(target, limited);
+    QVERIFY(dimmed);
+    QCOMPARE(dimmed->white.Y, 600.0);
+    QCOMPARE(assessWall(wall, {Model::ColorGamut("Fitted", *dimmed), cd}).judgement, Judgement::NotKnown);
 }
 
 void WallAssessmentTest::whiteThatIsBelowTheSumAndTooDim()
@@ -332,6 +402,13 @@ void WallAssessmentTest::whiteThatIsBelowTheSumAndTooDim()
     wall.cabinets[4].white = color(1050.0, d65.x, d65.y);
     const WallAssessment found = assessWall(wall, targetOf(1200.0));
     QCOMPARE(found.cabinets[4].judgement, Judgement::Fail); // it shows no more than its primaries do
+    // The fit goes by what it shows at the most.
+    wall.cabinets[4].white = color(1050.0, d65.x + 0.001, d65.y);
+    const WallAssessment limited = assessWall(wall, targetOf(1200.0));
+    QCOMPARE(limited.cabinets[4].judgement, Judgement::Fail);
+    const auto fitted = fittedToWall(targetOf(1200.0), limited);
+    QVERIFY(fitted);
+    QCOMPARE(assessWall(wall, {Model::ColorGamut("Fitted", *fitted), cd}).judgement, Judgement::NotKnown);
     wall.cabinets[4].white = color(1500.0, d65.x, d65.y); // more than they do, by a white LED
     QCOMPARE(assessWall(wall, targetOf(1200.0)).cabinets[4].judgement, Judgement::NotKnown);
 }
@@ -439,6 +516,283 @@ void WallAssessmentTest::blacksAreCorrected()
     QCOMPARE(found.judgement, Judgement::Pass);
     QVERIFY(*found.cabinets[0].uvAfter < 1e-9);
     QVERIFY(*found.cabinets[0].largestWhite < 1100.0); // the black is in each of the primaries, and once in the white
+}
+
+void WallAssessmentTest::blackThatKeepsACabinetOff()
+{
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].black = color(3.0, 0.31, 0.33);
+    Model::Targets of = Model::rec2020().getTargets(); // the cabinets' own
+    for (Model::Target *t : {&of.red, &of.green, &of.blue, &of.white}) {
+        *t = color(t->Y * 500.0, t->x, t->y);
+    }
+    const DisplayGamut target{Model::ColorGamut("Wanted", of), cd};
+    const WallAssessment found = assessWall(wall, target);
+    const CabinetAssessment &cabinet = found.cabinets[4];
+    QCOMPARE(found.judgement, Judgement::Fail);
+    QCOMPARE(cabinet.judgement, Judgement::Fail);
+    QCOMPARE(cabinet.gamut, Judgement::Pass);
+    QCOMPARE(cabinet.luminance, Judgement::Pass);
+    QCOMPARE(found.headline, QStringLiteral("11 of 12 cabinets show this target; A5 does not"));
+    const Model::DeviationValues &remaining = found.correction.corrections[4].remaining;
+    const std::optional<double> off[] = {remaining.redUv, remaining.greenUv, remaining.blueUv};
+    double most = 0.0;
+    for (const Vertex vertex : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
+        const double distance = cabinet.offByBlack[std::size_t(vertex)];
+        QVERIFY(distance > visibleUv);
+        QVERIFY(std::fabs(distance - *off[int(vertex)]) < 1e-12);
+        most = std::max(most, distance);
+    }
+    QCOMPARE(cabinet.offByBlack[std::size_t(Vertex::White)], 0.0);
+    QCOMPARE(cabinet.offByBlack[std::size_t(*cabinet.limit)], most);
+    const QString line = found.lines.first().text;
+    QVERIFY2(line.startsWith(QStringLiteral("A5: the black is too bright, and keeps it off red by Δu′v′ ")
+                 + QString::number(*off[0], 'f', 4) + QStringLiteral(", green by Δu′v′ ")),
+        qPrintable(line));
+    QVERIFY(line.contains(QStringLiteral("measure the black without stray light")));
+    QVERIFY2(textOf(found).contains(QStringLiteral("- Without A5, all show the target.")), qPrintable(textOf(found)));
+    const auto fitted = fittedToWall(target, found);
+    QVERIFY(fitted);
+    QCOMPARE(fitted->white.Y, 500.0);
+    QCOMPARE(found.fit.red.limit, std::make_optional(std::size_t(4)));
+    QCOMPARE(assessWall(wall, {Model::ColorGamut("Fitted", *fitted), cd}).judgement, Judgement::Pass);
+    // Without luminances that compare it is not known.
+    wall.unit = LuminanceUnit::Relative;
+    QCOMPARE(assessWall(wall, target).judgement, Judgement::NotKnown);
+}
+
+void WallAssessmentTest::blackThatIsNotSeen()
+{
+    DisplayWall wall = wallOf(1);
+    Model::Targets of = Model::rec2020().getTargets();
+    for (Model::Target *t : {&of.red, &of.green, &of.blue, &of.white}) {
+        *t = color(t->Y * 500.0, t->x, t->y);
+    }
+    for (WallCabinet &cabinet : wall.cabinets) {
+        cabinet.black = color(0.02, 0.31, 0.33);
+    }
+    const WallAssessment found = assessWall(wall, {Model::ColorGamut("Wanted", of), cd});
+    QVERIFY(*found.correction.corrections[0].remaining.blueUv > 1e-6);
+    QVERIFY(*found.correction.corrections[0].remaining.blueUv < visibleUv);
+    QCOMPARE(found.judgement, Judgement::Pass);
+}
+
+void WallAssessmentTest::blackTooBrightForAnyTarget()
+{
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].black = color(30.0, 0.30, 0.31);
+    const DisplayGamut target = targetOf(20.0);
+    const WallAssessment found = assessWall(wall, target);
+    QCOMPARE(found.cabinets[4].judgement, Judgement::Fail);
+    QVERIFY(!fittedToWall(target, found));
+    QCOMPARE(fitProblem(wall, found),
+        QStringLiteral(
+            "The target cannot be fitted: its white is too dark over the black of A5. Raise the luminance of "
+            "the white, or measure the black again without stray light."));
+}
+
+void WallAssessmentTest::fittedTargetPassesOverBlacks()
+{
+    std::mt19937 random(14);
+    std::uniform_real_distribution<double> any(-1.0, 1.0);
+    std::uniform_real_distribution<double> part(0.0, 1.0);
+    int failing = 0;
+    int byBlack = 0;
+    for (int i = 0; i < 2000; ++i) {
+        DisplayWall wall = wallOf(1 + i % 2);
+        wall.cabinets.resize(std::size_t(2 + i % 12));
+        const double black = 20.0 * std::pow(part(random), 4.0);
+        for (WallCabinet &of : wall.cabinets) {
+            for (Model::Target *t : {&of.red, &of.green, &of.blue}) {
+                *t = color(t->Y * (1.0 + 0.1 * any(random)), t->x + 0.01 * any(random), t->y + 0.01 * any(random));
+            }
+            of.black = color(black * (0.5 + part(random)), 0.30 + 0.02 * any(random), 0.31 + 0.02 * any(random));
+            of.isLeftOut = part(random) < 0.1;
+            if (i % 4 == 0) {
+                const Model::Target sum
+                    = *Model::DisplayDrive({of.red, of.green, of.blue, {}}, of.black).lightAt({1.0, 1.0, 1.0});
+                of.white = color(sum.Y * (1.0 + 0.019 * any(random)), sum.x, sum.y);
+            }
+        }
+        wall.cabinets.front().isLeftOut = false;
+        Model::Targets wish = i % 3 == 0 ? Model::rec709().getTargets() : Model::rec2020().getTargets();
+        const double luminance = 200.0 + 1100.0 * part(random);
+        for (Model::Target *t : {&wish.red, &wish.green, &wish.blue, &wish.white}) {
+            *t = color(t->Y * luminance, t->x, t->y);
+        }
+        if (i % 5 == 0) { // at a measured white
+            wish.white = color(luminance, wall.cabinets.front().white.value_or(wish.white).x,
+                wall.cabinets.front().white.value_or(wish.white).y);
+        }
+        const DisplayGamut target{Model::ColorGamut("Wanted", wish), cd};
+        const WallAssessment found = assessWall(wall, target);
+        const auto fitted = fittedToWall(target, found);
+        QCOMPARE(bool(fitted), found.judgement == Judgement::Fail);
+        if (!fitted) {
+            continue;
+        }
+        ++failing;
+        const DisplayGamut after{Model::ColorGamut("Fitted", *fitted), cd};
+        const WallAssessment passes = assessWall(wall, after);
+        QVERIFY2(passes.judgement == Judgement::Pass, qPrintable(QString::number(i) + textOf(passes)));
+        // Without the blacks the fit would not do.
+        DisplayWall dark = wall;
+        for (WallCabinet &of : dark.cabinets) {
+            of.black.reset();
+        }
+        const auto blind = fittedToWall(target, assessWall(dark, target));
+        byBlack += blind && assessWall(wall, {Model::ColorGamut("Blind", *blind), cd}).judgement == Judgement::Fail;
+    }
+    QVERIFY(failing > 1500);
+    QVERIFY(byBlack > 500);
+}
+
+void WallAssessmentTest::reachedLuminancesAreRoundedDown()
+{
+    DisplayDescription description;
+    description.wall = wallOf(1);
+    dim(description.wall.cabinets[4], 935.08 / 1100.0);
+    description.gamuts.push_back(targetOf(1000.0));
+    description.target = QStringLiteral("Wanted");
+    const QString report = QString::fromUtf8(textReport(description));
+    QVERIFY2(report.contains(QStringLiteral("white reaches 935.0 cd/m² only")), qPrintable(report));
+    QVERIFY2(!report.contains(QStringLiteral("935.1")), qPrintable(report));
+    const auto fitted = withTargetFittedToWall(description);
+    QVERIFY(fitted);
+    const QString notes = fitted->notes.join(QLatin1Char('\n'));
+    QVERIFY2(notes.contains(QStringLiteral("a white of 935.0 cd/m² instead of 1000.0 cd/m²")), qPrintable(notes));
+    // Of a relative target as well
+    description.gamuts = {targetOf(1.0, LuminanceUnit::Relative)};
+    const auto relative = withTargetFittedToWall(description);
+    QVERIFY(relative);
+    QVERIFY2(relative->notes.first().contains(QStringLiteral("at 935.0 cd/m², the largest that all cabinets reach")),
+        qPrintable(relative->notes.first()));
+    QVERIFY(!relative->notes.first().contains(QStringLiteral("of which it is known")));
+    const auto made = corrections(description, QString(), QStringLiteral("c.csv"));
+    QVERIFY(made);
+    QVERIFY2(
+        made->notes.first().contains(QStringLiteral("a white of 935.0 cd/m², the largest that all cabinets reach, ")),
+        qPrintable(made->notes.first()));
+}
+
+void WallAssessmentTest::largestOfWhichItIsKnown()
+{
+    const Model::Target d65 = Model::rec2020().getTargets().white;
+    for (const bool isIncomplete : {false, true}) {
+        DisplayDescription description;
+        description.wall = wallOf(1);
+        if (isIncomplete) {
+            description.wall.incomplete.push_back(
+                {QStringLiteral("B1"), std::nullopt, QStringLiteral("blue is missing")});
+        } else {
+            description.wall.cabinets[4].white = color(800.0, d65.x + 0.001, d65.y); // less than the sum
+        }
+        description.gamuts.push_back(targetOf(1.0, LuminanceUnit::Relative));
+        description.target = QStringLiteral("Wanted");
+        const QString known = QStringLiteral("the largest that all cabinets reach of which it is known");
+        const auto made = corrections(description, QString(), QStringLiteral("c.csv"));
+        QVERIFY(made);
+        QVERIFY2(made->notes.first().contains(known), qPrintable(made->notes.first()));
+        const auto fitted = withTargetFittedToWall(description);
+        QVERIFY(fitted);
+        QVERIFY2(fitted->notes.first().contains(known), qPrintable(fitted->notes.first()));
+        const QString text = textOf(assessWall(description.wall, targetOf(1.0, LuminanceUnit::Relative)));
+        QVERIFY2(text.contains(QStringLiteral("All of which it is known reach a white of ")), qPrintable(text));
+    }
+}
+
+void WallAssessmentTest::exchangedPrimariesAreTold()
+{
+    const QString warning
+        = QStringLiteral("A3: red and green seem to be exchanged. Check the measurement: a correction drives the "
+                         "primaries as they are named.");
+    DisplayDescription description;
+    description.wall = wallOf(1);
+    description.gamuts.push_back(targetOf(1000.0));
+    description.target = QStringLiteral("Wanted");
+    QVERIFY(exchangeTexts(description.wall).isEmpty());
+    QVERIFY(!textOf(assessWall(description.wall, targetOf(1000.0))).contains(QStringLiteral("exchanged")));
+    std::swap(description.wall.cabinets[2].red, description.wall.cabinets[2].green);
+    const WallAssessment found = assessWall(description.wall, targetOf(1000.0));
+    QCOMPARE(found.judgement, Judgement::Pass); // by its triangle it shows the target
+    QCOMPARE(found.lines.size(), 2);
+    QCOMPARE(found.lines.last().text, warning);
+    QVERIFY(found.lines.last().isWarning);
+    QVERIFY(!found.lines.last().judgement);
+    QCOMPARE(QString::fromUtf8(verdictText(assess(description))).count(QStringLiteral("warning: ") + warning), 1);
+    QCOMPARE(QString::fromUtf8(textReport(description)).count(warning), 1);
+    const auto made = corrections(description, QString(), QStringLiteral("c.csv"));
+    QVERIFY(made);
+    QVERIFY2(made->notes.contains(warning), qPrintable(made->notes.join(QLatin1Char('\n'))));
+    // Where something fails, the warning comes before what is no ground.
+    dim(description.wall.cabinets[7], 0.5);
+    const WallAssessment fails = assessWall(description.wall, targetOf(1000.0));
+    QCOMPARE(fails.lines.at(1).text, warning);
+}
+
+void WallAssessmentTest::exchangedPrimariesOfManyAreCounted()
+{
+    DisplayWall wall = wallOf(2);
+    for (WallCabinet &of : wall.cabinets) {
+        std::swap(of.red, of.blue);
+    }
+    std::swap(wall.cabinets[3].red, wall.cabinets[3].green);
+    const QStringList texts = exchangeTexts(wall);
+    QCOMPARE(texts.size(), 2);
+    QVERIFY2(texts.at(0).startsWith(QStringLiteral("A1 and 22 others: red and blue seem to be exchanged.")),
+        qPrintable(texts.at(0)));
+    QVERIFY2(texts.at(1).startsWith(QStringLiteral("A4: red, green and blue seem to be exchanged.")),
+        qPrintable(texts.at(1)));
+}
+
+void WallAssessmentTest::incompleteCabinetsAreNotKnown()
+{
+    DisplayDescription description;
+    description.wall = wallOf(1);
+    description.wall.cabinets.resize(3);
+    description.wall.incomplete.push_back(
+        {QStringLiteral("A4"), Model::GridPosition{0, 3}, QStringLiteral("blue is missing")});
+    description.gamuts.push_back(targetOf(1000.0));
+    description.target = QStringLiteral("Wanted");
+    const WallAssessment found = assessWall(description.wall, targetOf(1000.0));
+    QCOMPARE(textOf(found),
+        QStringLiteral("? 3 of 4 cabinets show this target; of 1 it is not known\n"
+                       "? A4: blue is missing.\n"
+                       "- All of which it is known reach a white of 1100.0 cd/m² (A1 is the limit, with red at full "
+                       "drive)."));
+    QCOMPARE(assess(description).judgement(), Judgement::NotKnown);
+    const QString report = QString::fromUtf8(textReport(description));
+    QVERIFY2(report.contains(QStringLiteral("\nA4  ")) && report.contains(QStringLiteral("A4: blue is missing.")),
+        qPrintable(report));
+    const QJsonArray listed = wallReport(description.wall, &found).value(QStringLiteral("incomplete")).toArray();
+    QCOMPARE(listed.size(), 1);
+    QCOMPARE(listed.first().toObject().value(QStringLiteral("cabinet")).toString(), QStringLiteral("A4 0/3"));
+    QCOMPARE(listed.first().toObject().value(QStringLiteral("column")).toInt(), 3);
+    QCOMPARE(listed.first().toObject().value(QStringLiteral("reason")).toString(), QStringLiteral("blue is missing"));
+    // One that fails decides.
+    dim(description.wall.cabinets[0], 0.5);
+    const WallAssessment fails = assessWall(description.wall, targetOf(1000.0));
+    QCOMPARE(fails.judgement, Judgement::Fail);
+    QCOMPARE(fails.headline, QStringLiteral("2 of 4 cabinets show this target; A1 does not; of 1 it is not known"));
+    QVERIFY(!textOf(fails).contains(QStringLiteral("Without A1")));
+    description.wall.cabinets.resize(1);
+    QCOMPARE(assessWall(description.wall, targetOf(1000.0)).headline,
+        QStringLiteral("1 of 2 cabinets do not show this target; of the others it is not known"));
+}
+
+void WallAssessmentTest::manyIncompleteCabinetsAreCounted()
+{
+    DisplayWall wall = wallOf(1);
+    for (int i = 0; i < 9; ++i) {
+        wall.incomplete.push_back(
+            {QStringLiteral("B%1").arg(i), std::nullopt, QStringLiteral("red is there more than once")});
+    }
+    const QString text = textOf(assessWall(wall, targetOf(1000.0)));
+    QVERIFY2(text.contains(QStringLiteral("? B2: red is there more than once.\n? Of 6 other cabinets it is not known "
+                                          "either.")),
+        qPrintable(text));
+    QVERIFY(!text.contains(QStringLiteral("B3")));
+    QVERIFY(text.startsWith(QStringLiteral("? 12 of 21 cabinets show this target; of 9 it is not known")));
 }
 
 void WallAssessmentTest::oneCabinet()

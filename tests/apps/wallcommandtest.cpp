@@ -290,7 +290,7 @@ void WallCommandTest::exitStatusTellsTheVerdict_data()
                                     << QByteArray("not known: The luminances cannot be compared");
     QTest::newRow("bright black") << targetText(500.0)
                                   << QByteArray(wallList) + "A1,1,1,black,0.31,0.33,60\nA2,1,2,black,0.31,0.33,60\n"
-                                  << 4 << QByteArray("not known: ");
+                                  << 3 << QByteArray("fail: A1: the black is too bright, and keeps it off ");
     QTest::newRow("no target") << QByteArray(R"({"version": 1, "gamuts": []})") << wallList << 4
                                << QByteArray("not known: What the display is to show is not known");
 }

@@ -25,6 +25,14 @@ QString unitPhrase(LuminanceUnit unit)
     return AssessmentText::tr("in a unit that is not known");
 }
 
+//! \a luminance in the digits of luminanceText(), rounded down.
+double reachable(double luminance)
+{
+    constexpr double rounding = 1e-6;
+    const double step = std::fabs(luminance) < 10.0 ? 1e4 : 10.0;
+    return std::floor(luminance * step + rounding) / step;
+}
+
 } // namespace
 
 QString capitalised(QString text)
@@ -63,9 +71,12 @@ QString distanceText(double distance)
 
 QString reachableText(double luminance, LuminanceUnit unit)
 {
-    constexpr double rounding = 1e-6;
-    const double step = std::fabs(luminance) < 10.0 ? 1e4 : 10.0;
-    return luminanceText(std::floor(luminance * step + rounding) / step, unit);
+    return luminanceText(reachable(luminance), unit);
+}
+
+QString reachableText(double luminance)
+{
+    return luminanceText(reachable(luminance));
 }
 
 QString drivesText(const Model::Drive &drive)

@@ -36,6 +36,8 @@ QString distanceText(double distance);
 
 /*! \brief Of \a luminance no more than it is, but for rounding, so that what is shown can be reached. */
 QString reachableText(double luminance, LuminanceUnit unit);
+/*! \brief The same without the unit. */
+QString reachableText(double luminance);
 /*! \brief "red 71.0 %, green 68.2 %, blue 64.9 %". */
 QString drivesText(const Model::Drive &drive);
 

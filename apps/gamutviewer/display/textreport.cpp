@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "display/textreport.h"
 
+#include "display/assessmenttexts.h"
 #include "display/valuetexts.h"
-#include "display/wallassessment.h"
+#include "display/wallassessmenttexts.h"
 
 #include <gamutmodel/gamutcoverage.h>
 
@@ -31,6 +32,13 @@ QStringList verdictLines(const Assessment &assessment)
     QStringList lines{judgementLine(assessment.judgement(), assessment.headline())};
     for (const AssessmentLine &ground : assessment.lines) {
         lines.append(judgementLine(ground.judgement, ground.text));
+    }
+    if (assessment.wall) {
+        for (const WallLine &line : assessment.wall->lines) {
+            if (line.isWarning) {
+                lines.append(QStringLiteral("warning: %1").arg(line.text));
+            }
+        }
     }
     return lines;
 }
@@ -180,13 +188,13 @@ QStringList cabinetLines(const DisplayWall &wall, const WallAssessment &assessme
         rows.append(
             {cabinetName(wall, i), cabinet.isLeftOut ? ReportText::tr("left out") : judgementName(cabinet.judgement),
                 cabinet.limit ? gamutVertexName(*cabinet.limit) : undefinedText(),
-                cabinet.largestWhite ? luminanceText(*cabinet.largestWhite) : undefinedText(),
+                cabinet.largestWhite ? reachableText(*cabinet.largestWhite) : undefinedText(),
                 cabinet.headroom ? changeText(*cabinet.headroom - 1.0) : undefinedText(), uvText(cabinet.uvBefore),
                 uvText(cabinet.uvAfter)});
     }
     for (const IncompleteCabinet &cabinet : wall.incomplete) {
         rows.append({ReportText::tr("%1 (%2)", "cabinet, and why nothing is known of it")
-                         .arg(oneLine(incompleteLabel(cabinet)), oneLine(incompleteReasonText(cabinet))),
+                         .arg(cabinetName(wall, cabinet), oneLine(incompleteReasonText(cabinet))),
             judgementName(Judgement::NotKnown), undefinedText(), undefinedText(), undefinedText(), undefinedText(),
             undefinedText()});
     }
@@ -211,7 +219,7 @@ QByteArray textReport(
     if (!description.wall.cabinets.empty() && assessment.wall) {
         QStringList remarks;
         for (const WallLine &line : assessment.wall->lines) {
-            if (!line.judgement) {
+            if (!line.judgement && !line.isWarning) {
                 remarks.append(line.text);
             }
         }

@@ -40,14 +40,31 @@ struct CabinetAssessment {
     Judgement luminance = Judgement::NotKnown; //!< whether it reaches the luminances of the target
     bool isLeftOut = false; //!< WallCabinet::isLeftOut: its judgement does not count for that of the wall
     /*!
-     * \brief The colour that limits it: of those of the target that lie outside the one that does so by the most, or
-     * else the primary of the cabinet that is at full drive for the target's white.
+     * \brief The colour that limits it: of those of the target that lie outside, or else of those that its black keeps
+     * it off, the one that does so by the most; or else the primary of the cabinet that is at full drive for the
+     * target's white.
      */
     std::optional<ceiechart::GamutVertex> limit;
     /*! \brief How far each colour of the target lies outside of its gamut, in Δu′v′; 0 if it does not. */
     std::array<double, 4> outside{};
-    /*! \brief The largest luminance of the target's white, in the unit of the wall. */
+    /*!
+     * \brief How far its black keeps it off each colour of the target that lies inside of its gamut, in Δu′v′, with its
+     * correction; 0 if by no more than visibleUv. It then fails. Only where the luminances can be compared.
+     *
+     * Infinite where it is not known how far.
+     */
+    std::array<double, 4> offByBlack{};
+    /*!
+     * \brief The largest luminance of the target's white, in the unit of the wall. Nothing where it is not known.
+     *
+     * Where its white was measured at the white of the target, that is the measured luminance.
+     */
     std::optional<double> largestWhite;
+    /*!
+     * \brief The luminance of a target's white up to which it is not known to be too dark for the white and for the
+     * primaries that mix to it, in the unit of the wall. Nothing without such a limit.
+     */
+    std::optional<double> notTooBright;
     /*! \brief largestWhite divided by the luminance of the target's white; only where the two can be compared. */
     std::optional<double> headroom;
     /*! \brief False when it does not add up: its measured white is not the sum of its primaries. */
@@ -64,6 +81,7 @@ struct WallLine {
     std::optional<Judgement> judgement; //!< nothing for a remark, which judges nothing
     QString text; //!< sentences, in the language of the interface
     std::optional<std::size_t> cabinet{}; //!< the cabinet that it is about
+    bool isWarning = false; //!< whether it is a remark that must not be missed
 };
 
 /*! \brief All that can be said of a wall. */
@@ -78,17 +96,24 @@ struct WallAssessment {
      */
     std::vector<std::size_t> worstFirst;
     bool luminancesCompare = false; //!< whether those of wall and target are both in cd/m²
+    bool isReachKnownOfAll = false; //!< whether CabinetAssessment::largestWhite is known of all cabinets that count
     /*! \brief What the cabinets have in common that count and whose gamut is known. */
     Model::CommonGamut common;
-    /*! \brief The target fitted into \a common, with its luminance as it was. */
+    /*!
+     * \brief The target fitted into \a common, with its luminance as it was. Where the target fails, the blacks are
+     * counted in, at the luminance that it gets by fittedToWall() or, where luminances do not compare, that of the
+     * corrections.
+     */
     Model::GamutFit fit;
     /*! \brief The largest white of all cabinets that count and for which it is known, and who limits it. */
     std::optional<Model::WallWhite> largestWhite;
+    std::optional<double> notTooBright; //!< the least CabinetAssessment::notTooBright of all cabinets that count
     /*!
      * \brief The corrections of all cabinets, also of those that are left out.
      *
      * They are for the luminance of the target's white, or, where that cannot be compared, for the largest that all
-     * cabinets reach which count. That of a cabinet that is not additive is for the sum of its primaries.
+     * cabinets reach which count, as far as known. That of a cabinet that is not additive is for the sum of its
+     * primaries.
      */
     Model::WallCorrection correction;
     Model::Uniformity before; //!< of the whites without corrections, of the cabinets that count
@@ -96,27 +121,23 @@ struct WallAssessment {
 };
 
 /*!
+ * \brief The largest Δu′v′ between what a cabinet shows and the target that does not count.
+ *
+ * Of colours side by side, half of all people see a difference of 0.0011: one step of CIE TN 001:2014. Hardly anybody
+ * sees half a step.
+ */
+constexpr double visibleUv = 0.0005;
+
+/*!
  * \brief Judges what the cabinets of \a wall, of which there is at least one, show of \a target.
  *
  * Of luminances nothing is said unless both are in cd/m². A white that was measured has to be the sum of the primaries
- * for anything to be said of what a cabinet reaches.
+ * for anything to be said of what a cabinet reaches; but at the white that was measured, it reaches what was measured.
+ * Then it is still not known what a cabinet shows with a correction whose white is not that sum.
+ *
+ * Of the cabinets in DisplayWall::incomplete nothing is known, so that not all are known to show the target.
  */
 WallAssessment assessWall(const DisplayWall &wall, const DisplayGamut &target);
-
-/*! \brief What \a assessment says of \a cabinet in a sentence, with its name: "F9: white reaches 938.0 cd/m² only." */
-QString cabinetText(
-    const DisplayWall &wall, const DisplayGamut &target, const WallAssessment &assessment, std::size_t cabinet);
-
-/*! \brief What \a common lacks for a target: "A1 and C7 have no colour in common"; empty when it is an area. */
-QString commonGamutProblem(const DisplayWall &wall, const Model::CommonGamut &common);
-
-/*! \brief Why a target cannot be fitted, and what to do; empty without a fault. */
-QString fitProblem(const DisplayWall &wall, const WallAssessment &assessment);
-
-/*! \brief How \a cabinet of \a wall is called, on one line: by its name where no other has it, else by its label. */
-QString cabinetName(const DisplayWall &wall, std::size_t cabinet);
-/*! \brief The same of all cabinets. */
-std::vector<QString> cabinetNames(const DisplayWall &wall);
 
 /*!
  * \brief The \a target fitted to the wall that \a assessment is of, with a white that all cabinets reach; nothing where

@@ -125,10 +125,22 @@ void insertAssessment(QJsonObject &object, const DisplayWall &wall, const Cabine
     object.insert(QStringLiteral("neighborAfter"), neighbor(assessment.neighborAfter));
 }
 
+QJsonValue placeValue(const std::optional<int> &place)
+{
+    return place ? QJsonValue(*place) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonObject incompleteObject(const IncompleteCabinet &cabinet)
+{
+    const auto &position = cabinet.position;
+    return {{QStringLiteral("cabinet"), incompleteLabel(cabinet)},
+        {QStringLiteral("row"), placeValue(position ? std::make_optional(position->row) : std::nullopt)},
+        {QStringLiteral("column"), placeValue(position ? std::make_optional(position->column) : std::nullopt)},
+        {QStringLiteral("reason"), cabinet.reason}};
+}
+
 QJsonObject cabinetObject(const WallCabinet &cabinet)
 {
-    const auto placeValue
-        = [](const std::optional<int> &place) { return place ? QJsonValue(*place) : QJsonValue(QJsonValue::Null); };
     return {{QStringLiteral("cabinet"), cabinet.label()}, {QStringLiteral("row"), placeValue(cabinet.row)},
         {QStringLiteral("column"), placeValue(cabinet.column)}, {QStringLiteral("leftOut"), cabinet.isLeftOut}};
 }
@@ -146,7 +158,12 @@ QJsonObject wallReport(const DisplayWall &wall, const WallAssessment *assessment
         }
         cabinets.append(cabinet);
     }
-    QJsonObject object{{QStringLiteral("unit"), unitValue(wall.unit)}, {QStringLiteral("cabinets"), cabinets}};
+    QJsonArray incomplete;
+    for (const IncompleteCabinet &cabinet : wall.incomplete) {
+        incomplete.append(incompleteObject(cabinet));
+    }
+    QJsonObject object{{QStringLiteral("unit"), unitValue(wall.unit)}, {QStringLiteral("cabinets"), cabinets},
+        {QStringLiteral("incomplete"), incomplete}};
     if (!assessment) {
         return object;
     }
@@ -155,6 +172,7 @@ QJsonObject wallReport(const DisplayWall &wall, const WallAssessment *assessment
         lines.append(
             QJsonObject{{QStringLiteral("status"),
                             line.judgement ? QJsonValue(judgementName(*line.judgement)) : QJsonValue(QJsonValue::Null)},
+                {QStringLiteral("warning"), line.isWarning},
                 {QStringLiteral("cabinet"), cabinetOrNull(wall, line.cabinet)}, {QStringLiteral("text"), line.text}});
     }
     object.insert(QStringLiteral("status"), judgementName(assessment->judgement));

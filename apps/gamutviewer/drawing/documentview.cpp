@@ -4,6 +4,7 @@
 #include "display/assessmenttexts.h"
 #include "display/valuetexts.h"
 #include "display/wallassessment.h"
+#include "display/wallassessmenttexts.h"
 #include "drawing/documentcontent.h"
 #include "drawing/layerswitches.h"
 #include "editing/document.h"

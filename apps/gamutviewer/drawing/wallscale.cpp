@@ -62,13 +62,22 @@ QString signedPercent(double part)
     return ScaleText::tr("%1 %", "room above a luminance, with its sign").arg(sign + number);
 }
 
+//! In few digits, and no more than is reached.
+QString reachedText(double luminance)
+{
+    constexpr double rounding = 1e-6;
+    const int decimals = std::fabs(luminance) < 10.0 ? 3 : 0;
+    const double step = decimals > 0 ? 1e3 : 1.0;
+    return fixedText(std::floor(luminance * step + rounding) / step, decimals);
+}
+
 QString numberText(WallQuantity quantity, double value)
 {
     switch (quantity) {
     case WallQuantity::Headroom:
         return signedPercent(value);
     case WallQuantity::Luminance:
-        return fixedText(value, std::fabs(value) < 10.0 ? 3 : 0);
+        return reachedText(value);
     case WallQuantity::UvBefore:
     case WallQuantity::UvAfter:
     case WallQuantity::Limit:

@@ -4,7 +4,7 @@
 #include "display/additivity.h"
 #include "display/knowndisplay.h"
 #include "display/valuetexts.h"
-#include "display/wallassessment.h"
+#include "display/wallassessmenttexts.h"
 #include "editing/document.h"
 
 #include <ceiechart/diagram/whitepoint.h>

@@ -2,8 +2,9 @@
 #include "editing/wallcommand.h"
 
 #include "display/assessment.h"
+#include "display/assessmenttexts.h"
 #include "display/valuetexts.h"
-#include "display/wallassessment.h"
+#include "display/wallassessmenttexts.h"
 #include "editing/targetedits.h"
 
 #include <gamutfiles/correctionsfile.h>
@@ -129,13 +130,14 @@ struct Corrected {
     DisplayWall wall;
     Model::WallCorrection solved;
     bool luminancesCompare = false;
+    bool isReachKnownOfAll = false; //!< of the whole wall
     std::vector<std::size_t> notAdditive; //!< the cabinets whose white is not the sum of their primaries
 };
 
 Corrected correctedWall(const DisplayWall &wall, const DisplayGamut &target)
 {
     const WallAssessment assessment = assessWall(wall, target);
-    Corrected result{wall, assessment.correction, assessment.luminancesCompare, {}};
+    Corrected result{wall, assessment.correction, assessment.luminancesCompare, assessment.isReachKnownOfAll, {}};
     for (std::size_t i = 0; i < assessment.cabinets.size(); ++i) {
         if (!assessment.cabinets[i].isAdditive) {
             result.notAdditive.push_back(i);
@@ -213,13 +215,18 @@ QStringList notesOn(const Corrected &corrected, bool isWall)
 {
     QStringList notes;
     if (!corrected.luminancesCompare) {
-        const QString white = luminanceText(corrected.solved.target.white.Y, corrected.wall.unit);
-        notes.append(isWall ? CommandText::tr("the corrections are for a white of %1, the largest that all cabinets "
-                                              "reach, as the luminance of the target cannot be compared with theirs")
-                                  .arg(white)
-                            : CommandText::tr("the correction is for a white of %1, the largest that the display "
-                                              "reaches, as the luminance of the target cannot be compared with it")
-                                  .arg(white));
+        const QString white = reachableText(corrected.solved.target.white.Y, corrected.wall.unit);
+        notes.append(isWall && corrected.isReachKnownOfAll
+                ? CommandText::tr("the corrections are for a white of %1, the largest that all cabinets reach, as the "
+                                  "luminance of the target cannot be compared with theirs")
+                      .arg(white)
+                : isWall
+                ? CommandText::tr("the corrections are for a white of %1, the largest that all cabinets reach of which "
+                                  "it is known, as the luminance of the target cannot be compared with theirs")
+                      .arg(white)
+                : CommandText::tr("the correction is for a white of %1, the largest that the display "
+                                  "reaches, as the luminance of the target cannot be compared with it")
+                      .arg(white));
     }
     Remainder remainder;
     std::vector<std::size_t> beyond;
@@ -247,7 +254,7 @@ QStringList notesOn(const Corrected &corrected, bool isWall)
                                      "corrections are: %1")
                          .arg(namesOf(corrected.wall, corrected.notAdditive)));
     }
-    return notes;
+    return notes + exchangeTexts(corrected.wall);
 }
 
 Outcome<QVector<CorrectionsOutput>> tableFiles(const WallCorrections &corrections, const QString &fileName)
@@ -360,14 +367,18 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
     }
     FittedTarget result{description, {}};
     auto wanted = target;
-    const auto largestWhite = assessWall(description.wall, *target).largestWhite;
+    const WallAssessment before = assessWall(description.wall, *target);
+    const auto &largestWhite = before.largestWhite;
     if (target->unit == LuminanceUnit::Relative && description.wall.unit == LuminanceUnit::CandelaPerSquareMetre
         && largestWhite) {
         result.description = withLuminanceUnit(description, description.wall.unit, largestWhite->luminance);
         wanted = result.description.gamut(result.description.target);
-        result.notes.append(CommandText::tr("the luminance of the target is relative; its white is taken at %1, the "
-                                            "largest that all cabinets reach")
-                                .arg(luminanceText(largestWhite->luminance, description.wall.unit)));
+        result.notes.append((before.isReachKnownOfAll
+                ? CommandText::tr("the luminance of the target is relative; its white is taken at %1, the largest that "
+                                  "all cabinets reach")
+                : CommandText::tr("the luminance of the target is relative; its white is taken at %1, the largest that "
+                                  "all cabinets reach of which it is known"))
+                                .arg(reachableText(largestWhite->luminance, description.wall.unit)));
     }
     const WallAssessment assessment = assessWall(description.wall, *wanted);
     const auto fitted = fittedToWall(*wanted, assessment);
@@ -399,7 +410,8 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
     }
     if (fitted->white.Y != wanted->getTargets().white.Y) {
         result.notes.append(CommandText::tr("fitted to the wall, the target has a white of %1 instead of %2")
-                                .arg(luminanceText(fitted->white.Y, wanted->unit),
+                                .arg(assessment.luminancesCompare ? reachableText(fitted->white.Y, wanted->unit)
+                                                                  : luminanceText(fitted->white.Y, wanted->unit),
                                     luminanceText(wanted->getTargets().white.Y, wanted->unit)));
     }
     return result;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "panel/cabinetmodel.h"
 
+#include "display/assessmenttexts.h"
 #include "display/valuetexts.h"
+#include "display/wallassessmenttexts.h"
 #include "drawing/wallscale.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
@@ -197,7 +199,7 @@ QString CabinetModel::text(std::size_t cabinet, int column) const
     case LimitedBy:
         return wallValueText(of, WallQuantity::Limit);
     case White:
-        return of.largestWhite ? luminanceText(*of.largestWhite) : undefinedText();
+        return of.largestWhite ? reachableText(*of.largestWhite) : undefinedText();
     case Headroom:
         return wallValueText(of, WallQuantity::Headroom);
     case UvBefore:

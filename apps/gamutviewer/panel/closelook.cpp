@@ -2,7 +2,7 @@
 #include "panel/closelook.h"
 
 #include "display/valuetexts.h"
-#include "display/wallassessment.h"
+#include "display/wallassessmenttexts.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
 

@@ -2,6 +2,7 @@
 #include "panel/wallmapmodel.h"
 
 #include "display/valuetexts.h"
+#include "display/wallassessmenttexts.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
 

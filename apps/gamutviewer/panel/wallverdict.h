@@ -2,14 +2,11 @@
 #ifndef GAMUTVIEWER_WALLVERDICT_H
 #define GAMUTVIEWER_WALLVERDICT_H
 
-#include <QFrame>
+#include "panel/verdictframe.h"
 
 #include <cstddef>
 #include <vector>
 
-class QLabel;
-class QListWidget;
-class QListWidgetItem;
 class QToolButton;
 
 namespace gamutviewer {
@@ -20,7 +17,7 @@ class TargetSession;
  * \brief Whether all cabinets of the wall show the target, the grounds, and the ways out. A ground that is chosen
  * selects the cabinet that it is about.
  */
-class WallVerdict : public QFrame {
+class WallVerdict : public VerdictFrame {
     Q_OBJECT
 
 public:
@@ -28,10 +25,6 @@ public:
 
     /*! \brief Shows the wall as it is now. */
     void refresh();
-    /*! \brief Verdict and grounds, on a line each. */
-    QString text() const;
-
-    QListWidget *lines() const { return m_lines; }
     QToolButton *fitButton() const { return m_fit; }
     /*! \brief Judges the wall without those that fail, if they are few, or else without the one that is selected. */
     QToolButton *withoutButton() const { return m_without; }
@@ -45,11 +38,8 @@ Q_SIGNALS:
 
 private:
     std::vector<std::size_t> cabinetsToLeaveOut() const;
-    void choose(const QListWidgetItem *item);
 
     TargetSession *m_session;
-    QLabel *m_verdict;
-    QListWidget *m_lines;
     QToolButton *m_fit;
     QToolButton *m_without;
     QToolButton *m_again;

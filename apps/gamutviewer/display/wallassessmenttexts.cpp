@@ -1,0 +1,301 @@
+// SPDX-License-Identifier: MIT
+#include "display/wallassessmenttexts.h"
+
+#include "display/assessmenttexts.h"
+#include "display/chromaticity.h"
+#include "display/valuetexts.h"
+#include "display/wallassessor.h"
+
+#include <gamutmodel/exchangedprimaries.h>
+#include <gamutmodel/gamutcoverage.h>
+#include <gamutmodel/nearestinside.h>
+
+#include <QHash>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace gamutviewer {
+
+namespace {
+
+using ceiechart::gamutVertexName;
+using ceiechart::targetAt;
+using Vertex = ceiechart::GamutVertex;
+
+//! Of a cabinet whose name \a isUnique or not.
+QString nameFor(const QString &name, bool isUnique, const QString &label)
+{
+    return oneLine(isUnique && !name.isEmpty() ? name : label);
+}
+
+bool isUniqueName(const DisplayWall &wall, const QString &name)
+{
+    const auto isSame = [&name](const auto &cabinet) { return cabinet.name == name; };
+    return std::count_if(wall.cabinets.begin(), wall.cabinets.end(), isSame)
+        + std::count_if(wall.incomplete.begin(), wall.incomplete.end(), isSame)
+        == 1;
+}
+
+//! Why a cabinet has no drives; empty without a fault.
+QString faultText(const Model::Correction &correction)
+{
+    const QString primary = correction.faultyPrimary ? gamutVertexName(vertexOf(*correction.faultyPrimary)) : QString();
+    switch (correction.fault) {
+    case Model::DisplayFault::None:
+        break;
+    case Model::DisplayFault::NotFinite:
+        return WallText::tr("a colour has no chromaticity");
+    case Model::DisplayFault::NoLight:
+        return primary.isEmpty() ? WallText::tr("a primary has no luminance")
+                                 : WallText::tr("%1 has no luminance of its own", "a primary").arg(primary);
+    case Model::DisplayFault::NearlySingular:
+        return primary.isEmpty()
+            ? WallText::tr("the primaries cannot be told apart")
+            : WallText::tr("the primaries cannot be told apart: the others almost mix %1").arg(primary);
+    }
+    return QString();
+}
+
+QString whiteText(const DisplayWall &wall, const DisplayGamut &target, const CabinetAssessment &cabinet,
+    const Model::Correction &correction)
+{
+    const QString reached = reachableText(*cabinet.largestWhite, wall.unit);
+    const QString limit = gamutVertexName(vertexOf(correction.largestWhite->limit));
+    const QString wanted = luminanceText(target.getTargets().white.Y, target.unit);
+    if (!cabinet.headroom) {
+        return WallText::tr("white reaches %1 (%2 is the limit)").arg(reached, limit);
+    }
+    return isTooBright(target.getTargets().white.Y, *cabinet.largestWhite)
+        ? WallText::tr("white reaches %1 only, of %2 (%3 is the limit)").arg(reached, wanted, limit)
+        : WallText::tr("white reaches %1, of %2 (%3 is the limit)").arg(reached, wanted, limit);
+}
+
+//! Of a cabinet whose white is not the sum of its primaries.
+QString notAdditiveText(const DisplayWall &wall, const DisplayGamut &target, const CabinetAssessment &cabinet,
+    const Model::Target &measured, const Model::Target &sum)
+{
+    if (cabinet.largestWhite && isTooBright(target.getTargets().white.Y, *cabinet.largestWhite)) {
+        return WallText::tr("white reaches %1 only, of %2")
+            .arg(reachableText(*cabinet.largestWhite, wall.unit),
+                luminanceText(target.getTargets().white.Y, target.unit));
+    }
+    const bool differ = luminanceText(measured.Y) != luminanceText(sum.Y);
+    const QString is = differ ? luminanceText(measured.Y, wall.unit) : pointText(pointOf(measured));
+    const QString adds = differ ? luminanceText(sum.Y, wall.unit) : pointText(pointOf(sum));
+    return cabinet.largestWhite
+        ? WallText::tr("the white is %1, the primaries add to %2: what it shows with its correction cannot be worked "
+                       "out")
+              .arg(is, adds)
+        : WallText::tr("the white is %1, the primaries add to %2: what it reaches cannot be worked out").arg(is, adds);
+}
+
+//! "blue by Δu′v′ 0.0021"; empty where the black keeps the cabinet off none.
+QString offByBlackText(const CabinetAssessment &cabinet)
+{
+    QStringList colors;
+    for (const Vertex vertex : ceiechart::allGamutVertices) {
+        const double distance = cabinet.offByBlack[std::size_t(vertex)];
+        if (distance > 0.0) {
+            colors.append(WallText::tr("%1 by Δu′v′ %2", "colour and distance")
+                              .arg(gamutVertexName(vertex), distanceText(distance)));
+        }
+    }
+    return colors.join(WallText::tr(", ", "between names"));
+}
+
+//! What the primaries of a cabinet seem to be: "red and green seem to be exchanged"; empty where they seem right.
+QString exchangeText(const std::optional<Model::SeemingPrimaries> &seeming)
+{
+    if (!seeming) {
+        return QString();
+    }
+    const bool isCycle = seeming->red != Model::Primary::Red && seeming->green != Model::Primary::Green
+        && seeming->blue != Model::Primary::Blue;
+    return isCycle                              ? WallText::tr("red, green and blue seem to be exchanged")
+        : seeming->blue == Model::Primary::Blue ? WallText::tr("red and green seem to be exchanged")
+        : seeming->red == Model::Primary::Red   ? WallText::tr("green and blue seem to be exchanged")
+                                                : WallText::tr("red and blue seem to be exchanged");
+}
+
+} // namespace
+
+QString sentence(const QString &text)
+{
+    return WallText::tr("%1.", "a sentence").arg(text);
+}
+
+QString ofCabinets(const QString &names, const QString &text)
+{
+    return sentence(WallText::tr("%1: %2", "a cabinet and what is known of it").arg(names, text));
+}
+
+QString cabinetName(const DisplayWall &wall, std::size_t cabinet)
+{
+    const WallCabinet &of = wall.cabinets[cabinet];
+    return nameFor(of.name, isUniqueName(wall, of.name), of.label());
+}
+
+QString cabinetName(const DisplayWall &wall, const IncompleteCabinet &cabinet)
+{
+    return nameFor(cabinet.name, isUniqueName(wall, cabinet.name), incompleteLabel(cabinet));
+}
+
+std::vector<QString> cabinetNames(const DisplayWall &wall)
+{
+    QHash<QString, int> counts;
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        ++counts[cabinet.name];
+    }
+    for (const IncompleteCabinet &cabinet : wall.incomplete) {
+        ++counts[cabinet.name];
+    }
+    std::vector<QString> names;
+    names.reserve(wall.cabinets.size());
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        names.push_back(nameFor(cabinet.name, counts.value(cabinet.name) == 1, cabinet.label()));
+    }
+    return names;
+}
+
+QString namesOf(const DisplayWall &wall, const std::vector<std::size_t> &cabinets)
+{
+    QStringList names;
+    for (const std::size_t cabinet : cabinets) {
+        names.append(cabinetName(wall, cabinet));
+    }
+    if (names.size() < 2) {
+        return names.join(QString());
+    }
+    const QString last = names.takeLast();
+    return WallText::tr("%1 and %2", "names of cabinets").arg(names.join(WallText::tr(", ", "between names")), last);
+}
+
+QString cabinetText(
+    const DisplayWall &wall, const DisplayGamut &target, const WallAssessment &assessment, std::size_t index)
+{
+    const CabinetAssessment &cabinet = assessment.cabinets[index];
+    const Model::Correction &correction = assessment.correction.corrections[index];
+    const WallCabinet &of = wall.cabinets[index];
+    const Model::Targets colors{of.red, of.green, of.blue, {}};
+    QStringList parts;
+    for (const Vertex vertex : {Vertex::Red, Vertex::Green, Vertex::Blue, Vertex::White}) {
+        const double distance = cabinet.outside[std::size_t(vertex)];
+        if (distance == 0.0) {
+            continue;
+        }
+        const auto nearest
+            = Model::nearestInside(colors, pointOf(targetAt(target.getTargets(), vertex)), chromaticityDecimals);
+        parts.append(nearest ? WallText::tr("%1 reaches %2 only, Δu′v′ %3 off")
+                                   .arg(gamutVertexName(vertex), pointText(nearest->xy), distanceText(distance))
+                             : WallText::tr("%1 is out of reach").arg(gamutVertexName(vertex)));
+    }
+    const QString offByBlack = offByBlackText(cabinet);
+    if (!offByBlack.isEmpty()) {
+        parts.append(
+            WallText::tr("the black is too bright, and keeps it off %1: raise the white of the target, fit the "
+                         "target to the wall, or measure the black without stray light",
+                "colours and distances")
+                .arg(offByBlack));
+    }
+    const QString fault = faultText(correction);
+    if (!fault.isEmpty()) {
+        parts.append(fault);
+    } else if (cabinet.gamut == Judgement::NotKnown && !Model::spanTriangle(colors)) {
+        parts.append(WallText::tr("the primaries span no triangle"));
+    } else if (!cabinet.isAdditive) {
+        parts.append(notAdditiveText(wall, target, cabinet, *of.white, *correction.uncorrectedWhite));
+    } else if (cabinet.largestWhite && (parts.isEmpty() || cabinet.luminance == Judgement::Fail)) {
+        parts.append(whiteText(wall, target, cabinet, correction));
+    }
+    const bool hasSaidWhy = cabinet.largestWhite && isTooBright(target.getTargets().white.Y, *cabinet.largestWhite);
+    if (cabinet.luminance == Judgement::Fail && !hasSaidWhy) {
+        parts.append(cabinet.isAdditive ? WallText::tr("a primary of the target is too bright for it")
+                                        : WallText::tr("the target is too bright for it in any case"));
+    }
+    if (parts.isEmpty()) {
+        parts.append(WallText::tr("not known whether it shows the target"));
+    }
+    const QString exchange = exchangeText(Model::exchangedPrimaries(colors));
+    if (!exchange.isEmpty()) {
+        parts.append(exchange);
+    }
+    return ofCabinets(cabinetName(wall, index), parts.join(WallText::tr("; ", "between parts of a sentence")));
+}
+
+QStringList exchangeTexts(const DisplayWall &wall)
+{
+    QStringList texts; // in the order of the first cabinet of each
+    QHash<QString, std::vector<std::size_t>> cabinets;
+    for (std::size_t i = 0; i < wall.cabinets.size(); ++i) {
+        const WallCabinet &of = wall.cabinets[i];
+        const QString text = exchangeText(Model::exchangedPrimaries({of.red, of.green, of.blue, {}}));
+        if (text.isEmpty()) {
+            continue;
+        }
+        if (!cabinets.contains(text)) {
+            texts.append(text);
+        }
+        cabinets[text].push_back(i);
+    }
+    QStringList result;
+    for (const QString &text : qAsConst(texts)) {
+        const std::vector<std::size_t> &of = cabinets[text];
+        const QString names = of.size() <= describedCabinets
+            ? namesOf(wall, of)
+            : WallText::tr("%1 and %2 others", "name of a cabinet and how many")
+                  .arg(cabinetName(wall, of.front()))
+                  .arg(of.size() - 1);
+        result.append(ofCabinets(names, text) + QLatin1Char(' ')
+            + WallText::tr("Check the measurement: a correction drives the primaries as they are named."));
+    }
+    return result;
+}
+
+QString commonGamutProblem(const DisplayWall &wall, const Model::CommonGamut &common)
+{
+    switch (common.shape) {
+    case Model::CommonShape::Area:
+        break;
+    case Model::CommonShape::NotKnown:
+        return WallText::tr("It is not known what the cabinets have in common");
+    case Model::CommonShape::Empty:
+        return WallText::tr("%1 have no colour in common", "names of cabinets").arg(namesOf(wall, common.excluding));
+    case Model::CommonShape::Point:
+    case Model::CommonShape::Line:
+        return WallText::tr("The gamuts of the cabinets only touch");
+    }
+    return QString();
+}
+
+QString fitProblem(const DisplayWall &wall, const WallAssessment &assessment)
+{
+    const Model::GamutFit &fit = assessment.fit;
+    const auto limit = [&](const std::optional<std::size_t> &cabinet) {
+        return cabinet ? cabinetName(wall, *cabinet) : undefinedText();
+    };
+    switch (fit.fault) {
+    case Model::FitFault::None:
+        break;
+    case Model::FitFault::NotFinite:
+        return WallText::tr("The target cannot be fitted: a colour of it has no chromaticity.");
+    case Model::FitFault::NoCommonArea:
+        return WallText::tr("The target cannot be fitted: %1.", "why").arg(commonGamutProblem(wall, assessment.common));
+    case Model::FitFault::WhiteOutside:
+        return WallText::tr("The target cannot be fitted: not all cabinets can show its white (%1 is the limit). The "
+                            "nearest that they can show is %2. Move the white beyond that, towards the middle.")
+            .arg(limit(fit.whiteLimit), pointText(pointOf(fit.target.white)));
+    case Model::FitFault::WhiteOutsideOfWish:
+        return WallText::tr("The target cannot be fitted: its white is not inside of its primaries.");
+    case Model::FitFault::NoTriangle:
+        return WallText::tr("The target cannot be fitted: too little of it would be left.");
+    case Model::FitFault::BlackTooBright:
+        return WallText::tr("The target cannot be fitted: its white is too dark over the black of %1. Raise the "
+                            "luminance of the white, or measure the black again without stray light.")
+            .arg(limit(fit.whiteLimit));
+    }
+    return QString();
+}
+
+} // namespace gamutviewer

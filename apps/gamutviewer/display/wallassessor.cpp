@@ -1,0 +1,476 @@
+// SPDX-License-Identifier: MIT
+#include "display/wallassessor.h"
+
+#include "display/additivity.h"
+#include "display/assessmentparts.h"
+#include "display/chromaticity.h"
+#include "display/knowndisplay.h"
+
+#include <gamutmodel/gamutcoverage.h>
+#include <gamutmodel/nearestinside.h>
+
+#include <QHash>
+
+#include <algorithm>
+#include <limits>
+#include <tuple>
+#include <utility>
+
+namespace gamutviewer {
+
+namespace {
+
+using ceiechart::targetAt;
+using Vertex = ceiechart::GamutVertex;
+
+constexpr Vertex primaries[] = {Vertex::Red, Vertex::Green, Vertex::Blue};
+constexpr double rounding = 1e-9;
+
+Judgement worse(Judgement a, Judgement b)
+{
+    return a == Judgement::Fail || b == Judgement::Fail ? Judgement::Fail : a == Judgement::NotKnown ? a : b;
+}
+
+//! Of primaries that cannot be told apart, chromaticities say nothing either.
+bool isGamutKnown(Model::DisplayFault fault, const Model::Targets &colors)
+{
+    return fault != Model::DisplayFault::NearlySingular && fault != Model::DisplayFault::NotFinite
+        && Model::spanTriangle(colors);
+}
+
+//! Whether a primary that lies inside is brighter in the target than \a drive says that the cabinet reaches.
+bool hasTooBrightPrimary(const Model::TargetDrive &drive, const std::array<double, 4> &outside)
+{
+    const Model::Drive drives[] = {drive.red, drive.green, drive.blue};
+    return std::any_of(std::begin(primaries), std::end(primaries), [&](Vertex primary) {
+        return outside[std::size_t(primary)] == 0.0 && highest(drives[int(primary)]) > fullDrive;
+    });
+}
+
+//! Sets what is known of the chromaticities of a cabinet whose gamut is known.
+void judgeGamut(CabinetAssessment &result, const Model::Targets &colors, const Model::Targets &target)
+{
+    const Model::PrimariesOutside outside = Model::primariesOutside(target, colors);
+    const bool isOutside[] = {outside.red, outside.green, outside.blue};
+    result.gamut = Judgement::Pass;
+    double most = 0.0;
+    const auto note = [&](Vertex vertex, double distance) {
+        result.gamut = Judgement::Fail;
+        result.outside[std::size_t(vertex)] = distance;
+        if (distance > most) {
+            most = distance;
+            result.limit = vertex;
+        }
+    };
+    const auto white = distanceFrom(colors, target.white);
+    if (!white) {
+        result.gamut = Judgement::NotKnown;
+    } else if (*white > rounding) {
+        note(Vertex::White, *white);
+    }
+    for (const Vertex primary : primaries) {
+        if (isOutside[int(primary)]) {
+            note(primary,
+                distanceFrom(colors, targetAt(target, primary)).value_or(std::numeric_limits<double>::infinity()));
+        }
+    }
+}
+
+//! What is known of the luminances of a cabinet.
+class CabinetLuminance {
+public:
+    //! \a drive is that of the cabinet and has no fault.
+    CabinetLuminance(const WallCabinet &cabinet, const Model::DisplayDrive &drive, const Model::Targets &target)
+        : m_drive(drive)
+        , m_target(target)
+        , m_sum(drive.largestLuminance(pointOf(target.white)))
+    {
+        if (!cabinet.white) {
+            return;
+        }
+        const Model::Target &white = *cabinet.white;
+        const Additivity additivity = additivityOf(drive, white);
+        m_isAdditive = additivity.isAdditive;
+        m_isUpperBound = additivity.isUpperBound;
+        if (m_isAdditive) {
+            m_measured = measuredShare(drive, white, target.white);
+        } else if (white.Y > 0.0 && isMeasuredWhite(white, target.white)) {
+            m_measuredWhite = white.Y;
+        }
+    }
+
+    //! Sets what it reaches.
+    void reach(CabinetAssessment &result) const
+    {
+        result.isAdditive = m_isAdditive;
+        if (!m_sum) {
+            return; // the white is outside
+        }
+        if (m_isAdditive) {
+            result.largestWhite = m_sum->luminance * m_measured;
+            if (!result.limit) {
+                result.limit = vertexOf(m_sum->limit);
+            }
+        } else {
+            result.largestWhite = m_measuredWhite;
+        }
+        result.notTooBright = m_isUpperBound
+            ? std::make_optional(std::min(m_sum->luminance, result.largestWhite.value_or(m_sum->luminance)))
+            : result.largestWhite;
+    }
+
+    //! What the primaries add to, and no more than it reaches. That is what a correction is for.
+    std::optional<double> correctable() const
+    {
+        return m_sum ? std::make_optional(
+                   std::min(m_sum->luminance * std::min(m_measured, 1.0), m_measuredWhite.value_or(m_sum->luminance)))
+                     : std::nullopt;
+    }
+
+    //! Judges it for a target whose luminances compare; \a result has what it reaches.
+    void judge(CabinetAssessment &result) const
+    {
+        if (result.largestWhite) {
+            result.headroom = *result.largestWhite / m_target.white.Y;
+        }
+        const auto needed = m_sum ? m_drive.driveFor(m_target) : std::nullopt;
+        if (!needed) {
+            return;
+        }
+        const auto most = result.largestWhite ? result.largestWhite : result.notTooBright;
+        const bool isExceeded = (most && isTooBright(m_target.white.Y, *most))
+            || (m_isUpperBound && hasTooBrightPrimary(*needed, result.outside));
+        if (isExceeded) {
+            result.luminance = Judgement::Fail;
+        } else if (m_isAdditive) {
+            result.luminance = Judgement::Pass;
+        }
+    }
+
+private:
+    const Model::DisplayDrive &m_drive;
+    const Model::Targets &m_target;
+    const std::optional<Model::LargestLuminance> m_sum;
+    bool m_isAdditive = true;
+    bool m_isUpperBound = true; // also of what is additive
+    double m_measured = 1.0; // the luminance that was measured as a part of the sum
+    std::optional<double> m_measuredWhite; // at the white of the target, where the sum does not tell it
+};
+
+/*!
+ * \brief How far the black of a cabinet keeps it off each colour of \a target with \a correction.
+ *
+ * Of colours inside of its gamut, a drive below 0 is there for the black only. Drives above 1 are another matter, and
+ * do not count here.
+ */
+std::array<double, 4> offByBlack(const Model::Cabinet &cabinet, const Model::CorrectionMatrix &correction,
+    const Model::Targets &target, const std::array<double, 4> &outside)
+{
+    constexpr std::pair<Vertex, Model::Drive> contents[] = {{Vertex::Red, {1.0, 0.0, 0.0}},
+        {Vertex::Green, {0.0, 1.0, 0.0}}, {Vertex::Blue, {0.0, 0.0, 1.0}}, {Vertex::White, {1.0, 1.0, 1.0}}};
+    std::array<double, 4> off{};
+    for (const auto &[vertex, content] : contents) {
+        const Model::Drive drive = correction.driveFor(content);
+        if (outside[std::size_t(vertex)] > 0.0 || !Model::isOutside(drive)) {
+            continue;
+        }
+        const auto shown
+            = Model::DisplayDrive(cabinet.colors, cabinet.black)
+                  .lightAt({std::max(drive.red, 0.0), std::max(drive.green, 0.0), std::max(drive.blue, 0.0)});
+        const auto difference = shown ? Model::uvDifference(*shown, targetAt(target, vertex)) : std::nullopt;
+        if (!difference || *difference > visibleUv) {
+            off[std::size_t(vertex)] = difference.value_or(std::numeric_limits<double>::infinity());
+        }
+    }
+    return off;
+}
+
+//! Makes a WallAssessment step by step.
+class WallAssessor {
+public:
+    WallAssessor(const DisplayWall &wall, const DisplayGamut &target)
+        : m_wall(wall)
+        , m_target(target)
+        , m_cabinets(wall.modelCabinets())
+    {
+        m_result.cabinets.resize(m_cabinets.size());
+        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
+            m_result.cabinets[i].isLeftOut = wall.cabinets[i].isLeftOut;
+            if (!wall.cabinets[i].isLeftOut) {
+                m_counted.push_back(i);
+            }
+        }
+        m_result.luminancesCompare = luminancesCompare(target.unit, wall.unit);
+    }
+
+    WallAssessment result()
+    {
+        judgeGamutsAndLuminances();
+        correct();
+        judgeCabinets();
+        judgeWall();
+        compareNeighbors();
+        findCommonGamut();
+        sort();
+        return m_result;
+    }
+
+private:
+    const Model::Targets &target() const { return m_target.getTargets(); }
+    bool hasLuminance() const { return m_result.luminancesCompare && target().white.Y > 0.0; }
+
+    void judgeGamutsAndLuminances()
+    {
+        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
+            const Model::DisplayDrive drive(m_cabinets[i].colors, m_cabinets[i].black);
+            CabinetAssessment &result = m_result.cabinets[i];
+            if (isGamutKnown(drive.fault(), m_cabinets[i].colors)) {
+                judgeGamut(result, m_cabinets[i].colors, target());
+            }
+            if (drive.fault() != Model::DisplayFault::None) {
+                continue;
+            }
+            const CabinetLuminance luminance(m_wall.cabinets[i], drive, target());
+            luminance.reach(result);
+            if (hasLuminance()) {
+                luminance.judge(result);
+            }
+            const auto correctable = luminance.correctable();
+            if (correctable && !result.isLeftOut) {
+                m_correctable = std::min(m_correctable.value_or(*correctable), *correctable);
+            }
+        }
+    }
+
+    //! What is left out limits nothing, but it is corrected as far as it can be.
+    void correct()
+    {
+        Model::WallCorrection &correction = m_result.correction;
+        correction = Model::wallCorrection(
+            m_cabinets, target(), hasLuminance() ? std::make_optional(target().white.Y) : m_correctable);
+        if (m_counted.size() == m_cabinets.size()) {
+            return;
+        }
+        correction.largestWhite.reset();
+        correction.without.clear();
+        for (const std::size_t i : m_counted) {
+            const auto &largest = correction.corrections[i].largestWhite;
+            if (!largest) {
+                correction.without.push_back(i);
+            } else if (!correction.largestWhite || largest->luminance < correction.largestWhite->luminance) {
+                correction.largestWhite = Model::WallWhite{largest->luminance, i, largest->limit};
+            }
+        }
+    }
+
+    void judgeCabinets()
+    {
+        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
+            const WallCabinet &cabinet = m_wall.cabinets[i];
+            const Model::Correction &correction = m_result.correction.corrections[i];
+            CabinetAssessment &result = m_result.cabinets[i];
+            result.white = cabinet.white ? cabinet.white : correction.uncorrectedWhite;
+            result.uvBefore = result.white ? Model::uvDifference(*result.white, target().white) : std::nullopt;
+            result.uvAfter = result.isAdditive ? correction.remaining.whiteUv : std::nullopt;
+            // How much a black takes depends on the luminance, and on what the primaries add to.
+            if (cabinet.black && correction.matrix && hasLuminance() && result.isAdditive) {
+                result.offByBlack = offByBlack(m_cabinets[i], *correction.matrix, target(), result.outside);
+            }
+            const auto farthest = std::max_element(result.offByBlack.begin(), result.offByBlack.end());
+            if (*farthest > 0.0 && result.gamut != Judgement::Fail) {
+                result.limit = Vertex(farthest - result.offByBlack.begin());
+            }
+            // A chromaticity that is outside fails at any luminance.
+            result.judgement = result.gamut == Judgement::Fail || *farthest > 0.0 ? Judgement::Fail
+                : result.gamut == Judgement::NotKnown ? worse(result.luminance, Judgement::NotKnown)
+                                                      : result.luminance;
+        }
+    }
+
+    void judgeWall()
+    {
+        const auto isAny = [this](Judgement judgement) {
+            return std::any_of(m_counted.begin(), m_counted.end(),
+                [&](std::size_t i) { return m_result.cabinets[i].judgement == judgement; });
+        };
+        m_result.judgement = isAny(Judgement::Fail)                                         ? Judgement::Fail
+            : isAny(Judgement::NotKnown) || m_counted.empty() || !m_wall.incomplete.empty() ? Judgement::NotKnown
+                                                                                            : Judgement::Pass;
+        m_result.isReachKnownOfAll = m_wall.incomplete.empty();
+        for (const std::size_t i : m_counted) {
+            const CabinetAssessment &cabinet = m_result.cabinets[i];
+            if (cabinet.notTooBright) {
+                m_result.notTooBright
+                    = std::min(m_result.notTooBright.value_or(*cabinet.notTooBright), *cabinet.notTooBright);
+            }
+            if (!cabinet.largestWhite) {
+                m_result.isReachKnownOfAll = false;
+                continue;
+            }
+            if (!m_result.largestWhite || *cabinet.largestWhite < m_result.largestWhite->luminance) {
+                m_result.largestWhite
+                    = {*cabinet.largestWhite, i, m_result.correction.corrections[i].largestWhite->limit};
+            }
+        }
+    }
+
+    void compareNeighbors()
+    {
+        std::vector<std::optional<Model::Target>> before(m_cabinets.size());
+        std::vector<std::optional<Model::Target>> after = Model::whitesAfter(m_result.correction);
+        QHash<QPair<int, int>, int> places;
+        places.reserve(int(m_cabinets.size()));
+        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
+            before[i] = m_result.cabinets[i].white;
+            if (!m_result.cabinets[i].isAdditive) {
+                after[i].reset();
+            }
+            const auto &position = m_cabinets[i].position;
+            if (position && !places.contains({position->row, position->column})) {
+                places.insert({position->row, position->column}, int(i));
+            }
+        }
+        const auto compare = [](std::optional<NeighborDifference> &worst, std::size_t neighbor,
+                                 const std::optional<Model::Target> &a, const std::optional<Model::Target> &b) {
+            const auto difference = a && b ? Model::uvDifference(*a, *b) : std::nullopt;
+            if (difference && (!worst || *difference > worst->uv)) {
+                worst = {neighbor, *difference};
+            }
+        };
+        const auto comparePair = [&](std::size_t i, std::size_t neighbor) {
+            compare(m_result.cabinets[i].neighborBefore, neighbor, before[i], before[neighbor]);
+            compare(m_result.cabinets[neighbor].neighborBefore, i, before[i], before[neighbor]);
+            compare(m_result.cabinets[i].neighborAfter, neighbor, after[i], after[neighbor]);
+            compare(m_result.cabinets[neighbor].neighborAfter, i, after[i], after[neighbor]);
+        };
+        for (auto place = places.cbegin(); place != places.cend(); ++place) {
+            const auto [row, column] = place.key();
+            for (const QPair<int, int> &next : {qMakePair(row + 1, column), qMakePair(row, column + 1)}) {
+                const auto neighbor = places.constFind(next);
+                if (neighbor != places.cend()) {
+                    comparePair(std::size_t(place.value()), std::size_t(neighbor.value()));
+                }
+            }
+        }
+        const auto positions = Model::positionsOf(m_cabinets);
+        m_result.before = uniformityOf(std::move(before), positions);
+        m_result.after = uniformityOf(std::move(after), positions);
+    }
+
+    Model::Uniformity uniformityOf(std::vector<std::optional<Model::Target>> whites,
+        const std::vector<std::optional<Model::GridPosition>> &positions) const
+    {
+        for (std::size_t i = 0; i < whites.size(); ++i) {
+            if (m_result.cabinets[i].isLeftOut) {
+                whites[i].reset();
+            }
+        }
+        Model::Uniformity uniformity = Model::uniformity(whites, positions);
+        for (std::vector<std::size_t> *cabinets : {&uniformity.unknownChromaticity, &uniformity.unknownLuminance}) {
+            cabinets->erase(std::remove_if(cabinets->begin(), cabinets->end(),
+                                [this](std::size_t i) { return m_result.cabinets[i].isLeftOut; }),
+                cabinets->end());
+        }
+        return uniformity;
+    }
+
+    void findCommonGamut()
+    {
+        std::vector<std::size_t> known;
+        std::vector<Model::Cabinet> cabinets;
+        for (const std::size_t i : m_counted) {
+            if (isGamutKnown(m_result.correction.corrections[i].fault, m_cabinets[i].colors)) {
+                known.push_back(i);
+                cabinets.push_back(m_cabinets[i]);
+            }
+        }
+        Model::CommonGamut &common = m_result.common;
+        common = Model::commonGamut(cabinets);
+        m_result.fit = fitted(cabinets);
+        const auto number = [&known](std::size_t &cabinet) { cabinet = known[cabinet]; };
+        for (Model::CommonSide &side : common.sides) {
+            number(side.cabinet);
+        }
+        std::for_each(common.excluding.begin(), common.excluding.end(), number);
+        std::for_each(common.invalid.begin(), common.invalid.end(), number);
+        for (Model::FittedPrimary *primary : {&m_result.fit.red, &m_result.fit.green, &m_result.fit.blue}) {
+            if (primary->limit) {
+                number(*primary->limit);
+            }
+        }
+        if (m_result.fit.whiteLimit) {
+            number(*m_result.fit.whiteLimit);
+        }
+    }
+
+    //! The target fitted to \a cabinets. Where none fails, what their blacks take is too little to be seen.
+    Model::GamutFit fitted(const std::vector<Model::Cabinet> &cabinets) const
+    {
+        const double luminance
+            = hasLuminance() ? fittedLuminance(m_target, m_result) : m_result.correction.target.white.Y;
+        if (m_result.judgement != Judgement::Fail || m_result.correction.fault != Model::WallFault::None) {
+            return Model::fittedTarget(m_result.common, target());
+        }
+        Model::Targets wish = target();
+        wish.white = Model::Target::fromYxy(luminance, wish.white.x, wish.white.y);
+        Model::GamutFit fit = Model::fittedTarget(m_result.common, wish, cabinets);
+        if (fit.fault == Model::FitFault::None) {
+            fit.target
+                = ceiechart::withLuminance(fit.target, Vertex::White, target().white.Y, true).value_or(fit.target);
+        } else {
+            fit.target.white = Model::Target::fromYxy(target().white.Y, fit.target.white.x, fit.target.white.y);
+        }
+        return fit;
+    }
+
+    void sort()
+    {
+        const auto rank = [this](std::size_t i) {
+            const CabinetAssessment &cabinet = m_result.cabinets[i];
+            const int group = cabinet.isLeftOut            ? 3
+                : cabinet.judgement == Judgement::Fail     ? 0
+                : cabinet.judgement == Judgement::NotKnown ? 1
+                                                           : 2;
+            const double farthest = std::max(*std::max_element(cabinet.outside.begin(), cabinet.outside.end()),
+                *std::max_element(cabinet.offByBlack.begin(), cabinet.offByBlack.end()));
+            return std::make_tuple(group, cabinet.largestWhite.value_or(-1.0), -farthest, i);
+        };
+        std::vector<decltype(rank(0))> ranks;
+        ranks.reserve(m_cabinets.size());
+        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
+            ranks.push_back(rank(i));
+        }
+        std::sort(ranks.begin(), ranks.end());
+        for (const auto &of : ranks) {
+            m_result.worstFirst.push_back(std::get<3>(of));
+        }
+    }
+
+    const DisplayWall &m_wall;
+    const DisplayGamut &m_target;
+    const std::vector<Model::Cabinet> m_cabinets;
+    std::vector<std::size_t> m_counted; // all that are not left out
+    std::optional<double> m_correctable; // the largest white that corrections of these can be for
+    WallAssessment m_result;
+};
+
+} // namespace
+
+bool isTooBright(double wanted, double reached)
+{
+    return wanted > reached * fullDrive;
+}
+
+double fittedLuminance(const DisplayGamut &target, const WallAssessment &assessment)
+{
+    const double wanted = target.getTargets().white.Y;
+    const auto &most = assessment.notTooBright;
+    return assessment.luminancesCompare && most && isTooBright(wanted, *most) ? *most : wanted;
+}
+
+WallAssessment judgedWall(const DisplayWall &wall, const DisplayGamut &target)
+{
+    return WallAssessor(wall, target).result();
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_WALLASSESSOR_H
+#define GAMUTVIEWER_WALLASSESSOR_H
+
+#include "display/wallassessment.h"
+
+namespace gamutviewer {
+
+/*! \brief All of assessWall() but the sentences. */
+WallAssessment judgedWall(const DisplayWall &wall, const DisplayGamut &target);
+
+/*! \brief Whether a luminance \a wanted is more than a cabinet shows that has \a reached, but for fullDrive. */
+bool isTooBright(double wanted, double reached);
+
+/*! \brief The luminance of the white of \a target, or what all cabinets reach as far as known, if that is less. */
+double fittedLuminance(const DisplayGamut &target, const WallAssessment &assessment);
+
+} // namespace gamutviewer
+
+#endif

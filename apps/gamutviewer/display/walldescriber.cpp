@@ -1,0 +1,299 @@
+// SPDX-License-Identifier: MIT
+#include "display/walldescriber.h"
+
+#include "display/assessmenttexts.h"
+#include "display/chromaticity.h"
+#include "display/valuetexts.h"
+#include "display/wallassessmenttexts.h"
+
+#include <algorithm>
+
+namespace gamutviewer {
+
+namespace {
+
+using ceiechart::gamutVertexName;
+
+constexpr int namedCabinets = 2; // in a headline
+
+//! Makes the headline and the lines of an assessment that has all else.
+class WallDescriber {
+public:
+    WallDescriber(const DisplayWall &wall, const DisplayGamut &target, WallAssessment &assessment)
+        : m_wall(wall)
+        , m_target(target)
+        , m_result(assessment)
+    {
+        for (std::size_t i = 0; i < wall.cabinets.size(); ++i) {
+            (wall.cabinets[i].isLeftOut ? m_leftOut : m_counted).push_back(i);
+        }
+    }
+
+    void describe()
+    {
+        const auto failing = cabinetsThat(Judgement::Fail);
+        const auto unknown = cabinetsThat(Judgement::NotKnown);
+        describeCabinets(Judgement::Fail, failing);
+        const QString problem = commonGamutProblem(m_wall, m_result.common);
+        if (!problem.isEmpty() && m_result.common.shape != Model::CommonShape::NotKnown) {
+            add(Judgement::Fail, WallText::tr("%1: no target can be shown by all.").arg(problem));
+        }
+        describeLuminances(unknown.size());
+        describeIncomplete();
+        describeCorrections();
+        // What the largest white is a ground for comes before all that is none.
+        const bool isPass = m_result.judgement == Judgement::Pass;
+        if (isPass) {
+            describeWhite(failing.size());
+        }
+        for (const QString &text : exchangeTexts(m_wall)) {
+            m_result.lines.append({std::nullopt, text, std::nullopt, true});
+        }
+        if (!isPass) {
+            describeWhite(failing.size());
+        }
+        describeWays(failing, unknown);
+        headline(failing, unknown.size() + m_wall.incomplete.size());
+    }
+
+private:
+    bool hasLuminance() const { return m_result.luminancesCompare && m_target.getTargets().white.Y > 0.0; }
+
+    std::vector<std::size_t> cabinetsThat(Judgement judgement) const
+    {
+        std::vector<std::size_t> found;
+        for (const std::size_t i : m_result.worstFirst) {
+            if (!m_result.cabinets[i].isLeftOut && m_result.cabinets[i].judgement == judgement) {
+                found.push_back(i);
+            }
+        }
+        return found;
+    }
+
+    void add(std::optional<Judgement> judgement, const QString &text, std::optional<std::size_t> cabinet = std::nullopt)
+    {
+        m_result.lines.append({judgement, text, cabinet, false});
+    }
+
+    //! Of those that count and are as \a isMeant says.
+    template <typename Condition>
+    std::optional<Model::WallWhite> largestWhiteOf(const Condition &isMeant) const
+    {
+        std::optional<Model::WallWhite> least;
+        for (const std::size_t i : m_counted) {
+            const CabinetAssessment &cabinet = m_result.cabinets[i];
+            const bool isLess = cabinet.largestWhite && (!least || *cabinet.largestWhite < least->luminance);
+            if (isLess && isMeant(cabinet)) {
+                least = {*cabinet.largestWhite, i, m_result.correction.corrections[i].largestWhite->limit};
+            }
+        }
+        return least;
+    }
+
+    void describeCabinets(Judgement judgement, const std::vector<std::size_t> &cabinets)
+    {
+        const std::size_t described = describedOf(cabinets.size());
+        for (std::size_t i = 0; i < described; ++i) {
+            add(judgement, cabinetText(m_wall, m_target, m_result, cabinets[i]), cabinets[i]);
+        }
+        countOthers(judgement, cabinets.size() - described);
+    }
+
+    //! A line that says that there is one more would be no shorter than that one.
+    static std::size_t describedOf(std::size_t count)
+    {
+        return count <= describedCabinets + 1 ? count : describedCabinets;
+    }
+
+    void countOthers(Judgement judgement, std::size_t others)
+    {
+        if (others > 0) {
+            add(judgement,
+                judgement == Judgement::Fail
+                    ? WallText::tr("%1 other cabinets do not show it either.").arg(others)
+                    : WallText::tr("Of %1 other cabinets it is not known either.").arg(others));
+        }
+    }
+
+    void describeIncomplete()
+    {
+        const std::size_t described = describedOf(m_wall.incomplete.size());
+        for (std::size_t i = 0; i < described; ++i) {
+            const IncompleteCabinet &cabinet = m_wall.incomplete[i];
+            add(Judgement::NotKnown, ofCabinets(cabinetName(m_wall, cabinet), incompleteReasonText(cabinet)));
+        }
+        countOthers(Judgement::NotKnown, m_wall.incomplete.size() - described);
+    }
+
+    void describeLuminances(std::size_t unknownCount)
+    {
+        if (!m_result.luminancesCompare) {
+            add(Judgement::NotKnown, incomparableText(m_target.unit, m_wall.unit, WallText::tr("wall")));
+        } else if (!hasLuminance()) {
+            add(Judgement::NotKnown,
+                WallText::tr("The luminance of the target is not known: its white has none. Enter it beside Y."));
+        }
+        if (unknownCount == 0) {
+            return;
+        }
+        // Where luminances cannot be compared that is said once, and not of each cabinet.
+        std::vector<std::size_t> reasons;
+        for (const std::size_t i : cabinetsThat(Judgement::NotKnown)) {
+            const CabinetAssessment &cabinet = m_result.cabinets[i];
+            if (hasLuminance() || cabinet.gamut == Judgement::NotKnown || !cabinet.largestWhite) {
+                reasons.push_back(i);
+            }
+        }
+        describeCabinets(Judgement::NotKnown, reasons);
+    }
+
+    void describeCorrections()
+    {
+        const auto cannot = [this](const QString &why) {
+            add(Judgement::NotKnown, WallText::tr("There are no corrections: %1").arg(why));
+        };
+        switch (m_result.correction.fault) {
+        case Model::WallFault::None:
+            break;
+        case Model::WallFault::NotFinite:
+            cannot(WallText::tr("a colour of the target has no chromaticity."));
+            break;
+        case Model::WallFault::NearlySingular:
+            cannot(WallText::tr("the primaries of the target lie too close to a line."));
+            break;
+        case Model::WallFault::WhiteOutside:
+            cannot(WallText::tr("the white of the target is not a mixture of its primaries."));
+            break;
+        case Model::WallFault::NoLuminance:
+            cannot(WallText::tr("no cabinet reaches the white of the target."));
+            break;
+        }
+    }
+
+    QString largestText(const Model::WallWhite &white) const
+    {
+        if (!m_result.cabinets[white.cabinet].isAdditive) {
+            return WallText::tr("%1 (%2 is the limit)", "luminance, cabinet")
+                .arg(reachableText(white.luminance, m_wall.unit), cabinetName(m_wall, white.cabinet));
+        }
+        return WallText::tr("%1 (%2 is the limit, with %3 at full drive)", "luminance, cabinet, primary")
+            .arg(reachableText(white.luminance, m_wall.unit), cabinetName(m_wall, white.cabinet),
+                gamutVertexName(vertexOf(white.limit)));
+    }
+
+    //! What those reach that do not fail.
+    void describeWhite(std::size_t failing)
+    {
+        const auto white
+            = largestWhiteOf([](const CabinetAssessment &cabinet) { return cabinet.judgement != Judgement::Fail; });
+        if (!white) {
+            return;
+        }
+        const bool isKnownOfAll
+            = m_wall.incomplete.empty() && std::all_of(m_counted.begin(), m_counted.end(), [this](std::size_t i) {
+                  const CabinetAssessment &cabinet = m_result.cabinets[i];
+                  return cabinet.judgement == Judgement::Fail || cabinet.largestWhite;
+              });
+        const QString reached = largestText(*white);
+        const QString text = failing > 0 && isKnownOfAll ? WallText::tr("All others reach a white of %1.").arg(reached)
+            : failing > 0   ? WallText::tr("All others of which it is known reach a white of %1.").arg(reached)
+            : !isKnownOfAll ? WallText::tr("All of which it is known reach a white of %1.").arg(reached)
+                            : WallText::tr("All reach a white of %1.").arg(reached);
+        const bool isGround = failing == 0 && m_result.judgement == Judgement::Pass;
+        add(isGround ? std::make_optional(Judgement::Pass) : std::nullopt, text, white->cabinet);
+        if (!hasLuminance() && m_result.correction.fault == Model::WallFault::None) {
+            add(std::nullopt,
+                WallText::tr("The corrections are for a white of %1.")
+                    .arg(reachableText(m_result.correction.target.white.Y, m_wall.unit)));
+        }
+    }
+
+    void describeWays(const std::vector<std::size_t> &failing, const std::vector<std::size_t> &unknown)
+    {
+        if (!failing.empty()) {
+            const QString problem = fitProblem(m_wall, m_result);
+            const auto fitted = fittedToWall(m_target, m_result);
+            if (fitted) {
+                add(std::nullopt,
+                    WallText::tr("Fitted to the wall, the target keeps %1 of its area in u′, v′ and has a white of %2.")
+                        .arg(percent(m_result.fit.costUv.coverage),
+                            m_result.luminancesCompare ? reachableText(fitted->white.Y, m_target.unit)
+                                                       : luminanceText(fitted->white.Y, m_target.unit)));
+            } else if (!problem.isEmpty() && m_result.common.shape == Model::CommonShape::Area) {
+                add(std::nullopt, problem);
+            }
+        }
+        if (!failing.empty() && failing.size() <= namedCabinets && unknown.empty() && m_wall.incomplete.empty()
+            && failing.size() < m_counted.size()) {
+            add(std::nullopt, WallText::tr("Without %1, all show the target.").arg(namesOf(m_wall, failing)));
+        }
+        if (!m_leftOut.empty() && m_leftOut.size() <= describedCabinets) {
+            add(std::nullopt,
+                WallText::tr("Left out of this verdict: %1.", "names of cabinets").arg(namesOf(m_wall, m_leftOut)));
+        } else if (!m_leftOut.empty()) {
+            add(std::nullopt, WallText::tr("Left out of this verdict: %1 cabinets.").arg(m_leftOut.size()));
+        }
+    }
+
+    //! \a unknown counts those that were measured incompletely as well.
+    void headline(const std::vector<std::size_t> &failing, std::size_t unknown)
+    {
+        const int all = int(m_counted.size() + m_wall.incomplete.size());
+        const int fails = int(failing.size());
+        QString &text = m_result.headline;
+        if (m_wall.cabinets.size() == 1 && m_counted.size() == 1 && all == 1) {
+            const QString name = cabinetName(m_wall, 0);
+            text = fails > 0  ? WallText::tr("The cabinet %1 does not show this target").arg(name)
+                : unknown > 0 ? WallText::tr("Not known whether the cabinet %1 shows this target").arg(name)
+                              : WallText::tr("The cabinet %1 shows this target").arg(name);
+        } else if (all == 0) {
+            text = WallText::tr("Nothing is judged: all cabinets are left out");
+        } else if (fails == 0 && unknown > 0) {
+            text = int(unknown) == all ? WallText::tr("Not known whether the cabinets show this target")
+                                       : WallText::tr("%1 of %2 cabinets show this target; of %3 it is not known")
+                                             .arg(all - int(unknown))
+                                             .arg(all)
+                                             .arg(unknown);
+        } else if (fails == 0) {
+            const int leftOut = int(m_leftOut.size());
+            text = leftOut == 0 ? WallText::tr("All %1 cabinets show this target").arg(all)
+                : leftOut == 1  ? WallText::tr("%1 cabinets show this target; one is left out").arg(all)
+                                : WallText::tr("%1 cabinets show this target; %2 are left out").arg(all).arg(leftOut);
+        } else if (fails == all) {
+            text = WallText::tr("None of the %1 cabinets shows this target").arg(all);
+        } else if (fails + int(unknown) == all) {
+            text = WallText::tr("%1 of %2 cabinets do not show this target; of the others it is not known")
+                       .arg(fails)
+                       .arg(all);
+        } else {
+            const QString shows = WallText::tr("%1 of %2 cabinets show this target", "count that do, and of all")
+                                      .arg(all - fails - int(unknown))
+                                      .arg(all);
+            const QString others = fails == 1
+                ? WallText::tr("%1 does not", "name of a cabinet").arg(cabinetName(m_wall, failing.front()))
+                : fails <= namedCabinets ? WallText::tr("%1 do not", "names of cabinets").arg(namesOf(m_wall, failing))
+                                         : WallText::tr("%1 and %2 others do not", "name of a cabinet and how many")
+                                               .arg(cabinetName(m_wall, failing.front()))
+                                               .arg(fails - 1);
+            text = WallText::tr("%1; %2", "how many cabinets show a target, and which do not").arg(shows, others);
+            if (unknown > 0) {
+                text = WallText::tr("%1; of %2 it is not known", "which cabinets show a target").arg(text).arg(unknown);
+            }
+        }
+    }
+
+    const DisplayWall &m_wall;
+    const DisplayGamut &m_target;
+    WallAssessment &m_result;
+    std::vector<std::size_t> m_counted; // all that are not left out
+    std::vector<std::size_t> m_leftOut;
+};
+
+} // namespace
+
+void describeWall(const DisplayWall &wall, const DisplayGamut &target, WallAssessment &assessment)
+{
+    WallDescriber(wall, target, assessment).describe();
+}
+
+} // namespace gamutviewer

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTVIEWER_WALLDESCRIBER_H
+#define GAMUTVIEWER_WALLDESCRIBER_H
+
+#include "display/wallassessment.h"
+
+namespace gamutviewer {
+
+/*! \brief Sets the headline and the lines of \a assessment, which has all else. */
+void describeWall(const DisplayWall &wall, const DisplayGamut &target, WallAssessment &assessment);
+
+} // namespace gamutviewer
+
+#endif
