@@ -15,7 +15,7 @@ namespace {
 
 using namespace gamutviewer;
 
-DisplayWall wallOf(int columns, int rows)
+DisplayWall wallOf(int columns, int rows, bool hasBlacks = false)
 {
     std::mt19937 random(14);
     std::normal_distribution<double> xy(0.0, 0.003);
@@ -33,6 +33,10 @@ DisplayWall wallOf(int columns, int rows)
             cabinet.red = color(240, 0.700, 0.299);
             cabinet.green = color(634, 0.189, 0.718);
             cabinet.blue = color(126, 0.133, 0.075);
+            if (hasBlacks) {
+                cabinet.black = color(0.4, 0.30, 0.31);
+                cabinet.white = color(1000, 0.2829, 0.2971);
+            }
             wall.cabinets.push_back(cabinet);
         }
     }
@@ -56,6 +60,20 @@ void assess(benchmark::State &state)
     }
 }
 
+//! With all that can be measured, and a target that not all show: what takes longest
+void assessBlacks(benchmark::State &state)
+{
+    const DisplayWall wall = wallOf(int(state.range(0)), int(state.range(1)), true);
+    Model::Targets wide = Model::dciP3D65().getTargets();
+    for (Model::Target *color : {&wide.red, &wide.green, &wide.blue, &wide.white}) {
+        *color = Model::Target::fromYxy(color->Y * 700.0, color->x, color->y);
+    }
+    const DisplayGamut exacting(Model::ColorGamut("target", wide), LuminanceUnit::CandelaPerSquareMetre);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(assessWall(wall, exacting));
+    }
+}
+
 void paint(benchmark::State &state)
 {
     WallPicture picture{wallOf(int(state.range(0)), int(state.range(1))), nullptr, WallQuantity::Headroom};
@@ -68,6 +86,7 @@ void paint(benchmark::State &state)
 }
 
 BENCHMARK(assess)->Args({12, 8})->Args({40, 25})->Args({100, 100})->Unit(benchmark::kMillisecond);
+BENCHMARK(assessBlacks)->Args({12, 8})->Args({40, 25})->Args({100, 100})->Unit(benchmark::kMillisecond);
 BENCHMARK(paint)->Args({12, 8})->Args({40, 25})->Args({100, 100})->Unit(benchmark::kMillisecond);
 
 } // namespace

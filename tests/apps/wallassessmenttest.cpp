@@ -551,6 +551,11 @@ void WallAssessmentTest::blackThatKeepsACabinetOff()
         qPrintable(line));
     QVERIFY(line.contains(QStringLiteral("measure the black without stray light")));
     QVERIFY2(textOf(found).contains(QStringLiteral("- Without A5, all show the target.")), qPrintable(textOf(found)));
+    const QJsonArray reported = wallReport(wall, &found).value(QStringLiteral("cabinets")).toArray();
+    const auto blackOf
+        = [&](int i) { return reported.at(i).toObject().value(QStringLiteral("offByBlack")).toObject(); };
+    QCOMPARE(blackOf(4).value(QStringLiteral("red")).toDouble(), cabinet.offByBlack[std::size_t(Vertex::Red)]);
+    QVERIFY(!blackOf(4).contains(QStringLiteral("white")) && blackOf(3).isEmpty());
     const auto fitted = fittedToWall(target, found);
     QVERIFY(fitted);
     QCOMPARE(fitted->white.Y, 500.0);

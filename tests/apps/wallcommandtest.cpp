@@ -49,6 +49,7 @@ private Q_SLOTS:
     void refused();
     void cannotWrite();
     void documentedCommandsWork();
+    void simulatedWallIsHonest();
 
 private:
     QByteArray read(const char *name) const;
@@ -580,6 +581,22 @@ void WallCommandTest::documentedCommandsWork()
         QVERIFY2(result.exitCode == (mayFail ? 3 : 0), result.error + arguments.join(' ').toUtf8());
     }
     QVERIFY(commands >= 3);
+}
+
+void WallCommandTest::simulatedWallIsHonest()
+{
+    QVERIFY(QFile::copy(sample, path("simulated-wall.csv")));
+    const Result result = run({"--wall", "simulated-wall.csv", "--target", "DCI-P3(D65)", "--fit", "--report", "json",
+        "--corrections", "c.csv"});
+    QVERIFY2(!result.error.contains("exchanged") && !result.error.contains("differ from the target"), result.error);
+    const QJsonObject wall = QJsonDocument::fromJson(result.output).object().value("wall").toObject();
+    QCOMPARE(wall.value("status").toString(), QStringLiteral("pass"));
+    const QJsonArray lines = wall.value("lines").toArray();
+    QVERIFY(!lines.isEmpty());
+    for (const QJsonValue &line : lines) {
+        QVERIFY(!line.toObject().value("warning").toBool());
+    }
+    QVERIFY(wall.value("incomplete").toArray().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(WallCommandTest)

@@ -104,6 +104,19 @@ QJsonValue matrixValue(const std::optional<Model::CorrectionMatrix> &matrix)
     return rows;
 }
 
+QJsonObject offByBlackObject(const CabinetAssessment &assessment)
+{
+    QJsonObject object;
+    for (const ceiechart::GamutVertex vertex : ceiechart::allGamutVertices) {
+        const double distance = assessment.offByBlack[std::size_t(vertex)];
+        if (distance > 0.0) {
+            // What is infinite is not known, and null in a file.
+            object.insert(colorName(vertex), distance);
+        }
+    }
+    return object;
+}
+
 void insertAssessment(QJsonObject &object, const DisplayWall &wall, const CabinetAssessment &assessment)
 {
     const auto neighbor = [&wall](const std::optional<NeighborDifference> &of) {
@@ -116,6 +129,7 @@ void insertAssessment(QJsonObject &object, const DisplayWall &wall, const Cabine
     object.insert(QStringLiteral("luminance"), judgementName(assessment.luminance));
     object.insert(QStringLiteral("limit"),
         assessment.limit ? QJsonValue(colorName(*assessment.limit)) : QJsonValue(QJsonValue::Null));
+    object.insert(QStringLiteral("offByBlack"), offByBlackObject(assessment));
     object.insert(QStringLiteral("largestWhite"), numberOrNull(assessment.largestWhite));
     object.insert(QStringLiteral("headroom"), numberOrNull(assessment.headroom));
     object.insert(QStringLiteral("additive"), assessment.isAdditive);

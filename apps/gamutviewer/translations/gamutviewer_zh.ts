@@ -2350,6 +2350,58 @@ Ctrl+1 到 Ctrl+4 – 显示页面</translation>
         <source>The target cannot be fitted: too little of it would be left.</source>
         <translation>目标无法适配：所剩过少。</translation>
     </message>
+    <message>
+        <source>white reaches %1 only, of %2</source>
+        <translation>白色仅达 %1，目标为 %2</translation>
+    </message>
+    <message>
+        <source>the white is %1, the primaries add to %2: what it shows with its correction cannot be worked out</source>
+        <translation>白色为 %1，基色相加为 %2：无法算出其校正后显示的颜色</translation>
+    </message>
+    <message>
+        <source>%1 by Δu′v′ %2</source>
+        <comment>colour and distance</comment>
+        <translation>%1相差 Δu′v′ %2</translation>
+    </message>
+    <message>
+        <source>red, green and blue seem to be exchanged</source>
+        <translation>红、绿、蓝似乎互换了</translation>
+    </message>
+    <message>
+        <source>red and green seem to be exchanged</source>
+        <translation>红与绿似乎互换了</translation>
+    </message>
+    <message>
+        <source>green and blue seem to be exchanged</source>
+        <translation>绿与蓝似乎互换了</translation>
+    </message>
+    <message>
+        <source>red and blue seem to be exchanged</source>
+        <translation>红与蓝似乎互换了</translation>
+    </message>
+    <message>
+        <source>the black is too bright, and keeps it off %1: raise the white of the target, fit the target to the wall, or measure the black without stray light</source>
+        <comment>colours and distances</comment>
+        <translation>黑场过亮，使其偏离目标（%1）：请提高目标白点的亮度、将目标适配到墙，或在没有杂散光时测量黑场</translation>
+    </message>
+    <message>
+        <source>%1 and %2 others</source>
+        <comment>name of a cabinet and how many</comment>
+        <translation>%1 和另外 %2 个</translation>
+    </message>
+    <message>
+        <source>Check the measurement: a correction drives the primaries as they are named.</source>
+        <translation>请检查测量：校正按基色的名称驱动基色。</translation>
+    </message>
+    <message>
+        <source>The target cannot be fitted: its white is too dark over the black of %1. Raise the luminance of the white, or measure the black again without stray light.</source>
+        <translation>目标无法适配：与 %1 的黑场相比，其白点过暗。请提高白点的亮度，或在没有杂散光时重新测量黑场。</translation>
+    </message>
+    <message>
+        <source>%1 (%2 is the limit)</source>
+        <comment>luminance, cabinet</comment>
+        <translation>%1（受限于 %2）</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallCommand</name>
@@ -2473,6 +2525,14 @@ Ctrl+1 到 Ctrl+4 – 显示页面</translation>
         <source>%1 (%2)</source>
         <comment>cabinet, and why nothing is known of it</comment>
         <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>the corrections are for a white of %1, the largest that all cabinets reach of which it is known, as the luminance of the target cannot be compared with theirs</source>
+        <translation>校正针对 %1 的白色，即所有已知的箱体都能达到的最大值，因为目标的亮度无法与它们比较</translation>
+    </message>
+    <message>
+        <source>the luminance of the target is relative; its white is taken at %1, the largest that all cabinets reach of which it is known</source>
+        <translation>目标的亮度是相对的；其白色取 %1，即所有已知的箱体都能达到的最大值</translation>
     </message>
 </context>
 <context>
