@@ -26,10 +26,11 @@ Points pointsOf(const Targets &targets)
     return {point(targets.red), point(targets.green), point(targets.blue)};
 }
 
-/*! \brief Whether primaries at \a distances (of the first index from what the second is) are what \a seeming says. */
+/*! \brief Whether primaries at the squares of \a distances (of the first index from what the second is) are what \a
+ * seeming says. */
 bool agrees(const std::array<std::array<double, 3>, 3> &distances, const SeemingPrimaries &seeming)
 {
-    constexpr double clearly = 0.5;
+    constexpr double clearly = 0.5 * 0.5; // of squares
     for (const Primary primary : allPrimaries) {
         const auto &of = distances[std::size_t(primary)];
         const double fromName = of[std::size_t(primary)];
@@ -55,7 +56,8 @@ std::optional<SeemingPrimaries> exchangedPrimaries(const Targets &display)
     std::array<std::array<double, 3>, 3> distances{};
     for (std::size_t i = 0; i < 3; ++i) {
         for (std::size_t k = 0; k < 3; ++k) {
-            distances[i][k] = length(points[i] - named[k]);
+            const DiagramPoint way = points[i] - named[k];
+            distances[i][k] = dot(way, way);
         }
     }
     for (const SeemingPrimaries &seeming : exchanges) {

@@ -61,10 +61,16 @@ public:
     /*! \brief The target for a cabinet with \a black, which is counted once for each primary and once in the white. */
     Targets over(const std::optional<Target> &black) const
     {
-        const Drive ofBlack = black ? m_solution.driveOf(*black).value_or(Drive()) : Drive();
-        return {withLuminance(m_target.red, m_luminances.red + 2.0 * ofBlack.red),
-            withLuminance(m_target.green, m_luminances.green + 2.0 * ofBlack.green),
-            withLuminance(m_target.blue, m_luminances.blue + 2.0 * ofBlack.blue), m_target.white};
+        const Drive of = black ? luminancesOver(*black) : m_luminances;
+        return {withLuminance(m_target.red, of.red), withLuminance(m_target.green, of.green),
+            withLuminance(m_target.blue, of.blue), m_target.white};
+    }
+    /*! \brief The luminances of its primaries. */
+    Drive luminancesOver(const Target &black) const
+    {
+        const Drive ofBlack = m_solution.driveOf(black).value_or(Drive());
+        return {m_luminances.red + 2.0 * ofBlack.red, m_luminances.green + 2.0 * ofBlack.green,
+            m_luminances.blue + 2.0 * ofBlack.blue};
     }
 
 private:

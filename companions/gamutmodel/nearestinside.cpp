@@ -164,7 +164,8 @@ std::optional<double> uvDifference(const Target &a, const Target &b)
     if (!hasUv(xyOfA) || !hasUv(xyOfB) || isDark(xyOfA) || isDark(xyOfB)) {
         return std::nullopt;
     }
-    return length(toUv(xyOfA) - toUv(xyOfB));
+    const DiagramPoint way = toUv(xyOfA) - toUv(xyOfB);
+    return std::sqrt(dot(way, way)); // u', v' are neither so large nor so small that it takes std::hypot()
 }
 
 std::optional<DiagramPoint> nearestPoint(const Targets &gamut, DiagramPoint xy, Diagram diagram)

@@ -20,6 +20,16 @@ DiagramPoint xyOf(const Target &color)
     return {color.x, color.y};
 }
 
+/*! \brief What DisplayDrive reads of a colour. */
+Target light(double Y, const DiagramPoint &xy)
+{
+    Target color;
+    color.Y = Y;
+    color.x = xy.x;
+    color.y = xy.y;
+    return color;
+}
+
 double lowest(const Drive &drive)
 {
     return std::min({drive.red, drive.green, drive.blue});
@@ -98,13 +108,16 @@ private:
         return primary == Primary::Red ? targets.red : primary == Primary::Green ? targets.green : targets.blue;
     }
 
+    std::array<DiagramPoint, 3> currentPoints() const
+    {
+        const auto &[red, green, blue] = m_result.shares;
+        return {pointAt(Primary::Red, red), pointAt(Primary::Green, green), pointAt(Primary::Blue, blue)};
+    }
+
     Mixture mixture() const
     {
-        const auto at = [this](Primary primary) {
-            const DiagramPoint point = pointAt(primary, m_result.shares[std::size_t(primary)]);
-            return Target::fromYxy(1.0, point.x, point.y);
-        };
-        Mixture result({at(Primary::Red), at(Primary::Green), at(Primary::Blue), m_target.white});
+        const auto [red, green, blue] = currentPoints();
+        Mixture result({light(1.0, red), light(1.0, green), light(1.0, blue), m_target.white});
         result.setLuminance(m_target.white.Y);
         return result;
     }
@@ -113,13 +126,14 @@ private:
     std::vector<const Glowing *> worstBelowZero() const
     {
         const Mixture current = mixture();
+        const std::array<DiagramPoint, 3> points = currentPoints();
         std::array<double, 3> least{-driveRounding, -driveRounding, -driveRounding};
         std::array<const Glowing *, 3> worst{};
         for (const Glowing &of : m_glowing) {
-            const Targets wanted = current.over(of.black);
+            const Drive luminances = current.luminancesOver(of.black);
             for (const Primary primary : allPrimaries) {
-                const auto drive = of.drive.driveOf(color(wanted, primary));
                 const std::size_t i = std::size_t(primary);
+                const auto drive = of.drive.driveOf(light(luminances.of(primary), points[i]));
                 if (drive && lowest(*drive) < least[i]) {
                     least[i] = lowest(*drive);
                     worst[i] = &of;
@@ -131,13 +145,14 @@ private:
         return found;
     }
 
-    //! How far \a primary can lie from the white for a cabinet that needs \a wanted of it at its present place.
-    std::optional<double> shareFor(const Glowing &of, Primary primary, const Target &wanted) const
+    //! How far \a primary can lie from the white for a cabinet that needs \a luminance of it at \a present.
+    std::optional<double> shareFor(
+        const Glowing &of, Primary primary, double luminance, const DiagramPoint &present) const
     {
-        const double sum = wanted.Y / wanted.y; // X + Y + Z, which stays where x and y change
+        const double sum = luminance / present.y; // X + Y + Z, which stays where x and y change
         const auto at = [&](double share) {
             const DiagramPoint point = pointAt(primary, share);
-            return of.drive.driveOf(Target::fromYxy(sum * point.y, point.x, point.y));
+            return of.drive.driveOf(light(sum * point.y, point));
         };
         const auto ofWhite = at(0.0);
         const auto ofPrimary = at(1.0);
@@ -159,14 +174,15 @@ private:
         m_result.shares = {1.0, 1.0, 1.0};
         for (int step = 0; step < mostSteps; ++step) {
             const Mixture current = mixture();
+            const std::array<DiagramPoint, 3> points = currentPoints();
             SharesOverBlack next;
             for (const Glowing *of : deciding) {
-                const Targets wanted = current.over(of->black);
+                const Drive luminances = current.luminancesOver(of->black);
                 for (const Primary primary : allPrimaries) {
                     const std::size_t i = std::size_t(primary);
                     // A primary that is too dark where it lies gets brighter nearer to the white.
                     const double share
-                        = shareFor(*of, primary, color(wanted, primary)).value_or(m_result.shares[i] / 2.0);
+                        = shareFor(*of, primary, luminances.of(primary), points[i]).value_or(m_result.shares[i] / 2.0);
                     if (share < next.shares[i]) {
                         next.shares[i] = share;
                         next.limits[i] = of->cabinet;

@@ -39,14 +39,14 @@ void assessTheWall(const DisplayDescription &description, Assessment &result)
     const auto add = [&result](Judgement judgement, const QString &text) {
         result.lines.append({AssessmentLine::Subject::Wall, judgement, text, std::nullopt, QString(), std::nullopt});
     };
-    const WallAssessment wall = assessWall(description.wall, *target);
-    add(wall.judgement, AssessmentText::tr("%1.", "a sentence").arg(wall.headline));
-    for (const WallLine &line : wall.lines) {
+    const auto wall = std::make_shared<const WallAssessment>(assessWall(description.wall, *target));
+    add(wall->judgement, AssessmentText::tr("%1.", "a sentence").arg(wall->headline));
+    for (const WallLine &line : wall->lines) {
         if (line.judgement) {
             add(*line.judgement, line.text);
         }
     }
-    result.wall = std::make_shared<const WallAssessment>(wall);
+    result.wall = wall;
 }
 
 } // namespace

@@ -212,7 +212,7 @@ public:
         compareNeighbors();
         findCommonGamut();
         sort();
-        return m_result;
+        return std::move(m_result);
     }
 
 private:
@@ -377,13 +377,20 @@ private:
     void findCommonGamut()
     {
         std::vector<std::size_t> known;
-        std::vector<Model::Cabinet> cabinets;
+        known.reserve(m_counted.size());
         for (const std::size_t i : m_counted) {
             if (isGamutKnown(m_result.correction.corrections[i].fault, m_cabinets[i].colors)) {
                 known.push_back(i);
-                cabinets.push_back(m_cabinets[i]);
             }
         }
+        std::vector<Model::Cabinet> some; // if not all, which are many to copy
+        if (known.size() < m_cabinets.size()) {
+            some.reserve(known.size());
+            for (const std::size_t i : known) {
+                some.push_back(m_cabinets[i]);
+            }
+        }
+        const std::vector<Model::Cabinet> &cabinets = known.size() < m_cabinets.size() ? some : m_cabinets;
         Model::CommonGamut &common = m_result.common;
         common = Model::commonGamut(cabinets);
         m_result.fit = fitted(cabinets);
