@@ -292,6 +292,9 @@ void WallCommandTest::exitStatusTellsTheVerdict_data()
     QTest::newRow("bright black") << targetText(500.0)
                                   << QByteArray(wallList) + "A1,1,1,black,0.31,0.33,60\nA2,1,2,black,0.31,0.33,60\n"
                                   << 3 << QByteArray("fail: A1: the black is too bright, and keeps it off ");
+    QTest::newRow("incomplete") << targetText(500.0) << QByteArray(wallList) + "A3,1,3,red,0.70,0.29,240\n"
+                                << 4
+                                << QByteArray("not known: 2 of 3 cabinets show this target; of 1 it is not known.");
     QTest::newRow("no target") << QByteArray(R"({"version": 1, "gamuts": []})") << wallList << 4
                                << QByteArray("not known: What the display is to show is not known");
 }
