@@ -46,15 +46,15 @@ QPointF inDiagram(const DiagramView &view, const QPointF &xy)
     return QPointF(point.x, point.y);
 }
 
-//! Whether a user could do with the view what an action does.
-bool takesHands(const DiagramView &view)
+//! Whether a user could do with the view what an action of an accessibility client does.
+bool isUsable(const DiagramView &view)
 {
     return view.isEnabled() && view.isVisible();
 }
 
 void moveTo(DiagramView &view, GamutVertex vertex, const QPointF &point)
 {
-    if (!takesHands(view)) {
+    if (!isUsable(view)) {
         return;
     }
     const Model::DiagramPoint xy = Model::fromDiagram(view.diagram(), {point.x(), point.y()});
@@ -233,10 +233,10 @@ public:
         if (name == increaseAction() || name == decreaseAction()) {
             setCurrentValue(currentValue().toDouble() + (name == increaseAction() ? step : -step));
         } else if (name == setFocusAction() || name == pressAction()) {
-            if (takesHands(view())) {
+            if (isUsable(view())) {
                 view().setSelectedVertex(m_vertex);
             }
-            if (isValid() && takesHands(view())) {
+            if (isValid() && isUsable(view())) {
                 view().setFocus(Qt::OtherFocusReason);
             }
         }

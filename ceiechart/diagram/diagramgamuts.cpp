@@ -123,12 +123,7 @@ DiagramStep DiagramGamuts::takeEdited(const DiagramStep &scale)
 
 bool DiagramGamuts::areEqual(size_t i, size_t k) const
 {
-    const QPolygonF &a = m_shown[i].corners;
-    const QPolygonF &b = m_shown[k].corners;
-    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(), [](const QPointF &p, const QPointF &q) {
-        const QPointF way = p - q;
-        return QPointF::dotProduct(way, way) < equalWithin * equalWithin;
-    });
+    return isSameTriangle(m_shown[i].corners, m_shown[k].corners, equalWithin);
 }
 
 bool DiagramGamuts::isDrawn(size_t i, bool targetsToo) const

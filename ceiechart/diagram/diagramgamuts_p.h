@@ -42,7 +42,7 @@ private:
         QPolygonF curve;
     };
 
-    // Outlines and areas, in diagramgamuts.cpp
+    // Outlines and areas
     //! Whether the outlines number \a i and \a k fall on one another.
     bool areEqual(size_t i, size_t k) const;
     bool isDrawn(size_t i, bool targetsToo) const;
@@ -58,7 +58,7 @@ private:
     void drawCommonArea();
     void drawLostArea();
 
-    // Points and curves, in diagrammarks.cpp
+    // Points and curves
     bool isSeen(const QPointF &at, double radius) const;
     static QRectF around(const QPointF &at, double reach);
     QPointF whiteOf(const Shown &gamut) const;
@@ -70,7 +70,7 @@ private:
     void drawTrail();
     void drawWhites();
 
-    // Texts, in diagramnames.cpp
+    // Texts
     //! What the handles of a target may cover.
     QVector<QRectF> handles() const;
     void placeWavelengths(const QVector<PendingNumber> &wavelengths);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/diagramhands_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
+#include <ceiechart/diagram/polylines_p.h>
 
 #include <QGuiApplication>
 
@@ -21,7 +22,7 @@ std::optional<GamutVertex> DiagramView::Private::handleAt(const QPointF &positio
     double least = handleReach;
     // From the top: of two at the same place, the one that is seen is hit.
     for (auto handle = overlay.handles.crbegin(); handle != overlay.handles.crend(); ++handle) {
-        const double away = distance(handle->at, position);
+        const double away = length(handle->at - position);
         if (away < least || (!nearest && away <= least)) {
             least = away;
             nearest = handle->vertex;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/diagramhands_p.h>
+#include <ceiechart/diagram/polylines_p.h>
 
 #include <algorithm>
 
@@ -7,7 +8,7 @@ namespace ceiechart {
 
 namespace {
 
-constexpr double catchingUp = 2.0; // pixels to each that the hand goes in the direction of what is owed
+constexpr double catchUpRate = 2.0; // extra pixels for each that the pointer moves in the first direction
 
 } // namespace
 
@@ -16,22 +17,22 @@ QPointF Grip::moveTo(const QPointF &position)
     QPointF way = position - m_position;
     m_position = position;
     if (!m_isMoving) {
-        const double away = distance(position, m_pressed);
+        const double away = length(position - m_pressed);
         if (!(away > m_threshold)) {
             return QPointF();
         }
         m_isMoving = true;
         way = position - m_pressed;
-        m_owed = way * (m_threshold / away);
-        way -= m_owed;
+        m_behind = way * (m_threshold / away);
+        way -= m_behind;
     }
-    const double owed = distance(m_owed, QPointF());
-    if (owed > 0.0) {
-        // Only as the hand goes on that way: when it turns back, what it holds must not go against it.
-        const double onward = std::max(0.0, QPointF::dotProduct(way, m_owed) / owed);
-        const QPointF paid = m_owed * std::min(1.0, catchingUp * onward / owed);
-        m_owed -= paid;
-        way += paid;
+    const double behind = length(m_behind);
+    if (behind > 0.0) {
+        // Only as the pointer goes on that way: when it turns back, nothing may move against it.
+        const double onward = std::max(0.0, QPointF::dotProduct(way, m_behind) / behind);
+        const QPointF extra = m_behind * std::min(1.0, catchUpRate * onward / behind);
+        m_behind -= extra;
+        way += extra;
     }
     return way;
 }

@@ -25,11 +25,6 @@ QPointF positionOf(const Event &event)
 #endif
 }
 
-inline double distance(const QPointF &a, const QPointF &b)
-{
-    return std::hypot(a.x() - b.x(), a.y() - b.y());
-}
-
 //! From \a point to the nearest point of \a place; 0 within it.
 inline double distanceTo(const QRectF &place, const QPointF &point)
 {
@@ -39,12 +34,12 @@ inline double distanceTo(const QRectF &place, const QPointF &point)
 }
 
 /*!
- * The way of a hand that has taken hold of something.
+ * Turns the movement of a pointer that was pressed into the movement of what is dragged.
  *
- * No hand is quite still: nothing moves before it is farther than a threshold from where it pressed. Then what is held
- * sets out from its place and goes faster than the hand, as long as that goes on in the direction in which it set out,
- * until it has made up for the threshold. It never jumps, it never goes against the hand, and the hand soon has it
- * again where it took hold of it.
+ * A pointer is never quite still, so nothing moves until it is farther than a threshold from where it was pressed. From
+ * there on the dragged thing starts at its own place and moves faster than the pointer, as long as the pointer goes on
+ * in its first direction, until it has caught up. It never jumps and never moves against the pointer, and soon the
+ * pointer is again at the point of it that was pressed.
  */
 class Grip {
 public:
@@ -57,11 +52,11 @@ public:
     {
     }
 
-    //! The hand goes on to \a position: the way of what is held.
+    //! Takes the pointer's new \a position, and returns by how much the dragged thing moves.
     QPointF moveTo(const QPointF &position);
-    //! Whether the hand has gone beyond the threshold, now or before.
+    //! Whether the pointer has been beyond the threshold.
     bool isMoving() const { return m_isMoving; }
-    //! Where the hand is.
+    //! Where the pointer is.
     QPointF position() const { return m_position; }
 
 private:
@@ -69,7 +64,7 @@ private:
     QPointF m_position;
     double m_threshold = 0.0;
     bool m_isMoving = false;
-    QPointF m_owed; // of the threshold, what is still to be made up for
+    QPointF m_behind; // from the dragged thing to where it would be without a threshold
 };
 
 } // namespace ceiechart

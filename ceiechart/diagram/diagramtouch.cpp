@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/diagramhands_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
+#include <ceiechart/diagram/polylines_p.h>
 
 #include <QGestureEvent>
 #include <QGuiApplication>
@@ -69,7 +70,7 @@ bool DiagramView::Private::touch(QTouchEvent *event)
         const QPointF formerMiddle = pinchMiddle;
         const double formerLength = pinchLength;
         pinchMiddle = (first->at + second->at) / 2.0;
-        pinchLength = std::max(1.0, distance(first->at, second->at));
+        pinchLength = std::max(1.0, length(first->at - second->at));
         if (goesOn) {
             const QPointF middle = pinchMiddle;
             const double factor = pinchLength / formerLength;
@@ -93,7 +94,7 @@ bool DiagramView::Private::touch(QTouchEvent *event)
         if (view) {
             tap.isSecond = tap.since.isValid()
                 && tap.since.elapsed() < QGuiApplication::styleHints()->mouseDoubleClickInterval()
-                && distance(fingers[0].at, tap.at) <= handleReach;
+                && length(fingers[0].at - tap.at) <= handleReach;
             press(fingers[0].at, Qt::LeftButton);
         }
     } else if (!pinching && fingers.size() == 1) {

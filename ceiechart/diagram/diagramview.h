@@ -154,7 +154,7 @@ public:
     /*!
      * \brief Replaces the target, which is what is edited; a target that was switched off stays so.
      *
-     * While it is being dragged, what is in the hand stays there, and the rest is that of \a gamut.
+     * During a drag the handle that is dragged stays where it is, and the others become those of \a gamut.
      */
     void setTarget(const Model::ColorGamut &gamut);
     void setOriginal(const Model::ColorGamut &gamut); //!< What the display can show.

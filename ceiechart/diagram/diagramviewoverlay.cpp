@@ -3,6 +3,7 @@
 #include <ceiechart/diagram/diagramhands_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
 #include <ceiechart/diagram/finite_p.h>
+#include <ceiechart/diagram/polylines_p.h>
 
 #include <algorithm>
 #include <cmath>
@@ -21,12 +22,12 @@ void addBoxesAlong(QVector<QRectF> &boxes, const QPointF &from, const QPointF &t
 {
     constexpr double side = 8.0;
     constexpr int most = 1000; // of the whole line, which may lead far beyond what is seen
-    const double length = std::hypot(to.x() - from.x(), to.y() - from.y());
-    if (!(length > 0.0) || !std::isfinite(length)) {
+    const double whole = length(to - from);
+    if (!(whole > 0.0) || !std::isfinite(whole)) {
         return;
     }
-    const QPointF step = (to - from) * (side / length);
-    const int count = int(std::min(double(most), length / side));
+    const QPointF step = (to - from) * (side / whole);
+    const int count = int(std::min(double(most), whole / side));
     for (int i = 0; i <= count; ++i) {
         const QPointF at = from + step * i;
         boxes.append(QRectF(at.x() - side / 2.0, at.y() - side / 2.0, side, side));

@@ -3,6 +3,7 @@
 #include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
 #include <ceiechart/diagram/finite_p.h>
+#include <ceiechart/diagram/polylines_p.h>
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -154,14 +155,7 @@ bool DiagramView::Private::meetsAnother(const Model::Targets &targets) const
         if (gamut.role == GamutRole::Target) {
             return false;
         }
-        const QPolygonF other = viewport.outline(gamut.gamut.getTargets());
-        for (int i = 0; i < line.size() && i < other.size(); ++i) {
-            const QPointF away = line[i] - other[i];
-            if (!(std::hypot(away.x(), away.y()) < markRoom)) {
-                return false;
-            }
-        }
-        return true;
+        return isSameTriangle(line, viewport.outline(gamut.gamut.getTargets()), markRoom);
     });
 }
 

@@ -2,6 +2,7 @@
 #include <ceiechart/diagram/polylines_p.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace ceiechart {
@@ -163,6 +164,22 @@ std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std:
         dashes.pop_back(); // it would begin where the line ends
     }
     return dashes;
+}
+
+bool isSameTriangle(const QPolygonF &a, const QPolygonF &b, double within)
+{
+    std::array<int, 3> order{0, 1, 2};
+    if (a.size() != int(order.size()) || b.size() != a.size()) {
+        return false;
+    }
+    do {
+        const bool isSame = std::equal(
+            a.cbegin(), a.cend(), order.begin(), [&](const QPointF &p, int k) { return length(p - b.at(k)) < within; });
+        if (isSame) {
+            return true;
+        }
+    } while (std::next_permutation(order.begin(), order.end()));
+    return false;
 }
 
 } // namespace ceiechart

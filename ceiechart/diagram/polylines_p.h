@@ -36,6 +36,14 @@ inline QPolygonF diamondAt(const QPointF &at, double radius)
         {at - QPointF(0.0, radius), at + QPointF(radius, 0.0), at + QPointF(0.0, radius), at - QPointF(radius, 0.0)});
 }
 
+/*!
+ * \brief Whether the triangles \a a and \a b fall on one another: each corner of one is nearer than \a within to one
+ * of the other, a different one each.
+ *
+ * Which corner comes first plays no part, as an outline does not show it.
+ */
+bool isSameTriangle(const QPolygonF &a, const QPolygonF &b, double within);
+
 /*! \brief A part of a line that lies within a rectangle. */
 struct LinePart {
     QPolygonF points; //!< from where it enters to where it leaves

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/polylines_p.h>
 #include <ceiechart/diagram/targetrules.h>
 #include <ceiechart/diagram/whitepoint.h>
 #include <colortemperature/colortemperature.h>
@@ -28,11 +29,6 @@ QPointF fromDiagram(Model::Diagram diagram, const QPointF &point)
 {
     const Model::DiagramPoint xy = Model::fromDiagram(diagram, {point.x(), point.y()});
     return QPointF(xy.x, xy.y);
-}
-
-double distance(const QPointF &a, const QPointF &b)
-{
-    return std::hypot(a.x() - b.x(), a.y() - b.y());
 }
 
 double cross(const QPointF &a, const QPointF &b)
@@ -282,7 +278,7 @@ std::optional<Snap> snapped(
     std::optional<Snap> best;
     double bestDistance = reach;
     const auto consider = [&](const QPointF &candidate, const SnapLine &line) {
-        const double away = distance(candidate, wanted);
+        const double away = length(candidate - wanted);
         if (away <= bestDistance) {
             bestDistance = away;
             best = Snap{line.xy.size() == 1 ? line.xy.first() : fromDiagram(diagram, candidate), line};

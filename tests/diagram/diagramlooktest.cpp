@@ -8,6 +8,8 @@
 #include <cmath>
 #include <limits>
 
+Q_DECLARE_METATYPE(Model::ColorGamut)
+
 using namespace fulldiagram;
 
 namespace {
@@ -43,6 +45,7 @@ class DiagramLookTest : public QObject {
 private Q_SLOTS:
     void contrastIsEnough();
     void rolesDiffer();
+    void equalGamutsShowBoth_data();
     void equalGamutsShowBoth();
     void equalGamutsDoNotDependOnTheTarget();
     void manyEqualGamutsAreNoBand();
@@ -101,12 +104,26 @@ void DiagramLookTest::rolesDiffer()
     }
 }
 
+void DiagramLookTest::equalGamutsShowBoth_data()
+{
+    // Which corner comes first cannot be seen.
+    QTest::addColumn<Model::ColorGamut>("other");
+    const QPointF red(0.68, 0.32);
+    const QPointF green(0.265, 0.69);
+    const QPointF blue(0.15, 0.06);
+    QTest::newRow("same order") << gamut("same", red, green, blue);
+    QTest::newRow("red and green exchanged") << gamut("same", green, red, blue);
+    QTest::newRow("green and blue exchanged") << gamut("same", red, blue, green);
+    QTest::newRow("turned") << gamut("same", green, blue, red);
+}
+
 void DiagramLookTest::equalGamutsShowBoth()
 {
+    QFETCH(Model::ColorGamut, other);
     DiagramContent content;
     content.layers = DiagramLayer::Originals | DiagramLayer::MeasuredGamuts | DiagramLayer::Targets;
     const Model::ColorGamut same = gamut("same", {0.68, 0.32}, {0.265, 0.69}, {0.15, 0.06});
-    content.gamuts = {{same, GamutRole::Target}, {same, GamutRole::Original}, {same, GamutRole::Measured}};
+    content.gamuts = {{same, GamutRole::Target}, {other, GamutRole::Original}, {same, GamutRole::Measured}};
     DiagramPainter painter;
     prepare(painter, content, Model::Diagram::Cie1931, QSizeF(500, 450), 1.0);
     const QImage image = painted(painter);

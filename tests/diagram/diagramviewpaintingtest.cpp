@@ -167,6 +167,11 @@ void DiagramViewPaintingTest::partialRepaintsLeaveNothingBehind()
     compare("not equal");
     view.moveVertex(GamutVertex::Red, xyOf(Model::rec709().getTargets().red));
     compare("equal again");
+    const Model::Targets &turned = Model::rec709().getTargets();
+    view.setTarget(Model::ColorGamut("t", {turned.green, turned.blue, turned.red, turned.white}));
+    compare("equal, with other corners first");
+    view.moveVertex(GamutVertex::Red, QPointF(0.31, 0.61));
+    compare("not equal, with other corners first");
     for (int i = 0; i < 6; ++i) {
         QTest::keyClick(&view, i % 2 ? Qt::Key_Plus : Qt::Key_Right);
         compare("keys");
