@@ -6,6 +6,7 @@
 #include <ceiechart/diagram/shownmarks_p.h>
 
 #include <cstdint>
+#include <limits>
 #include <map>
 #include <utility>
 #include <vector>
@@ -42,6 +43,13 @@ private:
         QPolygonF curve;
     };
 
+    //! Where a name could stand; null for nowhere.
+    struct NamePlace {
+        QRectF place;
+        QLineF leader; // to the outline, where the name is not beside it
+        double cost = std::numeric_limits<double>::max();
+    };
+
     // Outlines and areas
     //! Whether the outlines number \a i and \a k fall on one another.
     bool areEqual(size_t i, size_t k) const;
@@ -76,9 +84,10 @@ private:
     void placeWavelengths(const QVector<PendingNumber> &wavelengths);
     //! What numbers must leave to be seen, beside marks: whites and handles.
     QVector<QRectF> clearOfNumbers() const;
-    //! Whether a number at \a place would cover one of \a clear, a mark or a ring.
+    //! Whether a number at \a place would cover one of \a clear, a mark, a ring or an outline.
     bool isTaken(const QRectF &place, const QVector<QRectF> &clear) const;
-    void drawIsothermNumber(const QString &number, const QRectF &place);
+    //! With a null \a leader for none.
+    void drawIsothermNumber(const QString &number, const QRectF &place, const QLineF &leader);
     //! The isotherm's number at the nearest free place, with a line from there to the isotherm.
     bool leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear);
     //! Of isotherms none of which has room for its number beside it, that nearest to the white is named all the same.
@@ -87,10 +96,19 @@ private:
     void drawPlate(const QRectF &place, const DiagramPalette &palette);
     //! Where a name may stand, the best first.
     QVector<QRectF> namePlaces(const Shown &gamut, const QSizeF &size) const;
+    //! How many sides of outlines \a meetsIt is true of.
+    template <typename Meets>
+    int countOutlines(const Meets &meetsIt) const;
+    int outlinesAt(const QRectF &place) const;
     //! How much \a place would cover.
     int covered(const QRectF &place) const;
-    //! Where a name of the size \a text covers least; null where it has no place.
-    QRectF bestPlace(const Shown &gamut, const QSizeF &text) const;
+    //! The cost of a place without a leader that is not close to the outline.
+    double costOfDoubt(const Shown &gamut, const QRectF &place) const;
+    //! Where a name on a plate of the size \a plate covers least beside the outline.
+    NamePlace placeBeside(const Shown &gamut, const QSizeF &plate) const;
+    //! The same farther away, with a leader; \a beside where nothing is better than that.
+    NamePlace placeLedTo(const Shown &gamut, const QSizeF &plate, const NamePlace &beside) const;
+    void drawName(const Shown &gamut, const TextStyle &style);
     void drawNames();
     void drawMarkName(const QPointF &at, const QString &markName);
 

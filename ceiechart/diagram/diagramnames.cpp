@@ -3,6 +3,7 @@
 #include <ceiechart/diagram/diagramgamuts_p.h>
 #include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/polylines_p.h>
+#include <ceiechart/diagram/spectrum_p.h>
 
 #include <QPainterPath>
 
@@ -26,6 +27,15 @@ constexpr double leaderWidth = 1.0; // from a number to its isotherm
 constexpr double isothermNumbers = 44.0; // least distance of the middles of numbers
 constexpr double leastNameShare = 0.2; // of the plot's width, to which names may be shortened
 constexpr int leastLetters = 3; // of a name that is shortened: fewer say nothing
+constexpr double leaderDot = 2.0; // radius of the end of a leader, on the line of its gamut
+constexpr int mostLedOutlines = 20; // among more of them, a leader is hard to follow
+
+// What a place for a name costs, in pixels of a leader that would be as bad
+constexpr double costOfCovering = 60.0; // for each unit of what covered() counts
+constexpr double costOfCrossing = 15.0; // of another outline by the leader
+constexpr double worthLeading = 10.0; // what costs no more is clear enough without a leader
+constexpr double mostDoubt = 60.0; // of a place that is away from its outline, and has no leader
+constexpr double costOfShortening = 80.0; // of the name, each time
 
 //! On one line: what controls a terminal or breaks a line has no glyph.
 QString onOneLine(QString text)
@@ -48,12 +58,6 @@ QString nameOf(const DiagramGamut &gamut)
 bool meetsAny(const QVector<QRectF> &some, const QRectF &place)
 {
     return std::any_of(some.cbegin(), some.cend(), [&place](const QRectF &other) { return other.intersects(place); });
-}
-
-//! Whether the line from \a line's first to its second point meets \a area.
-bool meets(const QLineF &line, const QRectF &area)
-{
-    return area.contains(line.p1()) || area.contains(line.p2()) || partWithin(line, area).has_value();
 }
 
 } // namespace
@@ -110,13 +114,19 @@ QVector<QRectF> DiagramGamuts::clearOfNumbers() const
 
 bool DiagramGamuts::isTaken(const QRectF &place, const QVector<QRectF> &clear) const
 {
-    return meetsAny(clear, place) || m_marks.places.meets(place, markRadius + 2.0) || isOnRing(place);
+    return meetsAny(clear, place) || m_marks.places.meets(place, markRadius + 2.0) || isOnRing(place)
+        || outlinesAt(place) > 0;
 }
 
-void DiagramGamuts::drawIsothermNumber(const QString &number, const QRectF &place)
+void DiagramGamuts::drawIsothermNumber(const QString &number, const QRectF &place, const QLineF &leader)
 {
-    m_step.places.add(DiagramLabel::Kind::Isotherm, number, place);
-    m_step.texts.textIn(place, number, m_sheet.fonts.numbers, m_innerPalette.planckian, m_innerPalette.casing);
+    m_step.places.add(DiagramLabel::Kind::Isotherm, number, place, -1, leader);
+    // Away from its isotherm it may be beyond the colours, on the ground of the view.
+    const bool isOnColors = leader.isNull()
+        || spectralLocusIn(m_sheet.viewport.diagram(), 1)
+               .containsPoint(m_sheet.viewport.toPoint(place.center()), Qt::WindingFill);
+    const DiagramPalette &palette = isOnColors ? m_innerPalette : m_palette;
+    m_step.texts.textIn(place, number, m_sheet.fonts.numbers, palette.planckian, palette.casing);
 }
 
 bool DiagramGamuts::leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear)
@@ -139,7 +149,7 @@ bool DiagramGamuts::leadToIsotherm(const PendingNumber &number, const QVector<QR
             const QLineF &way = ends[0].length() < ends[1].length() ? ends[0] : ends[1];
             const double toMiddle = length(way.p2() - place.center());
             if (way.length() <= labelGap || toMiddle >= least || !m_step.places.isFree(place, m_inner, labelGap)
-                || isTaken(place, clear)) {
+                || m_step.places.isCrossed(way) || isTaken(place, clear)) {
                 continue;
             }
             const bool isNearerToOther = m_marks.places.isBetween(place.center(), 0.0, toMiddle)
@@ -158,7 +168,7 @@ bool DiagramGamuts::leadToIsotherm(const PendingNumber &number, const QVector<QR
     }
     drawCased(m_step.drawing, QPolygonF(QVector<QPointF>{leader.p1(), leader.p2()}), false, m_plot,
         QPen(m_innerPalette.planckian, leaderWidth), m_innerPalette.casing);
-    drawIsothermNumber(number.text, best);
+    drawIsothermNumber(number.text, best, leader);
     return true;
 }
 
@@ -187,7 +197,7 @@ void DiagramGamuts::placeIsotherms(const QVector<PendingNumber> &isotherms)
             if (m_step.places.isFree(place, m_inner, labelGap) && std::none_of(placed.cbegin(), placed.cend(), isNear)
                 && !isTaken(place, clear)) {
                 placed.append(place.center());
-                drawIsothermNumber(number.text, place);
+                drawIsothermNumber(number.text, place, QLineF());
                 break;
             }
         }
@@ -256,65 +266,166 @@ QVector<QRectF> DiagramGamuts::namePlaces(const Shown &gamut, const QSizeF &size
     return gamut.role == GamutRole::Standard ? atCorners + atLines : atLines + atCorners;
 }
 
-int DiagramGamuts::covered(const QRectF &place) const
+template <typename Meets>
+int DiagramGamuts::countOutlines(const Meets &meetsIt) const
 {
     int count = 0;
     for (const Shown &gamut : m_shown) {
-        const bool counts = m_namesStandards || gamut.role != GamutRole::Standard;
+        const bool counts = !gamut.isCovered && (m_namesStandards || gamut.role != GamutRole::Standard);
         for (int i = 0; counts && i < 3; ++i) {
-            count += meets(QLineF(gamut.corners.at(i), gamut.corners.at((i + 1) % 3)), place) ? 2 : 0;
+            count += meetsIt(QLineF(gamut.corners.at(i), gamut.corners.at((i + 1) % 3))) ? 1 : 0;
         }
     }
+    return count;
+}
+
+int DiagramGamuts::outlinesAt(const QRectF &place) const
+{
+    return countOutlines([&place](const QLineF &side) { return meets(side, place); });
+}
+
+int DiagramGamuts::covered(const QRectF &place) const
+{
+    int count = 2 * outlinesAt(place);
     for (const QRectF &white : m_whites) {
         count += white.intersects(place) ? 3 : 0;
     }
     return count + 3 * m_marks.places.meeting(place, markRadius, mostCovered);
 }
 
-QRectF DiagramGamuts::bestPlace(const Shown &gamut, const QSizeF &text) const
+double DiagramGamuts::costOfDoubt(const Shown &gamut, const QRectF &place) const
 {
-    QRectF best;
-    int least = std::numeric_limits<int>::max();
-    for (const QRectF &place : namePlaces(gamut, text + QSizeF(2.0 * platePadding, 0.0))) {
+    const auto isWithin = [&place](const Shown &of, double reach) {
+        const QRectF roomy = place.adjusted(-reach, -reach, reach, reach);
+        return meets(QLineF(of.corners.at(0), of.corners.at(1)), roomy)
+            || meets(QLineF(of.corners.at(1), of.corners.at(2)), roomy)
+            || meets(QLineF(of.corners.at(2), of.corners.at(0)), roomy);
+    };
+    double cost = 0.0;
+    for (double reach = 2.0 * nameGap; reach < mostDoubt && !isWithin(gamut, reach); reach *= 1.5) {
+        cost = reach;
+    }
+    return cost;
+}
+
+DiagramGamuts::NamePlace DiagramGamuts::placeBeside(const Shown &gamut, const QSizeF &plate) const
+{
+    NamePlace best;
+    for (const QRectF &place : namePlaces(gamut, plate)) {
         if (meetsAny(m_handles, place) || !m_step.places.isFree(place, m_inner, labelGap)) {
             continue;
         }
-        const int cost = covered(place);
-        if (cost < least) {
-            least = cost;
-            best = place;
+        const double cost = costOfCovering * covered(place) + costOfDoubt(gamut, place);
+        if (cost < best.cost) {
+            best = {place, QLineF(), cost};
         }
-        if (cost == 0) {
+        if (cost == 0.0) {
             break;
         }
     }
     return best;
 }
 
+DiagramGamuts::NamePlace DiagramGamuts::placeLedTo(
+    const Shown &gamut, const QSizeF &plate, const NamePlace &beside) const
+{
+    constexpr int directions = 12;
+    NamePlace best = beside;
+    const auto tryPlace = [&](const QPointF &anchor, const QPointF &way, double distance) {
+        const QPointF centre
+            = anchor + way * distance + QPointF(way.x() * plate.width() / 2.0, way.y() * plate.height() / 2.0);
+        const QRectF place(centre - QPointF(plate.width(), plate.height()) / 2.0, plate);
+        if (meetsAny(m_handles, place) || !m_step.places.isFree(place, m_inner, labelGap)) {
+            return;
+        }
+        const QLineF leader(QPointF(std::clamp(anchor.x(), place.left(), place.right()),
+                                std::clamp(anchor.y(), place.top(), place.bottom())),
+            anchor);
+        const auto isMet = [&leader](const QRectF &area) { return meets(leader, area); };
+        if (leader.length() < nameGap || m_step.places.isCrossed(leader)
+            || std::any_of(m_handles.cbegin(), m_handles.cend(), isMet)) {
+            return;
+        }
+        // Of its own outline it meets the side at which it ends.
+        const int crossed = countOutlines(
+            [&leader](const QLineF &side) { return side.intersects(leader, nullptr) == QLineF::BoundedIntersection; });
+        const double cost = leader.length() + costOfCrossing * std::max(0, crossed - 1);
+        if (cost < best.cost && cost + costOfCovering * covered(place) < best.cost) {
+            best = {place, leader, cost + costOfCovering * covered(place)};
+        }
+    };
+    QVector<QPointF> anchors;
+    for (int side = 0; side < 3; ++side) {
+        const auto seen = partWithin(QLineF(gamut.corners.at(side), gamut.corners.at((side + 1) % 3)), m_inner);
+        for (const double share : {0.5, 0.3, 0.7, 0.15, 0.85}) {
+            if (seen) {
+                anchors.append(seen->pointAt(share));
+            }
+        }
+    }
+    for (const double distance : {12.0, 17.0, 24.0, 34.0, 48.0, 68.0, 96.0, 136.0, 192.0}) {
+        if (distance >= best.cost) {
+            break; // as a leader is about as long
+        }
+        for (const QPointF &anchor : qAsConst(anchors)) {
+            for (int i = 0; i < directions; ++i) {
+                const double angle = 2.0 * M_PI * i / directions;
+                tryPlace(anchor, QPointF(std::cos(angle), std::sin(angle)), distance);
+            }
+        }
+    }
+    return best;
+}
+
+void DiagramGamuts::drawName(const Shown &gamut, const TextStyle &style)
+{
+    const QString name = nameOf(m_content.gamuts.at(gamut.index));
+    if (name.isEmpty()) {
+        return;
+    }
+    const auto placeFor = [&](const QString &text) {
+        const QSizeF plate = style.size(text) + QSizeF(2.0 * platePadding, 0.0);
+        const NamePlace beside = placeBeside(gamut, plate);
+        return beside.cost > worthLeading && m_shown.size() <= mostLedOutlines ? placeLedTo(gamut, plate, beside)
+                                                                               : beside;
+    };
+    QString shown = name;
+    NamePlace best = placeFor(shown);
+    // What covers much or finds no room is shortened, more and more.
+    double costOfShort = costOfShortening;
+    for (double share = 0.6; best.cost > costOfShort && share >= leastNameShare; share -= 0.2) {
+        const QString shorter = style.elided(name, share * m_plot.width());
+        if (shorter != shown && shorter.size() > leastLetters) {
+            NamePlace place = placeFor(shorter);
+            place.cost += costOfShort;
+            if (place.cost < best.cost) {
+                shown = shorter;
+                best = place;
+            }
+            costOfShort += costOfShortening;
+        }
+    }
+    if (best.place.isNull()) {
+        return;
+    }
+    const QColor color = DiagramPainter::gamutPen(gamut.role).color();
+    m_step.places.add(DiagramLabel::Kind::Gamut, shown, best.place, gamut.index, best.leader);
+    if (!best.leader.isNull()) {
+        const QPolygonF line(QVector<QPointF>{best.leader.p1(), best.leader.p2()});
+        drawCased(m_step.drawing, line, false, m_plot, QPen(color, leaderWidth), m_palette.casing);
+        m_step.drawing.ellipse(best.leader.p2(), leaderDot, leaderDot, QPen(m_palette.casing, leaderWidth), color);
+    }
+    drawPlate(best.place, m_palette);
+    m_step.texts.textIn(best.place.adjusted(platePadding, 0.0, -platePadding, 0.0), shown, style, color);
+}
+
 void DiagramGamuts::drawNames()
 {
     // The target first, as the last is the most likely to find no room.
     for (auto gamut = m_shown.crbegin(); gamut != m_shown.crend(); ++gamut) {
-        const QString name = nameOf(m_content.gamuts.at(gamut->index));
-        if (name.isEmpty() || (gamut->role == GamutRole::Standard && !m_namesStandards)) {
-            continue;
-        }
-        const TextStyle &style = gamut->role == GamutRole::Standard ? m_sheet.fonts.texts : m_sheet.fonts.names;
-        // What finds no room as a whole is shortened, more and more.
-        QString shown = name;
-        QRectF best = bestPlace(*gamut, style.size(shown));
-        for (double share = 0.6; best.isNull() && share >= leastNameShare; share -= 0.2) {
-            const QString shorter = style.elided(name, share * m_plot.width());
-            if (shorter != shown && shorter.size() > leastLetters) {
-                shown = shorter;
-                best = bestPlace(*gamut, style.size(shown));
-            }
-        }
-        if (!best.isNull()) {
-            m_step.places.add(DiagramLabel::Kind::Gamut, shown, best, gamut->index);
-            drawPlate(best, m_palette);
-            m_step.texts.textIn(best.adjusted(platePadding, 0.0, -platePadding, 0.0), shown, style,
-                DiagramPainter::gamutPen(gamut->role).color());
+        const bool isStandard = gamut->role == GamutRole::Standard;
+        if (!isStandard || m_namesStandards) {
+            drawName(*gamut, isStandard ? m_sheet.fonts.texts : m_sheet.fonts.names);
         }
     }
 }

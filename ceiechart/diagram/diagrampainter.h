@@ -8,6 +8,7 @@
 
 #include <QFont>
 #include <QImage>
+#include <QLineF>
 #include <QPen>
 #include <QRegion>
 #include <QVector>
@@ -44,6 +45,7 @@ struct DiagramLabel {
     int index = -1; //!< in DiagramContent::gamuts, for Kind::Gamut; otherwise -1
     QString text; //!< as it is drawn, on one line
     QRectF place; //!< what the text covers, in logical pixels
+    QLineF leader; //!< from the text to what it names; null where it stands beside that
 };
 
 /*!

@@ -40,13 +40,21 @@ bool LabelPlaces::isFree(const QRectF &place, const QRectF &area, double gap) co
 {
     const QRectF roomy = place.adjusted(-gap, -gap, gap, gap);
     return area.contains(place)
-        && std::none_of(m_labels.cbegin(), m_labels.cend(),
-            [&roomy](const DiagramLabel &label) { return label.place.intersects(roomy); });
+        && std::none_of(m_labels.cbegin(), m_labels.cend(), [&roomy](const DiagramLabel &label) {
+               return label.place.intersects(roomy) || (!label.leader.isNull() && meets(label.leader, roomy));
+           });
 }
 
-void LabelPlaces::add(DiagramLabel::Kind kind, const QString &text, const QRectF &place, int index)
+bool LabelPlaces::isCrossed(const QLineF &line) const
 {
-    m_labels.append({kind, index, text, place});
+    return std::any_of(
+        m_labels.cbegin(), m_labels.cend(), [&line](const DiagramLabel &label) { return meets(line, label.place); });
+}
+
+void LabelPlaces::add(
+    DiagramLabel::Kind kind, const QString &text, const QRectF &place, int index, const QLineF &leader)
+{
+    m_labels.append({kind, index, text, place, leader});
 }
 
 void drawCased(DrawList &list, const QPolygonF &points, bool closed, const QRectF &area, const QPen &pen,

@@ -50,12 +50,15 @@ struct DiagramSheet {
     HorseshoeColors colors() const { return shows(DiagramLayer::Colors) ? content.colors : HorseshoeColors::None; }
 };
 
-/*! \brief The texts on a diagram, none of which stands on another. */
+/*! \brief The texts on a diagram, none of which stands on another or on the leader of another. */
 class LabelPlaces {
 public:
-    //! Whether \a place, with \a gap round it, is within \a area and on no label.
+    //! Whether \a place, with \a gap round it, is within \a area, on no label and on no leader.
     bool isFree(const QRectF &place, const QRectF &area, double gap) const;
-    void add(DiagramLabel::Kind kind, const QString &text, const QRectF &place, int index = -1);
+    //! Whether \a line meets a label.
+    bool isCrossed(const QLineF &line) const;
+    void add(DiagramLabel::Kind kind, const QString &text, const QRectF &place, int index = -1,
+        const QLineF &leader = QLineF());
     const QVector<DiagramLabel> &labels() const { return m_labels; }
 
 private:

@@ -205,12 +205,15 @@ void DiagramView::Private::putTarget(const Model::Targets &targets)
     // Names give way to one another.
     const QVector<DiagramLabel> newLabels = painter->labels();
     const auto same = [](const DiagramLabel &a, const DiagramLabel &b) {
-        return a.kind == b.kind && a.index == b.index && a.text == b.text && a.place == b.place;
+        return a.kind == b.kind && a.index == b.index && a.text == b.text && a.place == b.place && a.leader == b.leader;
     };
     const auto addOthers = [&](const QVector<DiagramLabel> &some, const QVector<DiagramLabel> &others) {
         for (const DiagramLabel &label : some) {
             if (std::none_of(others.begin(), others.end(), [&](const DiagramLabel &o) { return same(o, label); })) {
                 changed += around(label.place, lineRoom);
+                if (!label.leader.isNull()) {
+                    changed += regionBetween(label.leader, label.leader, QRectF(q->rect()), lineRoom);
+                }
             }
         }
     };

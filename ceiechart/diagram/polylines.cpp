@@ -166,6 +166,11 @@ std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std:
     return dashes;
 }
 
+bool meets(const QLineF &line, const QRectF &area)
+{
+    return area.contains(line.p1()) || area.contains(line.p2()) || partWithin(line, area).has_value();
+}
+
 bool isSameTriangle(const QPolygonF &a, const QPolygonF &b, double within)
 {
     std::array<int, 3> order{0, 1, 2};

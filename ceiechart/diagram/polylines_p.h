@@ -62,6 +62,9 @@ std::vector<LinePart> partsWithin(const QPolygonF &points, bool closed, const QR
 /*! \brief The part of \a line within \a area, if any. */
 std::optional<QLineF> partWithin(const QLineF &line, const QRectF &area);
 
+/*! \brief Whether some of \a line lies within \a area. */
+bool meets(const QLineF &line, const QRectF &area);
+
 /*! \brief The part of \a line within the convex \a polygon, as shares of its length from 0 to 1, if any. */
 std::optional<std::pair<double, double>> sharesWithin(const QLineF &line, const QPolygonF &polygon);
 

@@ -8,6 +8,22 @@
 
 using namespace fulldiagram;
 
+namespace {
+
+//! What a wall's host shows: a display, its measurement, a target and two standards.
+DiagramContent wallContent()
+{
+    DiagramContent content;
+    content.gamuts = {{Model::rec709(), GamutRole::Standard}, {Model::rec2020(), GamutRole::Standard},
+        {gamut("LED wall", {0.70, 0.299}, {0.189, 0.718}, {0.133, 0.075}, {0.2829, 0.2971}), GamutRole::Original},
+        {gamut("LED wall, measured", {0.69, 0.305}, {0.195, 0.71}, {0.135, 0.078}, {0.2829, 0.2971}),
+            GamutRole::Measured},
+        {Model::dciP3D65(), GamutRole::Target}};
+    return content;
+}
+
+} // namespace
+
 /*! The texts of a diagram and their places. */
 class DiagramLabelsTest : public QObject {
     Q_OBJECT
@@ -19,6 +35,10 @@ private Q_SLOTS:
     void isothermsGetDenser();
     void wavelengthsGetDenser();
     void namesOfGamutsAreShown();
+    void namesFindPlacesInSmallViews_data();
+    void namesFindPlacesInSmallViews();
+    void leadersEndOnTheirOutlines();
+    void isothermNumbersLeaveOutlines();
     void oddNamesAreShown();
     void numbersLeaveMarksToBeSeen();
     void textsLeaveHandles_data();
@@ -70,6 +90,13 @@ void DiagramLabelsTest::labelsStandApart()
             for (int k = 0; k < i; ++k) {
                 QVERIFY2(!labels.at(i).place.intersects(labels.at(k).place),
                     qPrintable(labels.at(i).text + QStringLiteral(" on ") + labels.at(k).text));
+            }
+            // Points along the leader, which no text covers.
+            for (int k = 0; k < labels.size() && !labels.at(i).leader.isNull(); ++k) {
+                for (double share = 0.0; share <= 1.0 && k != i; share += 0.05) {
+                    QVERIFY2(!labels.at(k).place.contains(labels.at(i).leader.pointAt(share)),
+                        qPrintable(labels.at(k).text + QStringLiteral(" on the leader of ") + labels.at(i).text));
+                }
             }
             const double value = labels.at(i).text.toDouble();
             QVERIFY(value != 0.0 || !labels.at(i).text.startsWith(QLatin1Char('-')));
@@ -169,11 +196,98 @@ void DiagramLabelsTest::namesOfGamutsAreShown()
                             std::max({place.top() - at.y(), at.y() - place.bottom(), 0.0})));
                 }
             }
-            QVERIFY2(nearest < 14.0, qPrintable(QStringLiteral("%1: %2").arg(i).arg(nearest)));
+            const QVector<DiagramLabel> labels = painter.labels();
+            const auto label = std::find_if(
+                labels.cbegin(), labels.cend(), [&place](const DiagramLabel &some) { return some.place == place; });
+            QVERIFY2(nearest < (label->leader.isNull() ? 14.0 : 200.0),
+                qPrintable(QStringLiteral("%1: %2").arg(i).arg(nearest)));
         }
     }
     QVERIFY(painter.namePlace(99).isNull());
     QVERIFY(painter.outline(-1).isEmpty());
+}
+
+void DiagramLabelsTest::namesFindPlacesInSmallViews_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<int>("least");
+    QTest::newRow("300 x 250") << QSizeF(300, 250) << 3;
+    QTest::newRow("480 x 360") << QSizeF(480, 360) << 5;
+}
+
+void DiagramLabelsTest::namesFindPlacesInSmallViews()
+{
+    QFETCH(QSizeF, size);
+    QFETCH(int, least);
+    DiagramPainter painter;
+    for (const Model::Diagram diagram : allDiagrams) {
+        prepare(painter, wallContent(), diagram, size, 1.0);
+        int count = 0;
+        for (const DiagramLabel &label : painter.labels()) {
+            count += label.kind == DiagramLabel::Kind::Gamut ? 1 : 0;
+        }
+        QVERIFY2(count >= least,
+            qPrintable(QStringLiteral("%1 %2").arg(QString::fromUtf8(Model::diagramTraits(diagram).xName)).arg(count)));
+    }
+}
+
+void DiagramLabelsTest::leadersEndOnTheirOutlines()
+{
+    DiagramPainter painter;
+    int leaders = 0;
+    for (const Model::Diagram diagram : allDiagrams) {
+        for (const QSizeF &size : {QSizeF(300, 250), QSizeF(480, 360), QSizeF(800, 600)}) {
+            for (const double zoom : {1.0, 3.0, 6.0}) {
+                prepare(painter, wallContent(), diagram, size, zoom);
+                for (const DiagramLabel &label : painter.labels()) {
+                    if (label.kind != DiagramLabel::Kind::Gamut || label.leader.isNull()) {
+                        continue;
+                    }
+                    ++leaders;
+                    QVERIFY(label.place.adjusted(-0.01, -0.01, 0.01, 0.01).contains(label.leader.p1()));
+                    const QPolygonF corners = painter.outline(label.index);
+                    double nearest = HUGE_VAL;
+                    for (int i = 0; i < 3; ++i) {
+                        const QLineF side(corners.at(i), corners.at((i + 1) % 3));
+                        const QLineF normal = side.normalVector().unitVector();
+                        const QPointF way = label.leader.p2() - side.p1();
+                        nearest = std::min(nearest, std::fabs(way.x() * normal.dx() + way.y() * normal.dy()));
+                    }
+                    QVERIFY2(nearest < 0.01, qPrintable(label.text));
+                }
+            }
+        }
+    }
+    QVERIFY2(leaders > 10, qPrintable(QString::number(leaders)));
+}
+
+void DiagramLabelsTest::isothermNumbersLeaveOutlines()
+{
+    DiagramPainter painter;
+    int numbers = 0;
+    for (const Model::Diagram diagram : allDiagrams) {
+        for (const QSizeF &size : {QSizeF(300, 250), QSizeF(480, 360), QSizeF(800, 600)}) {
+            for (const double zoom : {1.0, 2.0, 4.0, 8.0}) {
+                prepare(painter, wallContent(), diagram, size, zoom);
+                for (const DiagramLabel &label : painter.labels()) {
+                    if (label.kind != DiagramLabel::Kind::Isotherm) {
+                        continue;
+                    }
+                    ++numbers;
+                    for (int i = 0; i < painter.content().gamuts.size(); ++i) {
+                        const QPolygonF corners = painter.outline(i);
+                        for (int k = 0; k < 3; ++k) {
+                            for (double share = 0.0; share <= 1.0; share += 0.001) {
+                                const QPointF at = QLineF(corners.at(k), corners.at((k + 1) % 3)).pointAt(share);
+                                QVERIFY2(!label.place.contains(at), qPrintable(label.text));
+                            }
+                        }
+                    }
+                }
+            }
+        }
+    }
+    QVERIFY2(numbers > 60, qPrintable(QString::number(numbers)));
 }
 
 void DiagramLabelsTest::oddNamesAreShown()
