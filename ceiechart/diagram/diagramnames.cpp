@@ -33,7 +33,7 @@ constexpr int mostLedOutlines = 20; // among more of them, a leader is hard to f
 // What a place for a name costs, in pixels of a leader that would be as bad
 constexpr double costOfCovering = 60.0; // for each unit of what covered() counts
 constexpr double costOfCrossing = 15.0; // of another outline by the leader
-constexpr double worthLeading = 10.0; // what costs no more is clear enough without a leader
+constexpr double worthLeading = 20.0; // what costs no more is clear enough without a leader
 constexpr double mostDoubt = 60.0; // of a place that is away from its outline, and has no leader
 constexpr double costOfShortening = 80.0; // of the name, each time
 
@@ -335,15 +335,13 @@ DiagramGamuts::NamePlace DiagramGamuts::placeLedTo(
         const QPointF centre
             = anchor + way * distance + QPointF(way.x() * plate.width() / 2.0, way.y() * plate.height() / 2.0);
         const QRectF place(centre - QPointF(plate.width(), plate.height()) / 2.0, plate);
-        if (meetsAny(m_handles, place) || !m_step.places.isFree(place, m_inner, labelGap)) {
-            return;
-        }
         const QLineF leader(QPointF(std::clamp(anchor.x(), place.left(), place.right()),
                                 std::clamp(anchor.y(), place.top(), place.bottom())),
             anchor);
         const auto isMet = [&leader](const QRectF &area) { return meets(leader, area); };
-        if (leader.length() < nameGap || m_step.places.isCrossed(leader)
-            || std::any_of(m_handles.cbegin(), m_handles.cend(), isMet)) {
+        if (leader.length() < nameGap || leader.length() >= best.cost || !m_inner.contains(place)
+            || meetsAny(m_handles, place) || !m_step.places.isFree(place, m_inner, labelGap)
+            || m_step.places.isCrossed(leader) || std::any_of(m_handles.cbegin(), m_handles.cend(), isMet)) {
             return;
         }
         // Of its own outline it meets the side at which it ends.
@@ -357,7 +355,7 @@ DiagramGamuts::NamePlace DiagramGamuts::placeLedTo(
     QVector<QPointF> anchors;
     for (int side = 0; side < 3; ++side) {
         const auto seen = partWithin(QLineF(gamut.corners.at(side), gamut.corners.at((side + 1) % 3)), m_inner);
-        for (const double share : {0.5, 0.3, 0.7, 0.15, 0.85}) {
+        for (const double share : {0.5, 0.25, 0.75}) {
             if (seen) {
                 anchors.append(seen->pointAt(share));
             }

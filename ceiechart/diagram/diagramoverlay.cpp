@@ -140,8 +140,8 @@ void DiagramOverlay::paintReadout(QPainter &painter, const DiagramPalette &palet
     painter.drawText(box, Qt::AlignCenter, readout);
 }
 
-void DiagramOverlay::paint(
-    QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const QFont &font) const
+void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const QFont &font,
+    const QRegion &needed) const
 {
     if (!guides.isEmpty()) {
         painter.save();
@@ -175,7 +175,9 @@ void DiagramOverlay::paint(
         }
     }
     for (const Handle &handle : handles) {
-        paintHandle(painter, handle, palette);
+        if (needed.intersects(bounds(handle).adjusted(-2.0, -2.0, 2.0, 2.0).toAlignedRect())) {
+            paintHandle(painter, handle, palette);
+        }
     }
     if (!label.isEmpty()) {
         QPainterPath box;
@@ -194,7 +196,8 @@ void DiagramOverlay::paint(
         }
         painter.setFont(font);
     }
-    if (showsFocusFrame) {
+    // To stroke it takes long even where the clip lets nothing of it through.
+    if (showsFocusFrame && !needed.subtracted(plot.adjusted(3.0, 3.0, -3.0, -3.0).toRect()).isEmpty()) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(palette.accent, 2.0));
         painter.drawRect(plot.adjusted(1.0, 1.0, -1.0, -1.0));

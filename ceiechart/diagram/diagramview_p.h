@@ -49,7 +49,9 @@ struct DiagramOverlay {
     static QSizeF labelSize(const QStringList &lines, const QFont &font);
     static void paintHandle(QPainter &painter, const Handle &handle, const DiagramPalette &palette);
     void paintReadout(QPainter &painter, const DiagramPalette &palette) const;
-    void paint(QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const QFont &font) const;
+    //! What can be seen of it within \a needed.
+    void paint(QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const QFont &font,
+        const QRegion &needed) const;
 };
 
 class DiagramView::Private {

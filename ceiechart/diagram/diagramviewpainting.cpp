@@ -271,7 +271,7 @@ void DiagramView::paintEvent(QPaintEvent *event)
             p.drawImage(QPointF(), d->linesPicture());
         }
         d->painter->paintEdited(&p, event->region());
-        d->overlay.paint(p, d->viewport.plot(), palette, font());
+        d->overlay.paint(p, d->viewport.plot(), palette, font(), event->region());
     }
     d->overlay.paintReadout(p, palette);
 }

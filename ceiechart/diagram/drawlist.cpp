@@ -6,6 +6,7 @@
 #include <QPaintEngine>
 #include <QPainter>
 #include <QScreen>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -16,6 +17,7 @@ namespace {
 
 constexpr double pointsPerInch = 72.0;
 constexpr double casingWidth = 3.0; // of texts, logical pixels
+constexpr int mostKnownTexts = 2000; // whose glyphs are kept
 constexpr int designPixelSize = 100; // large enough for rounding to play no part
 
 double dotsPerInch(const QPaintDevice *device)
@@ -175,7 +177,45 @@ TextStyle::TextStyle(const QFont &font, const QPaintDevice *device, double unit)
     , m_metrics(metricsOf(font, device))
     , m_unit(unit)
     , m_pixelSize(font.pointSizeF() * dotsPerInch(device) / pointsPerInch / unit)
+    , m_known(std::make_shared<QHash<QString, Known>>())
 {
+}
+
+TextStyle::Known &TextStyle::known(const QString &text) const
+{
+    if (m_known->size() > mostKnownTexts) {
+        m_known->clear();
+    }
+    return (*m_known)[text];
+}
+
+double TextStyle::width(const QString &text) const
+{
+    Known &found = known(text);
+    if (!found.advance) {
+        found.advance = m_metrics.horizontalAdvance(text);
+    }
+    return *found.advance / m_unit;
+}
+
+QList<QGlyphRun> TextStyle::glyphs(const QString &text) const
+{
+    Known &found = known(text);
+    if (found.glyphs.isEmpty() && !text.isEmpty()) {
+        QTextLayout layout(text, m_font);
+        layout.beginLayout();
+        const QTextLine line = layout.createLine();
+        layout.endLayout();
+        found.glyphs = line.glyphRuns();
+        for (QGlyphRun &run : found.glyphs) {
+            QVector<QPointF> positions = run.positions();
+            for (QPointF &position : positions) {
+                position -= QPointF(line.position().x(), line.position().y() + line.ascent());
+            }
+            run.setPositions(positions);
+        }
+    }
+    return found.glyphs;
 }
 
 QSizeF TextStyle::designedSize(const QString &text) const
@@ -233,8 +273,7 @@ void DrawList::addText(const QPointF &at, const QRectF &place, const QString &te
     const QColor &color, const QColor &casing)
 {
     // Glyphs may lean out of their place, and marks be stacked above letters.
-    m_items.push_back({widened(place, casingWidth + style.height() / 2.0),
-        Text{at, text, style.font(), style.unit(), style.pixelSize(), color, casing}});
+    m_items.push_back({widened(place, casingWidth + style.height() / 2.0), Text{at, text, style, color, casing}});
 }
 
 void DrawList::marks(const QVector<PlacedMark> &marks)
@@ -331,35 +370,47 @@ void DrawList::paintItem(QPainter *painter, const Ellipse &item, const QRegion &
 
 void DrawList::paintItem(QPainter *painter, const Text &item, const QRegion & /*needed*/)
 {
-    if (item.casing.isValid() && isRaster(*painter) && item.unit == 1.0) {
-        // The glyphs are kept as pictures: to put them down eight times is faster than to stroke their outlines once.
-        constexpr double reach = casingWidth / 2.0;
-        constexpr double aslant = reach * 0.7;
-        painter->setPen(item.casing);
-        painter->setFont(item.font);
-        for (const QPointF &way : {QPointF(reach, 0.0), QPointF(-reach, 0.0), QPointF(0.0, reach), QPointF(0.0, -reach),
-                 QPointF(aslant, aslant), QPointF(-aslant, aslant), QPointF(aslant, -aslant),
-                 QPointF(-aslant, -aslant)}) {
-            painter->drawText(item.at + way, item.text);
+    if (isRaster(*painter) && item.style.unit() == 1.0) {
+        const QList<QGlyphRun> runs = item.style.glyphs(item.text);
+        const auto put = [&](const QPointF &at) {
+            for (const QGlyphRun &run : runs) {
+                painter->drawGlyphRun(at, run);
+            }
+        };
+        if (item.casing.isValid()) {
+            // The glyphs are kept as pictures: to put them down eight times is faster than to stroke their outlines
+            // once.
+            constexpr double reach = casingWidth / 2.0;
+            constexpr double aslant = reach * 0.7;
+            painter->setPen(item.casing);
+            for (const QPointF &way : {QPointF(reach, 0.0), QPointF(-reach, 0.0), QPointF(0.0, reach),
+                     QPointF(0.0, -reach), QPointF(aslant, aslant), QPointF(-aslant, aslant), QPointF(aslant, -aslant),
+                     QPointF(-aslant, -aslant)}) {
+                put(item.at + way);
+            }
         }
-    } else if (item.casing.isValid()) {
+        painter->setPen(item.color);
+        put(item.at);
+        return;
+    }
+    if (item.casing.isValid()) {
         QPainterPath glyphs;
-        glyphs.addText(QPointF(), designed(item.font), item.text);
-        const double scale = item.pixelSize / designPixelSize;
+        glyphs.addText(QPointF(), designed(item.style.font()), item.text);
+        const double scale = item.style.pixelSize() / designPixelSize;
         const QTransform place(scale, 0.0, 0.0, scale, item.at.x(), item.at.y());
         painter->setPen(QPen(item.casing, casingWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter->setBrush(Qt::NoBrush);
         painter->drawPath(place.map(glyphs));
     }
     painter->setPen(item.color);
-    painter->setFont(item.font);
-    if (item.unit == 1.0) {
+    painter->setFont(item.style.font());
+    if (item.style.unit() == 1.0) {
         painter->drawText(item.at, item.text);
         return;
     }
     painter->save();
     painter->translate(item.at);
-    painter->scale(1.0 / item.unit, 1.0 / item.unit);
+    painter->scale(1.0 / item.style.unit(), 1.0 / item.style.unit());
     painter->drawText(QPointF(), item.text);
     painter->restore();
 }

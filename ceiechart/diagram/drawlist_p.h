@@ -8,13 +8,18 @@
 #include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QHash>
 #include <QLineF>
+#include <QList>
 #include <QPainterPath>
 #include <QPen>
 #include <QPolygonF>
 #include <QRegion>
 #include <QString>
 
+#include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -39,7 +44,7 @@ public:
 
     const QFont &font() const { return m_font; }
     double unit() const { return m_unit; }
-    double width(const QString &text) const { return m_metrics.horizontalAdvance(text) / m_unit; }
+    double width(const QString &text) const;
     double ascent() const { return m_metrics.ascent() / m_unit; }
     double height() const { return (m_metrics.ascent() + m_metrics.descent()) / m_unit; }
     QSizeF size(const QString &text) const { return QSizeF(width(text), height()); }
@@ -52,12 +57,22 @@ public:
     double pixelSize() const { return m_pixelSize; }
     //! The size of \a text as designed, which is the same on every device: hinting plays no part.
     QSizeF designedSize(const QString &text) const;
+    //! The glyphs of \a text, with the left end of its base line at the origin.
+    QList<QGlyphRun> glyphs(const QString &text) const;
 
 private:
+    //! What has been found out about a text: to shape its glyphs takes longer than to paint them.
+    struct Known {
+        std::optional<double> advance;
+        QList<QGlyphRun> glyphs;
+    };
+    Known &known(const QString &text) const;
+
     QFont m_font;
     QFontMetricsF m_metrics;
     double m_unit;
     double m_pixelSize;
+    std::shared_ptr<QHash<QString, Known>> m_known; // of all copies
 };
 
 /*! \brief What is to be painted, in order, in logical pixels. */
@@ -119,9 +134,7 @@ private:
     struct Text {
         QPointF at;
         QString text;
-        QFont font;
-        double unit;
-        double pixelSize;
+        TextStyle style;
         QColor color;
         QColor casing;
     };

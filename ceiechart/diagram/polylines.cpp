@@ -168,6 +168,11 @@ std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std:
 
 bool meets(const QLineF &line, const QRectF &area)
 {
+    // Most are on one side of it, which is found out soonest.
+    if (std::max(line.x1(), line.x2()) < area.left() || std::min(line.x1(), line.x2()) > area.right()
+        || std::max(line.y1(), line.y2()) < area.top() || std::min(line.y1(), line.y2()) > area.bottom()) {
+        return false;
+    }
     return area.contains(line.p1()) || area.contains(line.p2()) || partWithin(line, area).has_value();
 }
 
