@@ -44,6 +44,7 @@ private Q_SLOTS:
     void copiesThePicture();
     void geometryAndPageAreRemembered();
     void pagesByKeyboard();
+    void keysOfTheHelpWork();
     void keyboardGoesToThePage();
     void pointerIsReadOut();
     void hintsAreThoseOfThePage();
@@ -131,6 +132,55 @@ void ViewerWindowTest::pagesByKeyboard()
         QTest::keyClick(f.window.get(), Qt::Key(Qt::Key_1 + page), Qt::ControlModifier);
         QCOMPARE(f.window->pages()->currentIndex(), page);
     }
+}
+
+void ViewerWindowTest::keysOfTheHelpWork()
+{
+    WindowFixture f;
+    const Answer answer(QMessageBox::Ok);
+    QTest::keyClick(f.window.get(), Qt::Key_F1);
+    const QString text = answer.text();
+    f.activate();
+    ceiechart::DiagramView *view = f.window->diagramPage()->view();
+    view->setFocus();
+    const auto hasLine = [&text](const char *key) { return text.contains(QString::fromUtf8(key)); };
+    for (const auto &[key, name] : {std::pair(Qt::Key_Home, "Home"), std::pair(Qt::Key_0, "0 or")}) {
+        QVERIFY2(hasLine(name), name);
+        view->setZoomFactor(9.0);
+        QTest::keyClick(view, key);
+        QCOMPARE(view->zoomFactor(), 1.0);
+    }
+    QVERIFY(hasLine("+ and −"));
+    QTest::keyClick(view, Qt::Key_Plus);
+    QVERIFY(view->zoomFactor() > 1.0);
+    QTest::keyClick(view, Qt::Key_Minus);
+    QVERIFY(std::fabs(view->zoomFactor() - 1.0) < 1e-9);
+    // An edit by a key, and the keys of the history.
+    QVERIFY(hasLine("R, G, B, W"));
+    const QPointF before = f.xy(Vertex::Green);
+    QTest::keyClick(view, Qt::Key_G);
+    QTest::keyClick(view, Qt::Key_Left);
+    const QPointF after = f.xy(Vertex::Green);
+    QVERIFY(after != before);
+    for (const auto &[key, modifiers, name] :
+        {std::tuple(Qt::Key_Z, Qt::KeyboardModifiers(Qt::ControlModifier | Qt::ShiftModifier), "Ctrl+Shift+Z"),
+            std::tuple(Qt::Key_Y, Qt::KeyboardModifiers(Qt::ControlModifier), "Ctrl+Y")}) {
+        QVERIFY2(hasLine(name), name);
+        QVERIFY(hasLine("Ctrl+Z"));
+        QTest::keyClick(view, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(f.xy(Vertex::Green), before);
+        QTest::keyClick(view, key, modifiers);
+        QCOMPARE(f.xy(Vertex::Green), after);
+    }
+    QVERIFY(hasLine("Alt+arrows"));
+    const QPointF centre = view->centre();
+    QTest::keyClick(view, Qt::Key_Right, Qt::AltModifier);
+    QVERIFY(view->centre() != centre);
+    QCOMPARE(f.xy(Vertex::Green), after);
+    QTest::keyClick(view, Qt::Key_Escape);
+    QVERIFY(!view->selectedVertex());
+    // As many as there are pages.
+    QVERIFY(hasLine(qPrintable(QStringLiteral("Ctrl+1 to Ctrl+%1").arg(f.window->pages()->count()))));
 }
 
 void ViewerWindowTest::keyboardGoesToThePage()

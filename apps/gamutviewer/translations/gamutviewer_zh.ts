@@ -2006,14 +2006,19 @@ Shows and edits the colour gamuts of LED displays on CIE chromaticity diagrams.<
         <translation>移除墙(&amp;R)</translation>
     </message>
     <message>
+        <source>Wall</source>
+        <translation>墙</translation>
+    </message>
+    <message>
         <source>Diagram:
-Wheel, + and − – zoom about the pointer; 0 – all of it
-Drag on free ground, middle button, Alt+arrows – move the view
+Wheel, + and − – zoom about the pointer; 0 or Home – all of it
+Drag on free ground, middle button, arrow keys – move the view
 R, G, B, W or Tab – select a primary or the white
 Drag or arrow keys – move it; with Shift a tenth as far
 Ctrl – towards the white; the white at its colour temperature
 Alt – along an axis; Ctrl+Alt – without snapping
-Esc – cancel a drag; otherwise select nothing
+Alt+arrows – move the view all the same
+Esc – cancel a drag or a move by keys; otherwise select nothing
 
 Key:
 Click or Space – show or hide an entry
@@ -2021,6 +2026,7 @@ Double click or Return – show it alone
 
 Numbers:
 Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps
+Page Up, Page Down – ten steps
 Esc – restore the value of the target
 
 Wall:
@@ -2028,16 +2034,21 @@ Arrows – select the next cabinet; Esc – none
 
 Tables:
 Ctrl+C – copy all of the table
+Del – remove the gamut that is selected, in the list of gamuts
 
-Ctrl+1 to Ctrl+4 – show a page</source>
+Ctrl+Z – undo; Ctrl+Shift+Z or Ctrl+Y – redo
+Ctrl+1 to Ctrl+4 – show a page
+Esc – close the messages that have the focus
+The menus show further keys.</source>
         <translation>色度图：
-滚轮、+ 和 − – 以指针为中心缩放；0 – 全部
-在空白处拖动、鼠标中键、Alt+方向键 – 平移
+滚轮、+ 和 − – 以指针为中心缩放；0 或 Home – 全部
+在空白处拖动、鼠标中键、方向键 – 平移
 R、G、B、W 或 Tab – 选择基色或白点
 拖动或方向键 – 移动；按住 Shift 为十分之一
 Ctrl – 朝向白点；白点保持其色温
 Alt – 沿坐标轴；Ctrl+Alt – 不吸附
-Esc – 取消拖动；否则取消选择
+Alt+方向键 – 始终平移
+Esc – 取消拖动或按键移动；否则取消选择
 
 图例：
 单击或空格键 – 显示或隐藏条目
@@ -2045,6 +2056,7 @@ Esc – 取消拖动；否则取消选择
 
 数值：
 上、下方向键 – 一步；按住 Shift 为十分之一步，按住 Ctrl 为十步
+Page Up、Page Down – 十步
 Esc – 恢复目标的数值
 
 墙：
@@ -2052,12 +2064,12 @@ Esc – 恢复目标的数值
 
 表格：
 Ctrl+C – 复制整个表格
+Del – 在色域列表中移除所选色域
 
-Ctrl+1 到 Ctrl+4 – 显示页面</translation>
-    </message>
-    <message>
-        <source>Wall</source>
-        <translation>墙</translation>
+Ctrl+Z – 撤销；Ctrl+Shift+Z 或 Ctrl+Y – 重做
+Ctrl+1 到 Ctrl+4 – 显示页面
+Esc – 关闭有焦点的消息
+菜单中还有其他按键。</translation>
     </message>
     <message>
         <source>Open sam&amp;ple</source>

@@ -244,24 +244,30 @@ void ViewerWindow::showKeys()
     QMessageBox box(QMessageBox::NoIcon, tr("Keys"), QString(), QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.setText(tr("Diagram:\n"
-                   "Wheel, + and − – zoom about the pointer; 0 – all of it\n"
-                   "Drag on free ground, middle button, Alt+arrows – move the view\n"
+                   "Wheel, + and − – zoom about the pointer; 0 or Home – all of it\n"
+                   "Drag on free ground, middle button, arrow keys – move the view\n"
                    "R, G, B, W or Tab – select a primary or the white\n"
                    "Drag or arrow keys – move it; with Shift a tenth as far\n"
                    "Ctrl – towards the white; the white at its colour temperature\n"
                    "Alt – along an axis; Ctrl+Alt – without snapping\n"
-                   "Esc – cancel a drag; otherwise select nothing\n\n"
+                   "Alt+arrows – move the view all the same\n"
+                   "Esc – cancel a drag or a move by keys; otherwise select nothing\n\n"
                    "Key:\n"
                    "Click or Space – show or hide an entry\n"
                    "Double click or Return – show it alone\n\n"
                    "Numbers:\n"
                    "Up, Down – one step; with Shift a tenth of a step, with Ctrl ten steps\n"
+                   "Page Up, Page Down – ten steps\n"
                    "Esc – restore the value of the target\n\n"
                    "Wall:\n"
                    "Arrows – select the next cabinet; Esc – none\n\n"
                    "Tables:\n"
-                   "Ctrl+C – copy all of the table\n\n"
-                   "Ctrl+1 to Ctrl+4 – show a page"));
+                   "Ctrl+C – copy all of the table\n"
+                   "Del – remove the gamut that is selected, in the list of gamuts\n\n"
+                   "Ctrl+Z – undo; Ctrl+Shift+Z or Ctrl+Y – redo\n"
+                   "Ctrl+1 to Ctrl+4 – show a page\n"
+                   "Esc – close the messages that have the focus\n"
+                   "The menus show further keys."));
     box.exec();
 }
 
