@@ -84,12 +84,13 @@ private:
     void placeWavelengths(const QVector<PendingNumber> &wavelengths);
     //! What numbers must leave to be seen, beside marks: whites and handles.
     QVector<QRectF> clearOfNumbers() const;
-    //! Whether a number at \a place would cover one of \a clear, a mark, a ring or an outline.
+    //! Whether a number at \a place would cover one of \a clear, a mark or a ring.
     bool isTaken(const QRectF &place, const QVector<QRectF> &clear) const;
     //! With a null \a leader for none.
     void drawIsothermNumber(const QString &number, const QRectF &place, const QLineF &leader);
-    //! The isotherm's number at the nearest free place, with a line from there to the isotherm.
-    bool leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear);
+    //! The isotherm's number at the nearest free place, with a line from there to the isotherm. Unless it \a mayCross
+    //! them, the number stands on no outline.
+    bool leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear, bool mayCross);
     //! Of isotherms none of which has room for its number beside it, that nearest to the white is named all the same.
     void nameOneIsotherm(QVector<PendingNumber> isotherms, const QVector<QRectF> &clear);
     void placeIsotherms(const QVector<PendingNumber> &isotherms);

@@ -114,8 +114,7 @@ QVector<QRectF> DiagramGamuts::clearOfNumbers() const
 
 bool DiagramGamuts::isTaken(const QRectF &place, const QVector<QRectF> &clear) const
 {
-    return meetsAny(clear, place) || m_marks.places.meets(place, markRadius + 2.0) || isOnRing(place)
-        || outlinesAt(place) > 0;
+    return meetsAny(clear, place) || m_marks.places.meets(place, markRadius + 2.0) || isOnRing(place);
 }
 
 void DiagramGamuts::drawIsothermNumber(const QString &number, const QRectF &place, const QLineF &leader)
@@ -129,7 +128,7 @@ void DiagramGamuts::drawIsothermNumber(const QString &number, const QRectF &plac
     m_step.texts.textIn(place, number, m_sheet.fonts.numbers, palette.planckian, palette.casing);
 }
 
-bool DiagramGamuts::leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear)
+bool DiagramGamuts::leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear, bool mayCross)
 {
     constexpr double step = 4.0;
     constexpr double farther = 1e4; // what is nearer to something else would be taken for its name
@@ -149,7 +148,7 @@ bool DiagramGamuts::leadToIsotherm(const PendingNumber &number, const QVector<QR
             const QLineF &way = ends[0].length() < ends[1].length() ? ends[0] : ends[1];
             const double toMiddle = length(way.p2() - place.center());
             if (way.length() <= labelGap || toMiddle >= least || !m_step.places.isFree(place, m_inner, labelGap)
-                || m_step.places.isCrossed(way) || isTaken(place, clear)) {
+                || m_step.places.isCrossed(way) || isTaken(place, clear) || (!mayCross && outlinesAt(place) > 0)) {
                 continue;
             }
             const bool isNearerToOther = m_marks.places.isBetween(place.center(), 0.0, toMiddle)
@@ -180,9 +179,11 @@ void DiagramGamuts::nameOneIsotherm(QVector<PendingNumber> isotherms, const QVec
             return length(a.line.center() - white) < length(b.line.center() - white);
         });
     }
-    for (const PendingNumber &number : qAsConst(isotherms)) {
-        if (leadToIsotherm(number, clear)) {
-            return;
+    for (const bool mayCross : {false, true}) {
+        for (const PendingNumber &number : qAsConst(isotherms)) {
+            if (leadToIsotherm(number, clear, mayCross)) {
+                return;
+            }
         }
     }
 }
@@ -195,7 +196,7 @@ void DiagramGamuts::placeIsotherms(const QVector<PendingNumber> &isotherms)
         for (const QRectF &place : number.places) {
             const auto isNear = [&](const QPointF &other) { return length(other - place.center()) < isothermNumbers; };
             if (m_step.places.isFree(place, m_inner, labelGap) && std::none_of(placed.cbegin(), placed.cend(), isNear)
-                && !isTaken(place, clear)) {
+                && !isTaken(place, clear) && outlinesAt(place) == 0) {
                 placed.append(place.center());
                 drawIsothermNumber(number.text, place, QLineF());
                 break;
