@@ -363,8 +363,9 @@ DiagramGamuts::NamePlace DiagramGamuts::placeLedTo(
         }
     }
     for (const double distance : {12.0, 17.0, 24.0, 34.0, 48.0, 68.0, 96.0, 136.0, 192.0}) {
-        if (distance >= best.cost) {
-            break; // as a leader is about as long
+        // A leader is about as long, and one that leads to a place on nothing else is good enough.
+        if (distance >= best.cost || (!best.leader.isNull() && best.cost < costOfCovering)) {
+            break;
         }
         for (const QPointF &anchor : qAsConst(anchors)) {
             for (int i = 0; i < directions; ++i) {
