@@ -340,7 +340,7 @@ void MeasurementRowsTest::contradictions_data()
     QTest::newRow("as dark as noise") << header + "w,0.3127,0.3290,95.0456,100,108.9058\na,0.2,0.6,0.01,0.01,0.01\n"
                                       << QString();
     QTest::newRow("empty") << header + "a,0.3127,0.3290,,100,\n" << QString();
-    QTest::newRow("differ") << header + "a,0.3127,0.3310,95.0456,100,108.9058\n" << ofXyz;
+    QTest::newRow("differ") << header + "a,0.3127,0.3310,95.0456,100.00,108.9058\n" << ofXyz;
     QTest::newRow("exchanged") << header + "a,0.3290,0.3127,95.0456,100,108.9058\n" << ofXyz;
     QTest::newRow("several") << header + "a,0.34,0.33,95,100,109\nb,0.3127,0.3290,95,100,109\nc,0.34,0.33,95,100,109\n"
                              << ofXyz + QStringLiteral("; so in 1 further line(s)");

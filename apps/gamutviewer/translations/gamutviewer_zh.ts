@@ -1631,14 +1631,6 @@
         <translation>%1（%2）</translation>
     </message>
     <message>
-        <source>Δu′v′ without correction</source>
-        <translation>未校正 Δu′v′</translation>
-    </message>
-    <message>
-        <source>with correction</source>
-        <translation>已校正</translation>
-    </message>
-    <message>
         <source>temperature of white</source>
         <translation>白色的色温</translation>
     </message>
