@@ -192,7 +192,7 @@ void DiagramView::Private::takeBack()
 
 bool DiagramView::moveVertex(GamutVertex vertex, const QPointF &xy)
 {
-    if (d->hand == Private::Hand::Dragging || d->edit || !d->hasHandles()) {
+    if (!isVertex(vertex) || d->hand == Private::Hand::Dragging || d->edit || !d->hasHandles()) {
         return false;
     }
     TargetMove move = movedTowards(*d->rules, d->context(), vertex, xy);

@@ -198,7 +198,7 @@ void DiagramPainter::paint(QPainter *painter, const QRectF &place) const
     const double unit = device->logicalDpiY() / logicalPixelsPerInch;
     const DiagramFonts fonts(d->font, device, unit);
     const double longest = std::max(place.width(), place.height()) / unit;
-    if (!std::isfinite(longest)) {
+    if (!std::isfinite(longest) || !(place.width() > 0.0) || !(place.height() > 0.0)) {
         return;
     }
     const double enlargement = std::max(1.0, longest / longestSide);

@@ -111,8 +111,8 @@ void DiagramView::setRules(std::shared_ptr<const TargetRules> rules)
 void DiagramView::setSelectedVertex(std::optional<GamutVertex> vertex)
 {
     const auto isIgnored = [&] {
-        return vertex == d->selected || (vertex && !d->hasHandles()) || d->hand == Private::Hand::Holding
-            || d->hand == Private::Hand::Dragging;
+        return vertex == d->selected || (vertex && !(isVertex(*vertex) && d->hasHandles()))
+            || d->hand == Private::Hand::Holding || d->hand == Private::Hand::Dragging;
     };
     if (isIgnored()) {
         return;

@@ -243,6 +243,12 @@ public:
     std::deque<std::function<void()>> untold; //!< the first is told first
 };
 
+//! Whether \a vertex is one of allGamutVertices; a host may have made it of any number.
+inline bool isVertex(GamutVertex vertex)
+{
+    return vertex >= GamutVertex::Red && vertex <= GamutVertex::White;
+}
+
 //! Makes the view's accessible objects known; once is enough.
 void installDiagramAccessibility();
 //! The way of all events to accessibility clients. Tests listen here: without a client, Qt passes nothing on.

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void colorsArePaintedAsInTheirPicture();
     void neededPartsAreAsInTheWhole_data();
     void neededPartsAreAsInTheWhole();
+    void placesWithoutAnAreaStayEmpty();
 };
 
 void DiagramPainterTest::colorSpacesAreClippedAtThePlot_data()
@@ -274,6 +275,21 @@ void DiagramPainterTest::neededPartsAreAsInTheWhole()
         differing += actual != before ? 1 : 0;
     }
     QVERIFY2(differing > 30, qPrintable(QString::number(differing)));
+}
+
+void DiagramPainterTest::placesWithoutAnAreaStayEmpty()
+{
+    DiagramPainter painter;
+    for (const QSizeF &size :
+        {QSizeF(0.0, 50.0), QSizeF(50.0, -5.0), QSizeF(50.0, -2147483648.0), QSizeF(-1.0, -1.0)}) {
+        QImage image(60, 60, QImage::Format_RGB32);
+        image.fill(Qt::blue);
+        const QImage before = image.copy();
+        QPainter onImage(&image);
+        painter.paint(&onImage, QRectF(QPointF(30.0, 30.0), size));
+        onImage.end();
+        QCOMPARE(image, before);
+    }
 }
 
 QTEST_MAIN(DiagramPainterTest)

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void losingTheTargetEndsTheDrag_data();
     void losingTheTargetEndsTheDrag();
     void contentMayBeReplacedInADrag();
+    void numbersThatAreNoVertexAreIgnored();
 };
 
 void DiagramViewHostTest::readOnlyDoesNotEdit()
@@ -498,6 +499,17 @@ void DiagramViewHostTest::declaredGamutAndCmyPointsAreSet()
     QCOMPARE(view.content().cmyPoints.first().name, QStringLiteral("cyan"));
     QVERIFY(view.content().measurePoints.isEmpty());
     QVERIFY(view.content().colorTemperaturePoints.isEmpty());
+}
+
+void DiagramViewHostTest::numbersThatAreNoVertexAreIgnored()
+{
+    View view;
+    view.setSelectedVertex(GamutVertex::Green);
+    for (const int number : {-1, 4, 1000}) {
+        view.setSelectedVertex(GamutVertex(number));
+        QVERIFY(view.selectedVertex() == GamutVertex::Green);
+        QVERIFY(!view.moveVertex(GamutVertex(number), QPointF(0.3, 0.33)));
+    }
 }
 
 QTEST_MAIN(DiagramViewHostTest)
