@@ -245,7 +245,10 @@ void TargetSession::setLeftOut(const std::vector<std::size_t> &cabinets, bool is
     DisplayDescription description = m_document->description();
     bool isAnother = false;
     for (const std::size_t cabinet : cabinets) {
-        WallCabinet &of = description.wall.cabinets.at(cabinet);
+        if (cabinet >= description.wall.cabinets.size()) {
+            continue; // of a wall that has been there before
+        }
+        WallCabinet &of = description.wall.cabinets[cabinet];
         isAnother = isAnother || of.isLeftOut != isLeftOut;
         of.isLeftOut = isLeftOut;
     }
