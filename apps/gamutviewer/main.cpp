@@ -23,6 +23,9 @@
 #include <QScreen>
 
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <new>
 
 namespace {
 
@@ -211,9 +214,45 @@ int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances,
     return QApplication::exec();
 }
 
-} // namespace
+//! The first of the arguments that is no text in the encoding of the system; its file cannot be named to the toolkit.
+QString undecodable(int argc, const char *const *argv)
+{
+#ifdef Q_OS_UNIX
+    for (int i = 1; i < argc; ++i) {
+        const QString text = QString::fromLocal8Bit(argv[i]);
+        if (text.toLocal8Bit() != argv[i]) {
+            return text;
+        }
+    }
+#else
+    Q_UNUSED(argc)
+    Q_UNUSED(argv)
+#endif
+    return {};
+}
 
-int main(int argc, char *argv[])
+// Without a word of the translators, who need memory.
+void sayThatMemoryIsShort()
+{
+    std::fputs("gamutviewer: there is not enough memory\n", stderr);
+}
+
+//! For what cannot be caught: it was thrown where nothing may be, or through the event loop.
+[[noreturn]] void endWithReason()
+{
+    try {
+        if (std::current_exception()) {
+            throw;
+        }
+    } catch (const std::bad_alloc &) {
+        sayThatMemoryIsShort();
+        std::_Exit(Failed);
+    } catch (...) {
+    }
+    std::abort();
+}
+
+int run(int argc, char *argv[])
 {
     // The error stream is for scripts and people; QT_LOGGING_RULES brings the toolkit's own warnings back.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
@@ -226,6 +265,13 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("gamutviewer"));
     QApplication::setApplicationVersion(QStringLiteral(GAMUTVIEWER_VERSION));
 
+    const QString unknown = undecodable(argc, argv);
+    if (!unknown.isEmpty()) {
+        printError(QApplication::translate(
+            "main", "%1: is not text in the encoding of the system; such a file is read from standard input, named -")
+                       .arg(unknown));
+        return WrongInput;
+    }
     const CommandLine commandLine(QApplication::arguments());
     switch (commandLine.action()) {
     case CommandLine::Action::Help:
@@ -301,4 +347,17 @@ int main(int argc, char *argv[])
         }
     }
     return show(*opened, tolerances, commandLine, std::move(followed.input));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    std::set_terminate(&endWithReason);
+    try {
+        return run(argc, argv);
+    } catch (const std::bad_alloc &) {
+        sayThatMemoryIsShort();
+        return Failed;
+    }
 }
