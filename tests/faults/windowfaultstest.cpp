@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+#include "failingcalls.h"
+
+#include "drawing/picture.h"
+#include "window/diagrampage.h"
+
+#include <apps/windowfixture.h>
+
+#include <QDir>
+#include <QFile>
+
+#include <functional>
+
+using namespace gamutviewer;
+
+/*! Saves, exports and opens again and again, and lets another call of the system fail each time. */
+class WindowFaultsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { failCall(nullptr, 0, nullptr, 0); }
+    void saving_data() { calls(); }
+    void saving();
+    void exporting_data() { calls(); }
+    void exporting();
+    void opening_data() { calls(); }
+    void opening();
+
+private:
+    static void calls();
+};
+
+namespace {
+
+const QByteArray former = "what was there before\n";
+
+QByteArray contentOf(const QString &fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+//! Closes the message of what went wrong, and keeps its text.
+class Message {
+public:
+    Message()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                failCall(nullptr, 0, nullptr, 0);
+                m_text = box->text();
+                box->accept();
+            }
+        });
+        m_timer.start(0);
+    }
+    bool saysWhy() const
+    {
+        return !m_text.isEmpty() && !m_text.contains(QLatin1Char('\n'))
+            && !m_text.contains(QLatin1String("Unknown error"));
+    }
+
+private:
+    QTimer m_timer;
+    QString m_text;
+};
+
+//! Runs \a action with another call failing each time, until none does; \a check is told whether it was done.
+void failEach(const QString &call, const QString &folder, const std::function<void()> &begin,
+    const std::function<bool()> &action, const std::function<void(bool isDone, bool saysWhy)> &check)
+{
+    constexpr int most = 100;
+    int failures = 0;
+    for (const bool isLasting : {false, true}) {
+        for (int number = 1;; ++number) {
+            QVERIFY2(number < most, "the calls do not come to an end");
+            begin();
+            Message message;
+            failCall(call.toLatin1().constData(), number, folder.toLocal8Bit().constData(), isLasting ? 1 : 0);
+            const bool isDone = action();
+            const bool hasFailed = hasCallFailed() != 0 || !isDone;
+            failCall(nullptr, 0, nullptr, 0);
+            if (!hasFailed) {
+                QVERIFY(isDone);
+                break;
+            }
+            ++failures;
+            check(isDone, message.saysWhy());
+            if (QTest::currentTestFailed()) {
+                qWarning("%s %d%s", qPrintable(call), number, isLasting ? " and later" : "");
+                return;
+            }
+        }
+    }
+    QVERIFY2(failures > 0 || call == QLatin1String("rename") || call == QLatin1String("fsync"), "no call has failed");
+}
+
+} // namespace
+
+void WindowFaultsTest::calls()
+{
+    QTest::addColumn<QString>("call");
+    for (const char *call : {"open", "write", "fsync", "rename", "read"}) {
+        QTest::newRow(call) << QString::fromLatin1(call);
+    }
+}
+
+void WindowFaultsTest::saving()
+{
+    QFETCH(QString, call);
+    if (call == QLatin1String("read")) {
+        return; // nothing is
+    }
+    WindowFixture f;
+    QTemporaryDir folder;
+    const QString file = writeFile(folder, QStringLiteral("saved.json"), former);
+    f.change();
+    const QByteArray shown = gamutfiles::descriptionText(f.document().own());
+    failEach(
+        call, folder.path(),
+        [&] {
+            writeFile(folder, QStringLiteral("saved.json"), former);
+            f.document().history()->undo();
+            f.change();
+        },
+        [&] { return f.window->saveTo(file); },
+        [&](bool isDone, bool saysWhy) {
+            QCOMPARE(gamutfiles::descriptionText(f.document().own()), shown);
+            QCOMPARE(
+                QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("saved.json")});
+            QCOMPARE(contentOf(file), isDone ? shown : former);
+            QCOMPARE(f.document().isModified(), !isDone);
+            QVERIFY(isDone || saysWhy);
+        });
+    // What was not saved can be saved as soon as there is room.
+    QVERIFY(f.window->saveTo(file));
+    QCOMPARE(contentOf(file), shown);
+    QVERIFY(!f.document().isModified());
+}
+
+void WindowFaultsTest::exporting()
+{
+    QFETCH(QString, call);
+    if (call == QLatin1String("read")) {
+        return; // nothing is
+    }
+    WindowFixture f;
+    QTemporaryDir folder;
+    const QString name = QStringLiteral("out.png");
+    const QString file = writeFile(folder, name, former);
+    const Picture picture = f.window->diagramPage()->picture();
+    PictureExtent extent;
+    extent.size = QSize(120, 120);
+    failEach(
+        call, folder.path(), [&] { writeFile(folder, name, former); },
+        [&] { return f.window->exportTo(file, picture, extent); },
+        [&](bool isDone, bool saysWhy) {
+            QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{name});
+            if (isDone) {
+                QVERIFY(!QImage(file).isNull());
+            } else {
+                QCOMPARE(contentOf(file), former);
+                QVERIFY(saysWhy);
+            }
+        });
+}
+
+void WindowFaultsTest::opening()
+{
+    QFETCH(QString, call);
+    if (call != QLatin1String("open") && call != QLatin1String("read")) {
+        return; // nothing else is called
+    }
+    WindowFixture f;
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("other.json"));
+    QVERIFY(QFile::copy(QStringLiteral(SAMPLE_FILE), file));
+    const QByteArray before = gamutfiles::descriptionText(DisplayDescription());
+    const QByteArray whole = gamutfiles::descriptionText(f.document().own()); // the sample
+    failEach(
+        call, folder.path(), [&] { f.window->setDescription(DisplayDescription(), QString()); },
+        [&] { return f.window->openPath(file); },
+        [&](bool isDone, bool saysWhy) {
+            QCOMPARE(gamutfiles::descriptionText(f.document().own()), isDone ? whole : before);
+            QVERIFY(isDone || saysWhy);
+        });
+}
+
+QTEST_MAIN(WindowFaultsTest)
+#include "windowfaultstest.moc"
