@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "stallwatch.h"
+
+#ifdef __unix__
+
+#include <atomic>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <thread>
+
+#include <execinfo.h>
+#include <pthread.h>
+#include <unistd.h>
+
+namespace soak {
+
+namespace {
+
+const char *shownWhere = "";
+
+// Of what may be called in a signal handler only.
+void say(const char *text)
+{
+    const auto written = ::write(STDERR_FILENO, text, std::strlen(text));
+    static_cast<void>(written);
+}
+
+void sayStack(const char *what)
+{
+    constexpr int most = 100;
+    void *frames[most]; // NOLINT: the interface of backtrace()
+    say("\nsoak: ");
+    say(what);
+    say(" during ");
+    say(shownWhere);
+    say("\n");
+    ::backtrace_symbols_fd(frames, ::backtrace(frames, most), STDERR_FILENO);
+}
+
+void onStall(int)
+{
+    sayStack("a step takes too long");
+    ::_exit(EXIT_FAILURE);
+}
+
+void onCrash(int signal)
+{
+    sayStack("a crash");
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
+
+double seconds(clockid_t clock)
+{
+    timespec time{};
+    ::clock_gettime(clock, &time);
+    return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
+}
+
+} // namespace
+
+class StallWatch::Private {
+public:
+    explicit Private(double limit)
+        : m_limit(limit)
+        , m_watched(::pthread_self())
+    {
+        ::pthread_getcpuclockid(m_watched, &m_clock);
+        m_thread = std::thread([this] { watch(); });
+    }
+    ~Private()
+    {
+        m_ends = true;
+        m_thread.join();
+    }
+    void beat() { m_beats.fetch_add(1, std::memory_order_relaxed); }
+
+private:
+    void watch()
+    {
+        constexpr double longestWait = 30.0;
+        constexpr std::chrono::milliseconds interval(50);
+        unsigned last = 0;
+        double computed = seconds(m_clock);
+        double waited = seconds(CLOCK_MONOTONIC);
+        while (!m_ends) {
+            std::this_thread::sleep_for(interval);
+            const unsigned now = m_beats.load(std::memory_order_relaxed);
+            if (now != last) {
+                last = now;
+                computed = seconds(m_clock);
+                waited = seconds(CLOCK_MONOTONIC);
+                continue;
+            }
+            const double busy = seconds(m_clock) - computed;
+            const double idle = seconds(CLOCK_MONOTONIC) - waited - busy;
+            // A process that waits for the processor has computed something in between.
+            if (busy > m_limit || (idle > longestWait && busy < m_limit / 100.0)) {
+                ::pthread_kill(m_watched, SIGUSR2);
+                return;
+            }
+        }
+    }
+
+    double m_limit;
+    pthread_t m_watched;
+    clockid_t m_clock{};
+    std::atomic<unsigned> m_beats{0};
+    std::atomic<bool> m_ends{false};
+    std::thread m_thread;
+};
+
+StallWatch::StallWatch(double seconds, const char *where)
+    : d((shownWhere = where, std::make_unique<Private>(seconds)))
+{
+    void *frame = nullptr;
+    ::backtrace(&frame, 1); // loads what it needs, which a signal handler must not
+    std::signal(SIGUSR2, &onStall);
+    std::signal(SIGABRT, &onCrash);
+#ifndef __SANITIZE_ADDRESS__ // which tells of these itself, and then aborts
+    std::signal(SIGSEGV, &onCrash);
+    std::signal(SIGFPE, &onCrash);
+#endif
+}
+
+#else
+
+namespace soak {
+
+class StallWatch::Private {
+public:
+    void beat() { }
+};
+
+StallWatch::StallWatch(double, const char *)
+    : d(std::make_unique<Private>())
+{
+}
+
+#endif
+
+StallWatch::~StallWatch() = default;
+
+void StallWatch::beat()
+{
+    d->beat();
+}
+
+} // namespace soak

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_TESTS_SOAK_STALLWATCH_H
+#define CEIECHART_TESTS_SOAK_STALLWATCH_H
+
+#include <memory>
+
+namespace soak {
+
+/*!
+ * \brief Ends the program with the stack of the main thread when a step of it takes too long, and says at any crash
+ * what was being done.
+ *
+ * A step takes too long when it computes for longer than the limit, or does not end for half a minute because it waits.
+ * Time in which other programs had the processor does not count. Does nothing where the system is not POSIX.
+ */
+class StallWatch {
+public:
+    /*! \brief Watches the calling thread. \a where points to a text of what is done, which may change at any time. */
+    StallWatch(double seconds, const char *where);
+    ~StallWatch();
+    StallWatch(const StallWatch &) = delete;
+    StallWatch &operator=(const StallWatch &) = delete;
+
+    /*! \brief A step has ended and another one begins. */
+    void beat();
+
+private:
+    class Private;
+    std::unique_ptr<Private> const d;
+};
+
+} // namespace soak
+
+#endif // CEIECHART_TESTS_SOAK_STALLWATCH_H
