@@ -3,6 +3,7 @@
 #include <ceiechart/diagram/diagramgamuts_p.h>
 #include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/polylines_p.h>
+#include <ceiechart/diagram/targetrules.h>
 
 #include <QPainterPath>
 
@@ -59,20 +60,44 @@ DiagramGamuts::DiagramGamuts(const DiagramSheet &sheet, const ShownMarks &marks)
     const auto standards = std::count_if(
         m_shown.begin(), m_shown.end(), [](const Shown &gamut) { return gamut.role == GamutRole::Standard; });
     m_namesStandards = standards <= mostNamedStandards;
+    m_drawsStandardsPlainly = standards > mostCasedStandards;
+    findEquals();
+}
+
+void DiagramGamuts::findEquals()
+{
     // Painted again and again, the soft edges of a line would harden.
     for (size_t i = m_shown.size(); i-- > 0;) {
-        const std::vector<size_t> equals = equalsOf(i);
+        const std::vector<size_t> above = equalsOf(i);
         m_shown[i].isCovered
-            = std::any_of(equals.begin(), equals.end(), [&](size_t k) { return m_shown[k].role == m_shown[i].role; });
-        if (!m_shown[i].isCovered) {
-            m_outlines[equalityCell(m_shown[i].corners)].push_back(i);
+            = std::any_of(above.begin(), above.end(), [&](size_t k) { return m_shown[k].role == m_shown[i].role; });
+        if (m_shown[i].isCovered) {
+            continue;
         }
+        m_outlines[equalityCell(m_shown[i].corners)].push_back(i);
+        for (const size_t k : above) {
+            m_shown[i].equals.push_back(k);
+            m_shown[k].equals.push_back(i);
+        }
+    }
+    for (Shown &gamut : m_shown) {
+        std::sort(gamut.equals.begin(), gamut.equals.end());
     }
 }
 
 DiagramStep DiagramGamuts::takeUnedited()
 {
-    for (size_t i = 0; i < m_shown.size(); ++i) {
+    size_t first = 0;
+    if (m_drawsStandardsPlainly) {
+        QVector<QLineF> lines;
+        for (; first < m_shown.size() && m_shown[first].role == GamutRole::Standard; ++first) {
+            if (isDrawn(first, false)) {
+                addPlainOutline(first, &lines);
+            }
+        }
+        m_step.drawing.lines(lines, QPen(gamutStyle(GamutRole::Standard).color, 1.0, Qt::SolidLine, Qt::FlatCap));
+    }
+    for (size_t i = first; i < m_shown.size(); ++i) {
         if (isDrawn(i, false)) {
             drawOutline(i, false);
         }
@@ -144,7 +169,6 @@ std::vector<size_t> DiagramGamuts::equalsOf(size_t i) const
             }
         }
     }
-    std::sort(equals.begin(), equals.end());
     return equals;
 }
 
@@ -152,7 +176,7 @@ int DiagramGamuts::equalsAbove(size_t i, bool targetsToo) const
 {
     int count = 0;
     GamutRole last = m_shown[i].role;
-    for (const size_t k : equalsOf(i)) {
+    for (const size_t k : m_shown[i].equals) {
         // A role's gamuts follow one another.
         if (k > i && m_shown[k].role != last && isDrawn(k, targetsToo)) {
             ++count;
@@ -164,7 +188,7 @@ int DiagramGamuts::equalsAbove(size_t i, bool targetsToo) const
 
 bool DiagramGamuts::hasEqualBelow(size_t i) const
 {
-    const std::vector<size_t> equals = equalsOf(i);
+    const std::vector<size_t> &equals = m_shown[i].equals;
     return !equals.empty() && equals.front() < i;
 }
 
@@ -188,6 +212,18 @@ void DiagramGamuts::drawOutline(size_t i, bool targetsToo)
     }
     drawCased(m_step.drawing, m_shown[i].corners, true, m_plot, pen,
         hasEqualBelow(i) ? QColor(Qt::transparent) : m_palette.casing);
+}
+
+void DiagramGamuts::addPlainOutline(size_t i, QVector<QLineF> *lines) const
+{
+    for (const LinePart &part : partsWithin(m_shown[i].corners, true, m_plot)) {
+        for (int k = 1; k < part.points.size(); ++k) {
+            lines->append(QLineF(part.points.at(k - 1), part.points.at(k)));
+        }
+        if (part.closed) {
+            lines->append(QLineF(part.points.last(), part.points.first()));
+        }
+    }
 }
 
 void DiagramGamuts::drawCommonArea()
@@ -245,6 +281,27 @@ void DiagramGamuts::drawLostArea()
         }
     }
     m_step.drawing.lines(hatch, QPen(m_palette.hatch, 1.0, Qt::SolidLine, Qt::FlatCap));
+}
+
+bool sameButForEdits(const DiagramContent &a, const DiagramContent &b)
+{
+    if (a.layers != b.layers || a.colors != b.colors || a.ground != b.ground) {
+        return false;
+    }
+    const auto isTarget = [](const DiagramGamut &gamut) { return gamut.role == GamutRole::Target; };
+    auto left = a.gamuts.cbegin();
+    auto right = b.gamuts.cbegin();
+    for (;; ++left, ++right) {
+        left = std::find_if_not(left, a.gamuts.cend(), isTarget);
+        right = std::find_if_not(right, b.gamuts.cend(), isTarget);
+        if (left == a.gamuts.cend() || right == b.gamuts.cend()) {
+            return left == a.gamuts.cend() && right == b.gamuts.cend();
+        }
+        if (left->role != right->role || left->visible != right->visible
+            || !sameTargets(left->gamut.getTargets(), right->gamut.getTargets())) {
+            return false;
+        }
+    }
 }
 
 DiagramStep gamutsStep(const DiagramSheet &sheet, const ShownMarks &marks)

@@ -35,6 +35,7 @@ private:
         GamutRole role;
         QPolygonF corners;
         bool isCovered = false; // by the equal outline of another gamut of the role, which looks the same
+        std::vector<size_t> equals{}; // those that are not covered and equal this one, from bottom to top
     };
 
     struct Ring {
@@ -54,8 +55,9 @@ private:
     //! Whether the outlines number \a i and \a k fall on one another.
     bool areEqual(size_t i, size_t k) const;
     bool isDrawn(size_t i, bool targetsToo) const;
-    //! Those that are not covered and equal number \a i, from bottom to top.
+    //! Those of m_outlines that equal number \a i.
     std::vector<size_t> equalsOf(size_t i) const;
+    void findEquals();
     //! How many other roles have gamuts that are drawn later and equal number \a i: those of one role look the same.
     int equalsAbove(size_t i, bool targetsToo) const;
     bool hasEqualBelow(size_t i) const;
@@ -63,6 +65,8 @@ private:
     bool equalsTarget(size_t i) const;
     //! Of gamuts that equal one another the lower ones are wider, so that each shows on both sides of the next.
     void drawOutline(size_t i, bool targetsToo);
+    //! Adds the outline number \a i to \a lines.
+    void addPlainOutline(size_t i, QVector<QLineF> *lines) const;
     void drawCommonArea();
     void drawLostArea();
 
@@ -120,6 +124,7 @@ private:
     QRectF m_plot;
     QRectF m_inner; // where texts may stand
     std::vector<Shown> m_shown; // from bottom to top
+    bool m_drawsStandardsPlainly = false; // for there are too many of them to tell one from another
     bool m_namesStandards = true; // or there are too many, also for other names to keep clear of them
     std::map<OutlineCell, std::vector<size_t>> m_outlines; // those that are not covered, by where they lie
     QVector<QRectF> m_handles;
@@ -128,6 +133,9 @@ private:
     QVector<QRectF> m_whites; // what their marks cover
     DiagramStep m_step;
 };
+
+/*! \brief Whether takeUnedited() gives the same of \a a and \a b, on the same part of the diagram. */
+bool sameButForEdits(const DiagramContent &a, const DiagramContent &b);
 
 } // namespace ceiechart
 

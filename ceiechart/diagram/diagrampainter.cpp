@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/diagramcolors_p.h>
+#include <ceiechart/diagram/diagramgamuts_p.h>
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/shownmarks_p.h>
@@ -156,7 +157,9 @@ void DiagramPainter::setContent(const DiagramContent &content)
     if (!hasMarksOf(d->content, content)) {
         d->marks.reset();
     }
-    d->gamuts.reset();
+    if (!sameButForEdits(d->content, content)) {
+        d->gamuts.reset();
+    }
     d->edited.reset();
     d->content = content;
 }

@@ -21,6 +21,8 @@ constexpr double guideReach = handleExtent + 4.0; // from a place that was snapp
 // Among more of them, names say nothing
 constexpr int mostNamedMarks = 500; // in the plot
 constexpr int mostNamedStandards = 100;
+// Of more of them, casings and dashes cannot be told apart, and take seconds to stroke
+constexpr int mostCasedStandards = 500;
 
 /*! \brief The fonts of a diagram on one device. */
 struct DiagramFonts {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the view shows, and what follows when it changes.
+#include <ceiechart/diagram/diagramgamuts_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
 
 #include <algorithm>
@@ -45,10 +46,11 @@ void DiagramView::Private::change(const DiagramContent &changed)
 {
     const QPointer<DiagramView> view(q);
     const auto former = target() ? std::make_optional(target()->gamut.getTargets()) : std::nullopt;
+    const DiagramContent replaced = content;
     content = changed;
     content.ground = groundOf(q->palette());
     painter->setContent(content);
-    linesAreReady = false;
+    linesAreReady = linesAreReady && sameButForEdits(replaced, content);
     const bool isOther = former && target() && !sameTargets(*former, target()->gamut.getTargets());
     if (edit && isOther) {
         edit->rebase(target()->gamut.getTargets());
