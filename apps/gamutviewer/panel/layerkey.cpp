@@ -321,9 +321,13 @@ void LayerKey::build()
 
 void LayerKey::measure()
 {
-    const int width = sizeHintForColumn(0);
     // In a drag, the diagram must stay where it is.
-    if (width != m_width && !m_document->isDragging()) {
+    if (m_isMeasured || m_document->isDragging()) {
+        return;
+    }
+    m_isMeasured = true;
+    const int width = sizeHintForColumn(0);
+    if (width != m_width) {
         m_width = width;
         updateGeometry();
     }
@@ -346,6 +350,7 @@ void LayerKey::refresh()
     if (made != m_built) {
         m_built = made;
         build();
+        m_isMeasured = false;
     }
     measure();
     const QSet<QString> named = namedStandards();
@@ -479,6 +484,7 @@ void LayerKey::changeEvent(QEvent *event)
     QListWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         doItemsLayout();
+        m_isMeasured = false;
         measure();
     }
 }

@@ -80,6 +80,7 @@ private:
     std::optional<Click> m_click; // the last one, until the entries change
     AloneOfKind m_alone;
     int m_width = 0; // pixels that the widest entry takes
+    bool m_isMeasured = false; // or the entries are others since
 };
 
 } // namespace gamutviewer

@@ -99,6 +99,12 @@ SidePanel::SidePanel(TargetSession *session, QWidget *parent)
     layout->addWidget(m_tabs, 1);
 
     connect(m_document, &Document::changed, this, &SidePanel::refresh);
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
+        if (m_coverageIsStale && m_tabs->currentWidget() == m_coverage) {
+            m_coverageIsStale = false;
+            refreshCoverage();
+        }
+    });
     refresh();
     setFileNotes({});
 }
@@ -119,8 +125,14 @@ void SidePanel::addFileNotes(const FileNotes &notes)
 void SidePanel::refresh()
 {
     refreshValues();
-    refreshCoverage();
     refreshHues();
+    // Thousands of rows take longer than an edit may, and a hidden table is not read.
+    constexpr int mostHidden = 500;
+    m_coverageIsStale
+        = m_tabs->currentWidget() != m_coverage && m_document->description().standards.size() > mostHidden;
+    if (!m_coverageIsStale) {
+        refreshCoverage();
+    }
 }
 
 void SidePanel::refreshValues()

@@ -49,6 +49,7 @@ private:
     QTabWidget *m_tabs;
     GroupedTable *m_values;
     GroupedTable *m_coverage;
+    bool m_coverageIsStale = false;
     GroupedTable *m_hues;
     QPlainTextEdit *m_files;
     FileNotes m_notes;
