@@ -124,8 +124,12 @@ public:
         : m_round(round)
     {
         renew();
-        // A question and an open menu run loops of their own, in which the use goes on.
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { answer(); });
+        // A question and an open menu run loops of their own, in which the use goes on. The answer to one may open
+        // another, so it must not be given by the timer itself, which would not fire again before it returns.
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+            QMetaObject::invokeMethod(
+                &m_timer, [this] { answer(); }, Qt::QueuedConnection);
+        });
         m_timer.start(0);
     }
 

@@ -82,6 +82,7 @@ private:
     void watch()
     {
         constexpr double longestWait = 30.0;
+        constexpr double leastShare = 0.01; // of the time, for a program that waits only for the processor
         constexpr std::chrono::milliseconds interval(50);
         unsigned last = 0;
         double computed = seconds(m_clock);
@@ -97,8 +98,7 @@ private:
             }
             const double busy = seconds(m_clock) - computed;
             const double idle = seconds(CLOCK_MONOTONIC) - waited - busy;
-            // A process that waits for the processor has computed something in between.
-            if (busy > m_limit || (idle > longestWait && busy < m_limit / 100.0)) {
+            if (busy > m_limit || (idle > longestWait && busy < leastShare * idle)) {
                 ::pthread_kill(m_watched, SIGUSR2);
                 return;
             }
