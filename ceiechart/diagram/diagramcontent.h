@@ -38,7 +38,7 @@ enum class DiagramLayer {
     Grid = 0x000040, //!< the lines of the grid
     CommonArea = 0x000080, //!< what the target and the display have in common
     LostArea = 0x000100, //!< what the target gives up of the display, hatched
-    Standards = 0x000200, //!< gamuts of GamutRole::Standard
+    Standards = 0x000200, //!< gamuts of GamutRole::Standard; more than 500 as plain thin lines
     Originals = 0x000400, //!< gamuts of GamutRole::Original
     MeasuredGamuts = 0x000800, //!< gamuts of GamutRole::Measured
     DeclaredGamuts = 0x001000, //!< gamuts of GamutRole::Declared
