@@ -32,6 +32,8 @@ private Q_SLOTS:
     void dominantWavelengthsAreShown();
     void undefinedTemperatureIsTold();
     void comparePageTellsWhatIsLost();
+    void largeTablesAreFilledWhenTheyAreShown();
+    void cabinetsThatAreNotThereAreNotLeftOut();
 };
 
 void TablesTest::tablesAreCopiedWhole()
@@ -152,6 +154,40 @@ void TablesTest::comparePageTellsWhatIsLost()
     QVERIFY(qAbs(lostShare(rec2020, Model::rec709().getTargets(), Model::Diagram::Cie1931) - 0.4711) < 1e-3);
     QVERIFY(qAbs(lostShare(Model::rec709().getTargets(), rec2020, Model::Diagram::Cie1976)) < 1e-9);
     QCOMPARE(lostShare(Model::Targets(), rec2020, Model::Diagram::Cie1931), 0.0);
+}
+
+void TablesTest::largeTablesAreFilledWhenTheyAreShown()
+{
+    constexpr int many = 600;
+    WindowFixture f;
+    DisplayDescription description = f.document().description();
+    const int few = int(description.allStandards().size());
+    for (int i = 0; i < many; ++i) {
+        const QString name = QStringLiteral("standard %1").arg(i);
+        description.gamuts.emplace_back(Model::ColorGamut(name.toStdString(), Model::rec709().getTargets()));
+        description.standards.append(name);
+    }
+    const GroupedTable *table = f.window->panel()->coverage();
+    const int before = table->rowCount();
+    f.window->setDescription(description, QString());
+    auto *tabs = f.window->panel()->findChild<QTabWidget *>();
+    QVERIFY(tabs && tabs->currentWidget() != table);
+    QCOMPARE(table->rowCount(), before);
+    tabs->setCurrentWidget(f.window->panel()->coverage());
+    const int groups = (before + few) / (few + 1); // each with a title; the last may be a title alone
+    QVERIFY(table->rowCount() >= before + many * (groups - 1));
+    QCOMPARE(table->item(1, 0)->text(), f.document().description().standards.first());
+    // From then on it follows.
+    const QString former = table->text();
+    f.change();
+    QVERIFY(table->text() != former);
+}
+
+void TablesTest::cabinetsThatAreNotThereAreNotLeftOut()
+{
+    WindowFixture f;
+    f.window->session()->setLeftOut({0, 3, std::size_t(-1)}, true);
+    QVERIFY(!f.document().isModified());
 }
 
 QTEST_MAIN(TablesTest)

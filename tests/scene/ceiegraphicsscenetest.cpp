@@ -836,6 +836,7 @@ void CEIEGraphicsSceneTest::refreshAreaLeavesAWideWhitePen()
     for (const QList<ColorTriangleObject> &triangles :
         {QList<ColorTriangleObject>(), QList<ColorTriangleObject>{reference::wideGamut()}, reference::gamutPair()}) {
         Scene scene(triangles);
+        QVERIFY(!scene.refreshArea(nullptr));
         QImage image(50, 50, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::black);
         QPainter painter(&image);
