@@ -31,17 +31,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <initializer_list>
-#include <iterator>
 #include <utility>
-
-#if defined(__GNUC__) && defined(__x86_64__)
-#define CEIECHART_FILL_X86 1
-#ifndef __clang__
-#define CEIECHART_FILL_AVX512 1 // only GCC can be told to use registers of 512 bits for one function
-#endif
-#endif
 
 namespace ceiechart {
 
@@ -50,98 +41,6 @@ namespace {
 constexpr int runLength = 64; //!< pixels
 constexpr double largestAmount = 8.0; //!< the error estimate holds up to this amount
 constexpr double roundingUnit = 1.0 / (1 << 24);
-
-inline unsigned bitsOf(float value)
-{
-    unsigned bits;
-    static_assert(sizeof bits == sizeof value, "bits of a float");
-    std::memcpy(&bits, &value, sizeof bits);
-    return bits;
-}
-
-#ifdef __GNUC__
-__attribute__((always_inline))
-#endif
-inline bool
-decideRun(const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
-{
-    // A sum with this number has the nearest whole number in its lowest bits.
-    constexpr float wholes = 12582912.0F; // 1.5 * 2^23
-    constexpr unsigned wholesBits = 0x4b400000U;
-    const float farthest = 0.5F - run.margin;
-    unsigned any = 0;
-    for (int k = 0; k < count; ++k) {
-        const auto step = static_cast<float>(k);
-        float red = run.red + step * run.redStep;
-        float green = run.green + step * run.greenStep;
-        float blue = run.blue + step * run.blueStep;
-        red = red > 0.0F ? red : 0.0F;
-        green = green > 0.0F ? green : 0.0F;
-        blue = blue > 0.0F ? blue : 0.0F;
-        red = red < 1.0F ? red : 1.0F;
-        green = green < 1.0F ? green : 1.0F;
-        blue = blue < 1.0F ? blue : 1.0F;
-        float largest = green > red ? green : red;
-        largest = blue > largest ? blue : largest;
-
-        const float scale = 255.0F / largest;
-        red *= scale;
-        green *= scale;
-        blue *= scale;
-        const float nearRed = red + wholes;
-        const float nearGreen = green + wholes;
-        const float nearBlue = blue + wholes;
-        const float offRed = std::fabs(red - (nearRed - wholes));
-        const float offGreen = std::fabs(green - (nearGreen - wholes));
-        const float offBlue = std::fabs(blue - (nearBlue - wholes));
-        float off = offGreen > offRed ? offGreen : offRed;
-        off = offBlue > off ? offBlue : off;
-
-        const auto near = unsigned(off > farthest);
-        undecided[k] = near;
-        any |= near;
-        // What is above the lowest byte of each is the same for all pixels, or shifted out.
-        colors[k] = (bitsOf(nearRed) << 16) + (bitsOf(nearGreen) << 8) + bitsOf(nearBlue)
-            + (0xff000000U - (wholesBits << 8) - wholesBits);
-    }
-    return any != 0;
-}
-
-bool decideAnywhere(const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
-{
-    return decideRun(run, count, colors, undecided);
-}
-
-bool everywhere()
-{
-    return true;
-}
-
-#ifdef CEIECHART_FILL_X86
-__attribute__((target("avx2"))) bool decideAvx2(const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
-{
-    return decideRun(run, count, colors, undecided);
-}
-
-bool hasAvx2()
-{
-    return __builtin_cpu_supports("avx2") != 0;
-}
-#endif
-
-#ifdef CEIECHART_FILL_AVX512
-__attribute__((target("avx512f,avx512bw,avx512dq,avx512vl,prefer-vector-width=512"))) bool decideAvx512(
-    const PixelRun &run, int count, QRgb *colors, unsigned *undecided)
-{
-    return decideRun(run, count, colors, undecided);
-}
-
-bool hasAvx512()
-{
-    return __builtin_cpu_supports("avx512f") != 0 && __builtin_cpu_supports("avx512bw") != 0
-        && __builtin_cpu_supports("avx512dq") != 0 && __builtin_cpu_supports("avx512vl") != 0;
-}
-#endif
 
 Channels amountsAt(const HorseshoeFill &fill, int x, int y)
 {
@@ -205,25 +104,6 @@ bool holdsRgb(QImage::Format format)
 double decisionMargin(double magnitude)
 {
     return (1530.0 * 7.0 * magnitude + 900.0) * roundingUnit + 1e-6;
-}
-
-const FillKernel fillKernels[] = {
-#ifdef CEIECHART_FILL_AVX512
-    {"AVX-512", hasAvx512, decideAvx512},
-#endif
-#ifdef CEIECHART_FILL_X86
-    {"AVX2", hasAvx2, decideAvx2},
-#endif
-    {"baseline", everywhere, decideAnywhere},
-};
-
-const int fillKernelCount = int(std::size(fillKernels));
-
-const FillKernel &fastestFillKernel()
-{
-    static const FillKernel &fastest = *std::find_if(
-        std::begin(fillKernels), std::end(fillKernels), [](const FillKernel &kernel) { return kernel.supported(); });
-    return fastest;
 }
 
 RowFill::RowFill(const HorseshoeFill &fill, const FillKernel &kernel)

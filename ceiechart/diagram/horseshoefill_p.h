@@ -5,6 +5,7 @@
 #include <ceiechart/atlas/ceiatlasvalue.h>
 #include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/diagram/diagramgeometry.h>
+#include <ceiechart/diagram/fillkernels_p.h>
 
 #include <QRgb>
 
@@ -60,41 +61,10 @@ struct HorseshoeFill {
 };
 
 /*!
- * \brief A run of pixels in a row: the amounts at its first pixel, their steps from pixel to pixel, and the margin with
- * which a channel must miss a rounding boundary to be decided.
- */
-struct PixelRun {
-    float red, green, blue;
-    float redStep, greenStep, blueStep;
-    float margin;
-};
-
-/*!
- * \brief A function that colours runs of pixels, and whether the processor supports it; see horseshoefill.cpp.
- *
- * All kernels give the same colours. The fill uses the fastest one that the processor supports.
- */
-struct FillKernel {
-    const char *name;
-    bool (*supported)();
-    /*!
-     * \brief Colours \a count pixels and marks in \a undecided those that must be computed in double precision.
-     * \return whether any pixel is undecided
-     */
-    bool (*decide)(const PixelRun &run, int count, QRgb *colors, unsigned *undecided);
-};
-
-/*!
  * \brief The distance from a rounding boundary below which a channel is undecided.
  * \param magnitude the largest magnitude of an amount on the row
  */
 double decisionMargin(double magnitude);
-
-/*! \brief All kernels, from the fastest to the slowest. Every processor supports the last one. */
-extern const FillKernel fillKernels[];
-extern const int fillKernelCount;
-/*! \brief The fastest kernel that the processor supports. */
-const FillKernel &fastestFillKernel();
 
 /*!
  * \brief Fills the horseshoe in the first \a width columns and \a height rows of \a picture.

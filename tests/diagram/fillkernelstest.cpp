@@ -24,6 +24,8 @@ private Q_SLOTS:
     void errorsStayWithinTheMargin();
     void mostPixelsAreDecidedAtOnce();
     void aBaselineKernelIsAlwaysThere();
+    void processorsAreToldApart();
+    void pixelsBeyondTheRunStay();
     void nothingToFill();
 
 private:
@@ -254,6 +256,48 @@ void FillKernelsTest::aBaselineKernelIsAlwaysThere()
 {
     QVERIFY(ceiechart::fillKernels[ceiechart::fillKernelCount - 1].supported());
     QVERIFY(ceiechart::fastestFillKernel().supported());
+}
+
+// The compiler's own function asks the processor and the operating system too.
+void FillKernelsTest::processorsAreToldApart()
+{
+#if defined(__GNUC__) && defined(__x86_64__) && !defined(Q_OS_WIN)
+    QStringList expected;
+    if (__builtin_cpu_supports("avx512f")) {
+        expected += QStringLiteral("AVX-512");
+    }
+    if (__builtin_cpu_supports("avx2")) {
+        expected += QStringLiteral("AVX2");
+    }
+    expected += QStringLiteral("baseline");
+    QStringList found;
+    for (const ceiechart::FillKernel *kernel : supportedKernels()) {
+        found += QLatin1String(kernel->name);
+    }
+    QCOMPARE(found, expected);
+#else
+    QSKIP("no other function tells what the processor supports");
+#endif
+}
+
+void FillKernelsTest::pixelsBeyondTheRunStay()
+{
+    constexpr int most = 64;
+    const ceiechart::PixelRun run{0.9F, 0.05F, 0.05F, -0.013F, 0.006F, 0.007F, 0.01F};
+    const ceiechart::FillKernel &plain = ceiechart::fillKernels[ceiechart::fillKernelCount - 1];
+    for (const ceiechart::FillKernel *kernel : supportedKernels()) {
+        for (int count = 0; count <= most; ++count) {
+            std::vector<unsigned> colors(most + 1, 0x12345678U);
+            std::vector<unsigned> undecided(most + 1, 0x87654321U);
+            std::vector<unsigned> expectedColors = colors;
+            std::vector<unsigned> expectedUndecided = undecided;
+            const bool any = kernel->decide(run, count, colors.data(), undecided.data());
+            QCOMPARE(any, plain.decide(run, count, expectedColors.data(), expectedUndecided.data()));
+            QVERIFY2(colors == expectedColors, kernel->name);
+            QVERIFY2(undecided == expectedUndecided, kernel->name);
+            QCOMPARE(colors.back(), 0x12345678U);
+        }
+    }
 }
 
 void FillKernelsTest::nothingToFill()
