@@ -16,7 +16,12 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 file(RELATIVE_PATH ceiechart_lib_from_bin /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
-set(CMAKE_INSTALL_RPATH $ORIGIN;$ORIGIN/${ceiechart_lib_from_bin})
+# The folder of a program or library, for the loader; Windows looks there without being told.
+set(ceiechart_origin $ORIGIN)
+if(APPLE)
+    set(ceiechart_origin @loader_path)
+endif()
+set(CMAKE_INSTALL_RPATH ${ceiechart_origin};${ceiechart_origin}/${ceiechart_lib_from_bin})
 
 if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
@@ -24,13 +29,17 @@ endif()
 
 add_library(ceiechart_build_flags INTERFACE)
 target_compile_definitions(ceiechart_build_flags INTERFACE QT_NO_FOREACH QT_NO_KEYWORDS)
-if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+if(WIN32)
+    # The headers of Windows define min and max as macros unless told not to, and M_PI only if told to.
+    target_compile_definitions(ceiechart_build_flags INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN _USE_MATH_DEFINES)
+endif()
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang" AND NOT MSVC) # AppleClang too, but not clang with MSVC's options
     # Results must not depend on the optimiser: fused multiply-add is disabled.
     target_compile_options(ceiechart_build_flags INTERFACE -ffp-contract=off)
     target_compile_options(ceiechart_build_flags INTERFACE -Wall -Wextra -Wpedantic
         $<$<COMPILE_LANGUAGE:CXX>:-Wshadow=local> $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>
         $<$<COMPILE_LANGUAGE:CXX>:-Wsuggest-override>)
-    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
         # The second option is needed for a macro of QtTest.
         target_compile_options(ceiechart_build_flags INTERFACE -Wno-unknown-warning-option
             -Wno-gnu-zero-variadic-macro-arguments)
@@ -51,7 +60,13 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         target_compile_options(ceiechart_build_flags INTERFACE -fsanitize=fuzzer-no-link)
     endif()
 elseif(MSVC)
-    target_compile_options(ceiechart_build_flags INTERFACE /W4 /fp:precise /utf-8)
+    # Results must not depend on the optimiser: since Visual Studio 2022, /fp:precise does not fuse multiply and add. The
+    # warnings left out are about private members of exported classes whose types are not exported; a host and the
+    # libraries are built with the same compiler.
+    target_compile_options(ceiechart_build_flags INTERFACE /W4 /fp:precise /utf-8 /wd4251 /wd4275)
+    if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        target_compile_options(ceiechart_build_flags INTERFACE /clang:-ffp-contract=off)
+    endif()
     if(CEIECHART_WERROR)
         target_compile_options(ceiechart_build_flags INTERFACE /WX)
     endif()

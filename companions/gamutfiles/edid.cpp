@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/edid.h>
 
+#include "edidblock_p.h"
 #include "edidextensions_p.h"
 #include "gamutfromprimaries_p.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
 
-#include <colord.h>
-
 #include <cmath>
-#include <memory>
 
 namespace gamutfiles {
 
@@ -27,28 +25,6 @@ using Failure = Outcome<EdidDisplay>;
 struct EdidText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::Edid)
 };
-
-struct Release {
-    void operator()(CdEdid *edid) const { g_object_unref(edid); }
-    void operator()(GBytes *bytes) const { g_bytes_unref(bytes); }
-    void operator()(GError *error) const { g_error_free(error); }
-};
-
-QPointF chromaticity(const CdColorYxy *color)
-{
-    return {color->x, color->y};
-}
-
-QString monitorName(CdEdid *edid)
-{
-    for (const char *text : {cd_edid_get_monitor_name(edid), cd_edid_get_eisa_id(edid), cd_edid_get_pnp_id(edid)}) {
-        const QString name = QString::fromUtf8(text).trimmed();
-        if (!name.isEmpty()) {
-            return name;
-        }
-    }
-    return {};
-}
 
 //! E-EDID 1.4, 3.4: the year counts from 1990, and week 255 makes it the year of the model.
 void readYear(const QByteArray &block, EdidDisplay &display)
@@ -148,17 +124,13 @@ Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
     if (!edidChecksumIsRight(block)) {
         return Failure::failure(EdidText::tr("is a damaged EDID: its checksum is wrong"));
     }
-    const std::unique_ptr<CdEdid, Release> edid(cd_edid_new());
-    const std::unique_ptr<GBytes, Release> data(g_bytes_new(block.constData(), gsize(block.size())));
-    GError *parseError = nullptr;
-    if (!cd_edid_parse(edid.get(), data.get(), &parseError)) {
-        const std::unique_ptr<GError, Release> error(parseError);
-        return Failure::failure(
-            EdidText::tr("is an EDID that cannot be read: %1").arg(QString::fromUtf8(error->message)));
+    const auto base = readEdidBlock(block);
+    if (!base) {
+        return Failure::failure(base.problem());
     }
     EdidDisplay display;
-    display.name = monitorName(edid.get());
-    display.manufacturer = QString::fromUtf8(cd_edid_get_pnp_id(edid.get())).trimmed();
+    display.name = base->name;
+    display.manufacturer = base->manufacturer;
     display.srgbIsDefault = (quint8(block.at(featuresByte)) & 0x04) != 0;
     readYear(block, display);
 
@@ -168,11 +140,8 @@ Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
         display.gamma = edidGamma(quint8(block.at(gammaByte)));
     }
 
-    const EdidChromaticities base{chromaticity(cd_edid_get_red(edid.get())),
-        chromaticity(cd_edid_get_green(edid.get())), chromaticity(cd_edid_get_blue(edid.get())),
-        chromaticity(cd_edid_get_white(edid.get()))};
     const EdidChromaticities colors
-        = havePrimaries(base) ? base : display.displayIdChromaticities.value_or(EdidChromaticities());
+        = havePrimaries(base->colors) ? base->colors : display.displayIdChromaticities.value_or(EdidChromaticities());
     if (!havePrimaries(colors)) {
         return Failure::failure(EdidText::tr("is an EDID without primaries"));
     }
@@ -187,7 +156,7 @@ Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
     display.gamut = DisplayGamut(*gamut, isAbsolute ? LuminanceUnit::CandelaPerSquareMetre : LuminanceUnit::Relative);
     return {display,
         roundings(colors, gamut->getTargets()) + copies(display) + warningsOfTheTriangle(gamut->getTargets())
-            + warningsOfTheLocus(gamut->getTargets()) + contradictions(display, base) + extensions.warnings()};
+            + warningsOfTheLocus(gamut->getTargets()) + contradictions(display, base->colors) + extensions.warnings()};
 }
 
 Outcome<DisplayGamut> readEdid(const QByteArray &bytes)

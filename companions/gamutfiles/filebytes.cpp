@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/filebytes.h>
 
-#include "filekind_p.h"
+#include <system/systemcalls_p.h>
+#include <system/systempath_p.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <limits>
+#include <optional>
 
 namespace gamutfiles {
 
@@ -50,6 +52,25 @@ QString writeAll(QFileDevice &file, const QByteArray &bytes)
 {
     return file.write(bytes) == bytes.size() && file.flush() ? QString()
                                                              : BytesText::tr("writing failed; the disk may be full");
+}
+
+bool isNamedPipe(const QString &fileName)
+{
+    return systemcalls::isNamedPipe(systemcalls::systemPath(fileName));
+}
+
+//! Opens \a pipe, a named pipe, for writing.
+bool openNamedPipe(QFile &pipe)
+{
+    const std::optional<int> descriptor = systemcalls::openNamedPipe(systemcalls::systemPath(pipe.fileName()));
+    if (!descriptor) {
+        return false;
+    }
+    if (!pipe.open(*descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
+        systemcalls::closeStream(*descriptor);
+        return false;
+    }
+    return true;
 }
 
 } // namespace

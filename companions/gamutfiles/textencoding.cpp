@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "textencoding_p.h"
 
-#include "gb18030_p.h"
+#include <system/systemcalls_p.h>
 
 #include <QCoreApplication>
 
@@ -161,11 +161,13 @@ Outcome<DecodedText> decodeAs(const QByteArray &bytes, TextEncoding encoding)
         text = fromWindows1252(bytes);
         break;
     case TextEncoding::Gb18030: {
-        const ConvertedText converted = fromGb18030(bytes);
+        const auto converted = systemcalls::fromGb18030({bytes.constData(), std::size_t(bytes.size())});
         if (!converted.available) {
             return Failure::failure(EncodingText::tr("is GB18030 text, which this system cannot convert"));
         }
-        text = converted.text;
+        if (converted.utf8) {
+            text = QString::fromStdString(*converted.utf8);
+        }
         break;
     }
     }

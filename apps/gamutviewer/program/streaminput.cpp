@@ -3,7 +3,9 @@
 
 #include "display/gamutfiles.h"
 #include "following/followedfile.h"
-#include "program/platform.h"
+
+#include <system/systemcalls_p.h>
+#include <system/systempath_p.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -43,7 +45,7 @@ StreamInput::~StreamInput()
 {
     m_notifier.setEnabled(false);
     if (m_atEnd == AtEnd::AwaitsWriter) {
-        closeStream(m_descriptor);
+        systemcalls::closeStream(m_descriptor);
     }
 }
 
@@ -52,16 +54,18 @@ QByteArray StreamInput::read(int most)
     if (m_hasEnded) {
         return QByteArray();
     }
-    const auto bytes = readStream(m_descriptor, most);
-    if (bytes) {
-        m_isThere = m_isThere || !bytes->isEmpty();
+    QByteArray bytes(most, Qt::Uninitialized);
+    const auto length = systemcalls::readStream(m_descriptor, bytes.data(), std::size_t(most));
+    if (length) {
+        bytes.truncate(int(*length));
+        m_isThere = m_isThere || !bytes.isEmpty();
         // A pipe without a writer would be told of again and again.
-        if (bytes->isEmpty() && m_isThere) {
+        if (bytes.isEmpty() && m_isThere) {
             m_notifier.setEnabled(true);
-        } else if (bytes->isEmpty()) {
+        } else if (bytes.isEmpty()) {
             m_writer.start();
         }
-        return *bytes;
+        return bytes;
     }
     m_notifier.setEnabled(false);
     if (m_atEnd == AtEnd::Ends) {
@@ -145,7 +149,7 @@ InputToFollow inputToFollow(const QString &fileName)
         return InputToFollow{nullptr, oneLine(QStringLiteral("%1: %2").arg(fileName, reason))};
     };
     if (isStandardInput(fileName)) {
-        if (const auto descriptor = standardInput()) {
+        if (const auto descriptor = systemcalls::standardInput()) {
             return {std::make_unique<StreamInput>(fileName, *descriptor, StreamInput::AtEnd::Ends), QString()};
         }
         return {std::make_unique<ThreadInput>(fileName, stdin), QString()};
@@ -160,7 +164,7 @@ InputToFollow inputToFollow(const QString &fileName)
     if (!file.exists() || file.isFile()) {
         return {std::make_unique<FollowedFile>(fileName), QString()};
     }
-    if (const auto descriptor = openStream(fileName)) {
+    if (const auto descriptor = systemcalls::openStream(systemcalls::systemPath(fileName))) {
         return {std::make_unique<StreamInput>(fileName, *descriptor, StreamInput::AtEnd::AwaitsWriter), QString()};
     }
     return failure(QCoreApplication::translate("main", "cannot be opened"));
