@@ -63,7 +63,8 @@ elseif(MSVC)
     # Results must not depend on the optimiser: since Visual Studio 2022, /fp:precise does not fuse multiply and add. The
     # warnings left out are about private members of exported classes whose types are not exported; a host and the
     # libraries are built with the same compiler.
-    target_compile_options(ceiechart_build_flags INTERFACE /W4 /fp:precise /utf-8 /wd4251 /wd4275)
+    target_compile_options(ceiechart_build_flags INTERFACE /W4 /permissive- /Zc:__cplusplus /fp:precise /utf-8
+        /wd4251 /wd4275)
     if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
         target_compile_options(ceiechart_build_flags INTERFACE /clang:-ffp-contract=off)
     endif()

@@ -224,7 +224,7 @@ private:
     QVector<Wavelength> wavelengths() const
     {
         QVector<Wavelength> result;
-        const QRectF near = m_plot.adjusted(-longTick, -longTick, longTick, longTick);
+        const QRectF around = m_plot.adjusted(-longTick, -longTick, longTick, longTick);
         const QPolygonF &locus = spectralLocusIn(m_viewport.diagram(), 1);
         QPointF from = toPosition(locus.first());
         for (int i = 1; i < locus.size(); ++i) {
@@ -232,7 +232,7 @@ private:
             const QPointF to = toPosition(locus.at(i));
             const QPointF way = to - from;
             const QRectF bounds = QRectF(from, to).normalized().adjusted(-1.0, -1.0, 1.0, 1.0);
-            if (bounds.intersects(near) && length(way) > 0.0) {
+            if (bounds.intersects(around) && length(way) > 0.0) {
                 const TickScale scale = wavelengthScale(std::max(closestWavelengths, wavelengthTicks / length(way)));
                 const TickScale numbers
                     = wavelengthScale(std::max(closestWavelengths, wavelengthNumbers / length(way)));
@@ -242,7 +242,7 @@ private:
                     const QPointF along
                         = spectralPosition(nanometres + step / 8.0) - spectralPosition(nanometres - step / 8.0);
                     const QPointF foot = spectralPosition(nanometres);
-                    if (near.contains(foot)) {
+                    if (around.contains(foot)) {
                         const double numbered = nanometres / numbers.step();
                         result.append({nanometres, foot, unit(QPointF(along.y(), -along.x())),
                             std::fabs(numbered - std::round(numbered)) < 1e-6, roundness(nanometres)});

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Arguments of the functions as arrays of double precision, or a ValueError that says what is wrong with them."""
 
+import math
 from typing import Optional
 
 import numpy as np
@@ -34,16 +35,8 @@ def exactly(values: npt.ArrayLike, name: str, shape: tuple[int, ...]) -> FloatAr
 
 def rows(array: FloatArray, dimensions: int) -> FloatArray:
     """The array with all but its last *dimensions* made one, as the compiled functions take it."""
-    return np.ascontiguousarray(array.reshape((-1,) + array.shape[array.ndim - dimensions :])) if array.size else np.empty(
-        (_count(array.shape[: array.ndim - dimensions]),) + array.shape[array.ndim - dimensions :]
-    )
-
-
-def _count(shape: tuple[int, ...]) -> int:
-    count = 1
-    for size in shape:
-        count *= size
-    return count
+    split = array.ndim - dimensions
+    return np.ascontiguousarray(array).reshape((math.prod(array.shape[:split]),) + array.shape[split:])
 
 
 def together(
