@@ -16,6 +16,7 @@
 #include "window/viewerwindow.h"
 
 #include <gamutfiles/filebytes.h>
+#include <system/systemcalls_p.h>
 
 #include <QApplication>
 #include <QFileInfo>
@@ -256,6 +257,7 @@ int run(int argc, char *argv[])
 {
     // The error stream is for scripts and people; QT_LOGGING_RULES brings the toolkit's own warnings back.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    systemcalls::useBinaryStreams();
     const bool canShow = choosePlatform(argc, argv);
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);

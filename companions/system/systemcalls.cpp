@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "systemcalls_p.h"
 
+#include <cstdio>
+
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
@@ -70,6 +72,12 @@ std::optional<int> openNamedPipe(const std::filesystem::path &path)
     return descriptor;
 }
 
+void useBinaryStreams()
+{
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
+}
+
 std::optional<int> standardInput()
 {
     return std::nullopt;
@@ -127,6 +135,8 @@ std::optional<int> openNamedPipe(const std::filesystem::path &path)
     }
     return descriptor;
 }
+
+void useBinaryStreams() { }
 
 std::optional<int> standardInput()
 {

@@ -32,6 +32,12 @@ bool isNamedPipe(const std::filesystem::path &path);
 std::optional<int> openNamedPipe(const std::filesystem::path &path);
 
 /*!
+ * \brief Lets the standard streams pass bytes as they are, which Windows does not without being told: profiles and
+ * EDIDs are read from standard input too.
+ */
+void useBinaryStreams();
+
+/*!
  * \brief The descriptor of standard input; nothing where streams cannot be read without waiting, as on Windows, where
  * the event loop of Qt watches sockets only.
  */

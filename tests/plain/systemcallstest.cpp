@@ -8,6 +8,7 @@
 #include <thread>
 
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 #else
@@ -81,6 +82,9 @@ void pipes(Expectations &expectations)
     expectations.expect(read == "a\nb", "what was written has come, without a change of line ends");
     CloseHandle(pipe);
     expectations.expect(!systemcalls::standardInput(), "no stream is read without waiting");
+    systemcalls::useBinaryStreams();
+    expectations.expect(_setmode(_fileno(stdin), _O_BINARY) == _O_BINARY, "standard input passes bytes");
+    expectations.expect(_setmode(_fileno(stdout), _O_BINARY) == _O_BINARY, "standard output passes bytes");
 }
 
 #else
