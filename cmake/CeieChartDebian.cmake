@@ -1,10 +1,12 @@
 # SPDX-License-Identifier: MIT
-# Debian packages, created by cpack in a build tree that was configured with -DCMAKE_INSTALL_PREFIX=/usr. libceiechart1
-# contains the libraries, libceiechart-dev the files that are needed to build hosts, and ceiechart-viewer the program.
-# The packages for Qt 6 have other names (libceiechart1-qt6 and so on) and conflict with those for Qt 5, because the
-# libraries have the same file names.
+# Packages, created by cpack in a build tree that was configured with -DCMAKE_INSTALL_PREFIX=/usr. Those of Debian:
+# libceiechart1 contains the libraries, libceiechart-dev the files that are needed to build hosts, libceiechart-doc the
+# reference if it was built, ceiechart-viewer the program, and python3-ceiechart the Python package if it was built. The
+# packages for Qt 6 have other names (libceiechart1-qt6 and so on) and conflict with those for Qt 5, because the libraries
+# have the same file names. The reference is the same.
 set(qt5_packages libceiechart${PROJECT_VERSION_MAJOR} libceiechart-dev ceiechart-viewer python3-ceiechart)
-set(qt6_packages libceiechart${PROJECT_VERSION_MAJOR}-qt6 libceiechart-qt6-dev ceiechart-viewer-qt6 python3-ceiechart-qt6)
+set(qt6_packages libceiechart${PROJECT_VERSION_MAJOR}-qt6 libceiechart-qt6-dev ceiechart-viewer-qt6
+    python3-ceiechart-qt6)
 list(GET qt${CEIECHART_QT_VERSION}_packages 0 runtime_package)
 list(GET qt${CEIECHART_QT_VERSION}_packages 1 dev_package)
 list(GET qt${CEIECHART_QT_VERSION}_packages 2 viewer_package)
@@ -18,19 +20,9 @@ list(GET other_packages 0 CPACK_DEBIAN_RUNTIME_PACKAGE_CONFLICTS)
 list(GET other_packages 1 CPACK_DEBIAN_DEV_PACKAGE_CONFLICTS)
 list(GET other_packages 2 CPACK_DEBIAN_VIEWER_PACKAGE_CONFLICTS)
 list(GET other_packages 3 CPACK_DEBIAN_PYTHON_PACKAGE_CONFLICTS)
-set(components runtime dev)
-if(CEIECHART_BUILD_APPS)
-    list(APPEND components viewer)
-endif()
-if(CEIECHART_BUILD_PYTHON)
-    list(APPEND components python)
-endif()
-foreach(component ${components})
-    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${${component}_package}
-        RENAME copyright COMPONENT ${component})
-endforeach()
 
-set(CEIECHART_PACKAGE_CONTACT "ceiechart authors <root@localhost>" CACHE STRING "Maintainer of the Debian packages")
+set(CEIECHART_PACKAGE_CONTACT "ceiechart authors <authors@ceiechart.example>" CACHE STRING
+    "Maintainer of the Debian packages")
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME ceiechart)
 set(CPACK_PACKAGE_VENDOR "the ceiechart authors")
@@ -38,7 +30,16 @@ set(CPACK_PACKAGE_CONTACT "${CEIECHART_PACKAGE_CONTACT}")
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
-set(CPACK_COMPONENTS_ALL ${components})
+set(CPACK_COMPONENTS_ALL runtime dev)
+if(CEIECHART_BUILD_APPS)
+    list(APPEND CPACK_COMPONENTS_ALL viewer)
+endif()
+if(CEIECHART_BUILD_DOCS)
+    list(APPEND CPACK_COMPONENTS_ALL doc)
+endif()
+if(CEIECHART_BUILD_PYTHON)
+    list(APPEND CPACK_COMPONENTS_ALL python)
+endif()
 set(CPACK_COMPONENT_DEV_DEPENDS runtime)
 set(CPACK_COMPONENT_VIEWER_DEPENDS runtime)
 set(CPACK_COMPONENT_PYTHON_DEPENDS runtime)
@@ -50,9 +51,14 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 0upstream1) # older than any package that a distribution makes of the same version
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+# Of these files, cmake/CeieChartArchive.cmake.in writes the first two. The others do not exist: without a name here, cpack
+# would write scripts that call ldconfig, for which the trigger stands in.
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/triggers ${PROJECT_BINARY_DIR}/debian/symbols
+    ${PROJECT_BINARY_DIR}/debian/postinst ${PROJECT_BINARY_DIR}/debian/postrm)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
     "Qt widgets that show and edit the colour gamuts of displays on the CIE 1931\nand CIE 1976 chromaticity diagrams.")
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME ${dev_package})
@@ -85,4 +91,17 @@ if(CEIECHART_BUILD_PYTHON)
     set(CPACK_COMPONENT_PYTHON_DESCRIPTION
         "Colour temperature, gamut coverage and the correction of LED walls\nfor Python, on arrays of numpy.")
 endif()
+set(CPACK_DEBIAN_DOC_PACKAGE_NAME libceiechart-doc)
+set(CPACK_DEBIAN_DOC_PACKAGE_SECTION doc)
+set(CPACK_DEBIAN_DOC_PACKAGE_ARCHITECTURE all)
+set(CPACK_COMPONENT_DOC_DESCRIPTION
+    "The reference of ceiechart with the guides, as HTML and for Qt Assistant, and\na tag file with which references made with Doxygen link to it.")
+
+list(JOIN CPACK_COMPONENTS_ALL " " debian_components)
+configure_file(${PROJECT_SOURCE_DIR}/cmake/CeieChartArchive.cmake.in ${PROJECT_BINARY_DIR}/CeieChartArchive.cmake @ONLY)
+set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_BINARY_DIR}/CeieChartArchive.cmake)
+set(CPACK_SOURCE_GENERATOR TGZ)
+set(CPACK_SOURCE_PACKAGE_FILE_NAME ceiechart-${PROJECT_VERSION})
+set(CPACK_SOURCE_IGNORE_FILES "/\\.git(/|$)" "/build/" "\\.user$" "/\\.(cache|vscode|idea)/" "/compile_commands\\.json$"
+    "/__pycache__/")
 include(CPack)

@@ -10,6 +10,8 @@ set(CMAKE_C_VISIBILITY_PRESET hidden)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+include(CheckPIESupported)
+check_pie_supported() # for programs, which are otherwise linked as the compiler does by default
 # Names in unnamed namespaces are those of a file alone, so each file is compiled by itself, also in a unity build.
 set(CMAKE_UNITY_BUILD OFF)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
@@ -47,6 +49,10 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang" AND NOT MSVC) # AppleClang too, but
         # The straight-line vectoriser of GCC replaces pairs of conversions double -> float -> double by a copy. This
         # removes the rounding to single precision on which the arithmetic of the chart depends.
         target_compile_options(ceiechart_build_flags INTERFACE -fno-tree-slp-vectorize)
+    endif()
+    if(UNIX AND NOT APPLE)
+        # The tables of addresses are filled in when a program starts, and then write-protected.
+        target_link_options(ceiechart_build_flags INTERFACE LINKER:-z,relro LINKER:-z,now)
     endif()
     if(CEIECHART_WERROR)
         target_compile_options(ceiechart_build_flags INTERFACE -Werror)
