@@ -73,6 +73,8 @@ foreach(module ${modules})
     install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${module}.pc DESTINATION ${pkgconfig_dir} COMPONENT dev)
 endforeach()
 
+include(CeieChartBillOfMaterials)
+
 # The documentation, and the examples to which it refers.
 set(doc_dir ${CMAKE_INSTALL_DATADIR}/doc/libceiechart-dev)
 install(FILES README.md CHANGELOG.md CONTRIBUTING.md LICENSE DESTINATION ${doc_dir} COMPONENT dev)
@@ -85,4 +87,8 @@ if(CEIECHART_BUILD_APPS)
     install(FILES packaging/gamutviewer.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT viewer)
     install(FILES packaging/gamutviewer.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT viewer)
+    install(FILES packaging/gamutviewer.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
+        RENAME org.ceiechart.gamutviewer.metainfo.xml COMPONENT viewer)
+    install(FILES packaging/gamutviewer.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
+        RENAME gamutviewer.xml COMPONENT viewer)
 endif()
