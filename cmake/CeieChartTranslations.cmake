@@ -17,9 +17,10 @@ function(ceiechart_translations name)
     list(JOIN entries "" entries)
     file(GENERATE OUTPUT ${qrc}
         CONTENT "<RCC><qresource prefix=\"/${name}/translations\">${entries}</qresource></RCC>\n")
+    # The first version of the format has no time stamps: the same sources give the same library.
     set(resource ${CMAKE_CURRENT_BINARY_DIR}/qrc_${name}_translations.cpp)
     add_custom_command(OUTPUT ${resource}
-        COMMAND Qt${CEIECHART_QT_VERSION}::rcc --name ${name}_translations --output ${resource} ${qrc}
+        COMMAND Qt${CEIECHART_QT_VERSION}::rcc --format-version 1 --name ${name}_translations --output ${resource} ${qrc}
         DEPENDS ${qrc} ${qm_files} VERBATIM)
 
     add_library(${name}_translations OBJECT ${resource})
