@@ -184,7 +184,7 @@ CsvTable readCsv(const QString &raw, std::optional<QChar> separator)
         }
     }
     if (most == 0) {
-        const CsvTable table = readTable(text, begin, QLatin1Char(' '));
+        CsvTable table = readTable(text, begin, QLatin1Char(' '));
         if (recordsOfNumbers(table) > 0) {
             return table;
         }

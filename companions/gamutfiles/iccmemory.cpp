@@ -12,7 +12,7 @@ namespace gamutfiles {
 namespace {
 
 constexpr std::size_t timesTheProfile = 8;
-constexpr std::size_t inAnyCase = 1024 * 1024;
+constexpr std::size_t inAnyCase = std::size_t(1024) * 1024;
 
 //! In front of each piece; as large as the strictest alignment asks for.
 struct alignas(std::max_align_t) Header {

@@ -120,7 +120,7 @@ std::vector<PublishedGamut> publishedGamutsNamed(std::string_view name)
     if (wanted.empty()) {
         return {};
     }
-    const auto own = publishedGamutsIf([&](const Entry &entry) { return comparable(entry.name) == wanted; });
+    auto own = publishedGamutsIf([&](const Entry &entry) { return comparable(entry.name) == wanted; });
     if (!own.empty()) {
         return own;
     }
