@@ -15,7 +15,7 @@ namespace ceiechart {
 namespace {
 
 constexpr double tall = 1200.0; //!< height in pixels below which the larger pool costs more time than it saves
-constexpr int zigzagWidth = 256; //!< width in pixels
+constexpr double zigzagWidth = 256.0; //!< width in pixels
 
 bool isTall(const QPainter &painter, const QRectF &bounds)
 {
