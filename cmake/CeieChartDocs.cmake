@@ -9,11 +9,11 @@ endif()
 find_package(Doxygen QUIET ${docs_required})
 find_package(Python3 QUIET ${docs_required} COMPONENTS Interpreter)
 if(DOXYGEN_FOUND AND Python3_FOUND)
-    # Qt keeps its tools in folders of their own.
-    get_target_property(qmake Qt${CEIECHART_QT_VERSION}::qmake LOCATION)
-    get_filename_component(qt_tools "${qmake}" DIRECTORY)
-    find_program(ceiechart_qhelpgenerator NAMES qhelpgenerator HINTS ${qt_tools} ${qt_tools}/../libexec
-        ${docs_required} DOC "The tool that writes help files of Qt")
+    # Qt keeps its tools in a folder of their own.
+    get_target_property(moc Qt${CEIECHART_QT_VERSION}::moc LOCATION)
+    get_filename_component(qt_tools "${moc}" DIRECTORY)
+    find_program(ceiechart_qhelpgenerator NAMES qhelpgenerator HINTS ${qt_tools} ${docs_required}
+        DOC "The tool that writes help files of Qt")
     mark_as_advanced(ceiechart_qhelpgenerator)
     set(ceiechart_has_qch NO)
     if(ceiechart_qhelpgenerator)
