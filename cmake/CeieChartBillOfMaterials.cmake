@@ -48,8 +48,8 @@ bill_add(Qt qtbase ${Qt${CEIECHART_QT_VERSION}Core_VERSION} "${bill_qt}" LIBRARY
     "pkg:generic/qtbase@${Qt${CEIECHART_QT_VERSION}Core_VERSION}")
 foreach(library colortemperature gamutmodel ceiechart)
     if(library STREQUAL colortemperature AND CEIECHART_COLORTEMPERATURE_LIBRARY)
-        bill_add(colortemperature "${CEIECHART_COLORTEMPERATURE_LIBRARY}" NOASSERTION NOASSERTION LIBRARY
-            "pkg:generic/colortemperature")
+        get_filename_component(vendor_library "${CEIECHART_COLORTEMPERATURE_LIBRARY}" NAME)
+        bill_add(colortemperature "${vendor_library}" unknown NOASSERTION LIBRARY "pkg:generic/${vendor_library}")
     else()
         bill_add(${library} ${library} ${PROJECT_VERSION} MIT LIBRARY)
         bill_relate(ceiechart-project CONTAINS ${library})
