@@ -100,6 +100,10 @@ set(CPACK_COMPONENT_DOC_DESCRIPTION
 list(JOIN CPACK_COMPONENTS_ALL " " debian_components)
 configure_file(${PROJECT_SOURCE_DIR}/cmake/CeieChartArchive.cmake.in ${PROJECT_BINARY_DIR}/CeieChartArchive.cmake @ONLY)
 set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_BINARY_DIR}/CeieChartArchive.cmake)
+configure_file(${PROJECT_SOURCE_DIR}/cmake/CeieChartSortedArchive.cmake.in
+    ${PROJECT_BINARY_DIR}/CeieChartSortedArchive.cmake @ONLY)
+set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_BINARY_DIR}/CeieChartSortedArchive.cmake)
+set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_SOURCE_DIR}/cmake/CeieChartSourceArchive.cmake)
 set(CPACK_SOURCE_GENERATOR TGZ)
 set(CPACK_SOURCE_PACKAGE_FILE_NAME ceiechart-${PROJECT_VERSION})
 set(CPACK_SOURCE_IGNORE_FILES "/\\.git(/|$)" "/build/" "\\.user$" "/\\.(cache|vscode|idea)/" "/compile_commands\\.json$"
