@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // What the diagram costs at the size of a screen: a step of the hands against showing a ready picture, a step of the
 // view against filling the horseshoe pixel by pixel.

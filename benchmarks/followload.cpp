@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // What the gamut viewer does while it follows a measurement: a thread appends lines to a file, or writes them to a
 // pipe, at a steady rate, and the program tells every few seconds how much memory it has and how long its event loop

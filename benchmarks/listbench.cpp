@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // How fast a measurement list is read line by line while it is written, against reading it as a whole.
 #include "ratioreporter.h"

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // What the maths of a wall costs, from the measurements to the corrections, against reading the measurements once.
 #include "ratioreporter.h"

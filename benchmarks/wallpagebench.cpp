@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // What a step of dragging the target costs with a wall: the judgement of all cabinets, and the map that shows it.
 #include "display/wallassessment.h"

@@ -1,3 +1,4 @@
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 # Packages, created by cpack in a build tree that was configured with -DCMAKE_INSTALL_PREFIX=/usr. Those of Debian:
 # libceiechart1 contains the libraries, libceiechart-dev the files that are needed to build hosts, libceiechart-doc the

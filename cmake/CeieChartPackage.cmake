@@ -1,3 +1,4 @@
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 # The files with which hosts find the library: the CMake package CeieChart and the pkg-config modules ceiechart,
 # colortemperature, gamutmodel and gamutfiles. They contain no absolute paths, so that an installed tree can be moved.

@@ -1,3 +1,4 @@
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 # Settings of all targets of this project: language level, warnings, floating-point rules, include paths, and the export
 # and installation of libraries.

@@ -1,3 +1,4 @@
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 # ceiechart_translations(<name> TARGETS <target>... SOURCES <folder>... LANGUAGES <language>...
 #                        [INTERFACE_TARGET <target>])

@@ -1,3 +1,4 @@
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 # Toolchain: builds for Windows on Debian, with the package g++-mingw-w64-x86-64-posix. Programs run under wine where it
 # is installed; scripts/check-windows tells it where the libraries of the compiler are.

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 //
 // The module ceiechart._companions: the companions for arrays of one fixed shape each. The package around it brings

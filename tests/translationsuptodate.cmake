@@ -1,3 +1,4 @@
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 # Fails when updating a copy of one of TS_FILES from SOURCES by LUPDATE changes it, or when a translation is unfinished.
 if(NOT TS_FILES)

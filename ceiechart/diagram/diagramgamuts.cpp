@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // Outlines of gamuts, the common area and the lost one.
 #include <ceiechart/diagram/diagramgamuts_p.h>

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // The names of gamuts and marks and the numbers of isotherms, and where they stand.
 #include <ceiechart/diagram/diagramgamuts_p.h>

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // Fonts, places of texts and lines with casings, for all steps of painting.
 #include <ceiechart/diagram/diagramsheet_p.h>

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // What the view shows, and what follows when it changes.
 #include <ceiechart/diagram/diagramgamuts_p.h>

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // Which part of the diagram is seen.
 #include <ceiechart/diagram/diagramview_p.h>

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // Handles, guides, readout and the label at what is edited: what there is of them, and where.
 #include <ceiechart/diagram/diagramhands_p.h>

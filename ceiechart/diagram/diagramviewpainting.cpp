@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // The pictures that are kept, and what of the view is painted again.
 #include <ceiechart/diagram/diagramsheet_p.h>

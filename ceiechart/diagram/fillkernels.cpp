@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 //
 // The loop of the fill, written three times: in plain C++, and with the vector instructions AVX2 and AVX-512. All three

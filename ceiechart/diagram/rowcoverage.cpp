@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 //
 // The coverage of a pixel is the sum of what the edges to the left of it and in it add: an edge that passes a pixel

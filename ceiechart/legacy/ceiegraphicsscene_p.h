@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef CEIECHART_LEGACY_CEIEGRAPHICSSCENE_P_H
 #define CEIECHART_LEGACY_CEIEGRAPHICSSCENE_P_H

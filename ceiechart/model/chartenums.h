@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef CEIECHART_MODEL_CHARTENUMS_H
 #define CEIECHART_MODEL_CHARTENUMS_H

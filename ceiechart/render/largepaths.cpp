@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
+// SPDX-License-Identifier: MIT
 // The antialiasing rasteriser of the paint engine works in bands of rows. The height of a band depends on the size of
 // the cell pool, and all edges of a path are visited for every band: with the smallest pool, the edges of a tall path
 // are visited a hundred times. The engine uses a larger pool if a single row does not fit into the smallest one.

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef CEIECHART_RENDER_LARGEPATHS_P_H
 #define CEIECHART_RENDER_LARGEPATHS_P_H

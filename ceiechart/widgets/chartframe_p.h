@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef CEIECHART_WIDGETS_CHARTFRAME_P_H
 #define CEIECHART_WIDGETS_CHARTFRAME_P_H

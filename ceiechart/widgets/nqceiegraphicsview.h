@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef CEIECHART_WIDGETS_NQCEIEGRAPHICSVIEW_H
 #define CEIECHART_WIDGETS_NQCEIEGRAPHICSVIEW_H

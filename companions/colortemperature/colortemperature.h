@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 /* SPDX-License-Identifier: MIT */
 #ifndef COLORTEMPERATURE_COLORTEMPERATURE_H
 #define COLORTEMPERATURE_COLORTEMPERATURE_H

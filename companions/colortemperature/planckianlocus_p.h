@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef COLORTEMPERATURE_PLANCKIANLOCUS_P_H
 #define COLORTEMPERATURE_PLANCKIANLOCUS_P_H

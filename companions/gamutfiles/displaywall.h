@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef GAMUTFILES_DISPLAYWALL_H
 #define GAMUTFILES_DISPLAYWALL_H

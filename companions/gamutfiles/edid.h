@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef GAMUTFILES_EDID_H
 #define GAMUTFILES_EDID_H

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef GAMUTFILES_INCOMPLETEREASONS_P_H
 #define GAMUTFILES_INCOMPLETEREASONS_P_H

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef GAMUTFILES_LUMINANCEUNIT_H
 #define GAMUTFILES_LUMINANCEUNIT_H

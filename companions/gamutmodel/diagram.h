@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef GAMUTMODEL_DIAGRAM_H
 #define GAMUTMODEL_DIAGRAM_H

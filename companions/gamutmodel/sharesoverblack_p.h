@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef GAMUTMODEL_SHARESOVERBLACK_P_H
 #define GAMUTMODEL_SHARESOVERBLACK_P_H

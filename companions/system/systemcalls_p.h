@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef SYSTEM_SYSTEMCALLS_P_H
 #define SYSTEM_SYSTEMCALLS_P_H

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // Pictures for the documents: the charts of both generations and the renderer's own picture, as a host gets them.
 //

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // A minimal host: a chart with the gamuts of an LED display, and the name of the target.
 #include <ceiechart/widgets/ceiegraphicsview.h>

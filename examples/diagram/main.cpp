@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // The smallest host of the diagram: drag the target's primaries and its white, zoom, and read what it says.
 #include <ceiechart/diagram/diagramview.h>

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // A minimal host of the legacy chart: drag the target's primaries with the mouse.
 #include <ceiechart/legacy/ceiegraphicsview.h>

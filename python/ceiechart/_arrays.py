@@ -1,3 +1,4 @@
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 """Arguments of the functions as arrays of double precision, or a ValueError that says what is wrong with them."""
 

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // Many gamuts in the viewer: what it takes grows with their number, not with its square.
 #include "allocationcount.h"

@@ -1,3 +1,4 @@
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 # Fails when one of OBJECTS holds data that can be written to: what must be usable from any thread keeps no state.
 execute_process(COMMAND ${NM} -C ${OBJECTS} OUTPUT_VARIABLE symbols RESULT_VARIABLE result)

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // Both generations and the diagram in one source file: renderers, charts, and a form made by Qt Designer.
 #include "ui_charts.h"

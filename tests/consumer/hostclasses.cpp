@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // What hosts do with the classes beyond using them: connect to their operations, derive from them, keep values of them.
 

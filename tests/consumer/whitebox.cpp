@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // Tests of hosts reach private operations either way: compiled with -fno-access-control, or through these macros.
 #include <QApplication>

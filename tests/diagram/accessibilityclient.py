@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 """Works the diagram of a host as an accessibility client does: lists its parts, moves handles, and hears of it.
 

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/diagramcolors_p.h>
 #include <ceiechart/diagram/horseshoefill_p.h>

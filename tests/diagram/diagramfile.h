@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef CEIECHART_TESTS_DIAGRAM_DIAGRAMFILE_H
 #define CEIECHART_TESTS_DIAGRAM_DIAGRAMFILE_H

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef TESTS_DIAGRAM_DIAGRAMVIEWFIXTURE_H
 #define TESTS_DIAGRAM_DIAGRAMVIEWFIXTURE_H

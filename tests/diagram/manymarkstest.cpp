@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // Diagrams of thousands of marks: what is looked up, drawn and named.
 #include <ceiechart/diagram/diagrampainter.h>

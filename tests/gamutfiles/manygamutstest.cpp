@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // Descriptions of many gamuts: what it takes grows with their number, not with its square.
 #include "allocationcount.h"

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // A host with one chart to edit. Writes a line for each signal that it receives; ends with its standard input.
 #include <ceiechart/legacy/ceiegraphicsscene.h>

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 //
 // Prints numbers of the companions, a name and the exact value on each line. Two systems agree if the lines are equal.

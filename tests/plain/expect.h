@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef PLAIN_EXPECT_H
 #define PLAIN_EXPECT_H

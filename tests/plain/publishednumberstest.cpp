@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 //
 // A few numbers of the companions against those of their sources. The tests that need Qt look at the companions more

@@ -1,3 +1,4 @@
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 """What invalid and unusual input gives: the documented result or ValueError, and never the end of the process."""
 

@@ -1,3 +1,4 @@
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 """Corrections and common gamuts against published matrices and against numpy's own linear algebra."""
 

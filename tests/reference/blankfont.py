@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 the ceiechart authors
 # SPDX-License-Identifier: MIT
 """Writes a TrueType font whose glyphs all have the same width and are empty: blankfont.py FILE
 

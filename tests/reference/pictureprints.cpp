@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
+// SPDX-License-Identifier: MIT
 // Prints the checksums of pictures and charts of both generations, one on each line. The output of two builds of the
 // library differs where their pictures differ. If a folder is passed as an argument, the pictures are written to it.
 //

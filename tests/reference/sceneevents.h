@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef CEIECHART_TESTS_REFERENCE_SCENEEVENTS_H
 #define CEIECHART_TESTS_REFERENCE_SCENEEVENTS_H

@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef GAMUTVIEWER_DISPLAYASSESSOR_H
 #define GAMUTVIEWER_DISPLAYASSESSOR_H

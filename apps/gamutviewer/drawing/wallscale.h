@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef GAMUTVIEWER_WALLSCALE_H
 #define GAMUTVIEWER_WALLSCALE_H

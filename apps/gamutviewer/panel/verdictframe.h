@@ -1,3 +1,4 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #ifndef GAMUTVIEWER_VERDICTFRAME_H
 #define GAMUTVIEWER_VERDICTFRAME_H
