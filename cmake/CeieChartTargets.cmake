@@ -80,6 +80,14 @@ elseif(MSVC)
     endif()
 endif()
 
+# ceiechart_precompile(<target> <header>...): compiles the headers once for all sources of the target, where
+# CEIECHART_PRECOMPILE asks for it.
+function(ceiechart_precompile target)
+    if(CEIECHART_PRECOMPILE)
+        target_precompile_headers(${target} PRIVATE ${ARGN})
+    endif()
+endfunction()
+
 # ceiechart_install(<arguments of install()>): installs, unless another project contains this one and has not asked for
 # it.
 function(ceiechart_install)
