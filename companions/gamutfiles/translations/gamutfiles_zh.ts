@@ -435,6 +435,10 @@
         <source>the display states a black of %1 cd/m² and a white of %2 cd/m²</source>
         <translation>显示屏声明黑色为 %1 cd/m²，白色为 %2 cd/m²</translation>
     </message>
+    <message>
+        <source>is an EDID, which cannot be read here: the program was built without colord</source>
+        <translation>是 EDID，此处无法读取：程序在构建时未使用 colord</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::FileBytes</name>
