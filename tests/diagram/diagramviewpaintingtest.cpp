@@ -168,7 +168,7 @@ void DiagramViewPaintingTest::partialRepaintsLeaveNothingBehind()
     compare("not equal");
     view.moveVertex(GamutVertex::Red, xyOf(Model::rec709().getTargets().red));
     compare("equal again");
-    const Model::Targets &turned = Model::rec709().getTargets();
+    const Model::Targets turned = Model::rec709().getTargets();
     view.setTarget(Model::ColorGamut("t", {turned.green, turned.blue, turned.red, turned.white}));
     compare("equal, with other corners first");
     view.moveVertex(GamutVertex::Red, QPointF(0.31, 0.61));
