@@ -10,9 +10,12 @@ find_package(Doxygen QUIET ${docs_required})
 find_package(Python3 QUIET ${docs_required} COMPONENTS Interpreter)
 if(DOXYGEN_FOUND AND Python3_FOUND)
     # Qt keeps its tools in a folder of their own.
-    get_target_property(moc Qt${CEIECHART_QT_VERSION}::moc LOCATION)
-    get_filename_component(qt_tools "${moc}" DIRECTORY)
-    find_program(ceiechart_qhelpgenerator NAMES qhelpgenerator HINTS ${qt_tools} ${docs_required}
+    set(qt_tools)
+    if(TARGET Qt${CEIECHART_QT_VERSION}::moc)
+        get_target_property(moc Qt${CEIECHART_QT_VERSION}::moc LOCATION)
+        get_filename_component(qt_tools "${moc}" DIRECTORY)
+    endif()
+    find_program(ceiechart_qhelpgenerator NAMES qhelpgenerator HINTS "${qt_tools}" ${docs_required}
         DOC "The tool that writes help files of Qt")
     mark_as_advanced(ceiechart_qhelpgenerator)
     set(ceiechart_has_qch NO)
