@@ -1,4 +1,4 @@
-// SPDX-FileCopyrightText: 2026 the ceiechart authors
+/* SPDX-FileCopyrightText: 2026 the ceiechart authors */
 /* SPDX-License-Identifier: MIT */
 #ifndef COLORTEMPERATURE_COLORTEMPERATURE_H
 #define COLORTEMPERATURE_COLORTEMPERATURE_H

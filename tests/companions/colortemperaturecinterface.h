@@ -1,4 +1,4 @@
-// SPDX-FileCopyrightText: 2026 the ceiechart authors
+/* SPDX-FileCopyrightText: 2026 the ceiechart authors */
 /* SPDX-License-Identifier: MIT */
 #ifndef CEIECHART_TESTS_COMPANIONS_COLORTEMPERATURECINTERFACE_H
 #define CEIECHART_TESTS_COMPANIONS_COLORTEMPERATURECINTERFACE_H

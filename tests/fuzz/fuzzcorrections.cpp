@@ -53,12 +53,15 @@ bool isSame(const gamutfiles::WallCorrections &a, const gamutfiles::WallCorrecti
             [](const auto &p, const auto &q) { return isSame(p, q); });
 }
 
-//! CSV has one line end, in which two names may become the same.
-bool hasCarriageReturn(const gamutfiles::WallCorrections &corrections)
+//! CSV has one line end, in which two names may become the same, and NUL looks like the half of a character of UTF-16.
+bool hasWhatCsvHasNot(const gamutfiles::WallCorrections &corrections)
 {
     return std::any_of(
         corrections.cabinets.begin(), corrections.cabinets.end(), [](const gamutfiles::CabinetCorrection &cabinet) {
-            return cabinet.name.contains(QLatin1Char('\r')) || cabinet.fault.contains(QLatin1Char('\r'));
+            const auto has = [](const QString &text) {
+                return text.contains(QLatin1Char('\r')) || text.contains(QLatin1Char('\0'));
+            };
+            return has(cabinet.name) || has(cabinet.fault);
         });
 }
 
@@ -76,7 +79,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const auto again = gamutfiles::readCorrections(json);
     fuzz::require(bool(again), "what is written as JSON can be read");
     fuzz::require(isSame(*again, *corrections), "writing and reading JSON changes nothing");
-    if (hasCarriageReturn(*corrections)) {
+    if (hasWhatCsvHasNot(*corrections)) {
         return 0;
     }
     const QByteArray csv = gamutfiles::correctionsCsv(*corrections);

@@ -1,4 +1,4 @@
-// SPDX-FileCopyrightText: 2026 the ceiechart authors
+/* SPDX-FileCopyrightText: 2026 the ceiechart authors */
 /* SPDX-License-Identifier: MIT */
 double GetColorTemperatureFromXY(double x, double y, double *temperature)
 {
