@@ -771,6 +771,9 @@ void WallAssessmentTest::incompleteCabinetsAreNotKnown()
     QVERIFY2(report.contains(QStringLiteral("\nA4 (blue is missing)  "))
             && report.contains(QStringLiteral("A4: blue is missing.")),
         qPrintable(report));
+    const QJsonArray reported = wallReport(description.wall, &found).value(QStringLiteral("cabinets")).toArray();
+    QVERIFY(!description.wall.cabinets[0].white);
+    QVERIFY(reported.at(0).toObject().value(QStringLiteral("additive")).isNull()); // no white was measured
     const QJsonArray listed = wallReport(description.wall, &found).value(QStringLiteral("incomplete")).toArray();
     QCOMPARE(listed.size(), 1);
     QCOMPARE(listed.first().toObject().value(QStringLiteral("cabinet")).toString(), QStringLiteral("A4 0/3"));

@@ -133,7 +133,6 @@ void insertAssessment(QJsonObject &object, const DisplayWall &wall, const Cabine
     object.insert(QStringLiteral("offByBlack"), offByBlackObject(assessment));
     object.insert(QStringLiteral("largestWhite"), numberOrNull(assessment.largestWhite));
     object.insert(QStringLiteral("headroom"), numberOrNull(assessment.headroom));
-    object.insert(QStringLiteral("additive"), assessment.isAdditive);
     object.insert(QStringLiteral("uvBefore"), numberOrNull(assessment.uvBefore));
     object.insert(QStringLiteral("uvAfter"), numberOrNull(assessment.uvAfter));
     object.insert(QStringLiteral("neighborBefore"), neighbor(assessment.neighborBefore));
@@ -169,6 +168,9 @@ QJsonObject wallReport(const DisplayWall &wall, const WallAssessment *assessment
         QJsonObject cabinet = cabinetObject(wall.cabinets[i]);
         if (assessment) {
             insertAssessment(cabinet, wall, assessment->cabinets[i]);
+            // Without a measured white there is nothing to compare the sum with.
+            cabinet.insert(QStringLiteral("additive"),
+                wall.cabinets[i].white ? QJsonValue(assessment->cabinets[i].isAdditive) : QJsonValue());
             cabinet.insert(QStringLiteral("matrix"), matrixValue(assessment->correction.corrections[i].matrix));
         }
         cabinets.append(cabinet);
