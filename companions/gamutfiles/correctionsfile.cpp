@@ -110,6 +110,9 @@ QString whyNotListed(const CabinetCorrection &cabinet, const QSet<QString> &labe
     if (label.trimmed().isEmpty()) {
         return CorrectionsText::tr("a cabinet needs a name, or row and column");
     }
+    if (label.contains(QChar::Null)) {
+        return CorrectionsText::tr("a name has a null character");
+    }
     if (labels.contains(label)) {
         return CorrectionsText::tr("there is already a cabinet %1").arg(quoted(label));
     }
@@ -168,6 +171,14 @@ Outcome<WallCorrections> wallCorrections(
         }
         cabinet.fault = of.reason;
         result.cabinets.push_back(cabinet);
+    }
+    QSet<QString> labels;
+    for (const CabinetCorrection &cabinet : result.cabinets) {
+        const QString fault = whyNotListed(cabinet, labels);
+        if (!fault.isEmpty()) {
+            return Failure::failure(fault);
+        }
+        labels.insert(cabinet.label());
     }
     return result;
 }

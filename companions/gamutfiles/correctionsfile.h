@@ -46,7 +46,7 @@ struct CabinetCorrection {
     std::optional<Model::CorrectionMatrix> matrix; //!< the matrix; nothing where there is none, and \a fault says why
     /*!
      * \brief The largest luminance of the target's white that the cabinet reaches; nothing if it does not show that
-     * white.
+     * white, or where it is not known.
      */
     std::optional<double> largestWhite;
     QString fault; //!< why there is no matrix, in English; empty with a matrix
@@ -77,7 +77,8 @@ struct WallCorrections {
  *
  * Those of wall.incomplete come last, without a matrix and with their reason as fault.
  *
- * A failure if there are no matrices at all: the fault of the target, or no cabinet that has one.
+ * A failure if there are no matrices at all: the fault of the target, or no cabinet that has one. The same for cabinets
+ * that no file can hold: two with the same label(), or one without or with a null character in it.
  */
 GAMUTFILES_EXPORT Outcome<WallCorrections> wallCorrections(
     const DisplayWall &wall, const Model::WallCorrection &solved, const QString &targetName);

@@ -29,6 +29,9 @@ DisplayWall DescriptionReader::readWall(const Node &node)
         if (label.trimmed().isEmpty()) {
             fail(element, tr("a cabinet needs a name, or row and column"));
         }
+        if (label.contains(QChar::Null)) {
+            fail(element, tr("a name has a null character"));
+        }
         if (labels.contains(label)) {
             fail(element, tr("there is already a cabinet %1").arg(quoted(label)));
         }

@@ -37,6 +37,9 @@ private Q_SLOTS:
     void nearlySingularCabinet();
     void cabinetWithoutLight();
     void whiteThatIsNotTheSum();
+    void correctionsAreAsKnown();
+    void primariesThatDoNotMix();
+    void fittedLuminanceIsTheOneThatIsShown();
     void whiteThatIsBelowTheSumAndTooDim();
     void measuredWhiteDecidesWhereItWasMeasured();
     void nothingInCommon();
@@ -379,9 +382,9 @@ void WallAssessmentTest::measuredWhiteDecidesWhereItWasMeasured()
     // At another white it has no more than its part of the sum, and never more than the sum.
     for (const double measured : {1085.0, 1115.0}) {
         wall.cabinets[4].white = color(measured, d65.x + 0.0008, d65.y);
-        const double sum = assessWall(wall, bright).correction.corrections[4].largestWhite->luminance;
+        const auto sum = Model::DisplayDrive(colors).largestLuminance({d65.x, d65.y});
         const double reached = *assessWall(wall, bright).cabinets[4].largestWhite;
-        QVERIFY(measured < 1100.0 ? reached < sum - 1.0 : std::fabs(reached - sum) < 1e-9);
+        QVERIFY(measured < 1100.0 ? reached < sum->luminance - 1.0 : std::fabs(reached - sum->luminance) < 1e-9);
     }
     // Of one that is not additive, the measured white alone fails it, and the fit goes by it.
     wall.cabinets[4].white = color(600.0, d65.x, d65.y);
@@ -394,6 +397,57 @@ void WallAssessmentTest::measuredWhiteDecidesWhereItWasMeasured()
     QVERIFY(dimmed);
     QCOMPARE(dimmed->white.Y, 600.0);
     QCOMPARE(assessWall(wall, {Model::ColorGamut("Fitted", *dimmed), cd}).judgement, Judgement::NotKnown);
+}
+
+// What corrections, files and uniformity say goes by the measured white as well, not by the primaries alone.
+void WallAssessmentTest::correctionsAreAsKnown()
+{
+    const Model::Target d65 = Model::rec2020().getTargets().white;
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].white = color(1085.0, d65.x, d65.y); // additive within the tolerance
+    wall.cabinets[5].white = color(600.0, d65.x + 0.01, d65.y); // not additive
+    const WallAssessment found = assessWall(wall, targetOf(1095.0));
+    const Model::Correction &measured = found.correction.corrections[4];
+    QVERIFY(std::fabs(measured.largestWhite->luminance - 1085.0) < 1e-9);
+    QVERIFY(std::fabs(measured.shown->white.Y - 1085.0) < 1e-9);
+    QVERIFY(std::fabs(*measured.remaining.luminance - (1085.0 / 1095.0 - 1.0)) < 1e-12);
+    QVERIFY(*measured.remaining.whiteUv < 1e-9);
+    QCOMPARE(found.after.luminance->first == 4 || found.after.luminance->second == 4, true);
+    QVERIFY(std::fabs(found.after.luminance->difference - 10.0 / 1095.0) < 1e-3);
+    const Model::Correction &notAdditive = found.correction.corrections[5];
+    QVERIFY(notAdditive.matrix);
+    QVERIFY(!notAdditive.largestWhite && !notAdditive.shown && !notAdditive.remaining.whiteUv);
+    QVERIFY(!found.cabinets[5].uvAfter);
+    QCOMPARE(found.correction.largestWhite->cabinet, std::size_t(4));
+}
+
+void WallAssessmentTest::primariesThatDoNotMix()
+{
+    const DisplayWall wall = wallOf(1);
+    Model::Targets colors = targetOf(500.0).getTargets();
+    colors.blue = color(colors.blue.Y * 1.05, colors.blue.x, colors.blue.y);
+    const WallAssessment found = assessWall(wall, {Model::ColorGamut("Wanted", colors), cd});
+    QVERIFY2(textOf(found).contains(
+                 QStringLiteral("The luminances of the target's primaries do not mix to its white. A correction is for "
+                                "those that do: red ")),
+        qPrintable(textOf(found)));
+    colors = targetOf(500.0).getTargets();
+    colors.blue = color(colors.blue.Y * 1.005, colors.blue.x, colors.blue.y); // as people round
+    QVERIFY(
+        !textOf(assessWall(wall, {Model::ColorGamut("Wanted", colors), cd})).contains(QStringLiteral("do not mix")));
+}
+
+void WallAssessmentTest::fittedLuminanceIsTheOneThatIsShown()
+{
+    DisplayWall wall = wallOf(1);
+    dim(wall.cabinets[7], 0.81127);
+    const DisplayGamut target = targetOf(1000.0);
+    const WallAssessment found = assessWall(wall, target);
+    const auto fitted = fittedToWall(target, found);
+    QVERIFY(fitted);
+    QVERIFY(fitted->white.Y <= found.largestWhite->luminance);
+    QVERIFY(fitted->white.Y > found.largestWhite->luminance - 0.1);
+    QCOMPARE(fitted->white.Y, QString::number(fitted->white.Y, 'f', 1).toDouble());
 }
 
 void WallAssessmentTest::whiteThatIsBelowTheSumAndTooDim()
@@ -470,9 +524,10 @@ void WallAssessmentTest::leftOutCabinetDoesNotCount()
     wall.cabinets[f9].isLeftOut = true;
     const WallAssessment found = assessWall(wall, targetOf(1000.0));
     QCOMPARE(textOf(found),
-        QStringLiteral("✓ 95 cabinets show this target; one is left out\n"
-                       "✓ All reach a white of 1100.0 cd/m² (A1 is the limit, with red at full drive).\n"
-                       "- Left out of this verdict: F9."));
+        QStringLiteral(
+            "✓ 95 cabinets show this target; one is left out\n"
+            "✓ All that are not left out reach a white of 1100.0 cd/m² (A1 is the limit, with red at full drive).\n"
+            "- Left out of this verdict: F9."));
     QCOMPARE(found.cabinets[f9].judgement, Judgement::Fail);
     QCOMPARE(found.worstFirst.back(), f9);
     QVERIFY(found.correction.corrections[f9].matrix); // it is corrected as far as it can be

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void exitStatusTellsTheVerdict();
     void correctionsAreThoseOfTheReport();
     void correctionsOfOneCabinet();
+    void correctionsSayNoMoreThanIsKnown();
+    void notesOnASingleDisplay();
     void tablesOfOneDisplay();
     void fitsTheTarget();
     void wallOfADescription();
@@ -69,16 +71,19 @@ A2,1,2,green,0.1812,0.7170,690.4
 A2,1,2,blue,0.1405,0.0510,85.3
 )";
 
-//! A target in cd/m² with a white of \a luminance.
+//! A target in cd/m² whose primaries mix to a white of \a luminance.
 QByteArray targetText(double luminance, double redX = 0.64)
 {
     const auto color = [](double Y, double x, double y) { return QJsonObject{{"Y", Y}, {"x", x}, {"y", y}}; };
+    const auto unit = [](double x, double y) { return Model::Target::fromYxy(1.0, x, y); };
+    const Model::DisplayDrive mixture({unit(redX, 0.33), unit(0.3, 0.6), unit(0.15, 0.07), {}});
+    const Model::Drive of = *mixture.driveOf(Model::Target::fromYxy(luminance, 0.3127, 0.329));
     return QJsonDocument(
         QJsonObject{{"version", 1}, {"target", "Stage"},
             {"gamuts",
                 QJsonArray{QJsonObject{{"name", "Stage"}, {"luminanceUnit", "cd/m2"},
-                    {"red", color(0.2126 * luminance, redX, 0.33)}, {"green", color(0.7152 * luminance, 0.3, 0.6)},
-                    {"blue", color(0.0722 * luminance, 0.15, 0.07)}, {"white", color(luminance, 0.3127, 0.329)}}}}})
+                    {"red", color(of.red, redX, 0.33)}, {"green", color(of.green, 0.3, 0.6)},
+                    {"blue", color(of.blue, 0.15, 0.07)}, {"white", color(luminance, 0.3127, 0.329)}}}}})
         .toJson();
 }
 
@@ -352,6 +357,55 @@ void WallCommandTest::correctionsOfOneCabinet()
     const auto one = gamutfiles::readCorrectionsFile(path("c.json"));
     QVERIFY(one);
     QVERIFY(one->target.luminance < *one->cabinets[0].largestWhite);
+}
+
+void WallCommandTest::correctionsSayNoMoreThanIsKnown()
+{
+    // The white of A1 is 1.5 % below the sum of its primaries, that of A2 far below; the target is brighter than both.
+    const QByteArray list = wallList + "A1,1,1,white,0.2793,0.3042,1013.9\nA2,1,2,white,0.2840,0.2966,800\n";
+    write("wall.csv", list);
+    const Result result
+        = run({"--wall", "wall.csv", "--report", "json", "--target", "sRGB", "--corrections", "c.json"});
+    QVERIFY2(result.error.contains("the largest that all cabinets reach of which it is known, as the luminance of the "
+                                   "target cannot be compared with theirs"),
+        result.error);
+    QVERIFY2(result.error.contains("are for, so that it is not known what they show: A2\n"), result.error);
+    const QJsonObject wall = QJsonDocument::fromJson(result.output).object().value("wall").toObject();
+    const auto corrections = gamutfiles::readCorrectionsFile(path("c.json"));
+    QVERIFY(corrections);
+    QCOMPARE(*corrections->cabinets[0].largestWhite,
+        wall.value("cabinets").toArray().at(0).toObject().value("largestWhite").toDouble());
+    QVERIFY(!corrections->cabinets[1].largestWhite);
+
+    // A2 reaches the white that was measured at the white of the target, with all primaries at full drive.
+    write("wall.csv", wallList + "A2,1,2,white,0.3127,0.3290,400\n");
+    const Result limited
+        = run({"stage.json", "--wall", "wall.csv", "--report", "json", "--corrections", "c.json", "--check"});
+    QCOMPARE(limited.exitCode, 3);
+    QVERIFY2(limited.error.contains("cabinets that do not show the target even so: A2\n"), limited.error);
+    const QJsonObject white
+        = QJsonDocument::fromJson(limited.output).object().value("wall").toObject().value("largestWhite").toObject();
+    QCOMPARE(white.value("cabinet").toString(), QStringLiteral("A2 1/2"));
+    QCOMPARE(white.value("Y").toDouble(), 400.0);
+    QVERIFY(white.value("fullDrive").isNull());
+}
+
+void WallCommandTest::notesOnASingleDisplay()
+{
+    write("one.csv",
+        "name,x,y,Lv\nred,0.6996,0.2999,231.2\ngreen,0.1781,0.7214,718.4\nblue,0.1412,0.0493,79.7\n"
+        "white,0.2900,0.3110,800\n");
+    write("stage.json", targetText(3000.0));
+    const Result bright = run({"stage.json", "one.csv", "--corrections", "one.json"});
+    QVERIFY2(bright.error.contains("one.json: the display does not show the target even so\n"), bright.error);
+    QVERIFY2(bright.error.contains("one.json: the white of the display is not the sum of its primaries, which the "
+                                   "correction is for; what it shows is not known\n"),
+        bright.error);
+    QVERIFY2(!bright.error.contains("cabinet"), bright.error);
+    write("stage.json", targetText(0.0));
+    const Result dark = run({"stage.json", "one.csv", "--corrections", "one.json"});
+    QVERIFY2(dark.error.contains("the largest that the display reaches, as the white of the target has no luminance\n"),
+        dark.error);
 }
 
 void WallCommandTest::tablesOfOneDisplay()

@@ -53,14 +53,12 @@ bool isSame(const gamutfiles::WallCorrections &a, const gamutfiles::WallCorrecti
             [](const auto &p, const auto &q) { return isSame(p, q); });
 }
 
-//! CSV has one line end, in which two names may become the same, and NUL looks like the half of a character of UTF-16.
+//! CSV has one line end, in which two names may become the same.
 bool hasWhatCsvHasNot(const gamutfiles::WallCorrections &corrections)
 {
     return std::any_of(
         corrections.cabinets.begin(), corrections.cabinets.end(), [](const gamutfiles::CabinetCorrection &cabinet) {
-            const auto has = [](const QString &text) {
-                return text.contains(QLatin1Char('\r')) || text.contains(QLatin1Char('\0'));
-            };
+            const auto has = [](const QString &text) { return text.contains(QLatin1Char('\r')); };
             return has(cabinet.name) || has(cabinet.fault);
         });
 }

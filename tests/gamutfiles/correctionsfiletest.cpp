@@ -24,6 +24,7 @@ private Q_SLOTS:
     void faultyCabinetIsStated();
     void targetsWithoutMatrices_data();
     void targetsWithoutMatrices();
+    void cabinetsThatNoFileCanHold();
     void refusedCsv_data();
     void refusedCsv();
     void refusedJson_data();
@@ -307,6 +308,20 @@ void CorrectionsFileTest::targetsWithoutMatrices()
     QCOMPARE(none.error(), QStringLiteral("no cabinet has a matrix"));
 }
 
+// A file with them could not be read.
+void CorrectionsFileTest::cabinetsThatNoFileCanHold()
+{
+    DisplayWall wall;
+    wall.cabinets = {measuredCabinet("A"), measuredCabinet("B")};
+    const auto errorOf = [&wall] {
+        return wallCorrections(wall, Model::wallCorrection(wall.modelCabinets(), target(), 1.0), QString()).error();
+    };
+    wall.cabinets[0].name = QString(QChar::Null);
+    QCOMPARE(errorOf(), QStringLiteral("a name has a null character"));
+    wall.cabinets[0] = wall.cabinets[1];
+    QVERIFY(errorOf().startsWith(QStringLiteral("there is already a cabinet ")));
+}
+
 void CorrectionsFileTest::refusedCsv_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -404,6 +419,7 @@ void CorrectionsFileTest::refusedJson_data()
         "f: cabinets[0].largestWhite: expected a number, found a boolean");
     change("\"largestWhite\": 1234.5678901234567", "\"largestWhite\": null, \"fault\": \"no\"",
         "f: cabinets[0]: there is a matrix, and a reason why there is none");
+    change("\"name\": \"A1\"", "\"name\": \"A\\u0000\"", "f: cabinets[0]: a name has a null character");
     change("\"name\": \"A1\", \"row\": 1, \"column\": -2", "\"name\": \"3/4\"",
         "f: cabinets[1]: there is already a cabinet \"3/4\"");
     QTest::newRow("no cabinets") << text.left(text.indexOf("{ \"name\": \"A1\"")) + "]}"

@@ -520,6 +520,8 @@ void DisplayDescriptionTest::refusedWalls_data()
     row("blank name", withCabinets({"\"name\": \" \", " + colors}),
         "f: wall.cabinets[0]: a cabinet needs a name, or row and column");
     row("no blue", withCabinets({QByteArray(a).replace("\"blue\"", "\"white\"")}), "f: wall.cabinets[0].blue: missing");
+    row("null in the name", withCabinets({"\"name\": \"A\\u0000\", " + colors}),
+        "f: wall.cabinets[0]: a name has a null character");
     row("row alone", withCabinets({a + ", \"row\": 1"}),
         "f: wall.cabinets[0].column: missing: row and column are only known together");
     row("column alone", withCabinets({a + ", \"column\": 1"}),

@@ -26,14 +26,6 @@ QString unitPhrase(LuminanceUnit unit)
     return AssessmentText::tr("in a unit that is not known");
 }
 
-//! \a luminance in the digits of luminanceText(), rounded down.
-double reachable(double luminance)
-{
-    constexpr double rounding = 1e-6;
-    const double step = std::fabs(luminance) < 10.0 ? 1e4 : 10.0;
-    return std::floor(luminance * step + rounding) / step;
-}
-
 } // namespace
 
 QString capitalised(QString text)
@@ -70,14 +62,21 @@ QString distanceText(double distance)
     return fixedText(distance, decimals);
 }
 
+double roundedDown(double luminance)
+{
+    constexpr double rounding = 1e-6;
+    const double step = std::fabs(luminance) < 10.0 ? 1e4 : 10.0;
+    return std::floor(luminance * step + rounding) / step;
+}
+
 QString reachableText(double luminance, LuminanceUnit unit)
 {
-    return luminanceText(reachable(luminance), unit);
+    return luminanceText(roundedDown(luminance), unit);
 }
 
 QString reachableText(double luminance)
 {
-    return luminanceText(reachable(luminance));
+    return luminanceText(roundedDown(luminance));
 }
 
 QString drivesText(const Model::Drive &drive)

@@ -35,7 +35,9 @@ QString pointText(const Model::DiagramPoint &point);
 /*! \brief A distance that is not 0 in Δu′v′, with the decimals that it takes not to look like 0 either. */
 QString distanceText(double distance);
 
-/*! \brief Of \a luminance no more than it is, but for rounding, so that what is shown can be reached. */
+/*! \brief \a luminance in the digits of luminanceText(), rounded down, so that what can be reached is no less. */
+double roundedDown(double luminance);
+/*! \brief roundedDown() as a text. */
 QString reachableText(double luminance, LuminanceUnit unit);
 /*! \brief The same without the unit. */
 QString reachableText(double luminance);

@@ -106,7 +106,10 @@ struct WallAssessment {
      * corrections.
      */
     Model::GamutFit fit;
-    /*! \brief The largest white of all cabinets that count and for which it is known, and who limits it. */
+    /*!
+     * \brief The largest white of all cabinets that count and for which it is known, and who limits it. The primary
+     * means nothing for a cabinet that is not additive.
+     */
     std::optional<Model::WallWhite> largestWhite;
     std::optional<double> notTooBright; //!< the least CabinetAssessment::notTooBright of all cabinets that count
     /*!
@@ -114,7 +117,8 @@ struct WallAssessment {
      *
      * They are for the luminance of the target's white, or, where that cannot be compared, for the largest that all
      * cabinets reach which count, as far as known. That of a cabinet that is not additive is for the sum of its
-     * primaries.
+     * primaries, and what it shows is not known. What the others show, what remains and Model::Correction::largestWhite
+     * are limited to CabinetAssessment::largestWhite.
      */
     Model::WallCorrection correction;
     Model::Uniformity before; //!< of the whites without corrections, of the cabinets that count

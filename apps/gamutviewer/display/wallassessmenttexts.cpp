@@ -254,6 +254,29 @@ QStringList exchangeTexts(const DisplayWall &wall)
     return result;
 }
 
+QString mixtureText(const DisplayGamut &target, const Model::Targets &mixed)
+{
+    constexpr double rounding = 0.01; // of what files and people write
+    const Model::Targets &stated = target.getTargets();
+    const bool isStated = stated.red.Y != 0.0 || stated.green.Y != 0.0 || stated.blue.Y != 0.0;
+    if (!isStated || !(stated.white.Y > 0.0) || !(mixed.white.Y > 0.0)) {
+        return QString();
+    }
+    const double scale = stated.white.Y / mixed.white.Y;
+    bool differs = false;
+    QStringList luminances;
+    for (const Vertex vertex : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
+        const double luminance = targetAt(mixed, vertex).Y * scale;
+        differs = differs || !(std::fabs(targetAt(stated, vertex).Y - luminance) <= rounding * std::fabs(luminance));
+        luminances.append(WallText::tr("%1 %2", "colour and luminance")
+                              .arg(gamutVertexName(vertex), luminanceText(luminance, target.unit)));
+    }
+    return differs ? WallText::tr("The luminances of the target's primaries do not mix to its white. A correction is "
+                                  "for those that do: %1.")
+                         .arg(luminances.join(WallText::tr(", ", "between names")))
+                   : QString();
+}
+
 QString commonGamutProblem(const DisplayWall &wall, const Model::CommonGamut &common)
 {
     switch (common.shape) {

@@ -49,6 +49,12 @@ QString cabinetText(
  */
 QStringList exchangeTexts(const DisplayWall &wall);
 
+/*!
+ * \brief That the luminances of the primaries of \a target do not mix to its white, and which of those of \a mixed,
+ * which is the target with some white, corrections are for; empty where they mix to it, or none are stated.
+ */
+QString mixtureText(const DisplayGamut &target, const Model::Targets &mixed);
+
 /*! \brief What \a common lacks for a target: "A1 and C7 have no colour in common"; empty when it is an area. */
 QString commonGamutProblem(const DisplayWall &wall, const Model::CommonGamut &common);
 

@@ -4,6 +4,7 @@
 
 #include "display/additivity.h"
 #include "display/assessmentparts.h"
+#include "display/assessmenttexts.h"
 #include "display/chromaticity.h"
 #include "display/knowndisplay.h"
 
@@ -13,6 +14,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <tuple>
 #include <utility>
@@ -249,21 +251,25 @@ private:
     //! What is left out limits nothing, but it is corrected as far as it can be.
     void correct()
     {
-        Model::WallCorrection &correction = m_result.correction;
-        correction = Model::wallCorrection(
+        m_result.correction = Model::wallCorrection(
             m_cabinets, target(), hasLuminance() ? std::make_optional(target().white.Y) : m_correctable);
-        if (m_counted.size() == m_cabinets.size()) {
-            return;
+    }
+
+    //! Corrections come from primaries alone, which say too much where the white was measured.
+    void keepWhatIsKnown(Model::Correction &correction, const CabinetAssessment &known) const
+    {
+        if (!known.largestWhite) {
+            correction.largestWhite.reset();
+        } else if (correction.largestWhite) {
+            correction.largestWhite->luminance = *known.largestWhite;
         }
-        correction.largestWhite.reset();
-        correction.without.clear();
-        for (const std::size_t i : m_counted) {
-            const auto &largest = correction.corrections[i].largestWhite;
-            if (!largest) {
-                correction.without.push_back(i);
-            } else if (!correction.largestWhite || largest->luminance < correction.largestWhite->luminance) {
-                correction.largestWhite = Model::WallWhite{largest->luminance, i, largest->limit};
-            }
+        if (!known.isAdditive) {
+            correction.shown.reset();
+            correction.remaining = {};
+        } else if (correction.shown && known.largestWhite && correction.shown->white.Y > *known.largestWhite) {
+            Model::Target &white = correction.shown->white;
+            white = Model::Target::fromYxy(*known.largestWhite, white.x, white.y);
+            correction.remaining.luminance = *known.largestWhite / m_result.correction.target.white.Y - 1.0;
         }
     }
 
@@ -271,11 +277,12 @@ private:
     {
         for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
             const WallCabinet &cabinet = m_wall.cabinets[i];
-            const Model::Correction &correction = m_result.correction.corrections[i];
+            Model::Correction &correction = m_result.correction.corrections[i];
             CabinetAssessment &result = m_result.cabinets[i];
+            keepWhatIsKnown(correction, result);
             result.white = cabinet.white ? cabinet.white : correction.uncorrectedWhite;
             result.uvBefore = result.white ? Model::uvDifference(*result.white, target().white) : std::nullopt;
-            result.uvAfter = result.isAdditive ? correction.remaining.whiteUv : std::nullopt;
+            result.uvAfter = correction.remaining.whiteUv;
             // How much a black takes depends on the luminance, and on what the primaries add to.
             if (cabinet.black && correction.matrix && hasLuminance() && result.isAdditive) {
                 result.offByBlack = offByBlack(m_cabinets[i], *correction.matrix, target(), result.outside);
@@ -316,6 +323,11 @@ private:
                     = {*cabinet.largestWhite, i, m_result.correction.corrections[i].largestWhite->limit};
             }
         }
+        Model::WallCorrection &correction = m_result.correction;
+        correction.largestWhite = m_result.largestWhite;
+        correction.without.clear();
+        std::copy_if(m_counted.begin(), m_counted.end(), std::back_inserter(correction.without),
+            [this](std::size_t i) { return !m_result.cabinets[i].largestWhite; });
     }
 
     void compareNeighbors()
@@ -326,9 +338,6 @@ private:
         places.reserve(int(m_cabinets.size()));
         for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
             before[i] = m_result.cabinets[i].white;
-            if (!m_result.cabinets[i].isAdditive) {
-                after[i].reset();
-            }
             const auto &position = m_cabinets[i].position;
             if (position && !places.contains({position->row, position->column})) {
                 places.insert({position->row, position->column}, int(i));
@@ -476,7 +485,11 @@ double fittedLuminance(const DisplayGamut &target, const WallAssessment &assessm
 {
     const double wanted = target.getTargets().white.Y;
     const auto &most = assessment.notTooBright;
-    return assessment.luminancesCompare && most && isTooBright(wanted, *most) ? *most : wanted;
+    if (!assessment.luminancesCompare || !most || !isTooBright(wanted, *most)) {
+        return wanted;
+    }
+    const double shown = roundedDown(*most);
+    return shown > 0.0 ? shown : *most;
 }
 
 WallAssessment judgedWall(const DisplayWall &wall, const DisplayGamut &target)

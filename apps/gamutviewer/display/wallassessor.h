@@ -13,7 +13,11 @@ WallAssessment judgedWall(const DisplayWall &wall, const DisplayGamut &target);
 /*! \brief Whether a luminance \a wanted is more than a cabinet shows that has \a reached, but for fullDrive. */
 bool isTooBright(double wanted, double reached);
 
-/*! \brief The luminance of the white of \a target, or what all cabinets reach as far as known, if that is less. */
+/*!
+ * \brief The luminance of the white of \a target, or what all cabinets reach as far as known, if that is less.
+ *
+ * The latter is rounded down to the digits that are shown, so that all places show the same number.
+ */
 double fittedLuminance(const DisplayGamut &target, const WallAssessment &assessment);
 
 } // namespace gamutviewer

@@ -47,7 +47,12 @@ public:
         if (isPass) {
             describeWhite(failing.size());
         }
-        for (const QString &text : exchangeTexts(m_wall)) {
+        QStringList warnings = exchangeTexts(m_wall);
+        if (m_result.correction.fault == Model::WallFault::None) {
+            warnings.append(mixtureText(m_target, m_result.correction.target));
+            warnings.removeAll(QString());
+        }
+        for (const QString &text : qAsConst(warnings)) {
             m_result.lines.append({std::nullopt, text, std::nullopt, true});
         }
         if (!isPass) {
@@ -197,9 +202,10 @@ private:
               });
         const QString reached = largestText(*white);
         const QString text = failing > 0 && isKnownOfAll ? WallText::tr("All others reach a white of %1.").arg(reached)
-            : failing > 0   ? WallText::tr("All others of which it is known reach a white of %1.").arg(reached)
-            : !isKnownOfAll ? WallText::tr("All of which it is known reach a white of %1.").arg(reached)
-                            : WallText::tr("All reach a white of %1.").arg(reached);
+            : failing > 0        ? WallText::tr("All others of which it is known reach a white of %1.").arg(reached)
+            : !isKnownOfAll      ? WallText::tr("All of which it is known reach a white of %1.").arg(reached)
+            : !m_leftOut.empty() ? WallText::tr("All that are not left out reach a white of %1.").arg(reached)
+                                 : WallText::tr("All reach a white of %1.").arg(reached);
         const bool isGround = failing == 0 && m_result.judgement == Judgement::Pass;
         add(isGround ? std::make_optional(Judgement::Pass) : std::nullopt, text, white->cabinet);
         if (!hasLuminance() && m_result.correction.fault == Model::WallFault::None) {

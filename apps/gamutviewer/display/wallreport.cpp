@@ -159,6 +159,19 @@ QJsonObject cabinetObject(const WallCabinet &cabinet)
         {QStringLiteral("column"), placeValue(cabinet.column)}, {QStringLiteral("leftOut"), cabinet.isLeftOut}};
 }
 
+QJsonValue largestWhiteValue(const DisplayWall &wall, const WallAssessment &assessment)
+{
+    const auto &white = assessment.largestWhite;
+    if (!white) {
+        return QJsonValue::Null;
+    }
+    // That of a cabinet whose primaries do not add up was measured at full drive of all.
+    const bool isSum = assessment.cabinets[white->cabinet].isAdditive;
+    return QJsonObject{{QStringLiteral("Y"), white->luminance},
+        {QStringLiteral("cabinet"), wall.cabinets[white->cabinet].label()},
+        {QStringLiteral("fullDrive"), isSum ? QJsonValue(primaryName(white->limit)) : QJsonValue()}};
+}
+
 } // namespace
 
 QJsonObject wallReport(const DisplayWall &wall, const WallAssessment *assessment)
@@ -196,11 +209,7 @@ QJsonObject wallReport(const DisplayWall &wall, const WallAssessment *assessment
     object.insert(QStringLiteral("text"), assessment->headline);
     object.insert(QStringLiteral("lines"), lines);
     object.insert(QStringLiteral("comparable"), assessment->luminancesCompare);
-    object.insert(QStringLiteral("largestWhite"),
-        assessment->largestWhite ? QJsonValue(QJsonObject{{QStringLiteral("Y"), assessment->largestWhite->luminance},
-            {QStringLiteral("cabinet"), wall.cabinets[assessment->largestWhite->cabinet].label()},
-            {QStringLiteral("fullDrive"), primaryName(assessment->largestWhite->limit)}})
-                                 : QJsonValue(QJsonValue::Null));
+    object.insert(QStringLiteral("largestWhite"), largestWhiteValue(wall, *assessment));
     const bool hasCorrections = assessment->correction.fault == Model::WallFault::None;
     object.insert(QStringLiteral("correctedWhite"),
         hasCorrections ? QJsonValue(assessment->correction.target.white.Y) : QJsonValue(QJsonValue::Null));

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace gamutviewer {
 
@@ -129,22 +130,42 @@ QString namesOf(const DisplayWall &wall, const std::vector<std::size_t> &cabinet
 //! What is to be corrected: a wall, or a single display as a wall of one.
 struct Corrected {
     DisplayWall wall;
-    Model::WallCorrection solved;
-    bool luminancesCompare = false;
-    bool isReachKnownOfAll = false; //!< of the whole wall
-    std::vector<std::size_t> notAdditive; //!< the cabinets whose white is not the sum of their primaries
+    bool isWall = true;
+    DisplayGamut target;
+    WallAssessment assessment; //!< of \a wall
+    std::vector<std::size_t> cabinets; //!< of \a wall, those that are written
 };
 
-Corrected correctedWall(const DisplayWall &wall, const DisplayGamut &target)
+Corrected correctedWall(const DisplayWall &wall, bool isWall, const DisplayGamut &target)
 {
-    const WallAssessment assessment = assessWall(wall, target);
-    Corrected result{wall, assessment.correction, assessment.luminancesCompare, assessment.isReachKnownOfAll, {}};
-    for (std::size_t i = 0; i < assessment.cabinets.size(); ++i) {
-        if (!assessment.cabinets[i].isAdditive) {
-            result.notAdditive.push_back(i);
-        }
-    }
+    Corrected result{wall, isWall, target, assessWall(wall, target), std::vector<std::size_t>(wall.cabinets.size())};
+    std::iota(result.cabinets.begin(), result.cabinets.end(), std::size_t(0));
     return result;
+}
+
+//! The part of the wall that is written.
+DisplayWall writtenWall(const Corrected &corrected)
+{
+    if (corrected.cabinets.size() == corrected.wall.cabinets.size()) {
+        return corrected.wall;
+    }
+    DisplayWall wall;
+    wall.unit = corrected.wall.unit;
+    for (const std::size_t cabinet : corrected.cabinets) {
+        wall.cabinets.push_back(corrected.wall.cabinets[cabinet]);
+    }
+    return wall;
+}
+
+//! The corrections of \a wall, which is writtenWall().
+Outcome<WallCorrections> writtenCorrections(const Corrected &corrected, const DisplayWall &wall)
+{
+    Model::WallCorrection solved = corrected.assessment.correction;
+    solved.corrections.clear();
+    for (const std::size_t cabinet : corrected.cabinets) {
+        solved.corrections.push_back(corrected.assessment.correction.corrections[cabinet]);
+    }
+    return wallCorrections(wall, solved, nameOf(corrected.target));
 }
 
 //! The gamut that was measured is what a correction is for; the original is what a maker states.
@@ -166,19 +187,6 @@ std::optional<DisplayWall> singleDisplay(const DisplayDescription &description)
     wall.unit = gamut->unit;
     wall.cabinets.push_back(cabinet);
     return wall;
-}
-
-void keepOnly(std::size_t cabinet, Corrected &corrected)
-{
-    corrected.wall.cabinets = {corrected.wall.cabinets[cabinet]};
-    corrected.wall.incomplete.clear();
-    corrected.solved.corrections = {corrected.solved.corrections[cabinet]};
-    const bool isNotAdditive
-        = std::find(corrected.notAdditive.begin(), corrected.notAdditive.end(), cabinet) != corrected.notAdditive.end();
-    corrected.notAdditive.clear();
-    if (isNotAdditive) {
-        corrected.notAdditive.push_back(0);
-    }
 }
 
 //! What remains between the target and what cabinets show of it with their corrections.
@@ -212,50 +220,77 @@ private:
     double m_luminance = 0.0;
 };
 
-QStringList notesOn(const Corrected &corrected, bool isWall)
+//! For which white they are, where that is not the target's.
+QString whiteNote(const Corrected &corrected)
 {
-    QStringList notes;
-    if (!corrected.luminancesCompare) {
-        const QString white = reachableText(corrected.solved.target.white.Y, corrected.wall.unit);
-        notes.append(isWall && corrected.isReachKnownOfAll
-                ? CommandText::tr("the corrections are for a white of %1, the largest that all cabinets reach, as the "
-                                  "luminance of the target cannot be compared with theirs")
-                      .arg(white)
-                : isWall
-                ? CommandText::tr("the corrections are for a white of %1, the largest that all cabinets reach of which "
-                                  "it is known, as the luminance of the target cannot be compared with theirs")
-                      .arg(white)
-                : CommandText::tr("the correction is for a white of %1, the largest that the display "
-                                  "reaches, as the luminance of the target cannot be compared with it")
-                      .arg(white));
+    const WallAssessment &assessment = corrected.assessment;
+    const bool hasLuminance = corrected.target.getTargets().white.Y > 0.0;
+    if (assessment.luminancesCompare && hasLuminance) {
+        return QString();
     }
+    const QString why = !hasLuminance ? CommandText::tr("the white of the target has no luminance")
+        : corrected.isWall
+        ? CommandText::tr("the luminance of the target cannot be compared with theirs")
+        : CommandText::tr("the luminance of the target cannot be compared with those of the display");
+    const QString text = !corrected.isWall
+        ? CommandText::tr("the correction is for a white of %1, the largest that the display reaches, as %2")
+        : assessment.isReachKnownOfAll
+        ? CommandText::tr("the corrections are for a white of %1, the largest that all cabinets reach, as %2")
+        : CommandText::tr("the corrections are for a white of %1, the largest that all cabinets reach of which it is "
+                          "known, as %2");
+    return text.arg(reachableText(assessment.correction.target.white.Y, corrected.wall.unit), why);
+}
+
+//! Of cabinets, or of a single display, of which nothing is told when there are none.
+QString noteOn(const Corrected &corrected, const std::vector<std::size_t> &cabinets, const QString &ofDisplay,
+    const QString &ofCabinets, const std::vector<IncompleteCabinet> &incomplete = {})
+{
+    if (cabinets.empty() && incomplete.empty()) {
+        return QString();
+    }
+    return corrected.isWall ? CommandText::tr("%1: %2", "what is true of cabinets, and their names")
+                                  .arg(ofCabinets, namesOf(corrected.wall, cabinets, incomplete))
+                            : ofDisplay;
+}
+
+//! \a written is writtenWall().
+QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
+{
     Remainder remainder;
     std::vector<std::size_t> beyond;
+    std::vector<std::size_t> failing;
+    std::vector<std::size_t> notAdditive;
     std::vector<std::size_t> without;
-    for (std::size_t i = 0; i < corrected.solved.corrections.size(); ++i) {
-        const Model::Correction &correction = corrected.solved.corrections[i];
+    for (const std::size_t i : corrected.cabinets) {
+        const CabinetAssessment &cabinet = corrected.assessment.cabinets[i];
+        const Model::Correction &correction = corrected.assessment.correction.corrections[i];
         if (!correction.matrix) {
             without.push_back(i);
         } else if (remainder.add(correction.remaining)) {
             beyond.push_back(i);
+        } else if (cabinet.judgement == Judgement::Fail) {
+            failing.push_back(i);
+        }
+        if (correction.matrix && !cabinet.isAdditive) {
+            notAdditive.push_back(i);
         }
     }
-    if (!without.empty() || !corrected.wall.incomplete.empty()) {
-        notes.append(CommandText::tr("cabinets without a correction: %1")
-                         .arg(namesOf(corrected.wall, without, corrected.wall.incomplete)));
-    }
-    if (!beyond.empty()) {
-        notes.append(
-            CommandText::tr("cabinets that differ from the target even so, by up to %1, as they cannot show all "
-                            "of it: %2")
-                .arg(remainder.text(), namesOf(corrected.wall, beyond)));
-    }
-    if (!corrected.notAdditive.empty()) {
-        notes.append(CommandText::tr("cabinets whose measured white is not the sum of their primaries, for which the "
-                                     "corrections are: %1")
-                         .arg(namesOf(corrected.wall, corrected.notAdditive)));
-    }
-    return notes + exchangeTexts(corrected.wall);
+    QStringList notes{whiteNote(corrected), mixtureText(corrected.target, corrected.assessment.correction.target),
+        noteOn(corrected, without, QString(), CommandText::tr("cabinets without a correction"), written.incomplete),
+        noteOn(corrected, beyond,
+            CommandText::tr("the display differs from the target even so, by up to %1, as it cannot show all of it")
+                .arg(remainder.text()),
+            CommandText::tr("cabinets that differ from the target even so, by up to %1, as they cannot show all of it")
+                .arg(remainder.text())),
+        noteOn(corrected, failing, CommandText::tr("the display does not show the target even so"),
+            CommandText::tr("cabinets that do not show the target even so")),
+        noteOn(corrected, notAdditive,
+            CommandText::tr("the white of the display is not the sum of its primaries, which the correction is for; "
+                            "what it shows is not known"),
+            CommandText::tr("cabinets whose measured white is not the sum of their primaries, which the corrections "
+                            "are for, so that it is not known what they show"))};
+    notes.removeAll(QString());
+    return notes + exchangeTexts(written);
 }
 
 Outcome<QVector<CorrectionsOutput>> tableFiles(const WallCorrections &corrections, const QString &fileName)
@@ -391,6 +426,10 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
         result.notes.append(CommandText::tr("the target fits the wall as it is, as far as that is known"));
         return result;
     }
+    const QString mixture = mixtureText(*wanted, assessment.correction.target);
+    if (!mixture.isEmpty()) {
+        result.notes.append(mixture);
+    }
     result.description = withEditedTarget(result.description, *fitted);
     const struct {
         const Model::FittedPrimary &primary;
@@ -442,20 +481,21 @@ Outcome<CorrectionsOutputs> corrections(
         return Failure::failure(
             CommandText::tr("there is nothing to correct: no wall, and no measured or original gamut"));
     }
-    Corrected corrected = correctedWall(*wall, *target);
+    Corrected corrected = correctedWall(*wall, isWall, *target);
     if (isWall && !cabinet.isEmpty()) {
         const auto found = cabinetCalled(*wall, cabinet);
         if (!found) {
             return Failure::failure(found.problem());
         }
-        keepOnly(*found, corrected);
+        corrected.cabinets = {*found};
     }
-    const auto made = wallCorrections(corrected.wall, corrected.solved, description.target);
+    const DisplayWall written = writtenWall(corrected);
+    const auto made = writtenCorrections(corrected, written);
     if (!made) {
         return Failure::failure(made.problem());
     }
     CorrectionsOutputs outputs;
-    outputs.notes = notesOn(corrected, isWall);
+    outputs.notes = notesOn(corrected, written);
     switch (correctionsFormat(fileName).value_or(CorrectionsFormat::Csv)) {
     case CorrectionsFormat::Csv:
         outputs.files = {{fileName, correctionsCsv(*made)}};

@@ -2406,6 +2406,19 @@ Esc – 关闭有焦点的消息
         <comment>luminance, cabinet</comment>
         <translation>%1（受限于 %2）</translation>
     </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>colour and luminance</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>The luminances of the target&apos;s primaries do not mix to its white. A correction is for those that do: %1.</source>
+        <translation>目标各基色的亮度混合不出其白点。校正采用能混合出白点的亮度：%1。</translation>
+    </message>
+    <message>
+        <source>All that are not left out reach a white of %1.</source>
+        <translation>未排除的箱体均可达到 %1 的白色。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallCommand</name>
@@ -2426,26 +2439,6 @@ Esc – 关闭有焦点的消息
         <source>Δu′v′ %1 and %2 of the luminance</source>
         <comment>how much remains</comment>
         <translation>Δu′v′ %1 和亮度的 %2</translation>
-    </message>
-    <message>
-        <source>the corrections are for a white of %1, the largest that all cabinets reach, as the luminance of the target cannot be compared with theirs</source>
-        <translation>校正针对 %1 的白色，即所有箱体都能达到的最大值，因为目标的亮度无法与它们比较</translation>
-    </message>
-    <message>
-        <source>the correction is for a white of %1, the largest that the display reaches, as the luminance of the target cannot be compared with it</source>
-        <translation>校正针对 %1 的白色，即显示屏能达到的最大值，因为目标的亮度无法与其比较</translation>
-    </message>
-    <message>
-        <source>cabinets without a correction: %1</source>
-        <translation>没有校正的箱体：%1</translation>
-    </message>
-    <message>
-        <source>cabinets that differ from the target even so, by up to %1, as they cannot show all of it: %2</source>
-        <translation>校正后仍与目标不同的箱体，最多相差 %1，因为它们不能显示全部目标：%2</translation>
-    </message>
-    <message>
-        <source>cabinets whose measured white is not the sum of their primaries, for which the corrections are: %1</source>
-        <translation>测得的白色不等于基色之和（校正针对该和）的箱体：%1</translation>
     </message>
     <message>
         <source>a pair of tables is for one display: choose a cabinet by --cabinet, or write csv or json</source>
@@ -2531,12 +2524,65 @@ Esc – 关闭有焦点的消息
         <translation>%1（%2）</translation>
     </message>
     <message>
-        <source>the corrections are for a white of %1, the largest that all cabinets reach of which it is known, as the luminance of the target cannot be compared with theirs</source>
-        <translation>校正针对 %1 的白色，即所有已知的箱体都能达到的最大值，因为目标的亮度无法与它们比较</translation>
-    </message>
-    <message>
         <source>the luminance of the target is relative; its white is taken at %1, the largest that all cabinets reach of which it is known</source>
         <translation>目标的亮度是相对的；其白色取 %1，即所有已知的箱体都能达到的最大值</translation>
+    </message>
+    <message>
+        <source>the white of the target has no luminance</source>
+        <translation>目标白点没有亮度</translation>
+    </message>
+    <message>
+        <source>the luminance of the target cannot be compared with theirs</source>
+        <translation>目标的亮度无法与箱体的亮度比较</translation>
+    </message>
+    <message>
+        <source>the correction is for a white of %1, the largest that the display reaches, as %2</source>
+        <translation>校正针对的白点亮度为 %1，即显示屏能达到的最大值，因为%2</translation>
+    </message>
+    <message>
+        <source>the corrections are for a white of %1, the largest that all cabinets reach, as %2</source>
+        <translation>校正针对的白点亮度为 %1，即所有箱体都能达到的最大值，因为%2</translation>
+    </message>
+    <message>
+        <source>the corrections are for a white of %1, the largest that all cabinets reach of which it is known, as %2</source>
+        <translation>校正针对的白点亮度为 %1，即所有已知的箱体都能达到的最大值，因为%2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what is true of cabinets, and their names</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>cabinets without a correction</source>
+        <translation>没有校正的箱体</translation>
+    </message>
+    <message>
+        <source>the display differs from the target even so, by up to %1, as it cannot show all of it</source>
+        <translation>校正后显示屏仍与目标相差，最多 %1，因为它无法显示目标的全部颜色</translation>
+    </message>
+    <message>
+        <source>cabinets that differ from the target even so, by up to %1, as they cannot show all of it</source>
+        <translation>校正后仍与目标相差最多 %1 的箱体，因为它们无法显示目标的全部颜色</translation>
+    </message>
+    <message>
+        <source>the display does not show the target even so</source>
+        <translation>校正后显示屏仍达不到目标</translation>
+    </message>
+    <message>
+        <source>cabinets that do not show the target even so</source>
+        <translation>校正后仍达不到目标的箱体</translation>
+    </message>
+    <message>
+        <source>the white of the display is not the sum of its primaries, which the correction is for; what it shows is not known</source>
+        <translation>显示屏的白点不等于其各基色之和，而校正是按此和计算的；校正后显示什么并不可知</translation>
+    </message>
+    <message>
+        <source>cabinets whose measured white is not the sum of their primaries, which the corrections are for, so that it is not known what they show</source>
+        <translation>实测白点不等于各基色之和的箱体，而校正是按此和计算的，因此校正后显示什么并不可知</translation>
+    </message>
+    <message>
+        <source>the luminance of the target cannot be compared with those of the display</source>
+        <translation>目标的亮度无法与显示屏的亮度比较</translation>
     </message>
 </context>
 <context>

@@ -141,6 +141,10 @@
         <source>expected three numbers</source>
         <translation>应为三个数字</translation>
     </message>
+    <message>
+        <source>a name has a null character</source>
+        <translation>名称中含有空字符（NUL）</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::CubePair</name>
@@ -266,6 +270,10 @@
     <message>
         <source>must not be empty</source>
         <translation>不得为空</translation>
+    </message>
+    <message>
+        <source>a name has a null character</source>
+        <translation>名称中含有空字符（NUL）</translation>
     </message>
 </context>
 <context>
