@@ -5,6 +5,7 @@
 #include <colortemperature/colortemperature.h>
 
 #include <cmath>
+#include <vector>
 
 namespace ceiechart {
 
@@ -27,6 +28,19 @@ struct Tristimulus {
     }
 };
 
+//! Planck's law without the exponential, up to a factor that the chromaticity does not depend on; for each row.
+const std::vector<double> &wavelengthPowers()
+{
+    static const std::vector<double> powers = [] {
+        std::vector<double> result;
+        for (const CEIAtlasValue::CEIAtlasCoordinate &row : CEIAtlasValue().atlasCoordinates) {
+            result.push_back(std::pow(row.waveLength / 560.0, -5.0));
+        }
+        return result;
+    }();
+    return powers;
+}
+
 } // namespace
 
 std::optional<ColorTemperature> colorTemperature(const QPointF &xy)
@@ -44,24 +58,31 @@ std::optional<QPointF> chromaticityAt(double kelvin, double duv)
         return std::nullopt;
     }
     static const CEIAtlasValue atlas;
+    const bool isOnLocus = duv == 0.0; // where the direction of the locus does not matter
     Tristimulus sum;
     Tristimulus slope;
+    auto wavelengthPower = wavelengthPowers().begin();
     for (const CEIAtlasValue::CEIAtlasCoordinate &row : atlas.atlasCoordinates) {
         const double exponent = secondRadiationConstant / (row.waveLength * kelvin);
-        // Planck's law up to a factor that the chromaticity does not depend on.
-        const double power = std::pow(row.waveLength / 560.0, -5.0) / std::expm1(exponent);
+        const double power = *wavelengthPower++ / std::expm1(exponent);
         sum.add(row, power);
-        slope.add(row, power * exponent / (kelvin * -std::expm1(-exponent)));
+        if (!isOnLocus) {
+            slope.add(row, power * exponent / (kelvin * -std::expm1(-exponent)));
+        }
     }
     // CIE 1960 u = 4X / (X + 15Y + 3Z), v = 6Y / (X + 15Y + 3Z), and their derivatives up to a positive factor.
     const double denominator = sum.X + 15.0 * sum.Y + 3.0 * sum.Z;
-    const double denominatorSlope = slope.X + 15.0 * slope.Y + 3.0 * slope.Z;
-    const double du = 4.0 * (slope.X * denominator - sum.X * denominatorSlope);
-    const double dv = 6.0 * (slope.Y * denominator - sum.Y * denominatorSlope);
-    const double length = std::hypot(du, dv);
-    // The hotter, the smaller u: the normal (dv, -du) points to greater v, which is above the locus.
-    const double u = 4.0 * sum.X / denominator + duv * dv / length;
-    const double v = 6.0 * sum.Y / denominator - duv * du / length;
+    double u = 4.0 * sum.X / denominator;
+    double v = 6.0 * sum.Y / denominator;
+    if (!isOnLocus) {
+        const double denominatorSlope = slope.X + 15.0 * slope.Y + 3.0 * slope.Z;
+        const double du = 4.0 * (slope.X * denominator - sum.X * denominatorSlope);
+        const double dv = 6.0 * (slope.Y * denominator - sum.Y * denominatorSlope);
+        const double length = std::hypot(du, dv);
+        // The hotter, the smaller u: the normal (dv, -du) points to greater v, which is above the locus.
+        u += duv * dv / length;
+        v -= duv * du / length;
+    }
 
     const double scale = 2.0 * u - 8.0 * v + 4.0;
     const QPointF xy(3.0 * u / scale, 2.0 * v / scale);
