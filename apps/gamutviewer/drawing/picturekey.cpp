@@ -38,6 +38,11 @@ constexpr int dotsPerMeter = 3780; // 96 dpi
 constexpr GamutRole order[]
     = {GamutRole::Target, GamutRole::Original, GamutRole::Measured, GamutRole::Declared, GamutRole::Standard};
 
+double rowHeight(int letterSize)
+{
+    return std::ceil(1.5 * letterSize);
+}
+
 //! Where a diagram leaves its ground free.
 class FreeGround {
 public:
@@ -154,7 +159,7 @@ PictureKey::PictureKey(const DiagramContent &content, int pixelSize)
 {
     m_font.setPixelSize(pixelSize);
     const QFontMetricsF metrics(m_font);
-    m_rowHeight = std::ceil(1.5 * pixelSize);
+    m_rowHeight = rowHeight(pixelSize);
     double roleWidth = 0.0;
     for (const GamutRole role : order) {
         for (const ceiechart::DiagramGamut &gamut : content.gamuts) {
@@ -200,13 +205,19 @@ PictureLayout layOutPicture(const DiagramContent &content, const DiagramViewport
 {
     PictureLayout layout;
     layout.diagram = QRectF(QPointF(), size);
-    if (PictureKey(content, letterSizes[0]).isEmpty()) {
-        return layout;
-    }
-    const FreeGround ground(content, view, size);
+    const auto rows = std::count_if(content.gamuts.begin(), content.gamuts.end(),
+        [&content](const ceiechart::DiagramGamut &gamut) { return content.shows(gamut); });
+    std::optional<FreeGround> ground;
     for (const int letterSize : letterSizes) {
+        // With many gamuts it takes long to make the key, and to find out where there is room.
+        if (rows == 0 || rows * rowHeight(letterSize) > size.height()) {
+            continue;
+        }
         const PictureKey key(content, letterSize);
-        if (const auto place = ground.place(key.size())) {
+        if (!ground) {
+            ground.emplace(content, view, size);
+        }
+        if (const auto place = ground->place(key.size())) {
             layout.key = key;
             layout.keyPlace = *place;
             return layout;
