@@ -14,6 +14,7 @@
 #include <gamutmodel/publishedgamuts.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -125,6 +126,14 @@ QString namesOf(const DisplayWall &wall, const std::vector<std::size_t> &cabinet
     return all > namedCabinets
         ? CommandText::tr("%1 and %2 more", "names of cabinets and a number").arg(text).arg(all - namedCabinets)
         : text;
+}
+
+//! It can be long, and takes time to read for nothing.
+bool beginsAsDescription(const QString &fileName)
+{
+    constexpr int mostSpace = 1024;
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) && file.peek(mostSpace).trimmed().startsWith('{');
 }
 
 //! What is to be corrected: a wall, or a single display as a wall of one.
@@ -363,7 +372,7 @@ QString wallAmong(const QStringList &fileNames, MeasurementOptions options)
     options.cabinet.clear();
     QStringList found;
     for (const QString &fileName : fileNames) {
-        if (isStandardInput(fileName) || !QFileInfo(fileName).isFile()) {
+        if (isStandardInput(fileName) || !QFileInfo(fileName).isFile() || beginsAsDescription(fileName)) {
             continue;
         }
         const auto file = readGamutFile(fileName, options);
