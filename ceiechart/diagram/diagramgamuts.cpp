@@ -53,7 +53,7 @@ DiagramGamuts::DiagramGamuts(const DiagramSheet &sheet, const ShownMarks &marks)
             if (gamut.role == role && m_content.shows(gamut)) {
                 const QPolygonF corners = sheet.viewport.outline(gamut.gamut.getTargets());
                 if (isFinite(corners)) {
-                    m_shown.push_back({i, role, corners});
+                    m_shown.push_back({i, role, corners, corners.boundingRect()});
                 }
             }
         }
@@ -149,7 +149,12 @@ DiagramStep DiagramGamuts::takeEdited(const DiagramStep &scale)
 
 bool DiagramGamuts::areEqual(size_t i, size_t k) const
 {
-    return isSameTriangle(m_shown[i].corners, m_shown[k].corners, equalWithin);
+    // Most differ in this, which is found out soonest.
+    const auto isNear = [](double a, double b) { return std::fabs(a - b) < equalWithin; };
+    const QRectF &a = m_shown[i].bounds;
+    const QRectF &b = m_shown[k].bounds;
+    return isNear(a.left(), b.left()) && isNear(a.top(), b.top()) && isNear(a.right(), b.right())
+        && isNear(a.bottom(), b.bottom()) && isSameTriangle(m_shown[i].corners, m_shown[k].corners, equalWithin);
 }
 
 bool DiagramGamuts::isDrawn(size_t i, bool targetsToo) const

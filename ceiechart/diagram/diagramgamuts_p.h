@@ -35,6 +35,7 @@ private:
         int index;
         GamutRole role;
         QPolygonF corners;
+        QRectF bounds{}; // of the corners
         bool isCovered = false; // by the equal outline of another gamut of the role, which looks the same
         std::vector<size_t> equals{}; // those that are not covered and equal this one, from bottom to top
     };
