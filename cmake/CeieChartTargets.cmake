@@ -80,11 +80,24 @@ elseif(MSVC)
     endif()
 endif()
 
+if(CEIECHART_FAST_BUILD)
+    include(CheckLinkerFlag)
+    check_linker_flag(CXX -fuse-ld=lld CEIECHART_HAS_LLD)
+    if(CEIECHART_HAS_LLD)
+        target_link_options(ceiechart_build_flags INTERFACE -fuse-ld=lld)
+    endif()
+endif()
+
 # ceiechart_precompile(<target> <header>...): compiles the headers once for all sources of the target, where
-# CEIECHART_PRECOMPILE asks for it.
+# CEIECHART_FAST_BUILD asks for it.
 function(ceiechart_precompile target)
-    if(CEIECHART_PRECOMPILE)
-        target_precompile_headers(${target} PRIVATE ${ARGN})
+    if(NOT CEIECHART_FAST_BUILD)
+        return()
+    endif()
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # GCC no longer knows that templates of the standard library are not ours, and warns of what cannot happen.
+        target_compile_options(${target} PRIVATE -Wno-stringop-overflow)
     endif()
 endfunction()
 
