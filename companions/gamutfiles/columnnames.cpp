@@ -253,6 +253,22 @@ bool isOfOtherObserver(const QString &text)
     return isColor(key);
 }
 
+bool isTenthOfSeries(const QString &text, const QStringList &headers)
+{
+    QString ninth = compact(text);
+    const int ten = int(ninth.lastIndexOf(QLatin1String("10")));
+    if (ten < 0) {
+        return false;
+    }
+    QString padded = ninth;
+    ninth.replace(ten, 2, QStringLiteral("9"));
+    padded.replace(ten, 2, QStringLiteral("09"));
+    return std::any_of(headers.begin(), headers.end(), [&](const QString &header) {
+        const QString other = header.size() > longestHeader ? QString() : compact(header);
+        return other == ninth || other == padded;
+    });
+}
+
 bool statesOtherObserver(const QString &line)
 {
     constexpr int longestLine = 1000;

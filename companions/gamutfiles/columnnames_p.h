@@ -6,6 +6,7 @@
 #include <gamutfiles/measurementoptions.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -56,6 +57,13 @@ std::optional<ColumnName> columnName(const QString &text);
  * columnName() names nothing for it.
  */
 bool isOfOtherObserver(const QString &text);
+
+/*!
+ * \brief Whether the header \a text, such as "x10", only counts, as there is a ninth one among \a headers: "x9".
+ *
+ * Then it does not name the 10° observer.
+ */
+bool isTenthOfSeries(const QString &text, const QStringList &headers);
 
 /*! \brief Whether the line of text \a line says that the CIE 1964 (10°) observer was used: "Observer: 10°". */
 bool statesOtherObserver(const QString &line);

@@ -92,7 +92,7 @@ MeasurementReader::Header MeasurementReader::headerOf(const CsvRow &row)
     const bool isLab = namesLab(row.fields);
     bool toldOfDoubled = false;
     for (int i = 0; i < row.fields.size(); ++i) {
-        if (isOfOtherObserver(row.fields.at(i))) {
+        if (isOfOtherObserver(row.fields.at(i)) && !isTenthOfSeries(row.fields.at(i), row.fields)) {
             if (!header.hasOtherObserver) {
                 header.warnings.append(
                     {tr("column %1 is of the 10° observer and is not read").arg(i + 1), place(row.line), 0, 0});

@@ -22,6 +22,8 @@ private Q_SLOTS:
     void surestLuminance();
     void lightnessIsNoLuminance();
     void otherObserver();
+    void numberedColumns_data();
+    void numberedColumns();
     void otherObserverAboveTheHeader_data();
     void otherObserverAboveTheHeader();
     void columnOfUnits_data();
@@ -139,6 +141,35 @@ void MeasurementHeaderTest::otherObserver()
     const QByteArray both = "name,X (10°),Y (10°),Z (10°),X,Y,Z\na,20,30,40,50,60,70";
     QCOMPARE(readMeasurementList(both)->measurements[0].luminance, 60.0);
     QCOMPARE(warningsOf(both).first(), QStringLiteral("line 1: column 2 is of the 10° observer and is not read"));
+}
+
+void MeasurementHeaderTest::numberedColumns_data()
+{
+    QTest::addColumn<QByteArray>("format"); // of the number behind a letter
+    QTest::newRow("x1 to x10") << QByteArray("%d");
+    QTest::newRow("x01 to x10") << QByteArray("%02d");
+    QTest::newRow("x_1 to x_10") << QByteArray("_%d");
+}
+
+void MeasurementHeaderTest::numberedColumns()
+{
+    QFETCH(QByteArray, format);
+    QByteArray header;
+    QByteArray numbers;
+    for (int i = 1; i <= 10; ++i) {
+        const QByteArray number = QString::asprintf(format.constData(), i).toUtf8();
+        header += ",x" + number + ",y" + number;
+        numbers += ",0.3127,0.3290";
+    }
+    QCOMPARE(errorOf("name,Lv" + header + "\na,100" + numbers), QStringLiteral("line 1: missing column x"));
+    const QByteArray withMean = "name,Lv,x,y" + header + "\na,100,0.3,0.4" + numbers;
+    const auto list = readMeasurementList(withMean);
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->measurements[0].color->x, 0.3);
+    QVERIFY(!warningsOf(withMean).join(QLatin1Char(' ')).contains(QLatin1String("observer")));
+    // Two observers side by side are no series.
+    QVERIFY(warningsOf("name,Lv,x2,y2,x,y,x10,y10\na,100,0.3,0.4,0.3,0.4,0.3,0.4")
+                .contains(QStringLiteral("line 1: column 7 is of the 10° observer and is not read")));
 }
 
 void MeasurementHeaderTest::otherObserverAboveTheHeader_data()
