@@ -70,7 +70,10 @@ bool isFiller(const QString &word)
     static const QStringList fillers{QStringLiteral("full"), QStringLiteral("pure"), QStringLiteral("solid"),
         QStringLiteral("primary"), QStringLiteral("field"), QStringLiteral("screen"), QStringLiteral("patch"),
         QStringLiteral("level"), QStringLiteral("point"), QStringLiteral("pegel"), QStringLiteral("niveau"),
-        QStringLiteral("nivel"), QStringLiteral("nível"), QStringLiteral("livello")};
+        QStringLiteral("nivel"), QStringLiteral("nível"), QStringLiteral("livello"), QStringLiteral("max"),
+        QStringLiteral("ire"), QStringLiteral("pur"), QStringLiteral("puro"), QStringLiteral("plein"),
+        QStringLiteral("champ"), QStringLiteral("écran"), QStringLiteral("voll"), QStringLiteral("vollbild"),
+        QStringLiteral("pantalla")};
     return fillers.contains(word);
 }
 

@@ -251,6 +251,9 @@ void MeasurementReader::chooseName(Header &header, const CsvRow &row)
             name = column;
         }
     }
+    if (name < 0) {
+        name = columnOfColors(header);
+    }
     if (most == 0 && header.nameCount > 1) {
         header.warnings.append({tr("columns %1 and %2 are both %3: column %1 is read")
                                     .arg(header.nameColumns.at(0) + 1)
@@ -258,6 +261,30 @@ void MeasurementReader::chooseName(Header &header, const CsvRow &row)
                                     .arg(columnPartName(ColumnPart::Name)),
             place(row.line), 0, 0});
     }
+}
+
+//! A column with a header that says nothing, such as "Messpunkt" or none, in which are red, green and blue; -1: none.
+int MeasurementReader::columnOfColors(const Header &header) const
+{
+    for (int column = 0; column < m_headerFields; ++column) {
+        if (std::find(header.columns.begin(), header.columns.end(), column) != header.columns.end()) {
+            continue;
+        }
+        QSet<int> found;
+        bool isGap = false; // whether a measurement has no name in this column
+        for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
+            const QStringList &fields = m_table.rows.at(i).fields;
+            const QString text = fields.value(column).trimmed();
+            found.insert(int(colorName(text).part));
+            isGap = isGap || (text.isEmpty() && std::count_if(fields.begin(), fields.end(), isNumber) >= 3);
+        }
+        // A column of grades can have an R or a G.
+        if (!isGap && found.contains(int(MeasurementPart::Red)) && found.contains(int(MeasurementPart::Green))
+            && found.contains(int(MeasurementPart::Blue))) {
+            return column;
+        }
+    }
+    return -1;
 }
 
 //! Leaves in \a header the column that the luminances are read from, and a Y beside it for X, Y, Z alone.

@@ -53,6 +53,7 @@ protected: // for lists that are still being written
     bool useCommentedHeader();
     void useHeader(Header header, const CsvRow &row, int firstRow);
     void chooseName(Header &header, const CsvRow &row);
+    int columnOfColors(const Header &header) const;
     void chooseLuminance(Header &header, const CsvRow &row);
     void useColumns(const Columns &columns, const QStringList &headers);
     void useCabinets(const Columns &columns, const QStringList &headers);

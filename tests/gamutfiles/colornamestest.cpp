@@ -30,13 +30,14 @@ void ColorNamesTest::parts_data()
     rows(MeasurementPart::Red,
         {"red", "Red", "RED", "R", "r", "rot", "Rouge", "rojo", "红", "红色", "红场", "纯红", "全红画面", "Red 100 %",
             "R255", "100% red", "Full Red", "Red primary", "Red_255", "Red (255,0,0)", "R @ 50%", "Red-128/255", "紅",
-            "rosso", "Vermelho 100 %"});
+            "rosso", "Vermelho 100 %", "Rouge pur", "Rouge plein écran", "Rot max", "Red 100 IRE"});
     rows(MeasurementPart::Green,
         {"green", "G", "grün", "Gruen", "GRÜN", "vert", "Verde", "绿", "绿色", "Green 0,255,0"});
     rows(MeasurementPart::Blue, {"blue", "B", "Blau", "bleu", "azul", "蓝", "蓝场", "Blu 100%", "azul 255"});
     rows(MeasurementPart::White,
         {"white", "W", "weiß", "Weiss", "WEIß", "Blanc 100%", "blanco", "白", "白场", "白色画面", "White field", "W 50",
-            "White 255/255/255", "Bianco", "branco 50%", "Weiß Pegel 255", "Bianco livello 100%", "Branco nível 50%"});
+            "White 255/255/255", "Bianco", "branco 50%", "Weiß Pegel 255", "Bianco livello 100%", "Branco nível 50%",
+            "Weiß Vollbild", "Blanco puro", "Pantalla blanco"});
     rows(MeasurementPart::Black,
         {"black", "K", "schwarz", "noir", "negro", "nero", "preto", "黑", "黑场", "Black 0,0,0"});
     rows(MeasurementPart::None,
@@ -71,6 +72,7 @@ void ColorNamesTest::levels_data()
     row("红 １００％", 100.0, 100.0);
     row("Rosso 100 %", 100.0, 100.0);
     row("vermelho 128/255", 128.0, 255.0);
+    row("Red 50 IRE", 50.0, -1.0);
 }
 
 void ColorNamesTest::levels()

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void doubledColumn();
     void columnThatNamesColors();
     void remarks();
+    void colorsUnderAnUnknownHeader();
     void namelessLines();
 };
 
@@ -446,6 +447,29 @@ void MeasurementHeaderTest::remarks()
     }
     const QByteArray named = "Patch,Lv,x,y,Note\nRed,200,0.7,0.29,green\nW,100,0.3,0.3,\n";
     QCOMPARE(namesOf(readMeasurementList(named)->measurements), (QStringList{"Red", "W"}));
+}
+
+void MeasurementHeaderTest::colorsUnderAnUnknownHeader()
+{
+    for (const char *header : {"Messpunkt", "", "Nr.,Messpunkt"}) {
+        const bool isNumbered = qstrcmp(header, "Nr.,Messpunkt") == 0;
+        QByteArray text = QByteArray(header) + ",Lv,x,y\n";
+        for (const char *line : {"Rot,200,0.7,0.29", "Grün,700,0.2,0.7", "Blau,100,0.15,0.05", "P4,50,0.3,0.3"}) {
+            text += (isNumbered ? "1," : "") + QByteArray(line) + '\n';
+        }
+        const auto list = readMeasurementList(text);
+        QVERIFY2(list, qPrintable(list.error()));
+        QCOMPARE(namesOf(list->measurements), (QStringList{"Rot", QString::fromUtf8("Grün"), "Blau", "P4"}));
+        QCOMPARE(list->recognized.columns.first().part, QStringLiteral("name"));
+        QCOMPARE(list->recognized.columns.first().column, isNumbered ? 2 : 1);
+        QVERIFY(warningsOf(text).join(QLatin1Char(' ')).contains(QLatin1String("white is missing")));
+    }
+    // Neither grades nor remarks on some of the lines are names.
+    for (const char *third : {"R", "", "other"}) {
+        const QByteArray text
+            = "Lv,x,y,Grade\n200,0.7,0.29,R\n700,0.2,0.7,G\n100,0.15,0.05," + QByteArray(third) + "\n";
+        QCOMPARE(namesOf(readMeasurementList(text)->measurements), (QStringList{"", "", ""}));
+    }
 }
 
 void MeasurementHeaderTest::namelessLines()
