@@ -19,6 +19,8 @@ private Q_SLOTS:
     void valueIsToldApartFromItsLimit();
     void deviationEqualToItsLimit_data();
     void deviationEqualToItsLimit();
+    void limitOfManyDecimals_data();
+    void limitOfManyDecimals();
 };
 
 void ToleranceAssessmentTest::toleranceAtItsLimit_data()
@@ -149,8 +151,8 @@ void ToleranceAssessmentTest::deviationEqualToItsLimit_data()
     const QString equal = QString::fromUtf8("Δu′v′ 0.0040 from the target, limit 0.0040.");
     QTest::newRow("equal") << 0.0 << Judgement::Pass << equal;
     QTest::newRow("less") << -1e-7 << Judgement::Pass << equal;
-    QTest::newRow("by rounding") << 2e-10 << Judgement::Pass << equal;
-    QTest::newRow("a billionth") << 2e-9 << Judgement::Fail
+    QTest::newRow("by rounding") << 2e-13 << Judgement::Pass << equal;
+    QTest::newRow("a billionth") << 1e-9 << Judgement::Fail
                                  << QString::fromUtf8("Δu′v′ beyond 0.0040 from the target, limit 0.0040.");
     QTest::newRow("two more decimals") << 2e-6 << Judgement::Fail
                                        << QString::fromUtf8("Δu′v′ 0.004002 from the target, limit 0.004000.");
@@ -175,6 +177,48 @@ void ToleranceAssessmentTest::deviationEqualToItsLimit()
     d.measured = QStringLiteral("Meter");
     Tolerances tolerances;
     tolerances.limits.whiteUv = 0.004;
+    const AssessmentLine line = about(assess(d, tolerances), Subject::Tolerance).first();
+    QVERIFY2(line.judgement == judgement, qPrintable(line.text));
+    QVERIFY2(line.text.contains(text), qPrintable(line.text));
+}
+
+void ToleranceAssessmentTest::limitOfManyDecimals_data()
+{
+    QTest::addColumn<double>("deviation");
+    QTest::addColumn<double>("limit");
+    QTest::addColumn<Judgement>("judgement");
+    QTest::addColumn<QString>("text");
+    const auto text = [](const char *value, const char *limit) {
+        return QString::fromUtf8("Δu′v′ %1 from the target, limit %2.").arg(QLatin1String(value), QLatin1String(limit));
+    };
+    QTest::newRow("small, beyond") << 4e-10 << 1e-10 << Judgement::Fail << text("0.0000000004", "0.0000000001");
+    QTest::newRow("small, within") << 1e-10 << 4e-10 << Judgement::Pass << text("0.0000000001", "0.0000000004");
+    QTest::newRow("long, beyond") << 0.0041234568 << 0.0041234567 << Judgement::Fail
+                                  << text("0.0041234568", "0.0041234567");
+    QTest::newRow("long, equal") << 0.004123456789 << 0.004123456789 << Judgement::Pass
+                                 << text("0.004123456789", "0.004123456789");
+    QTest::newRow("five decimals") << 0.00406 << 0.00404 << Judgement::Fail << text("0.00406", "0.00404");
+    QTest::newRow("five decimals, within") << 0.0040 << 0.00404 << Judgement::Pass << text("0.00400", "0.00404");
+}
+
+void ToleranceAssessmentTest::limitOfManyDecimals()
+{
+    QFETCH(double, deviation);
+    QFETCH(double, limit);
+    QFETCH(Judgement, judgement);
+    QFETCH(QString, text);
+    DisplayDescription d = wall(500);
+    const Model::Target &white = d.gamuts[1].getTargets().white;
+    const double sum = -2.0 * white.x + 12.0 * white.y + 3.0;
+    const double u = 4.0 * white.x / sum + deviation;
+    const double v = 9.0 * white.y / sum;
+    const double back = 6.0 * u - 16.0 * v + 12.0;
+    Model::Targets meter = d.gamuts[1].getTargets();
+    meter.white = Model::Target::fromYxy(500, 9.0 * u / back, 4.0 * v / back);
+    d.gamuts.push_back(named("Meter", meter, cd));
+    d.measured = QStringLiteral("Meter");
+    Tolerances tolerances;
+    tolerances.limits.whiteUv = limit;
     const AssessmentLine line = about(assess(d, tolerances), Subject::Tolerance).first();
     QVERIFY2(line.judgement == judgement, qPrintable(line.text));
     QVERIFY2(line.text.contains(text), qPrintable(line.text));

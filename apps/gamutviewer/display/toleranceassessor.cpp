@@ -8,6 +8,7 @@
 #include <ceiechart/diagram/whitepoint.h>
 #include <gamutmodel/tolerances.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace gamutviewer {
@@ -17,6 +18,9 @@ namespace {
 using ceiechart::gamutVertexName;
 using Vertex = ceiechart::GamutVertex;
 
+//! Of deviations and limits. A double has more only of numbers below 1000.
+constexpr int mostDecimals = 12;
+
 //! A value and its limit as they are shown.
 struct ShownDeviation {
     QString value;
@@ -24,28 +28,41 @@ struct ShownDeviation {
     bool isApart = true; //!< whether the texts of a value that fails differ
 };
 
+//! The decimals that \a limit is written with, at least \a least: what it is must not be hidden by rounding.
+int decimalsOf(double limit, int least)
+{
+    QString digits = fixedText(limit, mostDecimals);
+    while (digits.endsWith(QLatin1Char('0'))) {
+        digits.chop(1);
+    }
+    return std::max(least, int(digits.size() - digits.indexOf(QLatin1Char('.')) - 1));
+}
+
 /*!
- * With \a decimals, and up to two more if it takes them to tell a value that \a fails from its limit. One that passes
- * needs no more: rounded, it is still on the right side of its limit, or equal.
+ * With the digits of the limit, but at least \a decimals, and up to two more if it takes them to tell a value that \a
+ * fails from its limit. One that passes needs no more: rounded, it is still on the right side of its limit, or equal.
  */
 ShownDeviation shownDeviation(double value, double limit, int decimals, bool fails)
 {
     const auto areEqual = [&](int digits) { return fixedText(value, digits) == fixedText(limit, digits); };
-    int digits = decimals;
-    while (fails && digits < decimals + 2 && areEqual(digits)) {
+    const int least = decimalsOf(limit, decimals);
+    int digits = least;
+    while (fails && digits < least + 2 && areEqual(digits)) {
         ++digits;
     }
     if (fails && areEqual(digits)) {
-        return {fixedText(value, decimals), fixedText(limit, decimals), false};
+        return {fixedText(value, least), fixedText(limit, least), false};
     }
     return {fixedText(value, digits), fixedText(limit, digits), true};
 }
 
-//! What is beyond the ninth decimal of a deviation comes from its computation.
+//! What is beyond the last of the decimals of a deviation comes from its computation.
 void round(std::optional<double> &deviation)
 {
-    if (deviation) {
-        deviation = std::round(*deviation * 1e9) / 1e9;
+    const double perUnit = std::pow(10.0, mostDecimals);
+    // A luminance can be so many times that of the target that it has no such decimals.
+    if (deviation && std::fabs(*deviation) < perUnit / 1000.0) {
+        deviation = std::round(*deviation * perUnit) / perUnit;
     }
 }
 
