@@ -183,15 +183,16 @@ int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances
     return statusOf(assessment.judgement());
 }
 
+//! With \a asks the user is asked what the measurement lists mean, over the window.
 int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine,
-    std::unique_ptr<FollowedInput> input)
+    std::unique_ptr<FollowedInput> input, bool asks)
 {
     installInterfaceTranslations();
     ViewerWindow window;
     if (tolerances) {
         window.session()->setTolerances(tolerances);
     }
-    if (!opened.needsChoice) {
+    if (!asks) {
         window.setOpened(opened);
     }
     if (commandLine.hasSize()) {
@@ -201,15 +202,14 @@ int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances,
     if (input) {
         window.followMenu()->follow(std::move(input), commandLine.measurementOptions());
     }
-    if (opened.needsChoice) {
-        // The user is asked what the list means, over the window.
+    if (asks) {
         QMetaObject::invokeMethod(
             &window,
             [&] {
-                if (!window.openPaths(
-                        commandLine.files(), ViewerWindow::Manner::Open, commandLine.measurementOptions())) {
-                    window.setOpened(opened);
-                }
+                window.openWithQuestions(
+                    commandLine.files(), commandLine.measurementOptions(), [&](const OpenedFiles &answered) {
+                        return withRequests(answered, commandLine.wallFile(), commandLine);
+                    });
             },
             Qt::QueuedConnection);
     }
@@ -325,7 +325,8 @@ int run(int argc, char *argv[])
         printError(noView);
         return WrongInput;
     }
-    const bool isAsked = commandLine.action() == CommandLine::Action::Show && opened->needsChoice;
+    const bool isAsked
+        = commandLine.action() == CommandLine::Action::Show && opened->needsChoice && ViewerWindow::canAskAbout(files);
     for (const FileWarning &warning : opened->warnings) {
         if (!isAsked) { // or else after the answer
             printError(warning.message());
@@ -349,7 +350,7 @@ int run(int argc, char *argv[])
             return WrongInput;
         }
     }
-    return show(*opened, tolerances, commandLine, std::move(followed.input));
+    return show(*opened, tolerances, commandLine, std::move(followed.input), isAsked);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "givenfiles.h"
 
+#include "panel/warningbar.h"
 #include "program/interfacetranslations.h"
 #include "window/listdialog.h"
 #include "window/recentfiles.h"
@@ -25,9 +26,14 @@ private Q_SLOTS:
     void listOfTwoReadingsIsAskedAbout();
     void columnsAreNamedInTheLanguageOfTheWindow();
     void canceledListIsNotOpened();
+    void listIsAskedAboutAtTheStart();
+    void canceledListIsNotOpenedAtTheStart();
 };
 
 namespace {
+
+const QByteArray redTwice = "name,Lv,x,y\nred,190,0.69,0.30\nred,180,0.64,0.33\ngreen,600,0.2,0.7\nblue,120,0.14,0.08\n"
+                            "white,900,0.28,0.3\n";
 
 //! Answers the next question what a measurement list means.
 class ListAnswer : public QObject {
@@ -161,6 +167,51 @@ void ListDialogTest::canceledListIsNotOpened()
     QCOMPARE(f.document().description().name, QStringLiteral("LED wall"));
     QVERIFY(!f.window->isWindowModified());
     QVERIFY(RecentFiles::list().isEmpty());
+}
+
+void ListDialogTest::listIsAskedAboutAtTheStart()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    const QString file = writeFile(f.settings, QStringLiteral("meter.csv"), redTwice);
+    QVERIFY(ViewerWindow::canAskAbout({file}));
+    QVERIFY(!ViewerWindow::canAskAbout({file, QStringLiteral("-")}));
+    const ListAnswer answer([](ListDialog *dialog) {
+        QTest::keyClick(dialog->choice(Vertex::Red), Qt::Key_Down);
+        QTest::mouseClick(dialog->useButton(), Qt::LeftButton);
+    });
+    // What the command line asks for besides is made with the answer.
+    f.window->openWithQuestions({file}, {}, [](const OpenedFiles &answered) {
+        OpenedFiles changed = answered;
+        changed.description.target = QStringLiteral("Rec.2020");
+        return changed;
+    });
+    QVERIFY(answer.isAsked());
+    QCOMPARE(parts(f), (QStringList{"", "meter", "", "Rec.2020"}));
+    QCOMPARE(f.document().description().gamut(QStringLiteral("meter"))->getTargets().red.x, 0.69);
+    QCOMPARE(RecentFiles::list(), QStringList(file));
+    QVERIFY(!f.window->isWindowModified());
+}
+
+void ListDialogTest::canceledListIsNotOpenedAtTheStart()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    const QString file = writeFile(f.settings, QStringLiteral("meter.csv"), redTwice);
+    const ListAnswer answer([](ListDialog *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+    f.window->openWithQuestions({file}, {}, [](const OpenedFiles &answered) { return answered; });
+    QVERIFY(answer.isAsked());
+    QVERIFY(isEmpty(f.document().description()));
+    QVERIFY(RecentFiles::list().isEmpty());
+    QVERIFY(!f.window->warnings()->isVisible());
+    // What cannot be made with an answer is told, and nothing is opened either.
+    const ListAnswer use([](ListDialog *dialog) { QTest::mouseClick(dialog->useButton(), Qt::LeftButton); });
+    const Answer ok(QMessageBox::Ok);
+    f.window->openWithQuestions({file}, {}, [](const OpenedFiles &) {
+        return Outcome<OpenedFiles>::failure(QStringLiteral("--target: there is no such gamut"));
+    });
+    QCOMPARE(ok.text(), QStringLiteral("--target: there is no such gamut"));
+    QVERIFY(isEmpty(f.document().description()));
 }
 
 QTEST_MAIN(ListDialogTest)

@@ -138,6 +138,10 @@ void ViewerFilesTest::changedFileIsNamed()
     f.window->setDescription(named, QString());
     QVERIFY(f.window->session()->setChromaticity(Vertex::Red, QPointF(0.67, 0.31)));
     QVERIFY2(asked().startsWith(QLatin1String("\"Untitled\"")), qPrintable(asked()));
+    // A list has no name of a display, but one of its own.
+    f.window->setOpened(*openFiles({writeFile(f.settings, QStringLiteral("meter.csv"), meter)}));
+    QVERIFY(f.window->session()->setChromaticity(Vertex::Red, QPointF(0.67, 0.31)));
+    QVERIFY2(asked().startsWith(QLatin1String("\"meter.csv\"")), qPrintable(asked()));
 }
 
 void ViewerFilesTest::standardInputIsNoFile()

@@ -42,10 +42,15 @@ MeasurementChoice &choiceOf(MeasurementOptions &options, Vertex vertex)
 
 } // namespace
 
+bool ListDialog::canReadAgain(const QString &fileName)
+{
+    return !isStandardInput(fileName) && QFileInfo(fileName).isFile();
+}
+
 bool ListDialog::canHelp(const QString &fileName, const MeasurementOptions &options, const Outcome<GamutFile> &read)
 {
-    if (!QFileInfo(fileName).isFile()) {
-        return false; // a pipe, which is empty now
+    if (!canReadAgain(fileName)) {
+        return false;
     }
     if (read) {
         return needsChoice(*read);

@@ -28,6 +28,9 @@ public:
     /*! \param fileName a file that can be read more than once */
     ListDialog(const QString &fileName, const MeasurementOptions &options, QWidget *parent = nullptr);
 
+    /*! \brief Whether the dialog can read \a fileName: it is no pipe, which would be empty now. */
+    static bool canReadAgain(const QString &fileName);
+
     /*! \brief Whether the user can help with \a read, the outcome of reading the file \a fileName by \a options. */
     static bool canHelp(const QString &fileName, const MeasurementOptions &options, const Outcome<GamutFile> &read);
 

@@ -143,7 +143,37 @@ void ViewerWindow::openByDialog(Manner manner)
     }
 }
 
+bool ViewerWindow::canAskAbout(const QStringList &fileNames)
+{
+    return std::all_of(fileNames.begin(), fileNames.end(), &ListDialog::canReadAgain);
+}
+
+void ViewerWindow::openWithQuestions(
+    const QStringList &fileNames, const MeasurementOptions &options, const OpenedChange &change)
+{
+    const auto read = readPaths(fileNames, options);
+    if (!read) {
+        return;
+    }
+    const Outcome<OpenedFiles> opened = change(openedAlone(*read));
+    if (!opened) {
+        warn(opened.error());
+        return;
+    }
+    print(opened->warnings);
+    setOpened(*opened);
+    showWallOf(*read);
+}
+
 bool ViewerWindow::openPaths(const QStringList &fileNames, Manner manner, const MeasurementOptions &options)
+{
+    const auto read = readPaths(fileNames, options);
+    return read && openRead(*read, manner);
+}
+
+//! Asks what measurement lists mean. Nothing if a file cannot be read, which is told, or if the user cancels.
+std::optional<QVector<ReadFile>> ViewerWindow::readPaths(
+    const QStringList &fileNames, const MeasurementOptions &options)
 {
     bool isCanceled = false;
     QSet<QString> walls; // the lists whose cabinets are to be the wall
@@ -160,14 +190,14 @@ bool ViewerWindow::openPaths(const QStringList &fileNames, Manner manner, const 
         return isCanceled ? Outcome<GamutFile>::failure(QString()) : dialog.read();
     });
     if (isCanceled) {
-        return false;
+        return std::nullopt;
     }
     if (!read) {
         if (fileNames.size() == 1) {
             RecentFiles::remove(fileNames.first());
         }
         warn(read.error());
-        return false;
+        return std::nullopt;
     }
     QVector<ReadFile> files = *read;
     for (ReadFile &file : files) {
@@ -177,7 +207,7 @@ bool ViewerWindow::openPaths(const QStringList &fileNames, Manner manner, const 
             }
         }
     }
-    return openRead(files, manner);
+    return files;
 }
 
 bool ViewerWindow::openWall(const QString &fileName)
@@ -197,10 +227,18 @@ bool ViewerWindow::openRead(const QVector<ReadFile> &files, Manner manner)
 {
     m_panel->editor()->takeTyped();
     const bool isOpened = givesWay() ? openAlone(files) : openByQuestion(files, manner);
-    if (isOpened && std::any_of(files.cbegin(), files.cend(), [](const ReadFile &file) { return bool(file.wall); })) {
-        m_pages->setCurrentWidget(m_wallPage);
+    if (isOpened) {
+        showWallOf(files);
     }
     return isOpened;
+}
+
+//! Shows the page of walls if \a files have one.
+void ViewerWindow::showWallOf(const QVector<ReadFile> &files)
+{
+    if (std::any_of(files.cbegin(), files.cend(), [](const ReadFile &file) { return bool(file.wall); })) {
+        m_pages->setCurrentWidget(m_wallPage);
+    }
 }
 
 bool ViewerWindow::openAlone(const QVector<ReadFile> &files)
@@ -359,10 +397,9 @@ bool ViewerWindow::mayLoseChanges()
     if (!m_document.isModified()) {
         return true;
     }
-    // What the changes would be saved in, or else what they are of.
+    // What the changes would be saved in, or else what they are of, as the title calls it.
     const QString file = QFileInfo(m_document.fileName()).fileName();
-    const QString display = m_document.description().name;
-    const QString name = oneLine(!file.isEmpty() ? file : !display.isEmpty() ? display : tr("Untitled"));
+    const QString name = file.isEmpty() ? shownName() : oneLine(file);
     QMessageBox box(QMessageBox::Warning, tr("Unsaved changes"),
         tr("\"%1\" has been modified. Save the changes?").arg(name),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);

@@ -10,6 +10,9 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <functional>
+#include <optional>
+
 class QAction;
 class QLabel;
 class QMenu;
@@ -66,6 +69,15 @@ public:
     bool openPaths(const QStringList &fileNames, Manner manner = Manner::Open,
         const MeasurementOptions &options = MeasurementOptions());
     bool openPath(const QString &fileName) { return openPaths({fileName}); }
+    /*! \brief Whether what a measurement list means can be asked: the files can be read once more. */
+    static bool canAskAbout(const QStringList &fileNames);
+    /*! \brief What is to be done with files before they are shown. */
+    using OpenedChange = std::function<Outcome<OpenedFiles>(const OpenedFiles &)>;
+    /*!
+     * \brief Opens files at the start, when nothing is open. Asks what measurement lists mean; \a change is made with
+     * the answers. The window stays empty if the user cancels or, with a message, if anything fails.
+     */
+    void openWithQuestions(const QStringList &fileNames, const MeasurementOptions &options, const OpenedChange &change);
     /*!
      * \brief Opens the measurement list \a fileName as openPaths() does, but as a wall without a question, and shows
      * the page of walls.
@@ -121,6 +133,8 @@ private:
 
     void newDocument();
     void openByDialog(Manner manner);
+    std::optional<QVector<ReadFile>> readPaths(const QStringList &fileNames, const MeasurementOptions &options);
+    void showWallOf(const QVector<ReadFile> &files);
     bool openRead(const QVector<ReadFile> &files, Manner manner);
     bool openAlone(const QVector<ReadFile> &files);
     bool openByQuestion(const QVector<ReadFile> &files, Manner manner);
