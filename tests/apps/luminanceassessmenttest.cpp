@@ -195,6 +195,7 @@ void LuminanceAssessmentTest::whiteThatIsNotTheSum_data()
     // A white that is brighter than the primaries has light of its own; their sum is no bound.
     QTest::newRow("white of its own") << 2000.0 << beside << 1500.0 << notKnown << false;
     QTest::newRow("no white") << 0.0 << 0.0 << 500.0 << notKnown << false;
+    QTest::newRow("no white, above the sum") << 0.0 << 0.0 << 5000.0 << notKnown << false;
     // At the white that was measured, the reading decides.
     QTest::newRow("measured, 2 % less") << 980.01 << 0.0 << 980.0 << pass << true;
     QTest::newRow("measured, 2 % less, too bright") << 980.01 << 0.0 << 999.0 << fail << true;
@@ -232,6 +233,10 @@ void LuminanceAssessmentTest::whiteThatIsNotTheSum()
     QVERIFY2(line.judgement == judgement, qPrintable(line.text));
     QCOMPARE(a.displays.front().drive.has_value(), isDriveKnown);
     QCOMPARE(a.displays.front().largestWhite.has_value(), isDriveKnown);
+    if (white == 0.0) {
+        QCOMPARE(
+            line.text, QStringLiteral("What luminance the original reaches is not known: its white has no luminance."));
+    }
     if (judgement == Judgement::NotKnown && shift < 0.001 && white > 0.0) {
         const QString texts = QStringLiteral("The white of the original is %1 cd/m², its primaries add to 1000.0 cd/m²")
                                   .arg(white, 0, 'f', 1);

@@ -27,7 +27,9 @@ Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Target &m
     const auto difference = Model::uvDifference(measured, *sum);
     result.isAdditive = !result.differsInLuminance && difference && *difference <= additiveUv + rounding;
     const auto white = drive.driveOf(measured);
-    result.isUpperBound = result.isAdditive || (white && highest(*white) <= 1.0 + additiveLuminance + rounding);
+    // A white without a luminance has not been measured: there may be light of its own in it.
+    result.isUpperBound
+        = result.isAdditive || (measured.Y > 0.0 && white && highest(*white) <= 1.0 + additiveLuminance + rounding);
     return result;
 }
 

@@ -246,6 +246,12 @@ private:
             return;
         }
         const Model::Target &stated = displayTargets().white;
+        if (!(measured > 0.0)) {
+            addOfWhite(Judgement::NotKnown,
+                AssessmentText::tr("What luminance the %1 reaches is not known: its white has no luminance.")
+                    .arg(name));
+            return;
+        }
         const QString is = additivity.differsInLuminance ? luminanceText(stated.Y, unit) : pointText(pointOf(stated));
         const QString sum = additivity.differsInLuminance ? luminanceText(additivity.sum.Y, unit)
                                                           : pointText(pointOf(additivity.sum));

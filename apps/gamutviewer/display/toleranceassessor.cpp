@@ -133,9 +133,6 @@ private:
         if (!m_target) {
             return AssessmentText::tr("there is no target. Choose one.");
         }
-        if (subject == Model::ToleranceSubject::Luminance && !luminancesCompare(m_measured->unit, m_target->unit)) {
-            return incomparableText(m_target->unit, m_measured->unit, AssessmentText::tr("measured gamut"));
-        }
         if (subject == Model::ToleranceSubject::Temperature) {
             return AssessmentText::tr("one of the whites has no colour temperature.");
         }
@@ -169,8 +166,11 @@ private:
             : result.subject == ToleranceSubject::Temperature
             ? AssessmentText::tr("Measured colour temperature of the white")
             : AssessmentText::tr("Coverage of the target");
-        const QString is = result.value && result.verdict != Model::ToleranceVerdict::NotKnown
-            ? deviationText(result)
+        const QString is = result.value && result.verdict != Model::ToleranceVerdict::NotKnown ? deviationText(result)
+            : m_measured && m_target && result.subject == ToleranceSubject::Luminance
+                && !luminancesCompare(m_measured->unit, m_target->unit)
+            ? AssessmentText::tr("not known. %1", "and why, in sentences")
+                  .arg(incomparableText(m_target->unit, m_measured->unit, AssessmentText::tr("measured gamut")))
             : AssessmentText::tr("not known, as %1").arg(notKnownText(result.subject));
         QString text = AssessmentText::tr("%1: %2", "what was judged and the judgement").arg(what, is);
         if (result.verdict == Model::ToleranceVerdict::Failed) {
