@@ -117,6 +117,13 @@ void add(QVector<DisplayFact> &facts, const QString &name, const std::optional<d
     }
 }
 
+//! A gamma of 1 is hardly ever meant: a field that nobody filled in says so.
+QString gammaText(double gamma)
+{
+    const QString text = QString::number(gamma);
+    return gamma == 1.0 ? FileText::tr("%1, as a field that was left empty also says").arg(text) : text;
+}
+
 QVector<DisplayFact> facts(const EdidDisplay &display)
 {
     const QString list = QStringLiteral(", ");
@@ -127,7 +134,7 @@ QVector<DisplayFact> facts(const EdidDisplay &display)
     add(facts, FileText::tr("manufacturer"), display.manufacturer);
     add(facts, FileText::tr("year of manufacture"), year(display.manufactureYear));
     add(facts, FileText::tr("year of the model"), year(display.modelYear));
-    add(facts, FileText::tr("gamma"), display.gamma ? QString::number(*display.gamma) : QString());
+    add(facts, FileText::tr("gamma"), display.gamma ? gammaText(*display.gamma) : QString());
     add(facts, FileText::tr("luminance of a white screen"), native.fullScreen);
     add(facts, FileText::tr("luminance of white on 10 % of the screen"), native.tenPercent);
     add(facts, FileText::tr("luminance of black"), native.minimum);

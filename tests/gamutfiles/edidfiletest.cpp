@@ -84,6 +84,9 @@ void EdidFileTest::makerAndYear()
 void EdidFileTest::gammaOfTheBaseBlock()
 {
     QVERIFY(readEdidDisplay(edid())->gamma == 2.2);
+    // E-EDID 1.4: 00h to FEh are 1.00 to 3.54; with FFh an extension block states it.
+    QVERIFY(readEdidDisplay(withChecksum(edid().replace(23, 1, QByteArray(1, '\0'))))->gamma == 1.0);
+    QVERIFY(readEdidDisplay(withChecksum(edid().replace(23, 1, "\xFE")))->gamma == 3.54);
     const auto without = readEdidDisplay(withChecksum(edid().replace(23, 1, "\xFF")));
     QVERIFY(!without->gamma);
 }

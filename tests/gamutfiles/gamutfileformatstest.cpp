@@ -23,6 +23,7 @@ private Q_SLOTS:
     void listsThatBeginWithABracket();
     void listsAlignedBySpaces();
     void factsOfAnEdid();
+    void emptyGammaIsSaidToBe();
     void factsOfAProfile();
 
 private:
@@ -164,6 +165,17 @@ void GamutFileFormatsTest::factsOfAnEdid()
             QString::fromUtf8("desired maximum average of a frame: 496.7 cd/m²"),
             QString::fromUtf8("desired minimum luminance of content: 0.0006111 cd/m²"), "takes signals of: BT2020RGB",
             "takes transfer functions: traditional gamma, SDR luminance, SMPTE ST 2084"}));
+}
+
+void GamutFileFormatsTest::emptyGammaIsSaidToBe()
+{
+    const auto facts = [&](char code) {
+        const QByteArray edid = samplefiles::edid().replace(23, 1, QByteArray(1, code));
+        return lines(readGamutFile(write("gamma.edid", samplefiles::withChecksum(edid)))->facts);
+    };
+    QCOMPARE(facts('\0').last(), QStringLiteral("gamma: 1, as a field that was left empty also says"));
+    QCOMPARE(facts('\1').last(), QStringLiteral("gamma: 1.01"));
+    QCOMPARE(facts('\xFF'), QStringList{"manufacturer: ABC"});
 }
 
 void GamutFileFormatsTest::factsOfAProfile()
