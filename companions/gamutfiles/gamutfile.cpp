@@ -235,6 +235,10 @@ Outcome<GamutFile> readGamutFile(const QString &fileName, const MeasurementOptio
     case Format::Unknown:
         break;
     }
+    if (bytes->startsWith("PK\x03\x04")) { // ZIP, which spreadsheets are saved in
+        return Failure::failure(
+            FileText::tr("is a ZIP archive, as spreadsheets are: save the list as text, with the suffix csv"));
+    }
     return Failure::failure(
         FileText::tr("is not a display description (JSON), measurement list (CSV), ICC profile or EDID"));
 }

@@ -106,6 +106,8 @@ void GamutFileTest::errors_data()
     };
     const QByteArray icc = samplefiles::version2Profile();
     const char *const unknown = ": is not a display description (JSON), measurement list (CSV), ICC profile or EDID";
+    row("wall.ods", QByteArray("PK\x03\x04\x14\x00\x00\x08", 8),
+        ": is a ZIP archive, as spreadsheets are: save the list as text, with the suffix csv");
     row("empty", "", ": is empty");
     row("empty.icc", "", ": is empty");
     row("picture", QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16), unknown);
