@@ -17,6 +17,7 @@ private Q_SLOTS:
     void luminanceAtItsLimit();
     void farTooBright();
     void reachedLuminanceIsItselfReached();
+    void whatIsReachedDoesNotLookLess();
     void primaryBrighterThanTheDisplay();
     void unitsThatDoNotCompare_data();
     void unitsThatDoNotCompare();
@@ -105,6 +106,24 @@ void LuminanceAssessmentTest::reachedLuminanceIsItselfReached()
     const double said = numbers(text.mid(text.indexOf(QLatin1String("Lower")))).first();
     const double full = 1.0 / highestDrive(d.gamuts[0].getTargets(), Model::Target::fromYxy(1.0, 0.2829, 0.2971));
     QVERIFY2(said <= full && said > full - 0.1, qPrintable(text));
+}
+
+void LuminanceAssessmentTest::whatIsReachedDoesNotLookLess()
+{
+    // 755.67 is 755.7 rounded, but 755.6 rounded down.
+    const auto text = [](double target) {
+        DisplayDescription d = wall(target);
+        targetsOf(d, 0) = scaled(Model::rec2020().getTargets(), 755.67);
+        return about(assess(d), Subject::Luminance).first().text;
+    };
+    for (const double target : {755.67, 755.66}) {
+        QVERIFY2(
+            text(target).startsWith(QString::fromUtf8("The white of 755.7 cd/m² needs")), qPrintable(text(target)));
+        QVERIFY2(text(target).contains(QString::fromUtf8("It reaches 755.7 cd/m² at this white (headroom 1.00)")),
+            qPrintable(text(target)));
+    }
+    QVERIFY(text(755.61).contains(QString::fromUtf8("It reaches 755.6 cd/m²")));
+    QVERIFY(text(755.75).contains(QString::fromUtf8("It reaches 755.6 cd/m²"))); // within 0.2 %
 }
 
 void LuminanceAssessmentTest::primaryBrighterThanTheDisplay()

@@ -79,6 +79,13 @@ QString reachableText(double luminance)
     return luminanceText(roundedDown(luminance));
 }
 
+QString reachedText(double luminance, double wanted, LuminanceUnit unit)
+{
+    const bool isReached = luminance >= wanted * (1.0 - Model::driveRounding);
+    const bool looksLess = reachableText(luminance).toDouble() < luminanceText(wanted).toDouble();
+    return isReached && looksLess ? luminanceText(wanted, unit) : reachableText(luminance, unit);
+}
+
 QString drivesText(const Model::Drive &drive)
 {
     QStringList texts;

@@ -41,6 +41,8 @@ double roundedDown(double luminance);
 QString reachableText(double luminance, LuminanceUnit unit);
 /*! \brief The same without the unit. */
 QString reachableText(double luminance);
+/*! \brief reachableText() beside luminanceText() of \a wanted: it is not less where \a luminance is not. */
+QString reachedText(double luminance, double wanted, LuminanceUnit unit);
 /*! \brief "red 71.0 %, green 68.2 %, blue 64.9 %". */
 QString drivesText(const Model::Drive &drive);
 

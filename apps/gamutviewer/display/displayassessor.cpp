@@ -273,7 +273,7 @@ private:
         if (luminance <= reached * fullDrive) {
             addOfWhite(Judgement::Pass,
                 AssessmentText::tr("The white of the %1 is the one of the target, and reaches %2 (headroom %3).")
-                    .arg(name, reachableText(reached, unit), fixedText(reached / luminance, 2)));
+                    .arg(name, reachedText(reached, luminance, unit), fixedText(reached / luminance, 2)));
             return;
         }
         addOfWhite(Judgement::Fail,
@@ -303,7 +303,7 @@ private:
         if (highest(drive) <= fullDrive) {
             QString text
                 = AssessmentText::tr("The white of %1 needs of the %2: %3. It reaches %4 at this white (headroom %5).")
-                      .arg(luminanceText(white.Y, unit), name, drivesText(drive), reachableText(reached, unit),
+                      .arg(luminanceText(white.Y, unit), name, drivesText(drive), reachedText(reached, white.Y, unit),
                           fixedText(reached / white.Y, 2));
             if (highest(drive) > 1.0 + Model::driveRounding) {
                 text += QLatin1Char(' ')
