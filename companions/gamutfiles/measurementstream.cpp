@@ -4,8 +4,7 @@
 
 #include "colornames_p.h"
 #include "linesplitter_p.h"
-#include "measurementreader_p.h"
-#include "numbers_p.h"
+#include "streamrows_p.h"
 #include "textencoding_p.h"
 
 #include <algorithm>
@@ -17,12 +16,6 @@ namespace {
 
 struct StreamText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::MeasurementStream)
-};
-
-//! A line of text.
-struct NumberedLine {
-    qint64 number = 0; //!< from 1
-    QString text;
 };
 
 bool isAscii(const QByteArray &bytes)
@@ -45,142 +38,6 @@ MeasurementOptions usable(MeasurementOptions options)
 }
 
 } // namespace
-
-/*! \brief The lines below one header, read as they come by the steps that read a whole list. */
-class StreamRows : public MeasurementReader {
-public:
-    using MeasurementReader::MeasurementReader;
-
-    //! Finds the header in \a lines; false where there is none, or where what follows it is wanting.
-    bool begin(const QVector<NumberedLine> &lines);
-    //! Whether \a line is a header by itself.
-    bool isHeader(const NumberedLine &line);
-    //! Reads \a row, or else the rows that it decides how to read. What cannot be read is told to \a refuse.
-    template <typename Refuse>
-    QVector<Measurement> take(const CsvRow &row, const Refuse &refuse);
-    //! The rows that no later one can decide any more are refused.
-    template <typename Refuse>
-    void refuseHeld(const Refuse &refuse);
-
-    QChar separator() const { return m_table.separator; }
-    const Problem &failure() const { return m_failure; }
-    const QVector<Problem> &warnings() const { return m_warnings; }
-    LuminanceUnit unit() const { return m_list.unit; }
-    const MeasurementRecognition &recognized() const { return m_list.recognized; }
-    int heldRows() const { return int(m_held.size()); }
-    //! The rows below the header that begin() was given.
-    QVector<CsvRow> takeFirstRows() { return std::exchange(m_firstRows, {}); }
-
-    static QString placeOf(qint64 line) { return place(int(line)); }
-    static bool isChosen(const Measurement &measurement, const MeasurementChoice &choice)
-    {
-        return answersTo(measurement, choice);
-    }
-
-private:
-    bool contradictsItself(const CsvRow &row) const;
-    template <typename Refuse>
-    void read(const CsvRow &row, QVector<Measurement> &found, const Refuse &refuse);
-
-    QVector<CsvRow> m_firstRows;
-    QVector<CsvRow> m_held; // until the decimal sign is known
-};
-
-bool StreamRows::begin(const QVector<NumberedLine> &lines)
-{
-    QString text;
-    for (const NumberedLine &line : lines) {
-        text += line.text + QLatin1Char('\n');
-    }
-    m_table = readCsv(text, m_options.separator);
-    for (CsvRow &row : m_table.rows) {
-        row.line = int(lines.at(row.line - 1).number);
-    }
-    if (m_table.rows.isEmpty() || !findColumns()) {
-        return false;
-    }
-    MeasurementRecognition &recognized = m_list.recognized;
-    recognized.separator = m_table.separator;
-    const CsvRow &last = m_table.rows.last();
-    const auto isNumber
-        = [&last](int field) { return decimalEvidence(last.fields.value(field)) != DecimalEvidence::NotANumber; };
-    // A line below the header may tell the units. Without a header anything may precede the first measurement.
-    if (recognized.headerLine > 0 ? last.line <= recognized.headerLine : !isNumber(1) || !isNumber(2) || !isNumber(3)) {
-        return fail(StreamText::tr("the header and the first measurement are awaited"));
-    }
-    m_decimalSign = m_options.decimalSign.value_or(m_decimalSign);
-    m_firstRows = m_table.rows.mid(m_firstRow);
-    m_table.rows.clear();
-    m_firstRow = 0;
-    return true;
-}
-
-bool StreamRows::isHeader(const NumberedLine &line)
-{
-    m_table = readCsv(line.text, m_options.separator);
-    return m_table.rows.size() == 1 && findColumns() && m_list.recognized.headerLine > 0;
-}
-
-//! Whether \a row has both decimal points and decimal commas.
-bool StreamRows::contradictsItself(const CsvRow &row) const
-{
-    const auto has = [&](DecimalEvidence evidence) {
-        return std::any_of(m_numberParts.begin(), m_numberParts.end(),
-            [&](ColumnPart part) { return decimalEvidence(given(row, part)) == evidence; });
-    };
-    return has(DecimalEvidence::Point) && has(DecimalEvidence::Comma);
-}
-
-template <typename Refuse>
-QVector<Measurement> StreamRows::take(const CsvRow &row, const Refuse &refuse)
-{
-    QVector<Measurement> found;
-    if (m_list.recognized.decimalSign || m_options.decimalSign) {
-        read(row, found, refuse);
-        return found;
-    }
-    m_failure = Problem();
-    m_table.rows = {row};
-    if (contradictsItself(row)) {
-        decideDecimalSign();
-        refuse(row.line, m_failure);
-        return found;
-    }
-    m_held.append(row);
-    m_table.rows = m_held;
-    if (decideDecimalSign()) {
-        for (const CsvRow &held : std::exchange(m_held, {})) {
-            read(held, found, refuse);
-        }
-    } else if (m_held.size() >= maximumHeldLines) {
-        refuseHeld(refuse);
-    }
-    m_table.rows.clear();
-    return found;
-}
-
-template <typename Refuse>
-void StreamRows::refuseHeld(const Refuse &refuse)
-{
-    for (const CsvRow &held : std::exchange(m_held, {})) {
-        refuse(held.line, m_failure);
-    }
-}
-
-template <typename Refuse>
-void StreamRows::read(const CsvRow &row, QVector<Measurement> &found, const Refuse &refuse)
-{
-    m_failure = Problem();
-    m_withoutNumbers = Lines();
-    m_list.measurements.clear();
-    findNoise(row);
-    if (!takeRow(row)) {
-        refuse(row.line, m_failure);
-    } else if (m_withoutNumbers.count > 0) {
-        refuse(row.line, Problem{StreamText::tr("has no numbers"), place(row.line), 0, 0});
-    }
-    found += m_list.measurements;
-}
 
 class MeasurementStream::Private {
 public:

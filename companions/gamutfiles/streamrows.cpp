@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
+// SPDX-License-Identifier: MIT
+#include "streamrows_p.h"
+
+#include "numbers_p.h"
+
+#include <gamutfiles/measurementstream.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace gamutfiles {
+
+namespace {
+
+struct StreamText {
+    Q_DECLARE_TR_FUNCTIONS(gamutfiles::MeasurementStream)
+};
+
+} // namespace
+
+bool StreamRows::begin(const QVector<NumberedLine> &lines)
+{
+    QString text;
+    for (const NumberedLine &line : lines) {
+        text += line.text + QLatin1Char('\n');
+    }
+    m_table = readCsv(text, m_options.separator);
+    for (CsvRow &row : m_table.rows) {
+        row.line = int(lines.at(row.line - 1).number);
+    }
+    if (m_table.rows.isEmpty() || !findColumns()) {
+        return false;
+    }
+    MeasurementRecognition &recognized = m_list.recognized;
+    recognized.separator = m_table.separator;
+    const CsvRow &last = m_table.rows.last();
+    const auto isNumber
+        = [&last](int field) { return decimalEvidence(last.fields.value(field)) != DecimalEvidence::NotANumber; };
+    // A line below the header may tell the units. Without a header anything may precede the first measurement.
+    if (recognized.headerLine > 0 ? last.line <= recognized.headerLine : !isNumber(1) || !isNumber(2) || !isNumber(3)) {
+        return fail(StreamText::tr("the header and the first measurement are awaited"));
+    }
+    m_decimalSign = m_options.decimalSign.value_or(m_decimalSign);
+    m_firstRows = m_table.rows.mid(m_firstRow);
+    m_table.rows.clear();
+    m_firstRow = 0;
+    return true;
+}
+
+bool StreamRows::isHeader(const NumberedLine &line)
+{
+    m_table = readCsv(line.text, m_options.separator);
+    return m_table.rows.size() == 1 && findColumns() && m_list.recognized.headerLine > 0;
+}
+
+//! Whether \a row has both decimal points and decimal commas.
+bool StreamRows::contradictsItself(const CsvRow &row) const
+{
+    const auto has = [&](DecimalEvidence evidence) {
+        return std::any_of(m_numberParts.begin(), m_numberParts.end(),
+            [&](ColumnPart part) { return decimalEvidence(given(row, part)) == evidence; });
+    };
+    return has(DecimalEvidence::Point) && has(DecimalEvidence::Comma);
+}
+
+QVector<Measurement> StreamRows::take(const CsvRow &row, const Refusal &refuse)
+{
+    QVector<Measurement> found;
+    if (m_list.recognized.decimalSign || m_options.decimalSign) {
+        read(row, found, refuse);
+        return found;
+    }
+    m_failure = Problem();
+    m_table.rows = {row};
+    if (contradictsItself(row)) {
+        decideDecimalSign();
+        refuse(row.line, m_failure);
+        return found;
+    }
+    m_held.append(row);
+    m_table.rows = m_held;
+    if (decideDecimalSign()) {
+        for (const CsvRow &held : std::exchange(m_held, {})) {
+            read(held, found, refuse);
+        }
+    } else if (m_held.size() >= maximumHeldLines) {
+        refuseHeld(refuse);
+    }
+    m_table.rows.clear();
+    return found;
+}
+
+void StreamRows::refuseHeld(const Refusal &refuse)
+{
+    for (const CsvRow &held : std::exchange(m_held, {})) {
+        refuse(held.line, m_failure);
+    }
+}
+
+void StreamRows::read(const CsvRow &row, QVector<Measurement> &found, const Refusal &refuse)
+{
+    m_failure = Problem();
+    m_withoutNumbers = Lines();
+    m_list.measurements.clear();
+    findNoise(row);
+    if (!takeRow(row)) {
+        refuse(row.line, m_failure);
+    } else if (m_withoutNumbers.count > 0) {
+        refuse(row.line, Problem{StreamText::tr("has no numbers"), place(row.line), 0, 0});
+    }
+    found += m_list.measurements;
+}
+
+} // namespace gamutfiles
