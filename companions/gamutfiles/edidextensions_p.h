@@ -51,19 +51,22 @@ private:
         Bytes mid(int from, int length = -1) const { return {data.mid(from, length), offset + from}; }
     };
 
+    // In edidcta.cpp.
     void readCta(const Bytes &block);
     void readCtaDataBlocks(const Bytes &blocks);
     void readColorimetry(const Bytes &payload);
     void readHdrStaticMetadata(const Bytes &payload);
+
+    // In ediddisplayid.cpp.
     void readDisplayId(const Bytes &block);
     void readDisplayIdBlock(int tag, int revision, const Bytes &payload);
     void readParameters1(const Bytes &payload);
     void readColorCharacteristics(int revision, const Bytes &payload);
     void readParameters2(const Bytes &payload);
-
     void setChromaticities(const EdidChromaticities &colors, int byte);
     EdidNativeLuminance plausible(EdidNativeLuminance luminances, int byte);
     void setLuminances(const EdidNativeLuminance &luminances, int byte);
+
     bool isLongEnough(const Bytes &payload, int size, const QString &name);
     void warn(const QString &text, int byte = -1);
 
