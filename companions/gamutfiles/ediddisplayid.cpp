@@ -99,7 +99,7 @@ void EdidExtensions::readParameters1(const Bytes &payload)
 {
     constexpr int gammaByte = 9;
     if (isLongEnough(payload, 12, tr("display parameters data block"))) {
-        m_display->gamma = edidGamma(payload.at(gammaByte));
+        setGamma(payload.at(gammaByte));
     }
 }
 
@@ -143,7 +143,7 @@ void EdidExtensions::readParameters2(const Bytes &payload)
     setLuminances(
         plausible({luminance(0), luminance(1), luminance(2), (payload.at(flagsByte) >> 3 & 0x03) == 0}, payload.offset),
         payload.offset);
-    m_display->gamma = edidGamma(payload.at(gammaByte));
+    setGamma(payload.at(gammaByte));
 }
 
 /*
@@ -174,6 +174,14 @@ EdidNativeLuminance EdidExtensions::plausible(EdidNativeLuminance luminances, in
             byte);
     }
     return luminances;
+}
+
+//! The first block that states it counts.
+void EdidExtensions::setGamma(int code)
+{
+    if (!m_display->gamma) {
+        m_display->gamma = edidGamma(code);
+    }
 }
 
 //! The first block that states them counts; another that contradicts it is warned of.

@@ -63,6 +63,7 @@ private:
     void readParameters1(const Bytes &payload);
     void readColorCharacteristics(int revision, const Bytes &payload);
     void readParameters2(const Bytes &payload);
+    void setGamma(int code);
     void setChromaticities(const EdidChromaticities &colors, int byte);
     EdidNativeLuminance plausible(EdidNativeLuminance luminances, int byte);
     void setLuminances(const EdidNativeLuminance &luminances, int byte);

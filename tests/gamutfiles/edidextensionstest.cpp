@@ -22,6 +22,7 @@ private Q_SLOTS:
     void nativeLuminancesThatAreEmpty();
     void nativeLuminancesThatContradict();
     void displayIdOfTheFirstVersion();
+    void gammaOfTheFirstBlockThatStatesIt();
     void displayIdInUniformCoordinates();
     void displayIdWithoutBasePrimaries();
     void dataBlocksThatContradict();
@@ -150,6 +151,23 @@ void EdidExtensionsTest::displayIdOfTheFirstVersion()
     QVERIFY(display->displayIdChromaticities->red == QPointF(2785 / 4096.0, 1311 / 4096.0));
     QVERIFY(display->displayIdChromaticities->white == QPointF(1281 / 4096.0, 1348 / 4096.0));
     QVERIFY(display->gamut.unit == LuminanceUnit::Relative);
+}
+
+void EdidExtensionsTest::gammaOfTheFirstBlockThatStatesIt()
+{
+    const auto parameters = [](int code) {
+        QByteArray bytes(12, '\0');
+        bytes[9] = char(code);
+        return displayIdDataBlock(1, 0, bytes);
+    };
+    const auto gamma = [&](int first, int second) {
+        return readEdidDisplay(withExtensions(edid(), {displayIdBlock(0x13, parameters(first) + parameters(second))}))
+            ->gamma;
+    };
+    QVERIFY(gamma(140, 0xFF) == 2.4);
+    QVERIFY(gamma(0xFF, 140) == 2.4);
+    QVERIFY(gamma(140, 100) == 2.4);
+    QVERIFY(gamma(0xFF, 0xFF) == 2.2); // of the base block
 }
 
 // u', v' of D65: 0.1978, 0.4683.
