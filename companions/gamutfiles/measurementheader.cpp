@@ -83,6 +83,18 @@ bool namesLab(const QStringList &headers)
     return has(QLatin1Char('a')) && has(QLatin1Char('b'));
 }
 
+//! Whether there is a "u" and a "v" without primes, which CIE 1960 and CIE 1976 both have.
+bool namesUvOfTwoSystems(const QStringList &headers)
+{
+    const auto has = [&headers](const QString &letter) {
+        return std::any_of(headers.begin(), headers.end(), [&letter](const QString &header) {
+            const QString text = header.simplified().toLower();
+            return text == letter || text == QLatin1String("cie ") + letter;
+        });
+    };
+    return has(QStringLiteral("u")) && has(QStringLiteral("v"));
+}
+
 } // namespace
 
 MeasurementReader::Header MeasurementReader::headerOf(const CsvRow &row)
@@ -134,6 +146,7 @@ bool MeasurementReader::findColumns()
     int mostNames = 0;
     int likeliestLine = 0;
     int otherObserverLine = 0;
+    int unclearUvLine = 0;
     Columns likeliest{};
     for (int i = 0; i < m_table.rows.size(); ++i) {
         const Header header = headerOf(m_table.rows.at(i));
@@ -143,6 +156,9 @@ bool MeasurementReader::findColumns()
         }
         if (header.hasOtherObserver && otherObserverLine == 0) {
             otherObserverLine = m_table.rows.at(i).line;
+        }
+        if (namesUvOfTwoSystems(m_table.rows.at(i).fields) && unclearUvLine == 0) {
+            unclearUvLine = m_table.rows.at(i).line;
         }
         const auto names
             = int(std::count_if(header.columns.begin(), header.columns.end(), [](int c) { return c >= 0; }));
@@ -158,6 +174,10 @@ bool MeasurementReader::findColumns()
     if (otherObserverLine > 0) {
         return fail(
             tr("the columns are of the 10° observer: those of CIE 1931 (2°) are needed"), place(otherObserverLine));
+    }
+    if (unclearUvLine > 0) {
+        return fail(tr("the columns u and v can be those of CIE 1960 or of CIE 1976: call these u' and v'"),
+            place(unclearUvLine));
     }
     const CsvRow &first = m_table.rows.first();
     const bool startsWithNumbers = std::any_of(first.fields.begin(), first.fields.end(), isNumber);

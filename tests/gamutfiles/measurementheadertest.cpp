@@ -22,6 +22,7 @@ private Q_SLOTS:
     void surestLuminance();
     void lightnessIsNoLuminance();
     void otherObserver();
+    void uvOfTwoSystems();
     void numberedColumns_data();
     void numberedColumns();
     void otherObserverAboveTheHeader_data();
@@ -142,6 +143,17 @@ void MeasurementHeaderTest::otherObserver()
     const QByteArray both = "name,X (10°),Y (10°),Z (10°),X,Y,Z\na,20,30,40,50,60,70";
     QCOMPARE(readMeasurementList(both)->measurements[0].luminance, 60.0);
     QCOMPARE(warningsOf(both).first(), QStringLiteral("line 1: column 2 is of the 10° observer and is not read"));
+}
+
+void MeasurementHeaderTest::uvOfTwoSystems()
+{
+    for (const char *header : {"name,Lv,u,v", "name,u,v,Y", "name,Lv,CIE u,CIE v", "Patch,U,V,Lv"}) {
+        QCOMPARE(errorOf("a title\n" + QByteArray(header) + "\na,1,0.2,0.3"),
+            QStringLiteral(
+                "line 2: the columns u and v can be those of CIE 1960 or of CIE 1976: call these u' and v'"));
+    }
+    QVERIFY(readMeasurementList("name,u,v,Lv,x,y\na,0.2,0.3,100,0.3,0.3"));
+    QCOMPARE(errorOf("name,Lv,u\na,1,0.2"), QStringLiteral("line 1: missing column x"));
 }
 
 void MeasurementHeaderTest::numberedColumns_data()
