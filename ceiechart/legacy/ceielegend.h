@@ -31,6 +31,18 @@ class CEIECHART_EXPORT CEIELegend : public ceiechart::ChartLegend {
     Q_PROPERTY(QString originalPointText READ originalPointText WRITE setOriginalPointText)
     /*! \brief The caption of the managed point. */
     Q_PROPERTY(QString managedPointText READ managedPointText WRITE setManagedPointText)
+    /*! \brief Whether the entry of the common gamut is shown. */
+    Q_PROPERTY(bool commonGamutVisible READ isCommonGamutVisible WRITE setCommonGamutVisible)
+    /*! \brief Whether the entry of the target gamut is shown. */
+    Q_PROPERTY(bool targetGamutVisible READ isTargetGamutVisible WRITE setTargetGamutVisible)
+    /*! \brief Whether the entry of the original gamut is shown. */
+    Q_PROPERTY(bool originalGamutVisible READ isOriginalGamutVisible WRITE setOriginalGamutVisible)
+    /*! \brief Whether the entry of the target point is shown. */
+    Q_PROPERTY(bool targetPointVisible READ isTargetPointVisible WRITE setTargetPointVisible)
+    /*! \brief Whether the entry of the original point is shown. */
+    Q_PROPERTY(bool originalPointVisible READ isOriginalPointVisible WRITE setOriginalPointVisible)
+    /*! \brief Whether the entry of the managed point is shown. */
+    Q_PROPERTY(bool managedPointVisible READ isManagedPointVisible WRITE setManagedPointVisible)
 
 public:
     /*! \brief An entry of the legend. */

@@ -80,4 +80,64 @@ void ChartLegend::setManagedPointText(const QString &text)
     d->setCaption(LegendEntry::ManagedPoint, text);
 }
 
+bool ChartLegend::isCommonGamutVisible() const
+{
+    return d->isShown(LegendEntry::CommonGamut);
+}
+
+bool ChartLegend::isTargetGamutVisible() const
+{
+    return d->isShown(LegendEntry::TargetGamut);
+}
+
+bool ChartLegend::isOriginalGamutVisible() const
+{
+    return d->isShown(LegendEntry::OriginalGamut);
+}
+
+bool ChartLegend::isTargetPointVisible() const
+{
+    return d->isShown(LegendEntry::TargetPoint);
+}
+
+bool ChartLegend::isOriginalPointVisible() const
+{
+    return d->isShown(LegendEntry::OriginalPoint);
+}
+
+bool ChartLegend::isManagedPointVisible() const
+{
+    return d->isShown(LegendEntry::ManagedPoint);
+}
+
+void ChartLegend::setCommonGamutVisible(bool visible)
+{
+    d->setVisible(LegendEntry::CommonGamut, visible);
+}
+
+void ChartLegend::setTargetGamutVisible(bool visible)
+{
+    d->setVisible(LegendEntry::TargetGamut, visible);
+}
+
+void ChartLegend::setOriginalGamutVisible(bool visible)
+{
+    d->setVisible(LegendEntry::OriginalGamut, visible);
+}
+
+void ChartLegend::setTargetPointVisible(bool visible)
+{
+    d->setVisible(LegendEntry::TargetPoint, visible);
+}
+
+void ChartLegend::setOriginalPointVisible(bool visible)
+{
+    d->setVisible(LegendEntry::OriginalPoint, visible);
+}
+
+void ChartLegend::setManagedPointVisible(bool visible)
+{
+    d->setVisible(LegendEntry::ManagedPoint, visible);
+}
+
 } // namespace ceiechart

@@ -62,6 +62,39 @@ public:
     /*! \brief Replaces one caption like setshowPointText(). Ignored by a legend without point entries. */
     void setManagedPointText(const QString &text);
 
+    /*!
+     * \name Entries, one by one
+     * What setLegendVisible() and isLegendVisible() do by the number of an entry, which differs between the
+     * generations. A legend without point entries ignores the setters of points, and its getters of points return
+     * false.
+     * @{
+     */
+    /*! \brief Whether the entry of the common gamut is shown. */
+    bool isCommonGamutVisible() const;
+    /*! \brief Whether the entry of the target gamut is shown. */
+    bool isTargetGamutVisible() const;
+    /*! \brief Whether the entry of the original gamut is shown. */
+    bool isOriginalGamutVisible() const;
+    /*! \brief Whether the entry of the target point is shown. */
+    bool isTargetPointVisible() const;
+    /*! \brief Whether the entry of the original point is shown. */
+    bool isOriginalPointVisible() const;
+    /*! \brief Whether the entry of the managed point is shown. */
+    bool isManagedPointVisible() const;
+    /*! \brief Shows or hides the entry of the common gamut. */
+    void setCommonGamutVisible(bool visible);
+    /*! \brief Shows or hides the entry of the target gamut. */
+    void setTargetGamutVisible(bool visible);
+    /*! \brief Shows or hides the entry of the original gamut. */
+    void setOriginalGamutVisible(bool visible);
+    /*! \brief Shows or hides the entry of the target point. */
+    void setTargetPointVisible(bool visible);
+    /*! \brief Shows or hides the entry of the original point. */
+    void setOriginalPointVisible(bool visible);
+    /*! \brief Shows or hides the entry of the managed point. */
+    void setManagedPointVisible(bool visible);
+    /*! @} */
+
 protected:
     ChartLegend(bool showPoint, QWidget *parent);
 

@@ -34,6 +34,7 @@ private Q_SLOTS:
     {
         Tests::noEntryOfThatType({6, 7, 100, -1, -2, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()});
     }
+    void visibilityByProperties() { Tests::visibilityByProperties(); }
     void visibilityWithoutPointEntries() { Tests::visibilityWithoutPointEntries({3, 4, 5, 6}); }
     void legendTypeValues();
 };

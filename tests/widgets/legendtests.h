@@ -230,7 +230,8 @@ struct LegendTests {
         QCOMPARE(meta.methodCount(), meta.methodOffset());
         QCOMPARE(reference::declaredProperties(meta),
             QStringList({"legendAlignament", "showOriginalText", "showTargetText", "targetPointText",
-                "originalPointText", "managedPointText"}));
+                "originalPointText", "managedPointText", "commonGamutVisible", "targetGamutVisible",
+                "originalGamutVisible", "targetPointVisible", "originalPointVisible", "managedPointVisible"}));
         QVERIFY((std::is_base_of_v<QFrame, Legend>));
         QVERIFY((!std::is_convertible_v<QWidget *, Legend>));
     }
@@ -485,6 +486,30 @@ struct LegendTests {
         for (const int type : pointTypes) {
             legend.setLegendVisible(static_cast<Type>(type), false);
             QCOMPARE(shown(legend), QStringLiteral("scscsc"));
+        }
+    }
+
+    // Each property is that of its entry, in the order in which the entries are shown.
+    static void visibilityByProperties()
+    {
+        const QList<QByteArray> names = {"originalGamutVisible", "targetGamutVisible", "commonGamutVisible",
+            "targetPointVisible", "originalPointVisible", "managedPointVisible"};
+        for (const bool points : {true, false}) {
+            Legend legend(points, nullptr);
+            const QString all = shown(legend);
+            for (int entry = 0; entry < names.size(); ++entry) {
+                const char *name = names.at(entry).constData();
+                QString expected = all;
+                if (2 * entry < all.size()) {
+                    expected.replace(2 * entry, 2, QStringLiteral("--"));
+                }
+                QCOMPARE(legend.property(name), QVariant(expected != all));
+                QVERIFY(legend.setProperty(name, false));
+                QCOMPARE(legend.property(name), QVariant(false));
+                QCOMPARE(shown(legend), expected);
+                QVERIFY(legend.setProperty(name, true));
+                QCOMPARE(shown(legend), all);
+            }
         }
     }
 
