@@ -81,6 +81,7 @@ void CEIEGraphicsView::Private::colorMessage()
     QPalette palette = mixInfoLabel->palette();
     palette.setColor(QPalette::WindowText, ceiechart::textColorOn(ground));
     mixInfoLabel->setPalette(palette);
+    mixInfoHalo->setColor(ground);
 }
 
 CEIEGraphicsView::CEIEGraphicsView(QWidget *parent)
@@ -286,6 +287,7 @@ void CEIEGraphicsView::buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignm
     label->setFixedWidth(200);
     label->setFixedHeight(400);
     label->setWordWrap(true);
+    label->setGraphicsEffect(own().mixInfoHalo = new ceiechart::TextHalo(label));
     label->hide();
 
     setLegendAlignamentCommon(alignment);

@@ -7,6 +7,7 @@
 #include <ceiechart/scene/ceiegraphicsscene.h>
 #include <ceiechart/widgets/ceiegraphicsview.h>
 #include <ceiechart/widgets/chartframe_p.h>
+#include <ceiechart/widgets/texthalo_p.h>
 
 class QLabel;
 
@@ -26,13 +27,17 @@ public:
     void addTarget(const Model::ColorGamut &target, const TrianglePoint &triangle, bool besideMeasured);
 
     void groundChanged() override { colorMessage(); }
-    /*! \brief Gives the message a colour that is legible over the picture. A style sheet of the host prevails. */
+    /*!
+     * \brief Gives the message a colour that is legible over the picture, also where the picture has numbers and discs.
+     * The text color of a style sheet of the host prevails.
+     */
     void colorMessage();
 
     QList<ColorTriangleObject> standardTriangles;
     TrianglePoint targetTriangle;
     TrianglePoint originalTriangle;
     QLabel *mixInfoLabel = nullptr;
+    ceiechart::TextHalo *mixInfoHalo = nullptr;
     bool showStandard = true;
     bool showTarget = true;
     bool showOriginal = true;

@@ -18,6 +18,8 @@ class ChartGroundTest : public QObject {
 private Q_SLOTS:
     void messageIsLegible_data();
     void messageIsLegible();
+    void messageIsLegibleOverDiscs_data();
+    void messageIsLegibleOverDiscs();
     void messageInTheColorOfAStyleSheet();
     void lightPictureIsLegible_data();
     void lightPictureIsLegible();
@@ -131,6 +133,47 @@ void ChartGroundTest::messageIsLegible()
     const QRgb behind = picture.pixel(label->geometry().bottomRight());
     const double reached = greatestContrast(picture, label->geometry(), behind);
     QVERIFY2(reached >= 4.5, qPrintable(QStringLiteral("%1 on %2").arg(reached).arg(behind, 0, 16)));
+}
+
+void ChartGroundTest::messageIsLegibleOverDiscs_data()
+{
+    QTest::addColumn<bool>("light");
+    QTest::newRow("white disc on dark ground") << false;
+    QTest::newRow("black disc on light ground") << true;
+}
+
+// A disc of the text's own colour is in the middle of the message.
+void ChartGroundTest::messageIsLegibleOverDiscs()
+{
+    QFETCH(bool, light);
+    const auto chart = currentChart();
+    chart->setImageSize(QSize(672, 728));
+    chart->setLightPicture(light);
+    chart->show();
+    settle();
+    const QString message = QStringLiteral("M ").repeated(600);
+    chart->updateLanGamut(true, message);
+    const QPoint middle = messageOf(*chart)->geometry().center();
+    // Cyan, magenta, yellow and black, one over the other.
+    const QPointF xy = *chart->chromaticityInView(middle);
+    if (light) {
+        chart->setCMYPointData({QPointF(0.6, 0.1), QPointF(0.6, 0.1), QPointF(0.6, 0.1), xy});
+        chart->updateLanGamut(true, message);
+    } else {
+        using Model::Target;
+        chart->setColorGamut(Model::ColorGamut("target",
+                                 {Target::fromYxy(1, 0.64, 0.33), Target::fromYxy(1, 0.3, 0.6),
+                                     Target::fromYxy(1, 0.15, 0.06), Target::fromYxy(3, xy.x(), xy.y())}),
+            wall(), {});
+        chart->updateLanGamut(true, message);
+    }
+    settle();
+    const QRect disc(middle - QPoint(4, 4), QSize(9, 9));
+    const QRgb ink = light ? qRgb(0, 0, 0) : qRgb(255, 255, 255);
+    const QImage without = chart->toImage();
+    QVERIFY(contrast(without.pixel(without.width() / 2, without.height() / 2), ink) < 1.3);
+    const QImage picture = chart->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QVERIFY(greatestContrast(picture, disc, ink) >= 4.5);
 }
 
 void ChartGroundTest::messageInTheColorOfAStyleSheet()
