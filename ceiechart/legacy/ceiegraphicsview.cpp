@@ -83,6 +83,11 @@ CEIEGraphicsView::Private &CEIEGraphicsView::own() const
     return static_cast<Private &>(*d);
 }
 
+DrawCEIPicture::CEIEType CEIEGraphicsView::diagramType() const
+{
+    return own().type == DrawCEIPicture::UvDiagram ? DrawCEIPicture::UvDiagram : DrawCEIPicture::XyDiagram;
+}
+
 void CEIEGraphicsView::setColorGamut(const Model::ColorGamutInfo &target, const Model::ColorGamutInfo &original)
 {
     setLsColorTriangleObject(

@@ -91,6 +91,9 @@ public:
     CEIEGraphicsView(bool, QFlags<Qt::AlignmentFlag> alignment, QWidget *parent);
     ~CEIEGraphicsView() override;
 
+    /*! \brief The diagram that the constructor chose. */
+    DrawCEIPicture::CEIEType diagramType() const;
+
     /*!
      * \brief Replaces the gamuts by \a original (white, 2 pixels wide) and \a target (black, 1 pixel wide).
      *

@@ -170,6 +170,11 @@ void CEIEGraphicsScene::setCMYPointData(const QList<QPointF> &points)
     own().passCmyPoints();
 }
 
+QList<QPointF> CEIEGraphicsScene::CMYPointData() const
+{
+    return own().cmyPoints;
+}
+
 void CEIEGraphicsScene::setGamutsKept(bool kept)
 {
     own().gamutsKept = kept;

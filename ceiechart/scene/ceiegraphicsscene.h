@@ -60,6 +60,8 @@ public:
      * set the size first.
      */
     void setCMYPointData(const QList<QPointF> &points);
+    /*! \brief The points of setCMYPointData(). */
+    QList<QPointF> CMYPointData() const;
     /*! \brief Sets the background colour of the horseshoe in the next picture of gamuts. */
     void setBackgroudColor(const QColor &color);
     /*! \brief The background colour of the horseshoe that was set by setBackgroudColor(). */

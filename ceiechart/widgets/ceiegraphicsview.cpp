@@ -164,11 +164,27 @@ void CEIEGraphicsView::updateLanGamut(bool flag, const QString &text)
     updateMixInfo(text);
 }
 
+QString CEIEGraphicsView::message() const
+{
+    return own().mixInfoLabel->text();
+}
+
+QList<ColorTriangleObject> CEIEGraphicsView::lsStandardTriangleObject() const
+{
+    return own().standardTriangles;
+}
+
 void CEIEGraphicsView::setCMYPointData(const QList<QPointF> &points)
 {
     if (CEIEGraphicsScene *scene = own().typedScene()) {
         scene->setCMYPointData(points);
     }
+}
+
+QList<QPointF> CEIEGraphicsView::CMYPointData() const
+{
+    const CEIEGraphicsScene *scene = own().typedScene();
+    return scene ? scene->CMYPointData() : QList<QPointF>();
 }
 
 void CEIEGraphicsView::setBackgroudColor(const QColor &color)

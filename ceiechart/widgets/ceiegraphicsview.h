@@ -136,6 +136,13 @@ public:
      * removes it.
      */
     void updateLanGamut(bool flag, const QString &text);
+    /*! \brief The text that updateLanGamut() shows over the chart; empty if none is shown. */
+    QString message() const;
+    /*!
+     * \brief The standards that the last setColorGamut() selected, in the form in which they are drawn, without their
+     * names. lsColorTriangleObject() returns the other gamuts.
+     */
+    QList<ColorTriangleObject> lsStandardTriangleObject() const;
 
     /*!
      * \brief Sets the chromaticities (CIE 1931 x, y) of cyan, magenta, yellow and black. The next picture of gamuts
@@ -145,6 +152,8 @@ public:
      * size.
      */
     void setCMYPointData(const QList<QPointF> &points);
+    /*! \brief The points of setCMYPointData(); empty if the scene has been deleted. */
+    QList<QPointF> CMYPointData() const;
 
     /*! \brief Sets the background colour of the horseshoe in the next picture of gamuts. */
     void setBackgroudColor(const QColor &color);

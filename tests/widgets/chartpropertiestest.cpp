@@ -17,6 +17,8 @@ class ChartPropertiesTest : public QObject {
 private Q_SLOTS:
     void getters_data();
     void getters();
+    void pointsMessageAndStandards();
+    void diagramOfALegacyChart();
     void colors();
     void gettersOfADeletedScene_data() { charts(); }
     void gettersOfADeletedScene();
@@ -99,6 +101,42 @@ void ChartPropertiesTest::getters()
     QVERIFY(chart->isShowActual() == on && chart->isShowMeasure());
     chart->setIsShowMeasure(on);
     QCOMPARE(chart->isShowMeasure(), on);
+}
+
+void ChartPropertiesTest::pointsMessageAndStandards()
+{
+    const auto chart = currentChart();
+    chart->setImageSize(QSize(300, 300));
+    QVERIFY(chart->CMYPointData().isEmpty() && chart->message().isEmpty());
+    QVERIFY(chart->lsStandardTriangleObject().isEmpty());
+    const QList<QPointF> points = {QPointF(0.2, 0.3), QPointF(0.3, 0.15)};
+    chart->setCMYPointData(points);
+    QCOMPARE(chart->CMYPointData(), points);
+    setGamuts(*chart);
+    const QList<ColorTriangleObject> standards = chart->lsStandardTriangleObject();
+    QCOMPARE(standards.size(), 2);
+    const Model::Target &green = Model::rec2020().getTargets().green;
+    QCOMPARE(standards.at(0).trianglePoint().greenPos(), QPointF(green.x, green.y));
+    QCOMPARE(standards.at(0).opacity(), 0.1);
+    QCOMPARE(standards.at(1).opacity(), 0.05);
+    chart->updateLanGamut(true, QStringLiteral("Measuring"));
+    QCOMPARE(chart->message(), QStringLiteral("Measuring"));
+    chart->updateLanGamut(true, QString());
+    QVERIFY(chart->message().isEmpty());
+
+    delete chart->view()->scene();
+    QVERIFY(chart->CMYPointData().isEmpty());
+    chart->updateLanGamut(true, QStringLiteral("Measuring"));
+    QCOMPARE(chart->message(), QStringLiteral("Measuring"));
+    QCOMPARE(chart->lsStandardTriangleObject().size(), 2);
+}
+
+void ChartPropertiesTest::diagramOfALegacyChart()
+{
+    QCOMPARE(legacyChart(DrawCEIPicture::XyDiagram)->diagramType(), DrawCEIPicture::XyDiagram);
+    QCOMPARE(legacyChart(DrawCEIPicture::UvDiagram)->diagramType(), DrawCEIPicture::UvDiagram);
+    QCOMPARE(legacyChart(static_cast<DrawCEIPicture::CEIEType>(2))->diagramType(), DrawCEIPicture::XyDiagram);
+    QCOMPARE(Legacy(true, nullptr).diagramType(), DrawCEIPicture::XyDiagram);
 }
 
 void ChartPropertiesTest::colors()
