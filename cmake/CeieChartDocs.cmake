@@ -3,6 +3,9 @@
 # The target ceiechart_docs, for short docs: generates the reference of the public classes, with the guides, into
 # reference/html of the build tree, and beside it ceiechart.tag, to which other references made with Doxygen can link, and
 # ceiechart.qch for Qt Assistant. A public member without a comment is an error, and so is a link that leads nowhere.
+if(NOT PROJECT_IS_TOP_LEVEL AND NOT CEIECHART_BUILD_DOCS)
+    return() # another project is not searched for tools that it does not need
+endif()
 if(CEIECHART_BUILD_DOCS)
     set(docs_required REQUIRED)
 endif()
