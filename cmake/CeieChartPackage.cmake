@@ -88,8 +88,11 @@ if(CEIECHART_BUILD_APPS)
     install(FILES packaging/gamutviewer.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT viewer)
     install(FILES packaging/gamutviewer.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT viewer)
-    install(FILES packaging/gamutviewer.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
-        RENAME org.ceiechart.gamutviewer.metainfo.xml COMPONENT viewer)
+    # The id has to begin with a domain of whoever publishes the program. This one is reserved and belongs to nobody.
+    set(CEIECHART_APPLICATION_ID example.ceiechart.gamutviewer CACHE STRING "Id of the gamut viewer in AppStream")
+    configure_file(packaging/gamutviewer.metainfo.xml.in gamutviewer.metainfo.xml @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/gamutviewer.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
+        RENAME ${CEIECHART_APPLICATION_ID}.metainfo.xml COMPONENT viewer)
     install(FILES packaging/gamutviewer.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
         RENAME gamutviewer.xml COMPONENT viewer)
 endif()
