@@ -21,6 +21,9 @@ namespace {
 constexpr double equalWithin = 1.0; // corners as near as that are equal to the eye
 constexpr double equalWidening = 3.0; // of the lower of two equal lines
 constexpr double hatchDistance = 8.0;
+// Not quite 45°: where a line ends at exactly that slope, the raster engine's soft pixels depend on its other end,
+// which moves with every edit.
+constexpr double hatchSlope = 1.01;
 
 // From bottom to top
 constexpr std::array drawingOrder{
@@ -263,14 +266,15 @@ void DiagramGamuts::drawLostArea()
     if (!isFinite(whole) || !isFinite(kept)) {
         return;
     }
-    // Lines x + y = const on the screen, fixed to the diagram and not to the view.
+    // Each line has one sum of hatchSlope * x + y on the screen, fixed to the diagram and not to the view.
     const QPointF origin = m_sheet.viewport.fromPoint(QPointF());
-    const double phase = std::fmod(origin.x() + origin.y(), hatchDistance);
-    const double last = m_plot.right() + m_plot.bottom();
+    const double phase = std::fmod(hatchSlope * origin.x() + origin.y(), hatchDistance);
+    const double last = hatchSlope * m_plot.right() + m_plot.bottom();
     QVector<QLineF> hatch;
     for (double sum = phase - hatchDistance; sum < last; sum += hatchDistance) {
-        const auto line
-            = partWithin(QLineF(m_plot.left(), sum - m_plot.left(), m_plot.right(), sum - m_plot.right()), m_plot);
+        const auto line = partWithin(
+            QLineF(m_plot.left(), sum - hatchSlope * m_plot.left(), m_plot.right(), sum - hatchSlope * m_plot.right()),
+            m_plot);
         const auto within = line ? sharesWithin(*line, whole) : std::nullopt;
         if (!within) {
             continue;

@@ -136,7 +136,10 @@ void DiagramOverlay::paintReadout(QPainter &painter, const DiagramPalette &palet
     }
     // On whole pixels, and opaque: what is behind it need not be painted when only the numbers change.
     const QRect box = readoutPlace.toAlignedRect();
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(box, palette.ground);
+    // Letters are placed otherwise without it.
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette.text);
     painter.drawText(box, Qt::AlignCenter, readout);
 }
