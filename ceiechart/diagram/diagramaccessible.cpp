@@ -283,14 +283,7 @@ public:
             return DiagramView::tr("%1, %2", "primary or white, and the name of one of its coordinates")
                 .arg(handleName(vertex()), QString::fromUtf8(isFirst() ? traits.xName : traits.yName));
         }
-        return kind == QAccessible::Value ? coordinateText(value(point()), decimals()) : QString();
-    }
-
-private:
-    int decimals() const
-    {
-        return view().digits() == DiagramView::automaticDigits ? decimalsFor(view().viewport().scale())
-                                                               : view().digits();
+        return kind == QAccessible::Value ? coordinateText(value(point()), view().shownDigits()) : QString();
     }
 };
 

@@ -110,8 +110,7 @@ QString coordinateText(double value, int decimals)
 int decimalsFor(double scale)
 {
     constexpr int least = 4;
-    constexpr int most = 10;
-    return scale > 1.0 ? std::clamp(int(std::ceil(std::log10(scale))), least, most) : least;
+    return scale > 1.0 ? std::clamp(int(std::ceil(std::log10(scale))), least, mostDecimals) : least;
 }
 
 double keyStepFor(double scale)

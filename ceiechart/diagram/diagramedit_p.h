@@ -55,10 +55,14 @@ private:
     QPointF m_wanted;
 };
 
+/*! The most decimals of coordinates. */
+constexpr int mostDecimals = 10;
+
 /*! \a value with \a decimals, without a minus before what rounds to zero. */
 QString coordinateText(double value, int decimals);
 
-/*! The number of decimals that tell neighbouring pixels apart when there are \a scale of them to a unit; 4 or more. */
+/*! The number of decimals that tell neighbouring pixels apart when there are \a scale of them to a unit; 4 to
+ * mostDecimals. */
 int decimalsFor(double scale);
 
 /*! The step of an arrow key: the greatest power of ten that is at most two pixels. */

@@ -62,8 +62,8 @@ void DiagramView::Private::drag(const QPointF &way, Qt::KeyboardModifiers modifi
     hands.onLine = onLine && !isFree;
     hands.onAxis = onAxis && !isFree;
     hands.reach = isFree ? 0.0 : snapPixels / viewport.scale();
-    hands.decimals = decimals();
-    apply(edit->moveBy(*rules, way, hands));
+    hands.decimals = decimals(hands.slow);
+    apply(edit->moveBy(*rules, way, hands), hands.slow);
 }
 
 void DiagramView::Private::followHand(const QPointF &point)
@@ -86,7 +86,7 @@ void DiagramView::Private::followHand(const QPointF &point)
     }
 }
 
-bool DiagramView::Private::apply(const EditStep &step)
+bool DiagramView::Private::apply(const EditStep &step, bool isSlow)
 {
     const GamutVertex vertex = edit->vertex();
     const QRegion former = overlayRegion(overlay);
@@ -107,7 +107,7 @@ bool DiagramView::Private::apply(const EditStep &step)
         guidesXy.append(step.snap->to.xy);
     }
     const bool isChange = changesTarget(step.move);
-    label = EditLabel{vertex, step.snap ? step.snap->to.name : QString(), step.move.reason};
+    label = EditLabel{vertex, step.snap ? step.snap->to.name : QString(), step.move.reason, isSlow};
     if (isChange) {
         putTarget(*step.move.targets);
     } else {

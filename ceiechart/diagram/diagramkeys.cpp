@@ -10,8 +10,6 @@ namespace ceiechart {
 
 namespace {
 
-constexpr int exactDecimals = 10; // a step of a key goes exactly as far as it says
-
 QPointF arrowDirection(int key)
 {
     switch (key) {
@@ -101,7 +99,7 @@ bool DiagramView::Private::nudge(QKeyEvent *event)
     arrowsDown.insert(event->key());
     EditHands hands;
     hands.slow = modifiers & Qt::ShiftModifier;
-    hands.decimals = exactDecimals;
+    hands.decimals = mostDecimals; // the step goes exactly as far as it says
     const QPointF way = direction * keyStepFor(viewport.scale());
     if (modifiers & Qt::ControlModifier) {
         hands.onLine = true;
@@ -122,7 +120,7 @@ bool DiagramView::Private::nudge(QKeyEvent *event)
         step = nextStep(); // from what the host may have put there
     }
     const GamutVertex vertex = edit->vertex();
-    const bool isChange = apply(step);
+    const bool isChange = apply(step, hands.slow);
     if (!view) {
         return true;
     }

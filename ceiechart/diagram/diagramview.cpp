@@ -24,9 +24,10 @@ QFont DiagramView::Private::textFont() const
     return font;
 }
 
-int DiagramView::Private::decimals() const
+int DiagramView::Private::decimals(bool isSlow) const
 {
-    return digits == automaticDigits ? decimalsFor(viewport.scale()) : digits;
+    return digits == automaticDigits ? std::min(decimalsFor(viewport.scale()) + (isSlow ? 1 : 0), mostDecimals)
+                                     : digits;
 }
 
 DiagramView::DiagramView(QWidget *parent)
@@ -64,6 +65,11 @@ int DiagramView::digits() const
     return d->digits;
 }
 
+int DiagramView::shownDigits() const
+{
+    return d->decimals(d->label && d->label->isSlow);
+}
+
 bool DiagramView::isReadoutShown() const
 {
     return d->readoutShown;
@@ -86,7 +92,7 @@ QString DiagramView::coordinatesText(const QPointF &xy) const
     if (!std::isfinite(point.x) || !std::isfinite(point.y)) {
         return tr("not known", "coordinates");
     }
-    const int decimals = d->decimals();
+    const int decimals = shownDigits();
     return QStringLiteral("%1 %2  %3 %4")
         .arg(QString::fromUtf8(traits.xName), coordinateText(point.x, decimals), QString::fromUtf8(traits.yName),
             coordinateText(point.y, decimals));
@@ -159,8 +165,7 @@ void DiagramView::setReadOnly(bool readOnly)
 
 void DiagramView::setDigits(int digits)
 {
-    constexpr int most = 10;
-    const int wanted = digits >= 0 && digits <= most ? digits : automaticDigits;
+    const int wanted = digits >= 0 && digits <= mostDecimals ? digits : automaticDigits;
     if (wanted != d->digits) {
         d->digits = wanted;
         d->refreshOverlay();

@@ -123,6 +123,12 @@ public:
      * Positions of a drag are rounded to as many.
      */
     int digits() const;
+    /*!
+     * \brief The decimals that coordinates have now: digits(), or as many as the zoom tells apart.
+     *
+     * One more than that while the label shows a slow step.
+     */
+    int shownDigits() const;
     bool isReadoutShown() const; //!< whether the coordinates under the pointer stand in a corner; true by default
     /*! \brief A line of the host's below the coordinates of what is being edited, "outside by 0.004"; empty by default.
      */

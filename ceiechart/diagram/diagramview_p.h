@@ -70,6 +70,7 @@ public:
         GamutVertex vertex = GamutVertex::Red;
         QString snap; //!< the name of what was snapped to
         QString reason; //!< why a step was not made
+        bool isSlow = false; //!< whether the last step was a tenth of the way
     };
 
     explicit Private(DiagramView *view);
@@ -115,7 +116,8 @@ public:
     static DiagramGround groundOf(const QPalette &palette);
     void followPalette();
     QFont textFont() const;
-    int decimals() const;
+    //! Of coordinates; slow steps are seen in one more than the zoom tells apart.
+    int decimals(bool isSlow) const;
 
     // The view
     //! Takes \a wanted, with the margins that its numbers need, so that what is at \a anchor stays there.
@@ -155,7 +157,7 @@ public:
     void drag(const QPointF &way, Qt::KeyboardModifiers modifiers);
     //! The diagram has moved below the hand, which held on to \a point: what it drags comes along.
     void followHand(const QPointF &point);
-    bool apply(const EditStep &step);
+    bool apply(const EditStep &step, bool isSlow);
     bool changesTarget(const TargetMove &move) const;
     //! Says why \a vertex cannot be moved, and whether the view is still there.
     bool refuseLocked(GamutVertex vertex);

@@ -9,6 +9,7 @@
 #include "panel/verdict.h"
 #include "window/lens.h"
 
+#include <QAbstractSpinBox>
 #include <QLabel>
 #include <QStatusBar>
 #include <QStyleHints>
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void undoInADragEndsIt();
     void arrowKeysMove();
     void shiftIsSlow();
+    void digitsFollowTheZoom();
     void heldAndLockedAreRefused();
     void selectionIsShared();
     void deselectionIsShared();
@@ -247,6 +249,38 @@ void DiagramEditingTest::shiftIsSlow()
     const double step = f.xy(Vertex::Blue).x() - start;
     QTest::keyClick(view(f), Qt::Key_Right, Qt::ShiftModifier);
     QVERIFY(qAbs(f.xy(Vertex::Blue).x() - start - 1.1 * step) < 1e-9);
+}
+
+void DiagramEditingTest::digitsFollowTheZoom()
+{
+    WindowFixture f;
+    f.window->session()->setSnaps(false);
+    view(f)->setCentre(f.xy(Vertex::White));
+    view(f)->setZoomFactor(500.0);
+    const int decimals = view(f)->shownDigits();
+    QVERIFY(decimals > 5);
+    DiagramPointer pointer(view(f));
+    const QPointF wanted = f.xy(Vertex::White) + QPointF(3e-4, -2e-4);
+    pointer.drag(f.xy(Vertex::White), wanted);
+    const QPointF moved = f.xy(Vertex::White);
+    QVERIFY(qAbs(moved.x() - wanted.x()) < 2.0 * pointer.pixel());
+    QVERIFY(qAbs(moved.y() - wanted.y()) < 2.0 * pointer.pixel());
+    QCOMPARE(QString::number(moved.x(), 'f', decimals).toDouble(), moved.x());
+    // The readout tells as much apart.
+    pointer.move(moved, Qt::NoButton);
+    const QString text = f.window->readout()->text();
+    const QString number = text.section(QLatin1Char(' '), 1, 1);
+    QCOMPARE(int(number.size() - number.indexOf(QLatin1Char('.')) - 1), decimals);
+    QVERIFY2(qAbs(number.toDouble() - moved.x()) < 2.0 * pointer.pixel(), qPrintable(text));
+    // Fields with fewer decimals that are only passed change nothing.
+    const QList<QAbstractSpinBox *> fields = f.window->panel()->editor()->findChildren<QAbstractSpinBox *>();
+    QVERIFY(fields.size() >= 8);
+    for (QAbstractSpinBox *field : fields) {
+        field->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(field, Qt::Key_Return);
+    }
+    view(f)->setFocus();
+    QCOMPARE(f.xy(Vertex::White), moved);
 }
 
 void DiagramEditingTest::heldAndLockedAreRefused()

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void readoutStandsOnFreeGround();
     void minusZeroNeverShows();
     void digitsFollowTheZoom();
+    void slowStepsAreSeen_data();
+    void slowStepsAreSeen();
     void isothermsAreNamed_data();
     void isothermsAreNamed();
     void editLabelsLeaveNamesWhereThereIsRoom();
@@ -302,6 +304,48 @@ void DiagramViewLabelsTest::digitsFollowTheZoom()
     QCOMPARE(view.coordinatesText(QPointF(0.3127, 0.329)), QStringLiteral("x 0.313  y 0.329"));
     view.setDiagram(Model::Diagram::Cie1976);
     QCOMPARE(view.coordinatesText(QPointF(0.3127, 0.329)), QStringLiteral("u′ 0.198  v′ 0.468"));
+}
+
+void DiagramViewLabelsTest::slowStepsAreSeen_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<int>("digits");
+    for (const double zoom : {1.0, 10.0, 100.0, 2000.0}) {
+        QTest::addRow("%g", zoom) << zoom << DiagramView::automaticDigits;
+    }
+    QTest::newRow("chosen digits") << 10.0 << 3;
+}
+
+void DiagramViewLabelsTest::slowStepsAreSeen()
+{
+    QFETCH(double, zoom);
+    QFETCH(int, digits);
+    View view;
+    view.setFocus();
+    view.setDigits(digits);
+    view.setSelectedVertex(GamutVertex::White);
+    view.setCentre(view.xy(GamutVertex::White));
+    view.setZoomFactor(zoom);
+    const int usual = view.shownDigits();
+    const int slow = digits == DiagramView::automaticDigits ? usual + 1 : digits;
+    QString before;
+    for (int i = 0; i < 3; ++i) {
+        const QPointF at = view.xy(GamutVertex::White);
+        QTest::keyClick(&view, Qt::Key_Right, Qt::ShiftModifier);
+        QVERIFY(view.xy(GamutVertex::White).x() > at.x());
+        const QString label = view.d->overlay.label.first();
+        QCOMPARE(label != before, i == 0 || digits == DiagramView::automaticDigits);
+        QVERIFY(label.endsWith(view.coordinatesText(view.xy(GamutVertex::White))));
+        QCOMPARE(int(label.size() - label.lastIndexOf(QLatin1Char('.')) - 1), slow);
+        before = label;
+    }
+    QCOMPARE(view.shownDigits(), slow);
+    QTest::keyClick(&view, Qt::Key_Right);
+    QCOMPARE(view.shownDigits(), usual);
+    QTest::keyClick(&view, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(&view, Qt::Key_Escape); // nothing is selected, so the label goes
+    QVERIFY(view.d->overlay.label.isEmpty());
+    QCOMPARE(view.shownDigits(), usual);
 }
 
 void DiagramViewLabelsTest::isothermsAreNamed_data()

@@ -48,7 +48,6 @@ DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches
     , m_session(session)
     , m_switches(switches)
 {
-    setDigits(chromaticityDecimals);
     setReadoutShown(false); // the window has it for all views
     connect(this, &DiagramView::editingStarted, this,
         [this] { m_session->beginDrag(selectedVertex().value_or(m_session->selected().value_or(Vertex::Red))); });

@@ -86,8 +86,7 @@ ComparePage::ComparePage(TargetSession *session, QWidget *parent)
     for (DocumentView *diagram : {m_xy, m_uv}) {
         diagram->setReadOnly(true);
         diagrams->addWidget(diagram);
-        connect(diagram, &ceiechart::DiagramView::hovered, this, &Page::pointedAt);
-        connect(diagram, &ceiechart::DiagramView::hoverEnded, this, &Page::pointerLeft);
+        readOut(diagram);
     }
     layout->addLayout(diagrams, 1);
     setFocusInside(m_table);

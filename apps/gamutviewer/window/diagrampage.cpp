@@ -60,8 +60,7 @@ DiagramPage::DiagramPage(TargetSession *session, QWidget *parent)
     setFocusInside(m_view);
 
     for (const DocumentView *view : {m_view, m_lens->view()}) {
-        connect(view, &DiagramView::hovered, this, &Page::pointedAt);
-        connect(view, &DiagramView::hoverEnded, this, &Page::pointerLeft);
+        readOut(view);
     }
     connect(m_view, &DiagramView::diagramChanged, this, &DiagramPage::placeLens);
     connect(session, &TargetSession::pointedOut, this, &DiagramPage::showVertex);

@@ -5,6 +5,8 @@
 #include "drawing/documentcontent.h"
 #include "editing/document.h"
 
+#include <ceiechart/diagram/diagramview.h>
+
 #include <QFocusEvent>
 
 namespace gamutviewer {
@@ -21,6 +23,13 @@ Picture Page::picture() const
     Picture picture;
     picture.content = documentContent(m_document->description());
     return picture;
+}
+
+void Page::readOut(const ceiechart::DiagramView *view)
+{
+    connect(view, &ceiechart::DiagramView::hovered, this,
+        [this, view](const QPointF &xy) { Q_EMIT pointedAt(xy, view->shownDigits()); });
+    connect(view, &ceiechart::DiagramView::hoverEnded, this, &Page::pointerLeft);
 }
 
 void Page::refreshWhenShown()

@@ -9,6 +9,10 @@
 #include <QStringList>
 #include <QWidget>
 
+namespace ceiechart {
+class DiagramView;
+}
+
 namespace gamutviewer {
 
 class Document;
@@ -30,8 +34,8 @@ public:
     virtual Picture picture() const;
 
 Q_SIGNALS:
-    /*! \brief The pointer is over the CIE 1931 chromaticity \a xy. */
-    void pointedAt(const QPointF &xy);
+    /*! \brief The pointer is over the CIE 1931 chromaticity \a xy, which is told apart in so many \a decimals. */
+    void pointedAt(const QPointF &xy, int decimals);
     void pointerLeft();
 
 protected:
@@ -39,6 +43,9 @@ protected:
     virtual void refresh() = 0;
     /*! \brief Calls refresh() now, or else when the page is shown next. */
     void refreshWhenShown();
+
+    /*! \brief Passes on what the pointer is over in \a view. */
+    void readOut(const ceiechart::DiagramView *view);
 
     /*!
      * \brief Where the focus goes that the page is given.

@@ -171,7 +171,7 @@ void ViewerWindow::copyPicture()
     }
 }
 
-void ViewerWindow::showReadout(const QPointF &xy)
+void ViewerWindow::showReadout(const QPointF &xy, int decimals)
 {
     if (!ceiechart::isChromaticity(xy)) {
         setReadout(QString());
@@ -179,7 +179,8 @@ void ViewerWindow::showReadout(const QPointF &xy)
     }
     const QPointF uv = uvFromXy(xy);
     QString text = tr("x %1  y %2   u′ %3  v′ %4")
-                       .arg(fixedText(xy.x(), 4), fixedText(xy.y(), 4), fixedText(uv.x(), 4), fixedText(uv.y(), 4));
+                       .arg(fixedText(xy.x(), decimals), fixedText(xy.y(), decimals), fixedText(uv.x(), decimals),
+                           fixedText(uv.y(), decimals));
     if (const auto white = ceiechart::colorTemperature(xy)) {
         text += tr("   %1  Duv %2", "with the temperature").arg(temperatureText(*white), duvText(*white));
     }

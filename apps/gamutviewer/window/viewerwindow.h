@@ -156,7 +156,7 @@ private:
     /*! \brief Whether changes may be lost: they have been saved, or the user does not want them. */
     bool mayLoseChanges();
     void refreshTitle();
-    void showReadout(const QPointF &xy);
+    void showReadout(const QPointF &xy, int decimals);
     void setReadout(const QString &text);
     void followPage();
     void warn(const QString &text);

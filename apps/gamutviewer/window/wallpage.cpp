@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/wallpage.h"
 
+#include "display/valuetexts.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
 #include "panel/accentbutton.h"
@@ -143,7 +144,8 @@ QWidget *WallPage::buildNumbers()
     for (const Vertex primary : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
         auto *look = new CloseLook(m_session, primary, numbers);
         look->setFont(small);
-        connect(look, &CloseLook::pointedAt, this, &Page::pointedAt);
+        connect(look, &CloseLook::pointedAt, this,
+            [this](const QPointF &xy) { Q_EMIT pointedAt(xy, chromaticityDecimals); });
         connect(look, &CloseLook::pointerLeft, this, &Page::pointerLeft);
         looks->addWidget(look);
         m_looks.at(std::size_t(primary)) = look;
