@@ -189,6 +189,7 @@ void ViewerWindowTest::keyboardGoesToThePage()
     WindowFixture f;
     const QWidget *inside[] = {f.window->diagramPage()->view(), f.window->comparePage()->table(),
         f.window->wallPage()->emptyNote(), f.window->libraryPage()->currentChart()->view()};
+    QCOMPARE(static_cast<const QWidget *>(QApplication::focusWidget()), inside[0]);
     for (int page = 3; page >= 0; --page) {
         QTest::keyClick(f.window.get(), Qt::Key(Qt::Key_1 + page), Qt::ControlModifier);
         QCOMPARE(static_cast<const QWidget *>(QApplication::focusWidget()), inside[page]);

@@ -144,6 +144,10 @@ void ViewerWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     fitPanel();
+    if (!focusWidget()) {
+        // Keys are for what is shown; Qt would give them to the tabs of the pages.
+        currentPage()->setFocus(Qt::ActiveWindowFocusReason);
+    }
 }
 
 void ViewerWindow::fitPanel()
