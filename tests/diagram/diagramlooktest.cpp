@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
+#include <contrast.h>
 #include <diagram/fulldiagram.h>
 
 #include <QPainter>
@@ -14,20 +15,6 @@ Q_DECLARE_METATYPE(Model::ColorGamut)
 using namespace fulldiagram;
 
 namespace {
-
-// WCAG 2.1, relative luminance and contrast ratio.
-double luminance(const QColor &color)
-{
-    const auto linear = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &a, const QColor &b)
-{
-    const double first = luminance(a) + 0.05;
-    const double second = luminance(b) + 0.05;
-    return std::max(first, second) / std::min(first, second);
-}
 
 QColor over(const QColor &color, const QColor &ground)
 {

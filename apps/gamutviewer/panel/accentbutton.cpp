@@ -7,27 +7,37 @@
 
 namespace gamutviewer {
 
+namespace {
+
+constexpr double cornerRadius = 3.0;
+
+} // namespace
+
 void AccentButton::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);
     QStyleOptionToolButton option;
     initStyleOption(&option);
-    if (isChecked()) {
-        // Styles keep what they paint by the palette: a new one every time would fill their cache.
-        if (m_accentOf != palette().cacheKey()) {
-            m_accentOf = palette().cacheKey();
-            m_accent = palette();
-            m_accent.setColor(QPalette::Button, palette().color(QPalette::Highlight));
-            m_accent.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
-        }
-        const QPalette::ColorGroup group = option.palette.currentColorGroup();
-        option.palette = m_accent;
-        option.palette.setCurrentColorGroup(group);
-        // The style would darken it as one that is pressed.
-        option.state &= ~(QStyle::State_On | QStyle::State_Sunken);
-        option.state |= QStyle::State_Raised;
+    if (!isChecked()) {
+        painter.drawComplexControl(QStyle::CC_ToolButton, option);
+        return;
     }
-    painter.drawComplexControl(QStyle::CC_ToolButton, option);
+    // Flat: styles lighten a button, and its text could not be read on that.
+    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    const QColor text = palette().color(group, QPalette::HighlightedText);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(group, QPalette::Highlight));
+    painter.drawRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
+    if (hasFocus()) {
+        constexpr double inset = 2.5;
+        painter.setPen(text);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
+    }
+    painter.setFont(font());
+    painter.setPen(text);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, this->text());
 }
 
 } // namespace gamutviewer

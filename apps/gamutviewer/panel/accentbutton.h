@@ -7,7 +7,10 @@
 
 namespace gamutviewer {
 
-/*! \brief A button that is in the accent colour while it is checked, which styles show but faintly on dark ground. */
+/*!
+ * \brief A button with a text that is in the accent colour while it is checked, which styles show but faintly on dark
+ *        ground.
+ */
 class AccentButton : public QToolButton {
     Q_OBJECT
 
@@ -16,10 +19,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-
-private:
-    QPalette m_accent;
-    qint64 m_accentOf = 0; // the key of the palette that it was made of
 };
 
 } // namespace gamutviewer
