@@ -24,7 +24,27 @@ private Q_SLOTS:
     void groundsArePointedOut();
     void verdictKeepsItsHeight();
     void tolerancesFollowADrag();
+    void groundsFollowThePalette();
 };
+
+void VerdictTest::groundsFollowThePalette()
+{
+    WindowFixture f;
+    const QPalette former = QApplication::palette();
+    for (const auto &[ground, text] :
+        {std::pair(QColor(45, 45, 48), QColor(Qt::white)), std::pair(QColor(239, 239, 239), QColor(Qt::black))}) {
+        QPalette palette = former;
+        palette.setColor(QPalette::Window, ground);
+        palette.setColor(QPalette::Base, ground.darker(110));
+        palette.setColor(QPalette::Text, text);
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        const QListWidget *lines = f.window->panel()->verdict()->lines();
+        QCOMPARE(lines->viewport()->grab().toImage().pixelColor(0, 0), ground);
+        QCOMPARE(lines->palette().color(QPalette::Text), text);
+    }
+    QApplication::setPalette(former);
+}
 
 void VerdictTest::targetIsMovedInside()
 {

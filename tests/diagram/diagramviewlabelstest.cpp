@@ -5,6 +5,7 @@
 #include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/spectrum_p.h>
 #include <ceiechart/diagram/whitepoint.h>
+#include <ceiechart/widgets/translations.h>
 
 #include <algorithm>
 #include <cmath>
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void readoutStandsOnFreeGround();
     void minusZeroNeverShows();
     void digitsFollowTheZoom();
+    void labelsFollowTheLanguage();
     void slowStepsAreSeen_data();
     void slowStepsAreSeen();
     void isothermsAreNamed_data();
@@ -304,6 +306,23 @@ void DiagramViewLabelsTest::digitsFollowTheZoom()
     QCOMPARE(view.coordinatesText(QPointF(0.3127, 0.329)), QStringLiteral("x 0.313  y 0.329"));
     view.setDiagram(Model::Diagram::Cie1976);
     QCOMPARE(view.coordinatesText(QPointF(0.3127, 0.329)), QStringLiteral("u′ 0.198  v′ 0.468"));
+}
+
+void DiagramViewLabelsTest::labelsFollowTheLanguage()
+{
+    View view;
+    view.setFocus();
+    view.setSelectedVertex(GamutVertex::White);
+    QTest::keyPress(&view, Qt::Key_Right);
+    const QString former = view.d->overlay.label.first();
+    installTranslations(QLocale(QStringLiteral("zh_CN")));
+    QCoreApplication::processEvents();
+    const QString chinese = view.d->overlay.label.first();
+    installTranslations(QLocale(QLocale::English));
+    QCoreApplication::processEvents();
+    QVERIFY2(chinese.contains(QString::fromUtf8("白")), qPrintable(chinese));
+    QCOMPARE(view.d->overlay.label.first(), former);
+    QTest::keyRelease(&view, Qt::Key_Right);
 }
 
 void DiagramViewLabelsTest::slowStepsAreSeen_data()

@@ -44,9 +44,7 @@ VerdictFrame::VerdictFrame(int shownLines, QWidget *parent)
     m_lines->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_lines->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_lines->setFixedHeight(shownLines * QFontMetrics(small).lineSpacing() + 4);
-    QPalette flat = m_lines->palette();
-    flat.setColor(QPalette::Base, palette().color(QPalette::Window));
-    m_lines->setPalette(flat);
+    m_lines->viewport()->setBackgroundRole(QPalette::Window);
     m_column->addWidget(m_lines);
     connect(m_lines, &QListWidget::itemClicked, this, &VerdictFrame::choose);
     connect(m_lines, &QListWidget::itemActivated, this, &VerdictFrame::choose);
