@@ -44,7 +44,11 @@ void LargePathsTest::samePixels_data()
     QTest::newRow("opaque, premultiplied") << tall << QImage::Format_ARGB32_Premultiplied << QColor(9, 200, 90);
     QTest::newRow("opaque, straight") << tall << QImage::Format_ARGB32 << QColor(9, 200, 90);
     QTest::newRow("invalid colour") << tall << QImage::Format_ARGB32_Premultiplied << QColor();
-    QTest::newRow("narrower than the zigzag") << QSize(90, 2100) << QImage::Format_RGB32 << QColor(255, 163, 56, 17);
+    QTest::newRow("narrower than the teeth") << QSize(90, 2100) << QImage::Format_RGB32 << QColor(255, 163, 56, 17);
+    for (const int height : {320, 340, 460, 640, 660, 1290, 1310, 1690, 1710}) {
+        QTest::addRow("%d rows", height) << QSize(1600, height) << QImage::Format_ARGB32_Premultiplied
+                                         << QColor(22, 241, 255, 120);
+    }
     QTest::newRow("small") << QSize(400, 400) << QImage::Format_ARGB32_Premultiplied << QColor(255, 163, 56, 80);
 }
 
