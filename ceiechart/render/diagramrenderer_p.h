@@ -16,6 +16,8 @@ class QPolygonF;
 
 namespace ceiechart {
 
+class RowLayers;
+
 /*! \brief The appearance of the axes, which differs between the generations. */
 struct AxesStyle {
     Qt::PenStyle gridStyle; //!< pen style of the grid lines
@@ -110,6 +112,8 @@ public:
         QColor drawn;
     };
     mutable Drawn lastDrawn;
+
+    RowLayers *layers = nullptr; //!< collects the layers that a drawing draws together, while it does so
 
     QList<QPointF> colorTemperaturePoints;
     QList<CEIAtlasValue::CEIAtlasCoordinate> locus;

@@ -3,6 +3,7 @@
 #include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/render/drawceipicture_p.h>
 #include <ceiechart/render/picture_p.h>
+#include <ceiechart/render/rowlayers_p.h>
 
 #include <QPainter>
 
@@ -76,10 +77,13 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
     if (skipText.isEmpty()) {
         paintCEIEdge(painter);
         d->loadFirstLocusRow();
+        ceiechart::RowLayers layers;
+        d->layers = &layers;
         painterStandard(painter, standards);
         d->drawHorseshoeWithin(
             *picture, own().clipPolygon, ceiechart::ClipOutline::Hidden, d->ground(own().backgroundColor));
         painterTriangle(painter, triangles);
+        d->layers = nullptr;
     }
     painterBBRLine(painter);
     own().drawMeasurePoints(painter);

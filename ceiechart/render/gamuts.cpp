@@ -6,6 +6,7 @@
 #include <ceiechart/model/gamutkind.h>
 #include <ceiechart/render/drawceipicture_p.h>
 #include <ceiechart/render/largepaths_p.h>
+#include <ceiechart/render/rowlayers_p.h>
 
 #include <QPainter>
 #include <QPainterPath>
@@ -37,14 +38,16 @@ void DrawCEIPicture::painterStandard(QPainter &painter, const QList<ColorTriangl
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
+    ceiechart::RowLayers here;
+    ceiechart::RowLayers &to = d->layers != nullptr ? *d->layers : here;
     for (ColorTriangleObject standard : standards) {
         const QColor color = d->drawn(standard.foreColor(), ceiechart::leastLineContrast);
         painter.setPen(ceiechart::solidPen(color, standard.trigleLineWidth()));
         const QPolygonF polygon = own().trianglePolygon(standard);
-        ceiechart::drawPolygonOutline(painter, polygon);
+        ceiechart::drawPolygonOutline(to, painter, polygon);
         QPainterPath path;
         path.addPolygon(polygon);
-        ceiechart::fillLargePath(painter, path, QBrush(tint(color, standard.opacity())));
+        ceiechart::fillLargePath(to, painter, path, QBrush(tint(color, standard.opacity())));
     }
     painter.restore();
 }
@@ -89,7 +92,8 @@ void DrawCEIPicture::Private::drawOutline(QPainter &painter, const ColorTriangle
     painter.setRenderHint(QPainter::Antialiasing, true);
     ColorTriangleObject copy(triangle);
     painter.setPen(ceiechart::solidPen(drawn(copy.foreColor(), ceiechart::leastLineContrast), copy.trigleLineWidth()));
-    ceiechart::drawPolygonOutline(painter, trianglePolygon(copy));
+    ceiechart::RowLayers here;
+    ceiechart::drawPolygonOutline(layers != nullptr ? *layers : here, painter, trianglePolygon(copy));
     painter.restore();
 }
 

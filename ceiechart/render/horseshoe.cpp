@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/horseshoefill_p.h>
 #include <ceiechart/render/diagramrenderer_p.h>
+#include <ceiechart/render/rowlayers_p.h>
 
 #include <QImage>
 #include <QPainter>
@@ -35,20 +36,31 @@ void DiagramRenderer::GetPointColorRGB(int px, int py, QImage *picture)
 void DiagramRenderer::Private::drawHorseshoeWithin(
     QImage &picture, const QPolygonF &clip, ClipOutline outline, const QColor &background)
 {
-    // At the edge of a clip, the paint engine rounds differently for each format. The colours there are defined for the
-    // non-premultiplied format, so that they are drawn through a view of the picture in non-premultiplied ARGB32.
-    QImage straight(picture.bits(), picture.width(), picture.height(), picture.bytesPerLine(), QImage::Format_ARGB32);
-    QPainter painter(&straight);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);
     QPainterPath path;
     const QPolygonF deviceClip = pixelRatio == 1.0 ? clip : QTransform::fromScale(pixelRatio, pixelRatio).map(clip);
     path.addPolygon(deviceClip);
-    painter.setClipPath(path, Qt::ReplaceClip);
+    // At the edge of a clip, the paint engine rounds differently for each format. The colours there are defined for the
+    // non-premultiplied format, so that they are drawn through a view of the picture in non-premultiplied ARGB32.
+    const auto paintWithin = [&](const auto &paint) {
+        QImage straight(
+            picture.bits(), picture.width(), picture.height(), picture.bytesPerLine(), QImage::Format_ARGB32);
+        QPainter painter(&straight);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform, true);
+        painter.setClipPath(path, Qt::ReplaceClip);
+        paint(painter);
+    };
+
     if (outline == ClipOutline::Drawn) {
-        painter.drawPath(path);
+        paintWithin([&path](QPainter &painter) { painter.drawPath(path); });
     }
-    drawHorseshoe(
-        painter, deviceClip, devicePixels(pictureWidth), devicePixels(pictureHeight), horseshoeFill(), background);
+    RowLayers own;
+    RowLayers &to = layers != nullptr ? *layers : own;
+    if (!to.add(picture, path, horseshoeFill(), background)) {
+        paintWithin([&](QPainter &painter) {
+            drawHorseshoe(painter, deviceClip, devicePixels(pictureWidth), devicePixels(pictureHeight), horseshoeFill(),
+                background);
+        });
+    }
 }
 
 void DiagramRenderer::Private::makeColorOfPixelCurrent(int px, int py)

@@ -9,6 +9,7 @@
 // contain exactly the same amounts with opposite signs on both ways: the teeth cover nothing. The engine looks for a
 // cell from the left end of its row; teeth from right to left, each of a few pixels, keep that way short.
 #include <ceiechart/render/largepaths_p.h>
+#include <ceiechart/render/rowlayers_p.h>
 
 #include <QPainter>
 #include <QPainterPath>
@@ -63,23 +64,36 @@ QPainterPath ledByTeeth(const QPainterPath &path, int width)
 
 } // namespace
 
-void drawPolygonOutline(QPainter &painter, const QPolygonF &polygon)
+void drawPolygonOutline(RowLayers &layers, QPainter &painter, const QPolygonF &polygon)
 {
     const QPen pen = painter.pen();
-    const int teeth = teethWidth(painter, polygon.boundingRect(), outlineTeeth);
     // Thinner pens are drawn by another part of the engine, which does not work in bands.
-    if (pen.widthF() < 2.0 || painter.brush().style() != Qt::NoBrush || teeth == 0) {
+    if (pen.widthF() < 2.0 || painter.brush().style() != Qt::NoBrush
+        || !painter.testRenderHint(QPainter::Antialiasing)) {
+        layers.draw();
         painter.drawPolygon(polygon, Qt::OddEvenFill);
         return;
     }
     QPainterPath path;
     path.addPolygon(polygon);
     path.closeSubpath();
-    painter.fillPath(ledByTeeth(QPainterPathStroker(pen).createStroke(path), teeth), pen.brush());
+    const QPainterPath outline = QPainterPathStroker(pen).createStroke(path);
+    if (layers.add(painter, outline, pen.brush())) {
+        return;
+    }
+    const int teeth = teethWidth(painter, polygon.boundingRect(), outlineTeeth);
+    if (teeth > 0) {
+        painter.fillPath(ledByTeeth(outline, teeth), pen.brush());
+    } else {
+        painter.drawPolygon(polygon, Qt::OddEvenFill);
+    }
 }
 
-void fillLargePath(QPainter &painter, const QPainterPath &path, const QBrush &brush)
+void fillLargePath(RowLayers &layers, QPainter &painter, const QPainterPath &path, const QBrush &brush)
 {
+    if (layers.add(painter, path, brush)) {
+        return;
+    }
     const int teeth = teethWidth(painter, path.controlPointRect(), fillTeeth);
     painter.fillPath(teeth > 0 ? ledByTeeth(path, teeth) : path, brush);
 }

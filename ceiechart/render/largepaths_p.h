@@ -10,11 +10,17 @@ class QPolygonF;
 
 namespace ceiechart {
 
-/*! \brief Draws exactly what painter.drawPolygon(polygon, Qt::OddEvenFill) draws, but faster for a large polygon. */
-void drawPolygonOutline(QPainter &painter, const QPolygonF &polygon);
+class RowLayers;
 
-/*! \brief Draws exactly what painter.fillPath(path, brush) draws, but faster for a large path. */
-void fillLargePath(QPainter &painter, const QPainterPath &path, const QBrush &brush);
+/*!
+ * \brief Draws exactly what painter.drawPolygon(polygon, Qt::OddEvenFill) draws, but faster for a large polygon.
+ *
+ * Where that is faster still, the outline is only added to \a layers, for RowLayers::draw().
+ */
+void drawPolygonOutline(RowLayers &layers, QPainter &painter, const QPolygonF &polygon);
+
+/*! \brief Draws what painter.fillPath(path, brush) draws, in the same way. */
+void fillLargePath(RowLayers &layers, QPainter &painter, const QPainterPath &path, const QBrush &brush);
 
 } // namespace ceiechart
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include <ceiechart/render/largepaths_p.h>
+#include <ceiechart/render/rowlayers_p.h>
 
 #include <QImage>
 #include <QPainter>
@@ -82,8 +83,9 @@ void LargePathsTest::samePixels()
             painter.setRenderHint(QPainter::Antialiasing, antialiased);
             painter.setPen(pen);
             painter.setBrush(brush);
-            ceiechart::drawPolygonOutline(painter, polygon);
-            ceiechart::fillLargePath(painter, path, QColor(255, 255, 255, 18));
+            ceiechart::RowLayers layers;
+            ceiechart::drawPolygonOutline(layers, painter, polygon);
+            ceiechart::fillLargePath(layers, painter, path, QColor(255, 255, 255, 18));
         }
         QVERIFY2(actual == expected, qPrintable(QStringLiteral("polygon %1").arg(i)));
     }

@@ -1,0 +1,253 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
+// SPDX-License-Identifier: MIT
+//
+// Corners are rounded to 1/64 of a pixel and are then counted in subpixels, 1/256 of a pixel. An edge is cut where it
+// leaves a row, and the part within a row is cut where it leaves a pixel. At every cut the other coordinate is rounded
+// down to a subpixel, as seen from the beginning of the edge or part; the direction of an edge therefore matters.
+//
+// Each piece adds to its pixel the height that it passes, and twice the area on its left. The pixels to its right are
+// covered over the sum of these heights. A share is the covered area of 2 · 256 · 256, rounded down to 1/256, and is
+// then made positive; 256 counts as 255.
+#include <ceiechart/render/enginecoverage_p.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+namespace ceiechart {
+
+namespace {
+
+constexpr int subpixels = 256; //!< per pixel
+constexpr double farthest = 16000.0; //!< in pixels; the engine cuts paths that lead much farther
+
+/*! \brief The position of \a coordinate in subpixels. */
+int inSubpixels(double coordinate)
+{
+    constexpr int steps = 64; // of a corner per pixel
+    return qRound(coordinate * steps) * (subpixels / steps);
+}
+
+int pixelOf(int position)
+{
+    return position >= 0 ? position / subpixels : -1 - (-1 - position) / subpixels;
+}
+
+int withinPixel(int position)
+{
+    return position - pixelOf(position) * subpixels;
+}
+
+/*! \brief The places where a line crosses the boundaries of pixels, one after another, rounded down. */
+class Crossings {
+public:
+    /*! \brief Of a line that rises by \a rise along \a run > 0, and whose first boundary is \a first away. */
+    Crossings(int first, int rise, int run)
+        : m_rise(rise)
+        , m_run(run)
+    {
+        divide(std::int64_t(first) * rise, m_place, m_rest);
+    }
+
+    /*! \brief How far the line has risen at the boundary at hand. */
+    int place() const { return m_place; }
+
+    void next()
+    {
+        if (m_stepRest < 0) {
+            divide(std::int64_t(subpixels) * m_rise, m_step, m_stepRest);
+        }
+        m_place += m_step;
+        m_rest += m_stepRest;
+        if (m_rest >= m_run) {
+            m_rest -= m_run;
+            ++m_place;
+        }
+    }
+
+private:
+    void divide(std::int64_t dividend, int &quotient, int &rest) const
+    {
+        quotient = int(dividend / m_run);
+        rest = int(dividend - std::int64_t(quotient) * m_run);
+        if (rest < 0) {
+            rest += m_run;
+            --quotient;
+        }
+    }
+
+    int m_rise;
+    int m_run;
+    int m_place = 0;
+    int m_rest = 0;
+    int m_step = 0;
+    int m_stepRest = -1; // not divided yet: most lines cross one boundary only
+};
+
+} // namespace
+
+EngineCoverage::EngineCoverage(const QPainterPath &path, const QSize &size)
+    : m_size(size)
+    , m_oddEven(path.fillRule() == Qt::OddEvenFill)
+{
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element &element = path.elementAt(i);
+        const bool isLine = element.isMoveTo() || element.isLineTo();
+        if (!isLine || !(std::fabs(element.x) <= farthest) || !(std::fabs(element.y) <= farthest)) {
+            m_known = false;
+            return;
+        }
+    }
+    QPoint begin;
+    QPoint last;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element &element = path.elementAt(i);
+        const QPoint point(inSubpixels(element.x), inSubpixels(element.y));
+        if (element.isMoveTo()) {
+            addEdge(last.x(), last.y(), begin.x(), begin.y());
+            begin = point;
+        } else {
+            addEdge(last.x(), last.y(), point.x(), point.y());
+        }
+        last = point;
+    }
+    addEdge(last.x(), last.y(), begin.x(), begin.y());
+    sortCells();
+}
+
+void EngineCoverage::addEdge(int fromX, int fromY, int toX, int toY)
+{
+    const int first = pixelOf(fromY);
+    const int last = pixelOf(toY);
+    const int height = m_size.height();
+    if (std::max(first, last) < 0 || std::min(first, last) >= height) {
+        return;
+    }
+    if (first == last) {
+        addWithinRow(first, fromX, withinPixel(fromY), toX, withinPixel(toY));
+        return;
+    }
+    const bool down = toY > fromY;
+    const int enter = down ? 0 : subpixels;
+    const int leave = subpixels - enter;
+    const int step = down ? 1 : -1;
+    Crossings crossings(std::abs(leave - withinPixel(fromY)), toX - fromX, std::abs(toY - fromY));
+    int x = fromX;
+    for (int row = first; row != last; row += step) {
+        const int next = fromX + crossings.place();
+        if (row >= 0 && row < height) {
+            addWithinRow(row, x, row == first ? withinPixel(fromY) : enter, next, leave);
+        }
+        x = next;
+        if (row + step != last) {
+            crossings.next();
+        }
+    }
+    if (last >= 0 && last < height) {
+        addWithinRow(last, x, enter, toX, withinPixel(toY));
+    }
+}
+
+void EngineCoverage::addWithinRow(int row, int fromX, int fromY, int toX, int toY)
+{
+    const int height = toY - fromY;
+    if (height == 0) {
+        return;
+    }
+    const int first = pixelOf(fromX);
+    const int last = pixelOf(toX);
+    if (first == last) {
+        add(row, first, (withinPixel(fromX) + withinPixel(toX)) * height, height);
+        return;
+    }
+    const bool right = toX > fromX;
+    const int enter = right ? 0 : subpixels;
+    const int leave = subpixels - enter;
+    const int step = right ? 1 : -1;
+    Crossings crossings(std::abs(leave - withinPixel(fromX)), height, std::abs(toX - fromX));
+    int passed = crossings.place();
+    add(row, first, (withinPixel(fromX) + leave) * passed, passed);
+    for (int x = first + step; x != last; x += step) {
+        crossings.next();
+        const int part = crossings.place() - passed;
+        add(row, x, subpixels * part, part);
+        passed += part;
+    }
+    add(row, last, (enter + withinPixel(toX)) * (height - passed), height - passed);
+}
+
+void EngineCoverage::add(int row, int x, int area, int height)
+{
+    if (x < m_size.width()) {
+        m_found.push_back({row, {std::max(x, -1), height, area}});
+    }
+}
+
+void EngineCoverage::sortCells()
+{
+    if (m_found.empty()) {
+        return;
+    }
+    const auto byRow = [](const RowCell &a, const RowCell &b) { return a.row < b.row; };
+    const auto [least, most] = std::minmax_element(m_found.cbegin(), m_found.cend(), byRow);
+    m_top = least->row;
+    m_first.assign(std::size_t(most->row - m_top) + 2, 0);
+    for (const RowCell &found : m_found) {
+        ++m_first[std::size_t(found.row - m_top) + 1];
+    }
+    for (std::size_t i = 1; i < m_first.size(); ++i) {
+        m_first[i] += m_first[i - 1];
+    }
+    m_cells.resize(m_found.size());
+    std::vector<int> next(m_first.cbegin(), m_first.cend() - 1);
+    for (const RowCell &found : m_found) {
+        m_cells[std::size_t(next[std::size_t(found.row - m_top)]++)] = found.cell;
+    }
+    for (std::size_t i = 1; i < m_first.size(); ++i) {
+        std::sort(m_cells.begin() + m_first[i - 1], m_cells.begin() + m_first[i],
+            [](const Cell &a, const Cell &b) { return a.x < b.x; });
+    }
+    m_found = {};
+}
+
+int EngineCoverage::coverage(int area) const
+{
+    // Divided by 512 and rounded down, also where it is negative.
+    int share = area >= 0 ? area / (2 * subpixels) : (2 * subpixels - 1 - area) / (2 * subpixels);
+    if (m_oddEven) {
+        share %= 2 * subpixels;
+        share = share > subpixels ? 2 * subpixels - share : share;
+    }
+    return std::min(share, 255);
+}
+
+void EngineCoverage::row(int y, std::vector<CoveredSpan> &spans) const
+{
+    spans.clear();
+    if (y < m_top || y >= bottom()) {
+        return;
+    }
+    const auto append = [this, &spans](int x, int length, int area) {
+        const int share = coverage(area);
+        if (length > 0 && share > 0) {
+            spans.push_back({x, length, share});
+        }
+    };
+    const std::size_t index = std::size_t(y - m_top);
+    int height = 0;
+    int x = 0;
+    for (int i = m_first[index]; i < m_first[index + 1];) {
+        const int column = m_cells[std::size_t(i)].x;
+        append(x, column - x, 2 * subpixels * height);
+        int area = 0;
+        for (; i < m_first[index + 1] && m_cells[std::size_t(i)].x == column; ++i) {
+            height += m_cells[std::size_t(i)].height;
+            area += m_cells[std::size_t(i)].area;
+        }
+        x = column + 1;
+        append(column, column < 0 ? 0 : 1, 2 * subpixels * height - area);
+    }
+    append(x, m_size.width() - x, 2 * subpixels * height);
+}
+
+} // namespace ceiechart

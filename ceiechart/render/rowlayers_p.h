@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
+// SPDX-License-Identifier: MIT
+#ifndef CEIECHART_RENDER_ROWLAYERS_P_H
+#define CEIECHART_RENDER_ROWLAYERS_P_H
+
+#include <ceiechart/diagram/horseshoefill_p.h>
+#include <ceiechart/render/enginecoverage_p.h>
+
+#include <QRgb>
+
+#include <optional>
+#include <vector>
+
+class QBrush;
+class QColor;
+class QImage;
+class QPainter;
+class QPainterPath;
+
+namespace ceiechart {
+
+/*!
+ * \brief Filled paths, with the colours of the horseshoe among them, which are drawn together.
+ *
+ * The pixels are those that the paint engine gives. But each row is finished before the next one is begun, so that it
+ * stays in the cache, and what the horseshoe will hide is not drawn.
+ */
+class RowLayers {
+public:
+    RowLayers() = default;
+    ~RowLayers() { draw(); }
+
+    /*!
+     * \brief Adds what painter.fillPath(path, brush) draws, over the layers that have been added before.
+     *
+     * \return false if it cannot be drawn here with the same pixels: if \a painter does not simply paint over an opaque
+     * picture, or if the paint engine computes in a way that is not known. draw() has then been called, so that
+     * \a painter can be used instead.
+     */
+    bool add(const QPainter &painter, const QPainterPath &path, const QBrush &brush);
+
+    /*!
+     * \brief Adds the colours of \a fill within \a clip, as a painter draws them on a picture in Format_ARGB32.
+     *
+     * \param picture the picture, opaque in Format_ARGB32_Premultiplied
+     * \param background what the horseshoe is filled over; see fillHorseshoe()
+     * \return false if that cannot be drawn here with the same pixels; see the other function
+     */
+    bool add(QImage &picture, const QPainterPath &clip, const HorseshoeFill &fill, const QColor &background);
+
+    /*! \brief Draws the layers and forgets them. */
+    void draw();
+
+private:
+    struct Layer {
+        EngineCoverage coverage;
+        QRgb color; //!< premultiplied; of the horseshoe, that of the background
+        bool isHorseshoe;
+    };
+    class Rows;
+    void add(QImage &picture, Layer &&layer);
+
+    QImage *m_picture = nullptr;
+    std::vector<Layer> m_layers;
+    std::optional<HorseshoeFill> m_fill;
+};
+
+} // namespace ceiechart
+
+#endif // CEIECHART_RENDER_ROWLAYERS_P_H
