@@ -148,13 +148,14 @@ int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances
     const QString picture = commandLine.pictureFile();
     if (!picture.isEmpty()) {
         const Picture content = commandLine.picture(description, tolerances);
+        const bool lacksRoom = lacksRoomForKey(content, commandLine.extent().size); // nothing can fail after the file
         const QString error
             = exportPicture(content, description.name, commandLine.extent(), commandLine.pictureFormat(), picture);
         if (!error.isEmpty()) {
             printError(QApplication::translate("main", "%1: cannot be written: %2").arg(picture, error));
             return Failed;
         }
-        if (lacksRoomForKey(content, commandLine.extent().size)) {
+        if (lacksRoom) {
             printError(QApplication::translate("main", "%1: has no room for the key").arg(picture));
         }
     }

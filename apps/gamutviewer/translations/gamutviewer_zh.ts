@@ -389,6 +389,15 @@
         <source>A measurement list needs a choice: what it says of the display is not judged. Make the choice that the warnings ask for.</source>
         <translation>有测量列表需要作出选择：其中关于显示屏的内容未作判定。请按警告的要求作出选择。</translation>
     </message>
+    <message>
+        <source>What luminance the %1 reaches is not known: its white has no luminance.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known. %1</source>
+        <comment>and why, in sentences</comment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::CabinetModel</name>

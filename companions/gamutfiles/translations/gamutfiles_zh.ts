@@ -589,6 +589,14 @@
         <source>not guaranteed</source>
         <translation>不保证</translation>
     </message>
+    <message>
+        <source>%1, as a field that was left empty also says</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is a ZIP archive, as spreadsheets are: save the list as text, with the suffix csv</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::IccProfile</name>
@@ -1111,6 +1119,10 @@
     <message>
         <source>the unit &quot;%1&quot; is not that of line %2, &quot;%3&quot;: state the unit</source>
         <translation>单位“%1”与第 %2 行的单位“%3”不同：请指定单位</translation>
+    </message>
+    <message>
+        <source>the columns u and v can be those of CIE 1960 or of CIE 1976: call these u&apos; and v&apos;</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
