@@ -175,6 +175,7 @@ QRectF boundsOf(const QVector<PlacedMark> &marks)
 
 TextStyle::TextStyle(const QFont &font, const QPaintDevice *device, double unit)
     : m_font(font)
+    , m_shapedFont(device ? QFont(font, device) : font)
     , m_metrics(metricsOf(font, device))
     , m_unit(unit)
     , m_pixelSize(font.pointSizeF() * dotsPerInch(device) / pointsPerInch / unit)
@@ -203,7 +204,7 @@ QList<QGlyphRun> TextStyle::glyphs(const QString &text) const
 {
     Known &found = known(text);
     if (found.glyphs.isEmpty() && !text.isEmpty()) {
-        QTextLayout layout(text, m_font);
+        QTextLayout layout(text, m_shapedFont);
         layout.beginLayout();
         const QTextLine line = layout.createLine();
         layout.endLayout();

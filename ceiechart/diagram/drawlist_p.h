@@ -70,6 +70,7 @@ private:
     Known &known(const QString &text) const;
 
     QFont m_font;
+    QFont m_shapedFont; // has the size in points at the resolution of the device, which need not be the screen's
     QFontMetricsF m_metrics;
     double m_unit;
     double m_pixelSize;

@@ -4,8 +4,11 @@
 #include <diagram/fulldiagram.h>
 
 #include <QPainter>
+#include <QScopeGuard>
 #include <QSvgRenderer>
 #include <QtTest>
+
+#include <cmath>
 
 using namespace fulldiagram;
 
@@ -20,6 +23,7 @@ private Q_SLOTS:
     void svgHasNothingThatFilesDoNotTake();
     void paintStaysInItsPlace();
     void devicesOfHighResolution();
+    void textsAreAsLargeAsTheDeviceHasThem();
 };
 
 void DiagramDevicesTest::coarseDevicesAreNoFault()
@@ -176,6 +180,51 @@ void DiagramDevicesTest::devicesOfHighResolution()
         }
     }
     QVERIFY2(differing < 0.02 * screen.width() * screen.height(), qPrintable(QString::number(differing)));
+}
+
+void DiagramDevicesTest::textsAreAsLargeAsTheDeviceHasThem()
+{
+    const auto inchesOfName = [](double dotsPerInch) {
+        constexpr double inchesPerMetre = 1.0 / 0.0254;
+        constexpr int inches = 9;
+        QFont font;
+        font.setPointSizeF(36.0); // hinting plays no part then
+        // All corners in one point: nothing but the name and the point is shown.
+        const Model::Target point = Model::Target::fromYxy(1.0, 0.3, 0.3);
+        DiagramContent content;
+        content.layers = DiagramLayer::Standards | DiagramLayer::Names;
+        content.gamuts.append(
+            {Model::ColorGamut("A name of many letters", {point, point, point, point}), GamutRole::Standard});
+        DiagramPainter painter;
+        painter.setFont(font);
+        prepare(painter, content, Model::Diagram::Cie1931, QSizeF(900, 300), 1.0);
+        QImage image(qRound(inches * dotsPerInch), qRound(inches * dotsPerInch / 3), QImage::Format_RGB32);
+        image.setDotsPerMeterX(qRound(dotsPerInch * inchesPerMetre));
+        image.setDotsPerMeterY(qRound(dotsPerInch * inchesPerMetre));
+        QPainter(&image).fillRect(image.rect(), diagramPalette(content.ground).ground);
+        {
+            QPainter onto(&image);
+            painter.paint(&onto, image.rect());
+        }
+        QRect ink;
+        const int ground = qGray(diagramPalette(content.ground).ground.rgb());
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                ink |= std::abs(qGray(image.pixel(x, y)) - ground) > 60 ? QRect(x, y, 1, 1) : QRect();
+            }
+        }
+        return ink.width() / dotsPerInch;
+    };
+    // Whatever the resolution of the screen is, which tests are not told of otherwise.
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi, false);
+    const auto restore = qScopeGuard([] { QCoreApplication::setAttribute(Qt::AA_Use96Dpi, true); });
+    const double expected = inchesOfName(600.0);
+    QVERIFY(expected > 3.0);
+    for (const double dotsPerInch : {72.0, 96.0, 100.0, 120.0, 144.0, 192.0}) {
+        const double inches = inchesOfName(dotsPerInch);
+        QVERIFY2(std::fabs(inches - expected) < 0.02 * expected,
+            qPrintable(QStringLiteral("at %1 dpi %2 inches instead of %3").arg(dotsPerInch).arg(inches).arg(expected)));
+    }
 }
 
 QTEST_MAIN(DiagramDevicesTest)
