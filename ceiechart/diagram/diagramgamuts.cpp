@@ -112,6 +112,7 @@ DiagramStep DiagramGamuts::takeUnedited()
 DiagramStep DiagramGamuts::takeEdited(const DiagramStep &scale)
 {
     m_step.places = scale.places;
+    m_step.curves = scale.curves;
     m_handles = handles();
     placeWavelengths(scale.wavelengths);
     if (m_sheet.shows(DiagramLayer::Rings)) {

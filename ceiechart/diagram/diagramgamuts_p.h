@@ -109,6 +109,8 @@ private:
     int outlinesAt(const QRectF &place) const;
     //! How much \a place would cover.
     int covered(const QRectF &place) const;
+    int curvesAt(const QRectF &place) const;
+    double costOfPlace(const QRectF &place) const;
     //! The cost of a place without a leader that is not close to the outline.
     double costOfDoubt(const Shown &gamut, const QRectF &place) const;
     //! Where a name on a plate of the size \a plate covers least beside the outline.

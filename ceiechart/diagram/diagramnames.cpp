@@ -33,6 +33,7 @@ constexpr int mostLedOutlines = 20; // among more of them, a leader is hard to f
 
 // What a place for a name costs, in pixels of a leader that would be as bad
 constexpr double costOfCovering = 60.0; // for each unit of what covered() counts
+constexpr double costOfCurve = 15.0; // of covering part of a locus: not worth a leader
 constexpr double costOfCrossing = 15.0; // of another outline by the leader
 constexpr double worthLeading = 20.0; // what costs no more is clear enough without a leader
 constexpr double mostDoubt = 60.0; // of a place that is away from its outline, and has no leader
@@ -286,6 +287,19 @@ int DiagramGamuts::outlinesAt(const QRectF &place) const
     return countOutlines([&place](const QLineF &side) { return meets(side, place); });
 }
 
+int DiagramGamuts::curvesAt(const QRectF &place) const
+{
+    const auto isMet = [&place](const QPolygonF &curve) {
+        for (int i = 1; i < curve.size(); ++i) {
+            if (meets(QLineF(curve.at(i - 1), curve.at(i)), place)) {
+                return true;
+            }
+        }
+        return false;
+    };
+    return int(std::count_if(m_step.curves.cbegin(), m_step.curves.cend(), isMet));
+}
+
 int DiagramGamuts::covered(const QRectF &place) const
 {
     int count = 2 * outlinesAt(place);
@@ -293,6 +307,11 @@ int DiagramGamuts::covered(const QRectF &place) const
         count += white.intersects(place) ? 3 : 0;
     }
     return count + 3 * m_marks.places.meeting(place, markRadius, mostCovered);
+}
+
+double DiagramGamuts::costOfPlace(const QRectF &place) const
+{
+    return costOfCovering * covered(place) + costOfCurve * curvesAt(place);
 }
 
 double DiagramGamuts::costOfDoubt(const Shown &gamut, const QRectF &place) const
@@ -317,7 +336,7 @@ DiagramGamuts::NamePlace DiagramGamuts::placeBeside(const Shown &gamut, const QS
         if (meetsAny(m_handles, place) || !m_step.places.isFree(place, m_inner, labelGap)) {
             continue;
         }
-        const double cost = costOfCovering * covered(place) + costOfDoubt(gamut, place);
+        const double cost = costOfPlace(place) + costOfDoubt(gamut, place);
         if (cost < best.cost) {
             best = {place, QLineF(), cost};
         }
@@ -350,8 +369,8 @@ DiagramGamuts::NamePlace DiagramGamuts::placeLedTo(
         const int crossed = countOutlines(
             [&leader](const QLineF &side) { return side.intersects(leader, nullptr) == QLineF::BoundedIntersection; });
         const double cost = leader.length() + costOfCrossing * std::max(0, crossed - 1);
-        if (cost < best.cost && cost + costOfCovering * covered(place) < best.cost) {
-            best = {place, leader, cost + costOfCovering * covered(place)};
+        if (cost < best.cost && cost + costOfPlace(place) < best.cost) {
+            best = {place, leader, cost + costOfPlace(place)};
         }
     };
     QVector<QPointF> anchors;
@@ -446,17 +465,30 @@ void DiagramGamuts::drawMarkName(const QPointF &at, const QString &markName)
     }
     const TextStyle &style = m_sheet.fonts.texts;
     const QSizeF size = style.size(name);
-    for (const QPointF &way : {QPointF(1.0, 0.0), QPointF(-1.0, 0.0), QPointF(0.0, -1.0), QPointF(0.0, 1.0)}) {
-        const double reach = markRadius + labelGap + 1.0;
+    QRectF best;
+    int least = std::numeric_limits<int>::max();
+    for (const QPointF &way : {QPointF(1.0, 0.0), QPointF(-1.0, 0.0), QPointF(0.0, -1.0), QPointF(0.0, 1.0),
+             QPointF(1.0, 1.0), QPointF(-1.0, -1.0), QPointF(1.0, -1.0), QPointF(-1.0, 1.0)}) {
+        const bool isAslant = way.x() != 0.0 && way.y() != 0.0;
+        const double reach = (markRadius + labelGap + 1.0) * (isAslant ? M_SQRT1_2 : 1.0);
         const QPointF centre
             = at + QPointF(way.x() * (reach + size.width() / 2.0), way.y() * (reach + size.height() / 2.0));
         const QRectF place(centre - QPointF(size.width(), size.height()) / 2.0, size);
         if (!meetsAny(m_whites, place) && !m_marks.places.meets(place, markRadius) && !meetsAny(m_handles, place)
             && m_step.places.isFree(place, m_inner, labelGap)) {
-            m_step.places.add(DiagramLabel::Kind::Mark, name, place);
-            m_step.texts.textIn(place, name, style, m_innerPalette.text, m_innerPalette.casing);
-            return;
+            const int count = curvesAt(place);
+            if (count < least) {
+                least = count;
+                best = place;
+            }
+            if (least == 0) {
+                break;
+            }
         }
+    }
+    if (!best.isNull()) {
+        m_step.places.add(DiagramLabel::Kind::Mark, name, best);
+        m_step.texts.textIn(best, name, style, m_innerPalette.text, m_innerPalette.casing);
     }
 }
 

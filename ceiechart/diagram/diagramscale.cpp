@@ -22,6 +22,7 @@ constexpr double rowsPerTick = 2.6; // heights of a text from tick to tick on th
 constexpr double mostTicks = 12.0; // on the shorter axis: more are not read better
 constexpr double locusWidth = 1.5;
 constexpr double curvePieces = 3.0; // lengths of the pieces of curves, where there are shorter ones
+constexpr double roughPieces = 12.0; // so, of curves that texts keep clear of
 constexpr double tickWidth = 1.0;
 constexpr double casingOfTicks = 2.0; // on both sides together
 constexpr double shortTick = 4.0;
@@ -205,6 +206,11 @@ private:
         }
         for (const LinePart &part : partsWithin(thinned(points, curvePieces), true, m_plot)) {
             m_step.drawing.line(part.points, part.closed, pen(m_palette.locus, locusWidth));
+            QPolygonF whole = part.points;
+            if (part.closed) {
+                whole.append(whole.first());
+            }
+            m_step.curves.append(thinned(whole, roughPieces));
         }
     }
 
@@ -295,6 +301,9 @@ private:
         QPolygonF points;
         for (const QPointF &point : planckianLocusIn(m_viewport.diagram())) {
             points.append(toPosition(point));
+        }
+        for (const LinePart &part : partsWithin(points, false, m_plot)) {
+            m_step.curves.append(thinned(part.points, roughPieces));
         }
         drawCased(m_step.drawing, thinned(points, curvePieces), false, m_plot,
             pen(m_innerPalette.planckian, locusWidth), m_innerPalette.casing);

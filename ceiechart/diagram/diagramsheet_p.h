@@ -85,6 +85,7 @@ struct DiagramStep {
     LabelPlaces places; //!< those of the steps before as well
     QVector<PendingNumber> wavelengths; //!< none of whose first places meets another's
     QVector<PendingNumber> isotherms; //!< from the most important on
+    QVector<QPolygonF> curves; //!< roughly, those that texts had better keep clear of
 };
 
 /*! \name The steps of painting

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include <diagram/fulldiagram.h>
 
+#include <ceiechart/diagram/whitepoint.h>
+#include <gamutmodel/spectrallocus.h>
+
 #include <QtTest>
 
 #include <algorithm>
@@ -38,6 +41,7 @@ private Q_SLOTS:
     void namesOfGamutsAreShown();
     void namesFindPlacesInSmallViews_data();
     void namesFindPlacesInSmallViews();
+    void namesKeepOffTheLoci();
     void leadersEndOnTheirOutlines();
     void isothermNumbersLeaveOutlines();
     void oddNamesAreShown();
@@ -229,6 +233,37 @@ void DiagramLabelsTest::namesFindPlacesInSmallViews()
         }
         QVERIFY2(count >= least,
             qPrintable(QStringLiteral("%1 %2").arg(QString::fromUtf8(Model::diagramTraits(diagram).xName)).arg(count)));
+    }
+}
+
+// Where there is room elsewhere.
+void DiagramLabelsTest::namesKeepOffTheLoci()
+{
+    DiagramContent content;
+    content.gamuts = {{Model::rec2020(), GamutRole::Standard}, {Model::rec709(), GamutRole::Standard}};
+    content.colorTemperaturePoints = {{*chromaticityAt(3200.0, 0.0), QStringLiteral("3200 K"), QColor()}};
+    content.layers.setFlag(DiagramLayer::Isotherms, false);
+    DiagramPainter painter;
+    for (const QSizeF &size : {QSizeF(660, 660), QSizeF(1000, 760)}) {
+        prepare(painter, content, Model::Diagram::Cie1931, size, 1.0);
+        int names = 0;
+        for (const DiagramLabel &label : painter.labels()) {
+            if (label.kind != DiagramLabel::Kind::Gamut && label.kind != DiagramLabel::Kind::Mark) {
+                continue;
+            }
+            ++names;
+            const auto isOn
+                = [&](const QPointF &xy) { return label.place.contains(painter.viewport().toPosition(xy)); };
+            for (double wavelength = Model::shortestWavelength; wavelength <= Model::longestWavelength;
+                 wavelength += 0.5) {
+                const Model::DiagramPoint xy = Model::spectralChromaticity(wavelength);
+                QVERIFY2(!isOn(QPointF(xy.x, xy.y)), qPrintable(label.text));
+            }
+            for (double kelvin = 1500.0; kelvin < 30000.0; kelvin *= 1.01) {
+                QVERIFY2(!isOn(*chromaticityAt(kelvin, 0.0)), qPrintable(label.text));
+            }
+        }
+        QCOMPARE(names, 3);
     }
 }
 
