@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QButtonGroup>
+#include <QScopeGuard>
 #include <QtTest>
 
 using namespace gamutviewer;
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void returnShowsAlone();
     void standardsAreThoseOfTheDescription();
     void keySpeaks();
+    void fontsInPixelsAreScaled();
 };
 
 namespace {
@@ -92,6 +94,7 @@ void LayerKeyTest::keySwitchesLayers()
     QListWidgetItem *entry = key(f)->entry(name);
     QVERIFY(entry);
     QCOMPARE(entry->checkState(), Qt::Checked);
+    key(f)->setFocus();
     const QImage with = view(f)->grab().toImage();
     key(f)->scrollToItem(entry);
     QTest::mouseClick(key(f)->viewport(), Qt::LeftButton, Qt::NoModifier, middleOf(key(f), entry));
@@ -203,6 +206,17 @@ void LayerKeyTest::keySpeaks()
     }
     QVERIFY2(names.contains(QStringLiteral("LED wall, Original")), qPrintable(names.join(QLatin1Char(';'))));
     QVERIFY(names.contains(QStringLiteral("Isotherms")));
+}
+
+void LayerKeyTest::fontsInPixelsAreScaled()
+{
+    const QFont former = QApplication::font();
+    const auto restore = qScopeGuard([&former] { QApplication::setFont(former); });
+    QFont font = former;
+    font.setPixelSize(20);
+    QApplication::setFont(font);
+    WindowFixture f;
+    QCOMPARE(key(f)->font().pixelSize(), 17);
 }
 
 QTEST_MAIN(LayerKeyTest)

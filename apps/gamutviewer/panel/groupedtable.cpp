@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "panel/groupedtable.h"
 
+#include "panel/scaledfont.h"
+
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -15,8 +17,7 @@ GroupedTable::GroupedTable(const QStringList &header, QWidget *parent)
     setHorizontalHeaderLabels(header);
     horizontalHeader()->setMinimumSectionSize(10);
     horizontalHeader()->setHighlightSections(false);
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.8);
+    const QFont small = scaledFont(font(), 0.8);
     setFont(small);
     horizontalHeader()->setFont(small);
     verticalHeader()->hide();

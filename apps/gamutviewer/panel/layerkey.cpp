@@ -9,6 +9,7 @@
 #include "editing/targetsession.h"
 #include "panel/accentbutton.h"
 #include "panel/plaintooltip.h"
+#include "panel/scaledfont.h"
 
 #include <ceiechart/diagram/diagrampainter.h>
 
@@ -41,12 +42,6 @@ constexpr double sectionScale = 0.82;
 constexpr double detailScale = 0.85;
 constexpr int widestEntry = 190;
 constexpr double keyScale = 0.85;
-
-QFont scaled(QFont font, double factor)
-{
-    font.setPointSizeF(font.pointSizeF() * factor);
-    return font;
-}
 
 QPoint positionOf(const QMouseEvent &event)
 {
@@ -92,7 +87,7 @@ public:
             for (const ItemRole role : {NameRole, WidestNameRole}) {
                 width = std::max(width, QFontMetrics(bold).horizontalAdvance(index.data(role).toString()));
             }
-            height += QFontMetrics(scaled(option.font, detailScale)).height();
+            height += QFontMetrics(scaledFont(option.font, detailScale)).height();
         }
         const int line = index.data(GamutRoleRole).isValid() ? lineWidth + gap : 0;
         return {std::min(2 * margin + box + gap + line + width, widestEntry), height};
@@ -121,7 +116,7 @@ private:
     static void paintSection(
         QPainter *painter, const QStyleOptionViewItem &option, const QRect &place, const QModelIndex &index)
     {
-        QFont font = scaled(option.font, sectionScale);
+        QFont font = scaledFont(option.font, sectionScale);
         font.setCapitalization(QFont::AllUppercase);
         font.setBold(true);
         painter->setFont(font);
@@ -159,9 +154,9 @@ private:
         painter->setPen(option.palette.color(isChecked ? QPalette::Normal : QPalette::Disabled, QPalette::Text));
         const QRect nameLine(place.left(), place.top(), place.width(), firstLine);
         painter->drawText(nameLine, Qt::AlignLeft | Qt::AlignVCenter,
-            QFontMetrics(font).elidedText(index.data(NameRole).toString(), Qt::ElideRight, place.width()));
+            QFontMetrics(font).elidedText(index.data(NameRole).toString(), Qt::ElideMiddle, place.width()));
         if (isPart(index)) {
-            painter->setFont(scaled(option.font, detailScale));
+            painter->setFont(scaledFont(option.font, detailScale));
             painter->drawText(QRect(place.left(), place.top() + firstLine - 3, place.width(), place.height()),
                 Qt::AlignLeft | Qt::AlignTop, index.data(DetailRole).toString());
         }
@@ -186,7 +181,7 @@ LayerKey::LayerKey(Document *document, LayerSwitches *switches, QWidget *parent)
     setAccessibleName(tr("Key: what the diagram shows"));
     setAccessibleDescription(tr("Space switches an entry, Return shows it alone"));
     setItemDelegate(new EntryDelegate(this));
-    setFont(scaled(font(), keyScale));
+    setFont(scaledFont(font(), keyScale));
     setFrameShape(NoFrame);
     setSelectionMode(NoSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -243,7 +238,7 @@ void LayerKey::addColors()
         auto *button = new AccentButton(box);
         button->setText(choice.second);
         button->setCheckable(true);
-        button->setFont(scaled(font(), detailScale));
+        button->setFont(scaledFont(font(), detailScale));
         button->setAccessibleName(tr("Colours: %1").arg(choice.second));
         m_colors->addButton(button, int(choice.first));
         layout->addWidget(button);

@@ -9,6 +9,7 @@
 #include "editing/gamutroles.h"
 #include "editing/targetsession.h"
 #include "panel/groupedtable.h"
+#include "panel/scaledfont.h"
 #include "panel/targeteditor.h"
 #include "panel/verdict.h"
 
@@ -62,9 +63,7 @@ SidePanel::SidePanel(TargetSession *session, QWidget *parent)
     : QWidget(parent)
     , m_document(session->document())
 {
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.9);
-    setFont(small);
+    setFont(scaledFont(font(), 0.9));
     auto *layout = new QVBoxLayout(this);
     m_verdict = new Verdict(session, this);
     layout->addWidget(m_verdict);

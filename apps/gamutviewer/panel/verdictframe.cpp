@@ -3,6 +3,7 @@
 #include "panel/verdictframe.h"
 
 #include "display/valuetexts.h"
+#include "panel/scaledfont.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -33,8 +34,7 @@ VerdictFrame::VerdictFrame(int shownLines, QWidget *parent)
     m_verdict->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_column->addWidget(m_verdict);
     m_lines = new QListWidget(this);
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.85);
+    const QFont small = scaledFont(font(), 0.85);
     m_lines->setFont(small);
     m_lines->setFrameShape(NoFrame);
     m_lines->setWordWrap(true);

@@ -3,6 +3,7 @@
 #include "panel/wallmap.h"
 
 #include "editing/targetsession.h"
+#include "panel/scaledfont.h"
 #include "panel/wallmapmodel.h"
 
 #include <QHeaderView>
@@ -186,9 +187,7 @@ void WallMap::showSelection()
 WallLegend::WallLegend(QWidget *parent)
     : QWidget(parent)
 {
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.8);
-    setFont(small);
+    setFont(scaledFont(font(), 0.8));
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 

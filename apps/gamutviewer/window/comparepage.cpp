@@ -11,6 +11,7 @@
 #include "editing/targetsession.h"
 #include "panel/copytable.h"
 #include "panel/plaintooltip.h"
+#include "panel/scaledfont.h"
 
 #include <gamutmodel/gamutcoverage.h>
 
@@ -49,8 +50,7 @@ ComparePage::ComparePage(TargetSession *session, QWidget *parent)
     m_table->setAccessibleName(tr("Gamuts side by side"));
     m_table->setVerticalHeaderLabels({tr("Red"), tr("Green"), tr("Blue"), tr("White"), tr("CCT"), tr("Duv"),
         tr("Luminance"), tr("Area x, y"), tr("Area u′, v′")});
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.85);
+    const QFont small = scaledFont(font(), 0.85);
     m_table->setFont(small);
     m_table->horizontalHeader()->setFont(small);
     m_table->verticalHeader()->setFont(small);

@@ -8,6 +8,7 @@
 #include "editing/targetsession.h"
 #include "panel/accentbutton.h"
 #include "panel/layerkey.h"
+#include "panel/scaledfont.h"
 #include "window/lens.h"
 
 #include <QAction>
@@ -73,9 +74,7 @@ QAction *DiagramPage::addButton(QHBoxLayout *bar, const QString &text, const QSt
     action->setToolTip(explanation);
     addAction(action);
     auto *button = new AccentButton(this);
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * barScale);
-    button->setFont(small);
+    button->setFont(scaledFont(font(), barScale));
     button->setDefaultAction(action);
     button->setAccessibleName(explanation);
     button->setFocusPolicy(Qt::TabFocus);

@@ -7,6 +7,7 @@
 #include "drawing/layerswitches.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
+#include "panel/scaledfont.h"
 
 #include <ceiechart/diagram/diagrampainter.h>
 
@@ -47,9 +48,7 @@ Lens::Lens(TargetSession *session, LayerSwitches *switches, QWidget *parent)
     layout->setContentsMargins(4, 2, 4, 4);
     layout->setSpacing(2);
     m_value = new QLabel(this);
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.8);
-    m_value->setFont(small);
+    m_value->setFont(scaledFont(font(), 0.8));
     m_value->setTextFormat(Qt::PlainText);
     m_value->setMinimumWidth(1);
     m_view = new DocumentView(session, m_ownSwitches, this);

@@ -6,6 +6,7 @@
 #include "display/valuetexts.h"
 #include "editing/targetsession.h"
 #include "panel/hintlabel.h"
+#include "panel/scaledfont.h"
 #include "panel/sidepanel.h"
 #include "panel/targeteditor.h"
 #include "panel/warningbar.h"
@@ -117,8 +118,7 @@ void ViewerWindow::buildStatusBar()
     m_readout = new QLabel(this);
     // In a window of 1024 pixels there is room for both.
     constexpr double textScale = 0.85;
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * textScale);
+    const QFont small = scaledFont(font(), textScale);
     m_hints->setFont(small);
     m_readout->setFont(small);
     m_readout->setTextFormat(Qt::PlainText);

@@ -8,6 +8,7 @@
 #include "panel/accentbutton.h"
 #include "panel/cabinettable.h"
 #include "panel/closelook.h"
+#include "panel/scaledfont.h"
 #include "panel/wallmap.h"
 #include "panel/wallverdict.h"
 
@@ -80,8 +81,7 @@ QWidget *WallPage::buildMaps()
     auto *column = new QVBoxLayout(m_maps);
     column->setContentsMargins(0, 0, 4, 4);
     column->setSpacing(4);
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * barScale);
+    const QFont small = scaledFont(font(), barScale);
     m_map = new WallMap(m_session, WallMap::Cabinets::Placed, m_maps);
     m_map->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     column->addWidget(m_map);
@@ -105,8 +105,7 @@ void WallPage::buildQuantities(QHBoxLayout *bar)
 {
     bar->setSpacing(2);
     m_quantities = new QActionGroup(this);
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * barScale);
+    const QFont small = scaledFont(font(), barScale);
     m_extent = new QLabel(m_content);
     m_extent->setFont(small);
     m_extent->setTextFormat(Qt::PlainText);
@@ -139,8 +138,7 @@ QWidget *WallPage::buildNumbers()
     auto *looks = new QHBoxLayout;
     looks->setSpacing(4);
     column->addLayout(looks, 2);
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * barScale);
+    const QFont small = scaledFont(font(), barScale);
     for (const Vertex primary : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
         auto *look = new CloseLook(m_session, primary, numbers);
         look->setFont(small);
