@@ -111,10 +111,13 @@ QString wallFile(const CommandLine &commandLine)
         : commandLine.wallFile();
 }
 
-//! \a opened with the wall in \a wall and the target that the command line asks for.
-Outcome<OpenedFiles> withRequests(const OpenedFiles &opened, const QString &wall, const CommandLine &commandLine)
+//! \a opened with the wall in \a wall and the target that the command line asks for, and with the \a warnings of
+//! others.
+Outcome<OpenedFiles> withRequests(const OpenedFiles &opened, const QString &wall, const CommandLine &commandLine,
+    const QVector<FileWarning> &warnings)
 {
     OpenedFiles result = opened;
+    result.warnings += warnings;
     if (!wall.isEmpty()) {
         const auto withIt = withWall(result, wall, commandLine.measurementOptions());
         if (!withIt) {
@@ -184,16 +187,16 @@ int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances
     return statusOf(assessment.judgement());
 }
 
-//! With \a asks the user is asked what the measurement lists mean, over the window.
+//! With \a change the user is asked what the measurement lists mean, over the window, and the answer is changed so.
 int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine,
-    std::unique_ptr<FollowedInput> input, bool asks)
+    std::unique_ptr<FollowedInput> input, const ViewerWindow::OpenedChange &change)
 {
     installInterfaceTranslations();
     ViewerWindow window;
     if (tolerances) {
         window.session()->setTolerances(tolerances);
     }
-    if (!asks) {
+    if (!change) {
         window.setOpened(opened);
     }
     if (commandLine.hasSize()) {
@@ -203,15 +206,9 @@ int show(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances,
     if (input) {
         window.followMenu()->follow(std::move(input), commandLine.measurementOptions());
     }
-    if (asks) {
+    if (change) {
         QMetaObject::invokeMethod(
-            &window,
-            [&] {
-                window.openWithQuestions(
-                    commandLine.files(), commandLine.measurementOptions(), [&](const OpenedFiles &answered) {
-                        return withRequests(answered, commandLine.wallFile(), commandLine);
-                    });
-            },
+            &window, [&] { window.openWithQuestions(commandLine.files(), commandLine.measurementOptions(), change); },
             Qt::QueuedConnection);
     }
     return QApplication::exec();
@@ -299,14 +296,12 @@ int run(int argc, char *argv[])
     }
     Outcome<OpenedFiles> opened
         = openFiles(isSample ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
-    if (opened) {
-        opened = withRequests(*opened, wall, commandLine);
-    }
     if (!opened) {
         printError(opened.error());
         return WrongInput;
     }
     std::optional<Tolerances> tolerances;
+    QVector<FileWarning> warnings;
     if (!commandLine.tolerancesFile().isEmpty()) {
         const Outcome<Tolerances> read = readTolerancesFile(commandLine.tolerancesFile());
         if (!read) {
@@ -314,6 +309,14 @@ int run(int argc, char *argv[])
             return WrongInput;
         }
         tolerances = *read;
+        for (const Problem &warning : read.warnings()) {
+            warnings.append({commandLine.tolerancesFile(), warning});
+        }
+    }
+    opened = withRequests(*opened, wall, commandLine, warnings);
+    if (!opened) {
+        printError(opened.error());
+        return WrongInput;
     }
     if (commandLine.hasMeasurementOptions() && !opened->hasLists && opened->description.wall.cabinets.empty()
         && !follows) {
@@ -351,7 +354,11 @@ int run(int argc, char *argv[])
             return WrongInput;
         }
     }
-    return show(*opened, tolerances, commandLine, std::move(followed.input), isAsked);
+    const auto change = [&](const OpenedFiles &answered) {
+        return withRequests(answered, commandLine.wallFile(), commandLine, warnings);
+    };
+    return show(*opened, tolerances, commandLine, std::move(followed.input),
+        isAsked ? ViewerWindow::OpenedChange(change) : ViewerWindow::OpenedChange());
 }
 
 } // namespace

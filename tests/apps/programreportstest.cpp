@@ -21,6 +21,7 @@ private Q_SLOTS:
     void checks();
     void checkPrintsTheGroundsOrTheReport();
     void refusesTolerances();
+    void warnsOfTolerances();
     void checkAndReportNeedAFile();
     void reportHasTheWarnings();
     void textReportHasWhatTheReportHas();
@@ -143,6 +144,16 @@ void ProgramReportsTest::refusesTolerances()
         QCOMPARE(result.error, "gamutviewer: " + file.toUtf8() + ": whiteUV: unknown key\n");
     }
     QCOMPARE(run({"--check", "--tolerances", "missing.json", SAMPLE_FILE}).exitCode, 2);
+}
+
+void ProgramReportsTest::warnsOfTolerances()
+{
+    const QString file = write("t.json", R"({"version": 1, "whiteUv": 0.001, "whiteUv": 1})");
+    const QString warning = file + ":1:34: the key \"whiteUv\" is there twice in this object: the last one counts";
+    const Result result = run({"--report", "json", "--tolerances", file, QStringLiteral(SAMPLE_FILE)});
+    QCOMPARE(QString::fromUtf8(result.error), "gamutviewer: " + warning + '\n');
+    QCOMPARE(QJsonDocument::fromJson(result.output).object().value(QLatin1String("warnings")).toArray(),
+        QJsonArray{warning});
 }
 
 void ProgramReportsTest::checkAndReportNeedAFile()

@@ -12,6 +12,7 @@
 #include "panel/layerkey.h"
 #include "panel/sidepanel.h"
 #include "panel/targeteditor.h"
+#include "panel/warningbar.h"
 #include "program/interfacetranslations.h"
 #include "window/comparepage.h"
 #include "window/lens.h"
@@ -30,6 +31,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QtTest>
@@ -347,6 +349,12 @@ void ViewerWindowTest::tolerancesAreChosenAndRemembered()
         const ViewerWindow other;
         QVERIFY(other.session()->tolerances()->limits.whiteUv == 0.004);
     }
+    QVERIFY(!f.window->warnings()->isVisible());
+    QVERIFY(write(R"({"version": 1, "name": "Stage", "whiteUv": 0.001, "whiteUv": 0.004})"));
+    QVERIFY(menu->choose(file));
+    QVERIFY(f.window->warnings()->isVisible());
+    QVERIFY2(f.window->warnings()->list()->toPlainText().startsWith(QLatin1String("t.json:1:51: ")),
+        qPrintable(f.window->warnings()->list()->toPlainText()));
     // What cannot be read leaves what was chosen.
     QVERIFY(write("{}"));
     Answer answer(QMessageBox::Ok);

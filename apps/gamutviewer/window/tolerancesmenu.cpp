@@ -55,6 +55,13 @@ bool TolerancesMenu::read(const QString &fileName)
     }
     m_fileName = QFileInfo(fileName).absoluteFilePath();
     m_session->setTolerances(*tolerances);
+    QVector<FileWarning> warnings;
+    for (const Problem &warning : tolerances.warnings()) {
+        warnings.append({fileName, warning});
+    }
+    if (!warnings.isEmpty()) {
+        Q_EMIT warned(warnings);
+    }
     return true;
 }
 

@@ -3,6 +3,8 @@
 #ifndef GAMUTVIEWER_TOLERANCESMENU_H
 #define GAMUTVIEWER_TOLERANCESMENU_H
 
+#include "editing/openedfiles.h"
+
 #include <QMenu>
 
 namespace gamutviewer {
@@ -29,6 +31,8 @@ public:
 Q_SIGNALS:
     /*! \brief A file cannot be read; \a reason is for people. */
     void refused(const QString &reason);
+    /*! \brief A file was chosen of which the user must know \a warnings. */
+    void warned(const QVector<FileWarning> &warnings);
 
 private:
     void fill();

@@ -269,12 +269,18 @@ void ViewerWindow::addFiles(const QVector<ReadFile> &files)
 {
     const OpenedFiles opened = openedWith(m_document.description(), files);
     m_document.change(opened.description, stepName(opened.fileNames));
-    print(opened.warnings);
-    m_warnings->addWarnings(shortMessages(opened.warnings));
+    addWarnings(opened.warnings);
     m_panel->addFileNotes(opened.notes);
     for (int i = opened.fileNames.size() - 1; i >= 0; --i) {
         RecentFiles::add(opened.fileNames.at(i));
     }
+}
+
+//! Warnings of a file that is used besides those that were opened.
+void ViewerWindow::addWarnings(const QVector<FileWarning> &warnings)
+{
+    print(warnings);
+    m_warnings->addWarnings(shortMessages(warnings));
 }
 
 QString ViewerWindow::proposedPath(const QString &suffix) const

@@ -129,6 +129,7 @@ void ViewerWindow::buildViewMenu()
     menu->addSeparator();
     m_tolerancesMenu = new TolerancesMenu(m_session, this);
     connect(m_tolerancesMenu, &TolerancesMenu::refused, this, &ViewerWindow::warn);
+    connect(m_tolerancesMenu, &TolerancesMenu::warned, this, &ViewerWindow::addWarnings);
     menu->addMenu(m_tolerancesMenu);
 }
 

@@ -160,6 +160,7 @@ private:
     void setReadout(const QString &text);
     void followPage();
     void warn(const QString &text);
+    void addWarnings(const QVector<FileWarning> &warnings);
     /*! \brief Makes the panel as wide as what it shows, until the user has chosen its width. */
     void fitPanel();
     void restoreSettings();
