@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "givenfiles.h"
 
+#include "panel/sidepanel.h"
 #include "panel/warningbar.h"
 #include "program/interfacetranslations.h"
 #include "window/listdialog.h"
@@ -9,6 +10,8 @@
 
 #include <ceiechart/widgets/ceiegraphicsview.h>
 
+#include <QMenu>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QtTest>
 
@@ -28,6 +31,7 @@ private Q_SLOTS:
     void canceledListIsNotOpened();
     void listIsAskedAboutAtTheStart();
     void canceledListIsNotOpenedAtTheStart();
+    void listIsReadAgain();
 };
 
 namespace {
@@ -212,6 +216,65 @@ void ListDialogTest::canceledListIsNotOpenedAtTheStart()
     });
     QCOMPARE(ok.text(), QStringLiteral("--target: there is no such gamut"));
     QVERIFY(isEmpty(f.document().description()));
+}
+
+void ListDialogTest::listIsReadAgain()
+{
+    WindowFixture f;
+    QVERIFY(f.window->closeDocument());
+    const auto menu = [&f] {
+        QMenu *lists = nullptr;
+        QMenu *file = f.window->menuBar()->actions().first()->menu();
+        Q_EMIT file->aboutToShow();
+        for (const QAction *action : file->actions()) {
+            lists = action->text() == QLatin1String("Read &list again") ? action->menu() : lists;
+        }
+        Q_EMIT lists->aboutToShow();
+        return lists;
+    };
+    QVERIFY(!menu()->menuAction()->isEnabled());
+    // It has no colours that are recognised and no unit, which needs no choice.
+    QVERIFY(f.window->openPath(writeFile(f.settings, QStringLiteral("meter.csv"),
+        "name,Y,x,y\nP1,190,0.69,0.30\nP2,600,0.2,0.7\nP3,120,0.14,0.08\nP4,900,0.28,0.3\nP5,100,0.28,0.3\n")));
+    QCOMPARE(parts(f), (QStringList{"", "", "", ""}));
+    QCOMPARE(f.document().description().measurePoints.size(), 5);
+    QCOMPARE(f.window->warnings()->warnings().size(), 2);
+    QVERIFY(menu()->menuAction()->isEnabled());
+    QCOMPARE(menu()->actions().size(), 1);
+    QCOMPARE(menu()->actions().first()->text(), QString::fromUtf8("meter.csv…"));
+    {
+        const ListAnswer cancel([](ListDialog *dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+        menu()->actions().first()->trigger();
+        QVERIFY(cancel.isAsked());
+        QVERIFY(!f.window->isWindowModified());
+        QCOMPARE(f.window->warnings()->warnings().size(), 2);
+    }
+    const ListAnswer answer([](ListDialog *dialog) {
+        QTest::keyClick(dialog->unit(), Qt::Key_Down);
+        for (const Vertex vertex : allVertices) {
+            QTest::keyClick(dialog->choice(vertex), Qt::Key_Down);
+            const QString line = QStringLiteral("line %1:").arg(2 + int(vertex));
+            while (!dialog->choice(vertex)->currentText().startsWith(line)) {
+                QTest::keyClick(dialog->choice(vertex), Qt::Key_Down);
+            }
+        }
+        QTest::mouseClick(dialog->useButton(), Qt::LeftButton);
+    });
+    const FilesAnswer add(FilesAnswer::Add);
+    menu()->actions().first()->trigger();
+    QVERIFY(answer.isAsked() && add.isAsked());
+    QCOMPARE(parts(f), (QStringList{"", "meter", "", ""}));
+    const auto measured = f.document().description().gamut(QStringLiteral("meter"));
+    QCOMPARE(measured->getTargets().white.Y, 900.0);
+    QVERIFY(measured->unit == LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(f.document().description().measurePoints.size(), 1);
+    // What was said of the first reading is gone.
+    QCOMPARE(f.window->warnings()->warnings(), QStringList());
+    QCOMPARE(menu()->actions().size(), 1);
+    QCOMPARE(f.window->panel()->fileNotes().lists.size(), 1);
+    QCOMPARE(f.window->panel()->fileNotes().lists.first().recognized.parts.size(), 4);
+    f.document().history()->undo();
+    QCOMPARE(f.document().description().measurePoints.size(), 5);
 }
 
 QTEST_MAIN(ListDialogTest)

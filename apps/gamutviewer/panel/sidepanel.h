@@ -35,6 +35,7 @@ public:
     QPlainTextEdit *files() const { return m_files; }
     /*! \brief Shows \a notes instead of those before. */
     void setFileNotes(const FileNotes &notes);
+    const FileNotes &fileNotes() const { return m_notes; }
     /*! \brief Shows \a notes below those before. */
     void addFileNotes(const FileNotes &notes);
 

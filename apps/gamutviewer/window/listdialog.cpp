@@ -82,7 +82,9 @@ ListDialog::ListDialog(const QString &fileName, const MeasurementOptions &option
     question->setTextFormat(Qt::PlainText);
     question->setWordWrap(true);
     question->setText(
-        tr("%1 does not say all of what it means. What is known of it?").arg(oneLine(QFileInfo(fileName).fileName())));
+        (m_read && !needsChoice(*m_read) ? tr("How is %1 to be read?")
+                                         : tr("%1 does not say all of what it means. What is known of it?"))
+            .arg(oneLine(QFileInfo(fileName).fileName())));
     layout->addWidget(question);
     auto *form = new QFormLayout;
     layout->addLayout(form);

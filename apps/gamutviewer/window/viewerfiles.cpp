@@ -25,6 +25,7 @@
 #include <QTabWidget>
 
 #include <algorithm>
+#include <iterator>
 
 namespace gamutviewer {
 
@@ -221,6 +222,50 @@ bool ViewerWindow::openWall(const QString &fileName)
         return false;
     }
     return openRead({*wall}, Manner::Open);
+}
+
+QStringList ViewerWindow::listsToReadAgain() const
+{
+    QStringList files;
+    for (const FileRecognition &list : m_panel->fileNotes().lists) {
+        if (ListDialog::canReadAgain(list.fileName) && !files.contains(list.fileName)) {
+            files.append(list.fileName);
+        }
+    }
+    return files;
+}
+
+bool ViewerWindow::readAgain(const QString &fileName)
+{
+    m_panel->editor()->takeTyped();
+    ListDialog dialog(fileName, {}, this);
+    if (dialog.exec() != QDialog::Accepted || !dialog.read()) {
+        return false;
+    }
+    ReadFile file{fileName, *dialog.read(), dialog.read().warnings(), usualRole(*dialog.read()), std::nullopt};
+    if (dialog.isWall()) {
+        if (const auto wall = asWall(file)) {
+            file = *wall;
+        }
+    }
+    const QStringList warningsBefore = m_warnings->warnings();
+    if (!openByQuestion({file}, Manner::Add)) {
+        return false;
+    }
+    // What was said of the other reading holds no longer.
+    const auto isOfList = [&fileName](const FileRecognition &list) { return list.fileName == fileName; };
+    FileNotes notes = m_panel->fileNotes();
+    if (std::count_if(notes.lists.begin(), notes.lists.end(), isOfList) > 1) {
+        notes.lists.erase(std::find_if(notes.lists.begin(), notes.lists.end(), isOfList));
+        m_panel->setFileNotes(notes);
+    }
+    const QString start = QFileInfo(fileName).fileName() + QLatin1Char(':');
+    QStringList warnings;
+    std::copy_if(warningsBefore.begin(), warningsBefore.end(), std::back_inserter(warnings),
+        [&start](const QString &warning) { return !warning.startsWith(start); });
+    m_warnings->setWarnings(warnings + m_warnings->warnings().mid(warningsBefore.size()));
+    showWallOf({file});
+    return true;
 }
 
 bool ViewerWindow::openRead(const QVector<ReadFile> &files, Manner manner)

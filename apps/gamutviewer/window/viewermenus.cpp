@@ -63,6 +63,10 @@ void ViewerWindow::buildFileMenu()
     QMenu *samples = menu->addMenu(tr("Open sam&ple"));
     samples->addAction(tr("The &gamuts of an LED wall"), this, [this] { openPath(sampleFile()); });
     samples->addAction(tr("The &cabinets of a simulated wall"), this, [this] { openWall(sampleWallFile()); });
+    m_listMenu = menu->addMenu(tr("Read &list again"));
+    connect(m_listMenu, &QMenu::aboutToShow, this, &ViewerWindow::fillListMenu);
+    connect(menu, &QMenu::aboutToShow, this,
+        [this] { m_listMenu->menuAction()->setEnabled(!listsToReadAgain().isEmpty()); });
     m_followMenu = new FollowMenu(&m_document, this);
     menu->addMenu(m_followMenu);
     menu->addSeparator();
@@ -187,6 +191,17 @@ void ViewerWindow::exportByDialog()
     dialog.selectFile(proposed.fileName());
     if (dialog.exec() == QDialog::Accepted) {
         exportTo(dialog.selectedFiles().constFirst(), picture.picture(), picture.extent());
+    }
+}
+
+void ViewerWindow::fillListMenu()
+{
+    m_listMenu->clear();
+    m_listMenu->setToolTipsVisible(true);
+    for (const QString &file : listsToReadAgain()) {
+        QAction *action = m_listMenu->addAction(menuText(oneLine(QFileInfo(file).fileName())) + QStringLiteral("…"),
+            this, [this, file] { readAgain(file); });
+        action->setToolTip(plainToolTip(oneLine(file)));
     }
 }
 

@@ -83,6 +83,11 @@ public:
      * the page of walls.
      */
     bool openWall(const QString &fileName);
+    /*!
+     * \brief Asks what the measurement list \a fileName, which has been opened, means, and what becomes of it then;
+     * false if the user cancels.
+     */
+    bool readAgain(const QString &fileName);
     /*! \brief An empty description instead of what is open; false when the user would lose changes by it. */
     bool closeDocument();
     /*! \brief Shows the list of gamuts, which stays open beside the window. */
@@ -148,6 +153,8 @@ private:
     void exportByDialog();
     void exportCorrectionsByDialog();
     void fillRecentMenu();
+    void fillListMenu();
+    QStringList listsToReadAgain() const;
     void undo();
     void redo();
     void about();
@@ -182,6 +189,7 @@ private:
     HintLabel *m_hints;
     WarningBar *m_warnings;
     QMenu *m_recentMenu;
+    QMenu *m_listMenu;
     TolerancesMenu *m_tolerancesMenu;
     FollowMenu *m_followMenu;
     QAction *m_undo;
