@@ -32,6 +32,7 @@ private Q_SLOTS:
     void listIsAskedAboutAtTheStart();
     void canceledListIsNotOpenedAtTheStart();
     void listIsReadAgain();
+    void namelessLinesAreToldApart();
 };
 
 namespace {
@@ -275,6 +276,15 @@ void ListDialogTest::listIsReadAgain()
     QCOMPARE(f.window->panel()->fileNotes().lists.first().recognized.parts.size(), 4);
     f.document().history()->undo();
     QCOMPARE(f.document().description().measurePoints.size(), 5);
+}
+
+void ListDialogTest::namelessLinesAreToldApart()
+{
+    WindowFixture f;
+    const ListDialog dialog(
+        writeFile(f.settings, QStringLiteral("meter.csv"), "Lv,x,y\n190,0.69,0.30\n600,0.2,0.70004\n"), {});
+    QCOMPARE(dialog.choice(Vertex::Red)->itemText(1), QStringLiteral("line 2: x 0.6900, y 0.3000"));
+    QCOMPARE(dialog.choice(Vertex::Red)->itemText(2), QStringLiteral("line 3: x 0.2000, y 0.7000"));
 }
 
 QTEST_MAIN(ListDialogTest)

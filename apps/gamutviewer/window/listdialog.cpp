@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "window/listdialog.h"
 
+#include "display/valuetexts.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileInfo>
@@ -38,6 +40,14 @@ MeasurementChoice &choiceOf(MeasurementOptions &options, Vertex vertex)
         break;
     }
     return options.white;
+}
+
+//! What tells \a measurement, which has a chromaticity, from others.
+QString nameOf(const Measurement &measurement)
+{
+    return measurement.name.isEmpty()
+        ? QStringLiteral("x %1, y %2").arg(fixedText(measurement.color->x, 4), fixedText(measurement.color->y, 4))
+        : oneLine(measurement.name);
 }
 
 } // namespace
@@ -186,8 +196,7 @@ void ListDialog::fillChoices()
         if (m_read) {
             for (const Measurement &measurement : m_read->measurements.measurements) {
                 if (measurement.color) {
-                    box->addItem(
-                        tr("line %1: %2").arg(measurement.line).arg(oneLine(measurement.name)), measurement.line);
+                    box->addItem(tr("line %1: %2").arg(measurement.line).arg(nameOf(measurement)), measurement.line);
                 }
             }
         }
