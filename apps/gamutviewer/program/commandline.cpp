@@ -79,7 +79,7 @@ CommandLine::CommandLine(const QStringList &arguments)
             .arg(greatestRatio),
         tr("ratio"));
     const QCommandLineOption diagram(QStringLiteral("diagram"),
-        tr("What the picture shows: the diagram xy (the default), uv (CIE 1976 u', v') uv1960, wall, "
+        tr("What the picture shows: the diagram xy (the default), uv (CIE 1976 u', v'), uv1960 (CIE 1960 u, v), wall, "
            "the map of the wall, or chart, the library's own chart, as PNG. Requires --render."),
         tr("diagram"));
     const QCommandLineOption part(QStringLiteral("view"),
@@ -149,8 +149,8 @@ CommandLine::CommandLine(const QStringList &arguments)
         "Each error is one line on standard error."));
     m_parser.addPositionalArgument(tr("file"),
         tr("Display description (JSON), measurement list (CSV), ICC profile or EDID: at most one description and any "
-           "number of the others, which are added to it. Without files, a sample is opened, unless a measurement is "
-           "followed."),
+           "number of the others, which are added to it. Without files, a sample is opened, unless there is --wall or "
+           "--follow."),
         tr("[file...]"));
     m_parser.addOptions({render, diagram, part, layers, size, ratio, report, check, wall, target, fit, corrections,
         tolerances, follow, red, green, blue, white, cabinet, unit, decimal, help, version});
