@@ -112,6 +112,11 @@ void TablesTest::dominantWavelengthsAreShown()
     QCOMPARE(hues->item(4, 1)->text(), QString::fromUtf8("–"));
     Q_EMIT f.window->diagramPage()->view()->hovered(QPointF(0.265, 0.69));
     QVERIFY(f.window->readout()->text().contains(hues->item(2, 1)->text()));
+    // The white of the default target is not one that anybody has chosen.
+    QVERIFY(f.window->closeDocument());
+    Q_EMIT f.window->diagramPage()->view()->hovered(QPointF(0.265, 0.69));
+    QVERIFY(f.window->readout()->text().startsWith(QLatin1String("x 0.2650")));
+    QVERIFY(!f.window->readout()->text().contains(QStringLiteral("\u03BB")));
 }
 
 void TablesTest::undefinedTemperatureIsTold()

@@ -188,7 +188,9 @@ void ViewerWindow::showReadout(const QPointF &xy, int decimals)
     if (const auto white = ceiechart::colorTemperature(xy)) {
         text += tr("   %1  Duv %2", "with the temperature").arg(temperatureText(*white), duvText(*white));
     }
-    if (const auto target = m_document.target()) {
+    // Of a default nobody has said that its white is the reference.
+    const DisplayDescription &description = m_document.description();
+    if (const auto target = description.gamut(description.target)) {
         const Model::Target &white = target->getTargets().white;
         if (const auto hue = Model::dominantWavelength({xy.x(), xy.y()}, {white.x, white.y})) {
             text += tr("   λ %1 nm  p %2", "dominant wavelength and purity, for the white of the target")
