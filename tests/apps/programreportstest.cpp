@@ -258,6 +258,7 @@ void ProgramReportsTest::listsThatNeedAChoice()
     const Result fits = check(700.0);
     QCOMPARE(fits.exitCode, needsChoice ? 5 : 0);
     QVERIFY2(fits.output.startsWith(needsChoice ? "not known: " : "pass: "), fits.output.constData());
+    QCOMPARE(fits.output.contains("not all that it says of the display can be judged"), needsChoice);
     const Result isTooBright = check(5000.0);
     QCOMPARE(isTooBright.exitCode, needsChoice ? 5 : 3);
     QVERIFY2(isTooBright.output.startsWith("fail: "), isTooBright.output.constData());

@@ -110,8 +110,9 @@ Assessment assess(const DisplayDescription &description, const std::optional<Tol
     Assessment result;
     if (needsChoice) {
         result.lines.append({AssessmentLine::Subject::Display, Judgement::NotKnown,
-            AssessmentText::tr("A measurement list needs a choice: what it says of the display is not judged. Make the "
-                               "choice that the warnings ask for."),
+            AssessmentText::tr(
+                "A measurement list needs a choice: not all that it says of the display can be judged. Make the "
+                "choice that the warnings ask for."),
             std::nullopt, QString(), std::nullopt});
     }
     assessDisplays(description, result);
