@@ -252,6 +252,11 @@ void LuminanceAssessmentTest::whiteThatIsNotTheSum()
     QVERIFY2(line.judgement == judgement, qPrintable(line.text));
     QCOMPARE(a.displays.front().drive.has_value(), isDriveKnown);
     QCOMPARE(a.displays.front().largestWhite.has_value(), isDriveKnown);
+    if (isDriveKnown) { // here the white is what limits the target
+        const double headroom = *a.displays.front().drive->headroom;
+        const double largest = a.displays.front().largestWhite->luminance;
+        QVERIFY2(std::fabs(headroom * target - largest) < largest * 1e-9, qPrintable(QString::number(headroom)));
+    }
     if (white == 0.0) {
         QCOMPARE(
             line.text, QStringLiteral("What luminance the original reaches is not known: its white has no luminance."));

@@ -216,6 +216,10 @@ private:
         for (double *of : {&drive->white.red, &drive->white.green, &drive->white.blue}) {
             *of /= share;
         }
+        // A primary on its own is not as dark as the white of all.
+        const double brightest = std::max({highest(drive->red), highest(drive->green), highest(drive->blue)});
+        const double ofWhite = largest->luminance / white.Y;
+        drive->headroom = brightest > 0.0 ? std::min(ofWhite, 1.0 / brightest) : ofWhite;
         m_current->drive = drive;
         judgeWhiteLuminance(drive->white, largest->luminance);
         judgePrimaryLuminances(*drive);
