@@ -50,6 +50,14 @@ int main(int argc, char **argv)
     QWidget window;
     Ui::Charts form;
     form.setupUi(&window);
+    check(form.chart->imageSize() == QSize(300, 320) && !form.chart->isShowStandard() && form.chart->isGamutsKept()
+            && form.chart->graphLineColor() == QColor(10, 20, 30) && form.chart->legendAlignament() == Qt::AlignRight
+            && !form.chart->isRGBPointEnable(),
+        "current chart as the form has it");
+    check(form.xyChart->toImage().size() == QSize(200, 210) && form.xyChart->isLightPicture(),
+        "legacy chart as the form has it");
+    check(form.legend->showTargetText() == QLatin1String("As set") && !form.legend->isCommonGamutVisible(),
+        "legend as the form has it");
     form.chart->setImageWidth(672);
     form.chart->setImageHeight(728);
     form.chart->setColorGamut(Model::dciP3D65(), Model::rec2020(), {Model::rec709()});

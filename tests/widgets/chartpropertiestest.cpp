@@ -282,7 +282,9 @@ void ChartPropertiesTest::styleSheet()
     chart->setStyleSheet(QLatin1String(current ? "NewCEIE--CEIEGraphicsView" : "CEIEGraphicsView")
         + QStringLiteral("{ qproperty-imageSize: 240px 250px; qproperty-isDrawCoordinate: false;"
                          " qproperty-graphLineColor: #102030; qproperty-lightPicture: true;"
-                         " qproperty-legendAlignament: AlignRight }"));
+                         " qproperty-legendAlignament: AlignRight } ")
+        + QLatin1String(current ? "NewCEIE--CEIELegend" : "CEIELegend")
+        + QStringLiteral("{ qproperty-commonGamutVisible: false; qproperty-showTargetText: \"as set\" }"));
     chart->show();
     settle();
     auto *frame = dynamic_cast<ceiechart::ChartFrame *>(chart.get());
@@ -292,6 +294,14 @@ void ChartPropertiesTest::styleSheet()
     QVERIFY(frame->isLightPicture());
     QCOMPARE(frame->legendAlignament(), Qt::Alignment(Qt::AlignRight));
     QCOMPARE(frame->toImage().size(), QSize(240, 250));
+    const ceiechart::ChartLegend *legend = nullptr;
+    if (current) {
+        legend = static_cast<Current &>(*chart).getLegend();
+    } else {
+        legend = static_cast<Legacy &>(*chart).getLegend();
+    }
+    QVERIFY(!legend->isCommonGamutVisible() && legend->isTargetGamutVisible());
+    QCOMPARE(legend->showTargetText(), QStringLiteral("as set"));
 }
 
 QTEST_MAIN(ChartPropertiesTest)
