@@ -25,12 +25,14 @@ namespace NewCEIE {
  * that target and original have in common, and relays the signals of the scene.
  *
  * \code
- * auto *chart = new NewCEIE::CEIEGraphicsView(true, Qt::AlignRight, this);
+ * auto *chart = new NewCEIE::CEIEGraphicsView(this);
  * chart->setImageWidth(600);
  * chart->setImageHeight(600);
  * chart->setColorGamut(target, original, {Model::rec709(), Model::rec2020()});
- * connect(chart, &NewCEIE::CEIEGraphicsView::signal_targetInfoChanged, this, &Window::showTarget);
  * \endcode
+ *
+ * The user edits nothing on this chart, so it emits none of its signals by itself. A host edits the target in another
+ * way, and passes each new target to setColorGamut().
  *
  * A new size or layer switch renders the bare diagram; the next updateLanGamut(), setColorGamut() or resize draws the
  * gamuts again. Therefore set the size first and the gamuts last, or call setGamutsKept().
