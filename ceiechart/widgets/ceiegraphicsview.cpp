@@ -84,6 +84,20 @@ void CEIEGraphicsView::Private::colorMessage()
     mixInfoHalo->setColor(ground);
 }
 
+void CEIEGraphicsView::Private::sizeChanged()
+{
+    // Otherwise the picture has no message any more, and the label stays where it is until the next updateLanGamut().
+    const CEIEGraphicsScene *chartScene = typedScene();
+    if (chartScene && chartScene->isGamutsKept()) {
+        placeMessage();
+    }
+}
+
+void CEIEGraphicsView::Private::placeMessage()
+{
+    mixInfoLabel->move(centred(imageWidth, mixInfoLabel->width()), centred(imageHeight, mixInfoLabel->height()));
+}
+
 CEIEGraphicsView::CEIEGraphicsView(QWidget *parent)
     : ChartFrame(std::make_unique<Private>(), parent)
 {
@@ -324,7 +338,7 @@ void CEIEGraphicsView::updateMixInfo(const QString &text)
     label->setVisible(!text.isEmpty());
     label->setText(text);
     own().colorMessage();
-    label->move(centred(imageWidth(), label->width()), centred(imageHeight(), label->height()));
+    own().placeMessage();
 }
 
 QPolygonF CEIEGraphicsView::getTargetOrgIntersected(const TrianglePoint &a, const TrianglePoint &b)

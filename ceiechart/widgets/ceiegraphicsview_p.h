@@ -27,6 +27,9 @@ public:
     void addTarget(const Model::ColorGamut &target, const TrianglePoint &triangle, bool besideMeasured);
 
     void groundChanged() override { colorMessage(); }
+    void sizeChanged() override;
+    /*! \brief Puts the message into the middle of the picture. */
+    void placeMessage();
     /*!
      * \brief Gives the message a colour that is legible over the picture, also where the picture has numbers and discs.
      * The text color of a style sheet of the host prevails.

@@ -186,6 +186,7 @@ void ChartFrame::setImageWidth(int width)
     d->imageWidth = width;
     d->view->setFixedWidth(viewExtent(width));
     d->tell(&TargetScene::setImageWidth, width);
+    d->sizeChanged();
 }
 
 void ChartFrame::setImageHeight(int height)
@@ -193,6 +194,7 @@ void ChartFrame::setImageHeight(int height)
     d->imageHeight = height;
     d->view->setFixedHeight(viewExtent(height));
     d->tell(&TargetScene::setImageHeight, height);
+    d->sizeChanged();
 }
 
 int ChartFrame::imageWidth() const
@@ -304,6 +306,7 @@ void ChartFrame::setImageSize(const QSize &size)
     d->imageHeight = size.height();
     d->view->setFixedSize(viewExtent(size.width()), viewExtent(size.height()));
     d->tell(&TargetScene::setImageSize, size);
+    d->sizeChanged();
 }
 
 void ChartFrame::setGraphLineColor(const QColor &color)

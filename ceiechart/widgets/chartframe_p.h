@@ -35,6 +35,8 @@ public:
 
     /*! \brief The ground of the picture has changed. */
     virtual void groundChanged() { }
+    /*! \brief The size of the picture has been set. */
+    virtual void sizeChanged() { }
 
     /*! \brief Switches the light ground as setLightPicture() and, if it is followed, the palette of \a frame demand. */
     void applyGround(const QFrame &frame);

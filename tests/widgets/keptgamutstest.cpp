@@ -102,7 +102,16 @@ void KeptGamutsTest::messageStays()
     setGamuts(*other);
     other->updateLanGamut(true, QStringLiteral("no data"));
     COMPARE_IMAGES(chart->toImage(), other->toImage());
-    QVERIFY(!chart->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly)->isHidden());
+    const auto messageOf
+        = [](const Current &of) { return of.findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly); };
+    QVERIFY(!messageOf(*chart)->isHidden());
+    // In the middle of the new picture.
+    QCOMPARE(messageOf(*chart)->pos(), messageOf(*other)->pos());
+    chart->setImageWidth(500);
+    chart->setImageHeight(420);
+    other->setImageSize(QSize(500, 420));
+    other->updateLanGamut(true, QStringLiteral("no data"));
+    QCOMPARE(messageOf(*chart)->pos(), messageOf(*other)->pos());
 }
 
 void KeptGamutsTest::cmyPointsMoveWithTheSize()
