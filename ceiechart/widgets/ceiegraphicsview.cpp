@@ -6,6 +6,7 @@
 #include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/gamutstyle.h>
 #include <ceiechart/model/gamutrecords.h>
+#include <ceiechart/widgets/texthalo_p.h>
 
 #include <QLabel>
 
@@ -81,7 +82,10 @@ void CEIEGraphicsView::Private::colorMessage()
     QPalette palette = mixInfoLabel->palette();
     palette.setColor(QPalette::WindowText, ceiechart::textColorOn(ground));
     mixInfoLabel->setPalette(palette);
-    mixInfoHalo->setColor(ground);
+    // A host can have given the label another effect.
+    if (auto *halo = dynamic_cast<ceiechart::TextHalo *>(mixInfoLabel->graphicsEffect())) {
+        halo->setColor(ground);
+    }
 }
 
 void CEIEGraphicsView::Private::sizeChanged()
@@ -317,7 +321,7 @@ void CEIEGraphicsView::buildUI(bool showPoints, QFlags<Qt::AlignmentFlag> alignm
     label->setFixedWidth(200);
     label->setFixedHeight(400);
     label->setWordWrap(true);
-    label->setGraphicsEffect(own().mixInfoHalo = new ceiechart::TextHalo(label));
+    label->setGraphicsEffect(new ceiechart::TextHalo(label));
     label->hide();
 
     setLegendAlignamentCommon(alignment);

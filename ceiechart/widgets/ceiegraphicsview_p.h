@@ -7,7 +7,6 @@
 #include <ceiechart/scene/ceiegraphicsscene.h>
 #include <ceiechart/widgets/ceiegraphicsview.h>
 #include <ceiechart/widgets/chartframe_p.h>
-#include <ceiechart/widgets/texthalo_p.h>
 
 class QLabel;
 
@@ -40,7 +39,6 @@ public:
     TrianglePoint targetTriangle;
     TrianglePoint originalTriangle;
     QLabel *mixInfoLabel = nullptr;
-    ceiechart::TextHalo *mixInfoHalo = nullptr;
     bool showStandard = true;
     bool showTarget = true;
     bool showOriginal = true;

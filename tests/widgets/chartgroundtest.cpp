@@ -4,6 +4,7 @@
 #include <reference/picturedifference.h>
 
 #include <QApplication>
+#include <QGraphicsDropShadowEffect>
 #include <QLabel>
 #include <QPalette>
 #include <QTest>
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void messageIsLegible();
     void messageIsLegibleOverDiscs_data();
     void messageIsLegibleOverDiscs();
+    void messageWithAnotherEffect();
     void messageInTheColorOfAStyleSheet();
     void lightPictureIsLegible_data();
     void lightPictureIsLegible();
@@ -174,6 +176,22 @@ void ChartGroundTest::messageIsLegibleOverDiscs()
     QVERIFY(contrast(without.pixel(without.width() / 2, without.height() / 2), ink) < 1.3);
     const QImage picture = chart->grab().toImage().convertToFormat(QImage::Format_RGB32);
     QVERIFY(greatestContrast(picture, disc, ink) >= 4.5);
+}
+
+// A host finds the label among the children of the chart.
+void ChartGroundTest::messageWithAnotherEffect()
+{
+    const auto chart = currentChart();
+    chart->setImageSize(QSize(300, 300));
+    chart->show();
+    chart->updateLanGamut(true, QStringLiteral("No measurement yet"));
+    for (QGraphicsEffect *effect : std::initializer_list<QGraphicsEffect *>{new QGraphicsDropShadowEffect, nullptr}) {
+        messageOf(*chart)->setGraphicsEffect(effect);
+        chart->setLightPicture(effect != nullptr);
+        chart->updateLanGamut(true, QStringLiteral("Still none"));
+        QVERIFY(!chart->grab().isNull());
+        QCOMPARE(messageOf(*chart)->graphicsEffect(), effect);
+    }
 }
 
 void ChartGroundTest::messageInTheColorOfAStyleSheet()
