@@ -25,6 +25,7 @@
  * auto *chart = new CEIEGraphicsView(this, DrawCEIPicture::XyDiagram);
  * chart->setImageWidth(600);
  * chart->setImageHeight(600);
+ * chart->setDrawColorTPoint(false); // otherwise each paint resets the white point of the target
  * chart->setColorGamut(target, original);
  * connect(chart, &CEIEGraphicsView::signal_targetInfoChanged, this, &Window::showTarget);
  * \endcode
