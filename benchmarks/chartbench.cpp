@@ -230,7 +230,7 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    for (const QSize &size : {QSize(800, 800), QSize(3840, 2160)}) {
+    for (const QSize &size : {QSize(800, 800), QSize(1920, 1080), QSize(3840, 2160)}) {
         const std::string dimensions = std::to_string(size.width()) + "x" + std::to_string(size.height());
         add("fill " + dimensions + "/plain", plainFill, size);
         for (int i = 0; i < ceiechart::fillKernelCount; ++i) {

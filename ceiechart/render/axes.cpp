@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/arithmetic_p.h>
 #include <ceiechart/diagram/pens_p.h>
+#include <ceiechart/render/dashedlines_p.h>
 #include <ceiechart/render/diagramrenderer_p.h>
 
 #include <QFontMetrics>
@@ -44,7 +45,7 @@ public:
         pen.setStyle(m_style.gridStyle);
         m_painter.setPen(pen);
         m_painter.setBrush(QBrush(m_color));
-        m_painter.drawLine(from, to);
+        m_gridLines.draw(m_painter, from, to);
         m_painter.restore();
     }
 
@@ -107,6 +108,7 @@ private:
     }
 
     QPainter &m_painter;
+    DashedLines m_gridLines;
     const AxesStyle &m_style;
     QColor m_color;
     QFontMetrics m_metrics;

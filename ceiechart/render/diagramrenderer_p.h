@@ -10,6 +10,7 @@
 #include <QColor>
 #include <QFont>
 #include <QLineF>
+#include <QVector>
 
 class QImage;
 class QPolygonF;
@@ -113,6 +114,7 @@ public:
     };
     mutable Drawn lastDrawn;
 
+    QVector<QLineF> *edgeSegments = nullptr; //!< collects the segments of the locus edge, which are drawn together
     RowLayers *layers = nullptr; //!< collects the layers that a drawing draws together, while it does so
 
     QList<QPointF> colorTemperaturePoints;

@@ -28,14 +28,14 @@ int inSubpixels(double coordinate)
     return qRound(coordinate * steps) * (subpixels / steps);
 }
 
-int pixelOf(int position)
-{
-    return position >= 0 ? position / subpixels : -1 - (-1 - position) / subpixels;
-}
-
 int withinPixel(int position)
 {
-    return position - pixelOf(position) * subpixels;
+    return int(unsigned(position) % subpixels); // 2^32 is a multiple of it
+}
+
+int pixelOf(int position)
+{
+    return (position - withinPixel(position)) / subpixels;
 }
 
 /*! \brief The places where a line crosses the boundaries of pixels, one after another, rounded down. */
@@ -98,6 +98,7 @@ EngineCoverage::EngineCoverage(const QPainterPath &path, const QSize &size)
             return;
         }
     }
+    m_found.reserve(std::size_t(m_size.height()) * 8); // an outline passes most rows four times, often in two columns
     QPoint begin;
     QPoint last;
     for (int i = 0; i < path.elementCount(); ++i) {
@@ -213,12 +214,13 @@ void EngineCoverage::sortCells()
 int EngineCoverage::coverage(int area) const
 {
     // Divided by 512 and rounded down, also where it is negative.
-    int share = area >= 0 ? area / (2 * subpixels) : (2 * subpixels - 1 - area) / (2 * subpixels);
+    constexpr unsigned whole = 2 * subpixels;
+    unsigned share = (area >= 0 ? unsigned(area) : whole - 1 - unsigned(area)) / whole;
     if (m_oddEven) {
-        share %= 2 * subpixels;
-        share = share > subpixels ? 2 * subpixels - share : share;
+        share %= whole;
+        share = share > subpixels ? whole - share : share;
     }
-    return std::min(share, 255);
+    return int(std::min(share, 255U));
 }
 
 void EngineCoverage::row(int y, std::vector<CoveredSpan> &spans) const

@@ -4,6 +4,7 @@
 #include <ceiechart/render/diagramrenderer_p.h>
 
 #include <QPainter>
+#include <QVector>
 
 namespace ceiechart {
 
@@ -18,6 +19,9 @@ constexpr double edgeWidth = 2.0; //!< in pixels
 
 void DiagramRenderer::paintCEIEdge(QPainter &painter)
 {
+    QVector<QLineF> segments;
+    segments.reserve(d->locus.size());
+    d->edgeSegments = &segments;
     for (const CEIAtlasValue::CEIAtlasCoordinate &row : qAsConst(d->locus)) {
         if (row.waveLength == firstWavelength) {
             GetPointF(row);
@@ -27,22 +31,28 @@ void DiagramRenderer::paintCEIEdge(QPainter &painter)
             d->pendingLine.setP1(DrawPointFToLine(painter, row, d->pendingLine.p1()));
         }
     }
+    d->edgeSegments = nullptr;
 
     // The pending line now leads from the red end to the violet end: the line of purples.
+    segments.append(d->pendingLine);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(solidPen(d->drawnLineColor(), edgeWidth));
-    painter.drawLine(d->pendingLine);
+    painter.drawLines(segments);
     painter.restore();
 }
 
 QPointF DiagramRenderer::DrawPointFToLine(
     QPainter &painter, const CEIAtlasValue::CEIAtlasCoordinate &row, const QPointF &previous)
 {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, true);
     GetPointF(row);
     const QPointF point = CoordinateTransformation();
+    if (d->edgeSegments != nullptr) {
+        d->edgeSegments->append(QLineF(previous, point));
+        return point;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setPen(solidPen(d->drawnLineColor(), edgeWidth));
     painter.drawLine(previous, point);
     painter.restore();
