@@ -123,6 +123,15 @@ void gamutForm(benchmark::State &state, QSize size)
     }
 }
 
+/*! \brief The limit of all forms: a new picture in one colour, as they return one. */
+void newPicture(benchmark::State &state, QSize size)
+{
+    for (auto _ : state) {
+        const QImage picture = blank(size);
+        benchmark::DoNotOptimize(picture.constBits());
+    }
+}
+
 void plainUvPicture(benchmark::State &state, QSize size)
 {
     // The definition fills the whole picture pixel by pixel and draws it inside the locus.
@@ -241,6 +250,7 @@ int main(int argc, char **argv)
         }
         add("gamut form " + dimensions + "/plain", plainGamutForm, size);
         add("gamut form " + dimensions + "/library", gamutForm, size);
+        add("gamut form " + dimensions + "/new picture", newPicture, size);
     }
     const QSize fullHd(1920, 1080);
     add("u'v' picture 1920x1080/plain", plainUvPicture, fullHd);

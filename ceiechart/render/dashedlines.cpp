@@ -9,6 +9,7 @@
 #include <array>
 #include <cmath>
 #include <utility>
+#include <vector>
 
 namespace ceiechart {
 
@@ -34,6 +35,22 @@ int periodOf(const QPen &pen)
         period += part;
     }
     return period == std::floor(period) && period <= longestPeriod ? int(period) : 0;
+}
+
+//! What is painted of the pixels beside one another at a place along the line, premultiplied.
+using Place = std::array<QRgb, across>;
+
+/*! \brief The columns of \a places, of which \a count are set, that are painted anywhere. */
+std::vector<int> paintedColumns(const std::array<Place, sampleLength> &places, int count)
+{
+    std::vector<int> columns;
+    for (int k = 0; k < across; ++k) {
+        const auto isPainted = [k](const Place &place) { return place[std::size_t(k)] != 0; };
+        if (std::any_of(places.cbegin(), places.cbegin() + count, isPainted)) {
+            columns.push_back(k);
+        }
+    }
+    return columns;
 }
 
 } // namespace
@@ -96,7 +113,7 @@ bool DashedLines::drawRepeated(QPainter &painter, const QPointF &from, const QPo
 
     // What is painted at each place along the line, from a little before it to a little behind the end of the sample.
     const int count = int(std::fabs(sampleEnd - sampleBegin)) + before + 3;
-    std::array<std::array<QRgb, across>, sampleLength> places;
+    std::array<Place, sampleLength> places;
     for (int i = 0; i < count; ++i) {
         for (int k = 0; k < across; ++k) {
             const int along = sampleFirst + step * (i - before);
@@ -109,15 +126,7 @@ bool DashedLines::drawRepeated(QPainter &painter, const QPointF &from, const QPo
         return false;
     }
 
-    std::array<int, across> painted{};
-    int paintedCount = 0;
-    for (int k = 0; k < across; ++k) {
-        const auto isPainted = [k](const auto &place) { return place[std::size_t(k)] != 0; };
-        if (std::any_of(places.cbegin(), places.cbegin() + count, isPainted)) {
-            painted[std::size_t(paintedCount++)] = k;
-        }
-    }
-
+    const std::vector<int> columns = paintedColumns(places, count);
     const qsizetype bytesPerLine = picture->bytesPerLine();
     const qsizetype bytesAlong = isUpright ? bytesPerLine : qsizetype(sizeof(QRgb));
     const qsizetype bytesAcross = isUpright ? qsizetype(sizeof(QRgb)) : bytesPerLine;
@@ -129,11 +138,10 @@ bool DashedLines::drawRepeated(QPainter &painter, const QPointF &from, const QPo
         if (along < 0 || along >= extent) {
             break;
         }
-        for (int k = 0; k < paintedCount; ++k) {
-            const QRgb color = placeAt[place][std::size_t(painted[std::size_t(k)])];
+        for (const int k : columns) {
+            const QRgb color = placeAt[place][std::size_t(k)];
             if (color != 0) {
-                auto *pixel
-                    = reinterpret_cast<QRgb *>(sideBits + along * bytesAlong + painted[std::size_t(k)] * bytesAcross);
+                auto *pixel = reinterpret_cast<QRgb *>(sideBits + along * bytesAlong + k * bytesAcross);
                 *pixel = color + multiplied(*pixel, 255 - qAlpha(color));
             }
         }
