@@ -160,7 +160,10 @@ Outcome<WallCorrections> wallCorrections(
         result.cabinets.push_back(cabinet);
     }
     if (!hasMatrix) {
-        return Failure::failure(CorrectionsText::tr("no cabinet has a matrix"));
+        const QString none = CorrectionsText::tr("no cabinet has a matrix");
+        return Failure::failure(result.cabinets.size() == 1
+                ? CorrectionsText::tr("%1: %2", "that there is no matrix, and why").arg(none, result.cabinets[0].fault)
+                : none);
     }
     for (const IncompleteCabinet &of : wall.incomplete) {
         CabinetCorrection cabinet;

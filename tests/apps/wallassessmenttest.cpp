@@ -38,6 +38,7 @@ private Q_SLOTS:
     void cabinetWithoutLight();
     void whiteThatIsNotTheSum();
     void correctionsAreAsKnown();
+    void whatRemainsOfACabinetThatIsTooDark();
     void primariesThatDoNotMix();
     void fittedLuminanceIsTheOneThatIsShown();
     void whiteThatIsBelowTheSumAndTooDim();
@@ -399,26 +400,51 @@ void WallAssessmentTest::measuredWhiteDecidesWhereItWasMeasured()
     QCOMPARE(assessWall(wall, {Model::ColorGamut("Fitted", *dimmed), cd}).judgement, Judgement::NotKnown);
 }
 
-// What corrections, files and uniformity say goes by the measured white as well, not by the primaries alone.
+// What a correction leaves follows from the primaries, and is known no better than the measured white is their sum.
 void WallAssessmentTest::correctionsAreAsKnown()
 {
     const Model::Target d65 = Model::rec2020().getTargets().white;
     DisplayWall wall = wallOf(1);
     wall.cabinets[4].white = color(1085.0, d65.x, d65.y); // additive within the tolerance
     wall.cabinets[5].white = color(600.0, d65.x + 0.01, d65.y); // not additive
-    const WallAssessment found = assessWall(wall, targetOf(1095.0));
+    const DisplayGamut target = targetOf(1095.0);
+    const WallAssessment found = assessWall(wall, target);
+    const Model::WallCorrection plain = Model::wallCorrection(wall.modelCabinets(), target.getTargets(), 1095.0);
     const Model::Correction &measured = found.correction.corrections[4];
     QVERIFY(std::fabs(measured.largestWhite->luminance - 1085.0) < 1e-9);
-    QVERIFY(std::fabs(measured.shown->white.Y - 1085.0) < 1e-9);
-    QVERIFY(std::fabs(*measured.remaining.luminance - (1085.0 / 1095.0 - 1.0)) < 1e-12);
-    QVERIFY(*measured.remaining.whiteUv < 1e-9);
-    QCOMPARE(found.after.luminance->first == 4 || found.after.luminance->second == 4, true);
-    QVERIFY(std::fabs(found.after.luminance->difference - 10.0 / 1095.0) < 1e-3);
+    QCOMPARE(measured.shown->white.Y, plain.corrections[4].shown->white.Y);
+    QCOMPARE(*measured.remaining.whiteUv, *plain.corrections[4].remaining.whiteUv);
+    QVERIFY(std::fabs(found.cabinets[4].offSum->luminance - (1085.0 / 1100.0 - 1.0)) < 1e-9);
+    QVERIFY2(textOf(found).contains(QStringLiteral("Measured whites are up to 1.4 % and Δu′v′ ")),
+        qPrintable(textOf(found)));
+    QVERIFY2(textOf(found).contains(QStringLiteral("off the sums of the primaries (A5).")), qPrintable(textOf(found)));
     const Model::Correction &notAdditive = found.correction.corrections[5];
     QVERIFY(notAdditive.matrix);
     QVERIFY(!notAdditive.largestWhite && !notAdditive.shown && !notAdditive.remaining.whiteUv);
     QVERIFY(!found.cabinets[5].uvAfter);
     QCOMPARE(found.correction.largestWhite->cabinet, std::size_t(4));
+    // Within what cannot be seen there is nothing to say.
+    wall.cabinets[4].white = color(1100.0 * 1.0015, d65.x, d65.y);
+    wall.cabinets[5].white.reset();
+    QVERIFY(!textOf(assessWall(wall, target)).contains(QStringLiteral("Measured whites")));
+}
+
+// Of a cabinet that is too dark, what remains is what its clamped drives show.
+void WallAssessmentTest::whatRemainsOfACabinetThatIsTooDark()
+{
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].green = color(300.0, 0.26, 0.66);
+    const DisplayGamut target = targetOf(500.0);
+    const WallAssessment found = assessWall(wall, target);
+    const Model::Correction &correction = found.correction.corrections[4];
+    const Model::Drive drive = correction.matrix->driveFor({1.0, 1.0, 1.0});
+    const auto possible = [](double of) { return std::clamp(of, 0.0, 1.0); };
+    const WallCabinet &of = wall.cabinets[4];
+    const double shown
+        = possible(drive.red) * of.red.Y + possible(drive.green) * of.green.Y + possible(drive.blue) * of.blue.Y;
+    QVERIFY(shown < 490.0);
+    QVERIFY(std::fabs(*correction.remaining.luminance - (shown / 500.0 - 1.0)) < 1e-12);
+    QVERIFY(std::fabs(found.after.luminance->difference - (1.0 - shown / 500.0)) < 1e-9);
 }
 
 void WallAssessmentTest::primariesThatDoNotMix()

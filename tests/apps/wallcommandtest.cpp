@@ -369,6 +369,7 @@ void WallCommandTest::correctionsSayNoMoreThanIsKnown()
     QVERIFY2(result.error.contains("the largest that all cabinets reach of which it is known, as the luminance of the "
                                    "target cannot be compared with theirs"),
         result.error);
+    QVERIFY2(result.error.contains("Measured whites are up to 1.5 % and Δu′v′ "), result.error);
     QVERIFY2(result.error.contains("are for, so that it is not known what they show: A2\n"), result.error);
     const QJsonObject wall = QJsonDocument::fromJson(result.output).object().value("wall").toObject();
     const auto corrections = gamutfiles::readCorrectionsFile(path("c.json"));
@@ -376,6 +377,13 @@ void WallCommandTest::correctionsSayNoMoreThanIsKnown()
     QCOMPARE(*corrections->cabinets[0].largestWhite,
         wall.value("cabinets").toArray().at(0).toObject().value("largestWhite").toDouble());
     QVERIFY(!corrections->cabinets[1].largestWhite);
+
+    // Where no cabinet is known to reach a white, the sums of the primaries are what there is.
+    write("wall.csv", QByteArray(list).replace("1013.9", "700"));
+    const Result sums = run({"--wall", "wall.csv", "--target", "sRGB", "--corrections", "c.json"});
+    QVERIFY2(sums.error.contains("the largest that the primaries of all cabinets add to, as the luminance of the "
+                                 "target cannot be compared with theirs"),
+        sums.error);
 
     // A2 reaches the white that was measured at the white of the target, with all primaries at full drive.
     write("wall.csv", wallList + "A2,1,2,white,0.3127,0.3290,400\n");
@@ -404,7 +412,8 @@ void WallCommandTest::notesOnASingleDisplay()
     QVERIFY2(!bright.error.contains("cabinet"), bright.error);
     write("stage.json", targetText(0.0));
     const Result dark = run({"stage.json", "one.csv", "--corrections", "one.json"});
-    QVERIFY2(dark.error.contains("the largest that the display reaches, as the white of the target has no luminance\n"),
+    QVERIFY2(dark.error.contains(
+                 "the largest that the primaries of the display add to, as the white of the target has no luminance\n"),
         dark.error);
 }
 

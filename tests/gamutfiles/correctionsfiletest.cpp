@@ -305,7 +305,8 @@ void CorrectionsFileTest::targetsWithoutMatrices()
 
     wall.cabinets[0].red.Y = 0.0;
     const auto none = wallCorrections(wall, Model::wallCorrection(wall.modelCabinets(), target(), 1.0), QString());
-    QCOMPARE(none.error(), QStringLiteral("no cabinet has a matrix"));
+    QCOMPARE(
+        none.error(), QStringLiteral("no cabinet has a matrix: a primary has no more luminance than the black: red"));
 }
 
 // A file with them could not be read.

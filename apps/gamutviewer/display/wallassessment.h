@@ -34,6 +34,12 @@ struct NeighborDifference {
     double uv = 0.0; //!< Δu′v′ between the whites
 };
 
+/*! \brief How far the white that was measured of a cabinet is off the sum of its primaries. */
+struct OffSum {
+    double luminance = 0.0; //!< as a part of the sum's luminance: -0.01 is 1 % darker
+    double uv = 0.0; //!< Δu′v′
+};
+
 /*! \brief What can be said of one cabinet. What is not known has no value. */
 struct CabinetAssessment {
     Judgement judgement = Judgement::NotKnown; //!< whether it shows the target, of \a gamut and \a luminance
@@ -70,6 +76,7 @@ struct CabinetAssessment {
     std::optional<double> headroom;
     /*! \brief False when it does not add up: its measured white is not the sum of its primaries. */
     bool isAdditive = true;
+    std::optional<OffSum> offSum; //!< of one that is additive within the tolerance, and whose white was measured
     std::optional<Model::Target> white; //!< without a correction: as measured, or else the sum of the primaries
     std::optional<double> uvBefore; //!< Δu′v′ between that white and the target's
     std::optional<double> uvAfter; //!< Δu′v′ between its white with the correction and the target's
@@ -117,8 +124,9 @@ struct WallAssessment {
      *
      * They are for the luminance of the target's white, or, where that cannot be compared, for the largest that all
      * cabinets reach which count, as far as known. That of a cabinet that is not additive is for the sum of its
-     * primaries, and what it shows is not known. What the others show, what remains and Model::Correction::largestWhite
-     * are limited to CabinetAssessment::largestWhite.
+     * primaries, and what it shows is not known. What the others show, and what remains, is what their primaries add
+     * to: it is known no better than CabinetAssessment::offSum. Model::Correction::largestWhite is that of
+     * CabinetAssessment.
      */
     Model::WallCorrection correction;
     Model::Uniformity before; //!< of the whites without corrections, of the cabinets that count

@@ -254,6 +254,31 @@ QStringList exchangeTexts(const DisplayWall &wall)
     return result;
 }
 
+QString offSumText(const DisplayWall &wall, const WallAssessment &assessment, const std::vector<std::size_t> &cabinets)
+{
+    double luminance = 0.0;
+    double uv = 0.0;
+    std::optional<std::size_t> worst;
+    for (const std::size_t i : cabinets) {
+        const auto &off = assessment.cabinets[i].offSum;
+        if (!off) {
+            continue;
+        }
+        if (!worst || std::fabs(off->luminance) > luminance) {
+            worst = i;
+        }
+        luminance = std::max(luminance, std::fabs(off->luminance));
+        uv = std::max(uv, off->uv);
+    }
+    if (luminance <= fullDrive - 1.0 && uv <= visibleUv) {
+        return QString();
+    }
+    return WallText::tr(
+        "Measured whites are up to %1 and Δu′v′ %2 off the sums of the primaries (%3). What corrections "
+        "leave is worked out from the primaries, and known no better than that.")
+        .arg(percent(luminance), distanceText(uv), cabinetName(wall, *worst));
+}
+
 QString mixtureText(const DisplayGamut &target, const Model::Targets &mixed)
 {
     constexpr double rounding = 0.01; // of what files and people write

@@ -50,6 +50,12 @@ QString cabinetText(
 QStringList exchangeTexts(const DisplayWall &wall);
 
 /*!
+ * \brief How far measured whites are off the sums of the primaries at the most, so that what the \a cabinets show with
+ * corrections is known no better; empty where that cannot be seen.
+ */
+QString offSumText(const DisplayWall &wall, const WallAssessment &assessment, const std::vector<std::size_t> &cabinets);
+
+/*!
  * \brief That the luminances of the primaries of \a target do not mix to its white, and which of those of \a mixed,
  * which is the target with some white, corrections are for; empty where they mix to it, or none are stated.
  */

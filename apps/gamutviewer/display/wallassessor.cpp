@@ -96,6 +96,8 @@ public:
         m_isAdditive = additivity.isAdditive;
         m_isUpperBound = additivity.isUpperBound;
         if (m_isAdditive) {
+            m_offSum
+                = OffSum{white.Y / additivity.sum.Y - 1.0, Model::uvDifference(white, additivity.sum).value_or(0.0)};
             m_measured = measuredShare(drive, white, target.white);
         } else if (white.Y > 0.0 && isMeasuredWhite(white, target.white)) {
             m_measuredWhite = white.Y;
@@ -106,6 +108,9 @@ public:
     void reach(CabinetAssessment &result) const
     {
         result.isAdditive = m_isAdditive;
+        if (m_isAdditive) {
+            result.offSum = m_offSum;
+        }
         if (!m_sum) {
             return; // the white is outside
         }
@@ -156,6 +161,7 @@ private:
     const std::optional<Model::LargestLuminance> m_sum;
     bool m_isAdditive = true;
     bool m_isUpperBound = true; // also of what is additive
+    std::optional<OffSum> m_offSum;
     double m_measured = 1.0; // the luminance that was measured as a part of the sum
     std::optional<double> m_measuredWhite; // at the white of the target, where the sum does not tell it
 };
@@ -256,7 +262,7 @@ private:
     }
 
     //! Corrections come from primaries alone, which say too much where the white was measured.
-    void keepWhatIsKnown(Model::Correction &correction, const CabinetAssessment &known) const
+    static void keepWhatIsKnown(Model::Correction &correction, const CabinetAssessment &known)
     {
         if (!known.largestWhite) {
             correction.largestWhite.reset();
@@ -266,10 +272,6 @@ private:
         if (!known.isAdditive) {
             correction.shown.reset();
             correction.remaining = {};
-        } else if (correction.shown && known.largestWhite && correction.shown->white.Y > *known.largestWhite) {
-            Model::Target &white = correction.shown->white;
-            white = Model::Target::fromYxy(*known.largestWhite, white.x, white.y);
-            correction.remaining.luminance = *known.largestWhite / m_result.correction.target.white.Y - 1.0;
         }
     }
 

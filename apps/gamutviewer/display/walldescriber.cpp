@@ -48,6 +48,8 @@ public:
             describeWhite(failing.size());
         }
         QStringList warnings = exchangeTexts(m_wall);
+        warnings.append(offSumText(m_wall, m_result, m_counted));
+        warnings.removeAll(QString());
         if (m_result.correction.fault == Model::WallFault::None) {
             warnings.append(mixtureText(m_target, m_result.correction.target));
             warnings.removeAll(QString());

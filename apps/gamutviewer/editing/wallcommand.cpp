@@ -202,7 +202,8 @@ std::optional<DisplayWall> singleDisplay(const DisplayDescription &description)
 class Remainder {
 public:
     //! Returns whether there is any that can be noticed in the digits that are shown.
-    bool add(const Model::DeviationValues &remaining)
+    //! A luminance that is known to be reached remains by no more than the primaries are off the measured white.
+    bool add(const Model::DeviationValues &remaining, Judgement luminanceJudgement)
     {
         constexpr double noticeableUv = 0.00005;
         constexpr double noticeableLuminance = fullDrive - 1.0;
@@ -210,7 +211,8 @@ public:
         for (const auto &color : {remaining.whiteUv, remaining.redUv, remaining.greenUv, remaining.blueUv}) {
             uv = std::max(uv, color.value_or(0.0));
         }
-        const double luminance = std::fabs(remaining.luminance.value_or(0.0));
+        const double luminance
+            = luminanceJudgement == Judgement::Pass ? 0.0 : std::fabs(remaining.luminance.value_or(0.0));
         if (uv < noticeableUv && luminance < noticeableLuminance) {
             return false;
         }
@@ -241,13 +243,24 @@ QString whiteNote(const Corrected &corrected)
         : corrected.isWall
         ? CommandText::tr("the luminance of the target cannot be compared with theirs")
         : CommandText::tr("the luminance of the target cannot be compared with those of the display");
-    const QString text = !corrected.isWall
+    const double luminance = assessment.correction.target.white.Y;
+    // What cabinets reach that are not additive is not known.
+    constexpr double rounding = 1e-9;
+    const bool isReached
+        = assessment.largestWhite && luminance >= assessment.largestWhite->luminance * (1.0 - rounding);
+    const QString text = !corrected.isWall && isReached
         ? CommandText::tr("the correction is for a white of %1, the largest that the display reaches, as %2")
+        : !corrected.isWall
+        ? CommandText::tr("the correction is for a white of %1, the largest that the primaries of the display add to, "
+                          "as %2")
+        : !isReached
+        ? CommandText::tr("the corrections are for a white of %1, the largest that the primaries of all cabinets add "
+                          "to, as %2")
         : assessment.isReachKnownOfAll
         ? CommandText::tr("the corrections are for a white of %1, the largest that all cabinets reach, as %2")
         : CommandText::tr("the corrections are for a white of %1, the largest that all cabinets reach of which it is "
                           "known, as %2");
-    return text.arg(reachableText(assessment.correction.target.white.Y, corrected.wall.unit), why);
+    return text.arg(reachableText(luminance, corrected.wall.unit), why);
 }
 
 //! Of cabinets, or of a single display, of which nothing is told when there are none.
@@ -275,7 +288,7 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
         const Model::Correction &correction = corrected.assessment.correction.corrections[i];
         if (!correction.matrix) {
             without.push_back(i);
-        } else if (remainder.add(correction.remaining)) {
+        } else if (remainder.add(correction.remaining, cabinet.luminance)) {
             beyond.push_back(i);
         } else if (cabinet.judgement == Judgement::Fail) {
             failing.push_back(i);
@@ -298,6 +311,7 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
                             "what it shows is not known"),
             CommandText::tr("cabinets whose measured white is not the sum of their primaries, which the corrections "
                             "are for, so that it is not known what they show"))};
+    notes.append(offSumText(corrected.wall, corrected.assessment, corrected.cabinets));
     notes.removeAll(QString());
     return notes + exchangeTexts(written);
 }
@@ -416,7 +430,8 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
     const auto &largestWhite = before.largestWhite;
     if (target->unit == LuminanceUnit::Relative && description.wall.unit == LuminanceUnit::CandelaPerSquareMetre
         && largestWhite) {
-        result.description = withLuminanceUnit(description, description.wall.unit, largestWhite->luminance);
+        result.description
+            = withLuminanceUnit(description, description.wall.unit, roundedDown(largestWhite->luminance));
         wanted = result.description.gamut(result.description.target);
         result.notes.append((before.isReachKnownOfAll
                 ? CommandText::tr("the luminance of the target is relative; its white is taken at %1, the largest that "
@@ -435,9 +450,9 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
         result.notes.append(CommandText::tr("the target fits the wall as it is, as far as that is known"));
         return result;
     }
-    const QString mixture = mixtureText(*wanted, assessment.correction.target);
-    if (!mixture.isEmpty()) {
-        result.notes.append(mixture);
+    if (!mixtureText(*wanted, assessment.correction.target).isEmpty()) {
+        result.notes.append(
+            CommandText::tr("the luminances of the target's primaries did not mix to its white, and do now"));
     }
     result.description = withEditedTarget(result.description, *fitted);
     const struct {
