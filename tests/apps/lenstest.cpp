@@ -22,6 +22,7 @@ private Q_SLOTS:
     void lensShowsTheRingsAfterAnEdit();
     void ringsMoveWithTheWhite();
     void lensMakesRoom();
+    void fingersWorkInTheLens();
 };
 
 void LensTest::lensMovesTheWhite()
@@ -101,6 +102,33 @@ void LensTest::lensMakesRoom()
     QVERIFY(!lens->isVisible());
     pointer.drag(f.xy(Vertex::Green), QPointF(0.3, 0.6));
     QVERIFY(!lens->isVisible());
+}
+
+void LensTest::fingersWorkInTheLens()
+{
+    WindowFixture f;
+    f.window->session()->setSnaps(false);
+    auto *device = QTest::createTouchDevice();
+    DocumentView *lens = f.window->diagramPage()->lens()->view();
+    const double zoom = lens->zoomFactor();
+    const double zoomOfPage = view(f)->zoomFactor();
+    const QPointF white = f.xy(Vertex::White);
+    const QPoint at = lens->viewport().toPosition(white).toPoint();
+    const QPoint way(20, -14);
+    QTest::touchEvent(lens, device).press(0, at, lens);
+    QTest::touchEvent(lens, device).move(0, at + way, lens);
+    QTest::touchEvent(lens, device).release(0, at + way, lens);
+    QVERIFY(f.xy(Vertex::White).x() > white.x() && f.xy(Vertex::White).y() > white.y());
+    QCOMPARE(f.document().history()->count(), 1);
+    const QPointF moved = f.xy(Vertex::White);
+    const QPoint middle = lens->viewport().plot().center().toPoint();
+    QTest::touchEvent(lens, device).press(0, middle - QPoint(20, 0), lens).press(1, middle + QPoint(20, 0), lens);
+    QTest::touchEvent(lens, device).move(0, middle - QPoint(30, 0), lens).move(1, middle + QPoint(30, 0), lens);
+    QTest::touchEvent(lens, device).move(0, middle - QPoint(40, 0), lens).move(1, middle + QPoint(40, 0), lens);
+    QTest::touchEvent(lens, device).release(0, middle - QPoint(40, 0), lens).release(1, middle + QPoint(40, 0), lens);
+    QVERIFY(lens->zoomFactor() > 1.5 * zoom);
+    QCOMPARE(view(f)->zoomFactor(), zoomOfPage);
+    QCOMPARE(f.xy(Vertex::White), moved);
 }
 
 QTEST_MAIN(LensTest)
