@@ -386,17 +386,17 @@
         <translation>目标过亮：%1在此白点下可达到 %2，而目标为 %3。请将白点的亮度降低到 %2。</translation>
     </message>
     <message>
-        <source>A measurement list needs a choice: what it says of the display is not judged. Make the choice that the warnings ask for.</source>
-        <translation>有测量列表需要作出选择：其中关于显示屏的内容未作判定。请按警告的要求作出选择。</translation>
-    </message>
-    <message>
         <source>What luminance the %1 reaches is not known: its white has no luminance.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1能达到的亮度未知：其白色没有亮度。</translation>
     </message>
     <message>
         <source>not known. %1</source>
         <comment>and why, in sentences</comment>
-        <translation type="unfinished"></translation>
+        <translation>未知。%1</translation>
+    </message>
+    <message>
+        <source>A measurement list needs a choice: not all that it says of the display can be judged. Make the choice that the warnings ask for.</source>
+        <translation>测量列表需要选择：它所说明的显示屏数据不能全部评判。请作出警告所要求的选择。</translation>
     </message>
 </context>
 <context>
@@ -1159,6 +1159,10 @@
     <message>
         <source>The list makes a wall.</source>
         <translation>该列表构成一面墙。</translation>
+    </message>
+    <message>
+        <source>How is %1 to be read?</source>
+        <translation>如何读取 %1？</translation>
     </message>
 </context>
 <context>
@@ -2084,6 +2088,10 @@ Esc – 关闭有焦点的消息
         <source>The &amp;cabinets of a simulated wall</source>
         <translation>模拟墙的箱体(&amp;C)</translation>
     </message>
+    <message>
+        <source>Read &amp;list again</source>
+        <translation>重新读取列表(&amp;L)</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallAssessment</name>
@@ -2428,6 +2436,10 @@ Esc – 关闭有焦点的消息
         <source>All that are not left out reach a white of %1.</source>
         <translation>未排除的箱体均可达到 %1 的白色。</translation>
     </message>
+    <message>
+        <source>Measured whites are up to %1 and Δu′v′ %2 off the sums of the primaries (%3). What corrections leave is worked out from the primaries, and known no better than that.</source>
+        <translation>实测白色与各基色之和最多相差 %1 和 Δu′v′ %2（%3）。校正后的剩余差异由基色算出，其准确程度不会更高。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallCommand</name>
@@ -2592,6 +2604,18 @@ Esc – 关闭有焦点的消息
     <message>
         <source>the luminance of the target cannot be compared with those of the display</source>
         <translation>目标的亮度无法与显示屏的亮度比较</translation>
+    </message>
+    <message>
+        <source>the correction is for a white of %1, the largest that the primaries of the display add to, as %2</source>
+        <translation>校正针对的白点亮度为 %1，即显示屏各基色之和的最大值，因为%2</translation>
+    </message>
+    <message>
+        <source>the corrections are for a white of %1, the largest that the primaries of all cabinets add to, as %2</source>
+        <translation>校正针对的白点亮度为 %1，即所有箱体的基色之和都能达到的最大值，因为%2</translation>
+    </message>
+    <message>
+        <source>the luminances of the target&apos;s primaries did not mix to its white, and do now</source>
+        <translation>目标各基色的亮度原先混合不出其白点，现已改正</translation>
     </message>
 </context>
 <context>

@@ -145,6 +145,11 @@
         <source>a name has a null character</source>
         <translation>名称中含有空字符（NUL）</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>that there is no matrix, and why</comment>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::CubePair</name>
@@ -591,11 +596,11 @@
     </message>
     <message>
         <source>%1, as a field that was left empty also says</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，留空的字段也是此值</translation>
     </message>
     <message>
         <source>is a ZIP archive, as spreadsheets are: save the list as text, with the suffix csv</source>
-        <translation type="unfinished"></translation>
+        <translation>是 ZIP 压缩包，电子表格即为此类：请将列表另存为文本，扩展名为 csv</translation>
     </message>
 </context>
 <context>
@@ -1122,7 +1127,7 @@
     </message>
     <message>
         <source>the columns u and v can be those of CIE 1960 or of CIE 1976: call these u&apos; and v&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>u 和 v 列可能是 CIE 1960 或 CIE 1976 的：后者请命名为 u' 和 v'</translation>
     </message>
 </context>
 <context>
