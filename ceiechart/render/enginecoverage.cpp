@@ -180,7 +180,12 @@ void EngineCoverage::addWithinRow(int row, int fromX, int fromY, int toX, int to
 void EngineCoverage::add(int row, int x, int area, int height)
 {
     if (x < m_size.width()) {
-        m_found.push_back({row, {std::max(x, -1), height, area}});
+        // Member by member: what is put together on the stack and copied as a whole, waits for its parts.
+        RowCell &found = m_found.emplace_back();
+        found.row = row;
+        found.cell.x = std::max(x, -1);
+        found.cell.height = height;
+        found.cell.area = area;
     }
 }
 
@@ -232,7 +237,10 @@ void EngineCoverage::row(int y, std::vector<CoveredSpan> &spans) const
     const auto append = [this, &spans](int x, int length, int area) {
         const int share = coverage(area);
         if (length > 0 && share > 0) {
-            spans.push_back({x, length, share});
+            CoveredSpan &span = spans.emplace_back(); // as in add()
+            span.x = x;
+            span.length = length;
+            span.coverage = share;
         }
     };
     const std::size_t index = std::size_t(y - m_top);
