@@ -183,9 +183,8 @@ bool isSameTriangle(const QPolygonF &a, const QPolygonF &b, double within)
     if (a.size() != int(order.size()) || b.size() != a.size()) {
         return false;
     }
-    const auto isNear = [squared = within * within](const QPointF &p, const QPointF &q) {
-        return QPointF::dotProduct(p - q, p - q) < squared;
-    };
+    const auto isNear = [squared = within * within](
+                            const QPointF &p, const QPointF &q) { return QPointF::dotProduct(p - q, p - q) < squared; };
     do {
         const bool isSame = std::equal(
             a.cbegin(), a.cend(), order.begin(), [&](const QPointF &p, int k) { return isNear(p, b.at(k)); });
