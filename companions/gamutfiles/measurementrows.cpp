@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace gamutfiles {
 
@@ -70,6 +71,19 @@ void MeasurementReader::warnOfRows()
             warn(text + more, place(lines.first));
         }
     };
+    // A cabinet can be called "#5".
+    Lines commented;
+    for (const CsvRow &row : std::as_const(m_table.comments)) {
+        const bool isMeasured = row.line > m_list.recognized.headerLine
+            && std::all_of(m_numberParts.begin(), m_numberParts.end(),
+                [&](ColumnPart part) { return readNumber(given(row, part), m_decimalSign).has_value(); });
+        if (isMeasured) {
+            commented.add(row.line);
+        }
+    }
+    tell(commented,
+        tr("begins with # and is not read, though it has the numbers of a measurement; to read it, put its first field "
+           "in quotes"));
     tell(m_repeatedHeaders, tr("repeats the line that names the columns and is not read"));
     tell(m_withoutNumbers, tr("has no numbers and is not read"));
     tell(m_wider, tr("has more fields than the line that names the columns"));

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void numbersAreExact();
     void emptyColumnsAndLines();
     void linesWithoutNumbers();
+    void linesThatBeginAsComments();
     void thousands_data();
     void thousands();
     void decimalSignOfOtherColumns();
@@ -55,6 +56,21 @@ void MeasurementRowsTest::linesWithoutNumbers()
     const QByteArray text = "name,Lv,x,y\na,1,0.3,0.4\nSecond run,,,\nOperator: X\nb,2,0.3,0.4\n";
     QCOMPARE(namesOf(readMeasurementList(text)->measurements), (QStringList{"a", "b"}));
     QCOMPARE(otherWarningsOf(text), QStringList{"line 3: has no numbers and is not read; so in 1 further line(s)"});
+}
+
+// A cabinet can be called so, and must not be lost without a word.
+void MeasurementRowsTest::linesThatBeginAsComments()
+{
+    const QByteArray text
+        = "# Of today, 1, 2, 3\ncabinet,name,Lv,x,y\n#4,red,1,0.3,0.4\n# 3 more, at noon\n#5,red,1,0.3,0.4\n"
+          "6,red,1,0.3,0.4\n\"#7\",red,1,0.3,0.4\n";
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QCOMPARE(list->measurements.size(), 2);
+    QCOMPARE(list->measurements[1].cabinet, QStringLiteral("#7"));
+    QVERIFY(otherWarningsOf(text).contains(
+        QStringLiteral("line 3: begins with # and is not read, though it has the numbers of a measurement; to read it, "
+                       "put its first field in quotes; so in 1 further line(s)")));
 }
 
 void MeasurementRowsTest::thousands_data()
