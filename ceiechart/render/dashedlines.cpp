@@ -122,7 +122,8 @@ bool DashedLines::drawRepeated(QPainter &painter, const QPointF &from, const QPo
         }
     }
     const auto placeAt = places.cbegin() + before;
-    if (!std::equal(placeAt + period, placeAt + 2 * period, placeAt + 2 * period)) {
+    const auto second = placeAt + period;
+    if (!std::equal(second, second + period, second + period)) {
         return false;
     }
 

@@ -243,7 +243,7 @@ void EngineCoverage::row(int y, std::vector<CoveredSpan> &spans) const
             span.coverage = share;
         }
     };
-    const std::size_t index = std::size_t(y - m_top);
+    const auto index = std::size_t(y - m_top);
     int height = 0;
     int x = 0;
     for (int i = m_first[index]; i < m_first[index + 1];) {
