@@ -68,7 +68,7 @@ void MeasurementRowsTest::linesThatBeginAsComments()
     QVERIFY2(list, qPrintable(list.error()));
     QCOMPARE(list->measurements.size(), 2);
     QCOMPARE(list->measurements[1].cabinet, QStringLiteral("#7"));
-    QVERIFY(otherWarningsOf(text).contains(
+    QVERIFY(warningsOf(text).contains(
         QStringLiteral("line 3: begins with # and is not read, though it has the numbers of a measurement; to read it, "
                        "put its first field in quotes; so in 1 further line(s)")));
 }

@@ -1127,7 +1127,11 @@
     </message>
     <message>
         <source>the columns u and v can be those of CIE 1960 or of CIE 1976: call these u&apos; and v&apos;</source>
-        <translation>u 和 v 列可能是 CIE 1960 或 CIE 1976 的：后者请命名为 u' 和 v'</translation>
+        <translation>u 和 v 列可能是 CIE 1960 或 CIE 1976 的：后者请命名为 u&apos; 和 v&apos;</translation>
+    </message>
+    <message>
+        <source>begins with # and is not read, though it has the numbers of a measurement; to read it, put its first field in quotes</source>
+        <translation>以 # 开头，未读取，但其中有测量的数值；如需读取，请给第一个字段加引号</translation>
     </message>
 </context>
 <context>
