@@ -3,6 +3,7 @@
 #include <gamutfiles/latestmeasurements.h>
 
 #include "cabinetkey_p.h"
+#include "wallofcabinets_p.h"
 
 #include <QHash>
 
@@ -10,6 +11,7 @@
 #include <array>
 #include <iterator>
 #include <list>
+#include <vector>
 
 namespace gamutfiles {
 
@@ -82,6 +84,32 @@ CabinetMeasurements cabinetOf(const Measurement &measurement)
     return {measurement.cabinet, measurement.row, measurement.column, {}};
 }
 
+struct KeptCabinet {
+    CabinetMeasurements identity; // without its measurements
+    qint64 number = 0; // in the order in which the cabinets came first, from 1
+    PartMeasurements parts;
+};
+
+bool isPrimary(MeasurementPart part)
+{
+    return part == MeasurementPart::Red || part == MeasurementPart::Green || part == MeasurementPart::Blue;
+}
+
+bool hasPrimaries(const PartMeasurements &parts)
+{
+    return std::all_of(keptParts.begin(), keptParts.end(), [&parts](MeasurementPart part) {
+        const auto &measurement = parts[std::size_t(part)];
+        return !isPrimary(part) || (measurement && measurement->color);
+    });
+}
+
+//! Whether both mean the same for a wall.
+bool isSameColor(const Measurement &a, const Measurement &b)
+{
+    return a.luminance == b.luminance && a.color.has_value() == b.color.has_value()
+        && (!a.color || (a.color->Y == b.color->Y && a.color->x == b.color->x && a.color->y == b.color->y));
+}
+
 //! \a measurement as it is shown among those of other cabinets.
 Measurement pointOf(Measurement measurement)
 {
@@ -117,11 +145,46 @@ public:
         return list;
     }
 
+    CabinetMeasurements withMeasurements(const KeptCabinet &cabinet) const
+    {
+        CabinetMeasurements result = cabinet.identity;
+        result.list = listOf(cabinet.parts);
+        return result;
+    }
+
+    std::optional<DisplayWall> madeWall() const
+    {
+        std::vector<const KeptCabinet *> kept;
+        kept.reserve(std::size_t(cabinets.size()));
+        int named = 0;
+        bool isAnyComplete = false;
+        for (const auto &[key, cabinet] : cabinets.all()) {
+            kept.push_back(&cabinet);
+            named += cabinet.identity.label().isEmpty() ? 0 : 1;
+            isAnyComplete = isAnyComplete || hasPrimaries(cabinet.parts);
+        }
+        if (named < 2 || !isAnyComplete) {
+            return std::nullopt;
+        }
+        std::sort(
+            kept.begin(), kept.end(), [](const KeptCabinet *a, const KeptCabinet *b) { return a->number < b->number; });
+        QVector<CabinetMeasurements> measured;
+        measured.reserve(int(kept.size()));
+        for (const KeptCabinet *cabinet : kept) {
+            measured.append(withMeasurements(*cabinet));
+        }
+        const auto made = wallOfCabinets(measured, unit);
+        return made ? std::make_optional(*made) : std::nullopt;
+    }
+
     bool whiteIsSum = false;
     LuminanceUnit unit = LuminanceUnit::NotKnown;
     LatestByKey<Measurement> points{mostLatestPoints};
-    LatestByKey<PartMeasurements> cabinets{mostLatestCabinets};
+    LatestByKey<KeptCabinet> cabinets{mostLatestCabinets};
+    qint64 lastNumber = 0; // KeptCabinet::number
     QString shownCabinet; // the key of the last that has a gamut; null: none has
+    std::optional<DisplayWall> wall; // of the cabinets, while isWallCurrent
+    bool isWallCurrent = true;
 };
 
 LatestMeasurements::LatestMeasurements(bool whiteIsSum)
@@ -145,16 +208,27 @@ void LatestMeasurements::add(const Measurement &measurement)
     if (measurement.color) {
         d->points.touched(colorKey(measurement)) = measurement;
     }
-    const bool isKept = measurement.part == MeasurementPart::Black
-        || (measurement.part != MeasurementPart::None && measurement.color);
-    if (!isKept) {
+    const bool isNamed = !cabinetOf(measurement).label().isEmpty();
+    if (measurement.part == MeasurementPart::None && !isNamed) {
         return;
     }
-    const QString cabinet = cabinetKey(measurement);
-    PartMeasurements &parts = d->cabinets.touched(cabinet);
-    parts[std::size_t(measurement.part)] = measurement;
-    if (d->listOf(parts).gamut(QString())) {
-        d->shownCabinet = cabinet;
+    const QString key = cabinetKey(measurement);
+    KeptCabinet &cabinet = d->cabinets.touched(key);
+    if (cabinet.number == 0) {
+        cabinet.identity = cabinetOf(measurement);
+        cabinet.number = ++d->lastNumber;
+        d->isWallCurrent = false;
+    }
+    auto &kept = cabinet.parts[std::size_t(measurement.part)];
+    const bool isKept = measurement.part == MeasurementPart::Black || measurement.color
+        || (isPrimary(measurement.part) && !kept); // which tells why the cabinet is not complete
+    if (measurement.part == MeasurementPart::None || !isKept) {
+        return;
+    }
+    d->isWallCurrent = d->isWallCurrent && kept && isSameColor(*kept, measurement);
+    kept = measurement;
+    if (d->listOf(cabinet.parts).gamut(QString())) {
+        d->shownCabinet = key;
     }
 }
 
@@ -163,20 +237,50 @@ void LatestMeasurements::clear()
     d->points.clear();
     d->cabinets.clear();
     d->shownCabinet = QString();
+    d->isWallCurrent = false;
 }
 
 MeasurementList LatestMeasurements::list() const
 {
-    const PartMeasurements *parts = d->cabinets.find(d->shownCabinet);
+    const KeptCabinet *cabinet = d->cabinets.find(d->shownCabinet);
     QString shown = d->shownCabinet;
-    if (!parts && d->cabinets.size() > 0) {
+    if (!cabinet && d->cabinets.size() > 0) {
         shown = d->cabinets.all().back().first;
-        parts = &d->cabinets.all().back().second;
+        cabinet = &d->cabinets.all().back().second;
     }
-    MeasurementList list = d->listOf(parts ? *parts : PartMeasurements());
+    MeasurementList list = d->listOf(cabinet ? cabinet->parts : PartMeasurements());
     for (const auto &[key, point] : d->points.all()) {
-        const bool isShown = parts && point.part != MeasurementPart::None && cabinetKey(point) == shown;
+        const bool isShown = cabinet && point.part != MeasurementPart::None && cabinetKey(point) == shown;
         if (!isShown) {
+            list.measurements.append(pointOf(point));
+        }
+    }
+    std::for_each(list.measurements.begin(), list.measurements.end(), forgetCabinet);
+    return list;
+}
+
+QString LatestMeasurements::listedCabinet() const
+{
+    const KeptCabinet *cabinet = d->cabinets.find(d->shownCabinet);
+    return cabinet ? cabinet->identity.label() : QString();
+}
+
+const std::optional<DisplayWall> &LatestMeasurements::wall() const
+{
+    if (!d->isWallCurrent) {
+        d->wall = d->madeWall();
+        d->isWallCurrent = true;
+    }
+    return d->wall;
+}
+
+MeasurementList LatestMeasurements::listBesideWall() const
+{
+    MeasurementList list = d->listOf(PartMeasurements());
+    for (const auto &[key, point] : d->points.all()) {
+        const KeptCabinet *cabinet = d->cabinets.find(cabinetKey(point));
+        const bool isInWall = cabinet && point.part != MeasurementPart::None && hasPrimaries(cabinet->parts);
+        if (!isInWall) {
             list.measurements.append(pointOf(point));
         }
     }
@@ -188,12 +292,12 @@ QVector<CabinetMeasurements> LatestMeasurements::cabinets() const
 {
     QVector<CabinetMeasurements> result;
     bool hasNames = false;
-    for (const auto &[key, parts] : d->cabinets.all()) {
-        MeasurementList list = d->listOf(parts);
-        CabinetMeasurements cabinet = cabinetOf(list.measurements.first());
-        hasNames = hasNames || !cabinet.cabinet.isEmpty() || cabinet.row || cabinet.column;
-        cabinet.list = std::move(list);
-        result.append(cabinet);
+    for (const auto &[key, kept] : d->cabinets.all()) {
+        const CabinetMeasurements cabinet = d->withMeasurements(kept);
+        if (!cabinet.list.measurements.isEmpty()) {
+            hasNames = hasNames || !cabinet.label().isEmpty();
+            result.append(cabinet);
+        }
     }
     return hasNames ? result : QVector<CabinetMeasurements>();
 }

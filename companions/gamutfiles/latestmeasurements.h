@@ -3,12 +3,14 @@
 #ifndef GAMUTFILES_LATESTMEASUREMENTS_H
 #define GAMUTFILES_LATESTMEASUREMENTS_H
 
+#include <gamutfiles/displaywall.h>
 #include <gamutfiles/gamutfiles_export.h>
 #include <gamutfiles/measurementlist.h>
 
 #include <QVector>
 
 #include <memory>
+#include <optional>
 
 namespace gamutfiles {
 
@@ -50,6 +52,19 @@ public:
      * name no cabinet, as they are shown together; the name of a point begins with that of its cabinet.
      */
     MeasurementList list() const;
+    /*! \brief How people call the cabinet whose gamut list() has; empty without a gamut, and where no cabinet is named.
+     */
+    QString listedCabinet() const;
+    /*!
+     * \brief The cabinets that are kept as a wall, as wallFromMeasurements() makes it of a whole list: in the order in
+     * which they came first. Nothing unless two cabinets have been named and one of them has red, green and blue.
+     *
+     * It is worked out when it is asked for after a colour of a cabinet has changed. The reference is valid until the
+     * next measurement is added.
+     */
+    const std::optional<DisplayWall> &wall() const;
+    /*! \brief The last colours, as list() has them, without those of the cabinets that wall() has complete. */
+    MeasurementList listBesideWall() const;
     /*!
      * \brief Red, green, blue, white and black of each cabinet, as far as they have been measured, in the order in
      * which the cabinets were measured last; empty when no measurement names a cabinet.

@@ -4,6 +4,7 @@
 
 #include "excerpt_p.h"
 #include "incompletereasons_p.h"
+#include "wallofcabinets_p.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -159,9 +160,15 @@ Outcome<DisplayWall> wallFromMeasurements(const MeasurementList &list)
             WallText::tr("names no cabinets: a wall needs a column with the cabinet, or one with the row and one with "
                          "the column"));
     }
+    return wallOfCabinets(cabinets, list.unit);
+}
+
+Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets, LuminanceUnit unit)
+{
+    using Failure = Outcome<DisplayWall>;
     const bool hasPlaces = haveDifferentPlaces(cabinets);
     DisplayWall wall;
-    wall.unit = list.unit;
+    wall.unit = unit;
     NamedCabinets incomplete;
     NamedCabinets ambiguous;
     NamedCabinets unnamed;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
+#include <gamutfiles/descriptionfile.h>
 #include <gamutfiles/latestmeasurements.h>
 
 #include <QtTest>
@@ -56,6 +57,11 @@ private Q_SLOTS:
     void forgetsTheOldestCabinets();
     void showsTheCabinetThatWasCompletedLast();
     void tellsTheCabinets();
+    void makesAWallOfSeveralCabinets();
+    void wallIsThatOfTheWholeList();
+    void wallFollowsWhatIsMeasuredAgain();
+    void pointsAreNotThoseOfTheWall();
+    void namesTheCabinetOfAGamut();
     void forgetsAnotherUnit();
     void takesTheSumAsWhite();
 };
@@ -177,6 +183,114 @@ void LatestMeasurementsTest::tellsTheCabinets()
     QCOMPARE(cabinets.first().label(), QStringLiteral("B"));
     QCOMPARE(cabinets.last().list.measurements.size(), 4);
     QCOMPARE(cabinets.last().list.gamut(QString())->getTargets().red.x, 0.66);
+}
+
+void LatestMeasurementsTest::makesAWallOfSeveralCabinets()
+{
+    LatestMeasurements latest;
+    latest.setUnit(LuminanceUnit::CandelaPerSquareMetre);
+    addGamut(latest);
+    QVERIFY(!latest.wall());
+    latest.clear();
+    addGamut(latest, QStringLiteral("A"), 0.64);
+    QVERIFY(!latest.wall()); // it may be the only one
+    latest.add(measured(QStringLiteral("grey"), MeasurementPart::None, 0.31, 0.33, QStringLiteral("B")));
+    QVERIFY(latest.wall());
+    QCOMPARE(latest.wall()->unit, LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(latest.wall()->cabinets.size(), std::size_t(1));
+    QCOMPARE(latest.wall()->incomplete.size(), std::size_t(1));
+    QCOMPARE(latest.wall()->incomplete.front().name, QStringLiteral("B"));
+    // Without a white, too.
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.65, 0.33, QStringLiteral("B")));
+    latest.add(measured(QStringLiteral("Green"), MeasurementPart::Green, 0.3, 0.6, QStringLiteral("B")));
+    latest.add(measured(QStringLiteral("Blue"), MeasurementPart::Blue, 0.15, 0.06, QStringLiteral("B")));
+    QCOMPARE(latest.wall()->cabinets.size(), std::size_t(2));
+    QVERIFY(latest.wall()->cabinets.front().white);
+    QVERIFY(!latest.wall()->cabinets.back().white);
+    latest.clear();
+    QVERIFY(!latest.wall());
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.65, 0.33, QStringLiteral("A")));
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.65, 0.33, QStringLiteral("B")));
+    QVERIFY(!latest.wall()); // none is complete
+}
+
+void LatestMeasurementsTest::wallIsThatOfTheWholeList()
+{
+    const QByteArray bytes = "cabinet,row,column,name,Y (cd/m2),x,y\n"
+                             "B1,2,1,Red,21,0.64,0.33\nA1,1,1,Red,22,0.65,0.33\nA1,1,1,Green,71,0.3,0.6\n"
+                             "A1,1,1,Blue,7,0.15,0.06\nA1,1,1,Black,0,,\nB1,2,1,Green,72,0.3,0.61\n"
+                             "C1,3,1,Green,70,0.3,0.6\nB1,2,1,Blue,8,0.15,0.07\nB1,2,1,White,100,0.3127,0.329\n"
+                             "D1,4,1,Red,0,,\n,,,Red,1,0.5,0.3\n";
+    const auto list = readMeasurementList(bytes);
+    QVERIFY2(list, qPrintable(list.problem().message()));
+    const auto whole = wallFromMeasurements(*list);
+    QVERIFY(whole);
+    QCOMPARE(whole->cabinets.size(), std::size_t(2));
+    LatestMeasurements latest;
+    latest.setUnit(list->unit);
+    for (const Measurement &measurement : list->measurements) {
+        latest.add(measurement);
+    }
+    DisplayDescription expected;
+    expected.wall = *whole;
+    DisplayDescription followed;
+    QVERIFY(latest.wall());
+    followed.wall = *latest.wall();
+    QCOMPARE(descriptionText(followed), descriptionText(expected));
+}
+
+void LatestMeasurementsTest::wallFollowsWhatIsMeasuredAgain()
+{
+    LatestMeasurements latest;
+    addGamut(latest, QStringLiteral("A"), 0.64);
+    addGamut(latest, QStringLiteral("B"), 0.65);
+    QCOMPARE(latest.wall()->cabinets.front().red.x, 0.64);
+    addGamut(latest, QStringLiteral("A"), 0.66);
+    // The cabinets stay in their order.
+    QCOMPARE(latest.wall()->cabinets.front().name, QStringLiteral("A"));
+    QCOMPARE(latest.wall()->cabinets.front().red.x, 0.66);
+    QCOMPARE(latest.wall()->cabinets.back().red.x, 0.65);
+    Measurement brighter = measured(QStringLiteral("Red"), MeasurementPart::Red, 0.66, 0.33, QStringLiteral("A"));
+    brighter.color = Model::Target::fromYxy(200.0, 0.66, 0.33);
+    latest.add(brighter);
+    QCOMPARE(latest.wall()->cabinets.front().red.Y, 200.0);
+    // It is not worked out anew for what does not belong to it.
+    const WallCabinet *before = latest.wall()->cabinets.data();
+    latest.add(brighter);
+    latest.add(measured(QStringLiteral("grey"), MeasurementPart::None, 0.31, 0.33, QStringLiteral("A")));
+    QCOMPARE(latest.wall()->cabinets.data(), before);
+}
+
+void LatestMeasurementsTest::pointsAreNotThoseOfTheWall()
+{
+    const auto names = [](const MeasurementList &list) {
+        QStringList result;
+        for (const Measurement &measurement : list.measurements) {
+            result.append(measurement.name);
+        }
+        return result;
+    };
+    LatestMeasurements latest;
+    addGamut(latest, QStringLiteral("A"));
+    latest.add(measured(QStringLiteral("grey"), MeasurementPart::None, 0.31, 0.33, QStringLiteral("A")));
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.7, 0.29, QStringLiteral("B")));
+    QVERIFY(latest.wall());
+    QCOMPARE(names(latest.listBesideWall()), (QStringList{QStringLiteral("A grey"), QStringLiteral("B Red")}));
+    QVERIFY(!latest.listBesideWall().gamut(QString()));
+    addGamut(latest, QStringLiteral("B"));
+    QCOMPARE(names(latest.listBesideWall()), QStringList{QStringLiteral("A grey")});
+}
+
+void LatestMeasurementsTest::namesTheCabinetOfAGamut()
+{
+    LatestMeasurements latest;
+    addGamut(latest);
+    QVERIFY(latest.listedCabinet().isEmpty());
+    latest.clear();
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.7, 0.29, QStringLiteral("A")));
+    QVERIFY(latest.listedCabinet().isEmpty()); // there is no gamut
+    addGamut(latest, QStringLiteral("A"));
+    QCOMPARE(latest.listedCabinet(), QStringLiteral("A"));
 }
 
 void LatestMeasurementsTest::forgetsAnotherUnit()

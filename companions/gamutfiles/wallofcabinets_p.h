@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
+// SPDX-License-Identifier: MIT
+#ifndef GAMUTFILES_WALLOFCABINETS_P_H
+#define GAMUTFILES_WALLOFCABINETS_P_H
+
+#include <gamutfiles/displaywall.h>
+#include <gamutfiles/measurementlist.h>
+
+namespace gamutfiles {
+
+/*! \brief wallFromMeasurements() of a list in \a unit whose MeasurementList::cabinets() are \a cabinets. */
+Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets, LuminanceUnit unit);
+
+} // namespace gamutfiles
+
+#endif
