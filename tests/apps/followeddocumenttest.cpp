@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
+#include "display/wallassessment.h"
 #include "editing/document.h"
 #include "editing/gamutroles.h"
 #include "editing/targetsession.h"
@@ -60,8 +61,38 @@ GamutFile pointOnly()
     return file;
 }
 
+DisplayWall wall(const std::vector<const char *> &names)
+{
+    DisplayWall result;
+    result.unit = LuminanceUnit::CandelaPerSquareMetre;
+    const Model::Targets t = targets(0.69);
+    for (const char *name : names) {
+        WallCabinet cabinet;
+        cabinet.name = QLatin1String(name);
+        cabinet.red = t.red;
+        cabinet.green = t.green;
+        cabinet.blue = t.blue;
+        result.cabinets.push_back(cabinet);
+    }
+    return result;
+}
+
 struct Fixture {
     Fixture() { document.open(description(), QStringLiteral("wall.json")); }
+    void open(const DisplayWall &before)
+    {
+        DisplayDescription opened = description();
+        opened.wall = before;
+        document.open(opened, QStringLiteral("wall.json"));
+    }
+    QString cabinets() const
+    {
+        QStringList names;
+        for (const WallCabinet &cabinet : document.description().wall.cabinets) {
+            names.append(cabinet.label());
+        }
+        return names.join(QLatin1Char(' '));
+    }
     double measuredRed() const { return document.measured() ? document.measured()->getTargets().red.x : -1.0; }
     QString points() const
     {
@@ -98,6 +129,12 @@ private Q_SLOTS:
     void measuredPartThatIsTakenAwayComesBack();
     void addedPointsAreOfTheDescription();
     void savedIsTheDescription();
+    void showsAWallInPlaceOfTheOneBefore();
+    void editsTakeNothingOfAWallOver();
+    void keepsAWallAsOneStep();
+    void cabinetsThatAreLeftOutStaySo();
+    void removedWallIsTheDescriptions();
+    void selectionStaysWithItsCabinet();
 };
 
 void FollowedDocumentTest::showsWhatIsFollowedWithoutAStep()
@@ -287,6 +324,110 @@ void FollowedDocumentTest::savedIsTheDescription()
     f.document.open(description(), QStringLiteral("again.json"));
     QCOMPARE(f.measuredRed(), 0.69);
     QVERIFY(f.ownIs(description()));
+}
+
+void FollowedDocumentTest::showsAWallInPlaceOfTheOneBefore()
+{
+    Fixture f;
+    f.open(wall({"old"}));
+    f.document.showFollowed(pointOnly(), wall({"A1", "A2"}));
+    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
+    QCOMPARE(f.points(), QStringLiteral("grey"));
+    QCOMPARE(f.document.description().measured, QStringLiteral("Before")); // a wall is no gamut
+    QVERIFY(f.document.hasUnkept());
+    QVERIFY(!f.document.isModified());
+    QCOMPARE(f.document.own().wall.cabinets.front().name, QStringLiteral("old"));
+    QVERIFY(f.session.assessment().wall);
+    QCOMPARE(f.session.assessment().wall->cabinets.size(), std::size_t(2));
+    f.document.showFollowed(std::nullopt);
+    QCOMPARE(f.cabinets(), QStringLiteral("old"));
+    QVERIFY(!f.document.hasUnkept());
+}
+
+void FollowedDocumentTest::editsTakeNothingOfAWallOver()
+{
+    Fixture alone;
+    QVERIFY(alone.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    Fixture f;
+    f.document.showFollowed(pointOnly(), wall({"A1", "A2"}));
+    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    QVERIFY(f.ownIs(alone.document.description()));
+    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
+    f.session.fitToWall();
+    QVERIFY(f.document.own().wall.cabinets.empty());
+}
+
+void FollowedDocumentTest::keepsAWallAsOneStep()
+{
+    Fixture f;
+    f.open(wall({"old"}));
+    const DisplayDescription before = f.document.own();
+    f.document.showFollowed(pointOnly(), wall({"A1", "A2"}));
+    f.document.keepFollowed(QStringLiteral("keep meter"));
+    QCOMPARE(f.document.history()->count(), 1);
+    QVERIFY(!f.document.hasUnkept());
+    f.document.showFollowed(pointOnly(), wall({"A1", "A2", "A3"}));
+    QVERIFY(f.document.hasUnkept());
+    f.document.showFollowed(std::nullopt);
+    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
+    f.document.history()->undo();
+    QVERIFY(f.ownIs(before));
+    QCOMPARE(f.cabinets(), QStringLiteral("old"));
+}
+
+void FollowedDocumentTest::cabinetsThatAreLeftOutStaySo()
+{
+    const auto leftOut = [](const Fixture &f) {
+        QStringList names;
+        for (const WallCabinet &cabinet : f.document.description().wall.cabinets) {
+            if (cabinet.isLeftOut) {
+                names.append(cabinet.name);
+            }
+        }
+        return names.join(QLatin1Char(' '));
+    };
+    Fixture f;
+    f.document.showFollowed(pointOnly(), wall({"A1", "A2"}));
+    f.session.setLeftOut({1}, true);
+    QCOMPARE(f.document.history()->count(), 1);
+    QCOMPARE(leftOut(f), QStringLiteral("A2"));
+    QCOMPARE(f.document.own().wall.cabinets.size(), std::size_t(2)); // as it is then
+    f.document.showFollowed(pointOnly(), wall({"A0", "A1", "A2"}));
+    QCOMPARE(leftOut(f), QStringLiteral("A2"));
+    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    QCOMPARE(f.document.own().wall.cabinets.size(), std::size_t(2));
+    f.session.setLeftOut({0, 1, 2}, false);
+    QCOMPARE(leftOut(f), QString());
+    f.document.history()->undo();
+    QCOMPARE(leftOut(f), QStringLiteral("A2"));
+    f.document.history()->undo();
+    f.document.history()->undo();
+    QVERIFY(f.ownIs(description()));
+    QCOMPARE(leftOut(f), QString());
+}
+
+void FollowedDocumentTest::removedWallIsTheDescriptions()
+{
+    Fixture f;
+    f.document.showFollowed(pointOnly(), wall({"A1", "A2"}));
+    f.session.removeWall();
+    QVERIFY(f.ownIs(description()));
+    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
+}
+
+void FollowedDocumentTest::selectionStaysWithItsCabinet()
+{
+    Fixture f;
+    f.document.showFollowed(pointOnly(), wall({"A2", "A3"}));
+    f.session.selectCabinet(1);
+    QSignalSpy selected(&f.session, &TargetSession::selectedCabinetChanged);
+    f.document.showFollowed(pointOnly(), wall({"A2", "A3", "A4"}));
+    QVERIFY(selected.isEmpty());
+    f.document.showFollowed(pointOnly(), wall({"A1", "A2", "A3", "A4"})); // of which A1 is complete now
+    QCOMPARE(f.session.selectedCabinet(), std::optional<std::size_t>(2));
+    QCOMPARE(selected.size(), 1);
+    f.document.showFollowed(pointOnly(), wall({"A1", "A2", "A4"}));
+    QVERIFY(!f.session.selectedCabinet());
 }
 
 QTEST_GUILESS_MAIN(FollowedDocumentTest)

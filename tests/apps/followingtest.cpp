@@ -77,6 +77,8 @@ private Q_SLOTS:
     void tellsOncePerFrame();
     void doesALittleInEachTurn();
     void followsCabinets();
+    void followsAWall();
+    void takesLongerWhereItsSlotsDo();
     void readsStandardInputAsItComes();
     void awaitsTheNextWriterOfANamedPipe();
     void readsAStreamInAThread();
@@ -330,17 +332,72 @@ void FollowingTest::followsCabinets()
         }
     }
     QTRY_COMPARE(f.lines(), 9);
+    QCOMPARE(f.redX(), -1.0); // of two cabinets there is no gamut
     const auto cabinets = f.following->latest().cabinets();
     QCOMPARE(cabinets.size(), 2);
     QCOMPARE(cabinets.last().label(), QStringLiteral("1/2"));
     QVERIFY(cabinets.first().list.gamut(QString()));
-    QCOMPARE(f.redX(), 0.64);
 
     MeasurementOptions options;
     options.cabinet = QStringLiteral("1/1");
     f.follow(options);
     QTRY_COMPARE(f.lines(), 9);
     QCOMPARE(f.following->latest().cabinets().size(), 1);
+    QVERIFY(!f.following->wall());
+    QCOMPARE(f.redX(), 0.64);
+    QCOMPARE(f.following->file().name, QStringLiteral("wall: 1/1"));
+}
+
+void FollowingTest::followsAWall()
+{
+    FileFixture f;
+    const QByteArray first = "A1,Red,21,0.64,0.33\nA1,Green,71,0.3,0.6\nA1,Blue,7,0.15,0.06\nA1,grey,30,0.31,0.33\n";
+    f.overwrite("cabinet,name,Y (cd/m2),x,y\n" + first);
+    f.follow();
+    QTRY_COMPARE(f.lines(), 5);
+    QVERIFY(!f.following->wall());
+    QCOMPARE(f.redX(), -1.0); // a gamut needs its white
+    f.append("A1,White,99,0.3127,0.329\n");
+    QTRY_COMPARE(f.redX(), 0.64);
+    QCOMPARE(f.following->file().name, QStringLiteral("wall: A1"));
+
+    QSignalSpy measured(f.following.get(), &Following::measured);
+    f.append("A2,Red,22,0.65,0.33\n");
+    QTRY_VERIFY(f.following->wall());
+    QTRY_COMPARE(measured.size(), 1);
+    QCOMPARE(f.following->wall()->unit, LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(f.following->wall()->cabinets.size(), std::size_t(1));
+    QCOMPARE(f.following->wall()->incomplete.size(), std::size_t(1));
+    QCOMPARE(f.redX(), -1.0);
+    QCOMPARE(f.following->file().name, QStringLiteral("wall"));
+    QCOMPARE(f.following->file().measurements.measurements.size(), 2); // grey, and red of A2
+    f.append("A2,Green,71,0.3,0.6\nA2,Blue,7,0.15,0.06\n");
+    QTRY_COMPARE(f.following->wall()->cabinets.size(), std::size_t(2));
+    QVERIFY(f.following->wall()->incomplete.empty());
+    QCOMPARE(f.following->wall()->cabinets.back().red.x, 0.65);
+    QCOMPARE(f.following->file().measurements.measurements.size(), 1);
+    // Another file is another wall.
+    f.replace("cabinet,name,Y (cd/m2),x,y\n" + first);
+    QTRY_VERIFY(!f.following->wall());
+}
+
+void FollowingTest::takesLongerWhereItsSlotsDo()
+{
+    FileFixture f;
+    f.overwrite(header);
+    f.follow();
+    QTRY_COMPARE(f.lines(), 1);
+    constexpr int taken = 100; // milliseconds
+    QSignalSpy measured(f.following.get(), &Following::measured);
+    connect(f.following.get(), &Following::measured, this, [] { QThread::msleep(taken); });
+    QElapsedTimer time;
+    time.start();
+    while (time.elapsed() < 10 * taken) {
+        f.append("grey,21,0.31,0.33\n");
+        QTest::qWait(1);
+    }
+    QVERIFY(measured.size() >= 2);
+    QVERIFY2(measured.size() <= 4, qPrintable(QString::number(measured.size())));
 }
 
 void FollowingTest::readsStandardInputAsItComes()

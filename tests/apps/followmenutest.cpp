@@ -5,11 +5,15 @@
 #include "editing/targetsession.h"
 #include "following/followedfile.h"
 #include "following/following.h"
+#include "panel/cabinettable.h"
 #include "panel/sidepanel.h"
 #include "panel/stepbox.h"
 #include "panel/targeteditor.h"
 #include "panel/verdict.h"
+#include "panel/wallmap.h"
+#include "panel/wallverdict.h"
 #include "window/gamutsdialog.h"
+#include "window/wallpage.h"
 
 #include <QLineEdit>
 #include <QStatusBar>
@@ -20,6 +24,14 @@ namespace {
 
 const QByteArray gamut = QByteArrayLiteral("name,Y (cd/m2),x,y\nRed,240,0.7,0.299\nGreen,634,0.189,0.718\n"
                                            "Blue,126,0.133,0.075\nWhite,1000,0.2829,0.2971\n");
+
+const QByteArray cabinetHeader = QByteArrayLiteral("cabinet,row,column,name,Y (cd/m2),x,y\n");
+
+//! The lines of a cabinet without a white, which begin with \a columns.
+QByteArray cabinet(const QByteArray &columns, const QByteArray &red)
+{
+    return columns + "Red,240," + red + '\n' + columns + "Green,634,0.3,0.6\n" + columns + "Blue,126,0.15,0.06\n";
+}
 
 //! What cannot be read again, as from standard input.
 class Pipe : public FollowedInput {
@@ -48,6 +60,17 @@ struct FollowFixture : WindowFixture {
     {
         append(bytes);
         menu->follow(std::make_unique<FollowedFile>(path));
+    }
+    //! A display of which nothing else is known.
+    void openWithTarget()
+    {
+        Model::Targets target{Model::Target::fromYxy(85, 0.63, 0.335), Model::Target::fromYxy(286, 0.31, 0.59),
+            Model::Target::fromYxy(29, 0.155, 0.07), Model::Target::fromYxy(400, 0.3127, 0.329)};
+        target = *ceiechart::withWhite(target, QPointF(0.3127, 0.329));
+        DisplayDescription description;
+        description.gamuts.emplace_back(Model::ColorGamut("Wanted", target), LuminanceUnit::CandelaPerSquareMetre);
+        description.target = QStringLiteral("Wanted");
+        window->setDescription(description, QString());
     }
     void append(const QByteArray &bytes)
     {
@@ -78,6 +101,9 @@ private Q_SLOTS:
     void asksNothingOfAFile();
     void messagesStay();
     void typingIsNotDisturbed();
+    void showsAWallAsItIsMeasured();
+    void keepsAWall();
+    void namesTheGamutAfterTheOnlyCabinet();
     void namingIsNotDisturbed();
 };
 
@@ -256,6 +282,76 @@ void FollowMenuTest::typingIsNotDisturbed()
     f.append("Red,240,0.69,0.3\n");
     QTRY_COMPARE(f.measuredRed(), 0.69);
     QCOMPARE(line->text(), typed);
+}
+
+void FollowMenuTest::showsAWallAsItIsMeasured()
+{
+    FollowFixture f;
+    f.openWithTarget();
+    f.show(f.window->wallPage());
+    auto *map = f.window->wallPage()->map();
+    auto *verdict = f.window->wallPage()->verdict();
+    QVERIFY(!map->isVisible());
+    f.followFile(cabinetHeader + cabinet("A1,1,1,", "0.64,0.33") + "A2,1,2,Red,240,0.64,0.33\n");
+    QTRY_VERIFY(map->isVisible());
+    QCOMPARE(map->model()->columnCount(), 2);
+    const auto &wall = f.document().description().wall;
+    QCOMPARE(wall.cabinets.size(), std::size_t(1));
+    QCOMPARE(wall.incomplete.size(), std::size_t(1));
+    // What is not complete is not known, and no gamut says so of the display.
+    QVERIFY(f.document().description().measured.isEmpty());
+    QCOMPARE(f.window->session()->assessment().judgement(), Judgement::NotKnown);
+    QCOMPARE(f.document().description().measurePoints.size(), 1);
+    QCOMPARE(f.document().description().measurePoints.first().name, QStringLiteral("A2 1/2 Red"));
+    f.append("A2,1,2,Green,634,0.3,0.6\nA2,1,2,Blue,126,0.15,0.06\n");
+    QTRY_COMPARE(f.window->session()->assessment().judgement(), Judgement::Pass);
+    QVERIFY2(verdict->text().contains(QStringLiteral("✓")), qPrintable(verdict->text()));
+    QCOMPARE(wall.cabinets.size(), std::size_t(2));
+    // The last one is good, but the one before it is not.
+    f.append(cabinet("A3,1,3,", "0.5,0.33") + cabinet("A4,1,4,", "0.64,0.33"));
+    QTRY_COMPARE(wall.cabinets.size(), std::size_t(4));
+    QCOMPARE(f.window->session()->assessment().judgement(), Judgement::Fail);
+    QVERIFY2(verdict->text().contains(QStringLiteral("A3")), qPrintable(verdict->text()));
+    QCOMPARE(map->model()->columnCount(), 4);
+    QCOMPARE(f.window->wallPage()->table()->model()->rowCount(), 4);
+    f.append("A3,1,3,Red,240,0.64,0.33\n");
+    QTRY_COMPARE(f.window->session()->assessment().judgement(), Judgement::Pass);
+    QVERIFY(!f.document().isModified());
+}
+
+void FollowMenuTest::keepsAWall()
+{
+    FollowFixture f;
+    f.openWithTarget();
+    const QByteArray before = descriptionText(f.document().description());
+    f.followFile(cabinetHeader + cabinet("A1,1,1,", "0.64,0.33") + cabinet("A2,1,2,", "0.65,0.33"));
+    QTRY_COMPARE(f.document().description().wall.cabinets.size(), std::size_t(2));
+    QVERIFY(f.document().own().wall.cabinets.empty());
+    f.menu->stopAction()->trigger();
+    QCOMPARE(f.document().history()->count(), 1);
+    const auto whole = readGamutFile(f.path);
+    QVERIFY(whole);
+    DisplayDescription expected = *readDescription(before);
+    expected.wall = *wallFromMeasurements(whole->measurements);
+    QCOMPARE(descriptionText(f.document().own()), descriptionText(expected));
+    f.document().history()->undo();
+    QCOMPARE(descriptionText(f.document().description()), before);
+}
+
+void FollowMenuTest::namesTheGamutAfterTheOnlyCabinet()
+{
+    FollowFixture f;
+    f.openWithTarget();
+    f.followFile(cabinetHeader + cabinet("A1,1,1,", "0.64,0.33"));
+    QTRY_VERIFY(!f.menu->following()->file().measurements.measurements.isEmpty());
+    QTRY_COMPARE(f.menu->following()->state().measurements, 3);
+    QVERIFY(f.document().description().measured.isEmpty());
+    QCOMPARE(f.window->session()->assessment().judgement(), Judgement::NotKnown);
+    f.append("A1,1,1,White,1000,0.3127,0.329\n");
+    QTRY_COMPARE(f.document().description().measured, QStringLiteral("meter: A1 1/1"));
+    f.append("A2,1,2,Red,240,0.64,0.33\n");
+    QTRY_VERIFY(f.document().description().measured.isEmpty());
+    QVERIFY(!f.document().description().gamut(QStringLiteral("meter: A1 1/1")));
 }
 
 void FollowMenuTest::namingIsNotDisturbed()

@@ -6,6 +6,9 @@
 #include "editing/openedfiles.h"
 #include "editing/targetedits.h"
 
+#include <ceiechart/diagram/targetrules.h>
+
+#include <QSet>
 #include <QUndoCommand>
 
 #include <algorithm>
@@ -22,6 +25,47 @@ bool samePoints(const QVector<NamedPoint> &a, const QVector<NamedPoint> &b)
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const NamedPoint &one, const NamedPoint &other) {
         return one.name == other.name && one.xy.x() == other.xy.x() && one.xy.y() == other.xy.y();
     });
+}
+
+bool sameCabinets(const WallCabinet &a, const WallCabinet &b)
+{
+    const auto colors = [](const WallCabinet &of) {
+        return Model::Targets{of.red, of.green, of.blue, of.white.value_or(Model::Target())};
+    };
+    const auto black = [](const WallCabinet &of) {
+        return Model::Targets{of.black.value_or(Model::Target()), {}, {}, {}};
+    };
+    return a.name == b.name && a.row == b.row && a.column == b.column && a.isLeftOut == b.isLeftOut
+        && a.white.has_value() == b.white.has_value() && a.black.has_value() == b.black.has_value()
+        && ceiechart::sameTargets(colors(a), colors(b)) && ceiechart::sameTargets(black(a), black(b));
+}
+
+bool sameWalls(const DisplayWall &a, const DisplayWall &b)
+{
+    const auto sameIncomplete = [](const IncompleteCabinet &one, const IncompleteCabinet &other) {
+        return incompleteLabel(one) == incompleteLabel(other) && one.reason == other.reason;
+    };
+    return a.unit == b.unit
+        && std::equal(a.cabinets.begin(), a.cabinets.end(), b.cabinets.begin(), b.cabinets.end(), sameCabinets)
+        && std::equal(
+            a.incomplete.begin(), a.incomplete.end(), b.incomplete.begin(), b.incomplete.end(), sameIncomplete);
+}
+
+//! \a wall without the cabinets that \a before is judged without.
+DisplayWall withLeftOutOf(const DisplayWall &before, DisplayWall wall)
+{
+    QSet<QString> leftOut;
+    for (const WallCabinet &cabinet : before.cabinets) {
+        if (cabinet.isLeftOut) {
+            leftOut.insert(cabinet.label());
+        }
+    }
+    if (!leftOut.isEmpty()) {
+        for (WallCabinet &cabinet : wall.cabinets) {
+            cabinet.isLeftOut = leftOut.contains(cabinet.label());
+        }
+    }
+    return wall;
 }
 
 bool playsAnyRole(const DisplayDescription &description, const QString &gamutName)
@@ -152,9 +196,10 @@ void Document::cancelDrag()
     }
 }
 
-void Document::showFollowed(const std::optional<GamutFile> &measurements)
+void Document::showFollowed(const std::optional<GamutFile> &measurements, const std::optional<DisplayWall> &wall)
 {
     m_followed = measurements;
+    m_followedWall = measurements ? wall : std::nullopt;
     refresh();
     Q_EMIT changed();
 }
@@ -177,6 +222,9 @@ void Document::keepFollowed(const QString &text)
 void Document::refresh()
 {
     m_description = m_followed ? withFile(m_own, *m_followed, usualRole(*m_followed)) : m_own;
+    if (m_followedWall) {
+        m_description.wall = withLeftOutOf(m_own.wall, *m_followedWall);
+    }
 }
 
 //! \a edited, which was made from what is shown, without what is shown of the followed measurement.
@@ -200,6 +248,9 @@ DisplayDescription Document::withoutFollowed(const DisplayDescription &edited) c
     }
     if (samePoints(own.measurePoints, m_description.measurePoints)) {
         own.measurePoints = m_own.measurePoints;
+    }
+    if (m_followedWall && (own.wall.cabinets.empty() || sameWalls(own.wall, m_description.wall))) {
+        own.wall = m_own.wall;
     }
     return own;
 }

@@ -68,12 +68,15 @@ public:
     void cancelDrag();
 
     /*!
-     * \brief Shows \a measurements over the description as withFile() would add them; nothing: no longer.
+     * \brief Shows \a measurements over the description as withFile() would add them, and \a wall in place of its
+     * wall; nothing: no longer.
      *
      * That is no edit: it is neither a step of the history nor saved. An edit that is based on what is shown takes over
-     * nothing of it, but for a gamut that gets another part or another name by it.
+     * nothing of it, but for a gamut that gets another part or another name by it, and for a wall of which it leaves
+     * out a cabinet. The cabinets that own() leaves out are left out of \a wall, too.
      */
-    void showFollowed(const std::optional<GamutFile> &measurements);
+    void showFollowed(
+        const std::optional<GamutFile> &measurements, const std::optional<DisplayWall> &wall = std::nullopt);
     /*! \brief Whether a measurement is shown that own() does not have. */
     bool hasUnkept() const;
     /*! \brief Takes the measurement that is shown into the description, as one step of the history called \a text. */
@@ -104,6 +107,7 @@ private:
     DisplayDescription m_description;
     DisplayDescription m_own;
     std::optional<GamutFile> m_followed;
+    std::optional<DisplayWall> m_followedWall;
     DisplayDescription m_saved;
     QString m_fileName;
     QUndoStack m_history;

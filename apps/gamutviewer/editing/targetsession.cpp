@@ -13,6 +13,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace gamutviewer {
 
 namespace {
@@ -28,9 +30,7 @@ TargetSession::TargetSession(Document *document, QObject *parent)
     // Before all others hear of it.
     connect(document, &Document::changed, this, [this] {
         m_assessment.reset();
-        if (m_selectedCabinet && *m_selectedCabinet >= m_document->description().wall.cabinets.size()) {
-            selectCabinet(std::nullopt);
-        }
+        keepSelectedCabinet();
     });
     connect(document, &Document::opened, this, [this] { selectCabinet(std::nullopt); });
 }
@@ -45,10 +45,27 @@ const Assessment &TargetSession::assessment() const
 
 void TargetSession::selectCabinet(std::optional<std::size_t> cabinet)
 {
+    const auto &cabinets = m_document->description().wall.cabinets;
+    m_selectedLabel = cabinet && *cabinet < cabinets.size() ? cabinets[*cabinet].label() : QString();
     if (m_selectedCabinet != cabinet) {
         m_selectedCabinet = cabinet;
         Q_EMIT selectedCabinetChanged();
     }
+}
+
+//! A cabinet that is complete at last comes before those that were measured after it.
+void TargetSession::keepSelectedCabinet()
+{
+    if (!m_selectedCabinet) {
+        return;
+    }
+    const auto &cabinets = m_document->description().wall.cabinets;
+    const auto isSelected = [this](const WallCabinet &cabinet) { return cabinet.label() == m_selectedLabel; };
+    if (*m_selectedCabinet < cabinets.size() && isSelected(cabinets[*m_selectedCabinet])) {
+        return;
+    }
+    const auto found = std::find_if(cabinets.begin(), cabinets.end(), isSelected);
+    selectCabinet(found == cabinets.end() ? std::nullopt : std::make_optional(std::size_t(found - cabinets.begin())));
 }
 
 void TargetSession::setHoldWhite(bool hold)

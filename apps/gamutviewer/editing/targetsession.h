@@ -50,7 +50,11 @@ public:
 
     /*! \brief What can be said of the document by the tolerances, worked out once for each state. */
     const Assessment &assessment() const;
-    /*! \brief The cabinet of the wall that map, close looks and table mark, by its index; nothing for none. */
+    /*!
+     * \brief The cabinet of the wall that map, close looks and table mark, by its index; nothing for none.
+     *
+     * It stays the cabinet of that label when the wall changes.
+     */
     std::optional<std::size_t> selectedCabinet() const { return m_selectedCabinet; }
     void selectCabinet(std::optional<std::size_t> cabinet);
 
@@ -107,6 +111,7 @@ Q_SIGNALS:
     void refused(const QString &reason);
 
 private:
+    void keepSelectedCabinet();
     ceiechart::TargetMove edited(Vertex vertex, const QPointF &xy) const;
     LuminanceUnit unitAfterMoving(Vertex vertex) const;
     bool apply(const std::optional<Model::Targets> &targets, LuminanceUnit unit, const QString &text, int mergeKey);
@@ -117,6 +122,7 @@ private:
     std::optional<Vertex> m_selected = Vertex::Red;
     Vertex m_dragged = Vertex::Red;
     std::optional<std::size_t> m_selectedCabinet;
+    QString m_selectedLabel; // of that cabinet
     mutable std::optional<Assessment> m_assessment; // of the present state, once it has been asked for
 };
 

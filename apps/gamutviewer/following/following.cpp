@@ -18,6 +18,9 @@ constexpr int turnMilliseconds = 4;
 constexpr int linesPerLook = 16;
 constexpr int countMilliseconds = 250;
 constexpr int countsPerSecond = 1000 / countMilliseconds;
+//! What measured() brings about may take a third of the time, as for a wall of many cabinets.
+constexpr int pausePerTimeTaken = 2;
+constexpr int longestPauseMilliseconds = 1000;
 
 } // namespace
 
@@ -32,7 +35,13 @@ Following::Following(std::unique_ptr<FollowedInput> input, const MeasurementOpti
     m_frame.setSingleShot(true);
     m_frame.setTimerType(Qt::PreciseTimer);
     m_frame.setInterval(frameMilliseconds);
-    connect(&m_frame, &QTimer::timeout, this, &Following::measured);
+    connect(&m_frame, &QTimer::timeout, this, [this] {
+        QElapsedTimer time;
+        time.start();
+        Q_EMIT measured();
+        const int pause = int(std::min<qint64>(pausePerTimeTaken * time.elapsed(), longestPauseMilliseconds));
+        m_frame.setInterval(std::max(pause, frameMilliseconds));
+    });
     m_count.setInterval(countMilliseconds);
     connect(&m_count, &QTimer::timeout, this, &Following::countLines);
     connect(m_input.get(), &FollowedInput::arrived, this, [this] { m_turn.start(0); });
@@ -55,7 +64,15 @@ GamutFile Following::file() const
     GamutFile file;
     file.content = GamutFile::Content::Measurements;
     file.name = nameByFile(m_input->fileName());
-    file.measurements = m_latest->list();
+    if (m_latest->wall()) {
+        file.measurements = m_latest->listBesideWall();
+    } else {
+        file.measurements = m_latest->list();
+        const QString cabinet = m_latest->listedCabinet();
+        if (!cabinet.isEmpty()) {
+            file.name = QStringLiteral("%1: %2").arg(file.name, cabinet); // it is not that of the display
+        }
+    }
     file.measurements.recognized = m_stream->state().recognized;
     return file;
 }

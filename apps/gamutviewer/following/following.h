@@ -26,7 +26,10 @@ class Following : public QObject {
 public:
     /*! \brief As many lines are read at most before other events have their turn. */
     static constexpr int linesPerTurn = 256;
-    /*! \brief measured() comes no sooner after the one before: 60 of them are a second. */
+    /*!
+     * \brief measured() comes no sooner after the one before: 60 of them are a second. It comes later where its slots
+     * take longer.
+     */
     static constexpr int frameMilliseconds = 16;
 
     Following(std::unique_ptr<FollowedInput> input, const MeasurementOptions &options, QObject *parent = nullptr);
@@ -36,8 +39,14 @@ public:
     const MeasurementStreamState &state() const { return m_stream->state(); }
     /*! \brief What the measurement has come to, also by cabinets. */
     const LatestMeasurements &latest() const { return *m_latest; }
-    /*! \brief The same as if a file had been read that has nothing but it. */
+    /*!
+     * \brief The same as if a file had been read that has nothing but it, but for wall(): what that has is not in it.
+     *
+     * It is named after what is followed and, where it has the gamut of a cabinet, after the cabinet.
+     */
     GamutFile file() const;
+    /*! \brief The cabinets that have been measured so far; nothing for a list that is not of a wall, or not yet. */
+    const std::optional<DisplayWall> &wall() const { return m_latest->wall(); }
     /*! \brief How many lines came in the last second. */
     int linesPerSecond() const { return m_linesPerSecond; }
     /*! \brief The most lines that were read in one turn of the event loop. */

@@ -60,7 +60,7 @@ void FollowMenu::followByDialog()
 
 void FollowMenu::show()
 {
-    m_document->showFollowed(m_following->file());
+    m_document->showFollowed(m_following->file(), m_following->wall());
 }
 
 void FollowMenu::keep()
