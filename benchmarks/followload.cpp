@@ -1,17 +1,20 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 // What the gamut viewer does while it follows a measurement: a thread appends lines to a file, or writes them to a
-// pipe, at a steady rate, and the program tells every few seconds how much memory it has and how long its event loop
-// was away.
+// pipe, at a steady rate, of a gamut or of the cabinets of a wall, and the program tells every few seconds how much
+// memory it has and how long its event loop was away.
 #include "editing/document.h"
+#include "editing/targetedits.h"
 #include "following/following.h"
 #include "program/streaminput.h"
 #include "window/followmenu.h"
 #include "window/viewerwindow.h"
+#include "window/wallpage.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -62,18 +65,45 @@ QByteArray measured(int i)
         + QByteArray::number(color.y - 0.002 * noise, 'f', 4) + '\n';
 }
 
-void append(const QString &fileName, int linesPerSecond, int seconds)
+//! Of a wall of 25 × 40 cabinets that is measured again and again.
+QByteArray measuredOfWall(int i)
+{
+    constexpr int cabinets = 1000;
+    constexpr int inRow = 40;
+    static const struct {
+        const char *name;
+        double Y, x, y;
+    } colors[] = {{"Red", 311.7, 0.7000, 0.2996}, {"Green", 597.1, 0.1916, 0.7582}, {"Blue", 91.95, 0.1331, 0.0520},
+        {"Black", 0.4406, 0.3800, 0.3800}};
+    const double noise = (i * 7919 % 1000 - 500) / 500.0;
+    const auto &color = colors[i % 4];
+    const int cabinet = i / 4 % cabinets;
+    const auto number = [](double value, int decimals) { return ',' + QByteArray::number(value, 'f', decimals); };
+    return 'C' + QByteArray::number(cabinet) + number(cabinet / inRow, 0) + number(cabinet % inRow, 0) + ','
+        + color.name + number(color.Y * (1.0 + 0.1 * noise), 4) + number(color.x + 0.002 * noise, 4)
+        + number(color.y - 0.002 * noise, 4) + '\n';
+}
+
+//! Something to judge the wall by.
+gamutviewer::DisplayDescription descriptionWithTarget()
+{
+    gamutviewer::DisplayDescription description;
+    description.target = QStringLiteral("DCI-P3(D65)");
+    return gamutviewer::withLuminanceUnit(description, gamutviewer::LuminanceUnit::CandelaPerSquareMetre, 500.0);
+}
+
+void append(const QString &fileName, int linesPerSecond, int seconds, bool isWall)
 {
     using Clock = std::chrono::steady_clock;
     QFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         return;
     }
-    file.write("name,Y (cd/m2),x,y\n");
+    file.write(isWall ? "cabinet,row,column,name,Y (cd/m2),x,y\n" : "name,Y (cd/m2),x,y\n");
     const auto begin = Clock::now();
     for (qint64 i = 0; i < qint64(linesPerSecond) * seconds; ++i) {
         std::this_thread::sleep_until(begin + std::chrono::microseconds(i * 1000000 / linesPerSecond));
-        file.write(measured(int(i)));
+        file.write(isWall ? measuredOfWall(int(i)) : measured(int(i)));
     }
 }
 
@@ -95,8 +125,9 @@ int main(int argc, char **argv)
     const int linesPerSecond = argc > 1 ? QByteArray(argv[1]).toInt() : 1000;
     const int seconds = argc > 2 ? QByteArray(argv[2]).toInt() : 60;
     const bool isPipe = argc > 3 && QByteArray(argv[3]) == "pipe";
-    if (linesPerSecond <= 0 || seconds <= 0 || (argc > 3 && !isPipe)) {
-        std::puts("followload [lines per second] [seconds] [pipe]");
+    const bool isWall = argc > 3 && QByteArray(argv[3]) == "wall";
+    if (linesPerSecond <= 0 || seconds <= 0 || (argc > 3 && !isPipe && !isWall)) {
+        std::puts("followload [lines per second] [seconds] [pipe|wall]");
         return 2;
     }
     QTemporaryDir folder;
@@ -107,10 +138,14 @@ int main(int argc, char **argv)
     }
     gamutviewer::ViewerWindow window;
     window.setOpened({});
+    if (isWall) {
+        window.setDescription(descriptionWithTarget(), QString());
+        window.pages()->setCurrentWidget(window.wallPage());
+    }
     window.resize(1280, 900);
     window.show();
     window.followMenu()->follow(gamutviewer::inputToFollow(fileName).input);
-    std::thread instrument(append, fileName, linesPerSecond, seconds);
+    std::thread instrument(append, fileName, linesPerSecond, seconds, isWall);
 
     // What waits for its turn waits as long as this timer.
     QTimer beat;
