@@ -59,8 +59,8 @@ public:
      * \brief The cabinets that are kept as a wall, as wallFromMeasurements() makes it of a whole list: in the order in
      * which they came first. Nothing unless two cabinets have been named and one of them has red, green and blue.
      *
-     * It is worked out when it is asked for after a colour of a cabinet has changed. The reference is valid until the
-     * next measurement is added.
+     * It is worked out when it is asked for after a colour of a cabinet has changed. The reference is valid until
+     * anything is added or forgotten.
      */
     const std::optional<DisplayWall> &wall() const;
     /*! \brief The last colours, as list() has them, without those of the cabinets that wall() has complete. */
