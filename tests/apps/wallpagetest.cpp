@@ -28,6 +28,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QToolButton>
 
 using namespace gamutviewer;
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void tableAndDotsSelect();
     void quantityIsChosen();
     void fitIsOneStep();
+    void fitIsOfferedAlikeOnPageAndPanel();
     void cabinetIsLeftOut();
     void draggingTheTargetIsFollowed();
     void cabinetsWithoutAPosition();
@@ -286,6 +288,30 @@ void WallPageTest::fitIsOneStep()
     QCOMPARE(refused.count(), 1);
     QVERIFY(refused.first().first().toString().contains(QStringLiteral("have no colour in common")));
     QCOMPARE(f.document().history()->count(), 0);
+}
+
+void WallPageTest::fitIsOfferedAlikeOnPageAndPanel()
+{
+    DisplayDescription d = oneDim();
+    d.gamuts.front().unit = LuminanceUnit::NotKnown;
+    d.wall.cabinets[5].red = color(200.0, 0.60, 0.33);
+    WallFixture f(d);
+    QToolButton *ofPage = f.page()->verdict()->fitButton();
+    const auto buttons = f.window->panel()->verdict()->findChildren<QPushButton *>();
+    const auto found = std::find_if(buttons.begin(), buttons.end(),
+        [](const QPushButton *button) { return button->text() == QLatin1String("F&it target to the wall"); });
+    QVERIFY(found != buttons.end());
+    QVERIFY(ofPage->isEnabled());
+    QVERIFY((*found)->isEnabled());
+    QTest::mouseClick(ofPage, Qt::LeftButton);
+    QCOMPARE(f.document().history()->count(), 1);
+    // Its luminance is not known to be reached still, but there is nothing more to fit.
+    QVERIFY(f.window->session()->assessment().wall->judgement == Judgement::NotKnown);
+    QVERIFY(!ofPage->isEnabled());
+    QVERIFY(!(*found)->isEnabled());
+    f.document().history()->undo();
+    QVERIFY(ofPage->isEnabled());
+    QVERIFY((*found)->isEnabled());
 }
 
 void WallPageTest::cabinetIsLeftOut()

@@ -242,6 +242,13 @@ void TargetSession::fitToDisplay()
     }
 }
 
+bool TargetSession::offersFitToWall() const
+{
+    const auto target = m_document->description().gamut(m_document->description().target);
+    const auto &wall = assessment().wall;
+    return target && wall && (wall->judgement == Judgement::Fail || fittedToWall(*target, *wall));
+}
+
 void TargetSession::fitToWall()
 {
     const auto target = m_document->description().gamut(m_document->description().target);

@@ -77,6 +77,8 @@ public:
      * many decimals as are shown, that lies inside. Does nothing when none lies outside.
      */
     void fitToDisplay();
+    /*! \brief Whether there is anything for fitToWall() to do, or to say: why a target that fails cannot be fitted. */
+    bool offersFitToWall() const;
     /*!
      * \brief Puts the target that is fitted to the wall in place of the target, as one step; tells, as refused(), why
      * that cannot be done.

@@ -60,11 +60,12 @@ void Verdict::refresh()
     const auto exceeded = exceededDisplay(description);
     const auto into = exceeded ? exceeded : knownDisplay(description);
     // What the display's gamuts have nothing against, the cabinets of its wall may have.
-    m_fitsWall = !exceeded && assessment.wall && (!into || assessment.wall->judgement == Judgement::Fail);
+    const bool offersWall = m_session->offersFitToWall();
+    m_fitsWall = !exceeded && assessment.wall && (!into || offersWall);
     m_fit->setText(m_fitsWall          ? tr("F&it target to the wall")
             : into && into->isMeasured ? tr("&Move inside the measured gamut")
                                        : tr("&Move inside the original"));
-    m_fit->setEnabled(exceeded || (m_fitsWall && assessment.wall->judgement == Judgement::Fail));
+    m_fit->setEnabled(exceeded || (m_fitsWall && offersWall));
 }
 
 } // namespace gamutviewer

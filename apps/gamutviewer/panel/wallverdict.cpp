@@ -118,7 +118,7 @@ void WallVerdict::refresh()
             {{tr("What they are to show is not known: nobody has chosen a target. Choose one, or edit the default."),
                 QVariant()}});
     }
-    m_fit->setEnabled(assessment && assessment->judgement != Judgement::Pass);
+    m_fit->setEnabled(m_session->offersFitToWall());
     m_export->setEnabled(assessment && assessment->correction.fault == Model::WallFault::None);
     const auto without = cabinetsToLeaveOut();
     m_without->setVisible(!without.empty());
