@@ -25,6 +25,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QClipboard>
+#include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -51,6 +52,8 @@ private Q_SLOTS:
     void incompleteCabinetsAreShown();
     void sampleWallIsOpened();
     void tableIsSorted();
+    void headersTakeTwoLines();
+    void valuesDoNotFillTheirCells();
     void tableIsCopiedWhole();
     void wallIsRemoved();
     void verdictOfThePanelFitsToTheWall();
@@ -462,6 +465,53 @@ void WallPageTest::tableIsSorted()
     table->sortByColumn(CabinetModel::Headroom, Qt::DescendingOrder);
     QCOMPARE(f.selectedName(), QStringLiteral("A1"));
     QCOMPARE(name(table->currentIndex().row()), QStringLiteral("✓ A1"));
+}
+
+void WallPageTest::headersTakeTwoLines()
+{
+    WallFixture f(oneDim());
+    CabinetTable *table = f.page()->table();
+    QHeaderView *header = table->horizontalHeader();
+    const QFontMetrics metrics(header->font());
+    const auto width = [&](int column) { return header->sectionSize(column); };
+    const auto isWhole = [&](int column) {
+        const QString title = table->model()->headerData(column, Qt::Horizontal).toString();
+        const QRect needed
+            = metrics.boundingRect(QRect(0, 0, width(column), 1000), Qt::AlignLeft | Qt::TextWordWrap, title);
+        const int value = metrics.horizontalAdvance(table->model()->index(0, column).data().toString());
+        return needed.width() <= width(column) && needed.height() <= header->height() && value <= width(column);
+    };
+    for (int column = 0; column < CabinetModel::ColumnCount; ++column) {
+        QVERIFY2(isWhole(column), qPrintable(QString::number(column)));
+        const int flags = table->model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
+        QVERIFY(flags & Qt::TextWordWrap);
+    }
+    for (const int column : {int(CabinetModel::LimitedBy), int(CabinetModel::UvBefore), int(CabinetModel::UvAfter)}) {
+        const QString title = table->model()->headerData(column, Qt::Horizontal).toString();
+        QVERIFY2(width(column) < metrics.horizontalAdvance(title), qPrintable(title));
+    }
+    // The arrow of the column that is sorted by gets room of its own.
+    const int before = width(CabinetModel::Headroom);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
+        QPoint(header->sectionViewportPosition(CabinetModel::Headroom) + before / 2, header->height() / 2));
+    QVERIFY(width(CabinetModel::Headroom) > before);
+    table->sortByJudgement();
+    QCOMPARE(width(CabinetModel::Headroom), before);
+}
+
+void WallPageTest::valuesDoNotFillTheirCells()
+{
+    for (const char *value : {"+112 %", "−12 %", "0.0123", "1061"}) {
+        for (const double width : {26.0, 40.0, 52.0}) {
+            const QString text = QString::fromUtf8(value);
+            const WallCellFonts fonts = wallCellFonts(QGuiApplication::font(), QSizeF(width, width * 1.25), text, 3);
+            QVERIFY(fonts.hasValues);
+            const double taken
+                = QFontMetricsF(fonts.value).horizontalAdvance(fonts.isCompact ? compactValue(text) : text);
+            QVERIFY2(taken <= 0.9 * width, qPrintable(QStringLiteral("%1: %2 of %3").arg(text).arg(taken).arg(width)));
+            QVERIFY2(taken >= 0.4 * width, qPrintable(QStringLiteral("%1: %2 of %3").arg(text).arg(taken).arg(width)));
+        }
+    }
 }
 
 void WallPageTest::tableIsCopiedWhole()

@@ -26,6 +26,7 @@ constexpr int leastPixels = 7; // of letters that can be read
 constexpr int longestShownName = 8;
 constexpr double cellGap = 1.5;
 constexpr double smallCell = 8.0; // below it there is no gap
+constexpr double filledWidth = 0.84; // of a cell, by its text
 
 //! Black or white, whichever stands out from \a color: by relative luminance (WCAG 2.1).
 QColor textOn(const QColor &color)
@@ -223,17 +224,24 @@ WallCellFonts wallCellFonts(const QFont &font, const QSizeF &cell, const QString
 {
     WallCellFonts fonts;
     const double largest = QFontMetricsF(font).height() * 0.8; // about its size in pixels
-    const auto fitted = [&](int letters, double share) {
-        // Digits and capitals are about six tenths of the size wide.
-        const double byWidth = (cell.width() - 3.0) / (0.6 * letters);
-        return int(std::floor(std::min({byWidth, cell.height() * share, largest})));
+    // \a ems: how wide a text is, as a part of the size.
+    const auto fitted = [&](double ems, double share) {
+        const double room = std::min(cell.width() - 3.0, cell.width() * filledWidth);
+        return int(std::floor(std::min({room / std::max(ems, 0.1), cell.height() * share, largest})));
     };
-    int value = fitted(int(longest.size()), 0.36);
+    const auto widthOf = [&font](const QString &text) {
+        constexpr int size = 100; // pixels, large enough that rounding to whole ones does not matter
+        QFont sample = font;
+        sample.setPixelSize(size);
+        return QFontMetricsF(sample).horizontalAdvance(text) / size;
+    };
+    int value = fitted(widthOf(longest), 0.36);
     if (value < leastPixels + 1) {
         fonts.isCompact = true;
-        value = fitted(int(compactValue(longest).size()), 0.36);
+        value = fitted(widthOf(compactValue(longest)), 0.36);
     }
-    const int name = std::min(fitted(nameLength, 0.30), value);
+    // Capitals and digits are about six tenths of the size wide.
+    const int name = std::min(fitted(0.6 * nameLength, 0.30), value);
     fonts.hasValues = value >= leastPixels;
     fonts.hasNames = fonts.hasValues && name >= leastPixels;
     fonts.value = font;

@@ -259,7 +259,7 @@ QVariant CabinetModel::headerData(int section, Qt::Orientation orientation, int 
         return QVariant();
     }
     if (role == Qt::TextAlignmentRole) {
-        return int((section <= LimitedBy ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        return int((section <= LimitedBy ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter) | Qt::TextWordWrap;
     }
     const bool isTip = role == Qt::ToolTipRole;
     if (role != Qt::DisplayRole && !isTip) {

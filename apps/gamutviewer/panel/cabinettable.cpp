@@ -10,10 +10,26 @@
 #include <QClipboard>
 #include <QEvent>
 #include <QHeaderView>
+#include <QStyle>
 
 #include <algorithm>
 
 namespace gamutviewer {
+
+namespace {
+
+//! The width with which \a title fits into two lines, broken between words.
+int twoLineWidth(const QString &title, const QFontMetrics &metrics)
+{
+    int least = metrics.horizontalAdvance(title);
+    for (int at = title.indexOf(QLatin1Char(' ')); at >= 0; at = title.indexOf(QLatin1Char(' '), at + 1)) {
+        least = std::min(
+            least, std::max(metrics.horizontalAdvance(title.left(at)), metrics.horizontalAdvance(title.mid(at + 1))));
+    }
+    return least;
+}
+
+} // namespace
 
 CabinetTable::CabinetTable(TargetSession *session, QWidget *parent)
     : QTableView(parent)
@@ -37,6 +53,7 @@ CabinetTable::CabinetTable(TargetSession *session, QWidget *parent)
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     setSortingEnabled(true);
     fitColumns();
+    connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &CabinetTable::fitColumns);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex &current) {
         if (!m_isShowing && current.isValid()) {
             m_session->selectCabinet(m_model->cabinetIn(current.row()));
@@ -81,21 +98,27 @@ void CabinetTable::showSelection()
     m_isShowing = false;
 }
 
-//! Each as wide as its header and its widest usual value, whatever is shown: it must not change in a drag.
+//! Each as wide as its header, which may take two lines, and its widest usual value, whatever is shown: it must not
+//! change in a drag.
 void CabinetTable::fitColumns()
 {
     m_unit = m_model->headerData(CabinetModel::White, Qt::Horizontal).toString();
-    constexpr int padding = 10;
+    constexpr int padding = 8;
     const QFontMetrics metrics(font());
-    horizontalHeader()->setFont(font());
+    QHeaderView *header = horizontalHeader();
+    header->setFont(font());
+    header->setFixedHeight(2 * metrics.height() + 6);
     QFont bold = font();
     bold.setBold(true);
     const QFontMetrics wide(bold);
+    // What styles keep free for the arrow of the column that is sorted by.
+    const int arrow = header->height() / 2 + 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
     for (int column = 0; column < CabinetModel::ColumnCount; ++column) {
         const QString title = m_model->headerData(column, Qt::Horizontal).toString();
-        const int header = QFontMetrics(horizontalHeader()->font()).horizontalAdvance(title);
         const QString widest = column == CabinetModel::Name ? QStringLiteral("✗ AB12") : QStringLiteral("0.0000");
-        setColumnWidth(column, std::max(header, wide.horizontalAdvance(widest)) + padding);
+        const int sorted = header->sortIndicatorSection() == column ? arrow : 0;
+        setColumnWidth(
+            column, std::max(twoLineWidth(title, metrics) + sorted, wide.horizontalAdvance(widest)) + padding);
     }
     verticalHeader()->setDefaultSectionSize(metrics.height() + 6);
 }

@@ -64,7 +64,7 @@ WallPage::WallPage(TargetSession *session, QWidget *parent)
     parts->addWidget(buildNumbers());
     parts->setStretchFactor(0, 1);
     parts->setStretchFactor(1, 1);
-    parts->setSizes({1000, 1000}); // halves of any width
+    parts->setSizes({1000, 1050}); // of any width
     all->addWidget(parts, 1);
     connect(m_verdict, &WallVerdict::exportWanted, this, &WallPage::exportWanted);
     connect(session, &TargetSession::selectedCabinetChanged, m_verdict, [this] {
