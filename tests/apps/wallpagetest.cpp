@@ -44,6 +44,7 @@ private Q_SLOTS:
     void arrowsSelectInMapLooksAndTable();
     void tableAndDotsSelect();
     void quantityIsChosen();
+    void quantityThatIsKnownIsShownFirst();
     void fitIsOneStep();
     void fitIsOfferedAlikeOnPageAndPanel();
     void cabinetIsLeftOut();
@@ -263,6 +264,28 @@ void WallPageTest::quantityIsChosen()
         QVERIFY(f.page()->legend()->accessibleName() != legend);
         legend = f.page()->legend()->accessibleName();
     }
+}
+
+void WallPageTest::quantityThatIsKnownIsShownFirst()
+{
+    // Luminances that cannot be compared have no headroom.
+    DisplayDescription d = oneDim();
+    d.gamuts.front().unit = LuminanceUnit::NotKnown;
+    WallFixture f(d);
+    QCOMPARE(f.page()->quantity(), WallQuantity::Luminance);
+    QCOMPARE(f.page()->map()->indexOf(5).data().toString(), QStringLiteral("880"));
+    QCOMPARE(f.page()->picture().wall->quantity, WallQuantity::Luminance);
+    f.window->setDescription(oneDim(), QString());
+    QCOMPARE(f.page()->quantity(), WallQuantity::Headroom);
+    // Once the user has chosen, that stays.
+    for (QAction *action : f.page()->quantities()->actions()) {
+        if (WallQuantity(action->data().toInt()) == WallQuantity::Headroom) {
+            action->trigger();
+        }
+    }
+    f.window->setDescription(d, QString());
+    QCOMPARE(f.page()->quantity(), WallQuantity::Headroom);
+    QCOMPARE(f.page()->map()->indexOf(5).data().toString(), QStringLiteral("–"));
 }
 
 void WallPageTest::fitIsOneStep()

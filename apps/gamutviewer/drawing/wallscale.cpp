@@ -149,6 +149,18 @@ QString wallValueText(const CabinetAssessment &cabinet, WallQuantity quantity)
     return value ? numberText(quantity, *value) : undefinedText();
 }
 
+WallQuantity usualQuantity(const WallAssessment *assessment)
+{
+    for (const WallQuantity quantity : {WallQuantity::Headroom, WallQuantity::Luminance, WallQuantity::UvBefore}) {
+        const auto isKnown
+            = [quantity](const CabinetAssessment &cabinet) { return wallValue(cabinet, quantity).has_value(); };
+        if (assessment && std::any_of(assessment->cabinets.begin(), assessment->cabinets.end(), isKnown)) {
+            return quantity;
+        }
+    }
+    return WallQuantity::Headroom;
+}
+
 WallScale::WallScale(WallQuantity quantity, const std::vector<CabinetAssessment> &cabinets, LuminanceUnit unit)
     : m_quantity(quantity)
 {

@@ -39,6 +39,12 @@ std::optional<double> wallValue(const CabinetAssessment &cabinet, WallQuantity q
 QString wallValueText(const CabinetAssessment &cabinet, WallQuantity quantity);
 
 /*!
+ * \brief What a map of the wall of \a assessment, which may be null, is coloured by unless somebody chooses: the
+ * headroom, or where it is known of no cabinet, the luminance, or else Δu′v′ of the white.
+ */
+WallQuantity usualQuantity(const WallAssessment *assessment);
+
+/*!
  * \brief The colours of a quantity: few steps of even width, the outer ones open to all that is beyond.
  *
  * The colours are the sequential schemes "Oranges" and "Blues" of ColorBrewer 2.0 (C. Brewer, M. Harrower and The

@@ -518,8 +518,9 @@ Picture CommandLine::picture(const DisplayDescription &description, const std::o
     picture.isLibraryChart = m_isLibraryChart;
     picture.view = ceiechart::DiagramViewport(m_diagram, m_extent.size);
     if (m_isWall) {
-        picture.wall = std::make_shared<const WallPicture>(
-            WallPicture{description.wall, assess(description).wall, WallQuantity::Headroom});
+        const auto wall = assess(description).wall;
+        picture.wall
+            = std::make_shared<const WallPicture>(WallPicture{description.wall, wall, usualQuantity(wall.get())});
     }
     if (const ceiechart::DiagramGamut *target = picture.content.find(ceiechart::GamutRole::Target)) {
         const Model::Targets &targets = target->gamut.getTargets();

@@ -116,7 +116,6 @@ void WallPage::buildQuantities(QHBoxLayout *bar)
         action->setCheckable(true);
         action->setData(int(quantity));
         action->setToolTip(wallQuantityDescription(quantity));
-        action->setChecked(quantity == WallQuantity::Headroom);
         m_quantities->addAction(action);
         addAction(action);
         auto *button = new AccentButton(this);
@@ -126,7 +125,11 @@ void WallPage::buildQuantities(QHBoxLayout *bar)
         bar->addWidget(button);
     }
     bar->addStretch();
-    connect(m_quantities, &QActionGroup::triggered, this, &WallPage::refreshMaps);
+    choose(WallQuantity::Headroom);
+    connect(m_quantities, &QActionGroup::triggered, this, [this] {
+        m_isQuantityChosen = true;
+        refreshMaps();
+    });
 }
 
 QWidget *WallPage::buildNumbers()
@@ -189,6 +192,13 @@ QStringList WallPage::hints() const
         tr("Arrows: next cabinet   Esc: none   Ctrl+C in the table: copy it"), tr("Arrows: next cabinet   Esc: none")};
 }
 
+void WallPage::choose(WallQuantity quantity)
+{
+    for (QAction *action : m_quantities->actions()) {
+        action->setChecked(WallQuantity(action->data().toInt()) == quantity);
+    }
+}
+
 WallQuantity WallPage::quantity() const
 {
     return WallQuantity(m_quantities->checkedAction()->data().toInt());
@@ -210,6 +220,9 @@ void WallPage::refresh()
     const bool hasWall = !wall.cabinets.empty();
     m_stack->setCurrentWidget(hasWall ? m_content : m_note);
     setFocusInside(hasWall ? static_cast<QWidget *>(m_map->isEmpty() ? m_unplaced : m_map) : m_note);
+    if (!m_isQuantityChosen) {
+        choose(usualQuantity(m_session->assessment().wall.get()));
+    }
     // Without a wall all of them let go of what they have of the former one.
     m_verdict->refresh();
     refreshMaps();

@@ -47,7 +47,10 @@ public:
     /*! \brief Names the cabinets that were measured incompletely; hidden while there are none. */
     QLabel *incompleteNote() const { return m_incomplete; }
     CloseLook *closeLook(ceiechart::GamutVertex primary) const { return m_looks.at(std::size_t(primary)); }
-    /*! \brief Chooses what the map is coloured by; its actions carry a WallQuantity. */
+    /*!
+     * \brief Chooses what the map is coloured by; its actions carry a WallQuantity. Until the user has chosen one, it
+     * is usualQuantity().
+     */
     QActionGroup *quantities() const { return m_quantities; }
     WallQuantity quantity() const;
     /*! \brief What is shown without a wall. */
@@ -65,6 +68,7 @@ private:
     QWidget *buildMaps();
     QWidget *buildNumbers();
     void buildQuantities(QHBoxLayout *bar);
+    void choose(WallQuantity quantity);
     void refreshMaps();
     void refreshIncomplete();
     void shareRoom();
@@ -75,6 +79,7 @@ private:
     QWidget *m_content;
     WallVerdict *m_verdict;
     QActionGroup *m_quantities;
+    bool m_isQuantityChosen = false; // by the user
     QLabel *m_extent;
     QWidget *m_maps;
     WallMap *m_map;
