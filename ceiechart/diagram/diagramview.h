@@ -258,6 +258,14 @@ Q_SIGNALS:
     void hoverEnded();
 
 protected:
+    /*!
+     * \brief Paints what a derived view adds to the diagram, below target, handles and labels; nothing by default.
+     *
+     * Called whenever the view is painted, with \a painter in logical pixels of the view and clipped to what is needed.
+     * paint() and toImage() do not have it.
+     */
+    virtual void paintBelowTarget(QPainter *painter);
+
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

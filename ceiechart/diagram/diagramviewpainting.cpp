@@ -249,6 +249,8 @@ QImage DiagramView::toImage(const QSize &size, qreal devicePixelRatio) const
     return image;
 }
 
+void DiagramView::paintBelowTarget(QPainter *) { }
+
 void DiagramView::paintEvent(QPaintEvent *event)
 {
     QPainter p(this);
@@ -271,6 +273,9 @@ void DiagramView::paintEvent(QPaintEvent *event)
         } else {
             p.drawImage(QPointF(), d->linesPicture());
         }
+        p.save();
+        paintBelowTarget(&p);
+        p.restore();
         d->painter->paintEdited(&p, event->region());
         d->overlay.paint(p, d->viewport.plot(), palette, font(), event->region());
     }

@@ -44,48 +44,19 @@ QString wallNote(const DisplayWall &wall, const WallAssessment &assessment, Vert
 } // namespace
 
 DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches, QWidget *parent)
-    : DiagramView(parent)
-    , m_session(session)
+    : TargetView(session, parent)
     , m_switches(switches)
 {
-    setReadoutShown(false); // the window has it for all views
-    connect(this, &DiagramView::editingStarted, this,
-        [this] { m_session->beginDrag(selectedVertex().value_or(m_session->selected().value_or(Vertex::Red))); });
-    connect(this, &DiagramView::targetEdited, this,
-        [this](const Model::ColorGamut &gamut) { m_session->dragTo(gamut.getTargets()); });
-    connect(this, &DiagramView::editingCanceled, m_session, &TargetSession::cancelDrag);
-    connect(this, &DiagramView::editingFinished, m_session, &TargetSession::endDrag);
     // What came with the drag, such as the name of an edited target, is shown from then on.
     connect(this, &DiagramView::editingFinished, this, &DocumentView::refresh);
-    connect(this, &DiagramView::editRefused, m_session, &TargetSession::refuse);
-    connect(this, &DiagramView::selectedVertexChanged, this, [this] {
-        // Without handles none can be selected here, which says nothing of the others.
-        const ceiechart::DiagramGamut *target = content().find(ceiechart::GamutRole::Target);
-        if (selectedVertex() || (!isReadOnly() && target && content().shows(*target))) {
-            m_session->select(selectedVertex());
-        }
-    });
-    connect(session, &TargetSession::selectionChanged, this, [this] {
-        if (!isReadOnly()) {
-            setSelectedVertex(m_session->selected());
-        }
-    });
     connect(session, &TargetSession::tolerancesChanged, this, &DocumentView::refresh);
-    connect(session, &TargetSession::rulesChanged, this, &DocumentView::applyRules);
-    connect(session, &TargetSession::dragCanceled, this, &DiagramView::cancelEditing);
-    applyRules();
-}
-
-void DocumentView::applyRules()
-{
-    setRules(m_session->rules());
 }
 
 void DocumentView::note()
 {
-    const auto selected = m_session->selected();
-    const DisplayDescription &description = m_session->document()->description();
-    const auto &wall = m_session->assessment().wall;
+    const auto selected = session()->selected();
+    const DisplayDescription &description = session()->document()->description();
+    const auto &wall = session()->assessment().wall;
     const QString ofWall = selected && wall ? wallNote(description.wall, *wall, *selected) : QString();
     if (!ofWall.isEmpty()) {
         setEditNote(ofWall);
@@ -100,25 +71,21 @@ void DocumentView::note()
 
 QVector<ceiechart::DiagramRings> DocumentView::rings() const
 {
-    const Document *document = m_session->document();
+    const Document *document = session()->document();
     const auto target = document->target();
     if (!target) {
         return {};
     }
     // A default is not judged.
-    return targetRings(target->getTargets(), document->targetIsDefault() ? std::nullopt : m_session->tolerances());
+    return targetRings(target->getTargets(), document->targetIsDefault() ? std::nullopt : session()->tolerances());
 }
 
 void DocumentView::refresh()
 {
-    const Document *document = m_session->document();
+    const Document *document = session()->document();
     note();
     if (isEditing()) {
-        const auto shown = gamut(ceiechart::GamutRole::Target);
-        const auto target = document->target();
-        if (shown && target && !ceiechart::sameTargets(shown->getTargets(), target->getTargets())) {
-            setTarget(*target);
-        }
+        followTarget();
         setRings(rings());
         return;
     }
@@ -128,9 +95,7 @@ void DocumentView::refresh()
         content.trail = document->whiteTrail();
     }
     setContent(content);
-    if (!isReadOnly()) {
-        setSelectedVertex(m_session->selected());
-    }
+    followSelection();
 }
 
 } // namespace gamutviewer

@@ -3,20 +3,14 @@
 #ifndef GAMUTVIEWER_DOCUMENTVIEW_H
 #define GAMUTVIEWER_DOCUMENTVIEW_H
 
-#include <ceiechart/diagram/diagramview.h>
+#include "drawing/targetview.h"
 
 namespace gamutviewer {
 
 class LayerSwitches;
-class TargetSession;
 
-/*!
- * \brief A diagram of the session's document, on which the target is edited.
- *
- * Any number of them share a session: what is dragged in one moves in the others, and a drag is one step of the
- * history.
- */
-class DocumentView : public ceiechart::DiagramView {
+/*! \brief A diagram of the session's document, on which the target is edited. */
+class DocumentView : public TargetView {
     Q_OBJECT
 
 public:
@@ -26,11 +20,9 @@ public:
     void refresh();
 
 private:
-    void applyRules();
     void note();
     QVector<ceiechart::DiagramRings> rings() const;
 
-    TargetSession *m_session;
     const LayerSwitches *m_switches;
 };
 

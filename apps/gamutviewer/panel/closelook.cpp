@@ -7,11 +7,17 @@
 #include "editing/document.h"
 #include "editing/targetsession.h"
 
+#include <ceiechart/diagram/diagrampainter.h>
+
+#include <QFocusEvent>
+#include <QGuiApplication>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
+#include <QStyleHints>
 #include <QToolTip>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -26,6 +32,8 @@ using ceiechart::DiagramViewport;
 constexpr double leastReach = 0.004; // of a close look in x, y, on either side
 constexpr double hitReach = 8.0; // pixels
 constexpr int manyDots = 1500; // of which each is smaller
+constexpr double handleRoom = 8.0; // pixels between a handle and the edge of the plot
+constexpr double closer = 1.5; // how much closer a look has to get to be worth a move
 
 QColor dotColor(Vertex primary, ceiechart::DiagramGround ground)
 {
@@ -67,25 +75,37 @@ QPixmap stamp(const QColor &color, double radius, double ratio)
     return dot;
 }
 
+bool isArrow(int key)
+{
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
 } // namespace
 
 CloseLook::CloseLook(TargetSession *session, Vertex primary, QWidget *parent)
-    : QWidget(parent)
-    , m_session(session)
+    : TargetView(session, parent)
     , m_primary(primary)
 {
-    setAccessibleName(tr("Close look at %1 of all cabinets").arg(ceiechart::gamutVertexName(primary)));
-    setMouseTracking(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    m_diagram.setViewport(DiagramViewport(Model::Diagram::Cie1976, QSizeF(sizeHint())));
+    const QString name = ceiechart::gamutVertexName(primary);
+    setAccessibleName(tr("Close look at %1 of all cabinets").arg(name));
+    setAccessibleDescription(
+        tr("The target's %1 is dragged with the mouse, or moved with the arrow keys; with Shift, slowly. A click on a "
+           "dot selects its cabinet.")
+            .arg(name));
+    // A click on a dot leaves the focus where it is: arrow keys that go on through the wall must not move the target.
+    setFocusPolicy(Qt::TabFocus);
+    // One finger does what the mouse does, and two nothing.
+    setAttribute(Qt::WA_AcceptTouchEvents, false);
+    ungrabGesture(Qt::PinchGesture);
+    setDiagram(Model::Diagram::Cie1976);
     connect(session, &TargetSession::selectedCabinetChanged, this, [this] { update(); });
+    connect(this, &DiagramView::editingFinished, this, &CloseLook::refresh);
 }
 
 //! Whether the dots are others than before.
 bool CloseLook::takeDots()
 {
-    const DisplayWall &wall = m_session->document()->description().wall;
+    const DisplayWall &wall = session()->document()->description().wall;
     QPolygonF dots;
     dots.reserve(int(wall.cabinets.size()));
     for (const WallCabinet &cabinet : wall.cabinets) {
@@ -97,84 +117,94 @@ bool CloseLook::takeDots()
             [](const QPointF &a, const QPointF &b) { return a.x() == b.x() && a.y() == b.y(); });
     if (!isSame) {
         m_dots = dots;
+        m_cloud = QPixmap();
     }
     return !isSame;
 }
 
 void CloseLook::refresh()
 {
-    const Document *document = m_session->document();
-    const auto ground = palette().color(QPalette::Base).lightnessF() < 0.5 ? ceiechart::DiagramGround::Dark
-                                                                           : ceiechart::DiagramGround::Light;
-    ceiechart::DiagramContent content;
-    content.colors = ceiechart::HorseshoeColors::None;
-    content.ground = ground;
-    content.layers = DiagramLayer::Locus | DiagramLayer::Grid | DiagramLayer::Targets;
-    const auto target = document->target();
-    if (target) {
-        content.gamuts.append({*target, ceiechart::GamutRole::Target});
+    const Document *document = session()->document();
+    if (isEditing()) {
+        followTarget();
+    } else {
+        ceiechart::DiagramContent shown;
+        shown.colors = ceiechart::HorseshoeColors::None;
+        shown.layers = DiagramLayer::Locus | DiagramLayer::Grid | DiagramLayer::Targets | DiagramLayer::Originals;
+        if (const auto original = document->original()) {
+            shown.gamuts.append({*original, ceiechart::GamutRole::Original}); // the rules ask for it
+        }
+        if (const auto target = document->target()) {
+            shown.gamuts.append({*target, ceiechart::GamutRole::Target});
+        }
+        setContent(shown);
+        followSelection();
     }
-    if (ground != m_diagram.content().ground) {
-        m_cloud = QPixmap();
-    }
-    m_diagram.setContent(content);
     m_common.clear();
-    if (const auto &wall = m_session->assessment().wall) {
+    if (const auto &wall = session()->assessment().wall) {
         for (const Model::DiagramPoint &corner : wall->common.corners) {
             m_common.append(QPointF(corner.x, corner.y));
         }
     }
-    const bool isAnother = takeDots();
-    const bool isOutOfSight = target
-        && !viewport().plot().contains(
-            viewport().toPosition(xyOf(ceiechart::targetAt(target->getTargets(), m_primary))));
-    if (isAnother || isOutOfSight || !document->isDragging()) {
+    // Nothing may move away under the hand.
+    const bool isHeld = isEditing() || (hasFocus() && document->isDragging());
+    if (takeDots()) {
         fit();
+    } else if (!isHeld) {
+        const bool isInSight = viewport()
+                                   .plot()
+                                   .adjusted(handleRoom, handleRoom, -handleRoom, -handleRoom)
+                                   .contains(viewport().toPosition(targetXy()));
+        if (!isInSight || (!document->isDragging() && fitted().zoom() > closer * viewport().zoom())) {
+            fit();
+        }
     }
     update();
 }
 
-void CloseLook::fit()
+//! That of the target, which has no finite one where there is no target.
+QPointF CloseLook::targetXy() const
+{
+    const auto target = session()->document()->target();
+    return target ? xyOf(ceiechart::targetAt(target->getTargets(), m_primary)) : QPointF(qQNaN(), qQNaN());
+}
+
+//! The view of all dots and of the target.
+ceiechart::DiagramViewport CloseLook::fitted() const
 {
     QPolygonF shown;
-    const auto add = [&shown](const QPointF &xy) {
-        if (isFinite(xy)) {
-            shown.append(xy);
-        }
-    };
-    for (const QPointF &dot : qAsConst(m_dots)) {
-        add(dot);
-    }
-    if (const auto target = m_session->document()->target()) {
-        add(xyOf(ceiechart::targetAt(target->getTargets(), m_primary)));
+    std::copy_if(m_dots.cbegin(), m_dots.cend(), std::back_inserter(shown), isFinite);
+    if (const QPointF target = targetXy(); isFinite(target)) {
+        shown.append(target);
     }
     if (shown.isEmpty()) {
-        return;
+        return viewport();
     }
     QRectF bounds = shown.boundingRect();
     const double wider = std::max(leastReach - bounds.width() / 2.0, 0.0);
     const double higher = std::max(leastReach - bounds.height() / 2.0, 0.0);
     bounds.adjust(-wider, -higher, wider, higher);
-    const DiagramViewport whole(Model::Diagram::Cie1976, QSizeF(size()));
-    const DiagramViewport fitted
-        = whole.fittedTo(QPolygonF({bounds.topLeft(), bounds.topRight(), bounds.bottomRight(), bounds.bottomLeft()}));
-    if (fitted != viewport()) {
-        m_diagram.setViewport(fitted);
-        m_cloud = QPixmap();
-    }
+    return viewport().fittedTo(
+        QPolygonF({bounds.topLeft(), bounds.topRight(), bounds.bottomRight(), bounds.bottomLeft()}));
+}
+
+void CloseLook::fit()
+{
+    const DiagramViewport wanted = fitted();
+    setZoomFactor(wanted.zoom());
+    setCentre(wanted.centre());
 }
 
 void CloseLook::drawCloud()
 {
     const double ratio = devicePixelRatioF();
+    m_cloudViewport = viewport();
+    m_cloudGround = content().ground;
     m_cloud = QPixmap((QSizeF(size()) * ratio).toSize());
     m_cloud.setDevicePixelRatio(ratio);
-    const ceiechart::DiagramPalette &colors = ceiechart::diagramPalette(m_diagram.content().ground);
-    m_cloud.fill(colors.ground);
+    m_cloud.fill(Qt::transparent);
     QPainter painter(&m_cloud);
-    painter.setRenderHint(QPainter::Antialiasing);
-    m_diagram.paintScale(&painter);
-    QColor color = dotColor(m_primary, m_diagram.content().ground);
+    QColor color = dotColor(m_primary, m_cloudGround);
     color.setAlphaF(m_dots.size() > manyDots ? 0.35 : 0.6);
     const double radius = m_dots.size() > manyDots ? 1.5 : 2.5;
     const QPixmap dot = stamp(color, radius, ratio);
@@ -188,59 +218,67 @@ void CloseLook::drawCloud()
     }
 }
 
-void CloseLook::paintEvent(QPaintEvent *)
+void CloseLook::paintBelowTarget(QPainter *painter)
 {
-    if (m_cloud.isNull() || m_cloud.size() != (QSizeF(size()) * devicePixelRatioF()).toSize()) {
+    if (m_cloud.isNull() || m_cloud.size() != (QSizeF(size()) * devicePixelRatioF()).toSize()
+        || m_cloudViewport != viewport() || m_cloudGround != content().ground) {
         drawCloud();
     }
-    const ceiechart::DiagramPalette &colors = ceiechart::diagramPalette(m_diagram.content().ground);
-    QPainter painter(this);
-    painter.drawPixmap(0, 0, m_cloud);
-    painter.setRenderHint(QPainter::Antialiasing);
+    const ceiechart::DiagramPalette &colors = ceiechart::diagramPalette(content().ground);
+    painter->drawPixmap(0, 0, m_cloud);
+    painter->setRenderHint(QPainter::Antialiasing);
     QPolygonF common;
     for (const QPointF &corner : qAsConst(m_common)) {
         common.append(viewport().toPosition(corner));
     }
     if (common.size() > 1 && std::all_of(common.cbegin(), common.cend(), isFinite)) {
         // What all can show: a thin line, dashed, that is no gamut's.
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(colors.text, 1.2, Qt::DashLine));
-        painter.drawPolygon(common);
+        painter->setBrush(Qt::NoBrush);
+        painter->setPen(QPen(colors.text, 1.2, Qt::DashLine));
+        painter->drawPolygon(common);
     }
-    m_diagram.paintEdited(&painter);
-    const auto selected = m_session->selectedCabinet();
-    if (selected && *selected < std::size_t(m_dots.size())) {
-        const QPointF at = viewport().toPosition(m_dots.at(int(*selected)));
-        if (isFinite(at) && QRectF(rect()).contains(at)) {
-            painter.setPen(QPen(palette().color(QPalette::Base), 4.0));
-            painter.setBrush(Qt::NoBrush);
-            painter.drawEllipse(at, 5.0, 5.0);
-            painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
-            painter.setBrush(dotColor(m_primary, m_diagram.content().ground));
-            painter.drawEllipse(at, 5.0, 5.0);
-            const QString name = cabinetName(m_session->document()->description().wall, *selected);
-            const QSizeF size = QFontMetricsF(font()).size(Qt::TextSingleLine, name);
-            QRectF place(at + QPointF(9.0, -size.height() / 2.0), size);
-            if (place.right() > width()) {
-                place.moveRight(at.x() - 9.0);
-            }
-            painter.fillRect(place.adjusted(-2, 0, 2, 0), colors.casing);
-            painter.setPen(colors.text);
-            painter.drawText(place, Qt::AlignCenter, name);
-        }
-    }
-    painter.setPen(colors.text);
+    paintSelected(painter);
+    painter->setPen(colors.text);
     QFont bold = font();
     bold.setBold(true);
-    painter.setFont(bold);
+    painter->setFont(bold);
     const QString title = ceiechart::gamutVertexName(m_primary);
     const QRectF corner(QPointF(6.0, 4.0), QFontMetricsF(bold).size(Qt::TextSingleLine, title));
-    painter.fillRect(corner.adjusted(-2, -1, 2, 1), colors.casing);
-    painter.drawText(corner, Qt::AlignCenter, title);
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(colors.frame);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter->fillRect(corner.adjusted(-2, -1, 2, 1), colors.casing);
+    painter->drawText(corner, Qt::AlignCenter, title);
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(colors.frame);
+    painter->drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void CloseLook::paintSelected(QPainter *painter) const
+{
+    const auto selected = session()->selectedCabinet();
+    if (!selected || *selected >= std::size_t(m_dots.size())) {
+        return;
+    }
+    const QPointF at = viewport().toPosition(m_dots.at(int(*selected)));
+    if (!isFinite(at) || !QRectF(rect()).contains(at)) {
+        return;
+    }
+    const ceiechart::DiagramPalette &colors = ceiechart::diagramPalette(content().ground);
+    painter->setPen(QPen(palette().color(QPalette::Base), 4.0));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawEllipse(at, 5.0, 5.0);
+    painter->setPen(QPen(palette().color(QPalette::Highlight), 2.0));
+    painter->setBrush(dotColor(m_primary, content().ground));
+    painter->drawEllipse(at, 5.0, 5.0);
+    const QString name = cabinetName(session()->document()->description().wall, *selected);
+    const QSizeF size = QFontMetricsF(font()).size(Qt::TextSingleLine, name);
+    QRectF place(at + QPointF(9.0, -size.height() / 2.0), size);
+    if (place.right() > width()) {
+        place.moveRight(at.x() - 9.0);
+    }
+    painter->fillRect(place.adjusted(-2, 0, 2, 0), colors.casing);
+    painter->setPen(colors.text);
+    painter->setFont(font());
+    painter->drawText(place, Qt::AlignCenter, name);
 }
 
 std::optional<std::size_t> CloseLook::cabinetAt(const QPointF &position) const
@@ -260,10 +298,11 @@ std::optional<std::size_t> CloseLook::cabinetAt(const QPointF &position) const
 
 bool CloseLook::event(QEvent *event)
 {
-    if (event->type() == QEvent::ToolTip) {
+    switch (event->type()) {
+    case QEvent::ToolTip: {
         const auto *help = static_cast<QHelpEvent *>(event);
         const auto cabinet = cabinetAt(help->pos());
-        const DisplayWall &wall = m_session->document()->description().wall;
+        const DisplayWall &wall = session()->document()->description().wall;
         if (cabinet && *cabinet < wall.cabinets.size()) {
             QToolTip::showText(help->globalPos(), plainToolTip(cabinetName(wall, *cabinet)), this);
         } else {
@@ -271,40 +310,128 @@ bool CloseLook::event(QEvent *event)
         }
         return true;
     }
-    return QWidget::event(event);
+    case QEvent::NativeGesture:
+        return QWidget::event(event);
+    case QEvent::ShortcutOverride: {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (isArrow(key)) {
+            break;
+        }
+        if (key == Qt::Key_Escape
+            && (m_pressed || session()->document()->isDragging() || session()->selectedCabinet())) {
+            event->accept();
+            return true;
+        }
+        return QWidget::event(event); // other keys do nothing here
+    }
+    default:
+        break;
+    }
+    return TargetView::event(event);
 }
 
 void CloseLook::resizeEvent(QResizeEvent *event)
 {
-    QWidget::resizeEvent(event);
-    m_cloud = QPixmap();
-    fit();
+    TargetView::resizeEvent(event);
+    if (!isEditing()) {
+        fit();
+    }
 }
 
-void CloseLook::changeEvent(QEvent *event)
+//! The reach of a handle's hit, as DiagramView has it.
+bool CloseLook::isOnHandle(const QPointF &position) const
 {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) {
-        refresh();
-    }
+    const auto target = gamut(ceiechart::GamutRole::Target);
+    return target
+        && std::any_of(ceiechart::allGamutVertices.begin(), ceiechart::allGamutVertices.end(), [&](Vertex vertex) {
+               const QPointF at = viewport().toPosition(xyOf(ceiechart::targetAt(target->getTargets(), vertex)));
+               return viewport().plot().contains(at)
+                   && std::hypot(at.x() - position.x(), at.y() - position.y()) <= handleReach;
+           });
 }
 
 void CloseLook::mousePressEvent(QMouseEvent *event)
 {
-    const auto cabinet = event->button() == Qt::LeftButton ? cabinetAt(event->pos()) : std::nullopt;
-    if (cabinet) {
-        m_session->selectCabinet(cabinet);
+    if (event->button() != Qt::LeftButton) {
+        return; // the view is not moved
+    }
+    if (isOnHandle(event->pos())) {
+        m_pressed = event->pos();
+        setFocus(Qt::MouseFocusReason);
+        TargetView::mousePressEvent(event);
+        return;
+    }
+    if (const auto cabinet = cabinetAt(event->pos())) {
+        session()->selectCabinet(cabinet);
     }
 }
 
-void CloseLook::mouseMoveEvent(QMouseEvent *event)
+void CloseLook::mouseReleaseEvent(QMouseEvent *event)
 {
-    Q_EMIT pointedAt(viewport().toChromaticity(event->pos()));
+    const bool wasPressed = m_pressed && event->button() == Qt::LeftButton;
+    const bool wasClick = wasPressed && !isEditing()
+        && (event->pos() - *m_pressed).manhattanLength() <= QGuiApplication::styleHints()->startDragDistance();
+    if (wasPressed) {
+        m_pressed.reset();
+    }
+    TargetView::mouseReleaseEvent(event);
+    // A handle must not hide the dots below it from the mouse.
+    const auto cabinet = wasClick ? cabinetAt(event->pos()) : std::nullopt;
+    if (cabinet) {
+        session()->selectCabinet(cabinet);
+    }
 }
 
-void CloseLook::leaveEvent(QEvent *)
+void CloseLook::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    Q_EMIT pointerLeft();
+    mousePressEvent(event);
+}
+
+void CloseLook::wheelEvent(QWheelEvent *event)
+{
+    event->ignore();
+}
+
+//! The arrow keys move what is selected, which has to be something that is seen here.
+void CloseLook::selectSeenVertex()
+{
+    const auto target = gamut(ceiechart::GamutRole::Target);
+    const auto selected = selectedVertex();
+    const bool isSeen = target && selected
+        && viewport().plot().contains(
+            viewport().toPosition(xyOf(ceiechart::targetAt(target->getTargets(), *selected))));
+    if (!isSeen) {
+        setSelectedVertex(m_primary);
+    }
+}
+
+void CloseLook::keyPressEvent(QKeyEvent *event)
+{
+    if (isArrow(event->key())) {
+        if (!session()->document()->isDragging()) {
+            selectSeenVertex();
+        }
+        TargetView::keyPressEvent(event);
+    } else if (event->key() == Qt::Key_Escape && (m_pressed || session()->document()->isDragging())) {
+        TargetView::keyPressEvent(event);
+    } else if (event->key() == Qt::Key_Escape && session()->selectedCabinet()) {
+        session()->selectCabinet(std::nullopt);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void CloseLook::focusInEvent(QFocusEvent *event)
+{
+    selectSeenVertex();
+    // By Tab, the view would go to the first of all handles.
+    QFocusEvent other(event->type(), Qt::OtherFocusReason);
+    TargetView::focusInEvent(&other);
+}
+
+bool CloseLook::focusNextPrevChild(bool next)
+{
+    return isEditing() || QWidget::focusNextPrevChild(next);
 }
 
 } // namespace gamutviewer

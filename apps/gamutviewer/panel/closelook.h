@@ -3,27 +3,24 @@
 #ifndef GAMUTVIEWER_CLOSELOOK_H
 #define GAMUTVIEWER_CLOSELOOK_H
 
-#include <ceiechart/diagram/diagrampainter.h>
-#include <ceiechart/diagram/targetrules.h>
+#include "drawing/targetview.h"
 
 #include <QPixmap>
 #include <QPolygonF>
-#include <QWidget>
 
 #include <cstddef>
 #include <optional>
 
 namespace gamutviewer {
 
-class TargetSession;
-
 /*!
  * \brief The part of the CIE 1976 u′, v′ diagram about one primary: that of every cabinet as a dot, and over them what
  * all can show and the target. The cabinet that is selected stands out; a click selects one.
  *
- * It follows the target where that leaves it.
+ * The target is edited as on any TargetView, by mouse and arrow keys. The view itself cannot be moved: it follows the
+ * target where that leaves it, but stays as it is while something is dragged in it.
  */
-class CloseLook : public QWidget {
+class CloseLook : public TargetView {
     Q_OBJECT
 
 public:
@@ -31,39 +28,41 @@ public:
 
     /*! \brief Shows the wall as it is now. */
     void refresh();
-    /*! \brief Which part of the diagram is seen. */
-    const ceiechart::DiagramViewport &viewport() const { return m_diagram.viewport(); }
     /*! \brief The cabinet whose dot is nearest to \a position and hit by it; nothing for none. */
     std::optional<std::size_t> cabinetAt(const QPointF &position) const;
 
     QSize sizeHint() const override { return QSize(150, 130); }
     QSize minimumSizeHint() const override { return QSize(70, 70); }
 
-Q_SIGNALS:
-    /*! \brief The pointer is over the CIE 1931 chromaticity \a xy. */
-    void pointedAt(const QPointF &xy);
-    void pointerLeft();
-
 protected:
+    void paintBelowTarget(QPainter *painter) override;
     bool event(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
-    void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void leaveEvent(QEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     bool takeDots();
+    ceiechart::DiagramViewport fitted() const;
     void fit();
     void drawCloud();
+    void paintSelected(QPainter *painter) const;
+    bool isOnHandle(const QPointF &position) const;
+    void selectSeenVertex();
+    QPointF targetXy() const;
 
-    TargetSession *m_session;
     ceiechart::GamutVertex m_primary;
-    ceiechart::DiagramPainter m_diagram;
     QPolygonF m_dots; // CIE 1931 x, y of each cabinet
     QPolygonF m_common; // what all can show, in CIE 1931 x, y
-    QPixmap m_cloud; // scale and dots; null when they have to be drawn again
+    QPixmap m_cloud; // of the dots
+    ceiechart::DiagramViewport m_cloudViewport; // that m_cloud was drawn for
+    ceiechart::DiagramGround m_cloudGround = ceiechart::DiagramGround::Light;
+    std::optional<QPoint> m_pressed; // on a handle
 };
 
 } // namespace gamutviewer

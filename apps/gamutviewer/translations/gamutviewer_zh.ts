@@ -481,6 +481,10 @@
         <source>Close look at %1 of all cabinets</source>
         <translation>所有箱体%1的近看</translation>
     </message>
+    <message>
+        <source>The target&apos;s %1 is dragged with the mouse, or moved with the arrow keys; with Shift, slowly. A click on a dot selects its cabinet.</source>
+        <translation>目标的%1可用鼠标拖动，或用方向键移动；按住 Shift 则慢速移动。单击圆点选中其箱体。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::ComparePage</name>
@@ -2707,10 +2711,6 @@ Open a list of measurements with a column for the cabinet, or for its row and co
         <translation>复制整个表格，用于电子表格</translation>
     </message>
     <message>
-        <source>Arrows: next cabinet   Esc: none   Ctrl+C in the table: copy it</source>
-        <translation>方向键：下一个箱体   Esc：不选   表格中 Ctrl+C：复制</translation>
-    </message>
-    <message>
         <source>Wall</source>
         <translation>墙</translation>
     </message>
@@ -2741,6 +2741,14 @@ Open a list of measurements with a column for the cabinet, or for its row and co
     <message>
         <source>Cabinets of which nothing is known</source>
         <translation>情况未知的箱体</translation>
+    </message>
+    <message>
+        <source>Drag a corner of the target in a close look: move it   Arrows: next cabinet   Esc: none   Ctrl+C in the table: copy it</source>
+        <translation>近看中拖动目标的角：移动   方向键：下一个箱体   Esc：不选   表格中 Ctrl+C：复制</translation>
+    </message>
+    <message>
+        <source>Drag a corner of the target in a close look: move it   Arrows: next cabinet</source>
+        <translation>近看中拖动目标的角：移动   方向键：下一个箱体</translation>
     </message>
 </context>
 <context>

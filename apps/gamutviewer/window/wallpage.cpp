@@ -145,9 +145,7 @@ QWidget *WallPage::buildNumbers()
     for (const Vertex primary : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
         auto *look = new CloseLook(m_session, primary, numbers);
         look->setFont(small);
-        connect(look, &CloseLook::pointedAt, this,
-            [this](const QPointF &xy) { Q_EMIT pointedAt(xy, chromaticityDecimals); });
-        connect(look, &CloseLook::pointerLeft, this, &Page::pointerLeft);
+        readOut(look);
         looks->addWidget(look);
         m_looks.at(std::size_t(primary)) = look;
     }
@@ -188,8 +186,10 @@ QStringList WallPage::hints() const
     if (document()->description().wall.cabinets.empty()) {
         return {};
     }
-    return {
-        tr("Arrows: next cabinet   Esc: none   Ctrl+C in the table: copy it"), tr("Arrows: next cabinet   Esc: none")};
+    return {tr("Drag a corner of the target in a close look: move it   Arrows: next cabinet   Esc: none   "
+               "Ctrl+C in the table: copy it"),
+        tr("Drag a corner of the target in a close look: move it   Arrows: next cabinet"),
+        tr("Arrows: next cabinet   Esc: none")};
 }
 
 void WallPage::choose(WallQuantity quantity)
