@@ -146,11 +146,9 @@ void CloseLook::refresh()
             m_common.append(QPointF(corner.x, corner.y));
         }
     }
-    // Nothing may move away under the hand.
-    const bool isHeld = isEditing() || (hasFocus() && document->isDragging());
     if (takeDots()) {
         fit();
-    } else if (!isHeld) {
+    } else if (!isHeld()) { // nothing may move away under the hand
         const bool isInSight = viewport()
                                    .plot()
                                    .adjusted(handleRoom, handleRoom, -handleRoom, -handleRoom)
@@ -160,6 +158,12 @@ void CloseLook::refresh()
         }
     }
     update();
+}
+
+//! Whether the target is moved here, by mouse or keys.
+bool CloseLook::isHeld() const
+{
+    return isEditing() || (hasFocus() && session()->document()->isDragging());
 }
 
 //! That of the target, which has no finite one where there is no target.
@@ -237,7 +241,9 @@ void CloseLook::paintBelowTarget(QPainter *painter)
         painter->setPen(QPen(colors.text, 1.2, Qt::DashLine));
         painter->drawPolygon(common);
     }
-    paintSelected(painter);
+    if (isHeld()) {
+        paintSelected(painter); // not over the coordinates of what is moved
+    }
     painter->setPen(colors.text);
     QFont bold = font();
     bold.setBold(true);
@@ -250,6 +256,16 @@ void CloseLook::paintBelowTarget(QPainter *painter)
     painter->setBrush(Qt::NoBrush);
     painter->setPen(colors.frame);
     painter->drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void CloseLook::paintEvent(QPaintEvent *event)
+{
+    TargetView::paintEvent(event);
+    if (!isHeld()) {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        paintSelected(&painter);
+    }
 }
 
 void CloseLook::paintSelected(QPainter *painter) const
@@ -272,7 +288,9 @@ void CloseLook::paintSelected(QPainter *painter) const
     const QString name = cabinetName(session()->document()->description().wall, *selected);
     const QSizeF size = QFontMetricsF(font()).size(Qt::TextSingleLine, name);
     QRectF place(at + QPointF(9.0, -size.height() / 2.0), size);
-    if (place.right() > width()) {
+    const bool hidesHandle
+        = place.adjusted(-handleRoom, -handleRoom, handleRoom, handleRoom).contains(viewport().toPosition(targetXy()));
+    if (place.right() > width() || (hidesHandle && at.x() - 9.0 > size.width())) {
         place.moveRight(at.x() - 9.0);
     }
     painter->fillRect(place.adjusted(-2, 0, 2, 0), colors.casing);

@@ -36,6 +36,7 @@ public:
 
 protected:
     void paintBelowTarget(QPainter *painter) override;
+    void paintEvent(QPaintEvent *event) override;
     bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -48,6 +49,7 @@ protected:
 
 private:
     bool takeDots();
+    bool isHeld() const;
     ceiechart::DiagramViewport fitted() const;
     void fit();
     void drawCloud();
