@@ -18,6 +18,7 @@ class CloseLookTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void dotsAreBelowTheTarget();
     void cornerIsDragged();
     void viewStaysUnderTheHand();
     void escapeTakesADragBack();
@@ -75,6 +76,17 @@ struct LookFixture : WallFixture {
 };
 
 } // namespace
+
+void CloseLookTest::dotsAreBelowTheTarget()
+{
+    LookFixture f;
+    const QPoint dot = f.at(QPointF(0.70, 0.28));
+    const QColor seen = f.look->grab().toImage().pixelColor(dot);
+    QVERIFY2(seen.red() > seen.green() + 50 && seen.red() > seen.blue() + 50, qPrintable(seen.name()));
+    // The handle is over it.
+    f.window->session()->setChromaticity(Vertex::Red, QPointF(0.70, 0.28));
+    QCOMPARE(f.look->grab().toImage().pixelColor(f.corner()), QColor(Qt::white));
+}
 
 void CloseLookTest::cornerIsDragged()
 {
