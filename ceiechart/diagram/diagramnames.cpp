@@ -132,7 +132,9 @@ void DiagramGamuts::drawIsothermNumber(const QString &number, const QRectF &plac
 
 bool DiagramGamuts::leadToIsotherm(const PendingNumber &number, const QVector<QRectF> &clear, bool mayCross)
 {
-    constexpr double step = 4.0;
+    constexpr double finest = 4.0;
+    constexpr double mostPlaces = 20000.0; // to look at in a large picture that has room nowhere
+    const double step = std::max(finest, std::sqrt(m_inner.width() * m_inner.height() / mostPlaces));
     constexpr double farther = 1e4; // what is nearer to something else would be taken for its name
     const QSizeF size = m_sheet.fonts.numbers.size(number.text);
     QRectF best;
