@@ -115,7 +115,7 @@ void ChartPropertiesTest::pointsMessageAndStandards()
     setGamuts(*chart);
     const QList<ColorTriangleObject> standards = chart->lsStandardTriangleObject();
     QCOMPARE(standards.size(), 2);
-    const Model::Target &green = Model::rec2020().getTargets().green;
+    const Model::Target green = Model::rec2020().getTargets().green;
     QCOMPARE(standards.at(0).trianglePoint().greenPos(), QPointF(green.x, green.y));
     QCOMPARE(standards.at(0).opacity(), 0.1);
     QCOMPARE(standards.at(1).opacity(), 0.05);
