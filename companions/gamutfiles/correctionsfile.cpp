@@ -113,6 +113,9 @@ QString whyNotListed(const CabinetCorrection &cabinet, const QSet<QString> &labe
     if (label.contains(QChar::Null)) {
         return CorrectionsText::tr("a name has a null character");
     }
+    if (cabinet.fault.contains(QChar::Null)) {
+        return CorrectionsText::tr("a reason has a null character");
+    }
     if (labels.contains(label)) {
         return CorrectionsText::tr("there is already a cabinet %1").arg(quoted(label));
     }

@@ -150,6 +150,10 @@
         <comment>that there is no matrix, and why</comment>
         <translation>%1：%2</translation>
     </message>
+    <message>
+        <source>a reason has a null character</source>
+        <translation>原因中含有空字符（NUL）</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::CubePair</name>
