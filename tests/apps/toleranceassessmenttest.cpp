@@ -23,6 +23,28 @@ private Q_SLOTS:
     void limitOfManyDecimals();
 };
 
+namespace {
+
+//! What is said of a measured white that is \a deviation in u' off the target's, with \a limit for it.
+AssessmentLine judgedWhite(double deviation, double limit)
+{
+    DisplayDescription d = wall(500);
+    const Model::Target &white = d.gamuts[1].getTargets().white;
+    const double sum = -2.0 * white.x + 12.0 * white.y + 3.0;
+    const double u = 4.0 * white.x / sum + deviation;
+    const double v = 9.0 * white.y / sum;
+    const double back = 6.0 * u - 16.0 * v + 12.0;
+    Model::Targets meter = d.gamuts[1].getTargets();
+    meter.white = Model::Target::fromYxy(500, 9.0 * u / back, 4.0 * v / back);
+    d.gamuts.push_back(named("Meter", meter, cd));
+    d.measured = QStringLiteral("Meter");
+    Tolerances tolerances;
+    tolerances.limits.whiteUv = limit;
+    return about(assess(d, tolerances), Subject::Tolerance).first();
+}
+
+} // namespace
+
 void ToleranceAssessmentTest::toleranceAtItsLimit_data()
 {
     QTest::addColumn<double>("value");
@@ -167,19 +189,7 @@ void ToleranceAssessmentTest::deviationEqualToItsLimit()
     QFETCH(double, beyond);
     QFETCH(Judgement, judgement);
     QFETCH(QString, text);
-    DisplayDescription d = wall(500);
-    const Model::Target &white = d.gamuts[1].getTargets().white;
-    const double sum = -2.0 * white.x + 12.0 * white.y + 3.0;
-    const double u = 4.0 * white.x / sum + 0.004 + beyond;
-    const double v = 9.0 * white.y / sum;
-    const double back = 6.0 * u - 16.0 * v + 12.0;
-    Model::Targets meter = d.gamuts[1].getTargets();
-    meter.white = Model::Target::fromYxy(500, 9.0 * u / back, 4.0 * v / back);
-    d.gamuts.push_back(named("Meter", meter, cd));
-    d.measured = QStringLiteral("Meter");
-    Tolerances tolerances;
-    tolerances.limits.whiteUv = 0.004;
-    const AssessmentLine line = about(assess(d, tolerances), Subject::Tolerance).first();
+    const AssessmentLine line = judgedWhite(0.004 + beyond, 0.004);
     QVERIFY2(line.judgement == judgement, qPrintable(line.text));
     QVERIFY2(line.text.contains(text), qPrintable(line.text));
 }
@@ -209,19 +219,7 @@ void ToleranceAssessmentTest::limitOfManyDecimals()
     QFETCH(double, limit);
     QFETCH(Judgement, judgement);
     QFETCH(QString, text);
-    DisplayDescription d = wall(500);
-    const Model::Target &white = d.gamuts[1].getTargets().white;
-    const double sum = -2.0 * white.x + 12.0 * white.y + 3.0;
-    const double u = 4.0 * white.x / sum + deviation;
-    const double v = 9.0 * white.y / sum;
-    const double back = 6.0 * u - 16.0 * v + 12.0;
-    Model::Targets meter = d.gamuts[1].getTargets();
-    meter.white = Model::Target::fromYxy(500, 9.0 * u / back, 4.0 * v / back);
-    d.gamuts.push_back(named("Meter", meter, cd));
-    d.measured = QStringLiteral("Meter");
-    Tolerances tolerances;
-    tolerances.limits.whiteUv = limit;
-    const AssessmentLine line = about(assess(d, tolerances), Subject::Tolerance).first();
+    const AssessmentLine line = judgedWhite(deviation, limit);
     QVERIFY2(line.judgement == judgement, qPrintable(line.text));
     QVERIFY2(line.text.contains(text), qPrintable(line.text));
 }
