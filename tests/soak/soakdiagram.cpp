@@ -66,13 +66,32 @@ DiagramContent content(Round &round)
     return made;
 }
 
+//! Knows when Qt is resizing it: the one time at which a slot must not delete a view.
+class View : public DiagramView {
+public:
+    using DiagramView::DiagramView;
+
+    bool isResizing() const { return m_resizes > 0; }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        ++m_resizes;
+        DiagramView::resizeEvent(event);
+        --m_resizes;
+    }
+
+private:
+    int m_resizes = 0;
+};
+
 //! A host that answers the signals of its view by calling it again, and sometimes by deleting it.
 class Host {
 public:
     explicit Host(Round &round)
         : m_round(round)
         , m_parent(std::make_unique<QWidget>())
-        , m_view(new DiagramView(m_parent.get()))
+        , m_view(new View(m_parent.get()))
     {
         m_parent->resize(round.between(50, 900), round.between(50, 900));
         auto *layout = new QVBoxLayout(m_parent.get());
@@ -93,7 +112,7 @@ private:
 
     Round &m_round;
     std::unique_ptr<QWidget> m_parent;
-    QPointer<DiagramView> m_view;
+    QPointer<View> m_view;
     int m_depth = 0;
 };
 
@@ -101,7 +120,7 @@ void Host::answerSignals()
 {
     // Each slot is its own receiver's, so that none runs on a host that is gone.
     const auto reply = [this] { answer(); };
-    const DiagramView *view = m_view;
+    const View *view = m_view;
     QObject::connect(view, &DiagramView::diagramChanged, m_parent.get(), reply);
     QObject::connect(view, &DiagramView::layersChanged, m_parent.get(), reply);
     QObject::connect(view, &DiagramView::horseshoeColorsChanged, m_parent.get(), reply);
@@ -127,7 +146,7 @@ void Host::answer()
         return;
     }
     ++m_depth;
-    if (m_round.chance(1)) {
+    if (m_round.chance(1) && !m_view->isResizing()) {
         delete m_view.data();
     } else {
         set();
