@@ -55,8 +55,12 @@ std::vector<LinePart> partsWithin(const QPolygonF &points, bool closed, const QR
         const QPointF &to = points.at((i + 1) % count);
         const QPointF way = to - from;
         const double step = std::hypot(way.x(), way.y());
+        if (!std::isfinite(step)) {
+            isOpen = false;
+            continue; // no place on such a line can be told
+        }
         const Shares shares = sharesOf(from, to, area);
-        if (shares && std::isfinite(step)) {
+        if (shares) {
             if (!isOpen || shares->first > 0.0) {
                 parts.push_back({QPolygonF({from + way * shares->first}), length + step * shares->first, false});
             }

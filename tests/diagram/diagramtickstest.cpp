@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <limits>
 
 using namespace ceiechart;
 
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void linesAreCut();
     void closedLinesAreCutWhereTheyEnd();
     void lengthsBeforeAPart();
+    void linesTooLongForANumberAreLeftOut();
     void sharesOfAConvexPolygon();
     void dashesGoOnRoundCorners();
 };
@@ -142,6 +144,16 @@ void DiagramTicksTest::lengthsBeforeAPart()
         = partsWithin(QPolygonF() << QPointF(-10, 5) << QPointF(0, 5) << QPointF(20, 5), false, QRectF(3, 0, 4, 10));
     QCOMPARE(parts.size(), size_t(1));
     QCOMPARE(parts[0].begin, 13.0);
+}
+
+void DiagramTicksTest::linesTooLongForANumberAreLeftOut()
+{
+    const double far = 0.9 * std::numeric_limits<double>::max(); // from there, the length is infinite
+    const QPolygonF line = QPolygonF() << QPointF(-far, -far) << QPointF(5, 5) << QPointF(6, 6);
+    const auto parts = partsWithin(line, false, QRectF(0, 0, 10, 10));
+    QCOMPARE(parts.size(), size_t(1));
+    QCOMPARE(parts[0].points, QPolygonF() << QPointF(5, 5) << QPointF(6, 6));
+    QCOMPARE(parts[0].begin, 0.0);
 }
 
 void DiagramTicksTest::sharesOfAConvexPolygon()
