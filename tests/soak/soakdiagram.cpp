@@ -66,23 +66,37 @@ DiagramContent content(Round &round)
     return made;
 }
 
-//! Knows when Qt is resizing it: the one time at which a slot must not delete a view.
+//! Knows when Qt goes on with it after an event, which is when a slot must not delete a view.
 class View : public DiagramView {
 public:
     using DiagramView::DiagramView;
 
-    bool isResizing() const { return m_resizes > 0; }
+    bool isInUse() const { return m_uses > 0; }
 
 protected:
     void resizeEvent(QResizeEvent *event) override
     {
-        ++m_resizes;
+        ++m_uses;
         DiagramView::resizeEvent(event);
-        --m_resizes;
+        --m_uses;
+    }
+
+    void focusInEvent(QFocusEvent *event) override
+    {
+        ++m_uses;
+        DiagramView::focusInEvent(event);
+        --m_uses;
+    }
+
+    void focusOutEvent(QFocusEvent *event) override
+    {
+        ++m_uses;
+        DiagramView::focusOutEvent(event);
+        --m_uses;
     }
 
 private:
-    int m_resizes = 0;
+    int m_uses = 0;
 };
 
 //! A host that answers the signals of its view by calling it again, and sometimes by deleting it.
@@ -146,7 +160,7 @@ void Host::answer()
         return;
     }
     ++m_depth;
-    if (m_round.chance(1) && !m_view->isResizing()) {
+    if (m_round.chance(1) && !m_view->isInUse()) {
         delete m_view.data();
     } else {
         set();
