@@ -22,7 +22,7 @@ namespace {
 
 constexpr int stepsPerRound = 400;
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef SOAK_SANITIZED
 constexpr double longestStep = 15.0; // seconds; the sanitizers take their share
 #else
 constexpr double longestStep = 3.0; // a picture recorded with 30 million pixels takes one: Qt compresses it

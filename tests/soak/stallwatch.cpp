@@ -121,7 +121,7 @@ StallWatch::StallWatch(double seconds, const char *where)
     ::backtrace(&frame, 1); // loads what it needs, which a signal handler must not
     std::signal(SIGUSR2, &onStall);
     std::signal(SIGABRT, &onCrash);
-#ifndef __SANITIZE_ADDRESS__ // which tells of these itself, and then aborts
+#ifndef SOAK_SANITIZED // which tells of these itself, and then aborts
     std::signal(SIGSEGV, &onCrash);
     std::signal(SIGFPE, &onCrash);
 #endif
