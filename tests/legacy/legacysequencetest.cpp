@@ -13,7 +13,11 @@ using reference::describe;
 
 namespace {
 
+#ifdef CEIECHART_SHORT_TESTS
+constexpr int sequencesPerRow = 5;
+#else
 constexpr int sequencesPerRow = 15;
+#endif
 constexpr int stepsPerSequence = 120;
 
 constexpr auto xyDiagram = static_cast<DrawCEIPicture::CEIEType>(0);

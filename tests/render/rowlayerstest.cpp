@@ -21,7 +21,7 @@ using ceiechart::RowLayers;
 namespace {
 
 #ifdef CEIECHART_SHORT_TESTS
-constexpr int polygonCount = 10000;
+constexpr int polygonCount = 3000;
 #else
 constexpr int polygonCount = 100000;
 #endif

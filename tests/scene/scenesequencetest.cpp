@@ -13,7 +13,11 @@ using Scene = NewCEIE::CEIEGraphicsScene;
 
 namespace {
 
+#ifdef CEIECHART_SHORT_TESTS
+constexpr int sequencesPerRow = 6;
+#else
 constexpr int sequencesPerRow = 20;
+#endif
 constexpr int stepsPerSequence = 80;
 
 class Twins : public reference::SceneTwins<Scene, reference::SceneModel> {
