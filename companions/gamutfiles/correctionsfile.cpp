@@ -4,6 +4,7 @@
 
 #include "correctionsfile_p.h"
 #include "descriptionreader_p.h"
+#include "textencoding_p.h"
 #include <gamutfiles/filebytes.h>
 
 #include <QCoreApplication>
@@ -110,11 +111,11 @@ QString whyNotListed(const CabinetCorrection &cabinet, const QSet<QString> &labe
     if (label.trimmed().isEmpty()) {
         return CorrectionsText::tr("a cabinet needs a name, or row and column");
     }
-    if (label.contains(QChar::Null)) {
-        return CorrectionsText::tr("a name has a null character");
+    if (!isStorable(label)) {
+        return CorrectionsText::tr("a name has characters that cannot be stored");
     }
-    if (cabinet.fault.contains(QChar::Null)) {
-        return CorrectionsText::tr("a reason has a null character");
+    if (!isStorable(cabinet.fault)) {
+        return CorrectionsText::tr("a reason has characters that cannot be stored");
     }
     if (labels.contains(label)) {
         return CorrectionsText::tr("there is already a cabinet %1").arg(quoted(label));

@@ -78,7 +78,8 @@ struct WallCorrections {
  * Those of wall.incomplete come last, without a matrix and with their reason as fault.
  *
  * A failure if there are no matrices at all: the fault of the target, or no cabinet that has one. The same for cabinets
- * that no file can hold: two with the same label(), or one without or with a null character in it.
+ * that no file can hold: two with the same label(), or one without, or with characters in it that cannot be
+ * stored: null, or half of a surrogate pair.
  */
 GAMUTFILES_EXPORT Outcome<WallCorrections> wallCorrections(
     const DisplayWall &wall, const Model::WallCorrection &solved, const QString &targetName);

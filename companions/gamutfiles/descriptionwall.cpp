@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include "descriptionreader_p.h"
+#include "textencoding_p.h"
 
 #include <utility>
 
@@ -29,8 +30,8 @@ DisplayWall DescriptionReader::readWall(const Node &node)
         if (label.trimmed().isEmpty()) {
             fail(element, tr("a cabinet needs a name, or row and column"));
         }
-        if (label.contains(QChar::Null)) {
-            fail(element, tr("a name has a null character"));
+        if (!isStorable(label)) {
+            fail(element, tr("a name has characters that cannot be stored"));
         }
         if (labels.contains(label)) {
             fail(element, tr("there is already a cabinet %1").arg(quoted(label)));

@@ -226,6 +226,11 @@ Outcome<DecodedText> decodeText(const QByteArray &bytes, std::optional<TextEncod
     return fromUtf8(bytes) ? decodeAs(bytes, TextEncoding::Utf8) : decodeGuess(bytes);
 }
 
+bool isStorable(const QString &text)
+{
+    return !text.contains(QChar::Null) && QStringView(text).isValidUtf16();
+}
+
 QString encodingName(TextEncoding encoding)
 {
     switch (encoding) {

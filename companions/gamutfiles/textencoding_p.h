@@ -27,6 +27,9 @@ struct DecodedText {
  */
 Outcome<DecodedText> decodeText(const QByteArray &bytes, std::optional<TextEncoding> encoding = {});
 
+/*! \brief Whether \a text can be stored as it is: without null characters, and with no half of a surrogate pair. */
+bool isStorable(const QString &text);
+
 /*! \brief The name of \a encoding, for example "UTF-8". */
 QString encodingName(TextEncoding encoding);
 

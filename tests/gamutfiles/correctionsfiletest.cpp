@@ -318,7 +318,7 @@ void CorrectionsFileTest::cabinetsThatNoFileCanHold()
         return wallCorrections(wall, Model::wallCorrection(wall.modelCabinets(), target(), 1.0), QString()).error();
     };
     wall.cabinets[0].name = QString(QChar::Null);
-    QCOMPARE(errorOf(), QStringLiteral("a name has a null character"));
+    QCOMPARE(errorOf(), QStringLiteral("a name has characters that cannot be stored"));
     wall.cabinets[0] = wall.cabinets[1];
     QVERIFY(errorOf().startsWith(QStringLiteral("there is already a cabinet ")));
 }
@@ -420,7 +420,9 @@ void CorrectionsFileTest::refusedJson_data()
         "f: cabinets[0].largestWhite: expected a number, found a boolean");
     change("\"largestWhite\": 1234.5678901234567", "\"largestWhite\": null, \"fault\": \"no\"",
         "f: cabinets[0]: there is a matrix, and a reason why there is none");
-    change("\"name\": \"A1\"", "\"name\": \"A\\u0000\"", "f: cabinets[0]: a name has a null character");
+    change("\"name\": \"A1\"", "\"name\": \"A\\u0000\"", "f: cabinets[0]: a name has characters that cannot be stored");
+    change("\"largestWhite\": 1234.5678901234567", "\"largestWhite\": null, \"fault\": \"\\ud83d0\"", // half a pair
+        "f: cabinets[0]: a reason has characters that cannot be stored");
     change("\"name\": \"A1\", \"row\": 1, \"column\": -2", "\"name\": \"3/4\"",
         "f: cabinets[1]: there is already a cabinet \"3/4\"");
     QTest::newRow("no cabinets") << text.left(text.indexOf("{ \"name\": \"A1\"")) + "]}"

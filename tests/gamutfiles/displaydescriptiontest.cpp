@@ -521,7 +521,9 @@ void DisplayDescriptionTest::refusedWalls_data()
         "f: wall.cabinets[0]: a cabinet needs a name, or row and column");
     row("no blue", withCabinets({QByteArray(a).replace("\"blue\"", "\"white\"")}), "f: wall.cabinets[0].blue: missing");
     row("null in the name", withCabinets({"\"name\": \"A\\u0000\", " + colors}),
-        "f: wall.cabinets[0]: a name has a null character");
+        "f: wall.cabinets[0]: a name has characters that cannot be stored");
+    row("half a surrogate pair in the name", withCabinets({"\"name\": \"\\ud83d0\", " + colors}),
+        "f: wall.cabinets[0]: a name has characters that cannot be stored");
     row("row alone", withCabinets({a + ", \"row\": 1"}),
         "f: wall.cabinets[0].column: missing: row and column are only known together");
     row("column alone", withCabinets({a + ", \"column\": 1"}),

@@ -142,8 +142,8 @@
         <translation>应为三个数字</translation>
     </message>
     <message>
-        <source>a name has a null character</source>
-        <translation>名称中含有空字符（NUL）</translation>
+        <source>a name has characters that cannot be stored</source>
+        <translation>名称中含有无法存储的字符</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -151,8 +151,8 @@
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>a reason has a null character</source>
-        <translation>原因中含有空字符（NUL）</translation>
+        <source>a reason has characters that cannot be stored</source>
+        <translation>原因中含有无法存储的字符</translation>
     </message>
 </context>
 <context>
@@ -281,8 +281,8 @@
         <translation>不得为空</translation>
     </message>
     <message>
-        <source>a name has a null character</source>
-        <translation>名称中含有空字符（NUL）</translation>
+        <source>a name has characters that cannot be stored</source>
+        <translation>名称中含有无法存储的字符</translation>
     </message>
 </context>
 <context>
