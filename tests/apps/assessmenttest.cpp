@@ -19,6 +19,7 @@ private Q_SLOTS:
     void originalAndMeasuredAreBothGrounds_data();
     void originalAndMeasuredAreBothGrounds();
     void worstLineDecides();
+    void gamutOfACabinetIsNotThatOfTheDisplay();
 };
 
 void AssessmentTest::withoutAnOriginalNothingIsKnown()
@@ -130,6 +131,43 @@ void AssessmentTest::worstLineDecides()
     QCOMPARE(a.headline(), QStringLiteral("The display is out of tolerance"));
     a.lines.append(line(Judgement::Fail, Subject::Gamut));
     QCOMPARE(a.headline(), QStringLiteral("The display cannot show the target"));
+}
+
+void AssessmentTest::gamutOfACabinetIsNotThatOfTheDisplay()
+{
+    DisplayDescription d = wall(500);
+    d.measured = d.original;
+    d.original.clear();
+    const auto found = [&d](const std::optional<Tolerances> &tolerances = std::nullopt) {
+        return assess(d, tolerances, false, QStringLiteral("A1 1/1"));
+    };
+    const Assessment a = found();
+    QCOMPARE(a.judgement(), Judgement::Pass);
+    QCOMPARE(a.headline(), QStringLiteral("The cabinet A1 1/1 can show the target"));
+    QCOMPARE(a.lines.first().text,
+        QString::fromUtf8("All primaries and the white lie inside of the measured gamut “Wall”."));
+    Tolerances tolerances;
+    tolerances.limits.whiteUv = 1.0;
+    tolerances.standards = {{QStringLiteral("Rec.709"), Model::Diagram::Cie1976, 0.5}};
+    QCOMPARE(found(tolerances).headline(), QStringLiteral("The cabinet A1 1/1 shows the target within tolerance"));
+    QVERIFY(about(found(tolerances), Subject::Tolerance).last().text.contains(QString::fromUtf8("gamut “Wall”")));
+    tolerances.limits.whiteUv = 1e-9;
+    targetsOf(d, 0).white = Model::Target::fromYxy(1000.0, 0.31, 0.33);
+    QCOMPARE(found(tolerances).headline(), QStringLiteral("The cabinet A1 1/1 is out of tolerance"));
+    targetsOf(d, 1).red = Model::Target::fromYxy(100.0, 0.73, 0.26);
+    QCOMPARE(found().headline(), QStringLiteral("The cabinet A1 1/1 cannot show the target"));
+    d.target.clear();
+    QCOMPARE(found().headline(), QStringLiteral("Not known whether the cabinet A1 1/1 can show the target"));
+    // What the original does not show, the display does not.
+    d = wall(500);
+    targetsOf(d, 1).red = Model::Target::fromYxy(100.0, 0.73, 0.26);
+    d.gamuts.push_back(named("Cabinet", scaled(Model::rec2020().getTargets(), 1000.0), cd));
+    d.measured = QStringLiteral("Cabinet");
+    QCOMPARE(found().headline(), QStringLiteral("The display cannot show the target"));
+    // A gamut that has been made the original is the display's.
+    d = wall(500);
+    d.measured = d.original;
+    QCOMPARE(found().headline(), QStringLiteral("The display can show the target"));
 }
 
 QTEST_GUILESS_MAIN(AssessmentTest)

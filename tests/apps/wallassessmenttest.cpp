@@ -891,7 +891,14 @@ void WallAssessmentTest::oneCabinet()
     DisplayWall wall = wallOf(1);
     wall.cabinets.resize(1);
     QCOMPARE(assessWall(wall, targetOf(1000.0)).headline, QStringLiteral("The cabinet A1 shows this target"));
+    QVERIFY(
+        assessWall(wall, targetOf(1000.0)).lines.last().text.startsWith(QLatin1String("It reaches a white of 1100")));
     QCOMPARE(assessWall(wall, targetOf(2000.0)).headline, QStringLiteral("The cabinet A1 does not show this target"));
+    DisplayDescription description;
+    description.wall = wall;
+    description.gamuts = {targetOf(1000.0)};
+    description.target = nameOf(targetOf(1000.0));
+    QCOMPARE(assess(description).headline(), QStringLiteral("The cabinet A1 can show the target"));
     wall.unit = LuminanceUnit::NotKnown;
     QCOMPARE(assessWall(wall, targetOf(1000.0)).headline,
         QStringLiteral("Not known whether the cabinet A1 shows this target"));

@@ -6,6 +6,7 @@
 #include "display/displayassessor.h"
 #include "display/toleranceassessor.h"
 #include "display/wallassessment.h"
+#include "display/wallassessmenttexts.h"
 
 #include <algorithm>
 
@@ -28,6 +29,24 @@ Judgement worst(const QVector<AssessmentLine> &lines, bool ofTolerances)
         }
     }
     return found;
+}
+
+bool hasLines(const Assessment &assessment, AssessmentLine::Subject subject)
+{
+    return std::any_of(assessment.lines.begin(), assessment.lines.end(),
+        [subject](const AssessmentLine &line) { return line.subject == subject; });
+}
+
+//! The cabinet that all that is known of the display was measured of, but for its original; empty for none.
+QString onlyCabinet(const DisplayDescription &description, const QString &measuredCabinet)
+{
+    const DisplayWall &wall = description.wall;
+    if (wall.cabinets.empty()) {
+        const bool isApart = description.measured != description.original;
+        return isApart && description.gamut(description.measured) ? measuredCabinet : QString();
+    }
+    const bool isAlone = wall.cabinets.size() == 1 && wall.incomplete.empty() && knownDisplays(description).empty();
+    return isAlone ? cabinetName(wall, 0) : QString();
 }
 
 //! Adds to \a result what the cabinets of the wall show of the target, where both are known.
@@ -89,8 +108,13 @@ Judgement Assessment::judgement() const
 
 QString Assessment::headline() const
 {
-    const bool hasTolerances = std::any_of(lines.begin(), lines.end(),
-        [](const AssessmentLine &line) { return line.subject == AssessmentLine::Subject::Tolerance; });
+    const auto failsElsewhere = [](const AssessmentLine &line) {
+        return line.judgement == Judgement::Fail && line.isOfMeasured == std::make_optional(false);
+    };
+    if (!cabinet.isEmpty() && std::none_of(lines.begin(), lines.end(), failsElsewhere)) {
+        return cabinetHeadline();
+    }
+    const bool hasTolerances = hasLines(*this, AssessmentLine::Subject::Tolerance);
     switch (judgement()) {
     case Judgement::Pass:
         return hasTolerances ? AssessmentText::tr("The display shows the target within tolerance")
@@ -105,9 +129,31 @@ QString Assessment::headline() const
                                                   : AssessmentText::tr("Not known whether it can show the target");
 }
 
-Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances, bool needsChoice)
+QString Assessment::cabinetHeadline() const
+{
+    const bool hasTolerances = hasLines(*this, AssessmentLine::Subject::Tolerance);
+    const Judgement display = worst(lines, false);
+    const auto text = [this](const QString &ofCabinet) { return ofCabinet.arg(oneLine(cabinet)); };
+    switch (judgement()) {
+    case Judgement::Pass:
+        return text(hasTolerances ? AssessmentText::tr("The cabinet %1 shows the target within tolerance")
+                                  : AssessmentText::tr("The cabinet %1 can show the target"));
+    case Judgement::Fail:
+        return text(display == Judgement::Fail ? AssessmentText::tr("The cabinet %1 cannot show the target")
+                                               : AssessmentText::tr("The cabinet %1 is out of tolerance"));
+    case Judgement::NotKnown:
+        break;
+    }
+    return text(display == Judgement::Pass
+            ? AssessmentText::tr("Not known whether the cabinet %1 is in tolerance")
+            : AssessmentText::tr("Not known whether the cabinet %1 can show the target"));
+}
+
+Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances, bool needsChoice,
+    const QString &measuredCabinet)
 {
     Assessment result;
+    result.cabinet = onlyCabinet(description, measuredCabinet);
     if (needsChoice) {
         result.lines.append({AssessmentLine::Subject::Display, Judgement::NotKnown,
             AssessmentText::tr(
@@ -115,10 +161,10 @@ Assessment assess(const DisplayDescription &description, const std::optional<Tol
                 "choice that the warnings ask for."),
             std::nullopt, QString(), std::nullopt});
     }
-    assessDisplays(description, result);
+    assessDisplays(description, !measuredCabinet.isEmpty(), result);
     assessTheWall(description, result);
     if (tolerances) {
-        assessTolerances(description, *tolerances, result);
+        assessTolerances(description, *tolerances, !measuredCabinet.isEmpty(), result);
     }
     return result;
 }

@@ -77,11 +77,18 @@ struct Assessment {
     std::vector<DriveAssessment> displays; //!< what the target is held against: of knownDisplays()
     QVector<AssessmentLine> lines; //!< at least one
     std::shared_ptr<const WallAssessment> wall; //!< of the wall and the target; null if there is no wall or no target
+    QString cabinet; //!< the only cabinet that is known, if the verdict is about that; empty: about the display
 
     /*! \brief Fail when a line fails, or else NotKnown when one is not known. */
     Judgement judgement() const;
-    /*! \brief All in one short sentence: "The display cannot show the target". */
+    /*!
+     * \brief All in one short sentence: "The display cannot show the target". Where only one cabinet is known, it says
+     * no more of the display than of that cabinet.
+     */
     QString headline() const;
+
+private:
+    QString cabinetHeadline() const;
 };
 
 /*!
@@ -90,9 +97,12 @@ struct Assessment {
  * What all cabinets of a wall show, the display shows. Where it has an original or a measured gamut as well, all of
  * them have to show the target. While a measurement list \a needsChoice, what it says of the display is not known:
  * nothing passes.
+ *
+ * \param measuredCabinet the cabinet that the measured gamut is of, while others may follow; empty: it is of the
+ * display
  */
 Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances = std::nullopt,
-    bool needsChoice = false);
+    bool needsChoice = false, const QString &measuredCabinet = QString());
 
 } // namespace gamutviewer
 

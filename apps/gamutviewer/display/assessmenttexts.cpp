@@ -38,7 +38,9 @@ QString capitalised(QString text)
 
 QString displayName(const KnownDisplay &display)
 {
-    return display.isMeasured ? AssessmentText::tr("measured gamut") : AssessmentText::tr("original");
+    return display.isOfCabinet ? AssessmentText::tr("measured gamut “%1”").arg(oneLine(nameOf(display.gamut)))
+        : display.isMeasured   ? AssessmentText::tr("measured gamut")
+                               : AssessmentText::tr("original");
 }
 
 QString handleName(ceiechart::GamutVertex vertex)

@@ -25,7 +25,7 @@ struct AssessmentText {
 /*! \brief \a text with a capital at its beginning. */
 QString capitalised(QString text);
 
-/*! \brief "original" or "measured gamut". */
+/*! \brief "original" or "measured gamut", and of a cabinet the name that the gamut has elsewhere, too. */
 QString displayName(const KnownDisplay &display);
 /*! \brief The mark of \a vertex on the diagram: "handle “red” of the target". */
 QString handleName(ceiechart::GamutVertex vertex);

@@ -49,8 +49,9 @@ QString otherTarget(const DisplayDescription &description)
 //! Makes the lines of what the display can show.
 class DisplayAssessor {
 public:
-    DisplayAssessor(const DisplayDescription &description, Assessment &result)
+    DisplayAssessor(const DisplayDescription &description, bool isOfCabinet, Assessment &result)
         : m_description(description)
+        , m_isOfCabinet(isOfCabinet)
         , m_target(description.gamut(description.target))
         , m_result(result)
     {
@@ -58,7 +59,8 @@ public:
 
     void assess()
     {
-        for (const KnownDisplay &display : knownDisplays(m_description)) {
+        for (KnownDisplay display : knownDisplays(m_description)) {
+            display.isOfCabinet = display.isMeasured && m_isOfCabinet;
             m_result.displays.push_back({display, false, std::nullopt, std::nullopt});
         }
         judgeTarget();
@@ -348,6 +350,7 @@ private:
     }
 
     const DisplayDescription &m_description;
+    const bool m_isOfCabinet;
     const std::optional<DisplayGamut> m_target;
     Assessment &m_result;
     DriveAssessment *m_current = nullptr; // of m_result.displays, while it is judged
@@ -355,9 +358,9 @@ private:
 
 } // namespace
 
-void assessDisplays(const DisplayDescription &description, Assessment &assessment)
+void assessDisplays(const DisplayDescription &description, bool isOfCabinet, Assessment &assessment)
 {
-    DisplayAssessor(description, assessment).assess();
+    DisplayAssessor(description, isOfCabinet, assessment).assess();
 }
 
 } // namespace gamutviewer

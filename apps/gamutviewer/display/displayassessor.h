@@ -9,9 +9,9 @@ namespace gamutviewer {
 
 /*!
  * \brief Adds to \a assessment what the target is held against, how it is driven, and whether the display can show it:
- * its chromaticities and its luminances.
+ * its chromaticities and its luminances. \a isOfCabinet says whether the measured gamut is only that of a cabinet.
  */
-void assessDisplays(const DisplayDescription &description, Assessment &assessment);
+void assessDisplays(const DisplayDescription &description, bool isOfCabinet, Assessment &assessment);
 
 } // namespace gamutviewer
 

@@ -20,6 +20,7 @@ namespace gamutviewer {
 struct KnownDisplay {
     DisplayGamut gamut;
     bool isMeasured = false; //!< whether it is the measured gamut; otherwise the original
+    bool isOfCabinet = false; //!< whether it was measured of one cabinet, and is not known of the display
 };
 
 /*!

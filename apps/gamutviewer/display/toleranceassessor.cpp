@@ -78,9 +78,11 @@ Model::DeviationValues rounded(Model::DeviationValues values)
 //! Makes the lines of what was measured.
 class ToleranceAssessor {
 public:
-    ToleranceAssessor(const DisplayDescription &description, const Tolerances &tolerances, Assessment &result)
+    ToleranceAssessor(
+        const DisplayDescription &description, const Tolerances &tolerances, bool isOfCabinet, Assessment &result)
         : m_description(description)
         , m_tolerances(tolerances)
+        , m_isOfCabinet(isOfCabinet)
         , m_target(description.gamut(description.target))
         , m_measured(description.gamut(description.measured))
         , m_result(result)
@@ -122,6 +124,11 @@ private:
         return verdict == Model::ToleranceVerdict::Passed ? Judgement::Pass
             : verdict == Model::ToleranceVerdict::Failed  ? Judgement::Fail
                                                           : Judgement::NotKnown;
+    }
+
+    QString measuredName() const
+    {
+        return displayName({m_measured ? *m_measured : DisplayGamut(), true, m_measured && m_isOfCabinet});
     }
 
     //! Why a deviation is not known.
@@ -170,7 +177,7 @@ private:
             : m_measured && m_target && result.subject == ToleranceSubject::Luminance
                 && !luminancesCompare(m_measured->unit, m_target->unit)
             ? AssessmentText::tr("not known. %1", "and why, in sentences")
-                  .arg(incomparableText(m_target->unit, m_measured->unit, AssessmentText::tr("measured gamut")))
+                  .arg(incomparableText(m_target->unit, m_measured->unit, measuredName()))
             : AssessmentText::tr("not known, as %1").arg(notKnownText(result.subject));
         QString text = AssessmentText::tr("%1: %2", "what was judged and the judgement").arg(what, is);
         if (result.verdict == Model::ToleranceVerdict::Failed) {
@@ -229,7 +236,8 @@ private:
         const QString diagram
             = limit.diagram == Model::Diagram::Cie1931 ? AssessmentText::tr("x, y") : AssessmentText::tr("u′, v′");
         const QString what
-            = AssessmentText::tr("Coverage of %1 in %2 by the measured gamut").arg(oneLine(limit.standard), diagram);
+            = AssessmentText::tr("Coverage of %1 in %2 by the %3", "gamut, diagram, and which gamut of the display")
+                  .arg(oneLine(limit.standard), diagram, measuredName());
         if (!standard || !m_measured) {
             const QString why = standard ? AssessmentText::tr("no measured gamut of the display is known.")
                                          : AssessmentText::tr("there is no gamut of that name.");
@@ -255,6 +263,7 @@ private:
 
     const DisplayDescription &m_description;
     const Tolerances &m_tolerances;
+    const bool m_isOfCabinet;
     const std::optional<DisplayGamut> m_target;
     const std::optional<DisplayGamut> m_measured;
     Assessment &m_result;
@@ -262,9 +271,10 @@ private:
 
 } // namespace
 
-void assessTolerances(const DisplayDescription &description, const Tolerances &tolerances, Assessment &assessment)
+void assessTolerances(
+    const DisplayDescription &description, const Tolerances &tolerances, bool isOfCabinet, Assessment &assessment)
 {
-    ToleranceAssessor(description, tolerances, assessment).assess();
+    ToleranceAssessor(description, tolerances, isOfCabinet, assessment).assess();
 }
 
 } // namespace gamutviewer

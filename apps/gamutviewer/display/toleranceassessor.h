@@ -9,9 +9,10 @@ namespace gamutviewer {
 
 /*!
  * \brief Adds to \a assessment whether the measured gamut is within \a tolerances of the target, and covers the
- * standards as they want.
+ * standards as they want. \a isOfCabinet says whether the measured gamut is only that of a cabinet.
  */
-void assessTolerances(const DisplayDescription &description, const Tolerances &tolerances, Assessment &assessment);
+void assessTolerances(
+    const DisplayDescription &description, const Tolerances &tolerances, bool isOfCabinet, Assessment &assessment);
 
 } // namespace gamutviewer
 

@@ -62,8 +62,12 @@ void DocumentView::note()
         setEditNote(ofWall);
         return;
     }
-    const auto outside
+    auto outside
         = selected && *selected != ceiechart::GamutVertex::White ? outsideOf(description, *selected) : std::nullopt;
+    if (outside) {
+        outside->display.isOfCabinet
+            = outside->display.isMeasured && !session()->document()->measuredCabinet().isEmpty();
+    }
     setEditNote(outside ? tr("outside of the %1 by Δu′v′ %2", "gamut and distance")
                               .arg(displayName(outside->display), distanceText(outside->distance))
                         : QString());

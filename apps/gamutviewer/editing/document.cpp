@@ -196,12 +196,19 @@ void Document::cancelDrag()
     }
 }
 
-void Document::showFollowed(const std::optional<GamutFile> &measurements, const std::optional<DisplayWall> &wall)
+void Document::showFollowed(
+    const std::optional<GamutFile> &measurements, const std::optional<DisplayWall> &wall, const QString &cabinet)
 {
     m_followed = measurements;
+    m_followedCabinet = cabinet;
     m_followedWall = measurements ? wall : std::nullopt;
     refresh();
     Q_EMIT changed();
+}
+
+QString Document::measuredCabinet() const
+{
+    return m_followed && usualRole(*m_followed) == GamutRole::Measured ? m_followedCabinet : QString();
 }
 
 bool Document::hasUnkept() const

@@ -74,9 +74,13 @@ public:
      * That is no edit: it is neither a step of the history nor saved. An edit that is based on what is shown takes over
      * nothing of it, but for a gamut that gets another part or another name by it, and for a wall of which it leaves
      * out a cabinet. The cabinets that own() leaves out are left out of \a wall, too.
+     *
+     * The gamut of \a measurements is that of \a cabinet, which others may follow; empty: that of the display.
      */
-    void showFollowed(
-        const std::optional<GamutFile> &measurements, const std::optional<DisplayWall> &wall = std::nullopt);
+    void showFollowed(const std::optional<GamutFile> &measurements,
+        const std::optional<DisplayWall> &wall = std::nullopt, const QString &cabinet = QString());
+    /*! \brief The cabinet whose gamut is shown as the measured one while it is followed; empty for none. */
+    QString measuredCabinet() const;
     /*! \brief Whether a measurement is shown that own() does not have. */
     bool hasUnkept() const;
     /*! \brief Takes the measurement that is shown into the description, as one step of the history called \a text. */
@@ -108,6 +112,7 @@ private:
     DisplayDescription m_own;
     std::optional<GamutFile> m_followed;
     std::optional<DisplayWall> m_followedWall;
+    QString m_followedCabinet;
     DisplayDescription m_saved;
     QString m_fileName;
     QUndoStack m_history;

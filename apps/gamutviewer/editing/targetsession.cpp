@@ -38,7 +38,7 @@ TargetSession::TargetSession(Document *document, QObject *parent)
 const Assessment &TargetSession::assessment() const
 {
     if (!m_assessment) {
-        m_assessment = assess(m_document->description(), m_tolerances);
+        m_assessment = assess(m_document->description(), m_tolerances, false, m_document->measuredCabinet());
     }
     return *m_assessment;
 }

@@ -60,7 +60,7 @@ void FollowMenu::followByDialog()
 
 void FollowMenu::show()
 {
-    m_document->showFollowed(m_following->file(), m_following->wall());
+    m_document->showFollowed(m_following->file(), m_following->wall(), m_following->latest().listedCabinet());
 }
 
 void FollowMenu::keep()
