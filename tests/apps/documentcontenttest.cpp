@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include "drawing/documentcontent.h"
+#include "drawing/layerswitches.h"
 
 #include <QtTest>
 
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void gamutsKeepTheirValues();
     void namesAreThoseOfTheInterface();
     void pointsKeepOrderAndNames();
+    void cabinetsAreMarks();
     void ringsAreRoundTheWhiteOfTheTarget();
 };
 
@@ -109,6 +111,27 @@ void DocumentContentTest::pointsKeepOrderAndNames()
     QCOMPARE(content.measurePoints.at(0).name, QStringLiteral("a\\u0009b"));
     QCOMPARE(content.cmyPoints.size(), 3);
     QCOMPARE(content.cmyPoints.at(2).xy, QPointF(0.4, 0.5));
+}
+
+void DocumentContentTest::cabinetsAreMarks()
+{
+    DisplayDescription description = wall();
+    description.measurePoints = {{QStringLiteral("grey"), {0.31, 0.33}}};
+    for (const double redX : {0.69, 0.70}) {
+        WallCabinet cabinet;
+        cabinet.red = Model::Target::fromYxy(240, redX, 0.29);
+        cabinet.green = Model::Target::fromYxy(600, 0.18, 0.72);
+        cabinet.blue = Model::Target::fromYxy(80, 0.14, 0.05);
+        description.wall.cabinets.push_back(cabinet);
+    }
+    const DiagramContent content = LayerSwitches().content(description);
+    QCOMPARE(content.measurePoints.size(), 7);
+    QCOMPARE(content.measurePoints.at(0).xy, QPointF(0.69, 0.29));
+    QCOMPARE(content.measurePoints.at(3).xy, QPointF(0.70, 0.29));
+    QCOMPARE(content.measurePoints.at(5).xy, QPointF(0.14, 0.05));
+    QVERIFY(content.measurePoints.at(3).color.red() > content.measurePoints.at(3).color.green());
+    QVERIFY(content.measurePoints.at(3).name.isEmpty());
+    QCOMPARE(content.measurePoints.at(6).name, QStringLiteral("grey")); // over all others
 }
 
 void DocumentContentTest::ringsAreRoundTheWhiteOfTheTarget()

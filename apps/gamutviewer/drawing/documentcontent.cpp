@@ -55,6 +55,22 @@ ceiechart::DiagramContent documentContent(const DisplayDescription &description,
     return content;
 }
 
+QVector<ceiechart::DiagramMark> cabinetMarks(const DisplayWall &wall)
+{
+    // As marks have a rim, these show on any ground.
+    const QColor red(0xe5, 0x39, 0x35);
+    const QColor green(0x43, 0xa0, 0x47);
+    const QColor blue(0x1e, 0x88, 0xe5);
+    QVector<ceiechart::DiagramMark> found;
+    found.reserve(3 * int(wall.cabinets.size()));
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        found.append({ceiechart::xyOf(cabinet.red), QString(), red});
+        found.append({ceiechart::xyOf(cabinet.green), QString(), green});
+        found.append({ceiechart::xyOf(cabinet.blue), QString(), blue});
+    }
+    return found;
+}
+
 QVector<ceiechart::DiagramRings> targetRings(const Model::Targets &target, const std::optional<Tolerances> &tolerances)
 {
     using Vertex = ceiechart::GamutVertex;

@@ -21,6 +21,9 @@ ceiechart::DiagramContent documentContent(const DisplayDescription &description,
 /*! \brief The same of what \a description has, without a default target. */
 ceiechart::DiagramContent documentContent(const DisplayDescription &description);
 
+/*! \brief Red, green and blue of each cabinet of \a wall, as small marks without names. */
+QVector<ceiechart::DiagramMark> cabinetMarks(const DisplayWall &wall);
+
 /*!
  * \brief The rings round the colours of \a target: of the limits of \a tolerances round white and primaries; without a
  * limit for the white, the usual ones round it.

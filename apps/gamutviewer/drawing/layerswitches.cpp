@@ -58,6 +58,7 @@ ceiechart::DiagramContent LayerSwitches::content(const DisplayDescription &descr
     }
     ceiechart::DiagramContent content
         = documentContent(shown, m_showsDefaultTarget ? gamutPartsToEdit(shown) : gamutParts(shown));
+    content.measurePoints = cabinetMarks(description.wall) + content.measurePoints;
     content.layers = m_state.layers;
     content.colors = m_state.colors;
     if (description.target.isEmpty()) {

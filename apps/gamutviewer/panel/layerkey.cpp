@@ -62,6 +62,12 @@ bool isGamut(const QListWidgetItem *entry)
     return entry->data(GamutRoleRole).isValid();
 }
 
+//! The cabinets of a wall are points as well.
+bool hasMeasurePoints(const DisplayDescription &description)
+{
+    return !description.measurePoints.isEmpty() || !description.wall.cabinets.empty();
+}
+
 bool isPart(const QModelIndex &index)
 {
     return !index.data(DetailRole).toString().isEmpty();
@@ -299,7 +305,7 @@ void LayerKey::build()
     addLayer(tr("Planckian locus"), DiagramLayer::PlanckianLocus);
     addLayer(tr("Isotherms"), DiagramLayer::Isotherms);
     addLayer(tr("Wavelengths"), DiagramLayer::Wavelengths);
-    if (!description.measurePoints.isEmpty()) {
+    if (hasMeasurePoints(description)) {
         addLayer(tr("Measure points"), DiagramLayer::MeasurePoints);
     }
     if (!description.colorTemperaturePoints.isEmpty()) {
@@ -340,7 +346,7 @@ void LayerKey::refresh()
         made.append(nameOf(standard));
     }
     made.append(QStringLiteral("%1 %2 %3")
-                    .arg(description.measurePoints.isEmpty())
+                    .arg(hasMeasurePoints(description))
                     .arg(description.colorTemperaturePoints.isEmpty())
                     .arg(description.cmyPoints.isEmpty()));
     if (made != m_built) {
