@@ -413,6 +413,15 @@ void FollowedDocumentTest::removedWallIsTheDescriptions()
     f.session.removeWall();
     QVERIFY(f.ownIs(description()));
     QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
+    QCOMPARE(f.document.history()->count(), 0); // there was nothing to remove
+    f.open(wall({"old"}));
+    f.session.removeWall();
+    QCOMPARE(f.document.own().wall.cabinets.size(), std::size_t(1));
+    QCOMPARE(f.document.history()->count(), 0);
+    f.document.showFollowed(std::nullopt);
+    f.session.removeWall();
+    QVERIFY(f.document.own().wall.cabinets.empty());
+    QCOMPARE(f.document.history()->count(), 1);
 }
 
 void FollowedDocumentTest::selectionStaysWithItsCabinet()

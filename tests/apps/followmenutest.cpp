@@ -103,6 +103,7 @@ private Q_SLOTS:
     void typingIsNotDisturbed();
     void showsAWallAsItIsMeasured();
     void keepsAWall();
+    void followedWallIsNotRemoved();
     void namesTheGamutAfterTheOnlyCabinet();
     void namingIsNotDisturbed();
 };
@@ -336,6 +337,24 @@ void FollowMenuTest::keepsAWall()
     QCOMPARE(descriptionText(f.document().own()), descriptionText(expected));
     f.document().history()->undo();
     QCOMPARE(descriptionText(f.document().description()), before);
+}
+
+void FollowMenuTest::followedWallIsNotRemoved()
+{
+    FollowFixture f;
+    const auto offersRemoval = [&f] {
+        for (const QAction *action : f.window->findChildren<QAction *>()) {
+            if (action->text() == QLatin1String("&Remove the wall")) {
+                return action->isEnabled();
+            }
+        }
+        return false;
+    };
+    f.followFile(cabinetHeader + cabinet("A1,1,1,", "0.64,0.33") + cabinet("A2,1,2,", "0.65,0.33"));
+    QTRY_COMPARE(f.document().description().wall.cabinets.size(), std::size_t(2));
+    QVERIFY(!offersRemoval());
+    f.menu->stop();
+    QVERIFY(offersRemoval());
 }
 
 void FollowMenuTest::namesTheGamutAfterTheOnlyCabinet()

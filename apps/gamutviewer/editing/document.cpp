@@ -156,7 +156,11 @@ void Document::change(const DisplayDescription &description, const QString &text
     if (m_dragging) {
         cancelDrag();
     }
-    m_history.push(new Step(this, m_own, withoutFollowed(description), text, mergeKey));
+    const DisplayDescription own = withoutFollowed(description);
+    if (m_followed && descriptionText(own) == descriptionText(m_own)) {
+        return;
+    }
+    m_history.push(new Step(this, m_own, own, text, mergeKey));
 }
 
 void Document::beginDrag()

@@ -54,6 +54,7 @@ public:
      * \brief Changes the description as one step of the history, called \a text.
      *
      * Changes that follow one another with the same \a mergeKey other than 0 become one step, until breakMerging().
+     * What is changed of nothing but the measurement that is followed is no step: that is not part of own().
      */
     void change(const DisplayDescription &description, const QString &text, int mergeKey = 0);
     void breakMerging() { ++m_mergeRun; }
@@ -81,6 +82,8 @@ public:
         const std::optional<DisplayWall> &wall = std::nullopt, const QString &cabinet = QString());
     /*! \brief The cabinet whose gamut is shown as the measured one while it is followed; empty for none. */
     QString measuredCabinet() const;
+    /*! \brief Whether a wall is shown that is followed. It is not removed by an edit. */
+    bool followsWall() const { return m_followedWall.has_value(); }
     /*! \brief Whether a measurement is shown that own() does not have. */
     bool hasUnkept() const;
     /*! \brief Takes the measurement that is shown into the description, as one step of the history called \a text. */

@@ -160,7 +160,7 @@ void ViewerWindow::buildWallMenu()
         const bool isOne = cabinet && *cabinet < wall.cabinets.size();
         fit->setEnabled(!wall.cabinets.empty());
         write->setEnabled(!wall.cabinets.empty());
-        remove->setEnabled(!wall.cabinets.empty());
+        remove->setEnabled(!wall.cabinets.empty() && !m_document.followsWall());
         leaveOut->setEnabled(isOne);
         leaveOut->setChecked(isOne && wall.cabinets.at(*cabinet).isLeftOut);
     };
