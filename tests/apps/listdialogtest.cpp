@@ -77,6 +77,8 @@ void ListDialogTest::cabinetIsChosen()
     QString after;
     const ListAnswer answer([&](ListDialog *dialog) {
         before = dialog->preview()->toPlainText();
+        QCOMPARE(dialog->question()->text(),
+            QStringLiteral("wall.csv has measurements of 2 cabinets. What is to be made of them?"));
         QVERIFY(dialog->cabinet()->isVisible());
         QCOMPARE(dialog->cabinet()->currentText(), QStringLiteral("the whole wall, 2 cabinets"));
         QTest::keyClick(dialog->cabinet(), Qt::Key_Down);
@@ -104,6 +106,8 @@ void ListDialogTest::listsAreAskedAbout()
     QString after;
     const ListAnswer answer([&](ListDialog *dialog) {
         before = dialog->preview()->toPlainText();
+        QCOMPARE(dialog->question()->text(),
+            QStringLiteral("meter.csv does not say all of what it means. What is known of it?"));
         // By its keys, as a user: the second red, the sum, cd/m2.
         QComboBox *red = dialog->choice(Vertex::Red);
         QTest::keyClick(red, Qt::Key_End);

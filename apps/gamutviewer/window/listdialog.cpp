@@ -88,14 +88,11 @@ ListDialog::ListDialog(const QString &fileName, const MeasurementOptions &option
 {
     setWindowTitle(tr("Measurement list"));
     auto *layout = new QVBoxLayout(this);
-    auto *question = new QLabel(this);
-    question->setTextFormat(Qt::PlainText);
-    question->setWordWrap(true);
-    question->setText(
-        (m_read && !needsChoice(*m_read) ? tr("How is %1 to be read?")
-                                         : tr("%1 does not say all of what it means. What is known of it?"))
-            .arg(oneLine(QFileInfo(fileName).fileName())));
-    layout->addWidget(question);
+    m_question = new QLabel(this);
+    m_question->setTextFormat(Qt::PlainText);
+    m_question->setWordWrap(true);
+    m_question->setText(questionText());
+    layout->addWidget(m_question);
     auto *form = new QFormLayout;
     layout->addLayout(form);
     m_unit = new QComboBox(this);
@@ -144,6 +141,21 @@ ListDialog::ListDialog(const QString &fileName, const MeasurementOptions &option
     resize(520, 460);
     readAsChosen();
     refresh();
+}
+
+QString ListDialog::questionText() const
+{
+    const QString name = oneLine(QFileInfo(m_fileName).fileName());
+    if (m_read && !needsChoice(*m_read)) {
+        return tr("How is %1 to be read?").arg(name);
+    }
+    const bool hasUnit = m_read && m_read->measurements.recognized.unit != MeasuredUnit::NotKnown;
+    const int cabinets = hasUnit ? m_read->measurements.cabinets().size() : 0;
+    if (cabinets > 1 && wallFromMeasurements(m_read->measurements)) { // which is all there
+        return tr("%1 has measurements of %2 cabinets. What is to be made of them?")
+            .arg(name, QString::number(cabinets));
+    }
+    return tr("%1 does not say all of what it means. What is known of it?").arg(name);
 }
 
 void ListDialog::fillCabinets()

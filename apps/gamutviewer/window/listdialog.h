@@ -40,6 +40,8 @@ public:
     /*! \brief Whether the cabinets of the list are to be the wall of the display. */
     bool isWall() const;
 
+    /*! \brief What is asked of the list. */
+    QLabel *question() const { return m_question; }
     QComboBox *unit() const { return m_unit; }
     QComboBox *decimalSign() const { return m_decimalSign; }
     /*! \brief Chooses the whole wall or one cabinet; hidden for a list that has no more than one. */
@@ -51,6 +53,7 @@ public:
     QPushButton *useButton() const { return m_use; }
 
 private:
+    QString questionText() const;
     void fillCabinets();
     void fillChoices();
     void take();
@@ -60,6 +63,7 @@ private:
     QString m_fileName;
     MeasurementOptions m_options;
     Outcome<GamutFile> m_read;
+    QLabel *m_question;
     QComboBox *m_unit;
     QComboBox *m_decimalSign;
     QComboBox *m_cabinet;
