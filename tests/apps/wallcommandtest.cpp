@@ -464,6 +464,13 @@ void WallCommandTest::fitsTheTarget()
     const Result bright = run({write("bright.json", targetText(5000.0)), "--wall", "wall.csv", "--fit", "--check"});
     QVERIFY2(bright.exitCode == 0, bright.output + bright.error);
     QVERIFY2(bright.error.contains("cd/m² instead of 5000.0 cd/m²"), bright.error);
+    const Result none = run({write("none.json", targetText(0.0)), "--wall", "wall.csv", "--fit", "--check"});
+    QVERIFY2(none.exitCode == 0, none.output + none.error);
+    QVERIFY2(none.error.contains("the white of the target has no luminance; its white is taken at "), none.error);
+    write("relative.json", targetText(0.0).replace("cd/m2", "relative"));
+    const Result relative = run({"relative.json", "--wall", "wall.csv", "--fit", "--check"});
+    QCOMPARE(relative.exitCode, 0);
+    QCOMPARE(relative.error, none.error);
     const Result fits = run({"stage.json", "--wall", "wall.csv", "--fit", "--check"});
     QCOMPARE(fits.exitCode, 0);
     QVERIFY2(fits.error.contains("--fit: the target fits the wall as it is"), fits.error);

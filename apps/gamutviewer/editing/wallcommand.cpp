@@ -428,17 +428,25 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
     auto wanted = target;
     const WallAssessment before = assessWall(description.wall, *target);
     const auto &largestWhite = before.largestWhite;
-    if (target->unit == LuminanceUnit::Relative && description.wall.unit == LuminanceUnit::CandelaPerSquareMetre
-        && largestWhite) {
-        result.description
-            = withLuminanceUnit(description, description.wall.unit, roundedDown(largestWhite->luminance));
+    const bool hasLuminance = target->getTargets().white.Y > 0.0;
+    const bool takesLargest = target->unit == LuminanceUnit::Relative
+        || (target->unit == LuminanceUnit::CandelaPerSquareMetre && !hasLuminance);
+    if (takesLargest && description.wall.unit == LuminanceUnit::CandelaPerSquareMetre && largestWhite) {
+        const double luminance = roundedDown(largestWhite->luminance);
+        // Luminances of 0 cannot be scaled: those that mix to the white are what the corrections are for.
+        const auto mixed = hasLuminance
+            ? std::nullopt
+            : ceiechart::withLuminance(before.correction.target, ceiechart::GamutVertex::White, luminance, true);
+        result.description = mixed ? withEditedTarget(description, *mixed, description.wall.unit)
+                                   : withLuminanceUnit(description, description.wall.unit, luminance);
         wanted = result.description.gamut(result.description.target);
+        const QString why = hasLuminance ? CommandText::tr("the luminance of the target is relative")
+                                         : CommandText::tr("the white of the target has no luminance");
         result.notes.append((before.isReachKnownOfAll
-                ? CommandText::tr("the luminance of the target is relative; its white is taken at %1, the largest that "
-                                  "all cabinets reach")
-                : CommandText::tr("the luminance of the target is relative; its white is taken at %1, the largest that "
-                                  "all cabinets reach of which it is known"))
-                                .arg(reachableText(largestWhite->luminance, description.wall.unit)));
+                ? CommandText::tr("%1; its white is taken at %2, the largest that all cabinets reach")
+                : CommandText::tr("%1; its white is taken at %2, the largest that all cabinets reach of which it is "
+                                  "known"))
+                                .arg(why, reachableText(largestWhite->luminance, description.wall.unit)));
     }
     const WallAssessment assessment = assessWall(description.wall, *wanted);
     const auto fitted = fittedToWall(*wanted, assessment);
