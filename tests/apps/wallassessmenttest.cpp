@@ -51,6 +51,7 @@ private Q_SLOTS:
     void blacksAreCorrected();
     void blackThatKeepsACabinetOff();
     void blackThatIsNotSeen();
+    void darkContentOverABrightBlackIsNotJudged();
     void blackTooBrightForAnyTarget();
     void fittedTargetPassesOverBlacks();
     void reachedLuminancesAreRoundedDown();
@@ -662,6 +663,34 @@ void WallAssessmentTest::blackThatIsNotSeen()
     QVERIFY(*found.correction.corrections[0].remaining.blueUv > 1e-6);
     QVERIFY(*found.correction.corrections[0].remaining.blueUv < visibleUv);
     QCOMPARE(found.judgement, Judgement::Pass);
+}
+
+void WallAssessmentTest::darkContentOverABrightBlackIsNotJudged()
+{
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].black = color(0.05, 0.36, 0.38);
+    const DisplayGamut target = targetOf(500.0);
+    const WallAssessment found = assessWall(wall, target);
+    QCOMPARE(found.judgement, Judgement::Pass);
+    const QString remark = QStringLiteral("Content that is darker than the target is not judged: at 10.0 % of its "
+                                          "luminance, the black of A5 shifts blue by ");
+    QVERIFY2(textOf(found).contains(remark), qPrintable(textOf(found)));
+    // The light of a tenth of the target's blue, and of nine tenths of the black.
+    const Model::Target &blue = found.correction.target.blue;
+    const Model::Target &black = *wall.cabinets[4].black;
+    const double X = 0.1 * blue.X + 0.9 * black.X;
+    const double Y = 0.1 * blue.Y + 0.9 * black.Y;
+    const double Z = 0.1 * blue.Z + 0.9 * black.Z;
+    const double denominator = X + 15.0 * Y + 3.0 * Z;
+    const double shift = std::hypot(4.0 * X / denominator - blue.u, 9.0 * Y / denominator - blue.v);
+    QVERIFY(shift > visibleUv);
+    QVERIFY2(textOf(found).contains(remark + QString::fromUtf8("Δu′v′ %1.").arg(shift, 0, 'f', 4)),
+        qPrintable(textOf(found)));
+    wall.cabinets[4].black = color(0.0005, 0.36, 0.38); // too little to be seen
+    QVERIFY(!textOf(assessWall(wall, target)).contains(QLatin1String("darker")));
+    wall.cabinets[4].black = color(0.05, 0.36, 0.38);
+    wall.cabinets[4].isLeftOut = true;
+    QVERIFY(!textOf(assessWall(wall, target)).contains(QLatin1String("darker")));
 }
 
 void WallAssessmentTest::blackTooBrightForAnyTarget()

@@ -279,6 +279,41 @@ QString offSumText(const DisplayWall &wall, const WallAssessment &assessment, co
         .arg(percent(luminance), distanceText(uv), cabinetName(wall, *worst));
 }
 
+QString darkContentText(
+    const DisplayWall &wall, const WallAssessment &assessment, const std::vector<std::size_t> &cabinets)
+{
+    constexpr double level = 0.1;
+    if (assessment.correction.fault != Model::WallFault::None) {
+        return QString();
+    }
+    double most = visibleUv;
+    std::optional<std::size_t> worst;
+    Vertex shifted = Vertex::White;
+    for (const std::size_t i : cabinets) {
+        const auto &black = wall.cabinets[i].black;
+        if (!black || !(black->Y > 0.0)) {
+            continue;
+        }
+        for (const Vertex vertex : ceiechart::allGamutVertices) {
+            const Model::Target &full = targetAt(assessment.correction.target, vertex);
+            const auto mixed = [&](double of, double dark) { return level * of + (1.0 - level) * dark; };
+            const double X = mixed(full.X, black->X);
+            const double Y = mixed(full.Y, black->Y);
+            const double sum = X + Y + mixed(full.Z, black->Z);
+            const auto shift = Model::uvDifference(Model::Target::fromYxy(Y, X / sum, Y / sum), full);
+            if (shift && *shift > most) {
+                most = *shift;
+                worst = i;
+                shifted = vertex;
+            }
+        }
+    }
+    return worst ? WallText::tr("Content that is darker than the target is not judged: at %1 of its luminance, the "
+                                "black of %2 shifts %3 by Δu′v′ %4.")
+                       .arg(percent(level), cabinetName(wall, *worst), gamutVertexName(shifted), distanceText(most))
+                 : QString();
+}
+
 QString mixtureText(const DisplayGamut &target, const Model::Targets &mixed)
 {
     constexpr double rounding = 0.01; // of what files and people write

@@ -56,6 +56,13 @@ QStringList exchangeTexts(const DisplayWall &wall);
 QString offSumText(const DisplayWall &wall, const WallAssessment &assessment, const std::vector<std::size_t> &cabinets);
 
 /*!
+ * \brief That dark content is not judged, where a black of \a cabinets is so bright that it shifts a tenth of a colour
+ * of the target by more than visibleUv, and the cabinet where that is most; empty otherwise.
+ */
+QString darkContentText(
+    const DisplayWall &wall, const WallAssessment &assessment, const std::vector<std::size_t> &cabinets);
+
+/*!
  * \brief That the luminances of the primaries of \a target do not mix to its white, and which of those of \a mixed,
  * which is the target with some white, corrections are for; empty where they mix to it, or none are stated.
  */

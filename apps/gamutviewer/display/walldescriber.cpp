@@ -60,6 +60,7 @@ public:
         if (!isPass) {
             describeWhite(failing.size());
         }
+        describeDarkContent();
         describeWays(failing, unknown);
         headline(failing, unknown.size() + m_wall.incomplete.size());
     }
@@ -215,6 +216,15 @@ private:
             add(std::nullopt,
                 WallText::tr("The corrections are for a white of %1.")
                     .arg(reachableText(m_result.correction.target.white.Y, m_wall.unit)));
+        }
+    }
+
+    //! The colours of the target are judged, over the blacks as well. What is darker, a bright black shifts by more.
+    void describeDarkContent()
+    {
+        const QString text = darkContentText(m_wall, m_result, m_counted);
+        if (!text.isEmpty()) {
+            add(std::nullopt, text);
         }
     }
 
