@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
+// SPDX-License-Identifier: MIT
+#include "assessedwall.h"
+
+#include "display/wallreport.h"
+
+#include <QJsonArray>
+#include <QtTest>
+
+#include <cmath>
+#include <random>
+
+using namespace assessedwall;
+
+class WallBlacksTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void blacksAreCorrected();
+    void blackThatKeepsACabinetOff();
+    void blackThatIsNotSeen();
+    void darkContentOverABrightBlackIsNotJudged();
+    void blackTooBrightForAnyTarget();
+    void fittedTargetPassesOverBlacks();
+};
+
+void WallBlacksTest::blacksAreCorrected()
+{
+    DisplayWall wall = wallOf(1);
+    for (WallCabinet &of : wall.cabinets) {
+        of.black = color(0.5, 0.30, 0.31);
+    }
+    const WallAssessment found = assessWall(wall, targetOf(1000.0));
+    QCOMPARE(found.judgement, Judgement::Pass);
+    QVERIFY(*found.cabinets[0].uvAfter < 1e-9);
+    QVERIFY(*found.cabinets[0].largestWhite < 1100.0); // the black is in each of the primaries, and once in the white
+}
+
+void WallBlacksTest::blackThatKeepsACabinetOff()
+{
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].black = color(3.0, 0.31, 0.33);
+    Model::Targets of = Model::rec2020().getTargets(); // the cabinets' own
+    for (Model::Target *t : {&of.red, &of.green, &of.blue, &of.white}) {
+        *t = color(t->Y * 500.0, t->x, t->y);
+    }
+    const DisplayGamut target{Model::ColorGamut("Wanted", of), cd};
+    const WallAssessment found = assessWall(wall, target);
+    const CabinetAssessment &cabinet = found.cabinets[4];
+    QCOMPARE(found.judgement, Judgement::Fail);
+    QCOMPARE(cabinet.judgement, Judgement::Fail);
+    QCOMPARE(cabinet.gamut, Judgement::Pass);
+    QCOMPARE(cabinet.luminance, Judgement::Pass);
+    QCOMPARE(found.headline, QStringLiteral("11 of 12 cabinets show this target; A5 does not"));
+    const Model::DeviationValues &remaining = found.correction.corrections[4].remaining;
+    const std::optional<double> off[] = {remaining.redUv, remaining.greenUv, remaining.blueUv};
+    double most = 0.0;
+    for (const Vertex vertex : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
+        const double distance = cabinet.offByBlack[std::size_t(vertex)];
+        QVERIFY(distance > visibleUv);
+        QVERIFY(std::fabs(distance - *off[int(vertex)]) < 1e-12);
+        most = std::max(most, distance);
+    }
+    QCOMPARE(cabinet.offByBlack[std::size_t(Vertex::White)], 0.0);
+    QCOMPARE(cabinet.offByBlack[std::size_t(*cabinet.limit)], most);
+    const QString line = found.lines.first().text;
+    QVERIFY2(line.startsWith(QStringLiteral("A5: the black is too bright, and keeps it off red by Δu′v′ ")
+                 + QString::number(*off[0], 'f', 4) + QStringLiteral(", green by Δu′v′ ")),
+        qPrintable(line));
+    QVERIFY(line.contains(QStringLiteral("measure the black without stray light")));
+    QVERIFY2(textOf(found).contains(QStringLiteral("- Without A5, all show the target.")), qPrintable(textOf(found)));
+    const QJsonArray reported = wallReport(wall, &found).value(QStringLiteral("cabinets")).toArray();
+    const auto blackOf
+        = [&](int i) { return reported.at(i).toObject().value(QStringLiteral("offByBlack")).toObject(); };
+    QCOMPARE(blackOf(4).value(QStringLiteral("red")).toDouble(), cabinet.offByBlack[std::size_t(Vertex::Red)]);
+    QVERIFY(!blackOf(4).contains(QStringLiteral("white")) && blackOf(3).isEmpty());
+    const auto fitted = fittedToWall(target, found);
+    QVERIFY(fitted);
+    QCOMPARE(fitted->white.Y, 500.0);
+    QCOMPARE(found.fit.red.limit, std::make_optional(std::size_t(4)));
+    QCOMPARE(assessWall(wall, {Model::ColorGamut("Fitted", *fitted), cd}).judgement, Judgement::Pass);
+    // Without luminances that compare it is not known.
+    wall.unit = LuminanceUnit::Relative;
+    QCOMPARE(assessWall(wall, target).judgement, Judgement::NotKnown);
+}
+
+void WallBlacksTest::blackThatIsNotSeen()
+{
+    DisplayWall wall = wallOf(1);
+    Model::Targets of = Model::rec2020().getTargets();
+    for (Model::Target *t : {&of.red, &of.green, &of.blue, &of.white}) {
+        *t = color(t->Y * 500.0, t->x, t->y);
+    }
+    for (WallCabinet &cabinet : wall.cabinets) {
+        cabinet.black = color(0.02, 0.31, 0.33);
+    }
+    const WallAssessment found = assessWall(wall, {Model::ColorGamut("Wanted", of), cd});
+    QVERIFY(*found.correction.corrections[0].remaining.blueUv > 1e-6);
+    QVERIFY(*found.correction.corrections[0].remaining.blueUv < visibleUv);
+    QCOMPARE(found.judgement, Judgement::Pass);
+}
+
+void WallBlacksTest::darkContentOverABrightBlackIsNotJudged()
+{
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].black = color(0.05, 0.36, 0.38);
+    const DisplayGamut target = targetOf(500.0);
+    const WallAssessment found = assessWall(wall, target);
+    QCOMPARE(found.judgement, Judgement::Pass);
+    const QString remark = QStringLiteral("Content that is darker than the target is not judged: at 10.0 % of its "
+                                          "luminance, the black of A5 shifts blue by ");
+    QVERIFY2(textOf(found).contains(remark), qPrintable(textOf(found)));
+    // The light of a tenth of the target's blue, and of nine tenths of the black.
+    const Model::Target &blue = found.correction.target.blue;
+    const Model::Target &black = *wall.cabinets[4].black;
+    const double X = 0.1 * blue.X + 0.9 * black.X;
+    const double Y = 0.1 * blue.Y + 0.9 * black.Y;
+    const double Z = 0.1 * blue.Z + 0.9 * black.Z;
+    const double denominator = X + 15.0 * Y + 3.0 * Z;
+    const double shift = std::hypot(4.0 * X / denominator - blue.u, 9.0 * Y / denominator - blue.v);
+    QVERIFY(shift > visibleUv);
+    QVERIFY2(textOf(found).contains(remark + QString::fromUtf8("Δu′v′ %1.").arg(shift, 0, 'f', 4)),
+        qPrintable(textOf(found)));
+    wall.cabinets[4].black = color(0.0005, 0.36, 0.38); // too little to be seen
+    QVERIFY(!textOf(assessWall(wall, target)).contains(QLatin1String("darker")));
+    wall.cabinets[4].black = color(0.05, 0.36, 0.38);
+    wall.cabinets[4].isLeftOut = true;
+    QVERIFY(!textOf(assessWall(wall, target)).contains(QLatin1String("darker")));
+}
+
+void WallBlacksTest::blackTooBrightForAnyTarget()
+{
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].black = color(30.0, 0.30, 0.31);
+    const DisplayGamut target = targetOf(20.0);
+    const WallAssessment found = assessWall(wall, target);
+    QCOMPARE(found.cabinets[4].judgement, Judgement::Fail);
+    QVERIFY(!fittedToWall(target, found));
+    QCOMPARE(fitProblem(wall, found),
+        QStringLiteral(
+            "The target cannot be fitted: its white is too dark over the black of A5. Raise the luminance of "
+            "the white, or measure the black again without stray light."));
+}
+
+void WallBlacksTest::fittedTargetPassesOverBlacks()
+{
+    std::mt19937 random(14);
+    std::uniform_real_distribution<double> any(-1.0, 1.0);
+    std::uniform_real_distribution<double> part(0.0, 1.0);
+    int failing = 0;
+    int byBlack = 0;
+    for (int i = 0; i < 2000; ++i) {
+        DisplayWall wall = wallOf(1 + i % 2);
+        wall.cabinets.resize(std::size_t(2 + i % 12));
+        const double black = 20.0 * std::pow(part(random), 4.0);
+        for (WallCabinet &of : wall.cabinets) {
+            for (Model::Target *t : {&of.red, &of.green, &of.blue}) {
+                *t = color(t->Y * (1.0 + 0.1 * any(random)), t->x + 0.01 * any(random), t->y + 0.01 * any(random));
+            }
+            of.black = color(black * (0.5 + part(random)), 0.30 + 0.02 * any(random), 0.31 + 0.02 * any(random));
+            of.isLeftOut = part(random) < 0.1;
+            if (i % 4 == 0) {
+                const Model::Target sum
+                    = *Model::DisplayDrive({of.red, of.green, of.blue, {}}, of.black).lightAt({1.0, 1.0, 1.0});
+                of.white = color(sum.Y * (1.0 + 0.019 * any(random)), sum.x, sum.y);
+            }
+        }
+        wall.cabinets.front().isLeftOut = false;
+        Model::Targets wish = i % 3 == 0 ? Model::rec709().getTargets() : Model::rec2020().getTargets();
+        const double luminance = 200.0 + 1100.0 * part(random);
+        for (Model::Target *t : {&wish.red, &wish.green, &wish.blue, &wish.white}) {
+            *t = color(t->Y * luminance, t->x, t->y);
+        }
+        if (i % 5 == 0) { // at a measured white
+            wish.white = color(luminance, wall.cabinets.front().white.value_or(wish.white).x,
+                wall.cabinets.front().white.value_or(wish.white).y);
+        }
+        const DisplayGamut target{Model::ColorGamut("Wanted", wish), cd};
+        const WallAssessment found = assessWall(wall, target);
+        const auto fitted = fittedToWall(target, found);
+        QCOMPARE(bool(fitted), found.judgement == Judgement::Fail);
+        if (!fitted) {
+            continue;
+        }
+        ++failing;
+        const DisplayGamut after{Model::ColorGamut("Fitted", *fitted), cd};
+        const WallAssessment passes = assessWall(wall, after);
+        QVERIFY2(passes.judgement == Judgement::Pass, qPrintable(QString::number(i) + textOf(passes)));
+        // Without the blacks the fit would not do.
+        DisplayWall dark = wall;
+        for (WallCabinet &of : dark.cabinets) {
+            of.black.reset();
+        }
+        const auto blind = fittedToWall(target, assessWall(dark, target));
+        byBlack += blind && assessWall(wall, {Model::ColorGamut("Blind", *blind), cd}).judgement == Judgement::Fail;
+    }
+    QVERIFY(failing > 1500);
+    QVERIFY(byBlack > 500);
+}
+
+QTEST_GUILESS_MAIN(WallBlacksTest)
+#include "wallblackstest.moc"
