@@ -19,6 +19,7 @@ class CloseLookTest : public QObject {
 
 private Q_SLOTS:
     void dotsAreBelowTheTarget();
+    void whitesAreSeenCloselyToo();
     void cornerIsDragged();
     void viewStaysUnderTheHand();
     void escapeTakesADragBack();
@@ -86,6 +87,22 @@ void CloseLookTest::dotsAreBelowTheTarget()
     // The handle is over it.
     f.window->session()->setChromaticity(Vertex::Red, QPointF(0.70, 0.28));
     QCOMPARE(f.look->grab().toImage().pixelColor(f.corner()), QColor(Qt::white));
+}
+
+void CloseLookTest::whitesAreSeenCloselyToo()
+{
+    DisplayDescription d = oneApart();
+    d.wall.cabinets[5].white = color(900.0, 0.30, 0.31); // the others have no more than the sum of their primaries
+    WallFixture f(d);
+    CloseLook *look = f.page()->closeLook(Vertex::White);
+    const auto at = [look](const QPointF &xy) { return QPointF(look->viewport().toPosition(xy)); };
+    QCOMPARE(look->cabinetAt(at(QPointF(0.30, 0.31))), std::make_optional(std::size_t(5)));
+    const auto sum = look->cabinetAt(at(QPointF(0.3127, 0.3290)));
+    QVERIFY(sum && *sum != 5);
+    QTest::mouseClick(look, Qt::LeftButton, Qt::NoModifier, at(QPointF(0.30, 0.31)).toPoint());
+    QCOMPARE(f.window->session()->selectedCabinet(), std::make_optional(std::size_t(5)));
+    QVERIFY(look->rect().contains(at(f.xy(Vertex::White)).toPoint()));
+    QVERIFY(!look->rect().contains(at(f.xy(Vertex::Red)).toPoint()));
 }
 
 void CloseLookTest::cornerIsDragged()

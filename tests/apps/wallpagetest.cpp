@@ -55,6 +55,7 @@ private Q_SLOTS:
     void tableIsSorted();
     void headersTakeTwoLines();
     void valuesDoNotFillTheirCells();
+    void allColumnsAreSeen();
     void tableIsCopiedWhole();
     void wallIsRemoved();
     void verdictOfThePanelFitsToTheWall();
@@ -462,6 +463,26 @@ void WallPageTest::valuesDoNotFillTheirCells()
     }
 }
 
+void WallPageTest::allColumnsAreSeen()
+{
+    const QFont before = QApplication::font();
+    QFont usual = before;
+    usual.setPointSize(9); // as on desktops
+    QApplication::setFont(usual);
+    const std::unique_ptr<const QFont, void (*)(const QFont *)> restored(
+        &before, [](const QFont *font) { QApplication::setFont(*font); });
+    WallFixture f(description(8, 12));
+    f.window->resize(1024, 768);
+    QTRY_COMPARE(f.window->size(), QSize(1024, 768));
+    CabinetTable *table = f.page()->table();
+    const auto areSeen = [table] { return table->horizontalHeader()->length() <= table->viewport()->width(); };
+    QTRY_VERIFY(areSeen());
+    table->sortByColumn(CabinetModel::Headroom, Qt::DescendingOrder); // with an arrow
+    QTRY_VERIFY(areSeen());
+    QVERIFY(f.page()->map()->width() > 200);
+    QVERIFY(f.page()->map()->isVisible());
+}
+
 void WallPageTest::tableIsCopiedWhole()
 {
     WallFixture f(oneDim());
@@ -470,7 +491,7 @@ void WallPageTest::tableIsCopiedWhole()
     const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     QCOMPARE(lines.size(), 13);
     QCOMPARE(lines.first(),
-        QStringLiteral("cabinet\tlimited by\twhite cd/m²\theadroom\tΔu′v′ before\tΔu′v′ after\tneighbours"));
+        QStringLiteral("cabinet\tlimited by\twhite cd/m²\theadroom\tΔu′v′ before\tΔu′v′ after\tΔu′v′ beside"));
     QCOMPARE(lines.at(1), QStringLiteral("✗ B2\tred\t880.8\t−12 %\t0.0000\t0.0000\t0.0000"));
 }
 

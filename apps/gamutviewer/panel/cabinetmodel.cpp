@@ -281,7 +281,7 @@ QVariant CabinetModel::headerData(int section, Qt::Orientation orientation, int 
     case UvAfter:
         return isTip ? tr("Between the cabinet's white, corrected, and the target's") : tr("Δu′v′ after");
     case Neighbor:
-        return isTip ? tr("The largest Δu′v′ to the white of a neighbour, not corrected") : tr("neighbours");
+        return isTip ? tr("The largest Δu′v′ to the white of a neighbour, not corrected") : tr("Δu′v′ beside");
     default:
         break;
     }

@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QEvent>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QStyle>
 
 #include <algorithm>
@@ -71,6 +72,12 @@ void CabinetTable::refresh()
         fitColumns();
     }
     showSelection();
+}
+
+int CabinetTable::wholeWidth() const
+{
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, verticalScrollBar());
+    return horizontalHeader()->length() + bar + 2 * frameWidth();
 }
 
 void CabinetTable::sortByJudgement()

@@ -20,6 +20,8 @@ public:
     CabinetModel *cabinets() const { return m_model; }
     /*! \brief Shows the wall as it is now. */
     void refresh();
+    /*! \brief The width with which all columns are seen. */
+    int wholeWidth() const;
     /*! \brief The worst first again. */
     void sortByJudgement();
     /*! \brief Copies all of the table to the clipboard. */

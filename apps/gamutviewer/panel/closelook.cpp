@@ -3,6 +3,7 @@
 #include "panel/closelook.h"
 
 #include "display/valuetexts.h"
+#include "display/wallassessment.h"
 #include "display/wallassessmenttexts.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
@@ -35,24 +36,20 @@ constexpr int manyDots = 1500; // of which each is smaller
 constexpr double handleRoom = 8.0; // pixels between a handle and the edge of the plot
 constexpr double closer = 1.5; // how much closer a look has to get to be worth a move
 
-QColor dotColor(Vertex primary, ceiechart::DiagramGround ground)
+QColor dotColor(Vertex vertex, ceiechart::DiagramGround ground)
 {
     const bool isDark = ground == ceiechart::DiagramGround::Dark;
-    switch (primary) {
+    switch (vertex) {
     case Vertex::Red:
         return isDark ? QColor(0xff, 0x7b, 0x72) : QColor(0xc6, 0x28, 0x28);
     case Vertex::Green:
         return isDark ? QColor(0x66, 0xbb, 0x6a) : QColor(0x2e, 0x7d, 0x32);
-    case Vertex::Blue:
     case Vertex::White:
+        return isDark ? QColor(0xb0, 0xb6, 0xbe) : QColor(0x60, 0x66, 0x70);
+    case Vertex::Blue:
         break;
     }
     return isDark ? QColor(0x64, 0xb5, 0xf6) : QColor(0x15, 0x65, 0xc0);
-}
-
-const Model::Target &primaryOf(const WallCabinet &cabinet, Vertex primary)
-{
-    return primary == Vertex::Red ? cabinet.red : primary == Vertex::Green ? cabinet.green : cabinet.blue;
 }
 
 bool isFinite(const QPointF &point)
@@ -82,11 +79,11 @@ bool isArrow(int key)
 
 } // namespace
 
-CloseLook::CloseLook(TargetSession *session, Vertex primary, QWidget *parent)
+CloseLook::CloseLook(TargetSession *session, Vertex vertex, QWidget *parent)
     : TargetView(session, parent)
-    , m_primary(primary)
+    , m_vertex(vertex)
 {
-    const QString name = ceiechart::gamutVertexName(primary);
+    const QString name = ceiechart::gamutVertexName(vertex);
     setAccessibleName(tr("Close look at %1 of all cabinets").arg(name));
     setAccessibleDescription(
         tr("The target's %1 is dragged with the mouse, or moved with the arrow keys; with Shift, slowly. A click on a "
@@ -102,19 +99,40 @@ CloseLook::CloseLook(TargetSession *session, Vertex primary, QWidget *parent)
     connect(this, &DiagramView::editingFinished, this, &CloseLook::refresh);
 }
 
+//! Not finite where it is not known.
+QPointF CloseLook::dotOf(std::size_t cabinet) const
+{
+    const WallCabinet &of = session()->document()->description().wall.cabinets[cabinet];
+    switch (m_vertex) {
+    case Vertex::Red:
+        return xyOf(of.red);
+    case Vertex::Green:
+        return xyOf(of.green);
+    case Vertex::Blue:
+        return xyOf(of.blue);
+    case Vertex::White:
+        break;
+    }
+    const auto &wall = session()->assessment().wall;
+    const auto white = wall ? wall->cabinets[cabinet].white : of.white;
+    return white ? xyOf(*white) : QPointF(qQNaN(), qQNaN());
+}
+
 //! Whether the dots are others than before.
 bool CloseLook::takeDots()
 {
     const DisplayWall &wall = session()->document()->description().wall;
     QPolygonF dots;
     dots.reserve(int(wall.cabinets.size()));
-    for (const WallCabinet &cabinet : wall.cabinets) {
-        dots.append(xyOf(primaryOf(cabinet, m_primary)));
+    for (std::size_t i = 0; i < wall.cabinets.size(); ++i) {
+        dots.append(dotOf(i));
     }
-    // Exactly: operator== of QPointF is fuzzy.
+    // Exactly: operator== of QPointF is fuzzy. What is not known is the same.
+    const auto isSameValue = [](double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); };
     const bool isSame = dots.size() == m_dots.size()
-        && std::equal(dots.cbegin(), dots.cend(), m_dots.cbegin(),
-            [](const QPointF &a, const QPointF &b) { return a.x() == b.x() && a.y() == b.y(); });
+        && std::equal(dots.cbegin(), dots.cend(), m_dots.cbegin(), [&isSameValue](const QPointF &a, const QPointF &b) {
+               return isSameValue(a.x(), b.x()) && isSameValue(a.y(), b.y());
+           });
     if (!isSame) {
         m_dots = dots;
         m_cloud = QPixmap();
@@ -131,6 +149,7 @@ void CloseLook::refresh()
         ceiechart::DiagramContent shown;
         shown.colors = ceiechart::HorseshoeColors::None;
         shown.layers = DiagramLayer::Locus | DiagramLayer::Grid | DiagramLayer::Targets | DiagramLayer::Originals;
+        shown.layers.setFlag(DiagramLayer::PlanckianLocus, m_vertex == Vertex::White);
         if (const auto original = document->original()) {
             shown.gamuts.append({*original, ceiechart::GamutRole::Original}); // the rules ask for it
         }
@@ -170,7 +189,7 @@ bool CloseLook::isHeld() const
 QPointF CloseLook::targetXy() const
 {
     const auto target = session()->document()->target();
-    return target ? xyOf(ceiechart::targetAt(target->getTargets(), m_primary)) : QPointF(qQNaN(), qQNaN());
+    return target ? xyOf(ceiechart::targetAt(target->getTargets(), m_vertex)) : QPointF(qQNaN(), qQNaN());
 }
 
 //! The view of all dots and of the target.
@@ -208,7 +227,7 @@ void CloseLook::drawCloud()
     m_cloud.setDevicePixelRatio(ratio);
     m_cloud.fill(Qt::transparent);
     QPainter painter(&m_cloud);
-    QColor color = dotColor(m_primary, m_cloudGround);
+    QColor color = dotColor(m_vertex, m_cloudGround);
     color.setAlphaF(m_dots.size() > manyDots ? 0.35 : 0.6);
     const double radius = m_dots.size() > manyDots ? 1.5 : 2.5;
     const QPixmap dot = stamp(color, radius, ratio);
@@ -248,7 +267,7 @@ void CloseLook::paintBelowTarget(QPainter *painter)
     QFont bold = font();
     bold.setBold(true);
     painter->setFont(bold);
-    const QString title = ceiechart::gamutVertexName(m_primary);
+    const QString title = ceiechart::gamutVertexName(m_vertex);
     const QRectF corner(QPointF(6.0, 4.0), QFontMetricsF(bold).size(Qt::TextSingleLine, title));
     painter->fillRect(corner.adjusted(-2, -1, 2, 1), colors.casing);
     painter->drawText(corner, Qt::AlignCenter, title);
@@ -283,7 +302,7 @@ void CloseLook::paintSelected(QPainter *painter) const
     painter->setBrush(Qt::NoBrush);
     painter->drawEllipse(at, 5.0, 5.0);
     painter->setPen(QPen(palette().color(QPalette::Highlight), 2.0));
-    painter->setBrush(dotColor(m_primary, content().ground));
+    painter->setBrush(dotColor(m_vertex, content().ground));
     painter->drawEllipse(at, 5.0, 5.0);
     const QString name = cabinetName(session()->document()->description().wall, *selected);
     const QSizeF size = QFontMetricsF(font()).size(Qt::TextSingleLine, name);
@@ -419,7 +438,7 @@ void CloseLook::selectSeenVertex()
         && viewport().plot().contains(
             viewport().toPosition(xyOf(ceiechart::targetAt(target->getTargets(), *selected))));
     if (!isSeen) {
-        setSelectedVertex(m_primary);
+        setSelectedVertex(m_vertex);
     }
 }
 

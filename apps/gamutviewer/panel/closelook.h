@@ -14,8 +14,10 @@
 namespace gamutviewer {
 
 /*!
- * \brief The part of the CIE 1976 u′, v′ diagram about one primary: that of every cabinet as a dot, and over them what
- * all can show and the target. The cabinet that is selected stands out; a click selects one.
+ * \brief The part of the CIE 1976 u′, v′ diagram about one primary or the white: that of every cabinet as a dot, and
+ * over them what all can show and the target. The cabinet that is selected stands out; a click selects one.
+ *
+ * The white of a cabinet is that without a correction: as measured, or the sum of its primaries.
  *
  * The target is edited as on any TargetView, by mouse and arrow keys. The view itself cannot be moved: it follows the
  * target where that leaves it, but stays as it is while something is dragged in it.
@@ -24,7 +26,7 @@ class CloseLook : public TargetView {
     Q_OBJECT
 
 public:
-    CloseLook(TargetSession *session, ceiechart::GamutVertex primary, QWidget *parent = nullptr);
+    CloseLook(TargetSession *session, ceiechart::GamutVertex vertex, QWidget *parent = nullptr);
 
     /*! \brief Shows the wall as it is now. */
     void refresh();
@@ -48,6 +50,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    QPointF dotOf(std::size_t cabinet) const;
     bool takeDots();
     bool isHeld() const;
     ceiechart::DiagramViewport fitted() const;
@@ -58,7 +61,7 @@ private:
     void selectSeenVertex();
     QPointF targetXy() const;
 
-    ceiechart::GamutVertex m_primary;
+    ceiechart::GamutVertex m_vertex;
     QPolygonF m_dots; // CIE 1931 x, y of each cabinet
     QPolygonF m_common; // what all can show, in CIE 1931 x, y
     QPixmap m_cloud; // of the dots

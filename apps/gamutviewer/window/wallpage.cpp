@@ -14,7 +14,9 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -29,6 +31,8 @@ namespace {
 
 constexpr double barScale = 0.85;
 constexpr int leastMap = 220; // pixels
+constexpr int looksInARow = 2;
+constexpr double mapShare = 0.49; // of the width, where the table has room beside it
 
 } // namespace
 
@@ -58,14 +62,14 @@ WallPage::WallPage(TargetSession *session, QWidget *parent)
     auto *bar = new QHBoxLayout;
     all->addLayout(bar);
     buildQuantities(bar);
-    auto *parts = new QSplitter(Qt::Horizontal, m_content);
-    parts->setChildrenCollapsible(false);
-    parts->addWidget(buildMaps());
-    parts->addWidget(buildNumbers());
-    parts->setStretchFactor(0, 1);
-    parts->setStretchFactor(1, 1);
-    parts->setSizes({1000, 1050}); // of any width
-    all->addWidget(parts, 1);
+    m_parts = new QSplitter(Qt::Horizontal, m_content);
+    m_parts->setChildrenCollapsible(false);
+    m_parts->addWidget(buildMaps());
+    m_parts->addWidget(buildNumbers());
+    m_parts->setStretchFactor(0, 1);
+    m_parts->setStretchFactor(1, 1);
+    all->addWidget(m_parts, 1);
+    connect(m_parts, &QSplitter::splitterMoved, this, [this] { m_isSplitByHand = true; });
     connect(m_verdict, &WallVerdict::exportWanted, this, &WallPage::exportWanted);
     connect(session, &TargetSession::selectedCabinetChanged, m_verdict, [this] {
         if (isVisible()) {
@@ -138,16 +142,17 @@ QWidget *WallPage::buildNumbers()
     auto *column = new QVBoxLayout(numbers);
     column->setContentsMargins(4, 0, 0, 4);
     column->setSpacing(4);
-    auto *looks = new QHBoxLayout;
+    auto *looks = new QGridLayout;
     looks->setSpacing(4);
     column->addLayout(looks, 2);
     const QFont small = scaledFont(font(), barScale);
-    for (const Vertex primary : {Vertex::Red, Vertex::Green, Vertex::Blue}) {
-        auto *look = new CloseLook(m_session, primary, numbers);
+    for (const Vertex vertex : ceiechart::allGamutVertices) {
+        auto *look = new CloseLook(m_session, vertex, numbers);
         look->setFont(small);
         readOut(look);
-        looks->addWidget(look);
-        m_looks.at(std::size_t(primary)) = look;
+        const int number = int(vertex);
+        looks->addWidget(look, number / looksInARow, number % looksInARow);
+        m_looks.at(std::size_t(vertex)) = look;
     }
     auto *bar = new QHBoxLayout;
     column->addLayout(bar);
@@ -178,6 +183,11 @@ QWidget *WallPage::buildNumbers()
     column->addWidget(m_incomplete);
     connect(m_worst, &QToolButton::clicked, m_table, &CabinetTable::sortByJudgement);
     connect(m_copy, &QToolButton::clicked, m_table, &CabinetTable::copy);
+    // Its arrow takes room.
+    connect(m_table->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, [this] {
+        shareWidth();
+        shareRoom();
+    });
     return numbers;
 }
 
@@ -225,11 +235,12 @@ void WallPage::refresh()
     }
     // Without a wall all of them let go of what they have of the former one.
     m_verdict->refresh();
+    m_table->refresh();
+    shareWidth();
     refreshMaps();
     for (CloseLook *look : m_looks) {
         look->refresh();
     }
-    m_table->refresh();
     refreshIncomplete();
 }
 
@@ -268,6 +279,21 @@ void WallPage::refreshMaps()
     shareRoom();
 }
 
+//! All columns of the table are to be seen, as long as there is room for a map. The user may move the border.
+void WallPage::shareWidth()
+{
+    if (m_isSplitByHand) {
+        return;
+    }
+    const int width = m_parts->width() - m_parts->handleWidth();
+    const QMargins margins = m_table->parentWidget()->layout()->contentsMargins();
+    const int numbers = m_table->wholeWidth() + margins.left() + margins.right();
+    const int map = std::max(std::min(int(mapShare * width), width - numbers), leastMap);
+    if (m_parts->sizes().constFirst() != map) {
+        m_parts->setSizes({map, width - map});
+    }
+}
+
 //! The maps take what they need of the height, in proportion where there is too little.
 void WallPage::shareRoom()
 {
@@ -291,6 +317,7 @@ void WallPage::resizeEvent(QResizeEvent *event)
 {
     Page::resizeEvent(event);
     m_content->layout()->activate();
+    shareWidth();
     shareRoom();
 }
 

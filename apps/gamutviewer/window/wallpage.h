@@ -11,6 +11,7 @@
 class QActionGroup;
 class QHBoxLayout;
 class QLabel;
+class QSplitter;
 class QStackedWidget;
 class QToolButton;
 
@@ -24,7 +25,8 @@ class WallMap;
 class WallVerdict;
 
 /*!
- * \brief The wall: whether its cabinets show the target, a map of it, close looks at the primaries and a table.
+ * \brief The wall: whether its cabinets show the target, a map of it, close looks at the primaries and the white, and a
+ * table.
  *
  * The cabinet that is selected is the same in all of them. Without a wall the page says how to get one.
  */
@@ -46,7 +48,7 @@ public:
     CabinetTable *table() const { return m_table; }
     /*! \brief Names the cabinets that were measured incompletely; hidden while there are none. */
     QLabel *incompleteNote() const { return m_incomplete; }
-    CloseLook *closeLook(ceiechart::GamutVertex primary) const { return m_looks.at(std::size_t(primary)); }
+    CloseLook *closeLook(ceiechart::GamutVertex vertex) const { return m_looks.at(std::size_t(vertex)); }
     /*!
      * \brief Chooses what the map is coloured by; its actions carry a WallQuantity. Until the user has chosen one, it
      * is usualQuantity().
@@ -71,6 +73,7 @@ private:
     void choose(WallQuantity quantity);
     void refreshMaps();
     void refreshIncomplete();
+    void shareWidth();
     void shareRoom();
 
     TargetSession *m_session;
@@ -81,12 +84,14 @@ private:
     QActionGroup *m_quantities;
     bool m_isQuantityChosen = false; // by the user
     QLabel *m_extent;
+    QSplitter *m_parts;
+    bool m_isSplitByHand = false;
     QWidget *m_maps;
     WallMap *m_map;
     QLabel *m_unplacedTitle;
     WallMap *m_unplaced;
     WallLegend *m_legend;
-    std::array<CloseLook *, 3> m_looks{};
+    std::array<CloseLook *, 4> m_looks{};
     QToolButton *m_worst;
     QToolButton *m_copy;
     CabinetTable *m_table;
