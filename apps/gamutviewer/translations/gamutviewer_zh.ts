@@ -293,10 +293,6 @@
         <translation>u′, v′</translation>
     </message>
     <message>
-        <source>Coverage of %1 in %2 by the measured gamut</source>
-        <translation>实测色域在 %2 中对 %1 的覆盖率</translation>
-    </message>
-    <message>
         <source>there is no gamut of that name.</source>
         <translation>没有该名称的色域。</translation>
     </message>
@@ -398,6 +394,39 @@
         <source>A measurement list needs a choice: not all that it says of the display can be judged. Make the choice that the warnings ask for.</source>
         <translation>测量列表需要选择：它所说明的显示屏数据不能全部评判。请作出警告所要求的选择。</translation>
     </message>
+    <message>
+        <source>The cabinet %1 shows the target within tolerance</source>
+        <translation>箱体 %1 在容差内显示目标</translation>
+    </message>
+    <message>
+        <source>The cabinet %1 can show the target</source>
+        <translation>箱体 %1 能够显示目标</translation>
+    </message>
+    <message>
+        <source>The cabinet %1 cannot show the target</source>
+        <translation>箱体 %1 无法显示目标</translation>
+    </message>
+    <message>
+        <source>The cabinet %1 is out of tolerance</source>
+        <translation>箱体 %1 超出容差</translation>
+    </message>
+    <message>
+        <source>Not known whether the cabinet %1 is in tolerance</source>
+        <translation>箱体 %1 是否在容差内未知</translation>
+    </message>
+    <message>
+        <source>Not known whether the cabinet %1 can show the target</source>
+        <translation>箱体 %1 能否显示目标未知</translation>
+    </message>
+    <message>
+        <source>measured gamut “%1”</source>
+        <translation>实测色域“%1”</translation>
+    </message>
+    <message>
+        <source>Coverage of %1 in %2 by the %3</source>
+        <comment>gamut, diagram, and which gamut of the display</comment>
+        <translation>%3在 %2 中对 %1 的覆盖率</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::CabinetModel</name>
@@ -464,8 +493,8 @@
         <translation>与相邻箱体白点的最大 Δu′v′（未校正）</translation>
     </message>
     <message>
-        <source>neighbours</source>
-        <translation>相邻</translation>
+        <source>Δu′v′ beside</source>
+        <translation>相邻 Δu′v′</translation>
     </message>
 </context>
 <context>
@@ -1167,6 +1196,10 @@
     <message>
         <source>How is %1 to be read?</source>
         <translation>如何读取 %1？</translation>
+    </message>
+    <message>
+        <source>%1 has measurements of %2 cabinets. What is to be made of them?</source>
+        <translation>%1 包含 %2 个箱体的测量值。如何使用这些测量值？</translation>
     </message>
 </context>
 <context>
@@ -2444,6 +2477,14 @@ Esc – 关闭有焦点的消息
         <source>Measured whites are up to %1 and Δu′v′ %2 off the sums of the primaries (%3). What corrections leave is worked out from the primaries, and known no better than that.</source>
         <translation>实测白色与各基色之和最多相差 %1 和 Δu′v′ %2（%3）。校正后的剩余差异由基色算出，其准确程度不会更高。</translation>
     </message>
+    <message>
+        <source>Content that is darker than the target is not judged: at %1 of its luminance, the black of %2 shifts %3 by Δu′v′ %4.</source>
+        <translation>比目标更暗的内容不作判断：在其亮度的 %1 处，%2 的黑场使%3偏移 Δu′v′ %4。</translation>
+    </message>
+    <message>
+        <source>It reaches a white of %1.</source>
+        <translation>可达到 %1 的白色。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallCommand</name>
@@ -2498,10 +2539,6 @@ Esc – 关闭有焦点的消息
         <translation>没有可适配到墙的目标</translation>
     </message>
     <message>
-        <source>the luminance of the target is relative; its white is taken at %1, the largest that all cabinets reach</source>
-        <translation>目标的亮度是相对的；其白色取 %1，即所有箱体都能达到的最大值</translation>
-    </message>
-    <message>
         <source>the target fits the wall as it is, as far as that is known</source>
         <translation>就已知而言，目标无需改变即适合该墙</translation>
     </message>
@@ -2547,10 +2584,6 @@ Esc – 关闭有焦点的消息
         <source>%1 (%2)</source>
         <comment>cabinet, and why nothing is known of it</comment>
         <translation>%1（%2）</translation>
-    </message>
-    <message>
-        <source>the luminance of the target is relative; its white is taken at %1, the largest that all cabinets reach of which it is known</source>
-        <translation>目标的亮度是相对的；其白色取 %1，即所有已知的箱体都能达到的最大值</translation>
     </message>
     <message>
         <source>the white of the target has no luminance</source>
@@ -2620,6 +2653,18 @@ Esc – 关闭有焦点的消息
     <message>
         <source>the luminances of the target&apos;s primaries did not mix to its white, and do now</source>
         <translation>目标各基色的亮度原先混合不出其白点，现已改正</translation>
+    </message>
+    <message>
+        <source>the luminance of the target is relative</source>
+        <translation>目标的亮度是相对的</translation>
+    </message>
+    <message>
+        <source>%1; its white is taken at %2, the largest that all cabinets reach</source>
+        <translation>%1；其白色取 %2，即所有箱体都能达到的最大值</translation>
+    </message>
+    <message>
+        <source>%1; its white is taken at %2, the largest that all cabinets reach of which it is known</source>
+        <translation>%1；其白色取 %2，即所有已知的箱体都能达到的最大值</translation>
     </message>
 </context>
 <context>
