@@ -369,7 +369,7 @@ void FollowMenuTest::namesTheGamutAfterTheOnlyCabinet()
     f.append("A1,1,1,White,1000,0.3127,0.329\n");
     QTRY_COMPARE(f.document().description().measured, QStringLiteral("meter: A1 1/1"));
     // Which says nothing of a wall.
-    QCOMPARE(f.window->session()->assessment().headline(), QStringLiteral("The cabinet A1 1/1 can show the target"));
+    QCOMPARE(f.window->session()->assessment().headline(), QStringLiteral("Cabinet A1 1/1 can show the target"));
     QVERIFY(f.window->session()->assessment().lines.first().text.contains(QString::fromUtf8("gamut “meter: A1 1/1”")));
     f.append("A2,1,2,Red,240,0.64,0.33\n");
     QTRY_VERIFY(f.document().description().measured.isEmpty());

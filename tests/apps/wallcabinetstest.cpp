@@ -134,7 +134,7 @@ void WallCabinetsTest::oneCabinet()
     description.wall = wall;
     description.gamuts = {targetOf(1000.0)};
     description.target = nameOf(targetOf(1000.0));
-    QCOMPARE(assess(description).headline(), QStringLiteral("The cabinet A1 can show the target"));
+    QCOMPARE(assess(description).headline(), QStringLiteral("Cabinet A1 can show the target"));
     wall.unit = LuminanceUnit::NotKnown;
     QCOMPARE(assessWall(wall, targetOf(1000.0)).headline,
         QStringLiteral("Not known whether the cabinet A1 shows this target"));

@@ -129,24 +129,22 @@ QString Assessment::headline() const
                                                   : AssessmentText::tr("Not known whether it can show the target");
 }
 
+// Short, as names of cabinets may be long and the headline has one line.
 QString Assessment::cabinetHeadline() const
 {
-    const bool hasTolerances = hasLines(*this, AssessmentLine::Subject::Tolerance);
-    const Judgement display = worst(lines, false);
     const auto text = [this](const QString &ofCabinet) { return ofCabinet.arg(oneLine(cabinet)); };
     switch (judgement()) {
     case Judgement::Pass:
-        return text(hasTolerances ? AssessmentText::tr("The cabinet %1 shows the target within tolerance")
-                                  : AssessmentText::tr("The cabinet %1 can show the target"));
+        return text(hasLines(*this, AssessmentLine::Subject::Tolerance)
+                ? AssessmentText::tr("Cabinet %1 is within tolerance")
+                : AssessmentText::tr("Cabinet %1 can show the target"));
     case Judgement::Fail:
-        return text(display == Judgement::Fail ? AssessmentText::tr("The cabinet %1 cannot show the target")
-                                               : AssessmentText::tr("The cabinet %1 is out of tolerance"));
+        return text(worst(lines, false) == Judgement::Fail ? AssessmentText::tr("Cabinet %1 cannot show the target")
+                                                           : AssessmentText::tr("Cabinet %1 is out of tolerance"));
     case Judgement::NotKnown:
         break;
     }
-    return text(display == Judgement::Pass
-            ? AssessmentText::tr("Not known whether the cabinet %1 is in tolerance")
-            : AssessmentText::tr("Not known whether the cabinet %1 can show the target"));
+    return text(AssessmentText::tr("The verdict on cabinet %1 is not known"));
 }
 
 Assessment assess(const DisplayDescription &description, const std::optional<Tolerances> &tolerances, bool needsChoice,

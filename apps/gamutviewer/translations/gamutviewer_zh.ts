@@ -395,30 +395,6 @@
         <translation>测量列表需要选择：它所说明的显示屏数据不能全部评判。请作出警告所要求的选择。</translation>
     </message>
     <message>
-        <source>The cabinet %1 shows the target within tolerance</source>
-        <translation>箱体 %1 在容差内显示目标</translation>
-    </message>
-    <message>
-        <source>The cabinet %1 can show the target</source>
-        <translation>箱体 %1 能够显示目标</translation>
-    </message>
-    <message>
-        <source>The cabinet %1 cannot show the target</source>
-        <translation>箱体 %1 无法显示目标</translation>
-    </message>
-    <message>
-        <source>The cabinet %1 is out of tolerance</source>
-        <translation>箱体 %1 超出容差</translation>
-    </message>
-    <message>
-        <source>Not known whether the cabinet %1 is in tolerance</source>
-        <translation>箱体 %1 是否在容差内未知</translation>
-    </message>
-    <message>
-        <source>Not known whether the cabinet %1 can show the target</source>
-        <translation>箱体 %1 能否显示目标未知</translation>
-    </message>
-    <message>
         <source>measured gamut “%1”</source>
         <translation>实测色域“%1”</translation>
     </message>
@@ -426,6 +402,26 @@
         <source>Coverage of %1 in %2 by the %3</source>
         <comment>gamut, diagram, and which gamut of the display</comment>
         <translation>%3在 %2 中对 %1 的覆盖率</translation>
+    </message>
+    <message>
+        <source>Cabinet %1 is within tolerance</source>
+        <translation>箱体 %1 在容差内</translation>
+    </message>
+    <message>
+        <source>Cabinet %1 can show the target</source>
+        <translation>箱体 %1 能够显示目标</translation>
+    </message>
+    <message>
+        <source>Cabinet %1 cannot show the target</source>
+        <translation>箱体 %1 无法显示目标</translation>
+    </message>
+    <message>
+        <source>Cabinet %1 is out of tolerance</source>
+        <translation>箱体 %1 超出容差</translation>
+    </message>
+    <message>
+        <source>The verdict on cabinet %1 is not known</source>
+        <translation>箱体 %1 的判断结果未知</translation>
     </message>
 </context>
 <context>
