@@ -9,92 +9,41 @@
 #include <QPainterPath>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <iterator>
 
 namespace ceiechart {
 
 namespace {
 
 // Logical pixels
-constexpr double equalWithin = 1.0; // corners as near as that are equal to the eye
 constexpr double equalWidening = 3.0; // of the lower of two equal lines
 constexpr double hatchDistance = 8.0;
 // Not quite 45°: where a line ends at exactly that slope, the raster engine's soft pixels depend on its other end,
 // which moves with every edit.
 constexpr double hatchSlope = 1.01;
 
-// From bottom to top
-constexpr std::array drawingOrder{
-    GamutRole::Standard, GamutRole::Declared, GamutRole::Original, GamutRole::Measured, GamutRole::Target};
-
-//! Where the corners lie together. Equal outlines are in the same cell or in cells side by side.
-OutlineCell equalityCell(const QPolygonF &corners)
-{
-    constexpr double side = 3.0 * equalWithin; // the most by which the sums of three corners can differ
-    const QPointF sum = corners.at(0) + corners.at(1) + corners.at(2);
-    const auto cell
-        = [](double position) { return std::int64_t(std::floor(std::clamp(position / side, -1e15, 1e15))); };
-    return {cell(sum.x()), cell(sum.y())};
-}
-
 } // namespace
 
-DiagramGamuts::DiagramGamuts(const DiagramSheet &sheet, const ShownMarks &marks)
+DiagramGamuts::DiagramGamuts(const DiagramSheet &sheet, const ShownOutlines &outlines, const ShownMarks &marks)
     : m_sheet(sheet)
     , m_content(sheet.content)
     , m_palette(sheet.palette())
     , m_innerPalette(sheet.innerPalette())
     , m_plot(sheet.viewport.plot())
     , m_inner(m_plot.adjusted(labelGap, labelGap, -labelGap, -labelGap))
+    , m_outlines(outlines)
+    , m_shown(outlines.all)
+    , m_firstNamed(outlines.standards > size_t(mostNamedStandards) ? outlines.standards : 0)
     , m_marks(marks)
 {
-    for (const GamutRole role : drawingOrder) {
-        for (int i = 0; i < m_content.gamuts.size(); ++i) {
-            const DiagramGamut &gamut = m_content.gamuts.at(i);
-            if (gamut.role == role && m_content.shows(gamut)) {
-                const QPolygonF corners = sheet.viewport.outline(gamut.gamut.getTargets());
-                if (isFinite(corners)) {
-                    m_shown.push_back({i, role, corners, corners.boundingRect()});
-                }
-            }
-        }
-    }
-    const auto standards = std::count_if(
-        m_shown.begin(), m_shown.end(), [](const Shown &gamut) { return gamut.role == GamutRole::Standard; });
-    m_namesStandards = standards <= mostNamedStandards;
-    m_drawsStandardsPlainly = standards > mostCasedStandards;
-    findEquals();
-}
-
-void DiagramGamuts::findEquals()
-{
-    // Painted again and again, the soft edges of a line would harden.
-    for (size_t i = m_shown.size(); i-- > 0;) {
-        const std::vector<size_t> above = equalsOf(i);
-        m_shown[i].isCovered
-            = std::any_of(above.begin(), above.end(), [&](size_t k) { return m_shown[k].role == m_shown[i].role; });
-        if (m_shown[i].isCovered) {
-            continue;
-        }
-        m_outlines[equalityCell(m_shown[i].corners)].push_back(i);
-        for (const size_t k : above) {
-            m_shown[i].equals.push_back(k);
-            m_shown[k].equals.push_back(i);
-        }
-    }
-    for (Shown &gamut : m_shown) {
-        std::sort(gamut.equals.begin(), gamut.equals.end());
-    }
 }
 
 DiagramStep DiagramGamuts::takeUnedited()
 {
     size_t first = 0;
-    if (m_drawsStandardsPlainly) {
+    if (m_outlines.areStandardsPlain()) {
         QVector<QLineF> lines;
-        for (; first < m_shown.size() && m_shown[first].role == GamutRole::Standard; ++first) {
+        for (; first < m_outlines.standards; ++first) {
             if (isDrawn(first, false)) {
                 addPlainOutline(first, &lines);
             }
@@ -151,35 +100,9 @@ DiagramStep DiagramGamuts::takeEdited(const DiagramStep &scale)
     return std::move(m_step);
 }
 
-bool DiagramGamuts::areEqual(size_t i, size_t k) const
-{
-    // Most differ in this, which is found out soonest.
-    const auto isNear = [](double a, double b) { return std::fabs(a - b) < equalWithin; };
-    const QRectF &a = m_shown[i].bounds;
-    const QRectF &b = m_shown[k].bounds;
-    return isNear(a.left(), b.left()) && isNear(a.top(), b.top()) && isNear(a.right(), b.right())
-        && isNear(a.bottom(), b.bottom()) && isSameTriangle(m_shown[i].corners, m_shown[k].corners, equalWithin);
-}
-
 bool DiagramGamuts::isDrawn(size_t i, bool targetsToo) const
 {
     return !m_shown[i].isCovered && (targetsToo || m_shown[i].role != GamutRole::Target);
-}
-
-std::vector<size_t> DiagramGamuts::equalsOf(size_t i) const
-{
-    std::vector<size_t> equals;
-    const auto [column, row] = equalityCell(m_shown[i].corners);
-    for (const std::int64_t dx : {-1, 0, 1}) {
-        for (const std::int64_t dy : {-1, 0, 1}) {
-            const auto cell = m_outlines.find({column + dx, row + dy});
-            if (cell != m_outlines.end()) {
-                std::copy_if(cell->second.begin(), cell->second.end(), std::back_inserter(equals),
-                    [&](size_t k) { return k != i && areEqual(i, k); });
-            }
-        }
-    }
-    return equals;
 }
 
 int DiagramGamuts::equalsAbove(size_t i, bool targetsToo) const
@@ -205,12 +128,8 @@ bool DiagramGamuts::hasEqualBelow(size_t i) const
 bool DiagramGamuts::equalsTarget(size_t i) const
 {
     // Targets come last.
-    for (size_t k = m_shown.size(); k-- > 0 && m_shown[k].role == GamutRole::Target;) {
-        if (!m_shown[k].isCovered && areEqual(i, k)) {
-            return true;
-        }
-    }
-    return false;
+    const std::vector<size_t> &equals = m_shown[i].equals;
+    return !equals.empty() && m_shown[equals.back()].role == GamutRole::Target;
 }
 
 void DiagramGamuts::drawOutline(size_t i, bool targetsToo)
@@ -315,14 +234,16 @@ bool sameButForEdits(const DiagramContent &a, const DiagramContent &b)
     }
 }
 
-DiagramStep gamutsStep(const DiagramSheet &sheet, const ShownMarks &marks)
+DiagramStep gamutsStep(const DiagramSheet &sheet, const ShownOutlines &outlines, const ShownMarks &marks)
 {
-    return DiagramGamuts(sheet, marks).takeUnedited();
+    return DiagramGamuts(sheet, outlines, marks).takeUnedited();
 }
 
-DiagramStep editedStep(const DiagramSheet &sheet, const DiagramStep &scale, const ShownMarks &marks)
+DiagramStep editedStep(
+    const DiagramSheet &sheet, const DiagramStep &scale, const ShownOutlines &outlines, const ShownMarks &marks)
 {
-    return DiagramGamuts(sheet, marks).takeEdited(scale);
+    const ShownOutlines all = withTargets(outlines, sheet);
+    return DiagramGamuts(sheet, all, marks).takeEdited(scale);
 }
 
 } // namespace ceiechart

@@ -5,11 +5,9 @@
 
 #include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/shownmarks_p.h>
+#include <ceiechart/diagram/shownoutlines_p.h>
 
-#include <cstdint>
 #include <limits>
-#include <map>
-#include <utility>
 #include <vector>
 
 namespace ceiechart {
@@ -18,12 +16,11 @@ namespace ceiechart {
 constexpr double whiteRadius = 5.0;
 constexpr double whiteArm = 4.0; // of the cross through the target's white
 
-using OutlineCell = std::pair<std::int64_t, std::int64_t>;
-
 /*! \brief Lays out what lies over the scale: gamuts, marks and their names. */
 class DiagramGamuts {
 public:
-    DiagramGamuts(const DiagramSheet &sheet, const ShownMarks &marks);
+    /*! \param outlines must outlive the object; those of targets are needed by takeEdited() only */
+    DiagramGamuts(const DiagramSheet &sheet, const ShownOutlines &outlines, const ShownMarks &marks);
 
     /*! \brief The outlines that no edit of a target changes. */
     DiagramStep takeUnedited();
@@ -31,14 +28,7 @@ public:
     DiagramStep takeEdited(const DiagramStep &scale);
 
 private:
-    struct Shown {
-        int index;
-        GamutRole role;
-        QPolygonF corners;
-        QRectF bounds{}; // of the corners
-        bool isCovered = false; // by the equal outline of another gamut of the role, which looks the same
-        std::vector<size_t> equals{}; // those that are not covered and equal this one, from bottom to top
-    };
+    using Shown = ShownOutline;
 
     struct Ring {
         QPointF centre; // u', v'
@@ -54,12 +44,7 @@ private:
     };
 
     // Outlines and areas
-    //! Whether the outlines number \a i and \a k fall on one another.
-    bool areEqual(size_t i, size_t k) const;
     bool isDrawn(size_t i, bool targetsToo) const;
-    //! Those of m_outlines that equal number \a i.
-    std::vector<size_t> equalsOf(size_t i) const;
-    void findEquals();
     //! How many other roles have gamuts that are drawn later and equal number \a i: those of one role look the same.
     int equalsAbove(size_t i, bool targetsToo) const;
     bool hasEqualBelow(size_t i) const;
@@ -127,10 +112,9 @@ private:
     const DiagramPalette &m_innerPalette;
     QRectF m_plot;
     QRectF m_inner; // where texts may stand
-    std::vector<Shown> m_shown; // from bottom to top
-    bool m_drawsStandardsPlainly = false; // for there are too many of them to tell one from another
-    bool m_namesStandards = true; // or there are too many, also for other names to keep clear of them
-    std::map<OutlineCell, std::vector<size_t>> m_outlines; // those that are not covered, by where they lie
+    const ShownOutlines &m_outlines;
+    const std::vector<Shown> &m_shown; // from bottom to top
+    size_t m_firstNamed; // standards are not named where there are too many, also for other names to keep clear of them
     QVector<QRectF> m_handles;
     std::vector<Ring> m_rings;
     const ShownMarks &m_marks;

@@ -173,9 +173,10 @@ void DiagramGamuts::drawTrail()
 
 void DiagramGamuts::drawWhites()
 {
-    for (const Shown &gamut : m_shown) {
+    for (size_t i = m_outlines.standards; i < m_shown.size(); ++i) {
+        const Shown &gamut = m_shown[i];
         const QPointF at = whiteOf(gamut);
-        if (gamut.role == GamutRole::Standard || !isSeen(at, whiteRadius + whiteArm)) {
+        if (!isSeen(at, whiteRadius + whiteArm)) {
             continue;
         }
         const QPainterPath shape = whiteShape(gamut.role, at);

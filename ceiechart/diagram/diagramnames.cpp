@@ -67,12 +67,12 @@ bool meetsAny(const QVector<QRectF> &some, const QRectF &place)
 QVector<QRectF> DiagramGamuts::handles() const
 {
     QVector<QRectF> result;
-    for (const Shown &gamut : m_shown) {
-        if (gamut.role == GamutRole::Target) {
-            for (const QPointF &corner : gamut.corners) {
+    for (size_t i = m_outlines.standards; i < m_shown.size(); ++i) {
+        if (m_shown[i].role == GamutRole::Target) {
+            for (const QPointF &corner : m_shown[i].corners) {
                 result.append(around(corner, handleExtent));
             }
-            result.append(around(whiteOf(gamut), handleExtent));
+            result.append(around(whiteOf(m_shown[i]), handleExtent));
         }
     }
     return result;
@@ -106,9 +106,10 @@ void DiagramGamuts::placeWavelengths(const QVector<PendingNumber> &wavelengths)
 QVector<QRectF> DiagramGamuts::clearOfNumbers() const
 {
     QVector<QRectF> result = m_handles;
-    for (const Shown &gamut : m_shown) {
-        if (gamut.role != GamutRole::Standard && m_sheet.shows(DiagramLayer::Whites) && isFinite(whiteOf(gamut))) {
-            result.append(around(whiteOf(gamut), whiteRadius + 2.0));
+    for (size_t i = m_outlines.standards; i < m_shown.size() && m_sheet.shows(DiagramLayer::Whites); ++i) {
+        const QPointF white = whiteOf(m_shown[i]);
+        if (isFinite(white)) {
+            result.append(around(white, whiteRadius + 2.0));
         }
     }
     return result;
@@ -275,9 +276,9 @@ template <typename Meets>
 int DiagramGamuts::countOutlines(const Meets &meetsIt) const
 {
     int count = 0;
-    for (const Shown &gamut : m_shown) {
-        const bool counts = !gamut.isCovered && (m_namesStandards || gamut.role != GamutRole::Standard);
-        for (int i = 0; counts && i < 3; ++i) {
+    for (size_t number = m_firstNamed; number < m_shown.size(); ++number) {
+        const Shown &gamut = m_shown[number];
+        for (int i = 0; !gamut.isCovered && i < 3; ++i) {
             count += meetsIt(QLineF(gamut.corners.at(i), gamut.corners.at((i + 1) % 3))) ? 1 : 0;
         }
     }
@@ -444,11 +445,9 @@ void DiagramGamuts::drawName(const Shown &gamut, const TextStyle &style)
 void DiagramGamuts::drawNames()
 {
     // The target first, as the last is the most likely to find no room.
-    for (auto gamut = m_shown.crbegin(); gamut != m_shown.crend(); ++gamut) {
-        const bool isStandard = gamut->role == GamutRole::Standard;
-        if (!isStandard || m_namesStandards) {
-            drawName(*gamut, isStandard ? m_sheet.fonts.texts : m_sheet.fonts.names);
-        }
+    for (size_t i = m_shown.size(); i-- > m_firstNamed;) {
+        const bool isStandard = m_shown[i].role == GamutRole::Standard;
+        drawName(m_shown[i], isStandard ? m_sheet.fonts.texts : m_sheet.fonts.names);
     }
 }
 

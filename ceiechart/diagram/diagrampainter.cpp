@@ -5,6 +5,7 @@
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/shownmarks_p.h>
+#include <ceiechart/diagram/shownoutlines_p.h>
 
 #include <QGuiApplication>
 #include <QPaintEngine>
@@ -54,6 +55,12 @@ bool hasMarksOf(const DiagramContent &a, const DiagramContent &b)
         && areShared(a.colorTemperaturePoints, b.colorTemperaturePoints) && areShared(a.cmyPoints, b.cmyPoints);
 }
 
+bool haveSameRoles(const DiagramContent &a, const DiagramContent &b)
+{
+    return std::equal(a.gamuts.cbegin(), a.gamuts.cend(), b.gamuts.cbegin(), b.gamuts.cend(),
+        [](const DiagramGamut &one, const DiagramGamut &other) { return one.role == other.role; });
+}
+
 } // namespace
 
 class DiagramPainter::Private {
@@ -67,6 +74,7 @@ public:
     std::optional<DiagramFonts> fonts;
     std::optional<DiagramStep> scale;
     std::optional<ShownMarks> marks;
+    std::optional<ShownOutlines> outlines; // but for targets
     std::optional<DiagramStep> gamuts;
     std::optional<DiagramStep> edited;
 
@@ -96,10 +104,18 @@ public:
         return *marks;
     }
 
+    const ShownOutlines &outlinesLayout()
+    {
+        if (!outlines) {
+            outlines = shownOutlines(sheet());
+        }
+        return *outlines;
+    }
+
     const DiagramStep &gamutsLayout()
     {
         if (!gamuts) {
-            gamuts = gamutsStep(sheet(), marksLayout());
+            gamuts = gamutsStep(sheet(), outlinesLayout(), marksLayout());
         }
         return *gamuts;
     }
@@ -107,7 +123,7 @@ public:
     const DiagramStep &editedLayout()
     {
         if (!edited) {
-            edited = editedStep(sheet(), scaleLayout(), marksLayout());
+            edited = editedStep(sheet(), scaleLayout(), outlinesLayout(), marksLayout());
         }
         return *edited;
     }
@@ -116,6 +132,7 @@ public:
     {
         scale.reset();
         marks.reset();
+        outlines.reset();
         gamuts.reset();
         edited.reset();
     }
@@ -160,6 +177,9 @@ void DiagramPainter::setContent(const DiagramContent &content)
     }
     if (!sameButForEdits(d->content, content)) {
         d->gamuts.reset();
+        d->outlines.reset();
+    } else if (!haveSameRoles(d->content, content)) {
+        d->outlines.reset(); // the others are at other places in the list
     }
     d->edited.reset();
     d->content = content;
@@ -228,8 +248,9 @@ void DiagramPainter::paint(QPainter *painter, const QRectF &place) const
     }
     const DiagramStep scale = scaleStep(sheet);
     const ShownMarks marks = shownMarks(sheet);
-    const DiagramStep gamuts = gamutsStep(sheet, marks);
-    const DiagramStep edited = editedStep(sheet, scale, marks);
+    const ShownOutlines outlines = shownOutlines(sheet);
+    const DiagramStep gamuts = gamutsStep(sheet, outlines, marks);
+    const DiagramStep edited = editedStep(sheet, scale, outlines, marks);
     scale.drawing.paint(painter);
     gamuts.drawing.paint(painter);
     edited.drawing.paint(painter);

@@ -36,6 +36,7 @@ struct DiagramFonts {
 };
 
 struct ShownMarks;
+struct ShownOutlines;
 
 /*! \brief What is painted, and on what. */
 struct DiagramSheet {
@@ -92,9 +93,11 @@ struct DiagramStep {
  * @{
  */
 DiagramStep scaleStep(const DiagramSheet &sheet);
-DiagramStep gamutsStep(const DiagramSheet &sheet, const ShownMarks &marks);
+//! What no edit of a target changes; \a outlines are those of shownOutlines().
+DiagramStep gamutsStep(const DiagramSheet &sheet, const ShownOutlines &outlines, const ShownMarks &marks);
 //! With the numbers that \a scale, the step of the scale, has left to be placed.
-DiagramStep editedStep(const DiagramSheet &sheet, const DiagramStep &scale, const ShownMarks &marks);
+DiagramStep editedStep(
+    const DiagramSheet &sheet, const DiagramStep &scale, const ShownOutlines &outlines, const ShownMarks &marks);
 /*! @} */
 
 /*! \brief A line of \a pen with a casing of \a casing under it, as far as it is within \a area. */

@@ -24,6 +24,8 @@ class QTouchEvent;
 
 namespace ceiechart {
 
+class MarkGrid;
+
 /*! What lies over the diagram and comes and goes with hands and focus. */
 struct DiagramOverlay {
     //! A handle as it is drawn.
@@ -135,7 +137,9 @@ public:
     bool meetsAnother(const Model::Targets &targets) const;
     QRegion editedRegion(const Model::Targets &before, const Model::Targets &after) const;
     void placeLabel();
-    QRectF labelPlace(const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid) const;
+    //! Where a label of \a size stands that belongs to \a at: on no box of \a avoid, and clear of \a corners.
+    QRectF labelPlace(
+        const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid, const MarkGrid &corners) const;
     //! The readout in the corner where it covers least, and not what it is about.
     void placeReadout();
     void weighReadoutCorners(const QSizeF &size);

@@ -4,6 +4,7 @@
 #include <ceiechart/diagram/diagramhands_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
 #include <ceiechart/diagram/finite_p.h>
+#include <ceiechart/diagram/markgrid_p.h>
 #include <ceiechart/diagram/polylines_p.h>
 
 #include <algorithm>
@@ -17,6 +18,11 @@ namespace {
 constexpr double labelDistance = 26.0; // logical pixels from the middle of a handle to its label
 constexpr double costOfName = 60.0; // of a name that it covers, in logical pixels farther away from the handle
 constexpr double cornerRoom = 6.0; // logical pixels round a corner that the hand may move to
+
+QRectF around(const QRectF &place, double room)
+{
+    return place.adjusted(-room, -room, room, room);
+}
 
 //! Small boxes along the line from \a from to \a to.
 void addBoxesAlong(QVector<QRectF> &boxes, const QPointF &from, const QPointF &to)
@@ -124,10 +130,13 @@ void DiagramView::Private::placeLabel()
     }
     const QVector<QRectF> handleBoxes = avoid; // the last is of what is edited
     // What the hand is likely to move to must be seen as well.
+    MarkGrid corners;
     for (const DiagramGamut &gamut : content.gamuts) {
         if (gamut.role != GamutRole::Target && content.shows(gamut)) {
             const QPointF corner = viewport.toPosition(xyOf(targetAt(gamut.gamut.getTargets(), *selected)));
-            avoid.append(QRectF(corner - QPointF(cornerRoom, cornerRoom), QSizeF(2.0 * cornerRoom, 2.0 * cornerRoom)));
+            if (isFinite(corner) && around(q->rect(), cornerRoom).contains(corner)) {
+                corners.add(corner);
+            }
         }
     }
     // No line leads to the white: it is mixed from the primaries.
@@ -138,14 +147,14 @@ void DiagramView::Private::placeLabel()
             }
         }
     }
-    const auto isPlaced = [&](const QVector<QRectF> &boxes) {
+    const auto isPlaced = [&](const QVector<QRectF> &boxes, const MarkGrid &marks = MarkGrid()) {
         overlay.label = DiagramOverlay::wrapped(entries, font, std::min(widest, plot.width() / 2.0));
-        overlay.labelPlace = labelPlace(DiagramOverlay::labelSize(overlay.label, font), at, boxes);
+        overlay.labelPlace = labelPlace(DiagramOverlay::labelSize(overlay.label, font), at, boxes, marks);
         return !overlay.labelPlace.isEmpty();
     };
     // Where there is no room for all of it, the coordinates are what matters, more than what they cover.
     for (;; entries.removeLast()) {
-        if (isPlaced(avoid)) {
+        if (isPlaced(avoid, corners)) {
             return;
         }
         if (entries.size() == 1) {
@@ -157,15 +166,27 @@ void DiagramView::Private::placeLabel()
     }
 }
 
-QRectF DiagramView::Private::labelPlace(const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid) const
+QRectF DiagramView::Private::labelPlace(
+    const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid, const MarkGrid &corners) const
 {
     const QVector<DiagramLabel> names = painter->labels();
+    const auto isTaken = [&avoid, &corners](const QRectF &place) {
+        const auto covers = [&place](const QRectF &box) { return box.intersects(place); };
+        return corners.meets(place, cornerRoom) || std::any_of(avoid.cbegin(), avoid.cend(), covers);
+    };
     const auto costOf = [&names, &at](const QRectF &place) {
         const auto covered = std::count_if(
             names.cbegin(), names.cend(), [&place](const DiagramLabel &name) { return name.place.intersects(place); });
         return distanceTo(place, at) + costOfName * double(covered);
     };
-    QRectF best = painter->freePlace(size, at, labelDistance, avoid);
+    const QRectF beside = around(QRectF(at, at), labelDistance + std::max(size.width(), size.height()) + cornerRoom);
+    QVector<QRectF> near = avoid;
+    for (const QPointF &corner : corners.all()) {
+        if (beside.contains(corner)) {
+            near.append(around(QRectF(corner, corner), cornerRoom));
+        }
+    }
+    QRectF best = painter->freePlace(size, at, labelDistance, near);
     double least = best.isEmpty() ? std::numeric_limits<double>::max() : costOf(best);
     if (least < costOfName) {
         return best; // on no name
@@ -180,8 +201,7 @@ QRectF DiagramView::Private::labelPlace(const QSizeF &size, const QPointF &at, c
             const QPointF corner(area.left() + room.width() * column / tries, area.top() + room.height() * row / tries);
             const QRectF place(corner, size);
             const double away = distanceTo(place, at);
-            const auto covers = [&place](const QRectF &box) { return box.intersects(place); };
-            if (away < labelDistance || away >= least || std::any_of(avoid.cbegin(), avoid.cend(), covers)) {
+            if (away < labelDistance || away >= least || isTaken(place)) {
                 continue;
             }
             const double cost = costOf(place);

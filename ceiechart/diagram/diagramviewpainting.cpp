@@ -197,8 +197,7 @@ void DiagramView::Private::putTarget(const Model::Targets &targets)
     painter->setContent(content);
     QRegion changed = old;
     if (meetsAnother(former) || meetsAnother(targets)) {
-        // A line that equals another gamut's is drawn otherwise, and that gamut's too.
-        linesAreReady = false;
+        // A line that equals another gamut's is drawn otherwise, and that gamut's once more.
         changed = q->rect();
     } else {
         changed += editedRegion(former, targets);

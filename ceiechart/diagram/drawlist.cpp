@@ -342,6 +342,14 @@ void DrawList::paintItem(QPainter *painter, const Lines &item, const QRegion &ne
     QVector<QLineF> lines = item.lines;
     keepNeeded(lines, item.pen, needed);
     painter->setPen(item.pen);
+    if (item.lines.size() > mostSmoothLines && isRaster(*painter)) {
+        const bool isSmooth = painter->testRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(item.pen.color(), 0.0));
+        painter->setRenderHint(QPainter::Antialiasing, false);
+        painter->drawLines(lines);
+        painter->setRenderHint(QPainter::Antialiasing, isSmooth);
+        return;
+    }
     painter->drawLines(lines);
 }
 

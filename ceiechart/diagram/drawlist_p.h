@@ -31,6 +31,7 @@ namespace ceiechart {
 
 constexpr double pictureRatioOfFiles = 2.0; // pixels of a picture for each logical pixel of a file
 constexpr double mostPicturePixels = 3e7;
+constexpr int mostSmoothLines = 3000; // of more, the soft edges take longer than a step of the view may
 constexpr int mostMarksByOutline = 2000; // in the plot: each takes as long as a line, and hundreds of bytes of a file
 
 /*! \brief A font and its measures in logical pixels. */
@@ -84,7 +85,7 @@ public:
     void hairline(const QLineF &line, const QColor &color);
     //! A line, or the outline of a polygon.
     void line(const QPolygonF &points, bool closed, const QPen &pen);
-    //! Lines that do not hang together.
+    //! Lines that do not hang together. More than mostSmoothLines become hairlines without soft edges on pictures.
     void lines(const QVector<QLineF> &lines, const QPen &pen);
     //! Any shape.
     void shape(const QPainterPath &path, const QPen &pen, const QBrush &brush);

@@ -22,6 +22,7 @@ public:
     /*! \brief Adds a mark at \a at, which is finite. */
     void add(const QPointF &at);
     int size() const { return int(m_all.size()); }
+    const std::vector<QPointF> &all() const { return m_all; }
 
     /*! \brief How many squares that reach \a reach to each side of a mark meet \a place; counts up to \a most. */
     int meeting(const QRectF &place, double reach, int most) const;

@@ -28,22 +28,22 @@ bool mayAlterLine(uint character)
 QString oneLine(const QString &text)
 {
     QString line;
-    line.reserve(text.size());
-    for (int i = 0; i < text.size(); ++i) {
+    int taken = 0; // so much of the text is in the line
+    for (int i = 0; i < text.size();) {
         const QChar c = text.at(i);
         const bool isPair = c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
         const int end = isPair ? i + 2 : i + 1;
         const uint character = isPair ? QChar::surrogateToUcs4(c, text.at(i + 1)) : c.unicode();
-        if (!mayAlterLine(character)) {
-            line += text.mid(i, end - i);
-        } else {
+        if (mayAlterLine(character)) {
+            line += text.mid(taken, i - taken);
             for (int unit = i; unit < end; ++unit) {
                 line += QStringLiteral("\\u%1").arg(uint(text.at(unit).unicode()), 4, 16, QLatin1Char('0'));
             }
+            taken = end;
         }
-        i = end - 1;
+        i = end;
     }
-    return line;
+    return taken == 0 ? text : line + text.mid(taken);
 }
 
 } // namespace gamutfiles

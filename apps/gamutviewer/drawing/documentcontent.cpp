@@ -23,10 +23,18 @@ QVector<ceiechart::DiagramMark> marks(const QVector<NamedPoint> &points)
 
 ceiechart::DiagramContent documentContent(const DisplayDescription &description)
 {
-    return documentContent(description, gamutParts(description));
+    std::vector<DisplayGamut> standards;
+    const QHash<QString, int> places = description.gamutPlaces();
+    for (const QString &name : description.standards) {
+        if (const auto gamut = description.gamut(name, places)) {
+            standards.push_back(*gamut);
+        }
+    }
+    return documentContent(description, gamutParts(description), standards);
 }
 
-ceiechart::DiagramContent documentContent(const DisplayDescription &description, const QVector<GamutPart> &parts)
+ceiechart::DiagramContent documentContent(const DisplayDescription &description, const QVector<GamutPart> &parts,
+    const std::vector<DisplayGamut> &standards)
 {
     using ceiechart::GamutRole;
     ceiechart::DiagramContent content;
@@ -40,11 +48,9 @@ ceiechart::DiagramContent documentContent(const DisplayDescription &description,
             }
         }
     }
-    const QHash<QString, int> places = description.gamutPlaces();
-    for (const QString &name : description.standards) {
-        if (const auto gamut = description.gamut(name, places)) {
-            add({GamutRole::Standard, *gamut});
-        }
+    content.gamuts.reserve(content.gamuts.size() + int(standards.size()));
+    for (const DisplayGamut &standard : standards) {
+        add({GamutRole::Standard, standard});
     }
     content.measurePoints = marks(description.measurePoints);
     content.colorTemperaturePoints = marks(description.colorTemperaturePoints);

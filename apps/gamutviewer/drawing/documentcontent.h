@@ -8,6 +8,8 @@
 
 #include <ceiechart/diagram/diagramcontent.h>
 
+#include <vector>
+
 namespace gamutviewer {
 
 /*!
@@ -15,9 +17,10 @@ namespace gamutviewer {
  * target's white. All layers are on, and there is no trail.
  *
  * Gamuts have the names that the interface shows. A part that no gamut plays is left out. \a parts are the gamuts but
- * for the standards: those of the description, or gamutPartsToEdit().
+ * for the standards: those of the description, or gamutPartsToEdit(). Of the standards, \a standards are shown.
  */
-ceiechart::DiagramContent documentContent(const DisplayDescription &description, const QVector<GamutPart> &parts);
+ceiechart::DiagramContent documentContent(const DisplayDescription &description, const QVector<GamutPart> &parts,
+    const std::vector<DisplayGamut> &standards);
 /*! \brief The same of what \a description has, without a default target. */
 ceiechart::DiagramContent documentContent(const DisplayDescription &description);
 

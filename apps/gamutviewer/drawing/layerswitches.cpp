@@ -4,6 +4,8 @@
 
 #include "drawing/documentcontent.h"
 
+#include <algorithm>
+
 namespace gamutviewer {
 
 void LayerSwitches::setState(const State &state)
@@ -47,17 +49,16 @@ void LayerSwitches::forgetStandards()
 
 ceiechart::DiagramContent LayerSwitches::content(const DisplayDescription &description) const
 {
-    DisplayDescription shown = description;
-    shown.standards.clear();
-    const QSet<QString> named(description.standards.begin(), description.standards.end());
-    for (const Model::ColorGamut &standard : description.allStandards()) {
-        const QString name = nameOf(standard);
-        if (isStandardShown(name, named)) {
-            shown.standards.append(name);
-        }
+    std::vector<DisplayGamut> standards;
+    if (isShown(ceiechart::DiagramLayer::Standards)) {
+        const QSet<QString> named(description.standards.begin(), description.standards.end());
+        standards = description.allStandards();
+        standards.erase(std::remove_if(standards.begin(), standards.end(),
+                            [&](const DisplayGamut &standard) { return !isStandardShown(nameOf(standard), named); }),
+            standards.end());
     }
-    ceiechart::DiagramContent content
-        = documentContent(shown, m_showsDefaultTarget ? gamutPartsToEdit(shown) : gamutParts(shown));
+    ceiechart::DiagramContent content = documentContent(
+        description, m_showsDefaultTarget ? gamutPartsToEdit(description) : gamutParts(description), standards);
     content.measurePoints = cabinetMarks(description.wall) + content.measurePoints;
     content.layers = m_state.layers;
     content.colors = m_state.colors;

@@ -170,7 +170,8 @@ bool canBeTarget(const Model::Targets &targets)
 
 bool isEditedName(const QString &gamutName)
 {
-    return editedMatch(gamutName).hasMatch();
+    // Almost no name is one, which is found out soonest by its end.
+    return gamutName.endsWith(QLatin1Char(')')) && editedMatch(gamutName).hasMatch();
 }
 
 QString plainName(const QString &gamutName)
