@@ -25,6 +25,8 @@ private Q_SLOTS:
     void aloneEndsWithTheDescription();
     void returnShowsAlone();
     void standardsAreThoseOfTheDescription();
+    void changedKeyEqualsANewOne();
+    void standardsStayWhenTheTargetIsEdited();
     void keySpeaks();
     void fontsInPixelsAreScaled();
 };
@@ -188,6 +190,64 @@ void LayerKeyTest::standardsAreThoseOfTheDescription()
     QCOMPARE(key(f)->entry(QStringLiteral("Rec.709"))->checkState(), Qt::Checked);
     f.window->setDescription(description, QString());
     QCOMPARE(key(f)->entry(QStringLiteral("Rec.709"))->checkState(), Qt::Unchecked);
+}
+
+// An entry that changes is changed in its place; what comes of it must be what all entries made anew would be.
+void LayerKeyTest::changedKeyEqualsANewOne()
+{
+    const auto entriesOf = [](const LayerKey &key) {
+        QStringList entries;
+        for (int row = 0; row < key.count(); ++row) {
+            const QListWidgetItem *item = key.item(row);
+            QStringList data{item->text(), item->toolTip(), QString::number(int(item->flags()))};
+            for (int role = Qt::UserRole; role < Qt::UserRole + 8; ++role) {
+                data.append(item->data(role).toString());
+            }
+            data << item->data(Qt::AccessibleTextRole).toString() << item->data(Qt::CheckStateRole).toString();
+            entries.append(data.join(QLatin1Char('|')));
+        }
+        return entries;
+    };
+    Document document;
+    LayerSwitches switches;
+    LayerKey changed(&document, &switches);
+    DisplayDescription description;
+    QStringList names;
+    for (int i = 0; i < 400; ++i) {
+        names.append(QStringLiteral("Standard %1").arg(i));
+        description.gamuts.emplace_back(Model::ColorGamut(names.last().toStdString(), Model::rec709().getTargets()));
+    }
+    const QVector<QStringList> steps{names.mid(0, 5), names.mid(2, 3), names.mid(0, 5),
+        names.mid(1, 1) + names.mid(4, 4), {}, names.mid(0, 7), names.mid(0, 3) + names.mid(5, 2), names,
+        names.mid(0, 200) + names.mid(201), names.mid(0, 3)};
+    for (const QStringList &standards : steps) {
+        for (const QString &target : {QString(), names.at(7), names.at(8)}) {
+            description.standards = standards;
+            description.target = target;
+            document.change(description, QStringLiteral("step"));
+            LayerKey fresh(&document, &switches);
+            QCOMPARE(entriesOf(changed), entriesOf(fresh));
+            QCOMPARE(changed.sizeHint(), fresh.sizeHint());
+        }
+    }
+}
+
+// Of thousands, to make them anew would take longer than a step may.
+void LayerKeyTest::standardsStayWhenTheTargetIsEdited()
+{
+    WindowFixture f;
+    QVector<QListWidgetItem *> before;
+    for (int row = 0; row < key(f)->count(); ++row) {
+        before.append(key(f)->item(row));
+    }
+    const QString target = f.document().description().target;
+    f.change();
+    QVERIFY(f.document().description().target != target);
+    QVERIFY(key(f)->entry(shownGamutName(f.document().description().target)));
+    QCOMPARE(key(f)->count(), int(before.size()));
+    for (int row = 0; row < key(f)->count(); ++row) {
+        QCOMPARE(key(f)->item(row), before.at(row));
+    }
 }
 
 void LayerKeyTest::keySpeaks()

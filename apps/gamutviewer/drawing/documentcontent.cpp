@@ -33,8 +33,8 @@ ceiechart::DiagramContent documentContent(const DisplayDescription &description)
     return documentContent(description, gamutParts(description), standards);
 }
 
-ceiechart::DiagramContent documentContent(const DisplayDescription &description, const QVector<GamutPart> &parts,
-    const std::vector<DisplayGamut> &standards)
+ceiechart::DiagramContent documentContent(
+    const DisplayDescription &description, const QVector<GamutPart> &parts, const std::vector<DisplayGamut> &standards)
 {
     using ceiechart::GamutRole;
     ceiechart::DiagramContent content;

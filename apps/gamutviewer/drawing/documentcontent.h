@@ -19,8 +19,8 @@ namespace gamutviewer {
  * Gamuts have the names that the interface shows. A part that no gamut plays is left out. \a parts are the gamuts but
  * for the standards: those of the description, or gamutPartsToEdit(). Of the standards, \a standards are shown.
  */
-ceiechart::DiagramContent documentContent(const DisplayDescription &description, const QVector<GamutPart> &parts,
-    const std::vector<DisplayGamut> &standards);
+ceiechart::DiagramContent documentContent(
+    const DisplayDescription &description, const QVector<GamutPart> &parts, const std::vector<DisplayGamut> &standards);
 /*! \brief The same of what \a description has, without a default target. */
 ceiechart::DiagramContent documentContent(const DisplayDescription &description);
 

@@ -4,7 +4,6 @@
 
 #include "display/gamutfiles.h"
 #include "editing/document.h"
-#include "editing/gamutparts.h"
 #include "editing/targetedits.h"
 #include "editing/targetsession.h"
 #include "panel/accentbutton.h"
@@ -32,8 +31,9 @@ namespace {
 using ceiechart::DiagramLayer;
 using ceiechart::GamutRole;
 
-// The widest name is what the name can become while the entry is dragged about.
-enum ItemRole { NameRole = Qt::UserRole, DetailRole, GamutRoleRole, LayerRole, WidestNameRole };
+// The widest name is what the name can become while the entry is dragged about. To measure the names of thousands of
+// standards takes longer than a step may; the width of a name without a detail is kept.
+enum ItemRole { NameRole = Qt::UserRole, DetailRole, GamutRoleRole, LayerRole, WidestNameRole, NameWidthRole };
 
 constexpr int margin = 6; // pixels
 constexpr int gap = 6;
@@ -42,6 +42,8 @@ constexpr double sectionScale = 0.82;
 constexpr double detailScale = 0.85;
 constexpr int widestEntry = 190;
 constexpr double keyScale = 0.85;
+constexpr int firstPart = 1; // row, below the title of the section
+constexpr int mostChanged = 200; // standards that come and go one by one; of more, all is built anew
 
 QPoint positionOf(const QMouseEvent &event)
 {
@@ -86,10 +88,14 @@ public:
         }
         const int box = QApplication::style()->pixelMetric(QStyle::PM_IndicatorWidth);
         int height = metrics.height() + 4;
-        int width = metrics.horizontalAdvance(index.data(NameRole).toString());
-        if (isPart(index)) {
+        int width = 0;
+        if (!isPart(index)) {
+            const QVariant known = index.data(NameWidthRole);
+            width = known.isValid() ? known.toInt() : metrics.horizontalAdvance(index.data(NameRole).toString());
+        } else {
             QFont bold = option.font;
             bold.setBold(true);
+            width = metrics.horizontalAdvance(index.data(NameRole).toString());
             for (const ItemRole role : {NameRole, WidestNameRole}) {
                 width = std::max(width, QFontMetrics(bold).horizontalAdvance(index.data(role).toString()));
             }
@@ -253,65 +259,96 @@ void LayerKey::addColors()
     row->setSizeHint(box->sizeHint());
 }
 
-QListWidgetItem *LayerKey::addEntry(
-    const QString &name, const QString &detail, std::optional<GamutRole> role, DiagramLayer layer)
+QListWidgetItem *LayerKey::addEntry(DiagramLayer layer, std::optional<GamutRole> role, int row)
 {
-    auto *item = new QListWidgetItem(this);
+    auto *item = new QListWidgetItem;
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable | Qt::ItemIsSelectable);
-    item->setData(NameRole, name);
     item->setData(LayerRole, int(layer));
     if (role) {
-        item->setData(DetailRole, detail);
         item->setData(GamutRoleRole, int(*role));
     }
     item->setCheckState(Qt::Checked);
-    item->setToolTip(
-        plainToolTip(detail.isEmpty() ? name : tr("%1: %2", "role and name of a gamut").arg(detail, name)));
-    item->setData(Qt::AccessibleTextRole,
-        detail.isEmpty() ? name : tr("%1, %2", "name of a gamut, and its role").arg(name, detail));
+    insertItem(row < 0 ? count() : row, item);
     return item;
 }
 
-void LayerKey::build()
+void LayerKey::fillEntry(QListWidgetItem *entry, const QString &name, const QString &detail) const
+{
+    entry->setData(NameRole, name);
+    entry->setData(DetailRole, detail);
+    if (detail.isEmpty()) {
+        entry->setData(NameWidthRole, fontMetrics().horizontalAdvance(name));
+    }
+    entry->setToolTip(
+        plainToolTip(detail.isEmpty() ? name : tr("%1: %2", "role and name of a gamut").arg(detail, name)));
+    entry->setData(Qt::AccessibleTextRole,
+        detail.isEmpty() ? name : tr("%1, %2", "name of a gamut, and its role").arg(name, detail));
+}
+
+void LayerKey::fillPart(QListWidgetItem *entry, const GamutPart &part) const
+{
+    fillEntry(entry, part.name(), part.roleName());
+    if (part.role == GamutRole::Target) {
+        const QString edited = withEditedTarget(m_document->description(), part.gamut.getTargets()).target;
+        entry->setData(WidestNameRole, oneLine(shownGamutName(edited)));
+    }
+}
+
+void LayerKey::addStandard(const QString &name, int row)
+{
+    fillEntry(addEntry(DiagramLayer::Standards, GamutRole::Standard, row), name);
+}
+
+LayerKey::Built LayerKey::wanted() const
 {
     const DisplayDescription &description = m_document->description();
+    Built wanted;
+    const QVector<GamutPart> parts = gamutPartsToEdit(description);
+    for (const GamutRole role : {GamutRole::Target, GamutRole::Original, GamutRole::Measured, GamutRole::Declared}) {
+        for (const GamutPart &part : parts) {
+            if (part.role == role) {
+                wanted.parts.append(part);
+                wanted.titles.append(part.title());
+            }
+        }
+    }
+    for (const Model::ColorGamut &standard : description.allStandards()) {
+        wanted.standards.append(nameOf(standard));
+    }
+    wanted.hasPoints = {
+        hasMeasurePoints(description), !description.colorTemperaturePoints.isEmpty(), !description.cmyPoints.isEmpty()};
+    return wanted;
+}
+
+void LayerKey::build(const Built &wanted)
+{
     for (QAbstractButton *button : m_colors->buttons()) {
         m_colors->removeButton(button);
     }
     clear();
-    m_pressed = nullptr;
-    m_click.reset();
     addSection(tr("Gamuts"));
-    for (const GamutRole role : {GamutRole::Target, GamutRole::Original, GamutRole::Measured, GamutRole::Declared}) {
-        for (const GamutPart &part : gamutPartsToEdit(description)) {
-            if (part.role == role) {
-                QListWidgetItem *entry = addEntry(part.name(), part.roleName(), role, ceiechart::layerOf(role));
-                if (role == GamutRole::Target) {
-                    const QString edited = withEditedTarget(description, part.gamut.getTargets()).target;
-                    entry->setData(WidestNameRole, oneLine(shownGamutName(edited)));
-                }
-            }
-        }
+    for (const GamutPart &part : wanted.parts) {
+        fillPart(addEntry(ceiechart::layerOf(part.role), part.role), part);
     }
     addSection(tr("Standards"));
-    for (const Model::ColorGamut &standard : description.allStandards()) {
-        addEntry(nameOf(standard), QString(), GamutRole::Standard, DiagramLayer::Standards);
+    for (const QString &name : wanted.standards) {
+        addStandard(name);
     }
     addSection(tr("Layers"));
     addColors();
-    const auto addLayer = [this](const QString &name, DiagramLayer layer) { addEntry(name, QString(), {}, layer); };
+    const auto addLayer = [this](const QString &name, DiagramLayer layer) { fillEntry(addEntry(layer, {}), name); };
     addLayer(tr("Common area"), DiagramLayer::CommonArea);
     addLayer(tr("Given up"), DiagramLayer::LostArea);
     addLayer(tr("Planckian locus"), DiagramLayer::PlanckianLocus);
     addLayer(tr("Isotherms"), DiagramLayer::Isotherms);
     addLayer(tr("Wavelengths"), DiagramLayer::Wavelengths);
-    if (hasMeasurePoints(description)) {
+    if (wanted.hasPoints.at(0)) {
         addLayer(tr("Measure points"), DiagramLayer::MeasurePoints);
     }
-    if (!description.colorTemperaturePoints.isEmpty()) {
+    if (wanted.hasPoints.at(1)) {
         addLayer(tr("CCT points"), DiagramLayer::ColorTemperaturePoints);
     }
-    if (!description.cmyPoints.isEmpty()) {
+    if (wanted.hasPoints.at(2)) {
         addLayer(tr("CMY points"), DiagramLayer::CmyPoints);
     }
     addLayer(tr("Tolerance rings"), DiagramLayer::Rings);
@@ -319,6 +356,49 @@ void LayerKey::build()
     addLayer(tr("Names"), DiagramLayer::Names);
     addLayer(tr("Axes"), DiagramLayer::Axes);
     addLayer(tr("Grid"), DiagramLayer::Grid);
+}
+
+bool LayerKey::changeStandards(const QStringList &names)
+{
+    const QStringList &former = m_built->standards;
+    const int shorter = int(std::min(former.size(), names.size()));
+    const int same = int(std::mismatch(former.begin(), former.begin() + shorter, names.begin()).first - former.begin());
+    int sameEnd = 0;
+    while (sameEnd < shorter - same && former.at(former.size() - 1 - sameEnd) == names.at(names.size() - 1 - sameEnd)) {
+        ++sameEnd;
+    }
+    if (std::max(former.size(), names.size()) - same - sameEnd > mostChanged) {
+        return false;
+    }
+    const int first = firstPart + int(m_built->parts.size()) + 1 + same;
+    for (int i = same; i < former.size() - sameEnd; ++i) {
+        delete takeItem(first);
+    }
+    for (int i = same; i < names.size() - sameEnd; ++i) {
+        addStandard(names.at(i), first + i - same);
+    }
+    return true;
+}
+
+void LayerKey::change(const Built &wanted)
+{
+    const auto sameRole = [](const GamutPart &a, const GamutPart &b) { return a.role == b.role; };
+    const bool isAlike = m_built && m_built->hasPoints == wanted.hasPoints
+        && std::equal(m_built->parts.begin(), m_built->parts.end(), wanted.parts.begin(), wanted.parts.end(), sameRole);
+    if (isAlike && m_built->titles == wanted.titles && m_built->standards == wanted.standards) {
+        return;
+    }
+    m_pressed = nullptr;
+    m_click.reset();
+    m_isMeasured = false;
+    if (isAlike && changeStandards(wanted.standards)) {
+        for (int i = 0; i < wanted.parts.size(); ++i) {
+            fillPart(item(firstPart + i), wanted.parts.at(i));
+        }
+    } else {
+        build(wanted);
+    }
+    m_built = wanted;
 }
 
 void LayerKey::measure()
@@ -337,23 +417,7 @@ void LayerKey::measure()
 
 void LayerKey::refresh()
 {
-    const DisplayDescription &description = m_document->description();
-    QStringList made;
-    for (const GamutPart &part : gamutPartsToEdit(description)) {
-        made.append(part.title());
-    }
-    for (const Model::ColorGamut &standard : description.allStandards()) {
-        made.append(nameOf(standard));
-    }
-    made.append(QStringLiteral("%1 %2 %3")
-                    .arg(hasMeasurePoints(description))
-                    .arg(description.colorTemperaturePoints.isEmpty())
-                    .arg(description.cmyPoints.isEmpty()));
-    if (made != m_built) {
-        m_built = made;
-        build();
-        m_isMeasured = false;
-    }
+    change(wanted());
     measure();
     const QSet<QString> named = namedStandards();
     const QSignalBlocker blocker(this);
@@ -485,6 +549,12 @@ void LayerKey::changeEvent(QEvent *event)
 {
     QListWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        for (int row = 0; row < count(); ++row) {
+            if (item(row)->data(NameWidthRole).isValid()) {
+                item(row)->setData(
+                    NameWidthRole, fontMetrics().horizontalAdvance(item(row)->data(NameRole).toString()));
+            }
+        }
         doItemsLayout();
         m_isMeasured = false;
         measure();

@@ -4,6 +4,7 @@
 #define GAMUTVIEWER_LAYERKEY_H
 
 #include "drawing/layerswitches.h"
+#include "editing/gamutparts.h"
 
 #include <QListWidget>
 
@@ -60,13 +61,29 @@ private:
         AloneOfKind alone;
     };
 
-    void build();
+    //! What the entries are made of.
+    struct Built {
+        QVector<GamutPart> parts; // in their order here
+        QStringList titles; // of the parts
+        QStringList standards; // their names
+        QVector<bool> hasPoints; // of each kind
+    };
+
+    Built wanted() const;
+    void build(const Built &wanted);
+    //! Makes the entries those of \a wanted: where little is another, by changing that alone.
+    void change(const Built &wanted);
+    //! Whether so few of the standards are others than \a names that they have been changed one by one.
+    bool changeStandards(const QStringList &names);
     void refresh();
     void measure();
     void addSection(const QString &title);
     void addColors();
-    QListWidgetItem *addEntry(const QString &name, const QString &detail, std::optional<ceiechart::GamutRole> role,
-        ceiechart::DiagramLayer layer);
+    //! At \a row, or as the last one.
+    QListWidgetItem *addEntry(ceiechart::DiagramLayer layer, std::optional<ceiechart::GamutRole> role, int row = -1);
+    void fillEntry(QListWidgetItem *entry, const QString &name, const QString &detail = QString()) const;
+    void fillPart(QListWidgetItem *entry, const GamutPart &part) const;
+    void addStandard(const QString &name, int row = -1);
     //! The standards that the description names.
     QSet<QString> namedStandards() const;
     bool isShown(const QListWidgetItem *entry, const QSet<QString> &named) const;
@@ -76,7 +93,7 @@ private:
     Document *m_document;
     LayerSwitches *m_switches;
     QButtonGroup *m_colors;
-    QStringList m_built; // what the entries are made of
+    std::optional<Built> m_built;
     QListWidgetItem *m_pressed = nullptr;
     std::optional<Click> m_click; // the last one, until the entries change
     AloneOfKind m_alone;
