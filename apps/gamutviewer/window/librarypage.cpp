@@ -136,8 +136,9 @@ void LibraryPage::refresh()
     const auto target = description.gamut(description.target); // not the default one, which they cannot tell apart
     const Model::ColorGamut none;
     QList<Model::ColorGamut> standards;
+    const QHash<QString, int> places = description.gamutPlaces();
     for (const QString &name : description.standards) {
-        if (const auto standard = description.gamut(name)) {
+        if (const auto standard = description.gamut(name, places)) {
             standards.append(*standard);
         }
     }
