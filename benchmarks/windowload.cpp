@@ -6,8 +6,9 @@
 #include "drawing/layerswitches.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
-#include "panel/layerkey.h"
+#include "panel/sidepanel.h"
 #include "window/diagrampage.h"
+#include "window/gamutsdialog.h"
 #include "window/viewerwindow.h"
 
 #include <QAction>
@@ -150,14 +151,12 @@ int main(int argc, char **argv)
         const QPointF from = handle(vertex);
         measure("press", 1, [&](int) { point(view, QEvent::MouseButtonPress, from, true); });
         measure(name, 20, [&](int i) { point(view, QEvent::MouseMove, from + QPointF(9.0 + 2 * i, 9.0 + i), true); });
-        measure("release", 1,
-            [&](int) { point(view, QEvent::MouseButtonRelease, from + QPointF(49.0, 29.0), false); });
+        measure("release", 1, [&](int) { point(view, QEvent::MouseButtonRelease, from + QPointF(49.0, 29.0), false); });
     };
     drag("drag step, green", Vertex::Green);
     drag("drag step, white", Vertex::White);
-    measure("undo and redo", 6, [&](int i) {
-        i % 2 == 0 ? window.document()->history()->undo() : window.document()->history()->redo();
-    });
+    measure("undo and redo", 6,
+        [&](int i) { i % 2 == 0 ? window.document()->history()->undo() : window.document()->history()->redo(); });
     measure("value typed", 6, [&](int i) { session->setChromaticity(Vertex::Red, {0.63 + 0.001 * i, 0.33}); });
     measure("hover", 20, [&](int i) { point(view, QEvent::MouseMove, QPointF(100.0 + 20 * i, 300.0), false); });
     measure("zoom", 20, [&](int i) { turnWheel(view, QPointF(300.0, 300.0), i % 10 < 5 ? 120 : -120); });
@@ -167,16 +166,36 @@ int main(int argc, char **argv)
     LayerSwitches *switches = window.diagramPage()->switches();
     measure("colours", 6, [&](int i) { switches->setColors(ceiechart::HorseshoeColors(i % 3)); });
     measure("layer", 6, [&](int i) { switches->setShown(ceiechart::DiagramLayer::Names, i % 2 == 1); });
-    measure("layer of standards", 6, [&](int i) { switches->setShown(ceiechart::DiagramLayer::Standards, i % 2 == 1); });
+    measure(
+        "layer of standards", 6, [&](int i) { switches->setShown(ceiechart::DiagramLayer::Standards, i % 2 == 1); });
     if (count > 0) {
-        measure("one standard", 6, [&](int i) { switches->setStandardShown(description.standards.first(), i % 2 == 1); });
+        measure(
+            "one standard", 6, [&](int i) { switches->setStandardShown(description.standards.first(), i % 2 == 1); });
     }
     measure("held white", 6, [&](int i) { session->setHoldWhite(i % 2 == 0); });
-    measure("tolerances", 6, [&](int i) {
-        session->setTolerances(i % 2 == 0 ? std::make_optional(Tolerances()) : std::nullopt);
-    });
+    measure("tolerances", 6,
+        [&](int i) { session->setTolerances(i % 2 == 0 ? std::make_optional(Tolerances()) : std::nullopt); });
     measure("diagram", 6, [&](int i) { window.diagramPage()->diagrams()->actions().at((i + 1) % 3)->trigger(); });
     measure("lens", 6, [&](int) { window.diagramPage()->lensAction()->trigger(); });
     measure("resize", 6, [&](int i) { window.resize(1280 - 10 * (i % 2), 900); });
+    window.resize(1280, 900);
+    const auto shows = [&window](const char *text) {
+        for (auto *tabs : window.panel()->findChildren<QTabWidget *>()) {
+            for (int i = 0; i < tabs->count(); ++i) {
+                if (tabs->tabText(i).remove(QLatin1Char('&')) == QLatin1String(text)) {
+                    tabs->setCurrentIndex(i);
+                }
+            }
+        }
+    };
+    measure("coverage shown", 1, [&](int) { shows("Coverage"); });
+    measure("value typed, coverage shown", 6, [&](int i) {
+        session->setChromaticity(Vertex::Red, {0.62 + 0.001 * i, 0.33});
+    });
+    shows("Values");
+    measure("list of gamuts shown", 1, [&](int) { window.showGamuts(); });
+    measure("value typed, list of gamuts shown", 6, [&](int i) {
+        session->setChromaticity(Vertex::Red, {0.63 + 0.001 * i, 0.33});
+    });
     return 0;
 }

@@ -7,6 +7,7 @@
 #include "editing/targetsession.h"
 #include "panel/plaintooltip.h"
 
+#include <ceiechart/diagram/targetrules.h>
 #include <gamutmodel/publishedgamuts.h>
 
 #include <QAccessible>
@@ -22,6 +23,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <iterator>
 
 namespace gamutviewer {
@@ -71,8 +73,7 @@ GamutsDialog::GamutsDialog(Document *document, QWidget *parent)
     m_table->verticalHeader()->hide();
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_table->horizontalHeader()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
+    fitColumns();
     m_table->horizontalHeader()->setHighlightSections(false);
     layout->addWidget(m_table, 1);
     m_message = new QLabel(this);
@@ -119,12 +120,46 @@ GamutsDialog::~GamutsDialog()
     disconnect(m_table, nullptr, this, nullptr);
 }
 
+bool GamutsDialog::Row::operator==(const Row &other) const
+{
+    return name == other.name && isOwn == other.isOwn && plays == other.plays
+        && ceiechart::sameTargets(targets, other.targets);
+}
+
+//! Whether row number \a row shows \a wanted still, as the user may have changed what the document did not take.
+bool GamutsDialog::shows(int row, const Row &wanted) const
+{
+    const QTableWidgetItem *named = m_table->item(row, nameColumn);
+    bool isSame = named && named->text() == oneLine(wanted.name);
+    for (int column = 0; isSame && column < m_table->columnCount(); ++column) {
+        if (column != nameColumn) {
+            const auto role = std::find(std::begin(allGamutRoles), std::end(allGamutRoles), roleOf(column));
+            const bool plays = wanted.plays.at(std::size_t(role - std::begin(allGamutRoles)));
+            isSame = m_table->item(row, column)->checkState() == (plays ? Qt::Checked : Qt::Unchecked);
+        }
+    }
+    return isSame;
+}
+
+void GamutsDialog::fitColumns()
+{
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
+}
+
 void GamutsDialog::refresh()
 {
     if (m_document->isDragging()) {
         return; // what moves is not shown here, and its step is still to come
     }
     const QScopedValueRollback<bool> filling(m_isFilling, true);
+    // Columns that fit what they hold are measured anew after each cell that changes.
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    const auto setFlags = [](QTableWidgetItem *item, Qt::ItemFlags flags) {
+        if (item->flags() != flags) { // as the table takes the same flags for a change, too
+            item->setFlags(flags);
+        }
+    };
     const DisplayDescription &description = m_document->description();
     m_shownParts = parts(description);
     m_displayName->setText(description.name);
@@ -139,10 +174,21 @@ void GamutsDialog::refresh()
     }
     names.removeDuplicates();
     m_table->setRowCount(names.size());
+    m_rows.resize(std::size_t(names.size()));
     for (int row = 0; row < names.size(); ++row) {
         const QString &name = names.at(row);
         const bool isOwn = places.contains(name);
         const Model::Targets targets = description.gamut(name, places)->getTargets();
+        const auto playsIn = [&](GamutRole role) {
+            return role == GamutRole::Standard ? standards.contains(name) : gamutInRole(description, role) == name;
+        };
+        Row shown{name, isOwn, targets, {}};
+        std::transform(std::begin(allGamutRoles), std::end(allGamutRoles), shown.plays.begin(), playsIn);
+        Row &former = m_rows[std::size_t(row)];
+        if (former == shown && shows(row, shown)) {
+            continue;
+        }
+        former = shown;
         for (int column = 0; column < m_table->columnCount(); ++column) {
             QTableWidgetItem *item = m_table->item(row, column);
             if (!item) {
@@ -156,25 +202,25 @@ void GamutsDialog::refresh()
                 QFont font = m_table->font();
                 font.setItalic(!isOwn);
                 item->setFont(font);
-                item->setFlags(
-                    Qt::ItemIsEnabled | Qt::ItemIsSelectable | (isOwn ? Qt::ItemIsEditable : Qt::NoItemFlags));
+                setFlags(
+                    item, Qt::ItemIsEnabled | Qt::ItemIsSelectable | (isOwn ? Qt::ItemIsEditable : Qt::NoItemFlags));
                 continue;
             }
             const GamutRole role = roleOf(column);
-            const bool plays
-                = role == GamutRole::Standard ? standards.contains(name) : gamutInRole(description, role) == name;
+            const bool plays = playsIn(role);
             const QString reason = whyNotInRole(targets, role);
             // What a file already has can be taken away.
             item->setToolTip(reason);
-            item->setFlags(reason.isEmpty() || plays
-                    ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable
-                    : Qt::ItemIsSelectable);
+            setFlags(item,
+                reason.isEmpty() || plays ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable
+                                          : Qt::ItemIsSelectable);
             item->setCheckState(plays ? Qt::Checked : Qt::Unchecked);
             item->setData(Qt::AccessibleTextRole,
                 tr("%1: %2", "gamut and part").arg(oneLine(name), ceiechart::gamutRoleName(role)));
             item->setData(Qt::AccessibleDescriptionRole, reason);
         }
     }
+    fitColumns();
     refreshButtons();
 }
 

@@ -7,6 +7,10 @@
 
 #include <QDialog>
 
+#include <array>
+#include <iterator>
+#include <vector>
+
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -43,7 +47,19 @@ protected:
 
 private:
     void refresh();
+    //! What a row was filled from.
+    struct Row {
+        QString name;
+        bool isOwn = false;
+        Model::Targets targets;
+        std::array<bool, std::size(allGamutRoles)> plays{};
+
+        bool operator==(const Row &other) const;
+    };
+
+    bool shows(int row, const Row &wanted) const;
     void refreshButtons();
+    void fitColumns();
     void take(QTableWidgetItem *item);
     void rename(const QString &from, const QString &to);
     void removeCurrent();
@@ -56,6 +72,7 @@ private:
     QTableWidget *m_table;
     QPushButton *m_remove;
     QLabel *m_message;
+    std::vector<Row> m_rows; // to fill only those that have changed
     bool m_isFilling = false;
     QStringList m_shownParts;
 };
