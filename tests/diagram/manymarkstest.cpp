@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
-// Diagrams of thousands of marks: what is looked up, drawn and named.
+// Diagrams of thousands of marks and gamuts: what is looked up, drawn and named.
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/markgrid_p.h>
 #include <ceiechart/diagram/markpicture_p.h>
+#include <ceiechart/diagram/polylines_p.h>
+#include <ceiechart/diagram/shownoutlines_p.h>
 
 #include <QBuffer>
 #include <QPainter>
@@ -13,6 +15,9 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <string>
+#include <utility>
+#include <vector>
 
 using namespace ceiechart;
 
@@ -27,6 +32,11 @@ private Q_SLOTS:
     void manyMarksLookLikeFew();
     void filesOfManyMarksStaySmall();
     void namesOfManyMarksAreLeftOut();
+    void outlinesAreEqualAsComparisonsSay_data();
+    void outlinesAreEqualAsComparisonsSay();
+    void plainStandardsThatFallTogetherAreDrawnOnce();
+    void editsAreLaidOutAsAfresh_data();
+    void editsAreLaidOutAsAfresh();
 };
 
 Q_DECLARE_METATYPE(ceiechart::PlacedMark::Shape)
@@ -90,6 +100,31 @@ double difference(const QImage &a, const QImage &b)
         }
     }
     return sum / (3.0 * a.width() * a.height());
+}
+
+//! Standards and others that often fall on one another, to a logical pixel or so.
+DiagramContent gamutsOf(int standards)
+{
+    DiagramContent result;
+    Numbers numbers;
+    const auto add = [&](GamutRole role, int i) {
+        Model::Targets targets = Model::rec709().getTargets();
+        for (Model::Target *colour : {&targets.red, &targets.green, &targets.blue}) {
+            const QPointF at = numbers.point(QRectF(-0.003, -0.003, 0.006, 0.006));
+            colour->x += at.x();
+            colour->y += at.y();
+        }
+        result.gamuts.append({Model::ColorGamut("G" + std::to_string(i), targets), role});
+    };
+    for (int i = 0; i < standards; ++i) {
+        add(GamutRole::Standard, i);
+    }
+    for (const GamutRole role : {GamutRole::Declared, GamutRole::Original, GamutRole::Measured, GamutRole::Target}) {
+        for (int i = 0; i < 4; ++i) {
+            add(role, standards + i);
+        }
+    }
+    return result;
 }
 
 } // namespace
@@ -227,6 +262,131 @@ void ManyMarksTest::namesOfManyMarksAreLeftOut()
     // Those out of sight do not count.
     shown.measurePoints.last().xy = QPointF(5.0, 5.0);
     QVERIFY(named(shown) > 0);
+}
+
+void ManyMarksTest::outlinesAreEqualAsComparisonsSay_data()
+{
+    QTest::addColumn<int>("standards");
+    for (const int count : {0, 3, 60, 500, 501}) {
+        QTest::addRow("%d", count) << count;
+    }
+}
+
+// The plain definition: from top to bottom, each with each above it.
+void ManyMarksTest::outlinesAreEqualAsComparisonsSay()
+{
+    QFETCH(int, standards);
+    const DiagramContent shown = gamutsOf(standards);
+    const DiagramViewport viewport(Model::Diagram::Cie1931, QSizeF(500, 500));
+    const DiagramFonts fonts(QFont(), nullptr, 1.0);
+    const DiagramSheet sheet{shown, viewport, fonts};
+    const std::vector<ShownOutline> found = withTargets(shownOutlines(sheet), sheet).all;
+    QCOMPARE(int(found.size()), int(shown.gamuts.size()));
+    const bool isPlain = standards > 500;
+    std::vector<bool> isCovered(found.size());
+    std::vector<std::vector<size_t>> equals(found.size());
+    int count = 0;
+    for (size_t i = found.size(); i-- > 0;) {
+        const auto isPlainStandard = [&](size_t k) { return isPlain && found[k].role == GamutRole::Standard; };
+        if (isPlainStandard(i)) {
+            isCovered[i] = found[i].isCovered; // another test looks at that
+        }
+        std::vector<size_t> above;
+        for (size_t k = i + 1; k < found.size(); ++k) {
+            if (!isCovered[k] && !(isPlainStandard(i) && isPlainStandard(k))
+                && isSameTriangle(found[i].corners, found[k].corners, 1.0)) {
+                above.push_back(k);
+                isCovered[i] = isCovered[i] || found[i].role == found[k].role;
+            }
+        }
+        for (const size_t k : above) {
+            if (!isCovered[i]) {
+                equals[i].push_back(k);
+                equals[k].push_back(i);
+                ++count;
+            }
+        }
+    }
+    QVERIFY(standards == 0 || count > 0);
+    for (size_t i = 0; i < found.size(); ++i) {
+        std::sort(equals[i].begin(), equals[i].end());
+        QCOMPARE(found[i].isCovered, bool(isCovered[i]));
+        QCOMPARE(found[i].equals, equals[i]);
+    }
+}
+
+void ManyMarksTest::plainStandardsThatFallTogetherAreDrawnOnce()
+{
+    DiagramContent shown;
+    for (int i = 0; i < 300; ++i) {
+        Model::Targets targets = Model::rec709().getTargets();
+        targets.red.x -= 0.0005 * i;
+        Model::Targets turned = targets;
+        std::swap(turned.red, turned.green); // a corner that comes first does not show
+        for (const Model::Targets &each : {targets, turned}) {
+            shown.gamuts.append(
+                {Model::ColorGamut("G" + std::to_string(shown.gamuts.size()), each), GamutRole::Standard});
+        }
+    }
+    const DiagramViewport viewport(Model::Diagram::Cie1931, QSizeF(2000, 2000));
+    const DiagramFonts fonts(QFont(), nullptr, 1.0);
+    const ShownOutlines found = shownOutlines({shown, viewport, fonts});
+    QVERIFY(found.areStandardsPlain());
+    std::vector<QPolygonF> drawn;
+    for (size_t i = 0; i < found.all.size(); ++i) {
+        const ShownOutline &outline = found.all[i];
+        QVERIFY(outline.isCovered || i % 2 == 1); // by the one above it, at least
+        if (!outline.isCovered) {
+            drawn.push_back(outline.corners);
+        }
+    }
+    QVERIFY(drawn.size() > 100);
+    // What is not drawn is as good as drawn.
+    for (const ShownOutline &outline : found.all) {
+        QVERIFY(std::any_of(drawn.begin(), drawn.end(),
+            [&](const QPolygonF &other) { return isSameTriangle(outline.corners, other, 1.5); }));
+    }
+}
+
+void ManyMarksTest::editsAreLaidOutAsAfresh_data()
+{
+    outlinesAreEqualAsComparisonsSay_data();
+}
+
+// What no edit changes is kept over edits, also when targets come before it in the list and when they go.
+void ManyMarksTest::editsAreLaidOutAsAfresh()
+{
+    QFETCH(int, standards);
+    const DiagramContent all = gamutsOf(standards);
+    DiagramContent none = all;
+    none.gamuts.erase(none.gamuts.end() - 4, none.gamuts.end());
+    DiagramContent first = none;
+    first.gamuts.prepend(all.gamuts.last());
+    DiagramContent edited = first;
+    edited.gamuts.first().gamut = Model::rec709();
+    const auto kept = painterOf(all);
+    const auto drawn = [](DiagramPainter &painter) {
+        QImage image(500, 500, QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        QPainter onImage(&image);
+        onImage.setRenderHint(QPainter::Antialiasing);
+        painter.paintGamuts(&onImage);
+        painter.paintEdited(&onImage);
+        return image;
+    };
+    for (const DiagramContent &content : {all, none, first, edited, all, edited, none}) {
+        kept->setContent(content);
+        const auto fresh = painterOf(content);
+        QCOMPARE(drawn(*kept), drawn(*fresh));
+        const QVector<DiagramLabel> labels = kept->labels();
+        const QVector<DiagramLabel> wanted = fresh->labels();
+        QCOMPARE(labels.size(), wanted.size());
+        for (int i = 0; i < labels.size(); ++i) {
+            QCOMPARE(labels.at(i).text, wanted.at(i).text);
+            QCOMPARE(labels.at(i).index, wanted.at(i).index);
+            QCOMPARE(labels.at(i).place, wanted.at(i).place);
+        }
+    }
 }
 
 QTEST_MAIN(ManyMarksTest)
