@@ -150,7 +150,7 @@ int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances
     const DisplayDescription &description = opened.description;
     const QString picture = commandLine.pictureFile();
     if (!picture.isEmpty()) {
-        const Picture content = commandLine.picture(description, tolerances);
+        const Picture content = laidOut(commandLine.picture(description, tolerances), commandLine.extent().size);
         const bool lacksRoom = lacksRoomForKey(content, commandLine.extent().size); // nothing can fail after the file
         const QString error
             = exportPicture(content, description.name, commandLine.extent(), commandLine.pictureFormat(), picture);

@@ -43,6 +43,13 @@ ceiechart::DiagramContent contentOn(const QSize &size, ceiechart::DiagramContent
     return content;
 }
 
+PictureLayout layoutOn(const QSize &size, const Picture &picture)
+{
+    return picture.layout && picture.layout->first == size
+        ? picture.layout->second
+        : layOutPicture(contentOn(size, picture.content), picture.view, size);
+}
+
 //! Paints the wall, or the diagram and its key; the painter's units are pixels of 1/96 inch.
 void paintDiagram(QPainter &painter, const Picture &picture, const QSize &size)
 {
@@ -54,7 +61,7 @@ void paintDiagram(QPainter &painter, const Picture &picture, const QSize &size)
     PictureLayout layout;
     layout.diagram = QRectF(QPointF(), size);
     if (picture.hasKey) {
-        layout = layOutPicture(content, picture.view, size);
+        layout = layoutOn(size, picture);
     }
     ceiechart::DiagramPainter diagram;
     diagram.setContent(content);
@@ -131,7 +138,15 @@ std::optional<PictureFormat> pictureFormat(const QString &fileName)
 bool lacksRoomForKey(const Picture &picture, const QSize &size)
 {
     return picture.hasKey && !picture.isLibraryChart && !picture.wall && !PictureKey(picture.content, 1).isEmpty()
-        && layOutPicture(contentOn(size, picture.content), picture.view, size).key.isEmpty();
+        && layoutOn(size, picture).key.isEmpty();
+}
+
+Picture laidOut(Picture picture, const QSize &size)
+{
+    if (picture.hasKey && !picture.isLibraryChart && !picture.wall) {
+        picture.layout = std::make_shared<const std::pair<QSize, PictureLayout>>(size, layoutOn(size, picture));
+    }
+    return picture;
 }
 
 QImage pixelsOf(const Picture &picture, const PictureExtent &extent)

@@ -12,10 +12,13 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace gamutviewer {
 
 struct WallPicture;
+
+struct PictureLayout;
 
 /*!
  * \brief What a picture for a file, the clipboard or paper shows.
@@ -29,6 +32,8 @@ struct Picture {
     bool hasKey = true; //!< whether the gamuts are named in a key, where there is room for one
     std::shared_ptr<const WallPicture> wall{}; //!< drawn instead of the diagram, whatever view and hasKey are; or null
     bool isLibraryChart = false; //!< whether it is libraryChart() of content instead, whatever view and hasKey are
+    //! Where laidOut() has put diagram and key of the rest on a size; null to find it out when it is needed.
+    std::shared_ptr<const std::pair<QSize, PictureLayout>> layout{};
 };
 
 /*! \brief The formats that a picture is written in. */
@@ -52,6 +57,13 @@ QString pictureSuffix(PictureFormat format);
 
 /*! \brief The format that the suffix of \a fileName stands for, in any case; nothing when it is none of them. */
 std::optional<PictureFormat> pictureFormat(const QString &fileName);
+
+/*!
+ * \brief \a picture, whose layout on \a size is found out once for all that is done with it.
+ *
+ * To look for a place of the key takes as long as to paint the picture. The other members must stay as they are.
+ */
+Picture laidOut(Picture picture, const QSize &size);
 
 /*!
  * \brief Whether \a picture is to have a key for which there is no room in \a size.
