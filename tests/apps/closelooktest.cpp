@@ -117,6 +117,9 @@ void CloseLookTest::cornerIsDragged()
     f.press(grip);
     f.move(grip + QPoint(0, 20));
     QVERIFY(f.document().isDragging());
+    f.move(f.at(QPointF(0.69, 0.305)) + QPoint(16, 14)); // outside of B4 only
+    QVERIFY2(
+        f.look->editNote().startsWith(QLatin1String("outside of the cabinet B4 by ")), qPrintable(f.look->editNote()));
     // The map follows while the button is down.
     f.move(grip + QPoint(-3, 40));
     QVERIFY(f.xy(Vertex::Red) != before);

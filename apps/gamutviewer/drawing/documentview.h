@@ -20,7 +20,6 @@ public:
     void refresh();
 
 private:
-    void note();
     QVector<ceiechart::DiagramRings> rings() const;
 
     const LayerSwitches *m_switches;

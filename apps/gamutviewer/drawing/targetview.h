@@ -25,6 +25,8 @@ protected:
     TargetSession *session() const { return m_session; }
     /*! \brief Shows the document's target if that is another than the one shown: what a drag made is shown already. */
     void followTarget();
+    /*! \brief Adds to the label at the handle how far the selected colour lies outside of what can be shown. */
+    void noteOutside();
     /*! \brief Marks what the session has selected, unless the view is read-only. */
     void followSelection();
 

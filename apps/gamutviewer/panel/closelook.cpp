@@ -143,6 +143,7 @@ bool CloseLook::takeDots()
 void CloseLook::refresh()
 {
     const Document *document = session()->document();
+    noteOutside();
     if (isEditing()) {
         followTarget();
     } else {
