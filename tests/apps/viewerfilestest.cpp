@@ -6,10 +6,12 @@
 #include "editing/targetsession.h"
 #include "window/filenames.h"
 #include "window/recentfiles.h"
+#include "window/wallpage.h"
 
 #include <QAction>
 #include <QFileDialog>
 #include <QMenuBar>
+#include <QTabWidget>
 #include <QtTest>
 
 using namespace gamutviewer;
@@ -25,6 +27,7 @@ private Q_SLOTS:
     void newAndCloseEmptyTheWindow();
     void newAsksBeforeChangesAreLost();
     void changedFileIsNamed();
+    void wallBesideADescriptionIsShown();
     void standardInputIsNoFile();
     void additionsToADescriptionCanBeLost();
     void openedFilesAreRecent();
@@ -142,6 +145,20 @@ void ViewerFilesTest::changedFileIsNamed()
     f.window->setOpened(*openFiles({writeFile(f.settings, QStringLiteral("meter.csv"), meter)}));
     QVERIFY(f.window->session()->setChromaticity(Vertex::Red, QPointF(0.67, 0.31)));
     QVERIFY2(asked().startsWith(QLatin1String("\"meter.csv\"")), qPrintable(asked()));
+}
+
+void ViewerFilesTest::wallBesideADescriptionIsShown()
+{
+    WindowFixture f;
+    OpenedFiles opened = *openFiles({writeFile(f.settings, QStringLiteral("stage.json"), description)});
+    opened.description.wall.cabinets.resize(2);
+    f.window->setOpened(opened);
+    QCOMPARE(f.window->pages()->currentWidget(), static_cast<QWidget *>(f.window->wallPage()));
+    // The page that was chosen stays where the wall is a part of the description.
+    f.window->pages()->setCurrentIndex(0);
+    opened.inDescriptionFile = opened.description;
+    f.window->setOpened(opened);
+    QCOMPARE(f.window->pages()->currentIndex(), 0);
 }
 
 void ViewerFilesTest::standardInputIsNoFile()

@@ -103,6 +103,9 @@ void ViewerWindow::setOpened(const OpenedFiles &opened)
             RecentFiles::add(opened.fileNames.at(i));
         }
     }
+    if (!opened.description.wall.cabinets.empty() && opened.inDescriptionFile.wall.cabinets.empty()) {
+        m_pages->setCurrentWidget(m_wallPage); // as when a list of cabinets is opened in the window
+    }
     refreshTitle();
 }
 
