@@ -212,6 +212,12 @@ WallScale::WallScale(WallQuantity quantity, const std::vector<CabinetAssessment>
         const double largest = quantile(values, most);
         m_width = niceWidth(std::max((largest - least) / (stepCount - 2), std::max(std::fabs(largest), 1e-6) * 1e-3));
         m_first = std::floor(least / m_width) * m_width + m_width;
+        const auto [lowest, highest] = std::minmax_element(values.begin(), values.end());
+        if (*lowest < m_first - m_width) {
+            // A cabinet that is too dark has a step of its own, as far as there are steps that none needs.
+            const double used = std::floor((*highest - m_first) / m_width + 1e-9) + 2.0;
+            m_first -= std::max(stepCount - used, 0.0) * m_width;
+        }
         setColors(blues);
         break;
     }
