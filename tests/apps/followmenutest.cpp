@@ -93,6 +93,7 @@ private Q_SLOTS:
     void showsWhatIsMeasured();
     void saysHowFarItIs();
     void saysWhyALineIsNotRead();
+    void saysThatAnotherUnitBeginsAnew();
     void keepsInOneStep();
     void stopsWithWhatThereIs();
     void followsAnother();
@@ -162,6 +163,18 @@ void FollowMenuTest::saysWhyALineIsNotRead()
     QVERIFY(f.menu->label()->toolTip().contains(QStringLiteral("&lt;b&gt;12")));
     f.menu->stop();
     QVERIFY(f.menu->label()->toolTip().isEmpty());
+}
+
+void FollowMenuTest::saysThatAnotherUnitBeginsAnew()
+{
+    FollowFixture f;
+    f.followFile(gamut);
+    QTRY_COMPARE(f.measuredRed(), 0.7);
+    const QString anew = QStringLiteral("the unit has changed: without what came before it");
+    QVERIFY(!f.menu->label()->text().contains(anew));
+    f.append("name,Y,x,y\nRed,0.3,0.63,0.335\n");
+    QTRY_VERIFY2(f.menu->label()->text().endsWith(anew), qPrintable(f.menu->label()->text()));
+    QTRY_VERIFY(f.measuredRed() != 0.7);
 }
 
 void FollowMenuTest::keepsInOneStep()

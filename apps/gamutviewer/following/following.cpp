@@ -57,6 +57,8 @@ void Following::begin()
 {
     m_stream = std::make_unique<MeasurementStream>(m_options);
     m_latest = std::make_unique<LatestMeasurements>(m_options.whiteIsSum);
+    m_unit.reset();
+    m_hasOtherUnit = false;
 }
 
 GamutFile Following::file() const
@@ -106,7 +108,12 @@ void Following::turn()
         }
         const qint64 before = m_stream->state().lines;
         const auto measurements = m_stream->read(std::min(linesPerLook, linesPerTurn - lines));
-        m_latest->setUnit(m_stream->state().unit);
+        const LuminanceUnit unit = m_stream->state().unit;
+        m_latest->setUnit(unit);
+        if (!measurements.isEmpty()) {
+            m_hasOtherUnit = m_hasOtherUnit || (m_unit && *m_unit != unit);
+            m_unit = unit;
+        }
         for (const Measurement &measurement : measurements) {
             m_latest->add(measurement);
         }

@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 namespace gamutviewer {
 
@@ -47,6 +48,8 @@ public:
     GamutFile file() const;
     /*! \brief The cabinets that have been measured so far; nothing for a list that is not of a wall, or not yet. */
     const std::optional<DisplayWall> &wall() const { return m_latest->wall(); }
+    /*! \brief Whether the unit has changed, so that what had been measured before was forgotten. */
+    bool hasOtherUnit() const { return m_hasOtherUnit; }
     /*! \brief How many lines came in the last second. */
     int linesPerSecond() const { return m_linesPerSecond; }
     /*! \brief The most lines that were read in one turn of the event loop. */
@@ -72,6 +75,8 @@ private:
     QTimer m_frame;
     QTimer m_count;
     bool m_isFinished = false;
+    std::optional<LuminanceUnit> m_unit; // of what was measured last
+    bool m_hasOtherUnit = false;
     int m_mostLines = 0;
     QVector<int> m_lines{0}; // of the last second, in parts of it; the present part last
     int m_linesPerSecond = 0;

@@ -88,6 +88,14 @@ bool FollowMenu::wouldLose() const
 
 QString FollowMenu::text() const
 {
+    return m_following->hasOtherUnit()
+        ? tr("%1; the unit has changed: without what came before it", "how far a measurement has been followed")
+              .arg(progressText())
+        : progressText();
+}
+
+QString FollowMenu::progressText() const
+{
     const QLocale locale;
     const FollowedInput &input = m_following->input();
     const MeasurementStreamState &state = m_following->state();

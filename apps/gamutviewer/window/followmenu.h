@@ -52,6 +52,7 @@ private:
     void show();
     void refresh();
     QString text() const;
+    QString progressText() const;
     QString details() const;
 
     Document *m_document;
