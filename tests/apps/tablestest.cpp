@@ -34,6 +34,7 @@ private Q_SLOTS:
     void undefinedTemperatureIsTold();
     void comparePageTellsWhatIsLost();
     void largeTablesAreFilledWhenTheyAreShown();
+    void groupsChangeInPlace();
     void cabinetsThatAreNotThereAreNotLeftOut();
 };
 
@@ -187,6 +188,40 @@ void TablesTest::largeTablesAreFilledWhenTheyAreShown()
     const QString former = table->text();
     f.change();
     QVERIFY(table->text() != former);
+}
+
+// A table that has shown something else looks like a new one.
+void TablesTest::groupsChangeInPlace()
+{
+    const QStringList header{QStringLiteral("a"), QStringLiteral("b")};
+    const QStringList narrow{QStringLiteral("1"), QStringLiteral("2")};
+    const QStringList wide{QStringLiteral("a long name"), QStringLiteral("100.0 %")};
+    const QString title = QStringLiteral("a title that is wider than the columns");
+    const QVector<QVector<GroupedTable::Group>> steps{{{title, {narrow, wide}}, {title, {narrow}}},
+        {{title, {narrow, narrow}}, {title, {narrow}}}, {{title, {wide}}, {title, {wide, narrow}}},
+        {{title, {}}, {title, {wide, narrow, narrow}}}, {{title, {narrow}}}, {}};
+    GroupedTable table(header);
+    for (const bool isLarge : {false, true}) {
+        QFont font = table.font();
+        font.setPointSizeF(font.pointSizeF() * (isLarge ? 2.0 : 1.0));
+        table.setFont(font);
+        for (const QVector<GroupedTable::Group> &step : steps) {
+            table.setGroups(step);
+            GroupedTable fresh(header);
+            fresh.setFont(font);
+            fresh.setGroups(step);
+            QCOMPARE(table.text(), fresh.text());
+            for (int column = 0; column < table.columnCount(); ++column) {
+                QCOMPARE(table.columnWidth(column), fresh.columnWidth(column));
+            }
+            for (int row = 0; row < table.rowCount(); ++row) {
+                const bool isTitle = table.item(row, 0)->text() == title;
+                QCOMPARE(table.columnSpan(row, 0), isTitle ? 2 : 1);
+                QCOMPARE(table.item(row, 0)->font().bold(), isTitle);
+                QCOMPARE(table.item(row, 1) == nullptr, isTitle);
+            }
+        }
+    }
 }
 
 void TablesTest::cabinetsThatAreNotThereAreNotLeftOut()

@@ -8,11 +8,13 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <numeric>
 
 namespace gamutviewer {
 
 GroupedTable::GroupedTable(const QStringList &header, QWidget *parent)
     : CopyTable(0, header.size(), parent)
+    , m_metrics(fontMetrics())
 {
     setHorizontalHeaderLabels(header);
     horizontalHeader()->setMinimumSectionSize(10);
@@ -31,45 +33,77 @@ GroupedTable::GroupedTable(const QStringList &header, QWidget *parent)
 
 void GroupedTable::setGroups(const QVector<Group> &groups)
 {
-    int rows = 0;
+    QVector<int> sizes;
     for (const Group &group : groups) {
-        rows += 1 + group.rows.size();
+        sizes.append(group.rows.size());
     }
-    if (rows != rowCount()) {
-        clearSpans();
-        setRowCount(0);
-        setRowCount(rows);
+    if (sizes != m_sizes) {
+        m_sizes = sizes;
+        makeCells();
     }
+    const auto show = [this](int row, int column, const QString &text) {
+        QTableWidgetItem *cell = item(row, column);
+        if (cell->text() != text) {
+            cell->setText(text);
+        }
+    };
     int row = 0;
     for (const Group &group : groups) {
-        setCell(row, 0, group.title, true);
-        if (columnSpan(row, 0) != columnCount()) {
-            setSpan(row, 0, 1, columnCount());
-        }
-        ++row;
+        show(row++, 0, group.title);
         for (const QStringList &cells : group.rows) {
-            if (columnSpan(row, 0) != 1) {
-                setSpan(row, 0, 1, 1);
-            }
             for (int column = 0; column < columnCount(); ++column) {
-                setCell(row, column, cells.value(column), false);
+                show(row, column, cells.value(column));
             }
             ++row;
         }
     }
-    fitColumns();
+    fitColumns(groups);
 }
 
-void GroupedTable::fitColumns()
+void GroupedTable::makeCells()
 {
-    // Titles run over all columns and must not widen the first.
+    const QFont plain = font();
+    QFont bold = plain;
+    bold.setBold(true);
+    const auto make = [this](int row, int column, const QFont &font, Qt::Alignment alignment) {
+        auto *cell = new QTableWidgetItem;
+        cell->setFont(font);
+        cell->setTextAlignment(alignment | Qt::AlignVCenter);
+        setItem(row, column, cell);
+    };
+    clearSpans();
+    setRowCount(0);
+    setRowCount(std::accumulate(m_sizes.begin(), m_sizes.end(), m_sizes.size()));
+    int row = 0;
+    for (const int size : qAsConst(m_sizes)) {
+        make(row, 0, bold, Qt::AlignLeft);
+        setSpan(row++, 0, 1, columnCount());
+        for (const int end = row + size; row < end; ++row) {
+            for (int column = 0; column < columnCount(); ++column) {
+                make(row, column, plain, column == 0 ? Qt::AlignLeft : Qt::AlignRight);
+            }
+        }
+    }
+}
+
+void GroupedTable::fitColumns(const QVector<Group> &groups)
+{
+    // To measure a text takes longer than all else, and most texts occur in many rows or have been shown before.
+    if (m_metrics != fontMetrics() || m_widths.size() > 2 * rowCount() * columnCount()) {
+        m_metrics = fontMetrics();
+        m_widths.clear();
+    }
+    const auto widthOf = [this](const QString &text) {
+        const auto known = m_widths.constFind(text);
+        return known != m_widths.constEnd() ? *known : *m_widths.insert(text, m_metrics.horizontalAdvance(text));
+    };
     constexpr int padding = 8;
     for (int column = 0; column < columnCount(); ++column) {
         int width = horizontalHeader()->fontMetrics().horizontalAdvance(horizontalHeaderItem(column)->text());
-        for (int row = 0; row < rowCount(); ++row) {
-            const QTableWidgetItem *cell = item(row, column);
-            if (cell && columnSpan(row, 0) == 1) {
-                width = std::max(width, fontMetrics().horizontalAdvance(cell->text()));
+        // Titles run over all columns and must not widen the first.
+        for (const Group &group : groups) {
+            for (const QStringList &cells : group.rows) {
+                width = std::max(width, widthOf(cells.value(column)));
             }
         }
         setColumnWidth(column, width + padding);
@@ -81,23 +115,6 @@ QSize GroupedTable::sizeHint() const
 {
     return {horizontalHeader()->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(),
         CopyTable::sizeHint().height()};
-}
-
-void GroupedTable::setCell(int row, int column, const QString &text, bool isTitle)
-{
-    QTableWidgetItem *cell = item(row, column);
-    if (!cell) {
-        cell = new QTableWidgetItem;
-        setItem(row, column, cell);
-    }
-    if (cell->text() == text && cell->font().bold() == isTitle) {
-        return;
-    }
-    QFont bold = font();
-    bold.setBold(isTitle);
-    cell->setFont(bold);
-    cell->setTextAlignment((isTitle || column == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-    cell->setText(text);
 }
 
 } // namespace gamutviewer

@@ -5,6 +5,9 @@
 
 #include "panel/copytable.h"
 
+#include <QFontMetrics>
+#include <QHash>
+
 namespace gamutviewer {
 
 /*! \brief A table to read whose rows stand in groups under a title. */
@@ -19,7 +22,7 @@ public:
 
     explicit GroupedTable(const QStringList &header, QWidget *parent = nullptr);
 
-    /*! \brief Shows \a groups; where the cells are as many as before they change in place. */
+    /*! \brief Shows \a groups; where they are as large as before, cells change in place. */
     void setGroups(const QVector<Group> &groups);
 
     /*! \brief Wide enough for all columns. */
@@ -27,8 +30,12 @@ public:
     QSize minimumSizeHint() const override { return QSize(120, 80); }
 
 private:
-    void setCell(int row, int column, const QString &text, bool isTitle);
-    void fitColumns();
+    void makeCells();
+    void fitColumns(const QVector<Group> &groups);
+
+    QVector<int> m_sizes; // of the groups shown
+    QFontMetrics m_metrics;
+    QHash<QString, int> m_widths; // of texts that are shown or were, as m_metrics measures them
 };
 
 } // namespace gamutviewer
