@@ -49,6 +49,11 @@ int hasCallFailed(void)
     return atomic_load(&fired);
 }
 
+int numberOfCalls(void)
+{
+    return atomic_load(&count);
+}
+
 __attribute__((constructor)) static void readEnvironment(void)
 {
     const char *number = getenv("FAULT_NUMBER");

@@ -24,6 +24,9 @@ void failCall(const char *call, int number, const char *folder, int lasting);
 /* Whether it has failed. */
 int hasCallFailed(void);
 
+/* How often that call has been called since. */
+int numberOfCalls(void);
+
 #ifdef __cplusplus
 }
 #endif

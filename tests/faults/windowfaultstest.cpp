@@ -10,7 +10,10 @@
 #include <QDir>
 #include <QFile>
 
+#include <fcntl.h>
 #include <functional>
+#include <limits>
+#include <unistd.h>
 
 using namespace gamutviewer;
 
@@ -26,6 +29,9 @@ private Q_SLOTS:
     void exporting();
     void opening_data() { calls(); }
     void opening();
+    void savingWithoutMemory();
+    void openingWithoutMemory_data();
+    void openingWithoutMemory();
 
 private:
     static void calls();
@@ -41,7 +47,7 @@ QByteArray contentOf(const QString &fileName)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-//! Closes the message of what went wrong, and keeps its text.
+//! Closes the message of what went wrong, and keeps its text; answers a question by Cancel.
 class Message {
 public:
     Message()
@@ -51,6 +57,9 @@ public:
                 failCall(nullptr, 0, nullptr, 0);
                 m_text = box->text();
                 box->accept();
+            } else if (auto *question = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
+                m_hasAsked = true;
+                question->reject();
             }
         });
         m_timer.start(0);
@@ -61,9 +70,13 @@ public:
             && !m_text.contains(QLatin1String("Unknown error"));
     }
 
+    //! Whether what was asked for went on up to a question.
+    bool hasAsked() const { return m_hasAsked; }
+
 private:
     QTimer m_timer;
     QString m_text;
+    bool m_hasAsked = false;
 };
 
 //! Runs \a action with another call failing each time, until none does; \a check is told whether it was done.
@@ -94,6 +107,40 @@ void failEach(const QString &call, const QString &folder, const std::function<vo
         }
     }
     QVERIFY2(failures > 0 || call == QLatin1String("rename") || call == QLatin1String("fsync"), "no call has failed");
+}
+
+/*!
+ * \brief Runs \a action with another allocation failing each time, of those that \a part of it makes.
+ *
+ * What the toolkit does with the result, such as drawing it, is left out: its libraries take memory for granted. A
+ * question counts as saying why, since it is asked after all has been read.
+ */
+void failAllocations(const QString &folder, const std::function<void()> &part, const std::function<void()> &begin,
+    const std::function<bool()> &action, const std::function<void(bool isDone, bool saysWhy)> &check)
+{
+    const QByteArray inFolder = folder.toLocal8Bit();
+    part(); // the first time makes what stays, too
+    failCall("memory", std::numeric_limits<int>::max(), inFolder.constData(), 0);
+    part();
+    const int all = numberOfCalls();
+    failCall(nullptr, 0, nullptr, 0);
+    int failures = 0;
+    for (int number = 1; number <= all; number += 1 + number / 20) {
+        begin();
+        Message message;
+        failCall("memory", number, inFolder.constData(), 0);
+        const bool isDone = action();
+        const bool hasFailed = hasCallFailed() != 0 || !isDone;
+        failCall(nullptr, 0, nullptr, 0);
+        QVERIFY(hasFailed);
+        failures += message.saysWhy() ? 1 : 0;
+        check(isDone, message.saysWhy() || message.hasAsked());
+        if (QTest::currentTestFailed()) {
+            qWarning("allocation %d of %d", number, all);
+            return;
+        }
+    }
+    QVERIFY2(failures > 10, "hardly any allocation matters");
 }
 
 } // namespace
@@ -184,6 +231,67 @@ void WindowFaultsTest::opening()
         [&](bool isDone, bool saysWhy) {
             QCOMPARE(gamutfiles::descriptionText(f.document().own()), isDone ? whole : before);
             QVERIFY(isDone || saysWhy);
+        });
+}
+
+void WindowFaultsTest::savingWithoutMemory()
+{
+    WindowFixture f;
+    QTemporaryDir folder;
+    const QString name = QStringLiteral("saved.json");
+    const QString file = writeFile(folder, name, former);
+    f.change();
+    const QByteArray shown = gamutfiles::descriptionText(f.document().own());
+    // Before the file is opened there is work, too; allocations count from the first open.
+    const QByteArray path = QFile::encodeName(file);
+    const auto beginToCount = [&path] { ::close(::open(path.constData(), O_RDONLY)); };
+    failAllocations(
+        folder.path(),
+        [&] {
+            beginToCount();
+            gamutfiles::writeDescription(f.document().own(), file);
+        },
+        [&] {
+            writeFile(folder, name, former);
+            f.document().history()->undo();
+            f.change();
+        },
+        [&] {
+            beginToCount();
+            return f.window->saveTo(file);
+        },
+        [&](bool isDone, bool saysWhy) {
+            QCOMPARE(gamutfiles::descriptionText(f.document().own()), shown);
+            QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{name});
+            QCOMPARE(contentOf(file), isDone ? shown : former);
+            QCOMPARE(f.document().isModified(), !isDone);
+            QVERIFY(isDone || saysWhy);
+        });
+}
+
+void WindowFaultsTest::openingWithoutMemory_data()
+{
+    QTest::addColumn<QString>("sample");
+    QTest::newRow("description") << QStringLiteral(SAMPLE_FILE);
+    QTest::newRow("measurements") << QFileInfo(QStringLiteral(SAMPLE_FILE)).path()
+            + QStringLiteral("/led-wall-measured.csv");
+}
+
+void WindowFaultsTest::openingWithoutMemory()
+{
+    QFETCH(QString, sample);
+    WindowFixture f;
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QFileInfo(sample).fileName());
+    QVERIFY(QFile::copy(sample, file));
+    f.change();
+    const QByteArray shown = gamutfiles::descriptionText(f.document().own());
+    failAllocations(
+        folder.path(), [&] { QVERIFY(readGamutFile(file)); }, [] {}, [&] { return f.window->openPath(file); },
+        [&](bool isDone, bool saysWhy) {
+            QVERIFY(!isDone && saysWhy); // or it asks whether to add the file, having read it without that memory
+            QCOMPARE(gamutfiles::descriptionText(f.document().own()), shown);
+            QVERIFY(f.document().isModified());
         });
 }
 

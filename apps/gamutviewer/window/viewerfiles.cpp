@@ -26,6 +26,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
 
 namespace gamutviewer {
 
@@ -68,6 +69,35 @@ void print(const QVector<FileWarning> &warnings)
 {
     for (const QString &line : messages(warnings)) {
         printError(line);
+    }
+}
+
+QString memoryIsShort()
+{
+    return ViewerWindow::tr("there is not enough memory");
+}
+
+//! What \a write returns: why it could not. Thrown through the event loop, a lack of memory would end the program, and
+//! with it what is open.
+template <typename Write>
+QString whyNotWritten(const Write &write)
+{
+    try {
+        return write();
+    } catch (const std::bad_alloc &) {
+        return memoryIsShort();
+    }
+}
+
+//! What \a read returns, or a failure for lack of memory, as in whyNotWritten().
+template <typename Read>
+Outcome<QVector<ReadFile>> readOrFailure(const QStringList &fileNames, const Read &read)
+{
+    try {
+        return read();
+    } catch (const std::bad_alloc &) {
+        return Outcome<QVector<ReadFile>>::failure(
+            ViewerWindow::tr("%1: cannot be read: %2").arg(fileNames.join(QLatin1String(", ")), memoryIsShort()));
     }
 }
 
@@ -181,7 +211,7 @@ std::optional<QVector<ReadFile>> ViewerWindow::readPaths(
 {
     bool isCanceled = false;
     QSet<QString> walls; // the lists whose cabinets are to be the wall
-    const auto read = readFiles(fileNames, [&](const QString &fileName) {
+    const auto readFile = [&](const QString &fileName) {
         const Outcome<GamutFile> file = readGamutFile(fileName, options);
         if (!ListDialog::canHelp(fileName, options, file)) {
             return file;
@@ -192,7 +222,8 @@ std::optional<QVector<ReadFile>> ViewerWindow::readPaths(
             walls.insert(fileName);
         }
         return isCanceled ? Outcome<GamutFile>::failure(QString()) : dialog.read();
-    });
+    };
+    const auto read = readOrFailure(fileNames, [&] { return readFiles(fileNames, readFile); });
     if (isCanceled) {
         return std::nullopt;
     }
@@ -218,7 +249,8 @@ bool ViewerWindow::openWall(const QString &fileName)
 {
     MeasurementOptions options;
     options.isWall = true;
-    const auto read = readFiles({fileName}, [&options](const QString &file) { return readGamutFile(file, options); });
+    const auto readFile = [&options](const QString &file) { return readGamutFile(file, options); };
+    const auto read = readOrFailure({fileName}, [&] { return readFiles({fileName}, readFile); });
     const auto wall = read ? asWall(read->constFirst()) : Outcome<ReadFile>::failure(read.problem());
     if (!wall) {
         warn(wall.error());
@@ -362,7 +394,7 @@ bool ViewerWindow::saveAs()
 bool ViewerWindow::saveTo(const QString &fileName)
 {
     m_panel->editor()->takeTyped();
-    const QString error = writeDescription(m_document.own(), fileName);
+    const QString error = whyNotWritten([&] { return writeDescription(m_document.own(), fileName); });
     if (!error.isEmpty()) {
         warn(tr("%1: cannot be written: %2").arg(fileName, error));
         return false;
@@ -386,7 +418,8 @@ bool ViewerWindow::exportTo(const QString &fileName, const Picture &picture, con
         return false;
     }
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString error = exportPicture(picture, m_document.description().name, extent, *format, fileName);
+    const QString error = whyNotWritten(
+        [&] { return exportPicture(picture, m_document.description().name, extent, *format, fileName); });
     QApplication::restoreOverrideCursor();
     if (!error.isEmpty()) {
         warn(tr("%1: cannot be written: %2").arg(fileName, error));
@@ -429,7 +462,7 @@ bool ViewerWindow::exportCorrectionsTo(const QString &fileName)
         return false;
     }
     for (const CorrectionsOutput &file : made->files) {
-        const QString error = writeBytes(file.bytes, file.fileName);
+        const QString error = whyNotWritten([&] { return writeBytes(file.bytes, file.fileName); });
         if (!error.isEmpty()) {
             warn(tr("%1: cannot be written: %2").arg(file.fileName, error));
             return false;
