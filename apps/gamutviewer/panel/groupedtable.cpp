@@ -35,7 +35,7 @@ void GroupedTable::setGroups(const QVector<Group> &groups)
 {
     QVector<int> sizes;
     for (const Group &group : groups) {
-        sizes.append(group.rows.size());
+        sizes.append(int(group.rows.size()));
     }
     if (sizes != m_sizes) {
         m_sizes = sizes;
