@@ -134,6 +134,7 @@ bool RowLayers::add(const QPainter &painter, const QPainterPath &path, const QBr
 bool RowLayers::add(QImage &picture, const QPainterPath &clip, const HorseshoeFill &fill, const QColor &background)
 {
     const QRgb plain = premultiplied(background);
+    // fillHorseshoe() leaves rows as they are that are one pixel wide, or without red.
     const bool isColored = picture.width() > 1 && qAlpha(plain) == 255 && qRed(plain) > 0;
     if (isColored && picture.format() == QImage::Format_ARGB32_Premultiplied && !m_fill && engineIsKnown()) {
         Layer layer{{clip, picture.size()}, plain, true};
