@@ -88,7 +88,8 @@ DisplayGamut DescriptionReader::readGamut(const Node &node, PrimariesOf kind)
 {
     if (!checkObject(node,
             {{QStringLiteral("name"), true}, {QStringLiteral("red"), true}, {QStringLiteral("green"), true},
-                {QStringLiteral("blue"), true}, {QStringLiteral("white"), true}, {luminanceUnitKey(), false}})) {
+                {QStringLiteral("blue"), true}, {QStringLiteral("white"), true}, {QStringLiteral("black"), false},
+                {luminanceUnitKey(), false}})) {
         return {};
     }
     const QString name = readName(member(node, QStringLiteral("name")));
@@ -109,7 +110,12 @@ DisplayGamut DescriptionReader::readGamut(const Node &node, PrimariesOf kind)
         }
     }
     warnOfGamut(node, targets, kind);
-    return {Model::ColorGamut(name.toStdString(), targets), readUnit(member(node, luminanceUnitKey()))};
+    DisplayGamut gamut(Model::ColorGamut(name.toStdString(), targets), readUnit(member(node, luminanceUnitKey())));
+    const Node black = member(node, QStringLiteral("black"));
+    if (!black.value.isUndefined()) {
+        gamut.black = readBlack(black);
+    }
+    return gamut;
 }
 
 /*

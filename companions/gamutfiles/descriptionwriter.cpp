@@ -25,12 +25,23 @@ void insertText(QJsonObject &object, const QString &key, const QString &text)
     }
 }
 
+//! Where there is no light there is no chromaticity.
+void insertBlack(QJsonObject &object, const std::optional<Model::Target> &black)
+{
+    if (black) {
+        const bool hasNoLight = black->Y == 0.0 && black->x == 0.0 && black->y == 0.0;
+        object.insert(
+            QStringLiteral("black"), hasNoLight ? QJsonObject{{QStringLiteral("Y"), black->Y}} : colorObject(*black));
+    }
+}
+
 QJsonObject gamutObject(const DisplayGamut &gamut)
 {
     const Model::Targets &targets = gamut.getTargets();
     QJsonObject object{{QStringLiteral("name"), nameOf(gamut)}, {QStringLiteral("red"), colorObject(targets.red)},
         {QStringLiteral("green"), colorObject(targets.green)}, {QStringLiteral("blue"), colorObject(targets.blue)},
         {QStringLiteral("white"), colorObject(targets.white)}};
+    insertBlack(object, gamut.black);
     insertText(object, luminanceUnitKey(), luminanceUnitName(gamut.unit));
     return object;
 }
@@ -47,11 +58,7 @@ QJsonObject cabinetObject(const WallCabinet &cabinet)
     if (cabinet.white) {
         object.insert(QStringLiteral("white"), colorObject(*cabinet.white));
     }
-    if (const auto &black = cabinet.black) {
-        const bool hasNoLight = black->Y == 0.0 && black->x == 0.0 && black->y == 0.0;
-        object.insert(
-            QStringLiteral("black"), hasNoLight ? QJsonObject{{QStringLiteral("Y"), black->Y}} : colorObject(*black));
-    }
+    insertBlack(object, cabinet.black);
     if (cabinet.isLeftOut) {
         object.insert(QStringLiteral("leftOut"), true);
     }

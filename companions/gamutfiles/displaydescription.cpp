@@ -41,6 +41,11 @@ bool hasRealPrimaries(const Model::Targets &gamut)
     return isReal(gamut.red) && isReal(gamut.green) && isReal(gamut.blue);
 }
 
+bool sameBlacks(const std::optional<Model::Target> &a, const std::optional<Model::Target> &b)
+{
+    return a && b ? a->Y == b->Y && a->x == b->x && a->y == b->y : a.has_value() == b.has_value();
+}
+
 std::optional<DisplayGamut> DisplayDescription::gamut(const QString &gamutName) const
 {
     const DisplayGamut *own = ownGamut(gamutName);

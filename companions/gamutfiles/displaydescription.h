@@ -49,8 +49,17 @@ public:
     {
     }
 
-    LuminanceUnit unit = LuminanceUnit::NotKnown; //!< of all four luminances
+    LuminanceUnit unit = LuminanceUnit::NotKnown; //!< of all luminances
+    /*!
+     * \brief The light at drive 0 of the display that the gamut is of; nothing where it was not measured.
+     *
+     * It is in each of the four colours as well. A black whose Y is 0 has no light, whatever its x and y.
+     */
+    std::optional<Model::Target> black;
 };
+
+/*! \brief Whether both blacks are not known, or have the same Y, x and y. */
+GAMUTFILES_EXPORT bool sameBlacks(const std::optional<Model::Target> &a, const std::optional<Model::Target> &b);
 
 /*!
  * \brief What is known of one display: its gamuts, which part each of them plays, and points to mark.

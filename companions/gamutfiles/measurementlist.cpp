@@ -3,6 +3,7 @@
 #include <gamutfiles/measurementlist.h>
 
 #include "cabinetkey_p.h"
+#include "wallofcabinets_p.h"
 
 #include <gamutfiles/displaywall.h>
 
@@ -82,7 +83,14 @@ std::optional<Model::Targets> gamutTargets(const MeasurementList &list)
 std::optional<DisplayGamut> MeasurementList::gamut(const QString &gamutName) const
 {
     const auto targets = gamutTargets(*this);
-    return targets ? std::make_optional(DisplayGamut({gamutName.toStdString(), *targets}, unit)) : std::nullopt;
+    if (!targets) {
+        return std::nullopt;
+    }
+    DisplayGamut result({gamutName.toStdString(), *targets}, unit);
+    if (const auto measured = black()) {
+        result.black = lightOfBlack(*measured);
+    }
+    return result;
 }
 
 QVector<Measurement> MeasurementList::others() const

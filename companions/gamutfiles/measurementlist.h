@@ -86,7 +86,8 @@ struct MeasurementList {
      * \brief The gamut that the list holds, named \a gamutName.
      *
      * Nothing unless red, green, blue and white are there once each, with chromaticities, and the primaries span a
-     * triangle; the white may be missing with whiteIsSum. Nothing for a list of several cabinets.
+     * triangle; the white may be missing with whiteIsSum. Nothing for a list of several cabinets. It has the black that
+     * was measured: black() with its chromaticity, or without light.
      */
     GAMUTFILES_EXPORT std::optional<DisplayGamut> gamut(const QString &gamutName) const;
     /*! \brief The measurements that gamut() does not use: all of them when there is no gamut. */

@@ -139,17 +139,19 @@ void addUnnamed(DisplayWall &wall, int count, QSet<QString> labels)
     }
 }
 
-//! Where there is no light, nothing has a chromaticity.
 std::optional<Model::Target> blackOf(const Colors &colors)
 {
     const Measurement *black = colors[MeasurementPart::Black];
-    if (!black) {
-        return std::nullopt;
-    }
-    return !black->color && black->luminance == 0.0 ? std::make_optional(Model::Target()) : black->color;
+    return black ? lightOfBlack(*black) : std::nullopt;
 }
 
 } // namespace
+
+// Where there is no light, nothing has a chromaticity.
+std::optional<Model::Target> lightOfBlack(const Measurement &black)
+{
+    return !black.color && black.luminance == 0.0 ? std::make_optional(Model::Target()) : black.color;
+}
 
 Outcome<DisplayWall> wallFromMeasurements(const MeasurementList &list)
 {

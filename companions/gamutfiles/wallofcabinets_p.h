@@ -10,6 +10,8 @@ namespace gamutfiles {
 
 /*! \brief wallFromMeasurements() of a list in \a unit whose MeasurementList::cabinets() are \a cabinets. */
 Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets, LuminanceUnit unit);
+/*! \brief The light of a measured \a black: none where its luminance is 0; nothing where it has no chromaticity. */
+std::optional<Model::Target> lightOfBlack(const Measurement &black);
 
 } // namespace gamutfiles
 

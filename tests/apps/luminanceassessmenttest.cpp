@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "assessmentfixture.h"
 
+#include "display/wallassessmenttexts.h"
+
 #include <QtTest>
 
 #include <array>
@@ -27,6 +29,8 @@ private Q_SLOTS:
     void notAdditiveAndNotComparable();
     void driveAtItsLimitIsSaid();
     void displayWithoutLuminances();
+    void blackIsJudgedAsOfACabinet();
+    void blackThatMayKeepItOff();
 };
 
 namespace {
@@ -298,6 +302,58 @@ void LuminanceAssessmentTest::displayWithoutLuminances()
     QVERIFY(lines.first().text.contains(QLatin1String("green")));
     DisplayDescription dark = wall(0.0);
     QCOMPARE(about(assess(dark), Subject::Luminance).first().judgement, Judgement::NotKnown);
+}
+
+void LuminanceAssessmentTest::blackIsJudgedAsOfACabinet()
+{
+    // At this luminance the red of the target, which is nearly that of the display, is darker than the black allows.
+    DisplayDescription d = wall(100);
+    targetsOf(d, 1) = scaled(Model::rec2020().getTargets(), 100.0);
+    QCOMPARE(assess(d).judgement(), Judgement::Pass);
+    d.gamuts[0].black = Model::Target::fromYxy(8.0, 0.31, 0.33);
+    const Model::Targets &of = d.gamuts[0].getTargets();
+    WallCabinet cabinet;
+    cabinet.red = of.red;
+    cabinet.green = of.green;
+    cabinet.blue = of.blue;
+    cabinet.black = d.gamuts[0].black;
+    DisplayWall alone;
+    alone.unit = cd;
+    alone.cabinets = {cabinet};
+    // The same light as a white.
+    targetsOf(d, 0).white = *Model::DisplayDrive(of, cabinet.black).lightAt({1.0, 1.0, 1.0});
+    const Assessment display = assess(d);
+    const WallAssessment judged = assessWall(alone, d.gamuts[1]);
+    QCOMPARE(judged.judgement, Judgement::Fail);
+    QCOMPARE(display.judgement(), Judgement::Fail);
+    QCOMPARE(display.displays.front().largestWhite->luminance, judged.largestWhite->luminance);
+    const AssessmentLine line = about(display, Subject::Luminance).last();
+    QCOMPARE(line.judgement, Judgement::Fail);
+    QVERIFY(line.vertex == judged.cabinets[0].limit);
+    const QString off = offByBlackText(judged.cabinets[0].offByBlack);
+    QVERIFY2(
+        !off.isEmpty() && line.text.contains(QStringLiteral("keeps it off %1: raise").arg(off)), qPrintable(line.text));
+    // Neither what is too little to be seen nor a target that is bright enough fails.
+    d.gamuts[0].black = Model::Target::fromYxy(0.002, 0.31, 0.33);
+    QCOMPARE(assess(d).judgement(), Judgement::Pass);
+    d.gamuts[0].black = Model::Target::fromYxy(0.0, 0.0, 0.0);
+    QCOMPARE(assess(d).judgement(), Judgement::Pass);
+}
+
+void LuminanceAssessmentTest::blackThatMayKeepItOff()
+{
+    DisplayDescription d = wall(100);
+    targetsOf(d, 1) = scaled(Model::rec2020().getTargets(), 100.0);
+    targetsOf(d, 0).white = Model::Target::fromYxy(800.0, 0.3127, 0.3290); // less than the sum
+    QCOMPARE(assess(d).judgement(), Judgement::Pass);
+    d.gamuts[0].black = Model::Target::fromYxy(8.0, 0.31, 0.33);
+    const Assessment a = assess(d);
+    QCOMPARE(a.judgement(), Judgement::NotKnown);
+    const QString text = about(a, Subject::Luminance).last().text;
+    QVERIFY2(
+        text.contains(QLatin1String("do not add to its white. If they did, it would be off red by")), qPrintable(text));
+    d.gamuts[0].black = Model::Target::fromYxy(0.002, 0.31, 0.33);
+    QCOMPARE(assess(d).judgement(), Judgement::Pass);
 }
 
 QTEST_GUILESS_MAIN(LuminanceAssessmentTest)

@@ -72,7 +72,9 @@ bool same(const DisplayDescription &a, const DisplayDescription &b)
     return a.name == b.name && a.notes == b.notes && a.original == b.original && a.declared == b.declared
         && a.measured == b.measured && a.target == b.target && a.standards == b.standards
         && std::equal(a.gamuts.begin(), a.gamuts.end(), b.gamuts.begin(), b.gamuts.end(),
-            [](const DisplayGamut &p, const DisplayGamut &q) { return same(p, q) && p.unit == q.unit; })
+            [](const DisplayGamut &p, const DisplayGamut &q) {
+                return same(p, q) && p.unit == q.unit && same(p.black, q.black);
+            })
         && same(a.colorTemperaturePoints, b.colorTemperaturePoints) && same(a.measurePoints, b.measurePoints)
         && same(a.cmyPoints, b.cmyPoints) && same(a.wall, b.wall);
 }
@@ -98,6 +100,8 @@ DisplayDescription everything()
             Model::Targets{target(0.1 + offset, 0.7, 0.29), target(1e-300, 0.2, 0.7), target(12345678.9, 0.15, 0.1 / 3),
                 target(100.0, 0.3127, 0.329 + offset)});
     }
+    description.gamuts[0].black = target(0.1 + 0.2, 0.3, 0.31);
+    description.gamuts[1].black = Model::Target(); // no light
     description.original = QStringLiteral("a");
     description.declared = QStringLiteral("b");
     description.measured = QStringLiteral("c");

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void longest();
     void spreadsheets_data();
     void spreadsheets();
+    void blackIsKeptWithTheGamut();
 };
 
 void MeasurementListTest::reads_data()
@@ -236,6 +237,28 @@ void MeasurementListTest::spreadsheets()
     QCOMPARE(gamut->getTargets().green.x, 0.1954);
     QVERIFY(list->black());
     QCOMPARE(list->black()->luminance, 0.003);
+    QVERIFY(!gamut->black); // it has no chromaticity
+}
+
+void MeasurementListTest::blackIsKeptWithTheGamut()
+{
+    const auto gamutWith = [](const char *black) {
+        const auto list = readMeasurementList(QByteArray("name,Y (cd/m2),x,y\nred,230,0.68,0.31\n"
+                                                         "green,650,0.2,0.72\nblue,120,0.14,0.06\n"
+                                                         "white,1000,0.3127,0.329\n")
+            + black);
+        return list ? list->gamut(QString()) : std::nullopt;
+    };
+    const auto bright = gamutWith("black,8,0.3,0.31\n");
+    QVERIFY(bright && bright->black);
+    QCOMPARE(bright->black->Y, 8.0);
+    QCOMPARE(bright->black->x, 0.3);
+    QCOMPARE(bright->black->y, 0.31);
+    const auto dark = gamutWith("black,0,,\n");
+    QVERIFY(dark && dark->black);
+    QCOMPARE(dark->black->Y, 0.0);
+    const auto none = gamutWith("");
+    QVERIFY(none && !none->black);
 }
 
 QTEST_GUILESS_MAIN(MeasurementListTest)

@@ -65,7 +65,7 @@ std::optional<double> reachableLuminance(const DisplayDescription &description, 
             least = std::min(least.value_or(targets.white.Y), targets.white.Y);
             continue;
         }
-        const Model::DisplayDrive drive(targets);
+        const Model::DisplayDrive drive(targets, display.gamut.black);
         const bool isAdditive
             = drive.fault() == Model::DisplayFault::None && additivityOf(drive, targets.white).isAdditive;
         const auto largest = isAdditive ? drive.largestLuminance(pointOf(white)) : std::nullopt;

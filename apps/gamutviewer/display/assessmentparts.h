@@ -4,8 +4,10 @@
 #define GAMUTVIEWER_ASSESSMENTPARTS_H
 
 #include <gamutmodel/colorgamut.h>
+#include <gamutmodel/correction.h>
 #include <gamutmodel/drive.h>
 
+#include <array>
 #include <optional>
 
 /*!
@@ -24,6 +26,16 @@ double highest(const Model::Drive &drive);
  * It takes no luminances.
  */
 std::optional<double> distanceFrom(const Model::Targets &display, const Model::Target &color);
+
+/*!
+ * \brief How far the black of \a cabinet keeps it off each colour of \a target with its \a correction for that target,
+ * in Δu′v′, in the order of ceiechart::GamutVertex; 0 if by no more than visibleUv, infinite where it is not known.
+ *
+ * Of colours inside of its gamut, those that have 0 in \a outside, a drive below 0 is there for the black only. Others
+ * are not counted, nor are drives above 1.
+ */
+std::array<double, 4> offByBlack(const Model::Cabinet &cabinet, const Model::CorrectionMatrix &correction,
+    const Model::Targets &target, const std::array<double, 4> &outside);
 
 } // namespace gamutviewer
 

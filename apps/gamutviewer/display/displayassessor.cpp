@@ -7,12 +7,16 @@
 #include "display/assessmenttexts.h"
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
+#include "display/wallassessmenttexts.h"
 
+#include <gamutmodel/correction.h>
 #include <gamutmodel/gamutcoverage.h>
 #include <gamutmodel/nearestinside.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace gamutviewer {
 
@@ -174,7 +178,7 @@ private:
     {
         const KnownDisplay &display = m_current->display;
         const QString name = displayName(display);
-        const Model::DisplayDrive displayDrive(displayTargets());
+        const Model::DisplayDrive displayDrive(displayTargets(), display.gamut.black);
         if (displayDrive.fault() != Model::DisplayFault::None) {
             addFault(displayDrive);
             return;
@@ -213,6 +217,7 @@ private:
         }
         if (!additivity.isAdditive) {
             judgeWithoutAdditivity(additivity, *drive, largest->luminance);
+            judgeBlack(false);
             return;
         }
         for (double *of : {&drive->white.red, &drive->white.green, &drive->white.blue}) {
@@ -225,6 +230,52 @@ private:
         m_current->drive = drive;
         judgeWhiteLuminance(drive->white, largest->luminance);
         judgePrimaryLuminances(*drive);
+        judgeBlack(true);
+    }
+
+    //! Whether the black, which is in all that the display shows, keeps it off colours that lie inside of its gamut.
+    void judgeBlack(bool isAdditive)
+    {
+        const DisplayGamut &display = m_current->display.gamut;
+        const Model::Targets &target = m_target->getTargets();
+        const Model::Cabinet cabinet{display.getTargets(), display.black, std::nullopt};
+        const Model::WallCorrection solved = Model::wallCorrection({cabinet}, target, target.white.Y);
+        if (!display.black || !(display.black->Y > 0.0)) {
+            return;
+        }
+        if (!solved.corrections.front().matrix) {
+            add(Subject::Luminance, Judgement::NotKnown,
+                AssessmentText::tr("Whether the black of the %1 keeps it off the target is not known: the primaries "
+                                   "of the target do not mix to its white.")
+                    .arg(displayName(m_current->display)));
+            return;
+        }
+        std::array<double, 4> outside{};
+        for (const Vertex primary : primaries) {
+            outside[std::size_t(primary)] = distanceOutside(target, primary, display.getTargets());
+        }
+        const auto off = offByBlack(cabinet, *solved.corrections.front().matrix, target, outside);
+        const QString colors = offByBlackText(off);
+        if (colors.isEmpty()) {
+            return;
+        }
+        const auto vertex = Vertex(std::max_element(off.begin(), off.end()) - off.begin());
+        const QString name = displayName(m_current->display);
+        if (isAdditive) {
+            add(Subject::Luminance, Judgement::Fail,
+                AssessmentText::tr("The black of the %1 is too bright, and keeps it off %2: raise the white of the "
+                                   "target, move these colours towards it, or measure the black without stray light.",
+                    "gamut, colours and distances")
+                    .arg(name, colors),
+                vertex, handleName(vertex));
+        } else {
+            add(Subject::Luminance, Judgement::NotKnown,
+                AssessmentText::tr("Whether the black of the %1 keeps it off the target is not known, as its primaries "
+                                   "do not add to its white. If they did, it would be off %2.",
+                    "gamut, colours and distances")
+                    .arg(name, colors),
+                vertex, handleName(vertex));
+        }
     }
 
     void addOfWhite(Judgement judgement, const QString &text)
@@ -293,7 +344,11 @@ private:
         const QString name = displayName(m_current->display);
         const auto primary = drive.faultyPrimary();
         const QString text = drive.fault() == Model::DisplayFault::NoLight && primary
-            ? AssessmentText::tr("What luminance the display reaches is not known: %1 of the %2 has no luminance.")
+            ? (targetAt(displayTargets(), vertexOf(*primary)).Y > 0.0
+                    ? AssessmentText::tr("What luminance the display reaches is not known: %1 of the %2 has no more "
+                                         "luminance than its black.")
+                    : AssessmentText::tr(
+                        "What luminance the display reaches is not known: %1 of the %2 has no luminance."))
                   .arg(gamutVertexName(vertexOf(*primary)), name)
             : AssessmentText::tr("What luminance the display reaches is not known: the primaries of the %1 cannot be "
                                  "told apart.")

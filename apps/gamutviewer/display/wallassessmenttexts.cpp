@@ -92,20 +92,6 @@ QString notAdditiveText(const DisplayWall &wall, const DisplayGamut &target, con
         : WallText::tr("the white is %1, the primaries add to %2: what it reaches cannot be worked out").arg(is, adds);
 }
 
-//! "blue by Δu′v′ 0.0021"; empty where the black keeps the cabinet off none.
-QString offByBlackText(const CabinetAssessment &cabinet)
-{
-    QStringList colors;
-    for (const Vertex vertex : ceiechart::allGamutVertices) {
-        const double distance = cabinet.offByBlack[std::size_t(vertex)];
-        if (distance > 0.0) {
-            colors.append(WallText::tr("%1 by Δu′v′ %2", "colour and distance")
-                              .arg(gamutVertexName(vertex), distanceText(distance)));
-        }
-    }
-    return colors.join(WallText::tr(", ", "between names"));
-}
-
 //! What the primaries of a cabinet seem to be: "red and green seem to be exchanged"; empty where they seem right.
 QString exchangeText(const std::optional<Model::SeemingPrimaries> &seeming)
 {
@@ -192,7 +178,7 @@ QString cabinetText(
                                    .arg(gamutVertexName(vertex), pointText(nearest->xy), distanceText(distance))
                              : WallText::tr("%1 is out of reach").arg(gamutVertexName(vertex)));
     }
-    const QString offByBlack = offByBlackText(cabinet);
+    const QString offByBlack = offByBlackText(cabinet.offByBlack);
     if (!offByBlack.isEmpty()) {
         parts.append(
             WallText::tr("the black is too bright, and keeps it off %1: raise the white of the target, fit the "
@@ -223,6 +209,19 @@ QString cabinetText(
         parts.append(exchange);
     }
     return ofCabinets(cabinetName(wall, index), parts.join(WallText::tr("; ", "between parts of a sentence")));
+}
+
+QString offByBlackText(const std::array<double, 4> &offByBlack)
+{
+    QStringList colors;
+    for (const Vertex vertex : ceiechart::allGamutVertices) {
+        const double distance = offByBlack[std::size_t(vertex)];
+        if (distance > 0.0) {
+            colors.append(WallText::tr("%1 by Δu′v′ %2", "colour and distance")
+                              .arg(gamutVertexName(vertex), distanceText(distance)));
+        }
+    }
+    return colors.join(WallText::tr(", ", "between names"));
 }
 
 QStringList exchangeTexts(const DisplayWall &wall)

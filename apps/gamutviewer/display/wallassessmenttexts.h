@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <cstddef>
 #include <vector>
 
@@ -42,6 +43,9 @@ QString namesOf(const DisplayWall &wall, const std::vector<std::size_t> &cabinet
 /*! \brief What \a assessment says of \a cabinet in a sentence, with its name: "F9: white reaches 938.0 cd/m² only." */
 QString cabinetText(
     const DisplayWall &wall, const DisplayGamut &target, const WallAssessment &assessment, std::size_t cabinet);
+
+/*! \brief "blue by Δu′v′ 0.0021" of what offByBlack() gives; empty where the black keeps off no colour. */
+QString offByBlackText(const std::array<double, 4> &offByBlack);
 
 /*!
  * \brief Of which cabinets primaries seem to be named for each other, and what to do: "A3: red and green seem to be

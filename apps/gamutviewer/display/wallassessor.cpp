@@ -166,37 +166,6 @@ private:
     std::optional<double> m_measuredWhite; // at the white of the target, where the sum does not tell it
 };
 
-/*!
- * \brief How far the black of a cabinet keeps it off each colour of \a target with \a correction.
- *
- * Of colours inside of its gamut, a drive below 0 is there for the black only. Drives above 1 are another matter, and
- * do not count here.
- */
-std::array<double, 4> offByBlack(const Model::Cabinet &cabinet, const Model::CorrectionMatrix &correction,
-    const Model::Targets &target, const std::array<double, 4> &outside)
-{
-    constexpr std::pair<Vertex, Model::Drive> contents[] = {{Vertex::Red, {1.0, 0.0, 0.0}},
-        {Vertex::Green, {0.0, 1.0, 0.0}}, {Vertex::Blue, {0.0, 0.0, 1.0}}, {Vertex::White, {1.0, 1.0, 1.0}}};
-    std::array<double, 4> off{};
-    std::optional<Model::DisplayDrive> display;
-    for (const auto &[vertex, content] : contents) {
-        const Model::Drive drive = correction.driveFor(content);
-        if (outside[std::size_t(vertex)] > 0.0 || !Model::isOutside(drive)) {
-            continue;
-        }
-        if (!display) {
-            display.emplace(cabinet.colors, cabinet.black);
-        }
-        const auto shown
-            = display->lightAt({std::max(drive.red, 0.0), std::max(drive.green, 0.0), std::max(drive.blue, 0.0)});
-        const auto difference = shown ? Model::uvDifference(*shown, targetAt(target, vertex)) : std::nullopt;
-        if (!difference || *difference > visibleUv) {
-            off[std::size_t(vertex)] = difference.value_or(std::numeric_limits<double>::infinity());
-        }
-    }
-    return off;
-}
-
 //! Makes a WallAssessment step by step.
 class WallAssessor {
 public:

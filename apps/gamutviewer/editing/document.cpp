@@ -32,12 +32,9 @@ bool sameCabinets(const WallCabinet &a, const WallCabinet &b)
     const auto colors = [](const WallCabinet &of) {
         return Model::Targets{of.red, of.green, of.blue, of.white.value_or(Model::Target())};
     };
-    const auto black = [](const WallCabinet &of) {
-        return Model::Targets{of.black.value_or(Model::Target()), {}, {}, {}};
-    };
     return a.name == b.name && a.row == b.row && a.column == b.column && a.isLeftOut == b.isLeftOut
-        && a.white.has_value() == b.white.has_value() && a.black.has_value() == b.black.has_value()
-        && ceiechart::sameTargets(colors(a), colors(b)) && ceiechart::sameTargets(black(a), black(b));
+        && a.white.has_value() == b.white.has_value() && ceiechart::sameTargets(colors(a), colors(b))
+        && sameBlacks(a.black, b.black);
 }
 
 bool sameWalls(const DisplayWall &a, const DisplayWall &b)

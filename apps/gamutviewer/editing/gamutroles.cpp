@@ -135,7 +135,9 @@ DisplayDescription withGamutRenamed(DisplayDescription description, const QStrin
     if (!gamut || !whyNotRenamed(description, from, to).isEmpty()) {
         return description;
     }
-    *gamut = DisplayGamut({to.toStdString(), gamut->getTargets()}, gamut->unit);
+    DisplayGamut renamed({to.toStdString(), gamut->getTargets()}, gamut->unit);
+    renamed.black = gamut->black;
+    *gamut = renamed;
     for (const GamutRole role : allGamutRoles) {
         QString *name = nameIn(description, role);
         if (name && *name == from) {

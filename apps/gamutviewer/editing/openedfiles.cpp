@@ -31,14 +31,15 @@ using GamutPlaces = QHash<QString, int>; // DisplayDescription::gamutPlaces()
 /*!
  * \brief The name that \a description has \a gamut by, or that is free for it.
  *
- * The same numbers are the same gamut in the same unit, or where one of the units is not known.
+ * The same numbers, with the same black, are the same gamut in the same unit, or where one of the units is not known.
  */
 QString nameFor(const DisplayDescription &description, const GamutPlaces &places, const DisplayGamut &gamut)
 {
     QString name = wantedName(gamut);
     QString sameNumbers;
     for (int number = 2; const auto taken = description.gamut(name, places); ++number) {
-        const bool isSame = ceiechart::sameTargets(taken->getTargets(), gamut.getTargets());
+        const bool isSame
+            = ceiechart::sameTargets(taken->getTargets(), gamut.getTargets()) && sameBlacks(taken->black, gamut.black);
         if (isSame && taken->unit == gamut.unit) {
             return name;
         }
@@ -68,6 +69,7 @@ QString addGamut(DisplayDescription &description, GamutPlaces &places, const Dis
     } else if (!description.gamut(name, places)) {
         places.insert(name, int(description.gamuts.size()));
         description.gamuts.emplace_back(Model::ColorGamut(name.toStdString(), gamut.getTargets()), gamut.unit);
+        description.gamuts.back().black = gamut.black;
     }
     return name;
 }

@@ -192,6 +192,7 @@ std::optional<DisplayWall> singleDisplay(const DisplayDescription &description)
     cabinet.green = targets.green;
     cabinet.blue = targets.blue;
     cabinet.white = targets.white;
+    cabinet.black = gamut->black;
     DisplayWall wall;
     wall.unit = gamut->unit;
     wall.cabinets.push_back(cabinet);
