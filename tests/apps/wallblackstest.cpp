@@ -19,6 +19,7 @@ private Q_SLOTS:
     void blacksAreCorrected();
     void blackThatKeepsACabinetOff();
     void blackThatIsNotSeen();
+    void blackThatWasNotMeasured();
     void darkContentOverABrightBlackIsNotJudged();
     void blackTooBrightForAnyTarget();
     void fittedTargetPassesOverBlacks();
@@ -39,6 +40,9 @@ void WallBlacksTest::blacksAreCorrected()
 void WallBlacksTest::blackThatKeepsACabinetOff()
 {
     DisplayWall wall = wallOf(1);
+    for (WallCabinet &cabinet : wall.cabinets) {
+        cabinet.black = Model::Target(); // no light
+    }
     wall.cabinets[4].black = color(3.0, 0.31, 0.33);
     Model::Targets of = Model::rec2020().getTargets(); // the cabinets' own
     for (Model::Target *t : {&of.red, &of.green, &of.blue, &of.white}) {
@@ -98,6 +102,48 @@ void WallBlacksTest::blackThatIsNotSeen()
     QVERIFY(*found.correction.corrections[0].remaining.blueUv > 1e-6);
     QVERIFY(*found.correction.corrections[0].remaining.blueUv < visibleUv);
     QCOMPARE(found.judgement, Judgement::Pass);
+}
+
+void WallBlacksTest::blackThatWasNotMeasured()
+{
+    Model::Targets of = Model::rec2020().getTargets(); // the cabinets' own
+    for (Model::Target *t : {&of.red, &of.green, &of.blue, &of.white}) {
+        *t = color(t->Y * 500.0, t->x, t->y);
+    }
+    const DisplayGamut target{Model::ColorGamut("Wanted", of), cd};
+    DisplayWall wall = wallOf(1);
+    QCOMPARE(assessWall(wall, target).judgement, Judgement::Pass); // none was measured
+    for (WallCabinet &cabinet : wall.cabinets) {
+        cabinet.black = color(2.0, 0.31, 0.33);
+    }
+    wall.cabinets[4].black.reset();
+    wall.cabinets[7].black = color(3.0, 0.31, 0.33);
+    const WallAssessment found = assessWall(wall, target);
+    QCOMPARE(found.cabinets[4].judgement, Judgement::NotKnown);
+    QCOMPARE(found.brightestBlack, std::make_optional(std::size_t(7)));
+    QCOMPARE(found.cabinets[4].offByBlackOfOther, found.cabinets[7].offByBlack); // they are alike otherwise
+    QCOMPARE(found.cabinets[4].offByBlack, (std::array<double, 4>{}));
+    const QString text = cabinetText(wall, target, found, 4);
+    QVERIFY2(text.startsWith(QStringLiteral("A5: its black was not measured, and one as bright as that of A8 keeps it "
+                                            "off red by Δu′v′ ")),
+        qPrintable(text));
+    // A target that all show whose black is known is then not known to be shown by the wall.
+    const auto fitted = fittedToWall(target, found);
+    QVERIFY(fitted);
+    WallAssessment after = assessWall(wall, {Model::ColorGamut("Fitted", *fitted), cd});
+    QCOMPARE(after.judgement, Judgement::Pass); // A5 would show it over that black as well
+    // What is left out says nothing of the others.
+    for (std::size_t i = 0; i < wall.cabinets.size(); ++i) {
+        wall.cabinets[i].isLeftOut = i != 4;
+    }
+    QCOMPARE(assessWall(wall, target).judgement, Judgement::Pass);
+    // Nor do blacks that are too dark to be seen.
+    for (WallCabinet &cabinet : wall.cabinets) {
+        cabinet.isLeftOut = false;
+        cabinet.black = color(0.02, 0.31, 0.33);
+    }
+    wall.cabinets[4].black.reset();
+    QCOMPARE(assessWall(wall, target).judgement, Judgement::Pass);
 }
 
 void WallBlacksTest::darkContentOverABrightBlackIsNotJudged()

@@ -62,6 +62,11 @@ struct CabinetAssessment {
      */
     std::array<double, 4> offByBlack{};
     /*!
+     * \brief The same with the black WallAssessment::brightestBlack, of a cabinet whose own was not measured. Where it
+     * is not 0, it is not known whether the cabinet shows the target.
+     */
+    std::array<double, 4> offByBlackOfOther{};
+    /*!
      * \brief The largest luminance of the target's white, in the unit of the wall. Nothing where it is not known.
      *
      * Where its white was measured at the white of the target, that is the measured luminance.
@@ -104,6 +109,8 @@ struct WallAssessment {
      */
     std::vector<std::size_t> worstFirst;
     bool luminancesCompare = false; //!< whether those of wall and target are both in cd/m²
+    /*! \brief The cabinet with the brightest measured black of those that count; nothing where none was measured. */
+    std::optional<std::size_t> brightestBlack;
     bool isReachKnownOfAll = false; //!< whether CabinetAssessment::largestWhite is known of all cabinets that count
     /*! \brief What the cabinets have in common that count and whose gamut is known. */
     Model::CommonGamut common;

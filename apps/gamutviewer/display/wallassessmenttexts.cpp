@@ -186,6 +186,14 @@ QString cabinetText(
                 "colours and distances")
                 .arg(offByBlack));
     }
+    const QString offByOther = offByBlackText(cabinet.offByBlackOfOther);
+    if (!offByOther.isEmpty() && assessment.brightestBlack) {
+        parts.append(
+            WallText::tr("its black was not measured, and one as bright as that of %1 keeps it off %2: measure "
+                         "it",
+                "name of a cabinet, colours and distances")
+                .arg(cabinetName(wall, *assessment.brightestBlack), offByOther));
+    }
     const QString fault = faultText(correction);
     if (!fault.isEmpty()) {
         parts.append(fault);

@@ -166,6 +166,11 @@ private:
     std::optional<double> m_measuredWhite; // at the white of the target, where the sum does not tell it
 };
 
+bool isAnyOff(const std::array<double, 4> &off)
+{
+    return std::any_of(off.begin(), off.end(), [](double distance) { return distance > 0.0; });
+}
+
 //! Makes a WallAssessment step by step.
 class WallAssessor {
 public:
@@ -244,8 +249,41 @@ private:
         }
     }
 
+    //! Sets offByBlackOfOther, where some blacks are known and others are not: those may be as bright.
+    void compareBlacks()
+    {
+        for (const std::size_t i : m_counted) {
+            const auto &black = m_cabinets[i].black;
+            auto &brightest = m_result.brightestBlack;
+            if (black && (!brightest || black->Y > m_cabinets[*brightest].black->Y)) {
+                brightest = i;
+            }
+        }
+        if (!m_result.brightestBlack || !hasLuminance()) {
+            return;
+        }
+        std::vector<std::size_t> without;
+        std::vector<Model::Cabinet> blackened;
+        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
+            if (!m_cabinets[i].black) {
+                without.push_back(i);
+                blackened.push_back(m_cabinets[i]);
+                blackened.back().black = m_cabinets[*m_result.brightestBlack].black;
+            }
+        }
+        const Model::WallCorrection solved = Model::wallCorrection(blackened, target(), target().white.Y);
+        for (std::size_t i = 0; i < without.size(); ++i) {
+            CabinetAssessment &result = m_result.cabinets[without[i]];
+            const auto &matrix = solved.corrections[i].matrix;
+            if (matrix && result.isAdditive) {
+                result.offByBlackOfOther = offByBlack(blackened[i], *matrix, target(), result.outside);
+            }
+        }
+    }
+
     void judgeCabinets()
     {
+        compareBlacks();
         for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
             const WallCabinet &cabinet = m_wall.cabinets[i];
             Model::Correction &correction = m_result.correction.corrections[i];
@@ -264,8 +302,9 @@ private:
             }
             // A chromaticity that is outside fails at any luminance.
             result.judgement = result.gamut == Judgement::Fail || *farthest > 0.0 ? Judgement::Fail
-                : result.gamut == Judgement::NotKnown ? worse(result.luminance, Judgement::NotKnown)
-                                                      : result.luminance;
+                : result.gamut == Judgement::NotKnown || isAnyOff(result.offByBlackOfOther)
+                ? worse(result.luminance, Judgement::NotKnown)
+                : result.luminance;
         }
     }
 
