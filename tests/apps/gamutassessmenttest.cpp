@@ -85,6 +85,14 @@ void GamutAssessmentTest::proposedPointIsInside()
     // There it is judged inside, and the primaries that were inside before still are.
     targetsOf(d, 1).green = Model::Target::fromYxy(300, found.at(0), found.at(1));
     QCOMPARE(about(assess(d), Subject::Gamut).first().judgement, Judgement::Pass);
+    // Over a black that point is out of reach.
+    targetsOf(d, 1).green = Model::Target::fromYxy(300, x, y);
+    d.gamuts[0].black = Model::Target::fromYxy(3.0, 0.31, 0.33);
+    const QString overBlack = about(assess(d), Subject::Gamut).first().text;
+    QVERIFY2(overBlack.contains(QStringLiteral("move it beyond %1, %2, towards the white, as the black")
+                                    .arg(found.at(0), 0, 'f', 4)
+                                    .arg(found.at(1), 0, 'f', 4)),
+        qPrintable(overBlack));
 }
 
 void GamutAssessmentTest::proposesTheLargestTargetThatFits()

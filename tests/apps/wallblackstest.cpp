@@ -20,6 +20,7 @@ private Q_SLOTS:
     void blackThatKeepsACabinetOff();
     void blackThatIsNotSeen();
     void blackThatWasNotMeasured();
+    void colorsOutsideAreToldOverTheBlack();
     void darkContentOverABrightBlackIsNotJudged();
     void blackTooBrightForAnyTarget();
     void fittedTargetPassesOverBlacks();
@@ -144,6 +145,37 @@ void WallBlacksTest::blackThatWasNotMeasured()
     }
     wall.cabinets[4].black.reset();
     QCOMPARE(assessWall(wall, target).judgement, Judgement::Pass);
+}
+
+void WallBlacksTest::colorsOutsideAreToldOverTheBlack()
+{
+    Model::Targets of = Model::rec2020().getTargets();
+    for (Model::Target *t : {&of.red, &of.green, &of.blue, &of.white}) {
+        *t = color(t->Y * 500.0, t->x, t->y);
+    }
+    const DisplayGamut target{Model::ColorGamut("Wanted", of), cd};
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].red = color(wall.cabinets[4].red.Y, 0.68, 0.31);
+    const auto text = [&] { return cabinetText(wall, target, assessWall(wall, target), 4); };
+    QVERIFY2(text().startsWith(QStringLiteral("A5: red reaches 0.6")) && text().contains(QStringLiteral(" only, Δ")),
+        qPrintable(text()));
+    wall.cabinets[4].black = color(3.0, 0.31, 0.33);
+    const WallAssessment found = assessWall(wall, target);
+    const Model::Correction &correction = found.correction.corrections[4];
+    const Model::Target &red = correction.shown->red; // at full drive it is not
+    QVERIFY(correction.matrix->at(Model::Primary::Red, Model::Primary::Red) < 1.0);
+    const double off = *correction.remaining.redUv;
+    QVERIFY(off > found.cabinets[4].outside[std::size_t(Vertex::Red)] + visibleUv); // the edge is nearer than that
+    QVERIFY2(text().startsWith(QString::fromUtf8("A5: corrected, red is %1, %2 over the black, Δu′v′ %3 off")
+                                   .arg(red.x, 0, 'f', 4)
+                                   .arg(red.y, 0, 'f', 4)
+                                   .arg(off, 0, 'f', 4)),
+        qPrintable(text()));
+    // Without luminances that compare, how much the black counts is not known.
+    wall.unit = LuminanceUnit::Relative;
+    QVERIFY2(text().contains(QStringLiteral(" at most, without its black, Δ")), qPrintable(text()));
+    wall.cabinets[4].black = Model::Target(); // no light
+    QVERIFY2(text().contains(QStringLiteral(" only, Δ")), qPrintable(text()));
 }
 
 void WallBlacksTest::darkContentOverABrightBlackIsNotJudged()

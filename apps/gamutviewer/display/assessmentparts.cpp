@@ -11,9 +11,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
-#include <utility>
 
 namespace gamutviewer {
+
+using Vertex = ceiechart::GamutVertex;
 
 double highest(const Model::Drive &drive)
 {
@@ -26,24 +27,38 @@ std::optional<double> distanceFrom(const Model::Targets &display, const Model::T
     return nearest ? Model::uvDifference(Model::Target::fromYxy(1.0, nearest->x, nearest->y), color) : std::nullopt;
 }
 
+namespace {
+
+//! The drives for \a vertex of the target that \a correction is for.
+Model::Drive driveFor(const Model::CorrectionMatrix &correction, Vertex vertex)
+{
+    const double white = vertex == Vertex::White ? 1.0 : 0.0;
+    const auto level = [&](Vertex primary) { return vertex == primary ? 1.0 : white; };
+    return correction.driveFor({level(Vertex::Red), level(Vertex::Green), level(Vertex::Blue)});
+}
+
+} // namespace
+
+std::optional<Model::Target> shownWithoutLimit(
+    const Model::DisplayDrive &display, const Model::CorrectionMatrix &correction, Vertex vertex)
+{
+    const Model::Drive drive = driveFor(correction, vertex);
+    return display.lightAt({std::max(drive.red, 0.0), std::max(drive.green, 0.0), std::max(drive.blue, 0.0)});
+}
+
 std::array<double, 4> offByBlack(const Model::Cabinet &cabinet, const Model::CorrectionMatrix &correction,
     const Model::Targets &target, const std::array<double, 4> &outside)
 {
-    constexpr std::pair<ceiechart::GamutVertex, Model::Drive> contents[]
-        = {{ceiechart::GamutVertex::Red, {1.0, 0.0, 0.0}}, {ceiechart::GamutVertex::Green, {0.0, 1.0, 0.0}},
-            {ceiechart::GamutVertex::Blue, {0.0, 0.0, 1.0}}, {ceiechart::GamutVertex::White, {1.0, 1.0, 1.0}}};
     std::array<double, 4> off{};
     std::optional<Model::DisplayDrive> display;
-    for (const auto &[vertex, content] : contents) {
-        const Model::Drive drive = correction.driveFor(content);
-        if (outside[std::size_t(vertex)] > 0.0 || !Model::isOutside(drive)) {
+    for (const Vertex vertex : ceiechart::allGamutVertices) {
+        if (outside[std::size_t(vertex)] > 0.0 || !Model::isOutside(driveFor(correction, vertex))) {
             continue;
         }
         if (!display) {
             display.emplace(cabinet.colors, cabinet.black);
         }
-        const auto shown
-            = display->lightAt({std::max(drive.red, 0.0), std::max(drive.green, 0.0), std::max(drive.blue, 0.0)});
+        const auto shown = shownWithoutLimit(*display, correction, vertex);
         const auto difference = shown ? Model::uvDifference(*shown, ceiechart::targetAt(target, vertex)) : std::nullopt;
         if (!difference || *difference > visibleUv) {
             off[std::size_t(vertex)] = difference.value_or(std::numeric_limits<double>::infinity());

@@ -3,6 +3,7 @@
 #ifndef GAMUTVIEWER_ASSESSMENTPARTS_H
 #define GAMUTVIEWER_ASSESSMENTPARTS_H
 
+#include <ceiechart/diagram/targetrules.h>
 #include <gamutmodel/colorgamut.h>
 #include <gamutmodel/correction.h>
 #include <gamutmodel/drive.h>
@@ -26,6 +27,13 @@ double highest(const Model::Drive &drive);
  * It takes no luminances.
  */
 std::optional<double> distanceFrom(const Model::Targets &display, const Model::Target &color);
+
+/*!
+ * \brief What \a display shows of \a vertex of the target that \a correction is for. Drives below 0 are 0, but those
+ * above 1 are kept, as if its luminance had no limit. Nothing where it is not known.
+ */
+std::optional<Model::Target> shownWithoutLimit(
+    const Model::DisplayDrive &display, const Model::CorrectionMatrix &correction, ceiechart::GamutVertex vertex);
 
 /*!
  * \brief How far the black of \a cabinet keeps it off each colour of \a target with its \a correction for that target,

@@ -159,7 +159,7 @@ private:
         const QString what
             = AssessmentText::tr("%1 lies outside of the %2 by Δu′v′ %3")
                   .arg(capitalised(gamutVertexName(vertex)), displayName(m_current->display), distanceText(distance));
-        const QString move = nearest ? AssessmentText::tr("move it to %1").arg(pointText(nearest->xy)) : QString();
+        const QString move = nearest ? moveText(*nearest) : QString();
         const QString choose = other.isEmpty()
             ? QString()
             : AssessmentText::tr("choose %1 as the target, which lies inside").arg(oneLine(other));
@@ -172,6 +172,16 @@ private:
         }
         add(Subject::Gamut, Judgement::Fail, AssessmentText::tr("%1.", "a sentence").arg(text), vertex,
             handleName(vertex));
+    }
+
+    //! Over a black, what lies on the edge of the gamut is out of reach as well.
+    QString moveText(const Model::NearestInside &nearest) const
+    {
+        const auto &black = m_current->display.gamut.black;
+        const QString text = black && black->Y > 0.0
+            ? AssessmentText::tr("move it beyond %1, towards the white, as the black makes it paler")
+            : AssessmentText::tr("move it to %1");
+        return text.arg(pointText(nearest.xy));
     }
 
     void judgeLuminance()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/wallassessmenttexts.h"
 
+#include "display/assessmentparts.h"
 #include "display/assessmenttexts.h"
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
@@ -92,6 +93,35 @@ QString notAdditiveText(const DisplayWall &wall, const DisplayGamut &target, con
         : WallText::tr("the white is %1, the primaries add to %2: what it reaches cannot be worked out").arg(is, adds);
 }
 
+/*!
+ * \brief What a cabinet makes of a colour of \a target that lies outside of its gamut by \a distance.
+ *
+ * Where \a isLightKnown and a black was measured, that is what it shows with its correction. A target that is set to it
+ * can have another luminance, over which the black counts more or less, so it is not called reached.
+ */
+QString outsideText(const WallCabinet &cabinet, const Model::Correction &correction, const Model::Targets &target,
+    Vertex vertex, double distance, bool isLightKnown)
+{
+    const Model::Targets colors{cabinet.red, cabinet.green, cabinet.blue, {}};
+    const QString color = gamutVertexName(vertex);
+    const bool hasBlack = cabinet.black && cabinet.black->Y > 0.0;
+    if (hasBlack && isLightKnown && correction.matrix) {
+        const auto shown = shownWithoutLimit(Model::DisplayDrive(colors, cabinet.black), *correction.matrix, vertex);
+        const auto off = shown ? Model::uvDifference(*shown, targetAt(target, vertex)) : std::nullopt;
+        if (off) {
+            return WallText::tr("corrected, %1 is %2 over the black, Δu′v′ %3 off")
+                .arg(color, pointText(pointOf(*shown)), distanceText(*off));
+        }
+    }
+    const auto nearest = Model::nearestInside(colors, pointOf(targetAt(target, vertex)), chromaticityDecimals);
+    if (!nearest) {
+        return WallText::tr("%1 is out of reach").arg(color);
+    }
+    return (hasBlack ? WallText::tr("%1 reaches %2 at most, without its black, Δu′v′ %3 off")
+                     : WallText::tr("%1 reaches %2 only, Δu′v′ %3 off"))
+        .arg(color, pointText(nearest->xy), distanceText(distance));
+}
+
 //! What the primaries of a cabinet seem to be: "red and green seem to be exchanged"; empty where they seem right.
 QString exchangeText(const std::optional<Model::SeemingPrimaries> &seeming)
 {
@@ -172,11 +202,8 @@ QString cabinetText(
         if (distance == 0.0) {
             continue;
         }
-        const auto nearest
-            = Model::nearestInside(colors, pointOf(targetAt(target.getTargets(), vertex)), chromaticityDecimals);
-        parts.append(nearest ? WallText::tr("%1 reaches %2 only, Δu′v′ %3 off")
-                                   .arg(gamutVertexName(vertex), pointText(nearest->xy), distanceText(distance))
-                             : WallText::tr("%1 is out of reach").arg(gamutVertexName(vertex)));
+        parts.append(outsideText(of, correction, target.getTargets(), vertex, distance,
+            assessment.luminancesCompare && cabinet.isAdditive && target.getTargets().white.Y > 0.0));
     }
     const QString offByBlack = offByBlackText(cabinet.offByBlack);
     if (!offByBlack.isEmpty()) {
