@@ -423,6 +423,28 @@
         <source>The verdict on cabinet %1 is not known</source>
         <translation>箱体 %1 的判断结果未知</translation>
     </message>
+    <message>
+        <source>move it beyond %1, towards the white, as the black makes it paler</source>
+        <translation>请将其移过 %1，更靠近白点，因为黑场会使其变淡</translation>
+    </message>
+    <message>
+        <source>Whether the black of the %1 keeps it off the target is not known: the primaries of the target do not mix to its white.</source>
+        <translation>%1的黑场是否使其偏离目标未知：目标的基色混合不出其白点。</translation>
+    </message>
+    <message>
+        <source>The black of the %1 is too bright, and keeps it off %2: raise the white of the target, move these colours towards it, or measure the black without stray light.</source>
+        <comment>gamut, colours and distances</comment>
+        <translation>%1的黑场过亮，使其偏离目标（%2）：请提高目标白点的亮度、将这些颜色移近白点，或在没有杂散光时测量黑场。</translation>
+    </message>
+    <message>
+        <source>Whether the black of the %1 keeps it off the target is not known, as its primaries do not add to its white. If they did, it would be off %2.</source>
+        <comment>gamut, colours and distances</comment>
+        <translation>%1的黑场是否使其偏离目标未知，因为其基色之和不等于其白色。若相等，则会偏离目标（%2）。</translation>
+    </message>
+    <message>
+        <source>What luminance the display reaches is not known: %1 of the %2 has no more luminance than its black.</source>
+        <translation>显示屏能达到的亮度未知：%2的%1不比其黑场亮。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::CabinetModel</name>
@@ -2480,6 +2502,19 @@ Esc – 关闭有焦点的消息
     <message>
         <source>It reaches a white of %1.</source>
         <translation>可达到 %1 的白色。</translation>
+    </message>
+    <message>
+        <source>corrected, %1 is %2 over the black, Δu′v′ %3 off</source>
+        <translation>校正后，%1叠加黑场为 %2，相差 Δu′v′ %3</translation>
+    </message>
+    <message>
+        <source>%1 reaches %2 at most, without its black, Δu′v′ %3 off</source>
+        <translation>不计黑场，%1最多达 %2，相差 Δu′v′ %3</translation>
+    </message>
+    <message>
+        <source>its black was not measured, and one as bright as that of %1 keeps it off %2: measure it</source>
+        <comment>name of a cabinet, colours and distances</comment>
+        <translation>其黑场未测量，若与 %1 的黑场同样亮，则会使其偏离目标（%2）：请测量黑场</translation>
     </message>
 </context>
 <context>
