@@ -144,6 +144,7 @@ void GamutRolesTest::renamedGamutKeepsItsParts()
         description = withRole(description, QStringLiteral("Native"), role, true);
     }
     description.standards.append(QStringLiteral("Meter"));
+    description.ownGamut(QStringLiteral("Native"))->black = Model::Target::fromYxy(0.5, 0.3, 0.31);
     const QString name = QStringLiteral("Stage left");
     const DisplayDescription renamed = withGamutRenamed(description, QStringLiteral("Native"), name);
     QVERIFY(!hasOwnGamut(renamed, QStringLiteral("Native")));
@@ -152,6 +153,7 @@ void GamutRolesTest::renamedGamutKeepsItsParts()
     }
     QCOMPARE(renamed.standards, (QStringList{name, "Meter"}));
     QVERIFY(sameTargets(renamed.gamut(name)->getTargets(), Model::rec2020().getTargets()));
+    QVERIFY(sameBlacks(renamed.gamut(name)->black, description.gamut(QStringLiteral("Native"))->black));
 }
 
 void GamutRolesTest::namesThatCannotBe_data()

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void partIsChosen();
     void takenNamesGetANumber();
     void otherUnitIsAnotherGamut();
+    void otherBlackIsAnotherGamut();
     void unitThatWasNotKnownIsTakenOver();
     void profileNamesNoDisplay();
     void listOfCabinetsNeedsAChoice();
@@ -210,6 +211,18 @@ void OpenedFilesTest::otherUnitIsAnotherGamut()
     QCOMPARE(withUsual(both, relative).declared, QStringLiteral("Studio 27"));
     QCOMPARE(withUsual(both, absolute).declared, QStringLiteral("Studio 27 (2)"));
     QCOMPARE(withUsual(both, absolute).gamuts.size(), std::size_t(2));
+}
+
+void OpenedFilesTest::otherBlackIsAnotherGamut()
+{
+    const GamutFile without = declaredBy("Studio 27");
+    GamutFile with = without;
+    with.gamut.black = Model::Target::fromYxy(0.5, 0.3, 0.31);
+    const DisplayDescription both = withUsual(withUsual(wall(), without), with);
+    QCOMPARE(both.declared, QStringLiteral("Studio 27 (2)"));
+    QVERIFY(!both.gamut(QStringLiteral("Studio 27"))->black);
+    QVERIFY(sameBlacks(both.gamut(both.declared)->black, with.gamut.black));
+    QCOMPARE(withUsual(both, with).gamuts.size(), both.gamuts.size()); // it is there by now
 }
 
 void OpenedFilesTest::unitThatWasNotKnownIsTakenOver()
