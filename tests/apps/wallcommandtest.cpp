@@ -32,6 +32,7 @@ private Q_SLOTS:
     void textReportHasEveryCabinet();
     void textReportNamesItsColumns();
     void incompleteCabinetsAreNamed();
+    void blackOfADisplayAndOfAWall();
     void wallOfOneCabinet();
     void combinationsWork();
     void exitStatusTellsTheVerdict_data();
@@ -238,6 +239,27 @@ void WallCommandTest::incompleteCabinetsAreNamed()
     const Result one = run({"stage.json", "--wall", "gaps.csv", "--cabinet", "A4", "--corrections", "one.cube"});
     QVERIFY2(one.exitCode == 0, one.error);
     QVERIFY2(!one.error.contains("without a correction"), one.error);
+}
+
+// One list means one thing, whether it is read as that of a display or of a wall.
+void WallCommandTest::blackOfADisplayAndOfAWall()
+{
+    const QByteArray white = "A1,1,1,white,0.2793,0.3042,1029.3\n"; // the sum of the primaries
+    const QByteArray one = wallList.left(wallList.indexOf("A2")) + white;
+    write("dark.csv", one);
+    write("one.csv", one + "A1,1,1,black,0.3127,0.3290,8\n");
+    write("stage.json", targetText(40.0, 0.66));
+    QCOMPARE(run({"stage.json", "dark.csv", "--check"}).exitCode, 0);
+    const Result display = run({"stage.json", "one.csv", "--check", "--corrections", "display.json"});
+    const Result wall = run({"stage.json", "--wall", "one.csv", "--check", "--corrections", "wall.json"});
+    QCOMPARE(wall.exitCode, 3);
+    QCOMPARE(display.exitCode, 3);
+    QVERIFY2(display.output.contains("fail: The black of the measured gamut is too bright, and keeps it off red by"),
+        display.output);
+    const auto first = gamutfiles::readCorrectionsFile(path("display.json"));
+    const auto second = gamutfiles::readCorrectionsFile(path("wall.json"));
+    QVERIFY(first && second && first->cabinets[0].matrix && second->cabinets[0].matrix);
+    QVERIFY(first->cabinets[0].matrix->rows == second->cabinets[0].matrix->rows);
 }
 
 // Nobody needs a white for a wall, however small.
