@@ -256,13 +256,16 @@ void WallBlacksTest::fittedTargetPassesOverBlacks()
         const DisplayGamut target{Model::ColorGamut("Wanted", wish), cd};
         const WallAssessment found = assessWall(wall, target);
         const auto fitted = fittedToWall(target, found);
-        QCOMPARE(bool(fitted), found.judgement == Judgement::Fail);
+        // What passes is fitted only if it does so for being too bright by very little.
+        const bool passesAsFull = found.judgement == Judgement::Pass && luminance > found.largestWhite->luminance;
+        QCOMPARE(bool(fitted), found.judgement == Judgement::Fail || passesAsFull);
         if (!fitted) {
             continue;
         }
-        ++failing;
+        failing += found.judgement == Judgement::Fail;
         const DisplayGamut after{Model::ColorGamut("Fitted", *fitted), cd};
         const WallAssessment passes = assessWall(wall, after);
+        QVERIFY(fitted->white.Y <= passes.largestWhite->luminance * (1.0 + 1e-9));
         QVERIFY2(passes.judgement == Judgement::Pass, qPrintable(QString::number(i) + textOf(passes)));
         // Without the blacks the fit would not do.
         DisplayWall dark = wall;

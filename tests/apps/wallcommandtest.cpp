@@ -43,6 +43,7 @@ private Q_SLOTS:
     void notesOnASingleDisplay();
     void tablesOfOneDisplay();
     void fitsTheTarget();
+    void fitsATargetThatIsALittleTooBright();
     void wallOfADescription();
     void wallAmongTheFiles();
     void wallTakesThePlaceOfAnother();
@@ -496,6 +497,43 @@ void WallCommandTest::fitsTheTarget()
     const Result fits = run({"stage.json", "--wall", "wall.csv", "--fit", "--check"});
     QCOMPARE(fits.exitCode, 0);
     QVERIFY2(fits.error.contains("--fit: the target fits the wall as it is"), fits.error);
+}
+
+void WallCommandTest::fitsATargetThatIsALittleTooBright()
+{
+    write("wall.csv", QByteArray(wallList).replace("718.4", "418.4")); // green is the limit
+    const Result known = run({"stage.json", "--wall", "wall.csv", "--report", "json"});
+    const double most = QJsonDocument::fromJson(known.output)
+                            .object()
+                            .value("wall")
+                            .toObject()
+                            .value("largestWhite")
+                            .toObject()
+                            .value("Y")
+                            .toDouble();
+    write("stage.json", targetText(most * 1.0015));
+    const Result passes = run({"stage.json", "--wall", "wall.csv", "--check", "--corrections", "c.csv"});
+    QCOMPARE(passes.exitCode, 0);
+    QVERIFY2(passes.output.contains(" cd/m². That is within 0.2 % of full drive, and counts as full."), passes.output);
+    QVERIFY2(!passes.error.contains("cannot show"), passes.error);
+    // Only the primary at full drive is short of light: by less than the whole 0.15 %.
+    const QRegularExpression but(
+        QStringLiteral("c.csv: cabinets that show the target, but for up to Δu′v′ 0.000[0-9] and 0.1 % of the "
+                       "luminance: A1\n"));
+    QVERIFY2(QString::fromUtf8(passes.error).contains(but), passes.error);
+    QCOMPARE(run({"stage.json", "--wall", "wall.csv", "--cabinet", "A1", "--corrections", "c.cube"}).exitCode, 2);
+
+    const Result fitted = run({"stage.json", "--wall", "wall.csv", "--fit", "--check", "--corrections", "c.csv"});
+    QCOMPARE(fitted.exitCode, 0);
+    QVERIFY2(!fitted.output.contains("counts as full"), fitted.output);
+    QVERIFY2(fitted.error.contains("--fit: fitted to the wall, the target has a white of "), fitted.error);
+    QVERIFY2(!fitted.error.contains("c.csv"), fitted.error);
+    const auto corrections = gamutfiles::readCorrectionsFile(path("c.csv"));
+    QVERIFY(corrections);
+    QVERIFY(corrections->target.luminance <= most && corrections->target.luminance > most - 0.1);
+    const Result table
+        = run({"stage.json", "--wall", "wall.csv", "--fit", "--cabinet", "A1", "--corrections", "c.cube"});
+    QVERIFY2(table.exitCode == 0, table.error);
 }
 
 void WallCommandTest::wallOfADescription()

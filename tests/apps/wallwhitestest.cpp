@@ -20,6 +20,7 @@ private Q_SLOTS:
     void whatRemainsOfACabinetThatIsTooDark();
     void primariesThatDoNotMix();
     void fittedLuminanceIsTheOneThatIsShown();
+    void targetThatIsALittleTooBright();
     void whiteThatIsBelowTheSumAndTooDim();
     void measuredWhiteDecidesWhereItWasMeasured();
     void reachedLuminancesAreRoundedDown();
@@ -170,6 +171,47 @@ void WallWhitesTest::fittedLuminanceIsTheOneThatIsShown()
     QVERIFY(fitted->white.Y <= found.largestWhite->luminance);
     QVERIFY(fitted->white.Y > found.largestWhite->luminance - 0.1);
     QCOMPARE(fitted->white.Y, QString::number(fitted->white.Y, 'f', 1).toDouble());
+}
+
+// What is too bright by less than what four decimals of a white leave open passes, and the verdict says why.
+void WallWhitesTest::targetThatIsALittleTooBright()
+{
+    DisplayWall wall = wallOf(1);
+    dim(wall.cabinets[4], 0.95);
+    const DisplayGamut target = targetOf(1046.5); // of 1045
+    const WallAssessment found = assessWall(wall, target);
+    QCOMPARE(found.judgement, Judgement::Pass);
+    QVERIFY2(textOf(found).contains(QStringLiteral("✓ All reach a white of 1045.0 cd/m² (A5 is the limit, with ")),
+        qPrintable(textOf(found)));
+    const QString why
+        = QStringLiteral("The target has 1046.5 cd/m². That is within 0.2 % of full drive, and counts as full.");
+    QVERIFY2(textOf(found).contains(why), qPrintable(textOf(found)));
+    const auto fitted = fittedToWall(target, found);
+    QVERIFY(fitted);
+    QVERIFY(std::fabs(fitted->white.Y - 1045.0) < 1e-9);
+    const DisplayGamut after{Model::ColorGamut("Fitted", *fitted), cd};
+    const WallAssessment passes = assessWall(wall, after);
+    QCOMPARE(passes.judgement, Judgement::Pass);
+    QVERIFY(!textOf(passes).contains(QLatin1String("counts as full")));
+    QVERIFY(!fittedToWall(after, passes));
+    // Where primaries have to move as well
+    wall.cabinets[7].green = color(wall.cabinets[7].green.Y, 0.32, 0.56);
+    const WallAssessment fails = assessWall(wall, target);
+    QCOMPARE(fails.judgement, Judgement::Fail);
+    const auto moved = fittedToWall(target, fails);
+    QVERIFY(moved);
+    QVERIFY(moved->white.Y <= *fails.notTooBright);
+    // What was measured at the white of the target is reached, whatever the primaries add to.
+    wall = wallOf(1);
+    const Model::Target d65 = Model::rec2020().getTargets().white;
+    for (WallCabinet &of : wall.cabinets) {
+        of.white = color(1115.0, d65.x, d65.y);
+    }
+    const DisplayGamut bright = targetOf(1110.0);
+    const WallAssessment reached = assessWall(wall, bright);
+    QCOMPARE(reached.judgement, Judgement::Pass);
+    QVERIFY(!textOf(reached).contains(QLatin1String("counts as full")));
+    QVERIFY(!fittedToWall(bright, reached));
 }
 
 void WallWhitesTest::whiteThatIsBelowTheSumAndTooDim()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/assessmenttexts.h"
 
+#include "display/assessment.h"
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
 
@@ -96,6 +97,11 @@ QString drivesText(const Model::Drive &drive)
                          .arg(ceiechart::gamutVertexName(vertexOf(primary)), percent(drive.of(primary))));
     }
     return texts.join(AssessmentText::tr(", ", "between drives"));
+}
+
+QString countsAsFullText()
+{
+    return AssessmentText::tr("That is within %1 of full drive, and counts as full.").arg(percent(fullDrive - 1.0));
 }
 
 QString incomparableText(LuminanceUnit target, LuminanceUnit other, const QString &otherName)

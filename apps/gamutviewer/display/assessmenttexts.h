@@ -45,6 +45,8 @@ QString reachableText(double luminance);
 QString reachedText(double luminance, double wanted, LuminanceUnit unit);
 /*! \brief "red 71.0 %, green 68.2 %, blue 64.9 %". */
 QString drivesText(const Model::Drive &drive);
+/*! \brief That a drive above 1 counts as full, and up to which. */
+QString countsAsFullText();
 
 /*! \brief Why luminances of the target and of \a other, called \a otherName, cannot be compared, and what to do. */
 QString incomparableText(LuminanceUnit target, LuminanceUnit other, const QString &otherName);

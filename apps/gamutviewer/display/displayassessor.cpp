@@ -377,9 +377,7 @@ private:
                       .arg(luminanceText(white.Y, unit), name, drivesText(drive), reachedText(reached, white.Y, unit),
                           fixedText(reached / white.Y, 2));
             if (highest(drive) > 1.0 + Model::driveRounding) {
-                text += QLatin1Char(' ')
-                    + AssessmentText::tr("That is within %1 of full drive, and counts as full.")
-                          .arg(percent(fullDrive - 1.0));
+                text += QLatin1Char(' ') + countsAsFullText();
             }
             addOfWhite(Judgement::Pass, text);
             return;

@@ -12,11 +12,11 @@ namespace gamutviewer {
 std::optional<Model::Targets> fittedToWall(const DisplayGamut &target, const WallAssessment &assessment)
 {
     const Model::GamutFit &fit = assessment.fit;
-    if (fit.fault != Model::FitFault::None || assessment.judgement == Judgement::Pass) {
-        return std::nullopt;
-    }
     const double luminance = fittedLuminance(target, assessment);
     const bool isDimmer = luminance != target.getTargets().white.Y;
+    if (fit.fault != Model::FitFault::None || (assessment.judgement == Judgement::Pass && !isDimmer)) {
+        return std::nullopt;
+    }
     const bool hasMoved = fit.red.limit || fit.green.limit || fit.blue.limit;
     const bool failsInLuminance = std::any_of(assessment.cabinets.begin(), assessment.cabinets.end(),
         [](const CabinetAssessment &c) { return !c.isLeftOut && c.luminance == Judgement::Fail; });

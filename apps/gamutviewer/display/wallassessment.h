@@ -115,8 +115,8 @@ struct WallAssessment {
     /*! \brief What the cabinets have in common that count and whose gamut is known. */
     Model::CommonGamut common;
     /*!
-     * \brief The target fitted into \a common, with its luminance as it was. Where the target fails, the blacks are
-     * counted in, at the luminance that it gets by fittedToWall() or, where luminances do not compare, that of the
+     * \brief The target fitted into \a common, with its luminance as it was. Where the target fails or its luminance
+     * is lowered, the blacks are counted in, at the luminance that it gets by fittedToWall() or, where luminances do not compare, that of the
      * corrections.
      */
     Model::GamutFit fit;

@@ -438,7 +438,8 @@ private:
     {
         const double luminance
             = hasLuminance() ? fittedLuminance(m_target, m_result) : m_result.correction.target.white.Y;
-        if (m_result.judgement != Judgement::Fail || m_result.correction.fault != Model::WallFault::None) {
+        const bool staysAsItIs = m_result.judgement != Judgement::Fail && luminance == target().white.Y;
+        if (staysAsItIs || m_result.correction.fault != Model::WallFault::None) {
             return Model::fittedTarget(m_result.common, target());
         }
         Model::Targets wish = target();
@@ -491,11 +492,19 @@ bool isTooBright(double wanted, double reached)
     return wanted > reached * fullDrive;
 }
 
+bool isAbove(double wanted, double reached)
+{
+    return wanted > reached * (1.0 + Model::driveRounding);
+}
+
 double fittedLuminance(const DisplayGamut &target, const WallAssessment &assessment)
 {
     const double wanted = target.getTargets().white.Y;
-    const auto &most = assessment.notTooBright;
-    if (!assessment.luminancesCompare || !most || !isTooBright(wanted, *most)) {
+    // What a white was measured to be can be more than the primaries add to. Where that is enough, it is known.
+    const auto most = assessment.judgement == Judgement::Pass && assessment.largestWhite
+        ? std::make_optional(assessment.largestWhite->luminance)
+        : assessment.notTooBright;
+    if (!assessment.luminancesCompare || !most || !isAbove(wanted, *most)) {
         return wanted;
     }
     const double shown = roundedDown(*most);

@@ -6,6 +6,7 @@
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
 #include "display/wallassessmenttexts.h"
+#include "display/wallassessor.h"
 
 #include <algorithm>
 
@@ -204,12 +205,18 @@ private:
                   return cabinet.judgement == Judgement::Fail || cabinet.largestWhite;
               });
         const QString reached = largestText(*white);
-        const QString text = failing > 0 && isKnownOfAll ? WallText::tr("All others reach a white of %1.").arg(reached)
+        QString text = failing > 0 && isKnownOfAll ? WallText::tr("All others reach a white of %1.").arg(reached)
             : failing > 0   ? WallText::tr("All others of which it is known reach a white of %1.").arg(reached)
             : !isKnownOfAll ? WallText::tr("All of which it is known reach a white of %1.").arg(reached)
             : m_wall.cabinets.size() == 1 ? WallText::tr("It reaches a white of %1.").arg(reached)
             : !m_leftOut.empty()          ? WallText::tr("All that are not left out reach a white of %1.").arg(reached)
                                           : WallText::tr("All reach a white of %1.").arg(reached);
+        const double wanted = m_target.getTargets().white.Y;
+        if (m_result.cabinets[white->cabinet].luminance == Judgement::Pass && isAbove(wanted, white->luminance)) {
+            text += QLatin1Char(' ')
+                + WallText::tr("The target has %1.", "luminance of its white").arg(luminanceText(wanted, m_target.unit))
+                + QLatin1Char(' ') + countsAsFullText();
+        }
         const bool isGround = failing == 0 && m_result.judgement == Judgement::Pass;
         add(isGround ? std::make_optional(Judgement::Pass) : std::nullopt, text, white->cabinet);
         if (!hasLuminance() && m_result.correction.fault == Model::WallFault::None) {

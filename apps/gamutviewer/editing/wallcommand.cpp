@@ -203,17 +203,19 @@ std::optional<DisplayWall> singleDisplay(const DisplayDescription &description)
 class Remainder {
 public:
     //! Returns whether there is any that can be noticed in the digits that are shown.
-    //! A luminance that is known to be reached remains by no more than the primaries are off the measured white.
-    bool add(const Model::DeviationValues &remaining, Judgement luminanceJudgement)
+    bool add(const Model::DeviationValues &remaining, const CabinetAssessment &cabinet)
     {
         constexpr double noticeableUv = 0.00005;
-        constexpr double noticeableLuminance = fullDrive - 1.0;
+        constexpr double noticeableLuminance = 0.0005;
         double uv = 0.0;
         for (const auto &color : {remaining.whiteUv, remaining.redUv, remaining.greenUv, remaining.blueUv}) {
             uv = std::max(uv, color.value_or(0.0));
         }
-        const double luminance
-            = luminanceJudgement == Judgement::Pass ? 0.0 : std::fabs(remaining.luminance.value_or(0.0));
+        double luminance = std::fabs(remaining.luminance.value_or(0.0));
+        if (cabinet.luminance == Judgement::Pass) {
+            // What is known to be reached remains by no more than the primaries are off the measured white.
+            luminance = std::min(luminance, std::max(1.0 - cabinet.headroom.value_or(1.0), 0.0));
+        }
         if (uv < noticeableUv && luminance < noticeableLuminance) {
             return false;
         }
@@ -279,8 +281,10 @@ QString noteOn(const Corrected &corrected, const std::vector<std::size_t> &cabin
 //! \a written is writtenWall().
 QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
 {
-    Remainder remainder;
+    Remainder beyondReach;
+    Remainder withinReach;
     std::vector<std::size_t> beyond;
+    std::vector<std::size_t> within;
     std::vector<std::size_t> failing;
     std::vector<std::size_t> notAdditive;
     std::vector<std::size_t> without;
@@ -289,7 +293,11 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
         const Model::Correction &correction = corrected.assessment.correction.corrections[i];
         if (!correction.matrix) {
             without.push_back(i);
-        } else if (remainder.add(correction.remaining, cabinet.luminance)) {
+        } else if (cabinet.judgement == Judgement::Pass) {
+            if (withinReach.add(correction.remaining, cabinet)) {
+                within.push_back(i);
+            }
+        } else if (beyondReach.add(correction.remaining, cabinet)) {
             beyond.push_back(i);
         } else if (cabinet.judgement == Judgement::Fail) {
             failing.push_back(i);
@@ -302,9 +310,12 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
         noteOn(corrected, without, QString(), CommandText::tr("cabinets without a correction"), written.incomplete),
         noteOn(corrected, beyond,
             CommandText::tr("the display differs from the target even so, by up to %1, as it cannot show all of it")
-                .arg(remainder.text()),
+                .arg(beyondReach.text()),
             CommandText::tr("cabinets that differ from the target even so, by up to %1, as they cannot show all of it")
-                .arg(remainder.text())),
+                .arg(beyondReach.text())),
+        noteOn(corrected, within,
+            CommandText::tr("the display shows the target, but for up to %1").arg(withinReach.text()),
+            CommandText::tr("cabinets that show the target, but for up to %1").arg(withinReach.text())),
         noteOn(corrected, failing, CommandText::tr("the display does not show the target even so"),
             CommandText::tr("cabinets that do not show the target even so")),
         noteOn(corrected, notAdditive,
