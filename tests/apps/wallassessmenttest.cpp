@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "assessedwall.h"
 
+#include "display/wallreport.h"
+
 #include <gamutmodel/nearestinside.h>
 
+#include <QJsonArray>
 #include <QtTest>
 
 #include <cmath>
@@ -27,6 +30,7 @@ private Q_SLOTS:
     void luminancesThatDoNotCompare();
     void targetWithoutLuminance();
     void nearlySingularCabinet();
+    void fitWithoutTheUnknown();
     void cabinetWithoutLight();
     void nothingInCommon();
     void whiteOutsideOfTheWall();
@@ -230,6 +234,40 @@ void WallAssessmentTest::nearlySingularCabinet()
     QVERIFY(!found.cabinets[4].headroom);
     QVERIFY(!found.correction.corrections[4].matrix);
     QCOMPARE(found.common.shape, Model::CommonShape::Area); // of the others
+}
+
+// What is said of all is not said where one is not known.
+void WallAssessmentTest::fitWithoutTheUnknown()
+{
+    const DisplayGamut target = targetOf(1200.0);
+    const auto without = [](const DisplayWall &wall, const WallAssessment &of) {
+        return wallReport(wall, &of)
+            .value(QStringLiteral("commonGamut"))
+            .toObject()
+            .value(QStringLiteral("without"))
+            .toArray();
+    };
+    const QString ofAll = QStringLiteral("Fitted to the wall, the target keeps 100.0 % of its area");
+    const QString ofSome
+        = QStringLiteral("Fitted to the cabinets of which it is known, the target keeps 100.0 % of its area");
+    DisplayWall wall = wallOf(2);
+    const WallAssessment known = assessWall(wall, target);
+    QVERIFY2(textOf(known).contains(ofAll), qPrintable(textOf(known)));
+    QVERIFY(without(wall, known).isEmpty());
+
+    wall.cabinets[4].green = wall.cabinets[4].red;
+    const WallAssessment singular = assessWall(wall, target);
+    QVERIFY2(textOf(singular).contains(ofSome), qPrintable(textOf(singular)));
+    QCOMPARE(without(wall, singular), QJsonArray{wall.cabinets[4].label()});
+    wall.cabinets[4].isLeftOut = true;
+    const WallAssessment others = assessWall(wall, target);
+    QVERIFY2(textOf(others).contains(ofAll), qPrintable(textOf(others)));
+    QVERIFY(without(wall, others).isEmpty());
+
+    wall.incomplete.push_back({QStringLiteral("C1"), std::nullopt, QStringLiteral("green is missing")});
+    const WallAssessment incomplete = assessWall(wall, target);
+    QVERIFY2(textOf(incomplete).contains(ofSome), qPrintable(textOf(incomplete)));
+    QCOMPARE(without(wall, incomplete), QJsonArray{QStringLiteral("C1")});
 }
 
 void WallAssessmentTest::cabinetWithoutLight()

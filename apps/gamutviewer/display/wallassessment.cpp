@@ -9,6 +9,11 @@
 
 namespace gamutviewer {
 
+bool isCommonOfAll(const DisplayWall &wall, const WallAssessment &assessment)
+{
+    return assessment.notInCommon.empty() && wall.incomplete.empty();
+}
+
 std::optional<Model::Targets> fittedToWall(const DisplayGamut &target, const WallAssessment &assessment)
 {
     const Model::GamutFit &fit = assessment.fit;

@@ -114,10 +114,12 @@ struct WallAssessment {
     bool isReachKnownOfAll = false; //!< whether CabinetAssessment::largestWhite is known of all cabinets that count
     /*! \brief What the cabinets have in common that count and whose gamut is known. */
     Model::CommonGamut common;
+    /*! \brief The cabinets that count and are not in \a common; those in DisplayWall::incomplete are not, either. */
+    std::vector<std::size_t> notInCommon;
     /*!
      * \brief The target fitted into \a common, with its luminance as it was. Where the target fails or its luminance
-     * is lowered, the blacks are counted in, at the luminance that it gets by fittedToWall() or, where luminances do not compare, that of the
-     * corrections.
+     * is lowered, the blacks are counted in, at the luminance that it gets by fittedToWall() or, where luminances do
+     * not compare, that of the corrections.
      */
     Model::GamutFit fit;
     /*!
@@ -158,6 +160,9 @@ constexpr double visibleUv = 0.0005;
  * Of the cabinets in DisplayWall::incomplete nothing is known, so that not all are known to show the target.
  */
 WallAssessment assessWall(const DisplayWall &wall, const DisplayGamut &target);
+
+/*! \brief Whether WallAssessment::common and the fit are of all cabinets that count. */
+bool isCommonOfAll(const DisplayWall &wall, const WallAssessment &assessment);
 
 /*!
  * \brief The \a target fitted to the wall that \a assessment is of, with a white that all cabinets reach; nothing where

@@ -404,6 +404,8 @@ private:
         for (const std::size_t i : m_counted) {
             if (isGamutKnown(m_result.correction.corrections[i].fault, m_cabinets[i].colors)) {
                 known.push_back(i);
+            } else {
+                m_result.notInCommon.push_back(i);
             }
         }
         std::vector<Model::Cabinet> some; // if not all, which are many to copy

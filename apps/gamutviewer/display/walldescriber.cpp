@@ -241,11 +241,15 @@ private:
             const QString problem = fitProblem(m_wall, m_result);
             const auto fitted = fittedToWall(m_target, m_result);
             if (fitted) {
+                const QString text = isCommonOfAll(m_wall, m_result)
+                    ? WallText::tr("Fitted to the wall, the target keeps %1 of its area in u′, v′ and has a white of "
+                                   "%2.")
+                    : WallText::tr("Fitted to the cabinets of which it is known, the target keeps %1 of its area in "
+                                   "u′, v′ and has a white of %2.");
                 add(std::nullopt,
-                    WallText::tr("Fitted to the wall, the target keeps %1 of its area in u′, v′ and has a white of %2.")
-                        .arg(percent(m_result.fit.costUv.coverage),
-                            m_result.luminancesCompare ? reachableText(fitted->white.Y, m_target.unit)
-                                                       : luminanceText(fitted->white.Y, m_target.unit)));
+                    text.arg(percent(m_result.fit.costUv.coverage),
+                        m_result.luminancesCompare ? reachableText(fitted->white.Y, m_target.unit)
+                                                   : luminanceText(fitted->white.Y, m_target.unit)));
             } else if (!problem.isEmpty() && m_result.common.shape == Model::CommonShape::Area) {
                 add(std::nullopt, problem);
             }

@@ -43,8 +43,17 @@ QString shapeName(Model::CommonShape shape)
     return QStringLiteral("not known");
 }
 
-QJsonObject commonObject(const DisplayWall &wall, const Model::CommonGamut &common)
+//! \a without are those of \a wall that are not in \a common.
+QJsonObject commonObject(
+    const DisplayWall &wall, const Model::CommonGamut &common, const std::vector<std::size_t> &without)
 {
+    QJsonArray others;
+    for (const std::size_t cabinet : without) {
+        others.append(wall.cabinets[cabinet].label());
+    }
+    for (const IncompleteCabinet &cabinet : wall.incomplete) {
+        others.append(incompleteLabel(cabinet));
+    }
     QJsonArray corners;
     for (const Model::DiagramPoint &corner : common.corners) {
         corners.append(pointObject(corner));
@@ -56,7 +65,7 @@ QJsonObject commonObject(const DisplayWall &wall, const Model::CommonGamut &comm
     return {{QStringLiteral("shape"), shapeName(common.shape)}, {QStringLiteral("corners"), corners},
         {QStringLiteral("area"),
             perDiagram([&common](Model::Diagram diagram) { return Model::commonGamutArea(common, diagram); })},
-        {QStringLiteral("excluding"), excluding}};
+        {QStringLiteral("excluding"), excluding}, {QStringLiteral("without"), others}};
 }
 
 QJsonValue fitValue(const DisplayWall &wall, const Model::GamutFit &fit)
@@ -213,7 +222,7 @@ QJsonObject wallReport(const DisplayWall &wall, const WallAssessment *assessment
     const bool hasCorrections = assessment->correction.fault == Model::WallFault::None;
     object.insert(QStringLiteral("correctedWhite"),
         hasCorrections ? QJsonValue(assessment->correction.target.white.Y) : QJsonValue(QJsonValue::Null));
-    object.insert(QStringLiteral("commonGamut"), commonObject(wall, assessment->common));
+    object.insert(QStringLiteral("commonGamut"), commonObject(wall, assessment->common, assessment->notInCommon));
     object.insert(QStringLiteral("fit"), fitValue(wall, assessment->fit));
     object.insert(QStringLiteral("uniformity"),
         QJsonObject{{QStringLiteral("before"), uniformityObject(wall, assessment->before)},

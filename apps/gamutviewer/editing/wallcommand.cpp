@@ -480,6 +480,7 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
         QString name;
     } primaries[] = {{assessment.fit.red, CommandText::tr("red")}, {assessment.fit.green, CommandText::tr("green")},
         {assessment.fit.blue, CommandText::tr("blue")}};
+    const bool isOfAll = isCommonOfAll(description.wall, assessment);
     QStringList parts;
     for (const auto &of : primaries) {
         if (of.primary.limit) {
@@ -489,11 +490,17 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
         }
     }
     if (!parts.isEmpty()) {
-        result.notes.append(CommandText::tr("fitted to the wall, the target has moved towards its white: %1")
-                                .arg(parts.join(QStringLiteral(", "))));
+        result.notes.append(
+            (isOfAll ? CommandText::tr("fitted to the wall, the target has moved towards its white: %1")
+                     : CommandText::tr("fitted to the cabinets of which it is known, the target has moved towards its "
+                                       "white: %1"))
+                .arg(parts.join(QStringLiteral(", "))));
     }
     if (fitted->white.Y != wanted->getTargets().white.Y) {
-        result.notes.append(CommandText::tr("fitted to the wall, the target has a white of %1 instead of %2")
+        result.notes.append((isOfAll
+                ? CommandText::tr("fitted to the wall, the target has a white of %1 instead of %2")
+                : CommandText::tr("fitted to the cabinets of which it is known, the target has a white of %1 instead "
+                                  "of %2"))
                                 .arg(assessment.luminancesCompare ? reachableText(fitted->white.Y, wanted->unit)
                                                                   : luminanceText(fitted->white.Y, wanted->unit),
                                     luminanceText(wanted->getTargets().white.Y, wanted->unit)));
