@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QtTest>
 
+#include <array>
 #include <cmath>
 #include <random>
 
@@ -181,16 +182,37 @@ void WallBlacksTest::colorsOutsideAreToldOverTheBlack()
 void WallBlacksTest::darkContentOverABrightBlackIsNotJudged()
 {
     DisplayWall wall = wallOf(1);
-    wall.cabinets[4].black = color(0.05, 0.36, 0.38);
+    wall.cabinets[4].black = color(2.0, 0.36, 0.38);
     const DisplayGamut target = targetOf(500.0);
     const WallAssessment found = assessWall(wall, target);
     QCOMPARE(found.judgement, Judgement::Pass);
     const QString remark = QStringLiteral("Content that is darker than the target is not judged: at 10.0 % of its "
                                           "luminance, the black of A5 shifts blue by ");
     QVERIFY2(textOf(found).contains(remark), qPrintable(textOf(found)));
-    // The light of a tenth of the target's blue, and of nine tenths of the black.
-    const Model::Target &blue = found.correction.target.blue;
+    for (const WallLine &line : found.lines) {
+        QCOMPARE(line.isWarning, line.text.startsWith(remark)); // command line and panel show no other remarks
+    }
+    // The light of a tenth of the target's blue, and of nine tenths of the black. W = K + Σ(P - K): the white less the
+    // black is a mixture of the primaries less the black. Blue's part follows from determinants.
     const Model::Target &black = *wall.cabinets[4].black;
+    const Model::Targets &wanted = target.getTargets();
+    using Light = std::array<double, 3>;
+    const auto lightOf = [](const Model::Target &t) { return Light{t.x / t.y, 1.0, (1.0 - t.x - t.y) / t.y}; };
+    const auto determinant = [](const Light &a, const Light &b, const Light &c) {
+        return a[0] * (b[1] * c[2] - b[2] * c[1]) - b[0] * (a[1] * c[2] - a[2] * c[1])
+            + c[0] * (a[1] * b[2] - a[2] * b[1]);
+    };
+    // ΣP = W + 2 K, of which blue has this luminance
+    Light sum = lightOf(wanted.white);
+    const Light dark = lightOf(black);
+    for (std::size_t i = 0; i < sum.size(); ++i) {
+        sum[i] = sum[i] * wanted.white.Y + 2.0 * dark[i] * black.Y;
+    }
+    const Light r = lightOf(wanted.red);
+    const Light g = lightOf(wanted.green);
+    const double luminance = determinant(r, g, sum) / determinant(r, g, lightOf(wanted.blue));
+    const Model::Target blue = Model::Target::fromYxy(luminance, wanted.blue.x, wanted.blue.y);
+    QVERIFY(luminance > found.correction.target.blue.Y); // that is for a black without light
     const double X = 0.1 * blue.X + 0.9 * black.X;
     const double Y = 0.1 * blue.Y + 0.9 * black.Y;
     const double Z = 0.1 * blue.Z + 0.9 * black.Z;

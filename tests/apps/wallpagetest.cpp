@@ -59,6 +59,7 @@ private Q_SLOTS:
     void tableIsCopiedWhole();
     void wallIsRemoved();
     void verdictOfThePanelFitsToTheWall();
+    void warningsAreInThePanel();
     void pictureShowsTheWall();
     void correctionsAreWritten();
     void listIsOpenedAsAWall();
@@ -516,6 +517,16 @@ void WallPageTest::verdictOfThePanelFitsToTheWall()
     QCOMPARE(verdict->fitButton()->text(), QStringLiteral("F&it target to the wall"));
     QTest::mouseClick(verdict->fitButton(), Qt::LeftButton);
     QVERIFY(verdict->text().startsWith(QStringLiteral("✓")));
+}
+
+void WallPageTest::warningsAreInThePanel()
+{
+    DisplayDescription bright = description(1, 4);
+    bright.wall.cabinets[2].black = color(2.0, 0.36, 0.38);
+    WallFixture f(bright);
+    QVERIFY2(
+        f.window->panel()->verdict()->text().contains(QStringLiteral("\n! Content that is darker than the target")),
+        qPrintable(f.window->panel()->verdict()->text()));
 }
 
 void WallPageTest::pictureShowsTheWall()

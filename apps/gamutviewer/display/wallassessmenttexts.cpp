@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace gamutviewer {
 
@@ -320,21 +321,27 @@ QString darkContentText(
     if (assessment.correction.fault != Model::WallFault::None) {
         return QString();
     }
+    constexpr std::pair<Vertex, Model::Drive> contents[] = {{Vertex::Red, {level, 0.0, 0.0}},
+        {Vertex::Green, {0.0, level, 0.0}}, {Vertex::Blue, {0.0, 0.0, level}}, {Vertex::White, {level, level, level}}};
     double most = visibleUv;
     std::optional<std::size_t> worst;
     Vertex shifted = Vertex::White;
     for (const std::size_t i : cabinets) {
-        const auto &black = wall.cabinets[i].black;
-        if (!black || !(black->Y > 0.0)) {
+        const WallCabinet &of = wall.cabinets[i];
+        const auto &matrix = assessment.correction.corrections[i].matrix;
+        if (!of.black || !(of.black->Y > 0.0) || !matrix) {
             continue;
         }
-        for (const Vertex vertex : ceiechart::allGamutVertices) {
-            const Model::Target &full = targetAt(assessment.correction.target, vertex);
-            const auto mixed = [&](double of, double dark) { return level * of + (1.0 - level) * dark; };
-            const double X = mixed(full.X, black->X);
-            const double Y = mixed(full.Y, black->Y);
-            const double sum = X + Y + mixed(full.Z, black->Z);
-            const auto shift = Model::uvDifference(Model::Target::fromYxy(Y, X / sum, Y / sum), full);
+        const Model::DisplayDrive display({of.red, of.green, of.blue, {}}, of.black);
+        for (const auto &[vertex, content] : contents) {
+            if (assessment.cabinets[i].outside[std::size_t(vertex)] > 0.0) {
+                continue; // not the black's doing
+            }
+            const Model::Drive drive = matrix->driveFor(content);
+            const auto shown
+                = display.lightAt({std::max(drive.red, 0.0), std::max(drive.green, 0.0), std::max(drive.blue, 0.0)});
+            const auto shift
+                = shown ? Model::uvDifference(*shown, targetAt(assessment.correction.target, vertex)) : std::nullopt;
             if (shift && *shift > most) {
                 most = *shift;
                 worst = i;

@@ -50,18 +50,18 @@ public:
         }
         QStringList warnings = exchangeTexts(m_wall);
         warnings.append(offSumText(m_wall, m_result, m_counted));
-        warnings.removeAll(QString());
         if (m_result.correction.fault == Model::WallFault::None) {
             warnings.append(mixtureText(m_target, m_result.correction.target));
-            warnings.removeAll(QString());
         }
+        // The colours of the target are judged, over the blacks as well. What is darker, a bright black shifts by more.
+        warnings.append(darkContentText(m_wall, m_result, m_counted));
+        warnings.removeAll(QString());
         for (const QString &text : qAsConst(warnings)) {
             m_result.lines.append({std::nullopt, text, std::nullopt, true});
         }
         if (!isPass) {
             describeWhite(failing.size());
         }
-        describeDarkContent();
         describeWays(failing, unknown);
         headline(failing, unknown.size() + m_wall.incomplete.size());
     }
@@ -223,15 +223,6 @@ private:
             add(std::nullopt,
                 WallText::tr("The corrections are for a white of %1.")
                     .arg(reachableText(m_result.correction.target.white.Y, m_wall.unit)));
-        }
-    }
-
-    //! The colours of the target are judged, over the blacks as well. What is darker, a bright black shifts by more.
-    void describeDarkContent()
-    {
-        const QString text = darkContentText(m_wall, m_result, m_counted);
-        if (!text.isEmpty()) {
-            add(std::nullopt, text);
         }
     }
 

@@ -55,6 +55,13 @@ void Verdict::refresh()
             }
         }
     }
+    if (assessment.wall) {
+        for (const WallLine &line : assessment.wall->lines) {
+            if (line.isWarning) {
+                shown.append({QStringLiteral("! ") + line.text, QVariant(), QString()});
+            }
+        }
+    }
     showVerdict(assessment.judgement(), assessment.headline(), shown);
     const auto &description = m_session->document()->description();
     const auto exceeded = exceededDisplay(description);
