@@ -45,7 +45,8 @@ void ColumnNamesTest::parts_data()
     rows(ColumnPart::v, {"v'", "v′", "CIE v'", "CIE 1976 v"});
     rows(ColumnPart::X, {"X", "CIE X", "XYZ_X", "X (cd/m2)"});
     rows(ColumnPart::Z, {"Z", "CIE Z", "XYZ_Z"});
-    rows(ColumnPart::Cabinet, {"Cabinet", "module", "Panel", "TILE", "Panel ID", "箱体", "Modul"});
+    rows(ColumnPart::Cabinet,
+        {"Cabinet", "module", "Panel", "TILE", "Panel ID", "箱体", "Modul", "Kabinett", "Gehäuse", "Panel-Nr."});
     rows(ColumnPart::Row, {"Row", "Zeile", "行"});
     rows(ColumnPart::Column, {"Column", "col", "Spalte", "列"});
     rows(ColumnPart::Note, {"Note", "Remarks", "Bemerkung", "备注"});
