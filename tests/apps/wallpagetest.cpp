@@ -48,6 +48,7 @@ private Q_SLOTS:
     void fitIsOneStep();
     void fitIsOfferedAlikeOnPageAndPanel();
     void cabinetIsLeftOut();
+    void chosenLineIsFollowed();
     void draggingTheTargetIsFollowed();
     void cabinetsWithoutAPosition();
     void incompleteCabinetsAreShown();
@@ -295,6 +296,35 @@ void WallPageTest::cabinetIsLeftOut()
     QVERIFY(!without->isVisible());
     f.click(f.page()->map(), f.page()->map()->model()->index(1, 0));
     QCOMPARE(without->text(), QStringLiteral("Without B1"));
+}
+
+// The line that was chosen is the one that stays highlighted, if it stays at all.
+void WallPageTest::chosenLineIsFollowed()
+{
+    DisplayDescription several = description(3, 4);
+    for (const std::size_t i : {1, 5, 6, 9}) {
+        dim(several.wall.cabinets[i]);
+    }
+    WallFixture f(several);
+    WallVerdict *verdict = f.page()->verdict();
+    QListWidget *lines = verdict->lines();
+    const auto choose = [&](const QString &name) {
+        const auto found = lines->findItems(QStringLiteral("✗ %1: ").arg(name), Qt::MatchStartsWith);
+        QCOMPARE(found.size(), 1);
+        lines->setCurrentItem(found.first());
+        Q_EMIT lines->itemActivated(found.first());
+        QCOMPARE(f.selectedName(), name);
+    };
+    choose(QStringLiteral("B2"));
+    QCOMPARE(verdict->withoutButton()->text(), QStringLiteral("Without B2"));
+    QTest::mouseClick(verdict->withoutButton(), Qt::LeftButton);
+    QVERIFY(f.wall().cabinets[5].isLeftOut);
+    QVERIFY(!lines->currentItem());
+    QVERIFY(lines->selectedItems().isEmpty());
+    // Another line above it is gone.
+    choose(QStringLiteral("B3"));
+    f.window->session()->setLeftOut({1}, true);
+    QVERIFY(lines->currentItem() && lines->currentItem()->text().startsWith(QStringLiteral("✗ B3: ")));
 }
 
 void WallPageTest::draggingTheTargetIsFollowed()

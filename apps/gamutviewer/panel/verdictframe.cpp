@@ -62,6 +62,8 @@ QString VerdictFrame::text() const
 void VerdictFrame::showVerdict(Judgement judgement, const QString &headline, const QVector<VerdictLine> &lines)
 {
     const QString before = text();
+    const QListWidgetItem *current = m_lines->currentItem();
+    const QVariant chosenBefore = current ? current->data(aboutRole) : QVariant();
     m_verdict->setText(judgementMark(judgement) + QLatin1Char(' ') + headline);
     m_verdict->setToolTip(plainToolTip(m_verdict->text()));
     while (m_lines->count() > lines.size()) {
@@ -80,11 +82,26 @@ void VerdictFrame::showVerdict(Judgement judgement, const QString &headline, con
         item->setData(aboutRole, line.about);
         item->setToolTip(line.toolTip);
     }
+    followChosen(chosenBefore);
     if (text() != before) {
         setAccessibleName(text());
         QAccessibleEvent event(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
     }
+}
+
+void VerdictFrame::followChosen(const QVariant &about)
+{
+    const QListWidgetItem *current = m_lines->currentItem();
+    if (!current || (about.isValid() && current->data(aboutRole) == about)) {
+        return;
+    }
+    QListWidgetItem *same = nullptr;
+    for (int row = 0; row < m_lines->count() && about.isValid() && !same; ++row) {
+        QListWidgetItem *item = m_lines->item(row);
+        same = item->data(aboutRole) == about ? item : nullptr;
+    }
+    m_lines->setCurrentItem(same);
 }
 
 void VerdictFrame::choose(const QListWidgetItem *item)

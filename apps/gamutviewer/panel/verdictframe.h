@@ -50,6 +50,8 @@ Q_SIGNALS:
 
 private:
     void choose(const QListWidgetItem *item);
+    //! Keeps that line current that is \a about what the current one was about, or else none.
+    void followChosen(const QVariant &about);
 
     QVBoxLayout *m_column;
     QLabel *m_verdict;
