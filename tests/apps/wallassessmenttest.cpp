@@ -211,7 +211,7 @@ void WallAssessmentTest::luminancesThatDoNotCompare()
     const WallAssessment narrow = assessWall(wall, targetOf(1.0, ofTarget));
     QCOMPARE(narrow.judgement, Judgement::Fail);
     QCOMPARE(
-        narrow.headline, QStringLiteral("1 of 24 cabinets do not show this target; of the others it is not known"));
+        narrow.headline, QStringLiteral("1 of 24 cabinets does not show this target; of the others it is not known"));
 }
 
 void WallAssessmentTest::targetWithoutLuminance()

@@ -104,7 +104,7 @@ void WallCabinetsTest::incompleteCabinetsAreNotKnown()
     QVERIFY(!textOf(fails).contains(QStringLiteral("Without A1")));
     description.wall.cabinets.resize(1);
     QCOMPARE(assessWall(description.wall, targetOf(1000.0)).headline,
-        QStringLiteral("1 of 2 cabinets do not show this target; of the others it is not known"));
+        QStringLiteral("1 of 2 cabinets does not show this target; of the other it is not known"));
 }
 
 void WallCabinetsTest::manyIncompleteCabinetsAreCounted()

@@ -294,6 +294,7 @@ QString offSumText(const DisplayWall &wall, const WallAssessment &assessment, co
     double luminance = 0.0;
     double uv = 0.0;
     std::optional<std::size_t> worst;
+    std::optional<std::size_t> farthest;
     for (const std::size_t i : cabinets) {
         const auto &off = assessment.cabinets[i].offSum;
         if (!off) {
@@ -302,16 +303,31 @@ QString offSumText(const DisplayWall &wall, const WallAssessment &assessment, co
         if (!worst || std::fabs(off->luminance) > luminance) {
             worst = i;
         }
+        if (!farthest || off->uv > uv) {
+            farthest = i;
+        }
         luminance = std::max(luminance, std::fabs(off->luminance));
         uv = std::max(uv, off->uv);
     }
     if (luminance <= fullDrive - 1.0 && uv <= visibleUv) {
         return QString();
     }
-    return WallText::tr(
-        "Measured whites are up to %1 and Δu′v′ %2 off the sums of the primaries (%3). What corrections "
-        "leave is worked out from the primaries, and known no better than that.")
-        .arg(percent(luminance), distanceText(uv), cabinetName(wall, *worst));
+    // What looks like 0 is not said.
+    const bool hasLuminance = percent(luminance) != percent(0.0);
+    const QString distance = fixedText(uv, chromaticityDecimals);
+    const bool hasDistance = distance != fixedText(0.0, chromaticityDecimals);
+    const QString name = cabinetName(wall, hasLuminance ? *worst : *farthest);
+    const QString text = hasLuminance && hasDistance
+        ? WallText::tr("Measured whites are up to %1 and Δu′v′ %2 off the sums of the primaries (%3).")
+              .arg(percent(luminance), distance, name)
+        : hasLuminance
+        ? WallText::tr(
+            "Measured whites are up to %1 off the sums of the primaries (%2).", "part of a luminance, cabinet")
+              .arg(percent(luminance), name)
+        : WallText::tr("Measured whites are up to Δu′v′ %1 off the sums of the primaries (%2).", "distance, cabinet")
+              .arg(distance, name);
+    return text + QLatin1Char(' ')
+        + WallText::tr("What corrections leave is worked out from the primaries, and known no better than that.");
 }
 
 QString darkContentText(

@@ -257,6 +257,18 @@ private:
         }
     }
 
+    static QString showText(int showing, int all)
+    {
+        return showing == 1
+            ? WallText::tr("1 of %1 cabinets shows this target").arg(all)
+            : WallText::tr("%1 of %2 cabinets show this target", "count that do, and of all").arg(showing).arg(all);
+    }
+
+    static QString ofUnknown(const QString &text, std::size_t unknown)
+    {
+        return WallText::tr("%1; of %2 it is not known", "which cabinets show a target").arg(text).arg(unknown);
+    }
+
     //! \a unknown counts those that were measured incompletely as well.
     void headline(const std::vector<std::size_t> &failing, std::size_t unknown)
     {
@@ -272,10 +284,7 @@ private:
             text = WallText::tr("Nothing is judged: all cabinets are left out");
         } else if (fails == 0 && unknown > 0) {
             text = int(unknown) == all ? WallText::tr("Not known whether the cabinets show this target")
-                                       : WallText::tr("%1 of %2 cabinets show this target; of %3 it is not known")
-                                             .arg(all - int(unknown))
-                                             .arg(all)
-                                             .arg(unknown);
+                                       : ofUnknown(showText(all - int(unknown), all), unknown);
         } else if (fails == 0) {
             const int leftOut = int(m_leftOut.size());
             text = leftOut == 0 ? WallText::tr("All %1 cabinets show this target").arg(all)
@@ -284,13 +293,15 @@ private:
         } else if (fails == all) {
             text = WallText::tr("None of the %1 cabinets shows this target").arg(all);
         } else if (fails + int(unknown) == all) {
-            text = WallText::tr("%1 of %2 cabinets do not show this target; of the others it is not known")
-                       .arg(fails)
-                       .arg(all);
+            const QString fail = fails == 1
+                ? WallText::tr("1 of %1 cabinets does not show this target").arg(all)
+                : WallText::tr("%1 of %2 cabinets do not show this target", "count that do not, and of all")
+                      .arg(fails)
+                      .arg(all);
+            text = unknown == 1 ? WallText::tr("%1; of the other it is not known", "how many cabinets fail").arg(fail)
+                                : WallText::tr("%1; of the others it is not known", "how many cabinets fail").arg(fail);
         } else {
-            const QString shows = WallText::tr("%1 of %2 cabinets show this target", "count that do, and of all")
-                                      .arg(all - fails - int(unknown))
-                                      .arg(all);
+            const QString shows = showText(all - fails - int(unknown), all);
             const QString others = fails == 1
                 ? WallText::tr("%1 does not", "name of a cabinet").arg(cabinetName(m_wall, failing.front()))
                 : fails <= namedCabinets ? WallText::tr("%1 do not", "names of cabinets").arg(namesOf(m_wall, failing))
@@ -299,7 +310,7 @@ private:
                                                .arg(fails - 1);
             text = WallText::tr("%1; %2", "how many cabinets show a target, and which do not").arg(shows, others);
             if (unknown > 0) {
-                text = WallText::tr("%1; of %2 it is not known", "which cabinets show a target").arg(text).arg(unknown);
+                text = ofUnknown(text, unknown);
             }
         }
     }
