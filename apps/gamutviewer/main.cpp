@@ -59,10 +59,11 @@ ReportNotes notesOf(const OpenedFiles &opened)
 {
     ReportNotes notes;
     for (const FileWarning &warning : opened.warnings) {
-        notes.warnings.append(warning.message());
+        (warning.isRemark ? notes.remarks : notes.warnings).append(warning.message());
     }
     static_cast<FileNotes &>(notes) = opened.notes;
     notes.needsChoice = opened.needsChoice;
+    notes.fit = opened.fit;
     return notes;
 }
 
@@ -138,8 +139,9 @@ Outcome<OpenedFiles> withRequests(const OpenedFiles &opened, const QString &wall
             return Outcome<OpenedFiles>::failure(QStringLiteral("--fit: ") + fitted.error());
         }
         result.description = fitted->description;
+        result.fit = fitted->fit;
         for (const QString &note : fitted->notes) {
-            result.warnings.append({QStringLiteral("--fit"), {note, {}, 0, 0}});
+            result.warnings.append({QStringLiteral("--fit"), {note, {}, 0, 0}, true});
         }
     }
     return result;

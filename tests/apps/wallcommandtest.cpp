@@ -10,6 +10,7 @@
 #include <gamutfiles/correctionsfile.h>
 #include <gamutfiles/cubepair.h>
 #include <gamutfiles/descriptionfile.h>
+#include <gamutmodel/nearestinside.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void notesOnASingleDisplay();
     void tablesOfOneDisplay();
     void fitsTheTarget();
+    void tellsWhatAFitCosts();
     void fitsATargetThatIsALittleTooBright();
     void wallOfADescription();
     void wallAmongTheFiles();
@@ -392,7 +394,8 @@ void WallCommandTest::correctionsSayNoMoreThanIsKnown()
     QVERIFY2(result.error.contains("the largest that all cabinets reach of which it is known, as the luminance of the "
                                    "target cannot be compared with theirs"),
         result.error);
-    QVERIFY2(result.error.contains("Measured whites are up to 1.5 % off the sums of the primaries (A1)."), result.error);
+    QVERIFY2(
+        result.error.contains("Measured whites are up to 1.5 % off the sums of the primaries (A1)."), result.error);
     QVERIFY2(result.error.contains("are for, so that it is not known what they show: A2\n"), result.error);
     const QJsonObject wall = QJsonDocument::fromJson(result.output).object().value("wall").toObject();
     const auto corrections = gamutfiles::readCorrectionsFile(path("c.json"));
@@ -497,6 +500,61 @@ void WallCommandTest::fitsTheTarget()
     const Result fits = run({"stage.json", "--wall", "wall.csv", "--fit", "--check"});
     QCOMPARE(fits.exitCode, 0);
     QVERIFY2(fits.error.contains("--fit: the target fits the wall as it is"), fits.error);
+}
+
+// The report is of the fitted target; what was lost of the wished one is told besides.
+void WallCommandTest::tellsWhatAFitCosts()
+{
+    write("wide.json", targetText(300.0, 0.669));
+    const auto wished = readGamutFile(path("wide.json"));
+    QVERIFY(wished);
+    const Result result = run({"wide.json", "--wall", "wall.csv", "--fit", "--report", "json"});
+    QVERIFY2(result.exitCode == 0, result.error);
+    const QJsonObject report = QJsonDocument::fromJson(result.output).object();
+    const QJsonObject target = report.value("target").toObject();
+    const auto from = [&](const char *color) {
+        const QJsonObject of = target.value(color).toObject();
+        return Model::Target::fromYxy(of.value("Y").toDouble(), of.value("x").toDouble(), of.value("y").toDouble());
+    };
+    const Model::Targets fitted{from("red"), from("green"), from("blue"), from("white")};
+    const Model::Targets wish = wished->description.gamuts.front().getTargets();
+    const QJsonObject lost = report.value("wall").toObject().value("fitted").toObject();
+    QStringList parts;
+    for (const auto &[key, diagram] :
+        {std::pair("xy", Model::Diagram::Cie1931), std::pair("uv", Model::Diagram::Cie1976)}) {
+        const Model::GamutCoverage cost = Model::gamutCoverage(fitted, wish, diagram);
+        QVERIFY(cost.coverage < 0.999);
+        QVERIFY(std::fabs(lost.value("coverage").toObject().value(key).toDouble() - cost.coverage) < 1e-9);
+        QVERIFY(std::fabs(lost.value("areaRatio").toObject().value(key).toDouble() - cost.areaRatio) < 1e-9);
+        parts.append(QString::number(100.0 * cost.coverage, 'f', 1));
+    }
+    const QJsonObject red = lost.value("red").toObject();
+    const double moved = *Model::uvDifference(fitted.red, wish.red);
+    QVERIFY(moved > 0.0005 && std::fabs(red.value("moved").toDouble() - moved) < 1e-9);
+    QVERIFY(red.value("limit").isString());
+    const QString text
+        = QString::fromUtf8("--fit: the fitted target covers %1 % of the area of the wished one in x, y and %2 % in "
+                            "u′, v′")
+              .arg(parts.at(0), parts.at(1));
+    QVERIFY2(QString::fromUtf8(result.error).contains(text), result.error);
+    QVERIFY2(report.value("remarks").toArray().contains(text), result.output);
+    QVERIFY(report.value("warnings").toArray().isEmpty());
+    const Result people = run({"wide.json", "--wall", "wall.csv", "--fit", "--report", "text"});
+    QVERIFY2(QString::fromUtf8(people.output).contains(QLatin1Char('\n') + text + QLatin1Char('\n')), people.output);
+    // Without a fit there is nothing to tell, and one that has nothing to do costs nothing.
+    const Result asItIs = run({"stage.json", "--wall", "wall.csv", "--fit", "--report", "text"});
+    QVERIFY2(asItIs.output.contains("\n--fit: the target fits the wall as it is"), asItIs.output);
+    const auto fittedOf = [this](const QStringList &arguments) {
+        return QJsonDocument::fromJson(run(arguments).output).object().value("wall").toObject().value("fitted");
+    };
+    QVERIFY(fittedOf({"wide.json", "--wall", "wall.csv", "--report", "json"}).isUndefined());
+    QCOMPARE(fittedOf({"stage.json", "--wall", "wall.csv", "--fit", "--report", "json"})
+                 .toObject()
+                 .value("coverage")
+                 .toObject()
+                 .value("uv")
+                 .toDouble(),
+        1.0);
 }
 
 void WallCommandTest::fitsATargetThatIsALittleTooBright()

@@ -256,13 +256,14 @@ QJsonObject report(
         object.insert(QStringLiteral("measuredDrive"), driveObject(assessment.displays.at(1)));
     }
     if (!description.wall.cabinets.empty()) {
-        object.insert(QStringLiteral("wall"), wallReport(description.wall, assessment.wall.get()));
+        object.insert(QStringLiteral("wall"), wallReport(description.wall, assessment.wall.get(), notes.fit));
     }
     if (tolerances) {
         object.insert(QStringLiteral("tolerances"),
             QJsonObject{{QStringLiteral("name"), tolerances->name}, {QStringLiteral("source"), tolerances->source}});
     }
     object.insert(QStringLiteral("warnings"), QJsonArray::fromStringList(notes.warnings));
+    object.insert(QStringLiteral("remarks"), QJsonArray::fromStringList(notes.remarks));
     object.insert(QStringLiteral("facts"), factsArray(notes.facts));
     object.insert(QStringLiteral("lists"), listsArray(notes.lists));
     return object;

@@ -6,6 +6,8 @@
 #include "display/filenotes.h"
 #include "display/gamutfiles.h"
 
+#include <gamutmodel/gamutfit.h>
+
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
@@ -18,6 +20,8 @@ namespace gamutviewer {
 /*! \brief What is known of the files that were read, besides the description that they make. */
 struct ReportNotes : FileNotes {
     QStringList warnings; //!< each as one line: the file, the place and the text
+    QStringList remarks; //!< what was done, and nothing to be warned of; each as one line
+    std::optional<Model::GamutFit> fit; //!< what the wished target lost when the present one was made of it
     bool needsChoice = false; //!< whether a measurement list leaves open what of it the display is judged by
 };
 

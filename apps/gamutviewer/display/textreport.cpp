@@ -132,6 +132,15 @@ QStringList coverageLines(const QVector<PlayedPart> &parts, const std::vector<Di
     return parts.isEmpty() ? QStringList() : aligned(rows);
 }
 
+QStringList oneLines(const QStringList &remarks)
+{
+    QStringList lines;
+    for (const QString &remark : remarks) {
+        lines.append(oneLine(remark));
+    }
+    return lines;
+}
+
 QStringList warningLines(const QStringList &warnings)
 {
     QStringList lines;
@@ -216,7 +225,7 @@ QByteArray textReport(
     const QVector<PlayedPart> parts = playedParts(description);
     QVector<QStringList> blocks{description.name.isEmpty() ? QStringList() : QStringList(oneLine(description.name)),
         gamutLines(parts), coverageLines(parts, description.allStandards()), verdictLines(assessment),
-        warningLines(notes.warnings), fileNotesText(notes).split(QLatin1Char('\n'))};
+        warningLines(notes.warnings), oneLines(notes.remarks), fileNotesText(notes).split(QLatin1Char('\n'))};
     if (!description.wall.cabinets.empty() && assessment.wall) {
         QStringList remarks;
         for (const WallLine &line : assessment.wall->lines) {

@@ -73,8 +73,11 @@ QJsonValue fitValue(const DisplayWall &wall, const Model::GamutFit &fit)
     if (fit.fault != Model::FitFault::None) {
         return QJsonValue::Null;
     }
-    QJsonObject object{{QStringLiteral("coverage"),
-        QJsonObject{{QStringLiteral("xy"), fit.costXy.coverage}, {QStringLiteral("uv"), fit.costUv.coverage}}}};
+    QJsonObject object{
+        {QStringLiteral("coverage"),
+            QJsonObject{{QStringLiteral("xy"), fit.costXy.coverage}, {QStringLiteral("uv"), fit.costUv.coverage}}},
+        {QStringLiteral("areaRatio"),
+            QJsonObject{{QStringLiteral("xy"), fit.costXy.areaRatio}, {QStringLiteral("uv"), fit.costUv.areaRatio}}}};
     const auto insert = [&](const QString &key, const Model::Target &color, const Model::FittedPrimary &primary) {
         QJsonObject entry = pointObject({color.x, color.y});
         entry.insert(QStringLiteral("moved"), primary.moved);
@@ -183,7 +186,8 @@ QJsonValue largestWhiteValue(const DisplayWall &wall, const WallAssessment &asse
 
 } // namespace
 
-QJsonObject wallReport(const DisplayWall &wall, const WallAssessment *assessment)
+QJsonObject wallReport(
+    const DisplayWall &wall, const WallAssessment *assessment, const std::optional<Model::GamutFit> &done)
 {
     QJsonArray cabinets;
     for (std::size_t i = 0; i < wall.cabinets.size(); ++i) {
@@ -224,6 +228,9 @@ QJsonObject wallReport(const DisplayWall &wall, const WallAssessment *assessment
         hasCorrections ? QJsonValue(assessment->correction.target.white.Y) : QJsonValue(QJsonValue::Null));
     object.insert(QStringLiteral("commonGamut"), commonObject(wall, assessment->common, assessment->notInCommon));
     object.insert(QStringLiteral("fit"), fitValue(wall, assessment->fit));
+    if (done) {
+        object.insert(QStringLiteral("fitted"), fitValue(wall, *done));
+    }
     object.insert(QStringLiteral("uniformity"),
         QJsonObject{{QStringLiteral("before"), uniformityObject(wall, assessment->before)},
             {QStringLiteral("after"), uniformityObject(wall, assessment->after)}});

@@ -7,9 +7,12 @@
 #include "display/gamutfiles.h"
 #include "editing/gamutroles.h"
 
+#include <gamutmodel/gamutfit.h>
+
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 namespace gamutviewer {
 
@@ -17,6 +20,7 @@ namespace gamutviewer {
 struct FileWarning {
     QString fileName; //!< as it was given
     Problem problem; //!< what, and where in the file
+    bool isRemark = false; //!< whether it tells what was done, and warns of nothing
 
     /*! \brief As one line: the file, the place and the text. */
     QString message() const { return problem.message(fileName); }
@@ -88,6 +92,7 @@ struct OpenedFiles {
     QStringList fileNames; //!< all of them
     QVector<FileWarning> warnings; //!< of their readers, and about what the additions change
     FileNotes notes; //!< what the files say besides their gamuts, and how lists were understood
+    std::optional<Model::GamutFit> fit; //!< what the target has lost that was fitted to the wall after opening
     bool needsChoice = false; //!< as needsChoice() says of one of them
     bool hasLists = false; //!< whether one of them is a measurement list
 };

@@ -461,6 +461,7 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
                                 .arg(why, reachableText(largestWhite->luminance, description.wall.unit)));
     }
     const WallAssessment assessment = assessWall(description.wall, *wanted);
+    result.fit = assessment.fit;
     const auto fitted = fittedToWall(*wanted, assessment);
     if (!fitted) {
         const QString problem = fitProblem(description.wall, assessment);
@@ -495,6 +496,9 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
                      : CommandText::tr("fitted to the cabinets of which it is known, the target has moved towards its "
                                        "white: %1"))
                 .arg(parts.join(QStringLiteral(", "))));
+        result.notes.append(
+            CommandText::tr("the fitted target covers %1 of the area of the wished one in x, y and %2 in u′, v′")
+                .arg(percent(result.fit.costXy.coverage), percent(result.fit.costUv.coverage)));
     }
     if (fitted->white.Y != wanted->getTargets().white.Y) {
         result.notes.append((isOfAll

@@ -41,6 +41,7 @@ Outcome<DisplayDescription> withChosenTarget(const DisplayDescription &descripti
 struct FittedTarget {
     DisplayDescription description; //!< with the target as it is now
     QStringList notes; //!< what became of the target
+    Model::GamutFit fit{}; //!< what was lost of the one that there was
 };
 
 /*! \brief \a description with its target fitted to its wall. A failure without either, or if it cannot be fitted. */
