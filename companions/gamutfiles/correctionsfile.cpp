@@ -12,7 +12,9 @@
 #include <QJsonDocument>
 #include <QLocale>
 
+#include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace gamutfiles {
 
@@ -73,6 +75,21 @@ Model::CorrectionMatrix withoutNegativeZeros(Model::CorrectionMatrix matrix)
         }
     }
     return matrix;
+}
+
+//! Whether the row of \a a is above that of \a b, or its column before that of \a b in the same row.
+template <typename Cabinet>
+bool isBefore(const Cabinet &a, const Cabinet &b)
+{
+    return a.row && a.column && b.row && b.column && std::tie(*a.row, *a.column) < std::tie(*b.row, *b.column);
+}
+
+//! Whether the cabinets are listed row by row.
+bool isInOrderOfPlaces(const DisplayWall &wall)
+{
+    return std::adjacent_find(wall.cabinets.begin(), wall.cabinets.end(),
+               [](const WallCabinet &a, const WallCabinet &b) { return !isBefore(a, b); })
+        == wall.cabinets.end();
 }
 
 } // namespace
@@ -169,6 +186,7 @@ Outcome<WallCorrections> wallCorrections(
                 ? CorrectionsText::tr("%1: %2", "that there is no matrix, and why").arg(none, result.cabinets[0].fault)
                 : none);
     }
+    const bool isByPlace = isInOrderOfPlaces(wall);
     for (const IncompleteCabinet &of : wall.incomplete) {
         CabinetCorrection cabinet;
         cabinet.name = of.name;
@@ -177,7 +195,9 @@ Outcome<WallCorrections> wallCorrections(
             cabinet.column = of.position->column;
         }
         cabinet.fault = of.reason;
-        result.cabinets.push_back(cabinet);
+        const auto next = std::find_if(result.cabinets.begin(), result.cabinets.end(),
+            [&](const CabinetCorrection &other) { return isByPlace && of.position && isBefore(cabinet, other); });
+        result.cabinets.insert(next, cabinet);
     }
     QSet<QString> labels;
     for (const CabinetCorrection &cabinet : result.cabinets) {

@@ -75,7 +75,8 @@ struct WallCorrections {
 /*!
  * \brief What is to be stored of \a solved, which was computed for wall.modelCabinets() and the target \a targetName.
  *
- * Those of wall.incomplete come last, without a matrix and with their reason as fault.
+ * Those of wall.incomplete have no matrix, and their reason as fault. They stand at their places where the wall is
+ * listed row by row, and come last otherwise.
  *
  * A failure if there are no matrices at all: the fault of the target, or no cabinet that has one. The same for cabinets
  * that no file can hold: two with the same label(), or one without, or with characters in it that cannot be

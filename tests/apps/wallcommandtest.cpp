@@ -229,7 +229,22 @@ void WallCommandTest::incompleteCabinetsAreNamed()
     }
     QCOMPARE(faults,
         (QStringList{
-            "A1 1/1:", "A2 1/2:", "A4 2/1:", "A3 1/3:green is missing", "A5 2/2:red is there more than once"}));
+            "A1 1/1:", "A2 1/2:", "A3 1/3:green is missing", "A4 2/1:", "A5 2/2:red is there more than once"}));
+    // A list that does not go row by row keeps its order.
+    DisplayWall backwards = *wallFromMeasurements(readGamutFile(path("gaps.csv"))->measurements);
+    std::reverse(backwards.cabinets.begin(), backwards.cabinets.end());
+    DisplayDescription described;
+    described.wall = backwards;
+    described.target = QStringLiteral("Rec.709");
+    write("backwards.json", gamutfiles::descriptionText(described));
+    QCOMPARE(run({"backwards.json", "--corrections", "d.csv"}).exitCode, 0);
+    const auto reversed = gamutfiles::readCorrectionsFile(path("d.csv"));
+    QVERIFY2(reversed, qPrintable(reversed.error()));
+    QStringList names;
+    for (const CabinetCorrection &cabinet : reversed->cabinets) {
+        names.append(cabinet.name);
+    }
+    QCOMPARE(names, (QStringList{"A4", "A2", "A1", "A3", "A5"}));
     for (const char *name : {"A3", "a3 1/3", "1/3"}) {
         const Result one = run({"stage.json", "--wall", "gaps.csv", "--cabinet", name, "--corrections", "one.json"});
         QCOMPARE(one.exitCode, 2);
