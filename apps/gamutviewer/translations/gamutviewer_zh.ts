@@ -688,23 +688,6 @@
     </message>
 </context>
 <context>
-    <name>gamutviewer::DocumentView</name>
-    <message>
-        <source>outside of the %1 by Δu′v′ %2</source>
-        <comment>gamut and distance</comment>
-        <translation>超出%1，Δu′v′ 为 %2</translation>
-    </message>
-    <message>
-        <source>outside of the cabinet %1 by Δu′v′ %2</source>
-        <translation>超出箱体 %1，Δu′v′ 为 %2</translation>
-    </message>
-    <message>
-        <source>outside of %1 cabinets, of %2 by Δu′v′ %3</source>
-        <comment>how many, the farthest, and how far</comment>
-        <translation>超出 %1 个箱体，其中超出 %2 的 Δu′v′ 为 %3</translation>
-    </message>
-</context>
-<context>
     <name>gamutviewer::ExportDialog</name>
     <message>
         <source> px</source>
@@ -842,6 +825,11 @@
     <message>
         <source>Lines wait to be read: %1</source>
         <translation>有待读取的行：%1</translation>
+    </message>
+    <message>
+        <source>%1; the unit has changed: without what came before it</source>
+        <comment>how far a measurement has been followed</comment>
+        <translation>%1；单位已改变，不含此前的测量</translation>
     </message>
 </context>
 <context>
@@ -1592,6 +1580,23 @@
     </message>
 </context>
 <context>
+    <name>gamutviewer::TargetView</name>
+    <message>
+        <source>outside of the cabinet %1 by Δu′v′ %2</source>
+        <translation>超出箱体 %1，Δu′v′ 为 %2</translation>
+    </message>
+    <message>
+        <source>outside of %1 cabinets, of %2 by Δu′v′ %3</source>
+        <comment>how many, the farthest, and how far</comment>
+        <translation>超出 %1 个箱体，其中超出 %2 的 Δu′v′ 为 %3</translation>
+    </message>
+    <message>
+        <source>outside of the %1 by Δu′v′ %2</source>
+        <comment>gamut and distance</comment>
+        <translation>超出%1，Δu′v′ 为 %2</translation>
+    </message>
+</context>
+<context>
     <name>gamutviewer::TextReport</name>
     <message>
         <source>declared</source>
@@ -2147,6 +2152,14 @@ Esc – 关闭有焦点的消息
         <source>Read &amp;list again</source>
         <translation>重新读取列表(&amp;L)</translation>
     </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read: %2</source>
+        <translation>%1：无法读取：%2</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallAssessment</name>
@@ -2268,10 +2281,6 @@ Esc – 关闭有焦点的消息
         <translation>箱体能否显示此目标未知</translation>
     </message>
     <message>
-        <source>%1 of %2 cabinets show this target; of %3 it is not known</source>
-        <translation>%2 个箱体中有 %1 个能显示此目标；%3 个未知</translation>
-    </message>
-    <message>
         <source>All %1 cabinets show this target</source>
         <translation>全部 %1 个箱体均能显示此目标</translation>
     </message>
@@ -2286,10 +2295,6 @@ Esc – 关闭有焦点的消息
     <message>
         <source>None of the %1 cabinets shows this target</source>
         <translation>%1 个箱体均不能显示此目标</translation>
-    </message>
-    <message>
-        <source>%1 of %2 cabinets do not show this target; of the others it is not known</source>
-        <translation>%2 个箱体中有 %1 个不能显示此目标；其余未知</translation>
     </message>
     <message>
         <source>%1 of %2 cabinets show this target</source>
@@ -2492,10 +2497,6 @@ Esc – 关闭有焦点的消息
         <translation>未排除的箱体均可达到 %1 的白色。</translation>
     </message>
     <message>
-        <source>Measured whites are up to %1 and Δu′v′ %2 off the sums of the primaries (%3). What corrections leave is worked out from the primaries, and known no better than that.</source>
-        <translation>实测白色与各基色之和最多相差 %1 和 Δu′v′ %2（%3）。校正后的剩余差异由基色算出，其准确程度不会更高。</translation>
-    </message>
-    <message>
         <source>Content that is darker than the target is not judged: at %1 of its luminance, the black of %2 shifts %3 by Δu′v′ %4.</source>
         <translation>比目标更暗的内容不作判断：在其亮度的 %1 处，%2 的黑场使%3偏移 Δu′v′ %4。</translation>
     </message>
@@ -2515,6 +2516,56 @@ Esc – 关闭有焦点的消息
         <source>its black was not measured, and one as bright as that of %1 keeps it off %2: measure it</source>
         <comment>name of a cabinet, colours and distances</comment>
         <translation>其黑场未测量，若与 %1 的黑场同样亮，则会使其偏离目标（%2）：请测量黑场</translation>
+    </message>
+    <message>
+        <source>Measured whites are up to %1 and Δu′v′ %2 off the sums of the primaries (%3).</source>
+        <translation>实测白色与各基色之和最多相差 %1 和 Δu′v′ %2（%3）。</translation>
+    </message>
+    <message>
+        <source>Measured whites are up to %1 off the sums of the primaries (%2).</source>
+        <comment>part of a luminance, cabinet</comment>
+        <translation>实测白色与各基色之和最多相差 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>Measured whites are up to Δu′v′ %1 off the sums of the primaries (%2).</source>
+        <comment>distance, cabinet</comment>
+        <translation>实测白色与各基色之和最多相差 Δu′v′ %1（%2）。</translation>
+    </message>
+    <message>
+        <source>What corrections leave is worked out from the primaries, and known no better than that.</source>
+        <translation>校正后的剩余差异由基色算出，其准确程度不会更高。</translation>
+    </message>
+    <message>
+        <source>The target has %1.</source>
+        <comment>luminance of its white</comment>
+        <translation>目标为 %1。</translation>
+    </message>
+    <message>
+        <source>Fitted to the cabinets of which it is known, the target keeps %1 of its area in u′, v′ and has a white of %2.</source>
+        <translation>适配到已知色域的箱体后，目标在 u′, v′ 中保留 %1 的面积，白色为 %2。</translation>
+    </message>
+    <message>
+        <source>1 of %1 cabinets shows this target</source>
+        <translation>%1 个箱体中有 1 个能显示此目标</translation>
+    </message>
+    <message>
+        <source>1 of %1 cabinets does not show this target</source>
+        <translation>%1 个箱体中有 1 个不能显示此目标</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cabinets do not show this target</source>
+        <comment>count that do not, and of all</comment>
+        <translation>%2 个箱体中有 %1 个不能显示此目标</translation>
+    </message>
+    <message>
+        <source>%1; of the other it is not known</source>
+        <comment>how many cabinets fail</comment>
+        <translation>%1；另一个未知</translation>
+    </message>
+    <message>
+        <source>%1; of the others it is not known</source>
+        <comment>how many cabinets fail</comment>
+        <translation>%1；其余未知</translation>
     </message>
 </context>
 <context>
@@ -2696,6 +2747,26 @@ Esc – 关闭有焦点的消息
     <message>
         <source>%1; its white is taken at %2, the largest that all cabinets reach of which it is known</source>
         <translation>%1；其白色取 %2，即所有已知的箱体都能达到的最大值</translation>
+    </message>
+    <message>
+        <source>the display shows the target, but for up to %1</source>
+        <translation>显示屏能显示目标，最多相差 %1</translation>
+    </message>
+    <message>
+        <source>cabinets that show the target, but for up to %1</source>
+        <translation>能显示目标、但最多相差 %1 的箱体</translation>
+    </message>
+    <message>
+        <source>fitted to the cabinets of which it is known, the target has moved towards its white: %1</source>
+        <translation>适配到已知色域的箱体后，目标朝其白点移动：%1</translation>
+    </message>
+    <message>
+        <source>the fitted target covers %1 of the area of the wished one in x, y and %2 in u′, v′</source>
+        <translation>适配后的目标在 x, y 中覆盖所期望目标面积的 %1，在 u′, v′ 中覆盖 %2</translation>
+    </message>
+    <message>
+        <source>fitted to the cabinets of which it is known, the target has a white of %1 instead of %2</source>
+        <translation>适配到已知色域的箱体后，目标的白色为 %1 而不是 %2</translation>
     </message>
 </context>
 <context>
