@@ -29,21 +29,27 @@ std::optional<double> distanceFrom(const Model::Targets &display, const Model::T
 
 namespace {
 
-//! The drives for \a vertex of the target that \a correction is for.
-Model::Drive driveFor(const Model::CorrectionMatrix &correction, Vertex vertex)
+//! The levels of \a vertex of a target.
+Model::Drive contentOf(Vertex vertex)
 {
     const double white = vertex == Vertex::White ? 1.0 : 0.0;
     const auto level = [&](Vertex primary) { return vertex == primary ? 1.0 : white; };
-    return correction.driveFor({level(Vertex::Red), level(Vertex::Green), level(Vertex::Blue)});
+    return {level(Vertex::Red), level(Vertex::Green), level(Vertex::Blue)};
 }
 
 } // namespace
 
 std::optional<Model::Target> shownWithoutLimit(
+    const Model::DisplayDrive &display, const Model::CorrectionMatrix &correction, const Model::Drive &content)
+{
+    const Model::Drive drive = correction.driveFor(content);
+    return display.lightAt({std::max(drive.red, 0.0), std::max(drive.green, 0.0), std::max(drive.blue, 0.0)});
+}
+
+std::optional<Model::Target> shownWithoutLimit(
     const Model::DisplayDrive &display, const Model::CorrectionMatrix &correction, Vertex vertex)
 {
-    const Model::Drive drive = driveFor(correction, vertex);
-    return display.lightAt({std::max(drive.red, 0.0), std::max(drive.green, 0.0), std::max(drive.blue, 0.0)});
+    return shownWithoutLimit(display, correction, contentOf(vertex));
 }
 
 std::array<double, 4> offByBlack(const Model::Cabinet &cabinet, const Model::CorrectionMatrix &correction,
@@ -52,7 +58,7 @@ std::array<double, 4> offByBlack(const Model::Cabinet &cabinet, const Model::Cor
     std::array<double, 4> off{};
     std::optional<Model::DisplayDrive> display;
     for (const Vertex vertex : ceiechart::allGamutVertices) {
-        if (outside[std::size_t(vertex)] > 0.0 || !Model::isOutside(driveFor(correction, vertex))) {
+        if (outside[std::size_t(vertex)] > 0.0 || !Model::isOutside(correction.driveFor(contentOf(vertex)))) {
             continue;
         }
         if (!display) {

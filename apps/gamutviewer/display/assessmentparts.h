@@ -29,9 +29,12 @@ double highest(const Model::Drive &drive);
 std::optional<double> distanceFrom(const Model::Targets &display, const Model::Target &color);
 
 /*!
- * \brief What \a display shows of \a vertex of the target that \a correction is for. Drives below 0 are 0, but those
- * above 1 are kept, as if its luminance had no limit. Nothing where it is not known.
+ * \brief What \a display shows of \a content, linear levels, with \a correction. Drives below 0 are 0, but those above
+ * 1 are kept, as if its luminance had no limit. Nothing where it is not known.
  */
+std::optional<Model::Target> shownWithoutLimit(
+    const Model::DisplayDrive &display, const Model::CorrectionMatrix &correction, const Model::Drive &content);
+/*! \brief The same of \a vertex of the target that \a correction is for. */
 std::optional<Model::Target> shownWithoutLimit(
     const Model::DisplayDrive &display, const Model::CorrectionMatrix &correction, ceiechart::GamutVertex vertex);
 

@@ -353,9 +353,7 @@ QString darkContentText(
             if (assessment.cabinets[i].outside[std::size_t(vertex)] > 0.0) {
                 continue; // not the black's doing
             }
-            const Model::Drive drive = matrix->driveFor(content);
-            const auto shown
-                = display.lightAt({std::max(drive.red, 0.0), std::max(drive.green, 0.0), std::max(drive.blue, 0.0)});
+            const auto shown = shownWithoutLimit(display, *matrix, content);
             const auto shift
                 = shown ? Model::uvDifference(*shown, targetAt(assessment.correction.target, vertex)) : std::nullopt;
             if (shift && *shift > most) {
