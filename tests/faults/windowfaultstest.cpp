@@ -3,12 +3,18 @@
 #include "failingcalls.h"
 
 #include "drawing/picture.h"
+#include "following/followedinput.h"
+#include "following/following.h"
 #include "window/diagrampage.h"
+#include "window/followmenu.h"
+#include "window/listdialog.h"
 
 #include <apps/windowfixture.h>
 
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 
 #include <fcntl.h>
 #include <functional>
@@ -32,6 +38,8 @@ private Q_SLOTS:
     void savingWithoutMemory();
     void openingWithoutMemory_data();
     void openingWithoutMemory();
+    void choosingWithoutMemory();
+    void followingWithoutMemory();
 
 private:
     static void calls();
@@ -142,6 +150,35 @@ void failAllocations(const QString &folder, const std::function<void()> &part, c
     }
     QVERIFY2(failures > 10, "hardly any allocation matters");
 }
+
+//! A list of four colours that is there at once. The first read opens a file, from where allocations count.
+class GivenInput : public FollowedInput {
+public:
+    using FollowedInput::FollowedInput;
+    QByteArray read(int) override
+    {
+        if (m_reads++ > 0) {
+            m_allocations = m_allocations > 0 ? m_allocations : numberOfCalls();
+            return QByteArray();
+        }
+        const QByteArray path = QFile::encodeName(fileName());
+        ::close(::open(path.constData(), O_RDONLY));
+        return QByteArray("name,Y (cd/m2),x,y\nred,21,0.64,0.33\ngreen,71,0.3,0.6\nblue,7,0.15,0.06\n"
+                          "white,99,0.3127,0.329\n#DIV/0!\n");
+    }
+    bool isThere() const override { return true; }
+    bool hasEnded() const override { return false; }
+    bool isRepeatable() const override { return true; }
+
+    //! Whether there was nothing left when it was read again.
+    bool isRead() const { return m_reads > 1; }
+    //! How many it took to read it.
+    int allocations() const { return m_allocations; }
+
+private:
+    int m_reads = 0;
+    int m_allocations = 0;
+};
 
 } // namespace
 
@@ -293,6 +330,86 @@ void WindowFaultsTest::openingWithoutMemory()
             QCOMPARE(gamutfiles::descriptionText(f.document().own()), shown);
             QVERIFY(f.document().isModified());
         });
+}
+
+// The dialog reads the list again for each choice, in the event loop.
+void WindowFaultsTest::choosingWithoutMemory()
+{
+    QTemporaryDir folder;
+    const QString file = writeFile(folder, QStringLiteral("list.csv"),
+        "name,Y,x,y\nred,21,0.64,0.33\ngreen,71,0.3,0.6\nblue,7,0.15,0.06\nwhite,99,0.3127,0.329\n");
+    ListDialog dialog(file, {}, nullptr);
+    auto *unit = dialog.findChild<QComboBox *>();
+    QVERIFY(dialog.read());
+    const auto choose = [&](int number) {
+        unit->setCurrentIndex(0);
+        failCall("memory", number, folder.path().toLocal8Bit().constData(), 0);
+        unit->setCurrentIndex(1);
+        failCall(nullptr, 0, nullptr, 0);
+    };
+    int failures = 0;
+    for (int number = 1; number < 50; ++number) { // of more than that, which reading makes
+        choose(number);
+        failures += dialog.read() ? 0 : 1;
+        QVERIFY(dialog.read() || dialog.read().error() == QLatin1String("there is not enough memory"));
+    }
+    QVERIFY2(failures > 40, qPrintable(QString::number(failures)));
+    unit->setCurrentIndex(0);
+    unit->setCurrentIndex(1);
+    QVERIFY(dialog.read());
+    QCOMPARE(dialog.read()->measurements.unit, LuminanceUnit::CandelaPerSquareMetre);
+}
+
+void WindowFaultsTest::followingWithoutMemory()
+{
+    QTemporaryDir folder;
+    const QByteArray inFolder = folder.path().toLocal8Bit();
+    const QString path = writeFile(folder, QStringLiteral("list.csv"), former);
+    WindowFixture f;
+    FollowMenu *menu = f.window->followMenu();
+    const auto follow = [&](int number) {
+        auto input = std::make_unique<GivenInput>(path);
+        GivenInput *given = input.get();
+        menu->follow(std::move(input));
+        failCall("memory", number, inFolder.constData(), 0);
+        while (!given->isRead() && !menu->following()->isMemoryShort()) {
+            QCoreApplication::processEvents();
+        }
+        failCall(nullptr, 0, nullptr, 0);
+        return given;
+    };
+    follow(std::numeric_limits<int>::max()); // the first time makes what stays, too
+    const int all = follow(std::numeric_limits<int>::max())->allocations();
+    QVERIFY(all > 50);
+    const QVector<Measurement> whole = menu->following()->latest().list().measurements;
+    QCOMPARE(whole.size(), 4);
+    int failures = 0;
+    for (int number = 1; number <= all; number += 1 + number / 20) {
+        GivenInput *given = follow(number);
+        const Following &following = *menu->following();
+        const QVector<Measurement> kept = following.latest().list().measurements;
+        if (!following.isMemoryShort()) { // it did without
+            QCOMPARE(kept.size(), whole.size());
+            continue;
+        }
+        ++failures;
+        // What it came to before stays, and nothing follows it.
+        Q_EMIT given->arrived();
+        QCoreApplication::processEvents();
+        QVERIFY(!given->isRead());
+        QCOMPARE(following.latest().list().measurements.size(), kept.size());
+        for (const Measurement &measurement : kept) {
+            QVERIFY(measurement.color);
+            const auto isSame = [&measurement](const Measurement &other) {
+                return other.name == measurement.name && other.color->x == measurement.color->x;
+            };
+            QVERIFY(std::any_of(whole.begin(), whole.end(), isSame));
+        }
+    }
+    QVERIFY2(failures > 20, qPrintable(QString::number(failures)));
+    follow(1);
+    QTRY_VERIFY(menu->label()->text().startsWith(
+        QStringLiteral("list.csv is followed no further, as there is not enough memory: ")));
 }
 
 QTEST_MAIN(WindowFaultsTest)

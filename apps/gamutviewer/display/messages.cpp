@@ -4,6 +4,8 @@
 
 #include <gamutfiles/oneline.h>
 
+#include <QCoreApplication>
+
 #include <cstdio>
 
 namespace gamutviewer {
@@ -11,6 +13,11 @@ namespace gamutviewer {
 void printError(const QString &text)
 {
     std::fprintf(stderr, "gamutviewer: %s\n", qPrintable(gamutfiles::oneLine(text)));
+}
+
+QString memoryIsShort()
+{
+    return QCoreApplication::translate("gamutviewer::Messages", "there is not enough memory");
 }
 
 } // namespace gamutviewer

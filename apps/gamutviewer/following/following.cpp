@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
+#include <new>
 #include <numeric>
 
 namespace gamutviewer {
@@ -46,8 +47,10 @@ Following::Following(std::unique_ptr<FollowedInput> input, const MeasurementOpti
     connect(&m_count, &QTimer::timeout, this, &Following::countLines);
     connect(m_input.get(), &FollowedInput::arrived, this, [this] { m_turn.start(0); });
     connect(m_input.get(), &FollowedInput::restarted, this, [this] {
-        begin();
-        m_frame.start();
+        if (!m_isMemoryShort) {
+            begin();
+            m_frame.start();
+        }
     });
     m_count.start();
     m_turn.start(0);
@@ -95,7 +98,21 @@ bool Following::readPiece()
     return false;
 }
 
+//! Of the lines that were being read when memory was short, some may be lost: nothing may be made of what follows them.
 void Following::turn()
+{
+    if (m_isMemoryShort) {
+        return;
+    }
+    try {
+        readLines();
+    } catch (const std::bad_alloc &) {
+        m_isMemoryShort = true;
+        m_frame.stop();
+    }
+}
+
+void Following::readLines()
 {
     QElapsedTimer time;
     time.start();

@@ -50,6 +50,8 @@ public:
     const std::optional<DisplayWall> &wall() const { return m_latest->wall(); }
     /*! \brief Whether the unit has changed, so that what had been measured before was forgotten. */
     bool hasOtherUnit() const { return m_hasOtherUnit; }
+    /*! \brief Whether there was not enough memory to go on: latest() stays what it came to before. */
+    bool isMemoryShort() const { return m_isMemoryShort; }
     /*! \brief How many lines came in the last second. */
     int linesPerSecond() const { return m_linesPerSecond; }
     /*! \brief The most lines that were read in one turn of the event loop. */
@@ -63,6 +65,7 @@ Q_SIGNALS:
 
 private:
     void turn();
+    void readLines();
     void begin();
     bool readPiece();
     void countLines();
@@ -75,6 +78,7 @@ private:
     QTimer m_frame;
     QTimer m_count;
     bool m_isFinished = false;
+    bool m_isMemoryShort = false;
     std::optional<LuminanceUnit> m_unit; // of what was measured last
     bool m_hasOtherUnit = false;
     int m_mostLines = 0;

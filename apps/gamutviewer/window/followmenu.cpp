@@ -102,6 +102,10 @@ QString FollowMenu::progressText() const
     const QString name = shownName(input);
     const QString lines = locale.toString(state.lines);
     const QString notRead = locale.toString(state.notRead);
+    if (m_following->isMemoryShort()) {
+        return tr("%1 is followed no further, as there is not enough memory: %2 lines, %3 not read")
+            .arg(name, lines, notRead);
+    }
     if (input.hasEnded()) {
         return tr("%1 has ended: %2 lines, %3 not read").arg(name, lines, notRead);
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/listdialog.h"
 
+#include "display/messages.h"
 #include "display/valuetexts.h"
 
 #include <QComboBox>
@@ -15,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <new>
 
 namespace gamutviewer {
 
@@ -48,6 +50,16 @@ QString nameOf(const Measurement &measurement)
     return measurement.name.isEmpty()
         ? QStringLiteral("x %1, y %2").arg(fixedText(measurement.color->x, 4), fixedText(measurement.color->y, 4))
         : oneLine(measurement.name);
+}
+
+//! Thrown through the event loop, a lack of memory would end the program, and with it what is open.
+Outcome<GamutFile> readOrFailure(const QString &fileName, const MeasurementOptions &options)
+{
+    try {
+        return readGamutFile(fileName, options);
+    } catch (const std::bad_alloc &) {
+        return Outcome<GamutFile>::failure(memoryIsShort());
+    }
 }
 
 } // namespace
@@ -84,7 +96,7 @@ ListDialog::ListDialog(const QString &fileName, const MeasurementOptions &option
     : QDialog(parent)
     , m_fileName(fileName)
     , m_options(options)
-    , m_read(readGamutFile(fileName, options))
+    , m_read(readOrFailure(fileName, options))
 {
     setWindowTitle(tr("Measurement list"));
     auto *layout = new QVBoxLayout(this);
@@ -166,7 +178,7 @@ void ListDialog::fillCabinets()
     for (MeasurementChoice *choice : {&whole.red, &whole.green, &whole.blue, &whole.white}) {
         *choice = MeasurementChoice();
     }
-    const Outcome<GamutFile> read = m_options.cabinet.isEmpty() ? m_read : readGamutFile(m_fileName, whole);
+    const Outcome<GamutFile> read = m_options.cabinet.isEmpty() ? m_read : readOrFailure(m_fileName, whole);
     const QSignalBlocker blocker(m_cabinet);
     const QVariant before = m_cabinet->count() > 0 ? m_cabinet->currentData() : QVariant(m_options.cabinet);
     m_cabinet->clear();
@@ -240,7 +252,7 @@ void ListDialog::take()
         choiceOf(m_options, vertex) = {std::max(line, 0), QString()};
     }
     m_options.whiteIsSum = choice(Vertex::White)->currentData().toInt() == sumOfPrimaries;
-    m_read = readGamutFile(m_fileName, m_options);
+    m_read = readOrFailure(m_fileName, m_options);
     fillCabinets();
     readAsChosen();
     fillChoices();
@@ -254,7 +266,7 @@ void ListDialog::readAsChosen()
     const bool makesWall = m_cabinet->count() > 2 && m_cabinet->currentData(wallRole).toBool();
     if (m_options.isWall != makesWall) {
         m_options.isWall = makesWall;
-        m_read = readGamutFile(m_fileName, m_options);
+        m_read = readOrFailure(m_fileName, m_options);
     }
 }
 

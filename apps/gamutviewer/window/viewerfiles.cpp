@@ -72,11 +72,6 @@ void print(const QVector<FileWarning> &warnings)
     }
 }
 
-QString memoryIsShort()
-{
-    return ViewerWindow::tr("there is not enough memory");
-}
-
 //! What \a write returns: why it could not. Thrown through the event loop, a lack of memory would end the program, and
 //! with it what is open.
 template <typename Write>
