@@ -351,6 +351,10 @@ void WallAssessmentTest::leftOutCabinetDoesNotCount()
     for (WallCabinet &of : wall.cabinets) {
         of.isLeftOut = true;
     }
+    wall.cabinets[0].isLeftOut = false;
+    QCOMPARE(assessWall(wall, targetOf(500.0)).headline,
+        QStringLiteral("Not known whether the cabinet A1 shows this target; 95 are left out"));
+    wall.cabinets[0].isLeftOut = true;
     const WallAssessment nothing = assessWall(wall, targetOf(1000.0));
     QCOMPARE(nothing.judgement, Judgement::NotKnown);
     QCOMPARE(nothing.headline, QStringLiteral("Nothing is judged: all cabinets are left out"));

@@ -186,7 +186,7 @@ void WallBlacksTest::darkContentOverABrightBlackIsNotJudged()
     const DisplayGamut target = targetOf(500.0);
     const WallAssessment found = assessWall(wall, target);
     QCOMPARE(found.judgement, Judgement::Pass);
-    const QString remark = QStringLiteral("Content that is darker than the target is not judged: at 10.0 % of its "
+    const QString remark = QStringLiteral("Content that is darker than the target is not judged: at a tenth of its "
                                           "luminance, the black of A5 shifts blue by ");
     QVERIFY2(textOf(found).contains(remark), qPrintable(textOf(found)));
     for (const WallLine &line : found.lines) {

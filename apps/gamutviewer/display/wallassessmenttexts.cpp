@@ -363,9 +363,9 @@ QString darkContentText(
             }
         }
     }
-    return worst ? WallText::tr("Content that is darker than the target is not judged: at %1 of its luminance, the "
-                                "black of %2 shifts %3 by Δu′v′ %4.")
-                       .arg(percent(level), cabinetName(wall, *worst), gamutVertexName(shifted), distanceText(most))
+    return worst ? WallText::tr("Content that is darker than the target is not judged: at a tenth of its luminance, "
+                                "the black of %1 shifts %2 by Δu′v′ %3.")
+                       .arg(cabinetName(wall, *worst), gamutVertexName(shifted), distanceText(most))
                  : QString();
 }
 

@@ -206,11 +206,11 @@ private:
               });
         const QString reached = largestText(*white);
         QString text = failing > 0 && isKnownOfAll ? WallText::tr("All others reach a white of %1.").arg(reached)
-            : failing > 0   ? WallText::tr("All others of which it is known reach a white of %1.").arg(reached)
-            : !isKnownOfAll ? WallText::tr("All of which it is known reach a white of %1.").arg(reached)
-            : m_wall.cabinets.size() == 1 ? WallText::tr("It reaches a white of %1.").arg(reached)
-            : !m_leftOut.empty()          ? WallText::tr("All that are not left out reach a white of %1.").arg(reached)
-                                          : WallText::tr("All reach a white of %1.").arg(reached);
+            : failing > 0           ? WallText::tr("All others of which it is known reach a white of %1.").arg(reached)
+            : !isKnownOfAll         ? WallText::tr("All of which it is known reach a white of %1.").arg(reached)
+            : m_counted.size() == 1 ? WallText::tr("It reaches a white of %1.").arg(reached)
+            : !m_leftOut.empty()    ? WallText::tr("All that are not left out reach a white of %1.").arg(reached)
+                                    : WallText::tr("All reach a white of %1.").arg(reached);
         const double wanted = m_target.getTargets().white.Y;
         if (m_result.cabinets[white->cabinet].luminance == Judgement::Pass && isAbove(wanted, white->luminance)) {
             text += QLatin1Char(' ')
@@ -269,27 +269,36 @@ private:
         return WallText::tr("%1; of %2 it is not known", "which cabinets show a target").arg(text).arg(unknown);
     }
 
+    //! \a text, and how many are left out.
+    QString withLeftOut(const QString &text) const
+    {
+        return m_leftOut.empty() ? text
+            : m_leftOut.size() == 1
+            ? WallText::tr("%1; one is left out", "how many cabinets show a target").arg(text)
+            : WallText::tr("%1; %2 are left out", "how many cabinets show a target, and a count")
+                  .arg(text)
+                  .arg(m_leftOut.size());
+    }
+
     //! \a unknown counts those that were measured incompletely as well.
     void headline(const std::vector<std::size_t> &failing, std::size_t unknown)
     {
         const int all = int(m_counted.size() + m_wall.incomplete.size());
         const int fails = int(failing.size());
         QString &text = m_result.headline;
-        if (m_wall.cabinets.size() == 1 && m_counted.size() == 1 && all == 1) {
-            const QString name = cabinetName(m_wall, 0);
-            text = fails > 0  ? WallText::tr("The cabinet %1 does not show this target").arg(name)
-                : unknown > 0 ? WallText::tr("Not known whether the cabinet %1 shows this target").arg(name)
-                              : WallText::tr("The cabinet %1 shows this target").arg(name);
+        if (m_counted.size() == 1 && all == 1) {
+            const QString name = cabinetName(m_wall, m_counted.front());
+            text = withLeftOut(fails > 0 ? WallText::tr("The cabinet %1 does not show this target").arg(name)
+                    : unknown > 0        ? WallText::tr("Not known whether the cabinet %1 shows this target").arg(name)
+                                         : WallText::tr("The cabinet %1 shows this target").arg(name));
         } else if (all == 0) {
             text = WallText::tr("Nothing is judged: all cabinets are left out");
         } else if (fails == 0 && unknown > 0) {
             text = int(unknown) == all ? WallText::tr("Not known whether the cabinets show this target")
                                        : ofUnknown(showText(all - int(unknown), all), unknown);
         } else if (fails == 0) {
-            const int leftOut = int(m_leftOut.size());
-            text = leftOut == 0 ? WallText::tr("All %1 cabinets show this target").arg(all)
-                : leftOut == 1  ? WallText::tr("%1 cabinets show this target; one is left out").arg(all)
-                                : WallText::tr("%1 cabinets show this target; %2 are left out").arg(all).arg(leftOut);
+            text = m_leftOut.empty() ? WallText::tr("All %1 cabinets show this target").arg(all)
+                                     : withLeftOut(WallText::tr("%1 cabinets show this target").arg(all));
         } else if (fails == all) {
             text = WallText::tr("None of the %1 cabinets shows this target").arg(all);
         } else if (fails + int(unknown) == all) {
