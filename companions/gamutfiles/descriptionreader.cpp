@@ -111,10 +111,7 @@ DisplayGamut DescriptionReader::readGamut(const Node &node, PrimariesOf kind)
     }
     warnOfGamut(node, targets, kind);
     DisplayGamut gamut(Model::ColorGamut(name.toStdString(), targets), readUnit(member(node, luminanceUnitKey())));
-    const Node black = member(node, QStringLiteral("black"));
-    if (!black.value.isUndefined()) {
-        gamut.black = readBlack(black);
-    }
+    readBlack(node, gamut.black, gamut.blackLuminance);
     return gamut;
 }
 

@@ -46,7 +46,8 @@ private:
     IncompleteCabinet readIncomplete(const Node &node);
     std::optional<Model::GridPosition> readPosition(const Node &node);
     Model::Target readMeasured(const Node &node);
-    Model::Target readBlack(const Node &node);
+    //! Reads the member "black" of \a parent: with a chromaticity as \a black, and its \a luminance alone without.
+    void readBlack(const Node &parent, std::optional<Model::Target> &black, std::optional<double> &luminance);
 
     DisplayDescription m_description;
     QHash<QString, int> m_places; //!< DisplayDescription::gamutPlaces() of what has been read

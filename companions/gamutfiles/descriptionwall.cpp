@@ -112,10 +112,6 @@ WallCabinet DescriptionReader::readCabinet(const Node &node)
                 {QStringLiteral("leftOut"), false}})) {
         return cabinet;
     }
-    const auto optional = [&node](const QString &key, auto read) {
-        const Node found = member(node, key);
-        return found.value.isUndefined() ? std::nullopt : std::make_optional(read(found));
-    };
     const auto color = [this](const Node &of) { return readMeasured(of); };
     cabinet.name = readString(member(node, QStringLiteral("name")));
     if (const auto position = readPosition(node)) {
@@ -125,8 +121,11 @@ WallCabinet DescriptionReader::readCabinet(const Node &node)
     cabinet.red = color(member(node, QStringLiteral("red")));
     cabinet.green = color(member(node, QStringLiteral("green")));
     cabinet.blue = color(member(node, QStringLiteral("blue")));
-    cabinet.white = optional(QStringLiteral("white"), color);
-    cabinet.black = optional(QStringLiteral("black"), [this](const Node &of) { return readBlack(of); });
+    const Node white = member(node, QStringLiteral("white"));
+    if (!white.value.isUndefined()) {
+        cabinet.white = color(white);
+    }
+    readBlack(node, cabinet.black, cabinet.blackLuminance);
     const Node leftOut = member(node, QStringLiteral("leftOut"));
     cabinet.isLeftOut = checkType(leftOut, QJsonValue::Bool) && leftOut.value.toBool();
     return cabinet;
@@ -138,15 +137,31 @@ Model::Target DescriptionReader::readMeasured(const Node &node)
     return readTarget(node, PrimariesOf::Display, chromaticityRounding);
 }
 
-//! Where there is no light there is no chromaticity.
-Model::Target DescriptionReader::readBlack(const Node &node)
+//! Where there is no light there is no chromaticity, and where there is little it may not be known.
+void DescriptionReader::readBlack(
+    const Node &parent, std::optional<Model::Target> &black, std::optional<double> &luminance)
 {
-    const auto is = [&node](const char *key) { return !member(node, QString::fromLatin1(key)).value.isUndefined(); };
-    if (is("x") || is("y") || readNumber(member(node, QStringLiteral("Y"))) != 0.0) {
-        return readMeasured(node);
+    const Node node = member(parent, QStringLiteral("black"));
+    if (node.value.isUndefined()) {
+        return;
     }
-    checkObject(node, {{QStringLiteral("Y"), true}});
-    return Model::Target();
+    const auto is = [&node](const char *key) { return !member(node, QString::fromLatin1(key)).value.isUndefined(); };
+    if (is("x") || is("y")) {
+        black = readMeasured(node);
+        return;
+    }
+    if (!checkObject(node, {{QStringLiteral("Y"), true}})) {
+        return;
+    }
+    const Node Y = member(node, QStringLiteral("Y"));
+    const double value = readNumber(Y);
+    if (value < 0.0) {
+        fail(Y, tr("luminance must not be negative"));
+    } else if (value > 0.0) {
+        luminance = value;
+    } else {
+        black = Model::Target();
+    }
 }
 
 } // namespace gamutfiles

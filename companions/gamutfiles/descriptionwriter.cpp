@@ -25,13 +25,15 @@ void insertText(QJsonObject &object, const QString &key, const QString &text)
     }
 }
 
-//! Where there is no light there is no chromaticity.
-void insertBlack(QJsonObject &object, const std::optional<Model::Target> &black)
+//! Where there is no light there is no chromaticity, and where there is little it may not be known.
+void insertBlack(QJsonObject &object, const std::optional<Model::Target> &black, const std::optional<double> &luminance)
 {
-    if (black) {
-        const bool hasNoLight = black->Y == 0.0 && black->x == 0.0 && black->y == 0.0;
-        object.insert(
-            QStringLiteral("black"), hasNoLight ? QJsonObject{{QStringLiteral("Y"), black->Y}} : colorObject(*black));
+    const QString key = QStringLiteral("black");
+    const bool hasNoLight = black && black->Y == 0.0 && black->x == 0.0 && black->y == 0.0;
+    if (black && !hasNoLight) {
+        object.insert(key, colorObject(*black));
+    } else if (black || luminance) {
+        object.insert(key, QJsonObject{{QStringLiteral("Y"), black ? black->Y : *luminance}});
     }
 }
 
@@ -41,7 +43,7 @@ QJsonObject gamutObject(const DisplayGamut &gamut)
     QJsonObject object{{QStringLiteral("name"), nameOf(gamut)}, {QStringLiteral("red"), colorObject(targets.red)},
         {QStringLiteral("green"), colorObject(targets.green)}, {QStringLiteral("blue"), colorObject(targets.blue)},
         {QStringLiteral("white"), colorObject(targets.white)}};
-    insertBlack(object, gamut.black);
+    insertBlack(object, gamut.black, gamut.blackLuminance);
     insertText(object, luminanceUnitKey(), luminanceUnitName(gamut.unit));
     return object;
 }
@@ -58,7 +60,7 @@ QJsonObject cabinetObject(const WallCabinet &cabinet)
     if (cabinet.white) {
         object.insert(QStringLiteral("white"), colorObject(*cabinet.white));
     }
-    insertBlack(object, cabinet.black);
+    insertBlack(object, cabinet.black, cabinet.blackLuminance);
     if (cabinet.isLeftOut) {
         object.insert(QStringLiteral("leftOut"), true);
     }

@@ -46,6 +46,14 @@ bool sameBlacks(const std::optional<Model::Target> &a, const std::optional<Model
     return a && b ? a->Y == b->Y && a->x == b->x && a->y == b->y : a.has_value() == b.has_value();
 }
 
+DisplayGamut DisplayGamut::renamed(const QString &name) const
+{
+    DisplayGamut result(Model::ColorGamut(name.toStdString(), getTargets()), unit);
+    result.black = black;
+    result.blackLuminance = blackLuminance;
+    return result;
+}
+
 std::optional<DisplayGamut> DisplayDescription::gamut(const QString &gamutName) const
 {
     const DisplayGamut *own = ownGamut(gamutName);

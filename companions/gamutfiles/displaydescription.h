@@ -49,6 +49,9 @@ public:
     {
     }
 
+    /*! \brief The same under another name, which is stored as UTF-8. */
+    GAMUTFILES_EXPORT DisplayGamut renamed(const QString &name) const;
+
     LuminanceUnit unit = LuminanceUnit::NotKnown; //!< of all luminances
     /*!
      * \brief The light at drive 0 of the display that the gamut is of; nothing where it was not measured.
@@ -56,6 +59,11 @@ public:
      * It is in each of the four colours as well. A black whose Y is 0 has no light, whatever its x and y.
      */
     std::optional<Model::Target> black;
+    /*!
+     * \brief The luminance at drive 0, above 0, where its chromaticity is not known, as it can be too dark to measure
+     * it; nothing where there is a black.
+     */
+    std::optional<double> blackLuminance;
 };
 
 /*! \brief Whether both blacks are not known, or have the same Y, x and y. */

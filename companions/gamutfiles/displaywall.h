@@ -26,6 +26,10 @@ struct WallCabinet {
     Model::Target blue; //!< the blue primary at full drive
     std::optional<Model::Target> white; //!< all three at full drive; nothing where it was not measured
     std::optional<Model::Target> black; //!< the light at drive 0; nothing where it was not measured
+    /*!
+     * \brief The luminance at drive 0, above 0, where its chromaticity is not known; nothing where there is a black.
+     */
+    std::optional<double> blackLuminance;
     bool isLeftOut = false; //!< whether the wall is judged without it, by the wish of its owner
 
     /*! \brief How people call it: its name, row and column as "3/4", or both, "A 3/4". */

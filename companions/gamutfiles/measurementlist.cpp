@@ -63,6 +63,16 @@ Model::Target sum(const Model::Targets &targets)
     return all > 0.0 ? Model::Target::fromYxy(Y, X / all, Y / all) : Model::Target();
 }
 
+//! Nothing without a black that has a luminance.
+std::optional<double> brightestBlack(const MeasurementList &list)
+{
+    double most = 0.0;
+    for (const Measurement &measurement : list.measurements) {
+        most = measurement.part == MeasurementPart::Black ? std::max(most, measurement.luminance) : most;
+    }
+    return most > 0.0 ? std::make_optional(most) : std::nullopt;
+}
+
 std::optional<Model::Targets> gamutTargets(const MeasurementList &list)
 {
     if (!hasOneCabinet(list.measurements)) {
@@ -89,6 +99,9 @@ std::optional<DisplayGamut> MeasurementList::gamut(const QString &gamutName) con
     DisplayGamut result({gamutName.toStdString(), *targets}, unit);
     if (const auto measured = black()) {
         result.black = lightOfBlack(*measured);
+        result.blackLuminance = luminanceOfBlack(*measured);
+    } else {
+        result.blackLuminance = brightestBlack(*this); // of several, which is right is not known
     }
     return result;
 }

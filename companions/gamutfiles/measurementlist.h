@@ -87,7 +87,7 @@ struct MeasurementList {
      *
      * Nothing unless red, green, blue and white are there once each, with chromaticities, and the primaries span a
      * triangle; the white may be missing with whiteIsSum. Nothing for a list of several cabinets. It has the black that
-     * was measured: black() with its chromaticity, or without light.
+     * was measured: black() with its chromaticity, or without light; otherwise the luminance of the brightest.
      */
     GAMUTFILES_EXPORT std::optional<DisplayGamut> gamut(const QString &gamutName) const;
     /*! \brief The measurements that gamut() does not use: all of them when there is no gamut. */

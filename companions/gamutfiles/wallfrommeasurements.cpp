@@ -139,18 +139,17 @@ void addUnnamed(DisplayWall &wall, int count, QSet<QString> labels)
     }
 }
 
-std::optional<Model::Target> blackOf(const Colors &colors)
-{
-    const Measurement *black = colors[MeasurementPart::Black];
-    return black ? lightOfBlack(*black) : std::nullopt;
-}
-
 } // namespace
 
 // Where there is no light, nothing has a chromaticity.
 std::optional<Model::Target> lightOfBlack(const Measurement &black)
 {
     return !black.color && black.luminance == 0.0 ? std::make_optional(Model::Target()) : black.color;
+}
+
+std::optional<double> luminanceOfBlack(const Measurement &black)
+{
+    return !black.color && black.luminance > 0.0 ? std::make_optional(black.luminance) : std::nullopt;
 }
 
 Outcome<DisplayWall> wallFromMeasurements(const MeasurementList &list)
@@ -211,8 +210,11 @@ Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets
         if (const Measurement *white = colors[MeasurementPart::White]) {
             cabinet.white = white->color;
         }
-        cabinet.black = blackOf(colors);
-        if (colors[MeasurementPart::Black] && !cabinet.black) {
+        if (const Measurement *black = colors[MeasurementPart::Black]) {
+            cabinet.black = lightOfBlack(*black);
+            cabinet.blackLuminance = luminanceOfBlack(*black);
+        }
+        if (cabinet.blackLuminance) {
             withoutBlack.add(label);
         }
         wall.cabinets.push_back(cabinet);
@@ -237,7 +239,8 @@ Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets
                  .arg(ambiguous.text()));
     }
     if (!withoutBlack.isEmpty()) {
-        warn(WallText::tr("cabinets whose black is not used, as it has no chromaticity: %1").arg(withoutBlack.text()));
+        warn(WallText::tr("cabinets whose black does not count in corrections, as it has no chromaticity: %1")
+                 .arg(withoutBlack.text()));
     }
     if (!hasPlaces) {
         warn(WallText::tr(

@@ -12,6 +12,8 @@ namespace gamutfiles {
 Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets, LuminanceUnit unit);
 /*! \brief The light of a measured \a black: none where its luminance is 0; nothing where it has no chromaticity. */
 std::optional<Model::Target> lightOfBlack(const Measurement &black);
+/*! \brief The luminance above 0 of a measured \a black that has no chromaticity; nothing otherwise. */
+std::optional<double> luminanceOfBlack(const Measurement &black);
 
 } // namespace gamutfiles
 

@@ -21,11 +21,26 @@ private Q_SLOTS:
     void blackThatKeepsACabinetOff();
     void blackThatIsNotSeen();
     void blackThatWasNotMeasured();
+    void blackWithoutChromaticity();
     void colorsOutsideAreToldOverTheBlack();
     void darkContentOverABrightBlackIsNotJudged();
     void blackTooBrightForAnyTarget();
     void fittedTargetPassesOverBlacks();
 };
+
+namespace {
+
+//! Primaries that are the cabinets' own, so that any black keeps them off.
+DisplayGamut wantedAsShown()
+{
+    Model::Targets of = Model::rec2020().getTargets();
+    for (Model::Target *t : {&of.red, &of.green, &of.blue, &of.white}) {
+        *t = color(t->Y * 500.0, t->x, t->y);
+    }
+    return {Model::ColorGamut("Wanted", of), cd};
+}
+
+} // namespace
 
 void WallBlacksTest::blacksAreCorrected()
 {
@@ -108,11 +123,7 @@ void WallBlacksTest::blackThatIsNotSeen()
 
 void WallBlacksTest::blackThatWasNotMeasured()
 {
-    Model::Targets of = Model::rec2020().getTargets(); // the cabinets' own
-    for (Model::Target *t : {&of.red, &of.green, &of.blue, &of.white}) {
-        *t = color(t->Y * 500.0, t->x, t->y);
-    }
-    const DisplayGamut target{Model::ColorGamut("Wanted", of), cd};
+    const DisplayGamut target = wantedAsShown();
     DisplayWall wall = wallOf(1);
     QCOMPARE(assessWall(wall, target).judgement, Judgement::Pass); // none was measured
     for (WallCabinet &cabinet : wall.cabinets) {
@@ -123,7 +134,7 @@ void WallBlacksTest::blackThatWasNotMeasured()
     const WallAssessment found = assessWall(wall, target);
     QCOMPARE(found.cabinets[4].judgement, Judgement::NotKnown);
     QCOMPARE(found.brightestBlack, std::make_optional(std::size_t(7)));
-    QCOMPARE(found.cabinets[4].offByBlackOfOther, found.cabinets[7].offByBlack); // they are alike otherwise
+    QCOMPARE(found.cabinets[4].offByPossibleBlack, found.cabinets[7].offByBlack); // they are alike otherwise
     QCOMPARE(found.cabinets[4].offByBlack, (std::array<double, 4>{}));
     const QString text = cabinetText(wall, target, found, 4);
     QVERIFY2(text.startsWith(QStringLiteral("A5: its black was not measured, and one as bright as that of A8 keeps it "
@@ -145,6 +156,40 @@ void WallBlacksTest::blackThatWasNotMeasured()
         cabinet.black = color(0.02, 0.31, 0.33);
     }
     wall.cabinets[4].black.reset();
+    QCOMPARE(assessWall(wall, target).judgement, Judgement::Pass);
+}
+
+void WallBlacksTest::blackWithoutChromaticity()
+{
+    const DisplayGamut target = wantedAsShown();
+    DisplayWall wall = wallOf(1);
+    wall.cabinets[4].blackLuminance = 3.0;
+    const WallAssessment found = assessWall(wall, target);
+    QCOMPARE(found.cabinets[4].judgement, Judgement::NotKnown);
+    QString text = cabinetText(wall, target, found, 4);
+    QVERIFY2(text.startsWith(QStringLiteral("A5: the chromaticity of its black is not known, and one of this luminance "
+                                            "can keep it off red by Δu′v′ ")),
+        qPrintable(text));
+    // It is not known to be better than with any black that it is judged by.
+    const WallCabinet &of = wall.cabinets[4];
+    for (const Model::Target &chromaticity : {of.red, of.green, of.blue, color(3.0, 0.31, 0.33)}) {
+        DisplayWall known = wall;
+        known.cabinets[4].blackLuminance.reset();
+        known.cabinets[4].black = color(3.0, chromaticity.x, chromaticity.y);
+        const auto &off = assessWall(known, target).cabinets[4].offByBlack;
+        for (std::size_t i = 0; i < off.size(); ++i) {
+            QVERIFY(found.cabinets[4].offByPossibleBlack[i] >= off[i]);
+        }
+    }
+    // Of the others nothing was measured, and their blacks may be as bright as that.
+    QCOMPARE(found.brightestBlack, std::make_optional(std::size_t(4)));
+    text = cabinetText(wall, target, found, 3);
+    QVERIFY2(text.startsWith(QStringLiteral("A4: its black was not measured, and one as bright as that of A5 keeps it "
+                                            "off red by Δu′v′ ")),
+        qPrintable(text));
+    wall.cabinets[4].blackLuminance = 1000.0; // more than a primary: no drive takes that away
+    QCOMPARE(assessWall(wall, target).cabinets[4].judgement, Judgement::NotKnown);
+    wall.cabinets[4].blackLuminance = 0.02; // too dark to be seen
     QCOMPARE(assessWall(wall, target).judgement, Judgement::Pass);
 }
 

@@ -192,6 +192,22 @@ void WallReportsTest::blackOfADisplayAndOfAWall()
     const auto second = gamutfiles::readCorrectionsFile(path("wall.json"));
     QVERIFY(first && second && first->cabinets[0].matrix && second->cabinets[0].matrix);
     QVERIFY(first->cabinets[0].matrix->rows == second->cabinets[0].matrix->rows);
+    // Without a chromaticity it is not known how much it counts; measured twice, it is not known which of them is
+    // right.
+    for (const char *black : {"A1,1,1,black,,,8\n", "A1,1,1,black,0.31,0.33,0.1\nA1,1,1,black,0.31,0.33,8\n"}) {
+        write("one.csv", one + black);
+        const Result unknown = run({"stage.json", "one.csv", "--check"});
+        QCOMPARE(unknown.exitCode, 4);
+        QVERIFY2(
+            unknown.output.contains("not known: Whether the black of the measured gamut keeps it off the target is "
+                                    "not known: its chromaticity is not known, and one of this luminance can "
+                                    "keep it off red by "),
+            unknown.output);
+    }
+    write("one.csv", one + "A1,1,1,black,,,8\n");
+    QCOMPARE(run({"stage.json", "--wall", "one.csv", "--check"}).exitCode, 4);
+    write("one.csv", one + "A1,1,1,black,,,0.002\n"); // too dark to be seen
+    QCOMPARE(run({"stage.json", "one.csv", "--check"}).exitCode, 0);
 }
 
 // Nobody needs a white for a wall, however small.

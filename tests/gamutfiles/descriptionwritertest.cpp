@@ -59,7 +59,7 @@ bool same(const DisplayWall &a, const DisplayWall &b)
             [](const WallCabinet &p, const WallCabinet &q) {
                 return p.name == q.name && p.row == q.row && p.column == q.column && same(p.red, q.red)
                     && same(p.green, q.green) && same(p.blue, q.blue) && same(p.white, q.white)
-                    && same(p.black, q.black) && p.isLeftOut == q.isLeftOut;
+                    && same(p.black, q.black) && p.blackLuminance == q.blackLuminance && p.isLeftOut == q.isLeftOut;
             })
         && std::equal(a.incomplete.begin(), a.incomplete.end(), b.incomplete.begin(), b.incomplete.end(),
             [](const IncompleteCabinet &p, const IncompleteCabinet &q) {

@@ -473,11 +473,12 @@ void DisplayDescriptionTest::readsTheWall()
     const auto read = readDescription(described(R"({"luminanceUnit": "cd/m2", "cabinets": [{"name": "A1", )" + colors
         + R"(}, {"row": 2, "column": -3, "white": {"Y": 1000, "x": 0.31, "y": 0.33}, "black": {"Y": 0.1, "x": 0.3,
             "y": 0.2}, )"
-        + colors + R"(}, {"name": "A1", "row": 0, "column": 1, "black": {"Y": 0}, )" + colors + "}]}"));
+        + colors + R"(}, {"name": "A1", "row": 0, "column": 1, "black": {"Y": 0}, )" + colors
+        + R"(}, {"name": "B", "black": {"Y": 0.1}, )" + colors + "}]}"));
     QVERIFY2(read, qPrintable(read.error()));
     const DisplayWall &wall = read->wall;
     QVERIFY(wall.unit == LuminanceUnit::CandelaPerSquareMetre);
-    QCOMPARE(wall.cabinets.size(), std::size_t(3));
+    QCOMPARE(wall.cabinets.size(), std::size_t(4));
     QCOMPARE(wall.cabinets[0].label(), QStringLiteral("A1"));
     QVERIFY(!wall.cabinets[0].row && !wall.cabinets[0].column);
     QVERIFY(!wall.cabinets[0].white && !wall.cabinets[0].black);
@@ -489,6 +490,8 @@ void DisplayDescriptionTest::readsTheWall()
     QVERIFY(isExactly(*wall.cabinets[1].black, 0.1, 0.3, 0.2));
     QCOMPARE(wall.cabinets[2].label(), QStringLiteral("A1 0/1"));
     QVERIFY(isExactly(*wall.cabinets[2].black, 0.0, 0.0, 0.0));
+    QVERIFY(!wall.cabinets[1].blackLuminance && !wall.cabinets[2].blackLuminance && !wall.cabinets[3].black);
+    QCOMPARE(wall.cabinets[3].blackLuminance, std::make_optional(0.1));
     QVERIFY(readDescription(described(R"({"cabinets": []})")));
     // What the assessment of the wall names, and what the rounding of u', v' takes.
     QCOMPARE(messageFor(withCabinets(
@@ -543,8 +546,10 @@ void DisplayDescriptionTest::refusedWalls_data()
         "f: wall.cabinets[0].green.y: y must be greater than 0");
     row("beyond the rounding", withCabinets({QByteArray(a).replace("0.7,", "0.7006,")}),
         "f: wall.cabinets[0].red: x + y must not exceed 1");
-    row("black without chromaticity", withCabinets({a + ", \"black\": {\"Y\": 0.1}"}),
+    row("black with half a chromaticity", withCabinets({a + ", \"black\": {\"Y\": 0.1, \"y\": 0.3}"}),
         "f: wall.cabinets[0].black.x: missing");
+    row("black below 0", withCabinets({a + ", \"black\": {\"Y\": -0.1}"}),
+        "f: wall.cabinets[0].black.Y: luminance must not be negative");
     row("black without anything", withCabinets({a + ", \"black\": {}"}), "f: wall.cabinets[0].black.Y: missing");
     row("odd black", withCabinets({a + ", \"black\": {\"Y\": 0, \"z\": 1}"}),
         "f: wall.cabinets[0].black.z: unknown key");

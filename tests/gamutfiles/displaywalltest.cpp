@@ -141,9 +141,10 @@ void DisplayWallTest::blackWithoutChromaticity()
     QVERIFY2(wall, qPrintable(wall.error()));
     QCOMPARE(wall->cabinets.size(), std::size_t(2));
     QVERIFY(wall->cabinets[0].black && isExactly(*wall->cabinets[0].black, 0.0, 0.0, 0.0));
-    QVERIFY(!wall->cabinets[1].black);
-    QCOMPARE(
-        messages(wall.warnings()), QStringList{"cabinets whose black is not used, as it has no chromaticity: grey"});
+    QVERIFY(!wall->cabinets[0].blackLuminance && !wall->cabinets[1].black);
+    QCOMPARE(wall->cabinets[1].blackLuminance, std::make_optional(0.1));
+    QCOMPARE(messages(wall.warnings()),
+        QStringList{"cabinets whose black does not count in corrections, as it has no chromaticity: grey"});
 }
 
 void DisplayWallTest::incompleteCabinetsKeepTheirPlaces()

@@ -238,6 +238,7 @@ void MeasurementListTest::spreadsheets()
     QVERIFY(list->black());
     QCOMPARE(list->black()->luminance, 0.003);
     QVERIFY(!gamut->black); // it has no chromaticity
+    QCOMPARE(gamut->blackLuminance, std::make_optional(0.003));
 }
 
 void MeasurementListTest::blackIsKeptWithTheGamut()

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <vector>
 
 namespace gamutviewer {
 
@@ -52,25 +53,55 @@ std::optional<Model::Target> shownWithoutLimit(
     return shownWithoutLimit(display, correction, contentOf(vertex));
 }
 
-std::array<double, 4> offByBlack(const Model::Cabinet &cabinet, const Model::CorrectionMatrix &correction,
-    const Model::Targets &target, const std::array<double, 4> &outside)
+std::array<double, 4> offByBlack(const Model::Cabinet &cabinet,
+    const std::optional<Model::CorrectionMatrix> &correction, const Model::Targets &target,
+    const std::array<double, 4> &outside)
 {
     std::array<double, 4> off{};
     std::optional<Model::DisplayDrive> display;
     for (const Vertex vertex : ceiechart::allGamutVertices) {
-        if (outside[std::size_t(vertex)] > 0.0 || !Model::isOutside(correction.driveFor(contentOf(vertex)))) {
+        if (outside[std::size_t(vertex)] > 0.0) {
+            continue;
+        }
+        if (!correction) {
+            off[std::size_t(vertex)] = std::numeric_limits<double>::infinity();
+            continue;
+        }
+        if (!Model::isOutside(correction->driveFor(contentOf(vertex)))) {
             continue;
         }
         if (!display) {
             display.emplace(cabinet.colors, cabinet.black);
         }
-        const auto shown = shownWithoutLimit(*display, correction, vertex);
+        const auto shown = shownWithoutLimit(*display, *correction, vertex);
         const auto difference = shown ? Model::uvDifference(*shown, ceiechart::targetAt(target, vertex)) : std::nullopt;
         if (!difference || *difference > visibleUv) {
             off[std::size_t(vertex)] = difference.value_or(std::numeric_limits<double>::infinity());
         }
     }
     return off;
+}
+
+std::array<double, 4> offByBlackOfLuminance(
+    const Model::Cabinet &cabinet, double luminance, const Model::Targets &target, const std::array<double, 4> &outside)
+{
+    const Model::Targets &colors = cabinet.colors;
+    std::vector<Model::Cabinet> blackened;
+    const auto white = Model::DisplayDrive(colors, std::nullopt).lightAt({1.0, 1.0, 1.0});
+    for (const Model::Target &of : {colors.red, colors.green, colors.blue, white.value_or(colors.green)}) {
+        blackened.push_back(cabinet);
+        blackened.back().black = Model::Target::fromYxy(luminance, of.x, of.y);
+    }
+    const Model::WallCorrection solved = Model::wallCorrection(blackened, target, target.white.Y);
+    std::array<double, 4> most{};
+    if (solved.fault == Model::WallFault::None) {
+        for (std::size_t i = 0; i < blackened.size(); ++i) {
+            const auto off = offByBlack(blackened[i], solved.corrections[i].matrix, target, outside);
+            std::transform(off.begin(), off.end(), most.begin(), most.begin(),
+                [](double one, double other) { return std::max(one, other); });
+        }
+    }
+    return most;
 }
 
 } // namespace gamutviewer

@@ -43,9 +43,19 @@ std::optional<Model::Target> shownWithoutLimit(
  * in Δu′v′, in the order of ceiechart::GamutVertex; 0 if by no more than visibleUv, infinite where it is not known.
  *
  * Of colours inside of its gamut, those that have 0 in \a outside, a drive below 0 is there for the black only. Others
- * are not counted, nor are drives above 1.
+ * are not counted, nor are drives above 1. Without a \a correction, as of a cabinet whose black is as bright as a
+ * primary, it is not known how far.
  */
-std::array<double, 4> offByBlack(const Model::Cabinet &cabinet, const Model::CorrectionMatrix &correction,
+std::array<double, 4> offByBlack(const Model::Cabinet &cabinet,
+    const std::optional<Model::CorrectionMatrix> &correction, const Model::Targets &target,
+    const std::array<double, 4> &outside);
+
+/*!
+ * \brief The largest of offByBlack() for the blacks that \a cabinet may have: of that \a luminance, with the
+ * chromaticities of its primaries and of what they mix to. A black of an LED screen, which is light of its own LEDs or
+ * light that it reflects, is hardly more saturated. 0 where \a target is not one to correct for.
+ */
+std::array<double, 4> offByBlackOfLuminance(const Model::Cabinet &cabinet, double luminance,
     const Model::Targets &target, const std::array<double, 4> &outside);
 
 } // namespace gamutviewer

@@ -249,10 +249,17 @@ private:
         const DisplayGamut &display = m_current->display.gamut;
         const Model::Targets &target = m_target->getTargets();
         const Model::Cabinet cabinet{display.getTargets(), display.black, std::nullopt};
-        const Model::WallCorrection solved = Model::wallCorrection({cabinet}, target, target.white.Y);
+        std::array<double, 4> outside{};
+        for (const Vertex primary : primaries) {
+            outside[std::size_t(primary)] = distanceOutside(target, primary, display.getTargets());
+        }
+        if (display.blackLuminance) {
+            judgePossibleBlack(offByBlackOfLuminance(cabinet, *display.blackLuminance, target, outside));
+        }
         if (!display.black || !(display.black->Y > 0.0)) {
             return;
         }
+        const Model::WallCorrection solved = Model::wallCorrection({cabinet}, target, target.white.Y);
         if (!solved.corrections.front().matrix) {
             add(Subject::Luminance, Judgement::NotKnown,
                 AssessmentText::tr("Whether the black of the %1 keeps it off the target is not known: the primaries "
@@ -260,16 +267,12 @@ private:
                     .arg(displayName(m_current->display)));
             return;
         }
-        std::array<double, 4> outside{};
-        for (const Vertex primary : primaries) {
-            outside[std::size_t(primary)] = distanceOutside(target, primary, display.getTargets());
-        }
-        const auto off = offByBlack(cabinet, *solved.corrections.front().matrix, target, outside);
+        const auto off = offByBlack(cabinet, solved.corrections.front().matrix, target, outside);
         const QString colors = offByBlackText(off);
         if (colors.isEmpty()) {
             return;
         }
-        const auto vertex = Vertex(std::max_element(off.begin(), off.end()) - off.begin());
+        const Vertex vertex = farthest(off);
         const QString name = displayName(m_current->display);
         if (isAdditive) {
             add(Subject::Luminance, Judgement::Fail,
@@ -286,6 +289,26 @@ private:
                     .arg(name, colors),
                 vertex, handleName(vertex));
         }
+    }
+
+    static Vertex farthest(const std::array<double, 4> &off)
+    {
+        return Vertex(std::max_element(off.begin(), off.end()) - off.begin());
+    }
+
+    //! \a off is how far the target is kept off by a black that the display may have.
+    void judgePossibleBlack(const std::array<double, 4> &off)
+    {
+        const QString colors = offByBlackText(off);
+        if (colors.isEmpty()) {
+            return;
+        }
+        add(Subject::Luminance, Judgement::NotKnown,
+            AssessmentText::tr("Whether the black of the %1 keeps it off the target is not known: its chromaticity is "
+                               "not known, and one of this luminance can keep it off %2. Measure it.",
+                "gamut, colours and distances")
+                .arg(displayName(m_current->display), colors),
+            farthest(off), handleName(farthest(off)));
     }
 
     void addOfWhite(Judgement judgement, const QString &text)

@@ -62,10 +62,11 @@ struct CabinetAssessment {
      */
     std::array<double, 4> offByBlack{};
     /*!
-     * \brief The same with the black WallAssessment::brightestBlack, of a cabinet whose own was not measured. Where it
-     * is not 0, it is not known whether the cabinet shows the target.
+     * \brief The same with a black that it may have, where its own is not known: one of its
+     * WallCabinet::blackLuminance, or without that, one as bright as WallAssessment::brightestBlack. Where it is not 0,
+     * it is not known whether the cabinet shows the target.
      */
-    std::array<double, 4> offByBlackOfOther{};
+    std::array<double, 4> offByPossibleBlack{};
     /*!
      * \brief The largest luminance of the target's white, in the unit of the wall. Nothing where it is not known.
      *
@@ -109,7 +110,7 @@ struct WallAssessment {
      */
     std::vector<std::size_t> worstFirst;
     bool luminancesCompare = false; //!< whether those of wall and target are both in cd/m²
-    /*! \brief The cabinet with the brightest measured black of those that count; nothing where none was measured. */
+    /*! \brief The cabinet whose black has the most luminance of those that count; nothing where none was measured. */
     std::optional<std::size_t> brightestBlack;
     bool isReachKnownOfAll = false; //!< whether CabinetAssessment::largestWhite is known of all cabinets that count
     /*! \brief What the cabinets have in common that count and whose gamut is known. */

@@ -214,13 +214,17 @@ QString cabinetText(
                 "colours and distances")
                 .arg(offByBlack));
     }
-    const QString offByOther = offByBlackText(cabinet.offByBlackOfOther);
-    if (!offByOther.isEmpty() && assessment.brightestBlack) {
-        parts.append(
-            WallText::tr("its black was not measured, and one as bright as that of %1 keeps it off %2: measure "
-                         "it",
-                "name of a cabinet, colours and distances")
-                .arg(cabinetName(wall, *assessment.brightestBlack), offByOther));
+    const QString offByPossible = offByBlackText(cabinet.offByPossibleBlack);
+    if (!offByPossible.isEmpty()) {
+        parts.append(of.blackLuminance
+                ? WallText::tr("the chromaticity of its black is not known, and one of this luminance can keep it off "
+                               "%1: measure it",
+                    "colours and distances")
+                      .arg(offByPossible)
+                : WallText::tr("its black was not measured, and one as bright as that of %1 keeps it off %2: measure "
+                               "it",
+                    "name of a cabinet, colours and distances")
+                      .arg(cabinetName(wall, *assessment.brightestBlack), offByPossible));
     }
     const QString fault = faultText(correction);
     if (!fault.isEmpty()) {
@@ -333,7 +337,7 @@ QString offSumText(const DisplayWall &wall, const WallAssessment &assessment, co
 QString darkContentText(
     const DisplayWall &wall, const WallAssessment &assessment, const std::vector<std::size_t> &cabinets)
 {
-    constexpr double level = 0.1;
+    constexpr double level = 0.1; // as the text says
     if (assessment.correction.fault != Model::WallFault::None) {
         return QString();
     }

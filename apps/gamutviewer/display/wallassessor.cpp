@@ -249,34 +249,57 @@ private:
         }
     }
 
-    //! Sets offByBlackOfOther, where some blacks are known and others are not: those may be as bright.
+    std::optional<double> blackLuminance(std::size_t i) const
+    {
+        const auto &black = m_cabinets[i].black;
+        return black ? std::make_optional(black->Y) : m_wall.cabinets[i].blackLuminance;
+    }
+
+    //! Sets offByPossibleBlack. Where some blacks were measured and others were not, those may be as bright.
     void compareBlacks()
     {
+        std::optional<double> most;
         for (const std::size_t i : m_counted) {
-            const auto &black = m_cabinets[i].black;
-            auto &brightest = m_result.brightestBlack;
-            if (black && (!brightest || black->Y > m_cabinets[*brightest].black->Y)) {
-                brightest = i;
+            const auto luminance = blackLuminance(i);
+            if (luminance && (!most || *luminance > *most)) {
+                most = luminance;
+                m_result.brightestBlack = i;
             }
         }
-        if (!m_result.brightestBlack || !hasLuminance()) {
+        if (!hasLuminance()) {
             return;
         }
+        const bool isBrightestKnown = most && m_cabinets[*m_result.brightestBlack].black;
+        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
+            CabinetAssessment &result = m_result.cabinets[i];
+            const auto luminance = m_wall.cabinets[i].blackLuminance;
+            if (!m_cabinets[i].black && result.isAdditive && (luminance || (most && !isBrightestKnown))) {
+                result.offByPossibleBlack
+                    = offByBlackOfLuminance(m_cabinets[i], luminance.value_or(*most), target(), result.outside);
+            }
+        }
+        if (isBrightestKnown) {
+            compareWithBrightestBlack();
+        }
+    }
+
+    void compareWithBrightestBlack()
+    {
         std::vector<std::size_t> without;
         std::vector<Model::Cabinet> blackened;
         for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
-            if (!m_cabinets[i].black) {
+            if (!blackLuminance(i)) {
                 without.push_back(i);
                 blackened.push_back(m_cabinets[i]);
                 blackened.back().black = m_cabinets[*m_result.brightestBlack].black;
             }
         }
         const Model::WallCorrection solved = Model::wallCorrection(blackened, target(), target().white.Y);
-        for (std::size_t i = 0; i < without.size(); ++i) {
+        for (std::size_t i = 0; i < without.size() && solved.fault == Model::WallFault::None; ++i) {
             CabinetAssessment &result = m_result.cabinets[without[i]];
-            const auto &matrix = solved.corrections[i].matrix;
-            if (matrix && result.isAdditive) {
-                result.offByBlackOfOther = offByBlack(blackened[i], *matrix, target(), result.outside);
+            if (result.isAdditive) {
+                result.offByPossibleBlack
+                    = offByBlack(blackened[i], solved.corrections[i].matrix, target(), result.outside);
             }
         }
     }
@@ -294,7 +317,7 @@ private:
             result.uvAfter = correction.remaining.whiteUv;
             // How much a black takes depends on the luminance, and on what the primaries add to.
             if (cabinet.black && correction.matrix && hasLuminance() && result.isAdditive) {
-                result.offByBlack = offByBlack(m_cabinets[i], *correction.matrix, target(), result.outside);
+                result.offByBlack = offByBlack(m_cabinets[i], correction.matrix, target(), result.outside);
             }
             const auto farthest = std::max_element(result.offByBlack.begin(), result.offByBlack.end());
             if (*farthest > 0.0 && result.gamut != Judgement::Fail) {
@@ -302,7 +325,7 @@ private:
             }
             // A chromaticity that is outside fails at any luminance.
             result.judgement = result.gamut == Judgement::Fail || *farthest > 0.0 ? Judgement::Fail
-                : result.gamut == Judgement::NotKnown || isAnyOff(result.offByBlackOfOther)
+                : result.gamut == Judgement::NotKnown || isAnyOff(result.offByPossibleBlack)
                 ? worse(result.luminance, Judgement::NotKnown)
                 : result.luminance;
         }

@@ -34,7 +34,7 @@ bool sameCabinets(const WallCabinet &a, const WallCabinet &b)
     };
     return a.name == b.name && a.row == b.row && a.column == b.column && a.isLeftOut == b.isLeftOut
         && a.white.has_value() == b.white.has_value() && ceiechart::sameTargets(colors(a), colors(b))
-        && sameBlacks(a.black, b.black);
+        && sameBlacks(a.black, b.black) && a.blackLuminance == b.blackLuminance;
 }
 
 bool sameWalls(const DisplayWall &a, const DisplayWall &b)

@@ -135,9 +135,7 @@ DisplayDescription withGamutRenamed(DisplayDescription description, const QStrin
     if (!gamut || !whyNotRenamed(description, from, to).isEmpty()) {
         return description;
     }
-    DisplayGamut renamed({to.toStdString(), gamut->getTargets()}, gamut->unit);
-    renamed.black = gamut->black;
-    *gamut = renamed;
+    *gamut = gamut->renamed(to);
     for (const GamutRole role : allGamutRoles) {
         QString *name = nameIn(description, role);
         if (name && *name == from) {

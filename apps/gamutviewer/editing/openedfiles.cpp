@@ -38,8 +38,8 @@ QString nameFor(const DisplayDescription &description, const GamutPlaces &places
     QString name = wantedName(gamut);
     QString sameNumbers;
     for (int number = 2; const auto taken = description.gamut(name, places); ++number) {
-        const bool isSame
-            = ceiechart::sameTargets(taken->getTargets(), gamut.getTargets()) && sameBlacks(taken->black, gamut.black);
+        const bool isSame = ceiechart::sameTargets(taken->getTargets(), gamut.getTargets())
+            && sameBlacks(taken->black, gamut.black) && taken->blackLuminance == gamut.blackLuminance;
         if (isSame && taken->unit == gamut.unit) {
             return name;
         }
@@ -68,8 +68,7 @@ QString addGamut(DisplayDescription &description, GamutPlaces &places, const Dis
         description.gamuts.at(std::size_t(places.value(name))).unit = gamut.unit;
     } else if (!description.gamut(name, places)) {
         places.insert(name, int(description.gamuts.size()));
-        description.gamuts.emplace_back(Model::ColorGamut(name.toStdString(), gamut.getTargets()), gamut.unit);
-        description.gamuts.back().black = gamut.black;
+        description.gamuts.push_back(gamut.renamed(name));
     }
     return name;
 }

@@ -193,6 +193,7 @@ std::optional<DisplayWall> singleDisplay(const DisplayDescription &description)
     cabinet.blue = targets.blue;
     cabinet.white = targets.white;
     cabinet.black = gamut->black;
+    cabinet.blackLuminance = gamut->blackLuminance;
     DisplayWall wall;
     wall.unit = gamut->unit;
     wall.cabinets.push_back(cabinet);
