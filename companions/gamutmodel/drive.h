@@ -114,11 +114,12 @@ public:
     /*!
      * \brief The largest condition number with which drives are computed.
      *
-     * At 1e4, a relative error of 1e-4 in the measured primaries, which is what good instruments repeat, can change the
-     * drives by their whole value. The primaries of Rec.709 have a condition number of 3.5, two primaries that differ
-     * by 0.001 in x one of some thousand.
+     * At 3000, a relative error of 3e-4 in the measured primaries, which is what good instruments repeat, can change
+     * the drives by their whole value. Up to there, the light of the drives is the wanted one within 1e-12. The
+     * primaries of Rec.709 have a condition number of 3.5, two primaries that differ by 0.002 in x one of some
+     * 2000.
      */
-    static constexpr double largestCondition = 1e4;
+    static constexpr double largestCondition = 3000.0;
 
     /*!
      * \brief The display with the red, green and blue of \a display at full drive and with \a black.

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void oneBadCabinet();
     void matrixTimesDriveIsTheTarget_data();
     void matrixTimesDriveIsTheTarget();
+    void matrixTimesDriveUpToTheLimit();
     void agreesWithCramersRule();
     void columnsAreContent();
     void blackIsCountedIn();
@@ -221,6 +222,40 @@ void CorrectionTest::matrixTimesDriveIsTheTarget()
                 }
                 QVERIFY(difference(grey, expected) < 1e-12);
             }
+        }
+    }
+}
+
+// Of primaries that lie nearly on a line, but are not refused for it.
+void CorrectionTest::matrixTimesDriveUpToTheLimit()
+{
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> part(0.0, 1.0);
+    std::vector<Cabinet> cabinets;
+    for (int i = 0; i < 200000; ++i) {
+        Cabinet cabinet;
+        const double red[] = {0.4 + 0.3 * part(random), 0.25 + 0.1 * part(random)};
+        const double blue[] = {0.12 + 0.1 * part(random), 0.04 + 0.1 * part(random)};
+        const double along = 1.4 * part(random) - 0.2; // also beyond one of them
+        const double off = std::pow(10.0, -2.0 - 2.0 * part(random));
+        cabinet.colors.red = Target::fromYxy(300.0 * part(random), red[0], red[1]);
+        cabinet.colors.blue = Target::fromYxy(100.0 * part(random), blue[0], blue[1]);
+        cabinet.colors.green = Target::fromYxy(
+            600.0 * part(random), red[0] + along * (blue[0] - red[0]), red[1] + along * (blue[1] - red[1]) + off);
+        const DisplayDrive drive(cabinet.colors);
+        if (drive.fault() == DisplayFault::None && drive.condition() > 0.5 * DisplayDrive::largestCondition) {
+            cabinets.push_back(cabinet);
+        }
+    }
+    QVERIFY2(cabinets.size() > 5000, qPrintable(QString::number(cabinets.size())));
+    const WallCorrection wall = wallCorrection(cabinets, rec709().getTargets(), 100.0);
+    QCOMPARE(wall.fault, WallFault::None);
+    for (std::size_t i = 0; i < cabinets.size(); ++i) {
+        const CorrectionMatrix &matrix = *wall.corrections[i].matrix;
+        const std::pair<std::array<Real, 3>, Target> colors[] = {{fullRed, wall.target.red},
+            {fullGreen, wall.target.green}, {fullBlue, wall.target.blue}, {fullWhite, wall.target.white}};
+        for (const auto &[content, color] : colors) {
+            QVERIFY(difference(lightAt(cabinets[i], times(matrix, content)), lightOf(color)) < 1e-12);
         }
     }
 }
