@@ -58,7 +58,7 @@ QString field(const QString &text)
 
 QString pointLine(const char *name, const Model::DiagramPoint &xy)
 {
-    return QStringLiteral("# %1: %2 %3").arg(QLatin1String(name), exactText(xy.x), exactText(xy.y));
+    return QStringLiteral("%1: %2 %3").arg(QLatin1String(name), exactText(xy.x), exactText(xy.y));
 }
 
 //! Reads the text from its beginning; the first thing that is wrong ends it.
@@ -266,17 +266,22 @@ private:
 
 } // namespace
 
-QByteArray correctionsCsv(const WallCorrections &corrections)
+QStringList targetLines(const WallCorrections &corrections)
 {
     const CorrectionTarget &target = corrections.target;
+    return {QStringLiteral("target: ") + jsonString(target.name), pointLine("target red x, y", target.red),
+        pointLine("target green x, y", target.green), pointLine("target blue x, y", target.blue),
+        pointLine("target white x, y", target.white),
+        QStringLiteral("luminance of the white: ") + exactText(target.luminance),
+        QStringLiteral("unit of luminances: ") + correctionsUnitName(corrections.unit)};
+}
+
+QByteArray correctionsCsv(const WallCorrections &corrections)
+{
     QStringList lines = conventionLines();
-    lines.append(QStringLiteral("# target: ") + jsonString(target.name));
-    lines.append(pointLine("target red x, y", target.red));
-    lines.append(pointLine("target green x, y", target.green));
-    lines.append(pointLine("target blue x, y", target.blue));
-    lines.append(pointLine("target white x, y", target.white));
-    lines.append(QStringLiteral("# luminance of the white: ") + exactText(target.luminance));
-    lines.append(QStringLiteral("# unit of luminances: ") + correctionsUnitName(corrections.unit));
+    for (const QString &line : targetLines(corrections)) {
+        lines.append(QStringLiteral("# ") + line);
+    }
     lines.append(columnNames().join(QLatin1Char(',')));
     const auto placeText = [](const std::optional<int> &place) { return place ? QString::number(*place) : QString(); };
     for (const CabinetCorrection &cabinet : corrections.cabinets) {

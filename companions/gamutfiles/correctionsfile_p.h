@@ -23,6 +23,9 @@ QString correctionsUnitName(LuminanceUnit unit);
 /*! \brief The unit that correctionsUnitName() writes as \a name; nothing if there is none. */
 std::optional<LuminanceUnit> correctionsUnit(const QString &name);
 
+/*! \brief What the matrices of \a corrections are for, as CSV texts say it: a line each, without "# ". */
+QStringList targetLines(const WallCorrections &corrections);
+
 /*! \brief What keeps \a cabinet from standing in a list after cabinets that are called \a labels; empty: nothing. */
 QString whyNotListed(const CabinetCorrection &cabinet, const QSet<QString> &labels);
 

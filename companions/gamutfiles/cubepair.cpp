@@ -63,7 +63,7 @@ QByteArray cubeText(
     plain.replace(QLatin1Char('"'), QLatin1Char('\''));
     QStringList lines;
     for (const QString &comment : comments) {
-        lines.append(QStringLiteral("# ") + comment);
+        lines.append(QStringLiteral("# ") + oneLine(comment));
     }
     lines.append(QStringLiteral("TITLE \"%1\"").arg(excerpt(plain)));
     lines.append(size + QStringLiteral(" 2"));
@@ -150,24 +150,34 @@ Outcome<CubePair> cubePair(const Model::CorrectionMatrix &matrix)
     return pair;
 }
 
-QByteArray matrixCube(const CubePair &pair, const QString &title)
+QStringList cubeComments(const WallCorrections &corrections)
+{
+    return targetLines(corrections);
+}
+
+QByteArray matrixCube(const CubePair &pair, const QString &title, const QStringList &comments)
 {
     std::vector<Triplet> values;
     for (const Triplet &content : corners()) {
         values.push_back(corner(pair.matrix, content));
     }
     return cubeText(title, QStringLiteral("LUT_3D_SIZE"),
-        {QStringLiteral("The first of two tables for linear light: a matrix, exact by linear interpolation."),
-            QStringLiteral("From levels of red, green and blue of the content. After it, the table of one dimension.")},
+        QStringList{
+            QStringLiteral("The first of two tables for linear light: a matrix, exact by linear interpolation."),
+            QStringLiteral("From levels of red, green and blue of the content, of which red changes first from line to "
+                           "line."),
+            QStringLiteral("To levels of red, green and blue, in this order. After it, the table of one dimension.")}
+            + comments,
         values);
 }
 
-QByteArray gainsCube(const CubePair &pair, const QString &title)
+QByteArray gainsCube(const CubePair &pair, const QString &title, const QStringList &comments)
 {
     return cubeText(title, QStringLiteral("LUT_1D_SIZE"),
-        {QStringLiteral("The second of two tables for linear light: gains, exact by linear interpolation."),
-            QStringLiteral(
-                "To drives of red, green and blue of the display. Before it, the table of three dimensions.")},
+        QStringList{QStringLiteral("The second of two tables for linear light: gains, exact by linear interpolation."),
+            QStringLiteral("To drives of red, green and blue of the display, in this order. Before it, the table of "
+                           "three dimensions.")}
+            + comments,
         {{0.0, 0.0, 0.0}, pair.gains});
 }
 

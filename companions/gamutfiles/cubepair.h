@@ -3,6 +3,7 @@
 #ifndef GAMUTFILES_CUBEPAIR_H
 #define GAMUTFILES_CUBEPAIR_H
 
+#include <gamutfiles/correctionsfile.h>
 #include <gamutfiles/gamutfiles_export.h>
 #include <gamutfiles/outcome.h>
 
@@ -10,6 +11,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <array>
 
@@ -49,10 +51,19 @@ struct CubePair {
  */
 GAMUTFILES_EXPORT Outcome<CubePair> cubePair(const Model::CorrectionMatrix &matrix);
 
-/*! \brief The .cube file with the table of three dimensions, which is applied first. \a title is for people. */
-GAMUTFILES_EXPORT QByteArray matrixCube(const CubePair &pair, const QString &title);
-/*! \brief The .cube file with the table of one dimension, which is applied second. \a title is for people. */
-GAMUTFILES_EXPORT QByteArray gainsCube(const CubePair &pair, const QString &title);
+/*! \brief Comments for a .cube file that say what target \a corrections are for, in the words of correctionsCsv(). */
+GAMUTFILES_EXPORT QStringList cubeComments(const WallCorrections &corrections);
+
+/*!
+ * \brief The .cube file with the table of three dimensions, which is applied first.
+ *
+ * \a title and \a comments, such as cubeComments(), are for people. A comment is one line.
+ */
+GAMUTFILES_EXPORT QByteArray matrixCube(
+    const CubePair &pair, const QString &title, const QStringList &comments = QStringList());
+/*! \brief The .cube file with the table of one dimension, which is applied second; otherwise as matrixCube(). */
+GAMUTFILES_EXPORT QByteArray gainsCube(
+    const CubePair &pair, const QString &title, const QStringList &comments = QStringList());
 
 /*!
  * \brief Reads what matrixCube() and gainsCube() wrote: the same pair to the last bit.

@@ -211,14 +211,14 @@ void CubePairTest::refusedTables_data()
     const auto row = [](const char *what, const char *by, const char *error) {
         QTest::newRow(error) << QByteArray(what) << QByteArray(by) << QString::fromUtf8(error);
     };
-    row("LUT_3D_SIZE 2", "LUT_3D_SIZE 33", "line 4: is not that of a table of size 2 from 0 to 1: \"LUT_3D_SIZE 33\"");
+    row("LUT_3D_SIZE 2", "LUT_3D_SIZE 33", "line 5: is not that of a table of size 2 from 0 to 1: \"LUT_3D_SIZE 33\"");
     row("LUT_3D_SIZE 2", "LUT_3D_SIZE 2\nLUT_3D_SIZE 2",
-        "line 5: is not that of a table of size 2 from 0 to 1: \"LUT_3D_SIZE 2\"");
-    row("LUT_3D_SIZE 2\n", "", "line 6: is not that of a table of size 2 from 0 to 1: \"0 0 0\"");
+        "line 6: is not that of a table of size 2 from 0 to 1: \"LUT_3D_SIZE 2\"");
+    row("LUT_3D_SIZE 2\n", "", "line 7: is not that of a table of size 2 from 0 to 1: \"0 0 0\"");
     row("DOMAIN_MAX 1 1 1", "DOMAIN_MAX 2 2 2",
-        "line 6: is not that of a table of size 2 from 0 to 1: \"DOMAIN_MAX 2 2 2\"");
-    row("0 0 0\n0.5", "0 0\n0.5", "line 7: not three numbers, nor a keyword with its numbers: \"0 0\"");
-    row("0 0 0\n0.5", "0 0 nan\n0.5", "line 7: not three numbers, nor a keyword with its numbers: \"0 0 nan\"");
+        "line 7: is not that of a table of size 2 from 0 to 1: \"DOMAIN_MAX 2 2 2\"");
+    row("0 0 0\n0.5", "0 0\n0.5", "line 8: not three numbers, nor a keyword with its numbers: \"0 0\"");
+    row("0 0 0\n0.5", "0 0 nan\n0.5", "line 8: not three numbers, nor a keyword with its numbers: \"0 0 nan\"");
     row("0 0 0\n0.5", "0.5", "expected 8 lines of numbers, found 7");
     row("0.5 0 0", "0.5 0.25 0", "the table of three dimensions is not that of a matrix");
 }
@@ -236,7 +236,7 @@ void CubePairTest::refusedTables()
     QCOMPARE(readCubePair(text, gainsCube(*pair, "x")).error(), error);
     QVERIFY(!readCubePair(gainsCube(*pair, "x"), matrixCube(*pair, "x")));
     QCOMPARE(readCubePair(matrixCube(*pair, "x") + "1 1 1\n", gainsCube(*pair, "x")).error(),
-        QStringLiteral("line 15: is not that of a table of size 2 from 0 to 1: \"1 1 1\""));
+        QStringLiteral("line 16: is not that of a table of size 2 from 0 to 1: \"1 1 1\""));
     QVERIFY(!readCubePair(matrixCube(*pair, "x"), gainsCube(*pair, "x").replace("0 0 0\n1", "0 0 0.1\n1")));
     QVERIFY(!readCubePair(matrixCube(*pair, "x") + QByteArray(maximumCubeBytes, '\n'), gainsCube(*pair, "x")));
 }
@@ -264,8 +264,12 @@ void CubePairTest::documentedExampleIsRead()
     };
     const auto read = readCubePair(example(1), example(2));
     QVERIFY2(read, qPrintable(read.error()));
-    QCOMPARE(QString::fromUtf8(matrixCube(*read, "Stage left")), QString::fromUtf8(example(1)));
-    QCOMPARE(QString::fromUtf8(gainsCube(*read, "Stage left")), QString::fromUtf8(example(2)));
+    WallCorrections corrections;
+    corrections.unit = LuminanceUnit::CandelaPerSquareMetre;
+    corrections.target = {QStringLiteral("Rec.709"), {0.64, 0.33}, {0.3, 0.6}, {0.15, 0.06}, {0.3127, 0.329}, 500.0};
+    const QStringList comments = cubeComments(corrections);
+    QCOMPARE(QString::fromUtf8(matrixCube(*read, "Stage left", comments)), QString::fromUtf8(example(1)));
+    QCOMPARE(QString::fromUtf8(gainsCube(*read, "Stage left", comments)), QString::fromUtf8(example(2)));
 }
 
 QTEST_GUILESS_MAIN(CubePairTest)
