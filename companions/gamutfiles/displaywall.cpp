@@ -17,6 +17,7 @@ constexpr const char *reasons[] = {QT_TRANSLATE_NOOP("gamutfiles::Wall", "red is
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "red has no chromaticity"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "green has no chromaticity"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "blue has no chromaticity"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "white has no chromaticity"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "red is there more than once"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "green is there more than once"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "blue is there more than once"),

@@ -221,7 +221,7 @@ void LatestMeasurements::add(const Measurement &measurement)
     }
     auto &kept = cabinet.parts[std::size_t(measurement.part)];
     const bool isKept = measurement.part == MeasurementPart::Black || measurement.color
-        || (isPrimary(measurement.part) && !kept); // which tells why the cabinet is not complete
+        || (measurement.part != MeasurementPart::None && !kept); // which tells why the cabinet is not complete
     if (measurement.part == MeasurementPart::None || !isKept) {
         return;
     }

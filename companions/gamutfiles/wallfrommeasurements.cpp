@@ -95,13 +95,18 @@ bool isPrimary(MeasurementPart part)
     return part == MeasurementPart::Red || part == MeasurementPart::Green || part == MeasurementPart::Blue;
 }
 
-//! What keeps \a colors from being those of a cabinet, as IncompleteCabinet::reason; empty: nothing.
-QStringList missingPrimaries(const Colors &colors)
+/*!
+ * \brief What keeps \a colors from being those of a cabinet, as IncompleteCabinet::reason; empty: nothing.
+ *
+ * A white need not be measured, but one that was may say that the cabinet shows less than its primaries add to.
+ */
+QStringList missingColors(const Colors &colors)
 {
     QStringList reasons;
     for (const auto &of : partNames) {
         const Measurement *measurement = colors[of.first];
-        if (isPrimary(of.first) && !(measurement && measurement->color)) {
+        const bool isNeeded = isPrimary(of.first) || (of.first == MeasurementPart::White && measurement);
+        if (isNeeded && !(measurement && measurement->color)) {
             reasons.append(
                 QLatin1String(of.second) + QLatin1String(measurement ? " has no chromaticity" : " is missing"));
         }
@@ -191,7 +196,7 @@ Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets
         const auto position = hasPlaces && measured.row && measured.column
             ? std::make_optional(Model::GridPosition{*measured.row, *measured.column})
             : std::nullopt;
-        const QStringList missing = missingPrimaries(colors);
+        const QStringList missing = missingColors(colors);
         const QStringList twice = ambiguousColors(colors);
         if (!missing.isEmpty() || !twice.isEmpty()) {
             (missing.isEmpty() ? ambiguous : incomplete).add(label);
@@ -220,7 +225,8 @@ Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets
         wall.cabinets.push_back(cabinet);
     }
     if (wall.cabinets.empty()) {
-        return Failure::failure(WallText::tr("no cabinet has a name, and red, green and blue once each"));
+        return Failure::failure(
+            WallText::tr("no cabinet has a name, red, green and blue, and none of its colours twice"));
     }
     addUnnamed(wall, unnamedCount, labels);
     QVector<Problem> warnings;
@@ -231,7 +237,7 @@ Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets
     }
     if (!incomplete.isEmpty()) {
         warn(WallText::tr(
-            "cabinets of which nothing is known, as red, green or blue is missing or has no chromaticity: %1")
+            "cabinets of which nothing is known, as red, green or blue is missing, or a colour has no chromaticity: %1")
                  .arg(incomplete.text()));
     }
     if (!ambiguous.isEmpty()) {

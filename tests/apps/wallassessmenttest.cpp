@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "assessedwall.h"
 
+#include "display/assessmenttexts.h"
+#include "display/knowndisplay.h"
 #include "display/wallreport.h"
 
 #include <gamutmodel/nearestinside.h>
@@ -36,6 +38,8 @@ private Q_SLOTS:
     void whiteOutsideOfTheWall();
     void fittedTargetIsShownByAll();
     void leftOutCabinetDoesNotCount();
+    void targetThatIsNoMixture();
+    void smallGamuts();
     void neighbors();
     void wallStandsForTheDisplay();
     void wallAndOriginalAreBothGrounds();
@@ -358,6 +362,48 @@ void WallAssessmentTest::leftOutCabinetDoesNotCount()
     const WallAssessment nothing = assessWall(wall, targetOf(1000.0));
     QCOMPARE(nothing.judgement, Judgement::NotKnown);
     QCOMPARE(nothing.headline, QStringLiteral("Nothing is judged: all cabinets are left out"));
+}
+
+// All of its chromaticities lie inside, but no correction shows it.
+void WallAssessmentTest::targetThatIsNoMixture()
+{
+    Model::Targets of = targetOf(500.0).getTargets();
+    of.white = color(500.0, 0.45, 0.5); // beyond red and green
+    const DisplayGamut target{Model::ColorGamut("Wanted", of), cd};
+    const WallAssessment found = assessWall(wallOf(1), target);
+    QCOMPARE(found.correction.fault, Model::WallFault::WhiteOutside);
+    QCOMPARE(found.cabinets[0].gamut, Judgement::Pass);
+    QCOMPARE(found.judgement, Judgement::NotKnown);
+    QCOMPARE(textOf(found),
+        QStringLiteral("? Not known whether the cabinets show this target\n"
+                       "? There are no corrections: the white of the target is not a mixture of its primaries.\n"
+                       "- All reach a white of %1 (A1 is the limit, with red at full drive).")
+            .arg(reachableText(found.largestWhite->luminance, cd)));
+}
+
+// The tolerance of the chart is an area, which reaches farther beside short sides.
+void WallAssessmentTest::smallGamuts()
+{
+    DisplayWall wall;
+    wall.unit = cd;
+    wall.cabinets = {cabinet(QStringLiteral("A1"), 0, 0)};
+    wall.cabinets[0].red = color(300.0, 0.345, 0.325);
+    wall.cabinets[0].green = color(300.0, 0.315, 0.365);
+    wall.cabinets[0].blue = color(300.0, 0.285, 0.295);
+    const Model::Targets shown{wall.cabinets[0].red, wall.cabinets[0].green, wall.cabinets[0].blue, {}};
+    const auto white = Model::DisplayDrive(shown).lightAt({1.0, 1.0, 1.0});
+    const auto judged = [&](double greenY) {
+        Model::Targets of = shown;
+        of.green = color(300.0, 0.315, greenY);
+        of.white = color(500.0, white->x, white->y);
+        QVERIFY2(!Model::primariesOutside(of, shown).any(), "the chart takes it for inside");
+        const DisplayGamut target{Model::ColorGamut("Wanted", of), cd};
+        const double off = distanceOutside(of, Vertex::Green, shown);
+        QCOMPARE(off > 0.0, greenY > 0.3655);
+        QCOMPARE(assessWall(wall, target).cabinets[0].gamut, off > 0.0 ? Judgement::Fail : Judgement::Pass);
+    };
+    judged(0.3652);
+    judged(0.3665);
 }
 
 void WallAssessmentTest::neighbors()

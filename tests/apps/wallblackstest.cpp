@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QtTest>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <random>
@@ -22,6 +23,8 @@ private Q_SLOTS:
     void blackThatIsNotSeen();
     void blackThatWasNotMeasured();
     void blackWithoutChromaticity();
+    void unknownBlackTakesLuminance();
+    void darkerBlackOfAnotherColor();
     void colorsOutsideAreToldOverTheBlack();
     void darkContentOverABrightBlackIsNotJudged();
     void blackTooBrightForAnyTarget();
@@ -38,6 +41,18 @@ DisplayGamut wantedAsShown()
         *t = color(t->Y * 500.0, t->x, t->y);
     }
     return {Model::ColorGamut("Wanted", of), cd};
+}
+
+bool needsNegativeDrive(const DisplayWall &wall, const WallAssessment &assessment)
+{
+    for (std::size_t i = 0; i < wall.cabinets.size(); ++i) {
+        for (const auto &row : assessment.correction.corrections[i].matrix->rows) {
+            if (!wall.cabinets[i].isLeftOut && *std::min_element(row.begin(), row.end()) < -Model::driveRounding) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -137,8 +152,8 @@ void WallBlacksTest::blackThatWasNotMeasured()
     QCOMPARE(found.cabinets[4].offByPossibleBlack, found.cabinets[7].offByBlack); // they are alike otherwise
     QCOMPARE(found.cabinets[4].offByBlack, (std::array<double, 4>{}));
     const QString text = cabinetText(wall, target, found, 4);
-    QVERIFY2(text.startsWith(QStringLiteral("A5: its black was not measured, and one as bright as that of A8 keeps it "
-                                            "off red by Δu′v′ ")),
+    QVERIFY2(text.startsWith(QStringLiteral("A5: its black was not measured, and one as bright as that of A8 can "
+                                            "keep it off red by Δu′v′ ")),
         qPrintable(text));
     // A target that all show whose black is known is then not known to be shown by the wall.
     const auto fitted = fittedToWall(target, found);
@@ -184,13 +199,72 @@ void WallBlacksTest::blackWithoutChromaticity()
     // Of the others nothing was measured, and their blacks may be as bright as that.
     QCOMPARE(found.brightestBlack, std::make_optional(std::size_t(4)));
     text = cabinetText(wall, target, found, 3);
-    QVERIFY2(text.startsWith(QStringLiteral("A4: its black was not measured, and one as bright as that of A5 keeps it "
-                                            "off red by Δu′v′ ")),
+    QVERIFY2(text.startsWith(QStringLiteral("A4: its black was not measured, and one as bright as that of A5 can "
+                                            "keep it off red by Δu′v′ ")),
         qPrintable(text));
     wall.cabinets[4].blackLuminance = 1000.0; // more than a primary: no drive takes that away
     QCOMPARE(assessWall(wall, target).cabinets[4].judgement, Judgement::NotKnown);
     wall.cabinets[4].blackLuminance = 0.02; // too dark to be seen
     QCOMPARE(assessWall(wall, target).judgement, Judgement::Pass);
+}
+
+void WallBlacksTest::unknownBlackTakesLuminance()
+{
+    const auto black = color(6.0, 0.31, 0.33);
+    DisplayWall wall = wallOf(1);
+    for (WallCabinet &of : wall.cabinets) {
+        dim(of, 1.1); // so that A5 is the limit
+        of.black = black;
+    }
+    wall.cabinets[4] = cabinet(QStringLiteral("A5"), 0, 4);
+    DisplayWall known = wall;
+    known.cabinets[4].black = black;
+    const double least = *assessWall(known, targetOf(1000.0)).cabinets[4].largestWhite;
+    QVERIFY(least < 1099.0);
+    const auto judged = [&](double luminance) { return assessWall(wall, targetOf(luminance)); };
+    // A black takes as much from it as from the others.
+    const WallAssessment found = judged(1095.0);
+    const CabinetAssessment &unknown = found.cabinets[4];
+    QCOMPARE(unknown.judgement, Judgement::NotKnown);
+    QVERIFY(!unknown.largestWhite && std::fabs(*unknown.leastWhite / least - 1.0) < 1e-9);
+    QVERIFY(!found.isReachKnownOfAll);
+    const QString text = cabinetText(wall, targetOf(1095.0), found, 4);
+    QVERIFY2(text.startsWith(QStringLiteral("A5: its black was not measured, and over one as bright as that of A1 "
+                                            "white can reach ")),
+        qPrintable(text));
+    QCOMPARE(judged(least * 0.999).judgement, Judgement::Pass);
+    QCOMPARE(judged(1110.0).cabinets[4].judgement, Judgement::Fail); // without any black as well
+    // The luminance of its own black counts before that of the others.
+    wall.cabinets[4].blackLuminance = 0.1;
+    QCOMPARE(judged(1095.0).judgement, Judgement::Pass);
+    wall.cabinets[4].blackLuminance = 6.0;
+    QCOMPARE(judged(1095.0).cabinets[4].judgement, Judgement::NotKnown);
+}
+
+// What a saturated black does is more than what the brightest does.
+void WallBlacksTest::darkerBlackOfAnotherColor()
+{
+    const DisplayGamut target = wantedAsShown();
+    DisplayWall wall = wallOf(1);
+    wall.cabinets.resize(3);
+    wall.cabinets[0].black = color(1.0, 0.31, 0.33);
+    wall.cabinets[1].black = color(0.9, 0.17, 0.06);
+    const auto shown = assessWall(wall, target);
+    QVERIFY(shown.cabinets[1].offByBlack[std::size_t(Vertex::Red)]
+        > shown.cabinets[0].offByBlack[std::size_t(Vertex::Red)] + 0.001);
+    for (const Vertex vertex : ceiechart::allGamutVertices) {
+        for (const std::size_t other : {0, 1}) {
+            QVERIFY(shown.cabinets[2].offByPossibleBlack[std::size_t(vertex)]
+                >= shown.cabinets[other].offByBlack[std::size_t(vertex)]);
+        }
+    }
+    QCOMPARE(shown.cabinets[2].judgement, Judgement::NotKnown);
+    // A cabinet may be too dark for a black that others have.
+    wall.cabinets[0].black = color(80.0, 0.31, 0.33);
+    for (Model::Target *of : {&wall.cabinets[2].red, &wall.cabinets[2].green, &wall.cabinets[2].blue}) {
+        *of = color(of->Y, of->x, of->y);
+    }
+    QCOMPARE(assessWall(wall, target).cabinets[2].judgement, Judgement::NotKnown);
 }
 
 void WallBlacksTest::colorsOutsideAreToldOverTheBlack()
@@ -323,15 +397,16 @@ void WallBlacksTest::fittedTargetPassesOverBlacks()
         const DisplayGamut target{Model::ColorGamut("Wanted", wish), cd};
         const WallAssessment found = assessWall(wall, target);
         const auto fitted = fittedToWall(target, found);
-        // What passes is fitted only if it does so for being too bright by very little.
+        // What passes is fitted only if it is too bright by very little, or needs drives that are hardly below 0.
         const bool passesAsFull = found.judgement == Judgement::Pass && luminance > found.largestWhite->luminance;
-        QCOMPARE(bool(fitted), found.judgement == Judgement::Fail || passesAsFull);
+        QCOMPARE(bool(fitted), found.judgement == Judgement::Fail || passesAsFull || needsNegativeDrive(wall, found));
         if (!fitted) {
             continue;
         }
         failing += found.judgement == Judgement::Fail;
         const DisplayGamut after{Model::ColorGamut("Fitted", *fitted), cd};
         const WallAssessment passes = assessWall(wall, after);
+        QVERIFY(!needsNegativeDrive(wall, passes));
         QVERIFY(fitted->white.Y <= passes.largestWhite->luminance * (1.0 + 1e-9));
         QVERIFY2(passes.judgement == Judgement::Pass, qPrintable(QString::number(i) + textOf(passes)));
         // Without the blacks the fit would not do.

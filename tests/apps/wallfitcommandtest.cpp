@@ -29,6 +29,7 @@ private Q_SLOTS:
     void init() { begin(); }
     void correctionsAreThoseOfTheReport();
     void correctionsOfOneCabinet();
+    void fitLeavesNoDriveBelowZero();
     void correctionsSayNoMoreThanIsKnown();
     void notesOnASingleDisplay();
     void tablesOfOneDisplay();
@@ -77,6 +78,39 @@ void WallFitCommandTest::correctionsOfOneCabinet()
     const auto one = gamutfiles::readCorrectionsFile(path("c.json"));
     QVERIFY(one);
     QVERIFY(one->target.luminance < *one->cabinets[0].largestWhite);
+}
+
+// Also of a target that passes by the tolerance of the verdict.
+void WallFitCommandTest::fitLeavesNoDriveBelowZero()
+{
+    write("one.csv", wallList.left(wallList.indexOf("A2")));
+    const auto measured = gamutfiles::readGamutFile(path("one.csv"));
+    QVERIFY(measured);
+    const auto wall = gamutfiles::wallFromMeasurements(measured->measurements);
+    QVERIFY(wall);
+    const WallCabinet &of = wall->cabinets[0];
+    const auto object = [](const Model::Target &color, double off) {
+        return QJsonObject{{"Y", color.Y}, {"x", color.x + off}, {"y", color.y + off}};
+    };
+    write("edge.json",
+        QJsonDocument(QJsonObject{{"version", 1}, {"target", "Edge"},
+                          {"gamuts",
+                              QJsonArray{QJsonObject{{"name", "Edge"}, {"luminanceUnit", "cd/m2"},
+                                  {"red", object(of.red, 0.0001)}, {"green", object(of.green, 0.0)},
+                                  {"blue", object(of.blue, 0.0)},
+                                  {"white", QJsonObject{{"Y", 300.0}, {"x", 0.3127}, {"y", 0.329}}}}}}})
+            .toJson());
+    QCOMPARE(run({"edge.json", "--wall", "one.csv", "--check"}).exitCode, 0);
+    const QStringList cube{"edge.json", "--wall", "one.csv", "--cabinet", "A1", "--corrections", "k.cube"};
+    const Result asItIs = run(cube);
+    QCOMPARE(asItIs.exitCode, 2);
+    QVERIFY2(asItIs.error.contains("a table is not exact below 0"), asItIs.error);
+    const Result fitted = run(cube + QStringList{"--fit", "--report", "json"});
+    QVERIFY2(fitted.exitCode == 0, fitted.error);
+    QVERIFY2(!fitted.error.contains(QString::fromUtf8("Δu′v′ 0.0000").toUtf8()), fitted.error);
+    const QJsonObject done
+        = QJsonDocument::fromJson(fitted.output).object().value("wall").toObject().value("fitted").toObject();
+    QVERIFY(done.value("red").toObject().value("moved").toDouble() > 0.0);
 }
 
 void WallFitCommandTest::correctionsSayNoMoreThanIsKnown()

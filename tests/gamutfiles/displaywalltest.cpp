@@ -114,8 +114,8 @@ void DisplayWallTest::cabinetsWithoutAPrimaryAreIncomplete()
     QVERIFY2(wall, qPrintable(wall.error()));
     QCOMPARE(wall->cabinets.size(), std::size_t(1));
     QCOMPARE(messages(wall.warnings()),
-        QStringList{"cabinets of which nothing is known, as red, green or blue is missing or has no chromaticity: a, "
-                    "b, c, d and 2 more"});
+        QStringList{"cabinets of which nothing is known, as red, green or blue is missing, or a colour has no "
+                    "chromaticity: a, b, c, d and 2 more"});
     QCOMPARE(incompleteOf(*wall),
         (QStringList{"a: green is missing", "b: green has no chromaticity", "c: green is missing",
             "d: green is missing", "e: green is missing", "f: green is missing"}));
@@ -143,6 +143,10 @@ void DisplayWallTest::blackWithoutChromaticity()
     QVERIFY(wall->cabinets[0].black && isExactly(*wall->cabinets[0].black, 0.0, 0.0, 0.0));
     QVERIFY(!wall->cabinets[0].blackLuminance && !wall->cabinets[1].black);
     QCOMPARE(wall->cabinets[1].blackLuminance, std::make_optional(0.1));
+    // A white may say that the cabinet shows less than its primaries add to.
+    const auto white = wallFromMeasurements(listOf(header + rgb("good") + rgb("odd") + "odd,white,,,600\n"));
+    QVERIFY2(white, qPrintable(white.error()));
+    QCOMPARE(incompleteOf(*white), QStringList{"odd: white has no chromaticity"});
     QCOMPARE(messages(wall.warnings()),
         QStringList{"cabinets whose black does not count in corrections, as it has no chromaticity: grey"});
 }
@@ -211,7 +215,7 @@ void DisplayWallTest::listsWithoutAWall_data()
         << "names no cabinets: a wall needs a column with the cabinet, or one with the row and "
            "one with the column";
     QTest::newRow("no primaries") << header + "A,white,0.3,0.3,5\nB,white,0.3,0.3,5\n"
-                                  << "no cabinet has a name, and red, green and blue once each";
+                                  << "no cabinet has a name, red, green and blue, and none of its colours twice";
     QTest::newRow("nothing") << QByteArray()
                              << "names no cabinets: a wall needs a column with the cabinet, or one "
                                 "with the row and one with the column";

@@ -8,7 +8,10 @@
 #include <gamutmodel/nearestinside.h>
 #include <gamutmodel/tolerances.h>
 
+#include <QtMath>
+
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <limits>
 #include <vector>
@@ -28,17 +31,12 @@ std::optional<double> distanceFrom(const Model::Targets &display, const Model::T
     return nearest ? Model::uvDifference(Model::Target::fromYxy(1.0, nearest->x, nearest->y), color) : std::nullopt;
 }
 
-namespace {
-
-//! The levels of \a vertex of a target.
 Model::Drive contentOf(Vertex vertex)
 {
     const double white = vertex == Vertex::White ? 1.0 : 0.0;
     const auto level = [&](Vertex primary) { return vertex == primary ? 1.0 : white; };
     return {level(Vertex::Red), level(Vertex::Green), level(Vertex::Blue)};
 }
-
-} // namespace
 
 std::optional<Model::Target> shownWithoutLimit(
     const Model::DisplayDrive &display, const Model::CorrectionMatrix &correction, const Model::Drive &content)
@@ -82,15 +80,53 @@ std::array<double, 4> offByBlack(const Model::Cabinet &cabinet,
     return off;
 }
 
-std::array<double, 4> offByBlackOfLuminance(
-    const Model::Cabinet &cabinet, double luminance, const Model::Targets &target, const std::array<double, 4> &outside)
+std::vector<Model::Target> possibleChromaticities(const Model::Cabinet &cabinet)
 {
     const Model::Targets &colors = cabinet.colors;
+    std::vector<Model::Target> result{colors.red, colors.green, colors.blue};
+    if (const auto white = Model::DisplayDrive(colors, std::nullopt).lightAt({1.0, 1.0, 1.0})) {
+        result.push_back(*white);
+    }
+    return result;
+}
+
+std::vector<Model::Target> farthestOut(const std::vector<Model::Target> &lights)
+{
+    constexpr int directions = 16;
+    std::vector<std::size_t> found;
+    for (int k = 0; k < directions && !lights.empty(); ++k) {
+        const double angle = 2.0 * M_PI * k / directions;
+        const auto reach = [&](const Model::Target &of) { return of.x * std::cos(angle) + of.y * std::sin(angle); };
+        const auto farthest = std::max_element(
+            lights.begin(), lights.end(), [&](const auto &a, const auto &b) { return reach(a) < reach(b); });
+        const auto index = std::size_t(farthest - lights.begin());
+        if (std::find(found.begin(), found.end(), index) == found.end()) {
+            found.push_back(index);
+        }
+    }
+    std::vector<Model::Target> result;
+    for (const std::size_t index : found) {
+        result.push_back(lights[index]);
+    }
+    return result;
+}
+
+std::vector<Model::Target> blacksOf(double luminance, const std::vector<Model::Target> &chromaticities)
+{
+    std::vector<Model::Target> result;
+    for (const Model::Target &of : chromaticities) {
+        result.push_back(Model::Target::fromYxy(luminance, of.x, of.y));
+    }
+    return result;
+}
+
+std::array<double, 4> offByBlacks(const Model::Cabinet &cabinet, const std::vector<Model::Target> &blacks,
+    const Model::Targets &target, const std::array<double, 4> &outside)
+{
     std::vector<Model::Cabinet> blackened;
-    const auto white = Model::DisplayDrive(colors, std::nullopt).lightAt({1.0, 1.0, 1.0});
-    for (const Model::Target &of : {colors.red, colors.green, colors.blue, white.value_or(colors.green)}) {
+    for (const Model::Target &black : blacks) {
         blackened.push_back(cabinet);
-        blackened.back().black = Model::Target::fromYxy(luminance, of.x, of.y);
+        blackened.back().black = black;
     }
     const Model::WallCorrection solved = Model::wallCorrection(blackened, target, target.white.Y);
     std::array<double, 4> most{};

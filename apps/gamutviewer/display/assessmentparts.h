@@ -10,6 +10,7 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 /*!
  * \file
@@ -19,6 +20,8 @@ namespace gamutviewer {
 
 /*! \brief The highest of the three values of \a drive. */
 double highest(const Model::Drive &drive);
+/*! \brief The levels of \a vertex of a target. */
+Model::Drive contentOf(ceiechart::GamutVertex vertex);
 
 /*!
  * \brief How far \a color lies outside of the triangle of \a display, in Δu′v′: 0 inside, but for rounding. Nothing
@@ -51,11 +54,17 @@ std::array<double, 4> offByBlack(const Model::Cabinet &cabinet,
     const std::array<double, 4> &outside);
 
 /*!
- * \brief The largest of offByBlack() for the blacks that \a cabinet may have: of that \a luminance, with the
- * chromaticities of its primaries and of what they mix to. A black of an LED screen, which is light of its own LEDs or
- * light that it reflects, is hardly more saturated. 0 where \a target is not one to correct for.
+ * \brief The chromaticities that a black of \a cabinet may have: those of its primaries and of what they mix to. A
+ * black of an LED screen, which is light of its own LEDs or light that it reflects, is hardly more saturated.
  */
-std::array<double, 4> offByBlackOfLuminance(const Model::Cabinet &cabinet, double luminance,
+std::vector<Model::Target> possibleChromaticities(const Model::Cabinet &cabinet);
+/*! \brief Those of \a lights that lie farthest out in x, y, at most 16: what the others do lies in between. */
+std::vector<Model::Target> farthestOut(const std::vector<Model::Target> &lights);
+/*! \brief Lights with the \a luminance and the \a chromaticities. */
+std::vector<Model::Target> blacksOf(double luminance, const std::vector<Model::Target> &chromaticities);
+/*! \brief The largest of offByBlack() for \a cabinet with any of \a blacks; 0 if \a target is not one to correct for.
+ */
+std::array<double, 4> offByBlacks(const Model::Cabinet &cabinet, const std::vector<Model::Target> &blacks,
     const Model::Targets &target, const std::array<double, 4> &outside);
 
 } // namespace gamutviewer

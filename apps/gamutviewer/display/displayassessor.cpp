@@ -254,7 +254,8 @@ private:
             outside[std::size_t(primary)] = distanceOutside(target, primary, display.getTargets());
         }
         if (display.blackLuminance) {
-            judgePossibleBlack(offByBlackOfLuminance(cabinet, *display.blackLuminance, target, outside));
+            judgePossibleBlack(offByBlacks(
+                cabinet, blacksOf(*display.blackLuminance, possibleChromaticities(cabinet)), target, outside));
         }
         if (!display.black || !(display.black->Y > 0.0)) {
             return;

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "display/knowndisplay.h"
 
+#include "display/assessmentparts.h"
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
+#include "display/wallassessment.h"
 
 #include <gamutmodel/gamutcoverage.h>
 #include <gamutmodel/nearestinside.h>
@@ -51,11 +53,15 @@ double distanceOutside(const Model::Targets &target, Vertex primary, const Model
         : primary == Vertex::Green                ? outside.green
         : primary == Vertex::Blue                 ? outside.blue
                                                   : false;
+    const Model::Target &color = ceiechart::targetAt(target, primary);
     if (!isOutside) {
-        return 0.0;
+        // What the chart allows for is an area: of a small gamut it reaches farther.
+        const auto distance = distanceFrom(display, color);
+        if (!distance || *distance <= visibleUv) {
+            return 0.0;
+        }
     }
-    const auto nearest
-        = Model::nearestInside(display, pointOf(ceiechart::targetAt(target, primary)), chromaticityDecimals);
+    const auto nearest = Model::nearestInside(display, pointOf(color), chromaticityDecimals);
     return nearest ? nearest->distance : std::numeric_limits<double>::infinity();
 }
 

@@ -19,9 +19,10 @@ std::optional<Model::Targets> fittedToWall(const DisplayGamut &target, const Wal
     const Model::GamutFit &fit = assessment.fit;
     const double luminance = fittedLuminance(target, assessment);
     const bool isDimmer = luminance != target.getTargets().white.Y;
-    if (fit.fault != Model::FitFault::None || (assessment.judgement == Judgement::Pass && !isDimmer)) {
+    if (fit.fault != Model::FitFault::None) {
         return std::nullopt;
     }
+    // Also where the tolerance of the verdict passes a target for which a correction would need drives below 0.
     const bool hasMoved = fit.red.limit || fit.green.limit || fit.blue.limit;
     const bool failsInLuminance = std::any_of(assessment.cabinets.begin(), assessment.cabinets.end(),
         [](const CabinetAssessment &c) { return !c.isLeftOut && c.luminance == Judgement::Fail; });

@@ -63,10 +63,16 @@ struct CabinetAssessment {
     std::array<double, 4> offByBlack{};
     /*!
      * \brief The same with a black that it may have, where its own is not known: one of its
-     * WallCabinet::blackLuminance, or without that, one as bright as WallAssessment::brightestBlack. Where it is not 0,
-     * it is not known whether the cabinet shows the target.
+     * WallCabinet::blackLuminance, or without that, one as bright as WallAssessment::brightestBlack, with the
+     * chromaticities of the blacks that were measured. Where it is not 0, it is not known whether the cabinet shows the
+     * target.
      */
     std::array<double, 4> offByPossibleBlack{};
+    /*!
+     * \brief What \a largestWhite would be over such a black, where that is less by more than 0.2 %; it is not known
+     * then.
+     */
+    std::optional<double> leastWhite;
     /*!
      * \brief The largest luminance of the target's white, in the unit of the wall. Nothing where it is not known.
      *

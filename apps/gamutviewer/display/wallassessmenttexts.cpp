@@ -123,6 +123,40 @@ QString outsideText(const WallCabinet &cabinet, const Model::Correction &correct
         .arg(color, pointText(nearest->xy), distanceText(distance));
 }
 
+//! What a black that is not known can keep a cabinet off; empty where that is nothing.
+QString possibleBlackText(
+    const DisplayWall &wall, const DisplayGamut &target, const WallAssessment &assessment, std::size_t index)
+{
+    const CabinetAssessment &cabinet = assessment.cabinets[index];
+    const bool hasOwn = wall.cabinets[index].blackLuminance.has_value();
+    const QString other = assessment.brightestBlack ? cabinetName(wall, *assessment.brightestBlack) : QString();
+    const QString off = offByBlackText(cabinet.offByPossibleBlack);
+    if (!off.isEmpty()) {
+        return hasOwn
+            ? WallText::tr("the chromaticity of its black is not known, and one of this luminance can keep it "
+                           "off %1: measure it",
+                "colours and distances")
+                  .arg(off)
+            : WallText::tr("its black was not measured, and one as bright as that of %1 can keep it off %2: "
+                           "measure it",
+                "name of a cabinet, colours and distances")
+                  .arg(other, off);
+    }
+    const double wanted = target.getTargets().white.Y;
+    if (!assessment.luminancesCompare || !cabinet.leastWhite || !isTooBright(wanted, *cabinet.leastWhite)) {
+        return QString();
+    }
+    const QString reached = reachableText(*cabinet.leastWhite, wall.unit);
+    return hasOwn
+        ? WallText::tr("the chromaticity of its black is not known, and over one of this luminance white can reach %1 "
+                       "only, of %2: measure it")
+              .arg(reached, luminanceText(wanted, target.unit))
+        : WallText::tr("its black was not measured, and over one as bright as that of %1 white can reach %2 only, of "
+                       "%3: measure it",
+            "name of a cabinet, luminances")
+              .arg(other, reached, luminanceText(wanted, target.unit));
+}
+
 //! What the primaries of a cabinet seem to be: "red and green seem to be exchanged"; empty where they seem right.
 QString exchangeText(const std::optional<Model::SeemingPrimaries> &seeming)
 {
@@ -214,17 +248,9 @@ QString cabinetText(
                 "colours and distances")
                 .arg(offByBlack));
     }
-    const QString offByPossible = offByBlackText(cabinet.offByPossibleBlack);
-    if (!offByPossible.isEmpty()) {
-        parts.append(of.blackLuminance
-                ? WallText::tr("the chromaticity of its black is not known, and one of this luminance can keep it off "
-                               "%1: measure it",
-                    "colours and distances")
-                      .arg(offByPossible)
-                : WallText::tr("its black was not measured, and one as bright as that of %1 keeps it off %2: measure "
-                               "it",
-                    "name of a cabinet, colours and distances")
-                      .arg(cabinetName(wall, *assessment.brightestBlack), offByPossible));
+    const QString possible = possibleBlackText(wall, target, assessment, index);
+    if (!possible.isEmpty()) {
+        parts.append(possible);
     }
     const QString fault = faultText(correction);
     if (!fault.isEmpty()) {

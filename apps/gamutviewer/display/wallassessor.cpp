@@ -72,9 +72,11 @@ void judgeGamut(CabinetAssessment &result, const Model::Targets &colors, const M
         note(Vertex::White, *white);
     }
     for (const Vertex primary : primaries) {
-        if (isOutside[int(primary)]) {
-            note(primary,
-                distanceFrom(colors, targetAt(target, primary)).value_or(std::numeric_limits<double>::infinity()));
+        const double distance
+            = distanceFrom(colors, targetAt(target, primary)).value_or(std::numeric_limits<double>::infinity());
+        // What the chart allows for is an area: of a small gamut it reaches farther.
+        if (isOutside[int(primary)] || distance > visibleUv) {
+            note(primary, distance);
         }
     }
 }
@@ -255,58 +257,89 @@ private:
         return black ? std::make_optional(black->Y) : m_wall.cabinets[i].blackLuminance;
     }
 
-    //! Sets offByPossibleBlack. Where some blacks were measured and others were not, those may be as bright.
-    void compareBlacks()
+    //! Finds brightestBlack and the chromaticities that blacks were measured to have.
+    void findBlacks()
     {
         std::optional<double> most;
+        std::vector<Model::Target> lights;
         for (const std::size_t i : m_counted) {
             const auto luminance = blackLuminance(i);
             if (luminance && (!most || *luminance > *most)) {
                 most = luminance;
                 m_result.brightestBlack = i;
             }
-        }
-        if (!hasLuminance()) {
-            return;
-        }
-        const bool isBrightestKnown = most && m_cabinets[*m_result.brightestBlack].black;
-        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
-            CabinetAssessment &result = m_result.cabinets[i];
-            const auto luminance = m_wall.cabinets[i].blackLuminance;
-            if (!m_cabinets[i].black && result.isAdditive && (luminance || (most && !isBrightestKnown))) {
-                result.offByPossibleBlack
-                    = offByBlackOfLuminance(m_cabinets[i], luminance.value_or(*most), target(), result.outside);
+            if (m_cabinets[i].black && m_cabinets[i].black->Y > 0.0) {
+                lights.push_back(*m_cabinets[i].black);
             }
         }
-        if (isBrightestKnown) {
-            compareWithBrightestBlack();
+        m_blackChromaticities = farthestOut(lights);
+    }
+
+    //! The blacks that a cabinet may have whose own is not known.
+    std::vector<Model::Target> possibleBlacks(std::size_t i) const
+    {
+        const auto &own = m_wall.cabinets[i].blackLuminance;
+        if (m_cabinets[i].black || (!own && !m_result.brightestBlack)) {
+            return {};
+        }
+        const double luminance = own ? *own : *blackLuminance(*m_result.brightestBlack);
+        return blacksOf(luminance,
+            own || m_blackChromaticities.empty() ? possibleChromaticities(m_cabinets[i]) : m_blackChromaticities);
+    }
+
+    //! Sets what may become of cabinets whose black is not known.
+    void judgePossibleBlacks()
+    {
+        findBlacks();
+        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
+            CabinetAssessment &result = m_result.cabinets[i];
+            const std::vector<Model::Target> blacks = possibleBlacks(i);
+            if (blacks.empty() || !result.isAdditive
+                || m_result.correction.corrections[i].fault != Model::DisplayFault::None) {
+                continue;
+            }
+            if (hasLuminance()) {
+                result.offByPossibleBlack = offByBlacks(m_cabinets[i], blacks, target(), result.outside);
+            }
+            for (const Model::Target &black : blacks) {
+                judgeLuminanceOver(black, i);
+            }
         }
     }
 
-    void compareWithBrightestBlack()
+    //! What is darker over \a black, which the cabinet may have, is not known.
+    void judgeLuminanceOver(const Model::Target &black, std::size_t i)
     {
-        std::vector<std::size_t> without;
-        std::vector<Model::Cabinet> blackened;
-        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
-            if (!blackLuminance(i)) {
-                without.push_back(i);
-                blackened.push_back(m_cabinets[i]);
-                blackened.back().black = m_cabinets[*m_result.brightestBlack].black;
+        CabinetAssessment &result = m_result.cabinets[i];
+        CabinetAssessment over;
+        over.outside = result.outside;
+        const Model::DisplayDrive drive(m_cabinets[i].colors, black);
+        if (drive.fault() == Model::DisplayFault::None) {
+            const CabinetLuminance luminance(m_wall.cabinets[i], drive, target());
+            luminance.reach(over);
+            if (hasLuminance()) {
+                luminance.judge(over);
             }
         }
-        const Model::WallCorrection solved = Model::wallCorrection(blackened, target(), target().white.Y);
-        for (std::size_t i = 0; i < without.size() && solved.fault == Model::WallFault::None; ++i) {
-            CabinetAssessment &result = m_result.cabinets[without[i]];
-            if (result.isAdditive) {
-                result.offByPossibleBlack
-                    = offByBlack(blackened[i], solved.corrections[i].matrix, target(), result.outside);
+        if (over.luminance != Judgement::Pass && result.luminance == Judgement::Pass) {
+            result.luminance = Judgement::NotKnown;
+        }
+        if (result.largestWhite || result.leastWhite) {
+            const double reached = over.largestWhite.value_or(0.0);
+            if (result.largestWhite && isTooBright(*result.largestWhite, reached)) {
+                result.leastWhite = result.largestWhite;
+                result.largestWhite.reset();
+                result.headroom.reset();
+            }
+            if (result.leastWhite) {
+                result.leastWhite = std::min(*result.leastWhite, reached);
             }
         }
     }
 
     void judgeCabinets()
     {
-        compareBlacks();
+        judgePossibleBlacks();
         for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
             const WallCabinet &cabinet = m_wall.cabinets[i];
             Model::Correction &correction = m_result.correction.corrections[i];
@@ -316,7 +349,7 @@ private:
             result.uvBefore = result.white ? Model::uvDifference(*result.white, target().white) : std::nullopt;
             result.uvAfter = correction.remaining.whiteUv;
             // How much a black takes depends on the luminance, and on what the primaries add to.
-            if (cabinet.black && correction.matrix && hasLuminance() && result.isAdditive) {
+            if (cabinet.black && cabinet.black->Y > 0.0 && correction.matrix && hasLuminance() && result.isAdditive) {
                 result.offByBlack = offByBlack(m_cabinets[i], correction.matrix, target(), result.outside);
             }
             const auto farthest = std::max_element(result.offByBlack.begin(), result.offByBlack.end());
@@ -328,6 +361,11 @@ private:
                 : result.gamut == Judgement::NotKnown || isAnyOff(result.offByPossibleBlack)
                 ? worse(result.luminance, Judgement::NotKnown)
                 : result.luminance;
+            // A target whose primaries do not mix to its white is not shown by any correction.
+            const Model::WallFault fault = m_result.correction.fault;
+            if (fault != Model::WallFault::None && fault != Model::WallFault::NoLuminance) {
+                result.judgement = worse(result.judgement, Judgement::NotKnown);
+            }
         }
     }
 
@@ -458,12 +496,24 @@ private:
         }
     }
 
-    //! The target fitted to \a cabinets. Where none fails, what their blacks take is too little to be seen.
+    //! Whether a correction would need a drive below 0, by however little.
+    bool needsNegativeDrive() const
+    {
+        return std::any_of(m_counted.begin(), m_counted.end(), [this](std::size_t i) {
+            const auto &matrix = m_result.correction.corrections[i].matrix;
+            return matrix
+                && std::any_of(ceiechart::allGamutVertices.begin(), ceiechart::allGamutVertices.end(),
+                    [&](Vertex vertex) { return Model::isOutside(matrix->driveFor(contentOf(vertex))); });
+        });
+    }
+
+    //! The target fitted to \a cabinets.
     Model::GamutFit fitted(const std::vector<Model::Cabinet> &cabinets) const
     {
         const double luminance
             = hasLuminance() ? fittedLuminance(m_target, m_result) : m_result.correction.target.white.Y;
-        const bool staysAsItIs = m_result.judgement != Judgement::Fail && luminance == target().white.Y;
+        const bool staysAsItIs = m_result.judgement != Judgement::Fail && luminance == target().white.Y
+            && !(hasLuminance() && needsNegativeDrive());
         if (staysAsItIs || m_result.correction.fault != Model::WallFault::None) {
             return Model::fittedTarget(m_result.common, target());
         }
@@ -506,6 +556,7 @@ private:
     const DisplayGamut &m_target;
     const std::vector<Model::Cabinet> m_cabinets;
     std::vector<std::size_t> m_counted; // all that are not left out
+    std::vector<Model::Target> m_blackChromaticities; // of the blacks that were measured, those that lie farthest out
     std::optional<double> m_correctable; // the largest white that corrections of these can be for
     WallAssessment m_result;
 };

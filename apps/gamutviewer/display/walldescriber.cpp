@@ -146,11 +146,15 @@ private:
         if (unknownCount == 0) {
             return;
         }
-        // Where luminances cannot be compared that is said once, and not of each cabinet.
+        // What holds for all is said once: that luminances cannot be compared, or that there are no corrections.
         std::vector<std::size_t> reasons;
         for (const std::size_t i : cabinetsThat(Judgement::NotKnown)) {
             const CabinetAssessment &cabinet = m_result.cabinets[i];
-            if (hasLuminance() || cabinet.gamut == Judgement::NotKnown || !cabinet.largestWhite) {
+            const auto &off = cabinet.offByPossibleBlack;
+            const bool hasReason = hasLuminance()
+                && (cabinet.luminance != Judgement::Pass
+                    || std::any_of(off.begin(), off.end(), [](double distance) { return distance > 0.0; }));
+            if (hasReason || cabinet.gamut == Judgement::NotKnown || !cabinet.largestWhite) {
                 reasons.push_back(i);
             }
         }

@@ -117,11 +117,11 @@ QJsonValue matrixValue(const std::optional<Model::CorrectionMatrix> &matrix)
     return rows;
 }
 
-QJsonObject offByBlackObject(const CabinetAssessment &assessment)
+QJsonObject offByBlackObject(const std::array<double, 4> &offByBlack)
 {
     QJsonObject object;
     for (const ceiechart::GamutVertex vertex : ceiechart::allGamutVertices) {
-        const double distance = assessment.offByBlack[std::size_t(vertex)];
+        const double distance = offByBlack[std::size_t(vertex)];
         if (distance > 0.0) {
             // What is infinite is not known, and null in a file.
             object.insert(colorName(vertex), distance);
@@ -142,8 +142,10 @@ void insertAssessment(QJsonObject &object, const DisplayWall &wall, const Cabine
     object.insert(QStringLiteral("luminance"), judgementName(assessment.luminance));
     object.insert(QStringLiteral("limit"),
         assessment.limit ? QJsonValue(colorName(*assessment.limit)) : QJsonValue(QJsonValue::Null));
-    object.insert(QStringLiteral("offByBlack"), offByBlackObject(assessment));
+    object.insert(QStringLiteral("offByBlack"), offByBlackObject(assessment.offByBlack));
+    object.insert(QStringLiteral("offByPossibleBlack"), offByBlackObject(assessment.offByPossibleBlack));
     object.insert(QStringLiteral("largestWhite"), numberOrNull(assessment.largestWhite));
+    object.insert(QStringLiteral("leastWhite"), numberOrNull(assessment.leastWhite));
     object.insert(QStringLiteral("headroom"), numberOrNull(assessment.headroom));
     object.insert(QStringLiteral("uvBefore"), numberOrNull(assessment.uvBefore));
     object.insert(QStringLiteral("uvAfter"), numberOrNull(assessment.uvAfter));

@@ -346,8 +346,9 @@ Outcome<QVector<CorrectionsOutput>> tableFiles(const WallCorrections &correction
         ? file.completeBaseName()
         : file.path() + QLatin1Char('/') + file.completeBaseName();
     const QString title = cabinet.label() + QStringLiteral(": ") + corrections.target.name;
-    return QVector<CorrectionsOutput>{{base + QStringLiteral("-3x3.cube"), matrixCube(*pair, title)},
-        {base + QStringLiteral("-1d.cube"), gainsCube(*pair, title)}};
+    const QStringList comments = cubeComments(corrections);
+    return QVector<CorrectionsOutput>{{base + QStringLiteral("-3x3.cube"), matrixCube(*pair, title, comments)},
+        {base + QStringLiteral("-1d.cube"), gainsCube(*pair, title, comments)}};
 }
 
 } // namespace
@@ -486,9 +487,9 @@ Outcome<FittedTarget> withTargetFittedToWall(const DisplayDescription &descripti
     QStringList parts;
     for (const auto &of : primaries) {
         if (of.primary.limit) {
-            parts.append(CommandText::tr("%1 by Δu′v′ %2 (%3 is the limit)", "primary, how far, and cabinet")
-                             .arg(of.name, fixedText(of.primary.moved, chromaticityDecimals),
-                                 cabinetName(description.wall, *of.primary.limit)));
+            parts.append(
+                CommandText::tr("%1 by Δu′v′ %2 (%3 is the limit)", "primary, how far, and cabinet")
+                    .arg(of.name, distanceText(of.primary.moved), cabinetName(description.wall, *of.primary.limit)));
         }
     }
     if (!parts.isEmpty()) {
