@@ -1,12 +1,15 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 //
-// The loop of the fill, written three times: in plain C++, and with the vector instructions AVX2 and AVX-512. All three
-// do the same operations in the same order, so that they give the same bits; horseshoefill.cpp says what they compute.
+// The loop of the fill: in plain C++ for every processor, and in vector instructions, which are SSE2, AVX2 and AVX-512
+// of x86-64 and NEON of 64-bit ARM. All do the same operations in the same order, so that they give the same bits;
+// horseshoefill.cpp says what they compute. The loop in vector instructions is written once, in fillkernelloop_p.h,
+// with operations that a class for each set of instructions defines here.
 //
-// The instructions are named by intrinsics, which all compilers know. GCC and clang want to be told for each function
-// which instructions it may use; the compiler of Microsoft allows all of them everywhere. What the processor supports
-// is asked by the same steps with all compilers, so that a test with one of them tests it for all.
+// The instructions are named by intrinsics, which all compilers know. Every x86-64 processor supports SSE2, and every
+// 64-bit ARM processor NEON. GCC and clang want to be told for each function which instructions it may use beyond
+// these; the compiler of Microsoft allows all of them everywhere. What the processor supports is asked by the same
+// steps with all compilers, so that a test with one of them tests it for all.
 #include <ceiechart/diagram/fillkernels_p.h>
 
 #include <algorithm>
@@ -15,14 +18,16 @@
 #include <iterator>
 
 #if defined(__x86_64__) || defined(_M_X64)
+#define CEIECHART_FILL_SSE2 1
+#include <emmintrin.h>
 #if defined(_MSC_VER) && !defined(__clang__)
-#define CEIECHART_FILL_X86 1
+#define CEIECHART_FILL_AVX 1
 #define CEIECHART_TARGET(instructions)
 #include <intrin.h>
 #elif defined(__GNUC__) && !defined(_WIN32)
-// On Windows, GCC does not align what it puts on the stack for AVX (bug 54412 of GCC), and clang in the manner of
-// Microsoft's compiler leaves out the intrinsics unless all code may use them. Both use the plain loop.
-#define CEIECHART_FILL_X86 1
+// On Windows, GCC aligns what it puts on the stack enough for SSE2 but not for AVX (bug 54412 of GCC), and clang in the
+// manner of Microsoft's compiler leaves out the intrinsics of AVX unless all code may use them.
+#define CEIECHART_FILL_AVX 1
 #define CEIECHART_TARGET(instructions) __attribute__((target(instructions)))
 #include <cpuid.h>
 #include <immintrin.h>
@@ -32,6 +37,9 @@
 #pragma GCC diagnostic ignored "-Wuninitialized"
 #endif
 #endif
+#elif defined(__aarch64__) || defined(_M_ARM64)
+#define CEIECHART_FILL_NEON 1
+#include <arm_neon.h>
 #endif
 
 namespace ceiechart {
@@ -96,117 +104,183 @@ bool everywhere()
     return true;
 }
 
-#ifdef CEIECHART_FILL_X86
+// larger() and smaller() give the second operand if one is not a number, as "a > b ? a : b" and "a < b ? a : b" do.
 
-// The maximum and the minimum of x86 give the second operand if one is not a number, as "a > b ? a : b" does.
+#ifdef CEIECHART_FILL_SSE2
 
-CEIECHART_TARGET("avx2")
-bool decideAvx2(const PixelRun &run, int count, unsigned *colors, unsigned *undecided)
-{
-    constexpr int lanes = 8;
-    const __m256 first[] = {_mm256_set1_ps(run.red), _mm256_set1_ps(run.green), _mm256_set1_ps(run.blue)};
-    const __m256 steps[] = {_mm256_set1_ps(run.redStep), _mm256_set1_ps(run.greenStep), _mm256_set1_ps(run.blueStep)};
-    const __m256 zero = _mm256_setzero_ps();
-    const __m256 one = _mm256_set1_ps(1.0F);
-    const __m256 toWholes = _mm256_set1_ps(wholes);
-    const __m256 sign = _mm256_set1_ps(-0.0F);
-    const __m256 farthest = _mm256_set1_ps(0.5F - run.margin);
-    const __m256i indexes = _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7);
-    __m256i any = _mm256_setzero_si256();
-    for (int k = 0; k < count; k += lanes) {
-        const __m256 step = _mm256_cvtepi32_ps(_mm256_add_epi32(_mm256_set1_epi32(k), indexes));
-        const __m256 sums[] = {_mm256_add_ps(first[0], _mm256_mul_ps(step, steps[0])),
-            _mm256_add_ps(first[1], _mm256_mul_ps(step, steps[1])),
-            _mm256_add_ps(first[2], _mm256_mul_ps(step, steps[2]))};
-        const __m256 red = _mm256_min_ps(_mm256_max_ps(sums[0], zero), one);
-        const __m256 green = _mm256_min_ps(_mm256_max_ps(sums[1], zero), one);
-        const __m256 blue = _mm256_min_ps(_mm256_max_ps(sums[2], zero), one);
-        const __m256 largest = _mm256_max_ps(blue, _mm256_max_ps(green, red));
+// The maximum and the minimum of x86 do so.
 
-        const __m256 scale = _mm256_div_ps(_mm256_set1_ps(255.0F), largest);
-        const __m256 scaledRed = _mm256_mul_ps(red, scale);
-        const __m256 scaledGreen = _mm256_mul_ps(green, scale);
-        const __m256 scaledBlue = _mm256_mul_ps(blue, scale);
-        const __m256 nearRed = _mm256_add_ps(scaledRed, toWholes);
-        const __m256 nearGreen = _mm256_add_ps(scaledGreen, toWholes);
-        const __m256 nearBlue = _mm256_add_ps(scaledBlue, toWholes);
-        const __m256 offRed = _mm256_andnot_ps(sign, _mm256_sub_ps(scaledRed, _mm256_sub_ps(nearRed, toWholes)));
-        const __m256 offGreen = _mm256_andnot_ps(sign, _mm256_sub_ps(scaledGreen, _mm256_sub_ps(nearGreen, toWholes)));
-        const __m256 offBlue = _mm256_andnot_ps(sign, _mm256_sub_ps(scaledBlue, _mm256_sub_ps(nearBlue, toWholes)));
-        const __m256 off = _mm256_max_ps(offBlue, _mm256_max_ps(offGreen, offRed));
+struct Sse2 {
+    using Floats = __m128;
+    using Words = __m128i;
+    using Choice = __m128;
+    static constexpr int lanes = 4;
 
-        const __m256i isNear = _mm256_srli_epi32(_mm256_castps_si256(_mm256_cmp_ps(off, farthest, _CMP_GT_OQ)), 31);
-        const __m256i upper = _mm256_add_epi32(
-            _mm256_slli_epi32(_mm256_castps_si256(nearRed), 16), _mm256_slli_epi32(_mm256_castps_si256(nearGreen), 8));
-        const __m256i color = _mm256_add_epi32(
-            upper, _mm256_add_epi32(_mm256_castps_si256(nearBlue), _mm256_set1_epi32(static_cast<int>(opaque))));
-        if (k + lanes <= count) {
-            _mm256_storeu_si256(reinterpret_cast<__m256i *>(undecided + k), isNear);
-            _mm256_storeu_si256(reinterpret_cast<__m256i *>(colors + k), color);
-            any = _mm256_or_si256(any, isNear);
-        } else {
-            const __m256i there = _mm256_cmpgt_epi32(_mm256_set1_epi32(count - k), indexes);
-            _mm256_maskstore_epi32(reinterpret_cast<int *>(undecided + k), there, isNear);
-            _mm256_maskstore_epi32(reinterpret_cast<int *>(colors + k), there, color);
-            any = _mm256_or_si256(any, _mm256_and_si256(isNear, there));
-        }
+    static Floats all(float value) { return _mm_set1_ps(value); }
+    static Floats sum(Floats a, Floats b) { return _mm_add_ps(a, b); }
+    static Floats difference(Floats a, Floats b) { return _mm_sub_ps(a, b); }
+    static Floats product(Floats a, Floats b) { return _mm_mul_ps(a, b); }
+    static Floats quotient(Floats a, Floats b) { return _mm_div_ps(a, b); }
+    static Floats larger(Floats a, Floats b) { return _mm_max_ps(a, b); }
+    static Floats smaller(Floats a, Floats b) { return _mm_min_ps(a, b); }
+    static Floats magnitude(Floats a) { return _mm_andnot_ps(_mm_set1_ps(-0.0F), a); }
+
+    static Choice none() { return _mm_setzero_ps(); }
+    static Choice greater(Floats a, Floats b) { return _mm_cmpgt_ps(a, b); }
+    static Choice either(Choice a, Choice b) { return _mm_or_ps(a, b); }
+    static bool isAny(Choice a) { return _mm_movemask_ps(a) != 0; }
+    static Words ones(Choice a) { return _mm_srli_epi32(_mm_castps_si128(a), 31); }
+
+    static Words bits(Floats a) { return _mm_castps_si128(a); }
+    static Words allWords(unsigned value) { return _mm_set1_epi32(static_cast<int>(value)); }
+    static Words indexes() { return _mm_setr_epi32(0, 1, 2, 3); }
+    static Floats numbers(Words a) { return _mm_cvtepi32_ps(a); }
+    static Words wordSum(Words a, Words b) { return _mm_add_epi32(a, b); }
+    template <int places>
+    static Words shifted(Words a)
+    {
+        return _mm_slli_epi32(a, places);
     }
-    return _mm256_testz_si256(any, any) == 0;
-}
+    static void store(unsigned *to, Words a) { _mm_storeu_si128(reinterpret_cast<__m128i *>(to), a); }
 
-CEIECHART_TARGET("avx512f")
-bool decideAvx512(const PixelRun &run, int count, unsigned *colors, unsigned *undecided)
-{
-    constexpr int lanes = 16;
-    const __m512 first[] = {_mm512_set1_ps(run.red), _mm512_set1_ps(run.green), _mm512_set1_ps(run.blue)};
-    const __m512 steps[] = {_mm512_set1_ps(run.redStep), _mm512_set1_ps(run.greenStep), _mm512_set1_ps(run.blueStep)};
-    const __m512 zero = _mm512_setzero_ps();
-    const __m512 one = _mm512_set1_ps(1.0F);
-    const __m512 toWholes = _mm512_set1_ps(wholes);
-    const __m512 farthest = _mm512_set1_ps(0.5F - run.margin);
-    const __m512i indexes = _mm512_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
-    __mmask16 any = 0;
-    for (int k = 0; k < count; k += lanes) {
-        const __m512 step = _mm512_cvtepi32_ps(_mm512_add_epi32(_mm512_set1_epi32(k), indexes));
-        const __m512 sums[] = {_mm512_add_ps(first[0], _mm512_mul_ps(step, steps[0])),
-            _mm512_add_ps(first[1], _mm512_mul_ps(step, steps[1])),
-            _mm512_add_ps(first[2], _mm512_mul_ps(step, steps[2]))};
-        const __m512 red = _mm512_min_ps(_mm512_max_ps(sums[0], zero), one);
-        const __m512 green = _mm512_min_ps(_mm512_max_ps(sums[1], zero), one);
-        const __m512 blue = _mm512_min_ps(_mm512_max_ps(sums[2], zero), one);
-        const __m512 largest = _mm512_max_ps(blue, _mm512_max_ps(green, red));
+#define CEIECHART_FILL_TARGET
+#include <ceiechart/diagram/fillkernelloop_p.h>
+#undef CEIECHART_FILL_TARGET
+};
 
-        const __m512 scale = _mm512_div_ps(_mm512_set1_ps(255.0F), largest);
-        const __m512 scaledRed = _mm512_mul_ps(red, scale);
-        const __m512 scaledGreen = _mm512_mul_ps(green, scale);
-        const __m512 scaledBlue = _mm512_mul_ps(blue, scale);
-        const __m512 nearRed = _mm512_add_ps(scaledRed, toWholes);
-        const __m512 nearGreen = _mm512_add_ps(scaledGreen, toWholes);
-        const __m512 nearBlue = _mm512_add_ps(scaledBlue, toWholes);
-        const __m512 offRed = _mm512_abs_ps(_mm512_sub_ps(scaledRed, _mm512_sub_ps(nearRed, toWholes)));
-        const __m512 offGreen = _mm512_abs_ps(_mm512_sub_ps(scaledGreen, _mm512_sub_ps(nearGreen, toWholes)));
-        const __m512 offBlue = _mm512_abs_ps(_mm512_sub_ps(scaledBlue, _mm512_sub_ps(nearBlue, toWholes)));
-        const __m512 off = _mm512_max_ps(offBlue, _mm512_max_ps(offGreen, offRed));
+#endif
 
-        const __mmask16 isNear = _mm512_cmp_ps_mask(off, farthest, _CMP_GT_OQ);
-        const __m512i upper = _mm512_add_epi32(
-            _mm512_slli_epi32(_mm512_castps_si512(nearRed), 16), _mm512_slli_epi32(_mm512_castps_si512(nearGreen), 8));
-        const __m512i color = _mm512_add_epi32(
-            upper, _mm512_add_epi32(_mm512_castps_si512(nearBlue), _mm512_set1_epi32(static_cast<int>(opaque))));
-        const __m512i flags = _mm512_maskz_set1_epi32(isNear, 1);
-        if (k + lanes <= count) {
-            _mm512_storeu_si512(undecided + k, flags);
-            _mm512_storeu_si512(colors + k, color);
-            any = static_cast<__mmask16>(any | isNear);
-        } else {
-            const auto there = static_cast<__mmask16>((1 << (count - k)) - 1);
-            _mm512_mask_storeu_epi32(undecided + k, there, flags);
-            _mm512_mask_storeu_epi32(colors + k, there, color);
-            any = static_cast<__mmask16>(any | (isNear & there));
-        }
+#ifdef CEIECHART_FILL_NEON
+
+// The maximum and the minimum of NEON do not, so that these compare and select.
+
+struct Neon {
+    using Floats = float32x4_t;
+    using Words = uint32x4_t;
+    using Choice = uint32x4_t;
+    static constexpr int lanes = 4;
+    static constexpr unsigned firstIndexes[] = {0, 1, 2, 3};
+
+    static Floats all(float value) { return vdupq_n_f32(value); }
+    static Floats sum(Floats a, Floats b) { return vaddq_f32(a, b); }
+    static Floats difference(Floats a, Floats b) { return vsubq_f32(a, b); }
+    static Floats product(Floats a, Floats b) { return vmulq_f32(a, b); }
+    static Floats quotient(Floats a, Floats b) { return vdivq_f32(a, b); }
+    static Floats larger(Floats a, Floats b) { return vbslq_f32(vcgtq_f32(a, b), a, b); }
+    static Floats smaller(Floats a, Floats b) { return vbslq_f32(vcltq_f32(a, b), a, b); }
+    static Floats magnitude(Floats a) { return vabsq_f32(a); }
+
+    static Choice none() { return vdupq_n_u32(0); }
+    static Choice greater(Floats a, Floats b) { return vcgtq_f32(a, b); }
+    static Choice either(Choice a, Choice b) { return vorrq_u32(a, b); }
+    static bool isAny(Choice a) { return vmaxvq_u32(a) != 0; }
+    static Words ones(Choice a) { return vshrq_n_u32(a, 31); }
+
+    static Words bits(Floats a) { return vreinterpretq_u32_f32(a); }
+    static Words allWords(unsigned value) { return vdupq_n_u32(value); }
+    static Words indexes() { return vld1q_u32(firstIndexes); }
+    static Floats numbers(Words a) { return vcvtq_f32_u32(a); }
+    static Words wordSum(Words a, Words b) { return vaddq_u32(a, b); }
+    template <int places>
+    static Words shifted(Words a)
+    {
+        return vshlq_n_u32(a, places);
     }
-    return any != 0;
-}
+    static void store(unsigned *to, Words a) { vst1q_u32(to, a); }
+
+#define CEIECHART_FILL_TARGET
+#include <ceiechart/diagram/fillkernelloop_p.h>
+#undef CEIECHART_FILL_TARGET
+};
+
+#endif
+
+#ifdef CEIECHART_FILL_AVX
+
+#define CEIECHART_FILL_TARGET CEIECHART_TARGET("avx2")
+
+struct Avx2 {
+    using Floats = __m256;
+    using Words = __m256i;
+    using Choice = __m256;
+    static constexpr int lanes = 8;
+
+    CEIECHART_FILL_TARGET static Floats all(float value) { return _mm256_set1_ps(value); }
+    CEIECHART_FILL_TARGET static Floats sum(Floats a, Floats b) { return _mm256_add_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats difference(Floats a, Floats b) { return _mm256_sub_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats product(Floats a, Floats b) { return _mm256_mul_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats quotient(Floats a, Floats b) { return _mm256_div_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats larger(Floats a, Floats b) { return _mm256_max_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats smaller(Floats a, Floats b) { return _mm256_min_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats magnitude(Floats a) { return _mm256_andnot_ps(_mm256_set1_ps(-0.0F), a); }
+
+    CEIECHART_FILL_TARGET static Choice none() { return _mm256_setzero_ps(); }
+    CEIECHART_FILL_TARGET static Choice greater(Floats a, Floats b) { return _mm256_cmp_ps(a, b, _CMP_GT_OQ); }
+    CEIECHART_FILL_TARGET static Choice either(Choice a, Choice b) { return _mm256_or_ps(a, b); }
+    CEIECHART_FILL_TARGET static bool isAny(Choice a) { return _mm256_movemask_ps(a) != 0; }
+    CEIECHART_FILL_TARGET static Words ones(Choice a) { return _mm256_srli_epi32(_mm256_castps_si256(a), 31); }
+
+    CEIECHART_FILL_TARGET static Words bits(Floats a) { return _mm256_castps_si256(a); }
+    CEIECHART_FILL_TARGET static Words allWords(unsigned value) { return _mm256_set1_epi32(static_cast<int>(value)); }
+    CEIECHART_FILL_TARGET static Words indexes() { return _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7); }
+    CEIECHART_FILL_TARGET static Floats numbers(Words a) { return _mm256_cvtepi32_ps(a); }
+    CEIECHART_FILL_TARGET static Words wordSum(Words a, Words b) { return _mm256_add_epi32(a, b); }
+    template <int places>
+    CEIECHART_FILL_TARGET static Words shifted(Words a)
+    {
+        return _mm256_slli_epi32(a, places);
+    }
+    CEIECHART_FILL_TARGET static void store(unsigned *to, Words a)
+    {
+        _mm256_storeu_si256(reinterpret_cast<__m256i *>(to), a);
+    }
+
+#include <ceiechart/diagram/fillkernelloop_p.h>
+};
+
+#undef CEIECHART_FILL_TARGET
+#define CEIECHART_FILL_TARGET CEIECHART_TARGET("avx512f")
+
+struct Avx512 {
+    using Floats = __m512;
+    using Words = __m512i;
+    using Choice = __mmask16;
+    static constexpr int lanes = 16;
+
+    CEIECHART_FILL_TARGET static Floats all(float value) { return _mm512_set1_ps(value); }
+    CEIECHART_FILL_TARGET static Floats sum(Floats a, Floats b) { return _mm512_add_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats difference(Floats a, Floats b) { return _mm512_sub_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats product(Floats a, Floats b) { return _mm512_mul_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats quotient(Floats a, Floats b) { return _mm512_div_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats larger(Floats a, Floats b) { return _mm512_max_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats smaller(Floats a, Floats b) { return _mm512_min_ps(a, b); }
+    CEIECHART_FILL_TARGET static Floats magnitude(Floats a) { return _mm512_abs_ps(a); }
+
+    CEIECHART_FILL_TARGET static Choice none() { return 0; }
+    CEIECHART_FILL_TARGET static Choice greater(Floats a, Floats b) { return _mm512_cmp_ps_mask(a, b, _CMP_GT_OQ); }
+    CEIECHART_FILL_TARGET static Choice either(Choice a, Choice b) { return static_cast<Choice>(a | b); }
+    CEIECHART_FILL_TARGET static bool isAny(Choice a) { return a != 0; }
+    CEIECHART_FILL_TARGET static Words ones(Choice a) { return _mm512_maskz_set1_epi32(a, 1); }
+
+    CEIECHART_FILL_TARGET static Words bits(Floats a) { return _mm512_castps_si512(a); }
+    CEIECHART_FILL_TARGET static Words allWords(unsigned value) { return _mm512_set1_epi32(static_cast<int>(value)); }
+    CEIECHART_FILL_TARGET static Words indexes()
+    {
+        return _mm512_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
+    }
+    CEIECHART_FILL_TARGET static Floats numbers(Words a) { return _mm512_cvtepi32_ps(a); }
+    CEIECHART_FILL_TARGET static Words wordSum(Words a, Words b) { return _mm512_add_epi32(a, b); }
+    template <int places>
+    CEIECHART_FILL_TARGET static Words shifted(Words a)
+    {
+        return _mm512_slli_epi32(a, places);
+    }
+    CEIECHART_FILL_TARGET static void store(unsigned *to, Words a) { _mm512_storeu_si512(to, a); }
+
+#include <ceiechart/diagram/fillkernelloop_p.h>
+};
+
+#undef CEIECHART_FILL_TARGET
 
 // What follows is from the Intel 64 and IA-32 Architectures Software Developer's Manual, volume 1, 13.2, 14.7 and 15.2:
 // the processor must know the instructions, and the operating system must keep their registers for each thread.
@@ -244,6 +318,15 @@ unsigned keptRegisters()
 #endif
 }
 
+constexpr unsigned avxRegisters = 0x06; // those of SSE, and their upper halves
+constexpr unsigned avx512Registers = 0xe6; // and masks, the halves above, and the registers from the 17th on
+
+bool hasAvx()
+{
+    constexpr unsigned avx = 1U << 28;
+    return (identification(1).c & avx) != 0 && (keptRegisters() & avxRegisters) == avxRegisters;
+}
+
 bool supports(unsigned instructions, unsigned registers)
 {
     constexpr unsigned extensions = 7;
@@ -253,12 +336,35 @@ bool supports(unsigned instructions, unsigned registers)
 
 bool hasAvx2()
 {
-    return supports(1U << 5, 0x06); // the registers of SSE and AVX
+    return supports(1U << 5, avxRegisters);
 }
 
 bool hasAvx512()
 {
-    return supports(1U << 16, 0xe6); // and those of AVX-512: masks and both halves
+    return supports(1U << 16, avx512Registers);
+}
+
+CEIECHART_TARGET("avx") void clearUpperHalves()
+{
+    _mm256_zeroupper();
+}
+
+#endif
+
+#ifdef CEIECHART_FILL_SSE2
+
+bool decideSse2(const PixelRun &run, int count, unsigned *colors, unsigned *undecided)
+{
+#ifdef CEIECHART_FILL_AVX
+    // Other code may have left numbers in the upper halves of the registers, as Qt 5.15 does when it fills a picture.
+    // Instructions of SSE leave them there, for which they wait for what was last done with the register. This can take
+    // three times as long.
+    static const bool hasUpperHalves = hasAvx();
+    if (hasUpperHalves) {
+        clearUpperHalves();
+    }
+#endif
+    return Sse2::decide(run, count, colors, undecided);
 }
 
 #endif
@@ -266,11 +372,17 @@ bool hasAvx512()
 } // namespace
 
 const FillKernel fillKernels[] = {
-#ifdef CEIECHART_FILL_X86
-    {"AVX-512", hasAvx512, decideAvx512},
-    {"AVX2", hasAvx2, decideAvx2},
+#ifdef CEIECHART_FILL_AVX
+    {"AVX-512", hasAvx512, Avx512::decide},
+    {"AVX2", hasAvx2, Avx2::decide},
 #endif
-    {"baseline", everywhere, decideAnywhere},
+#ifdef CEIECHART_FILL_SSE2
+    {"SSE2", everywhere, decideSse2},
+#endif
+#ifdef CEIECHART_FILL_NEON
+    {"NEON", everywhere, Neon::decide},
+#endif
+    {"portable", everywhere, decideAnywhere},
 };
 
 const int fillKernelCount = int(std::size(fillKernels));

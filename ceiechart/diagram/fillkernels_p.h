@@ -18,7 +18,7 @@ struct PixelRun {
 /*!
  * \brief A function that colours runs of pixels, and whether the processor supports it; see horseshoefill.cpp.
  *
- * All kernels give the same colours. The fill uses the fastest one that the processor supports.
+ * All kernels give the same bits. The fill uses the fastest one that the processor supports.
  */
 struct FillKernel {
     const char *name;
@@ -31,7 +31,7 @@ struct FillKernel {
     bool (*decide)(const PixelRun &run, int count, unsigned *colors, unsigned *undecided);
 };
 
-/*! \brief All kernels, from the fastest to the slowest. Every processor supports the last one. */
+/*! \brief All kernels, from the fastest to the plain loop, which every processor supports. */
 extern const FillKernel fillKernels[];
 extern const int fillKernelCount;
 /*! \brief The fastest kernel that the processor supports. */

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/horseshoefill_p.h>
 #include <reference/plainrenderer.h>
+#include <supportedfillkernels.h>
 
 #include <QColor>
 #include <QImage>
@@ -24,9 +25,6 @@ private Q_SLOTS:
     void sameBytesForOtherColorSystems();
     void errorsStayWithinTheMargin();
     void mostPixelsAreDecidedAtOnce();
-    void aBaselineKernelIsAlwaysThere();
-    void processorsAreToldApart();
-    void pixelsBeyondTheRunStay();
     void nothingToFill();
 
 private:
@@ -50,24 +48,13 @@ Diagram diagramOf(int width, int height)
     return diagram;
 }
 
-std::vector<const ceiechart::FillKernel *> supportedKernels()
-{
-    std::vector<const ceiechart::FillKernel *> kernels;
-    for (int i = 0; i < ceiechart::fillKernelCount; ++i) {
-        if (ceiechart::fillKernels[i].supported()) {
-            kernels.push_back(&ceiechart::fillKernels[i]);
-        }
-    }
-    return kernels;
-}
-
 // Fills copies of a picture plainly and by every kernel; says where they differ.
 QString compare(const QImage &picture, const CEIAtlasValue::TColorSystem &colors, double gamma)
 {
     const Diagram diagram = diagramOf(picture.width(), picture.height());
     QImage expected = picture;
     reference::fillPlain(expected, picture.width(), picture.height(), diagram.mapping, colors, gamma);
-    for (const ceiechart::FillKernel *kernel : supportedKernels()) {
+    for (const ceiechart::FillKernel *kernel : supportedFillKernels()) {
         QImage actual = picture;
         ceiechart::fillHorseshoe(actual, picture.width(), picture.height(), {diagram.geometry, colors, gamma}, *kernel);
         for (int y = 0; y < picture.height(); ++y) {
@@ -204,7 +191,7 @@ void FillKernelsTest::errorsStayWithinTheMargin()
                 std::fabs(green + length * greenStep), std::fabs(blue + length * blueStep)});
         const ceiechart::PixelRun run{
             float(red), float(green), float(blue), float(step), float(greenStep), float(blueStep), 0.0F};
-        for (const ceiechart::FillKernel *kernel : supportedKernels()) {
+        for (const ceiechart::FillKernel *kernel : supportedFillKernels()) {
             QRgb colors[length];
             unsigned undecided[length];
             kernel->decide(run, length, colors, undecided);
@@ -230,7 +217,7 @@ void FillKernelsTest::errorsStayWithinTheMargin()
 void FillKernelsTest::mostPixelsAreDecidedAtOnce()
 {
     const Diagram diagram = diagramOf(800, 800);
-    const ceiechart::FillKernel *kernel = supportedKernels().front();
+    const ceiechart::FillKernel *kernel = supportedFillKernels().front();
     long undecidedPixels = 0;
     for (int y = 0; y < 800; ++y) {
         const auto amounts = [&](int x) {
@@ -251,54 +238,6 @@ void FillKernelsTest::mostPixelsAreDecidedAtOnce()
         }
     }
     QVERIFY2(undecidedPixels < 800 * 800 / 100, qPrintable(QString::number(undecidedPixels)));
-}
-
-void FillKernelsTest::aBaselineKernelIsAlwaysThere()
-{
-    QVERIFY(ceiechart::fillKernels[ceiechart::fillKernelCount - 1].supported());
-    QVERIFY(ceiechart::fastestFillKernel().supported());
-}
-
-// The compiler's own function asks the processor and the operating system too.
-void FillKernelsTest::processorsAreToldApart()
-{
-#if defined(__GNUC__) && defined(__x86_64__) && !defined(Q_OS_WIN)
-    QStringList expected;
-    if (__builtin_cpu_supports("avx512f")) {
-        expected += QStringLiteral("AVX-512");
-    }
-    if (__builtin_cpu_supports("avx2")) {
-        expected += QStringLiteral("AVX2");
-    }
-    expected += QStringLiteral("baseline");
-    QStringList found;
-    for (const ceiechart::FillKernel *kernel : supportedKernels()) {
-        found += QLatin1String(kernel->name);
-    }
-    QCOMPARE(found, expected);
-#else
-    QSKIP("no other function tells what the processor supports");
-#endif
-}
-
-void FillKernelsTest::pixelsBeyondTheRunStay()
-{
-    constexpr int most = 64;
-    const ceiechart::PixelRun run{0.9F, 0.05F, 0.05F, -0.013F, 0.006F, 0.007F, 0.01F};
-    const ceiechart::FillKernel &plain = ceiechart::fillKernels[ceiechart::fillKernelCount - 1];
-    for (const ceiechart::FillKernel *kernel : supportedKernels()) {
-        for (int count = 0; count <= most; ++count) {
-            std::vector<unsigned> colors(most + 1, 0x12345678U);
-            std::vector<unsigned> undecided(most + 1, 0x87654321U);
-            std::vector<unsigned> expectedColors = colors;
-            std::vector<unsigned> expectedUndecided = undecided;
-            const bool any = kernel->decide(run, count, colors.data(), undecided.data());
-            QCOMPARE(any, plain.decide(run, count, expectedColors.data(), expectedUndecided.data()));
-            QVERIFY2(colors == expectedColors, kernel->name);
-            QVERIFY2(undecided == expectedUndecided, kernel->name);
-            QCOMPARE(colors.back(), 0x12345678U);
-        }
-    }
 }
 
 void FillKernelsTest::nothingToFill()
