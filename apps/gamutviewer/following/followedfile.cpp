@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "following/followedfile.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace gamutviewer {
 
@@ -14,6 +17,15 @@ constexpr int gatherMilliseconds = 10;
 //! Some file systems send no notices: shared folders, for example.
 constexpr int lookMilliseconds = 1000;
 constexpr int tailBytes = 1024;
+//! What was read is compared in blocks, a megabyte at a time, which takes some two milliseconds.
+constexpr int blockBytes = 64 * 1024;
+constexpr int blocksCompared = 16;
+constexpr int compareMilliseconds = 200;
+
+QByteArray digest(const QByteArray &block)
+{
+    return QCryptographicHash::hash(block, QCryptographicHash::Md5); // against mistakes, not against forgery
+}
 
 } // namespace
 
@@ -68,15 +80,53 @@ QByteArray FollowedFile::read(int most)
         return QByteArray();
     }
     const qint64 tailBegin = m_position - m_tail.size();
-    if (!file.seek(tailBegin) || file.read(m_tail.size()) != m_tail) {
-        m_position = 0;
-        m_tail.clear();
+    if (!file.seek(tailBegin) || file.read(m_tail.size()) != m_tail || !isAsRead(file)) {
+        forget();
         Q_EMIT restarted();
     }
     const QByteArray bytes = file.seek(m_position) ? file.read(most) : QByteArray();
+    keep(bytes);
+    return bytes;
+}
+
+void FollowedFile::keep(const QByteArray &bytes)
+{
     m_position += bytes.size();
     m_tail = (m_tail + bytes).right(tailBytes);
-    return bytes;
+    m_block += bytes;
+    while (m_block.size() >= blockBytes) {
+        m_blocks.append(digest(m_block.left(blockBytes)));
+        m_block.remove(0, blockBytes);
+    }
+}
+
+void FollowedFile::forget()
+{
+    m_position = 0;
+    m_tail.clear();
+    m_blocks.clear();
+    m_block.clear();
+    m_nextBlock = 0;
+}
+
+//! Compares some of what was read with what stands there now: the rest has its turn at the next times.
+bool FollowedFile::isAsRead(QFile &file)
+{
+    if (m_sinceCompared.isValid() && m_sinceCompared.elapsed() < compareMilliseconds) {
+        return true;
+    }
+    m_sinceCompared.start();
+    if (!file.seek(qint64(m_blocks.size()) * blockBytes) || file.read(m_block.size()) != m_block) {
+        return false;
+    }
+    for (int i = 0; i < std::min(blocksCompared, int(m_blocks.size())); ++i) {
+        m_nextBlock = m_nextBlock < m_blocks.size() ? m_nextBlock : 0;
+        if (!file.seek(qint64(m_nextBlock) * blockBytes) || digest(file.read(blockBytes)) != m_blocks.at(m_nextBlock)) {
+            return false;
+        }
+        ++m_nextBlock;
+    }
+    return true;
 }
 
 } // namespace gamutviewer
