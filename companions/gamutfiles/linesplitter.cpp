@@ -99,7 +99,8 @@ std::optional<StreamLine> LineSplitter::next()
     if (!m_isFinished || (m_begin == m_bytes.size() && !m_isTooLong)) {
         return std::nullopt;
     }
-    const StreamLine line = taken(int(m_bytes.size()));
+    StreamLine line = taken(int(m_bytes.size()));
+    line.hasNoEnd = true;
     m_begin = int(m_bytes.size());
     m_scanned = m_begin;
     return line;

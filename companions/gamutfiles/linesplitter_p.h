@@ -15,6 +15,7 @@ namespace gamutfiles {
 struct StreamLine {
     QByteArray bytes; //!< without its end, as they were stored; nothing of a line that is too long
     bool isTooLong = false;
+    bool hasNoEnd = false; //!< the last line, of a text that does not end with a line end
 };
 
 /*!

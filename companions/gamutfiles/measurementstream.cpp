@@ -70,6 +70,7 @@ public:
     QVector<Measurement> found;
     QVector<ColorLevel> highestLevel; // of those without a stated full level: one, or none
     bool isFinished = false;
+    LastLine lastLine = LastLine::IsWhole;
     bool hasLines = false;
     MeasurementStreamState state;
 };
@@ -104,6 +105,10 @@ void MeasurementStream::Private::takeLine(const StreamLine &line)
     if (line.isTooLong) {
         refuse(state.lines,
             Problem{StreamText::tr("is longer than %1 KiB").arg(maximumStreamLineBytes / 1024), QString(), 0, 0});
+        return;
+    }
+    if (line.hasNoEnd && lastLine == LastLine::MayBeCutOff) {
+        refuse(state.lines, Problem{StreamText::tr("has no end, and may be cut off"), QString(), 0, 0});
         return;
     }
     if (const auto text = decoded(line.bytes)) {
@@ -264,9 +269,10 @@ void MeasurementStream::feed(const QByteArray &bytes)
     d->hasLines = true;
 }
 
-void MeasurementStream::finish()
+void MeasurementStream::finish(LastLine lastLine)
 {
     d->splitter.finish();
+    d->lastLine = lastLine;
     d->isFinished = true;
     d->hasLines = true;
 }

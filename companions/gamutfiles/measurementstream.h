@@ -60,8 +60,13 @@ public:
 
     /*! \brief Takes \a bytes, which begin and end anywhere in a line or in a character. */
     void feed(const QByteArray &bytes);
-    /*! \brief Tells that no more bytes come: the last line is complete without its end. */
-    void finish();
+    /*! \brief What is made of a last line that has no line end. */
+    enum class LastLine {
+        IsWhole, //!< it is a line like the others
+        MayBeCutOff //!< it is not read: what wrote it may have ended in the middle of a number
+    };
+    /*! \brief Tells that no more bytes come. */
+    void finish(LastLine lastLine = LastLine::IsWhole);
     /*!
      * \brief Reads at most \a most further lines of what was fed; the measurements in them, in their order.
      *

@@ -178,6 +178,14 @@ void MeasurementStreamTest::takesTheLastLineWithoutAnEndWhenNoMoreComes()
     QCOMPARE(readAll(stream).size(), 1);
     QVERIFY(!stream.hasLines());
 
+    // What was written while the tool ended may be half a number.
+    MeasurementStream cut;
+    QVERIFY(readAll(cut, header + "Red,212.6,0.64,0.33\nRed,21").size() == 1);
+    cut.finish(MeasurementStream::LastLine::MayBeCutOff);
+    QVERIFY(readAll(cut).isEmpty());
+    QCOMPARE(cut.state().notRead, 1);
+    QCOMPARE(cut.state().lastNotRead.message(), QStringLiteral("line 3: has no end, and may be cut off"));
+
     // What is held is explained by nothing any more.
     MeasurementStream undecided;
     QVERIFY(readAll(undecided, "name;X;Y;Z\nR;41,245;21,264;1,932\n").isEmpty());
