@@ -23,7 +23,8 @@ constexpr const char *reasons[] = {QT_TRANSLATE_NOOP("gamutfiles::Wall", "red is
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "blue is there more than once"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "white is there more than once"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "black is there more than once"),
-    QT_TRANSLATE_NOOP("gamutfiles::Wall", "it has no name of its own")};
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "it has no name of its own"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "it is being measured")};
 
 } // namespace
 

@@ -220,9 +220,7 @@ void LatestMeasurements::add(const Measurement &measurement)
         d->isWallCurrent = false;
     }
     auto &kept = cabinet.parts[std::size_t(measurement.part)];
-    const bool isKept = measurement.part == MeasurementPart::Black || measurement.color
-        || (measurement.part != MeasurementPart::None && !kept); // which tells why the cabinet is not complete
-    if (measurement.part == MeasurementPart::None || !isKept) {
+    if (measurement.part == MeasurementPart::None) {
         return;
     }
     d->isWallCurrent = d->isWallCurrent && kept && isSameColor(*kept, measurement);
@@ -272,6 +270,30 @@ const std::optional<DisplayWall> &LatestMeasurements::wall() const
         d->isWallCurrent = true;
     }
     return d->wall;
+}
+
+std::optional<DisplayWall> LatestMeasurements::wallInProgress() const
+{
+    std::optional<DisplayWall> result = wall();
+    if (!result || result->cabinets.size() < 2) {
+        return result;
+    }
+    const KeptCabinet &last = d->cabinets.all().back().second;
+    const auto isAwaited = [&](MeasurementPart part) {
+        return !last.parts[std::size_t(part)]
+            && std::any_of(d->cabinets.all().begin(), d->cabinets.all().end(),
+                [part](const auto &other) { return other.second.parts[std::size_t(part)].has_value(); });
+    };
+    const auto inWall = std::find_if(result->cabinets.begin(), result->cabinets.end(),
+        [label = last.identity.label()](const WallCabinet &cabinet) { return cabinet.label() == label; });
+    if (inWall != result->cabinets.end() && (isAwaited(MeasurementPart::White) || isAwaited(MeasurementPart::Black))) {
+        const auto position = inWall->row && inWall->column
+            ? std::make_optional(Model::GridPosition{*inWall->row, *inWall->column})
+            : std::nullopt;
+        result->incomplete.push_back({inWall->name, position, QStringLiteral("it is being measured")});
+        result->cabinets.erase(inWall);
+    }
+    return result;
 }
 
 MeasurementList LatestMeasurements::listBesideWall() const

@@ -63,6 +63,11 @@ public:
      * anything is added or forgotten.
      */
     const std::optional<DisplayWall> &wall() const;
+    /*!
+     * \brief The same while the measurement goes on: the cabinet that was measured last is incomplete while it lacks a
+     * white or a black that another one has, as that may still come.
+     */
+    std::optional<DisplayWall> wallInProgress() const;
     /*! \brief The last colours, as list() has them, without those of the cabinets that wall() has complete. */
     MeasurementList listBesideWall() const;
     /*!

@@ -52,7 +52,7 @@ private Q_SLOTS:
     void countsTheLatestOfAColour();
     void showsPointsUntilThereIsAGamut();
     void keepsABlackWithoutAChromaticity();
-    void ignoresAPrimaryWithoutAChromaticity();
+    void forgetsAPrimaryThatLostItsChromaticity();
     void forgetsTheOldestPoints();
     void forgetsTheOldestCabinets();
     void showsTheCabinetThatWasCompletedLast();
@@ -109,14 +109,16 @@ void LatestMeasurementsTest::keepsABlackWithoutAChromaticity()
     QCOMPARE(latest.pointCount(), 4);
 }
 
-void LatestMeasurementsTest::ignoresAPrimaryWithoutAChromaticity()
+void LatestMeasurementsTest::forgetsAPrimaryThatLostItsChromaticity()
 {
     LatestMeasurements latest;
     addGamut(latest);
     Measurement dark = measured(QStringLiteral("Red"), MeasurementPart::Red, 0.3, 0.3);
     dark.color.reset();
     latest.add(dark);
-    QCOMPARE(redOf(latest), 0.64);
+    QCOMPARE(redOf(latest), -1.0);
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.65, 0.33));
+    QCOMPARE(redOf(latest), 0.65);
 }
 
 void LatestMeasurementsTest::forgetsTheOldestPoints()

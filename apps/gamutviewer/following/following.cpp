@@ -92,7 +92,8 @@ bool Following::readPiece()
     }
     if (m_input->hasEnded() && !m_isFinished) {
         m_isFinished = true;
-        m_stream->finish();
+        m_stream->finish(MeasurementStream::LastLine::MayBeCutOff);
+        m_frame.start(); // what was being measured will not change any more
         return true;
     }
     return false;

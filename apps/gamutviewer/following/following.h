@@ -46,8 +46,11 @@ public:
      * It is named after what is followed and, where it has the gamut of a cabinet, after the cabinet.
      */
     GamutFile file() const;
-    /*! \brief The cabinets that have been measured so far; nothing for a list that is not of a wall, or not yet. */
-    const std::optional<DisplayWall> &wall() const { return m_latest->wall(); }
+    /*!
+     * \brief The cabinets that have been measured so far, as LatestMeasurements::wallInProgress() has them until the
+     * input ends; nothing for a list that is not of a wall, or not yet.
+     */
+    std::optional<DisplayWall> wall() const { return m_isFinished ? m_latest->wall() : m_latest->wallInProgress(); }
     /*! \brief Whether the unit has changed, so that what had been measured before was forgotten. */
     bool hasOtherUnit() const { return m_hasOtherUnit; }
     /*! \brief Whether there was not enough memory to go on: latest() stays what it came to before. */

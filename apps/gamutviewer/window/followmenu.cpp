@@ -60,13 +60,18 @@ void FollowMenu::followByDialog()
 
 void FollowMenu::show()
 {
-    m_document->showFollowed(m_following->file(), m_following->wall(), m_following->latest().listedCabinet());
+    showWith(m_following->wall());
+}
+
+void FollowMenu::showWith(const std::optional<DisplayWall> &wall)
+{
+    m_document->showFollowed(m_following->file(), wall, m_following->latest().listedCabinet());
 }
 
 void FollowMenu::keep()
 {
     if (m_following) {
-        show(); // what came since the last frame
+        showWith(m_following->latest().wall()); // with what came since the last frame
         m_document->keepFollowed(tr("keep %1").arg(shownName(m_following->input())));
     }
 }

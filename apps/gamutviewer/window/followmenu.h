@@ -7,6 +7,8 @@
 
 #include <QMenu>
 
+#include <optional>
+
 #include <memory>
 
 class QLabel;
@@ -50,6 +52,7 @@ public:
 private:
     void followByDialog();
     void show();
+    void showWith(const std::optional<DisplayWall> &wall);
     void refresh();
     QString text() const;
     QString progressText() const;
