@@ -14,6 +14,17 @@
 
 namespace gamutviewer {
 
+namespace {
+
+constexpr double rounding = 1e-9;
+
+} // namespace
+
+bool differsInLuminance(const Model::Target &measured, const Model::Target &sum)
+{
+    return !(std::fabs(measured.Y - sum.Y) <= sum.Y * (additiveLuminance + rounding));
+}
+
 Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Target &measured)
 {
     Additivity result;
@@ -22,8 +33,7 @@ Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Target &m
         return result;
     }
     result.sum = *sum;
-    constexpr double rounding = 1e-9;
-    result.differsInLuminance = !(std::fabs(measured.Y - sum->Y) <= sum->Y * (additiveLuminance + rounding));
+    result.differsInLuminance = differsInLuminance(measured, *sum);
     const auto difference = Model::uvDifference(measured, *sum);
     result.isAdditive = !result.differsInLuminance && difference && *difference <= additiveUv + rounding;
     const auto white = drive.driveOf(measured);

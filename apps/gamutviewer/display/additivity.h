@@ -28,6 +28,9 @@ struct Additivity {
     bool differsInLuminance = false; //!< whether the luminance is what is not additive
 };
 
+/*! \brief Whether the luminance of a \a measured white is more than additiveLuminance off the \a sum of its primaries.
+ */
+bool differsInLuminance(const Model::Target &measured, const Model::Target &sum);
 /*! \brief Of \a drive, which has no fault, with the white that was \a measured of the same display. */
 Additivity additivityOf(const Model::DisplayDrive &drive, const Model::Target &measured);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/wallassessmenttexts.h"
 
+#include "display/additivity.h"
 #include "display/assessmentparts.h"
 #include "display/assessmenttexts.h"
 #include "display/chromaticity.h"
@@ -84,9 +85,9 @@ QString notAdditiveText(const DisplayWall &wall, const DisplayGamut &target, con
             .arg(reachableText(*cabinet.largestWhite, wall.unit),
                 luminanceText(target.getTargets().white.Y, target.unit));
     }
-    const bool differ = luminanceText(measured.Y) != luminanceText(sum.Y);
-    const QString is = differ ? luminanceText(measured.Y, wall.unit) : pointText(pointOf(measured));
-    const QString adds = differ ? luminanceText(sum.Y, wall.unit) : pointText(pointOf(sum));
+    const QString is
+        = differsInLuminance(measured, sum) ? luminanceText(measured.Y, wall.unit) : pointText(pointOf(measured));
+    const QString adds = differsInLuminance(measured, sum) ? luminanceText(sum.Y, wall.unit) : pointText(pointOf(sum));
     return cabinet.largestWhite
         ? WallText::tr("the white is %1, the primaries add to %2: what it shows with its correction cannot be worked "
                        "out")

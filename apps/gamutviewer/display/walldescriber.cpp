@@ -230,6 +230,25 @@ private:
         }
     }
 
+    //! Which cabinets keep the primaries of the fitted target from staying where they are, after a space.
+    QString limitsText() const
+    {
+        const Model::GamutFit &fit = m_result.fit;
+        const std::pair<ceiechart::GamutVertex, const Model::FittedPrimary &> primaries[]
+            = {{ceiechart::GamutVertex::Red, fit.red}, {ceiechart::GamutVertex::Green, fit.green},
+                {ceiechart::GamutVertex::Blue, fit.blue}};
+        QStringList limits;
+        for (const auto &[vertex, primary] : primaries) {
+            if (primary.limit) {
+                limits.append(WallText::tr("%1 for %2", "name of a cabinet, and the primary that it limits")
+                                  .arg(cabinetName(m_wall, *primary.limit), gamutVertexName(vertex)));
+            }
+        }
+        return limits.isEmpty() ? QString()
+                                : QLatin1Char(' ')
+                + WallText::tr("The limits are %1.").arg(limits.join(WallText::tr(", ", "between names")));
+    }
+
     void describeWays(const std::vector<std::size_t> &failing, const std::vector<std::size_t> &unknown)
     {
         if (!failing.empty()) {
@@ -244,7 +263,8 @@ private:
                 add(std::nullopt,
                     text.arg(percent(m_result.fit.costUv.coverage),
                         m_result.luminancesCompare ? reachableText(fitted->white.Y, m_target.unit)
-                                                   : luminanceText(fitted->white.Y, m_target.unit)));
+                                                   : luminanceText(fitted->white.Y, m_target.unit))
+                        + limitsText());
             } else if (!problem.isEmpty() && m_result.common.shape == Model::CommonShape::Area) {
                 add(std::nullopt, problem);
             }
