@@ -8,9 +8,36 @@
 #include <QScrollBar>
 
 #include <algorithm>
-#include <numeric>
 
 namespace gamutviewer {
+
+//! A cell whose text is asked for when it is seen.
+class GroupedTable::LaterCell : public QTableWidgetItem {
+public:
+    LaterCell(const GroupedTable *table, int group, int row)
+        : m_table(table)
+        , m_group(group)
+        , m_row(row)
+    {
+    }
+
+    QVariant data(int role) const override
+    {
+        switch (role) {
+        case Qt::DisplayRole:
+            return m_table->m_groups.at(m_group).laterText(m_row, column());
+        case Qt::TextAlignmentRole:
+            return int(Qt::AlignRight | Qt::AlignVCenter);
+        default:
+            return QTableWidgetItem::data(role);
+        }
+    }
+
+private:
+    const GroupedTable *m_table;
+    int m_group;
+    int m_row; // in the group
+};
 
 GroupedTable::GroupedTable(const QStringList &header, QWidget *parent)
     : CopyTable(0, header.size(), parent)
@@ -33,12 +60,13 @@ GroupedTable::GroupedTable(const QStringList &header, QWidget *parent)
 
 void GroupedTable::setGroups(const QVector<Group> &groups)
 {
-    QVector<int> sizes;
+    m_groups = groups;
+    QVector<std::pair<int, bool>> shape;
     for (const Group &group : groups) {
-        sizes.append(int(group.rows.size()));
+        shape.append({int(group.rows.size()), bool(group.laterText)});
     }
-    if (sizes != m_sizes) {
-        m_sizes = sizes;
+    if (shape != m_shape) {
+        m_shape = shape;
         makeCells();
     }
     const auto show = [this](int row, int column, const QString &text) {
@@ -50,14 +78,19 @@ void GroupedTable::setGroups(const QVector<Group> &groups)
     int row = 0;
     for (const Group &group : groups) {
         show(row++, 0, group.title);
+        const int first = row;
+        const int shown = group.laterText ? 1 : columnCount();
         for (const QStringList &cells : group.rows) {
-            for (int column = 0; column < columnCount(); ++column) {
+            for (int column = 0; column < shown; ++column) {
                 show(row, column, cells.value(column));
             }
             ++row;
         }
+        if (group.laterText && row > first) {
+            Q_EMIT model()->dataChanged(model()->index(first, shown), model()->index(row - 1, columnCount() - 1));
+        }
     }
-    fitColumns(groups);
+    fitColumns();
 }
 
 void GroupedTable::makeCells()
@@ -73,20 +106,30 @@ void GroupedTable::makeCells()
     };
     clearSpans();
     setRowCount(0);
-    setRowCount(std::accumulate(m_sizes.begin(), m_sizes.end(), m_sizes.size()));
+    int rows = 0;
+    for (const auto &[size, hasLater] : qAsConst(m_shape)) {
+        rows += 1 + size;
+    }
+    setRowCount(rows);
     int row = 0;
-    for (const int size : qAsConst(m_sizes)) {
+    for (int group = 0; group < m_shape.size(); ++group) {
         make(row, 0, bold, Qt::AlignLeft);
         setSpan(row++, 0, 1, columnCount());
-        for (const int end = row + size; row < end; ++row) {
-            for (int column = 0; column < columnCount(); ++column) {
-                make(row, column, plain, column == 0 ? Qt::AlignLeft : Qt::AlignRight);
+        const auto [size, hasLater] = m_shape.at(group);
+        for (int i = 0; i < size; ++i, ++row) {
+            make(row, 0, plain, Qt::AlignLeft);
+            for (int column = 1; column < columnCount(); ++column) {
+                if (hasLater) {
+                    setItem(row, column, new LaterCell(this, group, i));
+                } else {
+                    make(row, column, plain, Qt::AlignRight);
+                }
             }
         }
     }
 }
 
-void GroupedTable::fitColumns(const QVector<Group> &groups)
+void GroupedTable::fitColumns()
 {
     // To measure a text takes longer than all else, and most texts occur in many rows or have been shown before.
     if (m_metrics != fontMetrics() || m_widths.size() > 2 * rowCount() * columnCount()) {
@@ -101,7 +144,11 @@ void GroupedTable::fitColumns(const QVector<Group> &groups)
     for (int column = 0; column < columnCount(); ++column) {
         int width = horizontalHeader()->fontMetrics().horizontalAdvance(horizontalHeaderItem(column)->text());
         // Titles run over all columns and must not widen the first.
-        for (const Group &group : groups) {
+        for (const Group &group : qAsConst(m_groups)) {
+            if (column > 0 && group.laterText) {
+                width = std::max(width, widthOf(group.widest.value(column)));
+                continue;
+            }
             for (const QStringList &cells : group.rows) {
                 width = std::max(width, widthOf(cells.value(column)));
             }

@@ -8,6 +8,9 @@
 #include <QFontMetrics>
 #include <QHash>
 
+#include <functional>
+#include <utility>
+
 namespace gamutviewer {
 
 /*! \brief A table to read whose rows stand in groups under a title. */
@@ -17,7 +20,10 @@ class GroupedTable : public CopyTable {
 public:
     struct Group {
         QString title;
-        QVector<QStringList> rows;
+        QVector<QStringList> rows; //!< the cells of each row; only the first of them where there is laterText
+        //! The text in a row and a column after the first, asked for when the cell is seen. Null for none.
+        std::function<QString(int row, int column)> laterText{};
+        QStringList widest{}; //!< for each column a text at least as wide as those of laterText
     };
 
     explicit GroupedTable(const QStringList &header, QWidget *parent = nullptr);
@@ -30,10 +36,13 @@ public:
     QSize minimumSizeHint() const override { return QSize(120, 80); }
 
 private:
-    void makeCells();
-    void fitColumns(const QVector<Group> &groups);
+    class LaterCell;
 
-    QVector<int> m_sizes; // of the groups shown
+    void makeCells();
+    void fitColumns();
+
+    QVector<Group> m_groups;
+    QVector<std::pair<int, bool>> m_shape; // of the groups that there are cells for: rows, and whether later cells
     QFontMetrics m_metrics;
     QHash<QString, int> m_widths; // of texts that are shown or were, as m_metrics measures them
 };

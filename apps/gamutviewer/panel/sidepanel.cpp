@@ -17,6 +17,10 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
 namespace gamutviewer {
 
 namespace {
@@ -30,14 +34,29 @@ QStringList valueCells(Vertex vertex, const Model::Target &t)
         temperature ? duvText(*temperature) : undefinedText()};
 }
 
-QStringList coverageCells(const Model::ColorGamut &gamut, const Model::ColorGamut &standard)
+constexpr Model::Diagram coverageDiagrams[] = {Model::Diagram::Cie1931, Model::Diagram::Cie1976};
+
+//! The coverage of \a standard by \a gamut in column 1 or 3, or the ratio of their areas in column 2 or 4.
+QString coverageCell(const Model::Targets &gamut, const Model::Targets &standard, int column)
 {
-    QStringList cells{nameOf(standard)};
-    for (const Model::Diagram diagram : {Model::Diagram::Cie1931, Model::Diagram::Cie1976}) {
-        const Model::GamutCoverage c = Model::gamutCoverage(gamut.getTargets(), standard.getTargets(), diagram);
-        cells << percent(c.coverage) << percent(c.areaRatio);
+    const Model::GamutCoverage c = Model::gamutCoverage(gamut, standard, coverageDiagrams[(column - 1) / 2]);
+    return percent(column % 2 == 1 ? c.coverage : c.areaRatio);
+}
+
+//! For each column of the coverage of \a standards by \a gamut a text as wide as the widest.
+QStringList widestCoverage(const Model::Targets &gamut, const std::vector<DisplayGamut> &standards)
+{
+    QStringList widest{QString()};
+    for (const Model::Diagram diagram : coverageDiagrams) {
+        const double area = Model::gamutArea(gamut, diagram);
+        double largest = 0.0;
+        for (const DisplayGamut &standard : standards) {
+            const double ratio = area / Model::gamutArea(standard.getTargets(), diagram);
+            largest = std::isfinite(ratio) ? std::max(largest, ratio) : largest;
+        }
+        widest << percent(1.0) << percent(largest);
     }
-    return cells;
+    return widest;
 }
 
 QStringList hueCells(Vertex vertex, const Model::Targets &targets)
@@ -153,14 +172,19 @@ void SidePanel::refreshValues()
 
 void SidePanel::refreshCoverage()
 {
-    const std::vector<DisplayGamut> standards = m_document->description().allStandards();
+    const auto standards = std::make_shared<const std::vector<DisplayGamut>>(m_document->description().allStandards());
+    QVector<QStringList> names;
+    names.reserve(int(standards->size()));
+    for (const DisplayGamut &standard : *standards) {
+        names.append(QStringList{nameOf(standard)});
+    }
     QVector<GroupedTable::Group> groups;
     for (const GamutPart &part : gamutParts(m_document->description())) {
-        GroupedTable::Group group{part.title(), {}};
-        for (const Model::ColorGamut &standard : standards) {
-            group.rows.append(coverageCells(part.gamut, standard));
-        }
-        groups.prepend(group);
+        const Model::Targets targets = part.gamut.getTargets();
+        const auto text = [standards, targets](int row, int column) {
+            return coverageCell(targets, standards->at(std::size_t(row)).getTargets(), column);
+        };
+        groups.prepend({part.title(), names, text, widestCoverage(targets, *standards)});
     }
     appendNotKnown(groups, m_document->description());
     m_coverage->setGroups(groups);
