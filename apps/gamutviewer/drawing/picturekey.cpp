@@ -76,9 +76,12 @@ public:
         const QRgb ground = ceiechart::diagramPalette(content.ground).ground.rgb();
         for (int y = 0; y < m_height; ++y) {
             const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+            const int *above = &m_sums[at(0, y)];
+            int *sums = &m_sums[at(0, y + 1)];
+            int inLine = 0;
             for (int x = 0; x < m_width; ++x) {
-                m_sums[at(x + 1, y + 1)]
-                    = m_sums[at(x, y + 1)] + m_sums[at(x + 1, y)] - m_sums[at(x, y)] + (line[x] != ground);
+                inLine += line[x] != ground;
+                sums[x + 1] = above[x + 1] + inLine;
             }
         }
     }
@@ -87,21 +90,21 @@ public:
     std::optional<QPointF> place(const QSizeF &size) const
     {
         const QRectF room = m_plot.adjusted(gap, gap, -gap, -gap);
-        const double right = room.right() - size.width();
-        const double bottom = room.bottom() - size.height();
+        const std::vector<Span> columns = spans(room.left(), room.right(), size.width(), m_width);
+        const std::vector<Span> rows = spans(room.top(), room.bottom(), size.height(), m_height);
         std::optional<QPointF> best;
         double least = HUGE_VAL;
-        const double step = placeStep / m_scale;
-        for (double fromBottom = 0.0; bottom - fromBottom >= room.top(); fromBottom += step) {
-            for (double fromRight = 0.0; right - fromRight >= room.left(); fromRight += step) {
-                const QPointF corner(right - fromRight, bottom - fromBottom);
-                const double fromTop = corner.y() - room.top();
-                const double fromLeft = corner.x() - room.left();
+        for (const Span &row : rows) {
+            const double fromTop = row.fromBegin;
+            const double fromBottom = row.fromEnd;
+            for (const Span &column : columns) {
+                const double fromLeft = column.fromBegin;
+                const double fromRight = column.fromEnd;
                 const double distance = 2.0 * std::min(fromRight, fromLeft) + (fromLeft < fromRight ? 2.0 * gap : 0.0)
                     + std::min(fromTop, fromBottom) + (fromBottom < fromTop ? gap : 0.0);
-                if (distance < least && isFree(QRectF(corner, size).adjusted(-gap, -gap, gap, gap))) {
+                if (distance < least && isFree(column, row)) {
                     least = distance;
-                    best = corner;
+                    best = QPointF(column.from, row.from);
                 }
             }
         }
@@ -109,15 +112,36 @@ public:
     }
 
 private:
+    //! A place in one direction.
+    struct Span {
+        double from;
+        double fromBegin; // of the room
+        double fromEnd; // to the end of the room
+        int firstPixel; // of the mask, which is to be free as those that follow
+        int endPixel; // behind them
+    };
+
+    //! The places of \a length in the room from \a begin to \a end, from the last one on.
+    std::vector<Span> spans(double begin, double end, double length, int pixels) const
+    {
+        std::vector<Span> found;
+        const double last = end - length;
+        const double step = placeStep / m_scale;
+        for (double fromEnd = 0.0; last - fromEnd >= begin; fromEnd += step) {
+            const double from = last - fromEnd;
+            const double first = from - gap;
+            found.push_back({from, from - begin, fromEnd, std::clamp(int(std::floor(first * m_scale)), 0, pixels),
+                std::clamp(int(std::ceil((first + (length + gap + gap)) * m_scale)), 0, pixels)});
+        }
+        return found;
+    }
+
     std::size_t at(int x, int y) const { return std::size_t(y) * std::size_t(m_width + 1) + std::size_t(x); }
 
-    bool isFree(const QRectF &place) const
+    bool isFree(const Span &column, const Span &row) const
     {
-        const int left = std::clamp(int(std::floor(place.left() * m_scale)), 0, m_width);
-        const int right = std::clamp(int(std::ceil(place.right() * m_scale)), 0, m_width);
-        const int top = std::clamp(int(std::floor(place.top() * m_scale)), 0, m_height);
-        const int bottom = std::clamp(int(std::ceil(place.bottom() * m_scale)), 0, m_height);
-        return m_sums[at(right, bottom)] - m_sums[at(left, bottom)] - m_sums[at(right, top)] + m_sums[at(left, top)]
+        return m_sums[at(column.endPixel, row.endPixel)] - m_sums[at(column.firstPixel, row.endPixel)]
+            - m_sums[at(column.endPixel, row.firstPixel)] + m_sums[at(column.firstPixel, row.firstPixel)]
             == 0;
     }
 

@@ -5,10 +5,7 @@
 #include "editing/document.h"
 #include "editing/targetedits.h"
 #include "editing/targetsession.h"
-#include "panel/plaintooltip.h"
-
-#include <ceiechart/diagram/targetrules.h>
-#include <gamutmodel/publishedgamuts.h>
+#include "window/gamutsmodel.h"
 
 #include <QAccessible>
 #include <QDialogButtonBox>
@@ -18,26 +15,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScopedValueRollback>
-#include <QSet>
-#include <QTableWidget>
+#include <QTableView>
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <iterator>
 
 namespace gamutviewer {
 
 namespace {
 
-constexpr int nameColumn = 0;
-constexpr int nameRole = Qt::UserRole; // the gamut's name as it is, also while another one is being typed
 constexpr QSize firstSize(620, 360);
-
-GamutRole roleOf(int column)
-{
-    return allGamutRoles[column - 1];
-}
 
 //! The names of the gamuts of \a description and of those that play a part.
 QStringList parts(const DisplayDescription &description)
@@ -61,20 +46,20 @@ GamutsDialog::GamutsDialog(Document *document, QWidget *parent)
     layout->addLayout(form);
     m_displayName = new QLineEdit(this);
     form->addRow(tr("&Name of the display:"), m_displayName);
-    QStringList headers{tr("Gamut")};
-    for (const GamutRole role : allGamutRoles) {
-        headers.append(ceiechart::gamutRoleName(role));
-    }
-    m_table = new QTableWidget(0, headers.size(), this);
-    m_table->setHorizontalHeaderLabels(headers);
+    m_gamuts = new GamutsModel(this);
+    m_table = new QTableView(this);
+    m_table->setModel(m_gamuts);
     m_table->setAccessibleName(tr("Gamuts and their roles"));
     m_table->setAccessibleDescription(tr("Space gives or takes a role, F2 renames, Delete removes"));
     m_table->setToolTip(m_table->accessibleDescription());
     m_table->verticalHeader()->hide();
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
-    fitColumns();
-    m_table->horizontalHeader()->setHighlightSections(false);
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setResizeContentsPrecision(1); // row, as the boxes are equally wide in all
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(GamutsModel::nameColumn, QHeaderView::Stretch);
+    header->setHighlightSections(false);
     layout->addWidget(m_table, 1);
     m_message = new QLabel(this);
     m_message->setTextFormat(Qt::PlainText);
@@ -90,8 +75,9 @@ GamutsDialog::GamutsDialog(Document *document, QWidget *parent)
     layout->addWidget(buttons);
 
     connect(m_displayName, &QLineEdit::editingFinished, this, &GamutsDialog::nameDisplay);
-    connect(m_table, &QTableWidget::itemChanged, this, &GamutsDialog::take);
-    connect(m_table, &QTableWidget::currentCellChanged, this, &GamutsDialog::refreshButtons);
+    connect(m_gamuts, &GamutsModel::nameTyped, this, &GamutsDialog::rename);
+    connect(m_gamuts, &GamutsModel::partChosen, this, &GamutsDialog::giveOrTake);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this, &GamutsDialog::refreshButtons);
     connect(m_remove, &QPushButton::clicked, this, &GamutsDialog::removeCurrent);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(document, &Document::edited, this, &GamutsDialog::refresh);
@@ -102,49 +88,22 @@ GamutsDialog::GamutsDialog(Document *document, QWidget *parent)
         }
     });
     refresh();
-    m_table->setCurrentCell(0, nameColumn);
+    m_table->setCurrentIndex(m_gamuts->index(0, GamutsModel::nameColumn));
     m_table->setFocus();
     resize(firstSize);
 }
 
-QString GamutsDialog::nameAt(int row) const
+QString GamutsDialog::currentName() const
 {
-    const QTableWidgetItem *item = m_table->item(row, nameColumn);
-    return item ? item->data(nameRole).toString() : QString();
+    return m_gamuts->nameAt(m_table->currentIndex().row());
 }
 
 GamutsDialog::~GamutsDialog()
 {
     // The fields outlive this part of the dialog, and lose the focus as they go.
     disconnect(m_displayName, nullptr, this, nullptr);
-    disconnect(m_table, nullptr, this, nullptr);
-}
-
-bool GamutsDialog::Row::operator==(const Row &other) const
-{
-    return name == other.name && isOwn == other.isOwn && plays == other.plays
-        && ceiechart::sameTargets(targets, other.targets);
-}
-
-//! Whether row number \a row shows \a wanted still, as the user may have changed what the document did not take.
-bool GamutsDialog::shows(int row, const Row &wanted) const
-{
-    const QTableWidgetItem *named = m_table->item(row, nameColumn);
-    bool isSame = named && named->text() == oneLine(wanted.name);
-    for (int column = 0; isSame && column < m_table->columnCount(); ++column) {
-        if (column != nameColumn) {
-            const auto role = std::find(std::begin(allGamutRoles), std::end(allGamutRoles), roleOf(column));
-            const bool plays = wanted.plays.at(std::size_t(role - std::begin(allGamutRoles)));
-            isSame = m_table->item(row, column)->checkState() == (plays ? Qt::Checked : Qt::Unchecked);
-        }
-    }
-    return isSame;
-}
-
-void GamutsDialog::fitColumns()
-{
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_table->horizontalHeader()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
+    disconnect(m_gamuts, nullptr, this, nullptr);
+    disconnect(m_table->selectionModel(), nullptr, this, nullptr);
 }
 
 void GamutsDialog::refresh()
@@ -152,105 +111,25 @@ void GamutsDialog::refresh()
     if (m_document->isDragging()) {
         return; // what moves is not shown here, and its step is still to come
     }
-    const QScopedValueRollback<bool> filling(m_isFilling, true);
-    // Columns that fit what they hold are measured anew after each cell that changes.
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    const auto setFlags = [](QTableWidgetItem *item, Qt::ItemFlags flags) {
-        if (item->flags() != flags) { // as the table takes the same flags for a change, too
-            item->setFlags(flags);
-        }
-    };
-    const DisplayDescription &description = m_document->description();
-    m_shownParts = parts(description);
-    m_displayName->setText(description.name);
-    QStringList names;
-    for (const DisplayGamut &gamut : description.gamuts) {
-        names.append(nameOf(gamut));
-    }
-    const QHash<QString, int> places = description.gamutPlaces();
-    const QSet<QString> standards(description.standards.begin(), description.standards.end());
-    for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
-        names.append(nameOf(published.gamut));
-    }
-    names.removeDuplicates();
-    m_table->setRowCount(names.size());
-    m_rows.resize(std::size_t(names.size()));
-    for (int row = 0; row < names.size(); ++row) {
-        const QString &name = names.at(row);
-        const bool isOwn = places.contains(name);
-        const Model::Targets targets = description.gamut(name, places)->getTargets();
-        const auto playsIn = [&](GamutRole role) {
-            return role == GamutRole::Standard ? standards.contains(name) : gamutInRole(description, role) == name;
-        };
-        Row shown{name, isOwn, targets, {}};
-        std::transform(std::begin(allGamutRoles), std::end(allGamutRoles), shown.plays.begin(), playsIn);
-        Row &former = m_rows[std::size_t(row)];
-        if (former == shown && shows(row, shown)) {
-            continue;
-        }
-        former = shown;
-        for (int column = 0; column < m_table->columnCount(); ++column) {
-            QTableWidgetItem *item = m_table->item(row, column);
-            if (!item) {
-                item = new QTableWidgetItem;
-                m_table->setItem(row, column, item);
-            }
-            if (column == nameColumn) {
-                item->setData(nameRole, name);
-                item->setText(oneLine(name));
-                item->setToolTip(plainToolTip(isOwn ? oneLine(name) : tr("%1: published gamut").arg(oneLine(name))));
-                QFont font = m_table->font();
-                font.setItalic(!isOwn);
-                item->setFont(font);
-                setFlags(
-                    item, Qt::ItemIsEnabled | Qt::ItemIsSelectable | (isOwn ? Qt::ItemIsEditable : Qt::NoItemFlags));
-                continue;
-            }
-            const GamutRole role = roleOf(column);
-            const bool plays = playsIn(role);
-            const QString reason = whyNotInRole(targets, role);
-            // What a file already has can be taken away.
-            item->setToolTip(reason);
-            setFlags(item,
-                reason.isEmpty() || plays ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable
-                                          : Qt::ItemIsSelectable);
-            item->setCheckState(plays ? Qt::Checked : Qt::Unchecked);
-            item->setData(Qt::AccessibleTextRole,
-                tr("%1: %2", "gamut and part").arg(oneLine(name), ceiechart::gamutRoleName(role)));
-            item->setData(Qt::AccessibleDescriptionRole, reason);
-        }
-    }
-    fitColumns();
+    m_shownParts = parts(m_document->description());
+    m_displayName->setText(m_document->description().name);
+    m_gamuts->refresh(m_document->description());
     refreshButtons();
 }
 
 void GamutsDialog::refreshButtons()
 {
-    m_remove->setEnabled(hasOwnGamut(m_document->description(), nameAt(m_table->currentRow())));
+    m_remove->setEnabled(hasOwnGamut(m_document->description(), currentName()));
 }
 
-void GamutsDialog::take(QTableWidgetItem *item)
+void GamutsDialog::giveOrTake(const QString &name, GamutRole role, bool plays)
 {
-    if (m_isFilling) {
-        return;
-    }
-    const QString name = nameAt(item->row());
-    if (item->column() == nameColumn) {
-        if (item->text() != oneLine(name)) {
-            rename(name, item->text());
-        }
-        return;
-    }
-    const GamutRole role = roleOf(item->column());
-    const bool plays = item->checkState() == Qt::Checked;
-    if (playsRole(m_document->description(), name, role) != plays) {
-        say(QString());
-        m_document->change(withRole(m_document->description(), name, role, plays, m_document->saved()),
-            plays ? tr("%1 becomes %2", "step of the history: gamut and part")
-                        .arg(oneLine(shownGamutName(name)), gamutRolePhrase(role))
-                  : tr("%1 is no longer %2", "step of the history: gamut and part")
-                        .arg(oneLine(shownGamutName(name)), gamutRolePhrase(role)));
-    }
+    say(QString());
+    m_document->change(withRole(m_document->description(), name, role, plays, m_document->saved()),
+        plays ? tr("%1 becomes %2", "step of the history: gamut and part")
+                    .arg(oneLine(shownGamutName(name)), gamutRolePhrase(role))
+              : tr("%1 is no longer %2", "step of the history: gamut and part")
+                    .arg(oneLine(shownGamutName(name)), gamutRolePhrase(role)));
 }
 
 void GamutsDialog::rename(const QString &from, const QString &to)
@@ -261,14 +140,12 @@ void GamutsDialog::rename(const QString &from, const QString &to)
     if (reason.isEmpty()) {
         m_document->change(withGamutRenamed(m_document->description(), from, name),
             tr("rename %1", "step of the history").arg(oneLine(shownGamutName(from))));
-    } else {
-        refresh();
     }
 }
 
 void GamutsDialog::removeCurrent()
 {
-    const QString name = nameAt(m_table->currentRow());
+    const QString name = currentName();
     if (hasOwnGamut(m_document->description(), name)) {
         say(QString());
         m_document->change(withoutGamut(m_document->description(), name),
