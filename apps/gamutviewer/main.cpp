@@ -259,12 +259,7 @@ int run(int argc, char *argv[])
     // The error stream is for scripts and people; QT_LOGGING_RULES brings the toolkit's own warnings back.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     systemcalls::useBinaryStreams();
-    const bool canShow = choosePlatform(argc, argv);
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-#endif
-    QApplication application(argc, argv);
+    const Application application = makeApplication(argc, argv);
     QApplication::setApplicationName(QStringLiteral("gamutviewer"));
     QApplication::setApplicationVersion(QStringLiteral(GAMUTVIEWER_VERSION));
 
@@ -343,7 +338,7 @@ int run(int argc, char *argv[])
         const bool isWritten = status == Done || status == DisplayFails || status == VerdictNotKnown;
         return isWritten && opened->needsChoice ? NeedsChoice : status;
     }
-    if (!canShow) {
+    if (!application.canShow) {
         printError(QApplication::translate(
             "main", "no display is available; use --render to write a picture or --report to print a report"));
         return Failed;

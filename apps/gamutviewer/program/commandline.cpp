@@ -509,6 +509,23 @@ QString CommandLine::whyNoView(const DisplayDescription &description) const
                                   : tr("--view white requires a target with its white, which the files do not have.");
 }
 
+CommandLine::Toolkit CommandLine::toolkit() const
+{
+    switch (m_action) {
+    case Action::Help:
+    case Action::Version:
+        return Toolkit::Core;
+    case Action::Write:
+        return m_isLibraryChart       ? Toolkit::Widgets // whose renderer is one
+            : m_pictureFile.isEmpty() ? Toolkit::Core
+                                      : Toolkit::Painting;
+    case Action::Show:
+    case Action::Refuse:
+        break;
+    }
+    return Toolkit::Widgets;
+}
+
 Picture CommandLine::picture(const DisplayDescription &description, const std::optional<Tolerances> &tolerances) const
 {
     Picture picture;

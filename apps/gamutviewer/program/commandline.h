@@ -75,6 +75,11 @@ public:
     /*! \brief Whether a window is wanted; also known of refused arguments. */
     bool needsDisplay() const { return m_needsDisplay; }
 
+    /*! \brief Parts of Qt, each with those before it. */
+    enum class Toolkit { Core, Painting, Widgets };
+    /*! \brief What is needed for action(); of refused arguments Widgets, as some may be for Qt, which takes them. */
+    Toolkit toolkit() const;
+
 private:
     enum class Part { All, Target, White };
 

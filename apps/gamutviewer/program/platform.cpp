@@ -4,7 +4,7 @@
 
 #include "program/commandline.h"
 
-#include <QtGlobal>
+#include <QApplication>
 
 #include <algorithm>
 
@@ -27,21 +27,45 @@ bool hasDisplay(const QStringList &arguments)
 #endif
 }
 
-} // namespace
-
-bool choosePlatform(int argc, const char *const *argv)
+//! Whether windows can be seen.
+bool choosePlatform(const CommandLine &commandLine, const QStringList &arguments)
 {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    }
-    if (CommandLine(arguments).needsDisplay() && hasDisplay(arguments)) {
+    if (commandLine.needsDisplay() && hasDisplay(arguments)) {
         return true;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // A desktop's theme may look for the display by itself, and end the process too.
     qunsetenv("QT_QPA_PLATFORMTHEME");
     return false;
+}
+
+} // namespace
+
+Application makeApplication(int &argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    const CommandLine commandLine(arguments);
+    Application made;
+    made.canShow = choosePlatform(commandLine, arguments);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+    switch (commandLine.toolkit()) {
+    case CommandLine::Toolkit::Core:
+        made.application = std::make_unique<QCoreApplication>(argc, argv);
+        break;
+    case CommandLine::Toolkit::Painting:
+        made.application = std::make_unique<QGuiApplication>(argc, argv);
+        break;
+    case CommandLine::Toolkit::Widgets:
+        made.application = std::make_unique<QApplication>(argc, argv);
+        break;
+    }
+    return made;
 }
 
 } // namespace gamutviewer

@@ -3,15 +3,27 @@
 #ifndef GAMUTVIEWER_PLATFORM_H
 #define GAMUTVIEWER_PLATFORM_H
 
+#include <memory>
+
+class QCoreApplication;
+
 namespace gamutviewer {
 
+/*! \brief The application of a process, and whether windows can be seen. */
+struct Application {
+    std::unique_ptr<QCoreApplication> application;
+    bool canShow = false;
+};
+
 /*!
- * \brief Has Qt do without a display when there is none, or when the arguments ask for nothing that needs one.
+ * \brief Makes the application that the arguments need, for at most once in a process.
  *
- * To be called before the application exists, since Qt ends the process when it finds no display. Returns whether
- * windows can be seen.
+ * A report needs no platform, fonts and styles, and a picture no styles: to load them takes longer than to write
+ * either. Where there is no display, or the arguments ask for nothing that needs one, Qt does without: it ends the
+ * process when it finds none. The arguments that are for Qt are removed. \a argc and \a argv must outlive the
+ * application.
  */
-bool choosePlatform(int argc, const char *const *argv);
+Application makeApplication(int &argc, char **argv);
 
 } // namespace gamutviewer
 
