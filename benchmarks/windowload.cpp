@@ -11,13 +11,17 @@
 #include "window/gamutsdialog.h"
 #include "window/viewerwindow.h"
 
+#include <gamutfiles/descriptionfile.h>
+
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSettings>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QUndoStack>
 #include <QWheelEvent>
 
@@ -128,16 +132,25 @@ int main(int argc, char **argv)
     }
     only = argc > 2 ? argv[2] : "";
     const DisplayDescription description = descriptionOf(count);
+    const QTemporaryDir folder;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path()); // files opened here are no one's
+    const QString file = folder.filePath(QStringLiteral("standards.json"));
+    const QString error = gamutfiles::writeDescription(description, file);
+    if (!error.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(error));
+        return 1;
+    }
     std::printf("%-40s %9s %9s\n", "processor ms", "median", "longest");
     ViewerWindow window;
     window.resize(1280, 900);
     window.show();
     QApplication::setActiveWindow(&window);
-    if (*only) {
-        window.setDescription(description, QString());
+    constexpr const char *opening = "file opened";
+    if (!std::strstr(opening, only)) {
+        window.openPath(file);
         settle();
     }
-    measure("open", 1, [&](int) { window.setDescription(description, QString()); });
+    measure(opening, 1, [&](int) { window.openPath(file); });
 
     DocumentView *view = window.diagramPage()->view();
     TargetSession *session = window.session();
