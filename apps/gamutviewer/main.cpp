@@ -29,6 +29,10 @@
 #include <exception>
 #include <new>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace {
 
 using namespace gamutviewer;
@@ -147,11 +151,22 @@ Outcome<OpenedFiles> withRequests(const OpenedFiles &opened, const QString &wall
     return result;
 }
 
+//! For a process that paints and ends: to return pictures to the system and have new ones cleared takes its time, too.
+void keepFreedMemory()
+{
+#ifdef __GLIBC__
+    constexpr int largest = 32 * 1024 * 1024; // block, that it takes
+    mallopt(M_MMAP_THRESHOLD, largest);
+    mallopt(M_TRIM_THRESHOLD, 4 * largest);
+#endif
+}
+
 int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances, const CommandLine &commandLine)
 {
     const DisplayDescription &description = opened.description;
     const QString picture = commandLine.pictureFile();
     if (!picture.isEmpty()) {
+        keepFreedMemory();
         const Picture content = laidOut(commandLine.picture(description, tolerances), commandLine.extent().size);
         const bool lacksRoom = lacksRoomForKey(content, commandLine.extent().size); // nothing can fail after the file
         const QString error

@@ -3,12 +3,17 @@
 #include "expectedchart.h"
 #include "picturefixture.h"
 
+#include "drawing/png.h"
+
 #include <ceiechart/diagram/diagrampainter.h>
 #include <reference/picturedifference.h>
 
 #include <QMetaEnum>
 #include <QPainter>
+#include <QRandomGenerator>
 #include <QtTest>
+
+#include <algorithm>
 
 using namespace gamutviewer;
 using namespace picturefixture;
@@ -28,6 +33,8 @@ private Q_SLOTS:
     void nothingIsClipped();
     void smallPicturesHaveNoTexts();
     void everyLayerCanBeSwitched();
+    void pngHasThePixels_data();
+    void pngHasThePixels();
     void libraryChartIsTheLibrarys();
     void nothingToShow();
     void smallestPictures();
@@ -186,6 +193,37 @@ void PictureTest::everyLayerCanBeSwitched()
         picture.content.layers.setFlag(layer, false);
         QVERIFY2(pixelsOf(picture, {QSize(500, 500), 1.0}) != whole, layers.key(i));
     }
+}
+
+void PictureTest::pngHasThePixels_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QImage::Format>("format");
+    for (const QSize &size : {QSize(1, 1), QSize(1, 90), QSize(257, 3), QSize(640, 480)}) {
+        QTest::addRow("%dx%d", size.width(), size.height()) << size << QImage::Format_RGB32;
+    }
+    QTest::newRow("translucent") << QSize(30, 20) << QImage::Format_ARGB32;
+    QTest::newRow("too large to be held twice") << QSize(8192, 2800) << QImage::Format_RGB32;
+}
+
+void PictureTest::pngHasThePixels()
+{
+    QFETCH(QSize, size);
+    QFETCH(QImage::Format, format);
+    QImage image(size, format);
+    image.setDotsPerMeterX(3780);
+    image.setDotsPerMeterY(1234);
+    QRandomGenerator random(7);
+    for (int y = 0; y < size.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        // Noise in the first rows, then what can be compressed.
+        std::generate_n(line, size.width(), [&] { return y < 100 ? random.generate() : 0xff804020U + QRgb(y % 200); });
+    }
+    const QByteArray file = png(image);
+    QCOMPARE(QImage::fromData(file, "PNG").convertToFormat(format), image.convertToFormat(format));
+    QCOMPARE(QImage::fromData(file, "PNG").dotsPerMeterX(), 3780);
+    QCOMPARE(QImage::fromData(file, "PNG").dotsPerMeterY(), 1234);
+    QVERIFY(png(QImage()).isEmpty());
 }
 
 void PictureTest::libraryChartIsTheLibrarys()

@@ -176,12 +176,13 @@ QString exportPicture(const Picture &picture, const QString &title, const Pictur
         return QCoreApplication::translate("gamutviewer", "the library's chart is written as PNG only");
     }
     QByteArray bytes;
-    QBuffer buffer(&bytes);
+    QBuffer buffer(&bytes); // of a document
     buffer.open(QIODevice::WriteOnly);
     bool done = false;
     switch (format) {
     case PictureFormat::Png:
-        done = buffer.write(png(pixelsOf(picture, extent))) > 0;
+        bytes = png(pixelsOf(picture, extent));
+        done = !bytes.isEmpty();
         break;
     case PictureFormat::Svg:
         done = writeSvg(picture, title, extent.size, buffer);

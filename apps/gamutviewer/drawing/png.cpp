@@ -18,9 +18,10 @@ constexpr int compressionLevel = 2;
 constexpr int qualityOfLevel = 70; // as QImage::save() has it
 constexpr qint64 mostBytes = 64 * 1024 * 1024; // to hold in memory beside the picture, and once more in the worst case
 constexpr char filterUp = 2; // each byte less that of the row above
+constexpr int bytesOfFrame = 100; // of a file, but for its pixels: no less than there are
 constexpr int bytesOfLength = 4; // with which qCompress() begins
 
-quint32 crc(const QByteArray &bytes)
+quint32 crc(const char *bytes, int count)
 {
     static const auto table = [] {
         std::array<quint32, 256> made{};
@@ -34,8 +35,8 @@ quint32 crc(const QByteArray &bytes)
         return made;
     }();
     quint32 value = 0xffffffffU;
-    for (const char byte : bytes) {
-        value = table[(value ^ quint8(byte)) & 0xff] ^ (value >> 8);
+    for (const char *end = bytes + count; bytes != end; ++bytes) {
+        value = table[(value ^ quint8(*bytes)) & 0xff] ^ (value >> 8);
     }
     return ~value;
 }
@@ -47,10 +48,12 @@ QByteArray bigEndian(quint32 number)
     return bytes;
 }
 
-void appendChunk(QByteArray &file, const QByteArray &type, const QByteArray &data)
+void appendChunk(QByteArray &file, const char *type, const char *data, int size)
 {
-    const QByteArray checked = type + data;
-    file += bigEndian(quint32(data.size())) + checked + bigEndian(crc(checked));
+    file += bigEndian(quint32(size));
+    const int checked = int(file.size());
+    file.append(type).append(data, size);
+    file += bigEndian(crc(file.constData() + checked, int(file.size()) - checked));
 }
 
 //! The rows of \a image, red, green and blue of each pixel, as differences to the row above.
@@ -97,10 +100,11 @@ QByteArray png(const QImage &image)
         return QByteArray();
     }
     QByteArray file("\x89PNG\r\n\x1a\n");
-    appendChunk(file, "IHDR", header);
-    appendChunk(file, "pHYs", pixelsPerMeter);
-    appendChunk(file, "IDAT", compressed.mid(bytesOfLength));
-    appendChunk(file, "IEND", QByteArray());
+    file.reserve(int(compressed.size()) + bytesOfFrame);
+    appendChunk(file, "IHDR", header.constData(), int(header.size()));
+    appendChunk(file, "pHYs", pixelsPerMeter.constData(), int(pixelsPerMeter.size()));
+    appendChunk(file, "IDAT", compressed.constData() + bytesOfLength, int(compressed.size()) - bytesOfLength);
+    appendChunk(file, "IEND", nullptr, 0);
     return file;
 }
 
