@@ -80,8 +80,7 @@ LibraryPage::LibraryPage(Document *document, QWidget *parent)
         tr("The charts show the document. What is moved in them is logged, and leaves it as it is."), this);
     note->setWordWrap(true);
     layout->addWidget(note);
-    m_area->installEventFilter(this);
-    fillRoom();
+    m_area->installEventFilter(this); // which gives the charts their size, when the page is shown first
     setFocusInside(m_current->view());
     m_log->watch(m_current, tr("Current"));
     m_log->watch(m_legacy, tr("Legacy"));
