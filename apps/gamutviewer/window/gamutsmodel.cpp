@@ -43,7 +43,7 @@ std::vector<GamutsModel::Row> GamutsModel::rowsOf(const DisplayDescription &desc
         [&description](GamutRole role) { return gamutInRole(description, role); });
     const auto add = [&](const Model::ColorGamut &gamut, bool isOwn) {
         Row row{nameOf(gamut), isOwn, gamut.getTargets(), {}};
-        const int before = names.size();
+        const auto before = names.size();
         names.insert(row.name);
         if (names.size() == before) {
             return; // of gamuts with one name the first counts
