@@ -13,6 +13,7 @@ using gamutviewer::PictureFormat;
 using Action = CommandLine::Action;
 
 Q_DECLARE_METATYPE(CommandLine::Action)
+Q_DECLARE_METATYPE(CommandLine::Toolkit)
 
 class CommandLineTest : public QObject {
     Q_OBJECT
@@ -21,6 +22,8 @@ private Q_SLOTS:
     void defaults();
     void actions_data();
     void actions();
+    void toolkits_data();
+    void toolkits();
     void sizes_data();
     void sizes();
     void ratios_data();
@@ -125,6 +128,30 @@ void CommandLineTest::actions()
     if (action == Action::Write && arguments.contains("render")) {
         QCOMPARE(line.pictureFile(), QStringLiteral("wall.png"));
     }
+}
+
+void CommandLineTest::toolkits_data()
+{
+    using Toolkit = CommandLine::Toolkit;
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<Toolkit>("toolkit");
+    QTest::newRow("show") << "wall.json" << Toolkit::Widgets;
+    QTest::newRow("report") << "--report json wall.json" << Toolkit::Core;
+    QTest::newRow("check") << "--check wall.json" << Toolkit::Core;
+    QTest::newRow("corrections") << "--corrections wall.csv wall.json" << Toolkit::Core;
+    QTest::newRow("picture") << "--render wall.png wall.json" << Toolkit::Painting;
+    QTest::newRow("picture and report") << "--report json --render wall.svg wall.json" << Toolkit::Painting;
+    QTest::newRow("library's chart") << "--diagram chart --render wall.png wall.json" << Toolkit::Widgets;
+    QTest::newRow("help") << "--help" << Toolkit::Core;
+    QTest::newRow("version") << "--version" << Toolkit::Core;
+    QTest::newRow("refused") << "--report wrong wall.json" << Toolkit::Widgets;
+    QTest::newRow("arguments of Qt") << "--report json wall.json -style fusion" << Toolkit::Widgets;
+}
+
+void CommandLineTest::toolkits()
+{
+    QFETCH(QString, arguments);
+    QTEST(CommandLine(withProgram(arguments)).toolkit(), "toolkit");
 }
 
 void CommandLineTest::sizes_data()

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void init() { renewFolder(); }
     void reports();
     void reportsAndRenders();
+    void argumentsOfQtAreTakenOut();
     void checks_data();
     void checks();
     void checkPrintsTheGroundsOrTheReport();
@@ -70,6 +71,14 @@ void ProgramReportsTest::reportsAndRenders()
     QCOMPARE(result.exitCode, 0);
     QVERIFY(QJsonDocument::fromJson(result.output).isObject());
     QCOMPARE(entries(), QStringList("chart.svg"));
+}
+
+void ProgramReportsTest::argumentsOfQtAreTakenOut()
+{
+    const Result result = run({"-platform", "offscreen", "--report", "json", SAMPLE_FILE, "-style=fusion"});
+    QCOMPARE(result.error, QByteArray());
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.output, run({"--report", "json", SAMPLE_FILE}).output);
 }
 
 void ProgramReportsTest::checks_data()
