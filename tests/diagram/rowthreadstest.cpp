@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
+// SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/rowthreads_p.h>
+
+#include <QDeadlineTimer>
+#include <QtTest>
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <stdexcept>
+#include <thread>
+
+using ceiechart::RowThreads;
+
+namespace {
+
+//! As often as it takes for the scheduler to interrupt threads in many places.
+constexpr int turns = 300;
+
+//! The numbers of threads that do the parts of a run in which each waits until all of them are there.
+int threadsOf(RowThreads &threads, int expected)
+{
+    std::atomic<int> here{0};
+    std::mutex mutex;
+    std::vector<std::thread::id> seen;
+    threads.run(expected, [&](int) {
+        {
+            const std::lock_guard<std::mutex> lock(mutex);
+            if (std::find(seen.begin(), seen.end(), std::this_thread::get_id()) == seen.end()) {
+                seen.push_back(std::this_thread::get_id());
+            }
+        }
+        ++here;
+        QDeadlineTimer limit(20000);
+        while (here < expected && !limit.hasExpired()) {
+            std::this_thread::yield();
+        }
+    });
+    return int(seen.size());
+}
+
+} // namespace
+
+class RowThreadsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void counts();
+    void everyPartOnce();
+    void everyRowOnce();
+    void atTheSameTime();
+    void oneThreadIsTheCallers();
+    void anotherCount();
+    void exceptions_data();
+    void exceptions();
+};
+
+void RowThreadsTest::counts()
+{
+    RowThreads threads;
+    QCOMPARE(threads.count(), 1);
+    for (const auto &[set, expected] :
+        {std::pair(0, 1), std::pair(-5, 1), std::pair(std::numeric_limits<int>::min(), 1), std::pair(3, 3),
+            std::pair(64, 64), std::pair(65, 64), std::pair(std::numeric_limits<int>::max(), 64)}) {
+        threads.setCount(set);
+        QCOMPARE(threads.count(), expected);
+    }
+}
+
+void RowThreadsTest::everyPartOnce()
+{
+    for (const int count : {1, 2, 3, 7}) {
+        RowThreads threads;
+        threads.setCount(count);
+        for (int turn = 0; turn < turns; ++turn) {
+            const int parts = turn % 40;
+            std::vector<int> done(std::size_t(parts), 0); // each written by one thread, and read after all have ended
+            threads.run(parts, [&done](int part) { ++done[std::size_t(part)]; });
+            QCOMPARE(done, std::vector<int>(std::size_t(parts), 1));
+        }
+    }
+}
+
+void RowThreadsTest::everyRowOnce()
+{
+    RowThreads several;
+    several.setCount(3);
+    for (RowThreads *threads : {static_cast<RowThreads *>(nullptr), &several}) {
+        for (const auto &[top, bottom] : {std::pair(0, 0), std::pair(5, 2), std::pair(0, 1), std::pair(0, 16),
+                 std::pair(3, 1000), std::pair(7, 24)}) {
+            std::vector<int> drawn(1001, 0);
+            ceiechart::runInBands(threads, top, bottom, [&drawn](int first, int end) {
+                for (int y = first; y < end; ++y) {
+                    ++drawn[std::size_t(y)];
+                }
+            });
+            for (int y = 0; y < int(drawn.size()); ++y) {
+                QCOMPARE(drawn[std::size_t(y)], y >= top && y < bottom ? 1 : 0);
+            }
+        }
+    }
+}
+
+void RowThreadsTest::atTheSameTime()
+{
+    for (const int count : {2, 5}) {
+        RowThreads threads;
+        threads.setCount(count);
+        QCOMPARE(threadsOf(threads, count), count);
+        QCOMPARE(threadsOf(threads, count), count); // they wait for more
+    }
+}
+
+void RowThreadsTest::oneThreadIsTheCallers()
+{
+    RowThreads threads;
+    const std::thread::id caller = std::this_thread::get_id();
+    threads.run(20, [caller](int) { QVERIFY(std::this_thread::get_id() == caller); });
+    threads.setCount(4);
+    threads.setCount(1);
+    threads.run(20, [caller](int) { QVERIFY(std::this_thread::get_id() == caller); });
+}
+
+void RowThreadsTest::anotherCount()
+{
+    RowThreads threads;
+    for (const int count : {3, 1, 2, 4, 4, 2}) {
+        threads.setCount(count);
+        QCOMPARE(threadsOf(threads, count), count);
+    }
+    for (int turn = 0; turn < turns / 10; ++turn) {
+        // Ended while they begin to wait, or before they have begun.
+        threads.setCount(2 + turn % 3);
+        threads.run(turn % 4, [](int) {});
+    }
+}
+
+void RowThreadsTest::exceptions_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("one thread") << 1;
+    QTest::newRow("three threads") << 3;
+}
+
+void RowThreadsTest::exceptions()
+{
+    QFETCH(int, count);
+    RowThreads threads;
+    threads.setCount(count);
+    for (const int failing : {0, 50, 99}) {
+        const auto fail = [failing](int part) {
+            if (part == failing) {
+                throw std::bad_alloc();
+            }
+        };
+        QVERIFY_EXCEPTION_THROWN(threads.run(100, fail), std::bad_alloc);
+        QVERIFY_EXCEPTION_THROWN(threads.run(100, [](int) { throw std::runtime_error("each"); }), std::runtime_error);
+
+        std::atomic<int> done{0};
+        threads.run(100, [&done](int) { ++done; });
+        QCOMPARE(done.load(), 100);
+    }
+}
+
+QTEST_APPLESS_MAIN(RowThreadsTest)
+
+#include "rowthreadstest.moc"
