@@ -25,6 +25,7 @@
 //   1e-9 if the colour system is well-conditioned and M is small. Otherwise the whole row is computed in double
 //   precision.
 #include <ceiechart/diagram/horseshoefill_p.h>
+#include <ceiechart/diagram/rowthreads_p.h>
 
 #include <QColor>
 #include <QImage>
@@ -157,7 +158,8 @@ void RowFill::exact(QRgb &pixel, int x, int y) const
     }
 }
 
-void fillHorseshoe(QImage &picture, int width, int height, const HorseshoeFill &fill, const FillKernel &kernel)
+void fillHorseshoe(
+    QImage &picture, int width, int height, const HorseshoeFill &fill, const FillKernel &kernel, RowThreads *threads)
 {
     // There is nothing to fill outside the picture.
     width = std::min(width, picture.width());
@@ -181,13 +183,16 @@ void fillHorseshoe(QImage &picture, int width, int height, const HorseshoeFill &
 
     const RowFill rows(fill, kernel);
     uchar *bits = picture.bits();
-    for (int y = 0; y < height; ++y) {
-        auto *line = reinterpret_cast<QRgb *>(bits + qsizetype(y) * picture.bytesPerLine());
-        const auto [left, right] = columnsToColor(width, [line](int x) { return qRed(line[x]) > 0; });
-        if (right > 0) {
-            rows.color(line + left, left, right, y);
+    const qsizetype bytesPerLine = picture.bytesPerLine();
+    runInBands(threads, 0, height, [&rows, bits, bytesPerLine, width](int first, int end) {
+        for (int y = first; y < end; ++y) {
+            auto *line = reinterpret_cast<QRgb *>(bits + qsizetype(y) * bytesPerLine);
+            const auto [left, right] = columnsToColor(width, [line](int x) { return qRed(line[x]) > 0; });
+            if (right > 0) {
+                rows.color(line + left, left, right, y);
+            }
         }
-    }
+    });
 }
 
 } // namespace ceiechart

@@ -17,6 +17,8 @@ class QPolygonF;
 
 namespace ceiechart {
 
+class RowThreads;
+
 /*! \brief Three channel values: amounts of the primaries, or the components of a colour. */
 struct Channels {
     double red, green, blue;
@@ -71,10 +73,10 @@ double decisionMargin(double magnitude);
  * \brief Fills the horseshoe in the first \a width columns and \a height rows of \a picture.
  *
  * Each row is filled from its first to its last pixel whose red component is above zero. A row in which at most the
- * pixel of column 0 has such a red component is not filled.
+ * pixel of column 0 has such a red component is not filled. If \a threads is not null, they fill pictures of 32 bits.
  */
-void fillHorseshoe(
-    QImage &picture, int width, int height, const HorseshoeFill &fill, const FillKernel &kernel = fastestFillKernel());
+void fillHorseshoe(QImage &picture, int width, int height, const HorseshoeFill &fill,
+    const FillKernel &kernel = fastestFillKernel(), RowThreads *threads = nullptr);
 
 /*! \brief Fills parts of rows, in a picture or in a buffer. */
 class RowFill {

@@ -79,7 +79,7 @@ QImage *DrawCEIPicture::drawCEIPicture(
 
     QPainter painter(picture.get());
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.fillRect(picture->rect(), ground);
+    d->drawGround(painter, *picture, picture->rect(), ground);
     if (d->lightGround) {
         d->drawHorseshoeWithin(*picture, d->locusPolygon(), ceiechart::ClipOutline::Hidden, ground);
     }
@@ -114,7 +114,7 @@ QImage *DrawCEIPicture::drawCEIEPicture(int width, int height, bool drawCoordina
 
     QPainter painter(picture.get());
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.fillRect(picture->rect(), ground);
+    d->drawGround(painter, *picture, picture->rect(), ground);
 
     QPolygonF locus;
     locus.reserve(int(own().uvLocus.size()));

@@ -4,10 +4,16 @@
 #include <ceiechart/diagram/pens_p.h>
 #include <ceiechart/render/dashedlines_p.h>
 #include <ceiechart/render/diagramrenderer_p.h>
+#include <ceiechart/render/enginepixels_p.h>
 
 #include <QFontMetrics>
+#include <QImage>
 #include <QPainter>
 #include <QTextOption>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace ceiechart {
 
@@ -38,15 +44,26 @@ public:
 
     void gridLine(const QPointF &from, const QPointF &to)
     {
-        m_painter.save();
-        m_painter.setOpacity(0.3);
-        QPen pen = m_painter.pen();
-        pen.setColor(QColor(m_color.red(), m_color.green(), m_color.blue(), 80));
-        pen.setStyle(m_style.gridStyle);
-        m_painter.setPen(pen);
-        m_painter.setBrush(QBrush(m_color));
+        beginGridLine();
         m_gridLines.draw(m_painter, from, to);
         m_painter.restore();
+    }
+
+    /*! \brief The pixels of a line of the grid, if they are known. */
+    std::optional<RepeatedDashes> gridDashes(const QPointF &from, const QPointF &to)
+    {
+        beginGridLine();
+        std::optional<RepeatedDashes> dashes = m_gridLines.repeated(m_painter, from, to);
+        m_painter.restore();
+        return dashes;
+    }
+
+    /*! \brief Whether the ticks of an x axis without title leave pixels that are more than \a room above it as they
+     * are, apart from the axis line. */
+    bool xTicksStayBelow(int room) const
+    {
+        const int top = m_metrics.tightBoundingRect(QStringLiteral("0123456789.")).top();
+        return m_style.yTitle.isEmpty() && numberDrop + m_metrics.ascent() + top > room;
     }
 
     void xTick(int tick, int tx, int ty)
@@ -84,6 +101,17 @@ public:
     }
 
 private:
+    void beginGridLine()
+    {
+        m_painter.save();
+        m_painter.setOpacity(0.3);
+        QPen pen = m_painter.pen();
+        pen.setColor(QColor(m_color.red(), m_color.green(), m_color.blue(), 80));
+        pen.setStyle(m_style.gridStyle);
+        m_painter.setPen(pen);
+        m_painter.setBrush(QBrush(m_color));
+    }
+
     void beginTick()
     {
         m_painter.save();
@@ -119,14 +147,68 @@ private:
 
 } // namespace
 
+std::vector<RepeatedDashes> DiagramRenderer::Private::uprightGrid(QPainter &painter, const AxesStyle &style)
+{
+    constexpr int room = 4; // pixels between a line and what is drawn beside it
+    AxesPainter axes(painter, style, drawnLineColor());
+    const auto [xMin, xMax, yMin, yMax] = chartStyle(kind).range;
+    std::vector<RepeatedDashes> lines;
+    for (int k = 0; k < (xMax - xMin) / chartTickStep; ++k) {
+        const QPointF low = map(k * chartTickStep, double(yMin));
+        const std::optional<RepeatedDashes> dashes = axes.gridDashes(low, map(k * chartTickStep, double(yMax)));
+        const bool isApart = dashes && dashes->bottom() <= truncated(low.y()) + room
+            && (lines.empty() || dashes->left() >= lines.front().right() + room);
+        if (!isApart) {
+            return {};
+        }
+        lines.push_back(*dashes);
+    }
+    return axes.xTicksStayBelow(2 * room) ? lines : std::vector<RepeatedDashes>();
+}
+
+void DiagramRenderer::Private::drawGround(
+    QPainter &painter, QImage &picture, const QRect &rect, const QColor &ground, const AxesStyle *axes)
+{
+    uprightGridIsDrawn = false;
+    if (picture.format() != QImage::Format_ARGB32_Premultiplied || !engineIsKnown()) {
+        if (pixelRatio != 1.0) {
+            picture.fill(ground); // also where a part of a pixel is outside of the rectangle
+        }
+        painter.fillRect(rect, ground);
+        return;
+    }
+    std::vector<RepeatedDashes> lines;
+    if (axes != nullptr) {
+        lines = uprightGrid(painter, *axes);
+        uprightGridIsDrawn = !lines.empty();
+    }
+    uchar *bits = picture.bits();
+    const qsizetype bytesPerLine = picture.bytesPerLine();
+    const int width = picture.width();
+    const QRgb color = premultiplied(ground);
+    runInBands(threadsFor(picture), 0, picture.height(), [&](int top, int bottom) {
+        for (int y = top; y < bottom; ++y) {
+            auto *line = reinterpret_cast<QRgb *>(bits + qsizetype(y) * bytesPerLine);
+            paintOver(line, width, color, 255);
+            for (const RepeatedDashes &dashes : lines) {
+                dashes.drawRow(line, y);
+            }
+        }
+    });
+}
+
 void DiagramRenderer::Private::drawAxes(QPainter &painter, const AxesStyle &style)
 {
     AxesPainter axes(painter, style, drawnLineColor());
     const auto [xMin, xMax, yMin, yMax] = chartStyle(kind).range;
+    const bool hasUprightGrid = std::exchange(uprightGridIsDrawn, false);
 
     for (int k = 0; k < (xMax - xMin) / chartTickStep; ++k) {
         const QPointF low = map(k * chartTickStep, double(yMin));
-        axes.gridLine(low, map(k * chartTickStep, double(yMax)));
+        const QPointF high = map(k * chartTickStep, double(yMax));
+        if (!hasUprightGrid) {
+            axes.gridLine(low, high);
+        }
         axes.xTick(k, truncated(low.x()), truncated(low.y()));
     }
     for (int j = 0; j < (yMax - yMin) / chartTickStep; ++j) {

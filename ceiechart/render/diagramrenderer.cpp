@@ -67,6 +67,16 @@ double DiagramRenderer::pixelRatio() const
     return d->pixelRatio;
 }
 
+void DiagramRenderer::setThreadCount(int count)
+{
+    d->threads.setCount(count);
+}
+
+int DiagramRenderer::threadCount() const
+{
+    return d->threads.count();
+}
+
 double DiagramRenderer::mulDiv(int a, int b, int c)
 {
     return ceiechart::mulDiv(a, b, c);
@@ -114,8 +124,6 @@ std::unique_ptr<QImage> DiagramRenderer::Private::newPicture(const QColor &groun
 {
     auto picture = ceiechart::newPicture(devicePixels(pictureWidth), devicePixels(pictureHeight), ground);
     if (pixelRatio != 1.0) {
-        // A part of a pixel at the right and bottom edges is beyond what the caller fills.
-        picture->fill(ground);
         picture->setDevicePixelRatio(pixelRatio);
     }
     return picture;
@@ -125,6 +133,12 @@ int DiagramRenderer::Private::devicePixels(int extent) const
 {
     constexpr double most = std::numeric_limits<int>::max();
     return pixelRatio == 1.0 ? extent : int(std::clamp(std::round(extent * pixelRatio), 0.0, most));
+}
+
+RowThreads *DiagramRenderer::Private::threadsFor(const QImage &picture)
+{
+    const qint64 pixels = qint64(picture.width()) * picture.height();
+    return threads.count() > 1 && pixels >= fewestPixelsForThreads ? &threads : nullptr;
 }
 
 HorseshoeFill DiagramRenderer::Private::horseshoeFill() const

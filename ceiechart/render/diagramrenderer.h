@@ -73,6 +73,22 @@ public:
     /*! \brief The ratio of setPixelRatio(). */
     double pixelRatio() const;
 
+    /*!
+     * \brief Sets how many threads draw the next pictures, with the one that calls: 1 to 64, 1 by default. A count
+     * below 1 counts as 1, and one above 64 as 64.
+     *
+     * Every count gives the same pixels. The threads fill the picture and draw gamuts and horseshoe, each some rows;
+     * text and lines are drawn by the calling thread. It pays for large pictures only, and small ones are drawn by the
+     * calling thread alone.
+     *
+     * With 1, no thread is ever started. Otherwise the renderer starts threads of its own when it first draws a large
+     * picture; fewer if the system has no more. Between two pictures they wait and keep nothing of them. They end when
+     * another count is set and with the renderer.
+     */
+    void setThreadCount(int count);
+    /*! \brief The count of setThreadCount(). */
+    int threadCount() const;
+
 protected:
     class Private;
 

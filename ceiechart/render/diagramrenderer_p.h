@@ -5,6 +5,7 @@
 
 #include <ceiechart/diagram/chartstyle.h>
 #include <ceiechart/diagram/horseshoefill_p.h>
+#include <ceiechart/diagram/rowthreads_p.h>
 #include <ceiechart/render/diagramrenderer.h>
 
 #include <QColor>
@@ -12,11 +13,15 @@
 #include <QLineF>
 #include <QVector>
 
+#include <vector>
+
 class QImage;
 class QPolygonF;
+class QRect;
 
 namespace ceiechart {
 
+class RepeatedDashes;
 class RowLayers;
 
 /*! \brief The appearance of the axes, which differs between the generations. */
@@ -50,11 +55,13 @@ public:
     void beginDrawing(int width, int height, int marginPercent);
     /*!
      * \brief The picture of the drawing that has begun, in the pixels of the device. The caller must first fill it with
-     * \a ground, in pixels of the drawing.
+     * \a ground, by drawGround().
      */
     std::unique_ptr<QImage> newPicture(const QColor &ground) const;
     /*! \brief The number of pixels of the device for \a extent pixels of the drawing. */
     int devicePixels(int extent) const;
+    /*! \brief The threads that draw rows of \a picture; null if it is for the calling thread alone. */
+    RowThreads *threadsFor(const QImage &picture);
     /*! \brief What fills the horseshoe of the drawing, with the mapping of the pixels of the device. */
     HorseshoeFill horseshoeFill() const;
     /*! \brief The colour that fills the picture: \a stated, or a light one on a light ground. */
@@ -77,8 +84,20 @@ public:
     /*! \brief Makes (\a x, \a y) the current chromaticity and maps it. */
     QPointF map(double x, double y);
 
-    /*! \brief Draws grid, axis lines, numbers and titles. Implemented in axes.cpp. */
+    /*!
+     * \brief Fills the new \a picture with \a ground: \a rect, in pixels of the drawing, which contains all of it.
+     *
+     * \param axes if it is not null, drawAxes() follows with that style. Lines of the grid that can be drawn in the
+     * same pass over the picture are left out there.
+     */
+    void drawGround(
+        QPainter &painter, QImage &picture, const QRect &rect, const QColor &ground, const AxesStyle *axes = nullptr);
+    /*! \brief Draws grid, axis lines, numbers and titles. Implemented in axes.cpp, with drawGround(). */
     void drawAxes(QPainter &painter, const AxesStyle &style);
+    /*!
+     * \brief The upright lines of the grid, if nothing that drawAxes() draws between them meets them; otherwise none.
+     */
+    std::vector<RepeatedDashes> uprightGrid(QPainter &painter, const AxesStyle &style);
 
     /*!
      * \brief Draws the horseshoe inside \a clip: the part of a picture in \a background that painterPixColor() has
@@ -104,6 +123,8 @@ public:
     QColor groundColor; //!< set by setGraphColor()
     bool lightGround = false;
     double pixelRatio = 1.0;
+    RowThreads threads;
+    qint64 fewestPixelsForThreads = 1 << 19; //!< of a picture: to wake threads takes longer than to draw a smaller one
 
     /*! \brief The last result of drawn(): the locus edge alone asks for the same one hundreds of times. */
     struct Drawn {
@@ -115,6 +136,7 @@ public:
     mutable Drawn lastDrawn;
 
     QVector<QLineF> *edgeSegments = nullptr; //!< collects the segments of the locus edge, which are drawn together
+    bool uprightGridIsDrawn = false; //!< by drawGround(), until drawAxes() is called
     RowLayers *layers = nullptr; //!< collects the layers that a drawing draws together, while it does so
 
     QList<QPointF> colorTemperaturePoints;

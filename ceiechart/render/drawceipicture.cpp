@@ -6,6 +6,7 @@
 #include <ceiechart/render/rowlayers_p.h>
 
 #include <QPainter>
+#include <QScopedValueRollback>
 
 namespace NewCEIE {
 
@@ -33,7 +34,7 @@ QImage *DrawCEIPicture::drawCEIPicture(
     }
 
     QPainter painter(picture.get());
-    painter.fillRect(QRect(0, 0, w, h), ground);
+    d->drawGround(painter, *picture, QRect(0, 0, w, h), ground);
     if (showCoordinate) {
         painterCoordinate(painter);
     }
@@ -69,7 +70,8 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
 
     QPainter painter(picture.get());
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.fillRect(QRect(0, 0, w, h), ground);
+    const ceiechart::AxesStyle axes = own().axesStyle();
+    d->drawGround(painter, *picture, QRect(0, 0, w, h), ground, showCoordinate ? &axes : nullptr);
     if (showCoordinate) {
         painterCoordinate(painter);
     }
@@ -77,13 +79,13 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
     if (skipText.isEmpty()) {
         paintCEIEdge(painter);
         d->loadFirstLocusRow();
-        ceiechart::RowLayers layers;
-        d->layers = &layers;
+        ceiechart::RowLayers layers(d->threadsFor(*picture));
+        const QScopedValueRollback<ceiechart::RowLayers *> collecting(d->layers, &layers);
         painterStandard(painter, standards);
         d->drawHorseshoeWithin(
             *picture, own().clipPolygon, ceiechart::ClipOutline::Hidden, d->ground(own().backgroundColor));
         painterTriangle(painter, triangles);
-        d->layers = nullptr;
+        layers.draw();
     }
     painterBBRLine(painter);
     own().drawMeasurePoints(painter);
@@ -146,11 +148,15 @@ void DrawCEIPicture::GetPointColorRGB(int px, int py, double alphaFactor, QImage
     picture->setPixelColor(px, py, d->colorOfCurrentAmounts(ceiechart::truncated(alphaFactor * 256.0)));
 }
 
+ceiechart::AxesStyle DrawCEIPicture::Private::axesStyle() const
+{
+    const QFont numberFont = ceiechart::chartNumberFont(chart, pictureHeight);
+    return {ceiechart::chartStyle(chart).gridStyle, numberFont, QString(), QString()};
+}
+
 void DrawCEIPicture::painterCoordinate(QPainter &painter)
 {
-    const ceiechart::ChartStyle &style = ceiechart::chartStyle(Private::chart);
-    const QFont numberFont = ceiechart::chartNumberFont(Private::chart, d->pictureHeight);
-    d->drawAxes(painter, {style.gridStyle, numberFont, QString(), QString()});
+    d->drawAxes(painter, own().axesStyle());
 }
 
 } // namespace NewCEIE

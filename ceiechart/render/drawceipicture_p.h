@@ -20,6 +20,8 @@ public:
     {
     }
 
+    /*! \brief The appearance of the axes of the drawing. */
+    ceiechart::AxesStyle axesStyle() const;
     /*! \brief The primaries of \a triangle in pixels of the picture. */
     QPolygonF trianglePolygon(const ColorTriangleObject &triangle) const;
     /*! \brief Draws the outline of \a triangle in its own colour and width. */

@@ -86,19 +86,26 @@ private:
 
 } // namespace
 
-EngineCoverage::EngineCoverage(const QPainterPath &path, const QSize &size)
-    : m_size(size)
-    , m_oddEven(path.fillRule() == Qt::OddEvenFill)
+bool EngineCoverage::isKnown(const QPainterPath &path)
 {
     for (int i = 0; i < path.elementCount(); ++i) {
         const QPainterPath::Element &element = path.elementAt(i);
         const bool isLine = element.isMoveTo() || element.isLineTo();
         if (!isLine || !(std::fabs(element.x) <= farthest) || !(std::fabs(element.y) <= farthest)) {
-            m_known = false;
-            return;
+            return false;
         }
     }
-    m_found.reserve(std::size_t(m_size.height()) * 8); // an outline passes most rows four times, often in two columns
+    return true;
+}
+
+EngineCoverage::EngineCoverage(const QPainterPath &path, int width, int top, int bottom)
+    : m_width(width)
+    , m_begin(top)
+    , m_end(bottom)
+    , m_oddEven(path.fillRule() == Qt::OddEvenFill)
+{
+    m_found.reserve(
+        std::size_t(std::max(bottom - top, 0)) * 8); // an outline passes most rows four times, often in two columns
     QPoint begin;
     QPoint last;
     for (int i = 0; i < path.elementCount(); ++i) {
@@ -120,8 +127,7 @@ void EngineCoverage::addEdge(int fromX, int fromY, int toX, int toY)
 {
     const int first = pixelOf(fromY);
     const int last = pixelOf(toY);
-    const int height = m_size.height();
-    if (std::max(first, last) < 0 || std::min(first, last) >= height) {
+    if (std::max(first, last) < m_begin || std::min(first, last) >= m_end) {
         return;
     }
     if (first == last) {
@@ -132,19 +138,24 @@ void EngineCoverage::addEdge(int fromX, int fromY, int toX, int toY)
     const int enter = down ? 0 : subpixels;
     const int leave = subpixels - enter;
     const int step = down ? 1 : -1;
-    Crossings crossings(std::abs(leave - withinPixel(fromY)), toX - fromX, std::abs(toY - fromY));
-    int x = fromX;
-    for (int row = first; row != last; row += step) {
+    const int toBoundary = std::abs(leave - withinPixel(fromY));
+    const int passed
+        = std::max(down ? m_begin - first : first - (m_end - 1), 0); // rows before those that are asked for
+    const auto crossingsAfter
+        = [=](int rows) { return Crossings(toBoundary + rows * subpixels, toX - fromX, std::abs(toY - fromY)); };
+    int row = first + step * passed;
+    int x = passed == 0 ? fromX : fromX + crossingsAfter(passed - 1).place();
+    Crossings crossings = crossingsAfter(passed);
+    while (row != last && row >= m_begin && row < m_end) {
         const int next = fromX + crossings.place();
-        if (row >= 0 && row < height) {
-            addWithinRow(row, x, row == first ? withinPixel(fromY) : enter, next, leave);
-        }
+        addWithinRow(row, x, row == first ? withinPixel(fromY) : enter, next, leave);
         x = next;
-        if (row + step != last) {
+        row += step;
+        if (row != last) {
             crossings.next();
         }
     }
-    if (last >= 0 && last < height) {
+    if (row == last && row >= m_begin && row < m_end) {
         addWithinRow(last, x, enter, toX, withinPixel(toY));
     }
 }
@@ -179,7 +190,7 @@ void EngineCoverage::addWithinRow(int row, int fromX, int fromY, int toX, int to
 
 void EngineCoverage::add(int row, int x, int area, int height)
 {
-    if (x < m_size.width()) {
+    if (x < m_width) {
         // Member by member: what is put together on the stack and copied as a whole, waits for its parts.
         RowCell &found = m_found.emplace_back();
         found.row = row;
@@ -257,7 +268,7 @@ void EngineCoverage::row(int y, std::vector<CoveredSpan> &spans) const
         x = column + 1;
         append(column, column < 0 ? 0 : 1, 2 * subpixels * height - area);
     }
-    append(x, m_size.width() - x, 2 * subpixels * height);
+    append(x, m_width - x, 2 * subpixels * height);
 }
 
 } // namespace ceiechart

@@ -4,7 +4,6 @@
 #define CEIECHART_RENDER_ENGINECOVERAGE_P_H
 
 #include <QPainterPath>
-#include <QSize>
 
 #include <vector>
 
@@ -25,14 +24,17 @@ struct CoveredSpan {
  */
 class EngineCoverage {
 public:
-    /*! \brief Computes the coverage by \a path, in pixels, of a picture of \a size. Open parts of a path are closed. */
-    EngineCoverage(const QPainterPath &path, const QSize &size);
+    /*!
+     * \brief Whether the coverage by \a path is known. It is not if the path has curves or leads farther away from the
+     * picture than the engine follows it.
+     */
+    static bool isKnown(const QPainterPath &path);
 
     /*!
-     * \brief Whether the coverage is known. It is not if the path has curves or leads farther away from the picture
-     * than the engine follows it; nothing is covered then.
+     * \brief Computes the coverage by \a path, in pixels, of the rows from \a top to before \a bottom of a picture that
+     * is \a width pixels wide. Open parts of the path are closed. It must be known.
      */
-    bool isKnown() const { return m_known; }
+    EngineCoverage(const QPainterPath &path, int width, int top, int bottom);
 
     /*! \brief The first row of which something can be covered. */
     int top() const { return m_top; }
@@ -58,9 +60,10 @@ private:
     void sortCells();
     int coverage(int area) const;
 
-    QSize m_size;
+    int m_width;
+    int m_begin; // the first row that is asked for
+    int m_end; // the row behind the last one
     bool m_oddEven;
-    bool m_known = true;
     int m_top = 0;
     std::vector<RowCell> m_found; // in the order of the path
     std::vector<int> m_first = {0}; // index in m_cells by row, from the top

@@ -39,7 +39,7 @@ bool agrees(const QPainterPath &path, const QColor &color)
     clipPainter.setClipPath(path, Qt::ReplaceClip);
     clipPainter.drawImage(0, 0, colors);
 
-    const EngineCoverage coverage(path, size);
+    const EngineCoverage coverage(path, size.width(), 0, size.height());
     std::vector<CoveredSpan> spans;
     std::vector<QRgb> line;
     const auto isLine = [&](const QImage &picture, int y) {

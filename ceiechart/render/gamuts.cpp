@@ -49,6 +49,7 @@ void DrawCEIPicture::painterStandard(QPainter &painter, const QList<ColorTriangl
         path.addPolygon(polygon);
         ceiechart::fillLargePath(to, painter, path, QBrush(tint(color, standard.opacity())));
     }
+    here.draw();
     painter.restore();
 }
 
@@ -94,6 +95,7 @@ void DrawCEIPicture::Private::drawOutline(QPainter &painter, const ColorTriangle
     painter.setPen(ceiechart::solidPen(drawn(copy.foreColor(), ceiechart::leastLineContrast), copy.trigleLineWidth()));
     ceiechart::RowLayers here;
     ceiechart::drawPolygonOutline(layers != nullptr ? *layers : here, painter, trianglePolygon(copy));
+    here.draw();
     painter.restore();
 }
 

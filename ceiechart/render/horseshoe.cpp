@@ -14,7 +14,8 @@ namespace ceiechart {
 
 void DiagramRenderer::painterPixColor(QImage *picture)
 {
-    fillHorseshoe(*picture, d->devicePixels(d->pictureWidth), d->devicePixels(d->pictureHeight), d->horseshoeFill());
+    fillHorseshoe(*picture, d->devicePixels(d->pictureWidth), d->devicePixels(d->pictureHeight), d->horseshoeFill(),
+        fastestFillKernel(), d->threadsFor(*picture));
 }
 
 void DiagramRenderer::GetPointRGB(int px, int py, QImage *picture)
@@ -53,7 +54,7 @@ void DiagramRenderer::Private::drawHorseshoeWithin(
     if (outline == ClipOutline::Drawn) {
         paintWithin([&path](QPainter &painter) { painter.drawPath(path); });
     }
-    RowLayers own;
+    RowLayers own(threadsFor(picture));
     RowLayers &to = layers != nullptr ? *layers : own;
     if (!to.add(picture, path, horseshoeFill(), background)) {
         paintWithin([&](QPainter &painter) {
@@ -61,6 +62,7 @@ void DiagramRenderer::Private::drawHorseshoeWithin(
                 background);
         });
     }
+    own.draw();
 }
 
 void DiagramRenderer::Private::makeColorOfPixelCurrent(int px, int py)

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
+#include <ceiechart/diagram/rowthreads_p.h>
+#include <ceiechart/render/enginecoverage_p.h>
 #include <ceiechart/render/enginepixels_p.h>
 #include <ceiechart/render/rowlayers_p.h>
 
@@ -15,19 +17,23 @@ namespace ceiechart {
 
 namespace {
 
-/*! \brief Whether every row of \a coverage that is not empty begins and ends in the same columns. */
-bool isUpright(const EngineCoverage &coverage)
+/*! \brief Whether every row of a picture of \a size that \a path covers begins and ends in the same columns. */
+bool isUpright(const QPainterPath &path, const QSize &size)
 {
+    constexpr int rows = 64; // at a time: most paths show what they are in the first ones
     std::vector<CoveredSpan> spans;
     std::pair<int, int> common;
-    for (int y = coverage.top(); y < coverage.bottom(); ++y) {
-        coverage.row(y, spans);
-        if (!spans.empty()) {
-            const std::pair<int, int> columns(spans.front().x, spans.back().x + spans.back().length);
-            if (common.second != 0 && columns != common) {
-                return false;
+    for (int top = 0; top < size.height(); top += rows) {
+        const EngineCoverage coverage(path, size.width(), top, std::min(top + rows, size.height()));
+        for (int y = coverage.top(); y < coverage.bottom(); ++y) {
+            coverage.row(y, spans);
+            if (!spans.empty()) {
+                const std::pair<int, int> columns(spans.front().x, spans.back().x + spans.back().length);
+                if (common.second != 0 && columns != common) {
+                    return false;
+                }
+                common = columns;
             }
-            common = columns;
         }
     }
     return true;
@@ -35,32 +41,46 @@ bool isUpright(const EngineCoverage &coverage)
 
 } // namespace
 
-/*! \brief Draws rows of the layers. */
-class RowLayers::Rows {
+/*! \brief Rows of the layers. */
+class RowLayers::Band {
 public:
-    explicit Rows(const RowLayers &layers)
+    /*! \brief Computes what \a layers cover of the rows from \a top to before \a bottom of \a picture. */
+    Band(const RowLayers &layers, const QImage &picture, int top, int bottom)
         : m_layers(layers.m_layers)
-        , m_bits(layers.m_picture->bits())
-        , m_bytesPerLine(layers.m_picture->bytesPerLine())
+        , m_top(top)
+        , m_bottom(bottom)
     {
+        m_coverages.reserve(m_layers.size());
+        for (const Layer &layer : m_layers) {
+            m_coverages.emplace_back(layer.path, picture.width(), top, bottom);
+        }
         if (layers.m_fill) {
             m_fill.emplace(*layers.m_fill, fastestFillKernel());
-            m_colors.resize(std::size_t(layers.m_picture->width()));
+            m_colors.resize(std::size_t(picture.width()));
         }
     }
 
-    void draw(int y)
+    /*! \brief Draws the rows into the picture that begins at \a bits. */
+    void draw(uchar *bits, qsizetype bytesPerLine)
     {
-        auto *line = reinterpret_cast<QRgb *>(m_bits + qsizetype(y) * m_bytesPerLine);
+        for (int y = m_top; y < m_bottom; ++y) {
+            drawRow(reinterpret_cast<QRgb *>(bits + qsizetype(y) * bytesPerLine), y);
+        }
+    }
+
+private:
+    void drawRow(QRgb *line, int y)
+    {
         const CoveredSpan hidden = findColored(y);
         bool isBelow = m_fill.has_value();
-        for (const Layer &layer : m_layers) {
+        for (std::size_t i = 0; i < m_layers.size(); ++i) {
+            const Layer &layer = m_layers[i];
             if (layer.isHorseshoe) {
                 drawColored(line, y, layer.color);
                 isBelow = false;
                 continue;
             }
-            layer.coverage.row(y, m_spans);
+            m_coverages[i].row(y, m_spans);
             for (const CoveredSpan &span : m_spans) {
                 const int end = span.x + span.length;
                 if (isBelow && span.x < hidden.x + hidden.length && end > hidden.x) {
@@ -74,7 +94,6 @@ public:
         }
     }
 
-private:
     /*! \brief Finds what of row \a y is coloured, and returns the longest part that is wholly so. */
     CoveredSpan findColored(int y)
     {
@@ -83,7 +102,7 @@ private:
         const auto horseshoe
             = std::find_if(m_layers.cbegin(), m_layers.cend(), [](const Layer &layer) { return layer.isHorseshoe; });
         if (horseshoe != m_layers.cend()) {
-            horseshoe->coverage.row(y, m_colored);
+            m_coverages[std::size_t(horseshoe - m_layers.cbegin())].row(y, m_colored);
             for (const CoveredSpan &span : m_colored) {
                 if (span.coverage == 255 && span.length > longest.length) {
                     longest = span;
@@ -109,8 +128,9 @@ private:
     }
 
     const std::vector<Layer> &m_layers;
-    uchar *m_bits;
-    qsizetype m_bytesPerLine;
+    int m_top;
+    int m_bottom;
+    std::vector<EngineCoverage> m_coverages; // by layer
     std::optional<RowFill> m_fill;
     std::vector<QRgb> m_colors; // of the row at hand
     std::vector<CoveredSpan> m_colored;
@@ -121,8 +141,8 @@ bool RowLayers::add(const QPainter &painter, const QPainterPath &path, const QBr
 {
     QImage *picture = paintedPicture(painter);
     if (picture != nullptr && painter.opacity() == 1.0 && brush.style() == Qt::SolidPattern && engineIsKnown()) {
-        Layer layer{{painter.deviceTransform().map(path), picture->size()}, premultiplied(brush.color()), false};
-        if (layer.coverage.isKnown()) {
+        Layer layer{painter.deviceTransform().map(path), premultiplied(brush.color()), false};
+        if (EngineCoverage::isKnown(layer.path)) {
             add(*picture, std::move(layer));
             return true;
         }
@@ -136,11 +156,11 @@ bool RowLayers::add(QImage &picture, const QPainterPath &clip, const HorseshoeFi
     const QRgb plain = premultiplied(background);
     // fillHorseshoe() leaves rows as they are that are one pixel wide, or without red.
     const bool isColored = picture.width() > 1 && qAlpha(plain) == 255 && qRed(plain) > 0;
-    if (isColored && picture.format() == QImage::Format_ARGB32_Premultiplied && !m_fill && engineIsKnown()) {
-        Layer layer{{clip, picture.size()}, plain, true};
+    if (isColored && picture.format() == QImage::Format_ARGB32_Premultiplied && !m_fill && engineIsKnown()
+        && EngineCoverage::isKnown(clip)) {
         // The engine takes an upright clip for a rectangle, and forgets the shares.
-        if (layer.coverage.isKnown() && !isUpright(layer.coverage)) {
-            add(picture, std::move(layer));
+        if (!isUpright(clip, picture.size())) {
+            add(picture, {clip, plain, true});
             m_fill = fill;
             return true;
         }
@@ -163,16 +183,16 @@ void RowLayers::add(QImage &picture, Layer &&layer)
 void RowLayers::draw()
 {
     if (!m_layers.empty()) {
-        int top = m_picture->height();
-        int bottom = 0;
+        QRectF bounds;
         for (const Layer &layer : m_layers) {
-            top = std::min(top, layer.coverage.top());
-            bottom = std::max(bottom, layer.coverage.bottom());
+            bounds |= layer.path.controlPointRect();
         }
-        Rows rows(*this);
-        for (int y = top; y < bottom; ++y) {
-            rows.draw(y);
-        }
+        uchar *bits = m_picture->bits();
+        const qsizetype bytesPerLine = m_picture->bytesPerLine();
+        const int top = std::clamp(int(bounds.top()) - 1, 0, m_picture->height());
+        const int bottom = std::clamp(int(bounds.bottom()) + 2, top, m_picture->height());
+        runInBands(m_threads, top, bottom,
+            [&](int first, int end) { Band(*this, *m_picture, first, end).draw(bits, bytesPerLine); });
     }
     m_layers.clear();
     m_fill.reset();

@@ -4,8 +4,8 @@
 #define CEIECHART_RENDER_ROWLAYERS_P_H
 
 #include <ceiechart/diagram/horseshoefill_p.h>
-#include <ceiechart/render/enginecoverage_p.h>
 
+#include <QPainterPath>
 #include <QRgb>
 
 #include <optional>
@@ -15,9 +15,10 @@ class QBrush;
 class QColor;
 class QImage;
 class QPainter;
-class QPainterPath;
 
 namespace ceiechart {
+
+class RowThreads;
 
 /*!
  * \brief Filled paths, with the colours of the horseshoe among them, which are drawn together.
@@ -27,8 +28,11 @@ namespace ceiechart {
  */
 class RowLayers {
 public:
-    RowLayers() = default;
-    ~RowLayers() { draw(); }
+    /*! \brief Creates an empty set of layers. If \a threads is not null, they draw the rows. */
+    explicit RowLayers(RowThreads *threads = nullptr)
+        : m_threads(threads)
+    {
+    }
 
     /*!
      * \brief Adds what painter.fillPath(path, brush) draws, over the layers that have been added before.
@@ -48,18 +52,19 @@ public:
      */
     bool add(QImage &picture, const QPainterPath &clip, const HorseshoeFill &fill, const QColor &background);
 
-    /*! \brief Draws the layers and forgets them. */
+    /*! \brief Draws the layers and forgets them. Without this call, what was added last is not drawn. */
     void draw();
 
 private:
     struct Layer {
-        EngineCoverage coverage;
+        QPainterPath path; //!< in pixels of the picture
         QRgb color; //!< premultiplied; of the horseshoe, that of the background
         bool isHorseshoe;
     };
-    class Rows;
+    class Band;
     void add(QImage &picture, Layer &&layer);
 
+    RowThreads *m_threads;
     QImage *m_picture = nullptr;
     std::vector<Layer> m_layers;
     std::optional<HorseshoeFill> m_fill;

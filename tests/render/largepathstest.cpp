@@ -86,6 +86,7 @@ void LargePathsTest::samePixels()
             ceiechart::RowLayers layers;
             ceiechart::drawPolygonOutline(layers, painter, polygon);
             ceiechart::fillLargePath(layers, painter, path, QColor(255, 255, 255, 18));
+            layers.draw();
         }
         QVERIFY2(actual == expected, qPrintable(QStringLiteral("polygon %1").arg(i)));
     }

@@ -169,6 +169,7 @@ void RowLayersTest::scaledPictures()
                 RowLayers layers;
                 ceiechart::drawPolygonOutline(layers, painter, polygon);
                 ceiechart::fillLargePath(layers, painter, pathOf(polygon), color);
+                layers.draw();
             }
             const QString difference = reference::firstDifference(actual, expected);
             QVERIFY2(difference.isEmpty(),
@@ -199,6 +200,7 @@ void RowLayersTest::tallPictures()
                 RowLayers layers;
                 ceiechart::drawPolygonOutline(layers, painter, polygon);
                 ceiechart::fillLargePath(layers, painter, pathOf(polygon), color);
+                layers.draw();
             }
             const QString difference = reference::firstDifference(actual, expected);
             QVERIFY2(difference.isEmpty(), qPrintable(QStringLiteral("polygon %1: %2").arg(i).arg(difference)));
@@ -272,6 +274,7 @@ void RowLayersTest::manyLayers()
                     QVERIFY(layers.add(painter, path, color));
                 }
             }
+            layers.draw();
         }
         const QString difference = reference::firstDifference(actual, expected);
         QVERIFY2(difference.isEmpty(), qPrintable(QStringLiteral("picture %1: %2").arg(i).arg(difference)));
