@@ -58,6 +58,8 @@ class CEIECHART_EXPORT CEIEGraphicsView : public ceiechart::ChartFrame {
     Q_PROPERTY(bool paletteFollowed READ isPaletteFollowed WRITE setPaletteFollowed)
     /*! \brief Whether the picture has the pixels of the screen. */
     Q_PROPERTY(bool devicePixelRatioFollowed READ isDevicePixelRatioFollowed WRITE setDevicePixelRatioFollowed)
+    /*! \brief How many threads draw the picture; see setThreadCount(). */
+    Q_PROPERTY(int threadCount READ threadCount WRITE setThreadCount)
     /*! \brief Where the legend is; see setLegendAlignament(). */
     Q_PROPERTY(Qt::Alignment legendAlignament READ legendAlignament WRITE setLegendAlignament)
     /*! \brief Whether drawing the handles resets the white point; see setDrawColorTPoint(). */

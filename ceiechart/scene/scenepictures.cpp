@@ -59,6 +59,16 @@ double TargetScene::pixelRatio() const
     return d->diagramRenderer().pixelRatio();
 }
 
+void TargetScene::setThreadCount(int count)
+{
+    d->diagramRenderer().setThreadCount(count);
+}
+
+int TargetScene::threadCount() const
+{
+    return d->diagramRenderer().threadCount();
+}
+
 void TargetScene::renderAgain()
 {
     if (d->picture.isSet()) {

@@ -152,6 +152,13 @@ public:
     /*! \brief The ratio of setPixelRatio(). */
     double pixelRatio() const;
     /*!
+     * \brief Sets how many threads draw the next pictures, 1 to 64; see ceiechart::DiagramRenderer::setThreadCount().
+     * Nothing is rendered, as the pixels are the same. 1 by default.
+     */
+    void setThreadCount(int count);
+    /*! \brief The count of setThreadCount(). */
+    int threadCount() const;
+    /*!
      * \brief Renders again what is shown, with gamuts if they are in the picture, in the stored size.
      *
      * Ignored before the first picture.

@@ -364,6 +364,16 @@ bool ChartFrame::isDevicePixelRatioFollowed() const
     return d->pixelRatioFollower != nullptr;
 }
 
+void ChartFrame::setThreadCount(int count)
+{
+    d->tell(&TargetScene::setThreadCount, count);
+}
+
+int ChartFrame::threadCount() const
+{
+    return d->scene ? d->scene->threadCount() : 1;
+}
+
 QImage ChartFrame::toImage() const
 {
     return d->scene ? d->scene->toImage() : QImage();

@@ -213,6 +213,17 @@ public:
     /*! @} */
 
     /*!
+     * \brief Sets how many threads draw the next pictures; 1, the default, to 64. See
+     * ceiechart::DiagramRenderer::setThreadCount().
+     *
+     * Nothing is rendered, as the pixels are the same. Only large pictures are drawn faster. With 1, no thread is
+     * started.
+     */
+    void setThreadCount(int count);
+    /*! \brief The count of setThreadCount(), within its limits; 1 if the scene has been deleted. */
+    int threadCount() const;
+
+    /*!
      * \name Picture and positions
      * Positions in the picture are in its pixels (logical ones, where it has those of the screen), with y growing
      * downwards; positions in the view are in logical pixels of the viewport of the inner view, as in its mouse events.

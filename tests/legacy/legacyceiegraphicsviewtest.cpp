@@ -21,8 +21,8 @@ private Q_SLOTS:
         Tests::metaObject("CEIEGraphicsView", "MouseCursorStyle",
             QStringList({"imageSize", "imageWidth", "imageHeight", "isDrawCoordinate", "isDrawBBRLine",
                 "isDrawWaveLength", "graphLineColor", "graphPictureColor", "lightPicture", "paletteFollowed",
-                "devicePixelRatioFollowed", "legendAlignament", "drawColorTPoint", "colorTempertureChecked",
-                "RGBPointEnable", "useMouseOpertator"}));
+                "devicePixelRatioFollowed", "threadCount", "legendAlignament", "drawColorTPoint",
+                "colorTempertureChecked", "RGBPointEnable", "useMouseOpertator"}));
     }
     void constructors();
     void diagramType();

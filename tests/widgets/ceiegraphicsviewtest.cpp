@@ -31,7 +31,7 @@ private Q_SLOTS:
             QStringList({"imageSize", "imageWidth", "imageHeight", "isDrawCoordinate", "isDrawBBRLine",
                 "isDrawWaveLength", "isShowStandard", "isShowTarget", "isShowOriginal", "isShowActual", "isShowMeasure",
                 "gamutsKept", "graphLineColor", "graphPictureColor", "backgroudColor", "lightPicture",
-                "paletteFollowed", "devicePixelRatioFollowed", "legendAlignament", "drawColorTPoint",
+                "paletteFollowed", "devicePixelRatioFollowed", "threadCount", "legendAlignament", "drawColorTPoint",
                 "colorTempertureChecked", "RGBPointEnable", "useMouseOpertator"}));
     }
     void constructors();

@@ -20,6 +20,8 @@ private Q_SLOTS:
     void pointsMessageAndStandards();
     void diagramOfALegacyChart();
     void colors();
+    void threads_data() { charts(); }
+    void threads();
     void gettersOfADeletedScene_data() { charts(); }
     void gettersOfADeletedScene();
     void oneRenderingPerSize();
@@ -171,6 +173,27 @@ void ChartPropertiesTest::colors()
     QCOMPARE(other->view()->styleSheet(), QString());
 }
 
+void ChartPropertiesTest::threads()
+{
+    QFETCH(QString, kind);
+    const std::unique_ptr<QWidget> widget = made(kind);
+    auto *chart = dynamic_cast<ceiechart::ChartFrame *>(widget.get());
+    const auto *scene = static_cast<ceiechart::TargetScene *>(widget->findChild<QGraphicsView *>()->scene());
+    for (const auto &[set, count] : {std::pair(3, 3), std::pair(0, 1), std::pair(1000, 64)}) {
+        chart->setThreadCount(set);
+        QCOMPARE(chart->threadCount(), count);
+        QCOMPARE(scene->threadCount(), count);
+    }
+    QVERIFY(chart->toImage().isNull()); // nothing has been rendered
+    const QSize large(900, 700);
+    chart->setImageSize(large);
+    const QImage byThreads = chart->toImage();
+    chart->setThreadCount(1);
+    chart->setImageSize(large);
+    QCOMPARE(byThreads.size(), large);
+    QCOMPARE(chart->toImage(), byThreads);
+}
+
 void ChartPropertiesTest::gettersOfADeletedScene()
 {
     QFETCH(QString, kind);
@@ -184,6 +207,8 @@ void ChartPropertiesTest::gettersOfADeletedScene()
     chart->setLightPicture(true);
     chart->setPaletteFollowed(true);
     chart->setDevicePixelRatioFollowed(true);
+    chart->setThreadCount(3);
+    QCOMPARE(chart->threadCount(), 1);
     QVERIFY(chart->isLightPicture() && chart->isPaletteFollowed() && chart->isDevicePixelRatioFollowed());
     QVERIFY(!chart->isColorTempertureChecked() && !chart->isRGBPointEnable() && !chart->isUseMouseOpertator());
     QVERIFY(!chart->graphLineColor().isValid() && !chart->graphPictureColor().isValid());
