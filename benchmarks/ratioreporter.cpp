@@ -9,8 +9,9 @@ void RatioReporter::ReportRuns(const std::vector<Run> &runs)
     ConsoleReporter::ReportRuns(runs);
     for (const Run &run : runs) {
         if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median") {
-            m_medians[run.run_name.function_name]
-                = run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
+            const bool isByTheClock = run.run_name.time_type == "real_time";
+            const double time = isByTheClock ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
+            m_medians[run.run_name.function_name] = time / benchmark::GetTimeUnitMultiplier(run.time_unit);
         }
     }
 }
