@@ -168,11 +168,15 @@ QRegion DiagramView::Private::editedRegion(const Model::Targets &former, const M
     if (old.size() < 3 || now.size() < 3 || !isFinite(old) || !isFinite(now)) {
         return q->rect();
     }
-    // Everything that changes lies between the old and the new lines, edge by edge.
+    // Everything that changes lies between the old and the new lines, edge by edge. An edge that stays looks the same:
+    // it has no dashes, which would depend on the edges before it.
     QRegion region;
     for (int i = 0; i < 3; ++i) {
-        region += regionBetween(
-            QLineF(old[i], old[(i + 1) % 3]), QLineF(now[i], now[(i + 1) % 3]), QRectF(q->rect()), lineRoom);
+        const QLineF formerEdge(old[i], old[(i + 1) % 3]);
+        const QLineF latterEdge(now[i], now[(i + 1) % 3]);
+        if (formerEdge != latterEdge) {
+            region += regionBetween(formerEdge, latterEdge, whole, lineRoom);
+        }
     }
     for (const Model::Targets *targets : {&former, &latter}) {
         const QPointF white = viewport.toPosition(xyOf(targets->white));

@@ -56,6 +56,7 @@ class DiagramViewPaintingTest : public QObject {
 private Q_SLOTS:
     void hoverRepaintsTheReadoutOnly();
     void dragRepaintsItsSurroundingsOnly();
+    void dragLeavesEdgesThatStay();
     void partialRepaintsLeaveNothingBehind_data();
     void partialRepaintsLeaveNothingBehind();
     void focusFramesComeAndGo();
@@ -105,6 +106,27 @@ void DiagramViewPaintingTest::dragRepaintsItsSurroundingsOnly()
     QVERIFY(painted > 0);
     QVERIFY2(painted < view.width() * view.height() / 4, qPrintable(QString::number(painted)));
     view.release(start);
+}
+
+void DiagramViewPaintingTest::dragLeavesEdgesThatStay()
+{
+    View view;
+    constexpr GamutVertex primaries[] = {GamutVertex::Red, GamutVertex::Green, GamutVertex::Blue};
+    for (const GamutVertex vertex : allGamutVertices) {
+        const QPointF start = view.at(vertex);
+        view.press(start);
+        view.drag(start + QPointF(20, -10));
+        view.takePainted();
+        view.drag(start + QPointF(24, -13));
+        const QRegion painted = view.takePainted();
+        for (int i = 0; i < 3; ++i) {
+            const GamutVertex from = primaries[i];
+            const GamutVertex to = primaries[(i + 1) % 3];
+            const QPoint inTheMiddle = ((view.at(from) + view.at(to)) / 2.0).toPoint();
+            QCOMPARE(painted.contains(inTheMiddle), vertex == from || vertex == to);
+        }
+        view.release(start);
+    }
 }
 
 void DiagramViewPaintingTest::partialRepaintsLeaveNothingBehind_data()
