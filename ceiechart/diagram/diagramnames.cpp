@@ -9,6 +9,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -292,15 +293,8 @@ int DiagramGamuts::outlinesAt(const QRectF &place) const
 
 int DiagramGamuts::curvesAt(const QRectF &place) const
 {
-    const auto isMet = [&place](const QPolygonF &curve) {
-        for (int i = 1; i < curve.size(); ++i) {
-            if (meets(QLineF(curve.at(i - 1), curve.at(i)), place)) {
-                return true;
-            }
-        }
-        return false;
-    };
-    return int(std::count_if(m_step.curves.cbegin(), m_step.curves.cend(), isMet));
+    return int(std::count_if(m_step.curves.cbegin(), m_step.curves.cend(),
+        [&place](const ComparedCurve &curve) { return curve.meets(place); }));
 }
 
 int DiagramGamuts::covered(const QRectF &place) const
@@ -353,7 +347,14 @@ DiagramGamuts::NamePlace DiagramGamuts::placeBeside(const Shown &gamut, const QS
 DiagramGamuts::NamePlace DiagramGamuts::placeLedTo(
     const Shown &gamut, const QSizeF &plate, const NamePlace &beside) const
 {
-    constexpr int directions = 12;
+    static const auto ways = [] {
+        std::array<QPointF, 12> directions;
+        for (size_t i = 0; i < directions.size(); ++i) {
+            const double angle = 2.0 * M_PI * double(i) / double(directions.size());
+            directions[i] = QPointF(std::cos(angle), std::sin(angle));
+        }
+        return directions;
+    }();
     NamePlace best = beside;
     const auto tryPlace = [&](const QPointF &anchor, const QPointF &way, double distance) {
         const QPointF centre
@@ -363,17 +364,19 @@ DiagramGamuts::NamePlace DiagramGamuts::placeLedTo(
                                 std::clamp(anchor.y(), place.top(), place.bottom())),
             anchor);
         const auto isMet = [&leader](const QRectF &area) { return meets(leader, area); };
-        if (leader.length() < nameGap || leader.length() >= best.cost || !m_inner.contains(place)
-            || meetsAny(m_handles, place) || !m_step.places.isFree(place, m_inner, labelGap)
-            || m_step.places.isCrossed(leader) || std::any_of(m_handles.cbegin(), m_handles.cend(), isMet)) {
+        const double reach = leader.length();
+        if (reach < nameGap || reach >= best.cost || !m_inner.contains(place) || meetsAny(m_handles, place)
+            || !m_step.places.isFree(place, m_inner, labelGap) || m_step.places.isCrossed(leader)
+            || std::any_of(m_handles.cbegin(), m_handles.cend(), isMet)) {
             return;
         }
         // Of its own outline it meets the side at which it ends.
         const int crossed = countOutlines(
             [&leader](const QLineF &side) { return side.intersects(leader, nullptr) == QLineF::BoundedIntersection; });
-        const double cost = leader.length() + costOfCrossing * std::max(0, crossed - 1);
-        if (cost < best.cost && cost + costOfPlace(place) < best.cost) {
-            best = {place, leader, cost + costOfPlace(place)};
+        const double cost = reach + costOfCrossing * std::max(0, crossed - 1);
+        const double costInAll = cost < best.cost ? cost + costOfPlace(place) : cost;
+        if (costInAll < best.cost) {
+            best = {place, leader, costInAll};
         }
     };
     QVector<QPointF> anchors;
@@ -391,9 +394,8 @@ DiagramGamuts::NamePlace DiagramGamuts::placeLedTo(
             break;
         }
         for (const QPointF &anchor : qAsConst(anchors)) {
-            for (int i = 0; i < directions; ++i) {
-                const double angle = 2.0 * M_PI * i / directions;
-                tryPlace(anchor, QPointF(std::cos(angle), std::sin(angle)), distance);
+            for (const QPointF &way : ways) {
+                tryPlace(anchor, way, distance);
             }
         }
     }

@@ -210,7 +210,7 @@ private:
             if (part.closed) {
                 whole.append(whole.first());
             }
-            m_step.curves.append(thinned(whole, roughPieces));
+            m_step.curves.emplace_back(thinned(whole, roughPieces));
         }
     }
 
@@ -303,7 +303,7 @@ private:
             points.append(toPosition(point));
         }
         for (const LinePart &part : partsWithin(points, false, m_plot)) {
-            m_step.curves.append(thinned(part.points, roughPieces));
+            m_step.curves.emplace_back(thinned(part.points, roughPieces));
         }
         drawCased(m_step.drawing, thinned(points, curvePieces), false, m_plot,
             pen(m_innerPalette.planckian, locusWidth), m_innerPalette.casing);

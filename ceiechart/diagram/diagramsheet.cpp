@@ -42,7 +42,11 @@ bool LabelPlaces::isFree(const QRectF &place, const QRectF &area, double gap) co
     const QRectF roomy = place.adjusted(-gap, -gap, gap, gap);
     return area.contains(place)
         && std::none_of(m_labels.cbegin(), m_labels.cend(), [&roomy](const DiagramLabel &label) {
-               return label.place.intersects(roomy) || (!label.leader.isNull() && meets(label.leader, roomy));
+               const QRectF &other = label.place;
+               // Most are on one side of it, which is found out soonest.
+               const bool isBeside = other.right() < roomy.left() || other.left() > roomy.right()
+                   || other.bottom() < roomy.top() || other.top() > roomy.bottom();
+               return (!isBeside && other.intersects(roomy)) || (meets(label.leader, roomy) && !label.leader.isNull());
            });
 }
 

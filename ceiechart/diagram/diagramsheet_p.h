@@ -3,11 +3,14 @@
 #ifndef CEIECHART_DIAGRAM_DIAGRAMSHEET_P_H
 #define CEIECHART_DIAGRAM_DIAGRAMSHEET_P_H
 
+#include <ceiechart/diagram/comparedcurve_p.h>
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/drawlist_p.h>
 
 #include <QLineF>
 #include <QVector>
+
+#include <vector>
 
 namespace ceiechart {
 
@@ -86,7 +89,7 @@ struct DiagramStep {
     LabelPlaces places; //!< those of the steps before as well
     QVector<PendingNumber> wavelengths; //!< none of whose first places meets another's
     QVector<PendingNumber> isotherms; //!< from the most important on
-    QVector<QPolygonF> curves; //!< roughly, those that texts had better keep clear of
+    std::vector<ComparedCurve> curves; //!< roughly, those that texts had better keep clear of
 };
 
 /*! \name The steps of painting

@@ -112,10 +112,11 @@ std::optional<std::pair<double, double>> sharesWithin(const QLineF &line, const 
 QPolygonF thinned(const QPolygonF &points, double least)
 {
     QPolygonF kept;
+    const auto isFar
+        = [squared = least * least](const QPointF &way) { return QPointF::dotProduct(way, way) >= squared; };
     for (int i = 0; i < points.size(); ++i) {
         const QPointF &point = points.at(i);
-        if (kept.isEmpty() || i + 1 == points.size()
-            || std::hypot(point.x() - kept.last().x(), point.y() - kept.last().y()) >= least) {
+        if (kept.isEmpty() || i + 1 == points.size() || isFar(point - kept.constLast())) {
             kept.append(point);
         }
     }
@@ -171,13 +172,8 @@ std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std:
     return dashes;
 }
 
-bool meets(const QLineF &line, const QRectF &area)
+bool passesThrough(const QLineF &line, const QRectF &area)
 {
-    // Most are on one side of it, which is found out soonest.
-    if (std::max(line.x1(), line.x2()) < area.left() || std::min(line.x1(), line.x2()) > area.right()
-        || std::max(line.y1(), line.y2()) < area.top() || std::min(line.y1(), line.y2()) > area.bottom()) {
-        return false;
-    }
     return area.contains(line.p1()) || area.contains(line.p2()) || partWithin(line, area).has_value();
 }
 

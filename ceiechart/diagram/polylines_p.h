@@ -8,6 +8,7 @@
 #include <QPolygonF>
 #include <QRectF>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -63,8 +64,17 @@ std::vector<LinePart> partsWithin(const QPolygonF &points, bool closed, const QR
 /*! \brief The part of \a line within \a area, if any. */
 std::optional<QLineF> partWithin(const QLineF &line, const QRectF &area);
 
+/*! \brief meets() without its quick answer for lines on one side of \a area. */
+bool passesThrough(const QLineF &line, const QRectF &area);
+
 /*! \brief Whether some of \a line lies within \a area. */
-bool meets(const QLineF &line, const QRectF &area);
+inline bool meets(const QLineF &line, const QRectF &area)
+{
+    // Most are on one side of it, which is found out soonest.
+    return !(std::max(line.x1(), line.x2()) < area.left() || std::min(line.x1(), line.x2()) > area.right()
+               || std::max(line.y1(), line.y2()) < area.top() || std::min(line.y1(), line.y2()) > area.bottom())
+        && passesThrough(line, area);
+}
 
 /*! \brief The part of \a line within the convex \a polygon, as shares of its length from 0 to 1, if any. */
 std::optional<std::pair<double, double>> sharesWithin(const QLineF &line, const QPolygonF &polygon);
