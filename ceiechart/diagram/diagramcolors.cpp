@@ -223,7 +223,35 @@ void scroll(QImage &image, const QRect &area, const QPoint &way)
     }
 }
 
-//! Fills where the coverages \a before and \a after differ.
+//! The rows of \a plot in which the polygons \a a and \a b in pixels may cover different shares: those of sides that
+//! only one of them has.
+QRect rowsOfDifference(const QPolygonF &a, const QPolygonF &b, const QRect &plot)
+{
+    double top = plot.bottom() + 1.0;
+    double bottom = plot.top();
+    const auto addOthers = [&](const QPolygonF &some, const QPolygonF &others) {
+        const auto isSame = [](const QPointF &p, const QPointF &q) { return p.x() == q.x() && p.y() == q.y(); };
+        for (int i = 0; i < some.size(); ++i) {
+            const QPointF &from = some.at(i);
+            const QPointF &to = some.at((i + 1) % some.size());
+            bool isShared = false;
+            for (int k = 0; k < others.size() && !isShared; ++k) {
+                isShared = isSame(from, others.at(k)) && isSame(to, others.at((k + 1) % others.size()));
+            }
+            if (!isShared) {
+                top = std::min({top, from.y(), to.y()});
+                bottom = std::max({bottom, from.y(), to.y()});
+            }
+        }
+    };
+    addOthers(a, b);
+    addOthers(b, a);
+    const int first = int(std::floor(std::max(top, double(plot.top()))));
+    const int end = int(std::ceil(std::min(bottom, plot.bottom() + 1.0)));
+    return QRect(plot.left(), first, plot.width(), end - first);
+}
+
+//! Fills where the coverages \a before and \a after differ, in \a plot.
 void fillDifference(Filler &filler, RowCoverage &before, RowCoverage &after, const QRect &plot, QRegion &changed)
 {
     QRect bounds;
@@ -312,7 +340,9 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
             filled += exposed;
         }
         if (isOtherFull) {
-            fillDifference(filler, before, m_full, plot, filled);
+            const QRect rows
+                = rowsOfDifference(inPixels(request, m_request.full), inPixels(request, request.full), plot);
+            fillDifference(filler, before, m_full, rows, filled);
         }
     }
     m_request = request;

@@ -89,7 +89,6 @@ void DiagramView::Private::followHand(const QPointF &point)
 bool DiagramView::Private::apply(const EditStep &step, bool isSlow)
 {
     const GamutVertex vertex = edit->vertex();
-    const QRegion former = overlayRegion(overlay);
     guidesXy.clear();
     if (step.lock.p1() != step.lock.p2()) {
         // Across all that is seen.
@@ -111,9 +110,10 @@ bool DiagramView::Private::apply(const EditStep &step, bool isSlow)
     if (isChange) {
         putTarget(*step.move.targets);
     } else {
+        const QRegion former = overlayRegion(overlay);
         refreshOverlay();
+        q->update(former + overlayRegion(overlay));
     }
-    q->update(former + overlayRegion(overlay));
     if (step.move.reason != lastReason) {
         lastReason = step.move.reason;
         if (!lastReason.isEmpty() && !tell(&DiagramView::editRefused, lastReason)) {

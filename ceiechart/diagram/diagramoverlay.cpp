@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
+#include <ceiechart/diagram/drawlist_p.h>
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -56,6 +57,38 @@ QPainterPath armsOf(const DiagramOverlay::Handle &handle)
     return path;
 }
 
+//! Paints what can be seen within \a needed of the line through \a points.
+void paintGuide(QPainter &painter, const QPolygonF &points, QPen pen, const QRegion &needed)
+{
+    constexpr double room = 6.0; // on either side, for the width and for the ends of parts
+    QPolygonF part;
+    double length = 0.0; // of the line so far
+    double begin = 0.0; // of the part, on the line
+    const auto paintPart = [&] {
+        if (!part.isEmpty()) {
+            if (pen.style() != Qt::SolidLine) {
+                pen.setDashOffset(begin / pen.widthF());
+            }
+            painter.setPen(pen);
+            painter.drawPolyline(part);
+            part.clear();
+        }
+    };
+    for (int i = 1; i < points.size(); ++i) {
+        const QLineF piece(points[i - 1], points[i]);
+        if (!isLineNeeded(piece, room, needed)) {
+            paintPart();
+        } else if (part.isEmpty()) {
+            begin = length;
+            part << piece.p1() << piece.p2();
+        } else {
+            part << piece.p2();
+        }
+        length += piece.length();
+    }
+    paintPart();
+}
+
 QFont boldOf(QFont font)
 {
     font.setBold(true);
@@ -73,17 +106,18 @@ QStringList DiagramOverlay::wrapped(const QStringList &lines, const QFont &font,
 {
     QStringList result;
     for (int i = 0; i < lines.size(); ++i) {
-        QTextLayout layout(lines[i], i == 0 ? boldOf(font) : font);
+        // Only the first line of all is bold: coordinates that do not fit stay in one.
+        if (i == 0) {
+            result.append(lines[i].trimmed());
+            continue;
+        }
+        QTextLayout layout(lines[i], font);
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         layout.setTextOption(option);
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
             line.setLineWidth(width);
-            // Only the first line of all is bold: coordinates that do not fit stay in one.
-            if (i == 0) {
-                line.setNumColumns(lines[i].size());
-            }
             result.append(lines[i].mid(line.textStart(), line.textLength()).trimmed());
         }
         layout.endLayout();
@@ -155,12 +189,12 @@ void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramP
             for (const bool isCasing : {true, false}) {
                 QPen pen(isCasing ? palette.casing : palette.accent, isCasing ? guideWidth + 2.0 : guideWidth);
                 pen.setStyle(isCasing ? Qt::SolidLine : Qt::DashLine);
-                painter.setPen(pen);
                 if (guide.size() == 1) {
+                    painter.setPen(pen);
                     painter.drawRect(QRectF(guide.first().x() - guideReach, guide.first().y() - guideReach,
                         2.0 * guideReach, 2.0 * guideReach));
                 } else {
-                    painter.drawPolyline(guide);
+                    paintGuide(painter, guide, pen, needed);
                 }
             }
         }

@@ -109,10 +109,29 @@ double roomOf(const QPen &pen)
     return pen.widthF() + 2.0;
 }
 
+//! Whether \a meetsIt is true of some part of \a region within the rows of \a bounds.
+template <typename Meets>
+bool isSomePartMet(const QRegion &region, const QRect &bounds, const Meets &meetsIt)
+{
+    // The parts of a region are ordered by their rows.
+    const QRect *part = std::lower_bound(
+        region.begin(), region.end(), bounds.top(), [](const QRect &other, int top) { return other.bottom() < top; });
+    return std::any_of(part,
+        std::find_if(part, region.end(), [&bounds](const QRect &other) { return other.top() > bounds.bottom(); }),
+        meetsIt);
+}
+
+//! \a bounds as far as they are within those of \a needed.
+QRect alignedWithin(const QRectF &bounds, const QRegion &needed)
+{
+    return (bounds & QRectF(needed.boundingRect())).toAlignedRect();
+}
+
 //! Whether some of \a bounds lies in \a needed, which is empty where everything is needed.
 bool isNeeded(const QRectF &bounds, const QRegion &needed)
 {
-    return needed.isEmpty() || needed.intersects((bounds & QRectF(needed.boundingRect())).toAlignedRect());
+    const QRect box = alignedWithin(bounds, needed);
+    return needed.isEmpty() || isSomePartMet(needed, box, [&box](const QRect &part) { return part.intersects(box); });
 }
 
 //! Removes from \a lines those of which nothing is needed. Each line is painted by itself, so that the rest stays as it
@@ -121,9 +140,7 @@ void keepNeeded(QVector<QLineF> &lines, const QPen &pen, const QRegion &needed)
 {
     if (!needed.isEmpty()) {
         lines.erase(std::remove_if(lines.begin(), lines.end(),
-                        [&, room = roomOf(pen)](const QLineF &line) {
-                            return !isNeeded(widened(QRectF(line.p1(), line.p2()).normalized(), room), needed);
-                        }),
+                        [&, room = roomOf(pen)](const QLineF &line) { return !isLineNeeded(line, room, needed); }),
             lines.end());
     }
 }
@@ -159,6 +176,34 @@ void paintPieces(QPainter &painter, const QPolygonF &points, bool closed, QPen p
     }
 }
 
+//! Puts \a runs at each of \a places in turn.
+void putGlyphs(QPainter &painter, const QList<QGlyphRun> &runs, const QVector<QPointF> &places)
+{
+    if (runs.size() == 1 && places.size() > 1) {
+        // All at once: the painter takes longer to begin with a run than to put down the few glyphs of a number.
+        const QVector<quint32> indexes = runs.first().glyphIndexes();
+        const QVector<QPointF> positions = runs.first().positions();
+        QVector<quint32> allIndexes;
+        QVector<QPointF> allPositions;
+        for (const QPointF &place : places) {
+            allIndexes += indexes;
+            for (const QPointF &position : positions) {
+                allPositions.append(place + position);
+            }
+        }
+        QGlyphRun all = runs.first();
+        all.setGlyphIndexes(allIndexes);
+        all.setPositions(allPositions);
+        painter.drawGlyphRun(QPointF(), all);
+        return;
+    }
+    for (const QPointF &place : places) {
+        for (const QGlyphRun &run : runs) {
+            painter.drawGlyphRun(place, run);
+        }
+    }
+}
+
 //! What \a marks, of which there is one, cover together.
 QRectF boundsOf(const QVector<PlacedMark> &marks)
 {
@@ -172,6 +217,15 @@ QRectF boundsOf(const QVector<PlacedMark> &marks)
 }
 
 } // namespace
+
+bool isLineNeeded(const QLineF &line, double room, const QRegion &needed)
+{
+    // The bounds of a slanting line meet much that the line does not.
+    const QRect box = alignedWithin(widened(QRectF(line.p1(), line.p2()).normalized(), room), needed);
+    return needed.isEmpty() || isSomePartMet(needed, box, [&](const QRect &part) {
+        return part.intersects(box) && meets(line, widened(QRectF(part), room));
+    });
+}
 
 TextStyle::TextStyle(const QFont &font, const QPaintDevice *device, double unit)
     : m_font(font)
@@ -319,7 +373,10 @@ void DrawList::paintItem(QPainter *painter, const Hairline &item, const QRegion 
         pixels = QRectF(
             std::floor(along.center().x() - (thickness - 1.0) / 2.0), top, thickness, std::round(along.bottom()) - top);
     }
+    // Where the way back to logical pixels is exact there is nothing to smooth, and to fill is several times faster so.
+    painter->setRenderHint(QPainter::Antialiasing, scale != thickness);
     painter->fillRect(transform.inverted().mapRect(pixels), item.color);
+    painter->setRenderHint(QPainter::Antialiasing);
 }
 
 void DrawList::paintItem(QPainter *painter, const Line &item, const QRegion &needed)
@@ -382,25 +439,22 @@ void DrawList::paintItem(QPainter *painter, const Text &item, const QRegion & /*
 {
     if (isRaster(*painter) && item.style.unit() == 1.0) {
         const QList<QGlyphRun> runs = item.style.glyphs(item.text);
-        const auto put = [&](const QPointF &at) {
-            for (const QGlyphRun &run : runs) {
-                painter->drawGlyphRun(at, run);
-            }
-        };
         if (item.casing.isValid()) {
             // The glyphs are kept as pictures: to put them down eight times is faster than to stroke their outlines
             // once.
             constexpr double reach = casingWidth / 2.0;
             constexpr double aslant = reach * 0.7;
-            painter->setPen(item.casing);
+            QVector<QPointF> places;
             for (const QPointF &way : {QPointF(reach, 0.0), QPointF(-reach, 0.0), QPointF(0.0, reach),
                      QPointF(0.0, -reach), QPointF(aslant, aslant), QPointF(-aslant, aslant), QPointF(aslant, -aslant),
                      QPointF(-aslant, -aslant)}) {
-                put(item.at + way);
+                places.append(item.at + way);
             }
+            painter->setPen(item.casing);
+            putGlyphs(*painter, runs, places);
         }
         painter->setPen(item.color);
-        put(item.at);
+        putGlyphs(*painter, runs, {item.at});
         return;
     }
     if (item.casing.isValid()) {

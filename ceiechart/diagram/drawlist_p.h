@@ -34,6 +34,9 @@ constexpr double mostPicturePixels = 3e7;
 constexpr int mostSmoothLines = 3000; // of more, the soft edges take longer than a step of the view may
 constexpr int mostMarksByOutline = 2000; // in the plot: each takes as long as a line, and hundreds of bytes of a file
 
+/*! \brief Whether some of \a line with \a room on either side lies in \a needed; an empty region needs everything. */
+bool isLineNeeded(const QLineF &line, double room, const QRegion &needed);
+
 /*! \brief A font and its measures in logical pixels. */
 class TextStyle {
 public:

@@ -3,8 +3,10 @@
 #include "diagramviewfixture.h"
 
 #include <QBackingStore>
+#include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <memory>
 #include <random>
@@ -57,6 +59,7 @@ private Q_SLOTS:
     void hoverRepaintsTheReadoutOnly();
     void dragRepaintsItsSurroundingsOnly();
     void dragLeavesEdgesThatStay();
+    void partsOfGuidesAreThoseOfTheWhole();
     void partialRepaintsLeaveNothingBehind_data();
     void partialRepaintsLeaveNothingBehind();
     void focusFramesComeAndGo();
@@ -127,6 +130,42 @@ void DiagramViewPaintingTest::dragLeavesEdgesThatStay()
         }
         view.release(start);
     }
+}
+
+void DiagramViewPaintingTest::partsOfGuidesAreThoseOfTheWhole()
+{
+    const QSize size(500, 400);
+    const QRect whole(QPoint(), size);
+    const DiagramPalette &palette = diagramPalette(DiagramGround::Light);
+    QPolygonF curve;
+    for (int i = 0; i < 200; ++i) {
+        curve.append(QPointF(2.5 * i, 200.0 + 150.0 * std::sin(0.03 * i)));
+    }
+    DiagramOverlay overlay;
+    overlay.guides
+        = {QPolygonF({QPointF(30.3, 350.2), QPointF(170.1, 20.7), QPointF(470.9, 300.4), QPointF(30.3, 350.2)}), curve};
+    std::mt19937 random(3);
+    int seen = 0;
+    for (int round = 0; round < 200; ++round) {
+        QRegion needed;
+        for (int i = 0; i < 3; ++i) {
+            needed += QRect(int(random() % 480U), int(random() % 380U), 8 + int(random() % 30U), 8);
+        }
+        needed &= whole;
+        const auto paint = [&](const QRegion &parts) {
+            QImage image(size, QImage::Format_RGB32);
+            image.fill(Qt::gray);
+            QPainter painter(&image);
+            painter.setClipRegion(needed);
+            painter.setRenderHint(QPainter::Antialiasing);
+            overlay.paint(painter, QRectF(whole), palette, QFont(), parts);
+            return image;
+        };
+        const QImage expected = paint(whole);
+        QCOMPARE(paint(needed), expected);
+        seen += expected.pixelColor(needed.begin()->center()) != QColor(Qt::gray) ? 1 : 0;
+    }
+    QVERIFY(seen > 0);
 }
 
 void DiagramViewPaintingTest::partialRepaintsLeaveNothingBehind_data()
