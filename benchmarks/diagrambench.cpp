@@ -195,7 +195,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     using ceiechart::GamutVertex;
     using ceiechart::HorseshoeColors;
-    // The goals at 3840 x 2160: a half or more for the hands, 15 or more for the view.
+    // The goals: a half or more for the hands, 15 or more for the view.
     for (const QSize &screen : {QSize(1920, 1080), QSize(3840, 2160)}) {
         const QString size = QStringLiteral("%1x%2").arg(screen.width()).arg(screen.height());
         const QString hands = QStringLiteral("hands %1/").arg(size);
