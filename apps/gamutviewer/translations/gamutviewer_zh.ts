@@ -445,6 +445,11 @@
         <source>What luminance the display reaches is not known: %1 of the %2 has no more luminance than its black.</source>
         <translation>显示屏能达到的亮度未知：%2的%1不比其黑场亮。</translation>
     </message>
+    <message>
+        <source>Whether the black of the %1 keeps it off the target is not known: its chromaticity is not known, and one of this luminance can keep it off %2. Measure it.</source>
+        <comment>gamut, colours and distances</comment>
+        <translation>%1的黑场是否使其偏离目标未知：其色品未知，而具有该亮度的黑场可能使其偏离目标（%2）。请测量其色品。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::CabinetModel</name>
@@ -831,6 +836,10 @@
         <comment>how far a measurement has been followed</comment>
         <translation>%1；单位已改变，不含此前的测量</translation>
     </message>
+    <message>
+        <source>%1 is followed no further, as there is not enough memory: %2 lines, %3 not read</source>
+        <translation>内存不足，不再跟踪 %1：%2 行，其中 %3 行无法读取</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::GamutRoles</name>
@@ -1206,6 +1215,13 @@
     <message>
         <source>%1 has measurements of %2 cabinets. What is to be made of them?</source>
         <translation>%1 包含 %2 个箱体的测量值。如何使用这些测量值？</translation>
+    </message>
+</context>
+<context>
+    <name>gamutviewer::Messages</name>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>内存不足</translation>
     </message>
 </context>
 <context>
@@ -2153,10 +2169,6 @@ Esc – 关闭有焦点的消息
         <translation>重新读取列表(&amp;L)</translation>
     </message>
     <message>
-        <source>there is not enough memory</source>
-        <translation>内存不足</translation>
-    </message>
-    <message>
         <source>%1: cannot be read: %2</source>
         <translation>%1：无法读取：%2</translation>
     </message>
@@ -2283,14 +2295,6 @@ Esc – 关闭有焦点的消息
     <message>
         <source>All %1 cabinets show this target</source>
         <translation>全部 %1 个箱体均能显示此目标</translation>
-    </message>
-    <message>
-        <source>%1 cabinets show this target; one is left out</source>
-        <translation>%1 个箱体能显示此目标；1 个被排除</translation>
-    </message>
-    <message>
-        <source>%1 cabinets show this target; %2 are left out</source>
-        <translation>%1 个箱体能显示此目标；%2 个被排除</translation>
     </message>
     <message>
         <source>None of the %1 cabinets shows this target</source>
@@ -2497,10 +2501,6 @@ Esc – 关闭有焦点的消息
         <translation>未排除的箱体均可达到 %1 的白色。</translation>
     </message>
     <message>
-        <source>Content that is darker than the target is not judged: at %1 of its luminance, the black of %2 shifts %3 by Δu′v′ %4.</source>
-        <translation>比目标更暗的内容不作判断：在其亮度的 %1 处，%2 的黑场使%3偏移 Δu′v′ %4。</translation>
-    </message>
-    <message>
         <source>It reaches a white of %1.</source>
         <translation>可达到 %1 的白色。</translation>
     </message>
@@ -2511,11 +2511,6 @@ Esc – 关闭有焦点的消息
     <message>
         <source>%1 reaches %2 at most, without its black, Δu′v′ %3 off</source>
         <translation>不计黑场，%1最多达 %2，相差 Δu′v′ %3</translation>
-    </message>
-    <message>
-        <source>its black was not measured, and one as bright as that of %1 keeps it off %2: measure it</source>
-        <comment>name of a cabinet, colours and distances</comment>
-        <translation>其黑场未测量，若与 %1 的黑场同样亮，则会使其偏离目标（%2）：请测量黑场</translation>
     </message>
     <message>
         <source>Measured whites are up to %1 and Δu′v′ %2 off the sums of the primaries (%3).</source>
@@ -2566,6 +2561,52 @@ Esc – 关闭有焦点的消息
         <source>%1; of the others it is not known</source>
         <comment>how many cabinets fail</comment>
         <translation>%1；其余未知</translation>
+    </message>
+    <message>
+        <source>the chromaticity of its black is not known, and one of this luminance can keep it off %1: measure it</source>
+        <comment>colours and distances</comment>
+        <translation>其黑场的色品未知，而具有该亮度的黑场可能使其偏离目标（%1）：请测量</translation>
+    </message>
+    <message>
+        <source>its black was not measured, and one as bright as that of %1 can keep it off %2: measure it</source>
+        <comment>name of a cabinet, colours and distances</comment>
+        <translation>其黑场未测量，而与 %1 一样亮的黑场可能使其偏离目标（%2）：请测量</translation>
+    </message>
+    <message>
+        <source>the chromaticity of its black is not known, and over one of this luminance white can reach %1 only, of %2: measure it</source>
+        <translation>其黑场的色品未知，而在具有该亮度的黑场之上，白色可能只能达到 %1（目标为 %2）：请测量</translation>
+    </message>
+    <message>
+        <source>its black was not measured, and over one as bright as that of %1 white can reach %2 only, of %3: measure it</source>
+        <comment>name of a cabinet, luminances</comment>
+        <translation>其黑场未测量，而在与 %1 一样亮的黑场之上，白色可能只能达到 %2（目标为 %3）：请测量</translation>
+    </message>
+    <message>
+        <source>Content that is darker than the target is not judged: at a tenth of its luminance, the black of %1 shifts %2 by Δu′v′ %3.</source>
+        <translation>比目标更暗的内容不作判断：在其亮度的十分之一处，%1 的黑场使%2偏移 Δu′v′ %3。</translation>
+    </message>
+    <message>
+        <source>%1 for %2</source>
+        <comment>name of a cabinet, and the primary that it limits</comment>
+        <translation>%2受 %1 限制</translation>
+    </message>
+    <message>
+        <source>The limits are %1.</source>
+        <translation>限制因素：%1。</translation>
+    </message>
+    <message>
+        <source>%1; one is left out</source>
+        <comment>how many cabinets show a target</comment>
+        <translation>%1；1 个被排除</translation>
+    </message>
+    <message>
+        <source>%1; %2 are left out</source>
+        <comment>how many cabinets show a target, and a count</comment>
+        <translation>%1；%2 个被排除</translation>
+    </message>
+    <message>
+        <source>%1 cabinets show this target</source>
+        <translation>%1 个箱体能显示此目标</translation>
     </message>
 </context>
 <context>

@@ -1156,6 +1156,10 @@
         <source>unterminated quote</source>
         <translation>引号未闭合</translation>
     </message>
+    <message>
+        <source>has no end, and may be cut off</source>
+        <translation>没有行尾，可能不完整</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Primaries</name>
@@ -1274,14 +1278,6 @@
         <translation>没有指明箱体：墙需要一列箱体，或一列行号和一列列号</translation>
     </message>
     <message>
-        <source>no cabinet has a name, and red, green and blue once each</source>
-        <translation>没有箱体既有名称，又有红、绿、蓝各一次</translation>
-    </message>
-    <message>
-        <source>cabinets whose black is not used, as it has no chromaticity: %1</source>
-        <translation>以下箱体的黑没有色品，未使用：%1</translation>
-    </message>
-    <message>
         <source>several cabinets have the same row and column: they are parts of the names, and no place is known</source>
         <translation>有多个箱体的行和列相同：行和列成为名称的一部分，位置未知</translation>
     </message>
@@ -1338,12 +1334,28 @@
         <translation>以下箱体没有自己的名称，情况未知：%1</translation>
     </message>
     <message>
-        <source>cabinets of which nothing is known, as red, green or blue is missing or has no chromaticity: %1</source>
-        <translation>以下箱体缺少红、绿或蓝，或其没有色品，情况未知：%1</translation>
-    </message>
-    <message>
         <source>cabinets of which nothing is known, as a colour is there more than once: %1</source>
         <translation>以下箱体有颜色出现多次，情况未知：%1</translation>
+    </message>
+    <message>
+        <source>white has no chromaticity</source>
+        <translation>白没有色品</translation>
+    </message>
+    <message>
+        <source>it is being measured</source>
+        <translation>正在测量</translation>
+    </message>
+    <message>
+        <source>no cabinet has a name, red, green and blue, and none of its colours twice</source>
+        <translation>没有一个箱体既有名称和红、绿、蓝，又没有重复的颜色</translation>
+    </message>
+    <message>
+        <source>cabinets of which nothing is known, as red, green or blue is missing, or a colour has no chromaticity: %1</source>
+        <translation>以下箱体情况未知，因为缺少红、绿或蓝，或某个颜色没有色品：%1</translation>
+    </message>
+    <message>
+        <source>cabinets whose black does not count in corrections, as it has no chromaticity: %1</source>
+        <translation>以下箱体的黑场没有色品，不计入校正：%1</translation>
     </message>
 </context>
 </TS>
