@@ -10,7 +10,8 @@ namespace gamutviewer {
 /*! \brief Writes the line "gamutviewer: \a text" to the standard error stream. */
 void printError(const QString &text);
 
-/*! \brief Why something could not be done for lack of memory, as part of a sentence, in the language of the interface. */
+/*! \brief Why something could not be done for lack of memory, as part of a sentence, in the language of the interface.
+ */
 QString memoryIsShort();
 
 } // namespace gamutviewer
