@@ -28,6 +28,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -56,6 +57,11 @@ private Q_SLOTS:
     void tableIsSorted();
     void headersTakeTwoLines();
     void valuesDoNotFillTheirCells();
+    void marksAreSeenInCellsOfAnySize();
+    void narrowCellsHaveNamesAndLetters();
+    void smallCellsAreNamedAtTheEdges();
+    void edgesNameRowsAndColumns();
+    void selectedCabinetIsNamedBesideTheMap();
     void allColumnsAreSeen();
     void tableIsCopiedWhole();
     void wallIsRemoved();
@@ -484,14 +490,188 @@ void WallPageTest::valuesDoNotFillTheirCells()
     for (const char *value : {"+112 %", "−12 %", "0.0123", "1061"}) {
         for (const double width : {26.0, 40.0, 52.0}) {
             const QString text = QString::fromUtf8(value);
-            const WallCellFonts fonts = wallCellFonts(QGuiApplication::font(), QSizeF(width, width * 1.25), text, 3);
+            const QString compact = compactValue(text, WallQuantity::Headroom);
+            const WallCellFonts fonts
+                = wallCellFonts(QGuiApplication::font(), QSizeF(width, width * 1.25), {text, compact, 3});
             QVERIFY(fonts.hasValues);
-            const double taken
-                = QFontMetricsF(fonts.value).horizontalAdvance(fonts.isCompact ? compactValue(text) : text);
+            const double taken = QFontMetricsF(fonts.value).horizontalAdvance(fonts.isCompact ? compact : text);
             QVERIFY2(taken <= 0.9 * width, qPrintable(QStringLiteral("%1: %2 of %3").arg(text).arg(taken).arg(width)));
             QVERIFY2(taken >= 0.4 * width, qPrintable(QStringLiteral("%1: %2 of %3").arg(text).arg(taken).arg(width)));
         }
     }
+}
+
+namespace {
+
+//! A cell of \a side that is judged as \a judgement, in luminances alone.
+QImage greyCell(int side, Judgement judgement, const QColor &color)
+{
+    WallCell cell;
+    cell.color = color;
+    cell.judgement = judgement;
+    QImage image(side, side, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    paintWallCell(&painter, image.rect(), cell, {}, QPalette());
+    painter.end();
+    return image.convertToFormat(QImage::Format_Grayscale8);
+}
+
+//! In how many pixels \a a and \a b differ by so much that it is seen.
+int differingPixels(const QImage &a, const QImage &b)
+{
+    constexpr int seen = 60; // of 255
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            count += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) >= seen ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+} // namespace
+
+void WallPageTest::marksAreSeenInCellsOfAnySize()
+{
+    std::vector<QColor> colors{QColor()}; // of a cabinet of which nothing is known
+    std::vector<CabinetAssessment> cabinets(20);
+    for (std::size_t i = 0; i < cabinets.size(); ++i) {
+        cabinets[i].headroom = 0.8 + 0.02 * double(i);
+        cabinets[i].largestWhite = 800.0 + 20.0 * double(i);
+        cabinets[i].uvBefore = 0.001 * double(i);
+        cabinets[i].uvAfter = 0.001 * double(i);
+    }
+    for (const WallQuantity quantity : allWallQuantities) {
+        const WallScale scale(quantity, cabinets, cd);
+        QVERIFY(!scale.steps().isEmpty());
+        for (const WallScale::Step &step : scale.steps()) {
+            colors.push_back(step.color);
+        }
+    }
+    for (const int side : {2, 3, 4, 6, 8, 10, 14, 18, 24, 26, 40, 100}) {
+        for (const QColor &color : colors) {
+            const QImage passes = greyCell(side, Judgement::Pass, color);
+            const QImage fails = greyCell(side, Judgement::Fail, color);
+            const QImage unknown = greyCell(side, Judgement::NotKnown, color);
+            const QString what = QStringLiteral("%1 pixels, %2").arg(side).arg(color.name());
+            const int least = side < 4 ? 1 : 4;
+            QVERIFY2(differingPixels(passes, fails) >= least, qPrintable(what));
+            QVERIFY2(differingPixels(passes, unknown) >= least, qPrintable(what));
+            QVERIFY2(differingPixels(fails, unknown) >= least, qPrintable(what));
+        }
+    }
+    const QString legend = wallLegendText(WallScale());
+    QVERIFY2(legend.contains(QStringLiteral("○ not known")), qPrintable(legend));
+}
+
+void WallPageTest::narrowCellsHaveNamesAndLetters()
+{
+    WallFixture f(description(8, 12));
+    WallMap *map = f.page()->map();
+    // 12 columns in the least width of a map: the cells are higher than wide, as far as there is room.
+    const WallGrid grid = placedCabinets(f.wall());
+    LongestTexts limits = longestValues({}, WallScale(WallQuantity::Limit, {}, cd));
+    limits.nameLength = longestName(f.wall());
+    QCOMPARE(compactValue(QStringLiteral("green"), WallQuantity::Limit), QStringLiteral("G"));
+    const WallLayout layout = wallLayout(map->font(), QSizeF(216, 500), grid, limits, 150);
+    QVERIFY(layout.fonts.hasNames && layout.fonts.hasValues && layout.fonts.isCompact);
+    QVERIFY(layout.fonts.name.pixelSize() >= 7 && layout.fonts.value.pixelSize() >= 7);
+    QCOMPARE(layout.top, 0.0);
+    QVERIFY(layout.cell.height() > 1.25 * layout.cell.width());
+    // A value that is too wide does not take the name with it.
+    const WallLayout distances
+        = wallLayout(map->font(), QSizeF(216, 500), grid, {QStringLiteral("0.0123"), QStringLiteral(".0123"), 3}, 150);
+    QVERIFY(distances.fonts.hasNames && !distances.fonts.hasValues);
+    // Wide ones are not stretched.
+    const WallLayout wide = wallLayout(map->font(), QSizeF(600, 2000), grid, limits, 150);
+    QCOMPARE(wide.cell.height(), 62.5);
+}
+
+void WallPageTest::smallCellsAreNamedAtTheEdges()
+{
+    WallFixture f(description(8, 120));
+    WallMap *map = f.page()->map();
+    QVERIFY(map->horizontalHeader()->isVisible());
+    QVERIFY(map->verticalHeader()->isVisible());
+    QCOMPARE(map->model()->headerData(2, Qt::Vertical).toString(), QStringLiteral("C"));
+    QCOMPARE(map->model()->headerData(99, Qt::Horizontal).toString(), QStringLiteral("100"));
+    const QRect last = map->visualRect(map->model()->index(7, 119));
+    QVERIFY(map->viewport()->rect().contains(last));
+    const auto inkOf = [](QWidget *widget) {
+        const QImage image = widget->grab().toImage();
+        int dark = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                dark += qGray(image.pixel(x, y)) < 170 ? 1 : 0;
+            }
+        }
+        return dark;
+    };
+    QVERIFY(inkOf(map->horizontalHeader()) > 30);
+    QVERIFY(inkOf(map->verticalHeader()) > 30);
+    // The frame of the cabinet that is selected is larger than its cell.
+    const auto coloured = [&](const QColor &color) {
+        const QImage image = map->grab().toImage();
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                count += image.pixelColor(x, y) == color ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    const QColor accent = map->palette().color(QPalette::Highlight);
+    const int before = coloured(accent);
+    for (const std::size_t cabinet : {std::size_t(0), std::size_t(403), f.wall().cabinets.size() - 1}) {
+        f.window->session()->selectCabinet(cabinet);
+        QVERIFY(coloured(accent) > before + 50);
+    }
+    // Where names fit into the cells, they are there.
+    f.window->setDescription(oneDim(), QString());
+    QVERIFY(!map->horizontalHeader()->isVisible());
+    QVERIFY(!map->verticalHeader()->isVisible());
+}
+
+void WallPageTest::edgesNameRowsAndColumns()
+{
+    DisplayDescription d = description(3, 4);
+    for (WallCabinet &cabinet : d.wall.cabinets) { // columns are letters
+        cabinet.name = QStringLiteral("%1%2").arg(QChar('A' + *cabinet.column - 1)).arg(*cabinet.row + 10);
+    }
+    WallGrid grid = placedCabinets(d.wall);
+    QCOMPARE(grid.rowNames.at(2), QStringLiteral("13"));
+    QCOMPARE(grid.columnNames.at(3), QStringLiteral("D"));
+    // Other names say nothing of the place: then the numbers of the rows and columns are told.
+    d.wall.cabinets[5].name = QStringLiteral("spare");
+    d.wall.cabinets[0].row = 0;
+    grid = placedCabinets(d.wall);
+    QCOMPARE(grid.rowNames, (std::vector<QString>{"0", "1", "2", "3"}));
+    QCOMPARE(grid.columnNames, (std::vector<QString>{"1", "2", "3", "4"}));
+}
+
+void WallPageTest::selectedCabinetIsNamedBesideTheMap()
+{
+    DisplayDescription d = oneDim();
+    d.wall.cabinets[11].row.reset();
+    d.wall.cabinets[11].column.reset();
+    WallFixture f(d);
+    QLabel *note = f.page()->selectionNote();
+    QCOMPARE(note->text(), QString());
+    f.click(f.page()->map(), f.page()->map()->indexOf(5));
+    QCOMPARE(note->text(), QStringLiteral("✗ B2: headroom −12 %"));
+    QVERIFY(note->isVisible());
+    f.window->session()->selectCabinet(11); // without a position
+    QVERIFY(note->text().startsWith(QStringLiteral("✓ C4: headroom")));
+    for (QAction *action : f.page()->quantities()->actions()) {
+        if (WallQuantity(action->data().toInt()) == WallQuantity::Limit) {
+            action->trigger();
+        }
+    }
+    f.window->session()->selectCabinet(5);
+    QCOMPARE(note->text(), QStringLiteral("✗ B2: limits red"));
+    f.window->session()->selectCabinet(std::nullopt);
+    QCOMPARE(note->text(), QString());
 }
 
 void WallPageTest::allColumnsAreSeen()

@@ -4,6 +4,8 @@
 
 #include <QtTest>
 
+#include <algorithm>
+#include <cmath>
 #include <set>
 
 using namespace gamutviewer;
@@ -53,6 +55,7 @@ class WallScaleTest : public QObject {
 private Q_SLOTS:
     void cabinetsOfABatchAreToldApart();
     void aDarkCabinetIsAlone();
+    void limitsDifferWithoutColour();
 };
 
 void WallScaleTest::cabinetsOfABatchAreToldApart()
@@ -71,6 +74,24 @@ void WallScaleTest::aDarkCabinetIsAlone()
     QCOMPARE(std::count(steps.begin(), steps.end(), 0), std::ptrdiff_t(1));
     QCOMPARE(*std::max_element(steps.begin(), steps.end()), 7);
     QVERIFY(std::set<int>(steps.begin(), steps.end()).size() >= 5);
+}
+
+// As WCAG 2.1 counts contrast.
+void WallScaleTest::limitsDifferWithoutColour()
+{
+    const auto linear
+        = [](double value) { return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4); };
+    const WallScale scale(WallQuantity::Limit, {}, LuminanceUnit::CandelaPerSquareMetre);
+    std::vector<double> luminances;
+    for (const WallScale::Step &step : scale.steps()) {
+        luminances.push_back(0.05 + 0.2126 * linear(step.color.redF()) + 0.7152 * linear(step.color.greenF())
+            + 0.0722 * linear(step.color.blueF()));
+    }
+    QCOMPARE(luminances.size(), std::size_t(4));
+    std::sort(luminances.begin(), luminances.end());
+    for (std::size_t i = 1; i < luminances.size(); ++i) {
+        QVERIFY(luminances[i] >= 1.5 * luminances[i - 1]);
+    }
 }
 
 QTEST_APPLESS_MAIN(WallScaleTest)

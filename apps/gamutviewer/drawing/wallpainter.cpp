@@ -8,6 +8,7 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -24,6 +25,9 @@ struct PainterText {
 
 constexpr int leastPixels = 7; // of letters that can be read
 constexpr int longestShownName = 8;
+constexpr double highestCell = 1.25; // as a part of its width
+constexpr double highestNarrowCell = 3.0; // the same, up to the height for a value and a name
+constexpr double heightForTexts = 36.0; // pixels
 constexpr double cellGap = 1.5;
 constexpr double smallCell = 8.0; // below it there is no gap
 constexpr double filledWidth = 0.84; // of a cell, by its text
@@ -57,6 +61,23 @@ std::map<int, int> ranks(const std::set<int> &values)
     return result;
 }
 
+//! The names of rows or columns that have no others: all from the first to the last, or those that there are.
+std::vector<QString> numberNames(const std::set<int> &numbers, bool keepsGaps)
+{
+    std::vector<QString> names;
+    if (keepsGaps) {
+        for (int number = *numbers.begin(); number < *numbers.rbegin(); ++number) {
+            names.push_back(QString::number(number));
+        }
+        names.push_back(QString::number(*numbers.rbegin()));
+        return names;
+    }
+    for (const int number : numbers) {
+        names.push_back(QString::number(number));
+    }
+    return names;
+}
+
 QString shortName(const WallCabinet &cabinet)
 {
     return oneLine(cabinet.name.isEmpty() ? cabinet.label() : cabinet.name);
@@ -81,6 +102,57 @@ std::vector<std::optional<Model::GridPosition>> gridPositions(const DisplayWall 
         positions.push_back(cabinet.position);
     }
     return positions;
+}
+
+//! A name of the kind "B7" or "12-C", of two parts of which one is a number.
+struct NameParts {
+    QString first;
+    QString second;
+};
+
+std::optional<NameParts> partsOf(const QString &name)
+{
+    int at = name.size();
+    const auto isDigit = [&name](int i) { return name.at(i).isDigit(); };
+    if (name.isEmpty() || isDigit(0) == isDigit(at - 1)) {
+        return std::nullopt;
+    }
+    while (at > 1 && isDigit(at - 1) == isDigit(name.size() - 1)) {
+        --at;
+    }
+    return NameParts{name.left(at), name.mid(at)};
+}
+
+//! Gives the rows and columns of \a grid the parts of the names of \a cabinets; false where the names have none.
+bool nameByParts(WallGrid &grid, const std::vector<QString> &cabinets)
+{
+    std::vector<QString> rows(std::size_t(grid.rows));
+    std::vector<QString> columns(std::size_t(grid.columns));
+    const auto takes = [](QString &name, const QString &part) {
+        if (name.isEmpty()) {
+            name = part;
+        }
+        return name == part;
+    };
+    for (const bool wanted : {true, false}) {
+        std::fill(rows.begin(), rows.end(), QString());
+        std::fill(columns.begin(), columns.end(), QString());
+        bool isRight = true;
+        for (std::size_t i = 0; i < grid.cells.size() && isRight; ++i) {
+            if (!grid.cells[i]) {
+                continue;
+            }
+            const auto parts = partsOf(cabinets[*grid.cells[i]]);
+            isRight = parts && takes(rows[i / std::size_t(grid.columns)], wanted ? parts->first : parts->second)
+                && takes(columns[i % std::size_t(grid.columns)], wanted ? parts->second : parts->first);
+        }
+        if (isRight) {
+            grid.rowNames = std::move(rows);
+            grid.columnNames = std::move(columns);
+            return true;
+        }
+    }
+    return false;
 }
 
 QString leftOutMark()
@@ -139,6 +211,18 @@ WallGrid placedCabinets(const DisplayWall &wall)
             cell = i;
         }
     }
+    std::vector<QString> names;
+    names.reserve(positions.size());
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        names.push_back(shortName(cabinet));
+    }
+    for (const IncompleteCabinet &cabinet : wall.incomplete) {
+        names.push_back(shortName(cabinet));
+    }
+    if (!nameByParts(grid, names)) {
+        grid.rowNames = numberNames(rows, keepsGaps);
+        grid.columnNames = numberNames(columns, keepsGaps);
+    }
     return grid;
 }
 
@@ -174,6 +258,7 @@ WallCell wallCell(
     WallCell cell;
     cell.judgement = Judgement::NotKnown;
     cell.value = undefinedText();
+    cell.compactValue = cell.value;
     if (cabinet >= wall.cabinets.size()) {
         cell.name = shortName(wall.incomplete[cabinet - wall.cabinets.size()]);
         return cell;
@@ -183,25 +268,46 @@ WallCell wallCell(
     if (assessment) {
         cell.color = scale.color(*assessment);
         cell.value = wallValueText(*assessment, scale.quantity());
+        cell.compactValue = compactValue(cell.value, scale.quantity());
         cell.judgement = assessment->judgement;
     }
     return cell;
 }
 
-QString longestValue(const std::vector<CabinetAssessment> &cabinets, const WallScale &scale)
+LongestTexts longestValues(const std::vector<CabinetAssessment> &cabinets, const WallScale &scale)
 {
-    QString longest = undefinedText();
+    LongestTexts longest;
+    longest.value = undefinedText();
+    longest.compactValue = longest.value;
+    if (scale.quantity() == WallQuantity::Limit) {
+        // Letters differ in width by far more than digits do.
+        const QFontMetricsF metrics(QGuiApplication::font());
+        const auto take = [&metrics](QString &widest, const QString &text) {
+            if (metrics.horizontalAdvance(text) > metrics.horizontalAdvance(widest)) {
+                widest = text;
+            }
+        };
+        for (const WallScale::Step &step : scale.steps()) {
+            take(longest.value, step.lower);
+            take(longest.compactValue, compactValue(step.lower, scale.quantity()));
+        }
+        return longest;
+    }
     for (const CabinetAssessment &cabinet : cabinets) {
         const QString value = wallValueText(cabinet, scale.quantity());
-        if (value.size() > longest.size()) {
-            longest = value;
+        if (value.size() > longest.value.size()) {
+            longest.value = value;
         }
     }
+    longest.compactValue = compactValue(longest.value, scale.quantity());
     return longest;
 }
 
-QString compactValue(const QString &value)
+QString compactValue(const QString &value, WallQuantity quantity)
 {
+    if (quantity == WallQuantity::Limit) {
+        return value.left(1).toUpper();
+    }
     QString text = value;
     text.remove(QLatin1Char('%'));
     text = text.trimmed();
@@ -220,7 +326,7 @@ int longestName(const DisplayWall &wall)
     return std::min(longest, longestShownName);
 }
 
-WallCellFonts wallCellFonts(const QFont &font, const QSizeF &cell, const QString &longest, int nameLength)
+WallCellFonts wallCellFonts(const QFont &font, const QSizeF &cell, const LongestTexts &longest)
 {
     WallCellFonts fonts;
     const double largest = QFontMetricsF(font).height() * 0.8; // about its size in pixels
@@ -235,20 +341,95 @@ WallCellFonts wallCellFonts(const QFont &font, const QSizeF &cell, const QString
         sample.setPixelSize(size);
         return QFontMetricsF(sample).horizontalAdvance(text) / size;
     };
-    int value = fitted(widthOf(longest), 0.36);
+    int value = fitted(widthOf(longest.value), 0.36);
     if (value < leastPixels + 1) {
         fonts.isCompact = true;
-        value = fitted(widthOf(compactValue(longest)), 0.36);
+        value = fitted(widthOf(longest.compactValue), 0.36);
     }
     // Capitals and digits are about six tenths of the size wide.
-    const int name = std::min(fitted(0.6 * nameLength, 0.30), value);
-    fonts.hasValues = value >= leastPixels;
-    fonts.hasNames = fonts.hasValues && name >= leastPixels;
+    int name = fitted(0.6 * longest.nameLength, 0.33);
+    fonts.hasNames = name >= leastPixels;
+    if (fonts.hasNames) {
+        fonts.hasValues = value >= leastPixels;
+    } else {
+        // Without one of the two, the other has all of the height.
+        constexpr double alone = 0.7;
+        value = fitted(widthOf(fonts.isCompact ? longest.compactValue : longest.value), alone);
+        fonts.hasValues = value >= leastPixels;
+        name = fitted(0.6 * longest.nameLength, alone);
+        fonts.hasNames = !fonts.hasValues && name >= leastPixels;
+    }
+    if (fonts.hasValues && fonts.hasNames) {
+        name = std::max(std::min(name, int(value * 0.9)), leastPixels);
+    }
     fonts.value = font;
     fonts.value.setPixelSize(std::max(value, 1));
     fonts.name = font;
     fonts.name.setPixelSize(std::max(name, 1));
     return fonts;
+}
+
+WallLayout wallLayout(
+    const QFont &font, const QSizeF &room, const WallGrid &grid, const LongestTexts &longest, double widest)
+{
+    WallLayout layout;
+    const int rows = std::max(grid.rows, 1);
+    const int columns = std::max(grid.columns, 1);
+    const auto share = [&] {
+        const double width = std::min((room.width() - layout.left) / columns, widest);
+        const double highest = std::max(width * highestCell, std::min(width * highestNarrowCell, heightForTexts));
+        layout.cell = QSizeF(width, std::min((room.height() - layout.top) / rows, highest));
+        layout.fonts = wallCellFonts(font, QSizeF(std::floor(width), std::floor(layout.cell.height())), longest);
+    };
+    share();
+    layout.edgeFont = font;
+    if (!layout.fonts.hasNames && !grid.rowNames.empty()) {
+        layout.edgeFont.setPixelSize(std::clamp(int(QFontMetricsF(font).height() * 0.6), leastPixels, 2 * leastPixels));
+        const QFontMetricsF metrics(layout.edgeFont);
+        constexpr double mostOfRoom = 0.2;
+        for (const QString &name : grid.rowNames) {
+            layout.left = std::max(layout.left, metrics.horizontalAdvance(name));
+        }
+        layout.left = std::ceil(std::min(layout.left + 4.0, room.width() * mostOfRoom));
+        layout.top = std::ceil(metrics.height());
+        share();
+    }
+    return layout;
+}
+
+//! Paints the mark of \a judgement into the upper right corner of \a inner.
+static void paintMark(QPainter *painter, const QRectF &inner, Judgement judgement, const QColor &color)
+{
+    const double side = std::min(inner.width(), inner.height());
+    constexpr double leastShape = 3.0; // pixels, in which a corner and a circle differ
+    constexpr double leastSize = 5.0;
+    const bool isFail = judgement == Judgement::Fail;
+    const double size = side < leastShape ? (isFail ? 1.0 : 2.0)
+                                          : std::clamp(side * 0.28, std::min(std::floor(side), leastSize), 12.0);
+    const QRectF mark(std::round(inner.right() - size), std::round(inner.top()), std::round(size), std::round(size));
+    painter->save();
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(color);
+    if (side < leastShape) {
+        painter->drawRect(mark);
+    } else if (isFail) {
+        const QPointF triangle[] = {mark.topRight(), mark.topLeft(), mark.bottomRight()};
+        painter->drawPolygon(triangle, 3);
+    } else if (size < 7.0) {
+        // A circle of so few pixels is a square.
+        QPainterPath ring;
+        ring.addRect(mark);
+        ring.addRect(mark.adjusted(1.0, 1.0, -1.0, -1.0));
+        painter->drawPath(ring);
+    } else {
+        const double line = std::max(size * 0.16, 1.2);
+        const double inset = line / 2.0 + 0.5;
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setBrush(Qt::NoBrush);
+        painter->setPen(QPen(color, line));
+        painter->drawEllipse(mark.adjusted(inset, inset, -inset, -inset));
+    }
+    painter->restore();
 }
 
 void paintWallCell(
@@ -261,52 +442,90 @@ void paintWallCell(
     const QColor text = cell.color.isValid() ? textOn(color) : palette.color(QPalette::Text);
     painter->fillRect(inner, color);
     const bool isMarked = cell.judgement != Judgement::Pass && !cell.isLeftOut;
+    const double middle = inner.center().y();
+    const bool hasBoth = fonts.hasValues && fonts.hasNames;
+    painter->setPen(text);
     if (fonts.hasValues) {
-        painter->setPen(text);
         painter->setFont(fonts.value);
-        const double middle = inner.center().y();
-        const QRectF upper = fonts.hasNames
+        const QRectF upper = hasBoth
             ? QRectF(inner.left(), inner.top() + inner.height() * 0.10, inner.width(), middle - inner.top())
             : inner;
-        painter->drawText(
-            upper, Qt::AlignCenter | Qt::TextDontClip, fonts.isCompact ? compactValue(cell.value) : cell.value);
-        if (fonts.hasNames) {
-            painter->setFont(fonts.name);
-            const QRectF lower(inner.left() + 1.0, middle, inner.width() - 2.0, inner.height() * 0.42);
-            const QString name = QFontMetricsF(fonts.name).elidedText(cell.name, Qt::ElideRight, lower.width());
-            painter->drawText(lower, Qt::AlignCenter, name);
-        }
+        painter->drawText(upper, Qt::AlignCenter | Qt::TextDontClip, fonts.isCompact ? cell.compactValue : cell.value);
     }
-    if (isMarked && side >= 3.0) {
-        const double corner = std::clamp(side * 0.28, 2.0, 12.0);
-        const QPointF at = inner.topRight();
-        if (cell.judgement == Judgement::Fail) {
-            const QPointF triangle[] = {at, at - QPointF(corner, 0.0), at + QPointF(0.0, corner)};
-            painter->setPen(Qt::NoPen);
-            painter->setBrush(text);
-            painter->drawPolygon(triangle, 3);
-        } else if (corner >= leastPixels) {
-            QFont font = fonts.value;
-            font.setPixelSize(int(corner));
-            painter->setFont(font);
-            painter->setPen(text);
-            painter->drawText(QRectF(at.x() - corner, at.y() - 1.0, corner, corner + 2.0), Qt::AlignCenter,
-                judgementMark(cell.judgement));
-        }
+    if (fonts.hasNames) {
+        painter->setFont(fonts.name);
+        const QRectF lower = hasBoth ? QRectF(inner.left(), middle, inner.width(), inner.height() * 0.42) : inner;
+        const QString name = QFontMetricsF(fonts.name).elidedText(cell.name, Qt::ElideMiddle, lower.width());
+        painter->drawText(lower, Qt::AlignCenter | Qt::TextDontClip, name);
+    }
+    if (isMarked && side >= 2.0) {
+        paintMark(painter, inner, cell.judgement, text);
     }
     if (cell.isLeftOut) {
         painter->setPen(QPen(text, std::clamp(side * 0.04, 1.0, 2.0)));
         painter->drawLine(inner.bottomLeft(), inner.topRight());
     }
-    if (cell.isSelected) {
-        const double width = std::clamp(side * 0.08, 1.5, 3.0);
-        const double inset = width / 2.0;
-        painter->setBrush(Qt::NoBrush);
-        // Light round the accent, so that it stands out from any colour.
-        painter->setPen(QPen(palette.color(QPalette::Base), width * 2.0));
-        painter->drawRect(inner.adjusted(inset, inset, -inset, -inset));
-        painter->setPen(QPen(palette.color(QPalette::Highlight), width));
-        painter->drawRect(place.adjusted(inset, inset, -inset, -inset));
+}
+
+void paintWallSelection(QPainter *painter, const QRectF &place, const QRectF &map, const QPalette &palette)
+{
+    // Round the cell, so that nothing of it is hidden, and never so small that it is lost among the cells.
+    constexpr double least = 14.0;
+    constexpr double line = 2.5;
+    constexpr double casing = 1.5;
+    const double wider = std::max((least - place.width()) / 2.0, 0.0);
+    const double higher = std::max((least - place.height()) / 2.0, 0.0);
+    const double room = line / 2.0 + casing;
+    const QRectF frame
+        = place.adjusted(-wider, -higher, wider, higher).intersected(map.adjusted(room, room, -room, -room));
+    painter->setBrush(Qt::NoBrush);
+    // Ground on both sides of the accent, so that it stands out from any colour.
+    painter->setPen(
+        QPen(palette.color(QPalette::Base), line + 2.0 * casing, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter->drawRect(frame);
+    painter->setPen(QPen(palette.color(QPalette::Highlight), line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter->drawRect(frame);
+}
+
+void paintWallEdge(QPainter *painter, const QRectF &place, Qt::Orientation orientation,
+    const std::vector<QString> &names, const std::vector<double> &borders, const QFont &font, const QPalette &palette)
+{
+    const bool isHorizontal = orientation == Qt::Horizontal;
+    const std::size_t count = borders.empty() ? 0 : std::min(names.size(), borders.size() - 1);
+    if (count == 0) {
+        return;
+    }
+    const QFontMetricsF metrics(font);
+    double longest = isHorizontal ? 0.0 : metrics.height() * 0.9;
+    for (std::size_t i = 0; i < count && isHorizontal; ++i) {
+        longest = std::max(longest, metrics.horizontalAdvance(names[i]) + 3.0);
+    }
+    // All, or every second, fifth, tenth and so on, as numbers are counted.
+    const double each = (borders[count] - borders[0]) / double(count);
+    std::size_t step = 1;
+    for (const std::size_t factor : {2, 5, 10, 20, 50, 100, 200, 500, 1000}) {
+        if (double(step) * each < longest) {
+            step = factor;
+        }
+    }
+    painter->setFont(font);
+    painter->setPen(palette.color(QPalette::WindowText));
+    double end = borders[0] - 1.0; // of the name before
+    for (std::size_t i = 0; i < count; ++i) {
+        if (i > 0 && (i + 1) % step != 0) {
+            continue;
+        }
+        const double length = isHorizontal ? metrics.horizontalAdvance(names[i]) : metrics.height() * 0.9;
+        const double from
+            = std::max(std::min((borders[i] + borders[i + 1] - length) / 2.0, borders[count] - length), borders[0]);
+        if (from < end) {
+            continue;
+        }
+        end = from + length;
+        const QRectF box = isHorizontal ? QRectF(from, place.top(), length, place.height())
+                                        : QRectF(place.left(), from, place.width() - 3.0, length);
+        painter->drawText(box, (isHorizontal ? Qt::AlignHCenter : Qt::AlignRight) | Qt::AlignVCenter | Qt::TextDontClip,
+            metrics.elidedText(names[i], Qt::ElideMiddle, isHorizontal ? length + 1.0 : box.width()));
     }
 }
 
@@ -358,7 +577,7 @@ void paintWallLegend(
 
 QString wallLegendText(const WallScale &scale)
 {
-    return PainterText::tr("%1. ◥ does not show the target, ? not known, ╱ %2", "what is shown, and the legend's marks")
+    return PainterText::tr("%1. ◥ does not show the target, ○ not known, ╱ %2", "what is shown, and the legend's marks")
         .arg(wallQuantityDescription(scale.quantity()), leftOutMark());
 }
 
@@ -400,11 +619,28 @@ void paintWallPicture(QPainter *painter, const QRectF &place, const WallPicture 
     const WallGrid placed = placedCabinets(picture.wall);
     const WallGrid others = unplacedCabinets(picture.wall);
     const double note = others.rows > 0 ? metrics.height() + 4.0 : 0.0;
-    const int columns = std::max(placed.columns, others.columns);
-    const int rows = placed.rows + others.rows;
-    const QSizeF cell(map.width() / std::max(columns, 1),
-        std::min((map.height() - note) / std::max(rows, 1), 1.25 * map.width() / std::max(columns, 1)));
-    const WallCellFonts fonts = wallCellFonts(font, cell, longestValue(cabinets, scale), longestName(picture.wall));
+    WallGrid both = placed;
+    both.columns = std::max(placed.columns, others.columns);
+    both.rows = placed.rows + others.rows;
+    LongestTexts longest = longestValues(cabinets, scale);
+    longest.nameLength = longestName(picture.wall);
+    const WallLayout layout = wallLayout(font, QSizeF(map.width(), map.height() - note), both, longest, map.width());
+    const QSizeF &cell = layout.cell;
+    const auto borders = [](double first, double each, int count) {
+        std::vector<double> result;
+        for (int i = 0; i <= count; ++i) {
+            result.push_back(first + each * i);
+        }
+        return result;
+    };
+    if (layout.top > 0.0) {
+        paintWallEdge(painter, QRectF(map.left(), map.top(), map.width(), layout.top), Qt::Horizontal,
+            placed.columnNames, borders(map.left() + layout.left, cell.width(), placed.columns), layout.edgeFont,
+            palette);
+        paintWallEdge(painter, QRectF(map.left(), map.top(), layout.left, map.height()), Qt::Vertical, placed.rowNames,
+            borders(map.top() + layout.top, cell.height(), placed.rows), layout.edgeFont, palette);
+    }
+    map.adjust(layout.left, layout.top, 0.0, 0.0);
     double top = map.top();
     const auto paintGrid = [&](const WallGrid &grid) {
         for (int row = 0; row < grid.rows; ++row) {
@@ -413,7 +649,7 @@ void paintWallPicture(QPainter *painter, const QRectF &place, const WallPicture 
                     const CabinetAssessment *assessed = *cabinet < cabinets.size() ? &cabinets[*cabinet] : nullptr;
                     paintWallCell(painter,
                         QRectF(QPointF(map.left() + column * cell.width(), top + row * cell.height()), cell),
-                        wallCell(picture.wall, assessed, scale, *cabinet), fonts, palette);
+                        wallCell(picture.wall, assessed, scale, *cabinet), layout.fonts, palette);
                 }
             }
         }

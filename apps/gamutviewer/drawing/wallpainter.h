@@ -34,6 +34,8 @@ struct WallGrid {
      * After the numbers of DisplayWall::cabinets come those of DisplayWall::incomplete.
      */
     std::vector<std::optional<std::size_t>> cells;
+    std::vector<QString> rowNames; //!< for the edge of a map, where the rows are the wall's
+    std::vector<QString> columnNames; //!< the same of the columns
 
     /*! \brief The cabinet in \a row and \a column, which are counted from 0; nothing for a gap or outside. */
     std::optional<std::size_t> at(int row, int column) const;
@@ -44,6 +46,9 @@ struct WallGrid {
  *
  * Rows and columns that are empty are left out where a wall would be little but gaps. Of several cabinets in the same
  * place, the first.
+ *
+ * Rows and columns have a name: where all cabinets are called as "B7" is, by a part for the row and a part for the
+ * column, these parts, or else their numbers.
  */
 WallGrid placedCabinets(const DisplayWall &wall);
 /*! \brief The cabinets of \a wall that are not in placedCabinets(), in their order, in a block that is wider than high.
@@ -54,10 +59,10 @@ WallGrid unplacedCabinets(const DisplayWall &wall);
 struct WallCell {
     QColor color; //!< invalid where what is shown is not known
     QString value; //!< of what is shown
+    QString compactValue; //!< the same where there is little room
     QString name; //!< of the cabinet
     Judgement judgement = Judgement::Pass; //!< marked where it is not that
     bool isLeftOut = false; //!< struck out
-    bool isSelected = false; //!< with a frame in the accent colour
 };
 
 /*! \brief How \a cabinet, by its number in a WallGrid, is drawn. */
@@ -73,25 +78,62 @@ struct WallCellFonts {
     bool hasNames = false; //!< whether there is room for names
 };
 
-/*! \brief \a value without per cent sign and without a 0 before the decimal point. */
-QString compactValue(const QString &value);
-
-/*! \brief The fonts after \a font with which \a value and a name of \a nameLength letters fit into \a cell.
+/*! \brief \a value of \a quantity without per cent sign and without a 0 before the decimal point, or a colour's letter.
  */
-WallCellFonts wallCellFonts(const QFont &font, const QSizeF &cell, const QString &value, int nameLength);
+QString compactValue(const QString &value, WallQuantity quantity);
 
-/*! \brief The longest value that \a scale has of \a cabinets. */
-QString longestValue(const std::vector<CabinetAssessment> &cabinets, const WallScale &scale);
+/*! \brief The texts of cells that need the most room. */
+struct LongestTexts {
+    QString value; //!< of WallCell::value
+    QString compactValue; //!< of WallCell::compactValue
+    int nameLength = 1; //!< of WallCell::name, in letters; longestName()
+};
+
+/*! \brief The fonts after \a font with which \a longest fit into \a cell. */
+WallCellFonts wallCellFonts(const QFont &font, const QSizeF &cell, const LongestTexts &longest);
+
+/*! \brief How a map is laid out in its room. */
+struct WallLayout {
+    QSizeF cell; //!< the size of each cell
+    WallCellFonts fonts; //!< of the cells
+    QFont edgeFont; //!< of the names of rows and columns
+    double left = 0.0; //!< the width of the names of the rows; 0 without
+    double top = 0.0; //!< the height of the names of the columns; 0 without
+};
+
+/*!
+ * \brief The layout of \a grid in \a room, in cells as large as there is room for, but no wider than \a widest.
+ *
+ * They are not higher than 1.25 times their width, but for narrow ones, which have to have room for a value and a name.
+ * Where there is no room for names, rows and columns have theirs at the edges.
+ */
+WallLayout wallLayout(
+    const QFont &font, const QSizeF &room, const WallGrid &grid, const LongestTexts &longest, double widest);
+
+/*! \brief The longest values that \a scale has of \a cabinets. */
+LongestTexts longestValues(const std::vector<CabinetAssessment> &cabinets, const WallScale &scale);
 /*! \brief The length of the longest name on the map of \a wall, in letters, but 8 at most: longer ones are cut. */
 int longestName(const DisplayWall &wall);
 
 /*!
  * \brief Paints \a cell into \a place, with a gap round it where there is room.
  *
- * A cabinet that does not show the target has a corner cut, one of which that is not known a question mark there.
+ * A cabinet that does not show the target has a corner cut, one of which that is not known a circle there. Both can be
+ * told apart in cells of 2 pixels; those that are smaller have no room for any mark.
  */
 void paintWallCell(
     QPainter *painter, const QRectF &place, const WallCell &cell, const WallCellFonts &fonts, const QPalette &palette);
+
+/*! \brief Paints a frame in the accent colour round the cell in \a place, within \a map: large enough to be seen. */
+void paintWallSelection(QPainter *painter, const QRectF &place, const QRectF &map, const QPalette &palette);
+/*!
+ * \brief Paints \a names of columns (\a orientation is horizontal) or rows into \a place, at the edge of a map.
+ *
+ * Each lies between two of \a borders, in the coordinates of \a place. Where there is no room for all, some are left
+ * out.
+ */
+void paintWallEdge(QPainter *painter, const QRectF &place, Qt::Orientation orientation,
+    const std::vector<QString> &names, const std::vector<double> &borders, const QFont &font, const QPalette &palette);
 
 /*! \brief The height of the legend of \a scale in \a font where it is \a width wide. */
 double wallLegendHeight(const WallScale &scale, const QFont &font, double width);

@@ -27,8 +27,8 @@ const QColor blues[] = {QColor(0xdeebf7), QColor(0xc6dbef), QColor(0x9ecae1), QC
     QColor(0x2171b5), QColor(0x08519c), QColor(0x08306b)};
 constexpr int stepCount = 8;
 
-// Okabe and Ito; grey for the white.
-const QColor limits[] = {QColor(0xd55e00), QColor(0x009e73), QColor(0x0072b2), QColor(0x999999)};
+// After Okabe and Ito, from dark to light: blue, red, green; light grey for the white.
+const QColor limits[] = {QColor(0xc45400), QColor(0x45b894), QColor(0x004a80), QColor(0xd4d4d4)};
 
 //! The smallest 1, 2 or 5 times a power of ten that is not below \a width.
 double niceWidth(double width)

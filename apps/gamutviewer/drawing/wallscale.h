@@ -49,8 +49,9 @@ WallQuantity usualQuantity(const WallAssessment *assessment);
  *
  * The colours are the sequential schemes "Oranges" and "Blues" of ColorBrewer 2.0 (C. Brewer, M. Harrower and The
  * Pennsylvania State University), which people with any of the common colour vision deficiencies tell apart. Orange is
- * worse, blue is better. Limits have the vermillion, bluish green and blue of M. Okabe and K. Ito, "Color Universal
- * Design" (2008).
+ * worse, blue is better. Limits have the hues of the vermillion, bluish green and blue of M. Okabe and K. Ito, "Color
+ * Universal Design" (2008), in luminances that are told apart without any colour, each at least 1.5 times the one below
+ * with what a screen reflects, as WCAG 2.1 counts contrast.
  */
 class WallScale {
 public:

@@ -6,6 +6,7 @@
 #include "panel/scaledfont.h"
 #include "panel/wallmapmodel.h"
 
+#include <QAbstractButton>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -20,7 +21,6 @@ namespace gamutviewer {
 
 namespace {
 
-constexpr double highestCell = 1.25; // as a part of its width
 constexpr int largestCell = 150; // pixels
 
 } // namespace
@@ -43,9 +43,9 @@ public:
             return;
         }
         const auto selected = m_map->m_session->selectedCabinet();
-        cell->isSelected = selected && m_model->cabinetAt(index) == selected;
+        const bool isSelected = selected && m_model->cabinetAt(index) == selected;
         paintWallCell(painter, option.rect, *cell, m_fonts, option.palette);
-        if (option.state.testFlag(QStyle::State_HasFocus) && !cell->isSelected) {
+        if (option.state.testFlag(QStyle::State_HasFocus) && !isSelected) {
             painter->setPen(QPen(option.palette.color(QPalette::Text), 1.0, Qt::DotLine));
             painter->setBrush(Qt::NoBrush);
             painter->drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
@@ -58,13 +58,60 @@ private:
     WallCellFonts m_fonts;
 };
 
+//! The names of rows or columns at an edge of the map.
+class WallMap::Edge : public QHeaderView {
+public:
+    Edge(Qt::Orientation orientation, const WallMapModel *model, QWidget *parent)
+        : QHeaderView(orientation, parent)
+        , m_model(model)
+    {
+        setMinimumSectionSize(1);
+        setSectionResizeMode(QHeaderView::Fixed);
+        setSectionsClickable(false);
+        setFocusPolicy(Qt::NoFocus);
+        viewport()->setBackgroundRole(QPalette::Window);
+        hide();
+    }
+
+    //! Shows the names in \a font, in a \a room of that width or height; none for 0.
+    void setRoom(double room, const QFont &font)
+    {
+        m_font = font;
+        setVisible(room > 0.0);
+        if (room > 0.0) {
+            orientation() == Qt::Horizontal ? setFixedHeight(int(room)) : setFixedWidth(int(room));
+        }
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(viewport());
+        std::vector<double> borders{double(sectionViewportPosition(0))};
+        for (int i = 0; i < count(); ++i) {
+            borders.push_back(borders.back() + sectionSize(i));
+        }
+        const WallGrid &grid = m_model->grid();
+        paintWallEdge(&painter, viewport()->rect(), orientation(),
+            orientation() == Qt::Horizontal ? grid.columnNames : grid.rowNames, borders, m_font, palette());
+    }
+
+private:
+    const WallMapModel *m_model;
+    QFont m_font;
+};
+
 WallMap::WallMap(TargetSession *session, Cabinets cabinets, QWidget *parent)
     : QTableView(parent)
     , m_session(session)
     , m_cabinets(cabinets)
     , m_model(new WallMapModel(session, cabinets == Cabinets::Placed ? placedCabinets : unplacedCabinets, this))
     , m_delegate(new Delegate(this, m_model))
+    , m_columnNames(new Edge(Qt::Horizontal, m_model, this))
+    , m_rowNames(new Edge(Qt::Vertical, m_model, this))
 {
+    setHorizontalHeader(m_columnNames);
+    setVerticalHeader(m_rowNames);
     setModel(m_model);
     setItemDelegate(m_delegate);
     setAccessibleName(
@@ -78,10 +125,10 @@ WallMap::WallMap(TargetSession *session, Cabinets cabinets, QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setBackgroundRole(QPalette::Window);
-    for (QHeaderView *header : {horizontalHeader(), verticalHeader()}) {
-        header->hide();
-        header->setMinimumSectionSize(1);
-        header->setSectionResizeMode(QHeaderView::Fixed);
+    // The corner between the edges is a button, which does nothing here and is not to look as if it did.
+    setCornerButtonEnabled(false);
+    for (auto *button : findChildren<QAbstractButton *>()) {
+        button->installEventFilter(this);
     }
     connect(m_model, &QAbstractItemModel::modelReset, this, &WallMap::layOut);
     connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex &current) {
@@ -125,7 +172,20 @@ int WallMap::heightFor(int width) const
     if (grid.columns == 0) {
         return 0;
     }
-    return int(std::ceil(grid.rows * std::min(double(width) / grid.columns, double(largestCell)) * highestCell));
+    constexpr double any = 1e6;
+    const WallLayout layout = layoutIn(QSizeF(width, any));
+    return int(std::ceil(grid.rows * layout.cell.height() + layout.top));
+}
+
+WallLayout WallMap::layoutIn(const QSizeF &room) const
+{
+    return wallLayout(font(), room, m_model->grid(), m_model->longest(), largestCell);
+}
+
+QString WallMap::selectionText() const
+{
+    const auto cabinet = m_session->selectedCabinet();
+    return cabinet && m_model->indexOf(*cabinet).isValid() ? m_model->briefly(*cabinet) : QString();
 }
 
 void WallMap::layOut()
@@ -134,9 +194,9 @@ void WallMap::layOut()
     if (grid.rows == 0) {
         return;
     }
-    const QSize room = size();
-    const double width = std::min(double(room.width()) / grid.columns, double(largestCell));
-    const double height = std::min(double(room.height()) / grid.rows, width * highestCell);
+    const WallLayout layout = layoutIn(size());
+    m_columnNames->setRoom(layout.top, layout.edgeFont);
+    m_rowNames->setRoom(layout.left, layout.edgeFont);
     // Cells of whole pixels; what is left over goes to the first ones, one pixel each.
     const auto share = [](QHeaderView *header, int count, double each) {
         const int all = int(std::floor(each * count));
@@ -147,10 +207,9 @@ void WallMap::layOut()
             header->resizeSection(i, least + (i < more ? 1 : 0));
         }
     };
-    share(horizontalHeader(), grid.columns, width);
-    share(verticalHeader(), grid.rows, height);
-    m_delegate->setFonts(wallCellFonts(
-        font(), QSizeF(std::floor(width), std::floor(height)), m_model->longestValue(), m_model->longestName()));
+    share(horizontalHeader(), grid.columns, layout.cell.width());
+    share(verticalHeader(), grid.rows, layout.cell.height());
+    m_delegate->setFonts(layout.fonts);
     viewport()->update();
 }
 
@@ -167,6 +226,26 @@ void WallMap::keyPressEvent(QKeyEvent *event)
         return;
     }
     QTableView::keyPressEvent(event);
+}
+
+void WallMap::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    const auto cabinet = m_session->selectedCabinet();
+    const QModelIndex index = cabinet ? m_model->indexOf(*cabinet) : QModelIndex();
+    if (index.isValid()) {
+        QPainter painter(viewport());
+        const QRectF cells(
+            visualRect(m_model->index(0, 0))
+                .united(visualRect(m_model->index(m_model->rowCount() - 1, m_model->columnCount() - 1))));
+        paintWallSelection(&painter, visualRect(index), cells, palette());
+    }
+}
+
+bool WallMap::eventFilter(QObject *watched, QEvent *event)
+{
+    return (event->type() == QEvent::Paint && qobject_cast<QAbstractButton *>(watched))
+        || QTableView::eventFilter(watched, event);
 }
 
 void WallMap::showSelection()

@@ -15,8 +15,9 @@ class WallMapModel;
 /*!
  * \brief A map of the session's wall: a cell for each cabinet, coloured by a quantity, with its value and its name.
  *
- * It fills its room, in cells that are not higher than 1.25 times their width. Arrows go from cabinet to cabinet; the
- * one that is selected is that of the session. Each cell is accessible, with its name and what is known of it.
+ * It fills its room as wallLayout() says. Where the cells have no room for names, rows and columns have theirs at the
+ * edges. Arrows go from cabinet to cabinet; the one that is selected is that of the session. Each cell is accessible,
+ * with its name and what is known of it.
  */
 class WallMap : public QTableView {
     Q_OBJECT
@@ -36,6 +37,8 @@ public:
     bool isEmpty() const;
     /*! \brief Rows of the map. */
     int gridRows() const;
+    /*! \brief The selected cabinet and what is shown of it, "✗ F9: headroom −6 %"; empty where none is selected. */
+    QString selectionText() const;
     /*! \brief The cell of \a cabinet; not valid where the map does not have it. */
     QModelIndex indexOf(std::size_t cabinet) const;
 
@@ -47,10 +50,14 @@ public:
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     class Delegate;
+    class Edge;
 
+    WallLayout layoutIn(const QSizeF &room) const;
     void layOut();
     void showSelection();
 
@@ -58,6 +65,8 @@ private:
     Cabinets m_cabinets;
     WallMapModel *m_model;
     Delegate *m_delegate;
+    Edge *m_columnNames;
+    Edge *m_rowNames;
     bool m_isShowing = false; // the selection of the session, which is not to be told of it
 };
 

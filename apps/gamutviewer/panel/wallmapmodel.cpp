@@ -33,24 +33,27 @@ void WallMapModel::refresh(const WallScale &scale)
 {
     m_scale = scale;
     const auto &assessment = m_session->assessment().wall;
-    m_longestValue = assessment ? gamutviewer::longestValue(assessment->cabinets, scale) : undefinedText();
+    static const std::vector<CabinetAssessment> none;
+    const int nameLength = m_longest.nameLength;
+    m_longest = longestValues(assessment ? assessment->cabinets : none, scale);
+    m_longest.nameLength = nameLength;
     std::vector<Place> places;
     for (const WallCabinet &cabinet : wall().cabinets) {
-        places.push_back({cabinet.row, cabinet.column, false});
+        places.push_back({cabinet.name, cabinet.row, cabinet.column, false});
     }
     for (const IncompleteCabinet &cabinet : wall().incomplete) {
         const auto &at = cabinet.position;
-        places.push_back({at ? std::make_optional(at->row) : std::nullopt,
+        places.push_back({cabinet.name, at ? std::make_optional(at->row) : std::nullopt,
             at ? std::make_optional(at->column) : std::nullopt, true});
     }
     const auto isSame = [](const Place &a, const Place &b) {
-        return a.row == b.row && a.column == b.column && a.isIncomplete == b.isIncomplete;
+        return a.name == b.name && a.row == b.row && a.column == b.column && a.isIncomplete == b.isIncomplete;
     };
     if (!std::equal(m_places.begin(), m_places.end(), places.begin(), places.end(), isSame)) {
         beginResetModel();
         m_places = std::move(places);
         m_grid = m_gridOf(wall());
-        m_longestName = gamutviewer::longestName(wall());
+        m_longest.nameLength = longestName(wall());
         m_indexes.assign(m_places.size(), QModelIndex());
         for (int row = 0; row < m_grid.rows; ++row) {
             for (int column = 0; column < m_grid.columns; ++column) {
@@ -122,6 +125,22 @@ QString WallMapModel::description(std::size_t cabinet) const
     const QString text = tr("%1, %2 %3, %4", "cabinet, what is shown, its value, whether it shows the target")
                              .arg(name, wallQuantityName(m_scale.quantity()), value, judgement);
     return wall().cabinets[cabinet].isLeftOut ? tr("%1, left out", "what is known of a cabinet").arg(text) : text;
+}
+
+QString WallMapModel::briefly(std::size_t cabinet) const
+{
+    const CabinetAssessment *of = assessed(cabinet);
+    return tr("%1 %2: %3 %4", "mark, cabinet, what is shown, its value")
+        .arg(judgementMark(of ? of->judgement : Judgement::NotKnown), cabinetName(wall(), cabinet),
+            wallQuantityName(m_scale.quantity()), of ? wallValueText(*of, m_scale.quantity()) : undefinedText());
+}
+
+QVariant WallMapModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    const auto &names = orientation == Qt::Horizontal ? m_grid.columnNames : m_grid.rowNames;
+    return role == Qt::DisplayRole && section >= 0 && std::size_t(section) < names.size()
+        ? QVariant(names[std::size_t(section)])
+        : QVariant();
 }
 
 QVariant WallMapModel::data(const QModelIndex &index, int role) const

@@ -30,16 +30,19 @@ public:
     QModelIndex indexOf(std::size_t cabinet) const;
     /*! \brief How the cabinet at \a index is drawn, but for its selection; nothing for a gap. */
     std::optional<WallCell> cell(const QModelIndex &index) const;
-    const QString &longestValue() const { return m_longestValue; }
-    int longestName() const { return m_longestName; }
+    const LongestTexts &longest() const { return m_longest; }
+    /*! \brief The cabinet that is selected and what is shown of it, in few words: "✗ F9: headroom −6 %". */
+    QString briefly(std::size_t cabinet) const;
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
     struct Place {
+        QString name;
         std::optional<int> row;
         std::optional<int> column;
         bool isIncomplete = false;
@@ -55,8 +58,7 @@ private:
     WallGrid m_grid;
     std::vector<Place> m_places; // that the grid is of
     std::vector<QModelIndex> m_indexes; // of each cabinet
-    QString m_longestValue;
-    int m_longestName = 1;
+    LongestTexts m_longest;
 };
 
 } // namespace gamutviewer

@@ -74,6 +74,7 @@ WallPage::WallPage(TargetSession *session, QWidget *parent)
     connect(session, &TargetSession::selectedCabinetChanged, m_verdict, [this] {
         if (isVisible()) {
             m_verdict->refresh();
+            showSelection();
         }
     });
 }
@@ -95,6 +96,14 @@ QWidget *WallPage::buildMaps()
     m_unplaced = new WallMap(m_session, WallMap::Cabinets::Unplaced, m_maps);
     m_unplaced->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     column->addWidget(m_unplaced);
+    m_selected = new QLabel(m_maps);
+    m_selected->setFont(small);
+    m_selected->setTextFormat(Qt::PlainText);
+    m_selected->setAccessibleName(tr("Selected cabinet"));
+    // Its room stays, so that the map does not change when a cabinet is selected.
+    m_selected->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_selected->setFixedHeight(QFontMetrics(small).height());
+    column->addWidget(m_selected);
     m_legend = new WallLegend(m_maps);
     column->addWidget(m_legend);
     column->addStretch(1);
@@ -270,6 +279,7 @@ void WallPage::refreshMaps()
     m_map->refresh(scale);
     m_unplaced->refresh(scale);
     m_legend->setScale(scale);
+    showSelection();
     m_map->setVisible(!m_map->isEmpty());
     m_unplaced->setVisible(!m_unplaced->isEmpty());
     m_unplacedTitle->setVisible(!m_unplaced->isEmpty());
@@ -277,6 +287,15 @@ void WallPage::refreshMaps()
             ? tr("Wall")
             : tr("Wall %1 × %2", "rows, columns").arg(m_map->gridRows()).arg(m_map->model()->columnCount()));
     shareRoom();
+}
+
+void WallPage::showSelection()
+{
+    const QString placed = m_map->selectionText();
+    const QString text = placed.isEmpty() ? m_unplaced->selectionText() : placed;
+    const QFontMetrics metrics(m_selected->font());
+    m_selected->setText(metrics.elidedText(text, Qt::ElideMiddle, m_maps->width() - 4));
+    m_selected->setToolTip(plainToolTip(text));
 }
 
 //! All columns of the table are to be seen, as long as there is room for a map. The user may move the border.
@@ -300,7 +319,8 @@ void WallPage::shareRoom()
     const QMargins margins = m_maps->layout()->contentsMargins();
     const int spacing = m_maps->layout()->spacing();
     const int width = m_maps->width() - margins.left() - margins.right();
-    int room = m_maps->height() - margins.top() - margins.bottom() - m_legend->heightForWidth(width) - 2 * spacing;
+    int room = m_maps->height() - margins.top() - margins.bottom() - m_legend->heightForWidth(width)
+        - m_selected->height() - 3 * spacing;
     if (!m_unplaced->isEmpty()) {
         room -= m_unplacedTitle->sizeHint().height() + 2 * spacing;
     }
@@ -311,6 +331,7 @@ void WallPage::shareRoom()
     m_unplaced->setMaximumHeight(std::max(int(others * share), 1));
     m_map->updateGeometry();
     m_unplaced->updateGeometry();
+    showSelection();
 }
 
 void WallPage::resizeEvent(QResizeEvent *event)

@@ -44,6 +44,8 @@ public:
     WallMap *map() const { return m_map; }
     /*! \brief The cabinets whose position is not known; hidden while there are none. */
     WallMap *unplacedMap() const { return m_unplaced; }
+    /*! \brief Names the selected cabinet and its value, below the map; empty where none is selected. */
+    QLabel *selectionNote() const { return m_selected; }
     WallLegend *legend() const { return m_legend; }
     CabinetTable *table() const { return m_table; }
     /*! \brief Names the cabinets that were measured incompletely; hidden while there are none. */
@@ -75,6 +77,7 @@ private:
     void refreshIncomplete();
     void shareWidth();
     void shareRoom();
+    void showSelection();
 
     TargetSession *m_session;
     QStackedWidget *m_stack;
@@ -90,6 +93,7 @@ private:
     WallMap *m_map;
     QLabel *m_unplacedTitle;
     WallMap *m_unplaced;
+    QLabel *m_selected;
     WallLegend *m_legend;
     std::array<CloseLook *, 4> m_looks{};
     QToolButton *m_worst;
