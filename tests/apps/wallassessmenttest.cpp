@@ -24,6 +24,8 @@ private Q_SLOTS:
     void equalCabinets();
     void oneDimCabinet();
     void oneNarrowCabinet();
+    void thoseThatFailWorstAreFirst();
+    void twoCabinetsAreNotAll();
     void twoBadCabinetsAreNamed();
     void manyBadCabinetsAreCounted();
     void allBadCabinets();
@@ -105,6 +107,46 @@ void WallAssessmentTest::oneDimCabinet()
     QVERIFY(std::fabs(*found.cabinets[f9].headroom - 0.935) < 1e-9);
     QCOMPARE(found.largestWhite->cabinet, f9);
     QCOMPARE(found.lines.first().cabinet, std::make_optional(f9));
+}
+
+void WallAssessmentTest::thoseThatFailWorstAreFirst()
+{
+    DisplayWall wall = wallOf(1);
+    const auto narrow
+        = [&](std::size_t i, double x) { wall.cabinets[i].green = color(wall.cabinets[i].green.Y, x, 0.55); };
+    dim(wall.cabinets[2], 0.83); // with the least white, of those that miss a colour
+    narrow(2, 0.31);
+    narrow(5, 0.34);
+    narrow(7, 0.325);
+    // In luminances that do not compare, chromaticities alone fail.
+    WallAssessment found = assessWall(wall, targetOf(900.0, LuminanceUnit::NotKnown));
+    QCOMPARE(std::vector<std::size_t>(found.worstFirst.begin(), found.worstFirst.begin() + 3),
+        (std::vector<std::size_t>{5, 7, 2}));
+    QVERIFY(found.lines.first().text.startsWith(QStringLiteral("A6: green reaches ")));
+    // Luminances that fail come before them, the least first.
+    dim(wall.cabinets[9], 0.6);
+    dim(wall.cabinets[10], 0.5);
+    found = assessWall(wall, targetOf(720.0));
+    QCOMPARE(found.worstFirst.at(0), std::size_t(10));
+    QCOMPARE(found.worstFirst.at(1), std::size_t(9));
+    QCOMPARE(found.worstFirst.at(2), std::size_t(5));
+    QCOMPARE(found.worstFirst.at(3), std::size_t(7));
+    QCOMPARE(found.worstFirst.at(4), std::size_t(2));
+}
+
+void WallAssessmentTest::twoCabinetsAreNotAll()
+{
+    DisplayWall wall = wallOf(1);
+    wall.cabinets.resize(2);
+    QCOMPARE(textOf(assessWall(wall, targetOf(1000.0))),
+        QStringLiteral("✓ Both cabinets show this target\n"
+                       "✓ Both reach a white of 1100.0 cd/m² (A1 is the limit, with red at full drive)."));
+    dim(wall.cabinets[0], 0.5);
+    const QString text = textOf(assessWall(wall, targetOf(1000.0)));
+    QVERIFY2(text.contains(QStringLiteral("- The other reaches a white of 1100.0 cd/m² (A2 ")), qPrintable(text));
+    QVERIFY2(text.contains(QStringLiteral("- Without A1, the other cabinet shows the target.")), qPrintable(text));
+    dim(wall.cabinets[1], 0.5);
+    QCOMPARE(assessWall(wall, targetOf(1000.0)).headline, QStringLiteral("Neither cabinet shows this target"));
 }
 
 void WallAssessmentTest::oneNarrowCabinet()

@@ -95,7 +95,7 @@ void WallCommandTest::exitStatusTellsTheVerdict_data()
     QTest::addColumn<QByteArray>("list");
     QTest::addColumn<int>("status");
     QTest::addColumn<QByteArray>("ground");
-    QTest::newRow("pass") << targetText(500.0) << wallList << 0 << QByteArray("pass: All 2 cabinets show this target.");
+    QTest::newRow("pass") << targetText(500.0) << wallList << 0 << QByteArray("pass: Both cabinets show this target.");
     QTest::newRow("one is too dark") << targetText(500.0)
                                      << QByteArray(wallList).replace("0.1812,0.7170,690.4", "0.1812,0.7170,300") << 3
                                      << QByteArray("fail: A2: white reaches ");

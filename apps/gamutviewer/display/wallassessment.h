@@ -112,7 +112,11 @@ struct WallAssessment {
     std::vector<CabinetAssessment> cabinets; //!< of each, in the order of the wall
     /*!
      * \brief All cabinets: those that fail first, then those that are not known, the others, and those that are left
-     * out; in each of these the one with the least white first.
+     * out.
+     *
+     * Of those that fail, the ones whose luminance fails come first, by the part of the target's luminance that they
+     * reach, and then the others, by the largest of their CabinetAssessment::outside and CabinetAssessment::offByBlack.
+     * In each of the other groups, the one with the least white is first.
      */
     std::vector<std::size_t> worstFirst;
     bool luminancesCompare = false; //!< whether those of wall and target are both in cd/m²

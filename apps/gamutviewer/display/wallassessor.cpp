@@ -529,6 +529,16 @@ private:
         return fit;
     }
 
+    //! The part of the target's luminance that \a cabinet reaches, where it fails by that; else more than any such.
+    double reachedShare(const CabinetAssessment &cabinet) const
+    {
+        if (cabinet.luminance != Judgement::Fail) {
+            return std::numeric_limits<double>::infinity();
+        }
+        const auto most = cabinet.largestWhite ? cabinet.largestWhite : cabinet.notTooBright;
+        return most ? std::min(*most / target().white.Y, 1.0) : 1.0; // a primary is too bright then
+    }
+
     void sort()
     {
         const auto rank = [this](std::size_t i) {
@@ -539,7 +549,9 @@ private:
                                                            : 2;
             const double farthest = std::max(*std::max_element(cabinet.outside.begin(), cabinet.outside.end()),
                 *std::max_element(cabinet.offByBlack.begin(), cabinet.offByBlack.end()));
-            return std::make_tuple(group, cabinet.largestWhite.value_or(-1.0), -farthest, i);
+            // How bright a cabinet is that misses a colour says nothing of how badly it fails.
+            const double reach = group == 0 ? reachedShare(cabinet) : cabinet.largestWhite.value_or(-1.0);
+            return std::make_tuple(group, reach, -farthest, i);
         };
         std::vector<decltype(rank(0))> ranks;
         ranks.reserve(m_cabinets.size());

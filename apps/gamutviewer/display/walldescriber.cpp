@@ -195,6 +195,27 @@ private:
                 gamutVertexName(vertexOf(white.limit)));
     }
 
+    //! "All reach a white of %1." of those that do not fail; \a known of them are known, or all.
+    QString reachText(bool isOfOthers, bool isKnownOfAll, int known) const
+    {
+        if (isOfOthers && known == 1) {
+            return isKnownOfAll ? WallText::tr("The other reaches a white of %1.")
+                                : WallText::tr("The only other of which it is known reaches a white of %1.");
+        }
+        if (isOfOthers) {
+            return isKnownOfAll ? WallText::tr("All others reach a white of %1.")
+                                : WallText::tr("All others of which it is known reach a white of %1.");
+        }
+        if (!isKnownOfAll) {
+            return known == 1 ? WallText::tr("The only one of which it is known reaches a white of %1.")
+                              : WallText::tr("All of which it is known reach a white of %1.");
+        }
+        return known == 1        ? WallText::tr("It reaches a white of %1.")
+            : !m_leftOut.empty() ? WallText::tr("All that are not left out reach a white of %1.")
+            : known == 2         ? WallText::tr("Both reach a white of %1.")
+                                 : WallText::tr("All reach a white of %1.");
+    }
+
     //! What those reach that do not fail.
     void describeWhite(std::size_t failing)
     {
@@ -208,13 +229,10 @@ private:
                   const CabinetAssessment &cabinet = m_result.cabinets[i];
                   return cabinet.judgement == Judgement::Fail || cabinet.largestWhite;
               });
-        const QString reached = largestText(*white);
-        QString text = failing > 0 && isKnownOfAll ? WallText::tr("All others reach a white of %1.").arg(reached)
-            : failing > 0           ? WallText::tr("All others of which it is known reach a white of %1.").arg(reached)
-            : !isKnownOfAll         ? WallText::tr("All of which it is known reach a white of %1.").arg(reached)
-            : m_counted.size() == 1 ? WallText::tr("It reaches a white of %1.").arg(reached)
-            : !m_leftOut.empty()    ? WallText::tr("All that are not left out reach a white of %1.").arg(reached)
-                                    : WallText::tr("All reach a white of %1.").arg(reached);
+        const auto known = std::count_if(m_counted.begin(), m_counted.end(), [this](std::size_t i) {
+            return m_result.cabinets[i].judgement != Judgement::Fail && m_result.cabinets[i].largestWhite;
+        });
+        QString text = reachText(failing > 0, isKnownOfAll, int(known)).arg(largestText(*white));
         const double wanted = m_target.getTargets().white.Y;
         if (m_result.cabinets[white->cabinet].luminance == Judgement::Pass && isAbove(wanted, white->luminance)) {
             text += QLatin1Char(' ')
@@ -271,7 +289,10 @@ private:
         }
         if (!failing.empty() && failing.size() <= namedCabinets && unknown.empty() && m_wall.incomplete.empty()
             && failing.size() < m_counted.size()) {
-            add(std::nullopt, WallText::tr("Without %1, all show the target.").arg(namesOf(m_wall, failing)));
+            const QString text = m_counted.size() - failing.size() == 1
+                ? WallText::tr("Without %1, the other cabinet shows the target.")
+                : WallText::tr("Without %1, all show the target.");
+            add(std::nullopt, text.arg(namesOf(m_wall, failing)));
         }
         if (!m_leftOut.empty() && m_leftOut.size() <= describedCabinets) {
             add(std::nullopt,
@@ -321,10 +342,12 @@ private:
             text = int(unknown) == all ? WallText::tr("Not known whether the cabinets show this target")
                                        : ofUnknown(showText(all - int(unknown), all), unknown);
         } else if (fails == 0) {
-            text = m_leftOut.empty() ? WallText::tr("All %1 cabinets show this target").arg(all)
-                                     : withLeftOut(WallText::tr("%1 cabinets show this target").arg(all));
+            text = m_leftOut.empty() && all == 2 ? WallText::tr("Both cabinets show this target")
+                : m_leftOut.empty()              ? WallText::tr("All %1 cabinets show this target").arg(all)
+                                                 : withLeftOut(WallText::tr("%1 cabinets show this target").arg(all));
         } else if (fails == all) {
-            text = WallText::tr("None of the %1 cabinets shows this target").arg(all);
+            text = all == 2 ? WallText::tr("Neither cabinet shows this target")
+                            : WallText::tr("None of the %1 cabinets shows this target").arg(all);
         } else if (fails + int(unknown) == all) {
             const QString fail = fails == 1
                 ? WallText::tr("1 of %1 cabinets does not show this target").arg(all)
