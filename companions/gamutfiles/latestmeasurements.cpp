@@ -260,7 +260,14 @@ MeasurementList LatestMeasurements::list() const
 QString LatestMeasurements::listedCabinet() const
 {
     const KeptCabinet *cabinet = d->cabinets.find(d->shownCabinet);
-    return cabinet ? cabinet->identity.label() : QString();
+    if (!cabinet) {
+        return QString();
+    }
+    const QString &name = cabinet->identity.cabinet;
+    const auto &all = d->cabinets.all();
+    const auto same = std::count_if(
+        all.begin(), all.end(), [&name](const auto &other) { return other.second.identity.cabinet == name; });
+    return !name.isEmpty() && same == 1 ? name : cabinet->identity.label();
 }
 
 const std::optional<DisplayWall> &LatestMeasurements::wall() const

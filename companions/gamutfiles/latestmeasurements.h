@@ -52,7 +52,9 @@ public:
      * name no cabinet, as they are shown together; the name of a point begins with that of its cabinet.
      */
     MeasurementList list() const;
-    /*! \brief How people call the cabinet whose gamut list() has; empty without a gamut, and where no cabinet is named.
+    /*!
+     * \brief How people call the cabinet whose gamut list() has: by its name, with row and column only where another
+     * has the same name. Empty without a gamut, and where no cabinet is named.
      */
     QString listedCabinet() const;
     /*!

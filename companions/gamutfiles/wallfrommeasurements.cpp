@@ -180,9 +180,16 @@ Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets
     NamedCabinets unnamed;
     NamedCabinets withoutBlack;
     QSet<QString> labels;
+    QHash<QString, int> names;
+    for (const CabinetMeasurements &measured : cabinets) {
+        ++names[measured.cabinet];
+    }
     int unnamedCount = 0;
     for (const CabinetMeasurements &measured : cabinets) {
         const QString label = measured.label();
+        // As short as it is clear for people: with row and column only where another has the same name.
+        const bool isClear = !measured.cabinet.isEmpty() && names.value(measured.cabinet) == 1;
+        const QString &called = isClear ? measured.cabinet : label;
         const Colors colors = colorsOf(measured.list);
         if (label.trimmed().isEmpty() || labels.contains(label)) {
             unnamed.add(label);
@@ -199,7 +206,7 @@ Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets
         const QStringList missing = missingColors(colors);
         const QStringList twice = ambiguousColors(colors);
         if (!missing.isEmpty() || !twice.isEmpty()) {
-            (missing.isEmpty() ? ambiguous : incomplete).add(label);
+            (missing.isEmpty() ? ambiguous : incomplete).add(called);
             wall.incomplete.push_back({name, position, (missing + twice).join(reasonSeparator())});
             continue;
         }
@@ -220,7 +227,7 @@ Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets
             cabinet.blackLuminance = luminanceOfBlack(*black);
         }
         if (cabinet.blackLuminance) {
-            withoutBlack.add(label);
+            withoutBlack.add(called);
         }
         wall.cabinets.push_back(cabinet);
     }

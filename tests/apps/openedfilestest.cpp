@@ -346,6 +346,16 @@ void OpenedFilesTest::descriptionAddsItsGamuts()
     QVERIFY(hasOwnGamut(result, QStringLiteral("Native")));
     QCOMPARE(texts(remarksOnAdding(wall(), {QString(), other, {}, {}})),
         (QStringList{"is of the display \"Other\", not of \"Wall\"", "adds its gamuts only, in no role"}));
+    // A wall takes the place of another one, of which all cabinets are counted.
+    DisplayDescription open = wall();
+    open.wall.cabinets.resize(1);
+    ReadFile list;
+    list.wall = open.wall;
+    QCOMPARE(texts(remarksOnAdding(open, list)),
+        (QStringList{"takes the place of the wall that there was, of one cabinet"}));
+    open.wall.incomplete.resize(2);
+    QCOMPARE(
+        texts(remarksOnAdding(open, list)), (QStringList{"takes the place of the wall that there was, of 3 cabinets"}));
     // Instead of nothing, it is all of it.
     QCOMPARE(withUsual(DisplayDescription(), other).original, QStringLiteral("Native"));
 }

@@ -125,7 +125,8 @@ void WallFitCommandTest::correctionsSayNoMoreThanIsKnown()
         result.error);
     QVERIFY2(
         result.error.contains("Measured whites are up to 1.5 % off the sums of the primaries (A1)."), result.error);
-    QVERIFY2(result.error.contains("are for, so that it is not known what they show: A2\n"), result.error);
+    QVERIFY2(result.error.contains("which the correction is for, so that it is not known what it shows: A2\n"),
+        result.error);
     const QJsonObject wall = QJsonDocument::fromJson(result.output).object().value("wall").toObject();
     const auto corrections = gamutfiles::readCorrectionsFile(path("c.json"));
     QVERIFY(corrections);
@@ -145,7 +146,7 @@ void WallFitCommandTest::correctionsSayNoMoreThanIsKnown()
     const Result limited
         = run({"stage.json", "--wall", "wall.csv", "--report", "json", "--corrections", "c.json", "--check"});
     QCOMPARE(limited.exitCode, 3);
-    QVERIFY2(limited.error.contains("cabinets that do not show the target even so: A2\n"), limited.error);
+    QVERIFY2(limited.error.contains("cabinet that does not show the target even so: A2\n"), limited.error);
     const QJsonObject white
         = QJsonDocument::fromJson(limited.output).object().value("wall").toObject().value("largestWhite").toObject();
     QCOMPARE(white.value("cabinet").toString(), QStringLiteral("A2 1/2"));
@@ -305,7 +306,7 @@ void WallFitCommandTest::fitsATargetThatIsALittleTooBright()
     QVERIFY2(!passes.error.contains("cannot show"), passes.error);
     // Only the primary at full drive is short of light: by less than the whole 0.15 %.
     const QRegularExpression but(
-        QStringLiteral("c.csv: cabinets that show the target, but for up to Δu′v′ 0.000[0-9] and 0.1 % of the "
+        QStringLiteral("c.csv: cabinet that shows the target, but for up to Δu′v′ 0.000[0-9] and 0.1 % of the "
                        "luminance: A1\n"));
     QVERIFY2(QString::fromUtf8(passes.error).contains(but), passes.error);
     QCOMPARE(run({"stage.json", "--wall", "wall.csv", "--cabinet", "A1", "--corrections", "c.cube"}).exitCode, 2);

@@ -205,8 +205,9 @@ QVector<Problem> remarksOnAdding(const DisplayDescription &open, const ReadFile 
     };
     if (added.wall) {
         if (!open.wall.cabinets.empty()) {
-            remark(
-                OpenText::tr("takes the place of the wall there was, of %1 cabinets").arg(open.wall.cabinets.size()));
+            const auto count = open.wall.cabinets.size() + open.wall.incomplete.size();
+            remark(count == 1 ? OpenText::tr("takes the place of the wall that there was, of one cabinet")
+                              : OpenText::tr("takes the place of the wall that there was, of %1 cabinets").arg(count));
         }
         return remarks;
     }

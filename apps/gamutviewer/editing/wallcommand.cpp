@@ -102,9 +102,8 @@ Outcome<std::size_t> cabinetCalled(const DisplayWall &wall, const QString &wante
     }
     if (found.front() >= wall.cabinets.size()) {
         const IncompleteCabinet &incomplete = wall.incomplete[found.front() - wall.cabinets.size()];
-        return Failure::failure(
-            CommandText::tr("there is no correction for %1: %2", "cabinet, and why")
-                .arg(oneLine(incompleteLabel(incomplete)), oneLine(incompleteReasonText(incomplete))));
+        return Failure::failure(CommandText::tr("there is no correction for %1: %2", "cabinet, and why")
+                                    .arg(cabinetName(wall, incomplete), oneLine(incompleteReasonText(incomplete))));
     }
     return found.front();
 }
@@ -119,7 +118,7 @@ QString namesOf(const DisplayWall &wall, const std::vector<std::size_t> &cabinet
     }
     for (std::size_t i = 0; i < incomplete.size() && names.size() < int(namedCabinets); ++i) {
         names.append(CommandText::tr("%1 (%2)", "cabinet, and why nothing is known of it")
-                         .arg(oneLine(incompleteLabel(incomplete[i])), oneLine(incompleteReasonText(incomplete[i]))));
+                         .arg(cabinetName(wall, incomplete[i]), oneLine(incompleteReasonText(incomplete[i]))));
     }
     const QString text = names.join(QStringLiteral(", "));
     const std::size_t all = cabinets.size() + incomplete.size();
@@ -206,8 +205,6 @@ public:
     //! Returns whether there is any that can be noticed in the digits that are shown.
     bool add(const Model::DeviationValues &remaining, const CabinetAssessment &cabinet)
     {
-        constexpr double noticeableUv = 0.00005;
-        constexpr double noticeableLuminance = 0.0005;
         double uv = 0.0;
         for (const auto &color : {remaining.whiteUv, remaining.redUv, remaining.greenUv, remaining.blueUv}) {
             uv = std::max(uv, color.value_or(0.0));
@@ -226,11 +223,18 @@ public:
     }
     QString text() const
     {
-        return CommandText::tr("Δu′v′ %1 and %2 of the luminance", "how much remains")
-            .arg(fixedText(m_uv, chromaticityDecimals), percent(m_luminance));
+        // What cannot be noticed in the digits that are shown would read as if it were something.
+        const QString uv = CommandText::tr("Δu′v′ %1", "how much remains").arg(fixedText(m_uv, chromaticityDecimals));
+        const QString luminance = CommandText::tr("%1 of the luminance", "how much remains").arg(percent(m_luminance));
+        return m_luminance < noticeableLuminance ? uv
+            : m_uv < noticeableUv                ? luminance
+                                                 : CommandText::tr("%1 and %2", "how much remains").arg(uv, luminance);
     }
 
 private:
+    static constexpr double noticeableUv = 0.00005;
+    static constexpr double noticeableLuminance = 0.0005;
+
     double m_uv = 0.0;
     double m_luminance = 0.0;
 };
@@ -243,7 +247,10 @@ QString whiteNote(const Corrected &corrected)
     if (assessment.luminancesCompare && hasLuminance) {
         return QString();
     }
+    const bool isOne = corrected.wall.cabinets.size() + corrected.wall.incomplete.size() == 1;
     const QString why = !hasLuminance ? CommandText::tr("the white of the target has no luminance")
+        : corrected.isWall && isOne
+        ? CommandText::tr("the luminance of the target cannot be compared with those of the cabinet")
         : corrected.isWall
         ? CommandText::tr("the luminance of the target cannot be compared with theirs")
         : CommandText::tr("the luminance of the target cannot be compared with those of the display");
@@ -257,6 +264,11 @@ QString whiteNote(const Corrected &corrected)
         : !corrected.isWall
         ? CommandText::tr("the correction is for a white of %1, the largest that the primaries of the display add to, "
                           "as %2")
+        : isOne && isReached
+        ? CommandText::tr("the correction is for a white of %1, the largest that the cabinet reaches, as %2")
+        : isOne
+        ? CommandText::tr("the correction is for a white of %1, the largest that the primaries of the cabinet add to, "
+                          "as %2")
         : !isReached
         ? CommandText::tr("the corrections are for a white of %1, the largest that the primaries of all cabinets add "
                           "to, as %2")
@@ -267,10 +279,11 @@ QString whiteNote(const Corrected &corrected)
     return text.arg(reachableText(luminance, corrected.wall.unit), why);
 }
 
-//! Of cabinets, or of a single display, of which nothing is told when there are none.
+//! Of one or several cabinets, or of a single display, of which nothing is told when there are none.
 QString noteOn(const Corrected &corrected, const std::vector<std::size_t> &cabinets, const QString &ofDisplay,
-    const QString &ofCabinets, const std::vector<IncompleteCabinet> &incomplete = {})
+    const QString &ofOne, const QString &ofSeveral, const std::vector<IncompleteCabinet> &incomplete = {})
 {
+    const QString &ofCabinets = cabinets.size() + incomplete.size() == 1 ? ofOne : ofSeveral;
     if (cabinets.empty() && incomplete.empty()) {
         return QString();
     }
@@ -308,20 +321,27 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
         }
     }
     QStringList notes{whiteNote(corrected), mixtureText(corrected.target, corrected.assessment.correction.target),
-        noteOn(corrected, without, QString(), CommandText::tr("cabinets without a correction"), written.incomplete),
+        noteOn(corrected, without, QString(), CommandText::tr("cabinet without a correction"),
+            CommandText::tr("cabinets without a correction"), written.incomplete),
         noteOn(corrected, beyond,
             CommandText::tr("the display differs from the target even so, by up to %1, as it cannot show all of it")
+                .arg(beyondReach.text()),
+            CommandText::tr("cabinet that differs from the target even so, by up to %1, as it cannot show all of it")
                 .arg(beyondReach.text()),
             CommandText::tr("cabinets that differ from the target even so, by up to %1, as they cannot show all of it")
                 .arg(beyondReach.text())),
         noteOn(corrected, within,
             CommandText::tr("the display shows the target, but for up to %1").arg(withinReach.text()),
+            CommandText::tr("cabinet that shows the target, but for up to %1").arg(withinReach.text()),
             CommandText::tr("cabinets that show the target, but for up to %1").arg(withinReach.text())),
         noteOn(corrected, failing, CommandText::tr("the display does not show the target even so"),
+            CommandText::tr("cabinet that does not show the target even so"),
             CommandText::tr("cabinets that do not show the target even so")),
         noteOn(corrected, notAdditive,
             CommandText::tr("the white of the display is not the sum of its primaries, which the correction is for; "
                             "what it shows is not known"),
+            CommandText::tr("cabinet whose measured white is not the sum of its primaries, which the correction is "
+                            "for, so that it is not known what it shows"),
             CommandText::tr("cabinets whose measured white is not the sum of their primaries, which the corrections "
                             "are for, so that it is not known what they show"))};
     notes.append(offSumText(corrected.wall, corrected.assessment, corrected.cabinets));

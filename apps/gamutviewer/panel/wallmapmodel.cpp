@@ -146,9 +146,8 @@ QVariant WallMapModel::headerData(int section, Qt::Orientation orientation, int 
 QVariant WallMapModel::data(const QModelIndex &index, int role) const
 {
     if (const IncompleteCabinet *incomplete = incompleteAt(index)) {
-        const QString text
-            = tr("%1: nothing is known of it: %2", "cabinet, and why")
-                  .arg(oneLine(incompleteLabel(*incomplete)), oneLine(incompleteReasonText(*incomplete)));
+        const QString text = tr("%1: nothing is known of it: %2", "cabinet, and why")
+                                 .arg(cabinetName(wall(), *incomplete), oneLine(incompleteReasonText(*incomplete)));
         return role == Qt::DisplayRole                                                ? QVariant(undefinedText())
             : role == Qt::ToolTipRole                                                 ? QVariant(plainToolTip(text))
             : role == Qt::AccessibleTextRole || role == Qt::AccessibleDescriptionRole ? QVariant(text)

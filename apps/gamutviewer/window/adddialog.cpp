@@ -154,7 +154,8 @@ QString AddDialog::noteFor(const DisplayDescription &open, const ReadFile &file)
 {
     QStringList lines;
     if (file.wall) {
-        lines.append(tr("Wall of %1 cabinets").arg(file.wall->cabinets.size()));
+        const auto count = file.wall->cabinets.size() + file.wall->incomplete.size();
+        lines.append(count == 1 ? tr("Wall of one cabinet") : tr("Wall of %1 cabinets").arg(count));
     } else if (const auto gamut = gamutOf(file.file)) {
         lines.append(tr("Gamut \"%1\"").arg(oneLine(nameOf(*gamut))));
     }

@@ -105,19 +105,22 @@ QString FollowMenu::progressText() const
     const FollowedInput &input = m_following->input();
     const MeasurementStreamState &state = m_following->state();
     const QString name = shownName(input);
-    const QString lines = locale.toString(state.lines);
+    // At the beginning of a sentence; a file is named as it is.
+    const QString subject = isStandardInput(input.fileName()) ? name.left(1).toUpper() + name.mid(1) : name;
+    const QString lines
+        = state.lines == 1 ? tr("1 line") : tr("%1 lines", "of a measurement").arg(locale.toString(state.lines));
     const QString notRead = locale.toString(state.notRead);
     if (m_following->isMemoryShort()) {
-        return tr("%1 is followed no further, as there is not enough memory: %2 lines, %3 not read")
-            .arg(name, lines, notRead);
+        return tr("%1 is followed no further, as there is not enough memory: %2, %3 not read")
+            .arg(subject, lines, notRead);
     }
     if (input.hasEnded()) {
-        return tr("%1 has ended: %2 lines, %3 not read").arg(name, lines, notRead);
+        return tr("%1 has ended: %2, %3 not read").arg(subject, lines, notRead);
     }
     if (!input.isThere()) {
         return tr("Waiting for %1").arg(name);
     }
-    return tr("Following %1: %2 lines, %3 not read, %4 a second")
+    return tr("Following %1: %2, %3 not read, %4 a second")
         .arg(name, lines, notRead, locale.toString(m_following->linesPerSecond()));
 }
 

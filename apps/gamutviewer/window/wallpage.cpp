@@ -3,6 +3,7 @@
 #include "window/wallpage.h"
 
 #include "display/valuetexts.h"
+#include "display/wallassessmenttexts.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
 #include "panel/accentbutton.h"
@@ -256,11 +257,12 @@ void WallPage::refresh()
 void WallPage::refreshIncomplete()
 {
     constexpr std::size_t mostNamed = 4;
-    const auto &incomplete = document()->description().wall.incomplete;
+    const DisplayWall &wall = document()->description().wall;
+    const auto &incomplete = wall.incomplete;
     QStringList names;
     for (std::size_t i = 0; i < incomplete.size() && i < mostNamed; ++i) {
         names.append(tr("%1 (%2)", "cabinet, and why nothing is known of it")
-                         .arg(oneLine(incompleteLabel(incomplete[i])), oneLine(incompleteReasonText(incomplete[i]))));
+                         .arg(cabinetName(wall, incomplete[i]), oneLine(incompleteReasonText(incomplete[i]))));
     }
     QString text = names.join(QStringLiteral(", "));
     if (incomplete.size() > mostNamed) {
