@@ -62,6 +62,9 @@ private Q_SLOTS:
     void smallCellsAreNamedAtTheEdges();
     void edgesNameRowsAndColumns();
     void selectedCabinetIsNamedBesideTheMap();
+    void longNamesAreSeen();
+    void selectedRowStaysInSight();
+    void nameInACloseLookIsWhole();
     void allColumnsAreSeen();
     void tableIsCopiedWhole();
     void wallIsRemoved();
@@ -391,8 +394,8 @@ void WallPageTest::incompleteCabinetsAreShown()
     QCOMPARE(cell->name, QStringLiteral("C9"));
     QVERIFY(cell->judgement == Judgement::NotKnown);
     QVERIFY(!cell->color.isValid());
-    QCOMPARE(index.data(Qt::AccessibleTextRole).toString(),
-        QStringLiteral("C9 3/5: nothing is known of it: red is missing"));
+    QCOMPARE(
+        index.data(Qt::AccessibleTextRole).toString(), QStringLiteral("C9: nothing is known of it: red is missing"));
     QVERIFY(!model->cell(model->index(0, 4))); // a gap
     f.click(map, index);
     QCOMPARE(f.selectedName(), QString());
@@ -400,8 +403,7 @@ void WallPageTest::incompleteCabinetsAreShown()
     QCOMPARE(f.selectedName(), QStringLiteral("B2"));
     QVERIFY(f.page()->unplacedMap()->isVisible());
     QVERIFY(f.page()->incompleteNote()->isVisible());
-    QCOMPARE(
-        f.page()->incompleteNote()->text(), QStringLiteral("Nothing is known of C9 3/5 (red is missing), X (lost)."));
+    QCOMPARE(f.page()->incompleteNote()->text(), QStringLiteral("Nothing is known of C9 (red is missing), X (lost)."));
     PictureExtent extent;
     extent.size = QSize(600, 500);
     const QString file = f.settings.filePath(QStringLiteral("gaps.svg"));
@@ -629,7 +631,7 @@ void WallPageTest::smallCellsAreNamedAtTheEdges()
     }
     // Where names fit into the cells, they are there.
     f.window->setDescription(oneDim(), QString());
-    QVERIFY(!map->horizontalHeader()->isVisible());
+    QTRY_VERIFY(!map->horizontalHeader()->isVisible());
     QVERIFY(!map->verticalHeader()->isVisible());
 }
 
@@ -672,6 +674,74 @@ void WallPageTest::selectedCabinetIsNamedBesideTheMap()
     QCOMPARE(note->text(), QStringLiteral("✗ B2: limits red"));
     f.window->session()->selectCabinet(std::nullopt);
     QCOMPARE(note->text(), QString());
+}
+
+void WallPageTest::longNamesAreSeen()
+{
+    DisplayDescription d = oneDim();
+    for (WallCabinet &cabinet : d.wall.cabinets) {
+        cabinet.name.prepend(QStringLiteral("Stage-"));
+    }
+    d.wall.cabinets[5].isLeftOut = true;
+    WallFixture f(d);
+    CabinetTable *table = f.page()->table();
+    const auto room = [table] {
+        return table->columnWidth(CabinetModel::Name)
+            - 2 * (table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) + 1);
+    };
+    const QFontMetrics metrics(table->font());
+    const int row = table->cabinets()->rowOf(5);
+    const QString leftOut = table->model()->index(row, CabinetModel::Name).data().toString();
+    QVERIFY(leftOut.endsWith(QStringLiteral("Stage-B2 (left out)")));
+    QVERIFY(room() >= metrics.horizontalAdvance(leftOut));
+    // Names of any length are cut in the middle, as their ends differ; the tool tip has all of them.
+    const QString longName = QStringLiteral("Stage-left-side-upper-row-cabinet-A1");
+    d.wall.cabinets[0].name = longName;
+    f.window->setDescription(d, QString());
+    QVERIFY(room() < metrics.horizontalAdvance(longName));
+    QCOMPARE(table->textElideMode(), Qt::ElideMiddle);
+    const QModelIndex first = table->model()->index(table->cabinets()->rowOf(0), CabinetModel::Name);
+    QVERIFY(first.data(Qt::ToolTipRole).toString().contains(longName));
+    d.target.clear();
+    f.window->setDescription(d, QString());
+    QVERIFY(table->model()->index(0, 0).data(Qt::ToolTipRole).toString().contains(longName));
+    f.window->setDescription(oneDim(), QString());
+    QVERIFY(room() < metrics.horizontalAdvance(leftOut));
+}
+
+void WallPageTest::selectedRowStaysInSight()
+{
+    DisplayDescription d = description(8, 12);
+    dim(d.wall.cabinets[1]);
+    WallFixture f(d);
+    CabinetTable *table = f.page()->table();
+    f.click(table, table->model()->index(0, 1));
+    QCOMPARE(f.selectedName(), QStringLiteral("A2"));
+    QTest::mouseClick(f.page()->verdict()->withoutButton(), Qt::LeftButton);
+    QCOMPARE(table->currentIndex().row(), 95);
+    QVERIFY(table->viewport()->rect().contains(table->visualRect(table->currentIndex()).center()));
+}
+
+void WallPageTest::nameInACloseLookIsWhole()
+{
+    DisplayDescription d = description(3, 4);
+    for (std::size_t i = 0; i < d.wall.cabinets.size(); ++i) {
+        WallCabinet &cabinet = d.wall.cabinets[i];
+        cabinet.name = QString(int(i) * 4 + 2, QLatin1Char('M')) + QString::number(i);
+        cabinet.green
+            = color(cabinet.green.Y, 0.17 + 0.002 * double((i * 5) % 12), 0.797 - 0.01 * double((i * 7) % 12));
+    }
+    WallFixture f(d);
+    for (const Vertex vertex : ceiechart::allGamutVertices) {
+        const CloseLook *look = f.page()->closeLook(vertex);
+        QVERIFY(look->selectedLabel().isEmpty());
+        for (std::size_t i = 0; i < d.wall.cabinets.size(); ++i) {
+            f.window->session()->selectCabinet(i);
+            QVERIFY(!look->selectedLabel().isEmpty());
+            QVERIFY(QRectF(look->rect()).contains(look->selectedLabel()));
+        }
+        f.window->session()->selectCabinet(std::nullopt);
+    }
 }
 
 void WallPageTest::allColumnsAreSeen()

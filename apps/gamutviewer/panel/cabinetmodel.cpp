@@ -170,6 +170,15 @@ void CabinetModel::refresh()
     }
 }
 
+QStringList CabinetModel::shownNames() const
+{
+    QStringList names;
+    for (std::size_t cabinet = 0; cabinet < m_names.size(); ++cabinet) {
+        names.append(text(cabinet, Name));
+    }
+    return names;
+}
+
 int CabinetModel::rowOf(std::size_t cabinet) const
 {
     return cabinet < m_rows.size() ? m_rows[cabinet] : -1;
@@ -246,11 +255,20 @@ QVariant CabinetModel::data(const QModelIndex &index, int role) const
             }
             return plainToolTip(words);
         }
-        break;
+        return plainToolTip(text(cabinet, Name)); // which may be cut
     default:
         break;
     }
     return QVariant();
+}
+
+//! With the unit on a line of its own, which would be broken at its slash otherwise.
+QString CabinetModel::whiteTitle(const QString &unit)
+{
+    const QString title = tr("white %1", "with the unit of the luminance").arg(unit);
+    const int at = title.lastIndexOf(unit) - 1;
+    const bool isApart = !unit.isEmpty() && at > 0 && title.at(at) == QLatin1Char(' ');
+    return isApart ? title.left(at) + QLatin1Char('\n') + title.mid(at + 1) : title;
 }
 
 QVariant CabinetModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -272,8 +290,7 @@ QVariant CabinetModel::headerData(int section, Qt::Orientation orientation, int 
         return isTip ? tr("The colour of the target that lies outside by the most, or else the primary at full drive")
                      : tr("limited by");
     case White:
-        return isTip ? tr("Largest luminance in the white of the target")
-                     : tr("white %1", "with the unit of the luminance").arg(luminanceUnitText(wall().unit));
+        return isTip ? tr("Largest luminance in the white of the target") : whiteTitle(luminanceUnitText(wall().unit));
     case Headroom:
         return isTip ? tr("Room above the luminance of the target's white") : tr("headroom");
     case UvBefore:

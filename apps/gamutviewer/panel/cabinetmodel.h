@@ -6,6 +6,7 @@
 #include "display/wallassessment.h"
 
 #include <QAbstractTableModel>
+#include <QStringList>
 
 #include <vector>
 
@@ -27,6 +28,8 @@ public:
     void refresh();
     /*! \brief The cabinet in \a row. */
     std::size_t cabinetIn(int row) const { return m_order.at(std::size_t(row)); }
+    /*! \brief What the column Name shows of each cabinet besides its mark, in the order of the wall. */
+    QStringList shownNames() const;
     /*! \brief The row of \a cabinet; -1 for none. */
     int rowOf(std::size_t cabinet) const;
 
@@ -41,6 +44,7 @@ private:
     const DisplayWall &wall() const;
     std::vector<std::size_t> orderNow() const;
     QString text(std::size_t cabinet, int column) const;
+    static QString whiteTitle(const QString &unit);
 
     const TargetSession *m_session;
     int m_column = -1;

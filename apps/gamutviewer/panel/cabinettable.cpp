@@ -45,6 +45,7 @@ CabinetTable::CabinetTable(TargetSession *session, QWidget *parent)
     setTabKeyNavigation(false);
     setShowGrid(false);
     setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle); // long names mostly differ at the end
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(10);
@@ -65,13 +66,21 @@ CabinetTable::CabinetTable(TargetSession *session, QWidget *parent)
 
 void CabinetTable::refresh()
 {
+    const QModelIndex before = currentIndex();
+    const bool wasInSight = before.isValid() && viewport()->rect().intersects(visualRect(before));
     m_isShowing = true;
     m_model->refresh();
     m_isShowing = false;
-    if (m_unit != m_model->headerData(CabinetModel::White, Qt::Horizontal).toString()) {
+    const QStringList names = m_model->shownNames();
+    if (names != m_names || m_unit != m_model->headerData(CabinetModel::White, Qt::Horizontal).toString()) {
+        m_names = names;
         fitColumns();
     }
     showSelection();
+    // Where the order has changed, the row may have moved away.
+    if (wasInSight && currentIndex().isValid()) {
+        scrollTo(currentIndex());
+    }
 }
 
 int CabinetTable::wholeWidth() const
@@ -105,8 +114,24 @@ void CabinetTable::showSelection()
     m_isShowing = false;
 }
 
+//! The width that the longest of \a names takes, within reason.
+int CabinetTable::nameWidth(const QStringList &names) const
+{
+    constexpr int most = 22; // letters
+    QFont bold = font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    int longest = metrics.horizontalAdvance(QStringLiteral("AB12"));
+    for (const QString &name : names) {
+        longest = std::max(longest, metrics.horizontalAdvance(name));
+    }
+    const int width = longest + metrics.horizontalAdvance(QStringLiteral("✗ "));
+    const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+    return std::min(width + margins, most * metrics.averageCharWidth());
+}
+
 //! Each as wide as its header, which may take two lines, and its widest usual value, whatever is shown: it must not
-//! change in a drag.
+//! change in a drag. Names do not.
 void CabinetTable::fitColumns()
 {
     m_unit = m_model->headerData(CabinetModel::White, Qt::Horizontal).toString();
@@ -121,11 +146,11 @@ void CabinetTable::fitColumns()
     // What styles keep free for the arrow of the column that is sorted by.
     const int arrow = header->height() / 2 + 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
     for (int column = 0; column < CabinetModel::ColumnCount; ++column) {
-        const QString title = m_model->headerData(column, Qt::Horizontal).toString();
-        const QString widest = column == CabinetModel::Name ? QStringLiteral("✗ AB12") : QStringLiteral("0.0000");
+        const QString title = m_model->headerData(column, Qt::Horizontal).toString().replace(u'\n', u' ');
+        const int widest
+            = column == CabinetModel::Name ? nameWidth(m_names) : wide.horizontalAdvance(QStringLiteral("0.0000"));
         const int sorted = header->sortIndicatorSection() == column ? arrow : 0;
-        setColumnWidth(
-            column, std::max(twoLineWidth(title, metrics) + sorted, wide.horizontalAdvance(widest)) + padding);
+        setColumnWidth(column, std::max(twoLineWidth(title, metrics) + sorted, widest) + padding);
     }
     verticalHeader()->setDefaultSectionSize(metrics.height() + 6);
 }

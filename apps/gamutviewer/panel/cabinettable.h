@@ -3,6 +3,7 @@
 #ifndef GAMUTVIEWER_CABINETTABLE_H
 #define GAMUTVIEWER_CABINETTABLE_H
 
+#include <QStringList>
 #include <QTableView>
 
 namespace gamutviewer {
@@ -35,9 +36,11 @@ protected:
 private:
     void showSelection();
     void fitColumns();
+    int nameWidth(const QStringList &names) const;
 
     TargetSession *m_session;
     CabinetModel *m_model;
+    QStringList m_names; // that the first column is fitted to
     QString m_unit; // the header with the unit that the columns are fitted to
     bool m_isShowing = false; // the selection of the session, which is not to be told of it
 };

@@ -305,18 +305,45 @@ void CloseLook::paintSelected(QPainter *painter) const
     painter->setPen(QPen(palette().color(QPalette::Highlight), 2.0));
     painter->setBrush(dotColor(m_vertex, content().ground));
     painter->drawEllipse(at, 5.0, 5.0);
-    const QString name = cabinetName(session()->document()->description().wall, *selected);
-    const QSizeF size = QFontMetricsF(font()).size(Qt::TextSingleLine, name);
-    QRectF place(at + QPointF(9.0, -size.height() / 2.0), size);
-    const bool hidesHandle
-        = place.adjusted(-handleRoom, -handleRoom, handleRoom, handleRoom).contains(viewport().toPosition(targetXy()));
-    if (place.right() > width() || (hidesHandle && at.x() - 9.0 > size.width())) {
-        place.moveRight(at.x() - 9.0);
-    }
+    const QRectF place = selectedLabel();
     painter->fillRect(place.adjusted(-2, 0, 2, 0), colors.casing);
     painter->setPen(colors.text);
     painter->setFont(font());
-    painter->drawText(place, Qt::AlignCenter, name);
+    painter->drawText(place, Qt::AlignCenter,
+        QFontMetricsF(font()).elidedText(
+            cabinetName(session()->document()->description().wall, *selected), Qt::ElideMiddle, place.width() + 1.0));
+}
+
+QRectF CloseLook::selectedLabel() const
+{
+    const auto selected = session()->selectedCabinet();
+    const QPointF at = selected && *selected < std::size_t(m_dots.size())
+        ? viewport().toPosition(m_dots.at(int(*selected)))
+        : QPointF(qQNaN(), qQNaN());
+    if (!isFinite(at) || !QRectF(rect()).contains(at)) {
+        return QRectF();
+    }
+    const QRectF room = QRectF(rect()).adjusted(4.0, 2.0, -4.0, -2.0);
+    const QFontMetricsF metrics(font());
+    const QString name = metrics.elidedText(
+        cabinetName(session()->document()->description().wall, *selected), Qt::ElideMiddle, room.width());
+    const QSizeF size = metrics.size(Qt::TextSingleLine, name);
+    QRectF place(at + QPointF(9.0, -size.height() / 2.0), size);
+    const bool hidesHandle
+        = place.adjusted(-handleRoom, -handleRoom, handleRoom, handleRoom).contains(viewport().toPosition(targetXy()));
+    if (place.right() > room.right() || (hidesHandle && at.x() - 9.0 > size.width())) {
+        place.moveRight(at.x() - 9.0);
+    }
+    if (place.left() < room.left()) {
+        // Too long for either side: above the dot, or below it.
+        place.moveLeft(std::clamp(at.x() - size.width() / 2.0, room.left(), room.right() - size.width()));
+        place.moveBottom(at.y() - 9.0);
+        if (place.top() < room.top()) {
+            place.moveTop(at.y() + 9.0);
+        }
+    }
+    place.moveTop(std::clamp(place.top(), room.top(), std::max(room.bottom() - size.height(), room.top())));
+    return place;
 }
 
 std::optional<std::size_t> CloseLook::cabinetAt(const QPointF &position) const

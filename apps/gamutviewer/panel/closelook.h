@@ -33,6 +33,9 @@ public:
     /*! \brief The cabinet whose dot is nearest to \a position and hit by it; nothing for none. */
     std::optional<std::size_t> cabinetAt(const QPointF &position) const;
 
+    /*! \brief Where the name of the selected cabinet stands, inside of the view; empty where its dot is not seen. */
+    QRectF selectedLabel() const;
+
     QSize sizeHint() const override { return QSize(150, 130); }
     QSize minimumSizeHint() const override { return QSize(70, 70); }
 

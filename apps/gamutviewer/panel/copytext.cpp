@@ -31,7 +31,8 @@ QString tableText(const QTableView &table, bool selectedOnly)
         return !selectedOnly;
     };
     const auto header = [&model](int section, Qt::Orientation orientation) {
-        return model.headerData(section, orientation, Qt::DisplayRole).toString();
+        // Some have two lines.
+        return model.headerData(section, orientation, Qt::DisplayRole).toString().replace(u'\n', u' ');
     };
     QStringList lines;
     for (int row = -1; row < rows; ++row) {
