@@ -580,6 +580,25 @@ void WallPageTest::narrowCellsHaveNamesAndLetters()
     QVERIFY(layout.fonts.hasNames && layout.fonts.hasValues && layout.fonts.isCompact);
     QVERIFY(layout.fonts.name.pixelSize() >= 7 && layout.fonts.value.pixelSize() >= 7);
     QCOMPARE(layout.top, 0.0);
+    // All of a name is there.
+    QVERIFY(QFontMetricsF(layout.fonts.name).horizontalAdvance(QStringLiteral("H12")) <= layout.cell.width());
+    for (const double width : {18.0, 19.0, 20.0}) {
+        WallCell cell;
+        cell.color = Qt::white;
+        cell.name = QStringLiteral("A10");
+        const WallCellFonts fonts = wallCellFonts(
+            map->font(), QSizeF(width, 36.0), {QStringLiteral("12345678"), QStringLiteral("12345678"), 3});
+        QVERIFY(fonts.hasNames && !fonts.hasValues);
+        const auto painted = [&](const QString &name) {
+            cell.name = name;
+            QImage image(QSize(int(width), 36), QImage::Format_RGB32);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            paintWallCell(&painter, image.rect(), cell, fonts, QPalette());
+            return image;
+        };
+        QVERIFY(painted(QStringLiteral("A10")) != painted(QStringLiteral("B21"))); // not "…" for both
+    }
     QVERIFY(layout.cell.height() > 1.25 * layout.cell.width());
     // A value that is too wide does not take the name with it.
     const WallLayout distances

@@ -455,7 +455,7 @@ void paintWallCell(
     if (fonts.hasNames) {
         painter->setFont(fonts.name);
         const QRectF lower = hasBoth ? QRectF(inner.left(), middle, inner.width(), inner.height() * 0.42) : inner;
-        const QString name = QFontMetricsF(fonts.name).elidedText(cell.name, Qt::ElideMiddle, lower.width());
+        const QString name = QFontMetricsF(fonts.name).elidedText(cell.name, Qt::ElideMiddle, place.width());
         painter->drawText(lower, Qt::AlignCenter | Qt::TextDontClip, name);
     }
     if (isMarked && side >= 2.0) {
