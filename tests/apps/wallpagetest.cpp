@@ -478,6 +478,11 @@ void WallPageTest::headersTakeTwoLines()
         const QString title = table->model()->headerData(column, Qt::Horizontal).toString();
         QVERIFY2(width(column) < metrics.horizontalAdvance(title), qPrintable(title));
     }
+    // The unit is not broken at its slash, and copied as part of the title.
+    QCOMPARE(
+        table->model()->headerData(CabinetModel::White, Qt::Horizontal).toString(), QStringLiteral("white\ncd/m²"));
+    table->copy();
+    QVERIFY(QApplication::clipboard()->text().contains(QStringLiteral("\twhite cd/m²\t")));
     // The arrow of the column that is sorted by gets room of its own.
     const int before = width(CabinetModel::Headroom);
     QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
