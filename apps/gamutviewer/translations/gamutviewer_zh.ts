@@ -108,6 +108,10 @@
         <source>Wall of %1 cabinets</source>
         <translation>%1 个箱体的墙</translation>
     </message>
+    <message>
+        <source>Wall of one cabinet</source>
+        <translation>1 个箱体的墙</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::Assessment</name>
@@ -812,16 +816,8 @@
         <translation>保留 %1</translation>
     </message>
     <message>
-        <source>%1 has ended: %2 lines, %3 not read</source>
-        <translation>%1 已结束：%2 行，其中 %3 行无法读取</translation>
-    </message>
-    <message>
         <source>Waiting for %1</source>
         <translation>正在等待 %1</translation>
-    </message>
-    <message>
-        <source>Following %1: %2 lines, %3 not read, %4 a second</source>
-        <translation>正在跟随 %1：%2 行，其中 %3 行无法读取，每秒 %4 行</translation>
     </message>
     <message>
         <source>The last line that was not read: %1</source>
@@ -837,8 +833,25 @@
         <translation>%1；单位已改变，不含此前的测量</translation>
     </message>
     <message>
-        <source>%1 is followed no further, as there is not enough memory: %2 lines, %3 not read</source>
-        <translation>内存不足，不再跟踪 %1：%2 行，其中 %3 行无法读取</translation>
+        <source>1 line</source>
+        <translation>1 行</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <comment>of a measurement</comment>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>%1 is followed no further, as there is not enough memory: %2, %3 not read</source>
+        <translation>内存不足，不再跟随 %1：%2，其中 %3 行无法读取</translation>
+    </message>
+    <message>
+        <source>%1 has ended: %2, %3 not read</source>
+        <translation>%1 已结束：%2，其中 %3 行无法读取</translation>
+    </message>
+    <message>
+        <source>Following %1: %2, %3 not read, %4 a second</source>
+        <translation>正在跟随 %1：%2，其中 %3 行无法读取，每秒 %4 行</translation>
     </message>
 </context>
 <context>
@@ -1265,8 +1278,12 @@
         <translation>不是测量列表</translation>
     </message>
     <message>
-        <source>takes the place of the wall there was, of %1 cabinets</source>
-        <translation>取代原有的 %1 个箱体的墙</translation>
+        <source>takes the place of the wall that there was, of one cabinet</source>
+        <translation>取代原有的墙（1 个箱体）</translation>
+    </message>
+    <message>
+        <source>takes the place of the wall that there was, of %1 cabinets</source>
+        <translation>取代原有的墙（%1 个箱体）</translation>
     </message>
 </context>
 <context>
@@ -2608,6 +2625,34 @@ Esc – 关闭有焦点的消息
         <source>%1 cabinets show this target</source>
         <translation>%1 个箱体能显示此目标</translation>
     </message>
+    <message>
+        <source>The other reaches a white of %1.</source>
+        <translation>另一个可达到白色 %1。</translation>
+    </message>
+    <message>
+        <source>The only other of which it is known reaches a white of %1.</source>
+        <translation>其余已知的一个可达到白色 %1。</translation>
+    </message>
+    <message>
+        <source>The only one of which it is known reaches a white of %1.</source>
+        <translation>唯一已知的一个可达到白色 %1。</translation>
+    </message>
+    <message>
+        <source>Both reach a white of %1.</source>
+        <translation>两者均可达到白色 %1。</translation>
+    </message>
+    <message>
+        <source>Without %1, the other cabinet shows the target.</source>
+        <translation>除 %1 外，另一个箱体能显示目标。</translation>
+    </message>
+    <message>
+        <source>Both cabinets show this target</source>
+        <translation>两个箱体均能显示此目标</translation>
+    </message>
+    <message>
+        <source>Neither cabinet shows this target</source>
+        <translation>两个箱体均不能显示此目标</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallCommand</name>
@@ -2623,11 +2668,6 @@ Esc – 关闭有焦点的消息
         <source>%1 and %2 more</source>
         <comment>names of cabinets and a number</comment>
         <translation>%1 和另外 %2 个</translation>
-    </message>
-    <message>
-        <source>Δu′v′ %1 and %2 of the luminance</source>
-        <comment>how much remains</comment>
-        <translation>Δu′v′ %1 和亮度的 %2</translation>
     </message>
     <message>
         <source>a pair of tables is for one display: choose a cabinet by --cabinet, or write csv or json</source>
@@ -2809,17 +2849,59 @@ Esc – 关闭有焦点的消息
         <source>fitted to the cabinets of which it is known, the target has a white of %1 instead of %2</source>
         <translation>适配到已知色域的箱体后，目标的白色为 %1 而不是 %2</translation>
     </message>
+    <message>
+        <source>Δu′v′ %1</source>
+        <comment>how much remains</comment>
+        <translation>Δu′v′ %1</translation>
+    </message>
+    <message>
+        <source>%1 of the luminance</source>
+        <comment>how much remains</comment>
+        <translation>亮度的 %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>how much remains</comment>
+        <translation>%1和%2</translation>
+    </message>
+    <message>
+        <source>the luminance of the target cannot be compared with those of the cabinet</source>
+        <translation>目标的亮度无法与该箱体的亮度比较</translation>
+    </message>
+    <message>
+        <source>the correction is for a white of %1, the largest that the cabinet reaches, as %2</source>
+        <translation>校正针对白色 %1，即该箱体能达到的最大值，因为%2</translation>
+    </message>
+    <message>
+        <source>the correction is for a white of %1, the largest that the primaries of the cabinet add to, as %2</source>
+        <translation>校正针对白色 %1，即该箱体各基色之和的最大值，因为%2</translation>
+    </message>
+    <message>
+        <source>cabinet without a correction</source>
+        <translation>没有校正的箱体</translation>
+    </message>
+    <message>
+        <source>cabinet that differs from the target even so, by up to %1, as it cannot show all of it</source>
+        <translation>仍与目标相差最多 %1 的箱体，因其不能完全显示目标</translation>
+    </message>
+    <message>
+        <source>cabinet that shows the target, but for up to %1</source>
+        <translation>能显示目标但相差最多 %1 的箱体</translation>
+    </message>
+    <message>
+        <source>cabinet that does not show the target even so</source>
+        <translation>仍不能显示目标的箱体</translation>
+    </message>
+    <message>
+        <source>cabinet whose measured white is not the sum of its primaries, which the correction is for, so that it is not known what it shows</source>
+        <translation>实测白色不等于其基色之和的箱体，而校正以基色之和为准，因此不知道它显示什么</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallMap</name>
     <message>
         <source>left out</source>
         <translation>已排除</translation>
-    </message>
-    <message>
-        <source>%1. ◥ does not show the target, ? not known, ╱ %2</source>
-        <comment>what is shown, and the legend&apos;s marks</comment>
-        <translation>%1。◥ 不能显示目标，? 未知，╱ %2</translation>
     </message>
     <message>
         <source>Not known whether the cabinets show the target: there is none</source>
@@ -2836,6 +2918,11 @@ Esc – 关闭有焦点的消息
     <message>
         <source>Cabinets whose position is not known</source>
         <translation>位置未知的箱体</translation>
+    </message>
+    <message>
+        <source>%1. ◥ does not show the target, ○ not known, ╱ %2</source>
+        <comment>what is shown, and the legend&apos;s marks</comment>
+        <translation>%1。◥ 不能显示目标，○ 未知，╱ %2</translation>
     </message>
 </context>
 <context>
@@ -2866,6 +2953,11 @@ Esc – 关闭有焦点的消息
         <source>%1: nothing is known of it: %2</source>
         <comment>cabinet, and why</comment>
         <translation>%1：情况未知：%2</translation>
+    </message>
+    <message>
+        <source>%1 %2: %3 %4</source>
+        <comment>mark, cabinet, what is shown, its value</comment>
+        <translation>%1 %2：%3 %4</translation>
     </message>
 </context>
 <context>
@@ -2937,6 +3029,10 @@ Open a list of measurements with a column for the cabinet, or for its row and co
     <message>
         <source>Drag a corner of the target in a close look: move it   Arrows: next cabinet</source>
         <translation>近看中拖动目标的角：移动   方向键：下一个箱体</translation>
+    </message>
+    <message>
+        <source>Selected cabinet</source>
+        <translation>所选箱体</translation>
     </message>
 </context>
 <context>
