@@ -96,7 +96,9 @@ std::vector<Model::Target> farthestOut(const std::vector<Model::Target> &lights)
     std::vector<std::size_t> found;
     for (int k = 0; k < directions && !lights.empty(); ++k) {
         const double angle = 2.0 * M_PI * k / directions;
-        const auto reach = [&](const Model::Target &of) { return of.x * std::cos(angle) + of.y * std::sin(angle); };
+        const double x = std::cos(angle);
+        const double y = std::sin(angle);
+        const auto reach = [x, y](const Model::Target &of) { return of.x * x + of.y * y; };
         const auto farthest = std::max_element(
             lights.begin(), lights.end(), [&](const auto &a, const auto &b) { return reach(a) < reach(b); });
         const auto index = std::size_t(farthest - lights.begin());

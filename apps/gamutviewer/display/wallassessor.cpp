@@ -272,7 +272,11 @@ private:
                 lights.push_back(*m_cabinets[i].black);
             }
         }
-        m_blackChromaticities = farthestOut(lights);
+        const bool isAnyUnknown = std::any_of(
+            m_cabinets.begin(), m_cabinets.end(), [](const Model::Cabinet &cabinet) { return !cabinet.black; });
+        if (isAnyUnknown) {
+            m_blackChromaticities = farthestOut(lights);
+        }
     }
 
     //! The blacks that a cabinet may have whose own is not known.
@@ -283,6 +287,9 @@ private:
             return {};
         }
         const double luminance = own ? *own : *blackLuminance(*m_result.brightestBlack);
+        if (!(luminance > 0.0)) {
+            return {};
+        }
         return blacksOf(luminance,
             own || m_blackChromaticities.empty() ? possibleChromaticities(m_cabinets[i]) : m_blackChromaticities);
     }
