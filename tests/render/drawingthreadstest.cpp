@@ -31,6 +31,12 @@ using Random = reference::RepeatableRandom;
 using Renderer = ceiechart::DiagramRenderer;
 using Draw = std::function<QImage(const QSize &size)>;
 
+} // namespace
+
+Q_DECLARE_METATYPE(Draw)
+
+namespace {
+
 //! What a renderer draws with \a count threads, also where a picture is small.
 QImage drawn(Renderer &renderer, const Draw &draw, const QSize &size, int count)
 {
@@ -226,8 +232,6 @@ void DrawingThreadsTest::countsOfTheRenderer()
     renderer.setThreadCount(1);
     QVERIFY(renderer.d->threadsFor(QImage(3840, 2160, QImage::Format_ARGB32)) == nullptr);
 }
-
-Q_DECLARE_METATYPE(Draw)
 
 CEIECHART_PICTURE_TEST_MAIN(DrawingThreadsTest)
 
