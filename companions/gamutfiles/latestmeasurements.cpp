@@ -6,6 +6,7 @@
 #include "wallofcabinets_p.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -305,10 +306,20 @@ std::optional<DisplayWall> LatestMeasurements::wallInProgress() const
 
 MeasurementList LatestMeasurements::listBesideWall() const
 {
+    return listBeside(wall().value_or(DisplayWall()));
+}
+
+MeasurementList LatestMeasurements::listBeside(const DisplayWall &shown) const
+{
+    QSet<QString> complete;
+    for (const WallCabinet &cabinet : shown.cabinets) {
+        complete.insert(cabinet.label());
+    }
     MeasurementList list = d->listOf(PartMeasurements());
     for (const auto &[key, point] : d->points.all()) {
         const KeptCabinet *cabinet = d->cabinets.find(cabinetKey(point));
-        const bool isInWall = cabinet && point.part != MeasurementPart::None && hasPrimaries(cabinet->parts);
+        const bool isInWall
+            = cabinet && point.part != MeasurementPart::None && complete.contains(cabinet->identity.label());
         if (!isInWall) {
             list.measurements.append(pointOf(point));
         }

@@ -72,6 +72,8 @@ public:
     std::optional<DisplayWall> wallInProgress() const;
     /*! \brief The last colours, as list() has them, without those of the cabinets that wall() has complete. */
     MeasurementList listBesideWall() const;
+    /*! \brief The same without those of the cabinets that \a shown, which is made of wall(), has complete. */
+    MeasurementList listBeside(const DisplayWall &shown) const;
     /*!
      * \brief Red, green, blue, white and black of each cabinet, as far as they have been measured, in the order in
      * which the cabinets were measured last; empty when no measurement names a cabinet.

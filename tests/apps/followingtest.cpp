@@ -401,6 +401,7 @@ void FollowingTest::followsAWall()
     // Its white may still come, as that of A1 did, until another cabinet is measured or there is no more.
     QCOMPARE(f.following->wall()->cabinets.size(), std::size_t(1));
     QCOMPARE(f.following->wall()->incomplete.front().reason, QStringLiteral("it is being measured"));
+    QCOMPARE(f.following->file().measurements.measurements.size(), 4); // its colours are shown meanwhile, and grey
     f.append("A1,White,99,0.3127,0.329\n");
     QTRY_COMPARE(f.following->wall()->cabinets.size(), std::size_t(2));
     QVERIFY(f.following->wall()->incomplete.empty());

@@ -69,8 +69,8 @@ GamutFile Following::file() const
     GamutFile file;
     file.content = GamutFile::Content::Measurements;
     file.name = nameByFile(m_input->fileName());
-    if (m_latest->wall()) {
-        file.measurements = m_latest->listBesideWall();
+    if (const auto shown = wall()) {
+        file.measurements = m_latest->listBeside(*shown);
     } else {
         file.measurements = m_latest->list();
         const QString cabinet = m_latest->listedCabinet();
