@@ -233,7 +233,7 @@ Outcome<DisplayWall> wallOfCabinets(const QVector<CabinetMeasurements> &cabinets
     }
     if (wall.cabinets.empty()) {
         return Failure::failure(
-            WallText::tr("no cabinet has a name, red, green and blue, and none of its colours twice"));
+            WallText::tr("no cabinet was measured well enough: each needs a name, and red, green and blue once"));
     }
     addUnnamed(wall, unnamedCount, labels);
     QVector<Problem> warnings;

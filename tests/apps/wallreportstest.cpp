@@ -198,14 +198,21 @@ void WallReportsTest::blackOfADisplayAndOfAWall()
         write("one.csv", one + black);
         const Result unknown = run({"stage.json", "one.csv", "--check"});
         QCOMPARE(unknown.exitCode, 4);
-        QVERIFY2(
-            unknown.output.contains("not known: Whether the black of the measured gamut keeps it off the target is "
-                                    "not known: its chromaticity is not known, and one of this luminance can "
-                                    "keep it off red by "),
+        QVERIFY2(unknown.output.contains("not known: Whether the black of the measured gamut keeps it off the target "
+                                         "is not known: one of its luminance can keep it off red by "),
             unknown.output);
     }
     write("one.csv", one + "A1,1,1,black,,,8\n");
     QCOMPARE(run({"stage.json", "--wall", "one.csv", "--check"}).exitCode, 4);
+    // It may take light as well, here more than a primary has.
+    write("dim.json", targetText(700.0));
+    write("one.csv", one + "A1,1,1,black,,,100\n");
+    const Result dim = run({"dim.json", "one.csv", "--check"});
+    QCOMPARE(dim.exitCode, 4);
+    QVERIFY2(
+        dim.output.contains("not known: Whether the measured gamut reaches the luminance of the target is not known"),
+        dim.output);
+    QVERIFY2(!dim.output.contains("inf"), dim.output);
     write("one.csv", one + "A1,1,1,black,,,0.002\n"); // too dark to be seen
     QCOMPARE(run({"stage.json", "one.csv", "--check"}).exitCode, 0);
 }

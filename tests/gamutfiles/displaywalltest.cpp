@@ -214,8 +214,9 @@ void DisplayWallTest::listsWithoutAWall_data()
         << "name,x,y,Y\n" + rgb("").replace("\n,", "\n").mid(1)
         << "names no cabinets: a wall needs a column with the cabinet, or one with the row and "
            "one with the column";
-    QTest::newRow("no primaries") << header + "A,white,0.3,0.3,5\nB,white,0.3,0.3,5\n"
-                                  << "no cabinet has a name, red, green and blue, and none of its colours twice";
+    QTest::newRow("no primaries")
+        << header + "A,white,0.3,0.3,5\nB,white,0.3,0.3,5\n"
+        << "no cabinet was measured well enough: each needs a name, and red, green and blue once";
     QTest::newRow("nothing") << QByteArray()
                              << "names no cabinets: a wall needs a column with the cabinet, or one "
                                 "with the row and one with the column";

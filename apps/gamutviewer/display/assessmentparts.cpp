@@ -92,7 +92,7 @@ std::vector<Model::Target> possibleChromaticities(const Model::Cabinet &cabinet)
 
 std::vector<Model::Target> farthestOut(const std::vector<Model::Target> &lights)
 {
-    constexpr int directions = 16;
+    constexpr int directions = 8;
     std::vector<std::size_t> found;
     for (int k = 0; k < directions && !lights.empty(); ++k) {
         const double angle = 2.0 * M_PI * k / directions;

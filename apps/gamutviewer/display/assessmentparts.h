@@ -58,7 +58,7 @@ std::array<double, 4> offByBlack(const Model::Cabinet &cabinet,
  * black of an LED screen, which is light of its own LEDs or light that it reflects, is hardly more saturated.
  */
 std::vector<Model::Target> possibleChromaticities(const Model::Cabinet &cabinet);
-/*! \brief Those of \a lights that lie farthest out in x, y, at most 16: what the others do lies in between. */
+/*! \brief Those of \a lights that lie farthest out in x, y, at most 8: what the others do lies in between. */
 std::vector<Model::Target> farthestOut(const std::vector<Model::Target> &lights);
 /*! \brief Lights with the \a luminance and the \a chromaticities. */
 std::vector<Model::Target> blacksOf(double luminance, const std::vector<Model::Target> &chromaticities);

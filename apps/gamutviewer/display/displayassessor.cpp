@@ -8,6 +8,7 @@
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
 #include "display/wallassessmenttexts.h"
+#include "display/wallassessor.h"
 
 #include <gamutmodel/correction.h>
 #include <gamutmodel/gamutcoverage.h>
@@ -253,6 +254,9 @@ private:
         for (const Vertex primary : primaries) {
             outside[std::size_t(primary)] = distanceOutside(target, primary, display.getTargets());
         }
+        if (display.blackLuminance && isAdditive) {
+            judgeLuminanceOver(blacksOf(*display.blackLuminance, possibleChromaticities(cabinet)));
+        }
         if (display.blackLuminance) {
             judgePossibleBlack(offByBlacks(
                 cabinet, blacksOf(*display.blackLuminance, possibleChromaticities(cabinet)), target, outside));
@@ -297,6 +301,33 @@ private:
         return Vertex(std::max_element(off.begin(), off.end()) - off.begin());
     }
 
+    //! \a blacks are those that the display may have: what is darker over one of them is not known.
+    void judgeLuminanceOver(const std::vector<Model::Target> &blacks)
+    {
+        const Model::Target &white = m_target->getTargets().white;
+        const Model::Target &measured = displayTargets().white;
+        std::optional<double> least;
+        for (const Model::Target &black : blacks) {
+            const Model::DisplayDrive over(displayTargets(), black);
+            const auto largest = over.fault() == Model::DisplayFault::None && additivityOf(over, measured).isAdditive
+                ? over.largestLuminance(pointOf(white))
+                : std::nullopt;
+            const double reached = largest ? largest->luminance * measuredShare(over, measured, white) : 0.0;
+            least = std::min(least.value_or(reached), reached);
+        }
+        if (!least || !m_current->largestWhite || !isTooBright(m_current->largestWhite->luminance, *least)) {
+            return;
+        }
+        m_current->largestWhite.reset();
+        if (isTooBright(white.Y, *least)) {
+            addOfWhite(Judgement::NotKnown,
+                AssessmentText::tr(
+                    "Whether the %1 reaches the luminance of the target is not known: its black may take "
+                    "too much of it. Measure the black once, with its chromaticity.")
+                    .arg(displayName(m_current->display)));
+        }
+    }
+
     //! \a off is how far the target is kept off by a black that the display may have.
     void judgePossibleBlack(const std::array<double, 4> &off)
     {
@@ -305,8 +336,8 @@ private:
             return;
         }
         add(Subject::Luminance, Judgement::NotKnown,
-            AssessmentText::tr("Whether the black of the %1 keeps it off the target is not known: its chromaticity is "
-                               "not known, and one of this luminance can keep it off %2. Measure it.",
+            AssessmentText::tr("Whether the black of the %1 keeps it off the target is not known: one of its "
+                               "luminance can keep it off %2. Measure it once, with its chromaticity.",
                 "gamut, colours and distances")
                 .arg(displayName(m_current->display), colors),
             farthest(off), handleName(farthest(off)));

@@ -284,8 +284,9 @@ QString offByBlackText(const std::array<double, 4> &offByBlack)
     for (const Vertex vertex : ceiechart::allGamutVertices) {
         const double distance = offByBlack[std::size_t(vertex)];
         if (distance > 0.0) {
-            colors.append(WallText::tr("%1 by Δu′v′ %2", "colour and distance")
-                              .arg(gamutVertexName(vertex), distanceText(distance)));
+            colors.append(std::isfinite(distance) ? WallText::tr("%1 by Δu′v′ %2", "colour and distance")
+                                                        .arg(gamutVertexName(vertex), distanceText(distance))
+                                                  : gamutVertexName(vertex));
         }
     }
     return colors.join(WallText::tr(", ", "between names"));

@@ -331,16 +331,15 @@ private:
         if (over.luminance != Judgement::Pass && result.luminance == Judgement::Pass) {
             result.luminance = Judgement::NotKnown;
         }
-        if (result.largestWhite || result.leastWhite) {
-            const double reached = over.largestWhite.value_or(0.0);
-            if (result.largestWhite && isTooBright(*result.largestWhite, reached)) {
-                result.leastWhite = result.largestWhite;
-                result.largestWhite.reset();
-                result.headroom.reset();
-            }
-            if (result.leastWhite) {
-                result.leastWhite = std::min(*result.leastWhite, reached);
-            }
+        const auto reached = over.largestWhite;
+        if (!reached) { // nor is it known how dark it can be
+            result.largestWhite.reset();
+            result.headroom.reset();
+            result.leastWhite.reset();
+        } else if (result.leastWhite || (result.largestWhite && isTooBright(*result.largestWhite, *reached))) {
+            result.leastWhite = std::min(result.leastWhite.value_or(*reached), *reached);
+            result.largestWhite.reset();
+            result.headroom.reset();
         }
     }
 

@@ -262,9 +262,9 @@ private:
                                   .arg(cabinetName(m_wall, *primary.limit), gamutVertexName(vertex)));
             }
         }
-        return limits.isEmpty() ? QString()
-                                : QLatin1Char(' ')
-                + WallText::tr("The limits are %1.").arg(limits.join(WallText::tr(", ", "between names")));
+        return limits.isEmpty()
+            ? QString()
+            : QLatin1Char(' ') + WallText::tr("Limited by %1.").arg(limits.join(WallText::tr(", ", "between names")));
     }
 
     void describeWays(const std::vector<std::size_t> &failing, const std::vector<std::size_t> &unknown)

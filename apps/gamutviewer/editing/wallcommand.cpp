@@ -302,6 +302,7 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
     std::vector<std::size_t> failing;
     std::vector<std::size_t> notAdditive;
     std::vector<std::size_t> without;
+    std::vector<std::size_t> unknownBlack;
     for (const std::size_t i : corrected.cabinets) {
         const CabinetAssessment &cabinet = corrected.assessment.cabinets[i];
         const Model::Correction &correction = corrected.assessment.correction.corrections[i];
@@ -319,10 +320,21 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
         if (correction.matrix && !cabinet.isAdditive) {
             notAdditive.push_back(i);
         }
+        const auto &off = cabinet.offByPossibleBlack;
+        const bool isOff = std::any_of(off.begin(), off.end(), [](double distance) { return distance > 0.0; });
+        if (correction.matrix && cabinet.judgement == Judgement::NotKnown && (isOff || cabinet.leastWhite)) {
+            unknownBlack.push_back(i);
+        }
     }
     QStringList notes{whiteNote(corrected), mixtureText(corrected.target, corrected.assessment.correction.target),
         noteOn(corrected, without, QString(), CommandText::tr("cabinet without a correction"),
             CommandText::tr("cabinets without a correction"), written.incomplete),
+        noteOn(corrected, unknownBlack,
+            CommandText::tr(
+                "the black of the display is not known, so that it is not known whether it shows the target"),
+            CommandText::tr("cabinet whose black is not known, so that it is not known whether it shows the target"),
+            CommandText::tr(
+                "cabinets whose blacks are not known, so that it is not known whether they show the target")),
         noteOn(corrected, beyond,
             CommandText::tr("the display differs from the target even so, by up to %1, as it cannot show all of it")
                 .arg(beyondReach.text()),

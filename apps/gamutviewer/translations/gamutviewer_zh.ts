@@ -450,9 +450,13 @@
         <translation>显示屏能达到的亮度未知：%2的%1不比其黑场亮。</translation>
     </message>
     <message>
-        <source>Whether the black of the %1 keeps it off the target is not known: its chromaticity is not known, and one of this luminance can keep it off %2. Measure it.</source>
+        <source>Whether the %1 reaches the luminance of the target is not known: its black may take too much of it. Measure the black once, with its chromaticity.</source>
+        <translation>%1是否达到目标的亮度未知：其黑场可能占去过多亮度。请测量一次黑场及其色品。</translation>
+    </message>
+    <message>
+        <source>Whether the black of the %1 keeps it off the target is not known: one of its luminance can keep it off %2. Measure it once, with its chromaticity.</source>
         <comment>gamut, colours and distances</comment>
-        <translation>%1的黑场是否使其偏离目标未知：其色品未知，而具有该亮度的黑场可能使其偏离目标（%2）。请测量其色品。</translation>
+        <translation>%1的黑场是否使其偏离目标未知：具有该亮度的黑场可能使其偏离目标（%2）。请测量一次黑场及其色品。</translation>
     </message>
 </context>
 <context>
@@ -2608,10 +2612,6 @@ Esc – 关闭有焦点的消息
         <translation>%2受 %1 限制</translation>
     </message>
     <message>
-        <source>The limits are %1.</source>
-        <translation>限制因素：%1。</translation>
-    </message>
-    <message>
         <source>%1; one is left out</source>
         <comment>how many cabinets show a target</comment>
         <translation>%1；1 个被排除</translation>
@@ -2652,6 +2652,10 @@ Esc – 关闭有焦点的消息
     <message>
         <source>Neither cabinet shows this target</source>
         <translation>两个箱体均不能显示此目标</translation>
+    </message>
+    <message>
+        <source>Limited by %1.</source>
+        <translation>限制因素：%1。</translation>
     </message>
 </context>
 <context>
@@ -2895,6 +2899,18 @@ Esc – 关闭有焦点的消息
     <message>
         <source>cabinet whose measured white is not the sum of its primaries, which the correction is for, so that it is not known what it shows</source>
         <translation>实测白色不等于其基色之和的箱体，而校正以基色之和为准，因此不知道它显示什么</translation>
+    </message>
+    <message>
+        <source>the black of the display is not known, so that it is not known whether it shows the target</source>
+        <translation>显示设备的黑场未知，因此不知道它能否显示目标</translation>
+    </message>
+    <message>
+        <source>cabinet whose black is not known, so that it is not known whether it shows the target</source>
+        <translation>黑场未知、因此不知道能否显示目标的箱体</translation>
+    </message>
+    <message>
+        <source>cabinets whose blacks are not known, so that it is not known whether they show the target</source>
+        <translation>黑场未知、因此不知道能否显示目标的箱体</translation>
     </message>
 </context>
 <context>

@@ -1346,16 +1346,16 @@
         <translation>正在测量</translation>
     </message>
     <message>
-        <source>no cabinet has a name, red, green and blue, and none of its colours twice</source>
-        <translation>没有一个箱体既有名称和红、绿、蓝，又没有重复的颜色</translation>
-    </message>
-    <message>
         <source>cabinets of which nothing is known, as red, green or blue is missing, or a colour has no chromaticity: %1</source>
         <translation>以下箱体情况未知，因为缺少红、绿或蓝，或某个颜色没有色品：%1</translation>
     </message>
     <message>
         <source>cabinets whose black does not count in corrections, as it has no chromaticity: %1</source>
         <translation>以下箱体的黑场没有色品，不计入校正：%1</translation>
+    </message>
+    <message>
+        <source>no cabinet was measured well enough: each needs a name, and red, green and blue once</source>
+        <translation>没有箱体的测量足够完整：每个箱体都需要名称，以及红、绿、蓝各一次</translation>
     </message>
 </context>
 </TS>
