@@ -191,7 +191,7 @@ void WallBlacksTest::blackWithoutChromaticity()
         DisplayWall known = wall;
         known.cabinets[4].blackLuminance.reset();
         known.cabinets[4].black = color(3.0, chromaticity.x, chromaticity.y);
-        const auto &off = assessWall(known, target).cabinets[4].offByBlack;
+        const auto off = assessWall(known, target).cabinets[4].offByBlack;
         for (std::size_t i = 0; i < off.size(); ++i) {
             QVERIFY(found.cabinets[4].offByPossibleBlack[i] >= off[i]);
         }
