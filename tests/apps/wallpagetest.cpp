@@ -743,7 +743,7 @@ void WallPageTest::selectedRowStaysInSight()
     QCOMPARE(f.selectedName(), QStringLiteral("A2"));
     QTest::mouseClick(f.page()->verdict()->withoutButton(), Qt::LeftButton);
     QCOMPARE(table->currentIndex().row(), 95);
-    QVERIFY(table->viewport()->rect().contains(table->visualRect(table->currentIndex()).center()));
+    QTRY_VERIFY(table->viewport()->rect().contains(table->visualRect(table->currentIndex()).center()));
 }
 
 void WallPageTest::nameInACloseLookIsWhole()

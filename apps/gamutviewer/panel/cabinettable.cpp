@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QEvent>
 #include <QHeaderView>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QStyle>
 
@@ -79,6 +80,17 @@ void CabinetTable::refresh()
     showSelection();
     // Where the order has changed, the row may have moved away.
     if (wasInSight && currentIndex().isValid()) {
+        scrollTo(currentIndex());
+    }
+}
+
+//! A verdict that gets longer takes room from the table: the selected row stays in sight.
+void CabinetTable::resizeEvent(QResizeEvent *event)
+{
+    const bool wasInSight
+        = currentIndex().isValid() && QRect(QPoint(0, 0), event->oldSize()).intersects(visualRect(currentIndex()));
+    QTableView::resizeEvent(event);
+    if (wasInSight) {
         scrollTo(currentIndex());
     }
 }
