@@ -4,6 +4,7 @@
 #define GAMUTVIEWER_WALLPAINTER_H
 
 #include "display/wallassessment.h"
+#include "drawing/wallgrid.h"
 #include "drawing/wallscale.h"
 
 #include <QFont>
@@ -20,40 +21,9 @@ class QPainter;
 
 /*!
  * \file
- * \brief How a wall is drawn, on the screen and in pictures: where its cabinets stand, each cabinet, and the legend.
+ * \brief How a wall is drawn, on the screen and in pictures: each cabinet, and the legend.
  */
 namespace gamutviewer {
-
-/*! \brief Where cabinets stand in a grid. */
-struct WallGrid {
-    int rows = 0; //!< downwards
-    int columns = 0; //!< to the right
-    /*!
-     * \brief The cabinet of each place, row by row; nothing for a gap.
-     *
-     * After the numbers of DisplayWall::cabinets come those of DisplayWall::incomplete.
-     */
-    std::vector<std::optional<std::size_t>> cells;
-    std::vector<QString> rowNames; //!< for the edge of a map, where the rows are the wall's
-    std::vector<QString> columnNames; //!< the same of the columns
-
-    /*! \brief The cabinet in \a row and \a column, which are counted from 0; nothing for a gap or outside. */
-    std::optional<std::size_t> at(int row, int column) const;
-};
-
-/*!
- * \brief The cabinets of \a wall that have a place, as they hang.
- *
- * Rows and columns that are empty are left out where a wall would be little but gaps. Of several cabinets in the same
- * place, the first.
- *
- * Rows and columns have a name: where all cabinets are called as "B7" is, by a part for the row and a part for the
- * column, these parts, or else their numbers.
- */
-WallGrid placedCabinets(const DisplayWall &wall);
-/*! \brief The cabinets of \a wall that are not in placedCabinets(), in their order, in a block that is wider than high.
- */
-WallGrid unplacedCabinets(const DisplayWall &wall);
 
 /*! \brief One cabinet as it is drawn. */
 struct WallCell {
