@@ -261,8 +261,8 @@ MeasurementList LatestMeasurements::list() const
 QString LatestMeasurements::listedCabinet() const
 {
     const KeptCabinet *cabinet = d->cabinets.find(d->shownCabinet);
-    if (!cabinet) {
-        return QString();
+    if (!cabinet || !d->listOf(cabinet->parts).gamut(QString())) {
+        return QString(); // it has had one, but what was measured since makes none
     }
     const QString &name = cabinet->identity.cabinet;
     const auto &all = d->cabinets.all();
@@ -302,11 +302,6 @@ std::optional<DisplayWall> LatestMeasurements::wallInProgress() const
         result->cabinets.erase(inWall);
     }
     return result;
-}
-
-MeasurementList LatestMeasurements::listBesideWall() const
-{
-    return listBeside(wall().value_or(DisplayWall()));
 }
 
 MeasurementList LatestMeasurements::listBeside(const DisplayWall &shown) const

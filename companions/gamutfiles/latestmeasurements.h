@@ -70,9 +70,10 @@ public:
      * white or a black that another one has, as that may still come.
      */
     std::optional<DisplayWall> wallInProgress() const;
-    /*! \brief The last colours, as list() has them, without those of the cabinets that wall() has complete. */
-    MeasurementList listBesideWall() const;
-    /*! \brief The same without those of the cabinets that \a shown, which is made of wall(), has complete. */
+    /*!
+     * \brief The last colours, as list() has them, without those of the cabinets that \a shown has complete, which is
+     * wall() or wallInProgress().
+     */
     MeasurementList listBeside(const DisplayWall &shown) const;
     /*!
      * \brief Red, green, blue, white and black of each cabinet, as far as they have been measured, in the order in

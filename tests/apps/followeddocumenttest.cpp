@@ -77,6 +77,32 @@ DisplayWall wall(const std::vector<const char *> &names)
     return result;
 }
 
+FollowedMeasurement measurement(const GamutFile &file, const std::optional<DisplayWall> &wall = std::nullopt)
+{
+    FollowedMeasurement result;
+    result.file = file;
+    result.wall = wall;
+    return result;
+}
+
+QString namesOf(const DisplayWall &wall)
+{
+    QStringList names;
+    for (const WallCabinet &cabinet : wall.cabinets) {
+        names.append(cabinet.label());
+    }
+    return names.join(QLatin1Char(' '));
+}
+
+QString leftOutOf(const DisplayWall &wall)
+{
+    DisplayWall leftOut = wall;
+    leftOut.cabinets.clear();
+    std::copy_if(wall.cabinets.begin(), wall.cabinets.end(), std::back_inserter(leftOut.cabinets),
+        [](const WallCabinet &cabinet) { return cabinet.isLeftOut; });
+    return namesOf(leftOut);
+}
+
 struct Fixture {
     Fixture() { document.open(description(), QStringLiteral("wall.json")); }
     void open(const DisplayWall &before)
@@ -85,14 +111,10 @@ struct Fixture {
         opened.wall = before;
         document.open(opened, QStringLiteral("wall.json"));
     }
-    QString cabinets() const
-    {
-        QStringList names;
-        for (const WallCabinet &cabinet : document.description().wall.cabinets) {
-            names.append(cabinet.label());
-        }
-        return names.join(QLatin1Char(' '));
-    }
+    QString cabinets() const { return namesOf(document.description().wall); }
+    QString leftOut() const { return leftOutOf(document.description().wall); }
+    QString ownCabinets() const { return namesOf(document.own().wall); }
+    QString ownLeftOut() const { return leftOutOf(document.own().wall); }
     double measuredRed() const { return document.measured() ? document.measured()->getTargets().red.x : -1.0; }
     QString points() const
     {
@@ -133,6 +155,8 @@ private Q_SLOTS:
     void editsTakeNothingOfAWallOver();
     void keepsAWallAsOneStep();
     void cabinetsThatAreLeftOutStaySo();
+    void cabinetThatIsBeingMeasuredIsKept();
+    void replacesAWallThatIsFollowed();
     void removedWallIsTheDescriptions();
     void selectionStaysWithItsCabinet();
 };
@@ -142,9 +166,9 @@ void FollowedDocumentTest::showsWhatIsFollowedWithoutAStep()
     Fixture f;
     QSignalSpy changed(&f.document, &Document::changed);
     QSignalSpy edited(&f.document, &Document::edited);
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     QCOMPARE(changed.size(), 1);
-    f.document.showFollowed(followed(0.68));
+    f.document.showFollowed(measurement(followed(0.68)));
     QCOMPARE(changed.size(), 2);
     QVERIFY(edited.isEmpty());
     QCOMPARE(f.document.description().measured, QStringLiteral("meter"));
@@ -164,7 +188,7 @@ void FollowedDocumentTest::showsWhatIsFollowedWithoutAStep()
 void FollowedDocumentTest::showsPointsBeforeThereIsAGamut()
 {
     Fixture f;
-    f.document.showFollowed(pointOnly());
+    f.document.showFollowed(measurement(pointOnly()));
     QCOMPARE(f.points(), QStringLiteral("grey"));
     QCOMPARE(f.measuredRed(), 0.698); // until there is another
     QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
@@ -178,12 +202,12 @@ void FollowedDocumentTest::editsTakeNothingOver()
     Fixture alone;
     QVERIFY(alone.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
     Fixture f;
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
     QVERIFY(f.ownIs(alone.document.description()));
     QCOMPARE(f.measuredRed(), 0.69);
     QCOMPARE(f.document.history()->count(), 1);
-    f.document.showFollowed(followed(0.68));
+    f.document.showFollowed(measurement(followed(0.68)));
     QCOMPARE(f.measuredRed(), 0.68);
     f.document.history()->undo();
     QCOMPARE(f.measuredRed(), 0.68);
@@ -202,7 +226,7 @@ void FollowedDocumentTest::dragsGoOnMeanwhile()
         };
         move(0.65);
         if (fixture == &f) {
-            f.document.showFollowed(followed(0.69));
+            f.document.showFollowed(measurement(followed(0.69)));
         }
         move(0.66);
         fixture->session.endDrag();
@@ -223,7 +247,7 @@ void FollowedDocumentTest::undoIsOfTheDescription()
 {
     Fixture f;
     QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     f.document.history()->undo();
     QVERIFY(f.ownIs(description()));
     QCOMPARE(f.measuredRed(), 0.69);
@@ -235,7 +259,7 @@ void FollowedDocumentTest::undoIsOfTheDescription()
 void FollowedDocumentTest::keepsAsOneStep()
 {
     Fixture f;
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     f.document.keepFollowed(QStringLiteral("keep meter"));
     QCOMPARE(f.document.history()->count(), 1);
     QCOMPARE(f.document.history()->undoText(), QStringLiteral("keep meter"));
@@ -244,7 +268,7 @@ void FollowedDocumentTest::keepsAsOneStep()
     QCOMPARE(f.document.own().measured, QStringLiteral("meter"));
     QCOMPARE(f.document.own().measurePoints.first().name, QStringLiteral("grey"));
     // The one that was kept stays; what is followed goes on under a name of its own.
-    f.document.showFollowed(followed(0.68));
+    f.document.showFollowed(measurement(followed(0.68)));
     QCOMPARE(f.measuredRed(), 0.68);
     QCOMPARE(f.document.description().measured, QStringLiteral("meter (2)"));
     QCOMPARE(f.document.own().gamut(QStringLiteral("meter"))->getTargets().red.x, 0.69);
@@ -260,24 +284,24 @@ void FollowedDocumentTest::keepsNothingTwice()
     Fixture f;
     f.document.keepFollowed(QStringLiteral("keep"));
     QCOMPARE(f.document.history()->count(), 0);
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     f.document.keepFollowed(QStringLiteral("keep"));
     f.document.keepFollowed(QStringLiteral("keep"));
     QCOMPARE(f.document.history()->count(), 1);
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     QVERIFY(!f.document.hasUnkept());
 }
 
 void FollowedDocumentTest::keepsTheGamutThatGetsAnotherPart()
 {
     Fixture f;
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     f.document.change(
         withRole(f.document.description(), QStringLiteral("meter"), GamutRole::Original, true), QStringLiteral("part"));
     QCOMPARE(f.document.own().original, QStringLiteral("meter"));
     QCOMPARE(f.document.own().measured, QStringLiteral("Before"));
     QVERIFY(hasOwnGamut(f.document.own(), QStringLiteral("meter")));
-    f.document.showFollowed(followed(0.68));
+    f.document.showFollowed(measurement(followed(0.68)));
     QCOMPARE(f.document.original()->getTargets().red.x, 0.69);
     QCOMPARE(f.measuredRed(), 0.68);
 }
@@ -285,11 +309,11 @@ void FollowedDocumentTest::keepsTheGamutThatGetsAnotherPart()
 void FollowedDocumentTest::keepsTheGamutThatIsRenamed()
 {
     Fixture f;
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     f.document.change(withGamutRenamed(f.document.description(), QStringLiteral("meter"), QStringLiteral("first run")),
         QStringLiteral("rename"));
     QCOMPARE(f.document.own().measured, QStringLiteral("first run"));
-    f.document.showFollowed(followed(0.68));
+    f.document.showFollowed(measurement(followed(0.68)));
     QCOMPARE(f.document.description().measured, QStringLiteral("meter"));
     QCOMPARE(f.document.own().gamut(QStringLiteral("first run"))->getTargets().red.x, 0.69);
 }
@@ -297,7 +321,7 @@ void FollowedDocumentTest::keepsTheGamutThatIsRenamed()
 void FollowedDocumentTest::measuredPartThatIsTakenAwayComesBack()
 {
     Fixture f;
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     f.document.change(withoutGamut(f.document.description(), QStringLiteral("meter")), QStringLiteral("remove"));
     QVERIFY(f.ownIs(description()));
     QCOMPARE(f.measuredRed(), 0.69);
@@ -306,7 +330,7 @@ void FollowedDocumentTest::measuredPartThatIsTakenAwayComesBack()
 void FollowedDocumentTest::addedPointsAreOfTheDescription()
 {
     Fixture f;
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     DisplayDescription added = f.document.description();
     added.measurePoints = {{QStringLiteral("new"), QPointF(0.2, 0.2)}};
     f.document.change(added, QStringLiteral("add"));
@@ -317,7 +341,7 @@ void FollowedDocumentTest::addedPointsAreOfTheDescription()
 void FollowedDocumentTest::savedIsTheDescription()
 {
     Fixture f;
-    f.document.showFollowed(followed(0.69));
+    f.document.showFollowed(measurement(followed(0.69)));
     f.document.markSaved(QStringLiteral("other.json"));
     QCOMPARE(descriptionText(f.document.saved()), descriptionText(description()));
     QVERIFY(f.document.hasUnkept());
@@ -330,7 +354,7 @@ void FollowedDocumentTest::showsAWallInPlaceOfTheOneBefore()
 {
     Fixture f;
     f.open(wall({"old"}));
-    f.document.showFollowed(pointOnly(), wall({"A1", "A2"}));
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
     QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
     QCOMPARE(f.points(), QStringLiteral("grey"));
     QCOMPARE(f.document.description().measured, QStringLiteral("Before")); // a wall is no gamut
@@ -349,7 +373,7 @@ void FollowedDocumentTest::editsTakeNothingOfAWallOver()
     Fixture alone;
     QVERIFY(alone.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
     Fixture f;
-    f.document.showFollowed(pointOnly(), wall({"A1", "A2"}));
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
     QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
     QVERIFY(f.ownIs(alone.document.description()));
     QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
@@ -362,11 +386,11 @@ void FollowedDocumentTest::keepsAWallAsOneStep()
     Fixture f;
     f.open(wall({"old"}));
     const DisplayDescription before = f.document.own();
-    f.document.showFollowed(pointOnly(), wall({"A1", "A2"}));
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
     f.document.keepFollowed(QStringLiteral("keep meter"));
     QCOMPARE(f.document.history()->count(), 1);
     QVERIFY(!f.document.hasUnkept());
-    f.document.showFollowed(pointOnly(), wall({"A1", "A2", "A3"}));
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2", "A3"})));
     QVERIFY(f.document.hasUnkept());
     f.document.showFollowed(std::nullopt);
     QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
@@ -377,39 +401,30 @@ void FollowedDocumentTest::keepsAWallAsOneStep()
 
 void FollowedDocumentTest::cabinetsThatAreLeftOutStaySo()
 {
-    const auto leftOut = [](const Fixture &f) {
-        QStringList names;
-        for (const WallCabinet &cabinet : f.document.description().wall.cabinets) {
-            if (cabinet.isLeftOut) {
-                names.append(cabinet.name);
-            }
-        }
-        return names.join(QLatin1Char(' '));
-    };
     Fixture f;
-    f.document.showFollowed(pointOnly(), wall({"A1", "A2"}));
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
     f.session.setLeftOut({1}, true);
     QCOMPARE(f.document.history()->count(), 1);
-    QCOMPARE(leftOut(f), QStringLiteral("A2"));
+    QCOMPARE(f.leftOut(), QStringLiteral("A2"));
     QCOMPARE(f.document.own().wall.cabinets.size(), std::size_t(2)); // as it is then
-    f.document.showFollowed(pointOnly(), wall({"A0", "A1", "A2"}));
-    QCOMPARE(leftOut(f), QStringLiteral("A2"));
+    f.document.showFollowed(measurement(pointOnly(), wall({"A0", "A1", "A2"})));
+    QCOMPARE(f.leftOut(), QStringLiteral("A2"));
     QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
     QCOMPARE(f.document.own().wall.cabinets.size(), std::size_t(2));
     f.session.setLeftOut({0, 1, 2}, false);
-    QCOMPARE(leftOut(f), QString());
+    QCOMPARE(f.leftOut(), QString());
     f.document.history()->undo();
-    QCOMPARE(leftOut(f), QStringLiteral("A2"));
+    QCOMPARE(f.leftOut(), QStringLiteral("A2"));
     f.document.history()->undo();
     f.document.history()->undo();
     QVERIFY(f.ownIs(description()));
-    QCOMPARE(leftOut(f), QString());
+    QCOMPARE(f.leftOut(), QString());
 }
 
 void FollowedDocumentTest::removedWallIsTheDescriptions()
 {
     Fixture f;
-    f.document.showFollowed(pointOnly(), wall({"A1", "A2"}));
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
     f.session.removeWall();
     QVERIFY(f.ownIs(description()));
     QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
@@ -427,16 +442,66 @@ void FollowedDocumentTest::removedWallIsTheDescriptions()
 void FollowedDocumentTest::selectionStaysWithItsCabinet()
 {
     Fixture f;
-    f.document.showFollowed(pointOnly(), wall({"A2", "A3"}));
+    f.document.showFollowed(measurement(pointOnly(), wall({"A2", "A3"})));
     f.session.selectCabinet(1);
     QSignalSpy selected(&f.session, &TargetSession::selectedCabinetChanged);
-    f.document.showFollowed(pointOnly(), wall({"A2", "A3", "A4"}));
+    f.document.showFollowed(measurement(pointOnly(), wall({"A2", "A3", "A4"})));
     QVERIFY(selected.isEmpty());
-    f.document.showFollowed(pointOnly(), wall({"A1", "A2", "A3", "A4"})); // of which A1 is complete now
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2", "A3", "A4"}))); // of which A1 is complete now
     QCOMPARE(f.session.selectedCabinet(), std::optional<std::size_t>(2));
     QCOMPARE(selected.size(), 1);
-    f.document.showFollowed(pointOnly(), wall({"A1", "A2", "A4"}));
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2", "A4"})));
     QVERIFY(!f.session.selectedCabinet());
+    // It was measured again, and is selected again when that is complete.
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2", "A4", "A3"})));
+    QCOMPARE(f.session.selectedCabinet(), std::optional<std::size_t>(3));
+    f.session.selectCabinet(std::nullopt);
+    f.document.showFollowed(measurement(pointOnly(), wall({"A3", "A4"})));
+    QVERIFY(!f.session.selectedCabinet());
+}
+
+//! It is not shown among the others while it may change, but what is kept has it.
+void FollowedDocumentTest::cabinetThatIsBeingMeasuredIsKept()
+{
+    const FollowedMeasurement shown = measurement(followed(0.69, QStringLiteral("A3 Red")), wall({"A1", "A2"}));
+    const FollowedMeasurement toKeep = measurement(pointOnly(), wall({"A1", "A2", "A3"}));
+    Fixture f;
+    f.document.showFollowed(shown, toKeep);
+    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
+    f.session.setLeftOut({1}, true);
+    QCOMPARE(f.ownCabinets(), QStringLiteral("A1 A2 A3"));
+    QCOMPARE(f.ownLeftOut(), QStringLiteral("A2"));
+    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
+    QCOMPARE(f.leftOut(), QStringLiteral("A2"));
+    f.document.keepFollowed(QStringLiteral("keep meter"));
+    QCOMPARE(f.ownCabinets(), QStringLiteral("A1 A2 A3"));
+    QCOMPARE(f.document.own().measurePoints.size(), 1);
+    QCOMPARE(f.document.own().measurePoints.first().name, QStringLiteral("grey"));
+    QVERIFY(!f.document.hasUnkept()); // though another wall is shown
+    f.document.showFollowed(shown, toKeep);
+    QVERIFY(!f.document.hasUnkept());
+    QCOMPARE(f.points(), QStringLiteral("A3 Red"));
+
+    // What is left out and being measured again stays left out, whatever is done to others meanwhile.
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A3"})), toKeep);
+    QCOMPARE(f.leftOut(), QString());
+    f.session.setLeftOut({0}, true);
+    QCOMPARE(f.ownLeftOut(), QStringLiteral("A1 A2"));
+    f.session.setLeftOut({0, 1}, false);
+    QCOMPARE(f.ownLeftOut(), QStringLiteral("A2"));
+    f.document.showFollowed(toKeep);
+    QCOMPARE(f.leftOut(), QStringLiteral("A2"));
+}
+
+void FollowedDocumentTest::replacesAWallThatIsFollowed()
+{
+    Fixture f;
+    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
+    DisplayDescription added = f.document.description();
+    added.wall = wall({"B1", "B2", "B3"});
+    f.document.change(added, QStringLiteral("add"));
+    QCOMPARE(f.ownCabinets(), QStringLiteral("B1 B2 B3"));
+    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
 }
 
 QTEST_GUILESS_MAIN(FollowedDocumentTest)

@@ -25,7 +25,7 @@ const QByteArray gamut
 
 double redX(const Following &following)
 {
-    const auto measured = following.file().measurements.gamut(QString());
+    const auto measured = following.inProgress().file.measurements.gamut(QString());
     return measured ? measured->getTargets().red.x : -1.0;
 }
 
@@ -97,13 +97,13 @@ void FollowingTest::followsAFileThatGrows()
     QVERIFY(f.following->input().isThere());
     f.append("Red,21,0.64,0.33\r\n");
     QTRY_COMPARE(measured.size(), 1);
-    QVERIFY(!f.following->file().measurements.gamut(QString()));
-    QCOMPARE(f.following->file().measurements.others().size(), 1);
+    QVERIFY(!f.following->inProgress().file.measurements.gamut(QString()));
+    QCOMPARE(f.following->inProgress().file.measurements.others().size(), 1);
     f.append("Green,71,0.3,0.6\r\nBlue,7,0.15,0.06\r\nWhite,99,0.3127,0.329\r\n");
     QTRY_COMPARE(f.redX(), 0.64);
-    QCOMPARE(f.following->file().name, QStringLiteral("wall"));
-    QCOMPARE(f.following->file().measurements.unit, LuminanceUnit::CandelaPerSquareMetre);
-    QCOMPARE(f.following->file().measurements.recognized.headerLine, 1);
+    QCOMPARE(f.following->inProgress().file.name, QStringLiteral("wall"));
+    QCOMPARE(f.following->inProgress().file.measurements.unit, LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(f.following->inProgress().file.measurements.recognized.headerLine, 1);
     QCOMPARE(f.lines(), 5);
     QCOMPARE(f.following->state().notRead, 0);
 }
@@ -117,7 +117,7 @@ void FollowingTest::waitsForTheEndOfALine()
     QCOMPARE(f.following->state().measurements, 0);
     f.append("4,0.33\n");
     QTRY_COMPARE(f.following->state().measurements, 1);
-    QCOMPARE(f.following->file().measurements.measurements.first().color->x, 0.64);
+    QCOMPARE(f.following->inProgress().file.measurements.measurements.first().color->x, 0.64);
     QCOMPARE(f.following->state().notRead, 0);
 }
 
@@ -131,7 +131,7 @@ void FollowingTest::countsTheLatestOfAColour()
     QTRY_COMPARE(f.redX(), 0.65);
     f.append("R 100 %,22,0.66,0.33\n");
     QTRY_COMPARE(f.redX(), 0.66);
-    QVERIFY(f.following->file().measurements.others().isEmpty());
+    QVERIFY(f.following->inProgress().file.measurements.others().isEmpty());
 }
 
 void FollowingTest::followsAFileInUtf16()
@@ -165,7 +165,7 @@ void FollowingTest::beginsAnewWithAFileThatIsReplaced()
     QTRY_COMPARE(f.redX(), 0.69);
     QCOMPARE(f.lines(), 5);
     QCOMPARE(f.following->state().notRead, 0);
-    QVERIFY(f.following->file().measurements.others().isEmpty());
+    QVERIFY(f.following->inProgress().file.measurements.others().isEmpty());
     f.replace("name;Y;x;y\nBlau;7,5;0,15;0,06\n" + QByteArray(2000, '#') + '\n');
     QTRY_COMPARE(f.following->state().recognized.separator, QLatin1Char(';'));
     QCOMPARE(f.redX(), -1.0);
@@ -183,7 +183,7 @@ void FollowingTest::beginsAnewWithAFileThatIsTruncated()
     f.overwrite(QByteArray());
     QTRY_COMPARE(f.lines(), 0);
     QTRY_VERIFY(!measured.isEmpty()); // what is shown goes, too
-    QVERIFY(f.following->file().measurements.measurements.isEmpty());
+    QVERIFY(f.following->inProgress().file.measurements.measurements.isEmpty());
     f.append(header + "Red,21,0.7,0.29\n");
     QTRY_COMPARE(f.following->state().measurements, 1);
 }
@@ -343,7 +343,7 @@ void FollowingTest::doesALittleInEachTurn()
     QVERIFY(f.following->state().heldLines <= maximumHeldLines);
     QVERIFY(f.following->latest().pointCount() <= mostLatestPoints);
     QVERIFY(f.following->latest().cabinetCount() <= mostLatestCabinets);
-    QCOMPARE(f.following->file().measurements.measurements.size(), mostLatestPoints);
+    QCOMPARE(f.following->inProgress().file.measurements.measurements.size(), mostLatestPoints);
 }
 
 void FollowingTest::followsCabinets()
@@ -368,9 +368,9 @@ void FollowingTest::followsCabinets()
     f.follow(options);
     QTRY_COMPARE(f.lines(), 9);
     QCOMPARE(f.following->latest().cabinets().size(), 1);
-    QVERIFY(!f.following->wall());
+    QVERIFY(!f.following->inProgress().wall);
     QCOMPARE(f.redX(), 0.64);
-    QCOMPARE(f.following->file().name, QStringLiteral("wall: 1/1"));
+    QCOMPARE(f.following->inProgress().file.name, QStringLiteral("wall: 1/1"));
 }
 
 void FollowingTest::followsAWall()
@@ -380,36 +380,37 @@ void FollowingTest::followsAWall()
     f.overwrite("cabinet,name,Y (cd/m2),x,y\n" + first);
     f.follow();
     QTRY_COMPARE(f.lines(), 5);
-    QVERIFY(!f.following->wall());
+    QVERIFY(!f.following->inProgress().wall);
     QCOMPARE(f.redX(), -1.0); // a gamut needs its white
     f.append("A1,White,99,0.3127,0.329\n");
     QTRY_COMPARE(f.redX(), 0.64);
-    QCOMPARE(f.following->file().name, QStringLiteral("wall: A1"));
+    QCOMPARE(f.following->inProgress().file.name, QStringLiteral("wall: A1"));
 
     QSignalSpy measured(f.following.get(), &Following::measured);
     f.append("A2,Red,22,0.65,0.33\n");
-    QTRY_VERIFY(f.following->wall());
+    QTRY_VERIFY(f.following->inProgress().wall);
     QTRY_COMPARE(measured.size(), 1);
-    QCOMPARE(f.following->wall()->unit, LuminanceUnit::CandelaPerSquareMetre);
-    QCOMPARE(f.following->wall()->cabinets.size(), std::size_t(1));
-    QCOMPARE(f.following->wall()->incomplete.size(), std::size_t(1));
+    QCOMPARE(f.following->inProgress().wall->unit, LuminanceUnit::CandelaPerSquareMetre);
+    QCOMPARE(f.following->inProgress().wall->cabinets.size(), std::size_t(1));
+    QCOMPARE(f.following->inProgress().wall->incomplete.size(), std::size_t(1));
     QCOMPARE(f.redX(), -1.0);
-    QCOMPARE(f.following->file().name, QStringLiteral("wall"));
-    QCOMPARE(f.following->file().measurements.measurements.size(), 2); // grey, and red of A2
+    QCOMPARE(f.following->inProgress().file.name, QStringLiteral("wall"));
+    QCOMPARE(f.following->inProgress().file.measurements.measurements.size(), 2); // grey, and red of A2
     f.append("A2,Green,71,0.3,0.6\nA2,Blue,7,0.15,0.06\n");
     QTRY_COMPARE(f.following->latest().wall()->cabinets.size(), std::size_t(2));
     // Its white may still come, as that of A1 did, until another cabinet is measured or there is no more.
-    QCOMPARE(f.following->wall()->cabinets.size(), std::size_t(1));
-    QCOMPARE(f.following->wall()->incomplete.front().reason, QStringLiteral("it is being measured"));
-    QCOMPARE(f.following->file().measurements.measurements.size(), 4); // its colours are shown meanwhile, and grey
+    QCOMPARE(f.following->inProgress().wall->cabinets.size(), std::size_t(1));
+    QCOMPARE(f.following->inProgress().wall->incomplete.front().reason, QStringLiteral("it is being measured"));
+    QCOMPARE(f.following->inProgress().file.measurements.measurements.size(),
+        4); // its colours are shown meanwhile, and grey
     f.append("A1,White,99,0.3127,0.329\n");
-    QTRY_COMPARE(f.following->wall()->cabinets.size(), std::size_t(2));
-    QVERIFY(f.following->wall()->incomplete.empty());
-    QCOMPARE(f.following->wall()->cabinets.back().red.x, 0.65);
-    QCOMPARE(f.following->file().measurements.measurements.size(), 1);
+    QTRY_COMPARE(f.following->inProgress().wall->cabinets.size(), std::size_t(2));
+    QVERIFY(f.following->inProgress().wall->incomplete.empty());
+    QCOMPARE(f.following->inProgress().wall->cabinets.back().red.x, 0.65);
+    QCOMPARE(f.following->inProgress().file.measurements.measurements.size(), 1);
     // Another file is another wall.
     f.replace("cabinet,name,Y (cd/m2),x,y\n" + first);
-    QTRY_VERIFY(!f.following->wall());
+    QTRY_VERIFY(!f.following->inProgress().wall);
 }
 
 void FollowingTest::takesLongerWhereItsSlotsDo()
@@ -459,7 +460,7 @@ void FollowingTest::readsStandardInputAsItComes()
     QTRY_COMPARE(following.state().notRead, 1);
     QVERIFY(following.input().hasEnded());
     QCOMPARE(redX(following), 0.65);
-    QCOMPARE(following.file().name, QStringLiteral("standard input"));
+    QCOMPARE(following.inProgress().file.name, QStringLiteral("standard input"));
     ::close(ends[0]);
 #else
     QSKIP("reads pipes by a thread");

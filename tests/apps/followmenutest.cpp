@@ -384,7 +384,7 @@ void FollowMenuTest::namesTheGamutAfterTheOnlyCabinet()
     FollowFixture f;
     f.openWithTarget();
     f.followFile(cabinetHeader + cabinet("A1,1,1,", "0.64,0.33"));
-    QTRY_VERIFY(!f.menu->following()->file().measurements.measurements.isEmpty());
+    QTRY_VERIFY(!f.menu->following()->inProgress().file.measurements.measurements.isEmpty());
     QTRY_COMPARE(f.menu->following()->state().measurements, 3);
     QVERIFY(f.document().description().measured.isEmpty());
     QCOMPARE(f.window->session()->assessment().judgement(), Judgement::NotKnown);

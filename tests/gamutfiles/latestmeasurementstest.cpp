@@ -277,10 +277,11 @@ void LatestMeasurementsTest::pointsAreNotThoseOfTheWall()
     latest.add(measured(QStringLiteral("grey"), MeasurementPart::None, 0.31, 0.33, QStringLiteral("A")));
     latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.7, 0.29, QStringLiteral("B")));
     QVERIFY(latest.wall());
-    QCOMPARE(names(latest.listBesideWall()), (QStringList{QStringLiteral("A grey"), QStringLiteral("B Red")}));
-    QVERIFY(!latest.listBesideWall().gamut(QString()));
+    QCOMPARE(
+        names(latest.listBeside(*latest.wall())), (QStringList{QStringLiteral("A grey"), QStringLiteral("B Red")}));
+    QVERIFY(!latest.listBeside(*latest.wall()).gamut(QString()));
     addGamut(latest, QStringLiteral("B"));
-    QCOMPARE(names(latest.listBesideWall()), QStringList{QStringLiteral("A grey")});
+    QCOMPARE(names(latest.listBeside(*latest.wall())), QStringList{QStringLiteral("A grey")});
 }
 
 void LatestMeasurementsTest::namesTheCabinetOfAGamut()
@@ -293,6 +294,10 @@ void LatestMeasurementsTest::namesTheCabinetOfAGamut()
     QVERIFY(latest.listedCabinet().isEmpty()); // there is no gamut
     addGamut(latest, QStringLiteral("A"));
     QCOMPARE(latest.listedCabinet(), QStringLiteral("A"));
+    // A red that lies between green and blue leaves no gamut.
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.225, 0.33, QStringLiteral("A")));
+    QVERIFY(!latest.list().gamut(QString()));
+    QVERIFY(latest.listedCabinet().isEmpty());
 }
 
 void LatestMeasurementsTest::forgetsAnotherUnit()

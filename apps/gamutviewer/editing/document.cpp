@@ -27,16 +27,18 @@ bool samePoints(const QVector<NamedPoint> &a, const QVector<NamedPoint> &b)
     });
 }
 
+//! But for whether they are left out.
 bool sameCabinets(const WallCabinet &a, const WallCabinet &b)
 {
     const auto colors = [](const WallCabinet &of) {
         return Model::Targets{of.red, of.green, of.blue, of.white.value_or(Model::Target())};
     };
-    return a.name == b.name && a.row == b.row && a.column == b.column && a.isLeftOut == b.isLeftOut
-        && a.white.has_value() == b.white.has_value() && ceiechart::sameTargets(colors(a), colors(b))
-        && sameBlacks(a.black, b.black) && a.blackLuminance == b.blackLuminance;
+    return a.name == b.name && a.row == b.row && a.column == b.column && a.white.has_value() == b.white.has_value()
+        && ceiechart::sameTargets(colors(a), colors(b)) && sameBlacks(a.black, b.black)
+        && a.blackLuminance == b.blackLuminance;
 }
 
+//! But for the cabinets that are left out.
 bool sameWalls(const DisplayWall &a, const DisplayWall &b)
 {
     const auto sameIncomplete = [](const IncompleteCabinet &one, const IncompleteCabinet &other) {
@@ -48,19 +50,22 @@ bool sameWalls(const DisplayWall &a, const DisplayWall &b)
             a.incomplete.begin(), a.incomplete.end(), b.incomplete.begin(), b.incomplete.end(), sameIncomplete);
 }
 
-//! \a wall without the cabinets that \a before is judged without.
-DisplayWall withLeftOutOf(const DisplayWall &before, DisplayWall wall)
+//! The labels of the cabinets that \a wall is judged without.
+QSet<QString> leftOutOf(const DisplayWall &wall)
 {
-    QSet<QString> leftOut;
-    for (const WallCabinet &cabinet : before.cabinets) {
+    QSet<QString> labels;
+    for (const WallCabinet &cabinet : wall.cabinets) {
         if (cabinet.isLeftOut) {
-            leftOut.insert(cabinet.label());
+            labels.insert(cabinet.label());
         }
     }
-    if (!leftOut.isEmpty()) {
-        for (WallCabinet &cabinet : wall.cabinets) {
-            cabinet.isLeftOut = leftOut.contains(cabinet.label());
-        }
+    return labels;
+}
+
+DisplayWall withLeftOut(DisplayWall wall, const QSet<QString> &labels)
+{
+    for (WallCabinet &cabinet : wall.cabinets) {
+        cabinet.isLeftOut = !labels.isEmpty() && labels.contains(cabinet.label());
     }
     return wall;
 }
@@ -198,23 +203,22 @@ void Document::cancelDrag()
 }
 
 void Document::showFollowed(
-    const std::optional<GamutFile> &measurements, const std::optional<DisplayWall> &wall, const QString &cabinet)
+    const std::optional<FollowedMeasurement> &measurement, const std::optional<FollowedMeasurement> &toKeep)
 {
-    m_followed = measurements;
-    m_followedCabinet = cabinet;
-    m_followedWall = measurements ? wall : std::nullopt;
+    m_followed = measurement;
+    m_followedToKeep = toKeep;
     refresh();
     Q_EMIT changed();
 }
 
 QString Document::measuredCabinet() const
 {
-    return m_followed && usualRole(*m_followed) == GamutRole::Measured ? m_followedCabinet : QString();
+    return m_followed && usualRole(m_followed->file) == GamutRole::Measured ? m_followed->cabinet : QString();
 }
 
 bool Document::hasUnkept() const
 {
-    return m_followed && descriptionText(m_description) != descriptionText(m_own);
+    return m_followed && descriptionText(withMeasurement(toKeep())) != descriptionText(m_own);
 }
 
 void Document::keepFollowed(const QString &text)
@@ -223,16 +227,23 @@ void Document::keepFollowed(const QString &text)
         cancelDrag();
     }
     if (hasUnkept()) {
-        m_history.push(new Step(this, m_own, DisplayDescription(m_description), text, 0));
+        m_history.push(new Step(this, m_own, withMeasurement(toKeep()), text, 0));
     }
 }
 
 void Document::refresh()
 {
-    m_description = m_followed ? withFile(m_own, *m_followed, usualRole(*m_followed)) : m_own;
-    if (m_followedWall) {
-        m_description.wall = withLeftOutOf(m_own.wall, *m_followedWall);
+    m_description = m_followed ? withMeasurement(*m_followed) : m_own;
+}
+
+//! own() with what \a measurement adds to it.
+DisplayDescription Document::withMeasurement(const FollowedMeasurement &measurement) const
+{
+    DisplayDescription result = withFile(m_own, measurement.file, usualRole(measurement.file));
+    if (measurement.wall) {
+        result.wall = withLeftOut(*measurement.wall, leftOutOf(m_own.wall));
     }
+    return result;
 }
 
 //! \a edited, which was made from what is shown, without what is shown of the followed measurement.
@@ -242,7 +253,7 @@ DisplayDescription Document::withoutFollowed(const DisplayDescription &edited) c
     if (!m_followed) {
         return own;
     }
-    if (usualRole(*m_followed)) {
+    if (usualRole(m_followed->file)) {
         const QString name = m_description.measured;
         if (own.measured == name || own.measured.isEmpty()) {
             own.measured = m_own.measured;
@@ -257,10 +268,28 @@ DisplayDescription Document::withoutFollowed(const DisplayDescription &edited) c
     if (samePoints(own.measurePoints, m_description.measurePoints)) {
         own.measurePoints = m_own.measurePoints;
     }
-    if (m_followedWall && (own.wall.cabinets.empty() || sameWalls(own.wall, m_description.wall))) {
-        own.wall = m_own.wall;
+    if (m_followed->wall) {
+        own.wall = wallWithoutFollowed(own.wall);
     }
     return own;
+}
+
+DisplayWall Document::wallWithoutFollowed(const DisplayWall &edited) const
+{
+    const DisplayWall &shown = m_description.wall;
+    if (edited.cabinets.empty()) {
+        return m_own.wall; // it is shown again at once
+    }
+    if (!sameWalls(edited, shown)) {
+        return edited; // another wall
+    }
+    const QSet<QString> leftOut = leftOutOf(edited);
+    const QSet<QString> before = leftOutOf(shown);
+    if (leftOut == before || !toKeep().wall) {
+        return m_own.wall;
+    }
+    // Also those that are not shown, as they are being measured.
+    return withLeftOut(*toKeep().wall, leftOutOf(m_own.wall) - before + leftOut);
 }
 
 void Document::show(const DisplayDescription &own)

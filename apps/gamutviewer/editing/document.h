@@ -3,6 +3,7 @@
 #ifndef GAMUTVIEWER_DOCUMENT_H
 #define GAMUTVIEWER_DOCUMENT_H
 
+#include "display/followedmeasurement.h"
 #include "display/gamutfiles.h"
 
 #include <QObject>
@@ -69,24 +70,26 @@ public:
     void cancelDrag();
 
     /*!
-     * \brief Shows \a measurements over the description as withFile() would add them, and \a wall in place of its
-     * wall; nothing: no longer.
+     * \brief Shows \a measurement over the description, its file as withFile() would add it and its wall in place of
+     * that of the description; nothing: no longer.
      *
      * That is no edit: it is neither a step of the history nor saved. An edit that is based on what is shown takes over
      * nothing of it, but for a gamut that gets another part or another name by it, and for a wall of which it leaves
-     * out a cabinet. The cabinets that own() leaves out are left out of \a wall, too.
+     * out a cabinet. The cabinets that own() leaves out are left out of what is shown, too.
      *
-     * The gamut of \a measurements is that of \a cabinet, which others may follow; empty: that of the display.
+     * \a toKeep is what the description takes over of it; nothing: what is shown. They differ by a cabinet that is
+     * being measured, for instance.
      */
-    void showFollowed(const std::optional<GamutFile> &measurements,
-        const std::optional<DisplayWall> &wall = std::nullopt, const QString &cabinet = QString());
+    void showFollowed(const std::optional<FollowedMeasurement> &measurement,
+        const std::optional<FollowedMeasurement> &toKeep = std::nullopt);
     /*! \brief The cabinet whose gamut is shown as the measured one while it is followed; empty for none. */
     QString measuredCabinet() const;
     /*! \brief Whether a wall is shown that is followed. It is not removed by an edit. */
-    bool followsWall() const { return m_followedWall.has_value(); }
-    /*! \brief Whether a measurement is shown that own() does not have. */
+    bool followsWall() const { return m_followed && m_followed->wall; }
+    /*! \brief Whether a measurement is followed that own() does not have. */
     bool hasUnkept() const;
-    /*! \brief Takes the measurement that is shown into the description, as one step of the history called \a text. */
+    /*! \brief Takes the measurement that is followed into the description, as one step of the history called \a text.
+     */
     void keepFollowed(const QString &text);
 
     /*! \brief Where the target's white has been after the last steps, oldest first, the present one last. */
@@ -108,14 +111,16 @@ private:
     void show(const DisplayDescription &own);
     void show(const DisplayDescription &own, const QVector<QPointF> &trail);
     void refresh();
+    DisplayDescription withMeasurement(const FollowedMeasurement &measurement) const;
+    const FollowedMeasurement &toKeep() const { return m_followedToKeep ? *m_followedToKeep : *m_followed; }
     DisplayDescription withoutFollowed(const DisplayDescription &edited) const;
+    DisplayWall wallWithoutFollowed(const DisplayWall &edited) const;
     QVector<QPointF> trailWith(const DisplayDescription &description) const;
 
     DisplayDescription m_description;
     DisplayDescription m_own;
-    std::optional<GamutFile> m_followed;
-    std::optional<DisplayWall> m_followedWall;
-    QString m_followedCabinet;
+    std::optional<FollowedMeasurement> m_followed;
+    std::optional<FollowedMeasurement> m_followedToKeep; // where it is not what is shown
     DisplayDescription m_saved;
     QString m_fileName;
     QUndoStack m_history;

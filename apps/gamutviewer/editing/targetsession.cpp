@@ -47,25 +47,32 @@ void TargetSession::selectCabinet(std::optional<std::size_t> cabinet)
 {
     const auto &cabinets = m_document->description().wall.cabinets;
     m_selectedLabel = cabinet && *cabinet < cabinets.size() ? cabinets[*cabinet].label() : QString();
-    if (m_selectedCabinet != cabinet) {
-        m_selectedCabinet = cabinet;
-        Q_EMIT selectedCabinetChanged();
-    }
+    setSelectedCabinet(cabinet);
 }
 
-//! A cabinet that is complete at last comes before those that were measured after it.
+//! A cabinet that is complete at last comes before those that were measured after it. One that is measured again is
+//! not there until it is complete, and is selected then as before.
 void TargetSession::keepSelectedCabinet()
 {
-    if (!m_selectedCabinet) {
+    if (m_selectedLabel.isEmpty()) {
         return;
     }
     const auto &cabinets = m_document->description().wall.cabinets;
     const auto isSelected = [this](const WallCabinet &cabinet) { return cabinet.label() == m_selectedLabel; };
-    if (*m_selectedCabinet < cabinets.size() && isSelected(cabinets[*m_selectedCabinet])) {
+    if (m_selectedCabinet && *m_selectedCabinet < cabinets.size() && isSelected(cabinets[*m_selectedCabinet])) {
         return;
     }
     const auto found = std::find_if(cabinets.begin(), cabinets.end(), isSelected);
-    selectCabinet(found == cabinets.end() ? std::nullopt : std::make_optional(std::size_t(found - cabinets.begin())));
+    setSelectedCabinet(
+        found == cabinets.end() ? std::nullopt : std::make_optional(std::size_t(found - cabinets.begin())));
+}
+
+void TargetSession::setSelectedCabinet(std::optional<std::size_t> cabinet)
+{
+    if (m_selectedCabinet != cabinet) {
+        m_selectedCabinet = cabinet;
+        Q_EMIT selectedCabinetChanged();
+    }
 }
 
 void TargetSession::setHoldWhite(bool hold)

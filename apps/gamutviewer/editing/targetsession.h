@@ -114,6 +114,7 @@ Q_SIGNALS:
 
 private:
     void keepSelectedCabinet();
+    void setSelectedCabinet(std::optional<std::size_t> cabinet);
     ceiechart::TargetMove edited(Vertex vertex, const QPointF &xy) const;
     LuminanceUnit unitAfterMoving(Vertex vertex) const;
     bool apply(const std::optional<Model::Targets> &targets, LuminanceUnit unit, const QString &text, int mergeKey);

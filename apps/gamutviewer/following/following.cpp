@@ -64,22 +64,34 @@ void Following::begin()
     m_hasOtherUnit = false;
 }
 
-GamutFile Following::file() const
+FollowedMeasurement Following::inProgress() const
 {
-    GamutFile file;
+    return m_isFinished ? asIfEnded() : madeOf(m_latest->wallInProgress());
+}
+
+FollowedMeasurement Following::asIfEnded() const
+{
+    return madeOf(m_latest->wall());
+}
+
+FollowedMeasurement Following::madeOf(const std::optional<DisplayWall> &wall) const
+{
+    FollowedMeasurement result;
+    GamutFile &file = result.file;
     file.content = GamutFile::Content::Measurements;
     file.name = nameByFile(m_input->fileName());
-    if (const auto shown = wall()) {
-        file.measurements = m_latest->listBeside(*shown);
+    if (wall) {
+        file.measurements = m_latest->listBeside(*wall);
     } else {
         file.measurements = m_latest->list();
-        const QString cabinet = m_latest->listedCabinet();
-        if (!cabinet.isEmpty()) {
-            file.name = QStringLiteral("%1: %2").arg(file.name, cabinet); // it is not that of the display
+        result.cabinet = m_latest->listedCabinet();
+        if (!result.cabinet.isEmpty()) {
+            file.name = QStringLiteral("%1: %2").arg(file.name, result.cabinet); // it is not that of the display
         }
     }
     file.measurements.recognized = m_stream->state().recognized;
-    return file;
+    result.wall = wall;
+    return result;
 }
 
 //! Whether there was a piece to read.

@@ -3,6 +3,7 @@
 #ifndef GAMUTVIEWER_FOLLOWING_H
 #define GAMUTVIEWER_FOLLOWING_H
 
+#include "display/followedmeasurement.h"
 #include "display/gamutfiles.h"
 #include "following/followedinput.h"
 
@@ -41,16 +42,12 @@ public:
     /*! \brief What the measurement has come to, also by cabinets. */
     const LatestMeasurements &latest() const { return *m_latest; }
     /*!
-     * \brief The same as if a file had been read that has nothing but it, but for wall(): what that has is not in it.
-     *
-     * It is named after what is followed and, where it has the gamut of a cabinet, after the cabinet.
+     * \brief What the measurement has come to for who looks at it. Its wall is that of
+     * LatestMeasurements::wallInProgress() until the input ends.
      */
-    GamutFile file() const;
-    /*!
-     * \brief The cabinets that have been measured so far, as LatestMeasurements::wallInProgress() has them until the
-     * input ends; nothing for a list that is not of a wall, or not yet.
-     */
-    std::optional<DisplayWall> wall() const { return m_isFinished ? m_latest->wall() : m_latest->wallInProgress(); }
+    FollowedMeasurement inProgress() const;
+    /*! \brief The same as if the input had ended. */
+    FollowedMeasurement asIfEnded() const;
     /*! \brief Whether the unit has changed, so that what had been measured before was forgotten. */
     bool hasOtherUnit() const { return m_hasOtherUnit; }
     /*! \brief Whether there was not enough memory to go on: latest() stays what it came to before. */
@@ -67,6 +64,7 @@ Q_SIGNALS:
     void stateChanged();
 
 private:
+    FollowedMeasurement madeOf(const std::optional<DisplayWall> &wall) const;
     void turn();
     void readLines();
     void begin();

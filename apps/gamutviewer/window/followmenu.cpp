@@ -60,18 +60,13 @@ void FollowMenu::followByDialog()
 
 void FollowMenu::show()
 {
-    showWith(m_following->wall());
-}
-
-void FollowMenu::showWith(const std::optional<DisplayWall> &wall)
-{
-    m_document->showFollowed(m_following->file(), wall, m_following->latest().listedCabinet());
+    m_document->showFollowed(m_following->inProgress(), m_following->asIfEnded());
 }
 
 void FollowMenu::keep()
 {
     if (m_following) {
-        showWith(m_following->latest().wall()); // with what came since the last frame
+        show(); // with what came since the last frame
         m_document->keepFollowed(tr("keep %1").arg(shownName(m_following->input())));
     }
 }

@@ -7,8 +7,6 @@
 
 #include <QMenu>
 
-#include <optional>
-
 #include <memory>
 
 class QLabel;
@@ -52,7 +50,6 @@ public:
 private:
     void followByDialog();
     void show();
-    void showWith(const std::optional<DisplayWall> &wall);
     void refresh();
     QString text() const;
     QString progressText() const;
