@@ -27,6 +27,7 @@ private Q_SLOTS:
     void darkerBlackOfAnotherColor();
     void colorsOutsideAreToldOverTheBlack();
     void darkContentOverABrightBlackIsNotJudged();
+    void darkContentOverABlackOfUnknownChromaticity();
     void blackTooBrightForAnyTarget();
     void fittedTargetPassesOverBlacks();
 };
@@ -345,6 +346,56 @@ void WallBlacksTest::darkContentOverABrightBlackIsNotJudged()
     wall.cabinets[4].black = color(0.05, 0.36, 0.38);
     wall.cabinets[4].isLeftOut = true;
     QVERIFY(!textOf(assessWall(wall, target)).contains(QLatin1String("darker")));
+}
+
+//! It may be that of any of the primaries, or that of what they mix to.
+void WallBlacksTest::darkContentOverABlackOfUnknownChromaticity()
+{
+    DisplayWall wall = wallOf(1);
+    WallCabinet &of = wall.cabinets[4];
+    of.blackLuminance = 0.05;
+    const DisplayGamut target = targetOf(500.0);
+    const WallAssessment found = assessWall(wall, target);
+    QCOMPARE(found.cabinets[4].judgement, Judgement::Pass);
+    const auto &matrix = found.correction.corrections[4].matrix;
+    QVERIFY(matrix);
+    const Model::Targets &wanted = found.correction.target;
+    const auto sum = [](double Model::Target::*part, const Model::Drive &drive, const WallCabinet &cabinet,
+                         const Model::Target &black) {
+        return black.*part + drive.red * (cabinet.red.*part - black.*part)
+            + drive.green * (cabinet.green.*part - black.*part) + drive.blue * (cabinet.blue.*part - black.*part);
+    };
+    const Model::Target d65 = Model::rec2020().getTargets().white;
+    const std::pair<Model::Drive, Vertex> contents[]
+        = {{{0.1, 0.0, 0.0}, Vertex::Red}, {{0.0, 0.1, 0.0}, Vertex::Green}, {{0.0, 0.0, 0.1}, Vertex::Blue}};
+    double most = 0.0;
+    Vertex shifted = Vertex::White;
+    for (const Model::Target &light : {of.red, of.green, of.blue, d65}) {
+        const Model::Target black = color(0.05, light.x, light.y);
+        for (const auto &[content, vertex] : contents) {
+            Model::Drive drive = matrix->driveFor(content);
+            for (double *value : {&drive.red, &drive.green, &drive.blue}) {
+                *value = std::max(*value, 0.0);
+            }
+            const double X = sum(&Model::Target::X, drive, of, black);
+            const double Y = sum(&Model::Target::Y, drive, of, black);
+            const double Z = sum(&Model::Target::Z, drive, of, black);
+            const double denominator = X + 15.0 * Y + 3.0 * Z;
+            const Model::Target &is = ceiechart::targetAt(wanted, vertex);
+            const double shift = std::hypot(4.0 * X / denominator - is.u, 9.0 * Y / denominator - is.v);
+            if (shift > most) {
+                most = shift;
+                shifted = vertex;
+            }
+        }
+    }
+    QVERIFY(most > visibleUv);
+    QVERIFY2(
+        textOf(found).contains(QString::fromUtf8("at a tenth of its luminance, the black of A5, whose chromaticity is "
+                                                 "not known, can shift %1 by up to Δu′v′ %2.")
+                                   .arg(ceiechart::gamutVertexName(shifted))
+                                   .arg(most, 0, 'f', 4)),
+        qPrintable(textOf(found)));
 }
 
 void WallBlacksTest::blackTooBrightForAnyTarget()

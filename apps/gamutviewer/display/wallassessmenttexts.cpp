@@ -158,6 +158,24 @@ QString possibleBlackText(
               .arg(other, reached, luminanceText(wanted, target.unit));
 }
 
+//! \a cabinet over the black that was measured, or over those that it may have where only the luminance is known.
+std::vector<Model::DisplayDrive> overItsBlacks(const WallCabinet &cabinet)
+{
+    Model::Cabinet measured;
+    measured.colors = {cabinet.red, cabinet.green, cabinet.blue, {}};
+    std::vector<Model::Target> blacks;
+    if (cabinet.black && cabinet.black->Y > 0.0) {
+        blacks.push_back(*cabinet.black);
+    } else if (cabinet.blackLuminance) {
+        blacks = blacksOf(*cabinet.blackLuminance, possibleChromaticities(measured));
+    }
+    std::vector<Model::DisplayDrive> drives;
+    for (const Model::Target &black : blacks) {
+        drives.emplace_back(measured.colors, black);
+    }
+    return drives;
+}
+
 //! What the primaries of a cabinet seem to be: "red and green seem to be exchanged"; empty where they seem right.
 QString exchangeText(const std::optional<Model::SeemingPrimaries> &seeming)
 {
@@ -375,30 +393,35 @@ QString darkContentText(
     std::optional<std::size_t> worst;
     Vertex shifted = Vertex::White;
     for (const std::size_t i : cabinets) {
-        const WallCabinet &of = wall.cabinets[i];
         const auto &matrix = assessment.correction.corrections[i].matrix;
-        if (!of.black || !(of.black->Y > 0.0) || !matrix) {
+        if (!matrix || !assessment.cabinets[i].isAdditive) {
             continue;
         }
-        const Model::DisplayDrive display({of.red, of.green, of.blue, {}}, of.black);
-        for (const auto &[vertex, content] : contents) {
-            if (assessment.cabinets[i].outside[std::size_t(vertex)] > 0.0) {
-                continue; // not the black's doing
-            }
-            const auto shown = shownWithoutLimit(display, *matrix, content);
-            const auto shift
-                = shown ? Model::uvDifference(*shown, targetAt(assessment.correction.target, vertex)) : std::nullopt;
-            if (shift && *shift > most) {
-                most = *shift;
-                worst = i;
-                shifted = vertex;
+        for (const Model::DisplayDrive &display : overItsBlacks(wall.cabinets[i])) {
+            for (const auto &[vertex, content] : contents) {
+                if (assessment.cabinets[i].outside[std::size_t(vertex)] > 0.0) {
+                    continue; // not the black's doing
+                }
+                const auto shown = shownWithoutLimit(display, *matrix, content);
+                const auto shift = shown ? Model::uvDifference(*shown, targetAt(assessment.correction.target, vertex))
+                                         : std::nullopt;
+                if (shift && *shift > most) {
+                    most = *shift;
+                    worst = i;
+                    shifted = vertex;
+                }
             }
         }
     }
-    return worst ? WallText::tr("Content that is darker than the target is not judged: at a tenth of its luminance, "
-                                "the black of %1 shifts %2 by Δu′v′ %3.")
-                       .arg(cabinetName(wall, *worst), gamutVertexName(shifted), distanceText(most))
-                 : QString();
+    if (!worst) {
+        return QString();
+    }
+    const QString text = wall.cabinets[*worst].black
+        ? WallText::tr("Content that is darker than the target is not judged: at a tenth of its luminance, the black "
+                       "of %1 shifts %2 by Δu′v′ %3.")
+        : WallText::tr("Content that is darker than the target is not judged: at a tenth of its luminance, the black "
+                       "of %1, whose chromaticity is not known, can shift %2 by up to Δu′v′ %3.");
+    return text.arg(cabinetName(wall, *worst), gamutVertexName(shifted), distanceText(most));
 }
 
 QString mixtureText(const DisplayGamut &target, const Model::Targets &mixed)
