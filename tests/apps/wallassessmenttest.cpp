@@ -400,6 +400,12 @@ void WallAssessmentTest::leftOutCabinetDoesNotCount()
     wall.cabinets[0].isLeftOut = false;
     QCOMPARE(assessWall(wall, targetOf(500.0)).headline,
         QStringLiteral("Not known whether the cabinet A1 shows this target; 95 are left out"));
+    DisplayWall alone = wall;
+    alone.cabinets.resize(1);
+    alone.cabinets.front().isLeftOut = true;
+    alone.incomplete = {{QStringLiteral("A2"), std::nullopt, QStringLiteral("red is missing")}};
+    QCOMPARE(assessWall(alone, targetOf(500.0)).headline,
+        QStringLiteral("Not known whether the cabinet A2 shows this target; one is left out"));
     wall.cabinets[0].isLeftOut = true;
     const WallAssessment nothing = assessWall(wall, targetOf(1000.0));
     QCOMPARE(nothing.judgement, Judgement::NotKnown);

@@ -331,8 +331,9 @@ private:
         const int all = int(m_counted.size() + m_wall.incomplete.size());
         const int fails = int(failing.size());
         QString &text = m_result.headline;
-        if (m_counted.size() == 1 && all == 1) {
-            const QString name = cabinetName(m_wall, m_counted.front());
+        if (all == 1) {
+            const QString name = m_counted.empty() ? cabinetName(m_wall, m_wall.incomplete.front())
+                                                   : cabinetName(m_wall, m_counted.front());
             text = withLeftOut(fails > 0 ? WallText::tr("The cabinet %1 does not show this target").arg(name)
                     : unknown > 0        ? WallText::tr("Not known whether the cabinet %1 shows this target").arg(name)
                                          : WallText::tr("The cabinet %1 shows this target").arg(name));
