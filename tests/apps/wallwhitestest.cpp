@@ -25,6 +25,7 @@ private Q_SLOTS:
     void measuredWhiteDecidesWhereItWasMeasured();
     void reachedLuminancesAreRoundedDown();
     void largestOfWhichItIsKnown();
+    void whiteThatWasNotMeasured();
 };
 
 void WallWhitesTest::whiteThatIsNotTheSum()
@@ -50,6 +51,42 @@ void WallWhitesTest::whiteThatIsNotTheSum()
     QVERIFY2(textOf(other).contains(QStringLiteral("? A5: the white is 1050.0 cd/m², the primaries add to 1100.0 "
                                                    "cd/m²: what it reaches cannot be worked out.")),
         qPrintable(textOf(other)));
+}
+
+// Where one cabinet limits its power, others may.
+void WallWhitesTest::whiteThatWasNotMeasured()
+{
+    const Model::Target d65 = Model::rec2020().getTargets().white;
+    DisplayWall wall = wallOf(1);
+    wall.cabinets.resize(3);
+    QCOMPARE(assessWall(wall, targetOf(1000.0)).judgement, Judgement::Pass); // nothing speaks against the sum
+    wall.cabinets[1].white = color(1100.0, d65.x, d65.y);
+    QCOMPARE(assessWall(wall, targetOf(1000.0)).judgement, Judgement::Pass);
+    wall.cabinets[2].white = color(900.0, d65.x, d65.y);
+    const WallAssessment found = assessWall(wall, targetOf(800.0));
+    QCOMPARE(found.cabinets[0].judgement, Judgement::NotKnown);
+    QVERIFY(!found.cabinets[0].isAdditive && !found.cabinets[0].largestWhite && !found.cabinets[0].white);
+    QCOMPARE(found.cabinets[1].judgement, Judgement::Pass);
+    QVERIFY2(textOf(found).contains(QStringLiteral("? A1: its white was not measured, and that of A3 is not the sum of "
+                                                   "its primaries: measure it.")),
+        qPrintable(textOf(found)));
+    // Of many it is said once, after what is wrong with that one.
+    DisplayWall many = wallOf(1);
+    many.cabinets[7].white = color(900.0, d65.x, d65.y);
+    const QString text = textOf(assessWall(many, targetOf(800.0)));
+    const QString ground = QStringLiteral("\n? A8: the white is 900.0 cd/m², the primaries add to 1100.0 cd/m²");
+    const QString others
+        = QStringLiteral("\n? The whites of 11 cabinets were not measured, and that of A8 is not the sum "
+                         "of its primaries: measure them.");
+    QVERIFY2(text.contains(ground) && text.indexOf(others) > text.indexOf(ground), qPrintable(text));
+    QVERIFY2(!text.contains(QLatin1String("A1: ")), qPrintable(text));
+    // What is too bright for the sum is too bright in any case, but not where another has more than the sum.
+    QCOMPARE(assessWall(wall, targetOf(1200.0)).cabinets[0].judgement, Judgement::Fail);
+    wall.cabinets[2].white = color(1300.0, d65.x, d65.y);
+    QCOMPARE(assessWall(wall, targetOf(1200.0)).cabinets[0].judgement, Judgement::NotKnown);
+    // One that is left out says nothing of the others.
+    wall.cabinets[2].isLeftOut = true;
+    QCOMPARE(assessWall(wall, targetOf(1000.0)).judgement, Judgement::Pass);
 }
 
 void WallWhitesTest::measuredWhiteDecidesWhereItWasMeasured()
@@ -279,6 +316,9 @@ void WallWhitesTest::largestOfWhichItIsKnown()
             description.wall.incomplete.push_back(
                 {QStringLiteral("B1"), std::nullopt, QStringLiteral("blue is missing")});
         } else {
+            for (WallCabinet &of : description.wall.cabinets) {
+                of.white = color(1100.0, d65.x, d65.y);
+            }
             description.wall.cabinets[4].white = color(800.0, d65.x + 0.001, d65.y); // less than the sum
         }
         description.gamuts.push_back(targetOf(1.0, LuminanceUnit::Relative));

@@ -86,10 +86,14 @@ struct CabinetAssessment {
     std::optional<double> notTooBright;
     /*! \brief largestWhite divided by the luminance of the target's white; only where the two can be compared. */
     std::optional<double> headroom;
-    /*! \brief False when it does not add up: its measured white is not the sum of its primaries. */
+    /*!
+     * \brief False when it does not add up: its measured white is not the sum of its primaries. It is not known to add
+     * up, and false as well, without a measured white on a wall that has WallAssessment::notAdditive.
+     */
     bool isAdditive = true;
     std::optional<OffSum> offSum; //!< of one that is additive within the tolerance, and whose white was measured
-    std::optional<Model::Target> white; //!< without a correction: as measured, or else the sum of the primaries
+    /*! \brief Without a correction: as measured, or else the sum of the primaries where it is additive. */
+    std::optional<Model::Target> white;
     std::optional<double> uvBefore; //!< Δu′v′ between that white and the target's
     std::optional<double> uvAfter; //!< Δu′v′ between its white with the correction and the target's
     std::optional<NeighborDifference> neighborBefore; //!< the neighbour whose white differs most, without corrections
@@ -122,6 +126,9 @@ struct WallAssessment {
     bool luminancesCompare = false; //!< whether those of wall and target are both in cd/m²
     /*! \brief The cabinet whose black has the most luminance of those that count; nothing where none was measured. */
     std::optional<std::size_t> brightestBlack;
+    /*! \brief The first cabinet that counts whose measured white is not the sum of its primaries; nothing without one.
+     */
+    std::optional<std::size_t> notAdditive;
     bool isReachKnownOfAll = false; //!< whether CabinetAssessment::largestWhite is known of all cabinets that count
     /*! \brief What the cabinets have in common that count and whose gamut is known. */
     Model::CommonGamut common;

@@ -276,6 +276,11 @@ QString cabinetText(
         parts.append(fault);
     } else if (cabinet.gamut == Judgement::NotKnown && !Model::spanTriangle(colors)) {
         parts.append(WallText::tr("the primaries span no triangle"));
+    } else if (!cabinet.isAdditive && !of.white) {
+        parts.append(WallText::tr("its white was not measured, and that of %1 is not the sum of its primaries: measure "
+                                  "it",
+            "name of a cabinet")
+                         .arg(cabinetName(wall, *assessment.notAdditive)));
     } else if (!cabinet.isAdditive) {
         parts.append(notAdditiveText(wall, target, cabinet, *of.white, *correction.uncorrectedWhite));
     } else if (cabinet.largestWhite && (parts.isEmpty() || cabinet.luminance == Judgement::Fail)) {

@@ -81,16 +81,25 @@ void judgeGamut(CabinetAssessment &result, const Model::Targets &colors, const M
     }
 }
 
+//! What the measured whites of a wall say of the cabinets whose white was not measured.
+struct MeasuredWhites {
+    bool areAdditive = true;
+    bool haveUpperBounds = true; // Additivity::isUpperBound
+};
+
 //! What is known of the luminances of a cabinet.
 class CabinetLuminance {
 public:
-    //! \a drive is that of the cabinet and has no fault.
-    CabinetLuminance(const WallCabinet &cabinet, const Model::DisplayDrive &drive, const Model::Targets &target)
+    //! \a drive is that of the cabinet and has no fault. \a others are those whose white was measured.
+    CabinetLuminance(const WallCabinet &cabinet, const Model::DisplayDrive &drive, const Model::Targets &target,
+        const MeasuredWhites &others)
         : m_drive(drive)
         , m_target(target)
         , m_sum(drive.largestLuminance(pointOf(target.white)))
     {
         if (!cabinet.white) {
+            m_isAdditive = others.areAdditive;
+            m_isUpperBound = others.haveUpperBounds;
             return;
         }
         const Model::Target &white = *cabinet.white;
@@ -128,6 +137,8 @@ public:
             ? std::make_optional(std::min(m_sum->luminance, result.largestWhite.value_or(m_sum->luminance)))
             : result.largestWhite;
     }
+
+    bool isUpperBound() const { return m_isUpperBound; }
 
     //! What the primaries add to, and no more than it reaches. That is what a correction is for.
     std::optional<double> correctable() const
@@ -209,24 +220,42 @@ private:
 
     void judgeGamutsAndLuminances()
     {
-        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
-            const Model::DisplayDrive drive(m_cabinets[i].colors, m_cabinets[i].black);
-            CabinetAssessment &result = m_result.cabinets[i];
-            if (isGamutKnown(drive.fault(), m_cabinets[i].colors)) {
-                judgeGamut(result, m_cabinets[i].colors, target());
+        // Those whose white was measured say what can be expected of the others.
+        for (const bool isMeasured : {true, false}) {
+            for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
+                if (m_wall.cabinets[i].white.has_value() == isMeasured) {
+                    judgeGamutAndLuminance(i);
+                }
             }
-            if (drive.fault() != Model::DisplayFault::None) {
-                continue;
-            }
-            const CabinetLuminance luminance(m_wall.cabinets[i], drive, target());
-            luminance.reach(result);
-            if (hasLuminance()) {
-                luminance.judge(result);
-            }
-            const auto correctable = luminance.correctable();
-            if (correctable && !result.isLeftOut) {
-                m_correctable = std::min(m_correctable.value_or(*correctable), *correctable);
-            }
+        }
+    }
+
+    void judgeGamutAndLuminance(std::size_t i)
+    {
+        const Model::DisplayDrive drive(m_cabinets[i].colors, m_cabinets[i].black);
+        CabinetAssessment &result = m_result.cabinets[i];
+        if (isGamutKnown(drive.fault(), m_cabinets[i].colors)) {
+            judgeGamut(result, m_cabinets[i].colors, target());
+        }
+        if (drive.fault() != Model::DisplayFault::None) {
+            return;
+        }
+        const CabinetLuminance luminance(m_wall.cabinets[i], drive, target(), m_whites);
+        luminance.reach(result);
+        if (hasLuminance()) {
+            luminance.judge(result);
+        }
+        if (result.isLeftOut) {
+            return;
+        }
+        const auto correctable = luminance.correctable();
+        if (correctable) {
+            m_correctable = std::min(m_correctable.value_or(*correctable), *correctable);
+        }
+        if (m_wall.cabinets[i].white && !result.isAdditive) {
+            m_result.notAdditive = m_result.notAdditive.value_or(i);
+            m_whites.areAdditive = false;
+            m_whites.haveUpperBounds = m_whites.haveUpperBounds && luminance.isUpperBound();
         }
     }
 
@@ -322,7 +351,7 @@ private:
         over.outside = result.outside;
         const Model::DisplayDrive drive(m_cabinets[i].colors, black);
         if (drive.fault() == Model::DisplayFault::None) {
-            const CabinetLuminance luminance(m_wall.cabinets[i], drive, target());
+            const CabinetLuminance luminance(m_wall.cabinets[i], drive, target(), m_whites);
             luminance.reach(over);
             if (hasLuminance()) {
                 luminance.judge(over);
@@ -351,7 +380,9 @@ private:
             Model::Correction &correction = m_result.correction.corrections[i];
             CabinetAssessment &result = m_result.cabinets[i];
             keepWhatIsKnown(correction, result);
-            result.white = cabinet.white ? cabinet.white : correction.uncorrectedWhite;
+            result.white = cabinet.white ? cabinet.white
+                : result.isAdditive      ? correction.uncorrectedWhite
+                                         : std::nullopt;
             result.uvBefore = result.white ? Model::uvDifference(*result.white, target().white) : std::nullopt;
             result.uvAfter = correction.remaining.whiteUv;
             // How much a black takes depends on the luminance, and on what the primaries add to.
@@ -575,6 +606,7 @@ private:
     const std::vector<Model::Cabinet> m_cabinets;
     std::vector<std::size_t> m_counted; // all that are not left out
     std::vector<Model::Target> m_blackChromaticities; // of the blacks that were measured, those that lie farthest out
+    MeasuredWhites m_whites; // of those that count
     std::optional<double> m_correctable; // the largest white that corrections of these can be for
     WallAssessment m_result;
 };

@@ -148,17 +148,29 @@ private:
         }
         // What holds for all is said once: that luminances cannot be compared, or that there are no corrections.
         std::vector<std::size_t> reasons;
+        std::vector<std::size_t> withoutWhite;
         for (const std::size_t i : cabinetsThat(Judgement::NotKnown)) {
             const CabinetAssessment &cabinet = m_result.cabinets[i];
             const auto &off = cabinet.offByPossibleBlack;
             const bool hasReason = hasLuminance()
                 && (cabinet.luminance != Judgement::Pass
                     || std::any_of(off.begin(), off.end(), [](double distance) { return distance > 0.0; }));
-            if (hasReason || cabinet.gamut == Judgement::NotKnown || !cabinet.largestWhite) {
+            if (!m_wall.cabinets[i].white && !cabinet.isAdditive && cabinet.gamut != Judgement::NotKnown) {
+                withoutWhite.push_back(i);
+            } else if (hasReason || cabinet.gamut == Judgement::NotKnown || !cabinet.largestWhite) {
                 reasons.push_back(i);
             }
         }
         describeCabinets(Judgement::NotKnown, reasons);
+        if (withoutWhite.size() == 1) {
+            describeCabinets(Judgement::NotKnown, withoutWhite);
+        } else if (!withoutWhite.empty()) {
+            add(Judgement::NotKnown,
+                WallText::tr("The whites of %1 cabinets were not measured, and that of %2 is not the sum of its "
+                             "primaries: measure them.")
+                    .arg(withoutWhite.size())
+                    .arg(cabinetName(m_wall, *m_result.notAdditive)));
+        }
     }
 
     void describeCorrections()

@@ -301,6 +301,7 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
     std::vector<std::size_t> within;
     std::vector<std::size_t> failing;
     std::vector<std::size_t> notAdditive;
+    std::vector<std::size_t> unknownWhite;
     std::vector<std::size_t> without;
     std::vector<std::size_t> unknownBlack;
     for (const std::size_t i : corrected.cabinets) {
@@ -318,7 +319,7 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
             failing.push_back(i);
         }
         if (correction.matrix && !cabinet.isAdditive) {
-            notAdditive.push_back(i);
+            (corrected.wall.cabinets[i].white ? notAdditive : unknownWhite).push_back(i);
         }
         const auto &off = cabinet.offByPossibleBlack;
         const bool isOff = std::any_of(off.begin(), off.end(), [](double distance) { return distance > 0.0; });
@@ -355,7 +356,12 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
             CommandText::tr("cabinet whose measured white is not the sum of its primaries, which the correction is "
                             "for, so that it is not known what it shows"),
             CommandText::tr("cabinets whose measured white is not the sum of their primaries, which the corrections "
-                            "are for, so that it is not known what they show"))};
+                            "are for, so that it is not known what they show")),
+        noteOn(corrected, unknownWhite, QString(),
+            CommandText::tr("cabinet whose white was not measured, so that it is not known what it shows, as another "
+                            "white is not the sum of its primaries"),
+            CommandText::tr("cabinets whose whites were not measured, so that it is not known what they show, as "
+                            "another white is not the sum of its primaries"))};
     notes.append(offSumText(corrected.wall, corrected.assessment, corrected.cabinets));
     notes.removeAll(QString());
     return notes + exchangeTexts(written);
