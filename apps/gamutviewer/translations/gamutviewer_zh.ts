@@ -2657,6 +2657,19 @@ Esc – 关闭有焦点的消息
         <source>Limited by %1.</source>
         <translation>限制因素：%1。</translation>
     </message>
+    <message>
+        <source>its white was not measured, and that of %1 is not the sum of its primaries: measure it</source>
+        <comment>name of a cabinet</comment>
+        <translation>其白点未测量，而 %1 的白点不等于其各基色之和：请测量</translation>
+    </message>
+    <message>
+        <source>Content that is darker than the target is not judged: at a tenth of its luminance, the black of %1, whose chromaticity is not known, can shift %2 by up to Δu′v′ %3.</source>
+        <translation>比目标更暗的内容不作判断：在其亮度的十分之一处，%1 的黑场（色度未知）可能使%2偏移多达 Δu′v′ %3。</translation>
+    </message>
+    <message>
+        <source>The whites of %1 cabinets were not measured, and that of %2 is not the sum of its primaries: measure them.</source>
+        <translation>有 %1 个箱体的白点未测量，而 %2 的白点不等于其各基色之和：请测量。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallCommand</name>
@@ -2911,6 +2924,14 @@ Esc – 关闭有焦点的消息
     <message>
         <source>cabinets whose blacks are not known, so that it is not known whether they show the target</source>
         <translation>黑场未知、因此不知道能否显示目标的箱体</translation>
+    </message>
+    <message>
+        <source>cabinet whose white was not measured, so that it is not known what it shows, as another white is not the sum of its primaries</source>
+        <translation>白点未测量、因此不知道显示什么的箱体，因为另有箱体的白点不等于其各基色之和</translation>
+    </message>
+    <message>
+        <source>cabinets whose whites were not measured, so that it is not known what they show, as another white is not the sum of its primaries</source>
+        <translation>白点未测量、因此不知道显示什么的箱体，因为另有箱体的白点不等于其各基色之和</translation>
     </message>
 </context>
 <context>
