@@ -92,13 +92,16 @@ void CloseLookTest::dotsAreBelowTheTarget()
 void CloseLookTest::whitesAreSeenCloselyToo()
 {
     DisplayDescription d = oneApart();
-    d.wall.cabinets[5].white = color(900.0, 0.30, 0.31); // the others have no more than the sum of their primaries
+    for (WallCabinet &cabinet : d.wall.cabinets) {
+        cabinet.white = color(1100.0, 0.3127, 0.3290);
+    }
+    d.wall.cabinets[5].white = color(900.0, 0.30, 0.31);
     WallFixture f(d);
     CloseLook *look = f.page()->closeLook(Vertex::White);
     const auto at = [look](const QPointF &xy) { return QPointF(look->viewport().toPosition(xy)); };
     QCOMPARE(look->cabinetAt(at(QPointF(0.30, 0.31))), std::make_optional(std::size_t(5)));
-    const auto sum = look->cabinetAt(at(QPointF(0.3127, 0.3290)));
-    QVERIFY(sum && *sum != 5);
+    const auto other = look->cabinetAt(at(QPointF(0.3127, 0.3290)));
+    QVERIFY(other && *other != 5);
     QTest::mouseClick(look, Qt::LeftButton, Qt::NoModifier, at(QPointF(0.30, 0.31)).toPoint());
     QCOMPARE(f.window->session()->selectedCabinet(), std::make_optional(std::size_t(5)));
     QVERIFY(look->rect().contains(at(f.xy(Vertex::White)).toPoint()));
