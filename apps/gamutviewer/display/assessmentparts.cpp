@@ -31,6 +31,16 @@ std::optional<double> distanceFrom(const Model::Targets &display, const Model::T
     return nearest ? Model::uvDifference(Model::Target::fromYxy(1.0, nearest->x, nearest->y), color) : std::nullopt;
 }
 
+bool isTooBright(double wanted, double reached)
+{
+    return wanted > reached * fullDrive;
+}
+
+bool isAbove(double wanted, double reached)
+{
+    return wanted > reached * (1.0 + Model::driveRounding);
+}
+
 Model::Drive contentOf(Vertex vertex)
 {
     const double white = vertex == Vertex::White ? 1.0 : 0.0;

@@ -20,6 +20,10 @@ namespace gamutviewer {
 
 /*! \brief The highest of the three values of \a drive. */
 double highest(const Model::Drive &drive);
+/*! \brief Whether a luminance \a wanted is more than a display shows that has \a reached, but for fullDrive. */
+bool isTooBright(double wanted, double reached);
+/*! \brief Whether it is more than that at all, also by as little as isTooBright() lets pass. */
+bool isAbove(double wanted, double reached);
 /*! \brief The levels of \a vertex of a target. */
 Model::Drive contentOf(ceiechart::GamutVertex vertex);
 

@@ -8,7 +8,6 @@
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
 #include "display/wallassessmenttexts.h"
-#include "display/wallassessor.h"
 
 #include <gamutmodel/correction.h>
 #include <gamutmodel/gamutcoverage.h>

@@ -7,7 +7,6 @@
 #include "display/assessmenttexts.h"
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
-#include "display/wallassessor.h"
 
 #include <gamutmodel/exchangedprimaries.h>
 #include <gamutmodel/gamutcoverage.h>

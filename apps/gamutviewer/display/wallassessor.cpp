@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "display/wallassessor.h"
 
-#include "display/additivity.h"
 #include "display/assessmentparts.h"
 #include "display/assessmenttexts.h"
-#include "display/chromaticity.h"
-#include "display/knowndisplay.h"
+#include "display/cabinetluminance.h"
 
 #include <gamutmodel/gamutcoverage.h>
 #include <gamutmodel/nearestinside.h>
@@ -41,15 +39,6 @@ bool isGamutKnown(Model::DisplayFault fault, const Model::Targets &colors)
         && Model::spanTriangle(colors);
 }
 
-//! Whether a primary that lies inside is brighter in the target than \a drive says that the cabinet reaches.
-bool hasTooBrightPrimary(const Model::TargetDrive &drive, const std::array<double, 4> &outside)
-{
-    const Model::Drive drives[] = {drive.red, drive.green, drive.blue};
-    return std::any_of(std::begin(primaries), std::end(primaries), [&](Vertex primary) {
-        return outside[std::size_t(primary)] == 0.0 && highest(drives[int(primary)]) > fullDrive;
-    });
-}
-
 //! Sets what is known of the chromaticities of a cabinet whose gamut is known.
 void judgeGamut(CabinetAssessment &result, const Model::Targets &colors, const Model::Targets &target)
 {
@@ -80,104 +69,6 @@ void judgeGamut(CabinetAssessment &result, const Model::Targets &colors, const M
         }
     }
 }
-
-//! What the measured whites of a wall say of the cabinets whose white was not measured.
-struct MeasuredWhites {
-    bool areAdditive = true;
-    bool haveUpperBounds = true; // Additivity::isUpperBound
-};
-
-//! What is known of the luminances of a cabinet.
-class CabinetLuminance {
-public:
-    //! \a drive is that of the cabinet and has no fault. \a others are those whose white was measured.
-    CabinetLuminance(const WallCabinet &cabinet, const Model::DisplayDrive &drive, const Model::Targets &target,
-        const MeasuredWhites &others)
-        : m_drive(drive)
-        , m_target(target)
-        , m_sum(drive.largestLuminance(pointOf(target.white)))
-    {
-        if (!cabinet.white) {
-            m_isAdditive = others.areAdditive;
-            m_isUpperBound = others.haveUpperBounds;
-            return;
-        }
-        const Model::Target &white = *cabinet.white;
-        const Additivity additivity = additivityOf(drive, white);
-        m_isAdditive = additivity.isAdditive;
-        m_isUpperBound = additivity.isUpperBound;
-        if (m_isAdditive) {
-            m_offSum
-                = OffSum{white.Y / additivity.sum.Y - 1.0, Model::uvDifference(white, additivity.sum).value_or(0.0)};
-            m_measured = measuredShare(drive, white, target.white);
-        } else if (white.Y > 0.0 && isMeasuredWhite(white, target.white)) {
-            m_measuredWhite = white.Y;
-        }
-    }
-
-    //! Sets what it reaches.
-    void reach(CabinetAssessment &result) const
-    {
-        result.isAdditive = m_isAdditive;
-        if (m_isAdditive) {
-            result.offSum = m_offSum;
-        }
-        if (!m_sum) {
-            return; // the white is outside
-        }
-        if (m_isAdditive) {
-            result.largestWhite = m_sum->luminance * m_measured;
-            if (!result.limit) {
-                result.limit = vertexOf(m_sum->limit);
-            }
-        } else {
-            result.largestWhite = m_measuredWhite;
-        }
-        result.notTooBright = m_isUpperBound
-            ? std::make_optional(std::min(m_sum->luminance, result.largestWhite.value_or(m_sum->luminance)))
-            : result.largestWhite;
-    }
-
-    bool isUpperBound() const { return m_isUpperBound; }
-
-    //! What the primaries add to, and no more than it reaches. That is what a correction is for.
-    std::optional<double> correctable() const
-    {
-        return m_sum ? std::make_optional(
-                   std::min(m_sum->luminance * std::min(m_measured, 1.0), m_measuredWhite.value_or(m_sum->luminance)))
-                     : std::nullopt;
-    }
-
-    //! Judges it for a target whose luminances compare; \a result has what it reaches.
-    void judge(CabinetAssessment &result) const
-    {
-        if (result.largestWhite) {
-            result.headroom = *result.largestWhite / m_target.white.Y;
-        }
-        const auto needed = m_sum ? m_drive.driveFor(m_target) : std::nullopt;
-        if (!needed) {
-            return;
-        }
-        const auto most = result.largestWhite ? result.largestWhite : result.notTooBright;
-        const bool isExceeded = (most && isTooBright(m_target.white.Y, *most))
-            || (m_isUpperBound && hasTooBrightPrimary(*needed, result.outside));
-        if (isExceeded) {
-            result.luminance = Judgement::Fail;
-        } else if (m_isAdditive) {
-            result.luminance = Judgement::Pass;
-        }
-    }
-
-private:
-    const Model::DisplayDrive &m_drive;
-    const Model::Targets &m_target;
-    const std::optional<Model::LargestLuminance> m_sum;
-    bool m_isAdditive = true;
-    bool m_isUpperBound = true; // also of what is additive
-    std::optional<OffSum> m_offSum;
-    double m_measured = 1.0; // the luminance that was measured as a part of the sum
-    std::optional<double> m_measuredWhite; // at the white of the target, where the sum does not tell it
-};
 
 bool isAnyOff(const std::array<double, 4> &off)
 {
@@ -612,16 +503,6 @@ private:
 };
 
 } // namespace
-
-bool isTooBright(double wanted, double reached)
-{
-    return wanted > reached * fullDrive;
-}
-
-bool isAbove(double wanted, double reached)
-{
-    return wanted > reached * (1.0 + Model::driveRounding);
-}
 
 double fittedLuminance(const DisplayGamut &target, const WallAssessment &assessment)
 {

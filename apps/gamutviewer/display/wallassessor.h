@@ -10,11 +10,6 @@ namespace gamutviewer {
 /*! \brief All of assessWall() but the sentences. */
 WallAssessment judgedWall(const DisplayWall &wall, const DisplayGamut &target);
 
-/*! \brief Whether a luminance \a wanted is more than a cabinet shows that has \a reached, but for fullDrive. */
-bool isTooBright(double wanted, double reached);
-/*! \brief Whether it is more than that at all, also by as little as isTooBright() lets pass. */
-bool isAbove(double wanted, double reached);
-
 /*!
  * \brief The luminance of the white of \a target, or what all cabinets reach as far as known, if that is less.
  *

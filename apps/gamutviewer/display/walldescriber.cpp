@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "display/walldescriber.h"
 
+#include "display/assessmentparts.h"
 #include "display/assessmenttexts.h"
 #include "display/chromaticity.h"
 #include "display/valuetexts.h"
 #include "display/wallassessmenttexts.h"
-#include "display/wallassessor.h"
 
 #include <algorithm>
 

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 the ceiechart authors
+// SPDX-License-Identifier: MIT
+#include "display/cabinetluminance.h"
+
+#include "display/additivity.h"
+#include "display/assessmentparts.h"
+#include "display/chromaticity.h"
+#include "display/knowndisplay.h"
+
+#include <gamutmodel/nearestinside.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace gamutviewer {
+
+namespace {
+
+using Vertex = ceiechart::GamutVertex;
+
+//! Whether a primary that lies inside is brighter in the target than \a drive says that the cabinet reaches.
+bool hasTooBrightPrimary(const Model::TargetDrive &drive, const std::array<double, 4> &outside)
+{
+    constexpr Vertex primaries[] = {Vertex::Red, Vertex::Green, Vertex::Blue};
+    const Model::Drive drives[] = {drive.red, drive.green, drive.blue};
+    return std::any_of(std::begin(primaries), std::end(primaries), [&](Vertex primary) {
+        return outside[std::size_t(primary)] == 0.0 && highest(drives[int(primary)]) > fullDrive;
+    });
+}
+
+} // namespace
+
+CabinetLuminance::CabinetLuminance(const WallCabinet &cabinet, const Model::DisplayDrive &drive,
+    const Model::Targets &target, const MeasuredWhites &others)
+    : m_drive(drive)
+    , m_target(target)
+    , m_sum(drive.largestLuminance(pointOf(target.white)))
+{
+    if (!cabinet.white) {
+        m_isAdditive = others.areAdditive;
+        m_isUpperBound = others.haveUpperBounds;
+        return;
+    }
+    const Model::Target &white = *cabinet.white;
+    const Additivity additivity = additivityOf(drive, white);
+    m_isAdditive = additivity.isAdditive;
+    m_isUpperBound = additivity.isUpperBound;
+    if (m_isAdditive) {
+        m_offSum = OffSum{white.Y / additivity.sum.Y - 1.0, Model::uvDifference(white, additivity.sum).value_or(0.0)};
+        m_measured = measuredShare(drive, white, target.white);
+    } else if (white.Y > 0.0 && isMeasuredWhite(white, target.white)) {
+        m_measuredWhite = white.Y;
+    }
+}
+
+void CabinetLuminance::reach(CabinetAssessment &result) const
+{
+    result.isAdditive = m_isAdditive;
+    if (m_isAdditive) {
+        result.offSum = m_offSum;
+    }
+    if (!m_sum) {
+        return; // the white is outside
+    }
+    if (m_isAdditive) {
+        result.largestWhite = m_sum->luminance * m_measured;
+        if (!result.limit) {
+            result.limit = vertexOf(m_sum->limit);
+        }
+    } else {
+        result.largestWhite = m_measuredWhite;
+    }
+    result.notTooBright = m_isUpperBound
+        ? std::make_optional(std::min(m_sum->luminance, result.largestWhite.value_or(m_sum->luminance)))
+        : result.largestWhite;
+}
+
+std::optional<double> CabinetLuminance::correctable() const
+{
+    return m_sum ? std::make_optional(
+               std::min(m_sum->luminance * std::min(m_measured, 1.0), m_measuredWhite.value_or(m_sum->luminance)))
+                 : std::nullopt;
+}
+
+void CabinetLuminance::judge(CabinetAssessment &result) const
+{
+    if (result.largestWhite) {
+        result.headroom = *result.largestWhite / m_target.white.Y;
+    }
+    const auto needed = m_sum ? m_drive.driveFor(m_target) : std::nullopt;
+    if (!needed) {
+        return;
+    }
+    const auto most = result.largestWhite ? result.largestWhite : result.notTooBright;
+    const bool isExceeded = (most && isTooBright(m_target.white.Y, *most))
+        || (m_isUpperBound && hasTooBrightPrimary(*needed, result.outside));
+    if (isExceeded) {
+        result.luminance = Judgement::Fail;
+    } else if (m_isAdditive) {
+        result.luminance = Judgement::Pass;
+    }
+}
+
+} // namespace gamutviewer
