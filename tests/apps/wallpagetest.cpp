@@ -3,9 +3,7 @@
 #include "wallfixture.h"
 
 #include "display/samples.h"
-#include "display/wallassessment.h"
 #include "drawing/picture.h"
-#include "drawing/wallpainter.h"
 #include "editing/targetsession.h"
 #include "panel/cabinetmodel.h"
 #include "panel/cabinettable.h"
@@ -21,15 +19,9 @@
 
 #include <gamutfiles/correctionsfile.h>
 
-#include <QAccessible>
 #include <QAction>
-#include <QActionGroup>
-#include <QClipboard>
-#include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
-#include <QPainter>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -40,41 +32,22 @@ class WallPageTest : public QObject {
 
 private Q_SLOTS:
     void withoutAWallItSaysHowToGetOne();
-    void mapHangsAsTheWall();
-    void cellsAreAccessible();
     void arrowsSelectInMapLooksAndTable();
     void tableAndDotsSelect();
-    void quantityIsChosen();
-    void quantityThatIsKnownIsShownFirst();
     void fitIsOneStep();
     void fitIsOfferedAlikeOnPageAndPanel();
     void cabinetIsLeftOut();
     void chosenLineIsFollowed();
     void draggingTheTargetIsFollowed();
-    void cabinetsWithoutAPosition();
     void incompleteCabinetsAreShown();
     void sampleWallIsOpened();
-    void tableIsSorted();
-    void headersTakeTwoLines();
-    void valuesDoNotFillTheirCells();
-    void marksAreSeenInCellsOfAnySize();
-    void narrowCellsHaveNamesAndLetters();
-    void smallCellsAreNamedAtTheEdges();
-    void edgesNameRowsAndColumns();
-    void selectedCabinetIsNamedBesideTheMap();
-    void longNamesAreSeen();
-    void selectedRowStaysInSight();
     void nameInACloseLookIsWhole();
-    void allColumnsAreSeen();
-    void tableIsCopiedWhole();
     void wallIsRemoved();
     void verdictOfThePanelFitsToTheWall();
     void warningsAreInThePanel();
     void pictureShowsTheWall();
     void correctionsAreWritten();
     void listIsOpenedAsAWall();
-    void manyCabinets();
-    void sparseWallKeepsNoGaps();
 };
 
 void WallPageTest::withoutAWallItSaysHowToGetOne()
@@ -88,57 +61,6 @@ void WallPageTest::withoutAWallItSaysHowToGetOne()
     f.window->setDescription(oneDim(), QString());
     QVERIFY(f.window->wallPage()->map()->isVisible());
     QVERIFY(!f.window->wallPage()->emptyNote()->isVisible());
-}
-
-void WallPageTest::mapHangsAsTheWall()
-{
-    DisplayDescription d = oneDim();
-    d.wall.cabinets.erase(d.wall.cabinets.begin() + 6); // B3 is a gap
-    WallFixture f(d);
-    const QAbstractItemModel *model = f.page()->map()->model();
-    QCOMPARE(model->rowCount(), 3);
-    QCOMPARE(model->columnCount(), 4);
-    QCOMPARE(model->index(1, 1).data().toString(), QStringLiteral("−12 %"));
-    QCOMPARE(model->index(0, 0).data().toString(), QStringLiteral("+10 %"));
-    QVERIFY(!model->index(1, 2).flags().testFlag(Qt::ItemIsSelectable));
-    // It fills the room without scrolling.
-    const QRect last = f.page()->map()->visualRect(model->index(2, 3));
-    QVERIFY(f.page()->map()->viewport()->rect().contains(last));
-    // What falls short is marked in its corner, in a colour that is not that of the cell.
-    const QImage picture = f.page()->map()->grab().toImage();
-    const QRect bad = f.page()->map()->visualRect(model->index(1, 1));
-    const QRect good = f.page()->map()->visualRect(model->index(0, 0));
-    QVERIFY(picture.pixelColor(bad.topRight() + QPoint(-3, 3)) != picture.pixelColor(bad.topLeft() + QPoint(3, 3)));
-    QCOMPARE(picture.pixelColor(good.topRight() + QPoint(-3, 3)), picture.pixelColor(good.topLeft() + QPoint(3, 3)));
-}
-
-void WallPageTest::cellsAreAccessible()
-{
-    WallFixture f(oneDim());
-    QAccessibleInterface *map = QAccessible::queryAccessibleInterface(f.page()->map());
-    QVERIFY(map && map->tableInterface());
-    QAccessibleInterface *cell = map->tableInterface()->cellAt(1, 1);
-    QVERIFY(cell);
-    QCOMPARE(cell->text(QAccessible::Name), QStringLiteral("B2, headroom −12 %, does not show the target"));
-    QCOMPARE(map->tableInterface()->cellAt(0, 0)->text(QAccessible::Name),
-        QStringLiteral("A1, headroom +10 %, shows the target"));
-    QVERIFY(f.page()
-                ->map()
-                ->model()
-                ->index(1, 1)
-                .data(Qt::ToolTipRole)
-                .toString()
-                .contains(QStringLiteral("B2: white reaches ")));
-    DisplayDescription d = oneDim();
-    d.wall.cabinets[0].name = QStringLiteral("<b>A&1</b>");
-    f.window->setDescription(d, QString());
-    QVERIFY(f.page()
-                ->map()
-                ->model()
-                ->index(0, 0)
-                .data(Qt::ToolTipRole)
-                .toString()
-                .contains(QStringLiteral("&lt;b&gt;A&amp;1&lt;/b&gt;")));
 }
 
 void WallPageTest::arrowsSelectInMapLooksAndTable()
@@ -176,53 +98,6 @@ void WallPageTest::tableAndDotsSelect()
     QCOMPARE(f.selectedName(), QStringLiteral("B4"));
     QCOMPARE(f.page()->map()->currentIndex(), f.page()->map()->indexOf(7));
     QCOMPARE(table->currentIndex().row(), table->cabinets()->rowOf(7));
-}
-
-void WallPageTest::quantityIsChosen()
-{
-    WallFixture f(oneDim());
-    const QModelIndex bad = f.page()->map()->indexOf(5);
-    const std::pair<WallQuantity, const char *> expected[]
-        = {{WallQuantity::UvBefore, "0.0000"}, {WallQuantity::UvAfter, "0.0000"}, {WallQuantity::Luminance, "880"},
-            {WallQuantity::Headroom, "−12 %"}, {WallQuantity::Limit, "red"}};
-    QString legend;
-    for (const auto &[quantity, text] : expected) {
-        for (QAction *action : f.page()->quantities()->actions()) {
-            if (WallQuantity(action->data().toInt()) == quantity) {
-                const auto buttons = f.page()->findChildren<QToolButton *>();
-                const auto button = std::find_if(buttons.begin(), buttons.end(),
-                    [action](const QToolButton *of) { return of->defaultAction() == action; });
-                QVERIFY(button != buttons.end());
-                QTest::mouseClick(*button, Qt::LeftButton);
-            }
-        }
-        QCOMPARE(f.page()->quantity(), quantity);
-        QCOMPARE(bad.data().toString(), QString::fromUtf8(text));
-        QVERIFY(f.page()->legend()->accessibleName() != legend);
-        legend = f.page()->legend()->accessibleName();
-    }
-}
-
-void WallPageTest::quantityThatIsKnownIsShownFirst()
-{
-    // Luminances that cannot be compared have no headroom.
-    DisplayDescription d = oneDim();
-    d.gamuts.front().unit = LuminanceUnit::NotKnown;
-    WallFixture f(d);
-    QCOMPARE(f.page()->quantity(), WallQuantity::Luminance);
-    QCOMPARE(f.page()->map()->indexOf(5).data().toString(), QStringLiteral("880"));
-    QCOMPARE(f.page()->picture().wall->quantity, WallQuantity::Luminance);
-    f.window->setDescription(oneDim(), QString());
-    QCOMPARE(f.page()->quantity(), WallQuantity::Headroom);
-    // Once the user has chosen, that stays.
-    for (QAction *action : f.page()->quantities()->actions()) {
-        if (WallQuantity(action->data().toInt()) == WallQuantity::Headroom) {
-            action->trigger();
-        }
-    }
-    f.window->setDescription(d, QString());
-    QCOMPARE(f.page()->quantity(), WallQuantity::Headroom);
-    QCOMPARE(f.page()->map()->indexOf(5).data().toString(), QStringLiteral("–"));
 }
 
 void WallPageTest::fitIsOneStep()
@@ -352,32 +227,6 @@ void WallPageTest::draggingTheTargetIsFollowed()
     QCOMPARE(cell.data().toString(), before);
 }
 
-void WallPageTest::cabinetsWithoutAPosition()
-{
-    DisplayDescription d = oneDim();
-    d.wall.cabinets[5].row.reset();
-    d.wall.cabinets[5].column.reset();
-    WallFixture f(d);
-    QVERIFY(f.page()->map()->isVisible());
-    QVERIFY(f.page()->unplacedMap()->isVisible());
-    QVERIFY(!f.page()->map()->indexOf(5).isValid());
-    const QModelIndex other = f.page()->unplacedMap()->indexOf(5);
-    QVERIFY(other.isValid());
-    f.click(f.page()->unplacedMap(), other);
-    QCOMPARE(f.selectedName(), QStringLiteral("B2"));
-    for (WallCabinet &cabinet : d.wall.cabinets) {
-        cabinet.row.reset();
-        cabinet.column.reset();
-    }
-    f.window->setDescription(d, QString());
-    QVERIFY(!f.page()->map()->isVisible());
-    for (std::size_t i = 0; i < d.wall.cabinets.size(); ++i) {
-        QVERIFY(f.page()->unplacedMap()->indexOf(i).isValid());
-    }
-    f.window->setDescription(oneDim(), QString());
-    QVERIFY(!f.page()->unplacedMap()->isVisible());
-}
-
 void WallPageTest::incompleteCabinetsAreShown()
 {
     DisplayDescription d = oneDim();
@@ -433,319 +282,6 @@ void WallPageTest::sampleWallIsOpened()
     QVERIFY(f.window->warnings()->isHidden());
 }
 
-void WallPageTest::tableIsSorted()
-{
-    DisplayDescription d = description(1, 12);
-    dim(d.wall.cabinets[4]);
-    WallFixture f(d);
-    CabinetTable *table = f.page()->table();
-    const auto name = [table](int row) { return table->model()->index(row, CabinetModel::Name).data().toString(); };
-    QCOMPARE(name(0), QStringLiteral("✗ A5"));
-    table->sortByColumn(CabinetModel::Name, Qt::DescendingOrder);
-    QCOMPARE(name(0), QStringLiteral("✓ A12"));
-    QCOMPARE(name(2), QStringLiteral("✓ A10"));
-    QCOMPARE(name(3), QStringLiteral("✓ A9"));
-    table->sortByColumn(CabinetModel::Headroom, Qt::AscendingOrder);
-    QCOMPARE(name(0), QStringLiteral("✗ A5"));
-    QCOMPARE(name(1), QStringLiteral("✓ A1"));
-    // The selection stays with its cabinet.
-    f.click(table, table->model()->index(1, 0));
-    table->sortByColumn(CabinetModel::Headroom, Qt::DescendingOrder);
-    QCOMPARE(f.selectedName(), QStringLiteral("A1"));
-    QCOMPARE(name(table->currentIndex().row()), QStringLiteral("✓ A1"));
-}
-
-void WallPageTest::headersTakeTwoLines()
-{
-    WallFixture f(oneDim());
-    CabinetTable *table = f.page()->table();
-    QHeaderView *header = table->horizontalHeader();
-    const QFontMetrics metrics(header->font());
-    const auto width = [&](int column) { return header->sectionSize(column); };
-    const auto isWhole = [&](int column) {
-        const QString title = table->model()->headerData(column, Qt::Horizontal).toString();
-        const QRect needed
-            = metrics.boundingRect(QRect(0, 0, width(column), 1000), Qt::AlignLeft | Qt::TextWordWrap, title);
-        const int value = metrics.horizontalAdvance(table->model()->index(0, column).data().toString());
-        return needed.width() <= width(column) && needed.height() <= header->height() && value <= width(column);
-    };
-    for (int column = 0; column < CabinetModel::ColumnCount; ++column) {
-        QVERIFY2(isWhole(column), qPrintable(QString::number(column)));
-        const int flags = table->model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
-        QVERIFY(flags & Qt::TextWordWrap);
-    }
-    for (const int column : {int(CabinetModel::LimitedBy), int(CabinetModel::UvBefore), int(CabinetModel::UvAfter)}) {
-        const QString title = table->model()->headerData(column, Qt::Horizontal).toString();
-        QVERIFY2(width(column) < metrics.horizontalAdvance(title), qPrintable(title));
-    }
-    // The unit is not broken at its slash, and copied as part of the title.
-    QCOMPARE(
-        table->model()->headerData(CabinetModel::White, Qt::Horizontal).toString(), QStringLiteral("white\ncd/m²"));
-    table->copy();
-    QVERIFY(QApplication::clipboard()->text().contains(QStringLiteral("\twhite cd/m²\t")));
-    // The arrow of the column that is sorted by gets room of its own.
-    const int before = width(CabinetModel::Headroom);
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
-        QPoint(header->sectionViewportPosition(CabinetModel::Headroom) + before / 2, header->height() / 2));
-    QVERIFY(width(CabinetModel::Headroom) > before);
-    table->sortByJudgement();
-    QCOMPARE(width(CabinetModel::Headroom), before);
-}
-
-void WallPageTest::valuesDoNotFillTheirCells()
-{
-    for (const char *value : {"+112 %", "−12 %", "0.0123", "1061"}) {
-        for (const double width : {26.0, 40.0, 52.0}) {
-            const QString text = QString::fromUtf8(value);
-            const QString compact = compactValue(text, WallQuantity::Headroom);
-            const WallCellFonts fonts
-                = wallCellFonts(QGuiApplication::font(), QSizeF(width, width * 1.25), {text, compact, 3});
-            QVERIFY(fonts.hasValues);
-            const double taken = QFontMetricsF(fonts.value).horizontalAdvance(fonts.isCompact ? compact : text);
-            QVERIFY2(taken <= 0.9 * width, qPrintable(QStringLiteral("%1: %2 of %3").arg(text).arg(taken).arg(width)));
-            QVERIFY2(taken >= 0.4 * width, qPrintable(QStringLiteral("%1: %2 of %3").arg(text).arg(taken).arg(width)));
-        }
-    }
-}
-
-namespace {
-
-//! A cell of \a side that is judged as \a judgement, in luminances alone.
-QImage greyCell(int side, Judgement judgement, const QColor &color)
-{
-    WallCell cell;
-    cell.color = color;
-    cell.judgement = judgement;
-    QImage image(side, side, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    paintWallCell(&painter, image.rect(), cell, {}, QPalette());
-    painter.end();
-    return image.convertToFormat(QImage::Format_Grayscale8);
-}
-
-//! In how many pixels \a a and \a b differ by so much that it is seen.
-int differingPixels(const QImage &a, const QImage &b)
-{
-    constexpr int seen = 60; // of 255
-    int count = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            count += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) >= seen ? 1 : 0;
-        }
-    }
-    return count;
-}
-
-} // namespace
-
-void WallPageTest::marksAreSeenInCellsOfAnySize()
-{
-    std::vector<QColor> colors{QColor()}; // of a cabinet of which nothing is known
-    std::vector<CabinetAssessment> cabinets(20);
-    for (std::size_t i = 0; i < cabinets.size(); ++i) {
-        cabinets[i].headroom = 0.8 + 0.02 * double(i);
-        cabinets[i].largestWhite = 800.0 + 20.0 * double(i);
-        cabinets[i].uvBefore = 0.001 * double(i);
-        cabinets[i].uvAfter = 0.001 * double(i);
-    }
-    for (const WallQuantity quantity : allWallQuantities) {
-        const WallScale scale(quantity, cabinets, cd);
-        QVERIFY(!scale.steps().isEmpty());
-        for (const WallScale::Step &step : scale.steps()) {
-            colors.push_back(step.color);
-        }
-    }
-    for (const int side : {2, 3, 4, 6, 8, 10, 14, 18, 24, 26, 40, 100}) {
-        for (const QColor &color : colors) {
-            const QImage passes = greyCell(side, Judgement::Pass, color);
-            const QImage fails = greyCell(side, Judgement::Fail, color);
-            const QImage unknown = greyCell(side, Judgement::NotKnown, color);
-            const QString what = QStringLiteral("%1 pixels, %2").arg(side).arg(color.name());
-            const int least = side < 4 ? 1 : 4;
-            QVERIFY2(differingPixels(passes, fails) >= least, qPrintable(what));
-            QVERIFY2(differingPixels(passes, unknown) >= least, qPrintable(what));
-            QVERIFY2(differingPixels(fails, unknown) >= least, qPrintable(what));
-        }
-    }
-    const QString legend = wallLegendText(WallScale());
-    QVERIFY2(legend.contains(QStringLiteral("○ not known")), qPrintable(legend));
-}
-
-void WallPageTest::narrowCellsHaveNamesAndLetters()
-{
-    WallFixture f(description(8, 12));
-    WallMap *map = f.page()->map();
-    // 12 columns in the least width of a map: the cells are higher than wide, as far as there is room.
-    const WallGrid grid = placedCabinets(f.wall());
-    LongestTexts limits = longestValues({}, WallScale(WallQuantity::Limit, {}, cd));
-    limits.nameLength = longestName(f.wall());
-    QCOMPARE(compactValue(QStringLiteral("green"), WallQuantity::Limit), QStringLiteral("G"));
-    const WallLayout layout = wallLayout(map->font(), QSizeF(216, 500), grid, limits, 150);
-    QVERIFY(layout.fonts.hasNames && layout.fonts.hasValues && layout.fonts.isCompact);
-    QVERIFY(layout.fonts.name.pixelSize() >= 7 && layout.fonts.value.pixelSize() >= 7);
-    QCOMPARE(layout.top, 0.0);
-    // All of a name is there.
-    QVERIFY(QFontMetricsF(layout.fonts.name).horizontalAdvance(QStringLiteral("H12")) <= layout.cell.width());
-    for (const double width : {18.0, 19.0, 20.0}) {
-        WallCell cell;
-        cell.color = Qt::white;
-        cell.name = QStringLiteral("A10");
-        const WallCellFonts fonts = wallCellFonts(
-            map->font(), QSizeF(width, 36.0), {QStringLiteral("12345678"), QStringLiteral("12345678"), 3});
-        QVERIFY(fonts.hasNames && !fonts.hasValues);
-        const auto painted = [&](const QString &name) {
-            cell.name = name;
-            QImage image(QSize(int(width), 36), QImage::Format_RGB32);
-            image.fill(Qt::white);
-            QPainter painter(&image);
-            paintWallCell(&painter, image.rect(), cell, fonts, QPalette());
-            return image;
-        };
-        QVERIFY(painted(QStringLiteral("A10")) != painted(QStringLiteral("B21"))); // not "…" for both
-    }
-    QVERIFY(layout.cell.height() > 1.25 * layout.cell.width());
-    // A value that is too wide does not take the name with it.
-    const WallLayout distances
-        = wallLayout(map->font(), QSizeF(216, 500), grid, {QStringLiteral("0.0123"), QStringLiteral(".0123"), 3}, 150);
-    QVERIFY(distances.fonts.hasNames && !distances.fonts.hasValues);
-    // Wide ones are not stretched.
-    const WallLayout wide = wallLayout(map->font(), QSizeF(600, 2000), grid, limits, 150);
-    QCOMPARE(wide.cell.height(), 62.5);
-}
-
-void WallPageTest::smallCellsAreNamedAtTheEdges()
-{
-    WallFixture f(description(8, 120));
-    WallMap *map = f.page()->map();
-    QVERIFY(map->horizontalHeader()->isVisible());
-    QVERIFY(map->verticalHeader()->isVisible());
-    QCOMPARE(map->model()->headerData(2, Qt::Vertical).toString(), QStringLiteral("C"));
-    QCOMPARE(map->model()->headerData(99, Qt::Horizontal).toString(), QStringLiteral("100"));
-    const QRect last = map->visualRect(map->model()->index(7, 119));
-    QVERIFY(map->viewport()->rect().contains(last));
-    const auto inkOf = [](QWidget *widget) {
-        const QImage image = widget->grab().toImage();
-        int dark = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                dark += qGray(image.pixel(x, y)) < 170 ? 1 : 0;
-            }
-        }
-        return dark;
-    };
-    QVERIFY(inkOf(map->horizontalHeader()) > 30);
-    QVERIFY(inkOf(map->verticalHeader()) > 30);
-    // The frame of the cabinet that is selected is larger than its cell.
-    const auto coloured = [&](const QColor &color) {
-        const QImage image = map->grab().toImage();
-        int count = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                count += image.pixelColor(x, y) == color ? 1 : 0;
-            }
-        }
-        return count;
-    };
-    const QColor accent = map->palette().color(QPalette::Highlight);
-    const int before = coloured(accent);
-    for (const std::size_t cabinet : {std::size_t(0), std::size_t(403), f.wall().cabinets.size() - 1}) {
-        f.window->session()->selectCabinet(cabinet);
-        QVERIFY(coloured(accent) > before + 50);
-    }
-    // Where names fit into the cells, they are there.
-    f.window->setDescription(oneDim(), QString());
-    QTRY_VERIFY(!map->horizontalHeader()->isVisible());
-    QVERIFY(!map->verticalHeader()->isVisible());
-}
-
-void WallPageTest::edgesNameRowsAndColumns()
-{
-    DisplayDescription d = description(3, 4);
-    for (WallCabinet &cabinet : d.wall.cabinets) { // columns are letters
-        cabinet.name = QStringLiteral("%1%2").arg(QChar('A' + *cabinet.column - 1)).arg(*cabinet.row + 10);
-    }
-    WallGrid grid = placedCabinets(d.wall);
-    QCOMPARE(grid.rowNames.at(2), QStringLiteral("13"));
-    QCOMPARE(grid.columnNames.at(3), QStringLiteral("D"));
-    // Other names say nothing of the place: then the numbers of the rows and columns are told.
-    d.wall.cabinets[5].name = QStringLiteral("spare");
-    d.wall.cabinets[0].row = 0;
-    grid = placedCabinets(d.wall);
-    QCOMPARE(grid.rowNames, (std::vector<QString>{"0", "1", "2", "3"}));
-    QCOMPARE(grid.columnNames, (std::vector<QString>{"1", "2", "3", "4"}));
-}
-
-void WallPageTest::selectedCabinetIsNamedBesideTheMap()
-{
-    DisplayDescription d = oneDim();
-    d.wall.cabinets[11].row.reset();
-    d.wall.cabinets[11].column.reset();
-    WallFixture f(d);
-    QLabel *note = f.page()->selectionNote();
-    QCOMPARE(note->text(), QString());
-    f.click(f.page()->map(), f.page()->map()->indexOf(5));
-    QCOMPARE(note->text(), QStringLiteral("✗ B2: headroom −12 %"));
-    QVERIFY(note->isVisible());
-    f.window->session()->selectCabinet(11); // without a position
-    QVERIFY(note->text().startsWith(QStringLiteral("✓ C4: headroom")));
-    for (QAction *action : f.page()->quantities()->actions()) {
-        if (WallQuantity(action->data().toInt()) == WallQuantity::Limit) {
-            action->trigger();
-        }
-    }
-    f.window->session()->selectCabinet(5);
-    QCOMPARE(note->text(), QStringLiteral("✗ B2: limits red"));
-    f.window->session()->selectCabinet(std::nullopt);
-    QCOMPARE(note->text(), QString());
-}
-
-void WallPageTest::longNamesAreSeen()
-{
-    DisplayDescription d = oneDim();
-    for (WallCabinet &cabinet : d.wall.cabinets) {
-        cabinet.name.prepend(QStringLiteral("Stage-"));
-    }
-    d.wall.cabinets[5].isLeftOut = true;
-    WallFixture f(d);
-    CabinetTable *table = f.page()->table();
-    const auto room = [table] {
-        return table->columnWidth(CabinetModel::Name)
-            - 2 * (table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) + 1);
-    };
-    const QFontMetrics metrics(table->font());
-    const int row = table->cabinets()->rowOf(5);
-    const QString leftOut = table->model()->index(row, CabinetModel::Name).data().toString();
-    QVERIFY(leftOut.endsWith(QStringLiteral("Stage-B2 (left out)")));
-    QVERIFY(room() >= metrics.horizontalAdvance(leftOut));
-    // Names of any length are cut in the middle, as their ends differ; the tool tip has all of them.
-    const QString longName = QStringLiteral("Stage-left-side-upper-row-cabinet-A1");
-    d.wall.cabinets[0].name = longName;
-    f.window->setDescription(d, QString());
-    QVERIFY(room() < metrics.horizontalAdvance(longName));
-    QCOMPARE(table->textElideMode(), Qt::ElideMiddle);
-    const QModelIndex first = table->model()->index(table->cabinets()->rowOf(0), CabinetModel::Name);
-    QVERIFY(first.data(Qt::ToolTipRole).toString().contains(longName));
-    d.target.clear();
-    f.window->setDescription(d, QString());
-    QVERIFY(table->model()->index(0, 0).data(Qt::ToolTipRole).toString().contains(longName));
-    f.window->setDescription(oneDim(), QString());
-    QVERIFY(room() < metrics.horizontalAdvance(leftOut));
-}
-
-void WallPageTest::selectedRowStaysInSight()
-{
-    DisplayDescription d = description(8, 12);
-    dim(d.wall.cabinets[1]);
-    WallFixture f(d);
-    CabinetTable *table = f.page()->table();
-    f.click(table, table->model()->index(0, 1));
-    QCOMPARE(f.selectedName(), QStringLiteral("A2"));
-    QTest::mouseClick(f.page()->verdict()->withoutButton(), Qt::LeftButton);
-    QCOMPARE(table->currentIndex().row(), 95);
-    QTRY_VERIFY(table->viewport()->rect().contains(table->visualRect(table->currentIndex()).center()));
-}
-
 void WallPageTest::nameInACloseLookIsWhole()
 {
     DisplayDescription d = description(3, 4);
@@ -766,38 +302,6 @@ void WallPageTest::nameInACloseLookIsWhole()
         }
         f.window->session()->selectCabinet(std::nullopt);
     }
-}
-
-void WallPageTest::allColumnsAreSeen()
-{
-    const QFont before = QApplication::font();
-    QFont usual = before;
-    usual.setPointSize(9); // as on desktops
-    QApplication::setFont(usual);
-    const std::unique_ptr<const QFont, void (*)(const QFont *)> restored(
-        &before, [](const QFont *font) { QApplication::setFont(*font); });
-    WallFixture f(description(8, 12));
-    f.window->resize(1024, 768);
-    QTRY_COMPARE(f.window->size(), QSize(1024, 768));
-    CabinetTable *table = f.page()->table();
-    const auto areSeen = [table] { return table->horizontalHeader()->length() <= table->viewport()->width(); };
-    QTRY_VERIFY(areSeen());
-    table->sortByColumn(CabinetModel::Headroom, Qt::DescendingOrder); // with an arrow
-    QTRY_VERIFY(areSeen());
-    QVERIFY(f.page()->map()->width() > 200);
-    QVERIFY(f.page()->map()->isVisible());
-}
-
-void WallPageTest::tableIsCopiedWhole()
-{
-    WallFixture f(oneDim());
-    f.page()->table()->setFocus();
-    QTest::keyClick(f.page()->table(), Qt::Key_C, Qt::ControlModifier);
-    const QStringList lines = QApplication::clipboard()->text().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 13);
-    QCOMPARE(lines.first(),
-        QStringLiteral("cabinet\tlimited by\twhite cd/m²\theadroom\tΔu′v′ before\tΔu′v′ after\tΔu′v′ beside"));
-    QCOMPARE(lines.at(1), QStringLiteral("✗ B2\tred\t880.8\t−12 %\t0.0000\t0.0000\t0.0000"));
 }
 
 void WallPageTest::wallIsRemoved()
@@ -913,31 +417,6 @@ void WallPageTest::listIsOpenedAsAWall()
     QCOMPARE(f.window->currentPage(), f.window->wallPage());
     QVERIFY2(f.window->warnings()->warnings().join(QLatin1Char('\n')).contains(QStringLiteral("A3")),
         qPrintable(f.window->warnings()->warnings().join(QLatin1Char('\n'))));
-}
-
-void WallPageTest::manyCabinets()
-{
-    WallFixture f(description(100, 100));
-    WallMap *map = f.page()->map();
-    QCOMPARE(map->model()->rowCount(), 100);
-    QVERIFY(map->viewport()->rect().contains(map->visualRect(map->model()->index(99, 99))));
-    const QSize cell = map->visualRect(map->model()->index(50, 50)).size();
-    QVERIFY(cell.width() >= 1 && cell.height() >= 1);
-    f.click(map, map->model()->index(99, 99));
-    QCOMPARE(f.window->session()->selectedCabinet(), std::make_optional(std::size_t(9999)));
-}
-
-void WallPageTest::sparseWallKeepsNoGaps()
-{
-    DisplayDescription d = description(2, 2);
-    d.wall.cabinets[3].row = 2000000000;
-    d.wall.cabinets[3].column = -2000000000;
-    const WallGrid grid = placedCabinets(d.wall);
-    QCOMPARE(grid.rows, 3);
-    QCOMPARE(grid.columns, 3);
-    QCOMPARE(grid.at(2, 0), std::make_optional(std::size_t(3)));
-    QCOMPARE(grid.at(0, 1), std::make_optional(std::size_t(0)));
-    QVERIFY(!grid.at(2, 1));
 }
 
 QTEST_MAIN(WallPageTest)
