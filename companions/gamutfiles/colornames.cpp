@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "colornames_p.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -80,16 +81,17 @@ bool isFiller(const QString &word)
 //! "红", "红色", "红场", "纯红", "全红画面".
 QString chineseCore(QString word)
 {
-    for (const char *const prefix : {"全", "纯"}) {
-        const QString text = QString::fromUtf8(prefix);
-        if (word.startsWith(text)) {
-            word.remove(0, text.size());
+    static const QStringList prefixes{QStringLiteral("全"), QStringLiteral("纯")};
+    static const QStringList suffixes{
+        QStringLiteral("画面"), QStringLiteral("场"), QStringLiteral("屏"), QStringLiteral("色")};
+    for (const QString &prefix : prefixes) {
+        if (word.startsWith(prefix)) {
+            word.remove(0, prefix.size());
         }
     }
-    for (const char *const suffix : {"画面", "场", "屏", "色"}) {
-        const QString text = QString::fromUtf8(suffix);
-        if (word.endsWith(text)) {
-            word.chop(text.size());
+    for (const QString &suffix : suffixes) {
+        if (word.endsWith(suffix)) {
+            word.chop(suffix.size());
         }
     }
     return word;
@@ -97,10 +99,14 @@ QString chineseCore(QString word)
 
 MeasurementPart partOf(const QString &word)
 {
-    const QString core = chineseCore(word);
-    const auto found = std::find_if(
-        colorWords.begin(), colorWords.end(), [&](const Word &known) { return core == QString::fromUtf8(known.text); });
-    return found == colorWords.end() ? MeasurementPart::None : found->part;
+    static const QHash<QString, MeasurementPart> parts = [] {
+        QHash<QString, MeasurementPart> all;
+        for (const Word &known : colorWords) {
+            all.insert(QString::fromUtf8(known.text), known.part);
+        }
+        return all;
+    }();
+    return parts.value(chineseCore(word), MeasurementPart::None);
 }
 
 struct NumberToken {

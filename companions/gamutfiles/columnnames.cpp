@@ -6,6 +6,7 @@
 #include "numbers_p.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QVector>
@@ -24,7 +25,6 @@ struct ColumnText {
 //! Longer headers name no column.
 constexpr int longestHeader = 100;
 
-//! \a text without what is written in many ways: spaces and joining signs, kinds of primes, wide and raised characters.
 //! Most fields of a list are numbers, of which nothing need be looked up: no column is called by digits alone.
 bool isPlainNumber(const QString &text)
 {
@@ -33,17 +33,22 @@ bool isPlainNumber(const QString &text)
     });
 }
 
+//! \a text without what is written in many ways: spaces and joining signs, kinds of primes, wide and raised characters.
 QString compact(const QString &text)
 {
+    static const QString primes = QStringLiteral("\u2032\u2019\u2018\u00B4\u02B9\u02BC`");
+    static const QString joints = QStringLiteral("_-.^·⋅:−");
     QString result = text;
-    for (const char16_t prime : {0x2032, 0x2019, 0x2018, 0x00B4, 0x02B9, 0x02BC, 0x0060}) {
-        result.replace(QChar(ushort(prime)), QLatin1Char('\''));
+    for (QChar &c : result) {
+        if (primes.contains(c)) {
+            c = QLatin1Char('\'');
+        }
     }
     result = result.normalized(QString::NormalizationForm_KC); // m² and ㎡ become m2
-    QString kept;
-    std::copy_if(result.begin(), result.end(), std::back_inserter(kept),
-        [](QChar c) { return !c.isSpace() && !QStringLiteral("_-.^·⋅:−").contains(c); });
-    return kept;
+    const auto end
+        = std::remove_if(result.begin(), result.end(), [&](QChar c) { return c.isSpace() || joints.contains(c); });
+    result.truncate(int(end - result.begin()));
+    return result;
 }
 
 bool isNamed(const QString &name, const QString &known)
@@ -59,18 +64,45 @@ bool isNamed(const QString &name, const QString &known)
     return index == name.size();
 }
 
+//! Each character by itself, so that the length stays.
+QString inLowerCase(const QString &text)
+{
+    QString result = text;
+    std::transform(result.begin(), result.end(), result.begin(), [](QChar c) { return c.toLower(); });
+    return result;
+}
+
 std::optional<ColumnPart> partNamed(const QString &name)
 {
-    static const QVector<std::pair<QString, ColumnPart>> names = [] {
-        QVector<std::pair<QString, ColumnPart>> all;
+    using Known = std::pair<QString, ColumnPart>;
+    // By what they are in lower case, as every field of a list is looked up.
+    static const QHash<QString, QVector<Known>> names = [] {
+        QHash<QString, QVector<Known>> all;
         for (const KnownName &known : knownNames) {
-            all.append({QString::fromUtf8(known.name), known.part});
+            const QString text = QString::fromUtf8(known.name);
+            all[inLowerCase(text).remove(QLatin1Char('='))].append({text, known.part});
         }
         return all;
     }();
+    const auto alike = names.constFind(inLowerCase(name));
+    if (alike == names.constEnd()) {
+        return std::nullopt;
+    }
     const auto found
-        = std::find_if(names.begin(), names.end(), [&](const auto &known) { return isNamed(name, known.first); });
-    return found == names.end() ? std::nullopt : std::make_optional(found->second);
+        = std::find_if(alike->begin(), alike->end(), [&](const Known &known) { return isNamed(name, known.first); });
+    return found == alike->end() ? std::nullopt : std::make_optional(found->second);
+}
+
+const QVector<std::pair<QString, MeasuredUnit>> &units()
+{
+    static const QVector<std::pair<QString, MeasuredUnit>> all = [] {
+        QVector<std::pair<QString, MeasuredUnit>> made;
+        for (const KnownUnit &known : knownUnits) {
+            made.append({QString::fromUtf8(known.name), known.unit});
+        }
+        return made;
+    }();
+    return all;
 }
 
 bool isLuminance(ColumnPart part)
@@ -140,18 +172,17 @@ std::optional<ColumnName> withBrackets(const QString &key)
 //! "nits", "Luminance cd/m2", "Lv / cd/m²", "Leuchtdichte in cd/m²".
 std::optional<ColumnName> withUnitBehind(const QString &key)
 {
-    for (const KnownUnit &known : knownUnits) {
-        const QString unit = QString::fromUtf8(known.name);
-        if (!key.endsWith(unit, Qt::CaseInsensitive)) {
+    for (const auto &[text, unit] : units()) {
+        if (!key.endsWith(text, Qt::CaseInsensitive)) {
             continue;
         }
-        QString name = key.left(key.size() - unit.size());
-        const QString unitText = key.right(unit.size());
+        QString name = key.left(key.size() - text.size());
+        const QString unitText = key.right(text.size());
         if (name.isEmpty()) {
             // A percentage or a ratio of something unnamed is no luminance.
-            return known.unit == MeasuredUnit::Relative
+            return unit == MeasuredUnit::Relative
                 ? std::nullopt
-                : std::make_optional(ColumnName{ColumnPart::Luminance, known.unit, unitText, true});
+                : std::make_optional(ColumnName{ColumnPart::Luminance, unit, unitText, true});
         }
         for (const char *const joint : {"/", ",", "in", "en"}) {
             if (name.endsWith(QLatin1String(joint))) {
@@ -160,8 +191,7 @@ std::optional<ColumnName> withUnitBehind(const QString &key)
             }
         }
         const auto part = partNamed(name);
-        return part && isLuminance(*part) ? std::make_optional(ColumnName{*part, known.unit, unitText, false})
-                                          : std::nullopt;
+        return part && isLuminance(*part) ? std::make_optional(ColumnName{*part, unit, unitText, false}) : std::nullopt;
     }
     return std::nullopt;
 }
@@ -229,6 +259,9 @@ bool isOfOtherObserver(const QString &text)
         return false;
     }
     QString key = compact(text);
+    if (!key.contains(QLatin1String("10")) && !isOtherObserver(key)) {
+        return false;
+    }
     const auto isColor = [](const QString &name) {
         const auto part = partNamed(name);
         return part == ColumnPart::x || part == ColumnPart::y || part == ColumnPart::u || part == ColumnPart::v
@@ -287,12 +320,9 @@ bool statesOtherObserver(const QString &line)
 MeasuredUnit measuredUnit(const QString &text)
 {
     const QString key = compact(text);
-    for (const KnownUnit &known : knownUnits) {
-        if (key.compare(QString::fromUtf8(known.name), Qt::CaseInsensitive) == 0) {
-            return known.unit;
-        }
-    }
-    return MeasuredUnit::NotKnown;
+    const auto found = std::find_if(units().begin(), units().end(),
+        [&key](const auto &known) { return key.compare(known.first, Qt::CaseInsensitive) == 0; });
+    return found == units().end() ? MeasuredUnit::NotKnown : found->second;
 }
 
 } // namespace gamutfiles
