@@ -7,8 +7,8 @@
 #include "gamutfromprimaries_p.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 
 namespace gamutfiles {
@@ -104,6 +104,52 @@ QVector<Problem> copies(const EdidDisplay &display)
     return {{text, {}, 0, 0}};
 }
 
+bool isHexDigit(char c)
+{
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+}
+
+bool isWhiteSpace(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+//! Whether \a text has a "0x" at \a index.
+bool hasHexMark(const QByteArray &text, int index)
+{
+    return index + 1 < text.size() && text.at(index) == '0' && (text.at(index + 1) == 'x' || text.at(index + 1) == 'X');
+}
+
+//! \a line without the address at its beginning, such as "00f0:" or " 0x10:".
+QByteArray withoutAddress(const QByteArray &line)
+{
+    int begin = 0;
+    while (begin < line.size() && isWhiteSpace(line.at(begin))) {
+        ++begin;
+    }
+    begin += hasHexMark(line, begin) ? 2 : 0;
+    int end = begin;
+    while (end < line.size() && isHexDigit(line.at(end))) {
+        ++end;
+    }
+    return end > begin && end < line.size() && line.at(end) == ':' ? line.mid(end + 1) : line;
+}
+
+//! \a line without what divides the bytes: white space, commas and "0x".
+QByteArray withoutSpacing(const QByteArray &line)
+{
+    QByteArray digits;
+    digits.reserve(line.size());
+    for (int i = 0; i < line.size(); ++i) {
+        if (hasHexMark(line, i)) {
+            ++i;
+        } else if (!isWhiteSpace(line.at(i)) && line.at(i) != ',') {
+            digits += line.at(i);
+        }
+    }
+    return digits;
+}
+
 } // namespace
 
 bool isEdid(const QByteArray &bytes)
@@ -171,9 +217,6 @@ Outcome<QByteArray> edidFromHexDump(const QByteArray &text)
 {
     using NoEdid = Outcome<QByteArray>;
     constexpr int maximumSize = 256 * edidBlockSize; // a base block and 255 extensions
-    static const QRegularExpression address(QStringLiteral("^\\s*(0x)?[0-9a-f]+:"));
-    static const QRegularExpression notDigits(QStringLiteral("0x|[\\s,]"));
-    static const QRegularExpression hexBytes(QStringLiteral("^([0-9a-f]{2})+$"));
     const bool mayHoldOne = text.size() <= maximumHexDumpBytes && (text.contains("ff") || text.contains("FF"));
     if (!mayHoldOne) {
         return NoEdid::failure(EdidText::tr("holds no EDID"));
@@ -188,15 +231,15 @@ Outcome<QByteArray> edidFromHexDump(const QByteArray &text)
         bytes.clear();
     };
     for (const QByteArray &line : text.split('\n')) {
-        const QString digits = QString::fromLatin1(line).toLower().remove(address).remove(notDigits);
+        const QByteArray digits = withoutSpacing(withoutAddress(line));
         if (digits.isEmpty()) {
             continue;
         }
-        if (!hexBytes.match(digits).hasMatch()) {
+        if (digits.size() % 2 != 0 || !std::all_of(digits.begin(), digits.end(), isHexDigit)) {
             finish();
             continue;
         }
-        const QByteArray piece = QByteArray::fromHex(digits.toLatin1());
+        const QByteArray piece = QByteArray::fromHex(digits);
         if (isEdid(piece) || bytes.size() + piece.size() > maximumSize) {
             finish();
         }
