@@ -118,8 +118,13 @@ std::optional<QStringList> readRecord(const QString &text, Position &position, Q
             }
             blank = true;
         } else {
-            field += c;
-            blank = blank && c.isSpace();
+            // At once with what follows up to the next character that can mean something.
+            const QChar *const begin = text.constData() + position.index;
+            const QChar *const end = std::find_if(begin + 1, text.constData() + text.size(),
+                [separator](QChar next) { return next == quote || next == separator || next == QLatin1Char('\n'); });
+            field.append(begin, int(end - begin));
+            blank = blank && std::all_of(begin, end, [](QChar one) { return one.isSpace(); });
+            position.index += int(end - begin) - 1;
         }
     }
     ++position.index;

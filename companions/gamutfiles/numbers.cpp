@@ -54,6 +54,13 @@ std::optional<std::pair<QString, QChar>> withoutGroups(const QString &text, QCha
     return ofThree ? std::make_optional(std::make_pair(groups.join(QString()), *first)) : std::nullopt;
 }
 
+//! Whether a number can begin with \a c. Most of what is no number is told by that.
+bool canBeginNumber(QChar c)
+{
+    return isDigit(c) || c == point || c == comma || c == QLatin1Char('-') || c == QLatin1Char('+')
+        || c == QChar(0x2212);
+}
+
 //! The number as C++ writes it, before it is known to be finite.
 struct Spelling {
     QString text;
@@ -67,6 +74,9 @@ std::optional<Spelling> spelling(const QString &field, QChar decimalSign)
         return std::nullopt;
     }
     QString rest = field.trimmed();
+    if (!rest.isEmpty() && !canBeginNumber(rest.at(0))) {
+        return std::nullopt;
+    }
     QString sign;
     // Typesetters' minus U+2212, which spreadsheets take over from texts.
     if (rest.startsWith(QLatin1Char('-')) || rest.startsWith(QChar(0x2212))) {
