@@ -13,7 +13,8 @@
 
 /*!
  * \file
- * \brief soaktest [--seconds N] [--seed N] current|legacy|diagram|window: random use until the time is over.
+ * \brief soaktest [--seconds N | --events N] [--seed N] current|legacy|diagram|window: random use until the time is
+ * over or as many steps and events have been made.
  *
  * Each round has a seed of its own. Without --seed, half of the rounds have the same ones at each run, and half others.
  * A round that ended the program is repeated by its seed; with --seed, the only round is that one.
@@ -58,6 +59,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     double seconds = 2.0;
+    long events = 0;
     unsigned seed = 0;
     bool isRepeated = false;
     Use use = nullptr;
@@ -65,6 +67,8 @@ int main(int argc, char **argv)
     for (int i = 1; i < argc; ++i) {
         if (std::strcmp(argv[i], "--seconds") == 0 && i + 1 < argc) {
             seconds = std::atof(argv[++i]);
+        } else if (std::strcmp(argv[i], "--events") == 0 && i + 1 < argc) {
+            events = std::atol(argv[++i]);
         } else if (std::strcmp(argv[i], "--seed") == 0 && i + 1 < argc) {
             seed = unsigned(std::strtoul(argv[++i], nullptr, 10));
             isRepeated = true;
@@ -74,7 +78,7 @@ int main(int argc, char **argv)
         }
     }
     if (!use) {
-        std::fprintf(stderr, "soaktest [--seconds N] [--seed N] current|legacy|diagram|window\n");
+        std::fprintf(stderr, "soaktest [--seconds N | --events N] [--seed N] current|legacy|diagram|window\n");
         return EXIT_FAILURE;
     }
 
@@ -83,7 +87,7 @@ int main(int argc, char **argv)
     long rounds = 0;
     long steps = 0;
     const auto run = [&](unsigned which) {
-        std::snprintf(where, sizeof where, "%s --seed %u", part, which);
+        std::snprintf(where, sizeof where, "%s --seed %u, after %ld steps and events", part, which, steps);
         soak::Round round(which, stepsPerRound, &watch);
         use(round);
         ++rounds;
@@ -95,11 +99,18 @@ int main(int argc, char **argv)
         const unsigned other = std::random_device()();
         std::printf("%s: seeds from 1 and from %u\n", part, other);
         std::fflush(stdout);
+        constexpr qint64 saidEvery = 60000; // milliseconds
+        qint64 said = 0;
         QElapsedTimer timer;
         timer.start();
-        for (unsigned i = 1; double(timer.elapsed()) < seconds * 1000.0; ++i) {
+        for (unsigned i = 1; events > 0 ? steps < events : double(timer.elapsed()) < seconds * 1000.0; ++i) {
             run(i);
             run(other + i);
+            if (timer.elapsed() - said >= saidEvery) {
+                said = timer.elapsed();
+                std::printf("%s: %ld steps and events so far\n", part, steps);
+                std::fflush(stdout);
+            }
         }
     }
     std::printf("%s: %ld rounds, %ld steps and events\n", part, rounds, steps);
