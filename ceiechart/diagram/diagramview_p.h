@@ -130,6 +130,8 @@ public:
     QPointF zoomAnchor() const;
 
     // Painting
+    //! Paints what of the view lies in \a region.
+    void paintView(QPainter &p, const QRegion &region);
     void forgetPictures();
     const QImage &linesPicture();
     void refreshOverlay();
@@ -200,6 +202,7 @@ public:
 
     QImage lines; //!< scale and gamuts, which no edit changes, on nothing; made for the first step of an edit
     bool linesAreReady = false;
+    bool isBlank = false; //!< there was not enough memory to paint it
 
     Hand hand = Hand::Idle;
     Qt::MouseButton button = Qt::NoButton;

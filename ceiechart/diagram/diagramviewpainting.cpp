@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 namespace ceiechart {
 
@@ -257,32 +258,51 @@ void DiagramView::paintBelowTarget(QPainter *) { }
 void DiagramView::paintEvent(QPaintEvent *event)
 {
     QPainter p(this);
-    const DiagramPalette &palette = diagramPalette(d->content.ground);
-    const bool isReadoutOnly = !d->overlay.readout.isEmpty()
-        && event->region().subtracted(d->overlay.readoutPlace.toAlignedRect()).isEmpty();
+    // Thrown through the toolkit, a lack of memory would leave it unable to paint.
+    try {
+        d->paintView(p, event->region());
+        d->isBlank = false;
+    } catch (const std::bad_alloc &) {
+        p.setClipping(false);
+        p.setOpacity(1.0);
+        p.setTransform(QTransform());
+        p.fillRect(rect(), diagramPalette(d->content.ground).ground);
+        // Once more, and all of it; then not before there is something else to paint.
+        if (!d->isBlank) {
+            d->isBlank = true;
+            update();
+        }
+    }
+}
+
+void DiagramView::Private::paintView(QPainter &p, const QRegion &region)
+{
+    const DiagramPalette &palette = diagramPalette(content.ground);
+    const bool isReadoutOnly
+        = !overlay.readout.isEmpty() && region.subtracted(overlay.readoutPlace.toAlignedRect()).isEmpty();
     if (!isReadoutOnly) {
-        p.setClipRegion(event->region());
-        const bool isAll = event->region() == QRegion(rect());
+        p.setClipRegion(region);
+        const bool isAll = region == QRegion(q->rect());
         if (isAll) {
-            d->painter->paintColors(&p, devicePixelRatioF());
+            painter->paintColors(&p, q->devicePixelRatioF());
         } else {
-            p.drawImage(QPointF(), d->painter->colors(devicePixelRatioF()));
+            p.drawImage(QPointF(), painter->colors(q->devicePixelRatioF()));
         }
         p.setRenderHint(QPainter::Antialiasing);
-        if (!d->linesAreReady && isAll) {
+        if (!linesAreReady && isAll) {
             // As the view moves, lines that are kept would have to be made, laid over and dropped for each picture.
-            d->painter->paintScale(&p);
-            d->painter->paintGamuts(&p);
+            painter->paintScale(&p);
+            painter->paintGamuts(&p);
         } else {
-            p.drawImage(QPointF(), d->linesPicture());
+            p.drawImage(QPointF(), linesPicture());
         }
         p.save();
-        paintBelowTarget(&p);
+        q->paintBelowTarget(&p);
         p.restore();
-        d->painter->paintEdited(&p, event->region());
-        d->overlay.paint(p, d->viewport.plot(), palette, font(), event->region());
+        painter->paintEdited(&p, region);
+        overlay.paint(p, viewport.plot(), palette, q->font(), region);
     }
-    d->overlay.paintReadout(p, palette);
+    overlay.paintReadout(p, palette);
 }
 
 } // namespace ceiechart

@@ -8,6 +8,7 @@
 #include "drawing/wallscale.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
+#include "panel/ornothing.h"
 
 #include <QFont>
 
@@ -98,7 +99,7 @@ const DisplayWall &CabinetModel::wall() const
 
 std::vector<std::size_t> CabinetModel::orderNow() const
 {
-    const auto assessed = m_session->assessment().wall;
+    const auto &assessed = m_session->assessment().wall;
     std::vector<std::size_t> order(wall().cabinets.size());
     std::iota(order.begin(), order.end(), std::size_t(0));
     if (m_column == Name) {
@@ -130,19 +131,22 @@ void CabinetModel::refresh()
 {
     if (!std::equal(m_named.begin(), m_named.end(), wall().cabinets.begin(), wall().cabinets.end(),
             [](const QString &label, const WallCabinet &cabinet) { return label == cabinet.label(); })) {
-        m_named.clear();
+        // Both or none: memory can be short.
+        std::vector<QString> named;
         for (const WallCabinet &cabinet : wall().cabinets) {
-            m_named.push_back(cabinet.label());
+            named.push_back(cabinet.label());
         }
         m_names = cabinetNames(wall());
+        m_named = std::move(named);
     }
     std::vector<std::size_t> order = orderNow();
+    std::vector<int> rows(order.size(), -1);
+    for (std::size_t row = 0; row < order.size(); ++row) {
+        rows[order[row]] = int(row);
+    }
     const auto use = [&] {
         m_order = std::move(order);
-        m_rows.assign(m_order.size(), -1);
-        for (std::size_t row = 0; row < m_order.size(); ++row) {
-            m_rows[m_order[row]] = int(row);
-        }
+        m_rows = std::move(rows);
     };
     if (order.size() != m_order.size()) {
         beginResetModel();
@@ -196,7 +200,7 @@ int CabinetModel::columnCount(const QModelIndex &parent) const
 
 QString CabinetModel::text(std::size_t cabinet, int column) const
 {
-    const auto assessed = m_session->assessment().wall;
+    const auto &assessed = m_session->assessment().wall;
     if (column == Name) {
         const QString &name = m_names[cabinet];
         return assessed && assessed->cabinets[cabinet].isLeftOut ? tr("%1 (left out)", "a cabinet").arg(name) : name;
@@ -226,12 +230,17 @@ QString CabinetModel::text(std::size_t cabinet, int column) const
 
 QVariant CabinetModel::data(const QModelIndex &index, int role) const
 {
+    return orNothing([&] { return shownData(index, role); });
+}
+
+QVariant CabinetModel::shownData(const QModelIndex &index, int role) const
+{
     const std::size_t row = std::size_t(index.row());
     if (!index.isValid() || row >= m_order.size() || m_order.size() != wall().cabinets.size()) {
         return QVariant();
     }
     const std::size_t cabinet = m_order[row];
-    const auto assessed = m_session->assessment().wall;
+    const auto &assessed = m_session->assessment().wall;
     const auto judgement = assessed ? assessed->cabinets[cabinet].judgement : Judgement::NotKnown;
     switch (role) {
     case Qt::DisplayRole:

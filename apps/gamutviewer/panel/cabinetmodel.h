@@ -41,6 +41,7 @@ public:
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 private:
+    QVariant shownData(const QModelIndex &index, int role) const;
     const DisplayWall &wall() const;
     std::vector<std::size_t> orderNow() const;
     QString text(std::size_t cabinet, int column) const;

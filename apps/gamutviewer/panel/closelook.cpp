@@ -7,6 +7,7 @@
 #include "display/wallassessmenttexts.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
+#include "panel/ornothing.h"
 
 #include <ceiechart/diagram/diagrampainter.h>
 
@@ -282,9 +283,11 @@ void CloseLook::paintEvent(QPaintEvent *event)
 {
     TargetView::paintEvent(event);
     if (!isHeld()) {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        paintSelected(&painter);
+        orNothing([this] {
+            QPainter painter(this);
+            painter.setRenderHint(QPainter::Antialiasing);
+            paintSelected(&painter);
+        });
     }
 }
 

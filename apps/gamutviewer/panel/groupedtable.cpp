@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "panel/groupedtable.h"
 
+#include "panel/ornothing.h"
 #include "panel/scaledfont.h"
 
 #include <QHeaderView>
@@ -25,7 +26,7 @@ public:
     {
         switch (role) {
         case Qt::DisplayRole:
-            return m_table->m_groups.at(m_group).laterText(m_row, column());
+            return orNothing([this] { return QVariant(m_table->m_groups.at(m_group).laterText(m_row, column())); });
         case Qt::TextAlignmentRole:
             return int(Qt::AlignRight | Qt::AlignVCenter);
         default:

@@ -7,6 +7,7 @@
 #include "editing/targetedits.h"
 #include "editing/targetsession.h"
 #include "panel/accentbutton.h"
+#include "panel/ornothing.h"
 #include "panel/plaintooltip.h"
 #include "panel/scaledfont.h"
 
@@ -110,12 +111,14 @@ public:
         QStyleOptionViewItem option = item;
         initStyleOption(&option, index);
         painter->save();
-        QRect place = option.rect.adjusted(margin, 0, -margin, 0);
-        if (isSection(index)) {
-            paintSection(painter, option, place, index);
-        } else if (index.data(Qt::CheckStateRole).isValid()) {
-            paintEntry(painter, option, place, index);
-        }
+        orNothing([&] {
+            const QRect place = option.rect.adjusted(margin, 0, -margin, 0);
+            if (isSection(index)) {
+                paintSection(painter, option, place, index);
+            } else if (index.data(Qt::CheckStateRole).isValid()) {
+                paintEntry(painter, option, place, index);
+            }
+        });
         painter->restore();
     }
 

@@ -3,6 +3,7 @@
 #include "panel/wallmap.h"
 
 #include "editing/targetsession.h"
+#include "panel/ornothing.h"
 #include "panel/scaledfont.h"
 #include "panel/wallmapmodel.h"
 
@@ -38,6 +39,12 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
+        orNothing([&] { paintCell(painter, option, index); });
+    }
+
+private:
+    void paintCell(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+    {
         auto cell = m_model->cell(index);
         if (!cell) {
             return;
@@ -52,7 +59,6 @@ public:
         }
     }
 
-private:
     const WallMap *m_map;
     const WallMapModel *m_model;
     WallCellFonts m_fonts;
@@ -86,6 +92,12 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
+        orNothing([this] { paintNames(); });
+    }
+
+private:
+    void paintNames()
+    {
         QPainter painter(viewport());
         std::vector<double> borders{double(sectionViewportPosition(0))};
         for (int i = 0; i < count(); ++i) {
@@ -96,7 +108,6 @@ protected:
             orientation() == Qt::Horizontal ? grid.columnNames : grid.rowNames, borders, m_font, palette());
     }
 
-private:
     const WallMapModel *m_model;
     QFont m_font;
 };
@@ -293,8 +304,10 @@ void WallLegend::resizeEvent(QResizeEvent *event)
 
 void WallLegend::paintEvent(QPaintEvent *)
 {
-    QPainter painter(this);
-    paintWallLegend(&painter, rect(), m_scale, font(), palette());
+    orNothing([this] {
+        QPainter painter(this);
+        paintWallLegend(&painter, rect(), m_scale, font(), palette());
+    });
 }
 
 } // namespace gamutviewer

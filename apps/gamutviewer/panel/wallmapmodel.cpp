@@ -6,6 +6,7 @@
 #include "display/wallassessmenttexts.h"
 #include "editing/document.h"
 #include "editing/targetsession.h"
+#include "panel/ornothing.h"
 
 #include <algorithm>
 
@@ -50,18 +51,22 @@ void WallMapModel::refresh(const WallScale &scale)
         return a.name == b.name && a.row == b.row && a.column == b.column && a.isIncomplete == b.isIncomplete;
     };
     if (!std::equal(m_places.begin(), m_places.end(), places.begin(), places.end(), isSame)) {
-        beginResetModel();
-        m_places = std::move(places);
-        m_grid = m_gridOf(wall());
-        m_longest.nameLength = longestName(wall());
-        m_indexes.assign(m_places.size(), QModelIndex());
-        for (int row = 0; row < m_grid.rows; ++row) {
-            for (int column = 0; column < m_grid.columns; ++column) {
-                if (const auto cabinet = m_grid.at(row, column)) {
-                    m_indexes[*cabinet] = createIndex(row, column);
+        // All of it is there before anything changes: memory can be short.
+        WallGrid grid = m_gridOf(wall());
+        std::vector<QModelIndex> indexes(places.size());
+        for (int row = 0; row < grid.rows; ++row) {
+            for (int column = 0; column < grid.columns; ++column) {
+                if (const auto cabinet = grid.at(row, column)) {
+                    indexes[*cabinet] = createIndex(row, column);
                 }
             }
         }
+        const int longest = longestName(wall());
+        beginResetModel();
+        m_places = std::move(places);
+        m_grid = std::move(grid);
+        m_longest.nameLength = longest;
+        m_indexes = std::move(indexes);
         endResetModel();
     } else if (m_grid.rows > 0) {
         Q_EMIT dataChanged(index(0, 0), index(m_grid.rows - 1, m_grid.columns - 1));
@@ -144,6 +149,11 @@ QVariant WallMapModel::headerData(int section, Qt::Orientation orientation, int 
 }
 
 QVariant WallMapModel::data(const QModelIndex &index, int role) const
+{
+    return orNothing([&] { return shownData(index, role); });
+}
+
+QVariant WallMapModel::shownData(const QModelIndex &index, int role) const
 {
     if (const IncompleteCabinet *incomplete = incompleteAt(index)) {
         const QString text = tr("%1: nothing is known of it: %2", "cabinet, and why")

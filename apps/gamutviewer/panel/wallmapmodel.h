@@ -48,6 +48,7 @@ private:
         bool isIncomplete = false;
     };
 
+    QVariant shownData(const QModelIndex &index, int role) const;
     const DisplayWall &wall() const;
     const CabinetAssessment *assessed(std::size_t cabinet) const;
     QString description(std::size_t cabinet) const;
