@@ -8,6 +8,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <new>
+
 using namespace gamutviewer;
 
 namespace {
@@ -77,12 +79,10 @@ DisplayWall wall(const std::vector<const char *> &names)
     return result;
 }
 
-FollowedMeasurement measurement(const GamutFile &file, const std::optional<DisplayWall> &wall = std::nullopt)
+FollowedMeasurement measurement(
+    const GamutFile &file, const std::optional<DisplayWall> &wall = std::nullopt, const QString &cabinet = QString())
 {
-    FollowedMeasurement result;
-    result.file = file;
-    result.wall = wall;
-    return result;
+    return {file, wall, cabinet};
 }
 
 QString namesOf(const DisplayWall &wall)
@@ -159,7 +159,36 @@ private Q_SLOTS:
     void replacesAWallThatIsFollowed();
     void removedWallIsTheDescriptions();
     void selectionStaysWithItsCabinet();
+    void showsNothingByHalves();
+    void showsAgainWhatWasShownByHalves();
+    void keepsNothingByHalves();
 };
+
+namespace {
+
+//! Hears of changes of a document; for some of them it has not enough memory.
+class Hearer {
+public:
+    explicit Hearer(const Document &document)
+    {
+        QObject::connect(&document, &Document::changed, &m_context, [this, &document] {
+            if (m_failures > 0) {
+                --m_failures;
+                throw std::bad_alloc();
+            }
+            m_shown = descriptionText(document.description());
+        });
+    }
+    void failNext(int times) { m_failures = times; }
+    const QByteArray &shown() const { return m_shown; }
+
+private:
+    QObject m_context;
+    int m_failures = 0;
+    QByteArray m_shown;
+};
+
+} // namespace
 
 void FollowedDocumentTest::showsWhatIsFollowedWithoutAStep()
 {
@@ -502,6 +531,64 @@ void FollowedDocumentTest::replacesAWallThatIsFollowed()
     f.document.change(added, QStringLiteral("add"));
     QCOMPARE(f.ownCabinets(), QStringLiteral("B1 B2 B3"));
     QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
+}
+
+void FollowedDocumentTest::showsNothingByHalves()
+{
+    Fixture f;
+    f.document.showFollowed(measurement(followed(0.71), wall({"A1"}), QStringLiteral("A1")));
+    const QByteArray before = descriptionText(f.document.description());
+    Hearer hearer(f.document);
+    hearer.failNext(1);
+    QVERIFY_EXCEPTION_THROWN(
+        f.document.showFollowed(measurement(followed(0.72), wall({"A1", "A2"}), QStringLiteral("A2"))), std::bad_alloc);
+    QCOMPARE(descriptionText(f.document.description()), before);
+    QCOMPARE(hearer.shown(), before);
+    QCOMPARE(f.document.measuredCabinet(), QStringLiteral("A1"));
+    QVERIFY(f.ownIs(description()));
+    hearer.failNext(1);
+    QVERIFY_EXCEPTION_THROWN(f.document.showFollowed(std::nullopt), std::bad_alloc);
+    QCOMPARE(descriptionText(f.document.description()), before);
+    f.document.showFollowed(std::nullopt);
+    QCOMPARE(hearer.shown(), descriptionText(description()));
+}
+
+void FollowedDocumentTest::showsAgainWhatWasShownByHalves()
+{
+    Fixture f;
+    Hearer hearer(f.document);
+    f.document.showFollowed(measurement(followed(0.71)));
+    const QByteArray before = hearer.shown();
+    hearer.failNext(2); // what was there before cannot be shown, either
+    QVERIFY_EXCEPTION_THROWN(f.document.showFollowed(measurement(followed(0.72))), std::bad_alloc);
+    QSignalSpy changed(&f.document, &Document::changed);
+    f.document.showAgain();
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(hearer.shown(), before);
+    f.document.showAgain(); // it has been shown everywhere
+    QCOMPARE(changed.size(), 1);
+}
+
+void FollowedDocumentTest::keepsNothingByHalves()
+{
+    Fixture f;
+    f.document.showFollowed(measurement(followed(0.71)));
+    const QByteArray shown = descriptionText(f.document.description());
+    const QVector<QPointF> trail = f.document.whiteTrail();
+    Hearer hearer(f.document);
+    hearer.failNext(1);
+    QVERIFY_EXCEPTION_THROWN(f.document.keepFollowed(QStringLiteral("keep")), std::bad_alloc);
+    QVERIFY(f.ownIs(description()));
+    QVERIFY(f.document.hasUnkept());
+    QVERIFY(!f.document.isModified());
+    QCOMPARE(f.document.history()->count(), 0);
+    QCOMPARE(hearer.shown(), shown);
+    QCOMPARE(f.document.whiteTrail(), trail);
+    f.document.keepFollowed(QStringLiteral("keep"));
+    QVERIFY(f.document.isModified());
+    QCOMPARE(descriptionText(f.document.own()), shown);
+    f.document.history()->undo();
+    QVERIFY(f.ownIs(description()));
 }
 
 QTEST_GUILESS_MAIN(FollowedDocumentTest)

@@ -5,6 +5,7 @@
 
 #include <dlfcn.h>
 #include <errno.h>
+#include <execinfo.h>
 #include <fcntl.h>
 #include <limits.h>
 #include <stdarg.h>
@@ -16,9 +17,9 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
-enum Call { None, Open, Read, Write, Fsync, Rename, Memory };
+enum Call { None, Open, Read, Write, Fsync, Rename, Memory, OwnMemory };
 
-static const char *const names[] = {"", "open", "read", "write", "fsync", "rename", "memory"};
+static const char *const names[] = {"", "open", "read", "write", "fsync", "rename", "memory", "own memory"};
 static enum Call failing = None;
 static int failingNumber = 0;
 static int isLasting = 0;
@@ -37,7 +38,9 @@ void failCall(const char *call, int number, const char *folder, int lasting)
     atomic_store(&fired, 0);
     failingNumber = number;
     snprintf(failingFolder, sizeof failingFolder, "%s", folder ? folder : "");
-    for (int i = Open; call && i <= Memory; ++i) {
+    void *frame = NULL;
+    backtrace(&frame, 1); /* loads what it needs */
+    for (int i = Open; call && i <= OwnMemory; ++i) {
         if (strcmp(call, names[i]) == 0) {
             failing = (enum Call)i;
         }
@@ -243,26 +246,73 @@ extern void *__libc_malloc(size_t size);
 extern void *__libc_calloc(size_t number, size_t size);
 extern void *__libc_realloc(void *block, size_t size);
 
-static int mayAllocate(void)
+/*
+ * Whether what has called the allocator at the address caller is code of the project, be it through the containers of
+ * the toolkit's core or the C++ library, which pass on that there is no memory. All else of the toolkit does not.
+ */
+static int isOwn(const void *caller)
 {
-    if (failing == Memory && atomic_load(&armed) && fails(Memory)) {
-        errno = ENOMEM;
+    static const char *const passing[] = {"libc.so", "libstdc++", "Qt5Core", "Qt6Core"};
+    static const char *const own[] = {"libceiechart", "libgamut", "libcolortemperature"};
+    void *frames[32];
+    const int number = backtrace(frames, 32);
+    Dl_info program;
+    if (!dladdr((const void *)(size_t)&failCall, &program)) {
         return 0;
     }
-    return 1;
+    int i = 0;
+    while (i < number && frames[i] != caller) {
+        ++i;
+    }
+    for (; i < number; ++i) {
+        Dl_info info;
+        if (!dladdr(frames[i], &info) || !info.dli_fname) {
+            return 0;
+        }
+        int passes = 0;
+        for (size_t k = 0; k < sizeof passing / sizeof *passing; ++k) {
+            passes = passes || strstr(info.dli_fname, passing[k]) != NULL;
+        }
+        if (passes) {
+            continue;
+        }
+        for (size_t k = 0; k < sizeof own / sizeof *own; ++k) {
+            if (strstr(info.dli_fname, own[k])) {
+                return 1;
+            }
+        }
+        return info.dli_fbase == program.dli_fbase;
+    }
+    return 0;
+}
+
+static int mayAllocate(const void *caller)
+{
+    if ((failing != Memory && failing != OwnMemory) || !atomic_load(&armed)) {
+        return 1;
+    }
+    if (!fails(failing)) {
+        return 1;
+    }
+    if (failing == OwnMemory && !isOwn(caller)) {
+        atomic_store(&fired, 0);
+        return 1;
+    }
+    errno = ENOMEM;
+    return 0;
 }
 
 void *malloc(size_t size)
 {
-    return mayAllocate() ? __libc_malloc(size) : NULL;
+    return mayAllocate(__builtin_return_address(0)) ? __libc_malloc(size) : NULL;
 }
 
 void *calloc(size_t number, size_t size)
 {
-    return mayAllocate() ? __libc_calloc(number, size) : NULL;
+    return mayAllocate(__builtin_return_address(0)) ? __libc_calloc(number, size) : NULL;
 }
 
 void *realloc(void *block, size_t size)
 {
-    return mayAllocate() ? __libc_realloc(block, size) : NULL;
+    return mayAllocate(__builtin_return_address(0)) ? __libc_realloc(block, size) : NULL;
 }

@@ -17,7 +17,8 @@ extern "C" {
 
 /*
  * The call "open", "read", "write", "fsync", "rename" or "memory" of this number fails, as do all later ones if it is
- * lasting; null: none does.
+ * lasting; null: none does. "own memory" counts all allocations, of which the one of this number fails only where code
+ * of the project asks for it.
  */
 void failCall(const char *call, int number, const char *folder, int lasting);
 

@@ -12,6 +12,9 @@
 #include <QUndoCommand>
 
 #include <algorithm>
+#include <memory>
+#include <new>
+#include <utility>
 
 namespace gamutviewer {
 
@@ -205,10 +208,22 @@ void Document::cancelDrag()
 void Document::showFollowed(
     const std::optional<FollowedMeasurement> &measurement, const std::optional<FollowedMeasurement> &toKeep)
 {
-    m_followed = measurement;
-    m_followedToKeep = toKeep;
-    refresh();
-    Q_EMIT changed();
+    std::optional<FollowedMeasurement> followed = measurement;
+    std::optional<FollowedMeasurement> followedToKeep = toKeep;
+    DisplayDescription description = withMeasurement(m_own, followed);
+    const auto exchange = [&] {
+        std::swap(m_followed, followed);
+        std::swap(m_followedToKeep, followedToKeep);
+        std::swap(m_description, description);
+    };
+    exchange();
+    try {
+        tellChanged();
+    } catch (const std::bad_alloc &) {
+        exchange();
+        tellChanged();
+        throw;
+    }
 }
 
 QString Document::measuredCabinet() const
@@ -218,7 +233,7 @@ QString Document::measuredCabinet() const
 
 bool Document::hasUnkept() const
 {
-    return m_followed && descriptionText(withMeasurement(toKeep())) != descriptionText(m_own);
+    return m_followed && descriptionText(withMeasurement(m_own, toKeep())) != descriptionText(m_own);
 }
 
 void Document::keepFollowed(const QString &text)
@@ -226,22 +241,57 @@ void Document::keepFollowed(const QString &text)
     if (m_dragging) {
         cancelDrag();
     }
-    if (hasUnkept()) {
-        m_history.push(new Step(this, m_own, withMeasurement(toKeep()), text, 0));
+    if (!hasUnkept()) {
+        return;
+    }
+    DisplayDescription own = m_own;
+    DisplayDescription description = m_description;
+    QVector<QPointF> trail = m_whiteTrail;
+    auto step = std::make_unique<Step>(this, m_own, withMeasurement(m_own, toKeep()), text, 0);
+    try {
+        m_history.push(step.get());
+        step.release();
+    } catch (const std::bad_alloc &) {
+        m_isHalfShown = true;
+        // The history does a step first, then takes it, then tells of it.
+        if (m_history.count() > 0 && m_history.command(m_history.count() - 1) == step.get()) {
+            step.release();
+            showAgain();
+            return;
+        }
+        std::swap(m_own, own);
+        std::swap(m_description, description);
+        std::swap(m_whiteTrail, trail);
+        showAgain();
+        throw;
     }
 }
 
-void Document::refresh()
+void Document::showAgain()
 {
-    m_description = m_followed ? withMeasurement(*m_followed) : m_own;
+    if (m_isHalfShown) {
+        Q_EMIT modifiedChanged(isModified());
+        tellChanged();
+    }
 }
 
-//! own() with what \a measurement adds to it.
-DisplayDescription Document::withMeasurement(const FollowedMeasurement &measurement) const
+void Document::tellChanged()
 {
-    DisplayDescription result = withFile(m_own, measurement.file, usualRole(measurement.file));
-    if (measurement.wall) {
-        result.wall = withLeftOut(*measurement.wall, leftOutOf(m_own.wall));
+    m_isHalfShown = true;
+    Q_EMIT changed();
+    m_isHalfShown = false;
+}
+
+//! \a own with what \a measurement adds to it, if there is any.
+DisplayDescription Document::withMeasurement(
+    const DisplayDescription &own, const std::optional<FollowedMeasurement> &measurement)
+{
+    if (!measurement) {
+        return own;
+    }
+    DisplayDescription result = withFile(own, measurement->file, usualRole(measurement->file));
+    if (measurement->wall) {
+        result.wall = withLeftOut(*measurement->wall, leftOutOf(own.wall));
     }
     return result;
 }
@@ -285,19 +335,22 @@ DisplayWall Document::wallWithoutFollowed(const DisplayWall &edited) const
     }
     const QSet<QString> leftOut = leftOutOf(edited);
     const QSet<QString> before = leftOutOf(shown);
-    if (leftOut == before || !toKeep().wall) {
+    if (leftOut == before || !toKeep()->wall) {
         return m_own.wall;
     }
     // Also those that are not shown, as they are being measured.
-    return withLeftOut(*toKeep().wall, leftOutOf(m_own.wall) - before + leftOut);
+    return withLeftOut(*toKeep()->wall, leftOutOf(m_own.wall) - before + leftOut);
 }
 
 void Document::show(const DisplayDescription &own)
 {
-    m_own = own;
-    refresh();
+    // All of it is there before anything changes: memory can be short.
+    DisplayDescription shown = withMeasurement(own, m_followed);
+    DisplayDescription kept = own;
+    m_own = std::move(kept);
+    m_description = std::move(shown);
     Q_EMIT edited();
-    Q_EMIT changed();
+    tellChanged();
 }
 
 void Document::show(const DisplayDescription &own, const QVector<QPointF> &trail)

@@ -79,6 +79,9 @@ public:
      *
      * \a toKeep is what the description takes over of it; nothing: what is shown. They differ by a cabinet that is
      * being measured, for instance.
+     *
+     * Where there is not enough memory to show it, std::bad_alloc is thrown, and what was shown before is shown again;
+     * see showAgain().
      */
     void showFollowed(const std::optional<FollowedMeasurement> &measurement,
         const std::optional<FollowedMeasurement> &toKeep = std::nullopt);
@@ -88,9 +91,17 @@ public:
     bool followsWall() const { return m_followed && m_followed->wall; }
     /*! \brief Whether a measurement is followed that own() does not have. */
     bool hasUnkept() const;
-    /*! \brief Takes the measurement that is followed into the description, as one step of the history called \a text.
+    /*!
+     * \brief Takes the measurement that is followed into the description, as one step of the history called \a text.
+     *
+     * Where there is not enough memory, std::bad_alloc is thrown, and nothing has changed; see showAgain().
      */
     void keepFollowed(const QString &text);
+    /*!
+     * \brief Shows what is to be shown once more if there was not enough memory for it to be shown everywhere; throws
+     * std::bad_alloc if there still is not.
+     */
+    void showAgain();
 
     /*! \brief Where the target's white has been after the last steps, oldest first, the present one last. */
     const QVector<QPointF> &whiteTrail() const { return m_whiteTrail; }
@@ -110,9 +121,13 @@ private:
 
     void show(const DisplayDescription &own);
     void show(const DisplayDescription &own, const QVector<QPointF> &trail);
-    void refresh();
-    DisplayDescription withMeasurement(const FollowedMeasurement &measurement) const;
-    const FollowedMeasurement &toKeep() const { return m_followedToKeep ? *m_followedToKeep : *m_followed; }
+    void tellChanged();
+    static DisplayDescription withMeasurement(
+        const DisplayDescription &own, const std::optional<FollowedMeasurement> &measurement);
+    const std::optional<FollowedMeasurement> &toKeep() const
+    {
+        return m_followedToKeep ? m_followedToKeep : m_followed;
+    }
     DisplayDescription withoutFollowed(const DisplayDescription &edited) const;
     DisplayWall wallWithoutFollowed(const DisplayWall &edited) const;
     QVector<QPointF> trailWith(const DisplayDescription &description) const;
@@ -121,6 +136,7 @@ private:
     DisplayDescription m_own;
     std::optional<FollowedMeasurement> m_followed;
     std::optional<FollowedMeasurement> m_followedToKeep; // where it is not what is shown
+    bool m_isHalfShown = false; // by some of those that hear of changes, and not by others
     DisplayDescription m_saved;
     QString m_fileName;
     QUndoStack m_history;

@@ -32,7 +32,7 @@ Following::Following(std::unique_ptr<FollowedInput> input, const MeasurementOpti
 {
     begin();
     m_turn.setSingleShot(true);
-    connect(&m_turn, &QTimer::timeout, this, &Following::turn);
+    connect(&m_turn, &QTimer::timeout, this, [this] { whileMemoryLasts([this] { readLines(); }); });
     m_frame.setSingleShot(true);
     m_frame.setTimerType(Qt::PreciseTimer);
     m_frame.setInterval(frameMilliseconds);
@@ -47,10 +47,10 @@ Following::Following(std::unique_ptr<FollowedInput> input, const MeasurementOpti
     connect(&m_count, &QTimer::timeout, this, &Following::countLines);
     connect(m_input.get(), &FollowedInput::arrived, this, [this] { m_turn.start(0); });
     connect(m_input.get(), &FollowedInput::restarted, this, [this] {
-        if (!m_isMemoryShort) {
+        whileMemoryLasts([this] {
             begin();
             m_frame.start();
-        }
+        });
     });
     m_count.start();
     m_turn.start(0);
@@ -112,17 +112,23 @@ bool Following::readPiece()
 }
 
 //! Of the lines that were being read when memory was short, some may be lost: nothing may be made of what follows them.
-void Following::turn()
+template <typename Action>
+void Following::whileMemoryLasts(const Action &action)
 {
     if (m_isMemoryShort) {
         return;
     }
     try {
-        readLines();
+        action();
     } catch (const std::bad_alloc &) {
-        m_isMemoryShort = true;
-        m_frame.stop();
+        breakOff();
     }
+}
+
+void Following::breakOff()
+{
+    m_isMemoryShort = true;
+    m_frame.stop();
 }
 
 void Following::readLines()
@@ -161,9 +167,11 @@ void Following::readLines()
 
 void Following::countLines()
 {
-    m_linesPerSecond = std::accumulate(m_lines.begin(), m_lines.end(), 0);
-    m_lines.append(0);
-    m_lines = m_lines.mid(std::max(0, int(m_lines.size()) - countsPerSecond));
+    whileMemoryLasts([this] {
+        m_linesPerSecond = std::accumulate(m_lines.begin(), m_lines.end(), 0);
+        m_lines.append(0);
+        m_lines = m_lines.mid(std::max(0, int(m_lines.size()) - countsPerSecond));
+    });
     Q_EMIT stateChanged();
 }
 

@@ -52,6 +52,8 @@ public:
     bool hasOtherUnit() const { return m_hasOtherUnit; }
     /*! \brief Whether there was not enough memory to go on: latest() stays what it came to before. */
     bool isMemoryShort() const { return m_isMemoryShort; }
+    /*! \brief Reads no further, as there is not enough memory to show what it comes to. */
+    void breakOff();
     /*! \brief How many lines came in the last second. */
     int linesPerSecond() const { return m_linesPerSecond; }
     /*! \brief The most lines that were read in one turn of the event loop. */
@@ -65,7 +67,8 @@ Q_SIGNALS:
 
 private:
     FollowedMeasurement madeOf(const std::optional<DisplayWall> &wall) const;
-    void turn();
+    template <typename Action>
+    void whileMemoryLasts(const Action &action);
     void readLines();
     void begin();
     bool readPiece();

@@ -13,6 +13,8 @@
 #include <QLocale>
 #include <QTextDocument>
 
+#include <new>
+
 namespace gamutviewer {
 
 namespace {
@@ -41,7 +43,9 @@ FollowMenu::~FollowMenu() = default;
 
 void FollowMenu::follow(std::unique_ptr<FollowedInput> input, const MeasurementOptions &options)
 {
-    stop();
+    if (!stop()) {
+        return;
+    }
     m_following = std::make_unique<Following>(std::move(input), options);
     connect(m_following.get(), &Following::measured, this, &FollowMenu::show);
     connect(m_following.get(), &Following::stateChanged, this, &FollowMenu::refresh);
@@ -58,32 +62,60 @@ void FollowMenu::followByDialog()
     }
 }
 
+/*!
+ * \brief Whether there was memory for \a action, if anything is followed; if not, it is followed no further.
+ *
+ * Thrown through the event loop, a lack of memory would end the program, and with it what is open.
+ */
+template <typename Action>
+bool FollowMenu::whileMemoryLasts(const Action &action)
+{
+    if (!m_following) {
+        return true;
+    }
+    try {
+        action();
+        return true;
+    } catch (const std::bad_alloc &) {
+        m_following->breakOff();
+        return false;
+    }
+}
+
 void FollowMenu::show()
+{
+    whileMemoryLasts([this] { showLatest(); });
+}
+
+void FollowMenu::showLatest()
 {
     m_document->showFollowed(m_following->inProgress(), m_following->asIfEnded());
 }
 
-void FollowMenu::keep()
+bool FollowMenu::keep()
 {
-    if (m_following) {
-        show(); // with what came since the last frame
+    return whileMemoryLasts([this] {
+        showLatest(); // with what came since the last frame
         m_document->keepFollowed(tr("keep %1").arg(shownName(m_following->input())));
-    }
+    });
 }
 
-void FollowMenu::stop()
+bool FollowMenu::stop()
 {
-    if (m_following) {
-        keep();
-        m_following.reset();
-        m_document->showFollowed(std::nullopt);
-        refresh();
+    if (!keep() || !whileMemoryLasts([this] { m_document->showFollowed(std::nullopt); })) {
+        return false;
     }
+    m_following.reset();
+    refresh();
+    return true;
 }
 
-bool FollowMenu::wouldLose() const
+bool FollowMenu::keepWhatWouldBeLost()
 {
-    return m_following && !m_following->input().isRepeatable() && m_document->hasUnkept();
+    bool isToBeKept = false;
+    const bool isKnown
+        = whileMemoryLasts([&] { isToBeKept = !m_following->input().isRepeatable() && m_document->hasUnkept(); });
+    return isKnown && (!isToBeKept || keep());
 }
 
 QString FollowMenu::text() const
@@ -136,6 +168,19 @@ QString FollowMenu::details() const
 }
 
 void FollowMenu::refresh()
+{
+    if (!m_following) {
+        refreshLabel();
+        return;
+    }
+    // Where memory is short, at the next time.
+    whileMemoryLasts([this] {
+        m_document->showAgain();
+        refreshLabel();
+    });
+}
+
+void FollowMenu::refreshLabel()
 {
     m_keep->setEnabled(m_following != nullptr);
     m_stop->setEnabled(m_following != nullptr);

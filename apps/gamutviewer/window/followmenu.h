@@ -29,16 +29,22 @@ public:
     explicit FollowMenu(Document *document, QWidget *parent = nullptr);
     ~FollowMenu() override;
 
-    /*! \brief Follows \a input from now on, instead of what was followed before, which is kept. */
+    /*!
+     * \brief Follows \a input from now on, instead of what was followed before, which is kept. Where there is not
+     * enough memory to keep that, it stays.
+     */
     void follow(std::unique_ptr<FollowedInput> input, const MeasurementOptions &options = MeasurementOptions());
-    /*! \brief Takes what has been measured so far into the document, as a step of its history. */
-    void keep();
-    /*! \brief Follows no more; what has been measured so far is kept. */
-    void stop();
+    /*!
+     * \brief Takes what has been measured so far into the document, as a step of its history; false if there is not
+     * enough memory for it, which the label says.
+     */
+    bool keep();
+    /*! \brief Follows no more; what has been measured so far is kept, or else false is returned as by keep(). */
+    bool stop();
     /*! \brief Nothing while nothing is followed. */
     const Following *following() const { return m_following.get(); }
-    /*! \brief Whether there is something that would be lost with the window, as it cannot be read again. */
-    bool wouldLose() const;
+    /*! \brief Keeps what would be lost with the window, as it cannot be read again; false as by keep(). */
+    bool keepWhatWouldBeLost();
 
     /*! \brief Says how far it is; its tool tip why the last line could not be read. Hidden while nothing is followed.
      */
@@ -50,7 +56,11 @@ public:
 private:
     void followByDialog();
     void show();
+    void showLatest();
+    template <typename Action>
+    bool whileMemoryLasts(const Action &action);
     void refresh();
+    void refreshLabel();
     QString text() const;
     QString progressText() const;
     QString details() const;

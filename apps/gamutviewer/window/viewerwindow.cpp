@@ -30,6 +30,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <new>
+
 namespace gamutviewer {
 
 namespace {
@@ -217,15 +219,21 @@ void ViewerWindow::warn(const QString &text)
 
 void ViewerWindow::closeEvent(QCloseEvent *event)
 {
-    if (m_followMenu->wouldLose()) {
-        m_followMenu->keep();
+    event->setAccepted(mayClose());
+}
+
+//! Thrown through the event loop, a lack of memory would end the program, and with it what is open.
+bool ViewerWindow::mayClose()
+{
+    try {
+        if (!m_followMenu->keepWhatWouldBeLost() || !mayLoseChanges()) {
+            return false;
+        }
+        saveSettings();
+        return true;
+    } catch (const std::bad_alloc &) {
+        return false; // there may be memory for it the next time
     }
-    if (!mayLoseChanges()) {
-        event->ignore();
-        return;
-    }
-    saveSettings();
-    event->accept();
 }
 
 void ViewerWindow::restoreSettings()

@@ -162,6 +162,7 @@ private:
 
     /*! \brief Whether changes may be lost: they have been saved, or the user does not want them. */
     bool mayLoseChanges();
+    bool mayClose();
     void refreshTitle();
     void showReadout(const QPointF &xy, int decimals);
     void setReadout(const QString &text);
