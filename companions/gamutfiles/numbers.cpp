@@ -108,10 +108,33 @@ std::optional<Spelling> spelling(const QString &field, QChar decimalSign)
     return Spelling{sign + ungrouped->first + point + fraction + exponent, decimals >= 0, ungrouped->second};
 }
 
+//! What spelling() comes to of digits with at most one point or comma in them, as most numbers are; nothing for others.
+std::optional<DecimalEvidence> plainEvidence(const QString &text)
+{
+    const auto begin = text.begin() + (text.startsWith(QLatin1Char('-')) ? 1 : 0);
+    const auto divider = std::find_if_not(begin, text.end(), isDigit);
+    const auto whole = divider - begin;
+    if (divider == text.end()) {
+        return whole > 0 && text.size() <= longestNumber ? std::make_optional(DecimalEvidence::None) : std::nullopt;
+    }
+    const auto decimals = text.end() - divider - 1;
+    if ((*divider != point && *divider != comma) || whole + decimals == 0 || text.size() > longestNumber
+        || !std::all_of(divider + 1, text.end(), isDigit)) {
+        return std::nullopt;
+    }
+    if (whole > 0 && whole <= 3 && *begin != QLatin1Char('0') && decimals == 3) {
+        return DecimalEvidence::Ambiguous; // of thousands
+    }
+    return *divider == point ? DecimalEvidence::Point : DecimalEvidence::Comma;
+}
+
 } // namespace
 
 DecimalEvidence decimalEvidence(const QString &text)
 {
+    if (const auto plain = plainEvidence(text)) {
+        return *plain;
+    }
     const auto withPoint = spelling(text, point);
     const auto withComma = spelling(text, comma);
     if (!withPoint && !withComma) {
