@@ -98,6 +98,24 @@ void RowThreads::takeParts(const std::function<void(int)> &work, int parts) noex
     }
 }
 
+void RowThreads::begin(int parts, const std::function<void(int)> &work)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_work = &work;
+        m_parts = parts;
+        m_next = 0;
+        ++m_turn;
+    }
+    m_begun.notify_all();
+}
+
+void RowThreads::waitForOthers(std::unique_lock<std::mutex> &lock)
+{
+    m_work = nullptr;
+    m_ended.wait(lock, [this] { return m_working == 0; });
+}
+
 void RowThreads::run(int parts, const std::function<void(int)> &work)
 {
     if (m_count > 1 && parts > 1 && !m_isStarted) {
@@ -109,37 +127,66 @@ void RowThreads::run(int parts, const std::function<void(int)> &work)
         }
         return;
     }
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_work = &work;
-        m_parts = parts;
-        m_next = 0;
-        ++m_turn;
-    }
-    m_begun.notify_all();
+    begin(parts, work);
     takeParts(work, parts);
     std::unique_lock<std::mutex> lock(m_mutex);
-    m_work = nullptr;
-    m_ended.wait(lock, [this] { return m_working == 0; });
+    waitForOthers(lock);
     if (m_failure) {
         std::rethrow_exception(std::exchange(m_failure, nullptr));
     }
 }
 
-void runInBands(RowThreads *threads, int top, int bottom, const std::function<void(int, int)> &work)
+void RowThreads::beginAhead(int parts, std::function<void(int)> work)
 {
-    const int bands = top < bottom ? (bottom - top + bandHeight - 1) / bandHeight : 0;
-    const auto draw = [&](int band) {
-        const int first = top + band * bandHeight;
-        work(first, std::min(first + bandHeight, bottom));
-    };
+    if (m_count > 1 && !m_isStarted) {
+        start();
+    }
+    m_ahead = std::move(work);
+    if (!m_threads.empty()) {
+        begin(parts, m_ahead);
+    }
+}
+
+void RowThreads::endAhead()
+{
+    if (!m_threads.empty()) {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_next = m_parts;
+        waitForOthers(lock);
+        m_failure = nullptr;
+    }
+    m_ahead = nullptr;
+}
+
+void runParts(RowThreads *threads, int parts, const std::function<void(int)> &work)
+{
     if (threads != nullptr) {
-        threads->run(bands, draw);
+        threads->run(parts, work);
         return;
     }
-    for (int band = 0; band < bands; ++band) {
-        draw(band);
+    for (int part = 0; part < parts; ++part) {
+        work(part);
     }
+}
+
+int RowBands::count() const
+{
+    return top < bottom ? (bottom - top + bandHeight - 1) / bandHeight : 0;
+}
+
+std::pair<int, int> RowBands::rows(int band) const
+{
+    const int first = top + band * bandHeight;
+    return {first, std::min(first + bandHeight, bottom)};
+}
+
+void runInBands(RowThreads *threads, int top, int bottom, const std::function<void(int, int)> &work)
+{
+    const RowBands bands{top, bottom};
+    runParts(threads, bands.count(), [&](int band) {
+        const auto [first, end] = bands.rows(band);
+        work(first, end);
+    });
 }
 
 } // namespace ceiechart

@@ -11,6 +11,7 @@
 #include <functional>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace ceiechart {
@@ -44,16 +45,31 @@ public:
      */
     void run(int parts, const std::function<void(int)> &work);
 
+    /*!
+     * \brief Lets the other threads call work(0) to work(\a parts - 1) while the caller does something else. Nothing
+     * else may be run before endAhead().
+     */
+    void beginAhead(int parts, std::function<void(int)> work);
+    /*!
+     * \brief Begins no further part of beginAhead(), and returns when those that have been begun have ended.
+     *
+     * None may have been begun, and the exceptions that they throw are lost: the caller has to see what has been done.
+     */
+    void endAhead();
+
 private:
     Q_DISABLE_COPY(RowThreads)
     void start();
     void end();
+    void begin(int parts, const std::function<void(int)> &work);
+    void waitForOthers(std::unique_lock<std::mutex> &lock);
     void waitForWork();
     void takeParts(const std::function<void(int)> &work, int parts) noexcept;
 
     int m_count = 1;
     bool m_isStarted = false;
     std::vector<std::thread> m_threads; // others than the one that calls
+    std::function<void(int)> m_ahead; // of beginAhead(), until endAhead()
 
     std::mutex m_mutex; // of all that follows
     std::condition_variable m_begun;
@@ -67,9 +83,21 @@ private:
     std::atomic<int> m_next{0}; // the part that is to be taken next
 };
 
+/*! \brief Calls work(0) to work(\a parts - 1) as RowThreads::run() does; one after another if \a threads is null. */
+void runParts(RowThreads *threads, int parts, const std::function<void(int)> &work);
+
+/*! \brief The rows from top to before bottom, in bands that threads share out. */
+struct RowBands {
+    int top;
+    int bottom;
+
+    int count() const; //!< of bands
+    std::pair<int, int> rows(int band) const; //!< the first row of \a band, and that behind the last
+};
+
 /*!
- * \brief Calls work(first, end) for bands that make up the rows from \a top to before \a bottom, by \a threads as
- * RowThreads::run() does; one after another if \a threads is null.
+ * \brief Calls work(first, end) for bands that make up the rows from \a top to before \a bottom, as runParts()
+ * does.
  */
 void runInBands(RowThreads *threads, int top, int bottom, const std::function<void(int, int)> &work);
 

@@ -70,21 +70,32 @@ QImage *DrawCEIPicture::drawCEIPicture(int w, int h, bool showCoordinate, const 
 
     QPainter painter(picture.get());
     painter.setRenderHint(QPainter::Antialiasing, true);
-    const ceiechart::AxesStyle axes = own().axesStyle();
-    d->drawGround(painter, *picture, QRect(0, 0, w, h), ground, showCoordinate ? &axes : nullptr);
-    if (showCoordinate) {
-        painterCoordinate(painter);
-    }
-    painterWaveLength(painter);
-    if (skipText.isEmpty()) {
-        paintCEIEdge(painter);
-        d->loadFirstLocusRow();
-        ceiechart::RowLayers layers(d->threadsFor(*picture));
+    const bool isWhole = skipText.isEmpty();
+    ceiechart::RowLayers layers(d->threadsFor(*picture));
+    const auto addLayers = [&] {
         const QScopedValueRollback<ceiechart::RowLayers *> collecting(d->layers, &layers);
         painterStandard(painter, standards);
         d->drawHorseshoeWithin(
             *picture, own().clipPolygon, ceiechart::ClipOutline::Hidden, d->ground(own().backgroundColor));
         painterTriangle(painter, triangles);
+    };
+    // The threads have something to do while the paint engine draws what lies below these layers.
+    const bool isAhead = isWhole && layers.addAhead(addLayers);
+    const ceiechart::AxesStyle axes = own().axesStyle();
+    d->drawGround(painter, *picture, QRect(0, 0, w, h), ground, showCoordinate ? &axes : nullptr);
+    if (isAhead) {
+        layers.computeAhead();
+    }
+    if (showCoordinate) {
+        painterCoordinate(painter);
+    }
+    painterWaveLength(painter);
+    if (isWhole) {
+        paintCEIEdge(painter);
+        d->loadFirstLocusRow();
+        if (!isAhead) {
+            addLayers();
+        }
         layers.draw();
     }
     painterBBRLine(painter);

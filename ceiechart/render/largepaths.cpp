@@ -70,8 +70,9 @@ void drawPolygonOutline(RowLayers &layers, QPainter &painter, const QPolygonF &p
     // Thinner pens are drawn by another part of the engine, which does not work in bands.
     if (pen.widthF() < 2.0 || painter.brush().style() != Qt::NoBrush
         || !painter.testRenderHint(QPainter::Antialiasing)) {
-        layers.draw();
-        painter.drawPolygon(polygon, Qt::OddEvenFill);
+        if (layers.engineDrawsNext()) {
+            painter.drawPolygon(polygon, Qt::OddEvenFill);
+        }
         return;
     }
     QPainterPath path;

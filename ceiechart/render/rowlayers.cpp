@@ -44,25 +44,26 @@ bool isUpright(const QPainterPath &path, const QSize &size)
 /*! \brief Rows of the layers. */
 class RowLayers::Band {
 public:
-    /*! \brief Computes what \a layers cover of the rows from \a top to before \a bottom of \a picture. */
-    Band(const RowLayers &layers, const QImage &picture, int top, int bottom)
+    /*! \brief Computes what \a layers cover of \a rows of a picture that is \a width pixels wide. */
+    Band(const RowLayers &layers, int width, std::pair<int, int> rows)
         : m_layers(layers.m_layers)
-        , m_top(top)
-        , m_bottom(bottom)
+        , m_width(width)
+        , m_top(rows.first)
+        , m_bottom(rows.second)
     {
         m_coverages.reserve(m_layers.size());
         for (const Layer &layer : m_layers) {
-            m_coverages.emplace_back(layer.path, picture.width(), top, bottom);
-        }
-        if (layers.m_fill) {
-            m_fill.emplace(*layers.m_fill, fastestFillKernel());
-            m_colors.resize(std::size_t(picture.width()));
+            m_coverages.emplace_back(layer.path, width, m_top, m_bottom);
         }
     }
 
-    /*! \brief Draws the rows into the picture that begins at \a bits. */
-    void draw(uchar *bits, qsizetype bytesPerLine)
+    /*! \brief Draws the rows into the picture that begins at \a bits, with \a fill for the horseshoe. */
+    void draw(uchar *bits, qsizetype bytesPerLine, const std::optional<HorseshoeFill> &fill)
     {
+        if (fill) {
+            m_fill.emplace(*fill, fastestFillKernel());
+            m_colors.resize(std::size_t(m_width));
+        }
         for (int y = m_top; y < m_bottom; ++y) {
             drawRow(reinterpret_cast<QRgb *>(bits + qsizetype(y) * bytesPerLine), y);
         }
@@ -128,6 +129,7 @@ private:
     }
 
     const std::vector<Layer> &m_layers;
+    int m_width;
     int m_top;
     int m_bottom;
     std::vector<EngineCoverage> m_coverages; // by layer
@@ -136,6 +138,16 @@ private:
     std::vector<CoveredSpan> m_colored;
     std::vector<CoveredSpan> m_spans;
 };
+
+RowLayers::RowLayers(RowThreads *threads)
+    : m_threads(threads)
+{
+}
+
+RowLayers::~RowLayers()
+{
+    endAhead();
+}
 
 bool RowLayers::add(const QPainter &painter, const QPainterPath &path, const QBrush &brush)
 {
@@ -147,8 +159,7 @@ bool RowLayers::add(const QPainter &painter, const QPainterPath &path, const QBr
             return true;
         }
     }
-    draw();
-    return false;
+    return !engineDrawsNext();
 }
 
 bool RowLayers::add(QImage &picture, const QPainterPath &clip, const HorseshoeFill &fill, const QColor &background)
@@ -165,8 +176,62 @@ bool RowLayers::add(QImage &picture, const QPainterPath &clip, const HorseshoeFi
             return true;
         }
     }
+    return !engineDrawsNext();
+}
+
+bool RowLayers::engineDrawsNext()
+{
+    if (m_isAddedAhead) {
+        m_isKnown = false;
+        return false;
+    }
     draw();
-    return false;
+    return true;
+}
+
+bool RowLayers::addAhead(const std::function<void()> &add)
+{
+    if (m_threads == nullptr) {
+        return false;
+    }
+    m_isAddedAhead = true;
+    m_isKnown = true;
+    add();
+    m_isAddedAhead = false;
+    if (!m_isKnown) {
+        forget();
+    }
+    return m_isKnown;
+}
+
+RowBands RowLayers::bands() const
+{
+    QRectF bounds;
+    for (const Layer &layer : m_layers) {
+        bounds |= layer.path.controlPointRect();
+    }
+    const int top = std::clamp(int(bounds.top()) - 1, 0, m_picture->height());
+    return {top, std::clamp(int(bounds.bottom()) + 2, top, m_picture->height())};
+}
+
+void RowLayers::computeAhead()
+{
+    if (m_layers.empty()) {
+        return;
+    }
+    const RowBands all = bands();
+    m_bands.resize(std::size_t(all.count()));
+    m_isComputing = true;
+    m_threads->beginAhead(all.count(), [this, all, width = m_picture->width()](int band) {
+        m_bands[std::size_t(band)] = std::make_unique<Band>(*this, width, all.rows(band));
+    });
+}
+
+void RowLayers::endAhead()
+{
+    if (std::exchange(m_isComputing, false)) {
+        m_threads->endAhead();
+    }
 }
 
 void RowLayers::add(QImage &picture, Layer &&layer)
@@ -182,18 +247,26 @@ void RowLayers::add(QImage &picture, Layer &&layer)
 
 void RowLayers::draw()
 {
+    endAhead();
     if (!m_layers.empty()) {
-        QRectF bounds;
-        for (const Layer &layer : m_layers) {
-            bounds |= layer.path.controlPointRect();
-        }
         uchar *bits = m_picture->bits();
         const qsizetype bytesPerLine = m_picture->bytesPerLine();
-        const int top = std::clamp(int(bounds.top()) - 1, 0, m_picture->height());
-        const int bottom = std::clamp(int(bounds.bottom()) + 2, top, m_picture->height());
-        runInBands(m_threads, top, bottom,
-            [&](int first, int end) { Band(*this, *m_picture, first, end).draw(bits, bytesPerLine); });
+        const RowBands all = bands();
+        m_bands.resize(std::size_t(all.count()));
+        runParts(m_threads, all.count(), [&](int i) {
+            std::unique_ptr<Band> band = std::move(m_bands[std::size_t(i)]);
+            if (!band) {
+                band = std::make_unique<Band>(*this, m_picture->width(), all.rows(i));
+            }
+            band->draw(bits, bytesPerLine, m_fill);
+        });
     }
+    forget();
+}
+
+void RowLayers::forget()
+{
+    m_bands.clear();
     m_layers.clear();
     m_fill.reset();
     m_picture = nullptr;

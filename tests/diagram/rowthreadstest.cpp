@@ -54,6 +54,9 @@ private Q_SLOTS:
     void anotherCount();
     void exceptions_data();
     void exceptions();
+    void othersWorkAhead();
+    void nothingGoesOnBehindTheEnd();
+    void failuresAhead();
 };
 
 void RowThreadsTest::counts()
@@ -169,6 +172,66 @@ void RowThreadsTest::exceptions()
         QVERIFY(throws<std::bad_alloc>([&] { threads.run(100, fail); }));
         QVERIFY(throws<std::runtime_error>([&] { threads.run(100, [](int) { throw std::runtime_error("each"); }); }));
 
+        std::atomic<int> done{0};
+        threads.run(100, [&done](int) { ++done; });
+        QCOMPARE(done.load(), 100);
+    }
+}
+
+void RowThreadsTest::othersWorkAhead()
+{
+    for (const int count : {2, 4}) {
+        RowThreads threads;
+        threads.setCount(count);
+        const std::thread::id caller = std::this_thread::get_id();
+        std::vector<std::thread::id> done(100);
+        std::atomic<int> left{100};
+        threads.beginAhead(100, [&](int part) {
+            done[std::size_t(part)] = std::this_thread::get_id();
+            --left;
+        });
+        QDeadlineTimer limit(20000);
+        while (left > 0 && !limit.hasExpired()) { // the caller does something else
+            std::this_thread::yield();
+        }
+        threads.endAhead();
+        QVERIFY(std::find(done.cbegin(), done.cend(), caller) == done.cend());
+        QVERIFY(std::find(done.cbegin(), done.cend(), std::thread::id()) == done.cend());
+    }
+
+    RowThreads alone;
+    alone.beginAhead(100, [](int) { QFAIL("there is no other thread"); });
+    alone.endAhead();
+}
+
+void RowThreadsTest::nothingGoesOnBehindTheEnd()
+{
+    RowThreads threads;
+    threads.setCount(3);
+    for (int turn = 0; turn < turns; ++turn) {
+        std::vector<int> done(40, 0); // gone when the next turn begins
+        threads.beginAhead(int(done.size()), [&done](int part) { ++done[std::size_t(part)]; });
+        for (int i = 0; i < turn % 50; ++i) {
+            std::this_thread::yield();
+        }
+        threads.endAhead();
+        const auto first = std::find(done.cbegin(), done.cend(), 0); // of those that have not been begun
+        QCOMPARE(int(std::count(done.cbegin(), done.cend(), 1)), int(first - done.cbegin()));
+
+        // The rest, and no part twice.
+        const int begun = int(first - done.cbegin());
+        threads.run(int(done.size()) - begun, [&](int part) { ++done[std::size_t(begun + part)]; });
+        QCOMPARE(done, std::vector<int>(done.size(), 1));
+    }
+}
+
+void RowThreadsTest::failuresAhead()
+{
+    RowThreads threads;
+    threads.setCount(3);
+    for (int turn = 0; turn < turns / 10; ++turn) {
+        threads.beginAhead(20, [](int) { throw std::bad_alloc(); });
+        threads.endAhead();
         std::atomic<int> done{0};
         threads.run(100, [&done](int) { ++done; });
         QCOMPARE(done.load(), 100);

@@ -109,6 +109,12 @@ void DrawingThreadsTest::samePixels_data()
         return taken(m_current.drawCEIPicture(
             size.width(), size.height(), true, triangles(), standards(), clipIn(size), false, QString()));
     };
+    const Draw wideLines = [this](const QSize &size) { // which are all drawn row by row
+        QList<ColorTriangleObject> wide = standards();
+        wide[1].setTrigleLineWidth(3);
+        return taken(m_current.drawCEIPicture(
+            size.width(), size.height(), true, triangles(), wide, clipIn(size), false, QString()));
+    };
     const Draw simple = [this](const QSize &size) {
         return taken(m_current.drawCEIPicture(size.width(), size.height(), true, false, false, {}));
     };
@@ -135,9 +141,9 @@ void DrawingThreadsTest::samePixels_data()
         Renderer *renderer;
         Draw draw;
     };
-    for (const Subject &subject : {Subject{"gamut form", &m_current, gamuts}, {"simple form", &m_current, simple},
-             {"colours", &m_current, filled}, {"legacy x, y", &m_xy, legacyXy}, {"legacy u', v'", &m_uv, legacyUv},
-             {"legacy colours", &m_uv, colors}}) {
+    for (const Subject &subject : {Subject{"gamut form", &m_current, gamuts}, {"wide lines", &m_current, wideLines},
+             {"simple form", &m_current, simple}, {"colours", &m_current, filled}, {"legacy x, y", &m_xy, legacyXy},
+             {"legacy u', v'", &m_uv, legacyUv}, {"legacy colours", &m_uv, colors}}) {
         const auto add = [&subject](const char *kind, const QColor &ground, bool isLight, double ratio) {
             QTest::addRow("%s, %s", subject.name, kind)
                 << subject.renderer << subject.draw << ground << isLight << ratio;
@@ -184,7 +190,7 @@ void DrawingThreadsTest::randomGamuts()
     Random random(2);
     for (int i = 0; i < randomCount; ++i) {
         const QSize size(random.between(100, 500), random.between(100, 500));
-        const auto gamuts = [&random] {
+        const auto gamuts = [&random, i] {
             QList<ColorTriangleObject> objects;
             for (int k = random.between(0, 4); k > 0; --k) {
                 TrianglePoint points;
@@ -195,7 +201,7 @@ void DrawingThreadsTest::randomGamuts()
                 object.setTrianglePoint(points);
                 object.setForeColor(random.opaqueColor());
                 object.setType(random.between(1, 3));
-                object.setTrigleLineWidth(random.between(1, 6));
+                object.setTrigleLineWidth(random.between(i % 3 == 0 ? 1 : 2, 6));
                 object.setOpacity(random.real(0.0, 1.0));
                 objects.append(object);
             }

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
+#include <ceiechart/render/enginecoverage_p.h>
 #include <ceiechart/render/largepaths_p.h>
 #include <ceiechart/render/rowlayers_p.h>
 
@@ -14,9 +15,12 @@
 #include <QtTest>
 
 #include <cmath>
+#include <utility>
+#include <vector>
 
 using ceiechart::HorseshoeFill;
 using ceiechart::RowLayers;
+using ceiechart::RowThreads;
 
 namespace {
 
@@ -110,6 +114,8 @@ private Q_SLOTS:
     void clippedHorseshoe();
     void uprightClips();
     void manyLayers();
+    void addedAhead();
+    void notAddedAhead();
     void leavesOtherPaintersToTheEngine();
     void leavesOtherPathsToTheEngine();
     void leavesOtherHorseshoesToTheEngine();
@@ -279,6 +285,87 @@ void RowLayersTest::manyLayers()
         const QString difference = reference::firstDifference(actual, expected);
         QVERIFY2(difference.isEmpty(), qPrintable(QStringLiteral("picture %1: %2").arg(i).arg(difference)));
     }
+}
+
+void RowLayersTest::addedAhead()
+{
+    Random random(57);
+    RowThreads threads;
+    threads.setCount(3);
+    for (int i = 0; i < polygonCount / 50; ++i) {
+        const QSize size(random.between(50, 300), random.between(50, 600)); // some bands high
+        const QColor ground = random.opaqueColor();
+        std::vector<std::pair<QPainterPath, QColor>> paths;
+        for (int k = random.between(0, 5); k > 0; --k) {
+            const QPainterPath path = pathOf(random.polygon(size));
+            if (ceiechart::EngineCoverage::isKnown(path)) {
+                paths.emplace_back(path, random.color());
+            }
+        }
+        const auto draw = [&](QImage &picture, bool isAhead) {
+            QPainter painter(&picture);
+            painter.setRenderHint(QPainter::Antialiasing);
+            RowLayers layers(isAhead ? &threads : nullptr);
+            const auto add = [&] {
+                for (const auto &[path, color] : paths) {
+                    QVERIFY(layers.add(painter, path, color));
+                }
+            };
+            if (isAhead) {
+                QVERIFY(layers.addAhead(add));
+                if (i % 4 > 0) {
+                    layers.computeAhead();
+                }
+            }
+            painter.fillRect(picture.rect(), ground); // below them
+            if (!isAhead) {
+                add();
+            }
+            if (i % 7 > 0) {
+                layers.draw();
+            }
+        };
+        QImage expected = opaquePicture(size, Qt::black, QImage::Format_ARGB32_Premultiplied);
+        QImage actual = expected.copy();
+        draw(expected, false);
+        draw(actual, true);
+        const QString difference = reference::firstDifference(actual, expected);
+        QVERIFY2(difference.isEmpty(), qPrintable(QStringLiteral("picture %1: %2").arg(i).arg(difference)));
+    }
+}
+
+void RowLayersTest::notAddedAhead()
+{
+    QImage picture = opaquePicture(QSize(20, 200), Qt::black, QImage::Format_ARGB32_Premultiplied);
+    const QImage before = picture.copy();
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    RowLayers alone;
+    QVERIFY(!alone.addAhead([] { QFAIL("there are no threads"); }));
+
+    RowThreads threads;
+    threads.setCount(2);
+    RowLayers layers(&threads);
+    const QPainterPath known = pathOf(QPolygonF({{2, 3}, {17, 5}, {9, 180}}));
+    QPainterPath curve;
+    curve.addEllipse(2, 3, 10, 90);
+    QVERIFY(!layers.addAhead([&] {
+        QVERIFY(layers.add(painter, known, Qt::white));
+        QVERIFY(layers.add(painter, curve, Qt::white)); // so that no one draws it yet
+        QVERIFY(layers.add(painter, known, Qt::red));
+    }));
+    QPen thin(Qt::white, 1.0);
+    painter.setPen(thin);
+    QVERIFY(!layers.addAhead([&] { ceiechart::drawPolygonOutline(layers, painter, known.toFillPolygon()); }));
+    QCOMPARE(picture, before);
+    layers.computeAhead();
+    layers.draw();
+    QCOMPARE(picture, before);
+
+    // And then as without threads.
+    QVERIFY(layers.add(painter, known, Qt::white));
+    QVERIFY(!layers.add(painter, curve, Qt::white));
+    QCOMPARE(picture.pixelColor(9, 60), QColor(Qt::white));
 }
 
 void RowLayersTest::leavesOtherPaintersToTheEngine()
