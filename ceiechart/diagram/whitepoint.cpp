@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include <ceiechart/atlas/ceiatlasvalue.h>
+#include <ceiechart/diagram/planckiantable_p.h>
 #include <ceiechart/diagram/whitepoint.h>
 #include <colortemperature/colortemperature.h>
 
 #include <cmath>
+#include <iterator>
 #include <vector>
 
 namespace ceiechart {
@@ -94,14 +96,12 @@ std::optional<QPointF> chromaticityAt(double kelvin, double duv)
 
 const QPolygonF &planckianLocusXy()
 {
+    // To compute half a million exponentials would take longer than to draw a diagram.
     static const QPolygonF locus = [] {
-        constexpr double kelvinTimesMired = 1e6;
         QPolygonF points;
-        for (double mired = kelvinTimesMired / lowestTemperature - 1.0; mired > kelvinTimesMired / highestTemperature;
-             mired -= 1.0) {
-            if (const auto xy = chromaticityAt(kelvinTimesMired / mired, 0.0)) {
-                points.append(*xy);
-            }
+        points.reserve(int(std::size(planckianTable)));
+        for (const auto &[x, y] : planckianTable) {
+            points.append(QPointF(x, y));
         }
         return points;
     }();

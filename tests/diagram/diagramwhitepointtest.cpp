@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void outOfRange();
     void whereATemperatureIsDefined_data();
     void whereATemperatureIsDefined();
+    void locusHasAPointForEachMired();
     void locusIsCloseToItsPieces();
 };
 
@@ -106,6 +108,20 @@ void WhitePointTest::whereATemperatureIsDefined()
     QFETCH(QPointF, xy);
     QFETCH(bool, defined);
     QCOMPARE(colorTemperature(xy).has_value(), defined);
+}
+
+void WhitePointTest::locusHasAPointForEachMired()
+{
+    const QPolygonF &locus = planckianLocusXy();
+    double mired = 1e6 / ceiechart::lowestTemperature;
+    for (const QPointF &point : locus) {
+        mired -= 1.0;
+        const auto expected = chromaticityAt(1e6 / mired, 0.0);
+        QVERIFY(expected);
+        const double off = std::max(std::fabs(point.x() - expected->x()), std::fabs(point.y() - expected->y()));
+        QVERIFY2(off < 1e-14, qPrintable(QStringLiteral("%1 mired: off by %2").arg(mired).arg(off)));
+    }
+    QCOMPARE(mired, 1e6 / ceiechart::highestTemperature + 1.0);
 }
 
 void WhitePointTest::locusIsCloseToItsPieces()
