@@ -16,6 +16,8 @@ class PictureKeyTest : public QObject {
 private Q_SLOTS:
     void keyStandsOnFreeGround_data();
     void keyStandsOnFreeGround();
+    void keyMayCoverTheGrid_data();
+    void keyMayCoverTheGrid();
     void keyStandsBesideAFullDiagram();
     void keyOnDarkGround();
     void keyIsLeftOutWhereThereIsNoRoom();
@@ -43,6 +45,48 @@ void PictureKeyTest::keyStandsOnFreeGround()
     for (int y = key.top(); y <= key.bottom(); ++y) {
         for (int x = key.left(); x <= key.right(); ++x) {
             QCOMPARE(without.pixel(x, y), lightGround);
+        }
+    }
+}
+
+void PictureKeyTest::keyMayCoverTheGrid_data()
+{
+    QTest::addColumn<ceiechart::HorseshoeColors>("colors");
+    QTest::addColumn<ceiechart::DiagramGround>("ground");
+    QTest::addColumn<QSize>("size");
+    using ceiechart::DiagramGround;
+    using ceiechart::HorseshoeColors;
+    // On the small ones, the place is looked for in the picture itself, if it has colours.
+    for (const QSize &size : {QSize(1300, 1200), QSize(800, 800), QSize(801, 997), QSize(900, 500)}) {
+        for (const HorseshoeColors colors : {HorseshoeColors::None, HorseshoeColors::Dimmed, HorseshoeColors::Full}) {
+            for (const DiagramGround ground : {DiagramGround::Light, DiagramGround::Dark}) {
+                QTest::addRow("%d x %d, %d, %d", size.width(), size.height(), int(colors), int(ground))
+                    << colors << ground << size;
+            }
+        }
+    }
+}
+
+void PictureKeyTest::keyMayCoverTheGrid()
+{
+    QFETCH(ceiechart::HorseshoeColors, colors);
+    QFETCH(ceiechart::DiagramGround, ground);
+    QFETCH(QSize, size);
+    Picture picture = sample();
+    picture.content.colors = colors;
+    picture.content.ground = ground;
+    const QRect key = reference::changedPixels(pixels(picture, size, true), pixels(picture, size, false));
+    QVERIFY(key.width() > 100 && key.height() > 60);
+    QVERIFY(key.width() < size.width() / 2 && key.height() < size.height() / 2); // the rest is the same
+
+    // Where the horseshoe is the key is not, whether it has colours or not.
+    picture.content.colors = ceiechart::HorseshoeColors::Full;
+    picture.content.layers.setFlag(DiagramLayer::Grid, false);
+    const QImage others = pixels(picture, size, false);
+    const QRgb expected = ceiechart::diagramPalette(ground).ground.rgb();
+    for (int y = key.top(); y <= key.bottom(); ++y) {
+        for (int x = key.left(); x <= key.right(); ++x) {
+            QCOMPARE(others.pixel(x, y), expected);
         }
     }
 }

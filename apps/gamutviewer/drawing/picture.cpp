@@ -72,6 +72,21 @@ void paintDiagram(QPainter &painter, const Picture &picture, const QSize &size)
     layout.key.paint(&painter, layout.keyPlace);
 }
 
+//! The picture that the place for the key was looked for in, with its key, if it is one of \a pixels; or null.
+QImage paintedPicture(const Picture &picture, const QSize &size, const QSize &pixels)
+{
+    if (picture.wall || !picture.hasKey || size != pixels) {
+        return {};
+    }
+    const PictureLayout layout = layoutOn(size, picture);
+    QImage image = layout.painted;
+    if (!image.isNull()) {
+        QPainter painter(&image);
+        layout.key.paint(&painter, layout.keyPlace);
+    }
+    return image;
+}
+
 bool writeSvg(const Picture &picture, const QString &title, const QSize &size, QIODevice &device)
 {
     QSvgGenerator generator;
@@ -154,7 +169,13 @@ QImage pixelsOf(const Picture &picture, const PictureExtent &extent)
     if (picture.isLibraryChart) {
         return libraryChart(picture.content, extent.size);
     }
-    QImage image(QSize(qRound(exact.width()), qRound(exact.height())), QImage::Format_RGB32);
+    const QSize pixels(qRound(exact.width()), qRound(exact.height()));
+    const Picture shown = laidOut(picture, extent.size);
+    QImage image = paintedPicture(shown, extent.size, pixels);
+    if (!image.isNull()) {
+        return image;
+    }
+    image = QImage(pixels, QImage::Format_RGB32);
     if (image.isNull()) {
         return image;
     }
@@ -163,7 +184,7 @@ QImage pixelsOf(const Picture &picture, const PictureExtent &extent)
     image.setDotsPerMeterY(dotsPerMeter);
     QPainter painter(&image);
     painter.scale(image.width() / qreal(extent.size.width()), image.height() / qreal(extent.size.height()));
-    paintDiagram(painter, picture, extent.size);
+    paintDiagram(painter, shown, extent.size);
     painter.end();
     image.setDevicePixelRatio(ratio);
     return image;

@@ -11,6 +11,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
 #include <vector>
@@ -43,6 +44,17 @@ double rowHeight(int letterSize)
     return std::ceil(1.5 * letterSize);
 }
 
+//! The ground, a line of the grid on it, and where two of them cross.
+std::array<QRgb, 3> freeColors(const ceiechart::DiagramPalette &palette)
+{
+    QImage pixels(3, 1, QImage::Format_RGB32);
+    pixels.fill(palette.ground);
+    QPainter painter(&pixels);
+    painter.fillRect(1, 0, 2, 1, palette.grid);
+    painter.fillRect(2, 0, 1, 1, palette.grid);
+    return {pixels.pixel(0, 0), pixels.pixel(1, 0), pixels.pixel(2, 0)};
+}
+
 //! Where a diagram leaves its ground free.
 class FreeGround {
 public:
@@ -53,10 +65,18 @@ public:
         , m_sums(std::size_t(m_width + 1) * std::size_t(m_height + 1), 0)
     {
         // The grid may be covered, the horseshoe not even where it has no colours.
+        const ceiechart::DiagramPalette &palette = ceiechart::diagramPalette(content.ground);
+        const bool isColored
+            = content.layers.testFlag(DiagramLayer::Colors) && content.colors != ceiechart::HorseshoeColors::None;
+        const bool isPicture = QSizeF(m_width, m_height) == size;
+        // Lines of the grid on whole pixels can be told from all else.
+        const bool isAsDrawn = isColored && isPicture;
         DiagramContent covering = content;
-        covering.layers.setFlag(DiagramLayer::Grid, false);
-        covering.layers.setFlag(DiagramLayer::Colors);
-        covering.colors = ceiechart::HorseshoeColors::Full;
+        if (!isAsDrawn) {
+            covering.layers.setFlag(DiagramLayer::Grid, false);
+            covering.layers.setFlag(DiagramLayer::Colors);
+            covering.colors = ceiechart::HorseshoeColors::Full;
+        }
         DiagramPainter diagram;
         diagram.setContent(covering);
         diagram.setViewport(view);
@@ -73,18 +93,24 @@ public:
         painter.end();
 
         m_plot = QRectF(QPointF(), size).marginsRemoved(margins);
-        const QRgb ground = ceiechart::diagramPalette(content.ground).ground.rgb();
+        const std::array<QRgb, 3> free = freeColors(palette);
         for (int y = 0; y < m_height; ++y) {
             const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
             const int *above = &m_sums[at(0, y)];
             int *sums = &m_sums[at(0, y + 1)];
             int inLine = 0;
             for (int x = 0; x < m_width; ++x) {
-                inLine += line[x] != ground;
+                inLine += line[x] != free[0] && line[x] != free[1] && line[x] != free[2];
                 sums[x + 1] = above[x + 1] + inLine;
             }
         }
+        if (isAsDrawn) {
+            m_painted = image;
+        }
     }
+
+    //! The picture of the diagram, if it had to be painted as it is drawn; or null.
+    const QImage &painted() const { return m_painted; }
 
     //! The place of \a size nearest to a corner of the plot, the upper right one first of all.
     std::optional<QPointF> place(const QSizeF &size) const
@@ -150,6 +176,7 @@ private:
     int m_height;
     std::vector<int> m_sums; // of what is drawn above and to the left of a pixel
     QRectF m_plot;
+    QImage m_painted;
 };
 
 //! The picture without a strip for the key, on the side where that leaves the diagram larger.
@@ -244,11 +271,15 @@ PictureLayout layOutPicture(const DiagramContent &content, const DiagramViewport
         if (const auto place = ground->place(key.size())) {
             layout.key = key;
             layout.keyPlace = *place;
+            layout.painted = ground->painted();
             return layout;
         }
         if (const auto beside = keyBeside(key, view, size)) {
             return *beside;
         }
+    }
+    if (ground) {
+        layout.painted = ground->painted();
     }
     return layout;
 }

@@ -7,6 +7,7 @@
 #include <ceiechart/diagram/diagramviewport.h>
 
 #include <QFont>
+#include <QImage>
 #include <QRectF>
 #include <QSizeF>
 #include <QVector>
@@ -52,6 +53,8 @@ struct PictureLayout {
     QRectF diagram; //!< all of the picture, or what a key beside the diagram leaves of it
     PictureKey key; //!< empty when there is no room for it, or nothing to name
     QPointF keyPlace; //!< its top left corner
+    //! The diagram without its key, in one pixel for each of these, if it was painted to look for the place; or null.
+    QImage painted;
 };
 
 /*!
