@@ -24,6 +24,8 @@ const CEIAtlasValue::TColorSystem &colorSystemOf(const Model::DiagramTraits &tra
     return traits.yFactor == 0.0 ? atlas.colorSystem : uvColorSystem;
 }
 
+constexpr int bandHeight = 16; // rows: what is filled or scrolled is still in the cache when it is painted
+
 //! The fill for a picture of \a size of which the middles of the pixels count.
 HorseshoeFill fillFor(const ColorsRequest &request, const QSize &size)
 {
@@ -202,26 +204,53 @@ std::optional<QPoint> wholePixels(const ColorsRequest &from, const ColorsRequest
     return std::max(std::fabs(rest.x()), std::fabs(rest.y())) < tolerance ? std::make_optional(whole) : std::nullopt;
 }
 
-void scroll(QImage &image, const QRect &area, const QPoint &way)
-{
-    const QRect kept = area.translated(way).intersected(area);
-    const qsizetype bytesPerLine = image.bytesPerLine();
-    const size_t length = size_t(kept.width()) * sizeof(QRgb);
-    uchar *bits = image.bits();
-    const auto move = [&](int y) {
-        std::memmove(bits + y * bytesPerLine + kept.left() * qsizetype(sizeof(QRgb)),
-            bits + (y - way.y()) * bytesPerLine + (kept.left() - way.x()) * qsizetype(sizeof(QRgb)), length);
-    };
-    if (way.y() > 0) {
-        for (int y = kept.bottom(); y >= kept.top(); --y) {
-            move(y);
+//! Scrolls the plot of a picture, a row after another, and fills what is exposed.
+class Scroll {
+public:
+    Scroll(QImage &image, const QRect &plot, const QPoint &way, Filler &filler)
+        : m_image(image)
+        , m_plot(plot)
+        , m_kept(plot.translated(way).intersected(plot))
+        , m_way(way)
+        , m_filler(filler)
+    {
+    }
+
+    //! Whether the rows below are to be scrolled first, as they are where those above go.
+    bool isUpwards() const { return m_way.y() > 0; }
+
+    void scrollRow(int y)
+    {
+        if (y < m_plot.top() || y > m_plot.bottom()) {
+            return;
         }
-    } else {
-        for (int y = kept.top(); y <= kept.bottom(); ++y) {
-            move(y);
+        const int end = m_plot.right() + 1;
+        if (m_kept.isEmpty() || y < m_kept.top() || y > m_kept.bottom()) {
+            m_filler.fill(y, m_plot.left(), end);
+            return;
+        }
+        std::memmove(pixel(m_kept.left(), y), pixel(m_kept.left() - m_way.x(), y - m_way.y()),
+            size_t(m_kept.width()) * sizeof(QRgb));
+        if (m_kept.left() > m_plot.left()) {
+            m_filler.fill(y, m_plot.left(), m_kept.left());
+        }
+        if (m_kept.right() + 1 < end) {
+            m_filler.fill(y, m_kept.right() + 1, end);
         }
     }
-}
+
+private:
+    uchar *pixel(int x, int y) const
+    {
+        return m_image.bits() + y * m_image.bytesPerLine() + x * qsizetype(sizeof(QRgb));
+    }
+
+    QImage &m_image; // which may have to be copied for each row, as painters may keep it
+    QRect m_plot;
+    QRect m_kept;
+    QPoint m_way;
+    Filler &m_filler;
+};
 
 //! The rows of \a plot in which the polygons \a a and \a b in pixels may cover different shares: those of sides that
 //! only one of them has.
@@ -332,12 +361,11 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
         Filler filler(request, m_image, m_locus, m_full);
         if (isMoved) {
             way = *distance;
-            scroll(m_image, plot, way);
-            const QRegion exposed = QRegion(plot) - plot.translated(way);
-            for (const QRect &strip : exposed) {
-                filler.fill(strip);
+            Scroll scroll(m_image, plot, way, filler);
+            for (int i = 0; i < plot.height(); ++i) {
+                scroll.scrollRow(scroll.isUpwards() ? plot.bottom() - i : plot.top() + i);
             }
-            filled += exposed;
+            filled += QRegion(plot) - plot.translated(way);
         }
         if (isOtherFull) {
             const QRect rows
@@ -360,11 +388,16 @@ void DiagramColors::paint(QPainter *painter, const ColorsRequest &request)
 {
     // At other ratios the edges of bands could fall between pixels.
     const bool hasWholeEdges = request.devicePixelRatio == 1.0 || request.devicePixelRatio == 2.0;
-    if (!hasWholeEdges || (sameExceptPlace(m_request, request) && wholePixels(m_request, request))) {
+    const auto distance = sameExceptPlace(m_request, request) ? wholePixels(m_request, request) : std::nullopt;
+    if (hasWholeEdges && distance && !distance->isNull() && m_isKept && m_image.size() == request.size()
+        && m_request.full == request.full) {
+        paintScrolled(painter, request, *distance);
+        return;
+    }
+    if (!hasWholeEdges || distance) {
         painter->drawImage(QPointF(), update(request, nullptr, nullptr));
         return;
     }
-    constexpr int bandHeight = 16; // what is filled is still in the cache when it is painted
     const QSize size = request.size();
     m_locus = locusCoverage(request, size);
     m_full = fullCoverage(request, request.full, size);
@@ -379,6 +412,24 @@ void DiagramColors::paint(QPainter *painter, const ColorsRequest &request)
     }
     m_request = request;
     m_isKept = false;
+}
+
+void DiagramColors::paintScrolled(QPainter *painter, const ColorsRequest &request, const QPoint &way)
+{
+    const QSize size = request.size();
+    m_locus = locusCoverage(request, size);
+    m_full = fullCoverage(request, request.full, size);
+    Filler filler(request, m_image, m_locus, m_full);
+    Scroll scroll(m_image, request.plot(), way, filler);
+    for (int done = 0; done < size.height(); done += bandHeight) {
+        const int height = std::min(bandHeight, size.height() - done);
+        const int top = scroll.isUpwards() ? size.height() - done - height : done;
+        for (int i = 0; i < height; ++i) {
+            scroll.scrollRow(scroll.isUpwards() ? top + height - 1 - i : top + i);
+        }
+        painter->drawImage(QPointF(0.0, top / request.devicePixelRatio), m_image, QRectF(0, top, size.width(), height));
+    }
+    m_request = request;
 }
 
 } // namespace ceiechart

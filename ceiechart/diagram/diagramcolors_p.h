@@ -51,11 +51,14 @@ public:
      * \brief Paints the picture for \a request.
      *
      * A picture that is all new, as each is during a zoom, is painted in bands and not kept: to write it twice to the
-     * memory and to read it once takes about as long as to compute it. It is kept when it is asked for again.
+     * memory and to read it once takes about as long as to compute it. It is kept when it is asked for again. One that
+     * is scrolled is painted in bands, too.
      */
     void paint(QPainter *painter, const ColorsRequest &request);
 
 private:
+    void paintScrolled(QPainter *painter, const ColorsRequest &request, const QPoint &way);
+
     QImage m_image;
     ColorsRequest m_request; // the last one
     bool m_isKept = false; // whether the image is the one of the request

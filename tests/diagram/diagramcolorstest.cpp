@@ -8,6 +8,7 @@
 
 #include <reference/plainrenderer.h>
 
+#include <QPainter>
 #include <QtTest>
 
 #include <cmath>
@@ -114,6 +115,8 @@ private Q_SLOTS:
     void pixelsAreThoseOfTheDefinition();
     void scrolledIsAsFilledAnew_data();
     void scrolledIsAsFilledAnew();
+    void paintedWhileScrolledIsAsFilledAnew_data();
+    void paintedWhileScrolledIsAsFilledAnew();
     void editedIsAsFilledAnew();
     void movedAndEditedIsAsFilledAnew();
     void nothingChangedFillsNothing();
@@ -228,6 +231,52 @@ void DiagramColorsTest::scrolledIsAsFilledAnew()
             std::abs(way.x()) * request.plot().height() + std::abs(way.y()) * request.plot().width()
                 - std::abs(way.x() * way.y()));
     }
+}
+
+void DiagramColorsTest::paintedWhileScrolledIsAsFilledAnew_data()
+{
+    QTest::addColumn<HorseshoeColors>("colors");
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<double>("ratio");
+    for (const HorseshoeColors colors : {HorseshoeColors::Dimmed, HorseshoeColors::Full, HorseshoeColors::None}) {
+        for (const double zoom : {1.0, 30.0}) {
+            for (const double ratio : {1.0, 1.25, 2.0}) {
+                QTest::addRow("%d, %g times, ratio %g", int(colors), zoom, ratio) << colors << zoom << ratio;
+            }
+        }
+    }
+}
+
+void DiagramColorsTest::paintedWhileScrolledIsAsFilledAnew()
+{
+    QFETCH(HorseshoeColors, colors);
+    QFETCH(double, zoom);
+    QFETCH(double, ratio);
+    ColorsRequest request = requestFor(Model::Diagram::Cie1931, colors, zoom, ratio);
+    DiagramColors kept;
+    kept.update(request, nullptr, nullptr);
+    const QPoint ways[] = {{7, 0}, {0, -5}, {-11, 9}, {0, 0}, {3, 4}, {0, 130}, {-2, -40}, {500, 2}, {1, 1}, {-16, 16}};
+    for (const QPoint &way : ways) {
+        request.viewport = request.viewport.panned(QPointF(way) / ratio);
+        QImage painted(request.size(), QImage::Format_RGB32);
+        painted.setDevicePixelRatio(ratio);
+        painted.fill(Qt::red);
+        QPainter painter(&painted);
+        kept.paint(&painter, request);
+        painter.end();
+        DiagramColors anew;
+        const QImage expected = anew.update(request, nullptr, nullptr);
+        QVERIFY2(painted == expected, qPrintable(QStringLiteral("%1, %2").arg(way.x()).arg(way.y())));
+        QCOMPARE(kept.update(request, nullptr, nullptr), expected);
+    }
+    // A copy, as a painter may keep one, stays as it is.
+    const QImage before = kept.update(request, nullptr, nullptr).copy();
+    const QImage held = kept.update(request, nullptr, nullptr);
+    request.viewport = request.viewport.panned(QPointF(4, 6) / ratio);
+    QImage painted(request.size(), QImage::Format_RGB32);
+    QPainter painter(&painted);
+    kept.paint(&painter, request);
+    QCOMPARE(held, before);
 }
 
 void DiagramColorsTest::editedIsAsFilledAnew()
