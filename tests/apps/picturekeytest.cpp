@@ -77,7 +77,9 @@ void PictureKeyTest::keyMayCoverTheGrid()
     picture.content.ground = ground;
     const QRect key = reference::changedPixels(pixels(picture, size, true), pixels(picture, size, false));
     QVERIFY(key.width() > 100 && key.height() > 60);
-    QVERIFY(key.width() < size.width() / 2 && key.height() < size.height() / 2); // the rest is the same
+    QVERIFY2(key.width() < size.width() / 2 && key.height() < size.height() / 2, // the rest is the same
+        qPrintable(
+            QStringLiteral("%1 x %2 at %3, %4").arg(key.width()).arg(key.height()).arg(key.left()).arg(key.top())));
 
     // Where the horseshoe is the key is not, whether it has colours or not.
     picture.content.colors = ceiechart::HorseshoeColors::Full;

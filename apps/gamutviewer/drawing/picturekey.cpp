@@ -230,6 +230,9 @@ PictureKey::PictureKey(const DiagramContent &content, int pixelSize)
 
 void PictureKey::paint(QPainter *painter, const QPointF &at) const
 {
+    if (isEmpty()) {
+        return; // not even its ground, with the room round it
+    }
     const ceiechart::DiagramPalette &palette = ceiechart::diagramPalette(m_ground);
     const QFontMetricsF metrics(m_font);
     painter->save();
