@@ -66,7 +66,7 @@ void RowCoverage::add(double from, double to, double height)
     for (int column = first; column <= last; ++column) {
         const double begin = std::max(least, double(column));
         const double end = std::min(most, column + 1.0);
-        const double part = first == int(std::max(from, to)) ? height : perColumn * (end - begin);
+        const double part = std::max(from, to) < first + 1.0 ? height : perColumn * (end - begin);
         const double right = part * (0.5 * (begin + end) - column);
         m_change[size_t(column)] += part - right;
         m_change[size_t(std::min(column + 1, m_width + 1))] += right;

@@ -368,7 +368,10 @@ void DiagramColorsTest::coverageOfAPolygon()
         {QPolygonF() << QPointF(3.3, 2.1) << QPointF(17.4, 5.7) << QPointF(8.2, 13.9),
             QPolygonF() << QPointF(-9, 7) << QPointF(12, -8) << QPointF(40, 6) << QPointF(11, 30),
             QPolygonF() << QPointF(2, 3) << QPointF(2, 9) << QPointF(12, 9) << QPointF(12, 3),
-            QPolygonF() << QPointF(-30, -30) << QPointF(90, -30) << QPointF(90, 90) << QPointF(-30, 90)}) {
+            QPolygonF() << QPointF(-30, -30) << QPointF(90, -30) << QPointF(90, 90) << QPointF(-30, 90),
+            // Corners so far away that no int has their columns, as those of a view that is zoomed in.
+            QPolygonF() << QPointF(3, 4) << QPointF(4e10, 6) << QPointF(5, 12),
+            QPolygonF() << QPointF(-4e10, 3) << QPointF(4e10, 2) << QPointF(4e10, 11) << QPointF(-4e10, 9)}) {
         RowCoverage coverage(QPolygonF(polygon), 20, 16);
         PlainShare plain{QPolygonF(polygon)};
         for (int y = 0; y < 16; ++y) {
