@@ -27,10 +27,13 @@ bool isOfSameCabinet(const Measurement &a, const Measurement &b)
     return a.cabinet == b.cabinet && a.row == b.row && a.column == b.column;
 }
 
-bool hasOneCabinet(const QVector<Measurement> &measurements)
+bool hasOneCabinet(const MeasurementList &list)
 {
-    return std::all_of(measurements.begin(), measurements.end(),
-        [&](const Measurement &measurement) { return isOfSameCabinet(measurement, measurements.first()); });
+    const auto isOfFirst
+        = [&list](const Measurement &measurement) { return isOfSameCabinet(measurement, list.measurements.first()); };
+    return list.measurements.isEmpty()
+        || (std::all_of(list.measurements.begin(), list.measurements.end(), isOfFirst)
+            && std::all_of(list.withoutNumbers.begin(), list.withoutNumbers.end(), isOfFirst));
 }
 
 //! Nothing unless each is there once; the white may be missing when it is the sum.
@@ -75,7 +78,7 @@ std::optional<double> brightestBlack(const MeasurementList &list)
 
 std::optional<Model::Targets> gamutTargets(const MeasurementList &list)
 {
-    if (!hasOneCabinet(list.measurements)) {
+    if (!hasOneCabinet(list)) {
         return std::nullopt;
     }
     const auto indices = gamutIndices(list);
@@ -139,7 +142,7 @@ QVector<CabinetMeasurements> MeasurementList::cabinets() const
     QVector<CabinetMeasurements> result;
     QHash<QString, int> indices;
     bool hasPlaces = false;
-    for (const Measurement &measurement : measurements) {
+    const auto indexOf = [&](const Measurement &measurement) {
         const QString key = cabinetKey(measurement);
         auto index = indices.constFind(key);
         if (index == indices.constEnd()) {
@@ -151,7 +154,13 @@ QVector<CabinetMeasurements> MeasurementList::cabinets() const
             result.append({measurement.cabinet, measurement.row, measurement.column, list});
             hasPlaces = hasPlaces || !measurement.cabinet.isEmpty() || measurement.row || measurement.column;
         }
-        result[*index].list.measurements.append(measurement);
+        return *index;
+    };
+    for (const Measurement &measurement : measurements) {
+        result[indexOf(measurement)].list.measurements.append(measurement);
+    }
+    for (const Measurement &measurement : withoutNumbers) {
+        indexOf(measurement);
     }
     return hasPlaces ? result : QVector<CabinetMeasurements>();
 }

@@ -77,6 +77,13 @@ struct CabinetMeasurements;
 /*! \brief What a meter measured, in the order of the file. */
 struct MeasurementList {
     QVector<Measurement> measurements; //!< every line, in this order
+    /*!
+     * \brief The lines that name a colour of a cabinet and have no numbers: only name, line and cabinet are known.
+     *
+     * A cabinet of which there is nothing else has been measured in vain: it is one of cabinets(), without
+     * measurements.
+     */
+    QVector<Measurement> withoutNumbers;
     /*! \brief The unit of all luminances. Foot-lamberts have been converted to cd/m². */
     LuminanceUnit unit = LuminanceUnit::NotKnown;
     bool whiteIsSum = false; //!< whether gamut() takes a missing white as the sum of the primaries
@@ -94,7 +101,10 @@ struct MeasurementList {
     GAMUTFILES_EXPORT QVector<Measurement> others() const;
     /*! \brief The measured black; nothing unless there is exactly one. */
     GAMUTFILES_EXPORT std::optional<Measurement> black() const;
-    /*! \brief The measurements of each cabinet, in the order of the file; empty when the list names no cabinets. */
+    /*!
+     * \brief The measurements of each cabinet, in the order of the file, those without any last; empty when the list
+     * names no cabinets.
+     */
     GAMUTFILES_EXPORT QVector<CabinetMeasurements> cabinets() const;
 };
 

@@ -99,7 +99,9 @@ bool MeasurementReader::chooseCabinet()
                         .arg(excerpt(wanted), excerpt(found.at(0).label()), excerpt(found.at(1).label())));
     }
     m_list.measurements = found.first().list.measurements;
-    return true;
+    m_list.withoutNumbers.clear();
+    return !m_list.measurements.isEmpty()
+        || fail(tr("cabinet \"%1\" has no numbers").arg(excerpt(found.first().label())));
 }
 
 bool MeasurementReader::answersTo(const Measurement &measurement, const MeasurementChoice &choice)
@@ -147,6 +149,9 @@ bool MeasurementReader::checkGamut()
     warnOfCabinets(cabinets);
     const int before = int(m_warnings.size());
     for (int i = 0; i < cabinets.size() && m_warnings.size() < before + mostWarnings; ++i) {
+        if (cabinets.at(i).list.measurements.isEmpty()) {
+            continue; // its lines have been warned of
+        }
         const Measurement &first = cabinets.at(i).list.measurements.first();
         QString where = first.cabinet.isEmpty() ? QString() : tr("cabinet \"%1\"").arg(excerpt(first.cabinet));
         if (first.row && first.column) {

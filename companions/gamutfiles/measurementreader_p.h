@@ -70,6 +70,9 @@ protected: // for lists that are still being written
     void findNoise(const CsvRow &row);
     ColumnPart luminancePart() const;
     std::optional<Measurement> readRow(const CsvRow &row);
+    bool namesColorOfCabinet(const CsvRow &row) const;
+    bool isAboveHeader(const CsvRow &row) const;
+    Measurement withoutNumbers(const CsvRow &row);
     bool readColor(const CsvRow &row, Measurement &measurement);
     void readWithoutChromaticity(const CsvRow &row, const Measurement &measurement);
     bool readXy(const CsvRow &row, Measurement &measurement, bool isDark);

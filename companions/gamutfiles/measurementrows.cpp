@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
+#include "colornames_p.h"
 #include "excerpt_p.h"
 #include "measurementreader_p.h"
 #include "numbers_p.h"
@@ -12,6 +13,13 @@ namespace gamutfiles {
 
 bool MeasurementReader::readRows()
 {
+    for (int i = 0; i < m_firstRow; ++i) {
+        if (isAboveHeader(m_table.rows.at(i))) {
+            return fail(tr("is a measurement above the line that names the columns: move line %1 to the top")
+                            .arg(m_list.recognized.headerLine),
+                place(m_table.rows.at(i).line));
+        }
+    }
     for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
         findNoise(m_table.rows.at(i));
     }
@@ -45,6 +53,9 @@ bool MeasurementReader::takeRow(const CsvRow &row)
     if (std::all_of(m_numberParts.begin(), m_numberParts.end(),
             [&](ColumnPart part) { return isNotMeasured(given(row, part)); })) {
         m_withoutNumbers.add(row.line);
+        if (namesColorOfCabinet(row)) {
+            m_list.withoutNumbers.append(withoutNumbers(row));
+        }
         return true;
     }
     if (m_width > 0
@@ -92,6 +103,33 @@ void MeasurementReader::warnOfRows()
     tell(m_belowZero, tr("has a value slightly below 0, as noise gives: it is read as 0"));
     tell(m_otherTristimulus, tr("x and y are not those of X, Y and Z: x and y are read"));
     tell(m_otherUv, tr("x and y are not those of u' and v': x and y are read"));
+}
+
+//! Whether \a row names red, green, blue, white or black, and a cabinet.
+bool MeasurementReader::namesColorOfCabinet(const CsvRow &row) const
+{
+    const bool hasCabinet = !given(row, ColumnPart::Cabinet).isEmpty()
+        || (!given(row, ColumnPart::Row).isEmpty() && !given(row, ColumnPart::Column).isEmpty());
+    return hasCabinet && colorName(given(row, ColumnPart::Name)).part != MeasurementPart::None;
+}
+
+//! Whether \a row has all that a measurement has, but stands above the header, as in a list that has been sorted.
+bool MeasurementReader::isAboveHeader(const CsvRow &row) const
+{
+    return row.line < m_list.recognized.headerLine
+        && colorName(given(row, ColumnPart::Name)).part != MeasurementPart::None
+        && std::all_of(m_numberParts.begin(), m_numberParts.end(),
+            [&](ColumnPart part) { return decimalEvidence(given(row, part)) != DecimalEvidence::NotANumber; });
+}
+
+//! What \a row says besides its numbers.
+Measurement MeasurementReader::withoutNumbers(const CsvRow &row)
+{
+    Measurement measurement;
+    measurement.line = row.line;
+    measurement.name = given(row, ColumnPart::Name);
+    readPlace(row, measurement);
+    return measurement;
 }
 
 std::optional<Measurement> MeasurementReader::readRow(const CsvRow &row)

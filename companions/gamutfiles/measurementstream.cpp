@@ -8,6 +8,7 @@
 #include "textencoding_p.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace gamutfiles {
@@ -135,7 +136,7 @@ void MeasurementStream::Private::takeText(const NumberedLine &line)
 void MeasurementStream::Private::findHeader()
 {
     auto candidate = std::make_unique<StreamRows>(options);
-    if (candidate->begin(head)) {
+    if (candidate->begin(head, [this](qint64 line, const Problem &problem) { refuse(line, problem); })) {
         rows = std::move(candidate);
         firstRows = rows->takeFirstRows();
         head.clear();
@@ -186,6 +187,9 @@ void MeasurementStream::Private::takeRow(const CsvRow &row, const NumberedLine &
     if (refused && !(refused->first == row.line && !line.text.isEmpty() && beginAnew(line))) {
         refuse(refused->first, refused->second);
     }
+    const QVector<Measurement> unread = rows ? rows->takeUnread() : QVector<Measurement>();
+    std::copy_if(unread.begin(), unread.end(), std::back_inserter(found),
+        [this](const Measurement &measurement) { return isOfCabinet(measurement); });
     playParts(measurements);
     for (const Measurement &measurement : std::as_const(measurements)) {
         ++state.measurements;

@@ -70,6 +70,9 @@ public:
     /*!
      * \brief Reads at most \a most further lines of what was fed; the measurements in them, in their order.
      *
+     * A line that is not read, but names a colour of a cabinet, gives one without a part and a colour: there is such a
+     * cabinet.
+     *
      * All of them are in the unit that state() tells then.
      */
     QVector<Measurement> read(int most);

@@ -19,7 +19,7 @@ struct StreamText {
 
 } // namespace
 
-bool StreamRows::begin(const QVector<NumberedLine> &lines)
+bool StreamRows::begin(const QVector<NumberedLine> &lines, const Refusal &refuse)
 {
     QString text;
     for (const NumberedLine &line : lines) {
@@ -42,6 +42,14 @@ bool StreamRows::begin(const QVector<NumberedLine> &lines)
         return fail(StreamText::tr("the header and the first measurement are awaited"));
     }
     m_decimalSign = m_options.decimalSign.value_or(m_decimalSign);
+    for (const CsvRow &row : std::as_const(m_table.rows)) {
+        if (isAboveHeader(row)) {
+            refuse(row.line, Problem{StreamText::tr("is above the line that names the columns"), QString(), 0, 0});
+            if (namesColorOfCabinet(row)) {
+                m_unread.append(withoutNumbers(row));
+            }
+        }
+    }
     m_firstRows = m_table.rows.mid(m_firstRow);
     m_table.rows.clear();
     m_firstRow = 0;
@@ -103,13 +111,18 @@ void StreamRows::read(const CsvRow &row, QVector<Measurement> &found, const Refu
     m_failure = Problem();
     m_withoutNumbers = Lines();
     m_list.measurements.clear();
+    m_list.withoutNumbers.clear();
     findNoise(row);
     if (!takeRow(row)) {
         refuse(row.line, m_failure);
+        if (namesColorOfCabinet(row)) {
+            m_unread.append(withoutNumbers(row));
+        }
     } else if (m_withoutNumbers.count > 0) {
         refuse(row.line, Problem{StreamText::tr("has no numbers"), place(row.line), 0, 0});
     }
     found += m_list.measurements;
+    m_unread += m_list.withoutNumbers;
 }
 
 } // namespace gamutfiles

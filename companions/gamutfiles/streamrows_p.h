@@ -27,8 +27,9 @@ public:
 
     using MeasurementReader::MeasurementReader;
 
-    //! Finds the header in \a lines; false where there is none, or where what follows it is wanting.
-    bool begin(const QVector<NumberedLine> &lines);
+    //! Finds the header in \a lines; false where there is none, or where what follows it is wanting. Measurements above
+    //! it are told to \a refuse.
+    bool begin(const QVector<NumberedLine> &lines, const Refusal &refuse);
     //! Whether \a line is a header by itself.
     bool isHeader(const NumberedLine &line);
     //! Reads \a row, or else the rows that it decides how to read. What cannot be read is told to \a refuse.
@@ -45,6 +46,9 @@ public:
     //! The rows below the header that begin() was given.
     QVector<CsvRow> takeFirstRows() { return std::exchange(m_firstRows, {}); }
 
+    //! What is known of rows that are not read and name a colour of a cabinet, since the last call.
+    QVector<Measurement> takeUnread() { return std::exchange(m_unread, {}); }
+
     static QString placeOf(qint64 line) { return place(int(line)); }
     static bool isChosen(const Measurement &measurement, const MeasurementChoice &choice)
     {
@@ -56,6 +60,7 @@ private:
     void read(const CsvRow &row, QVector<Measurement> &found, const Refusal &refuse);
 
     QVector<CsvRow> m_firstRows;
+    QVector<Measurement> m_unread;
     QVector<CsvRow> m_held; // until the decimal sign is known
 };
 

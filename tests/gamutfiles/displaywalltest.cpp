@@ -17,6 +17,7 @@ private Q_SLOTS:
     void placesAreTakenOver();
     void cabinetsWithoutAPrimaryAreIncomplete();
     void cabinetsWithAColorTwiceAreIncomplete();
+    void cabinetsWithoutNumbersAreIncomplete();
     void blackWithoutChromaticity();
     void incompleteCabinetsKeepTheirPlaces();
     void reasonsAreTranslated();
@@ -132,6 +133,29 @@ void DisplayWallTest::cabinetsWithAColorTwiceAreIncomplete()
             QStringList{"cabinets of which nothing is known, as a colour is there more than once: two"});
         QCOMPARE(incompleteOf(*wall), QStringList{QStringLiteral("two: %1 is there more than once").arg(color)});
     }
+}
+
+//! A cabinet that was measured in vain is part of the wall all the same.
+void DisplayWallTest::cabinetsWithoutNumbersAreIncomplete()
+{
+    const QByteArray complete = "cabinet,name,Y (cd/m2),x,y\nA,R,1,0.6,0.3\nA,G,3,0.3,0.6\nA,B,0.5,0.15,0.1\n";
+    const QStringList missing{QStringLiteral("B: red is missing, green is missing, blue is missing")};
+    for (const QByteArray &lines : {QByteArray("B,R,n/a,n/a,n/a\nB,G,n/a,n/a,n/a\n"), QByteArray("B,R,,,\n")}) {
+        const MeasurementList list = listOf(complete + lines);
+        QVERIFY(!list.gamut(QString())); // A is not all that there is
+        const auto wall = wallFromMeasurements(list);
+        QVERIFY(wall);
+        QCOMPARE(incompleteOf(*wall), missing);
+    }
+    // What names no colour, or no cabinet, is no measurement.
+    for (const QByteArray &lines :
+        {QByteArray("B,Total,,,\n"), QByteArray(",R,,,\n"), QByteArray("Second run,,,,\n")}) {
+        QVERIFY(wallFromMeasurements(listOf(complete + lines))->incomplete.empty());
+    }
+    MeasurementOptions options;
+    options.cabinet = QStringLiteral("B");
+    QCOMPARE(readMeasurementList(complete + "B,R,n/a,n/a,n/a\n", options).error(),
+        QStringLiteral("cabinet \"B\" has no numbers"));
 }
 
 void DisplayWallTest::blackWithoutChromaticity()

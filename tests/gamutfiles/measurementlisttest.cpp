@@ -120,6 +120,8 @@ void MeasurementListTest::refusals_data()
         "the primaries do not form a triangle");
     row("gamut on a line", "R,1,0.6,0.3\nG,1,0.4,0.3\nB,1,0.2,0.3\nW,3,0.3,0.3",
         "the primaries do not form a triangle");
+    row("measurement above the header", "Lab 3\nRed,21,0.64,0.33\nname,Y,x,y\nBlue,7,0.15,0.06\n",
+        "line 2: is a measurement above the line that names the columns: move line 3 to the top");
     row("beyond the diagram", "a,1,0.6,0.5", "line 1, column x: x + y must not exceed 1");
 }
 

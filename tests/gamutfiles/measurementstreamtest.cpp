@@ -65,6 +65,7 @@ private Q_SLOTS:
     void keepsAByteOrderMarkAndItsEncoding();
     void decidesTheEncodingByTheFirstLineThatTells();
     void countsLinesThatCannotBeRead();
+    void tellsCabinetsOfLinesThatAreNotRead();
     void passesOverALineThatIsTooLong();
     void beginsAnewWithAHeader();
     void passesOverWhatPrecedesTheHeader();
@@ -285,6 +286,25 @@ void MeasurementStreamTest::countsLinesThatCannotBeRead()
     }
     QCOMPARE(readAll(stream, "Blue,7,0.15,0.06\n").size(), 1);
     QCOMPARE(stream.state().measurements, 2);
+}
+
+void MeasurementStreamTest::tellsCabinetsOfLinesThatAreNotRead()
+{
+    MeasurementStream stream;
+    const auto cabinets = [&stream](const QByteArray &lines) {
+        QStringList names;
+        for (const Measurement &measurement : readAll(stream, lines)) {
+            names.append(measurement.cabinet + (measurement.color ? QStringLiteral(" read") : QString()));
+        }
+        return names.join(QLatin1Char(' '));
+    };
+    QCOMPARE(cabinets("A1,Red,21,0.64,0.33\ncabinet,name,Y (cd/m2),x,y\nA2,Red,21,0.64,0.33\n"),
+        QStringLiteral("A1 A2 read"));
+    QCOMPARE(stream.state().notRead, 1);
+    QCOMPARE(stream.state().lastNotRead.message(), QStringLiteral("line 1: is above the line that names the columns"));
+    QCOMPARE(cabinets("A3,Red,n/a,n/a,n/a\nA4,Red,#DIV/0!,0.64,0.33\nA5,Total,,,\n"), QStringLiteral("A3 A4"));
+    QCOMPARE(stream.state().notRead, 4);
+    QCOMPARE(stream.state().measurements, 1);
 }
 
 void MeasurementStreamTest::passesOverALineThatIsTooLong()

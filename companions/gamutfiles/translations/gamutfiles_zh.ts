@@ -1137,6 +1137,14 @@
         <source>begins with # and is not read, though it has the numbers of a measurement; to read it, put its first field in quotes</source>
         <translation>以 # 开头，未读取，但其中有测量的数值；如需读取，请给第一个字段加引号</translation>
     </message>
+    <message>
+        <source>cabinet &quot;%1&quot; has no numbers</source>
+        <translation>箱体“%1”没有数值</translation>
+    </message>
+    <message>
+        <source>is a measurement above the line that names the columns: move line %1 to the top</source>
+        <translation>是列名行之上的测量：请将第 %1 行移到最前</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::MeasurementStream</name>
@@ -1159,6 +1167,10 @@
     <message>
         <source>has no end, and may be cut off</source>
         <translation>没有行尾，可能不完整</translation>
+    </message>
+    <message>
+        <source>is above the line that names the columns</source>
+        <translation>位于列名行之上</translation>
     </message>
 </context>
 <context>
