@@ -493,7 +493,8 @@ void FollowedDocumentTest::selectionStaysWithItsCabinet()
 void FollowedDocumentTest::cabinetThatIsBeingMeasuredIsKept()
 {
     const FollowedMeasurement shown = measurement(followed(0.69, QStringLiteral("A3 Red")), wall({"A1", "A2"}));
-    const FollowedMeasurement toKeep = measurement(pointOnly(), wall({"A1", "A2", "A3"}));
+    const FollowedMeasurement ended = measurement(pointOnly(), wall({"A1", "A2", "A3"}));
+    const auto toKeep = [&ended] { return ended; };
     Fixture f;
     f.document.showFollowed(shown, toKeep);
     QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
@@ -518,7 +519,7 @@ void FollowedDocumentTest::cabinetThatIsBeingMeasuredIsKept()
     QCOMPARE(f.ownLeftOut(), QStringLiteral("A1 A2"));
     f.session.setLeftOut({0, 1}, false);
     QCOMPARE(f.ownLeftOut(), QStringLiteral("A2"));
-    f.document.showFollowed(toKeep);
+    f.document.showFollowed(ended);
     QCOMPARE(f.leftOut(), QStringLiteral("A2"));
 }
 

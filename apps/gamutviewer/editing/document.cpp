@@ -206,14 +206,14 @@ void Document::cancelDrag()
 }
 
 void Document::showFollowed(
-    const std::optional<FollowedMeasurement> &measurement, const std::optional<FollowedMeasurement> &toKeep)
+    const std::optional<FollowedMeasurement> &measurement, const std::function<FollowedMeasurement()> &toKeep)
 {
     std::optional<FollowedMeasurement> followed = measurement;
-    std::optional<FollowedMeasurement> followedToKeep = toKeep;
+    std::function<FollowedMeasurement()> keeps = measurement ? toKeep : nullptr;
     DisplayDescription description = withMeasurement(m_own, followed);
     const auto exchange = [&] {
         std::swap(m_followed, followed);
-        std::swap(m_followedToKeep, followedToKeep);
+        std::swap(m_toKeep, keeps);
         std::swap(m_description, description);
     };
     exchange();
@@ -335,11 +335,12 @@ DisplayWall Document::wallWithoutFollowed(const DisplayWall &edited) const
     }
     const QSet<QString> leftOut = leftOutOf(edited);
     const QSet<QString> before = leftOutOf(shown);
-    if (leftOut == before || !toKeep()->wall) {
+    if (leftOut == before) {
         return m_own.wall;
     }
+    const auto kept = toKeep();
     // Also those that are not shown, as they are being measured.
-    return withLeftOut(*toKeep()->wall, leftOutOf(m_own.wall) - before + leftOut);
+    return withLeftOut(kept->wall ? *kept->wall : shown, leftOutOf(m_own.wall) - before + leftOut);
 }
 
 void Document::show(const DisplayDescription &own)

@@ -9,6 +9,9 @@
 #include <QObject>
 #include <QUndoStack>
 
+#include <functional>
+#include <optional>
+
 namespace gamutviewer {
 
 /*!
@@ -77,14 +80,14 @@ public:
      * nothing of it, but for a gamut that gets another part or another name by it, and for a wall of which it leaves
      * out a cabinet. The cabinets that own() leaves out are left out of what is shown, too.
      *
-     * \a toKeep is what the description takes over of it; nothing: what is shown. They differ by a cabinet that is
-     * being measured, for instance.
+     * \a toKeep gives what the description takes over of it when it does, as long as it is shown; null: what is shown.
+     * They differ by a cabinet that is being measured, for instance.
      *
      * Where there is not enough memory to show it, std::bad_alloc is thrown, and what was shown before is shown again;
      * see showAgain().
      */
     void showFollowed(const std::optional<FollowedMeasurement> &measurement,
-        const std::optional<FollowedMeasurement> &toKeep = std::nullopt);
+        const std::function<FollowedMeasurement()> &toKeep = nullptr);
     /*! \brief The cabinet whose gamut is shown as the measured one while it is followed; empty for none. */
     QString measuredCabinet() const;
     /*! \brief Whether a wall is shown that is followed. It is not removed by an edit. */
@@ -124,10 +127,7 @@ private:
     void tellChanged();
     static DisplayDescription withMeasurement(
         const DisplayDescription &own, const std::optional<FollowedMeasurement> &measurement);
-    const std::optional<FollowedMeasurement> &toKeep() const
-    {
-        return m_followedToKeep ? m_followedToKeep : m_followed;
-    }
+    std::optional<FollowedMeasurement> toKeep() const { return m_toKeep ? m_toKeep() : m_followed; }
     DisplayDescription withoutFollowed(const DisplayDescription &edited) const;
     DisplayWall wallWithoutFollowed(const DisplayWall &edited) const;
     QVector<QPointF> trailWith(const DisplayDescription &description) const;
@@ -135,7 +135,7 @@ private:
     DisplayDescription m_description;
     DisplayDescription m_own;
     std::optional<FollowedMeasurement> m_followed;
-    std::optional<FollowedMeasurement> m_followedToKeep; // where it is not what is shown
+    std::function<FollowedMeasurement()> m_toKeep; // null: what is shown
     bool m_isHalfShown = false; // by some of those that hear of changes, and not by others
     DisplayDescription m_saved;
     QString m_fileName;

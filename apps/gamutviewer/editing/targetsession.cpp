@@ -296,6 +296,7 @@ void TargetSession::removeWall()
     }
     DisplayDescription description = m_document->description();
     description.wall = DisplayWall();
+    selectCabinet(std::nullopt);
     m_document->change(description, tr("remove the wall"));
 }
 

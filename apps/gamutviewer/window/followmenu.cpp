@@ -89,7 +89,8 @@ void FollowMenu::show()
 
 void FollowMenu::showLatest()
 {
-    m_document->showFollowed(m_following->inProgress(), m_following->asIfEnded());
+    m_document->showFollowed(
+        m_following->inProgress(), [following = m_following.get()] { return following->asIfEnded(); });
 }
 
 bool FollowMenu::keep()
