@@ -26,6 +26,7 @@ private Q_SLOTS:
     void reachedLuminancesAreRoundedDown();
     void largestOfWhichItIsKnown();
     void whiteThatWasNotMeasured();
+    void whiteThatWasNotMeasuredBesideDarkOnes();
 };
 
 void WallWhitesTest::whiteThatIsNotTheSum()
@@ -84,9 +85,30 @@ void WallWhitesTest::whiteThatWasNotMeasured()
     QCOMPARE(assessWall(wall, targetOf(1200.0)).cabinets[0].judgement, Judgement::Fail);
     wall.cabinets[2].white = color(1300.0, d65.x, d65.y);
     QCOMPARE(assessWall(wall, targetOf(1200.0)).cabinets[0].judgement, Judgement::NotKnown);
-    // One that is left out says nothing of the others.
+    // One that is left out says as much of the others.
     wall.cabinets[2].isLeftOut = true;
-    QCOMPARE(assessWall(wall, targetOf(1000.0)).judgement, Judgement::Pass);
+    QCOMPARE(assessWall(wall, targetOf(1000.0)).judgement, Judgement::NotKnown);
+}
+
+// Within what counts as additive, it can be as far below the sum as others.
+void WallWhitesTest::whiteThatWasNotMeasuredBesideDarkOnes()
+{
+    const Model::Target d65 = Model::rec2020().getTargets().white;
+    DisplayWall wall = wallOf(1);
+    for (WallCabinet &of : wall.cabinets) {
+        of.white = color(1100.0, d65.x, d65.y);
+    }
+    wall.cabinets[0] = cabinet(QStringLiteral("A1"), 0, 0, 1050.0);
+    wall.cabinets[3].white = color(1078.0, d65.x, d65.y); // 0.98 of the sum
+    const WallAssessment found = assessWall(wall, targetOf(1040.0));
+    QCOMPARE(found.cabinets[0].judgement, Judgement::NotKnown);
+    QVERIFY(std::fabs(*found.cabinets[0].largestWhite - 1029.0) < 1e-6);
+    QVERIFY2(textOf(found).contains(QStringLiteral(
+                 "? A1: its white was not measured, and reaches 1029.0 cd/m² only, of 1040.0 cd/m², if it is as far "
+                 "below the sum of the primaries as that of A4: measure it.")),
+        qPrintable(textOf(found)));
+    QCOMPARE(assessWall(wall, targetOf(1025.0)).cabinets[0].judgement, Judgement::Pass);
+    QCOMPARE(assessWall(wall, targetOf(1055.0)).cabinets[0].judgement, Judgement::Fail); // more than the sum
 }
 
 void WallWhitesTest::measuredWhiteDecidesWhereItWasMeasured()

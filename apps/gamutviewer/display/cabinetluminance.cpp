@@ -35,10 +35,12 @@ CabinetLuminance::CabinetLuminance(const WallCabinet &cabinet, const Model::Disp
     : m_drive(drive)
     , m_target(target)
     , m_sum(drive.largestLuminance(pointOf(target.white)))
+    , m_isWhiteMeasured(cabinet.white.has_value())
 {
     if (!cabinet.white) {
         m_isAdditive = others.areAdditive;
         m_isUpperBound = others.haveUpperBounds;
+        m_measured = others.leastShare;
         return;
     }
     const Model::Target &white = *cabinet.white;
@@ -70,9 +72,9 @@ void CabinetLuminance::reach(CabinetAssessment &result) const
     } else {
         result.largestWhite = m_measuredWhite;
     }
-    result.notTooBright = m_isUpperBound
-        ? std::make_optional(std::min(m_sum->luminance, result.largestWhite.value_or(m_sum->luminance)))
-        : result.largestWhite;
+    result.notTooBright = m_isUpperBound ? std::make_optional(std::min(m_sum->luminance,
+                              m_isWhiteMeasured ? result.largestWhite.value_or(m_sum->luminance) : m_sum->luminance))
+                                         : result.largestWhite;
 }
 
 std::optional<double> CabinetLuminance::correctable() const
@@ -91,12 +93,13 @@ void CabinetLuminance::judge(CabinetAssessment &result) const
     if (!needed) {
         return;
     }
-    const auto most = result.largestWhite ? result.largestWhite : result.notTooBright;
+    const bool isKnown = m_isWhiteMeasured && result.largestWhite;
+    const auto most = isKnown ? result.largestWhite : result.notTooBright;
     const bool isExceeded = (most && isTooBright(m_target.white.Y, *most))
         || (m_isUpperBound && hasTooBrightPrimary(*needed, result.outside));
     if (isExceeded) {
         result.luminance = Judgement::Fail;
-    } else if (m_isAdditive) {
+    } else if (m_isAdditive && !(result.largestWhite && isTooBright(m_target.white.Y, *result.largestWhite))) {
         result.luminance = Judgement::Pass;
     }
 }

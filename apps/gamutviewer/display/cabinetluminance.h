@@ -7,6 +7,7 @@
 
 #include <gamutmodel/drive.h>
 
+#include <algorithm>
 #include <optional>
 
 namespace gamutviewer {
@@ -15,6 +16,7 @@ namespace gamutviewer {
 struct MeasuredWhites {
     bool areAdditive = true;
     bool haveUpperBounds = true; //!< Additivity::isUpperBound
+    double leastShare = 1.0; //!< the least CabinetLuminance::shareOfSum() of those that are additive
 };
 
 /*! \brief What is known of the luminances of a cabinet of a wall. */
@@ -27,6 +29,8 @@ public:
     CabinetLuminance(const WallCabinet &cabinet, const Model::DisplayDrive &drive, const Model::Targets &target,
         const MeasuredWhites &others);
 
+    /*! \brief The luminance of the white as a part of what the primaries add to, at most 1. */
+    double shareOfSum() const { return std::min(m_measured, 1.0); }
     /*! \brief Whether the cabinet shows no more than the sum of its primaries. */
     bool isUpperBound() const { return m_isUpperBound; }
     /*!
@@ -44,6 +48,7 @@ private:
     const Model::DisplayDrive &m_drive;
     const Model::Targets &m_target;
     const std::optional<Model::LargestLuminance> m_sum;
+    const bool m_isWhiteMeasured;
     bool m_isAdditive = true;
     bool m_isUpperBound = true; // also of what is additive
     std::optional<OffSum> m_offSum;

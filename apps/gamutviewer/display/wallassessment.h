@@ -76,7 +76,8 @@ struct CabinetAssessment {
     /*!
      * \brief The largest luminance of the target's white, in the unit of the wall. Nothing where it is not known.
      *
-     * Where its white was measured at the white of the target, that is the measured luminance.
+     * Where its white was measured at the white of the target, that is the measured luminance. Where it was not
+     * measured, it is as far below the sum of the primaries as that of WallAssessment::darkestWhite.
      */
     std::optional<double> largestWhite;
     /*!
@@ -124,11 +125,16 @@ struct WallAssessment {
      */
     std::vector<std::size_t> worstFirst;
     bool luminancesCompare = false; //!< whether those of wall and target are both in cd/m²
-    /*! \brief The cabinet whose black has the most luminance of those that count; nothing where none was measured. */
-    std::optional<std::size_t> brightestBlack;
-    /*! \brief The first cabinet that counts whose measured white is not the sum of its primaries; nothing without one.
+    /*! \brief The cabinet whose black has the most luminance, also if it is left out; nothing where none was measured.
      */
+    std::optional<std::size_t> brightestBlack;
+    /*! \brief The first cabinet whose measured white is not the sum of its primaries, also if it is left out. */
     std::optional<std::size_t> notAdditive;
+    /*!
+     * \brief Of those that are additive, the cabinet whose measured white is the darkest beside the sum of its
+     * primaries; nothing where none is darker.
+     */
+    std::optional<std::size_t> darkestWhite;
     bool isReachKnownOfAll = false; //!< whether CabinetAssessment::largestWhite is known of all cabinets that count
     /*! \brief What the cabinets have in common that count and whose gamut is known. */
     Model::CommonGamut common;

@@ -143,7 +143,13 @@ QString possibleBlackText(
                   .arg(other, off);
     }
     const double wanted = target.getTargets().white.Y;
-    if (!assessment.luminancesCompare || !cabinet.leastWhite || !isTooBright(wanted, *cabinet.leastWhite)) {
+    const bool isTooDark = cabinet.leastWhite && isTooBright(wanted, *cabinet.leastWhite);
+    if (assessment.luminancesCompare && hasOwn && cabinet.isAdditive && cabinet.luminance == Judgement::NotKnown
+        && !cabinet.largestWhite && !isTooDark) {
+        return WallText::tr("the chromaticity of its black is not known, nor whether its white is the sum of its "
+                            "primaries over it: measure it");
+    }
+    if (!assessment.luminancesCompare || !isTooDark) {
         return QString();
     }
     const QString reached = reachableText(*cabinet.leastWhite, wall.unit);
@@ -270,6 +276,7 @@ QString cabinetText(
     if (!possible.isEmpty()) {
         parts.append(possible);
     }
+    const bool hasSaidWhy = cabinet.largestWhite && isTooBright(target.getTargets().white.Y, *cabinet.largestWhite);
     const QString fault = faultText(correction);
     if (!fault.isEmpty()) {
         parts.append(fault);
@@ -280,12 +287,19 @@ QString cabinetText(
                                   "it",
             "name of a cabinet")
                          .arg(cabinetName(wall, *assessment.notAdditive)));
+    } else if (cabinet.luminance == Judgement::NotKnown && hasSaidWhy && !of.white && assessment.darkestWhite) {
+        parts.append(
+            WallText::tr("its white was not measured, and reaches %1 only, of %2, if it is as far below the sum "
+                         "of the primaries as that of %3: measure it",
+                "luminances, name of a cabinet")
+                .arg(reachableText(*cabinet.largestWhite, wall.unit),
+                    luminanceText(target.getTargets().white.Y, target.unit),
+                    cabinetName(wall, *assessment.darkestWhite)));
     } else if (!cabinet.isAdditive) {
         parts.append(notAdditiveText(wall, target, cabinet, *of.white, *correction.uncorrectedWhite));
-    } else if (cabinet.largestWhite && (parts.isEmpty() || cabinet.luminance == Judgement::Fail)) {
+    } else if (cabinet.largestWhite && (cabinet.luminance == Judgement::Fail ? hasSaidWhy : parts.isEmpty())) {
         parts.append(whiteText(wall, target, cabinet, correction));
     }
-    const bool hasSaidWhy = cabinet.largestWhite && isTooBright(target.getTargets().white.Y, *cabinet.largestWhite);
     if (cabinet.luminance == Judgement::Fail && !hasSaidWhy) {
         parts.append(cabinet.isAdditive ? WallText::tr("a primary of the target is too bright for it")
                                         : WallText::tr("the target is too bright for it in any case"));

@@ -136,17 +136,25 @@ private:
         if (hasLuminance()) {
             luminance.judge(result);
         }
-        if (result.isLeftOut) {
-            return;
+        if (m_wall.cabinets[i].white) {
+            learnFromWhite(i, luminance);
         }
         const auto correctable = luminance.correctable();
-        if (correctable) {
+        if (correctable && !result.isLeftOut) {
             m_correctable = std::min(m_correctable.value_or(*correctable), *correctable);
         }
-        if (m_wall.cabinets[i].white && !result.isAdditive) {
+    }
+
+    //! What one cabinet shows, others may, also if it is left out.
+    void learnFromWhite(std::size_t i, const CabinetLuminance &luminance)
+    {
+        if (!m_result.cabinets[i].isAdditive) {
             m_result.notAdditive = m_result.notAdditive.value_or(i);
             m_whites.areAdditive = false;
             m_whites.haveUpperBounds = m_whites.haveUpperBounds && luminance.isUpperBound();
+        } else if (luminance.shareOfSum() < m_whites.leastShare) {
+            m_result.darkestWhite = i;
+            m_whites.leastShare = luminance.shareOfSum();
         }
     }
 
@@ -182,7 +190,8 @@ private:
     {
         std::optional<double> most;
         std::vector<Model::Target> lights;
-        for (const std::size_t i : m_counted) {
+        // A black is mostly light of the room, so that of a cabinet that is left out says as much.
+        for (std::size_t i = 0; i < m_cabinets.size(); ++i) {
             const auto luminance = blackLuminance(i);
             if (luminance && (!most || *luminance > *most)) {
                 most = luminance;
@@ -247,6 +256,11 @@ private:
             if (hasLuminance()) {
                 luminance.judge(over);
             }
+        }
+        // A white that is the sum without a black, and not over it, speaks against such a black, if it was not
+        // measured.
+        if (!over.isAdditive && !m_wall.cabinets[i].blackLuminance) {
+            return;
         }
         if (over.luminance != Judgement::Pass && result.luminance == Judgement::Pass) {
             result.luminance = Judgement::NotKnown;
@@ -497,7 +511,7 @@ private:
     const std::vector<Model::Cabinet> m_cabinets;
     std::vector<std::size_t> m_counted; // all that are not left out
     std::vector<Model::Target> m_blackChromaticities; // of the blacks that were measured, those that lie farthest out
-    MeasuredWhites m_whites; // of those that count
+    MeasuredWhites m_whites;
     std::optional<double> m_correctable; // the largest white that corrections of these can be for
     WallAssessment m_result;
 };

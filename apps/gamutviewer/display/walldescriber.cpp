@@ -346,9 +346,9 @@ private:
         if (all == 1) {
             const QString name = m_counted.empty() ? cabinetName(m_wall, m_wall.incomplete.front())
                                                    : cabinetName(m_wall, m_counted.front());
-            text = withLeftOut(fails > 0 ? WallText::tr("The cabinet %1 does not show this target").arg(name)
-                    : unknown > 0        ? WallText::tr("Not known whether the cabinet %1 shows this target").arg(name)
-                                         : WallText::tr("The cabinet %1 shows this target").arg(name));
+            text = (fails > 0     ? WallText::tr("The cabinet %1 does not show this target").arg(name)
+                    : unknown > 0 ? WallText::tr("Not known whether the cabinet %1 shows this target").arg(name)
+                                  : WallText::tr("The cabinet %1 shows this target").arg(name));
         } else if (all == 0) {
             text = WallText::tr("Nothing is judged: all cabinets are left out");
         } else if (fails == 0 && unknown > 0) {
@@ -357,7 +357,7 @@ private:
         } else if (fails == 0) {
             text = m_leftOut.empty() && all == 2 ? WallText::tr("Both cabinets show this target")
                 : m_leftOut.empty()              ? WallText::tr("All %1 cabinets show this target").arg(all)
-                                                 : withLeftOut(WallText::tr("%1 cabinets show this target").arg(all));
+                                                 : WallText::tr("%1 cabinets show this target").arg(all);
         } else if (fails == all) {
             text = all == 2 ? WallText::tr("Neither cabinet shows this target")
                             : WallText::tr("None of the %1 cabinets shows this target").arg(all);
@@ -381,6 +381,9 @@ private:
             if (unknown > 0) {
                 text = ofUnknown(text, unknown);
             }
+        }
+        if (all > 0) {
+            text = withLeftOut(text);
         }
     }
 

@@ -2670,6 +2670,15 @@ Esc – 关闭有焦点的消息
         <source>The whites of %1 cabinets were not measured, and that of %2 is not the sum of its primaries: measure them.</source>
         <translation>有 %1 个箱体的白点未测量，而 %2 的白点不等于其各基色之和：请测量。</translation>
     </message>
+    <message>
+        <source>the chromaticity of its black is not known, nor whether its white is the sum of its primaries over it: measure it</source>
+        <translation>其黑场的色度未知，也不知道在其之上白点是否等于各基色之和：请测量</translation>
+    </message>
+    <message>
+        <source>its white was not measured, and reaches %1 only, of %2, if it is as far below the sum of the primaries as that of %3: measure it</source>
+        <comment>luminances, name of a cabinet</comment>
+        <translation>其白点未测量；若它与 %3 的白点一样低于各基色之和，则只能达到 %1（目标为 %2）：请测量</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallCommand</name>
