@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include "ratioreporter.h"
+#include "repeatedbenchmark.h"
 #include "samplegamuts.h"
 
 #include <ceiechart/diagram/horseshoefill_p.h>
@@ -177,16 +178,6 @@ void repaintLegacyChart(benchmark::State &state, QSize size)
     repaintScene(state, scene, size);
 }
 
-template <typename... Arguments>
-void add(const std::string &name, Arguments... arguments)
-{
-    benchmark::RegisterBenchmark(name.c_str(), arguments...)
-        ->Unit(benchmark::kMillisecond)
-        ->MinTime(0.3)
-        ->Repetitions(5)
-        ->ReportAggregatesOnly();
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -195,23 +186,23 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     for (const QSize &size : {QSize(800, 800), QSize(1920, 1080), QSize(3840, 2160)}) {
         const std::string dimensions = std::to_string(size.width()) + "x" + std::to_string(size.height());
-        add("fill " + dimensions + "/plain", plainFill, size);
+        addRepeated("fill " + dimensions + "/plain", plainFill, size);
         for (int i = 0; i < ceiechart::fillKernelCount; ++i) {
             if (ceiechart::fillKernels[i].supported()) {
-                add("fill " + dimensions + "/" + ceiechart::fillKernels[i].name, kernelFill, size,
+                addRepeated("fill " + dimensions + "/" + ceiechart::fillKernels[i].name, kernelFill, size,
                     &ceiechart::fillKernels[i]);
             }
         }
-        add("gamut form " + dimensions + "/plain", plainGamutForm, size);
-        add("gamut form " + dimensions + "/library", gamutForm, size);
-        add("gamut form " + dimensions + "/new picture", newPicture, size);
+        addRepeated("gamut form " + dimensions + "/plain", plainGamutForm, size);
+        addRepeated("gamut form " + dimensions + "/library", gamutForm, size);
+        addRepeated("gamut form " + dimensions + "/new picture", newPicture, size);
     }
     const QSize fullHd(1920, 1080);
-    add("u'v' picture 1920x1080/plain", plainUvPicture, fullHd);
-    add("u'v' picture 1920x1080/library", uvPicture, fullHd);
-    add("repaint 1920x1080/plain", repaintReadyPixmap, fullHd);
-    add("repaint 1920x1080/chart", repaintChart, fullHd);
-    add("repaint 1920x1080/legacy chart", repaintLegacyChart, fullHd);
+    addRepeated("u'v' picture 1920x1080/plain", plainUvPicture, fullHd);
+    addRepeated("u'v' picture 1920x1080/library", uvPicture, fullHd);
+    addRepeated("repaint 1920x1080/plain", repaintReadyPixmap, fullHd);
+    addRepeated("repaint 1920x1080/chart", repaintChart, fullHd);
+    addRepeated("repaint 1920x1080/legacy chart", repaintLegacyChart, fullHd);
     benchmark::Initialize(&argc, argv);
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -3,6 +3,7 @@
 // What the diagram costs at the size of a screen: a step of the hands against showing a ready picture, a step of the
 // view against filling the horseshoe pixel by pixel.
 #include "ratioreporter.h"
+#include "repeatedbenchmark.h"
 
 #include <ceiechart/diagram/diagramview.h>
 #include <gamutmodel/colorgamut.h>
@@ -180,11 +181,7 @@ void zoom(benchmark::State &state, const QSize &screen, int deepest)
 template <typename... Arguments>
 void add(const QString &name, Arguments... arguments)
 {
-    benchmark::RegisterBenchmark(qPrintable(name), arguments...)
-        ->Unit(benchmark::kMillisecond)
-        ->MinTime(0.3)
-        ->Repetitions(5)
-        ->ReportAggregatesOnly();
+    addRepeated(name.toStdString(), arguments...);
 }
 
 } // namespace

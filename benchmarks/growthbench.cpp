@@ -3,6 +3,7 @@
 // How the time of each layer of the gamut form grows with the picture. A layer is drawn again and again over the same
 // picture, which holds all that lies below it.
 #include "growthreporter.h"
+#include "repeatedbenchmark.h"
 #include "samplegamuts.h"
 
 #include <ceiechart/render/drawceipicture_p.h>
@@ -204,11 +205,7 @@ void takeMemory(benchmark::State &state, QSize size)
 template <typename... Arguments>
 void add(const QSize &size, const char *what, Arguments... arguments)
 {
-    benchmark::RegisterBenchmark(GrowthReporter::nameOf(size.width(), size.height(), what).c_str(), arguments...)
-        ->Unit(benchmark::kMillisecond)
-        ->MinTime(0.2)
-        ->Repetitions(5)
-        ->ReportAggregatesOnly();
+    addRepeated(GrowthReporter::nameOf(size.width(), size.height(), what), arguments...);
 }
 
 } // namespace

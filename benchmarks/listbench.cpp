@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // How fast a measurement list is read line by line while it is written, against reading it as a whole.
 #include "ratioreporter.h"
+#include "repeatedbenchmark.h"
 
 #include <gamutfiles/latestmeasurements.h>
 #include <gamutfiles/measurementstream.h>
@@ -61,25 +62,15 @@ void readByLines(benchmark::State &state, const QByteArray &bytes, int mostPiece
     state.counters["lines/s"] = benchmark::Counter(double(lineCount), benchmark::Counter::kIsIterationInvariantRate);
 }
 
-template <typename... Arguments>
-void add(const char *name, Arguments... arguments)
-{
-    benchmark::RegisterBenchmark(name, arguments...)
-        ->Unit(benchmark::kMillisecond)
-        ->MinTime(0.3)
-        ->Repetitions(5)
-        ->ReportAggregatesOnly();
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
     // The goal: 1000 lines a second next to everything else, so no more than a few microseconds for a line.
-    add("list of 10000 lines/plain", readWhole);
-    add("list of 10000 lines/as it grows", readByLines, list(), pieceBytes);
-    add("list of 10000 lines/line by line", readByLines, list(), 32);
-    add("list of 10000 lines/broken lines", readByLines, brokenList(), pieceBytes);
+    addRepeated("list of 10000 lines/plain", readWhole);
+    addRepeated("list of 10000 lines/as it grows", readByLines, list(), pieceBytes);
+    addRepeated("list of 10000 lines/line by line", readByLines, list(), 32);
+    addRepeated("list of 10000 lines/broken lines", readByLines, brokenList(), pieceBytes);
     benchmark::Initialize(&argc, argv);
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // What the maths of a wall costs, from the measurements to the corrections, against reading the measurements once.
 #include "ratioreporter.h"
+#include "repeatedbenchmark.h"
 
 #include <gamutmodel/commongamut.h>
 #include <gamutmodel/correction.h>
@@ -138,31 +139,21 @@ void nothingInCommon(benchmark::State &state, std::size_t count)
     }
 }
 
-template <typename... Arguments>
-void add(const char *name, Arguments... arguments)
-{
-    benchmark::RegisterBenchmark(name, arguments...)
-        ->Unit(benchmark::kMillisecond)
-        ->MinTime(0.3)
-        ->Repetitions(5)
-        ->ReportAggregatesOnly();
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
     // The goals: 50 ms for the whole chain of 10 000 cabinets, a frame of 16 ms for a step with 1000.
-    add("wall of 10000/plain", readOnce, 10000);
-    add("wall of 10000/common gamut", common, 10000);
-    add("wall of 10000/common gamut, nothing in common", nothingInCommon, 10000);
-    add("wall of 10000/fit and largest triangle", fit, 10000);
-    add("wall of 10000/fit over blacks", fitOverBlacks, 10000);
-    add("wall of 10000/corrections", corrections, 10000);
-    add("wall of 10000/uniformity before and after", uniformity, 10000);
-    add("wall of 10000/whole chain", wholeChain, 10000);
-    add("wall of 1000/plain", readOnce, 1000);
-    add("wall of 1000/step of dragging the target", drag, 1000);
+    addRepeated("wall of 10000/plain", readOnce, 10000);
+    addRepeated("wall of 10000/common gamut", common, 10000);
+    addRepeated("wall of 10000/common gamut, nothing in common", nothingInCommon, 10000);
+    addRepeated("wall of 10000/fit and largest triangle", fit, 10000);
+    addRepeated("wall of 10000/fit over blacks", fitOverBlacks, 10000);
+    addRepeated("wall of 10000/corrections", corrections, 10000);
+    addRepeated("wall of 10000/uniformity before and after", uniformity, 10000);
+    addRepeated("wall of 10000/whole chain", wholeChain, 10000);
+    addRepeated("wall of 1000/plain", readOnce, 1000);
+    addRepeated("wall of 1000/step of dragging the target", drag, 1000);
     benchmark::Initialize(&argc, argv);
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
