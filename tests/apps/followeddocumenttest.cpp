@@ -166,6 +166,18 @@ private Q_SLOTS:
 
 namespace {
 
+//! Whether there was not enough memory for \a action. The macros of Qt 5 and 6 for it differ.
+template <typename Action>
+bool lacksMemory(const Action &action)
+{
+    try {
+        action();
+        return false;
+    } catch (const std::bad_alloc &) {
+        return true;
+    }
+}
+
 //! Hears of changes of a document; for some of them it has not enough memory.
 class Hearer {
 public:
@@ -541,14 +553,15 @@ void FollowedDocumentTest::showsNothingByHalves()
     const QByteArray before = descriptionText(f.document.description());
     Hearer hearer(f.document);
     hearer.failNext(1);
-    QVERIFY_EXCEPTION_THROWN(
-        f.document.showFollowed(measurement(followed(0.72), wall({"A1", "A2"}), QStringLiteral("A2"))), std::bad_alloc);
+    QVERIFY(lacksMemory([&] {
+        f.document.showFollowed(measurement(followed(0.72), wall({"A1", "A2"}), QStringLiteral("A2")));
+    }));
     QCOMPARE(descriptionText(f.document.description()), before);
     QCOMPARE(hearer.shown(), before);
     QCOMPARE(f.document.measuredCabinet(), QStringLiteral("A1"));
     QVERIFY(f.ownIs(description()));
     hearer.failNext(1);
-    QVERIFY_EXCEPTION_THROWN(f.document.showFollowed(std::nullopt), std::bad_alloc);
+    QVERIFY(lacksMemory([&] { f.document.showFollowed(std::nullopt); }));
     QCOMPARE(descriptionText(f.document.description()), before);
     f.document.showFollowed(std::nullopt);
     QCOMPARE(hearer.shown(), descriptionText(description()));
@@ -561,7 +574,7 @@ void FollowedDocumentTest::showsAgainWhatWasShownByHalves()
     f.document.showFollowed(measurement(followed(0.71)));
     const QByteArray before = hearer.shown();
     hearer.failNext(2); // what was there before cannot be shown, either
-    QVERIFY_EXCEPTION_THROWN(f.document.showFollowed(measurement(followed(0.72))), std::bad_alloc);
+    QVERIFY(lacksMemory([&] { f.document.showFollowed(measurement(followed(0.72))); }));
     QSignalSpy changed(&f.document, &Document::changed);
     f.document.showAgain();
     QCOMPARE(changed.size(), 1);
@@ -578,7 +591,7 @@ void FollowedDocumentTest::keepsNothingByHalves()
     const QVector<QPointF> trail = f.document.whiteTrail();
     Hearer hearer(f.document);
     hearer.failNext(1);
-    QVERIFY_EXCEPTION_THROWN(f.document.keepFollowed(QStringLiteral("keep")), std::bad_alloc);
+    QVERIFY(lacksMemory([&] { f.document.keepFollowed(QStringLiteral("keep")); }));
     QVERIFY(f.ownIs(description()));
     QVERIFY(f.document.hasUnkept());
     QVERIFY(!f.document.isModified());
