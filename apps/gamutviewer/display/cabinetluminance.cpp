@@ -72,16 +72,17 @@ void CabinetLuminance::reach(CabinetAssessment &result) const
     } else {
         result.largestWhite = m_measuredWhite;
     }
-    result.notTooBright = m_isUpperBound ? std::make_optional(std::min(m_sum->luminance,
-                              m_isWhiteMeasured ? result.largestWhite.value_or(m_sum->luminance) : m_sum->luminance))
-                                         : result.largestWhite;
+    const auto measured = m_isWhiteMeasured ? result.largestWhite : std::nullopt;
+    result.notTooBright = m_isUpperBound
+        ? std::make_optional(std::min(m_sum->luminance, measured.value_or(m_sum->luminance)))
+        : measured;
 }
 
 std::optional<double> CabinetLuminance::correctable() const
 {
-    return m_sum ? std::make_optional(
-               std::min(m_sum->luminance * std::min(m_measured, 1.0), m_measuredWhite.value_or(m_sum->luminance)))
-                 : std::nullopt;
+    return m_sum
+        ? std::make_optional(std::min(m_sum->luminance * shareOfSum(), m_measuredWhite.value_or(m_sum->luminance)))
+        : std::nullopt;
 }
 
 void CabinetLuminance::judge(CabinetAssessment &result) const

@@ -241,13 +241,14 @@ void Document::keepFollowed(const QString &text)
     if (m_dragging) {
         cancelDrag();
     }
-    if (!hasUnkept()) {
+    const DisplayDescription kept = m_followed ? withMeasurement(m_own, toKeep()) : m_own;
+    if (descriptionText(kept) == descriptionText(m_own)) {
         return;
     }
     DisplayDescription own = m_own;
     DisplayDescription description = m_description;
     QVector<QPointF> trail = m_whiteTrail;
-    auto step = std::make_unique<Step>(this, m_own, withMeasurement(m_own, toKeep()), text, 0);
+    auto step = std::make_unique<Step>(this, m_own, kept, text, 0);
     try {
         m_history.push(step.get());
         step.release();
