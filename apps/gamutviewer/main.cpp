@@ -9,6 +9,7 @@
 #include "editing/openedfiles.h"
 #include "editing/targetsession.h"
 #include "editing/wallcommand.h"
+#include "editing/wallcorrections.h"
 #include "program/commandline.h"
 #include "program/interfacetranslations.h"
 #include "program/platform.h"

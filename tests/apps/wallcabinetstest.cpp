@@ -4,7 +4,7 @@
 
 #include "display/textreport.h"
 #include "display/wallreport.h"
-#include "editing/wallcommand.h"
+#include "editing/wallcorrections.h"
 
 #include <QJsonArray>
 #include <QtTest>

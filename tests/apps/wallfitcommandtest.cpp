@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "display/report.h"
 #include "display/textreport.h"
-#include "editing/wallcommand.h"
 #include "program/commandline.h"
 
 #include "wallprogram.h"

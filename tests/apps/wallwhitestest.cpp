@@ -4,6 +4,7 @@
 
 #include "display/textreport.h"
 #include "editing/wallcommand.h"
+#include "editing/wallcorrections.h"
 
 #include <QtTest>
 

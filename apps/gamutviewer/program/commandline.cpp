@@ -4,7 +4,7 @@
 
 #include "drawing/documentcontent.h"
 #include "drawing/wallpainter.h"
-#include "editing/wallcommand.h"
+#include "editing/wallcorrections.h"
 
 #include <QFileInfo>
 #include <QMetaEnum>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/messages.h"
 #include "display/samples.h"
-#include "editing/wallcommand.h"
+#include "editing/wallcorrections.h"
 #include "panel/sidepanel.h"
 #include "panel/targeteditor.h"
 #include "panel/warningbar.h"
