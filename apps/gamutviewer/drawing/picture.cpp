@@ -25,7 +25,6 @@ namespace gamutviewer {
 namespace {
 
 constexpr int dotsPerInch = 96;
-constexpr int dotsPerMeter = 3780; // the same
 constexpr double pointsPerDot = 72.0 / dotsPerInch;
 constexpr int leastSideWithTexts = 200;
 constexpr int leastSideWithNames = 350;
@@ -180,8 +179,8 @@ QImage pixelsOf(const Picture &picture, const PictureExtent &extent)
         return image;
     }
     // The same on every screen.
-    image.setDotsPerMeterX(dotsPerMeter);
-    image.setDotsPerMeterY(dotsPerMeter);
+    image.setDotsPerMeterX(pictureDotsPerMeter);
+    image.setDotsPerMeterY(pictureDotsPerMeter);
     QPainter painter(&image);
     painter.scale(image.width() / qreal(extent.size.width()), image.height() / qreal(extent.size.height()));
     paintDiagram(painter, shown, extent.size);

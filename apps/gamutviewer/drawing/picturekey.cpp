@@ -34,7 +34,6 @@ constexpr double longestName = 22.0; // in heights of a letter
 constexpr double mostMaskSide = 1000.0;
 constexpr int placeStep = 2;
 constexpr double leastShare = 0.75; // of the diagram's scale, which a key beside it must leave
-constexpr int dotsPerMeter = 3780; // 96 dpi
 
 constexpr GamutRole order[]
     = {GamutRole::Target, GamutRole::Original, GamutRole::Measured, GamutRole::Declared, GamutRole::Standard};
@@ -84,8 +83,8 @@ public:
         if (image.isNull()) {
             return;
         }
-        image.setDotsPerMeterX(dotsPerMeter);
-        image.setDotsPerMeterY(dotsPerMeter);
+        image.setDotsPerMeterX(pictureDotsPerMeter);
+        image.setDotsPerMeterY(pictureDotsPerMeter);
         QPainter painter(&image);
         painter.scale(m_scale, m_scale);
         diagram.paint(&painter, QRectF(QPointF(), size));

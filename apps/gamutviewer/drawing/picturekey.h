@@ -16,6 +16,9 @@ class QPainter;
 
 namespace gamutviewer {
 
+/*! \brief The resolution of all pictures, 96 dpi: texts and lines are the same on every screen. */
+constexpr int pictureDotsPerMeter = 3780;
+
 /*!
  * \brief The key of a picture: each gamut that is shown, with its line as drawn, its name and its role.
  *
