@@ -60,7 +60,8 @@ bool MeasurementReader::readColor(const CsvRow &row, Measurement &measurement)
     if (*luminance < -noise) {
         return fail(tr("luminance must not be negative"), place(row.line, part));
     }
-    measurement.luminance = std::max(*luminance, 0.0) * m_luminanceScale;
+    // Below 0 by noise: the light can be as much.
+    measurement.luminance = std::fabs(*luminance) * m_luminanceScale;
     if (has(ColumnPart::X)) {
         return readTristimulus(row, measurement);
     }

@@ -236,18 +236,18 @@ void MeasurementRowsTest::noise_data()
         QTest::newRow(name) << QByteArray(header) << QByteArray(white) << QByteArray(black) << luminance;
     };
     row("X below 0", "X,Y (cd/m2),Z", "95,100,109", "-0.0001,0.0002,0.0001", 0.0002);
-    row("Y below 0", "X,Y (cd/m2),Z", "95,100,109", "0.0001,-0.0002,0.0001", 0.0);
-    row("all below 0", "X,Y (cd/m2),Z", "95,100,109", "-0.1,-0.1,-0.1", 0.0);
+    row("Y below 0", "X,Y (cd/m2),Z", "95,100,109", "0.0001,-0.0002,0.0001", 0.0002);
+    row("all below 0", "X,Y (cd/m2),Z", "95,100,109", "-0.1,-0.1,-0.1", 0.1);
     row("relative X, Y, Z beside Lv", "X,Y,Z,Lv", ".95,1,1.09,500", "-0.0001,0,0,0.03", 0.03);
-    row("Lv below 0", "x,y,Lv", "0.3,0.3,100", "0.3,0.3,-0.0003", 0.0);
+    row("Lv below 0", "x,y,Lv", "0.3,0.3,100", "0.3,0.3,-0.0003", 0.0003);
     row("x below 0", "x,y,Lv", "0.3,0.3,100", "-0.3,0.3,0.0003", 0.0003);
     row("y below 0", "x,y,Lv", "0.3,0.3,100", "0.3,-4.2,0.1", 0.1);
     row("x + y above 1", "x,y,Lv", "0.3,0.3,100", "0.6,0.5,0.0003", 0.0003);
     row("u' below 0", "u',v',Lv", "0.2,0.4,100", "-0.3,0.3,0.0003", 0.0003);
     row("v' below 0", "u',v',Lv", "0.2,0.4,100", "0.3,-0.3,0.0003", 0.0003);
     row("u' and v' of no colour", "u',v',Lv", "0.2,0.4,100", "0.9,0.9,0.0003", 0.0003);
-    row("dashes and Lv below 0", "x,y,Lv", "0.3,0.3,100", "-,-,-0.001", 0.0);
-    row("a list of dark colours", "x,y,Lv", "0.3,0.3,0.002", "0.3,0.3,-0.01", 0.0);
+    row("dashes and Lv below 0", "x,y,Lv", "0.3,0.3,100", "-,-,-0.001", 0.001);
+    row("a list of dark colours", "x,y,Lv", "0.3,0.3,0.002", "0.3,0.3,-0.01", 0.01);
 }
 
 void MeasurementRowsTest::noise()
