@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/diagramviewport.h>
+#include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/spectrum_p.h>
 
 #include <algorithm>
@@ -14,11 +15,6 @@ constexpr double wavelengthRoom = 36.0; // logical pixels round the horseshoe, f
 constexpr double largestRoom = 0.12; // of the plot: where it is small, the room shrinks with it
 constexpr double polygonRoom = 0.12; // of the plot, on each side of a polygon that is fitted
 constexpr double surroundings = 0.25; // of the horseshoe's size, on each side: there, corners of wide gamuts lie
-
-bool isFinite(const QPointF &point)
-{
-    return std::isfinite(point.x()) && std::isfinite(point.y());
-}
 
 //! The coordinate after a step, which may come nearer to the range but not leave it.
 double kept(double from, double step, double least, double most)
