@@ -32,7 +32,6 @@ namespace gamutviewer {
 
 namespace {
 
-constexpr int messageMilliseconds = 6000;
 const QString descriptionSuffix = QStringLiteral("json");
 
 QStringList localFiles(const QMimeData *data)
@@ -398,10 +397,8 @@ bool ViewerWindow::saveTo(const QString &fileName)
     m_isSample = false;
     m_document.markSaved(fileName);
     RecentFiles::add(fileName);
-    statusBar()->showMessage(
-        (m_document.hasUnkept() ? tr("Saved as %1, without the measurement in progress") : tr("Saved as %1"))
-            .arg(oneLine(fileName)),
-        messageMilliseconds);
+    showBriefly((m_document.hasUnkept() ? tr("Saved as %1, without the measurement in progress") : tr("Saved as %1"))
+                    .arg(oneLine(fileName)));
     return true;
 }
 
@@ -421,11 +418,9 @@ bool ViewerWindow::exportTo(const QString &fileName, const Picture &picture, con
         return false;
     }
     RecentFiles::setFolderOf(fileName);
-    statusBar()->showMessage(
-        (lacksRoomForKey(picture, extent.size) ? tr("Exported to %1, without a key for lack of room")
-                                               : tr("Exported to %1"))
-            .arg(oneLine(fileName)),
-        messageMilliseconds);
+    showBriefly((lacksRoomForKey(picture, extent.size) ? tr("Exported to %1, without a key for lack of room")
+                                                       : tr("Exported to %1"))
+                    .arg(oneLine(fileName)));
     return true;
 }
 
@@ -469,7 +464,7 @@ bool ViewerWindow::exportCorrectionsTo(const QString &fileName)
     }
     m_warnings->addWarnings(notes);
     RecentFiles::setFolderOf(fileName);
-    statusBar()->showMessage(tr("Corrections exported to %1").arg(oneLine(fileName)), messageMilliseconds);
+    showBriefly(tr("Corrections exported to %1").arg(oneLine(fileName)));
     return true;
 }
 

@@ -54,8 +54,7 @@ ViewerWindow::ViewerWindow(QWidget *parent)
     connect(&m_document, &Document::modifiedChanged, this, &QWidget::setWindowModified);
     connect(&m_document, &Document::fileNameChanged, this, &ViewerWindow::refreshTitle);
     connect(&m_document, &Document::changed, this, &ViewerWindow::refreshTitle);
-    connect(m_session, &TargetSession::refused, this,
-        [this](const QString &reason) { statusBar()->showMessage(reason, messageMilliseconds); });
+    connect(m_session, &TargetSession::refused, this, &ViewerWindow::showBriefly);
     connect(&m_document, &Document::edited, this, [this] { statusBar()->clearMessage(); });
     refreshTitle();
     resize(firstSize);
@@ -131,6 +130,11 @@ void ViewerWindow::buildStatusBar()
     followPage();
 }
 
+void ViewerWindow::showBriefly(const QString &message)
+{
+    statusBar()->showMessage(message, messageMilliseconds);
+}
+
 Page *ViewerWindow::currentPage() const
 {
     return static_cast<Page *>(m_pages->currentWidget());
@@ -173,7 +177,7 @@ void ViewerWindow::copyPicture()
     const QImage picture = pixelsOf(shown, extent);
     if (!picture.isNull()) {
         QApplication::clipboard()->setImage(picture);
-        statusBar()->showMessage(tr("The picture has been copied to the clipboard."), messageMilliseconds);
+        showBriefly(tr("The picture has been copied to the clipboard."));
     }
 }
 

@@ -169,6 +169,8 @@ private:
     void followPage();
     void warn(const QString &text);
     void addWarnings(const QVector<FileWarning> &warnings);
+    //! Shows \a message in the status bar for some seconds.
+    void showBriefly(const QString &message);
     /*! \brief Makes the panel as wide as what it shows, until the user has chosen its width. */
     void fitPanel();
     void restoreSettings();
