@@ -20,7 +20,7 @@ namespace {
 constexpr double lineRoom = 6.0; // logical pixels on either side of a line, for its width and casing
 constexpr double markRoom = 16.0; // logical pixels round a white
 
-QRect around(const QRectF &rectangle, double room)
+QRect pixelsAround(const QRectF &rectangle, double room)
 {
     return rectangle.adjusted(-room, -room, room, room).toAlignedRect();
 }
@@ -119,10 +119,10 @@ QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
 {
     QRegion region;
     for (const DiagramOverlay::Handle &handle : some.handles) {
-        region += around(DiagramOverlay::bounds(handle), 2.0);
+        region += pixelsAround(DiagramOverlay::bounds(handle), 2.0);
     }
     if (!some.label.isEmpty()) {
-        region += around(some.labelPlace, 2.0);
+        region += pixelsAround(some.labelPlace, 2.0);
         // The line from the label to the handle, which may be far away.
         const QPointF at = positionOf(selected.value_or(GamutVertex::White));
         const QRectF &box = some.labelPlace;
@@ -131,7 +131,7 @@ QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
     }
     for (const QPolygonF &guide : some.guides) {
         if (guide.size() == 1) {
-            region += around(guide.boundingRect(), guideReach + lineRoom);
+            region += pixelsAround(guide.boundingRect(), guideReach + lineRoom);
         }
         for (int i = 1; i < guide.size(); ++i) {
             const QLineF line(guide[i - 1], guide[i]);
@@ -144,7 +144,7 @@ QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
     if (some.showsFocusFrame) {
         constexpr double frameRoom = 4.0; // from the edge of the plot inwards, for the width of the frame
         const QRectF plot = viewport.plot();
-        region += QRegion(around(plot, 1.0))
+        region += QRegion(pixelsAround(plot, 1.0))
                       .subtracted(plot.adjusted(frameRoom, frameRoom, -frameRoom, -frameRoom).toRect());
     }
     return region & q->rect();
@@ -182,7 +182,7 @@ QRegion DiagramView::Private::editedRegion(const Model::Targets &former, const M
     for (const Model::Targets *targets : {&former, &latter}) {
         const QPointF white = viewport.toPosition(xyOf(targets->white));
         if (whole.adjusted(-markRoom, -markRoom, markRoom, markRoom).contains(white)) {
-            region += around(QRectF(white, QSizeF(1.0, 1.0)), markRoom);
+            region += pixelsAround(QRectF(white, QSizeF(1.0, 1.0)), markRoom);
         }
     }
     return region;
@@ -215,7 +215,7 @@ void DiagramView::Private::putTarget(const Model::Targets &targets)
     const auto addOthers = [&](const QVector<DiagramLabel> &some, const QVector<DiagramLabel> &others) {
         for (const DiagramLabel &label : some) {
             if (std::none_of(others.begin(), others.end(), [&](const DiagramLabel &o) { return same(o, label); })) {
-                changed += around(label.place, lineRoom);
+                changed += pixelsAround(label.place, lineRoom);
                 if (!label.leader.isNull()) {
                     changed += regionBetween(label.leader, label.leader, QRectF(q->rect()), lineRoom);
                 }

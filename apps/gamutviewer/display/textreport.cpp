@@ -68,7 +68,7 @@ QStringList aligned(const QVector<Row> &rows)
     return lines;
 }
 
-QString pointText(const Model::Target &color)
+QString pointCell(const Model::Target &color)
 {
     return QStringLiteral("%1 %2").arg(
         fixedText(color.x, chromaticityDecimals), fixedText(color.y, chromaticityDecimals));
@@ -102,8 +102,8 @@ QStringList gamutLines(const QVector<PlayedPart> &parts)
     for (const PlayedPart &part : parts) {
         const Model::Targets &t = part.gamut.getTargets();
         const auto temperature = ceiechart::colorTemperature({t.white.x, t.white.y});
-        rows.append({part.part, oneLine(nameOf(part.gamut)), pointText(t.red), pointText(t.green), pointText(t.blue),
-            pointText(t.white), luminanceText(t.white.Y, part.gamut.unit),
+        rows.append({part.part, oneLine(nameOf(part.gamut)), pointCell(t.red), pointCell(t.green), pointCell(t.blue),
+            pointCell(t.white), luminanceText(t.white.Y, part.gamut.unit),
             temperature ? temperatureText(*temperature) : undefinedText(),
             temperature ? duvText(*temperature) : undefinedText()});
     }

@@ -30,7 +30,7 @@ using ceiechart::GamutRole;
 constexpr int letterSizes[] = {13, 11, 9};
 constexpr double lineLength = 32.0;
 constexpr double gap = 8.0; // between columns, and between the key and what is round it
-constexpr double longestName = 22.0; // in heights of a letter
+constexpr double longestNameHeights = 22.0; // in heights of a letter
 constexpr double mostMaskSide = 1000.0;
 constexpr int placeStep = 2;
 constexpr double leastShare = 0.75; // of the diagram's scale, which a key beside it must leave
@@ -216,7 +216,8 @@ PictureKey::PictureKey(const DiagramContent &content, int pixelSize)
             if (gamut.role != role || !content.shows(gamut)) {
                 continue;
             }
-            const QString name = metrics.elidedText(nameOf(gamut.gamut), Qt::ElideMiddle, longestName * pixelSize);
+            const QString name
+                = metrics.elidedText(nameOf(gamut.gamut), Qt::ElideMiddle, longestNameHeights * pixelSize);
             m_rows.append({role, name, ceiechart::gamutRoleName(role)});
             m_nameWidth = std::max(m_nameWidth, std::ceil(metrics.horizontalAdvance(name)));
             roleWidth = std::max(roleWidth, std::ceil(metrics.horizontalAdvance(m_rows.last().roleName)));

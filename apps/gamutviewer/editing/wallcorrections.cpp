@@ -21,7 +21,7 @@ namespace gamutviewer {
 
 namespace {
 
-struct CommandText {
+struct WrittenText {
     Q_DECLARE_TR_FUNCTIONS(gamutviewer::WallCommand)
 };
 
@@ -64,15 +64,15 @@ Outcome<std::size_t> cabinetCalled(const DisplayWall &wall, const QString &wante
         }
     }
     if (found.empty()) {
-        return Failure::failure(CommandText::tr("no cabinet of the wall is called \"%1\"").arg(oneLine(wanted)));
+        return Failure::failure(WrittenText::tr("no cabinet of the wall is called \"%1\"").arg(oneLine(wanted)));
     }
     if (found.size() > 1) {
-        return Failure::failure(CommandText::tr("several cabinets are called \"%1\": %2 and %3, for example")
+        return Failure::failure(WrittenText::tr("several cabinets are called \"%1\": %2 and %3, for example")
                                     .arg(oneLine(wanted), oneLine(all[found[0]].label), oneLine(all[found[1]].label)));
     }
     if (found.front() >= wall.cabinets.size()) {
         const IncompleteCabinet &incomplete = wall.incomplete[found.front() - wall.cabinets.size()];
-        return Failure::failure(CommandText::tr("there is no correction for %1: %2", "cabinet, and why")
+        return Failure::failure(WrittenText::tr("there is no correction for %1: %2", "cabinet, and why")
                                     .arg(cabinetName(wall, incomplete), oneLine(incompleteReasonText(incomplete))));
     }
     return found.front();
@@ -87,13 +87,13 @@ QString namesOf(const DisplayWall &wall, const std::vector<std::size_t> &cabinet
         names.append(cabinetName(wall, cabinets[i]));
     }
     for (std::size_t i = 0; i < incomplete.size() && names.size() < int(namedCabinets); ++i) {
-        names.append(CommandText::tr("%1 (%2)", "cabinet, and why nothing is known of it")
+        names.append(WrittenText::tr("%1 (%2)", "cabinet, and why nothing is known of it")
                          .arg(cabinetName(wall, incomplete[i]), oneLine(incompleteReasonText(incomplete[i]))));
     }
     const QString text = names.join(QStringLiteral(", "));
     const std::size_t all = cabinets.size() + incomplete.size();
     return all > namedCabinets
-        ? CommandText::tr("%1 and %2 more", "names of cabinets and a number").arg(text).arg(all - namedCabinets)
+        ? WrittenText::tr("%1 and %2 more", "names of cabinets and a number").arg(text).arg(all - namedCabinets)
         : text;
 }
 
@@ -186,11 +186,11 @@ public:
     QString text() const
     {
         // What cannot be noticed in the digits that are shown would read as if it were something.
-        const QString uv = CommandText::tr("Δu′v′ %1", "how much remains").arg(fixedText(m_uv, chromaticityDecimals));
-        const QString luminance = CommandText::tr("%1 of the luminance", "how much remains").arg(percent(m_luminance));
+        const QString uv = WrittenText::tr("Δu′v′ %1", "how much remains").arg(fixedText(m_uv, chromaticityDecimals));
+        const QString luminance = WrittenText::tr("%1 of the luminance", "how much remains").arg(percent(m_luminance));
         return m_luminance < noticeableLuminance ? uv
             : m_uv < noticeableUv                ? luminance
-                                                 : CommandText::tr("%1 and %2", "how much remains").arg(uv, luminance);
+                                                 : WrittenText::tr("%1 and %2", "how much remains").arg(uv, luminance);
     }
 
 private:
@@ -210,33 +210,33 @@ QString whiteNote(const Corrected &corrected)
         return QString();
     }
     const bool isOne = corrected.wall.cabinets.size() + corrected.wall.incomplete.size() == 1;
-    const QString why = !hasLuminance ? CommandText::tr("the white of the target has no luminance")
+    const QString why = !hasLuminance ? WrittenText::tr("the white of the target has no luminance")
         : corrected.isWall && isOne
-        ? CommandText::tr("the luminance of the target cannot be compared with those of the cabinet")
+        ? WrittenText::tr("the luminance of the target cannot be compared with those of the cabinet")
         : corrected.isWall
-        ? CommandText::tr("the luminance of the target cannot be compared with theirs")
-        : CommandText::tr("the luminance of the target cannot be compared with those of the display");
+        ? WrittenText::tr("the luminance of the target cannot be compared with theirs")
+        : WrittenText::tr("the luminance of the target cannot be compared with those of the display");
     const double luminance = assessment.correction.target.white.Y;
     // What cabinets reach that are not additive is not known.
     constexpr double rounding = 1e-9;
     const bool isReached
         = assessment.largestWhite && luminance >= assessment.largestWhite->luminance * (1.0 - rounding);
     const QString text = !corrected.isWall && isReached
-        ? CommandText::tr("the correction is for a white of %1, the largest that the display reaches, as %2")
+        ? WrittenText::tr("the correction is for a white of %1, the largest that the display reaches, as %2")
         : !corrected.isWall
-        ? CommandText::tr("the correction is for a white of %1, the largest that the primaries of the display add to, "
+        ? WrittenText::tr("the correction is for a white of %1, the largest that the primaries of the display add to, "
                           "as %2")
         : isOne && isReached
-        ? CommandText::tr("the correction is for a white of %1, the largest that the cabinet reaches, as %2")
+        ? WrittenText::tr("the correction is for a white of %1, the largest that the cabinet reaches, as %2")
         : isOne
-        ? CommandText::tr("the correction is for a white of %1, the largest that the primaries of the cabinet add to, "
+        ? WrittenText::tr("the correction is for a white of %1, the largest that the primaries of the cabinet add to, "
                           "as %2")
         : !isReached
-        ? CommandText::tr("the corrections are for a white of %1, the largest that the primaries of all cabinets add "
+        ? WrittenText::tr("the corrections are for a white of %1, the largest that the primaries of all cabinets add "
                           "to, as %2")
         : assessment.isReachKnownOfAll
-        ? CommandText::tr("the corrections are for a white of %1, the largest that all cabinets reach, as %2")
-        : CommandText::tr("the corrections are for a white of %1, the largest that all cabinets reach of which it is "
+        ? WrittenText::tr("the corrections are for a white of %1, the largest that all cabinets reach, as %2")
+        : WrittenText::tr("the corrections are for a white of %1, the largest that all cabinets reach of which it is "
                           "known, as %2");
     return text.arg(reachableText(luminance, corrected.wall.unit), why);
 }
@@ -249,7 +249,7 @@ QString noteOn(const Corrected &corrected, const std::vector<std::size_t> &cabin
     if (cabinets.empty() && incomplete.empty()) {
         return QString();
     }
-    return corrected.isWall ? CommandText::tr("%1: %2", "what is true of cabinets, and their names")
+    return corrected.isWall ? WrittenText::tr("%1: %2", "what is true of cabinets, and their names")
                                   .arg(ofCabinets, namesOf(corrected.wall, cabinets, incomplete))
                             : ofDisplay;
 }
@@ -290,39 +290,39 @@ QStringList notesOn(const Corrected &corrected, const DisplayWall &written)
         }
     }
     QStringList notes{whiteNote(corrected), mixtureText(corrected.target, corrected.assessment.correction.target),
-        noteOn(corrected, without, QString(), CommandText::tr("cabinet without a correction"),
-            CommandText::tr("cabinets without a correction"), written.incomplete),
+        noteOn(corrected, without, QString(), WrittenText::tr("cabinet without a correction"),
+            WrittenText::tr("cabinets without a correction"), written.incomplete),
         noteOn(corrected, unknownBlack,
-            CommandText::tr(
+            WrittenText::tr(
                 "the black of the display is not known, so that it is not known whether it shows the target"),
-            CommandText::tr("cabinet whose black is not known, so that it is not known whether it shows the target"),
-            CommandText::tr(
+            WrittenText::tr("cabinet whose black is not known, so that it is not known whether it shows the target"),
+            WrittenText::tr(
                 "cabinets whose blacks are not known, so that it is not known whether they show the target")),
         noteOn(corrected, beyond,
-            CommandText::tr("the display differs from the target even so, by up to %1, as it cannot show all of it")
+            WrittenText::tr("the display differs from the target even so, by up to %1, as it cannot show all of it")
                 .arg(beyondReach.text()),
-            CommandText::tr("cabinet that differs from the target even so, by up to %1, as it cannot show all of it")
+            WrittenText::tr("cabinet that differs from the target even so, by up to %1, as it cannot show all of it")
                 .arg(beyondReach.text()),
-            CommandText::tr("cabinets that differ from the target even so, by up to %1, as they cannot show all of it")
+            WrittenText::tr("cabinets that differ from the target even so, by up to %1, as they cannot show all of it")
                 .arg(beyondReach.text())),
         noteOn(corrected, within,
-            CommandText::tr("the display shows the target, but for up to %1").arg(withinReach.text()),
-            CommandText::tr("cabinet that shows the target, but for up to %1").arg(withinReach.text()),
-            CommandText::tr("cabinets that show the target, but for up to %1").arg(withinReach.text())),
-        noteOn(corrected, failing, CommandText::tr("the display does not show the target even so"),
-            CommandText::tr("cabinet that does not show the target even so"),
-            CommandText::tr("cabinets that do not show the target even so")),
+            WrittenText::tr("the display shows the target, but for up to %1").arg(withinReach.text()),
+            WrittenText::tr("cabinet that shows the target, but for up to %1").arg(withinReach.text()),
+            WrittenText::tr("cabinets that show the target, but for up to %1").arg(withinReach.text())),
+        noteOn(corrected, failing, WrittenText::tr("the display does not show the target even so"),
+            WrittenText::tr("cabinet that does not show the target even so"),
+            WrittenText::tr("cabinets that do not show the target even so")),
         noteOn(corrected, notAdditive,
-            CommandText::tr("the white of the display is not the sum of its primaries, which the correction is for; "
+            WrittenText::tr("the white of the display is not the sum of its primaries, which the correction is for; "
                             "what it shows is not known"),
-            CommandText::tr("cabinet whose measured white is not the sum of its primaries, which the correction is "
+            WrittenText::tr("cabinet whose measured white is not the sum of its primaries, which the correction is "
                             "for, so that it is not known what it shows"),
-            CommandText::tr("cabinets whose measured white is not the sum of their primaries, which the corrections "
+            WrittenText::tr("cabinets whose measured white is not the sum of their primaries, which the corrections "
                             "are for, so that it is not known what they show")),
         noteOn(corrected, unknownWhite, QString(),
-            CommandText::tr("cabinet whose white was not measured, so that it is not known what it shows, as another "
+            WrittenText::tr("cabinet whose white was not measured, so that it is not known what it shows, as another "
                             "white is not the sum of its primaries"),
-            CommandText::tr("cabinets whose whites were not measured, so that it is not known what they show, as "
+            WrittenText::tr("cabinets whose whites were not measured, so that it is not known what they show, as "
                             "another white is not the sum of its primaries"))};
     notes.append(offSumText(corrected.wall, corrected.assessment, corrected.cabinets));
     notes.removeAll(QString());
@@ -333,13 +333,13 @@ Outcome<QVector<CorrectionsOutput>> tableFiles(const WallCorrections &correction
 {
     using Failure = Outcome<QVector<CorrectionsOutput>>;
     if (corrections.cabinets.size() > 1) {
-        return Failure::failure(CommandText::tr(
+        return Failure::failure(WrittenText::tr(
             "a pair of tables is for one display: choose a cabinet by --cabinet, or write csv or json"));
     }
     const CabinetCorrection &cabinet = corrections.cabinets.front();
     const auto pair = cubePair(*cabinet.matrix);
     if (!pair) {
-        return Failure::failure(CommandText::tr("%1; csv and json have the matrix as it is").arg(pair.error()));
+        return Failure::failure(WrittenText::tr("%1; csv and json have the matrix as it is").arg(pair.error()));
     }
     const QFileInfo file(fileName);
     const QString base = file.path() == QLatin1String(".") && !fileName.startsWith(QLatin1String("./"))
@@ -369,13 +369,13 @@ Outcome<CorrectionsOutputs> corrections(
     const auto target = description.gamut(description.target);
     if (!target) {
         return Failure::failure(
-            CommandText::tr("there is no target, which corrections are for: choose one by --target"));
+            WrittenText::tr("there is no target, which corrections are for: choose one by --target"));
     }
     const bool isWall = !description.wall.cabinets.empty();
     const auto wall = isWall ? std::make_optional(description.wall) : singleDisplay(description);
     if (!wall) {
         return Failure::failure(
-            CommandText::tr("there is nothing to correct: no wall, and no measured or original gamut"));
+            WrittenText::tr("there is nothing to correct: no wall, and no measured or original gamut"));
     }
     Corrected corrected = correctedWall(*wall, isWall, *target);
     if (isWall && !cabinet.isEmpty()) {

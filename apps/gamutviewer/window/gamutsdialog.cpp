@@ -22,7 +22,7 @@ namespace gamutviewer {
 
 namespace {
 
-constexpr QSize firstSize(620, 360);
+constexpr QSize firstDialogSize(620, 360);
 
 //! The names of the gamuts of \a description and of those that play a part.
 QStringList parts(const DisplayDescription &description)
@@ -90,7 +90,7 @@ GamutsDialog::GamutsDialog(Document *document, QWidget *parent)
     refresh();
     m_table->setCurrentIndex(m_gamuts->index(0, GamutsModel::nameColumn));
     m_table->setFocus();
-    resize(firstSize);
+    resize(firstDialogSize);
 }
 
 QString GamutsDialog::currentName() const

@@ -12,7 +12,7 @@ namespace gamutviewer {
 
 namespace {
 
-const QString key = QStringLiteral("recentFiles");
+const QString filesKey = QStringLiteral("recentFiles");
 const QString folderKey = QStringLiteral("folder");
 
 QString absolute(const QString &fileName)
@@ -24,7 +24,7 @@ QString absolute(const QString &fileName)
 
 QStringList RecentFiles::list()
 {
-    return Settings().value(key).toStringList();
+    return Settings().value(filesKey).toStringList();
 }
 
 void RecentFiles::add(const QString &fileName)
@@ -36,19 +36,19 @@ void RecentFiles::add(const QString &fileName)
     QStringList files = list();
     files.removeAll(absolute(fileName));
     files.prepend(absolute(fileName));
-    Settings().setValue(key, QStringList(files.mid(0, most)));
+    Settings().setValue(filesKey, QStringList(files.mid(0, most)));
 }
 
 void RecentFiles::remove(const QString &fileName)
 {
     QStringList files = list();
     files.removeAll(absolute(fileName));
-    Settings().setValue(key, files);
+    Settings().setValue(filesKey, files);
 }
 
 void RecentFiles::clear()
 {
-    Settings().remove(key);
+    Settings().remove(filesKey);
 }
 
 QString RecentFiles::folder()

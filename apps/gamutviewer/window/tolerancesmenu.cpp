@@ -16,7 +16,7 @@ namespace gamutviewer {
 
 namespace {
 
-const QString key = QStringLiteral("tolerances/file");
+const QString fileKey = QStringLiteral("tolerances/file");
 
 QString shownName(const QString &fileName)
 {
@@ -34,7 +34,7 @@ TolerancesMenu::TolerancesMenu(TargetSession *session, QWidget *parent)
     setToolTipsVisible(true);
     connect(this, &QMenu::aboutToShow, this, &TolerancesMenu::fill);
     // A file that has gone since is no reason to trouble anyone at the start.
-    const QString remembered = Settings().value(key).toString();
+    const QString remembered = Settings().value(fileKey).toString();
     if (!remembered.isEmpty()) {
         read(remembered);
     }
@@ -70,7 +70,7 @@ bool TolerancesMenu::choose(const QString &fileName)
     if (!read(fileName)) {
         return false;
     }
-    Settings().setValue(key, m_fileName);
+    Settings().setValue(fileKey, m_fileName);
     return true;
 }
 
