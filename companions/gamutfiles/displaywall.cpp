@@ -23,6 +23,11 @@ constexpr const char *reasons[] = {QT_TRANSLATE_NOOP("gamutfiles::Wall", "red is
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "blue is there more than once"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "white is there more than once"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "black is there more than once"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "red could not be read"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "green could not be read"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "blue could not be read"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "white could not be read"),
+    QT_TRANSLATE_NOOP("gamutfiles::Wall", "black could not be read"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "it has no name of its own"),
     QT_TRANSLATE_NOOP("gamutfiles::Wall", "it is being measured")};
 

@@ -107,7 +107,7 @@ bool hasPrimaries(const PartMeasurements &parts)
 //! Whether both mean the same for a wall.
 bool isSameColor(const Measurement &a, const Measurement &b)
 {
-    return a.luminance == b.luminance && a.color.has_value() == b.color.has_value()
+    return a.luminance == b.luminance && a.isUnread == b.isUnread && a.color.has_value() == b.color.has_value()
         && (!a.color || (a.color->Y == b.color->Y && a.color->x == b.color->x && a.color->y == b.color->y));
 }
 
@@ -221,7 +221,7 @@ void LatestMeasurements::add(const Measurement &measurement)
         d->isWallCurrent = false;
     }
     auto &kept = cabinet.parts[std::size_t(measurement.part)];
-    if (measurement.part == MeasurementPart::None) {
+    if (measurement.part == MeasurementPart::None || (measurement.isUnread && kept)) {
         return;
     }
     d->isWallCurrent = d->isWallCurrent && kept && isSameColor(*kept, measurement);
@@ -321,6 +321,13 @@ MeasurementList LatestMeasurements::listBeside(const DisplayWall &shown) const
     }
     std::for_each(list.measurements.begin(), list.measurements.end(), forgetCabinet);
     return list;
+}
+
+bool LatestMeasurements::namesCabinets() const
+{
+    const auto &all = d->cabinets.all();
+    return std::any_of(
+        all.begin(), all.end(), [](const auto &kept) { return !kept.second.identity.label().isEmpty(); });
 }
 
 QVector<CabinetMeasurements> LatestMeasurements::cabinets() const

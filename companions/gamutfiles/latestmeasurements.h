@@ -38,7 +38,8 @@ public:
     /*!
      * \brief Adds \a measurement, the last for now.
      *
-     * A primary or a white without a chromaticity, as of an instrument that was in the dark, takes no one's place.
+     * One without a chromaticity takes the place of the former one, too: what that was is out of date. One that could
+     * not be read takes no one's place; where there is none, the colour is measured but not known.
      */
     void add(const Measurement &measurement);
     /*! \brief Forgets everything but the unit. */
@@ -81,6 +82,8 @@ public:
      */
     QVector<CabinetMeasurements> cabinets() const;
 
+    /*! \brief Whether any measurement that is kept names a cabinet. */
+    bool namesCabinets() const;
     int pointCount() const; //!< colours that are kept as points
     int cabinetCount() const; //!< cabinets that are kept; without names of cabinets there is one
 

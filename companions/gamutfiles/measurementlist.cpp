@@ -36,12 +36,15 @@ bool hasOneCabinet(const MeasurementList &list)
             && std::all_of(list.withoutNumbers.begin(), list.withoutNumbers.end(), isOfFirst));
 }
 
-//! Nothing unless each is there once; the white may be missing when it is the sum.
+//! Nothing unless each is there once and all colours have been read; the white may be missing when it is the sum.
 std::optional<GamutIndices> gamutIndices(const MeasurementList &list)
 {
     GamutIndices indices{-1, -1, -1, -1};
     for (int i = 0; i < list.measurements.size(); ++i) {
         const Measurement &measurement = list.measurements.at(i);
+        if (measurement.part != MeasurementPart::None && measurement.isUnread) {
+            return std::nullopt;
+        }
         const int role = int(measurement.part) - int(MeasurementPart::Red);
         if (role < 0 || role > 3) {
             continue;

@@ -35,6 +35,11 @@ struct Measurement {
     QString cabinet; //!< the cabinet, module, panel or tile that was measured; empty: the list does not say
     std::optional<int> row; //!< of the cabinet, as the list counts
     std::optional<int> column; //!< of the cabinet, as the list counts
+    /*!
+     * \brief Whether the numbers of its line could not be read, so that the colour is not known; only of a list that is
+     * followed.
+     */
+    bool isUnread = false;
 };
 
 /*! \brief A column of a measurement list that was understood. */

@@ -51,12 +51,15 @@ public:
     void takeLine(const StreamLine &line);
     void takeText(const NumberedLine &line);
     void takeRow(const CsvRow &row, const NumberedLine &line);
+    void takeCutOff(const NumberedLine &line);
     bool beginAnew(const NumberedLine &line);
     void findHeader();
     void dropOldest(int count);
     void refuseAllHeld();
     std::optional<QString> decoded(const QByteArray &bytes);
-    void playParts(QVector<Measurement> &measurements);
+    void findUnread();
+    void findLevels(const Measurement &measurement);
+    void playPart(Measurement &measurement) const;
     bool isOfCabinet(const Measurement &measurement) const;
     void refuse(qint64 line, const Problem &problem);
     void refreshState();
@@ -108,12 +111,25 @@ void MeasurementStream::Private::takeLine(const StreamLine &line)
             Problem{StreamText::tr("is longer than %1 KiB").arg(maximumStreamLineBytes / 1024), QString(), 0, 0});
         return;
     }
-    if (line.hasNoEnd && lastLine == LastLine::MayBeCutOff) {
+    const bool mayBeCutOff = line.hasNoEnd && lastLine == LastLine::MayBeCutOff;
+    if (mayBeCutOff) {
         refuse(state.lines, Problem{StreamText::tr("has no end, and may be cut off"), QString(), 0, 0});
-        return;
     }
     if (const auto text = decoded(line.bytes)) {
-        takeText({state.lines, *text});
+        const NumberedLine decodedLine{state.lines, *text};
+        mayBeCutOff ? takeCutOff(decodedLine) : takeText(decodedLine);
+    }
+}
+
+//! Its last number may lack digits, but what it measured is not known from then on.
+void MeasurementStream::Private::takeCutOff(const NumberedLine &line)
+{
+    const CsvTable table = rows ? readCsv(line.text, rows->separator()) : CsvTable();
+    if (!table.rows.isEmpty()) {
+        CsvRow row = table.rows.first();
+        row.line = int(line.number);
+        rows->keepUnread(row);
+        findUnread();
     }
 }
 
@@ -167,6 +183,7 @@ bool MeasurementStream::Private::beginAnew(const NumberedLine &line)
         return false;
     }
     rows->refuseHeld([this](qint64 held, const Problem &problem) { refuse(held, problem); });
+    findUnread();
     rows.reset();
     firstRows.clear();
     head = {line};
@@ -187,11 +204,10 @@ void MeasurementStream::Private::takeRow(const CsvRow &row, const NumberedLine &
     if (refused && !(refused->first == row.line && !line.text.isEmpty() && beginAnew(line))) {
         refuse(refused->first, refused->second);
     }
-    const QVector<Measurement> unread = rows ? rows->takeUnread() : QVector<Measurement>();
-    std::copy_if(unread.begin(), unread.end(), std::back_inserter(found),
-        [this](const Measurement &measurement) { return isOfCabinet(measurement); });
-    playParts(measurements);
-    for (const Measurement &measurement : std::as_const(measurements)) {
+    findUnread();
+    for (Measurement &measurement : measurements) {
+        findLevels(measurement);
+        playPart(measurement);
         ++state.measurements;
         if (isOfCabinet(measurement)) {
             found.append(measurement);
@@ -199,32 +215,50 @@ void MeasurementStream::Private::takeRow(const CsvRow &row, const NumberedLine &
     }
 }
 
-void MeasurementStream::Private::playParts(QVector<Measurement> &measurements)
+//! What is known of lines that are not read, where that is which colour they measured.
+void MeasurementStream::Private::findUnread()
 {
-    for (Measurement &measurement : measurements) {
-        const ColorName name = colorName(measurement.name);
-        if (name.level && !name.level->full && name.part != MeasurementPart::Black) {
-            const bool isHigher = highestLevel.isEmpty() || name.level->value > highestLevel.first().value;
-            const bool hasDecimals
-                = name.level->hasDecimals || (!highestLevel.isEmpty() && highestLevel.first().hasDecimals);
-            if (isHigher) {
-                highestLevel = {*name.level};
-            }
-            highestLevel.first().hasDecimals = hasDecimals;
+    if (!rows) {
+        return;
+    }
+    for (Measurement &measurement : rows->takeUnread()) {
+        playPart(measurement);
+        const bool isColor
+            = measurement.part != MeasurementPart::None || colorName(measurement.name).part != MeasurementPart::None;
+        if (isColor && isOfCabinet(measurement)) {
+            found.append(measurement);
         }
-        measurement.part = playedPart(name, commonFullLevel(highestLevel));
-        const std::pair<const MeasurementChoice *, MeasurementPart> choices[]
-            = {{&options.red, MeasurementPart::Red}, {&options.green, MeasurementPart::Green},
-                {&options.blue, MeasurementPart::Blue}, {&options.white, MeasurementPart::White}};
-        for (const auto &[choice, part] : choices) {
-            if (choice->isEmpty()) {
-                continue;
-            }
-            if (StreamRows::isChosen(measurement, *choice)) {
-                measurement.part = part;
-            } else if (measurement.part == part) {
-                measurement.part = MeasurementPart::None;
-            }
+    }
+}
+
+void MeasurementStream::Private::findLevels(const Measurement &measurement)
+{
+    const ColorName name = colorName(measurement.name);
+    if (!name.level || name.level->full || name.part == MeasurementPart::Black) {
+        return;
+    }
+    const bool isHigher = highestLevel.isEmpty() || name.level->value > highestLevel.first().value;
+    const bool hasDecimals = name.level->hasDecimals || (!highestLevel.isEmpty() && highestLevel.first().hasDecimals);
+    if (isHigher) {
+        highestLevel = {*name.level};
+    }
+    highestLevel.first().hasDecimals = hasDecimals;
+}
+
+void MeasurementStream::Private::playPart(Measurement &measurement) const
+{
+    measurement.part = playedPart(colorName(measurement.name), commonFullLevel(highestLevel));
+    const std::pair<const MeasurementChoice *, MeasurementPart> choices[]
+        = {{&options.red, MeasurementPart::Red}, {&options.green, MeasurementPart::Green},
+            {&options.blue, MeasurementPart::Blue}, {&options.white, MeasurementPart::White}};
+    for (const auto &[choice, part] : choices) {
+        if (choice->isEmpty()) {
+            continue;
+        }
+        if (StreamRows::isChosen(measurement, *choice)) {
+            measurement.part = part;
+        } else if (measurement.part == part) {
+            measurement.part = MeasurementPart::None;
         }
     }
 }
@@ -244,6 +278,7 @@ void MeasurementStream::Private::refuseAllHeld()
     head.clear();
     if (rows) {
         rows->refuseHeld([this](qint64 line, const Problem &problem) { refuse(line, problem); });
+        findUnread();
     }
 }
 

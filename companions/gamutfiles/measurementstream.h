@@ -70,8 +70,8 @@ public:
     /*!
      * \brief Reads at most \a most further lines of what was fed; the measurements in them, in their order.
      *
-     * A line that is not read, but names a colour of a cabinet, gives one without a part and a colour: there is such a
-     * cabinet.
+     * A line that cannot be read, but names a colour, gives one that isUnread. A line without numbers, such as n/a,
+     * that names a colour of a cabinet gives one without a part: there is such a cabinet.
      *
      * All of them are in the unit that state() tells then.
      */

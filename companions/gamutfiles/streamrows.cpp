@@ -45,9 +45,7 @@ bool StreamRows::begin(const QVector<NumberedLine> &lines, const Refusal &refuse
     for (const CsvRow &row : std::as_const(m_table.rows)) {
         if (isAboveHeader(row)) {
             refuse(row.line, Problem{StreamText::tr("is above the line that names the columns"), QString(), 0, 0});
-            if (namesColorOfCabinet(row)) {
-                m_unread.append(withoutNumbers(row));
-            }
+            keepUnread(row);
         }
     }
     m_firstRows = m_table.rows.mid(m_firstRow);
@@ -84,6 +82,7 @@ QVector<Measurement> StreamRows::take(const CsvRow &row, const Refusal &refuse)
     if (contradictsItself(row)) {
         decideDecimalSign();
         refuse(row.line, m_failure);
+        keepUnread(row);
         return found;
     }
     m_held.append(row);
@@ -103,7 +102,15 @@ void StreamRows::refuseHeld(const Refusal &refuse)
 {
     for (const CsvRow &held : std::exchange(m_held, {})) {
         refuse(held.line, m_failure);
+        keepUnread(held);
     }
+}
+
+void StreamRows::keepUnread(const CsvRow &row)
+{
+    Measurement measurement = withoutNumbers(row);
+    measurement.isUnread = true;
+    m_unread.append(measurement);
 }
 
 void StreamRows::read(const CsvRow &row, QVector<Measurement> &found, const Refusal &refuse)
@@ -115,9 +122,7 @@ void StreamRows::read(const CsvRow &row, QVector<Measurement> &found, const Refu
     findNoise(row);
     if (!takeRow(row)) {
         refuse(row.line, m_failure);
-        if (namesColorOfCabinet(row)) {
-            m_unread.append(withoutNumbers(row));
-        }
+        keepUnread(row);
     } else if (m_withoutNumbers.count > 0) {
         refuse(row.line, Problem{StreamText::tr("has no numbers"), place(row.line), 0, 0});
     }

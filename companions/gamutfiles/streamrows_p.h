@@ -46,7 +46,9 @@ public:
     //! The rows below the header that begin() was given.
     QVector<CsvRow> takeFirstRows() { return std::exchange(m_firstRows, {}); }
 
-    //! What is known of rows that are not read and name a colour of a cabinet, since the last call.
+    //! Keeps what is known of \a row, which is not read, for takeUnread().
+    void keepUnread(const CsvRow &row);
+    //! What is known of rows that are not read, since the last call.
     QVector<Measurement> takeUnread() { return std::exchange(m_unread, {}); }
 
     static QString placeOf(qint64 line) { return place(int(line)); }

@@ -106,7 +106,9 @@ QStringList missingColors(const Colors &colors)
     for (const auto &of : partNames) {
         const Measurement *measurement = colors[of.first];
         const bool isNeeded = isPrimary(of.first) || (of.first == MeasurementPart::White && measurement);
-        if (isNeeded && !(measurement && measurement->color)) {
+        if (measurement && measurement->isUnread) {
+            reasons.append(QLatin1String(of.second) + QLatin1String(" could not be read"));
+        } else if (isNeeded && !(measurement && measurement->color)) {
             reasons.append(
                 QLatin1String(of.second) + QLatin1String(measurement ? " has no chromaticity" : " is missing"));
         }

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void showsPointsUntilThereIsAGamut();
     void keepsABlackWithoutAChromaticity();
     void forgetsAPrimaryThatLostItsChromaticity();
+    void colourThatCouldNotBeReadIsNotKnown();
     void forgetsTheOldestPoints();
     void forgetsTheOldestCabinets();
     void showsTheCabinetThatWasCompletedLast();
@@ -119,6 +120,41 @@ void LatestMeasurementsTest::forgetsAPrimaryThatLostItsChromaticity()
     QCOMPARE(redOf(latest), -1.0);
     latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.65, 0.33));
     QCOMPARE(redOf(latest), 0.65);
+}
+
+void LatestMeasurementsTest::colourThatCouldNotBeReadIsNotKnown()
+{
+    const auto unread = [](const char *name, MeasurementPart part, const QString &cabinet = QString()) {
+        Measurement measurement = measured(QLatin1String(name), part, 0.3, 0.3, cabinet);
+        measurement.color.reset();
+        measurement.luminance = 0.0;
+        measurement.isUnread = true;
+        return measurement;
+    };
+    LatestMeasurements display;
+    addGamut(display);
+    display.add(unread("Red", MeasurementPart::Red));
+    QCOMPARE(redOf(display), 0.64); // the latest that could be read
+    display.add(unread("Black", MeasurementPart::Black));
+    QCOMPARE(redOf(display), -1.0); // it may be bright
+    display.add(measured(QStringLiteral("Black"), MeasurementPart::Black, 0.3, 0.3));
+    QCOMPARE(redOf(display), 0.64);
+
+    LatestMeasurements latest;
+    const QString other = QStringLiteral("B");
+    addGamut(latest, QStringLiteral("A"));
+    latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.64, 0.33, other));
+    latest.add(measured(QStringLiteral("Green"), MeasurementPart::Green, 0.3, 0.6, other));
+    latest.add(measured(QStringLiteral("Blue"), MeasurementPart::Blue, 0.15, 0.06, other));
+    QCOMPARE(latest.wall()->cabinets.size(), std::size_t(2));
+    latest.add(unread("White", MeasurementPart::White, other));
+    latest.add(unread("Black", MeasurementPart::Black, other));
+    QCOMPARE(latest.wall()->cabinets.size(), std::size_t(1));
+    QCOMPARE(
+        latest.wall()->incomplete.front().reason, QStringLiteral("white could not be read, black could not be read"));
+    latest.add(measured(QStringLiteral("White"), MeasurementPart::White, 0.3127, 0.329, other));
+    latest.add(measured(QStringLiteral("Black"), MeasurementPart::Black, 0.3, 0.3, other));
+    QCOMPARE(latest.wall()->cabinets.size(), std::size_t(2));
 }
 
 void LatestMeasurementsTest::forgetsTheOldestPoints()

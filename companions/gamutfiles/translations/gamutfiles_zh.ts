@@ -1369,5 +1369,25 @@
         <source>no cabinet was measured well enough: each needs a name, and red, green and blue once</source>
         <translation>没有箱体的测量足够完整：每个箱体都需要名称，以及红、绿、蓝各一次</translation>
     </message>
+    <message>
+        <source>red could not be read</source>
+        <translation>红无法读取</translation>
+    </message>
+    <message>
+        <source>green could not be read</source>
+        <translation>绿无法读取</translation>
+    </message>
+    <message>
+        <source>blue could not be read</source>
+        <translation>蓝无法读取</translation>
+    </message>
+    <message>
+        <source>white could not be read</source>
+        <translation>白无法读取</translation>
+    </message>
+    <message>
+        <source>black could not be read</source>
+        <translation>黑无法读取</translation>
+    </message>
 </context>
 </TS>
