@@ -82,7 +82,7 @@ DisplayWall wall(const std::vector<const char *> &names)
 FollowedMeasurement measurement(
     const GamutFile &file, const std::optional<DisplayWall> &wall = std::nullopt, const QString &cabinet = QString())
 {
-    return {file, wall, cabinet};
+    return {file, wall, cabinet, wall.has_value()};
 }
 
 QString namesOf(const DisplayWall &wall)
@@ -152,6 +152,7 @@ private Q_SLOTS:
     void addedPointsAreOfTheDescription();
     void savedIsTheDescription();
     void showsAWallInPlaceOfTheOneBefore();
+    void noWallIsShownBeforeTheOneThatIsFollowed();
     void editsTakeNothingOfAWallOver();
     void keepsAWallAsOneStep();
     void cabinetsThatAreLeftOutStaySo();
@@ -407,6 +408,30 @@ void FollowedDocumentTest::showsAWallInPlaceOfTheOneBefore()
     f.document.showFollowed(std::nullopt);
     QCOMPARE(f.cabinets(), QStringLiteral("old"));
     QVERIFY(!f.document.hasUnkept());
+}
+
+void FollowedDocumentTest::noWallIsShownBeforeTheOneThatIsFollowed()
+{
+    Fixture f;
+    f.open(wall({"old", "older"}));
+    FollowedMeasurement first = measurement(followed(0.69), std::nullopt, QStringLiteral("A1"));
+    first.isOfCabinets = true;
+    f.document.showFollowed(first);
+    // Its verdict would not be on what is measured.
+    QCOMPARE(f.cabinets(), QString());
+    QVERIFY(!f.session.assessment().wall);
+    QVERIFY(f.document.awaitsWall());
+    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    QCOMPARE(f.cabinets(), QString());
+    QCOMPARE(f.ownCabinets(), QStringLiteral("old older"));
+    f.document.keepFollowed(QStringLiteral("keep"));
+    QCOMPARE(f.ownCabinets(), QStringLiteral("old older"));
+    first.wall = wall({"A1", "A2"});
+    f.document.showFollowed(first);
+    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
+    QVERIFY(!f.document.awaitsWall());
+    f.document.showFollowed(std::nullopt);
+    QCOMPARE(f.cabinets(), QStringLiteral("old older"));
 }
 
 void FollowedDocumentTest::editsTakeNothingOfAWallOver()

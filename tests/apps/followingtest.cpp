@@ -81,6 +81,7 @@ private Q_SLOTS:
     void followsAWall();
     void takesLongerWhereItsSlotsDo();
     void readsStandardInputAsItComes();
+    void whatIsCutOffIsNotKnown();
     void awaitsTheNextWriterOfANamedPipe();
     void readsAStreamInAThread();
     void threadEndsWithItsReader();
@@ -461,6 +462,35 @@ void FollowingTest::readsStandardInputAsItComes()
     QVERIFY(following.input().hasEnded());
     QCOMPARE(redX(following), 0.65);
     QCOMPARE(following.inProgress().file.name, QStringLiteral("standard input"));
+    ::close(ends[0]);
+#else
+    QSKIP("reads pipes by a thread");
+#endif
+}
+
+void FollowingTest::whatIsCutOffIsNotKnown()
+{
+#ifdef Q_OS_UNIX
+    int ends[2];
+    QCOMPARE(::pipe(ends), 0);
+    const auto write = [&ends](const QByteArray &bytes) {
+        QCOMPARE(::write(ends[1], bytes.constData(), size_t(bytes.size())), ssize_t(bytes.size()));
+    };
+    const auto primaries = [](const QByteArray &cabinet) {
+        return cabinet + ",Red,21,0.64,0.33\n" + cabinet + ",Green,72,0.3,0.6\n" + cabinet + ",Blue,7,0.15,0.06\n";
+    };
+    Following following(
+        std::make_unique<StreamInput>(QStringLiteral("-"), ends[0], StreamInput::AtEnd::Ends), MeasurementOptions());
+    write("cabinet,name,Y (cd/m2),x,y\n" + primaries("A1") + "A1,White,100,0.3127,0.329\n");
+    QTRY_VERIFY(following.inProgress().isOfCabinets);
+    QVERIFY(!following.inProgress().wall);
+    write(primaries("A2") + "A2,White,80,0.3127,0.3");
+    ::close(ends[1]);
+    QTRY_COMPARE(following.state().notRead, 1);
+    const auto wall = following.inProgress().wall;
+    QVERIFY(wall);
+    QCOMPARE(wall->cabinets.size(), std::size_t(1));
+    QCOMPARE(wall->incomplete.front().reason, QStringLiteral("white could not be read"));
     ::close(ends[0]);
 #else
     QSKIP("reads pipes by a thread");

@@ -61,6 +61,13 @@ void WallPageTest::withoutAWallItSaysHowToGetOne()
     f.window->setDescription(oneDim(), QString());
     QVERIFY(f.window->wallPage()->map()->isVisible());
     QVERIFY(!f.window->wallPage()->emptyNote()->isVisible());
+
+    FollowedMeasurement first;
+    first.file.content = GamutFile::Content::Measurements;
+    first.isOfCabinets = true;
+    f.window->document()->showFollowed(first);
+    QVERIFY(f.window->wallPage()->emptyNote()->isVisible());
+    QVERIFY(f.window->wallPage()->emptyNote()->text().startsWith(QStringLiteral("Cabinets are being measured.")));
 }
 
 void WallPageTest::arrowsSelectInMapLooksAndTable()

@@ -21,6 +21,8 @@ struct FollowedMeasurement {
     std::optional<DisplayWall> wall = std::nullopt;
     /*! \brief The cabinet whose gamut the file has, which others may follow; empty: it is that of the display. */
     QString cabinet = QString();
+    /*! \brief Whether it names cabinets: one of a wall that is not known yet, if there is no wall. */
+    bool isOfCabinets = false;
 };
 
 } // namespace gamutviewer

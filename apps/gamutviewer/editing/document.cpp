@@ -210,7 +210,7 @@ void Document::showFollowed(
 {
     std::optional<FollowedMeasurement> followed = measurement;
     std::function<FollowedMeasurement()> keeps = measurement ? toKeep : nullptr;
-    DisplayDescription description = withMeasurement(m_own, followed);
+    DisplayDescription description = shownWith(m_own, followed);
     const auto exchange = [&] {
         std::swap(m_followed, followed);
         std::swap(m_toKeep, keeps);
@@ -297,6 +297,17 @@ DisplayDescription Document::withMeasurement(
     return result;
 }
 
+//! \a own as it is shown while \a measurement is followed.
+DisplayDescription Document::shownWith(
+    const DisplayDescription &own, const std::optional<FollowedMeasurement> &measurement)
+{
+    DisplayDescription result = withMeasurement(own, measurement);
+    if (measurement && measurement->isOfCabinets && !measurement->wall) {
+        result.wall = DisplayWall(); // a verdict on it would not be on what is measured
+    }
+    return result;
+}
+
 //! \a edited, which was made from what is shown, without what is shown of the followed measurement.
 DisplayDescription Document::withoutFollowed(const DisplayDescription &edited) const
 {
@@ -319,7 +330,7 @@ DisplayDescription Document::withoutFollowed(const DisplayDescription &edited) c
     if (samePoints(own.measurePoints, m_description.measurePoints)) {
         own.measurePoints = m_own.measurePoints;
     }
-    if (m_followed->wall) {
+    if (m_followed->wall || m_followed->isOfCabinets) {
         own.wall = wallWithoutFollowed(own.wall);
     }
     return own;
@@ -347,7 +358,7 @@ DisplayWall Document::wallWithoutFollowed(const DisplayWall &edited) const
 void Document::show(const DisplayDescription &own)
 {
     // All of it is there before anything changes: memory can be short.
-    DisplayDescription shown = withMeasurement(own, m_followed);
+    DisplayDescription shown = shownWith(own, m_followed);
     DisplayDescription kept = own;
     m_own = std::move(kept);
     m_description = std::move(shown);

@@ -92,6 +92,8 @@ public:
     QString measuredCabinet() const;
     /*! \brief Whether a wall is shown that is followed. It is not removed by an edit. */
     bool followsWall() const { return m_followed && m_followed->wall; }
+    /*! \brief Whether cabinets are followed that are no wall yet. Until they are one, no wall is shown. */
+    bool awaitsWall() const { return m_followed && m_followed->isOfCabinets && !m_followed->wall; }
     /*! \brief Whether a measurement is followed that own() does not have. */
     bool hasUnkept() const;
     /*!
@@ -128,6 +130,8 @@ private:
     static DisplayDescription withMeasurement(
         const DisplayDescription &own, const std::optional<FollowedMeasurement> &measurement);
     std::optional<FollowedMeasurement> toKeep() const { return m_toKeep ? m_toKeep() : m_followed; }
+    static DisplayDescription shownWith(
+        const DisplayDescription &own, const std::optional<FollowedMeasurement> &measurement);
     DisplayDescription withoutFollowed(const DisplayDescription &edited) const;
     DisplayWall wallWithoutFollowed(const DisplayWall &edited) const;
     QVector<QPointF> trailWith(const DisplayDescription &description) const;

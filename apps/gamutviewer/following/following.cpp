@@ -91,6 +91,7 @@ FollowedMeasurement Following::madeOf(const std::optional<DisplayWall> &wall) co
     }
     file.measurements.recognized = m_stream->state().recognized;
     result.wall = wall;
+    result.isOfCabinets = m_latest->namesCabinets();
     return result;
 }
 

@@ -3080,6 +3080,18 @@ Open a list of measurements with a column for the cabinet, or for its row and co
         <source>Selected cabinet</source>
         <translation>所选箱体</translation>
     </message>
+    <message>
+        <source>Cabinets are being measured.
+
+They are shown as a wall as soon as two of them are named, and one has red, green and blue.</source>
+        <translation>正在测量箱体。
+
+一旦有两个箱体被命名，且其中一个有红、绿、蓝，它们就显示为墙。</translation>
+    </message>
+    <message>
+        <source>The wall that was open is shown again when the list is followed no further.</source>
+        <translation>停止跟随列表后，将重新显示先前打开的墙。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallScale</name>

@@ -45,10 +45,7 @@ WallPage::WallPage(TargetSession *session, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     m_stack = new QStackedWidget(this);
     layout->addWidget(m_stack);
-    m_note = new QLabel(tr("No wall is known of this display.\n\nOpen a list of measurements with a column for the "
-                           "cabinet, or for its row and column, and with red, green and blue of each; or a display "
-                           "description that has a wall."),
-        m_stack);
+    m_note = new QLabel(noWallText(), m_stack);
     m_note->setWordWrap(true);
     m_note->setMargin(40);
     m_note->setAlignment(Qt::AlignCenter);
@@ -238,6 +235,7 @@ void WallPage::refresh()
 {
     const DisplayWall &wall = document()->description().wall;
     const bool hasWall = !wall.cabinets.empty();
+    m_note->setText(noWallText());
     m_stack->setCurrentWidget(hasWall ? m_content : m_note);
     setFocusInside(hasWall ? static_cast<QWidget *>(m_map->isEmpty() ? m_unplaced : m_map) : m_note);
     if (!m_isQuantityChosen) {
@@ -252,6 +250,21 @@ void WallPage::refresh()
         look->refresh();
     }
     refreshIncomplete();
+}
+
+QString WallPage::noWallText() const
+{
+    if (!document()->awaitsWall()) {
+        return tr(
+            "No wall is known of this display.\n\nOpen a list of measurements with a column for the cabinet, or for "
+            "its row and column, and with red, green and blue of each; or a display description that has a wall.");
+    }
+    const QString text
+        = tr("Cabinets are being measured.\n\nThey are shown as a wall as soon as two of them are named, and one "
+             "has red, green and blue.");
+    return document()->own().wall.cabinets.empty() ? text
+                                                   : text + QStringLiteral("\n\n")
+            + tr("The wall that was open is shown again when the list is followed no further.");
 }
 
 void WallPage::refreshIncomplete()

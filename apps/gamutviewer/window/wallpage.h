@@ -78,6 +78,7 @@ private:
     void shareWidth();
     void shareRoom();
     void showSelection();
+    QString noWallText() const;
 
     TargetSession *m_session;
     QStackedWidget *m_stack;
