@@ -37,8 +37,10 @@ public:
         if (there != m_places.constEnd()) {
             m_values.splice(m_values.end(), m_values, *there);
         } else {
-            m_values.push_back({key, Value()});
-            m_places.insert(key, std::prev(m_values.end()));
+            // Memory can be short: there is no value without its place.
+            std::list<std::pair<QString, Value>> added{{key, Value()}};
+            m_places.insert(key, added.begin());
+            m_values.splice(m_values.end(), added);
             if (int(m_values.size()) > m_most) {
                 m_places.remove(m_values.front().first);
                 m_values.pop_front();
