@@ -106,14 +106,15 @@ ExitStatus writeCorrections(const DisplayDescription &description, const Command
 
 /*!
  * \brief The file with the wall: that of --wall, or else, where no window asks what a list of several cabinets means,
- * the list among the files. A cabinet that was chosen is one display, unless corrections are wanted.
+ * the list among the files. A cabinet that was chosen is one display, unless corrections are wanted. What has been read
+ * to find it is added to \a read.
  */
-QString wallFile(const CommandLine &commandLine)
+QString wallFile(const CommandLine &commandLine, FilesRead *read)
 {
     const bool isOneDisplay
         = !commandLine.measurementOptions().cabinet.isEmpty() && commandLine.correctionsFile().isEmpty();
     return commandLine.wallFile().isEmpty() && commandLine.action() == CommandLine::Action::Write && !isOneDisplay
-        ? wallAmong(commandLine.files(), commandLine.measurementOptions())
+        ? wallAmong(commandLine.files(), commandLine.measurementOptions(), read)
         : commandLine.wallFile();
 }
 
@@ -300,7 +301,8 @@ int run(int argc, char *argv[])
         break;
     }
 
-    const QString wall = wallFile(commandLine);
+    FilesRead filesRead;
+    const QString wall = wallFile(commandLine, &filesRead);
     const bool follows = !commandLine.followedFile().isEmpty();
     const bool isSample = commandLine.files().isEmpty() && wall.isEmpty() && !follows;
     QStringList files = commandLine.files();
@@ -308,7 +310,7 @@ int run(int argc, char *argv[])
         files.removeAll(wall);
     }
     Outcome<OpenedFiles> opened
-        = openFiles(isSample ? QStringList(sampleFile()) : files, commandLine.measurementOptions());
+        = openFiles(isSample ? QStringList(sampleFile()) : files, commandLine.measurementOptions(), filesRead);
     if (!opened) {
         printError(opened.error());
         return WrongInput;

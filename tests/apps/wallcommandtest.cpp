@@ -167,6 +167,19 @@ void WallCommandTest::wallAmongTheFiles()
     QCOMPARE(wallAmong({path("other.csv"), path("wall.csv")}, {}), QString());
     QCOMPARE(
         wallAmong({path("none.csv"), path("wall.csv"), path("stage.json"), "-", "/dev/null"}, {}), path("wall.csv"));
+
+    // What was read for it need not be read again, unless it was read otherwise.
+    const auto opensWithoutReading = [this](const MeasurementOptions &options) {
+        const QString file = path("gone.csv");
+        write("gone.csv", wallList);
+        FilesRead filesRead;
+        return wallAmong({file}, options, &filesRead) == file && QFile::remove(file)
+            && openFiles({file}, options, filesRead);
+    };
+    MeasurementOptions ofCabinet;
+    ofCabinet.cabinet = QStringLiteral("A2");
+    QVERIFY(opensWithoutReading({}));
+    QVERIFY(!opensWithoutReading(ofCabinet));
 }
 
 void WallCommandTest::wallTakesThePlaceOfAnother()

@@ -325,10 +325,12 @@ OpenedFiles openedAlone(const QVector<ReadFile> &files)
     return opened;
 }
 
-Outcome<OpenedFiles> openFiles(const QStringList &fileNames, const MeasurementOptions &options)
+Outcome<OpenedFiles> openFiles(const QStringList &fileNames, const MeasurementOptions &options, const FilesRead &read)
 {
-    const auto files
-        = readFiles(fileNames, [&options](const QString &fileName) { return readGamutFile(fileName, options); });
+    const auto files = readFiles(fileNames, [&](const QString &fileName) {
+        const auto before = read.constFind(fileName);
+        return before != read.constEnd() ? *before : readGamutFile(fileName, options);
+    });
     if (!files) {
         return Outcome<OpenedFiles>::failure(files.problem());
     }

@@ -9,6 +9,7 @@
 
 #include <gamutmodel/gamutfit.h>
 
+#include <QHash>
 #include <QStringList>
 
 #include <functional>
@@ -103,8 +104,15 @@ OpenedFiles openedAlone(const QVector<ReadFile> &files);
 /*! \brief What \a open becomes with \a files. The warnings are those of the readers alone. */
 OpenedFiles openedWith(const DisplayDescription &open, const QVector<ReadFile> &files);
 
-/*! \brief Reads \a fileNames, measurement lists by \a options, and opens them alone. */
-Outcome<OpenedFiles> openFiles(const QStringList &fileNames, const MeasurementOptions &options = MeasurementOptions());
+/*! \brief What reading files has come to, by their names. */
+using FilesRead = QHash<QString, Outcome<GamutFile>>;
+
+/*!
+ * \brief Reads \a fileNames, measurement lists by \a options, and opens them alone. What is in \a read has been read by
+ * the same options, and is not read again.
+ */
+Outcome<OpenedFiles> openFiles(const QStringList &fileNames, const MeasurementOptions &options = MeasurementOptions(),
+    const FilesRead &read = FilesRead());
 
 } // namespace gamutviewer
 

@@ -104,15 +104,19 @@ Outcome<OpenedFiles> withWall(const OpenedFiles &opened, const QString &fileName
     return result;
 }
 
-QString wallAmong(const QStringList &fileNames, MeasurementOptions options)
+QString wallAmong(const QStringList &fileNames, const MeasurementOptions &options, FilesRead *read)
 {
-    options.cabinet.clear();
+    MeasurementOptions ofAll = options;
+    ofAll.cabinet.clear();
     QStringList found;
     for (const QString &fileName : fileNames) {
         if (isStandardInput(fileName) || !QFileInfo(fileName).isFile() || beginsAsDescription(fileName)) {
             continue;
         }
-        const auto file = readGamutFile(fileName, options);
+        const auto file = readGamutFile(fileName, ofAll);
+        if (read && options.cabinet.isEmpty()) {
+            read->insert(fileName, file);
+        }
         if (!file || file->content != GamutFile::Content::Measurements) {
             continue;
         }

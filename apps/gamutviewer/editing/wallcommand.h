@@ -28,8 +28,10 @@ Outcome<OpenedFiles> withWall(const OpenedFiles &opened, const QString &fileName
 /*!
  * \brief The only one of \a fileNames that is a measurement list from which a wall of several cabinets can be made;
  * empty if none is, or if several are. Only what can be read twice is looked at: no standard input, no pipes.
+ *
+ * What has been read for it by \a options is added to \a read, if that is given: long lists take their time.
  */
-QString wallAmong(const QStringList &fileNames, MeasurementOptions options);
+QString wallAmong(const QStringList &fileNames, const MeasurementOptions &options, FilesRead *read = nullptr);
 
 /*!
  * \brief \a description with the gamut \a gamutName for its target: one of its own, or a published one, in any case
