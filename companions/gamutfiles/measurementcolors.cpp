@@ -191,8 +191,10 @@ bool MeasurementReader::readTristimulus(const CsvRow &row, Measurement &measurem
         isBelowZero = isBelowZero || *value < 0.0;
         values[i] = *value;
     }
-    if (isBelowZero && std::all_of(values.begin(), values.end(), [noise](double value) { return value <= noise; })) {
+    const bool isDark = std::all_of(values.begin(), values.end(), [noise](double value) { return value <= noise; });
+    if (isDark && (isBelowZero || (values[1] == 0.0 && values[0] + values[2] > 0.0))) {
         m_dark.add(row.line);
+        keepSize(measurement, values);
         return true;
     }
     if (isBelowZero) {
@@ -206,8 +208,20 @@ bool MeasurementReader::readTristimulus(const CsvRow &row, Measurement &measurem
             return fail(tr("the tristimulus values are too large"), place(row.line, ColumnPart::X));
         }
         measurement.color = Model::Target::fromYxy(measurement.luminance, values[0] / sum, values[1] / sum);
+    } else {
+        keepSize(measurement, values);
+        readWithoutChromaticity(row, measurement);
     }
     return true;
+}
+
+//! Without a chromaticity, the light can be as much as the largest of X, Y and Z says.
+void MeasurementReader::keepSize(Measurement &measurement, const std::array<double, 3> &tristimulus) const
+{
+    if (luminancePart() == ColumnPart::Y) {
+        const double most = std::max({std::fabs(tristimulus[0]), std::fabs(tristimulus[1]), std::fabs(tristimulus[2])});
+        measurement.luminance = most * m_luminanceScale;
+    }
 }
 
 bool MeasurementReader::readUv(const CsvRow &row, Measurement &measurement, bool isDark)

@@ -77,6 +77,7 @@ protected: // for lists that are still being written
     void readWithoutChromaticity(const CsvRow &row, const Measurement &measurement);
     bool readXy(const CsvRow &row, Measurement &measurement, bool isDark);
     bool readTristimulus(const CsvRow &row, Measurement &measurement);
+    void keepSize(Measurement &measurement, const std::array<double, 3> &tristimulus) const;
     bool readUv(const CsvRow &row, Measurement &measurement, bool isDark);
     //! A number with the half of its last digit.
     struct RoundedNumber {

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void noise();
     void noiseIsSmall_data();
     void noiseIsSmall();
+    void lightWithoutLuminance();
     void saturatedColorsBelowZero();
     void moreFieldsThanColumns();
     void dividedNumbers_data();
@@ -158,7 +159,6 @@ void MeasurementRowsTest::black_data()
     QTest::addColumn<double>("luminance");
     QTest::newRow("zeros") << QByteArray("name,Lv,x,y\nBlack,0,0,0\n") << 0.0;
     QTest::newRow("zeros of XYZ") << QByteArray("name,X,Y (cd/m2),Z\nblack,0,0,0\n") << 0.0;
-    QTest::newRow("no Y") << QByteArray("name,X,Y (cd/m2),Z\nblack,0.001,0,0.002\n") << 0.0;
     QTest::newRow("zeros of u'v'") << QByteArray("name,Lv,u',v'\nblack,0,0,0\n") << 0.0;
     QTest::newRow("German") << QByteArray("name;Lv;x;y\nSchwarz;0,000;0,0000;0,0000\n") << 0.0;
     QTest::newRow("dashes") << QByteArray("name,Lv,x,y\nBlack,0,---,---\n") << 0.0;
@@ -238,6 +238,8 @@ void MeasurementRowsTest::noise_data()
     row("X below 0", "X,Y (cd/m2),Z", "95,100,109", "-0.0001,0.0002,0.0001", 0.0002);
     row("Y below 0", "X,Y (cd/m2),Z", "95,100,109", "0.0001,-0.0002,0.0001", 0.0002);
     row("all below 0", "X,Y (cd/m2),Z", "95,100,109", "-0.1,-0.1,-0.1", 0.1);
+    row("Y is 0", "X,Y (cd/m2),Z", "95,100,109", "-0.1,0,0.05", 0.1);
+    row("only Y is 0", "X,Y (cd/m2),Z", "95,100,109", "0.001,0,0.002", 0.002);
     row("relative X, Y, Z beside Lv", "X,Y,Z,Lv", ".95,1,1.09,500", "-0.0001,0,0,0.03", 0.03);
     row("Lv below 0", "x,y,Lv", "0.3,0.3,100", "0.3,0.3,-0.0003", 0.0003);
     row("x below 0", "x,y,Lv", "0.3,0.3,100", "-0.3,0.3,0.0003", 0.0003);
@@ -290,6 +292,19 @@ void MeasurementRowsTest::noiseIsSmall()
     QFETCH(QByteArray, text);
     QFETCH(QString, error);
     QCOMPARE(errorOf(text), error);
+}
+
+// What has no luminance, but X and Z, is not without light.
+void MeasurementRowsTest::lightWithoutLuminance()
+{
+    const QByteArray text = "name,X,Y (cd/m2),Z\nW,95,100,109\nK,0.9,0,0.8\n";
+    const auto list = readMeasurementList(text);
+    QVERIFY2(list, qPrintable(list.error()));
+    QVERIFY(!list->black()->color);
+    QCOMPARE(list->black()->luminance, 0.9);
+    QCOMPARE(otherWarningsOf(text), QStringList("line 3: has a luminance but no chromaticity"));
+    const auto none = readMeasurementList("name,X,Y (cd/m2),Z\nW,95,100,109\nK,0,0,0\n");
+    QCOMPARE(none->black()->luminance, 0.0);
 }
 
 // A laser's red has hardly any Z.
