@@ -29,6 +29,15 @@ public:
         : m_most(most)
     {
     }
+    LatestByKey(const LatestByKey &other)
+        : m_most(other.m_most)
+        , m_values(other.m_values)
+    {
+        for (auto value = m_values.begin(); value != m_values.end(); ++value) {
+            m_places.insert(value->first, value);
+        }
+    }
+    LatestByKey &operator=(const LatestByKey &) = delete;
 
     //! The value of \a key, the latest from now on; a new one when there was none.
     Value &touched(const QString &key)
@@ -180,6 +189,37 @@ public:
         return made ? std::make_optional(*made) : std::nullopt;
     }
 
+    bool isAnyMeasured(MeasurementPart part) const
+    {
+        return std::any_of(cabinets.all().begin(), cabinets.all().end(),
+            [part](const auto &cabinet) { return cabinet.second.parts[std::size_t(part)].has_value(); });
+    }
+
+    //! Whether \a cabinet lacks what another one has.
+    bool isAwaited(const KeptCabinet &cabinet, MeasurementPart part) const
+    {
+        return !cabinet.parts[std::size_t(part)] && isAnyMeasured(part);
+    }
+
+    QVector<MeasurementPart> possibleParts(const UnfinishedMeasurement &line) const
+    {
+        if (line.isColorKnown) {
+            return {line.measurement.part};
+        }
+        QVector<MeasurementPart> parts;
+        std::copy_if(keptParts.begin(), keptParts.end(), std::back_inserter(parts),
+            [this](MeasurementPart part) { return isAnyMeasured(part); });
+        return parts;
+    }
+
+    //! Where the line does not have all of the cabinet, that begins as the line says, or was measured last.
+    bool mayBeOf(const UnfinishedMeasurement &line, const QString &key, const KeptCabinet &cabinet) const
+    {
+        return line.isCabinetKnown ? key == cabinetKey(line.measurement)
+                                   : cabinet.identity.cabinet.startsWith(line.measurement.cabinet, Qt::CaseInsensitive)
+                || key == cabinets.all().back().first;
+    }
+
     bool whiteIsSum = false;
     LuminanceUnit unit = LuminanceUnit::NotKnown;
     LatestByKey<Measurement> points{mostLatestPoints};
@@ -194,6 +234,11 @@ LatestMeasurements::LatestMeasurements(bool whiteIsSum)
     : d(std::make_unique<Private>())
 {
     d->whiteIsSum = whiteIsSum;
+}
+
+LatestMeasurements::LatestMeasurements(const LatestMeasurements &other)
+    : d(std::make_unique<Private>(*other.d))
+{
 }
 
 LatestMeasurements::~LatestMeasurements() = default;
@@ -230,6 +275,30 @@ void LatestMeasurements::add(const Measurement &measurement)
     kept = measurement;
     if (d->listOf(cabinet.parts).gamut(QString())) {
         d->shownCabinet = key;
+    }
+}
+
+void LatestMeasurements::addUnfinished(const UnfinishedMeasurement &line)
+{
+    if (line.isColorKnown && line.isCabinetKnown) {
+        add(line.measurement);
+        return;
+    }
+    std::vector<Measurement> possible;
+    for (const auto &[key, cabinet] : d->cabinets.all()) {
+        if (d->mayBeOf(line, key, cabinet)) {
+            for (const MeasurementPart part : d->possibleParts(line)) {
+                Measurement measurement = line.measurement;
+                measurement.cabinet = cabinet.identity.cabinet;
+                measurement.row = cabinet.identity.row;
+                measurement.column = cabinet.identity.column;
+                measurement.part = part;
+                possible.push_back(measurement);
+            }
+        }
+    }
+    for (const Measurement &measurement : possible) {
+        add(measurement);
     }
 }
 
@@ -282,26 +351,35 @@ const std::optional<DisplayWall> &LatestMeasurements::wall() const
     return d->wall;
 }
 
-std::optional<DisplayWall> LatestMeasurements::wallInProgress() const
+std::optional<DisplayWall> LatestMeasurements::wallInProgress(const std::optional<UnfinishedMeasurement> &line) const
 {
     std::optional<DisplayWall> result = wall();
-    if (!result || result->cabinets.size() < 2) {
-        return result;
-    }
-    const KeptCabinet &last = d->cabinets.all().back().second;
-    const auto isAwaited = [&](MeasurementPart part) {
-        return !last.parts[std::size_t(part)]
-            && std::any_of(d->cabinets.all().begin(), d->cabinets.all().end(),
-                [part](const auto &other) { return other.second.parts[std::size_t(part)].has_value(); });
-    };
-    const auto inWall = std::find_if(result->cabinets.begin(), result->cabinets.end(),
-        [label = last.identity.label()](const WallCabinet &cabinet) { return cabinet.label() == label; });
-    if (inWall != result->cabinets.end() && (isAwaited(MeasurementPart::White) || isAwaited(MeasurementPart::Black))) {
+    const auto await = [&](const KeptCabinet &cabinet) {
+        const auto inWall = std::find_if(result->cabinets.begin(), result->cabinets.end(),
+            [label = cabinet.identity.label()](const WallCabinet &other) { return other.label() == label; });
+        if (inWall == result->cabinets.end() || result->cabinets.size() < 2) {
+            return;
+        }
         const auto position = inWall->row && inWall->column
             ? std::make_optional(Model::GridPosition{*inWall->row, *inWall->column})
             : std::nullopt;
         result->incomplete.push_back({inWall->name, position, QStringLiteral("it is being measured")});
         result->cabinets.erase(inWall);
+    };
+    if (!result) {
+        return result;
+    }
+    const KeptCabinet &last = d->cabinets.all().back().second;
+    if (d->isAwaited(last, MeasurementPart::White) || d->isAwaited(last, MeasurementPart::Black)) {
+        await(last);
+    }
+    const KeptCabinet *writing
+        = line && line->isCabinetKnown ? d->cabinets.find(cabinetKey(line->measurement)) : nullptr;
+    const auto lacks = [writing](MeasurementPart part) { return !writing->parts[std::size_t(part)]; };
+    if (writing
+        && (line->isColorKnown ? line->measurement.part != MeasurementPart::None && lacks(line->measurement.part)
+                               : lacks(MeasurementPart::White) || lacks(MeasurementPart::Black))) {
+        await(*writing);
     }
     return result;
 }

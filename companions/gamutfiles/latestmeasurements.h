@@ -6,6 +6,7 @@
 #include <gamutfiles/displaywall.h>
 #include <gamutfiles/gamutfiles_export.h>
 #include <gamutfiles/measurementlist.h>
+#include <gamutfiles/measurementstream.h>
 
 #include <QVector>
 
@@ -31,6 +32,7 @@ class GAMUTFILES_EXPORT LatestMeasurements {
 public:
     /*! \param whiteIsSum whether a missing white is the sum of red, green and blue */
     explicit LatestMeasurements(bool whiteIsSum = false);
+    LatestMeasurements(const LatestMeasurements &other);
     ~LatestMeasurements();
 
     /*! \brief The unit of what is added from now on. Measurements in another unit are forgotten. */
@@ -42,6 +44,13 @@ public:
      * not be read takes no one's place; where there is none, the colour is measured but not known.
      */
     void add(const Measurement &measurement);
+    /*!
+     * \brief Adds what \a line says, of which no more will come.
+     *
+     * Its colour is measured but not known, unless there is a former one. Where the line does not say which colour or
+     * which cabinet it is of, that holds for every one that it may be of and that other cabinets have.
+     */
+    void addUnfinished(const UnfinishedMeasurement &line);
     /*! \brief Forgets everything but the unit. */
     void clear();
 
@@ -68,9 +77,10 @@ public:
     const std::optional<DisplayWall> &wall() const;
     /*!
      * \brief The same while the measurement goes on: the cabinet that was measured last is incomplete while it lacks a
-     * white or a black that another one has, as that may still come.
+     * white or a black that another one has, as that may still come. So is the cabinet of \a line, which is being
+     * written, while it lacks what that may be.
      */
-    std::optional<DisplayWall> wallInProgress() const;
+    std::optional<DisplayWall> wallInProgress(const std::optional<UnfinishedMeasurement> &line = std::nullopt) const;
     /*!
      * \brief The last colours, as list() has them, without those of the cabinets that \a shown has complete, which is
      * wall() or wallInProgress().
@@ -88,7 +98,7 @@ public:
     int cabinetCount() const; //!< cabinets that are kept; without names of cabinets there is one
 
 private:
-    Q_DISABLE_COPY(LatestMeasurements)
+    LatestMeasurements &operator=(const LatestMeasurements &) = delete;
     class GAMUTFILES_NO_EXPORT Private;
     std::unique_ptr<Private> d;
 };

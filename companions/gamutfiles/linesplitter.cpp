@@ -69,7 +69,7 @@ std::optional<uint> LineSplitter::unitAt(int index) const
 
 StreamLine LineSplitter::taken(int end)
 {
-    StreamLine line{m_isTooLong ? QByteArray() : m_bytes.mid(m_begin, end - m_begin), m_isTooLong};
+    StreamLine line{m_isTooLong ? m_beginning : m_bytes.mid(m_begin, end - m_begin), m_isTooLong};
     m_isTooLong = false;
     return line;
 }
@@ -92,6 +92,8 @@ std::optional<StreamLine> LineSplitter::next()
             m_begin = m_scanned;
             return line;
         } else if (at - m_begin >= m_longest) {
+            constexpr int shownBytes = 1024; // whole characters of two bytes, too
+            m_beginning = m_isTooLong ? m_beginning : m_bytes.mid(m_begin, shownBytes);
             m_isTooLong = true;
             m_begin = m_scanned; // its rest is passed over as it comes
         }

@@ -13,7 +13,7 @@ namespace gamutfiles {
 
 /*! \brief One line of a text that is still being written. */
 struct StreamLine {
-    QByteArray bytes; //!< without its end, as they were stored; nothing of a line that is too long
+    QByteArray bytes; //!< without its end, as they were stored; of a line that is too long, how it begins
     bool isTooLong = false;
     bool hasNoEnd = false; //!< the last line, of a text that does not end with a line end
 };
@@ -37,6 +37,8 @@ public:
     /*! \brief UTF-16 in one of its orders, or what was stated; nothing: other, or not yet known. */
     const std::optional<TextEncoding> &encoding() const { return m_encoding; }
     int keptBytes() const { return int(m_bytes.size()) - m_begin; }
+    /*! \brief The line whose end is awaited, as far as it has come. */
+    QByteArray unfinished() const { return m_isTooLong ? m_beginning : m_bytes.mid(m_begin); }
 
 private:
     bool decideWidth();
@@ -50,6 +52,7 @@ private:
     std::optional<TextEncoding> m_encoding;
     int m_width = 0; // of a character in bytes; 0: not known
     bool m_isTooLong = false; // the line whose end is awaited
+    QByteArray m_beginning; // of it, where it is too long
     bool m_afterReturn = false; // the line end may have a second character
     bool m_isFinished = false;
 };

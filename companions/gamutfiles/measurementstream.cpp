@@ -49,17 +49,20 @@ public:
     }
 
     void takeLine(const StreamLine &line);
-    void takeText(const NumberedLine &line);
+    bool takeText(const NumberedLine &line);
     void takeRow(const CsvRow &row, const NumberedLine &line);
-    void takeCutOff(const NumberedLine &line);
+    void keepUnread(const QByteArray &bytes);
+    std::optional<CsvRow> brokenRow(const QByteArray &bytes) const;
     bool beginAnew(const NumberedLine &line);
     void findHeader();
     void dropOldest(int count);
     void refuseAllHeld();
     std::optional<QString> decoded(const QByteArray &bytes);
     void findUnread();
+    std::optional<UnfinishedMeasurement> unfinished(const CsvRow &row);
     void findLevels(const Measurement &measurement);
     void playPart(Measurement &measurement) const;
+    void playUnreadPart(Measurement &measurement);
     bool isOfCabinet(const Measurement &measurement) const;
     void refuse(qint64 line, const Problem &problem);
     void refreshState();
@@ -75,6 +78,7 @@ public:
     QVector<ColorLevel> highestLevel; // of those without a stated full level: one, or none
     bool isFinished = false;
     LastLine lastLine = LastLine::IsWhole;
+    QByteArray cutOff; // the last line, if it may be
     bool hasLines = false;
     MeasurementStreamState state;
 };
@@ -109,37 +113,55 @@ void MeasurementStream::Private::takeLine(const StreamLine &line)
     if (line.isTooLong) {
         refuse(state.lines,
             Problem{StreamText::tr("is longer than %1 KiB").arg(maximumStreamLineBytes / 1024), QString(), 0, 0});
+        keepUnread(line.bytes);
         return;
     }
-    const bool mayBeCutOff = line.hasNoEnd && lastLine == LastLine::MayBeCutOff;
-    if (mayBeCutOff) {
+    if (line.hasNoEnd && lastLine == LastLine::MayBeCutOff) {
         refuse(state.lines, Problem{StreamText::tr("has no end, and may be cut off"), QString(), 0, 0});
+        cutOff = line.bytes;
+        return;
     }
-    if (const auto text = decoded(line.bytes)) {
-        const NumberedLine decodedLine{state.lines, *text};
-        mayBeCutOff ? takeCutOff(decodedLine) : takeText(decodedLine);
+    const auto text = decoded(line.bytes);
+    if (!text) {
+        keepUnread(line.bytes);
+    } else if (!takeText({state.lines, *text})) {
+        keepUnread(line.bytes);
     }
 }
 
-//! Its last number may lack digits, but what it measured is not known from then on.
-void MeasurementStream::Private::takeCutOff(const NumberedLine &line)
+//! The fields of a line that cannot be divided into them by the rules: a quote is nothing but a character.
+std::optional<CsvRow> MeasurementStream::Private::brokenRow(const QByteArray &bytes) const
 {
-    const CsvTable table = rows ? readCsv(line.text, rows->separator()) : CsvTable();
-    if (!table.rows.isEmpty()) {
-        CsvRow row = table.rows.first();
-        row.line = int(line.number);
-        rows->keepUnread(row);
+    if (!rows) {
+        return std::nullopt;
+    }
+    const auto known = splitter.encoding() ? splitter.encoding() : encoding;
+    const auto decodable = decodeText(bytes, known);
+    QString text = decodable ? decodable->text : QString::fromLatin1(bytes.constData(), int(bytes.size()));
+    text.remove(QLatin1Char('"'));
+    const CsvTable table = readCsv(text, rows->separator());
+    return table.rows.isEmpty() ? std::nullopt : std::make_optional(table.rows.first());
+}
+
+void MeasurementStream::Private::keepUnread(const QByteArray &bytes)
+{
+    if (auto row = brokenRow(bytes)) {
+        row->line = int(state.lines);
+        rows->keepUnread(*row);
         findUnread();
     }
 }
 
-void MeasurementStream::Private::takeText(const NumberedLine &line)
+//! Whether the line could be divided into fields.
+bool MeasurementStream::Private::takeText(const NumberedLine &line)
 {
     const QChar separator = rows ? rows->separator() : QLatin1Char(',');
     const CsvTable table = readCsv(line.text, separator);
     if (table.unterminatedLine > 0) {
         refuse(line.number, Problem{StreamText::tr("unterminated quote"), QString(), 0, 0});
-    } else if (rows && !table.rows.isEmpty()) {
+        return false;
+    }
+    if (rows && !table.rows.isEmpty()) {
         CsvRow row = table.rows.first();
         row.line = int(line.number);
         takeRow(row, line);
@@ -147,6 +169,7 @@ void MeasurementStream::Private::takeText(const NumberedLine &line)
         head.append(line);
         findHeader();
     }
+    return true;
 }
 
 void MeasurementStream::Private::findHeader()
@@ -222,13 +245,36 @@ void MeasurementStream::Private::findUnread()
         return;
     }
     for (Measurement &measurement : rows->takeUnread()) {
-        playPart(measurement);
+        playUnreadPart(measurement);
         const bool isColor
             = measurement.part != MeasurementPart::None || colorName(measurement.name).part != MeasurementPart::None;
         if (isColor && isOfCabinet(measurement)) {
             found.append(measurement);
         }
     }
+}
+
+std::optional<UnfinishedMeasurement> MeasurementStream::Private::unfinished(const CsvRow &row)
+{
+    const auto read = rows->unfinished(row);
+    if (!read) {
+        return std::nullopt;
+    }
+    UnfinishedMeasurement result = *read;
+    if (result.isColorKnown) {
+        playUnreadPart(result.measurement);
+    }
+    const bool isMeant = options.cabinet.isEmpty() || !result.isCabinetKnown || isOfCabinet(result.measurement);
+    return isMeant ? std::make_optional(result) : std::nullopt;
+}
+
+//! The level of a broken line may be a wrong one: it counts for that line only.
+void MeasurementStream::Private::playUnreadPart(Measurement &measurement)
+{
+    const QVector<ColorLevel> known = highestLevel;
+    findLevels(measurement);
+    playPart(measurement);
+    highestLevel = known;
 }
 
 void MeasurementStream::Private::findLevels(const Measurement &measurement)
@@ -338,6 +384,13 @@ QVector<Measurement> MeasurementStream::read(int most)
     }
     d->refreshState();
     return std::exchange(d->found, {});
+}
+
+std::optional<UnfinishedMeasurement> MeasurementStream::unfinished() const
+{
+    const QByteArray bytes = d->isFinished ? d->cutOff : d->splitter.unfinished();
+    const auto row = d->brokenRow(bytes);
+    return row ? d->unfinished(*row) : std::nullopt;
 }
 
 bool MeasurementStream::hasLines() const

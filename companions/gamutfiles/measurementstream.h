@@ -37,6 +37,13 @@ struct MeasurementStreamState {
     QVector<Problem> warnings; //!< what a user must know of the present header
 };
 
+/*! \brief What a line says that has no end yet, and may end in the middle of a name or a number. */
+struct UnfinishedMeasurement {
+    Measurement measurement; //!< isUnread; a part, and what is known of the cabinet
+    bool isColorKnown = false; //!< whether the line has its whole name
+    bool isCabinetKnown = false; //!< whether it has the whole cabinet, row and column, as far as the list has them
+};
+
 /*!
  * \brief Reads a measurement list as it is written, line by line.
  *
@@ -78,6 +85,11 @@ public:
     QVector<Measurement> read(int most);
     /*! \brief Whether read() has lines to read. */
     bool hasLines() const;
+    /*!
+     * \brief The last line, where it has no end: the one that is being written, or after finish() the one that may be
+     * cut off. Nothing without such a line, and in a list without names.
+     */
+    std::optional<UnfinishedMeasurement> unfinished() const;
     /*! \brief How far the list has been read. */
     const MeasurementStreamState &state() const;
 

@@ -113,6 +113,21 @@ void StreamRows::keepUnread(const CsvRow &row)
     m_unread.append(measurement);
 }
 
+std::optional<UnfinishedMeasurement> StreamRows::unfinished(const CsvRow &row)
+{
+    // The field that comes last may go on.
+    const auto isWhole = [&](ColumnPart part) { return !has(part) || columnOf(part) + 1 < row.fields.size(); };
+    if (!has(ColumnPart::Name)) {
+        return std::nullopt;
+    }
+    UnfinishedMeasurement result;
+    result.measurement = withoutNumbers(row);
+    result.measurement.isUnread = true;
+    result.isColorKnown = isWhole(ColumnPart::Name);
+    result.isCabinetKnown = isWhole(ColumnPart::Cabinet) && isWhole(ColumnPart::Row) && isWhole(ColumnPart::Column);
+    return result;
+}
+
 void StreamRows::read(const CsvRow &row, QVector<Measurement> &found, const Refusal &refuse)
 {
     m_failure = Problem();

@@ -5,6 +5,8 @@
 
 #include "measurementreader_p.h"
 
+#include <gamutfiles/measurementstream.h>
+
 #include <QString>
 #include <QVector>
 
@@ -48,6 +50,8 @@ public:
 
     //! Keeps what is known of \a row, which is not read, for takeUnread().
     void keepUnread(const CsvRow &row);
+    //! What is known of \a row, which has no end; nothing in a list without names.
+    std::optional<UnfinishedMeasurement> unfinished(const CsvRow &row);
     //! What is known of rows that are not read, since the last call.
     QVector<Measurement> takeUnread() { return std::exchange(m_unread, {}); }
 

@@ -492,6 +492,23 @@ void FollowingTest::whatIsCutOffIsNotKnown()
     QCOMPARE(wall->cabinets.size(), std::size_t(1));
     QCOMPARE(wall->incomplete.front().reason, QStringLiteral("white could not be read"));
     ::close(ends[0]);
+
+    // The end of a line in a file may still come.
+    FileFixture f;
+    f.follow();
+    f.append("cabinet,name,Y (cd/m2),x,y\n" + primaries("A1") + primaries("A2") + "A1,White,80,0.3127,0.3");
+    QTRY_VERIFY(f.following->inProgress().wall);
+    const auto incomplete = [](const FollowedMeasurement &measurement) {
+        QStringList told;
+        for (const IncompleteCabinet &cabinet : measurement.wall.value_or(DisplayWall()).incomplete) {
+            told.append(cabinet.name + QStringLiteral(": ") + cabinet.reason);
+        }
+        return told.join(QLatin1Char(';'));
+    };
+    QTRY_COMPARE(incomplete(f.following->inProgress()), QStringLiteral("A1: it is being measured"));
+    QCOMPARE(incomplete(f.following->asIfEnded()), QStringLiteral("A1: white could not be read"));
+    f.append("29\n");
+    QTRY_COMPARE(incomplete(f.following->asIfEnded()), QString());
 #else
     QSKIP("reads pipes by a thread");
 #endif

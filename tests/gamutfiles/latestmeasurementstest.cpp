@@ -54,6 +54,8 @@ private Q_SLOTS:
     void keepsABlackWithoutAChromaticity();
     void forgetsAPrimaryThatLostItsChromaticity();
     void colourThatCouldNotBeReadIsNotKnown();
+    void whatALineWithoutAnEndMayBeOfIsNotKnown_data();
+    void whatALineWithoutAnEndMayBeOfIsNotKnown();
     void forgetsTheOldestPoints();
     void forgetsTheOldestCabinets();
     void showsTheCabinetThatWasCompletedLast();
@@ -155,6 +157,64 @@ void LatestMeasurementsTest::colourThatCouldNotBeReadIsNotKnown()
     latest.add(measured(QStringLiteral("White"), MeasurementPart::White, 0.3127, 0.329, other));
     latest.add(measured(QStringLiteral("Black"), MeasurementPart::Black, 0.3, 0.3, other));
     QCOMPARE(latest.wall()->cabinets.size(), std::size_t(2));
+}
+
+void LatestMeasurementsTest::whatALineWithoutAnEndMayBeOfIsNotKnown_data()
+{
+    QTest::addColumn<QString>("cabinet");
+    QTest::addColumn<bool>("isCabinetKnown");
+    QTest::addColumn<bool>("isColorKnown");
+    QTest::addColumn<QString>("judged"); // as if the line had ended
+    QTest::addColumn<QString>("inProgress");
+    const auto row = [](const char *name, const char *cabinet, bool isCabinetKnown, bool isColorKnown,
+                         const char *judged, const char *inProgress) {
+        QTest::newRow(name) << QString::fromLatin1(cabinet) << isCabinetKnown << isColorKnown
+                            << QString::fromLatin1(judged) << QString::fromLatin1(inProgress);
+    };
+    // A1 has a white; A2, A3 and B1 have none, and B1 was measured last.
+    row("white of A2", "A2", true, true, "A1 A3 B1", "A1 A3");
+    row("white of A1", "A1", true, true, "A1 A2 A3 B1", "A1 A2 A3");
+    row("some colour of A3", "A3", true, false, "A1 A2 B1", "A1 A2");
+    row("white of A...", "A", false, true, "A1", "A1 A2 A3");
+    row("some colour of B...", "B", false, false, "A1 A2 A3", "A1 A2 A3");
+    row("white of C..., or of what was last", "C", false, true, "A1 A2 A3", "A1 A2 A3");
+    row("white", "", false, true, "A1", "A1 A2 A3");
+}
+
+void LatestMeasurementsTest::whatALineWithoutAnEndMayBeOfIsNotKnown()
+{
+    QFETCH(QString, cabinet);
+    QFETCH(bool, isCabinetKnown);
+    QFETCH(bool, isColorKnown);
+    QFETCH(QString, judged);
+    QFETCH(QString, inProgress);
+    LatestMeasurements latest;
+    addGamut(latest, QStringLiteral("A1"));
+    for (const char *name : {"A2", "A3", "B1"}) {
+        latest.add(measured(QStringLiteral("Red"), MeasurementPart::Red, 0.64, 0.33, QLatin1String(name)));
+        latest.add(measured(QStringLiteral("Green"), MeasurementPart::Green, 0.3, 0.6, QLatin1String(name)));
+        latest.add(measured(QStringLiteral("Blue"), MeasurementPart::Blue, 0.15, 0.06, QLatin1String(name)));
+    }
+    const auto complete = [](const std::optional<DisplayWall> &wall) {
+        QStringList names;
+        for (const WallCabinet &of : wall.value_or(DisplayWall()).cabinets) {
+            names.append(of.name);
+        }
+        return names.join(QLatin1Char(' '));
+    };
+    QCOMPARE(complete(latest.wall()), QStringLiteral("A1 A2 A3 B1"));
+    UnfinishedMeasurement line;
+    line.measurement.cabinet = cabinet;
+    line.measurement.part = isColorKnown ? MeasurementPart::White : MeasurementPart::None;
+    line.measurement.isUnread = true;
+    line.isCabinetKnown = isCabinetKnown;
+    line.isColorKnown = isColorKnown;
+    QCOMPARE(complete(latest.wallInProgress(line)), inProgress);
+    LatestMeasurements ended(latest);
+    ended.addUnfinished(line);
+    QCOMPARE(complete(ended.wall()), judged);
+    QCOMPARE(ended.cabinetCount(), 4);
+    QCOMPARE(complete(latest.wall()), QStringLiteral("A1 A2 A3 B1")); // it may go on
 }
 
 void LatestMeasurementsTest::forgetsTheOldestPoints()

@@ -72,6 +72,8 @@ private Q_SLOTS:
     void readsTheSameAsAWholeList();
     void waitsForTheEndOfALine();
     void takesTheLastLineWithoutAnEndWhenNoMoreComes();
+    void tellsOfALineWithoutAnEnd_data();
+    void tellsOfALineWithoutAnEnd();
     void takesAnyLineEnds();
     void keepsAByteOrderMarkAndItsEncoding_data();
     void keepsAByteOrderMarkAndItsEncoding();
@@ -195,7 +197,8 @@ void MeasurementStreamTest::takesTheLastLineWithoutAnEndWhenNoMoreComes()
     MeasurementStream cut;
     QVERIFY(readAll(cut, header + "Red,212.6,0.64,0.33\nRed,21").size() == 1);
     cut.finish(MeasurementStream::LastLine::MayBeCutOff);
-    QCOMPARE(unreadIn(readAll(cut)), QStringLiteral("red"));
+    QVERIFY(readAll(cut).isEmpty());
+    QCOMPARE(measurementPartName(cut.unfinished().value_or(UnfinishedMeasurement()).measurement.part), "red");
     QCOMPARE(cut.state().notRead, 1);
     QCOMPARE(cut.state().lastNotRead.message(), QStringLiteral("line 3: has no end, and may be cut off"));
 
@@ -208,6 +211,62 @@ void MeasurementStreamTest::takesTheLastLineWithoutAnEndWhenNoMoreComes()
     QCOMPARE(undecided.state().notRead, 1);
     QVERIFY(undecided.state().lastNotRead.text.contains(QStringLiteral("state the decimal sign")));
     QCOMPARE(undecided.state().heldLines, 0);
+}
+
+void MeasurementStreamTest::tellsOfALineWithoutAnEnd_data()
+{
+    QTest::addColumn<QByteArray>("columns");
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QString>("known");
+    const auto row = [](const char *columns, const char *line, const char *known) {
+        QTest::newRow(line) << QByteArray(columns) << QByteArray(line) << QString::fromLatin1(known);
+    };
+    const char *first = "cabinet,name,Y (cd/m2),x,y";
+    row(first, "", "nothing");
+    row(first, "A2", "");
+    row(first, "A2,", "A2");
+    row(first, "A2,white", "A2");
+    row(first, "A2,white,", "A2 white");
+    row(first, "A2,white,80,0.31,0.3", "A2 white");
+    row(first, "A2,\"white,80,0.31,0.3", "A2 white");
+    row(first, "A2,grey,80,0.31,0.3", "A2 no part");
+    const char *last = "name,Y (cd/m2),x,y,cabinet,row,column";
+    row(last, "white,80,0.31,0.3", "white");
+    row(last, "white,80,0.31,0.3,A2,1", "white");
+    row(last, "white,80,0.31,0.3,A2,1,", "white");
+    row(last, "white,80,0.31,0.3,A2,1,2,", "A2 1/2 white");
+}
+
+void MeasurementStreamTest::tellsOfALineWithoutAnEnd()
+{
+    QFETCH(QByteArray, columns);
+    QFETCH(QByteArray, line);
+    QFETCH(QString, known);
+    MeasurementStream stream;
+    const QByteArray whole = columns.startsWith("name") ? "red,21,0.64,0.33,A1,1,1\n" : "A1,red,21,0.64,0.33\n";
+    QCOMPARE(readAll(stream, columns + '\n' + whole + line).size(), 1);
+    const auto told = [&stream] {
+        const auto unfinished = stream.unfinished();
+        if (!unfinished) {
+            return QStringLiteral("nothing");
+        }
+        const Measurement &of = unfinished->measurement;
+        const CabinetMeasurements cabinet{of.cabinet, of.row, of.column, {}};
+        const bool isPart = of.part != MeasurementPart::None;
+        QStringList parts;
+        if (unfinished->isCabinetKnown) {
+            parts.append(cabinet.label());
+        }
+        if (unfinished->isColorKnown) {
+            parts.append(isPart ? measurementPartName(of.part) : QStringLiteral("no part"));
+        }
+        return of.isUnread ? parts.join(QLatin1Char(' ')) : QStringLiteral("read");
+    };
+    QCOMPARE(told(), known);
+    stream.finish(MeasurementStream::LastLine::MayBeCutOff);
+    QVERIFY(readAll(stream).isEmpty());
+    QCOMPARE(told(), known);
+    QCOMPARE(stream.state().notRead, known == QLatin1String("nothing") ? 0 : 1);
 }
 
 void MeasurementStreamTest::takesAnyLineEnds()
@@ -271,7 +330,7 @@ void MeasurementStreamTest::decidesTheEncodingByTheFirstLineThatTells()
     // A line in another encoding is one line that is not read.
     MeasurementStream utf8;
     readAll(utf8, header + "Gr\xC3\xBCn,70,0.3,0.6\n");
-    QVERIFY(readAll(utf8, "Gr\xFCn,70,0.3,0.6\n").isEmpty());
+    QCOMPARE(unreadIn(readAll(utf8, "Gr\xFCn,70,0.3,0.6\n")), QStringLiteral("green"));
     QCOMPARE(utf8.state().notRead, 1);
     QCOMPARE(utf8.state().lastNotRead.message(), QStringLiteral("line 3: is not UTF-8 text"));
     QCOMPARE(readAll(utf8, "Gr\xC3\xBCn,70,0.3,0.6\n").size(), 1);
@@ -289,12 +348,15 @@ void MeasurementStreamTest::countsLinesThatCannotBeRead()
     const Broken broken[] = {
         {"Red,#DIV/0!,0.64,0.33\n", QStringLiteral("line 3, column Y (cd/m2): not a number: \"#DIV/0!\""), "red"},
         {"White,21\n", QStringLiteral("line 4, column x: missing"), "white"},
-        {"\"Red,21,0.64,0.33\n", QStringLiteral("line 5: unterminated quote"), ""},
+        {"\"Red,21,0.64,0.33\n", QStringLiteral("line 5: unterminated quote"), "red"},
         {"instrument ready\n", QStringLiteral("line 6: has no numbers"), ""},
         {"Black,21,0.64,0.93\n", QStringLiteral("line 7, column x: x + y must not exceed 1"), "black"},
         {",21,0.64,0.33\n", QStringLiteral("line 8, column name: the name must not be empty"), ""},
         {QByteArray("R\0d,21,0.64,0.33\n", 17), QStringLiteral("line 9: is not UTF-8 text"), ""},
         {"Grey,21,0.64,\n", QStringLiteral("line 10, column y: not a number: \"\""), ""},
+        {QByteArray("Blue,21,0.64,0.3\0\n", 18), QStringLiteral("line 11: is not UTF-8 text"), "blue"},
+        {"W 255,10O,0.64,0.33\n", QStringLiteral("line 12, column Y (cd/m2): not a number: \"10O\""), "white"},
+        {"Green,7" + QByteArray(70000, '7') + '\n', QStringLiteral("line 13: is longer than 64 KiB"), "green"},
     };
     int count = 0;
     for (const auto &[line, message, color] : broken) {

@@ -66,32 +66,38 @@ void Following::begin()
 
 FollowedMeasurement Following::inProgress() const
 {
-    return m_isFinished ? asIfEnded() : madeOf(m_latest->wallInProgress());
+    return m_isFinished ? asIfEnded() : madeOf(*m_latest, m_latest->wallInProgress(m_stream->unfinished()));
 }
 
 FollowedMeasurement Following::asIfEnded() const
 {
-    return madeOf(m_latest->wall());
+    const auto line = m_stream->unfinished();
+    if (!line) {
+        return madeOf(*m_latest, m_latest->wall());
+    }
+    LatestMeasurements ended(*m_latest); // the line may be ended after all
+    ended.addUnfinished(*line);
+    return madeOf(ended, ended.wall());
 }
 
-FollowedMeasurement Following::madeOf(const std::optional<DisplayWall> &wall) const
+FollowedMeasurement Following::madeOf(const LatestMeasurements &latest, const std::optional<DisplayWall> &wall) const
 {
     FollowedMeasurement result;
     GamutFile &file = result.file;
     file.content = GamutFile::Content::Measurements;
     file.name = nameByFile(m_input->fileName());
     if (wall) {
-        file.measurements = m_latest->listBeside(*wall);
+        file.measurements = latest.listBeside(*wall);
     } else {
-        file.measurements = m_latest->list();
-        result.cabinet = m_latest->listedCabinet();
+        file.measurements = latest.list();
+        result.cabinet = latest.listedCabinet();
         if (!result.cabinet.isEmpty()) {
             file.name = QStringLiteral("%1: %2").arg(file.name, result.cabinet); // it is not that of the display
         }
     }
     file.measurements.recognized = m_stream->state().recognized;
     result.wall = wall;
-    result.isOfCabinets = m_latest->namesCabinets();
+    result.isOfCabinets = m_options.cabinet.isEmpty() && latest.namesCabinets();
     return result;
 }
 
@@ -101,6 +107,9 @@ bool Following::readPiece()
     const QByteArray piece = m_input->read(pieceBytes);
     if (!piece.isEmpty()) {
         m_stream->feed(piece);
+        if (!piece.endsWith('\n') && !m_frame.isActive()) {
+            m_frame.start(); // what a line measures that is being written is awaited
+        }
         return true;
     }
     if (m_input->hasEnded() && !m_isFinished) {
@@ -132,6 +141,35 @@ void Following::breakOff()
     m_frame.stop();
 }
 
+//! How many lines were read.
+int Following::takeLines(int most)
+{
+    const qint64 before = m_stream->state().lines;
+    const auto measurements = m_stream->read(most);
+    const LuminanceUnit unit = m_stream->state().unit;
+    m_latest->setUnit(unit);
+    if (!measurements.isEmpty()) {
+        m_hasOtherUnit = m_hasOtherUnit || (m_unit && *m_unit != unit);
+        m_unit = unit;
+    }
+    for (const Measurement &measurement : measurements) {
+        m_latest->add(measurement);
+    }
+    if (!measurements.isEmpty() && !m_frame.isActive()) {
+        m_frame.start();
+    }
+    return int(m_stream->state().lines - before);
+}
+
+void Following::readWhatCame()
+{
+    whileMemoryLasts([this] {
+        while (m_stream->hasLines()) {
+            takeLines(linesPerLook);
+        }
+    });
+}
+
 void Following::readLines()
 {
     QElapsedTimer time;
@@ -143,21 +181,7 @@ void Following::readLines()
         if (!hasMore) {
             break;
         }
-        const qint64 before = m_stream->state().lines;
-        const auto measurements = m_stream->read(std::min(linesPerLook, linesPerTurn - lines));
-        const LuminanceUnit unit = m_stream->state().unit;
-        m_latest->setUnit(unit);
-        if (!measurements.isEmpty()) {
-            m_hasOtherUnit = m_hasOtherUnit || (m_unit && *m_unit != unit);
-            m_unit = unit;
-        }
-        for (const Measurement &measurement : measurements) {
-            m_latest->add(measurement);
-        }
-        lines += int(m_stream->state().lines - before);
-        if (!measurements.isEmpty() && !m_frame.isActive()) {
-            m_frame.start();
-        }
+        lines += takeLines(std::min(linesPerLook, linesPerTurn - lines));
     }
     m_mostLines = std::max(m_mostLines, lines);
     m_lines.last() += lines;

@@ -46,8 +46,10 @@ public:
      * LatestMeasurements::wallInProgress() until the input ends.
      */
     FollowedMeasurement inProgress() const;
-    /*! \brief The same as if the input had ended. */
+    /*! \brief The same as if the input had ended: a last line that has no end may be cut off. */
     FollowedMeasurement asIfEnded() const;
+    /*! \brief Reads at once what has come in and awaits its turn. */
+    void readWhatCame();
     /*! \brief Whether the unit has changed, so that what had been measured before was forgotten. */
     bool hasOtherUnit() const { return m_hasOtherUnit; }
     /*! \brief Whether there was not enough memory to go on: latest() stays what it came to before. */
@@ -66,10 +68,11 @@ Q_SIGNALS:
     void stateChanged();
 
 private:
-    FollowedMeasurement madeOf(const std::optional<DisplayWall> &wall) const;
+    FollowedMeasurement madeOf(const LatestMeasurements &latest, const std::optional<DisplayWall> &wall) const;
     template <typename Action>
     void whileMemoryLasts(const Action &action);
     void readLines();
+    int takeLines(int most);
     void begin();
     bool readPiece();
     void countLines();

@@ -96,6 +96,7 @@ void FollowMenu::showLatest()
 bool FollowMenu::keep()
 {
     return whileMemoryLasts([this] {
+        m_following->readWhatCame();
         showLatest(); // with what came since the last frame
         m_document->keepFollowed(tr("keep %1").arg(shownName(m_following->input())));
     });
