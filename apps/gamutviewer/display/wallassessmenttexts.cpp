@@ -297,6 +297,10 @@ QString cabinetText(
                     cabinetName(wall, *assessment.darkestWhite)));
     } else if (!cabinet.isAdditive) {
         parts.append(notAdditiveText(wall, target, cabinet, *of.white, *correction.uncorrectedWhite));
+    } else if (cabinet.luminance == Judgement::Fail && !of.white && assessment.darkestWhite && cabinet.notTooBright) {
+        parts.append(WallText::tr("white reaches %1 at most, of %2")
+                         .arg(reachableText(*cabinet.notTooBright, wall.unit),
+                             luminanceText(target.getTargets().white.Y, target.unit)));
     } else if (cabinet.largestWhite && (cabinet.luminance == Judgement::Fail ? hasSaidWhy : parts.isEmpty())) {
         parts.append(whiteText(wall, target, cabinet, correction));
     }

@@ -522,14 +522,17 @@ double fittedLuminance(const DisplayGamut &target, const WallAssessment &assessm
 {
     const double wanted = target.getTargets().white.Y;
     // What a white was measured to be can be more than the primaries add to. Where that is enough, it is known.
-    const auto most = assessment.judgement == Judgement::Pass && assessment.largestWhite
-        ? std::make_optional(assessment.largestWhite->luminance)
-        : assessment.notTooBright;
-    if (!assessment.luminancesCompare || !most || !isAbove(wanted, *most)) {
+    constexpr double noLimit = std::numeric_limits<double>::infinity();
+    double most = assessment.judgement == Judgement::Pass ? noLimit : assessment.notTooBright.value_or(noLimit);
+    for (const CabinetAssessment &cabinet : assessment.cabinets) {
+        const auto reached = cabinet.largestWhite ? cabinet.largestWhite : cabinet.leastWhite;
+        most = reached && !cabinet.isLeftOut ? std::min(most, *reached) : most;
+    }
+    if (!assessment.luminancesCompare || !isAbove(wanted, most)) {
         return wanted;
     }
-    const double shown = roundedDown(*most);
-    return shown > 0.0 ? shown : *most;
+    const double shown = roundedDown(most);
+    return shown > 0.0 ? shown : most;
 }
 
 WallAssessment judgedWall(const DisplayWall &wall, const DisplayGamut &target)
