@@ -152,6 +152,7 @@ private Q_SLOTS:
     void addedPointsAreOfTheDescription();
     void savedIsTheDescription();
     void showsAWallInPlaceOfTheOneBefore();
+    void noGamutIsShownForOneThatCouldNotBeRead();
     void noWallIsShownBeforeTheOneThatIsFollowed();
     void editsTakeNothingOfAWallOver();
     void keepsAWallAsOneStep();
@@ -410,6 +411,24 @@ void FollowedDocumentTest::showsAWallInPlaceOfTheOneBefore()
     QVERIFY(!f.document.hasUnkept());
 }
 
+void FollowedDocumentTest::noGamutIsShownForOneThatCouldNotBeRead()
+{
+    Fixture f;
+    GamutFile broken = followed(0.69);
+    broken.measurements.measurements.first().color.reset();
+    broken.measurements.measurements.first().isUnread = true;
+    f.document.showFollowed(measurement(broken));
+    QCOMPARE(f.document.description().measured, QString()); // the former one is not what is measured
+    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
+    QCOMPARE(f.document.own().measured, QStringLiteral("Before"));
+    f.document.keepFollowed(QStringLiteral("keep"));
+    QCOMPARE(f.document.own().measured, QStringLiteral("Before"));
+    f.document.showFollowed(measurement(followed(0.69)));
+    QCOMPARE(f.document.description().measured, QStringLiteral("meter"));
+    f.document.showFollowed(std::nullopt);
+    QCOMPARE(f.document.description().measured, QStringLiteral("Before"));
+}
+
 void FollowedDocumentTest::noWallIsShownBeforeTheOneThatIsFollowed()
 {
     Fixture f;
@@ -421,6 +440,7 @@ void FollowedDocumentTest::noWallIsShownBeforeTheOneThatIsFollowed()
     QCOMPARE(f.cabinets(), QString());
     QVERIFY(!f.session.assessment().wall);
     QVERIFY(f.document.awaitsWall());
+    QCOMPARE(namesOf(f.document.withHiddenWall().wall), QStringLiteral("old older")); // what files are added to
     QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
     QCOMPARE(f.cabinets(), QString());
     QCOMPARE(f.ownCabinets(), QStringLiteral("old older"));

@@ -67,7 +67,7 @@ void WallPageTest::withoutAWallItSaysHowToGetOne()
     first.isOfCabinets = true;
     f.window->document()->showFollowed(first);
     QVERIFY(f.window->wallPage()->emptyNote()->isVisible());
-    QVERIFY(f.window->wallPage()->emptyNote()->text().startsWith(QStringLiteral("Cabinets are being measured.")));
+    QVERIFY(f.window->wallPage()->emptyNote()->text().startsWith(QStringLiteral("What is followed is no wall yet.")));
 }
 
 void WallPageTest::arrowsSelectInMapLooksAndTable()

@@ -79,6 +79,15 @@ bool playsAnyRole(const DisplayDescription &description, const QString &gamutNam
         [&](GamutRole role) { return playsRole(description, gamutName, role); });
 }
 
+//! Whether \a measurement has colours of a gamut, or cabinets, that make none yet.
+bool awaitsGamut(const FollowedMeasurement &measurement)
+{
+    const auto &measured = measurement.file.measurements.measurements;
+    const bool hasColor = std::any_of(
+        measured.begin(), measured.end(), [](const Measurement &color) { return color.part != MeasurementPart::None; });
+    return (hasColor || measurement.isOfCabinets) && !measurement.wall && !usualRole(measurement.file);
+}
+
 } // namespace
 
 class Document::Step : public QUndoCommand {
@@ -231,6 +240,15 @@ QString Document::measuredCabinet() const
     return m_followed && usualRole(m_followed->file) == GamutRole::Measured ? m_followed->cabinet : QString();
 }
 
+DisplayDescription Document::withHiddenWall() const
+{
+    DisplayDescription result = m_description;
+    if (awaitsWall()) {
+        result.wall = m_own.wall;
+    }
+    return result;
+}
+
 bool Document::hasUnkept() const
 {
     return m_followed && descriptionText(withMeasurement(m_own, toKeep())) != descriptionText(m_own);
@@ -302,8 +320,12 @@ DisplayDescription Document::shownWith(
     const DisplayDescription &own, const std::optional<FollowedMeasurement> &measurement)
 {
     DisplayDescription result = withMeasurement(own, measurement);
+    // Verdicts on what was measured before would not be on what is measured.
     if (measurement && measurement->isOfCabinets && !measurement->wall) {
-        result.wall = DisplayWall(); // a verdict on it would not be on what is measured
+        result.wall = DisplayWall();
+    }
+    if (measurement && awaitsGamut(*measurement)) {
+        result.measured.clear();
     }
     return result;
 }
@@ -315,11 +337,12 @@ DisplayDescription Document::withoutFollowed(const DisplayDescription &edited) c
     if (!m_followed) {
         return own;
     }
-    if (usualRole(m_followed->file)) {
-        const QString name = m_description.measured;
-        if (own.measured == name || own.measured.isEmpty()) {
-            own.measured = m_own.measured;
-        }
+    const QString name = m_description.measured;
+    const bool hasGamut = usualRole(m_followed->file).has_value();
+    if ((hasGamut || awaitsGamut(*m_followed)) && (own.measured == name || own.measured.isEmpty())) {
+        own.measured = m_own.measured;
+    }
+    if (hasGamut) {
         if (!hasOwnGamut(m_own, name) && !playsAnyRole(own, name)) {
             own.gamuts.erase(std::remove_if(own.gamuts.begin(), own.gamuts.end(),
                                  [followed = name.toStdString()](

@@ -94,6 +94,8 @@ public:
     bool followsWall() const { return m_followed && m_followed->wall; }
     /*! \brief Whether cabinets are followed that are no wall yet. Until they are one, no wall is shown. */
     bool awaitsWall() const { return m_followed && m_followed->isOfCabinets && !m_followed->wall; }
+    /*! \brief What is shown, with the wall of own() where that is not shown: what files are added to. */
+    DisplayDescription withHiddenWall() const;
     /*! \brief Whether a measurement is followed that own() does not have. */
     bool hasUnkept() const;
     /*!

@@ -259,9 +259,9 @@ QString WallPage::noWallText() const
             "No wall is known of this display.\n\nOpen a list of measurements with a column for the cabinet, or for "
             "its row and column, and with red, green and blue of each; or a display description that has a wall.");
     }
-    const QString text
-        = tr("Cabinets are being measured.\n\nThey are shown as a wall as soon as two of them are named, and one "
-             "has red, green and blue.");
+    const QString text = tr("What is followed is no wall yet.\n\nIt is shown as one as soon as the list names a second "
+                            "cabinet, and all that "
+                            "was measured of one could be read, with red, green and blue.");
     return document()->own().wall.cabinets.empty() ? text
                                                    : text + QStringLiteral("\n\n")
             + tr("The wall that was open is shown again when the list is followed no further.");
