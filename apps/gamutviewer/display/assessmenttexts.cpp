@@ -117,7 +117,7 @@ QString incomparableText(LuminanceUnit target, LuminanceUnit other, const QStrin
         ? AssessmentText::tr("State the unit of the %1 in its file.").arg(otherName)
         : other == LuminanceUnit::Relative
         ? AssessmentText::tr("It takes luminances of the %1 in cd/m².").arg(otherName)
-        : AssessmentText::tr("Choose the unit of the target beside Y.");
+        : AssessmentText::tr("Choose the unit of the target, beside Y in the window.");
     return why + QLatin1Char(' ') + what;
 }
 

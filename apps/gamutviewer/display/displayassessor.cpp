@@ -217,7 +217,8 @@ private:
         auto drive = displayDrive.driveFor(m_target->getTargets());
         if (!drive || !(white.Y > 0.0)) {
             addOfWhite(Judgement::NotKnown,
-                AssessmentText::tr("The luminance of the target is not known: its white has none. Enter it beside Y."));
+                AssessmentText::tr(
+                    "The luminance of the target is not known: its white has none. Enter it, beside Y in the window."));
             return;
         }
         if (!largest) {

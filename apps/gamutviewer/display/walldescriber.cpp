@@ -141,7 +141,8 @@ private:
             add(Judgement::NotKnown, incomparableText(m_target.unit, m_wall.unit, WallText::tr("wall")));
         } else if (!hasLuminance()) {
             add(Judgement::NotKnown,
-                WallText::tr("The luminance of the target is not known: its white has none. Enter it beside Y."));
+                WallText::tr(
+                    "The luminance of the target is not known: its white has none. Enter it, beside Y in the window."));
         }
         if (unknownCount == 0) {
             return;

@@ -158,10 +158,6 @@
         <translation>请在文件中注明%1的单位。</translation>
     </message>
     <message>
-        <source>Choose the unit of the target beside Y.</source>
-        <translation>请在 Y 旁选择目标的单位。</translation>
-    </message>
-    <message>
         <source>What the display is to show is not known: nobody has chosen a target. Choose one, or edit the default.</source>
         <translation>显示屏应显示什么尚不清楚：没有人选择过目标。请选择一个目标，或编辑默认目标。</translation>
     </message>
@@ -202,10 +198,6 @@
     <message>
         <source>At this white the %1 reaches %2.</source>
         <translation>在此白点下，%1可达到 %2。</translation>
-    </message>
-    <message>
-        <source>The luminance of the target is not known: its white has none. Enter it beside Y.</source>
-        <translation>目标的亮度未知：其白点没有亮度。请在 Y 旁输入。</translation>
     </message>
     <message>
         <source>The drive of the %1 is not known: the white lies outside of it.</source>
@@ -457,6 +449,14 @@
         <source>Whether the black of the %1 keeps it off the target is not known: one of its luminance can keep it off %2. Measure it once, with its chromaticity.</source>
         <comment>gamut, colours and distances</comment>
         <translation>%1的黑场是否使其偏离目标未知：具有该亮度的黑场可能使其偏离目标（%2）。请测量一次黑场及其色品。</translation>
+    </message>
+    <message>
+        <source>Choose the unit of the target, beside Y in the window.</source>
+        <translation>请选择目标的单位，在窗口中位于 Y 旁。</translation>
+    </message>
+    <message>
+        <source>The luminance of the target is not known: its white has none. Enter it, beside Y in the window.</source>
+        <translation>目标的亮度未知：其白点没有亮度。请输入，在窗口中位于 Y 旁。</translation>
     </message>
 </context>
 <context>
@@ -2228,10 +2228,6 @@ Esc – 关闭有焦点的消息
         <translation>墙</translation>
     </message>
     <message>
-        <source>The luminance of the target is not known: its white has none. Enter it beside Y.</source>
-        <translation>目标的亮度未知：其白点没有亮度。请在 Y 旁输入。</translation>
-    </message>
-    <message>
         <source>There are no corrections: %1</source>
         <translation>没有校正：%1</translation>
     </message>
@@ -2679,6 +2675,14 @@ Esc – 关闭有焦点的消息
         <comment>luminances, name of a cabinet</comment>
         <translation>其白点未测量；若它与 %3 的白点一样低于各基色之和，则只能达到 %1（目标为 %2）：请测量</translation>
     </message>
+    <message>
+        <source>white reaches %1 at most, of %2</source>
+        <translation>白色最多达到 %1，目标为 %2</translation>
+    </message>
+    <message>
+        <source>The luminance of the target is not known: its white has none. Enter it, beside Y in the window.</source>
+        <translation>目标的亮度未知：其白点没有亮度。请输入，在窗口中位于 Y 旁。</translation>
+    </message>
 </context>
 <context>
     <name>gamutviewer::WallCommand</name>
@@ -3081,16 +3085,16 @@ Open a list of measurements with a column for the cabinet, or for its row and co
         <translation>所选箱体</translation>
     </message>
     <message>
-        <source>Cabinets are being measured.
-
-They are shown as a wall as soon as two of them are named, and one has red, green and blue.</source>
-        <translation>正在测量箱体。
-
-一旦有两个箱体被命名，且其中一个有红、绿、蓝，它们就显示为墙。</translation>
-    </message>
-    <message>
         <source>The wall that was open is shown again when the list is followed no further.</source>
         <translation>停止跟随列表后，将重新显示先前打开的墙。</translation>
+    </message>
+    <message>
+        <source>What is followed is no wall yet.
+
+It is shown as one as soon as the list names a second cabinet, and all that was measured of one could be read, with red, green and blue.</source>
+        <translation>所跟随的列表尚不构成墙。
+
+一旦列表中出现第二个箱体，且其中一个的所有测量（含红、绿、蓝）均可读取，就显示为墙。</translation>
     </message>
 </context>
 <context>
