@@ -1,34 +1,11 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
+#include "listoptions.h"
 #include "promises.h"
 
 #include <gamutfiles/measurementlist.h>
 
-namespace {
-
 using namespace gamutfiles;
-
-//! What a user can state beside the list, out of the bits of \a choice.
-MeasurementOptions options(std::uint8_t choice)
-{
-    MeasurementOptions stated;
-    stated.whiteIsSum = choice & 1;
-    if (choice & 2) {
-        stated.decimalSign = QLatin1Char(choice & 4 ? ',' : '.');
-    }
-    if (choice & 8) {
-        stated.unit = MeasuredUnit::CandelaPerSquareMetre;
-    }
-    if (choice & 16) {
-        stated.red.line = 2;
-    }
-    if (choice & 32) {
-        stated.cabinet = QStringLiteral("A1");
-    }
-    return stated;
-}
-
-} // namespace
 
 //! The first byte is for the options, the others are the list.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
@@ -36,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (size == 0) {
         return 0;
     }
-    const auto list = readMeasurementList(fuzz::bytes(data + 1, size - 1), options(data[0]));
+    const auto list = readMeasurementList(fuzz::bytes(data + 1, size - 1), fuzz::listOptions(data[0]));
     fuzz::requireOutcome(list);
     if (!list) {
         return 0;
