@@ -233,6 +233,9 @@ void WallWhitesTest::primariesThatDoNotMix()
                  QStringLiteral("The luminances of the target's primaries do not mix to its white. A correction is for "
                                 "those that do: red ")),
         qPrintable(textOf(found)));
+    colors.blue = color(colors.blue.Y * 3.0, colors.blue.x, colors.blue.y);
+    const QString text = textOf(assessWall(wall, {Model::ColorGamut("Wanted", colors), cd}));
+    QVERIFY2(text.contains(QStringLiteral("the blue of the target is too bright for it")), qPrintable(text));
     colors = targetOf(500.0).getTargets();
     colors.blue = color(colors.blue.Y * 1.005, colors.blue.x, colors.blue.y); // as people round
     QVERIFY(

@@ -18,14 +18,17 @@ namespace {
 
 using Vertex = ceiechart::GamutVertex;
 
-//! Whether a primary that lies inside is brighter in the target than \a drive says that the cabinet reaches.
-bool hasTooBrightPrimary(const Model::TargetDrive &drive, const std::array<double, 4> &outside)
+//! The first primary that lies inside and is brighter in the target than \a drive says that the cabinet reaches.
+std::optional<Vertex> tooBrightPrimary(const Model::TargetDrive &drive, const std::array<double, 4> &outside)
 {
-    constexpr Vertex primaries[] = {Vertex::Red, Vertex::Green, Vertex::Blue};
-    const Model::Drive drives[] = {drive.red, drive.green, drive.blue};
-    return std::any_of(std::begin(primaries), std::end(primaries), [&](Vertex primary) {
-        return outside[std::size_t(primary)] == 0.0 && highest(drives[int(primary)]) > fullDrive;
-    });
+    const std::pair<Vertex, Model::Drive> drives[]
+        = {{Vertex::Red, drive.red}, {Vertex::Green, drive.green}, {Vertex::Blue, drive.blue}};
+    for (const auto &[primary, needed] : drives) {
+        if (outside[std::size_t(primary)] == 0.0 && highest(needed) > fullDrive) {
+            return primary;
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -96,9 +99,10 @@ void CabinetLuminance::judge(CabinetAssessment &result) const
     }
     const bool isKnown = m_isWhiteMeasured && result.largestWhite;
     const auto most = isKnown ? result.largestWhite : result.notTooBright;
-    const bool isExceeded = (most && isTooBright(m_target.white.Y, *most))
-        || (m_isUpperBound && hasTooBrightPrimary(*needed, result.outside));
-    if (isExceeded) {
+    if (m_isUpperBound) {
+        result.tooBright = tooBrightPrimary(*needed, result.outside);
+    }
+    if (result.tooBright || (most && isTooBright(m_target.white.Y, *most))) {
         result.luminance = Judgement::Fail;
     } else if (m_isAdditive && !(result.largestWhite && isTooBright(m_target.white.Y, *result.largestWhite))) {
         result.luminance = Judgement::Pass;

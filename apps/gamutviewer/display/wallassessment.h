@@ -85,6 +85,7 @@ struct CabinetAssessment {
      * primaries that mix to it, in the unit of the wall. Nothing without such a limit.
      */
     std::optional<double> notTooBright;
+    std::optional<ceiechart::GamutVertex> tooBright; //!< a primary whose luminance in the target it does not reach
     /*! \brief largestWhite divided by the luminance of the target's white; only where the two can be compared. */
     std::optional<double> headroom;
     /*!

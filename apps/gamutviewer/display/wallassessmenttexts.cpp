@@ -305,8 +305,10 @@ QString cabinetText(
         parts.append(whiteText(wall, target, cabinet, correction));
     }
     if (cabinet.luminance == Judgement::Fail && !hasSaidWhy) {
-        parts.append(cabinet.isAdditive ? WallText::tr("a primary of the target is too bright for it")
-                                        : WallText::tr("the target is too bright for it in any case"));
+        parts.append(cabinet.isAdditive && cabinet.tooBright
+                ? WallText::tr("the %1 of the target is too bright for it", "a primary")
+                      .arg(gamutVertexName(*cabinet.tooBright))
+                : WallText::tr("the target is too bright for it in any case"));
     }
     if (parts.isEmpty()) {
         parts.append(WallText::tr("not known whether it shows the target"));

@@ -2397,10 +2397,6 @@ Esc – 关闭有焦点的消息
         <translation>白色为 %1，基色相加为 %2：无法算出其能达到的亮度</translation>
     </message>
     <message>
-        <source>a primary of the target is too bright for it</source>
-        <translation>目标的某个基色对它过亮</translation>
-    </message>
-    <message>
         <source>the target is too bright for it in any case</source>
         <translation>无论如何目标对它都过亮</translation>
     </message>
@@ -2682,6 +2678,11 @@ Esc – 关闭有焦点的消息
     <message>
         <source>The luminance of the target is not known: its white has none. Enter it, beside Y in the window.</source>
         <translation>目标的亮度未知：其白点没有亮度。请输入，在窗口中位于 Y 旁。</translation>
+    </message>
+    <message>
+        <source>the %1 of the target is too bright for it</source>
+        <comment>a primary</comment>
+        <translation>目标的%1对它过亮</translation>
     </message>
 </context>
 <context>
