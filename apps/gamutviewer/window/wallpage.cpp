@@ -259,12 +259,13 @@ QString WallPage::noWallText() const
             "No wall is known of this display.\n\nOpen a list of measurements with a column for the cabinet, or for "
             "its row and column, and with red, green and blue of each; or a display description that has a wall.");
     }
-    const QString text = tr("What is followed is no wall yet.\n\nIt is shown as one as soon as the list names a second "
-                            "cabinet, and all that "
-                            "was measured of one could be read, with red, green and blue.");
-    return document()->own().wall.cabinets.empty() ? text
-                                                   : text + QStringLiteral("\n\n")
-            + tr("The wall that was open is shown again when the list is followed no further.");
+    const QString text = tr(
+        "What is followed is no wall yet.\n\nIt is shown as one as soon as the list names a second cabinet, and all "
+        "that was measured of one could be read, with red, green and blue.");
+    const bool hidesOne = !document()->own().wall.cabinets.empty();
+    return hidesOne ? text + QStringLiteral("\n\n")
+            + tr("The wall that was open is shown again when the list is followed no further.")
+                    : text;
 }
 
 void WallPage::refreshIncomplete()
