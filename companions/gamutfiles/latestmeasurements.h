@@ -32,6 +32,7 @@ class GAMUTFILES_EXPORT LatestMeasurements {
 public:
     /*! \param whiteIsSum whether a missing white is the sum of red, green and blue */
     explicit LatestMeasurements(bool whiteIsSum = false);
+    /*! \brief What has been added to \a other; what is added to one of them then is not added to the other. */
     LatestMeasurements(const LatestMeasurements &other);
     ~LatestMeasurements();
 
