@@ -7,6 +7,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace ceiechart {
 
 namespace {
@@ -77,7 +79,11 @@ bool TargetScene::DrawEllipseSign(QPainter *painter, QPointF chroma, QSize size)
     const int halfHeight = size.height() / 2;
     const int left = truncated(p.x() - halfWidth);
     const int top = truncated(p.y() - halfHeight);
-    painter->drawEllipse(left, top, size.width(), size.height());
+    // Beyond any picture, the rectangle could have no right or bottom side among the integers.
+    constexpr int farthest = 1 << 30;
+    if (std::max(left, top) < farthest && std::min(left, top) > -farthest) {
+        painter->drawEllipse(left, top, size.width(), size.height());
+    }
 
     setPenColor(painter, crossColor(regionOf(narrowed(chroma))));
     painter->drawLine(left, truncated(p.y()), truncated(p.x() + halfWidth), truncated(p.y()));

@@ -119,6 +119,7 @@ private Q_SLOTS:
     void halvesAreIntegers();
     void positionsTruncateTowardZero();
     void painterIsRestored();
+    void farAway();
     void drawingChangesNothing();
     void meaninglessPositionsAreSurvived();
 };
@@ -369,6 +370,22 @@ void HandlesTest::painterIsRestored()
         QCOMPARE(painter.transform(), transform);
         QCOMPARE(painter.renderHints(), hints);
     });
+}
+
+// Its other side would be beyond the integers, which the sanitizers see.
+void HandlesTest::farAway()
+{
+    Bench bench;
+    const QPointF origin = bench.position(QPointF(0.0, 0.0));
+    const QPointF unit = bench.position(QPointF(1.0, 1.0)) - origin;
+    for (const double far : {2147483640.0, -2147483640.0, 1e300}) {
+        const QPointF chroma((far - origin.x()) / unit.x(), (100.0 - origin.y()) / unit.y());
+        for (const int side : {12, -12}) {
+            const QImage drawn = canvas(
+                [&](QPainter &painter) { QVERIFY(bench.scene.DrawEllipseSign(&painter, chroma, QSize(side, side))); });
+            QCOMPARE(drawn, canvas([](QPainter &) {}));
+        }
+    }
 }
 
 void HandlesTest::drawingChangesNothing()
