@@ -100,7 +100,7 @@ void useMouse(Round &round, QWidget *target)
     if (round.chance(90)) {
         sendMouse(round, widget, QEvent::MouseButtonPress, at, pressed, keys);
     }
-    for (int i = round.between(0, 4); i > 0 && widget; --i) {
+    for (int i = round.between(0, round.chance(10) ? 50 : 4); i > 0 && widget; --i) {
         const int step = round.chance(80) ? 15 : 400;
         at += QPoint(round.between(-step, step), round.between(-step, step));
         sendMouse(round, widget, QEvent::MouseMove, at, round.chance(90) ? pressed : Qt::NoButton, keys);

@@ -49,6 +49,9 @@ public:
     double number();
     /*! \brief Mostly a size in pixels, else whatever an int can be. */
     int integer();
+    /*! \brief A side in pixels, mostly a short one: most of the time goes to drawing, which is the same for all sizes.
+     */
+    int side(int least, int most) { return between(least, chance(80) ? least + (most - least) / 5 : most); }
     /*! \brief Mostly a chromaticity. */
     QPointF point() { return chance(70) ? QPointF(real(0.0, 0.8), real(0.0, 0.9)) : anyPoint(); }
     QPointF anyPoint()

@@ -78,9 +78,9 @@ bool isLong(const QSize &size)
 QSize size(Round &round)
 {
     constexpr int most = 600;
-    const int side = round.between(-2, most);
+    const int side = round.side(-2, most);
     if (round.chance(90)) {
-        return {side, round.between(-2, most)};
+        return {side, round.side(-2, most)};
     }
     return round.toss() ? QSize(round.integer(), round.between(-2, 3)) : QSize(round.between(-2, 3), round.integer());
 }
@@ -193,7 +193,7 @@ public:
         , m_view(Generation::view(round, m_parent.get()))
     {
         using View = typename Generation::View;
-        m_parent->resize(round.between(50, 700), round.between(50, 700));
+        m_parent->resize(round.side(50, 700), round.side(50, 700));
         auto *layout = new QVBoxLayout(m_parent.get());
         layout->addWidget(m_view);
         const auto reply = [this] { answer(); };
@@ -225,7 +225,7 @@ public:
             break;
         case 4:
             if (r.chance(30)) {
-                m_parent->resize(r.chance(95) ? r.between(1, 900) : r.between(1, 40000), r.between(1, 900));
+                m_parent->resize(r.chance(95) ? r.side(1, 900) : r.between(1, 40000), r.side(1, 900));
             } else if (r.chance(30)) {
                 m_parent->setVisible(r.chance(80));
             } else {

@@ -107,7 +107,7 @@ public:
         , m_parent(std::make_unique<QWidget>())
         , m_view(new View(m_parent.get()))
     {
-        m_parent->resize(round.between(50, 900), round.between(50, 900));
+        m_parent->resize(round.side(50, 900), round.side(50, 900));
         auto *layout = new QVBoxLayout(m_parent.get());
         layout->addWidget(m_view);
         answerSignals();
@@ -258,7 +258,7 @@ void Host::step()
         break;
     case 4:
         if (r.chance(30)) {
-            m_parent->resize(r.chance(95) ? r.between(1, 1200) : r.between(1, 40000), r.between(1, 1200));
+            m_parent->resize(r.chance(95) ? r.side(1, 1200) : r.between(1, 40000), r.side(1, 1200));
         } else if (r.chance(30)) {
             m_parent->setVisible(r.chance(80));
         } else if (r.chance(5)) {

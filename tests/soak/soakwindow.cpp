@@ -140,7 +140,7 @@ private:
     void renew()
     {
         m_window = std::make_unique<ViewerWindow>();
-        m_window->resize(m_round.between(100, 1400), m_round.between(100, 1000));
+        m_window->resize(m_round.side(100, 1400), m_round.side(100, 1000));
         m_window->show();
     }
     void answer();
@@ -206,7 +206,7 @@ void Use::write()
     Round &r = m_round;
     const Picture picture = m_window->currentPage()->picture();
     PictureExtent extent;
-    extent.size = QSize(r.chance(80) ? r.between(1, 900) : r.integer(), r.between(-1, 900));
+    extent.size = QSize(r.chance(80) ? r.side(1, 900) : r.integer(), r.side(-1, 900));
     extent.devicePixelRatio = r.chance(80) ? 1.0 : r.number();
     r.oneOf({
         [&] { m_window->saveTo(folder().newFile(r, "json")); },
@@ -318,7 +318,7 @@ void Use::callWindow()
         [&] { write(); },
         [&] { drop(); },
         [&] { openMenu(); },
-        [&] { m_window->resize(r.chance(97) ? r.between(1, 1600) : r.between(1, 30000), r.between(1, 1200)); },
+        [&] { m_window->resize(r.chance(97) ? r.side(1, 1600) : r.between(1, 30000), r.side(1, 1200)); },
         [&] { m_window->setVisible(r.chance(90)); },
         [&] { m_window->close(); },
     });
