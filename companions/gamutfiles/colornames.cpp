@@ -66,16 +66,21 @@ constexpr std::array colorWords{
 };
 
 //! Words that say nothing more of a colour than that it is the display's own.
-bool isFiller(const QString &word)
+const QStringList &fillers()
 {
-    static const QStringList fillers{QStringLiteral("full"), QStringLiteral("pure"), QStringLiteral("solid"),
+    static const QStringList all{QStringLiteral("full"), QStringLiteral("pure"), QStringLiteral("solid"),
         QStringLiteral("primary"), QStringLiteral("field"), QStringLiteral("screen"), QStringLiteral("patch"),
         QStringLiteral("level"), QStringLiteral("point"), QStringLiteral("pegel"), QStringLiteral("niveau"),
         QStringLiteral("nivel"), QStringLiteral("nível"), QStringLiteral("livello"), QStringLiteral("max"),
         QStringLiteral("ire"), QStringLiteral("pur"), QStringLiteral("puro"), QStringLiteral("plein"),
         QStringLiteral("champ"), QStringLiteral("écran"), QStringLiteral("voll"), QStringLiteral("vollbild"),
         QStringLiteral("pantalla")};
-    return fillers.contains(word);
+    return all;
+}
+
+bool isFiller(const QString &word)
+{
+    return fillers().contains(word);
 }
 
 //! "红", "红色", "红场", "纯红", "全红画面".
@@ -277,6 +282,24 @@ MeasurementPart playedPart(const ColorName &name, const std::optional<double> &c
     // "5000 K" is a colour temperature.
     const bool plays = name.part == MeasurementPart::Black ? !name.level || name.level->value == 0.0 : isFull;
     return plays ? name.part : MeasurementPart::None;
+}
+
+QVector<MeasurementPart> possibleParts(const QString &beginning)
+{
+    const QString word = chineseCore(beginning.simplified().toLower().section(QLatin1Char(' '), -1));
+    const auto beginsFiller = [&word](const QString &filler) { return filler.startsWith(word); };
+    const bool isAny = word.isEmpty() || std::any_of(fillers().begin(), fillers().end(), beginsFiller);
+    const MeasurementPart named = colorName(beginning).part;
+    QVector<MeasurementPart> parts;
+    for (const MeasurementPart part : {MeasurementPart::Red, MeasurementPart::Green, MeasurementPart::Blue,
+             MeasurementPart::White, MeasurementPart::Black}) {
+        const bool beginsColor = std::any_of(colorWords.begin(), colorWords.end(),
+            [&](const Word &known) { return known.part == part && QString::fromUtf8(known.text).startsWith(word); });
+        if (isAny || beginsColor || part == named) {
+            parts.append(part);
+        }
+    }
+    return parts;
 }
 
 } // namespace gamutfiles

@@ -32,6 +32,9 @@ struct ColorName {
  */
 ColorName colorName(const QString &name);
 
+/*! \brief The colours of which \a beginning may be the beginning of a name, or the name; all for none. */
+QVector<MeasurementPart> possibleParts(const QString &beginning);
+
 /*!
  * \brief The full level that the levels \a levels without a stated one have in common: the largest of them if it is
  * 255, 1023, 4095 or 65535, if it is 100, or if it is 1 with decimals. Nothing otherwise: they could be on any scale.

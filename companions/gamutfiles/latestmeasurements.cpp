@@ -201,23 +201,16 @@ public:
         return !cabinet.parts[std::size_t(part)] && isAnyMeasured(part);
     }
 
-    QVector<MeasurementPart> possibleParts(const UnfinishedMeasurement &line) const
+    //! The cabinets of which a line may be that does not have all of the name.
+    std::vector<CabinetMeasurements> cabinetsBeginningWith(const QString &name) const
     {
-        if (line.isColorKnown) {
-            return {line.measurement.part};
+        std::vector<CabinetMeasurements> found;
+        for (const auto &[key, cabinet] : cabinets.all()) {
+            if (cabinet.identity.cabinet.startsWith(name, Qt::CaseInsensitive)) {
+                found.push_back(cabinet.identity);
+            }
         }
-        QVector<MeasurementPart> parts;
-        std::copy_if(keptParts.begin(), keptParts.end(), std::back_inserter(parts),
-            [this](MeasurementPart part) { return isAnyMeasured(part); });
-        return parts;
-    }
-
-    //! Where the line does not have all of the cabinet, that begins as the line says, or was measured last.
-    bool mayBeOf(const UnfinishedMeasurement &line, const QString &key, const KeptCabinet &cabinet) const
-    {
-        return line.isCabinetKnown ? key == cabinetKey(line.measurement)
-                                   : cabinet.identity.cabinet.startsWith(line.measurement.cabinet, Qt::CaseInsensitive)
-                || key == cabinets.all().back().first;
+        return found;
     }
 
     bool whiteIsSum = false;
@@ -280,25 +273,26 @@ void LatestMeasurements::add(const Measurement &measurement)
 
 void LatestMeasurements::addUnfinished(const UnfinishedMeasurement &line)
 {
-    if (line.isColorKnown && line.isCabinetKnown) {
-        add(line.measurement);
-        return;
+    const auto addTo = [&](const CabinetMeasurements &cabinet, MeasurementPart part) {
+        Measurement measurement = line.measurement;
+        measurement.cabinet = cabinet.cabinet;
+        measurement.row = cabinet.row;
+        measurement.column = cabinet.column;
+        measurement.part = part;
+        add(measurement);
+    };
+    if (line.isCabinetKnown) {
+        addTo(cabinetOf(line.measurement), MeasurementPart::None); // also one that comes now
     }
-    std::vector<Measurement> possible;
-    for (const auto &[key, cabinet] : d->cabinets.all()) {
-        if (d->mayBeOf(line, key, cabinet)) {
-            for (const MeasurementPart part : d->possibleParts(line)) {
-                Measurement measurement = line.measurement;
-                measurement.cabinet = cabinet.identity.cabinet;
-                measurement.row = cabinet.identity.row;
-                measurement.column = cabinet.identity.column;
-                measurement.part = part;
-                possible.push_back(measurement);
+    const auto cabinets = line.isCabinetKnown ? std::vector<CabinetMeasurements>{cabinetOf(line.measurement)}
+                                              : d->cabinetsBeginningWith(line.measurement.cabinet);
+    for (const CabinetMeasurements &cabinet : cabinets) {
+        for (const MeasurementPart part : line.parts) {
+            // Of which cabinet it is, is known, or it can only be what others have.
+            if (line.isCabinetKnown || line.isColorKnown || d->isAnyMeasured(part)) {
+                addTo(cabinet, part);
             }
         }
-    }
-    for (const Measurement &measurement : possible) {
-        add(measurement);
     }
 }
 
@@ -375,10 +369,10 @@ std::optional<DisplayWall> LatestMeasurements::wallInProgress(const std::optiona
     }
     const KeptCabinet *writing
         = line && line->isCabinetKnown ? d->cabinets.find(cabinetKey(line->measurement)) : nullptr;
-    const auto lacks = [writing](MeasurementPart part) { return !writing->parts[std::size_t(part)]; };
-    if (writing
-        && (line->isColorKnown ? line->measurement.part != MeasurementPart::None && lacks(line->measurement.part)
-                               : lacks(MeasurementPart::White) || lacks(MeasurementPart::Black))) {
+    const auto mayCome = [&](MeasurementPart part) {
+        return line->isColorKnown ? !writing->parts[std::size_t(part)] : d->isAwaited(*writing, part);
+    };
+    if (writing && std::any_of(line->parts.begin(), line->parts.end(), mayCome)) {
         await(*writing);
     }
     return result;

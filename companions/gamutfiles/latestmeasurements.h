@@ -48,8 +48,8 @@ public:
     /*!
      * \brief Adds what \a line says, of which no more will come.
      *
-     * Its colour is measured but not known, unless there is a former one. Where the line does not say which colour or
-     * which cabinet it is of, that holds for every one that it may be of and that other cabinets have.
+     * The colour that it measures is not known then, unless there is a former one, nor is any that it may be where the
+     * name is not whole. Where the cabinet is not whole, that holds for all cabinets that begin like that.
      */
     void addUnfinished(const UnfinishedMeasurement &line);
     /*! \brief Forgets everything but the unit. */

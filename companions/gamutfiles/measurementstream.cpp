@@ -30,6 +30,27 @@ bool namesSeparator(const QString &line)
     return line.startsWith(QLatin1String("sep="), Qt::CaseInsensitive);
 }
 
+//! What can be read of \a bytes, whatever they are; the last character may lack some of its bytes.
+QString readableText(const QByteArray &bytes, const std::optional<TextEncoding> &encoding)
+{
+    const auto text = decodeText(bytes, encoding);
+    if (text) {
+        return text->text;
+    }
+    if (!encoding || *encoding == TextEncoding::Windows1252) {
+        return QString::fromLatin1(bytes.constData(), int(bytes.size()));
+    }
+    if (*encoding != TextEncoding::Utf16LittleEndian && *encoding != TextEncoding::Utf16BigEndian) {
+        return QString::fromUtf8(bytes.constData(), int(bytes.size())); // with signs for what is invalid
+    }
+    QString units;
+    for (int i = 0; i + 1 < bytes.size(); i += 2) {
+        const bool isLittle = *encoding == TextEncoding::Utf16LittleEndian;
+        units += QChar(uchar(bytes.at(isLittle ? i : i + 1)), uchar(bytes.at(isLittle ? i + 1 : i)));
+    }
+    return units;
+}
+
 MeasurementOptions usable(MeasurementOptions options)
 {
     if (options.decimalSign && *options.decimalSign != QLatin1Char('.') && *options.decimalSign != QLatin1Char(',')) {
@@ -52,14 +73,15 @@ public:
     bool takeText(const NumberedLine &line);
     void takeRow(const CsvRow &row, const NumberedLine &line);
     void keepUnread(const QByteArray &bytes);
-    std::optional<CsvRow> brokenRow(const QByteArray &bytes) const;
+    std::optional<CsvRow> brokenRow(const QByteArray &bytes, const StreamRows &of) const;
+    std::unique_ptr<StreamRows> rowsOfWaitingHeader() const;
     bool beginAnew(const NumberedLine &line);
     void findHeader();
     void dropOldest(int count);
     void refuseAllHeld();
     std::optional<QString> decoded(const QByteArray &bytes);
-    void findUnread();
-    std::optional<UnfinishedMeasurement> unfinished(const CsvRow &row);
+    void findUnread(StreamRows &of);
+    std::optional<UnfinishedMeasurement> unfinished(const QByteArray &bytes);
     void findLevels(const Measurement &measurement);
     void playPart(Measurement &measurement) const;
     void playUnreadPart(Measurement &measurement);
@@ -129,27 +151,36 @@ void MeasurementStream::Private::takeLine(const StreamLine &line)
     }
 }
 
-//! The fields of a line that cannot be divided into them by the rules: a quote is nothing but a character.
-std::optional<CsvRow> MeasurementStream::Private::brokenRow(const QByteArray &bytes) const
+//! What a line would be read by if it were whole; nothing without a header.
+std::unique_ptr<StreamRows> MeasurementStream::Private::rowsOfWaitingHeader() const
 {
-    if (!rows) {
-        return std::nullopt;
+    for (int i = int(head.size()) - 1; i >= 0; --i) {
+        auto candidate = std::make_unique<StreamRows>(options);
+        if (candidate->isHeader(head.at(i))) {
+            return candidate;
+        }
     }
-    const auto known = splitter.encoding() ? splitter.encoding() : encoding;
-    const auto decodable = decodeText(bytes, known);
-    QString text = decodable ? decodable->text : QString::fromLatin1(bytes.constData(), int(bytes.size()));
-    text.remove(QLatin1Char('"'));
-    const CsvTable table = readCsv(text, rows->separator());
-    return table.rows.isEmpty() ? std::nullopt : std::make_optional(table.rows.first());
+    return nullptr;
 }
 
 void MeasurementStream::Private::keepUnread(const QByteArray &bytes)
 {
-    if (auto row = brokenRow(bytes)) {
+    const auto waiting = rows ? nullptr : rowsOfWaitingHeader();
+    StreamRows *of = rows ? rows.get() : waiting.get();
+    if (auto row = of ? brokenRow(bytes, *of) : std::nullopt) {
         row->line = int(state.lines);
-        rows->keepUnread(*row);
-        findUnread();
+        of->keepUnread(*row);
+        findUnread(*of);
     }
+}
+
+//! The fields of a line that cannot be divided into them by the rules: a quote is nothing but a character.
+std::optional<CsvRow> MeasurementStream::Private::brokenRow(const QByteArray &bytes, const StreamRows &of) const
+{
+    QString text = readableText(bytes, splitter.encoding() ? splitter.encoding() : encoding);
+    text.remove(QLatin1Char('"'));
+    const CsvTable table = readCsv(text, of.separator());
+    return table.rows.isEmpty() ? std::nullopt : std::make_optional(table.rows.first());
 }
 
 //! Whether the line could be divided into fields.
@@ -206,7 +237,7 @@ bool MeasurementStream::Private::beginAnew(const NumberedLine &line)
         return false;
     }
     rows->refuseHeld([this](qint64 held, const Problem &problem) { refuse(held, problem); });
-    findUnread();
+    findUnread(*rows);
     rows.reset();
     firstRows.clear();
     head = {line};
@@ -227,7 +258,9 @@ void MeasurementStream::Private::takeRow(const CsvRow &row, const NumberedLine &
     if (refused && !(refused->first == row.line && !line.text.isEmpty() && beginAnew(line))) {
         refuse(refused->first, refused->second);
     }
-    findUnread();
+    if (rows) { // or a header has begun anew
+        findUnread(*rows);
+    }
     for (Measurement &measurement : measurements) {
         findLevels(measurement);
         playPart(measurement);
@@ -239,12 +272,9 @@ void MeasurementStream::Private::takeRow(const CsvRow &row, const NumberedLine &
 }
 
 //! What is known of lines that are not read, where that is which colour they measured.
-void MeasurementStream::Private::findUnread()
+void MeasurementStream::Private::findUnread(StreamRows &of)
 {
-    if (!rows) {
-        return;
-    }
-    for (Measurement &measurement : rows->takeUnread()) {
+    for (Measurement &measurement : of.takeUnread()) {
         playUnreadPart(measurement);
         const bool isColor
             = measurement.part != MeasurementPart::None || colorName(measurement.name).part != MeasurementPart::None;
@@ -254,18 +284,28 @@ void MeasurementStream::Private::findUnread()
     }
 }
 
-std::optional<UnfinishedMeasurement> MeasurementStream::Private::unfinished(const CsvRow &row)
+std::optional<UnfinishedMeasurement> MeasurementStream::Private::unfinished(const QByteArray &bytes)
 {
-    const auto read = rows->unfinished(row);
-    if (!read) {
+    const auto waiting = rows ? nullptr : rowsOfWaitingHeader();
+    StreamRows *of = rows ? rows.get() : waiting.get();
+    const auto row = of ? brokenRow(bytes, *of) : std::nullopt;
+    const auto known = row ? of->unfinished(*row) : std::nullopt;
+    if (!known || (known->isCabinetKnown && !isOfCabinet(known->measurement))) {
         return std::nullopt;
     }
-    UnfinishedMeasurement result = *read;
+    UnfinishedMeasurement result = *known;
     if (result.isColorKnown) {
-        playUnreadPart(result.measurement);
+        Measurement whole = result.measurement;
+        playUnreadPart(whole);
+        if (whole.part != MeasurementPart::None) {
+            result.parts = {whole.part};
+        }
+    } else {
+        const bool areChosen
+            = !options.red.isEmpty() || !options.green.isEmpty() || !options.blue.isEmpty() || !options.white.isEmpty();
+        result.parts = possibleParts(areChosen ? QString() : result.measurement.name);
     }
-    const bool isMeant = options.cabinet.isEmpty() || !result.isCabinetKnown || isOfCabinet(result.measurement);
-    return isMeant ? std::make_optional(result) : std::nullopt;
+    return result;
 }
 
 //! The level of a broken line may be a wrong one: it counts for that line only.
@@ -324,7 +364,7 @@ void MeasurementStream::Private::refuseAllHeld()
     head.clear();
     if (rows) {
         rows->refuseHeld([this](qint64 line, const Problem &problem) { refuse(line, problem); });
-        findUnread();
+        findUnread(*rows);
     }
 }
 
@@ -388,9 +428,7 @@ QVector<Measurement> MeasurementStream::read(int most)
 
 std::optional<UnfinishedMeasurement> MeasurementStream::unfinished() const
 {
-    const QByteArray bytes = d->isFinished ? d->cutOff : d->splitter.unfinished();
-    const auto row = d->brokenRow(bytes);
-    return row ? d->unfinished(*row) : std::nullopt;
+    return d->unfinished(d->isFinished ? d->cutOff : d->splitter.unfinished());
 }
 
 bool MeasurementStream::hasLines() const

@@ -39,8 +39,9 @@ struct MeasurementStreamState {
 
 /*! \brief What a line says that has no end yet, and may end in the middle of a name or a number. */
 struct UnfinishedMeasurement {
-    Measurement measurement; //!< isUnread; a part, and what is known of the cabinet
-    bool isColorKnown = false; //!< whether the line has its whole name
+    Measurement measurement; //!< isUnread, without a part; what is known of the name and the cabinet
+    QVector<MeasurementPart> parts; //!< the parts that it may play; empty: none
+    bool isColorKnown = false; //!< whether the line has its whole name: there is one part then, or none
     bool isCabinetKnown = false; //!< whether it has the whole cabinet, row and column, as far as the list has them
 };
 

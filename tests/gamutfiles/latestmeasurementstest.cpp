@@ -175,9 +175,11 @@ void LatestMeasurementsTest::whatALineWithoutAnEndMayBeOfIsNotKnown_data()
     row("white of A2", "A2", true, true, "A1 A3 B1", "A1 A3");
     row("white of A1", "A1", true, true, "A1 A2 A3 B1", "A1 A2 A3");
     row("some colour of A3", "A3", true, false, "A1 A2 B1", "A1 A2");
-    row("white of A...", "A", false, true, "A1", "A1 A2 A3");
+    row("white of A...", "A", false, true, "A1 B1", "A1 A2 A3");
     row("some colour of B...", "B", false, false, "A1 A2 A3", "A1 A2 A3");
-    row("white of C..., or of what was last", "C", false, true, "A1 A2 A3", "A1 A2 A3");
+    row("some colour of A1", "A1", true, false, "A2 A3 B1", "A1 A2 A3"); // a black, which no other has
+    row("white of C...", "C", false, true, "A1 A2 A3 B1", "A1 A2 A3");
+    row("white of C1, which comes now", "C1", true, true, "A1 A2 A3 B1", "A1 A2 A3");
     row("white", "", false, true, "A1", "A1 A2 A3");
 }
 
@@ -205,7 +207,10 @@ void LatestMeasurementsTest::whatALineWithoutAnEndMayBeOfIsNotKnown()
     QCOMPARE(complete(latest.wall()), QStringLiteral("A1 A2 A3 B1"));
     UnfinishedMeasurement line;
     line.measurement.cabinet = cabinet;
-    line.measurement.part = isColorKnown ? MeasurementPart::White : MeasurementPart::None;
+    line.parts = {MeasurementPart::White};
+    if (!isColorKnown) {
+        line.parts += {MeasurementPart::Red, MeasurementPart::Green, MeasurementPart::Blue, MeasurementPart::Black};
+    }
     line.measurement.isUnread = true;
     line.isCabinetKnown = isCabinetKnown;
     line.isColorKnown = isColorKnown;
@@ -213,7 +218,9 @@ void LatestMeasurementsTest::whatALineWithoutAnEndMayBeOfIsNotKnown()
     LatestMeasurements ended(latest);
     ended.addUnfinished(line);
     QCOMPARE(complete(ended.wall()), judged);
-    QCOMPARE(ended.cabinetCount(), 4);
+    const bool isNew = isCabinetKnown && cabinet == QLatin1String("C1");
+    QCOMPARE(ended.cabinetCount(), isNew ? 5 : 4);
+    QCOMPARE(ended.wall()->cabinets.size() + ended.wall()->incomplete.size(), std::size_t(isNew ? 5 : 4));
     QCOMPARE(complete(latest.wall()), QStringLiteral("A1 A2 A3 B1")); // it may go on
 }
 

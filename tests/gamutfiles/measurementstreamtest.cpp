@@ -198,7 +198,7 @@ void MeasurementStreamTest::takesTheLastLineWithoutAnEndWhenNoMoreComes()
     QVERIFY(readAll(cut, header + "Red,212.6,0.64,0.33\nRed,21").size() == 1);
     cut.finish(MeasurementStream::LastLine::MayBeCutOff);
     QVERIFY(readAll(cut).isEmpty());
-    QCOMPARE(measurementPartName(cut.unfinished().value_or(UnfinishedMeasurement()).measurement.part), "red");
+    QCOMPARE(cut.unfinished().value_or(UnfinishedMeasurement()).parts, QVector<MeasurementPart>{MeasurementPart::Red});
     QCOMPARE(cut.state().notRead, 1);
     QCOMPARE(cut.state().lastNotRead.message(), QStringLiteral("line 3: has no end, and may be cut off"));
 
@@ -219,22 +219,29 @@ void MeasurementStreamTest::tellsOfALineWithoutAnEnd_data()
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<QString>("known");
     const auto row = [](const char *columns, const char *line, const char *known) {
-        QTest::newRow(line) << QByteArray(columns) << QByteArray(line) << QString::fromLatin1(known);
+        QTest::newRow(line) << QByteArray(columns) << QByteArray(line) << QString::fromUtf8(known);
     };
     const char *first = "cabinet,name,Y (cd/m2),x,y";
     row(first, "", "nothing");
-    row(first, "A2", "");
-    row(first, "A2,", "A2");
-    row(first, "A2,white", "A2");
+    row(first, "A2", "red? green? blue? white? black?");
+    row(first, "A2,", "A2 red? green? blue? white? black?");
+    row(first, "A2,w", "A2 white?");
+    row(first, "A2,bl", "A2 blue? white? black?"); // blanc
+    row(first, "A2,full ", "A2 red? green? blue? white? black?");
+    row(first, "A2,white", "A2 white?");
+    row(first, "A2,W 2", "A2 white?");
+    row(first, "A2,gris", "A2");
     row(first, "A2,white,", "A2 white");
     row(first, "A2,white,80,0.31,0.3", "A2 white");
     row(first, "A2,\"white,80,0.31,0.3", "A2 white");
-    row(first, "A2,grey,80,0.31,0.3", "A2 no part");
+    row(first, "A2,grey,80,0.31,0.3", "A2");
     const char *last = "name,Y (cd/m2),x,y,cabinet,row,column";
     row(last, "white,80,0.31,0.3", "white");
     row(last, "white,80,0.31,0.3,A2,1", "white");
     row(last, "white,80,0.31,0.3,A2,1,", "white");
     row(last, "white,80,0.31,0.3,A2,1,2,", "A2 1/2 white");
+    row("cabinet,x,y,Y (cd/m2),name", "A2,0.31,0.3,80,white", "A2 white?");
+    row(u8"cabinet,name,Y (cd/m²),x,y,remark", u8"箱2,白,80,0.31,0.3,\xE6\xAD", u8"箱2 white");
 }
 
 void MeasurementStreamTest::tellsOfALineWithoutAnEnd()
@@ -243,7 +250,9 @@ void MeasurementStreamTest::tellsOfALineWithoutAnEnd()
     QFETCH(QByteArray, line);
     QFETCH(QString, known);
     MeasurementStream stream;
-    const QByteArray whole = columns.startsWith("name") ? "red,21,0.64,0.33,A1,1,1\n" : "A1,red,21,0.64,0.33\n";
+    const QByteArray whole = columns.startsWith("name") ? "red,21,0.64,0.33,A1,1,1\n"
+        : columns.endsWith("name")                      ? "A1,0.64,0.33,21,red\n"
+                                                        : "A1,red,21,0.64,0.33\n";
     QCOMPARE(readAll(stream, columns + '\n' + whole + line).size(), 1);
     const auto told = [&stream] {
         const auto unfinished = stream.unfinished();
@@ -252,13 +261,12 @@ void MeasurementStreamTest::tellsOfALineWithoutAnEnd()
         }
         const Measurement &of = unfinished->measurement;
         const CabinetMeasurements cabinet{of.cabinet, of.row, of.column, {}};
-        const bool isPart = of.part != MeasurementPart::None;
         QStringList parts;
         if (unfinished->isCabinetKnown) {
             parts.append(cabinet.label());
         }
-        if (unfinished->isColorKnown) {
-            parts.append(isPart ? measurementPartName(of.part) : QStringLiteral("no part"));
+        for (const MeasurementPart part : unfinished->parts) {
+            parts.append(measurementPartName(part) + (unfinished->isColorKnown ? QString() : QStringLiteral("?")));
         }
         return of.isUnread ? parts.join(QLatin1Char(' ')) : QStringLiteral("read");
     };
@@ -330,7 +338,7 @@ void MeasurementStreamTest::decidesTheEncodingByTheFirstLineThatTells()
     // A line in another encoding is one line that is not read.
     MeasurementStream utf8;
     readAll(utf8, header + "Gr\xC3\xBCn,70,0.3,0.6\n");
-    QCOMPARE(unreadIn(readAll(utf8, "Gr\xFCn,70,0.3,0.6\n")), QStringLiteral("green"));
+    QVERIFY(readAll(utf8, "Gr\xFCn,70,0.3,0.6\n").isEmpty());
     QCOMPARE(utf8.state().notRead, 1);
     QCOMPARE(utf8.state().lastNotRead.message(), QStringLiteral("line 3: is not UTF-8 text"));
     QCOMPARE(readAll(utf8, "Gr\xC3\xBCn,70,0.3,0.6\n").size(), 1);
@@ -366,6 +374,13 @@ void MeasurementStreamTest::countsLinesThatCannotBeRead()
     }
     QCOMPARE(readAll(stream, "Blue,7,0.15,0.06\n").size(), 1);
     QCOMPARE(stream.state().measurements, 2);
+
+    // The first below a header, which still waits for a line
+    MeasurementStream first;
+    QCOMPARE(unreadIn(readAll(first, header + "\"White,100,0.31,0.32\n")), QStringLiteral("white"));
+    QVERIFY(readAll(first, "Schw").isEmpty());
+    QCOMPARE(
+        first.unfinished().value_or(UnfinishedMeasurement()).parts, QVector<MeasurementPart>{MeasurementPart::Black});
 }
 
 void MeasurementStreamTest::tellsCabinetsOfLinesThatAreNotRead()
