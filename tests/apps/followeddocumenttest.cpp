@@ -421,8 +421,17 @@ void FollowedDocumentTest::noGamutIsShownForOneThatCouldNotBeRead()
     QCOMPARE(f.document.description().measured, QString()); // the former one is not what is measured
     QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
     QCOMPARE(f.document.own().measured, QStringLiteral("Before"));
+    QCOMPARE(f.document.withHidden().measured, QStringLiteral("Before")); // what files are added to
     f.document.keepFollowed(QStringLiteral("keep"));
     QCOMPARE(f.document.own().measured, QStringLiteral("Before"));
+    // It keeps its part under another name, and there is none without it.
+    f.document.change(withGamutRenamed(f.document.description(), QStringLiteral("Before"), QStringLiteral("After")),
+        QStringLiteral("rename"));
+    QCOMPARE(f.document.own().measured, QStringLiteral("After"));
+    f.document.change(withoutGamut(f.document.description(), QStringLiteral("After")), QStringLiteral("remove"));
+    QCOMPARE(f.document.own().measured, QString());
+    f.document.history()->undo();
+    f.document.history()->undo();
     f.document.showFollowed(measurement(followed(0.69)));
     QCOMPARE(f.document.description().measured, QStringLiteral("meter"));
     f.document.showFollowed(std::nullopt);
@@ -440,7 +449,7 @@ void FollowedDocumentTest::noWallIsShownBeforeTheOneThatIsFollowed()
     QCOMPARE(f.cabinets(), QString());
     QVERIFY(!f.session.assessment().wall);
     QVERIFY(f.document.awaitsWall());
-    QCOMPARE(namesOf(f.document.withHiddenWall().wall), QStringLiteral("old older")); // what files are added to
+    QCOMPARE(namesOf(f.document.withHidden().wall), QStringLiteral("old older")); // what files are added to
     QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
     QCOMPARE(f.cabinets(), QString());
     QCOMPARE(f.ownCabinets(), QStringLiteral("old older"));

@@ -79,12 +79,14 @@ bool playsAnyRole(const DisplayDescription &description, const QString &gamutNam
         [&](GamutRole role) { return playsRole(description, gamutName, role); });
 }
 
-//! Whether \a measurement has colours of a gamut, or cabinets, that make none yet.
+//! Whether \a measurement has primaries, or cabinets, that make no gamut yet.
 bool awaitsGamut(const FollowedMeasurement &measurement)
 {
     const auto &measured = measurement.file.measurements.measurements;
-    const bool hasColor = std::any_of(
-        measured.begin(), measured.end(), [](const Measurement &color) { return color.part != MeasurementPart::None; });
+    const bool hasColor = std::any_of(measured.begin(), measured.end(), [](const Measurement &color) {
+        return color.part == MeasurementPart::Red || color.part == MeasurementPart::Green
+            || color.part == MeasurementPart::Blue;
+    });
     return (hasColor || measurement.isOfCabinets) && !measurement.wall && !usualRole(measurement.file);
 }
 
@@ -240,11 +242,14 @@ QString Document::measuredCabinet() const
     return m_followed && usualRole(m_followed->file) == GamutRole::Measured ? m_followed->cabinet : QString();
 }
 
-DisplayDescription Document::withHiddenWall() const
+DisplayDescription Document::withHidden() const
 {
     DisplayDescription result = m_description;
     if (awaitsWall()) {
         result.wall = m_own.wall;
+    }
+    if (m_followed && awaitsGamut(*m_followed)) {
+        result.measured = m_own.measured;
     }
     return result;
 }
@@ -340,7 +345,7 @@ DisplayDescription Document::withoutFollowed(const DisplayDescription &edited) c
     const QString name = m_description.measured;
     const bool hasGamut = usualRole(m_followed->file).has_value();
     if ((hasGamut || awaitsGamut(*m_followed)) && (own.measured == name || own.measured.isEmpty())) {
-        own.measured = m_own.measured;
+        own.measured = nameIn(own, m_own.measured);
     }
     if (hasGamut) {
         if (!hasOwnGamut(m_own, name) && !playsAnyRole(own, name)) {
@@ -357,6 +362,20 @@ DisplayDescription Document::withoutFollowed(const DisplayDescription &edited) c
         own.wall = wallWithoutFollowed(own.wall);
     }
     return own;
+}
+
+//! What the gamut \a name of what is shown is called in \a edited; empty when it is gone.
+QString Document::nameIn(const DisplayDescription &edited, const QString &name) const
+{
+    if (name.isEmpty() || edited.gamut(name)) {
+        return name;
+    }
+    const auto &shown = m_description.gamuts;
+    const auto there = std::find_if(shown.begin(), shown.end(),
+        [wanted = name.toStdString()](const DisplayGamut &gamut) { return gamut.colorGamutName() == wanted; });
+    const bool isRenamed = there != shown.end() && shown.size() == edited.gamuts.size();
+    return isRenamed ? QString::fromStdString(edited.gamuts[std::size_t(there - shown.begin())].colorGamutName())
+                     : QString();
 }
 
 DisplayWall Document::wallWithoutFollowed(const DisplayWall &edited) const

@@ -94,8 +94,11 @@ public:
     bool followsWall() const { return m_followed && m_followed->wall; }
     /*! \brief Whether cabinets are followed that are no wall yet. Until they are one, no wall is shown. */
     bool awaitsWall() const { return m_followed && m_followed->isOfCabinets && !m_followed->wall; }
-    /*! \brief What is shown, with the wall of own() where that is not shown: what files are added to. */
-    DisplayDescription withHiddenWall() const;
+    /*!
+     * \brief What is shown, with the wall and the measured gamut of own() where they are not shown while another is
+     * followed: what files are added to.
+     */
+    DisplayDescription withHidden() const;
     /*! \brief Whether a measurement is followed that own() does not have. */
     bool hasUnkept() const;
     /*!
@@ -135,6 +138,7 @@ private:
     static DisplayDescription shownWith(
         const DisplayDescription &own, const std::optional<FollowedMeasurement> &measurement);
     DisplayDescription withoutFollowed(const DisplayDescription &edited) const;
+    QString nameIn(const DisplayDescription &edited, const QString &name) const;
     DisplayWall wallWithoutFollowed(const DisplayWall &edited) const;
     QVector<QPointF> trailWith(const DisplayDescription &description) const;
 

@@ -328,7 +328,7 @@ bool ViewerWindow::openAlone(const QVector<ReadFile> &files)
 
 bool ViewerWindow::openByQuestion(const QVector<ReadFile> &files, Manner manner)
 {
-    AddDialog dialog(m_document.withHiddenWall(), shownName(), files, manner == Manner::Open, this);
+    AddDialog dialog(m_document.withHidden(), shownName(), files, manner == Manner::Open, this);
     if (dialog.exec() != QDialog::Accepted) {
         return false;
     }
@@ -341,7 +341,7 @@ bool ViewerWindow::openByQuestion(const QVector<ReadFile> &files, Manner manner)
 
 void ViewerWindow::addFiles(const QVector<ReadFile> &files)
 {
-    const OpenedFiles opened = openedWith(m_document.withHiddenWall(), files);
+    const OpenedFiles opened = openedWith(m_document.withHidden(), files);
     m_document.change(opened.description, stepName(opened.fileNames));
     addWarnings(opened.warnings);
     m_panel->addFileNotes(opened.notes);
