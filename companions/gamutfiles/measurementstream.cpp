@@ -81,6 +81,7 @@ public:
     void refuseAllHeld();
     std::optional<QString> decoded(const QByteArray &bytes);
     void findUnread(StreamRows &of);
+    QVector<Measurement> colorsAmong(QVector<Measurement> unread);
     std::optional<UnfinishedMeasurement> unfinished(const QByteArray &bytes);
     void findLevels(const Measurement &measurement);
     void playPart(Measurement &measurement) const;
@@ -274,14 +275,21 @@ void MeasurementStream::Private::takeRow(const CsvRow &row, const NumberedLine &
 //! What is known of lines that are not read, where that is which colour they measured.
 void MeasurementStream::Private::findUnread(StreamRows &of)
 {
-    for (Measurement &measurement : of.takeUnread()) {
+    found += colorsAmong(of.takeUnread());
+}
+
+QVector<Measurement> MeasurementStream::Private::colorsAmong(QVector<Measurement> unread)
+{
+    QVector<Measurement> colors;
+    for (Measurement &measurement : unread) {
         playUnreadPart(measurement);
         const bool isColor
             = measurement.part != MeasurementPart::None || colorName(measurement.name).part != MeasurementPart::None;
         if (isColor && isOfCabinet(measurement)) {
-            found.append(measurement);
+            colors.append(measurement);
         }
     }
+    return colors;
 }
 
 std::optional<UnfinishedMeasurement> MeasurementStream::Private::unfinished(const QByteArray &bytes)
@@ -429,6 +437,11 @@ QVector<Measurement> MeasurementStream::read(int most)
 std::optional<UnfinishedMeasurement> MeasurementStream::unfinished() const
 {
     return d->unfinished(d->isFinished ? d->cutOff : d->splitter.unfinished());
+}
+
+QVector<Measurement> MeasurementStream::held() const
+{
+    return d->rows ? d->colorsAmong(d->rows->heldUnread()) : QVector<Measurement>();
 }
 
 bool MeasurementStream::hasLines() const

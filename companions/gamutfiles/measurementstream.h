@@ -91,6 +91,11 @@ public:
      * cut off. Nothing without such a line, and in a list without names.
      */
     std::optional<UnfinishedMeasurement> unfinished() const;
+    /*!
+     * \brief The colours of the lines that are held, as of lines that are not read: what they are if nothing more
+     * comes.
+     */
+    QVector<Measurement> held() const;
     /*! \brief How far the list has been read. */
     const MeasurementStreamState &state() const;
 

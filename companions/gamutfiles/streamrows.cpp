@@ -106,11 +106,25 @@ void StreamRows::refuseHeld(const Refusal &refuse)
     }
 }
 
-void StreamRows::keepUnread(const CsvRow &row)
+Measurement StreamRows::unread(const CsvRow &row)
 {
     Measurement measurement = withoutNumbers(row);
     measurement.isUnread = true;
-    m_unread.append(measurement);
+    return measurement;
+}
+
+void StreamRows::keepUnread(const CsvRow &row)
+{
+    m_unread.append(unread(row));
+}
+
+QVector<Measurement> StreamRows::heldUnread()
+{
+    QVector<Measurement> result;
+    for (const CsvRow &row : std::as_const(m_held)) {
+        result.append(unread(row));
+    }
+    return result;
 }
 
 std::optional<UnfinishedMeasurement> StreamRows::unfinished(const CsvRow &row)
@@ -121,8 +135,7 @@ std::optional<UnfinishedMeasurement> StreamRows::unfinished(const CsvRow &row)
         return std::nullopt;
     }
     UnfinishedMeasurement result;
-    result.measurement = withoutNumbers(row);
-    result.measurement.isUnread = true;
+    result.measurement = unread(row);
     result.isColorKnown = isWhole(ColumnPart::Name);
     result.isCabinetKnown = isWhole(ColumnPart::Cabinet) && isWhole(ColumnPart::Row) && isWhole(ColumnPart::Column);
     return result;

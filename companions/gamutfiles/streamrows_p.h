@@ -45,6 +45,8 @@ public:
     LuminanceUnit unit() const { return m_list.unit; }
     const MeasurementRecognition &recognized() const { return m_list.recognized; }
     int heldRows() const { return int(m_held.size()); }
+    //! What is known of the rows that are held.
+    QVector<Measurement> heldUnread();
     //! The rows below the header that begin() was given.
     QVector<CsvRow> takeFirstRows() { return std::exchange(m_firstRows, {}); }
 
@@ -62,6 +64,7 @@ public:
     }
 
 private:
+    Measurement unread(const CsvRow &row);
     bool contradictsItself(const CsvRow &row) const;
     void read(const CsvRow &row, QVector<Measurement> &found, const Refusal &refuse);
 

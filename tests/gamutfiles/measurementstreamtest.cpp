@@ -471,6 +471,7 @@ void MeasurementStreamTest::holdsLinesUntilTheDecimalSignIsKnown()
     QVERIFY(!stream.state().recognized.decimalSign);
     QVERIFY(readAll(stream, "R;41,245;21,264;1,932\n").isEmpty());
     QCOMPARE(stream.state().heldLines, 1);
+    QCOMPARE(unreadIn(stream.held()), QStringLiteral("red")); // if nothing more comes
     QVERIFY(stream.state().waitsFor.text.contains(QStringLiteral("state the decimal sign")));
     // A line that has both decides nothing and holds nothing up.
     QCOMPARE(unreadIn(readAll(stream, "R;41.25;21,26;1,93\n")), QStringLiteral("red"));

@@ -72,11 +72,17 @@ FollowedMeasurement Following::inProgress() const
 FollowedMeasurement Following::asIfEnded() const
 {
     const auto line = m_stream->unfinished();
-    if (!line) {
+    const auto held = m_stream->held();
+    if (!line && held.isEmpty()) {
         return madeOf(*m_latest, m_latest->wall());
     }
-    LatestMeasurements ended(*m_latest); // the line may be ended after all
-    ended.addUnfinished(*line);
+    LatestMeasurements ended(*m_latest); // the lines may be read after all
+    for (const Measurement &measurement : held) {
+        ended.add(measurement);
+    }
+    if (line) {
+        ended.addUnfinished(*line);
+    }
     return madeOf(ended, ended.wall());
 }
 
