@@ -189,8 +189,12 @@ void DiagramViewPaintingTest::partialRepaintsLeaveNothingBehind()
     view.setStandards({Model::rec709(), Model::rec2020()});
     view.setMeasured(wall());
     const auto compare = [&view](const char *when) {
-        view.paintAll();
-        const QRect others = difference(shownBy(view), view.grab().toImage());
+        // A label may go between the two, when its time is over. What is left behind stays.
+        QRect others;
+        for (int attempt = 0; attempt < 3 && (attempt == 0 || !others.isEmpty()); ++attempt) {
+            view.paintAll();
+            others = difference(shownBy(view), view.grab().toImage());
+        }
         QVERIFY2(others.isEmpty(),
             qPrintable(QStringLiteral("%1: %2, %3, %4 x %5")
                            .arg(QString::fromLatin1(when))
