@@ -145,9 +145,7 @@ void MeasurementStream::Private::takeLine(const StreamLine &line)
         return;
     }
     const auto text = decoded(line.bytes);
-    if (!text) {
-        keepUnread(line.bytes);
-    } else if (!takeText({state.lines, *text})) {
+    if (!text || !takeText({state.lines, *text})) {
         keepUnread(line.bytes);
     }
 }
