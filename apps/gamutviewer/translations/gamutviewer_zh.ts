@@ -3092,10 +3092,10 @@ Open a list of measurements with a column for the cabinet, or for its row and co
     <message>
         <source>What is followed is no wall yet.
 
-It is shown as one as soon as the list names a second cabinet, and all that was measured of one could be read, with red, green and blue.</source>
+It is shown as a wall as soon as the list names a second cabinet, and one cabinet has red, green and blue, and no line that could not be read.</source>
         <translation>所跟随的列表尚不构成墙。
 
-一旦列表中出现第二个箱体，且其中一个的所有测量（含红、绿、蓝）均可读取，就显示为墙。</translation>
+一旦列表中出现第二个箱体，且其中一个箱体有红、绿、蓝，并且没有无法读取的行，就显示为墙。</translation>
     </message>
 </context>
 <context>

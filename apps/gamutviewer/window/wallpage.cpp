@@ -260,8 +260,8 @@ QString WallPage::noWallText() const
             "its row and column, and with red, green and blue of each; or a display description that has a wall.");
     }
     const QString text = tr(
-        "What is followed is no wall yet.\n\nIt is shown as one as soon as the list names a second cabinet, and all "
-        "that was measured of one could be read, with red, green and blue.");
+        "What is followed is no wall yet.\n\nIt is shown as a wall as soon as the list names a second cabinet, and one "
+        "cabinet has red, green and blue, and no line that could not be read.");
     const bool hidesOne = !document()->own().wall.cabinets.empty();
     return hidesOne ? text + QStringLiteral("\n\n")
             + tr("The wall that was open is shown again when the list is followed no further.")
