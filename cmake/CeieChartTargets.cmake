@@ -13,7 +13,8 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 include(CheckPIESupported)
 check_pie_supported() # for programs, which are otherwise linked as the compiler does by default
-# Names in unnamed namespaces are those of a file alone, so each file is compiled by itself, also in a unity build.
+# Names in unnamed namespaces are those of a file alone, so each file is compiled by itself, also in a unity build of the
+# project that contains this one; but see ceiechart_compile_together().
 set(CMAKE_UNITY_BUILD OFF)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)

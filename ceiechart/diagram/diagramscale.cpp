@@ -19,7 +19,7 @@ constexpr double numberGap = 6.0; // between an axis and its numbers, and beside
 constexpr double edgeGap = 4.0; // between texts and the edge of the whole
 constexpr double tickRoom = 8.0; // beside a number on the level axis, at least
 constexpr double rowsPerTick = 2.6; // heights of a text from tick to tick on the upright axis, at least
-constexpr double mostShortTicks = 12.0; // on the shorter axis: more are not read better
+constexpr double mostTicksOfShorterAxis = 12.0; // on the shorter axis: more are not read better
 constexpr double locusWidth = 1.5;
 constexpr double curvePieces = 3.0; // lengths of the pieces of curves, where there are shorter ones
 constexpr double roughPieces = 12.0; // so, of curves that texts keep clear of
@@ -108,8 +108,8 @@ private:
 
     double tickRows() const
     {
-        return std::max(
-            rowsPerTick * m_sheet.fonts.numbers.height(), std::min(m_plot.width(), m_plot.height()) / mostShortTicks);
+        return std::max(rowsPerTick * m_sheet.fonts.numbers.height(),
+            std::min(m_plot.width(), m_plot.height()) / mostTicksOfShorterAxis);
     }
 
     TickScale ticksUp() const { return ticksAtLeast(tickRows() / m_viewport.scale()); }
