@@ -65,7 +65,9 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang" AND NOT MSVC) # AppleClang too, but
         target_link_options(ceiechart_build_flags INTERFACE -fsanitize=address,undefined)
     endif()
     if(CEIECHART_FUZZ)
-        target_compile_options(ceiechart_build_flags INTERFACE -fsanitize=fuzzer-no-link)
+        # Without the tracing of comparisons, which takes 40 % of the time: the dictionaries know the words.
+        target_compile_options(ceiechart_build_flags INTERFACE
+            -fsanitize=fuzzer-no-link -fno-sanitize-coverage=trace-cmp)
     endif()
 elseif(MSVC)
     # Results must not depend on the optimiser: since Visual Studio 2022, /fp:precise does not fuse multiply and add. The

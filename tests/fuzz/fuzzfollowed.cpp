@@ -14,6 +14,7 @@ using namespace gamutfiles;
 namespace {
 
 constexpr std::size_t choices = 2; // bytes before the list
+constexpr int looks = 8; // at the wall of a list that is not complete yet: each takes as long as to read many pieces
 
 bool isSame(const Measurement &a, const Measurement &b)
 {
@@ -65,16 +66,21 @@ QVector<Measurement> readInPieces(const QByteArray &list, int pieceBytes, std::u
             }
             found += measurements;
         }
-        requireWall(latest.wallInProgress(stream.unfinished()));
     };
+    const int between = list.size() / pieceBytes / looks;
+    int pieces = 0;
     for (int at = 0; at < list.size(); at += pieceBytes) {
         stream.feed(list.mid(at, pieceBytes));
         read();
+        if (pieces++ % std::max(1, between) == 0) {
+            requireWall(latest.wallInProgress(stream.unfinished()));
+        }
         fuzz::require(stream.state().heldBytes <= maximumStreamLineBytes + pieceBytes, "few bytes are held");
         fuzz::require(stream.state().heldLines <= maximumHeldLines, "few lines are held");
     }
     stream.finish(stated & 64 ? MeasurementStream::LastLine::MayBeCutOff : MeasurementStream::LastLine::IsWhole);
     read();
+    requireWall(latest.wallInProgress(stream.unfinished()));
 
     const MeasurementStreamState &state = stream.state();
     fuzz::require(state.heldLines == 0 && state.heldBytes == 0, "nothing is held in the end");
