@@ -56,28 +56,31 @@ void appendChunk(QByteArray &file, const char *type, const char *data, int size)
     file += bigEndian(crc(file.constData() + checked, int(file.size()) - checked));
 }
 
+//! Each byte of \a a less that of \a b: the highest bits are kept apart, so that no byte borrows from the next one.
+quint32 bytewiseDifference(quint32 a, quint32 b)
+{
+    constexpr quint32 highest = 0x80808080U;
+    return ((a | highest) - (b & ~highest)) ^ ((a ^ ~b) & highest);
+}
+
 //! The rows of \a image, red, green and blue of each pixel, as differences to the row above.
 QByteArray filteredRows(const QImage &image)
 {
-    const int bytes = 3 * image.width();
-    QByteArray rows((bytes + 1) * image.height(), Qt::Uninitialized);
-    std::vector<quint8> above(std::size_t(bytes), 0);
-    std::vector<quint8> row(std::size_t(bytes), 0);
+    const int width = image.width();
+    QByteArray rows((3 * width + 1) * image.height(), Qt::Uninitialized);
+    const std::vector<QRgb> none(std::size_t(width), 0);
+    const QRgb *above = none.data();
     char *filtered = rows.data();
     for (int y = 0; y < image.height(); ++y) {
-        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        quint8 *to = row.data();
-        for (int x = 0; x < image.width(); ++x) {
-            *to++ = quint8(qRed(line[x]));
-            *to++ = quint8(qGreen(line[x]));
-            *to++ = quint8(qBlue(line[x]));
-        }
+        const auto *row = reinterpret_cast<const QRgb *>(image.constScanLine(y));
         *filtered++ = filterUp;
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            filtered[i] = char(row[i] - above[i]);
+        for (int x = 0; x < width; ++x) {
+            const quint32 difference = bytewiseDifference(row[x], above[x]);
+            *filtered++ = char(qRed(difference));
+            *filtered++ = char(qGreen(difference));
+            *filtered++ = char(qBlue(difference));
         }
-        filtered += bytes;
-        row.swap(above);
+        above = row;
     }
     return rows;
 }
