@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QToolButton>
 
 using namespace gamutviewer;
 
