@@ -7,11 +7,13 @@
 #include <ceiechart/diagram/diagramview.h>
 
 #include <QApplication>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPicture>
 #include <QPointer>
 #include <QVBoxLayout>
 
+#include <limits>
 #include <memory>
 
 namespace soak {
@@ -97,6 +99,51 @@ protected:
 
 private:
     int m_uses = 0;
+};
+
+//! Takes any coordinates, and does nothing with what is painted: to record a large picture takes Qt seconds.
+class NowhereEngine : public QPaintEngine {
+public:
+    NowhereEngine()
+        : QPaintEngine(AllFeatures)
+    {
+    }
+
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState &) override { }
+    void drawPath(const QPainterPath &) override { }
+    void drawPolygon(const QPointF *, int, PolygonDrawMode) override { }
+    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { }
+    void drawImage(const QRectF &, const QImage &, const QRectF &, Qt::ImageConversionFlags) override { }
+    void drawTextItem(const QPointF &, const QTextItem &) override { }
+    Type type() const override { return User; }
+};
+
+class Nowhere : public QPaintDevice {
+public:
+    QPaintEngine *paintEngine() const override { return &m_engine; }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        constexpr int dotsPerInch = 96;
+        switch (metric) {
+        case PdmDpiX:
+        case PdmDpiY:
+        case PdmPhysicalDpiX:
+        case PdmPhysicalDpiY:
+            return dotsPerInch;
+        case PdmWidth:
+        case PdmHeight:
+            return std::numeric_limits<int>::max();
+        default:
+            return QPaintDevice::metric(metric);
+        }
+    }
+
+private:
+    mutable NowhereEngine m_engine;
 };
 
 //! A host that answers the signals of its view by calling it again, and sometimes by deleting it.
@@ -238,10 +285,14 @@ void Host::paint()
         }
         return;
     }
-    QPicture picture; // takes any coordinates
-    QPainter painter(&picture);
     const QPointF corner(r.chance(80) ? 0.0 : r.number(), r.chance(80) ? 0.0 : r.number());
-    m_view->paint(&painter, QRectF(corner, QSizeF(side(), side())));
+    const QRectF place(corner, QSizeF(side(), side()));
+    constexpr double large = 1000.0;
+    QPicture picture;
+    Nowhere nowhere;
+    const bool isLarge = place.width() > large || place.height() > large;
+    QPainter painter(isLarge ? static_cast<QPaintDevice *>(&nowhere) : &picture);
+    m_view->paint(&painter, place);
 }
 
 void Host::step()

@@ -36,7 +36,9 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <filesystem>
 #include <memory>
+#include <system_error>
 
 namespace soak {
 
@@ -58,7 +60,10 @@ public:
             while (files.hasNext()) {
                 const QFileInfo file(files.next());
                 const QString copy = m_folder.filePath(QStringLiteral("%1-%2").arg(++number).arg(file.fileName()));
-                if (QFile::copy(file.filePath(), copy)) {
+                // QFile would wait for the disk after each.
+                std::error_code error;
+                if (std::filesystem::copy_file(QFile::encodeName(file.filePath()).toStdString(),
+                        QFile::encodeName(copy).toStdString(), error)) {
                     QFile::setPermissions(copy, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
                     m_files.append(copy);
                 }
