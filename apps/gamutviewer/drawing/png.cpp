@@ -9,17 +9,20 @@
 #include <array>
 #include <vector>
 
+#ifdef GAMUTVIEWER_LIBDEFLATE
+#include <libdeflate.h>
+
+#include <memory>
+#endif
+
 namespace gamutviewer {
 
 namespace {
 
-// Of the levels of compression, 2 takes half of the time of the usual 6, for a file that is a seventh larger.
-constexpr int compressionLevel = 2;
 constexpr int qualityOfLevel = 70; // as QImage::save() has it
 constexpr qint64 mostBytes = 64 * 1024 * 1024; // to hold in memory beside the picture, and once more in the worst case
 constexpr char filterUp = 2; // each byte less that of the row above
 constexpr int bytesOfFrame = 100; // of a file, but for its pixels: no less than there are
-constexpr int bytesOfLength = 4; // with which qCompress() begins
 
 quint32 crc(const char *bytes, int count)
 {
@@ -85,6 +88,36 @@ QByteArray filteredRows(const QImage &image)
     return rows;
 }
 
+#ifdef GAMUTVIEWER_LIBDEFLATE
+
+//! \a rows in the format of zlib, or nothing without memory. Takes half of the time of zlib, for a smaller file.
+QByteArray compressed(const QByteArray &rows)
+{
+    constexpr int level = 1; // further ones take longer, for some hundredths of the size
+    const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> compressor(
+        libdeflate_alloc_compressor(level), libdeflate_free_compressor);
+    if (!compressor) {
+        return QByteArray();
+    }
+    const auto size = std::size_t(rows.size());
+    QByteArray result(int(libdeflate_zlib_compress_bound(compressor.get(), size)), Qt::Uninitialized);
+    result.truncate(int(
+        libdeflate_zlib_compress(compressor.get(), rows.constData(), size, result.data(), std::size_t(result.size()))));
+    return result;
+}
+
+#else
+
+//! \a rows in the format of zlib, or nothing without memory.
+QByteArray compressed(const QByteArray &rows)
+{
+    constexpr int level = 2; // half of the time of the usual 6, for a file that is a seventh larger
+    constexpr int bytesOfLength = 4; // with which qCompress() begins
+    return qCompress(rows, level).mid(bytesOfLength);
+}
+
+#endif
+
 } // namespace
 
 QByteArray png(const QImage &image)
@@ -98,15 +131,15 @@ QByteArray png(const QImage &image)
         + QByteArray("\x08\x02\x00\x00\x00", 5); // 8 bits of red, green and blue, not interlaced
     const QByteArray pixelsPerMeter
         = bigEndian(quint32(image.dotsPerMeterX())) + bigEndian(quint32(image.dotsPerMeterY())) + QByteArray("\x01", 1);
-    const QByteArray compressed = qCompress(filteredRows(image), compressionLevel);
-    if (compressed.size() <= bytesOfLength) {
+    const QByteArray pixels = compressed(filteredRows(image));
+    if (pixels.isEmpty()) {
         return QByteArray();
     }
     QByteArray file("\x89PNG\r\n\x1a\n");
-    file.reserve(int(compressed.size()) + bytesOfFrame);
+    file.reserve(int(pixels.size()) + bytesOfFrame);
     appendChunk(file, "IHDR", header.constData(), int(header.size()));
     appendChunk(file, "pHYs", pixelsPerMeter.constData(), int(pixelsPerMeter.size()));
-    appendChunk(file, "IDAT", compressed.constData() + bytesOfLength, int(compressed.size()) - bytesOfLength);
+    appendChunk(file, "IDAT", pixels.constData(), int(pixels.size()));
     appendChunk(file, "IEND", nullptr, 0);
     return file;
 }
