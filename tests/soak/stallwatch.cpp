@@ -4,6 +4,7 @@
 
 #ifdef __unix__
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <csignal>
@@ -84,22 +85,28 @@ private:
     {
         constexpr double longestWait = 30.0;
         constexpr double leastShare = 0.01; // of the time, for a program that waits only for the processor
+        constexpr double mostAtOnce = 0.5; // of a look: more passes only while the whole machine stands still
         constexpr std::chrono::milliseconds interval(50);
         unsigned last = 0;
         double computed = seconds(m_clock);
-        double waited = seconds(CLOCK_MONOTONIC);
+        double passed = seconds(CLOCK_MONOTONIC);
+        double busy = 0.0;
+        double idle = 0.0;
         while (!m_ends) {
             std::this_thread::sleep_for(interval);
+            const double computedNow = seconds(m_clock);
+            const double passedNow = seconds(CLOCK_MONOTONIC);
+            const double more = std::min(computedNow - computed, mostAtOnce);
+            busy += more;
+            idle += std::clamp(passedNow - passed - more, 0.0, mostAtOnce);
+            computed = computedNow;
+            passed = passedNow;
             const unsigned now = m_beats.load(std::memory_order_relaxed);
             if (now != last) {
                 last = now;
-                computed = seconds(m_clock);
-                waited = seconds(CLOCK_MONOTONIC);
-                continue;
-            }
-            const double busy = seconds(m_clock) - computed;
-            const double idle = seconds(CLOCK_MONOTONIC) - waited - busy;
-            if (busy > m_limit || (idle > longestWait && busy < leastShare * idle)) {
+                busy = 0.0;
+                idle = 0.0;
+            } else if (busy > m_limit || (idle > longestWait && busy < leastShare * idle)) {
                 ::pthread_kill(m_watched, SIGUSR2);
                 return;
             }
