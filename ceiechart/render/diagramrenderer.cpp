@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace ceiechart {
 
@@ -120,10 +121,11 @@ void DiagramRenderer::Private::beginDrawing(int width, int height, int marginPer
     locus = atlas.atlasCoordinates;
 }
 
-std::unique_ptr<QImage> DiagramRenderer::Private::newPicture(const QColor &ground) const
+std::unique_ptr<QImage> DiagramRenderer::Private::newPicture(const QColor &ground)
 {
-    auto picture = ceiechart::newPicture(devicePixels(pictureWidth), devicePixels(pictureHeight), ground);
-    if (pixelRatio != 1.0) {
+    auto picture = ceiechart::newPicture(
+        devicePixels(pictureWidth), devicePixels(pictureHeight), ground, std::exchange(former, QImage()));
+    if (picture->devicePixelRatio() != pixelRatio) {
         picture->setDevicePixelRatio(pixelRatio);
     }
     return picture;

@@ -124,6 +124,7 @@ protected:
     const std::unique_ptr<Private> d;
 
 private:
+    friend class TargetScene; // which gives the memory of its former picture
     Q_DISABLE_COPY(DiagramRenderer)
 };
 

@@ -10,12 +10,12 @@
 
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QLineF>
 #include <QVector>
 
 #include <vector>
 
-class QImage;
 class QPolygonF;
 class QRect;
 
@@ -57,7 +57,7 @@ public:
      * \brief The picture of the drawing that has begun, in the pixels of the device. The caller must first fill it with
      * \a ground, by drawGround().
      */
-    std::unique_ptr<QImage> newPicture(const QColor &ground) const;
+    std::unique_ptr<QImage> newPicture(const QColor &ground);
     /*! \brief The number of pixels of the device for \a extent pixels of the drawing. */
     int devicePixels(int extent) const;
     /*! \brief The threads that draw rows of \a picture; null if it is for the calling thread alone. */
@@ -123,6 +123,7 @@ public:
     QColor groundColor; //!< set by setGraphColor()
     bool lightGround = false;
     double pixelRatio = 1.0;
+    QImage former; //!< whose memory the next picture takes, if it can
     RowThreads threads;
     qint64 fewestPixelsForThreads = 1 << 19; //!< of a picture: to wake threads takes longer than to draw a smaller one
 

@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <memory>
+#include <utility>
 
 namespace ceiechart {
 
@@ -57,6 +58,13 @@ void ChartPicture::reset(QImage *picture)
     m_opaque = m_image.format() == QImage::Format_ARGB32 && isOpaque(m_image);
     m_scaled = QImage();
     m_set = owned != nullptr;
+}
+
+QImage ChartPicture::takeLarge()
+{
+    // The C library returns a larger block to the system, and gets a new one with a page fault for every 4 KiB.
+    constexpr qint64 largestKept = 32 * 1024 * 1024;
+    return m_image.sizeInBytes() > largestKept && m_image.isDetached() ? std::exchange(m_image, QImage()) : QImage();
 }
 
 QImage ChartPicture::image() const

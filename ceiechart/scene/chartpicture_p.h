@@ -21,6 +21,13 @@ public:
     /*! \brief Replaces the picture and takes ownership of \a picture, which can be null. */
     void reset(QImage *picture = nullptr);
 
+    /*!
+     * \brief Gives up the picture, for the next one to take its memory, if it is large and nobody else holds it.
+     *
+     * The memory of smaller ones is used again anyway: of these, nothing is given.
+     */
+    QImage takeLarge();
+
     /*! \brief Whether a picture has been set, even a null image. */
     bool isSet() const { return m_set; }
     /*! \brief Whether there is no picture or the picture is a null image. */

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/finite_p.h>
+#include <ceiechart/render/diagramrenderer_p.h>
 #include <ceiechart/scene/backgroundplacement_p.h>
 #include <ceiechart/scene/targetscene_p.h>
 
@@ -69,9 +70,15 @@ int TargetScene::threadCount() const
     return d->diagramRenderer().threadCount();
 }
 
+void TargetScene::Private::giveMemory()
+{
+    diagramRenderer().d->former = picture.takeLarge();
+}
+
 void TargetScene::renderAgain()
 {
     if (d->picture.isSet()) {
+        d->giveMemory();
         d->showPicture(d->renderShown());
     }
 }

@@ -165,6 +165,7 @@ bool TargetScene::isDrawWaveLength()
 
 void TargetScene::getBitMap()
 {
+    d->giveMemory();
     d->picture.reset();
     d->imageWidth = zoomed(d->imageWidth, d->zoom);
     d->imageHeight = zoomed(d->imageHeight, d->zoom);
