@@ -15,6 +15,7 @@
 #include <QToolButton>
 
 using namespace gamutviewer;
+using namespace wallfixture;
 
 class CabinetTableTest : public QObject {
     Q_OBJECT
@@ -31,7 +32,7 @@ private Q_SLOTS:
 void CabinetTableTest::tableIsSorted()
 {
     DisplayDescription d = description(1, 12);
-    dim(d.wall.cabinets[4]);
+    dim(d.wall.cabinets[4], 0.8);
     WallFixture f(d);
     CabinetTable *table = f.page()->table();
     const auto name = [table](int row) { return table->model()->index(row, CabinetModel::Name).data().toString(); };
@@ -123,7 +124,7 @@ void CabinetTableTest::longNamesAreSeen()
 void CabinetTableTest::selectedRowStaysInSight()
 {
     DisplayDescription d = description(8, 12);
-    dim(d.wall.cabinets[1]);
+    dim(d.wall.cabinets[1], 0.8);
     WallFixture f(d);
     CabinetTable *table = f.page()->table();
     f.click(table, table->model()->index(0, 1));

@@ -13,6 +13,7 @@
 #include <cmath>
 
 using namespace gamutviewer;
+using namespace wallfixture;
 
 class CloseLookTest : public QObject {
     Q_OBJECT
@@ -39,11 +40,7 @@ namespace {
 DisplayDescription oneApart()
 {
     DisplayDescription result = oneDim();
-    Model::Targets targets = Model::rec709().getTargets();
-    for (Model::Target *t : {&targets.red, &targets.green, &targets.blue, &targets.white}) {
-        *t = color(t->Y * 500.0, t->x, t->y);
-    }
-    result.gamuts.front() = {Model::ColorGamut("Show", targets), cd};
+    result.gamuts.front() = targetOf(500.0);
     result.wall.cabinets[7].red = color(result.wall.cabinets[7].red.Y, 0.70, 0.28);
     return result;
 }

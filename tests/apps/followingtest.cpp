@@ -23,7 +23,7 @@ const QByteArray header = QByteArrayLiteral("name,Y (cd/m2),x,y\n");
 const QByteArray gamut
     = QByteArrayLiteral("Red,21,0.64,0.33\nGreen,71,0.3,0.6\nBlue,7,0.15,0.06\nWhite,99,0.3127,0.329\n");
 
-double redX(const Following &following)
+double redOf(const Following &following)
 {
     const auto measured = following.inProgress().file.measurements.gamut(QString());
     return measured ? measured->getTargets().red.x : -1.0;
@@ -50,7 +50,7 @@ struct FileFixture {
         following = std::make_unique<Following>(std::make_unique<FollowedFile>(path), options);
     }
     qint64 lines() const { return following->state().lines; }
-    double redX() const { return ::redX(*following); }
+    double redX() const { return redOf(*following); }
 
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("wall.csv"));
@@ -449,18 +449,18 @@ void FollowingTest::readsStandardInputAsItComes()
         std::make_unique<StreamInput>(QStringLiteral("-"), ends[0], StreamInput::AtEnd::Ends), MeasurementOptions());
     QVERIFY(!following.input().isRepeatable());
     write(header + gamut);
-    QTRY_COMPARE(redX(following), 0.64);
+    QTRY_COMPARE(redOf(following), 0.64);
     QTest::qWait(50); // nothing comes, and nothing waits for it
     write("Red,22,0.65,");
     QTRY_VERIFY(following.state().heldBytes > 0);
     write("0.33\nRed,23,0.66,0.3");
-    QTRY_COMPARE(redX(following), 0.65);
+    QTRY_COMPARE(redOf(following), 0.65);
     QVERIFY(!following.input().hasEnded());
     ::close(ends[1]);
     // The last line may have been cut off.
     QTRY_COMPARE(following.state().notRead, 1);
     QVERIFY(following.input().hasEnded());
-    QCOMPARE(redX(following), 0.65);
+    QCOMPARE(redOf(following), 0.65);
     QCOMPARE(following.inProgress().file.name, QStringLiteral("standard input"));
     ::close(ends[0]);
 #else
@@ -524,13 +524,13 @@ void FollowingTest::awaitsTheNextWriterOfANamedPipe()
     QVERIFY2(opened.input, qPrintable(opened.error));
     Following following(std::move(opened.input), MeasurementOptions());
     FileFixture::write(path, header + gamut, QIODevice::NotOpen);
-    QTRY_COMPARE(redX(following), 0.64);
+    QTRY_COMPARE(redOf(following), 0.64);
     QTRY_VERIFY(!following.input().isThere());
     QVERIFY(!following.input().hasEnded());
     FileFixture::write(path, "Red,22,0.65,0.33\n", QIODevice::NotOpen);
-    QTRY_COMPARE(redX(following), 0.65);
+    QTRY_COMPARE(redOf(following), 0.65);
     FileFixture::write(path, header + "Red,22,0.66,0.33\n", QIODevice::NotOpen);
-    QTRY_COMPARE(redX(following), 0.66);
+    QTRY_COMPARE(redOf(following), 0.66);
     QCOMPARE(following.state().notRead, 0);
 #else
     QSKIP("has no named pipes of this kind");
@@ -548,7 +548,7 @@ void FollowingTest::readsAStreamInAThread()
     std::FILE *stream = std::fopen(QFile::encodeName(f.path).constData(), "rb");
     QVERIFY(stream);
     Following following(std::make_unique<ThreadInput>(QStringLiteral("-"), stream), MeasurementOptions());
-    QTRY_VERIFY_WITH_TIMEOUT(following.input().hasEnded() && redX(following) == 0.65, 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(following.input().hasEnded() && redOf(following) == 0.65, 60000);
     QCOMPARE(following.state().lines, lines.count('\n') + 1);
     QCOMPARE(following.state().notRead, 0);
     std::fclose(stream);

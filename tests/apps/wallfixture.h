@@ -3,21 +3,17 @@
 #ifndef TESTS_APPS_WALLFIXTURE_H
 #define TESTS_APPS_WALLFIXTURE_H
 
+#include "assessedwall.h"
 #include "windowfixture.h"
 
-#include "display/wallassessment.h"
 #include "window/wallpage.h"
 
 #include <QAbstractItemView>
 
-namespace gamutviewer {
+/*! \brief Walls, and a window that shows them. */
+namespace wallfixture {
 
-constexpr LuminanceUnit cd = LuminanceUnit::CandelaPerSquareMetre;
-
-inline Model::Target color(double Y, double x, double y)
-{
-    return Model::Target::fromYxy(Y, x, y);
-}
+using namespace assessedwall;
 
 /*!
  * Rec.2020 with slightly different luminances, called "B2" and so on, and a target of the chromaticities of Rec.709 at
@@ -27,36 +23,17 @@ inline DisplayDescription description(int rows, int columns)
 {
     DisplayDescription result;
     result.name = QStringLiteral("Stage");
-    const Model::Targets of = Model::rec2020().getTargets();
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
             const double luminance = 1100.0 + row + 0.1 * column;
-            WallCabinet cabinet;
-            cabinet.name = QStringLiteral("%1%2").arg(QChar('A' + row % 26)).arg(column + 1);
-            cabinet.row = row + 1;
-            cabinet.column = column + 1;
-            cabinet.red = color(of.red.Y * luminance, of.red.x, of.red.y);
-            cabinet.green = color(of.green.Y * luminance, of.green.x, of.green.y);
-            cabinet.blue = color(of.blue.Y * luminance, of.blue.x, of.blue.y);
-            result.wall.cabinets.push_back(cabinet);
+            const QString name = QStringLiteral("%1%2").arg(QChar('A' + row % 26)).arg(column + 1);
+            result.wall.cabinets.push_back(cabinet(name, row + 1, column + 1, luminance));
         }
     }
     result.wall.unit = cd;
-    Model::Targets target = Model::rec709().getTargets();
-    for (Model::Target *t : {&target.red, &target.green, &target.blue, &target.white}) {
-        *t = color(t->Y * 1000.0, t->x, t->y);
-    }
-    result.gamuts.push_back({Model::ColorGamut("Show", target), cd});
-    result.target = QStringLiteral("Show");
+    result.gamuts.push_back(targetOf(1000.0));
+    result.target = nameOf(result.gamuts.back());
     return result;
-}
-
-/*! Takes a fifth of its light from \a cabinet. */
-inline void dim(WallCabinet &cabinet)
-{
-    for (Model::Target *t : {&cabinet.red, &cabinet.green, &cabinet.blue}) {
-        *t = color(t->Y * 0.8, t->x, t->y);
-    }
 }
 
 /*! A window that shows the page "Wall". */
@@ -84,10 +61,10 @@ struct WallFixture : WindowFixture {
 inline DisplayDescription oneDim()
 {
     DisplayDescription result = description(3, 4);
-    dim(result.wall.cabinets[5]);
+    dim(result.wall.cabinets[5], 0.8);
     return result;
 }
 
-} // namespace gamutviewer
+} // namespace wallfixture
 
 #endif

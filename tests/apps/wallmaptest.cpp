@@ -18,6 +18,7 @@
 #include <QToolButton>
 
 using namespace gamutviewer;
+using namespace wallfixture;
 
 class WallMapTest : public QObject {
     Q_OBJECT

@@ -27,6 +27,7 @@
 #include <QToolButton>
 
 using namespace gamutviewer;
+using namespace wallfixture;
 
 class WallPageTest : public QObject {
     Q_OBJECT
@@ -195,7 +196,7 @@ void WallPageTest::chosenLineIsFollowed()
 {
     DisplayDescription several = description(3, 4);
     for (const std::size_t i : {1, 5, 6, 9}) {
-        dim(several.wall.cabinets[i]);
+        dim(several.wall.cabinets[i], 0.8);
     }
     WallFixture f(several);
     WallVerdict *verdict = f.page()->verdict();

@@ -505,7 +505,7 @@ void CorrectionsFileTest::timeGrowsWithTheCabinets()
 
 void CorrectionsFileTest::documentedExamplesAreRead()
 {
-    QFile file(QStringLiteral(FORMAT_DOCUMENTATION));
+    QFile file(QStringLiteral(CORRECTIONS_DOCUMENTATION));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray documentation = file.readAll();
     const auto example = [&documentation](const QByteArray &language) {

@@ -252,7 +252,7 @@ void CubePairTest::titleIsOneLine()
 
 void CubePairTest::documentedExampleIsRead()
 {
-    QFile file(QStringLiteral(FORMAT_DOCUMENTATION));
+    QFile file(QStringLiteral(CORRECTIONS_DOCUMENTATION));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray documentation = file.readAll();
     const auto example = [&documentation](int number) {

@@ -654,7 +654,7 @@ void DisplayDescriptionTest::samplesHaveNoWarnings()
 
 void DisplayDescriptionTest::documentedExampleIsRead()
 {
-    QFile file(QStringLiteral(FORMAT_DOCUMENTATION));
+    QFile file(QStringLiteral(DESCRIPTION_DOCUMENTATION));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray documentation = file.readAll();
     const int begin = documentation.indexOf("```json\n") + 8;

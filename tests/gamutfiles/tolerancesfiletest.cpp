@@ -147,7 +147,7 @@ void TolerancesFileTest::writtenTextReadsBackTheSame()
 
 void TolerancesFileTest::documentedExampleIsRead()
 {
-    const QString text = QString::fromUtf8(bytesOf(QStringLiteral(FORMAT_DOCUMENTATION)));
+    const QString text = QString::fromUtf8(bytesOf(QStringLiteral(TOLERANCES_DOCUMENTATION)));
     const int begin = text.indexOf(QLatin1String("```json")) + 7;
     const auto read = readTolerances(text.mid(begin, text.indexOf(QLatin1String("```"), begin) - begin).toUtf8());
     QVERIFY2(read, qPrintable(read.error()));
@@ -157,7 +157,7 @@ void TolerancesFileTest::documentedExampleIsRead()
 
 void TolerancesFileTest::suppliedFilesAreReadAndNameTheirSource()
 {
-    const QByteArray documentation = bytesOf(QStringLiteral(FORMAT_DOCUMENTATION));
+    const QByteArray documentation = bytesOf(QStringLiteral(TOLERANCES_DOCUMENTATION));
     const QDir folder(QStringLiteral(SUPPLIED_TOLERANCES));
     const QStringList names = folder.entryList({QStringLiteral("*.json")}, QDir::Files);
     QVERIFY(!names.isEmpty());
