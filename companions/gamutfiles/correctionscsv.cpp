@@ -16,7 +16,7 @@ namespace gamutfiles {
 
 namespace {
 
-struct CorrectionsText {
+struct CsvText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::Corrections)
 };
 
@@ -84,10 +84,9 @@ private:
     void fail(const QString &text, const QString &column = QString())
     {
         if (m_problem.text.isEmpty()) {
-            const QString line = CorrectionsText::tr("line %1").arg(m_line);
+            const QString line = CsvText::tr("line %1").arg(m_line);
             m_problem = {text,
-                column.isEmpty() ? line : CorrectionsText::tr("%1, column %2", "line and column").arg(line, column), 0,
-                0};
+                column.isEmpty() ? line : CsvText::tr("%1, column %2", "line and column").arg(line, column), 0, 0};
         }
     }
 
@@ -107,7 +106,7 @@ private:
     {
         for (const QString &expected : conventionLines()) {
             if (nextLine() != expected) {
-                fail(CorrectionsText::tr("expected %1").arg(quoted(expected)));
+                fail(CsvText::tr("expected %1").arg(quoted(expected)));
                 return;
             }
         }
@@ -122,7 +121,7 @@ private:
         const QString begin = QStringLiteral("# %1: ").arg(QLatin1String(name));
         const QString line = nextLine();
         if (!line.startsWith(begin)) {
-            fail(CorrectionsText::tr("expected %1").arg(quoted(begin + QStringLiteral("…"))));
+            fail(CsvText::tr("expected %1").arg(quoted(begin + QStringLiteral("…"))));
         }
         return line.mid(begin.size());
     }
@@ -132,7 +131,7 @@ private:
         bool ok = false;
         const double result = text.toDouble(&ok);
         if (!ok || !std::isfinite(result)) {
-            fail(CorrectionsText::tr("not a number: %1").arg(quoted(text)), column);
+            fail(CsvText::tr("not a number: %1").arg(quoted(text)), column);
             return 0.0;
         }
         return result;
@@ -142,7 +141,7 @@ private:
     {
         const QStringList parts = value(name).split(QLatin1Char(' '));
         if (parts.size() != 2) {
-            fail(CorrectionsText::tr("expected x and y"));
+            fail(CsvText::tr("expected x and y"));
             return {};
         }
         return {number(parts.at(0)), number(parts.at(1))};
@@ -154,7 +153,7 @@ private:
         const QString name = value("target");
         const auto parsed = QJsonDocument::fromJson((QLatin1Char('[') + name + QLatin1Char(']')).toUtf8()).array();
         if (m_problem.text.isEmpty() && (parsed.size() != 1 || !parsed.at(0).isString())) {
-            fail(CorrectionsText::tr("expected the name of the target in quotes"));
+            fail(CsvText::tr("expected the name of the target in quotes"));
         }
         target.name = parsed.at(0).toString();
         target.red = point("target red x, y");
@@ -163,11 +162,11 @@ private:
         target.white = point("target white x, y");
         target.luminance = number(value("luminance of the white"));
         if (target.luminance <= 0.0) {
-            fail(CorrectionsText::tr("the luminance of the white must be greater than 0"));
+            fail(CsvText::tr("the luminance of the white must be greater than 0"));
         }
         const auto unit = correctionsUnit(value("unit of luminances"));
         if (!unit) {
-            fail(CorrectionsText::tr("expected %1, %2 or %3")
+            fail(CsvText::tr("expected %1, %2 or %3")
                      .arg(quoted(correctionsUnitName(LuminanceUnit::CandelaPerSquareMetre)),
                          quoted(correctionsUnitName(LuminanceUnit::Relative)),
                          quoted(correctionsUnitName(LuminanceUnit::NotKnown))));
@@ -186,7 +185,7 @@ private:
             if (!hasHeader) {
                 hasHeader = row.fields == columnNames();
                 if (!hasHeader) {
-                    fail(CorrectionsText::tr("expected the columns %1").arg(columnNames().join(QLatin1Char(','))));
+                    fail(CsvText::tr("expected the columns %1").arg(columnNames().join(QLatin1Char(','))));
                     return;
                 }
                 continue;
@@ -204,10 +203,10 @@ private:
         }
         if (table.unterminatedLine > 0) {
             m_line = linesBefore + table.unterminatedLine;
-            fail(CorrectionsText::tr("a quote is never closed"));
+            fail(CsvText::tr("a quote is never closed"));
         } else if (m_corrections.cabinets.empty()) {
             ++m_line;
-            fail(CorrectionsText::tr("there is no cabinet"));
+            fail(CsvText::tr("there is no cabinet"));
         }
     }
 
@@ -215,7 +214,7 @@ private:
     {
         CabinetCorrection cabinet;
         if (fields.size() != columnNames().size()) {
-            fail(CorrectionsText::tr("expected %1 fields, found %2").arg(columnNames().size()).arg(fields.size()));
+            fail(CsvText::tr("expected %1 fields, found %2").arg(columnNames().size()).arg(fields.size()));
             return cabinet;
         }
         const auto columnName = [](int column) { return columnNames().at(column); };
@@ -223,7 +222,7 @@ private:
         cabinet.row = place(fields.at(1), columnName(1));
         cabinet.column = place(fields.at(2), columnName(2));
         if (cabinet.row.has_value() != cabinet.column.has_value()) {
-            fail(CorrectionsText::tr("row and column are only known together"));
+            fail(CsvText::tr("row and column are only known together"));
         }
         Model::CorrectionMatrix matrix;
         int given = 0;
@@ -252,7 +251,7 @@ private:
         bool ok = false;
         const int result = text.toInt(&ok);
         if (!ok) {
-            fail(CorrectionsText::tr("expected a whole number"), column);
+            fail(CsvText::tr("expected a whole number"), column);
         }
         return result;
     }

@@ -21,7 +21,7 @@ constexpr int gammaByte = 23;
 constexpr int featuresByte = 24;
 const QByteArray header("\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00", 8);
 
-using Failure = Outcome<EdidDisplay>;
+using EdidOutcome = Outcome<EdidDisplay>;
 
 struct EdidText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::Edid)
@@ -160,20 +160,20 @@ bool isEdid(const QByteArray &bytes)
 Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
 {
     if (bytes.size() < edidBlockSize) {
-        return Failure::failure(EdidText::tr("is a truncated EDID: %1 bytes instead of at least %2")
-                                    .arg(bytes.size())
-                                    .arg(int(edidBlockSize)));
+        return EdidOutcome::failure(EdidText::tr("is a truncated EDID: %1 bytes instead of at least %2")
+                                        .arg(bytes.size())
+                                        .arg(int(edidBlockSize)));
     }
     if (!isEdid(bytes)) {
-        return Failure::failure(EdidText::tr("is not an EDID"));
+        return EdidOutcome::failure(EdidText::tr("is not an EDID"));
     }
     const QByteArray block = bytes.left(edidBlockSize);
     if (!edidChecksumIsRight(block)) {
-        return Failure::failure(EdidText::tr("is a damaged EDID: its checksum is wrong"));
+        return EdidOutcome::failure(EdidText::tr("is a damaged EDID: its checksum is wrong"));
     }
     const auto base = readEdidBlock(block);
     if (!base) {
-        return Failure::failure(base.problem());
+        return EdidOutcome::failure(base.problem());
     }
     EdidDisplay display;
     display.name = base->name;
@@ -190,7 +190,7 @@ Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
     const EdidChromaticities colors
         = havePrimaries(base->colors) ? base->colors : display.displayIdChromaticities.value_or(EdidChromaticities());
     if (!havePrimaries(colors)) {
-        return Failure::failure(EdidText::tr("is an EDID without primaries"));
+        return EdidOutcome::failure(EdidText::tr("is an EDID without primaries"));
     }
     const EdidNativeLuminance &native = display.nativeLuminance;
     const bool isAbsolute = native.guaranteed && native.fullScreen.value_or(0.0) > 0.0;
@@ -198,7 +198,7 @@ Outcome<EdidDisplay> readEdidDisplay(const QByteArray &bytes)
     const auto gamut = gamutFromPrimaries(display.name, {colors.red, colors.green, colors.blue, colors.white},
         isAbsolute ? *native.fullScreen : 1.0, PrimariesOf::Display, tenBitRounding);
     if (!gamut) {
-        return Failure::failure(EdidText::tr("is an EDID without usable primaries: %1").arg(gamut.error()));
+        return EdidOutcome::failure(EdidText::tr("is an EDID without usable primaries: %1").arg(gamut.error()));
     }
     display.gamut = DisplayGamut(*gamut, isAbsolute ? LuminanceUnit::CandelaPerSquareMetre : LuminanceUnit::Relative);
     return {display,

@@ -21,7 +21,7 @@ namespace gamutfiles {
 
 namespace {
 
-using Failure = Outcome<Model::ColorGamut>;
+using GamutOutcome = Outcome<Model::ColorGamut>;
 
 struct PrimariesText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::Primaries)
@@ -170,21 +170,21 @@ Outcome<Model::ColorGamut> gamutFromPrimaries(
     for (const auto &color : colors) {
         const QPointF given = color.xy;
         if (!std::isfinite(given.x()) || !std::isfinite(given.y())) {
-            return Failure::failure(PrimariesText::tr("%1 has no chromaticity").arg(color.name));
+            return GamutOutcome::failure(PrimariesText::tr("%1 has no chromaticity").arg(color.name));
         }
         color.xy = withoutRounding(given, rounding);
         if (!isPrimary(color.xy, color.kind)) {
-            return Failure::failure(PrimariesText::tr("%1 is not a valid chromaticity: x %2, y %3")
-                                        .arg(color.name)
-                                        .arg(given.x())
-                                        .arg(given.y()));
+            return GamutOutcome::failure(PrimariesText::tr("%1 is not a valid chromaticity: x %2, y %3")
+                                             .arg(color.name)
+                                             .arg(given.x())
+                                             .arg(given.y()));
         }
     }
     const auto target
         = [](double luminance, const QPointF &xy) { return Model::Target::fromYxy(luminance, xy.x(), xy.y()); };
     if (!Model::spanTriangle(
             {target(0.0, primaries.red), target(0.0, primaries.green), target(0.0, primaries.blue), {}})) {
-        return Failure::failure(noTriangleText());
+        return GamutOutcome::failure(noTriangleText());
     }
     double red = 0.0;
     double green = 0.0;
@@ -195,7 +195,7 @@ Outcome<Model::ColorGamut> gamutFromPrimaries(
     const auto adds
         = [](double luminance, const QPointF &xy) { return std::isfinite(luminance) && luminance / xy.y() >= 0.0; };
     if (!adds(red, primaries.red) || !adds(green, primaries.green) || !adds(blue, primaries.blue)) {
-        return Failure::failure(PrimariesText::tr("the white point lies outside the triangle of the primaries"));
+        return GamutOutcome::failure(PrimariesText::tr("the white point lies outside the triangle of the primaries"));
     }
     return Model::ColorGamut(name.toStdString(),
         {target(red, primaries.red), target(green, primaries.green), target(blue, primaries.blue),

@@ -25,7 +25,7 @@ constexpr int headerSize = 128;
 constexpr int colorSpaceOffset = 16;
 constexpr int signatureOffset = 36;
 
-using Failure = Outcome<IccDisplay>;
+using IccOutcome = Outcome<IccDisplay>;
 using Vector = std::array<double, 3>;
 using Matrix = std::array<Vector, 3>; // rows
 
@@ -315,34 +315,34 @@ Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes)
 Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes, const IccMemory &memory)
 {
     if (!isIccProfile(bytes)) {
-        return Failure::failure(bytes.size() < headerSize
+        return IccOutcome::failure(bytes.size() < headerSize
                 ? IccText::tr("is a truncated ICC profile: the header is incomplete")
                 : IccText::tr("is not an ICC profile"));
     }
     const auto size = bytes.size() < headerSize ? 0U : bigEndian(bytes, 0);
     if (bytes.size() < headerSize || quint32(bytes.size()) < size) {
-        return Failure::failure(
+        return IccOutcome::failure(
             IccText::tr("is a truncated ICC profile: %1 bytes instead of %2").arg(bytes.size()).arg(size));
     }
     const Profile profile(memory.context()
             ? cmsOpenProfileFromMemTHR(memory.context(), bytes.constData(), cmsUInt32Number(bytes.size()))
             : nullptr);
     if (!profile) {
-        return Failure::failure(IccText::tr("is a damaged ICC profile"));
+        return IccOutcome::failure(IccText::tr("is a damaged ICC profile"));
     }
     const quint32 space = bigEndian(bytes, colorSpaceOffset);
     if (space != cmsSigRgbData) {
-        return Failure::failure(IccText::tr("has no primaries: it is %1").arg(colorSpaceName(space)));
+        return IccOutcome::failure(IccText::tr("has no primaries: it is %1").arg(colorSpaceName(space)));
     }
     const auto *red = colorTag(profile, cmsSigRedColorantTag);
     const auto *green = colorTag(profile, cmsSigGreenColorantTag);
     const auto *blue = colorTag(profile, cmsSigBlueColorantTag);
     if (!red || !green || !blue) {
-        return Failure::failure(IccText::tr("has no primaries: the ICC profile has no colorant tags"));
+        return IccOutcome::failure(IccText::tr("has no primaries: the ICC profile has no colorant tags"));
     }
     const auto native = unadaptation(profile, bytes);
     if (!native) {
-        return Failure::failure(IccText::tr("is a damaged ICC profile: its white cannot be read"));
+        return IccOutcome::failure(IccText::tr("is a damaged ICC profile: its white cannot be read"));
     }
     const Primaries primaries{chromaticity(*native * vector(*red)), chromaticity(*native * vector(*green)),
         chromaticity(*native * vector(*blue)), chromaticity(*native * vector(*cmsD50_XYZ()))};
@@ -355,7 +355,7 @@ Outcome<IccDisplay> readIccDisplay(const QByteArray &bytes, const IccMemory &mem
     const auto gamut
         = gamutFromPrimaries(name, primaries, display.whiteLuminance.value_or(1.0), PrimariesOf::ColorSpace);
     if (!gamut) {
-        return Failure::failure(IccText::tr("is an ICC profile without usable primaries: %1").arg(gamut.error()));
+        return IccOutcome::failure(IccText::tr("is an ICC profile without usable primaries: %1").arg(gamut.error()));
     }
     display.gamut
         = DisplayGamut(*gamut, display.whiteLuminance ? LuminanceUnit::CandelaPerSquareMetre : LuminanceUnit::Relative);

@@ -13,7 +13,7 @@ namespace gamutfiles {
 
 namespace {
 
-struct StreamText {
+struct RowsText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::MeasurementStream)
 };
 
@@ -39,12 +39,12 @@ bool StreamRows::begin(const QVector<NumberedLine> &lines, const Refusal &refuse
         = [&last](int field) { return decimalEvidence(last.fields.value(field)) != DecimalEvidence::NotANumber; };
     // A line below the header may tell the units. Without a header anything may precede the first measurement.
     if (recognized.headerLine > 0 ? last.line <= recognized.headerLine : !isNumber(1) || !isNumber(2) || !isNumber(3)) {
-        return fail(StreamText::tr("the header and the first measurement are awaited"));
+        return fail(RowsText::tr("the header and the first measurement are awaited"));
     }
     m_decimalSign = m_options.decimalSign.value_or(m_decimalSign);
     for (const CsvRow &row : std::as_const(m_table.rows)) {
         if (isAboveHeader(row)) {
-            refuse(row.line, Problem{StreamText::tr("is above the line that names the columns"), QString(), 0, 0});
+            refuse(row.line, Problem{RowsText::tr("is above the line that names the columns"), QString(), 0, 0});
             keepUnread(row);
         }
     }
@@ -152,7 +152,7 @@ void StreamRows::read(const CsvRow &row, QVector<Measurement> &found, const Refu
         refuse(row.line, m_failure);
         keepUnread(row);
     } else if (m_withoutNumbers.count > 0) {
-        refuse(row.line, Problem{StreamText::tr("has no numbers"), place(row.line), 0, 0});
+        refuse(row.line, Problem{RowsText::tr("has no numbers"), place(row.line), 0, 0});
     }
     found += m_list.measurements;
     m_unread += m_list.withoutNumbers;

@@ -13,7 +13,7 @@ namespace gamutfiles {
 
 namespace {
 
-using Failure = Outcome<DecodedText>;
+using DecodingOutcome = Outcome<DecodedText>;
 
 struct EncodingText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::TextEncoding)
@@ -164,7 +164,7 @@ Outcome<DecodedText> decodeAs(const QByteArray &bytes, TextEncoding encoding)
     case TextEncoding::Gb18030: {
         const auto converted = systemcalls::fromGb18030({bytes.constData(), std::size_t(bytes.size())});
         if (!converted.available) {
-            return Failure::failure(EncodingText::tr("is GB18030 text, which this system cannot convert"));
+            return DecodingOutcome::failure(EncodingText::tr("is GB18030 text, which this system cannot convert"));
         }
         if (converted.utf8) {
             text = QString::fromStdString(*converted.utf8);
@@ -173,7 +173,7 @@ Outcome<DecodedText> decodeAs(const QByteArray &bytes, TextEncoding encoding)
     }
     }
     if (!text || text->contains(QChar(0))) {
-        return Failure::failure(notText(encoding));
+        return DecodingOutcome::failure(notText(encoding));
     }
     return DecodedText{*text, encoding};
 }
@@ -188,7 +188,7 @@ Outcome<DecodedText> decodeGuess(const QByteArray &bytes)
         return decoded;
     }
     if (hasControls(decoded->text)) {
-        return Failure::failure(notText(TextEncoding::Utf8));
+        return DecodingOutcome::failure(notText(TextEncoding::Utf8));
     }
     const int more = std::max(evidence.common, evidence.rare);
     const int fewer = std::min(evidence.common, evidence.rare);
@@ -221,7 +221,7 @@ Outcome<DecodedText> decodeText(const QByteArray &bytes, std::optional<TextEncod
     if (bytes.contains('\0')) {
         const auto encoding16 = utf16WithoutMark(bytes);
         const auto decoded = decodeAs(bytes, encoding16.value_or(TextEncoding::Utf8));
-        return decoded && hasControls(decoded->text) ? Failure::failure(notText(TextEncoding::Utf8)) : decoded;
+        return decoded && hasControls(decoded->text) ? DecodingOutcome::failure(notText(TextEncoding::Utf8)) : decoded;
     }
     return fromUtf8(bytes) ? decodeAs(bytes, TextEncoding::Utf8) : decodeGuess(bytes);
 }
