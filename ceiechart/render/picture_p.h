@@ -21,7 +21,7 @@ namespace ceiechart {
  * the paint engine draws several times faster. The engine cannot fill a picture beyond the range of its coordinates;
  * such a picture is transparent there and has the straight format.
  */
-inline std::unique_ptr<QImage> newPicture(int width, int height, const QColor &background, QImage former = QImage())
+inline std::unique_ptr<QImage> newPicture(int width, int height, const QColor &background, QImage former)
 {
     constexpr int engineReach = 32767;
     const bool opaque = background.isValid() && background.alpha() == 255 && std::max(width, height) <= engineReach;
@@ -29,8 +29,12 @@ inline std::unique_ptr<QImage> newPicture(int width, int height, const QColor &b
     auto picture = std::make_unique<QImage>();
     if (former.size() == QSize(width, height) && former.isDetached() && former.reinterpretAsFormat(format)) {
         picture->swap(former);
+        // As a new one has them: the sizes of texts depend on them.
+        const QImage smallest(1, 1, format);
+        picture->setDotsPerMeterX(smallest.dotsPerMeterX());
+        picture->setDotsPerMeterY(smallest.dotsPerMeterY());
     } else {
-        former = QImage(); // first, lest there be memory for both
+        former = QImage(); // first, so that both never need memory at once
         *picture = QImage(width, height, format);
     }
     if (!opaque) {

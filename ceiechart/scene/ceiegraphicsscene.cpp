@@ -119,7 +119,7 @@ void CEIEGraphicsScene::setLsColorTriangleObject(const QList<ColorTriangleObject
     scene.standards = second;
     setLsColorTriangleObject(triangles);
     scene.gamuts = Private::Gamuts{triangles, first, other, flag, text};
-    scene.giveMemory();
+    const ceiechart::GivenMemory given = scene.giveMemory();
     scene.picture.reset(scene.renderGamuts());
 }
 

@@ -55,6 +55,22 @@ private:
     double m_pixelRatio = 1.0;
 };
 
+/*! \brief Keeps a large picture where a renderer takes it from, and releases it in the end if it has not been taken. */
+class GivenMemory {
+public:
+    GivenMemory(QImage &place, QImage picture)
+        : m_place(place)
+    {
+        m_place.swap(picture);
+    }
+    ~GivenMemory() { m_place = QImage(); }
+    GivenMemory(const GivenMemory &) = delete;
+    GivenMemory &operator=(const GivenMemory &) = delete;
+
+private:
+    QImage &m_place;
+};
+
 } // namespace ceiechart
 
 #endif

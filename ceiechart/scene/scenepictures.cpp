@@ -70,15 +70,15 @@ int TargetScene::threadCount() const
     return d->diagramRenderer().threadCount();
 }
 
-void TargetScene::Private::giveMemory()
+GivenMemory TargetScene::Private::giveMemory()
 {
-    diagramRenderer().d->former = picture.takeLarge();
+    return GivenMemory(diagramRenderer().d->former, picture.takeLarge());
 }
 
 void TargetScene::renderAgain()
 {
     if (d->picture.isSet()) {
-        d->giveMemory();
+        const GivenMemory given = d->giveMemory();
         d->showPicture(d->renderShown());
     }
 }

@@ -165,7 +165,7 @@ bool TargetScene::isDrawWaveLength()
 
 void TargetScene::getBitMap()
 {
-    d->giveMemory();
+    const GivenMemory given = d->giveMemory();
     d->picture.reset();
     d->imageWidth = zoomed(d->imageWidth, d->zoom);
     d->imageHeight = zoomed(d->imageHeight, d->zoom);

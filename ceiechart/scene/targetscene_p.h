@@ -49,8 +49,12 @@ public:
     virtual void setGraphColor(const QColor &line, const QColor &picture) = 0;
     /*! \brief The renderer of the pictures. */
     virtual DiagramRenderer &diagramRenderer() = 0;
-    /*! \brief Lets the next picture have the memory of the one that it replaces. */
-    void giveMemory();
+    /*!
+     * \brief Lets the picture that is rendered until the result ends have the memory of the one that it replaces.
+     *
+     * Until then, and if the rendering ends by an exception, there is no picture if the former one is large.
+     */
+    GivenMemory giveMemory();
     /*! \brief The chromaticity for coordinates of the diagram: the inverse of toDiagram(). */
     virtual QPointF fromDiagram(const QPointF &shown) { return shown; }
     /*! \brief Told when a host has replaced the gamuts. */
