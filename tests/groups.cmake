@@ -10,7 +10,7 @@ set(ceiechart_tests_per_group 8)
 #   together with others of its folder that have the same precompiled headers, options and libraries.
 function(ceiechart_group_test result name headers options libraries)
     # In a group each test has a namespace. What has to stand outside of it is compiled by itself.
-    file(STRINGS ${name}.cpp outside REGEX "^ *(Q_DECLARE_METATYPE|namespace [a-zA-Z]|template *<>|#define main)")
+    file(STRINGS ${name}.cpp outside REGEX "^ *(Q_DECLARE_METATYPE|namespace [a-zA-Z]|template *<>|#define main|extern \"C\")")
     if(outside)
         return()
     endif()
@@ -57,13 +57,22 @@ function(ceiechart_compile_groups)
 endfunction()
 
 function(ceiechart_compile_group group tests headers options libraries)
-    # Headers come first, for those that the tests include again to add nothing to a namespace.
+    # The headers come first. Included again inside a namespace, they then add nothing to it. The first two are included by
+    # what moc writes.
     set(includes "")
+    foreach(header qtmochelpers.h qxptype_traits.h)
+        list(APPEND includes "#if __has_include(<QtCore/${header}>)\n#include <QtCore/${header}>\n#endif")
+    endforeach()
     set(bodies "")
     set(mocs "")
     set(definitions "")
     foreach(test IN LISTS tests)
-        file(STRINGS ${test}.cpp lines REGEX "^#include [<\"].*[.>h\"]$")
+        file(STRINGS ${test}.cpp lines REGEX "^ *# *include")
+        set(odd ${lines})
+        list(FILTER odd EXCLUDE REGEX "^#include [<\"][^<>\"]+[>\"]$")
+        if(odd)
+            message(FATAL_ERROR "${test}.cpp: not as a line of its own: ${odd}")
+        endif()
         list(FILTER lines EXCLUDE REGEX "[.]moc\"$")
         list(APPEND includes ${lines})
         string(APPEND bodies "namespace of_${test} {\n#include \"${test}.cpp\"\n}\n")
