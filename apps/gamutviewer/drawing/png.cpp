@@ -93,7 +93,7 @@ QByteArray filteredRows(const QImage &image)
 //! \a rows in the format of zlib, or nothing without memory. Takes half of the time of zlib, for a smaller file.
 QByteArray compressed(const QByteArray &rows)
 {
-    constexpr int level = 1; // further ones take longer, for some hundredths of the size
+    constexpr int level = 1; // higher ones take longer, for some hundredths of the size
     const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> compressor(
         libdeflate_alloc_compressor(level), libdeflate_free_compressor);
     if (!compressor) {
