@@ -14,7 +14,7 @@ using namespace gamutfiles;
 namespace {
 
 constexpr std::size_t choices = 2; // bytes before the list
-constexpr int looks = 8; // at the wall of a list that is not complete yet: each takes as long as to read many pieces
+constexpr int looks = 8; // at least, at the wall of a longer list so far: each takes as long as to read many pieces
 
 bool isSame(const Measurement &a, const Measurement &b)
 {

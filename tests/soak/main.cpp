@@ -26,7 +26,7 @@ constexpr int stepsPerRound = 400;
 #ifdef SOAK_SANITIZED
 constexpr double longestStep = 15.0; // seconds; the sanitizers take their share
 #else
-constexpr double longestStep = 3.0; // a picture recorded with 30 million pixels takes one: Qt compresses it
+constexpr double longestStep = 3.0; // one on a fast machine, three on a slow one
 #endif
 
 using Use = void (*)(soak::Round &round);

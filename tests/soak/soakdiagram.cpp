@@ -134,6 +134,8 @@ protected:
         case PdmPhysicalDpiX:
         case PdmPhysicalDpiY:
             return dotsPerInch;
+        case PdmDevicePixelRatio:
+            return 1;
         case PdmWidth:
         case PdmHeight:
             return std::numeric_limits<int>::max();

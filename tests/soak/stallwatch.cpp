@@ -85,7 +85,8 @@ private:
     {
         constexpr double longestWait = 30.0;
         constexpr double leastShare = 0.01; // of the time, for a program that waits only for the processor
-        constexpr double mostAtOnce = 0.5; // of a look: more passes only while the whole machine stands still
+        constexpr double mostAtOnce
+            = 0.5; // of a look: more passes while the machine stands still, or this thread waits
         constexpr std::chrono::milliseconds interval(50);
         unsigned last = 0;
         double computed = seconds(m_clock);

@@ -12,7 +12,8 @@ namespace soak {
  * what was being done.
  *
  * A step takes too long when it computes for longer than the limit, or does not end for half a minute because it waits.
- * Time in which other programs had the processor does not count. Does nothing where the system is not POSIX.
+ * Time in which other programs had the processor, or the whole machine stood still, does not count. Does nothing where
+ * the system is not POSIX.
  */
 class StallWatch {
 public:
