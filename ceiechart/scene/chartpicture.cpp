@@ -63,7 +63,7 @@ void ChartPicture::reset(QImage *picture)
 QImage ChartPicture::takeLarge()
 {
     // The C library returns a larger block to the system, and gets a new one with a page fault for every 4 KiB.
-    constexpr qint64 largestKept = 32 * 1024 * 1024;
+    constexpr auto largestKept = qint64(32) * 1024 * 1024;
     return m_image.sizeInBytes() > largestKept && m_image.isDetached() ? std::exchange(m_image, QImage()) : QImage();
 }
 

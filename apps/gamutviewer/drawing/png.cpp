@@ -20,7 +20,7 @@ namespace gamutviewer {
 namespace {
 
 constexpr int qualityOfLevel = 70; // as QImage::save() has it
-constexpr qint64 mostBytes = 64 * 1024 * 1024; // to hold in memory beside the picture, and once more in the worst case
+constexpr auto mostBytes = qint64(64) * 1024 * 1024; // in memory beside the picture, and once more in the worst case
 constexpr char filterUp = 2; // each byte less that of the row above
 constexpr int bytesOfFrame = 100; // of a file, but for its pixels: no less than there are
 
