@@ -20,7 +20,7 @@
 
 using namespace gamutviewer;
 
-/*! Saves, exports and opens again and again, and lets another call of the system fail each time. */
+/*! Saves, exports and opens again and again, and lets another call of the system or allocation fail each time. */
 class WindowFaultsTest : public QObject {
     Q_OBJECT
 

@@ -26,7 +26,7 @@ constexpr int stepsPerRound = 400;
 #ifdef SOAK_SANITIZED
 constexpr double longestStep = 15.0; // seconds; the sanitizers take their share
 #else
-constexpr double longestStep = 3.0; // one on a fast machine, three on a slow one
+constexpr double longestStep = 3.0; // the longest steps take about a second on a fast machine
 #endif
 
 using Use = void (*)(soak::Round &round);
