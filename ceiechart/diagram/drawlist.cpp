@@ -204,6 +204,41 @@ void putGlyphs(QPainter &painter, const QList<QGlyphRun> &runs, const QVector<QP
     }
 }
 
+//! \a lines, each moved by \a distance to its left as seen from its first end.
+QVector<QLineF> movedAside(const QVector<QLineF> &lines, double distance)
+{
+    QVector<QLineF> moved;
+    moved.reserve(lines.size());
+    for (const QLineF &line : lines) {
+        const double length = line.length();
+        moved.append(line.translated(length > 0.0 ? QPointF(line.dy(), -line.dx()) * (distance / length) : QPointF()));
+    }
+    return moved;
+}
+
+/*!
+ * Paints separate lines with flat ends.
+ *
+ * The raster engine paints three lines that are one pixel wide in half of the time that it takes for one of three
+ * pixels.
+ */
+void paintLines(QPainter &painter, const QVector<QLineF> &lines, QPen pen)
+{
+    constexpr double three = 3.0;
+    constexpr double apart = 0.9; // so that nothing shows between them
+    const bool hasPixelsOfOne = isRaster(painter) && painter.deviceTransform().type() <= QTransform::TxTranslate;
+    if (pen.widthF() != three || !hasPixelsOfOne) {
+        painter.setPen(pen);
+        painter.drawLines(lines);
+        return;
+    }
+    pen.setWidthF(1.0);
+    painter.setPen(pen);
+    for (const double side : {-apart, 0.0, apart}) {
+        painter.drawLines(side == 0.0 ? lines : movedAside(lines, side));
+    }
+}
+
 //! What \a marks, of which there is one, cover together.
 QRectF boundsOf(const QVector<PlacedMark> &marks)
 {
@@ -398,7 +433,6 @@ void DrawList::paintItem(QPainter *painter, const Lines &item, const QRegion &ne
 {
     QVector<QLineF> lines = item.lines;
     keepNeeded(lines, item.pen, needed);
-    painter->setPen(item.pen);
     if (item.lines.size() > mostSmoothLines && isRaster(*painter)) {
         const bool isSmooth = painter->testRenderHint(QPainter::Antialiasing);
         painter->setPen(QPen(item.pen.color(), 0.0));
@@ -407,7 +441,7 @@ void DrawList::paintItem(QPainter *painter, const Lines &item, const QRegion &ne
         painter->setRenderHint(QPainter::Antialiasing, isSmooth);
         return;
     }
-    painter->drawLines(lines);
+    paintLines(*painter, lines, item.pen);
 }
 
 void DrawList::paintItem(QPainter *painter, const Shape &item, const QRegion & /*needed*/)
