@@ -29,6 +29,11 @@ double lengthWithin(const QPolygonF &points, const QRectF &area)
 {
     double length = 0.0;
     for (int i = 1; i < points.size(); ++i) {
+        const bool isApart = std::max(points[i - 1].x(), points[i].x()) < area.left()
+            || std::min(points[i - 1].x(), points[i].x()) > area.right();
+        if (isApart) {
+            continue; // as nearly all are
+        }
         if (const auto part = partWithin(QLineF(points[i - 1], points[i]), area)) {
             length += part->length();
         }
@@ -44,6 +49,9 @@ double areaOf(const QRectF &rectangle)
 //! How much of \a area lies within \a polygon, from 0 to 1 and roughly.
 double shareWithin(const QPolygonF &polygon, const QRectF &area)
 {
+    if (!polygon.boundingRect().intersects(area)) {
+        return 0.0;
+    }
     constexpr int columns = 6;
     constexpr int rows = 2;
     int count = 0;

@@ -331,16 +331,31 @@ private:
                 return sign * (way.x() * to.y() - way.y() * to.x()) < 0.0;
             });
         };
-        constexpr double step = 2.0;
-        QLineF from = isotherm(hottest);
-        for (double mired = hottest; mired + step <= coolest; mired += step) {
-            const QLineF to = isotherm(mired + step);
+        const auto isSeenBetween = [&](const QLineF &from, const QLineF &to, double room) {
             const QRectF bounds = QPolygonF(QVector<QPointF>{from.p1(), from.p2(), to.p1(), to.p2()}).boundingRect();
+            const QRectF area = bounds.adjusted(
+                -room * bounds.width(), -room * bounds.height(), room * bounds.width(), room * bounds.height());
             // The hotter isotherm has the cooler one on its right, which on the screen is the positive side.
-            if (bounds.intersects(m_plot) && !isBehind(from, 1.0) && !isBehind(to, -1.0)) {
-                seen = std::make_pair(seen ? seen->first : mired, mired + step);
+            return area.intersects(m_plot) && !isBehind(from, 1.0) && !isBehind(to, -1.0);
+        };
+        constexpr double step = 2.0;
+        constexpr int stepsAtOnce = 17; // of the 493 steps
+        constexpr double roomOfMany = 0.1; // the ends of isotherms lie on curves
+        QLineF begin = isotherm(hottest);
+        for (double first = hottest; first + step <= coolest; first += stepsAtOnce * step) {
+            const double last = std::min(first + stepsAtOnce * step, coolest);
+            const QLineF end = isotherm(last);
+            if (isSeenBetween(begin, end, roomOfMany)) {
+                QLineF from = begin;
+                for (double mired = first; mired + step <= last; mired += step) {
+                    const QLineF to = isotherm(mired + step);
+                    if (isSeenBetween(from, to, 0.0)) {
+                        seen = std::make_pair(seen ? seen->first : mired, mired + step);
+                    }
+                    from = to;
+                }
             }
-            from = to;
+            begin = end;
         }
         return seen;
     }
