@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/diagramcolors_p.h>
 #include <ceiechart/diagram/horseshoefill_p.h>
+#include <ceiechart/diagram/polylines_p.h>
 #include <ceiechart/diagram/rowcoverage_p.h>
 #include <ceiechart/diagram/spectrum_p.h>
 
@@ -259,13 +260,12 @@ QRect rowsOfDifference(const QPolygonF &a, const QPolygonF &b, const QRect &plot
     double top = plot.bottom() + 1.0;
     double bottom = plot.top();
     const auto addOthers = [&](const QPolygonF &some, const QPolygonF &others) {
-        const auto isSame = [](const QPointF &p, const QPointF &q) { return p.x() == q.x() && p.y() == q.y(); };
         for (int i = 0; i < some.size(); ++i) {
             const QPointF &from = some.at(i);
             const QPointF &to = some.at((i + 1) % some.size());
             bool isShared = false;
             for (int k = 0; k < others.size() && !isShared; ++k) {
-                isShared = isSame(from, others.at(k)) && isSame(to, others.at((k + 1) % others.size()));
+                isShared = isExactly(from, others.at(k)) && isExactly(to, others.at((k + 1) % others.size()));
             }
             if (!isShared) {
                 top = std::min({top, from.y(), to.y()});

@@ -110,9 +110,7 @@ bool DiagramView::Private::apply(const EditStep &step, bool isSlow)
     if (isChange) {
         putTarget(*step.move.targets);
     } else {
-        const QRegion former = overlayRegion(overlay);
-        refreshOverlay();
-        q->update(former + overlayRegion(overlay));
+        updateOverlay();
     }
     if (step.move.reason != lastReason) {
         lastReason = step.move.reason;
@@ -151,11 +149,9 @@ void DiagramView::Private::dropLabel()
     if (!label && guidesXy.isEmpty()) {
         return;
     }
-    const QRegion former = overlayRegion(overlay);
     label.reset();
     guidesXy.clear();
-    refreshOverlay();
-    q->update(former + overlayRegion(overlay));
+    updateOverlay();
 }
 
 void DiagramView::Private::finishEditing()

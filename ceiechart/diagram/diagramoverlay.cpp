@@ -3,6 +3,7 @@
 #include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
 #include <ceiechart/diagram/drawlist_p.h>
+#include <ceiechart/diagram/polylines_p.h>
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -23,6 +24,7 @@ constexpr double lockedRadius = 5.0;
 constexpr double crossReach = 12.0; // of the arms at the white
 constexpr double labelPadding = 6.0;
 constexpr double guideWidth = 1.5;
+constexpr double guideRoom = 6.0; // round the plot, so that the ends of guides are not seen
 
 double radiusOf(const DiagramOverlay::Handle &handle)
 {
@@ -57,38 +59,6 @@ QPainterPath armsOf(const DiagramOverlay::Handle &handle)
     return path;
 }
 
-//! Paints what can be seen within \a needed of the line through \a points.
-void paintGuide(QPainter &painter, const QPolygonF &points, QPen pen, const QRegion &needed)
-{
-    constexpr double room = 6.0; // on either side, for the width and for the ends of parts
-    QPolygonF part;
-    double length = 0.0; // of the line so far
-    double begin = 0.0; // of the part, on the line
-    const auto paintPart = [&] {
-        if (!part.isEmpty()) {
-            if (pen.style() != Qt::SolidLine) {
-                pen.setDashOffset(begin / pen.widthF());
-            }
-            painter.setPen(pen);
-            painter.drawPolyline(part);
-            part.clear();
-        }
-    };
-    for (int i = 1; i < points.size(); ++i) {
-        const QLineF piece(points[i - 1], points[i]);
-        if (!isLineNeeded(piece, room, needed)) {
-            paintPart();
-        } else if (part.isEmpty()) {
-            begin = length;
-            part << piece.p1() << piece.p2();
-        } else {
-            part << piece.p2();
-        }
-        length += piece.length();
-    }
-    paintPart();
-}
-
 QFont boldOf(QFont font)
 {
     font.setBold(true);
@@ -100,6 +70,29 @@ QFont boldOf(QFont font)
 QRectF DiagramOverlay::bounds(const Handle &handle)
 {
     return QRectF(handle.at.x() - handleExtent, handle.at.y() - handleExtent, 2.0 * handleExtent, 2.0 * handleExtent);
+}
+
+bool DiagramOverlay::Handle::operator==(const Handle &other) const
+{
+    return vertex == other.vertex && isExactly(at, other.at) && isMovable == other.isMovable
+        && isSelected == other.isSelected && isHovered == other.isHovered && hasFocus == other.hasFocus;
+}
+
+QLineF DiagramOverlay::labelLine() const
+{
+    const QPointF at = handles.isEmpty() ? labelPlace.center() : handles.last().at;
+    return QLineF(QPointF(std::clamp(at.x(), labelPlace.left(), labelPlace.right()),
+                      std::clamp(at.y(), labelPlace.top(), labelPlace.bottom())),
+        at);
+}
+
+bool DiagramOverlay::hasSameLabel(const DiagramOverlay &other) const
+{
+    return label == other.label
+        && (label.isEmpty()
+            || (isExactly(labelPlace.topLeft(), other.labelPlace.topLeft())
+                && isExactly(labelPlace.bottomRight(), other.labelPlace.bottomRight())
+                && isExactly(labelLine().p2(), other.labelLine().p2())));
 }
 
 QStringList DiagramOverlay::wrapped(const QStringList &lines, const QFont &font, double width)
@@ -185,31 +178,31 @@ void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramP
         painter.save();
         painter.setClipRect(plot, Qt::IntersectClip);
         painter.setBrush(Qt::NoBrush);
+        const QPen line(palette.accent, guideWidth, Qt::DashLine, Qt::FlatCap);
         for (const QPolygonF &guide : guides) {
-            for (const bool isCasing : {true, false}) {
-                QPen pen(isCasing ? palette.casing : palette.accent, isCasing ? guideWidth + 2.0 : guideWidth);
-                pen.setStyle(isCasing ? Qt::SolidLine : Qt::DashLine);
-                if (guide.size() == 1) {
-                    painter.setPen(pen);
-                    painter.drawRect(QRectF(guide.first().x() - guideReach, guide.first().y() - guideReach,
-                        2.0 * guideReach, 2.0 * guideReach));
-                } else {
-                    paintGuide(painter, guide, pen, needed);
-                }
+            if (guide.size() == 1) {
+                const QRectF box(
+                    guide.first().x() - guideReach, guide.first().y() - guideReach, 2.0 * guideReach, 2.0 * guideReach);
+                painter.setPen(QPen(palette.casing, guideWidth + lineCasing));
+                painter.drawRect(box);
+                painter.setPen(line);
+                painter.drawRect(box);
+            } else {
+                DrawList list;
+                drawCased(list, guide, false, plot.adjusted(-guideRoom, -guideRoom, guideRoom, guideRoom), line,
+                    palette.casing);
+                list.paint(&painter, needed);
             }
         }
         painter.restore();
     }
     if (!label.isEmpty() && !handles.isEmpty()) {
         // From the label to the handle, short of both.
-        const QPointF at = handles.last().at;
-        const QPointF from(std::clamp(at.x(), labelPlace.left(), labelPlace.right()),
-            std::clamp(at.y(), labelPlace.top(), labelPlace.bottom()));
-        const QPointF way = at - from;
-        const double length = std::hypot(way.x(), way.y());
+        const QLineF line = labelLine();
+        const double length = std::hypot(line.dx(), line.dy());
         if (length > handleExtent) {
             painter.setPen(QPen(palette.numbers, 1.0));
-            painter.drawLine(from, at - way * ((handleExtent) / length));
+            painter.drawLine(line.p1(), line.p2() - (line.p2() - line.p1()) * (handleExtent / length));
         }
     }
     for (const Handle &handle : handles) {
@@ -217,7 +210,7 @@ void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramP
             paintHandle(painter, handle, palette);
         }
     }
-    if (!label.isEmpty()) {
+    if (!label.isEmpty() && needed.intersects(labelPlace.adjusted(-2.0, -2.0, 2.0, 2.0).toAlignedRect())) {
         QPainterPath box;
         box.addRoundedRect(labelPlace.adjusted(0.5, 0.5, -0.5, -0.5), 4.0, 4.0);
         painter.setPen(QPen(palette.frame, 1.0));

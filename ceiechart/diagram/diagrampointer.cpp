@@ -169,9 +169,7 @@ void DiagramView::Private::hoverAgain()
     }
     const bool isInside = viewport.plot().contains(*pointer);
     if (handleBelowPointer() != hovered) {
-        const QRegion former = overlayRegion(overlay);
-        refreshOverlay();
-        q->update(former + overlayRegion(overlay));
+        updateOverlay();
     }
     isHovering = isInside;
     const QRect formerReadout = overlay.readoutPlace.toAlignedRect();
@@ -194,12 +192,10 @@ void DiagramView::Private::hoverAgain()
 void DiagramView::Private::endHover()
 {
     const bool wasTold = hoverTold.has_value();
-    const QRegion former = overlayRegion(overlay);
     pointer.reset();
     hoverTold.reset();
     isHovering = false;
-    refreshOverlay();
-    q->update(former + overlayRegion(overlay));
+    updateOverlay();
     if (wasTold) {
         tell(&DiagramView::hoverEnded);
     }

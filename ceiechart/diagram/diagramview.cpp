@@ -129,11 +129,9 @@ void DiagramView::setSelectedVertex(std::optional<GamutVertex> vertex)
     if (!view || isIgnored()) {
         return;
     }
-    const QRegion former = d->overlayRegion(d->overlay);
     d->dropLabel();
     d->selected = vertex;
-    d->refreshOverlay();
-    update(former + d->overlayRegion(d->overlay));
+    d->updateOverlay();
     if (vertex && hasFocus()) {
         announceFocus(this, *vertex);
     }
@@ -191,9 +189,7 @@ void DiagramView::setEditNote(const QString &note)
     }
     d->editNote = note;
     if (d->label) {
-        const QRegion former = d->overlayRegion(d->overlay);
-        d->refreshOverlay();
-        update(former + d->overlayRegion(d->overlay));
+        d->updateOverlay();
     }
     d->tell(&DiagramView::editNoteChanged);
 }

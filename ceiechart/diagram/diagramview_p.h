@@ -36,8 +36,10 @@ struct DiagramOverlay {
         bool isSelected = false;
         bool isHovered = false;
         bool hasFocus = false;
+
+        bool operator==(const Handle &other) const;
     };
-    QVector<Handle> handles;
+    QVector<Handle> handles; //!< from bottom to top; the label is that of the last
     QVector<QPolygonF> guides; //!< what was snapped to and what movement is locked to; a single point is a place
     QStringList label; //!< lines of the label at what is edited; empty for none
     QRectF labelPlace;
@@ -47,6 +49,10 @@ struct DiagramOverlay {
 
     //! What \a handle covers, with its ring.
     static QRectF bounds(const Handle &handle);
+    //! The line from the label to what it belongs to, from the nearest place of the label to the middle of the handle.
+    QLineF labelLine() const;
+    //! Whether \a other shows the same label at the same place, or no label either.
+    bool hasSameLabel(const DiagramOverlay &other) const;
     //! \a lines, the first as it is, the others broken where they are wider than \a width.
     static QStringList wrapped(const QStringList &lines, const QFont &font, double width);
     static QSizeF labelSize(const QStringList &lines, const QFont &font);
@@ -135,7 +141,10 @@ public:
     void forgetPictures();
     const QImage &linesPicture();
     void refreshOverlay();
-    QRegion overlayRegion(const DiagramOverlay &overlay) const;
+    //! Refreshes the overlay, and has what looks otherwise then painted again.
+    void updateOverlay();
+    //! Where \a some shows what \a other does not.
+    QRegion overlayRegion(const DiagramOverlay &some, const DiagramOverlay &other) const;
     bool meetsAnother(const Model::Targets &targets) const;
     QRegion editedRegion(const Model::Targets &before, const Model::Targets &after) const;
     void placeLabel();

@@ -115,21 +115,24 @@ const QImage &DiagramView::Private::linesPicture()
     return lines;
 }
 
-QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
+QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some, const DiagramOverlay &other) const
 {
     QRegion region;
     for (const DiagramOverlay::Handle &handle : some.handles) {
-        region += pixelsAround(DiagramOverlay::bounds(handle), 2.0);
+        if (!other.handles.contains(handle)) {
+            region += pixelsAround(DiagramOverlay::bounds(handle), 2.0);
+        }
     }
-    if (!some.label.isEmpty()) {
+    if (!some.label.isEmpty() && !some.hasSameLabel(other)) {
         region += pixelsAround(some.labelPlace, 2.0);
-        // The line from the label to the handle, which may be far away.
-        const QPointF at = positionOf(selected.value_or(GamutVertex::White));
-        const QRectF &box = some.labelPlace;
-        const QPointF from(std::clamp(at.x(), box.left(), box.right()), std::clamp(at.y(), box.top(), box.bottom()));
-        region += regionBetween(QLineF(from, at), QLineF(from, at), QRectF(q->rect()), lineRoom);
+        // The handle may be far away.
+        region += regionBetween(some.labelLine(), some.labelLine(), QRectF(q->rect()), lineRoom);
     }
     for (const QPolygonF &guide : some.guides) {
+        if (std::any_of(other.guides.begin(), other.guides.end(),
+                [&guide](const QPolygonF &drawn) { return isExactly(drawn, guide); })) {
+            continue;
+        }
         if (guide.size() == 1) {
             region += pixelsAround(guide.boundingRect(), guideReach + lineRoom);
         }
@@ -138,16 +141,23 @@ QRegion DiagramView::Private::overlayRegion(const DiagramOverlay &some) const
             region += regionBetween(line, line, QRectF(q->rect()), lineRoom);
         }
     }
-    if (!some.readout.isEmpty()) {
+    if (!some.readout.isEmpty() && (some.readout != other.readout || some.readoutPlace != other.readoutPlace)) {
         region += some.readoutPlace.toAlignedRect();
     }
-    if (some.showsFocusFrame) {
+    if (some.showsFocusFrame && !other.showsFocusFrame) {
         constexpr double frameRoom = 4.0; // from the edge of the plot inwards, for the width of the frame
         const QRectF plot = viewport.plot();
         region += QRegion(pixelsAround(plot, 1.0))
                       .subtracted(plot.adjusted(frameRoom, frameRoom, -frameRoom, -frameRoom).toRect());
     }
     return region & q->rect();
+}
+
+void DiagramView::Private::updateOverlay()
+{
+    const DiagramOverlay former = overlay;
+    refreshOverlay();
+    q->update(overlayRegion(former, overlay) + overlayRegion(overlay, former));
 }
 
 bool DiagramView::Private::meetsAnother(const Model::Targets &targets) const
@@ -196,16 +206,15 @@ void DiagramView::Private::putTarget(const Model::Targets &targets)
         return;
     }
     const Model::Targets former = found->gamut.getTargets();
-    const QRegion old = overlayRegion(overlay);
     const QVector<DiagramLabel> labels = painter->labels();
     found->gamut = Model::ColorGamut(found->gamut.colorGamutName(), targets);
     painter->setContent(content);
-    QRegion changed = old;
+    QRegion changed;
     if (meetsAnother(former) || meetsAnother(targets)) {
         // A line that equals another gamut's is drawn otherwise, and that gamut's once more.
         changed = q->rect();
     } else {
-        changed += editedRegion(former, targets);
+        changed = editedRegion(former, targets);
     }
     // Names give way to one another.
     const QVector<DiagramLabel> newLabels = painter->labels();
@@ -224,8 +233,8 @@ void DiagramView::Private::putTarget(const Model::Targets &targets)
     };
     addOthers(labels, newLabels);
     addOthers(newLabels, labels);
-    refreshOverlay();
-    q->update(changed + overlayRegion(overlay));
+    q->update(changed);
+    updateOverlay();
 }
 
 void DiagramView::paint(QPainter *painter, const QRectF &place) const

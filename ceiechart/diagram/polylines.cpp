@@ -177,6 +177,17 @@ bool passesThrough(const QLineF &line, const QRectF &area)
     return area.contains(line.p1()) || area.contains(line.p2()) || partWithin(line, area).has_value();
 }
 
+bool isExactly(const QPointF &a, const QPointF &b)
+{
+    return a.x() == b.x() && a.y() == b.y();
+}
+
+bool isExactly(const QPolygonF &a, const QPolygonF &b)
+{
+    return std::equal(
+        a.begin(), a.end(), b.begin(), b.end(), [](const QPointF &p, const QPointF &q) { return isExactly(p, q); });
+}
+
 bool isSameTriangle(const QPolygonF &a, const QPolygonF &b, double within)
 {
     std::array<int, 3> order{0, 1, 2};

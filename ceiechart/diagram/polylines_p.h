@@ -94,6 +94,11 @@ QPolygonF thinned(const QPolygonF &points, double least);
  */
 std::vector<QPolygonF> dashesOf(const QPolygonF &points, bool closed, const std::vector<double> &pattern, double begin);
 
+/*! \brief Whether \a a and \a b are the same numbers. Qt's comparison takes points for equal that differ a little. */
+bool isExactly(const QPointF &a, const QPointF &b);
+/*! \overload */
+bool isExactly(const QPolygonF &a, const QPolygonF &b);
+
 } // namespace ceiechart
 
 #endif // CEIECHART_DIAGRAM_POLYLINES_P_H

@@ -58,7 +58,7 @@ class DiagramViewPaintingTest : public QObject {
 private Q_SLOTS:
     void hoverRepaintsTheReadoutOnly();
     void dragRepaintsItsSurroundingsOnly();
-    void dragLeavesEdgesThatStay();
+    void dragLeavesEdgesAndHandlesThatStay();
     void partsOfGuidesAreThoseOfTheWhole();
     void partialRepaintsLeaveNothingBehind_data();
     void partialRepaintsLeaveNothingBehind();
@@ -111,7 +111,7 @@ void DiagramViewPaintingTest::dragRepaintsItsSurroundingsOnly()
     view.release(start);
 }
 
-void DiagramViewPaintingTest::dragLeavesEdgesThatStay()
+void DiagramViewPaintingTest::dragLeavesEdgesAndHandlesThatStay()
 {
     View view;
     constexpr GamutVertex primaries[] = {GamutVertex::Red, GamutVertex::Green, GamutVertex::Blue};
@@ -127,6 +127,9 @@ void DiagramViewPaintingTest::dragLeavesEdgesThatStay()
             const GamutVertex to = primaries[(i + 1) % 3];
             const QPoint inTheMiddle = ((view.at(from) + view.at(to)) / 2.0).toPoint();
             QCOMPARE(painted.contains(inTheMiddle), vertex == from || vertex == to);
+            // At the handles of the other primaries, edges end that move with that of one.
+            const QRect handle(view.at(from).toPoint() - QPoint(5, 5), QSize(10, 10));
+            QCOMPARE(painted.intersects(handle), vertex != GamutVertex::White);
         }
         view.release(start);
     }
