@@ -72,8 +72,9 @@ public:
     void takeLine(const StreamLine &line);
     bool takeText(const NumberedLine &line);
     void takeRow(const CsvRow &row, const NumberedLine &line);
-    void keepUnread(const QByteArray &bytes);
-    std::optional<CsvRow> brokenRow(const QByteArray &bytes, const StreamRows &of) const;
+    QString readable(const QByteArray &bytes) const;
+    void keepUnread(const QString &text, qint64 number);
+    std::optional<CsvRow> brokenRow(QString text, const StreamRows &of) const;
     std::unique_ptr<StreamRows> rowsOfWaitingHeader() const;
     bool beginAnew(const NumberedLine &line);
     void findHeader();
@@ -136,7 +137,7 @@ void MeasurementStream::Private::takeLine(const StreamLine &line)
     if (line.isTooLong) {
         refuse(state.lines,
             Problem{StreamText::tr("is longer than %1 KiB").arg(maximumStreamLineBytes / 1024), QString(), 0, 0});
-        keepUnread(line.bytes);
+        keepUnread(readable(line.bytes), state.lines);
         return;
     }
     if (line.hasNoEnd && lastLine == LastLine::MayBeCutOff) {
@@ -146,7 +147,7 @@ void MeasurementStream::Private::takeLine(const StreamLine &line)
     }
     const auto text = decoded(line.bytes);
     if (!text || !takeText({state.lines, *text})) {
-        keepUnread(line.bytes);
+        keepUnread(readable(line.bytes), state.lines);
     }
 }
 
@@ -162,21 +163,25 @@ std::unique_ptr<StreamRows> MeasurementStream::Private::rowsOfWaitingHeader() co
     return nullptr;
 }
 
-void MeasurementStream::Private::keepUnread(const QByteArray &bytes)
+QString MeasurementStream::Private::readable(const QByteArray &bytes) const
+{
+    return readableText(bytes, splitter.encoding() ? splitter.encoding() : encoding);
+}
+
+void MeasurementStream::Private::keepUnread(const QString &text, qint64 number)
 {
     const auto waiting = rows ? nullptr : rowsOfWaitingHeader();
     StreamRows *of = rows ? rows.get() : waiting.get();
-    if (auto row = of ? brokenRow(bytes, *of) : std::nullopt) {
-        row->line = int(state.lines);
+    if (auto row = of ? brokenRow(text, *of) : std::nullopt) {
+        row->line = int(number);
         of->keepUnread(*row);
         findUnread(*of);
     }
 }
 
 //! The fields of a line that cannot be divided into them by the rules: a quote is nothing but a character.
-std::optional<CsvRow> MeasurementStream::Private::brokenRow(const QByteArray &bytes, const StreamRows &of) const
+std::optional<CsvRow> MeasurementStream::Private::brokenRow(QString text, const StreamRows &of) const
 {
-    QString text = readableText(bytes, splitter.encoding() ? splitter.encoding() : encoding);
     text.remove(QLatin1Char('"'));
     const CsvTable table = readCsv(text, of.separator());
     return table.rows.isEmpty() ? std::nullopt : std::make_optional(table.rows.first());
@@ -204,16 +209,27 @@ bool MeasurementStream::Private::takeText(const NumberedLine &line)
 
 void MeasurementStream::Private::findHeader()
 {
-    auto candidate = std::make_unique<StreamRows>(options);
-    if (candidate->begin(head, [this](qint64 line, const Problem &problem) { refuse(line, problem); })) {
-        rows = std::move(candidate);
-        firstRows = rows->takeFirstRows();
-        head.clear();
+    headProblem = Problem();
+    while (!head.isEmpty()) {
+        auto candidate = std::make_unique<StreamRows>(options);
+        if (candidate->begin(head, [this](qint64 line, const Problem &problem) { refuse(line, problem); })) {
+            rows = std::move(candidate);
+            firstRows = rows->takeFirstRows();
+            head.clear();
+            headProblem = Problem();
+            state.warnings = rows->warnings();
+            return;
+        }
+        headProblem = candidate->failure();
+        if (candidate->unterminatedLine() == 0) {
+            break;
+        }
+        // By the separator that the lines show together. All that comes below it would be taken for quoted text.
+        const NumberedLine line = head.takeAt(candidate->unterminatedLine() - 1);
+        refuse(line.number, headProblem);
+        keepUnread(line.text, line.number);
         headProblem = Problem();
-        state.warnings = rows->warnings();
-        return;
     }
-    headProblem = candidate->failure();
     if (head.size() >= maximumHeldLines) {
         // Half of them, as looking through them anew for every line takes time.
         dropOldest(maximumHeldLines / 2);
@@ -294,7 +310,7 @@ std::optional<UnfinishedMeasurement> MeasurementStream::Private::unfinished(cons
 {
     const auto waiting = rows ? nullptr : rowsOfWaitingHeader();
     StreamRows *of = rows ? rows.get() : waiting.get();
-    const auto row = of ? brokenRow(bytes, *of) : std::nullopt;
+    const auto row = of ? brokenRow(readable(bytes), *of) : std::nullopt;
     const auto known = row ? of->unfinished(*row) : std::nullopt;
     if (!known || (known->isCabinetKnown && !isOfCabinet(known->measurement))) {
         return std::nullopt;

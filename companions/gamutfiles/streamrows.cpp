@@ -26,10 +26,16 @@ bool StreamRows::begin(const QVector<NumberedLine> &lines, const Refusal &refuse
         text += line.text + QLatin1Char('\n');
     }
     m_table = readCsv(text, m_options.separator);
+    if (m_table.unterminatedLine > 0) {
+        return fail(RowsText::tr("unterminated quote"));
+    }
+    if (m_table.rows.isEmpty()) {
+        return fail(RowsText::tr("the header and the first measurement are awaited"));
+    }
     for (CsvRow &row : m_table.rows) {
         row.line = int(lines.at(row.line - 1).number);
     }
-    if (m_table.rows.isEmpty() || !findColumns()) {
+    if (!findColumns()) {
         return false;
     }
     MeasurementRecognition &recognized = m_list.recognized;

@@ -32,6 +32,8 @@ public:
     //! Finds the header in \a lines; false where there is none, or where what follows it is wanting. Measurements above
     //! it are told to \a refuse.
     bool begin(const QVector<NumberedLine> &lines, const Refusal &refuse);
+    //! Which of the lines that begin() was given, from 1, begins a record with a quote never closed; 0: none.
+    int unterminatedLine() const { return m_table.unterminatedLine; }
     //! Whether \a line is a header by itself.
     bool isHeader(const NumberedLine &line);
     //! Reads \a row, or else the rows that it decides how to read. What cannot be read is told to \a refuse.

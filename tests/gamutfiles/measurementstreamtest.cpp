@@ -79,6 +79,7 @@ private Q_SLOTS:
     void keepsAByteOrderMarkAndItsEncoding();
     void decidesTheEncodingByTheFirstLineThatTells();
     void countsLinesThatCannotBeRead();
+    void waitsBehindNoUnterminatedQuote();
     void tellsCabinetsOfLinesThatAreNotRead();
     void passesOverALineThatIsTooLong();
     void beginsAnewWithAHeader();
@@ -342,6 +343,31 @@ void MeasurementStreamTest::decidesTheEncodingByTheFirstLineThatTells()
     QCOMPARE(utf8.state().notRead, 1);
     QCOMPARE(utf8.state().lastNotRead.message(), QStringLiteral("line 3: is not UTF-8 text"));
     QCOMPARE(readAll(utf8, "Gr\xC3\xBCn,70,0.3,0.6\n").size(), 1);
+}
+
+void MeasurementStreamTest::waitsBehindNoUnterminatedQuote()
+{
+    // With a comma, which an empty list may have, the quote would be a character like others.
+    MeasurementStream stream;
+    QVERIFY(readAll(stream, "name;Y;x;y\n").isEmpty());
+    QCOMPARE(unreadIn(readAll(stream, "Red;\"21,0;0,64;0,33\n")), QStringLiteral("red"));
+    QCOMPARE(stream.state().notRead, 1);
+    QCOMPARE(stream.state().lastNotRead.message(), QStringLiteral("line 2: unterminated quote"));
+    QVERIFY(!stream.state().waitsFor.text.isEmpty());
+    const auto green = readAll(stream, "Green;71,5;0,3;0,6\n");
+    QCOMPARE(green.size(), 1);
+    QCOMPARE(green.first().line, 3);
+
+    // The separator shows only now, and with it that the first line has an open quote.
+    MeasurementStream late;
+    QVERIFY(readAll(late, "made for;\"wall 7\n").isEmpty());
+    QCOMPARE(late.state().notRead, 1);
+    QCOMPARE(readAll(late, "name;Y;x;y\nRed;21,0;0,64;0,33\n").size(), 1);
+
+    // There is always something to say of what is awaited.
+    MeasurementStream named;
+    readAll(named, "sep=;\n");
+    QVERIFY(!named.state().waitsFor.text.isEmpty());
 }
 
 void MeasurementStreamTest::countsLinesThatCannotBeRead()
