@@ -7,6 +7,8 @@
 #include <gamutfiles/latestmeasurements.h>
 #include <gamutfiles/measurementstream.h>
 
+#include <QHash>
+
 #include <algorithm>
 
 using namespace gamutfiles;
@@ -16,12 +18,36 @@ namespace {
 constexpr std::size_t choices = 2; // bytes before the list
 constexpr int looks = 8; // at least, at the wall of a longer list so far: each takes as long as to read many pieces
 
-bool isSame(const Measurement &a, const Measurement &b)
+//! Whether the same was measured of the same cabinet.
+bool isSameValue(const Measurement &a, const Measurement &b)
 {
-    return a.name == b.name && a.luminance == b.luminance && a.part == b.part && a.line == b.line
-        && a.isUnread == b.isUnread && a.cabinet == b.cabinet && a.row == b.row && a.column == b.column
+    return a.luminance == b.luminance && a.cabinet == b.cabinet && a.row == b.row && a.column == b.column
         && a.color.has_value() == b.color.has_value()
         && (!a.color || (a.color->x == b.color->x && a.color->y == b.color->y));
+}
+
+bool isSame(const Measurement &a, const Measurement &b)
+{
+    return a.name == b.name && a.part == b.part && a.line == b.line && a.isUnread == b.isUnread && isSameValue(a, b);
+}
+
+//! A line that was read as it came has the value that it has in \a list as a whole, where that can be read. Which
+//! column has the names can show later only.
+void requireValuesOfWhole(const QVector<Measurement> &followed, const QByteArray &list, std::uint8_t stated)
+{
+    const auto whole = readMeasurementList(list, fuzz::listOptions(stated));
+    if (!whole) {
+        return;
+    }
+    QHash<int, Measurement> byLine;
+    for (const Measurement &measurement : whole->measurements) {
+        byLine.insert(measurement.line, measurement);
+    }
+    for (const Measurement &measurement : followed) {
+        const auto found = byLine.constFind(measurement.line);
+        fuzz::require(measurement.isUnread || found == byLine.constEnd() || isSameValue(measurement, *found),
+            "a line has the same value, followed and as part of a whole");
+    }
 }
 
 void requireMeasurement(const Measurement &measurement)
@@ -116,5 +142,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const auto inPieces = readInPieces(list, 1 + data[1] / 4, data[0]);
     fuzz::require(whole.size() == inPieces.size() && std::equal(whole.begin(), whole.end(), inPieces.begin(), isSame),
         "it makes no difference in what pieces a list comes");
+    requireValuesOfWhole(whole, list, data[0]);
     return 0;
 }
