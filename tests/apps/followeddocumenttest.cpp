@@ -1,139 +1,14 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
-#include "display/wallassessment.h"
-#include "editing/document.h"
+#include "followeddocument.h"
 #include "editing/gamutroles.h"
-#include "editing/targetsession.h"
 
 #include <QSignalSpy>
 #include <QtTest>
 
 #include <new>
 
-using namespace gamutviewer;
-
-namespace {
-
-Model::Targets targets(double redX)
-{
-    return {Model::Target::fromYxy(240, redX, 0.299), Model::Target::fromYxy(634, 0.189, 0.718),
-        Model::Target::fromYxy(126, 0.133, 0.075), Model::Target::fromYxy(1000, 0.2829, 0.2971)};
-}
-
-DisplayDescription description()
-{
-    DisplayDescription d;
-    d.gamuts.push_back({Model::ColorGamut("Wall", targets(0.700)), LuminanceUnit::CandelaPerSquareMetre});
-    d.gamuts.push_back({Model::ColorGamut("Before", targets(0.698)), LuminanceUnit::CandelaPerSquareMetre});
-    d.original = QStringLiteral("Wall");
-    d.measured = QStringLiteral("Before");
-    d.target = QStringLiteral("Rec.709");
-    d.measurePoints = {{QStringLiteral("old"), QPointF(0.4, 0.4)}};
-    return d;
-}
-
-//! As of a list called "meter" with a gamut and a point.
-GamutFile followed(double redX, const QString &point = QStringLiteral("grey"))
-{
-    GamutFile file;
-    file.content = GamutFile::Content::Measurements;
-    file.name = QStringLiteral("meter");
-    file.measurements.unit = LuminanceUnit::CandelaPerSquareMetre;
-    const Model::Targets t = targets(redX);
-    const std::pair<MeasurementPart, Model::Target> colors[] = {{MeasurementPart::Red, t.red},
-        {MeasurementPart::Green, t.green}, {MeasurementPart::Blue, t.blue}, {MeasurementPart::White, t.white}};
-    for (const auto &[part, color] : colors) {
-        Measurement measurement;
-        measurement.part = part;
-        measurement.color = color;
-        file.measurements.measurements.append(measurement);
-    }
-    Measurement other;
-    other.name = point;
-    other.color = Model::Target::fromYxy(100, 0.31, 0.33);
-    file.measurements.measurements.append(other);
-    return file;
-}
-
-//! Before a gamut is complete.
-GamutFile pointOnly()
-{
-    GamutFile file = followed(0.7);
-    file.measurements.measurements = file.measurements.measurements.mid(4);
-    return file;
-}
-
-DisplayWall wall(const std::vector<const char *> &names)
-{
-    DisplayWall result;
-    result.unit = LuminanceUnit::CandelaPerSquareMetre;
-    const Model::Targets t = targets(0.69);
-    for (const char *name : names) {
-        WallCabinet cabinet;
-        cabinet.name = QLatin1String(name);
-        cabinet.red = t.red;
-        cabinet.green = t.green;
-        cabinet.blue = t.blue;
-        result.cabinets.push_back(cabinet);
-    }
-    return result;
-}
-
-FollowedMeasurement measurement(
-    const GamutFile &file, const std::optional<DisplayWall> &wall = std::nullopt, const QString &cabinet = QString())
-{
-    return {file, wall, cabinet, wall.has_value()};
-}
-
-QString namesOf(const DisplayWall &wall)
-{
-    QStringList names;
-    for (const WallCabinet &cabinet : wall.cabinets) {
-        names.append(cabinet.label());
-    }
-    return names.join(QLatin1Char(' '));
-}
-
-QString leftOutOf(const DisplayWall &wall)
-{
-    DisplayWall leftOut = wall;
-    leftOut.cabinets.clear();
-    std::copy_if(wall.cabinets.begin(), wall.cabinets.end(), std::back_inserter(leftOut.cabinets),
-        [](const WallCabinet &cabinet) { return cabinet.isLeftOut; });
-    return namesOf(leftOut);
-}
-
-struct Fixture {
-    Fixture() { document.open(description(), QStringLiteral("wall.json")); }
-    void open(const DisplayWall &before)
-    {
-        DisplayDescription opened = description();
-        opened.wall = before;
-        document.open(opened, QStringLiteral("wall.json"));
-    }
-    QString cabinets() const { return namesOf(document.description().wall); }
-    QString leftOut() const { return leftOutOf(document.description().wall); }
-    QString ownCabinets() const { return namesOf(document.own().wall); }
-    QString ownLeftOut() const { return leftOutOf(document.own().wall); }
-    double measuredRed() const { return document.measured() ? document.measured()->getTargets().red.x : -1.0; }
-    QString points() const
-    {
-        QStringList names;
-        for (const NamedPoint &point : document.description().measurePoints) {
-            names.append(point.name);
-        }
-        return names.join(QLatin1Char(' '));
-    }
-    bool ownIs(const DisplayDescription &expected) const
-    {
-        return descriptionText(document.own()) == descriptionText(expected);
-    }
-
-    Document document;
-    TargetSession session{&document};
-};
-
-} // namespace
+using namespace followeddocument;
 
 class FollowedDocumentTest : public QObject {
     Q_OBJECT
@@ -151,16 +26,7 @@ private Q_SLOTS:
     void measuredPartThatIsTakenAwayComesBack();
     void addedPointsAreOfTheDescription();
     void savedIsTheDescription();
-    void showsAWallInPlaceOfTheOneBefore();
     void noGamutIsShownForOneThatCouldNotBeRead();
-    void noWallIsShownBeforeTheOneThatIsFollowed();
-    void editsTakeNothingOfAWallOver();
-    void keepsAWallAsOneStep();
-    void cabinetsThatAreLeftOutStaySo();
-    void cabinetThatIsBeingMeasuredIsKept();
-    void replacesAWallThatIsFollowed();
-    void removedWallIsTheDescriptions();
-    void selectionStaysWithItsCabinet();
     void showsNothingByHalves();
     void showsAgainWhatWasShownByHalves();
     void keepsNothingByHalves();
@@ -393,24 +259,6 @@ void FollowedDocumentTest::savedIsTheDescription()
     QVERIFY(f.ownIs(description()));
 }
 
-void FollowedDocumentTest::showsAWallInPlaceOfTheOneBefore()
-{
-    Fixture f;
-    f.open(wall({"old"}));
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
-    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
-    QCOMPARE(f.points(), QStringLiteral("grey"));
-    QCOMPARE(f.document.description().measured, QStringLiteral("Before")); // a wall is no gamut
-    QVERIFY(f.document.hasUnkept());
-    QVERIFY(!f.document.isModified());
-    QCOMPARE(f.document.own().wall.cabinets.front().name, QStringLiteral("old"));
-    QVERIFY(f.session.assessment().wall);
-    QCOMPARE(f.session.assessment().wall->cabinets.size(), std::size_t(2));
-    f.document.showFollowed(std::nullopt);
-    QCOMPARE(f.cabinets(), QStringLiteral("old"));
-    QVERIFY(!f.document.hasUnkept());
-}
-
 void FollowedDocumentTest::noGamutIsShownForOneThatCouldNotBeRead()
 {
     Fixture f;
@@ -436,168 +284,6 @@ void FollowedDocumentTest::noGamutIsShownForOneThatCouldNotBeRead()
     QCOMPARE(f.document.description().measured, QStringLiteral("meter"));
     f.document.showFollowed(std::nullopt);
     QCOMPARE(f.document.description().measured, QStringLiteral("Before"));
-}
-
-void FollowedDocumentTest::noWallIsShownBeforeTheOneThatIsFollowed()
-{
-    Fixture f;
-    f.open(wall({"old", "older"}));
-    FollowedMeasurement first = measurement(followed(0.69), std::nullopt, QStringLiteral("A1"));
-    first.isOfCabinets = true;
-    f.document.showFollowed(first);
-    // Its verdict would not be on what is measured.
-    QCOMPARE(f.cabinets(), QString());
-    QVERIFY(!f.session.assessment().wall);
-    QVERIFY(f.document.awaitsWall());
-    QCOMPARE(namesOf(f.document.withHidden().wall), QStringLiteral("old older")); // what files are added to
-    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
-    QCOMPARE(f.cabinets(), QString());
-    QCOMPARE(f.ownCabinets(), QStringLiteral("old older"));
-    f.document.keepFollowed(QStringLiteral("keep"));
-    QCOMPARE(f.ownCabinets(), QStringLiteral("old older"));
-    first.wall = wall({"A1", "A2"});
-    f.document.showFollowed(first);
-    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
-    QVERIFY(!f.document.awaitsWall());
-    f.document.showFollowed(std::nullopt);
-    QCOMPARE(f.cabinets(), QStringLiteral("old older"));
-}
-
-void FollowedDocumentTest::editsTakeNothingOfAWallOver()
-{
-    Fixture alone;
-    QVERIFY(alone.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
-    Fixture f;
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
-    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
-    QVERIFY(f.ownIs(alone.document.description()));
-    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
-    f.session.fitToWall();
-    QVERIFY(f.document.own().wall.cabinets.empty());
-}
-
-void FollowedDocumentTest::keepsAWallAsOneStep()
-{
-    Fixture f;
-    f.open(wall({"old"}));
-    const DisplayDescription before = f.document.own();
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
-    f.document.keepFollowed(QStringLiteral("keep meter"));
-    QCOMPARE(f.document.history()->count(), 1);
-    QVERIFY(!f.document.hasUnkept());
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2", "A3"})));
-    QVERIFY(f.document.hasUnkept());
-    f.document.showFollowed(std::nullopt);
-    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
-    f.document.history()->undo();
-    QVERIFY(f.ownIs(before));
-    QCOMPARE(f.cabinets(), QStringLiteral("old"));
-}
-
-void FollowedDocumentTest::cabinetsThatAreLeftOutStaySo()
-{
-    Fixture f;
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
-    f.session.setLeftOut({1}, true);
-    QCOMPARE(f.document.history()->count(), 1);
-    QCOMPARE(f.leftOut(), QStringLiteral("A2"));
-    QCOMPARE(f.document.own().wall.cabinets.size(), std::size_t(2)); // as it is then
-    f.document.showFollowed(measurement(pointOnly(), wall({"A0", "A1", "A2"})));
-    QCOMPARE(f.leftOut(), QStringLiteral("A2"));
-    QVERIFY(f.session.setChromaticity(Vertex::Red, QPointF(0.66, 0.32)));
-    QCOMPARE(f.document.own().wall.cabinets.size(), std::size_t(2));
-    f.session.setLeftOut({0, 1, 2}, false);
-    QCOMPARE(f.leftOut(), QString());
-    f.document.history()->undo();
-    QCOMPARE(f.leftOut(), QStringLiteral("A2"));
-    f.document.history()->undo();
-    f.document.history()->undo();
-    QVERIFY(f.ownIs(description()));
-    QCOMPARE(f.leftOut(), QString());
-}
-
-void FollowedDocumentTest::removedWallIsTheDescriptions()
-{
-    Fixture f;
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
-    f.session.removeWall();
-    QVERIFY(f.ownIs(description()));
-    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
-    QCOMPARE(f.document.history()->count(), 0); // there was nothing to remove
-    f.open(wall({"old"}));
-    f.session.removeWall();
-    QCOMPARE(f.document.own().wall.cabinets.size(), std::size_t(1));
-    QCOMPARE(f.document.history()->count(), 0);
-    f.document.showFollowed(std::nullopt);
-    f.session.removeWall();
-    QVERIFY(f.document.own().wall.cabinets.empty());
-    QCOMPARE(f.document.history()->count(), 1);
-}
-
-void FollowedDocumentTest::selectionStaysWithItsCabinet()
-{
-    Fixture f;
-    f.document.showFollowed(measurement(pointOnly(), wall({"A2", "A3"})));
-    f.session.selectCabinet(1);
-    QSignalSpy selected(&f.session, &TargetSession::selectedCabinetChanged);
-    f.document.showFollowed(measurement(pointOnly(), wall({"A2", "A3", "A4"})));
-    QVERIFY(selected.isEmpty());
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2", "A3", "A4"}))); // of which A1 is complete now
-    QCOMPARE(f.session.selectedCabinet(), std::optional<std::size_t>(2));
-    QCOMPARE(selected.size(), 1);
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2", "A4"})));
-    QVERIFY(!f.session.selectedCabinet());
-    // It was measured again, and is selected again when that is complete.
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2", "A4", "A3"})));
-    QCOMPARE(f.session.selectedCabinet(), std::optional<std::size_t>(3));
-    f.session.selectCabinet(std::nullopt);
-    f.document.showFollowed(measurement(pointOnly(), wall({"A3", "A4"})));
-    QVERIFY(!f.session.selectedCabinet());
-}
-
-//! It is not shown among the others while it may change, but what is kept has it.
-void FollowedDocumentTest::cabinetThatIsBeingMeasuredIsKept()
-{
-    const FollowedMeasurement shown = measurement(followed(0.69, QStringLiteral("A3 Red")), wall({"A1", "A2"}));
-    const FollowedMeasurement ended = measurement(pointOnly(), wall({"A1", "A2", "A3"}));
-    const auto toKeep = [&ended] { return ended; };
-    Fixture f;
-    f.document.showFollowed(shown, toKeep);
-    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
-    f.session.setLeftOut({1}, true);
-    QCOMPARE(f.ownCabinets(), QStringLiteral("A1 A2 A3"));
-    QCOMPARE(f.ownLeftOut(), QStringLiteral("A2"));
-    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
-    QCOMPARE(f.leftOut(), QStringLiteral("A2"));
-    f.document.keepFollowed(QStringLiteral("keep meter"));
-    QCOMPARE(f.ownCabinets(), QStringLiteral("A1 A2 A3"));
-    QCOMPARE(f.document.own().measurePoints.size(), 1);
-    QCOMPARE(f.document.own().measurePoints.first().name, QStringLiteral("grey"));
-    QVERIFY(!f.document.hasUnkept()); // though another wall is shown
-    f.document.showFollowed(shown, toKeep);
-    QVERIFY(!f.document.hasUnkept());
-    QCOMPARE(f.points(), QStringLiteral("A3 Red"));
-
-    // What is left out and being measured again stays left out, whatever is done to others meanwhile.
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A3"})), toKeep);
-    QCOMPARE(f.leftOut(), QString());
-    f.session.setLeftOut({0}, true);
-    QCOMPARE(f.ownLeftOut(), QStringLiteral("A1 A2"));
-    f.session.setLeftOut({0, 1}, false);
-    QCOMPARE(f.ownLeftOut(), QStringLiteral("A2"));
-    f.document.showFollowed(ended);
-    QCOMPARE(f.leftOut(), QStringLiteral("A2"));
-}
-
-void FollowedDocumentTest::replacesAWallThatIsFollowed()
-{
-    Fixture f;
-    f.document.showFollowed(measurement(pointOnly(), wall({"A1", "A2"})));
-    DisplayDescription added = f.document.description();
-    added.wall = wall({"B1", "B2", "B3"});
-    f.document.change(added, QStringLiteral("add"));
-    QCOMPARE(f.ownCabinets(), QStringLiteral("B1 B2 B3"));
-    QCOMPARE(f.cabinets(), QStringLiteral("A1 A2"));
 }
 
 void FollowedDocumentTest::showsNothingByHalves()
