@@ -18,21 +18,21 @@ namespace {
 constexpr std::size_t choices = 2; // bytes before the list
 constexpr int looks = 8; // at least, at the wall of a longer list so far: each takes as long as to read many pieces
 
-//! Whether the same was measured of the same cabinet.
 bool isSameValue(const Measurement &a, const Measurement &b)
 {
-    return a.luminance == b.luminance && a.cabinet == b.cabinet && a.row == b.row && a.column == b.column
+    return a.luminance == b.luminance && a.row == b.row && a.column == b.column
         && a.color.has_value() == b.color.has_value()
         && (!a.color || (a.color->x == b.color->x && a.color->y == b.color->y));
 }
 
 bool isSame(const Measurement &a, const Measurement &b)
 {
-    return a.name == b.name && a.part == b.part && a.line == b.line && a.isUnread == b.isUnread && isSameValue(a, b);
+    return a.name == b.name && a.part == b.part && a.line == b.line && a.isUnread == b.isUnread
+        && a.cabinet == b.cabinet && isSameValue(a, b);
 }
 
-//! A line that was read as it came has the value that it has in \a list as a whole, where that can be read. Which
-//! column has the names can show later only.
+//! A line that was read as it came has the value that it has in \a list as a whole, where that can be read. Names are
+//! not compared: which column has them, and how their letters are stored, can show later only.
 void requireValuesOfWhole(const QVector<Measurement> &followed, const QByteArray &list, std::uint8_t stated)
 {
     const auto whole = readMeasurementList(list, fuzz::listOptions(stated));
