@@ -77,6 +77,8 @@ public:
     std::optional<CsvRow> brokenRow(QString text, const StreamRows &of) const;
     std::unique_ptr<StreamRows> rowsOfWaitingHeader() const;
     bool beginAnew(const NumberedLine &line);
+    bool beginRows(const QVector<NumberedLine> &lines);
+    bool beginWithoutOpenQuotes();
     void findHeader();
     void dropOldest(int count);
     void refuseAllHeld();
@@ -193,7 +195,7 @@ bool MeasurementStream::Private::takeText(const NumberedLine &line)
     const QChar separator = rows ? rows->separator() : QLatin1Char(',');
     const CsvTable table = readCsv(line.text, separator);
     if (table.unterminatedLine > 0) {
-        refuse(line.number, Problem{StreamText::tr("unterminated quote"), QString(), 0, 0});
+        refuse(line.number, Problem{StreamRows::unterminatedQuote(), QString(), 0, 0});
         return false;
     }
     if (rows && !table.rows.isEmpty()) {
@@ -207,28 +209,51 @@ bool MeasurementStream::Private::takeText(const NumberedLine &line)
     return true;
 }
 
+//! Begins the rows with the header in \a lines, if it and what follows are there.
+bool MeasurementStream::Private::beginRows(const QVector<NumberedLine> &lines)
+{
+    auto candidate = std::make_unique<StreamRows>(options);
+    if (!candidate->begin(lines, [this](qint64 line, const Problem &problem) { refuse(line, problem); })) {
+        headProblem = candidate->failure();
+        return false;
+    }
+    rows = std::move(candidate);
+    firstRows = rows->takeFirstRows();
+    head.clear();
+    headProblem = Problem();
+    state.warnings = rows->warnings();
+    return true;
+}
+
+//! Looks for the header without the lines whose quote is open by its separator: all below them would count as quoted.
+bool MeasurementStream::Private::beginWithoutOpenQuotes()
+{
+    const auto waiting = rowsOfWaitingHeader();
+    if (!waiting) {
+        return false;
+    }
+    QVector<NumberedLine> whole;
+    QVector<NumberedLine> open;
+    for (const NumberedLine &line : std::as_const(head)) {
+        const bool isOpen = readCsv(line.text, waiting->separator()).unterminatedLine > 0;
+        (isOpen ? open : whole).append(line);
+    }
+    const Problem problem = headProblem;
+    if (open.isEmpty() || !beginRows(whole)) {
+        headProblem = problem;
+        return false;
+    }
+    for (const NumberedLine &line : std::as_const(open)) {
+        refuse(line.number, Problem{StreamRows::unterminatedQuote(), QString(), 0, 0});
+        keepUnread(line.text, line.number);
+    }
+    return true;
+}
+
 void MeasurementStream::Private::findHeader()
 {
-    headProblem = Problem();
-    while (!head.isEmpty()) {
-        auto candidate = std::make_unique<StreamRows>(options);
-        if (candidate->begin(head, [this](qint64 line, const Problem &problem) { refuse(line, problem); })) {
-            rows = std::move(candidate);
-            firstRows = rows->takeFirstRows();
-            head.clear();
-            headProblem = Problem();
-            state.warnings = rows->warnings();
-            return;
-        }
-        headProblem = candidate->failure();
-        if (candidate->unterminatedLine() == 0) {
-            break;
-        }
-        // By the separator that the lines show together. All that comes below it would be taken for quoted text.
-        const NumberedLine line = head.takeAt(candidate->unterminatedLine() - 1);
-        refuse(line.number, headProblem);
-        keepUnread(line.text, line.number);
-        headProblem = Problem();
+    if (beginRows(head) || beginWithoutOpenQuotes()) {
+        return;
     }
     if (head.size() >= maximumHeldLines) {
         // Half of them, as looking through them anew for every line takes time.

@@ -17,7 +17,17 @@ struct RowsText {
     Q_DECLARE_TR_FUNCTIONS(gamutfiles::MeasurementStream)
 };
 
+QString awaited()
+{
+    return RowsText::tr("the header and the first measurement are awaited");
+}
+
 } // namespace
+
+QString StreamRows::unterminatedQuote()
+{
+    return RowsText::tr("unterminated quote");
+}
 
 bool StreamRows::begin(const QVector<NumberedLine> &lines, const Refusal &refuse)
 {
@@ -27,10 +37,10 @@ bool StreamRows::begin(const QVector<NumberedLine> &lines, const Refusal &refuse
     }
     m_table = readCsv(text, m_options.separator);
     if (m_table.unterminatedLine > 0) {
-        return fail(RowsText::tr("unterminated quote"));
+        return fail(unterminatedQuote());
     }
     if (m_table.rows.isEmpty()) {
-        return fail(RowsText::tr("the header and the first measurement are awaited"));
+        return fail(awaited());
     }
     for (CsvRow &row : m_table.rows) {
         row.line = int(lines.at(row.line - 1).number);
@@ -45,7 +55,7 @@ bool StreamRows::begin(const QVector<NumberedLine> &lines, const Refusal &refuse
         = [&last](int field) { return decimalEvidence(last.fields.value(field)) != DecimalEvidence::NotANumber; };
     // A line below the header may tell the units. Without a header anything may precede the first measurement.
     if (recognized.headerLine > 0 ? last.line <= recognized.headerLine : !isNumber(1) || !isNumber(2) || !isNumber(3)) {
-        return fail(RowsText::tr("the header and the first measurement are awaited"));
+        return fail(awaited());
     }
     m_decimalSign = m_options.decimalSign.value_or(m_decimalSign);
     for (const CsvRow &row : std::as_const(m_table.rows)) {

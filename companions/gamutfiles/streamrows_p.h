@@ -29,11 +29,9 @@ public:
 
     using MeasurementReader::MeasurementReader;
 
-    //! Finds the header in \a lines; false where there is none, or where what follows it is wanting. Measurements above
-    //! it are told to \a refuse.
+    //! Finds the header in \a lines; false where there is none, where what follows it is wanting, and where a quote is
+    //! open. Measurements above it are told to \a refuse.
     bool begin(const QVector<NumberedLine> &lines, const Refusal &refuse);
-    //! Which of the lines that begin() was given, from 1, begins a record with a quote never closed; 0: none.
-    int unterminatedLine() const { return m_table.unterminatedLine; }
     //! Whether \a line is a header by itself.
     bool isHeader(const NumberedLine &line);
     //! Reads \a row, or else the rows that it decides how to read. What cannot be read is told to \a refuse.
@@ -60,6 +58,8 @@ public:
     QVector<Measurement> takeUnread() { return std::exchange(m_unread, {}); }
 
     static QString placeOf(qint64 line) { return place(int(line)); }
+    //! Why a line whose quote is never closed is not read.
+    static QString unterminatedQuote();
     static bool isChosen(const Measurement &measurement, const MeasurementChoice &choice)
     {
         return answersTo(measurement, choice);

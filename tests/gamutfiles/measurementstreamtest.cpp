@@ -79,7 +79,9 @@ private Q_SLOTS:
     void keepsAByteOrderMarkAndItsEncoding();
     void decidesTheEncodingByTheFirstLineThatTells();
     void countsLinesThatCannotBeRead();
+    void waitsBehindNoUnterminatedQuote_data();
     void waitsBehindNoUnterminatedQuote();
+    void saysWhatIsAwaited();
     void tellsCabinetsOfLinesThatAreNotRead();
     void passesOverALineThatIsTooLong();
     void beginsAnewWithAHeader();
@@ -345,29 +347,53 @@ void MeasurementStreamTest::decidesTheEncodingByTheFirstLineThatTells()
     QCOMPARE(readAll(utf8, "Gr\xC3\xBCn,70,0.3,0.6\n").size(), 1);
 }
 
+void MeasurementStreamTest::waitsBehindNoUnterminatedQuote_data()
+{
+    QTest::addColumn<QByteArray>("list"); // with a red that cannot be read, or none, and a green in the last line
+    QTest::addColumn<QString>("message"); // empty: nothing is refused
+    QTest::addColumn<QString>("all");
+    // By themselves these lines are divided at commas, and their quotes are characters like others.
+    QTest::newRow("measurement") << QByteArray("name;Y;x;y\nRed;\"21,0;0,64;0,33\nGreen;71,5;0,3;0,6\n")
+                                 << "line 2: unterminated quote"
+                                 << "red read";
+    QTest::newRow("above the header") << QByteArray("made for;\"wall 7\nname;Y;x;y\nGreen;71,5;0,3;0,6\n")
+                                      << "line 1: unterminated quote"
+                                      << "read";
+    QTest::newRow("below a title") << QByteArray("Report\nmade for;\"wall 7\nname;Y;x;y\nGreen;71,5;0,3;0,6\n")
+                                   << "line 2: unterminated quote"
+                                   << "read";
+    // These are not open by the separator that the list turns out to have, or closed in the next line.
+    QTest::newRow("another separator") << QByteArray("made for;\"wall 7\nname,Y,x,y\nGreen,71.5,0.3,0.6\n") << ""
+                                       << "read";
+    QTest::newRow("header in two lines") << QByteArray("name;Y;x;\"y\n(CIE)\"\nGreen;71,5;0,3;0,6\n") << ""
+                                         << "read";
+}
+
 void MeasurementStreamTest::waitsBehindNoUnterminatedQuote()
 {
-    // With a comma, which an empty list may have, the quote would be a character like others.
+    QFETCH(QByteArray, list);
+    QFETCH(QString, message);
     MeasurementStream stream;
-    QVERIFY(readAll(stream, "name;Y;x;y\n").isEmpty());
-    QCOMPARE(unreadIn(readAll(stream, "Red;\"21,0;0,64;0,33\n")), QStringLiteral("red"));
-    QCOMPARE(stream.state().notRead, 1);
-    QCOMPARE(stream.state().lastNotRead.message(), QStringLiteral("line 2: unterminated quote"));
-    QVERIFY(!stream.state().waitsFor.text.isEmpty());
-    const auto green = readAll(stream, "Green;71,5;0,3;0,6\n");
-    QCOMPARE(green.size(), 1);
-    QCOMPARE(green.first().line, 3);
+    const auto all = readAll(stream, list);
+    QTEST(unreadIn(all), "all");
+    QCOMPARE(all.last().name, QStringLiteral("Green"));
+    QCOMPARE(all.last().luminance, 71.5);
+    QCOMPARE(stream.state().lastNotRead.message(), message);
+    QCOMPARE(stream.state().heldLines, 0);
+}
 
-    // The separator shows only now, and with it that the first line has an open quote.
-    MeasurementStream late;
-    QVERIFY(readAll(late, "made for;\"wall 7\n").isEmpty());
-    QCOMPARE(late.state().notRead, 1);
-    QCOMPARE(readAll(late, "name;Y;x;y\nRed;21,0;0,64;0,33\n").size(), 1);
-
-    // There is always something to say of what is awaited.
+void MeasurementStreamTest::saysWhatIsAwaited()
+{
     MeasurementStream named;
     readAll(named, "sep=;\n");
     QVERIFY(!named.state().waitsFor.text.isEmpty());
+    MeasurementStream quoted;
+    readAll(quoted, "name;Y;x;y\nRed;\"21,0;0,64;0,33\n");
+    QCOMPARE(quoted.state().waitsFor.text, QStringLiteral("unterminated quote"));
+    quoted.finish();
+    readAll(quoted);
+    QCOMPARE(quoted.state().notRead, 2);
+    QCOMPARE(quoted.state().lastNotRead.message(), QStringLiteral("line 2: unterminated quote"));
 }
 
 void MeasurementStreamTest::countsLinesThatCannotBeRead()
