@@ -199,7 +199,7 @@ void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramP
     if (!label.isEmpty() && !handles.isEmpty()) {
         // From the label to the handle, short of both.
         const QLineF line = labelLine();
-        const double length = std::hypot(line.dx(), line.dy());
+        const double length = line.length();
         if (length > handleExtent) {
             painter.setPen(QPen(palette.numbers, 1.0));
             painter.drawLine(line.p1(), line.p2() - (line.p2() - line.p1()) * (handleExtent / length));

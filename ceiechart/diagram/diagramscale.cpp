@@ -339,7 +339,7 @@ private:
             return area.intersects(m_plot) && !isBehind(from, 1.0) && !isBehind(to, -1.0);
         };
         constexpr double step = 2.0;
-        constexpr int stepsAtOnce = 17; // of the 493 steps
+        constexpr int stepsAtOnce = 17;
         constexpr double roomOfMany = 0.1; // the ends of isotherms lie on curves
         QLineF begin = isotherm(hottest);
         for (double first = hottest; first + step <= coolest; first += stepsAtOnce * step) {

@@ -220,14 +220,15 @@ QVector<QLineF> movedAside(const QVector<QLineF> &lines, double distance)
  * Paints separate lines with flat ends.
  *
  * The raster engine paints three lines that are one pixel wide in half of the time that it takes for one of three
- * pixels.
+ * pixels. Between them a little of what is below shows: together they have 0.7 to 0.9 of the strength of the wide line.
+ * That is enough for casings, which are the only lines of this width.
  */
 void paintLines(QPainter &painter, const QVector<QLineF> &lines, QPen pen)
 {
-    constexpr double three = 3.0;
-    constexpr double apart = 0.9; // so that nothing shows between them
-    const bool hasPixelsOfOne = isRaster(painter) && painter.deviceTransform().type() <= QTransform::TxTranslate;
-    if (pen.widthF() != three || !hasPixelsOfOne) {
+    constexpr double casedWidth = 3.0;
+    constexpr double apart = 0.9;
+    const bool isUnscaled = painter.deviceTransform().type() <= QTransform::TxTranslate;
+    if (pen.widthF() != casedWidth || !isUnscaled || !isRaster(painter)) {
         painter.setPen(pen);
         painter.drawLines(lines);
         return;

@@ -189,7 +189,7 @@ std::optional<CsvRow> MeasurementStream::Private::brokenRow(QString text, const 
     return table.rows.isEmpty() ? std::nullopt : std::make_optional(table.rows.first());
 }
 
-//! Whether the line could be divided into fields.
+//! Whether the line by itself could be divided into fields.
 bool MeasurementStream::Private::takeText(const NumberedLine &line)
 {
     const QChar separator = rows ? rows->separator() : QLatin1Char(',');

@@ -72,6 +72,7 @@ class DrawListTest : public QObject {
 
 private Q_SLOTS:
     void casingsAreEightTextsAround();
+    void wideLinesAreThreeBesideOneAnother();
     void whatIsNotNeededIsNotMissed();
     void hairlinesCoverWholePixels();
     void neededLinesAreThoseThatMeetARegion();
@@ -101,6 +102,51 @@ void DrawListTest::casingsAreEightTextsAround()
             QVERIFY(expected != paper(size));
             QCOMPARE(painted(one, size), expected);
         }
+    }
+}
+
+void DrawListTest::wideLinesAreThreeBesideOneAnother()
+{
+    const QSize size(60, 60);
+    const QPen pen(QColor(255, 255, 255, 240), 3.0, Qt::SolidLine, Qt::FlatCap);
+    const auto lightOf = [&size](const auto &paint) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        paint(painter);
+        painter.end();
+        int light = 0;
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x) {
+                light += qGreen(image.pixel(x, y));
+            }
+        }
+        return light;
+    };
+    for (double angle = 0.0; angle < 180.0; angle += 7.0) {
+        const QLineF line = QLineF::fromPolar(40.0, angle)
+                                .translated(30.3 - 20.0 * std::cos(angle * M_PI / 180.0),
+                                    29.6 + 20.0 * std::sin(angle * M_PI / 180.0));
+        DrawList list;
+        list.lines({line}, pen);
+        const int asOne = lightOf([&](QPainter &painter) {
+            painter.setPen(pen);
+            painter.drawLine(line);
+        });
+        const double share = lightOf([&](QPainter &painter) { list.paint(&painter); }) / double(asOne);
+        QVERIFY2(share > 0.65 && share < 0.95, qPrintable(QStringLiteral("%1: %2").arg(angle).arg(share)));
+        const auto paintScaled = [&](const auto &paint) {
+            return lightOf([&](QPainter &painter) {
+                painter.scale(0.5, 0.5);
+                paint(painter);
+            });
+        };
+        // On other scales it is one.
+        QCOMPARE(paintScaled([&](QPainter &painter) { list.paint(&painter); }), paintScaled([&](QPainter &painter) {
+            painter.setPen(pen);
+            painter.drawLine(line);
+        }));
     }
 }
 
