@@ -109,7 +109,7 @@ public:
         std::fill(line + left, line + first, m_ground);
         std::fill(line + end, line + right, m_ground);
 
-        const std::vector<CoveredRun> &locus = m_locus.row(y);
+        const CoveredRow locus = m_locus.row(y);
         int begin = end;
         int stop = first;
         for (const CoveredRun &run : locus) {
@@ -285,8 +285,8 @@ void fillDifference(Filler &filler, RowCoverage &before, RowCoverage &after, con
 {
     QRect bounds;
     for (int y = plot.top(); y <= plot.bottom(); ++y) {
-        const std::vector<CoveredRun> &now = after.row(y);
-        const std::vector<CoveredRun> &then = before.row(y);
+        const CoveredRow now = after.row(y);
+        const CoveredRow then = before.row(y);
         const auto fill = [&](int left, int right) {
             const QRect part = QRect(left, y, right - left, 1).intersected(plot);
             if (!part.isEmpty()) {

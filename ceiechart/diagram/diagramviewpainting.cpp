@@ -222,8 +222,12 @@ void DiagramView::Private::putTarget(const Model::Targets &targets)
         return a.kind == b.kind && a.index == b.index && a.text == b.text && a.place == b.place && a.leader == b.leader;
     };
     const auto addOthers = [&](const QVector<DiagramLabel> &some, const QVector<DiagramLabel> &others) {
-        for (const DiagramLabel &label : some) {
-            if (std::none_of(others.begin(), others.end(), [&](const DiagramLabel &o) { return same(o, label); })) {
+        for (int i = 0; i < some.size(); ++i) {
+            const DiagramLabel &label = some[i];
+            // Most stand where they stood, and in the same order.
+            const bool isThere = (i < others.size() && same(others[i], label))
+                || std::any_of(others.begin(), others.end(), [&](const DiagramLabel &o) { return same(o, label); });
+            if (!isThere) {
                 changed += pixelsAround(label.place, lineRoom);
                 if (!label.leader.isNull()) {
                     changed += regionBetween(label.leader, label.leader, QRectF(q->rect()), lineRoom);

@@ -15,6 +15,7 @@ RowCoverage::RowCoverage(const QPolygonF &polygon, int width, int height)
     : m_width(width)
     , m_first(size_t(height) + 1, 0)
     , m_change(size_t(width) + 2, 0.0)
+    , m_rows(size_t(height))
 {
     for (int i = 0; i < polygon.size(); ++i) {
         const QPointF &a = polygon.at(i);
@@ -73,14 +74,20 @@ void RowCoverage::add(double from, double to, double height)
     }
 }
 
-const std::vector<CoveredRun> &RowCoverage::row(int y)
+CoveredRow RowCoverage::row(int y)
 {
-    if (y == m_row) {
-        return m_runs;
+    const KeptRow &row = m_rows[size_t(y)];
+    if (row.count == 0) {
+        findRow(y);
     }
-    m_row = y;
+    const CoveredRun *first = m_runs.data() + row.first;
+    return CoveredRow(first, first + row.count);
+}
+
+void RowCoverage::findRow(int y)
+{
     m_touched.clear();
-    m_runs.clear();
+    const std::size_t firstRun = m_runs.size();
     for (int i = m_first[size_t(y)]; i < m_first[size_t(y) + 1]; ++i) {
         const Edge &edge = m_edges[size_t(m_crossing[size_t(i)])];
         const double top = std::max(edge.top, double(y));
@@ -105,11 +112,11 @@ const std::vector<CoveredRun> &RowCoverage::row(int y)
     const auto alphaOf = [](double sum) { return int(std::min(std::fabs(sum), 1.0) * whole + 0.5); };
     double sum = 0.0;
     int column = 0;
-    const auto append = [this, &column](int end, int alpha) {
+    const auto append = [this, &column, firstRun](int end, int alpha) {
         if (end <= column) {
             return;
         }
-        if (!m_runs.empty() && m_runs.back().alpha == alpha) {
+        if (m_runs.size() > firstRun && m_runs.back().alpha == alpha) {
             m_runs.back().right = end;
         } else {
             m_runs.push_back({column, end, alpha});
@@ -127,7 +134,7 @@ const std::vector<CoveredRun> &RowCoverage::row(int y)
     m_change[size_t(m_width)] = 0.0;
     m_change[size_t(m_width) + 1] = 0.0;
     append(m_width, alphaOf(sum));
-    return m_runs;
+    m_rows[size_t(y)] = {firstRun, m_runs.size() - firstRun};
 }
 
 } // namespace ceiechart

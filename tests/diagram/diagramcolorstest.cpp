@@ -389,7 +389,7 @@ void DiagramColorsTest::coverageOfAPolygon()
     }
     RowCoverage nothing(QPolygonF(), 5, 5);
     QCOMPARE(int(nothing.row(2).size()), 1);
-    QCOMPARE(nothing.row(2).front().alpha, 0);
+    QCOMPARE(nothing.row(2)[0].alpha, 0);
 }
 
 void DiagramColorsTest::spectrumPassesItsTable()
