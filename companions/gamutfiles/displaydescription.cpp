@@ -31,8 +31,11 @@ std::optional<DisplayGamut> published(const QString &gamutName)
 
 QString nameOf(const Model::ColorGamut &gamut)
 {
+    const std::string name = gamut.colorGamutName();
     // QString::fromStdString() takes a byte order mark at the beginning away.
-    return QString::fromStdString('_' + gamut.colorGamutName()).mid(1);
+    const bool hasMark = name.compare(0, 3, "\xEF\xBB\xBF") == 0;
+    return hasMark ? QChar(QChar::ByteOrderMark) + QString::fromStdString('_' + name.substr(3)).mid(1)
+                   : QString::fromStdString(name);
 }
 
 bool hasRealPrimaries(const Model::Targets &gamut)
@@ -106,6 +109,7 @@ std::vector<DisplayGamut> DisplayDescription::allStandards() const
     names.removeDuplicates();
     const QHash<QString, int> places = gamutPlaces();
     std::vector<DisplayGamut> found;
+    found.reserve(std::size_t(names.size()));
     for (const QString &name : qAsConst(names)) {
         if (const auto standard = gamut(name, places)) {
             found.push_back(*standard);

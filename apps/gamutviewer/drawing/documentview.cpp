@@ -14,8 +14,13 @@ DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches
     , m_switches(switches)
 {
     // What came with the drag, such as the name of an edited target, is shown from then on.
-    connect(this, &DiagramView::editingFinished, this, &DocumentView::refresh);
+    connect(this, &DiagramView::editingFinished, this, [this] {
+        if (m_shownVersion != this->session()->document()->version()) {
+            refresh();
+        }
+    });
     connect(session, &TargetSession::tolerancesChanged, this, &DocumentView::refresh);
+    connect(switches, &LayerSwitches::changed, this, [this] { m_shownVersion.reset(); });
 }
 
 QVector<ceiechart::DiagramRings> DocumentView::rings() const
@@ -33,7 +38,8 @@ void DocumentView::refresh()
 {
     const Document *document = session()->document();
     noteOutside();
-    if (isEditing()) {
+    const bool showsAllElse = document->isDragging() && m_shownVersion == document->version();
+    if (isEditing() || showsAllElse) {
         followTarget();
         setRings(rings());
         return;
@@ -45,6 +51,7 @@ void DocumentView::refresh()
     }
     setContent(content);
     followSelection();
+    m_shownVersion = document->version();
 }
 
 } // namespace gamutviewer

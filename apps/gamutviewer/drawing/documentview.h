@@ -5,6 +5,8 @@
 
 #include "drawing/targetview.h"
 
+#include <optional>
+
 namespace gamutviewer {
 
 class LayerSwitches;
@@ -23,6 +25,7 @@ private:
     QVector<ceiechart::DiagramRings> rings() const;
 
     const LayerSwitches *m_switches;
+    std::optional<int> m_shownVersion; // of the document; nothing where the switches have changed since
 };
 
 } // namespace gamutviewer

@@ -10,8 +10,10 @@ namespace gamutviewer {
 
 void LayerSwitches::setState(const State &state)
 {
-    m_state = state;
-    Q_EMIT changed();
+    if (!(m_state == state)) {
+        m_state = state;
+        Q_EMIT changed();
+    }
 }
 
 void LayerSwitches::setShown(ceiechart::DiagramLayer layer, bool shown)

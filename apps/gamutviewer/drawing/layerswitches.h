@@ -24,6 +24,11 @@ public:
         ceiechart::HorseshoeColors colors = ceiechart::HorseshoeColors::Dimmed;
         //! Of standards that were switched by hand; the others are shown when the description names them.
         QHash<QString, bool> standards;
+
+        bool operator==(const State &other) const
+        {
+            return layers == other.layers && colors == other.colors && standards == other.standards;
+        }
     };
 
     using QObject::QObject;

@@ -301,6 +301,12 @@ void Document::showAgain()
 
 void Document::tellChanged()
 {
+    ++m_version;
+    tellDragged();
+}
+
+void Document::tellDragged()
+{
     m_isHalfShown = true;
     Q_EMIT changed();
     m_isHalfShown = false;
@@ -405,7 +411,11 @@ void Document::show(const DisplayDescription &own)
     m_own = std::move(kept);
     m_description = std::move(shown);
     Q_EMIT edited();
-    tellChanged();
+    if (m_dragging) {
+        tellDragged();
+    } else {
+        tellChanged();
+    }
 }
 
 void Document::show(const DisplayDescription &own, const QVector<QPointF> &trail)

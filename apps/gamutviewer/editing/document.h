@@ -30,6 +30,8 @@ public:
     const DisplayDescription &description() const { return m_description; }
     /*! \brief What the history and the file are about: without a measurement that is followed. */
     const DisplayDescription &own() const { return m_own; }
+    /*! \brief Incremented by each change of what is shown, except by steps of a drag, which change the target only. */
+    int version() const { return m_version; }
     std::optional<DisplayGamut> original() const { return m_description.gamut(m_description.original); }
     std::optional<DisplayGamut> declared() const { return m_description.gamut(m_description.declared); }
     std::optional<DisplayGamut> measured() const { return m_description.gamut(m_description.measured); }
@@ -132,6 +134,7 @@ private:
     void show(const DisplayDescription &own);
     void show(const DisplayDescription &own, const QVector<QPointF> &trail);
     void tellChanged();
+    void tellDragged();
     static DisplayDescription withMeasurement(
         const DisplayDescription &own, const std::optional<FollowedMeasurement> &measurement);
     std::optional<FollowedMeasurement> toKeep() const { return m_toKeep ? m_toKeep() : m_followed; }
@@ -146,6 +149,7 @@ private:
     DisplayDescription m_own;
     std::optional<FollowedMeasurement> m_followed;
     std::function<FollowedMeasurement()> m_toKeep; // null: what is shown
+    int m_version = 0;
     bool m_isHalfShown = false; // by some of those that hear of changes, and not by others
     DisplayDescription m_saved;
     QString m_fileName;

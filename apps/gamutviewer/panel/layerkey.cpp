@@ -208,7 +208,7 @@ LayerKey::LayerKey(Document *document, LayerSwitches *switches, QWidget *parent)
         m_click.reset();
         m_alone = {};
     });
-    connect(switches, &LayerSwitches::changed, this, &LayerKey::refresh);
+    connect(switches, &LayerSwitches::changed, this, &LayerKey::refreshChecks);
     connect(m_colors, &QButtonGroup::idClicked, this,
         [this](int colors) { m_switches->setColors(ceiechart::HorseshoeColors(colors)); });
     refresh();
@@ -315,6 +315,11 @@ LayerKey::Built LayerKey::wanted() const
             }
         }
     }
+    if (m_built && m_builtVersion == m_document->version()) {
+        wanted.standards = m_built->standards;
+        wanted.hasPoints = m_built->hasPoints;
+        return wanted;
+    }
     for (const Model::ColorGamut &standard : description.allStandards()) {
         wanted.standards.append(nameOf(standard));
     }
@@ -383,13 +388,13 @@ bool LayerKey::changeStandards(const QStringList &names)
     return true;
 }
 
-void LayerKey::change(const Built &wanted)
+bool LayerKey::change(const Built &wanted)
 {
     const auto sameRole = [](const GamutPart &a, const GamutPart &b) { return a.role == b.role; };
     const bool isAlike = m_built && m_built->hasPoints == wanted.hasPoints
         && std::equal(m_built->parts.begin(), m_built->parts.end(), wanted.parts.begin(), wanted.parts.end(), sameRole);
     if (isAlike && m_built->titles == wanted.titles && m_built->standards == wanted.standards) {
-        return;
+        return false;
     }
     m_pressed = nullptr;
     m_click.reset();
@@ -402,6 +407,7 @@ void LayerKey::change(const Built &wanted)
         build(wanted);
     }
     m_built = wanted;
+    return true;
 }
 
 void LayerKey::measure()
@@ -420,8 +426,16 @@ void LayerKey::measure()
 
 void LayerKey::refresh()
 {
-    change(wanted());
+    const bool isChanged = change(wanted());
     measure();
+    if (isChanged || m_builtVersion != m_document->version()) {
+        m_builtVersion = m_document->version();
+        refreshChecks();
+    }
+}
+
+void LayerKey::refreshChecks()
+{
     const QSet<QString> named = namedStandards();
     const QSignalBlocker blocker(this);
     for (int row = 0; row < count(); ++row) {

@@ -71,11 +71,12 @@ private:
 
     Built wanted() const;
     void build(const Built &wanted);
-    //! Makes the entries those of \a wanted: where little is another, by changing that alone.
-    void change(const Built &wanted);
+    //! Makes the entries those of \a wanted: where little is another, by changing that alone. Whether any was another.
+    bool change(const Built &wanted);
     //! Whether so few of the standards are others than \a names that they have been changed one by one.
     bool changeStandards(const QStringList &names);
     void refresh();
+    void refreshChecks();
     void measure();
     void addSection(const QString &title);
     void addColors();
@@ -94,6 +95,7 @@ private:
     LayerSwitches *m_switches;
     QButtonGroup *m_colors;
     std::optional<Built> m_built;
+    int m_builtVersion = 0; // of the document
     QListWidgetItem *m_pressed = nullptr;
     std::optional<Click> m_click; // the last one, until the entries change
     AloneOfKind m_alone;
