@@ -86,6 +86,10 @@ bool isFiller(const QString &word)
 //! "红", "红色", "红场", "纯红", "全红画面".
 QString chineseCore(QString word)
 {
+    const QChar firstIdeograph(0x2E80);
+    if (std::all_of(word.begin(), word.end(), [firstIdeograph](QChar c) { return c < firstIdeograph; })) {
+        return word;
+    }
     static const QStringList prefixes{QStringLiteral("全"), QStringLiteral("纯")};
     static const QStringList suffixes{
         QStringLiteral("画面"), QStringLiteral("场"), QStringLiteral("屏"), QStringLiteral("色")};

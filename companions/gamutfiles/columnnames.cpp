@@ -25,14 +25,6 @@ struct ColumnText {
 //! Longer headers name no column.
 constexpr int longestHeader = 100;
 
-//! Most fields of a list are numbers, of which nothing need be looked up: no column is called by digits alone.
-bool isPlainNumber(const QString &text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) {
-        return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('.') || c == QLatin1Char('-');
-    });
-}
-
 //! \a text without what is written in many ways: spaces and joining signs, kinds of primes, wide and raised characters.
 QString compact(const QString &text)
 {
@@ -197,6 +189,13 @@ std::optional<ColumnName> withUnitBehind(const QString &key)
 }
 
 } // namespace
+
+bool isPlainNumber(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) {
+        return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('.') || c == QLatin1Char('-');
+    });
+}
 
 QString columnPartName(ColumnPart part)
 {

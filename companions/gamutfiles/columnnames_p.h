@@ -43,6 +43,10 @@ struct ColumnName {
     bool isUnitOnly = false; //!< whether the header is a unit and nothing else
 };
 
+/*! \brief Whether \a text is of digits, points and minus signs alone, as most fields of a list are: it names no column.
+ */
+bool isPlainNumber(const QString &text);
+
 /*!
  * \brief What the header \a text names; nothing when it is none of the names in use.
  *

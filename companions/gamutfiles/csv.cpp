@@ -182,6 +182,9 @@ CsvTable readCsv(const QString &raw, std::optional<QChar> separator)
     CsvTable best;
     int most = 0;
     for (const char candidate : {'\t', ';', ','}) {
+        if (!text.contains(QLatin1Char(candidate))) {
+            continue; // a record of one field has not the numbers of a measurement
+        }
         const CsvTable table = readTable(text, begin, QLatin1Char(candidate));
         const int records = recordsOfNumbers(table);
         if (records > most) {

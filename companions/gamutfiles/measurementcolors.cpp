@@ -157,7 +157,10 @@ void MeasurementReader::compareWithUv(const CsvRow &row, double x, double y)
 std::optional<MeasurementReader::RoundedNumber> MeasurementReader::unread(const CsvRow &row, ColumnPart part) const
 {
     const int column = m_list.recognized.headerLine > 0 ? m_header.columns[std::size_t(part)] : -1;
-    const QString text = column >= 0 ? row.fields.value(column) : QString();
+    if (column < 0) {
+        return std::nullopt;
+    }
+    const QString text = row.fields.value(column);
     const auto read = readNumber(text, m_decimalSign);
     if (!read) {
         return std::nullopt;

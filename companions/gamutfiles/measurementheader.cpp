@@ -24,6 +24,17 @@ bool isComplete(const std::array<int, columnPartCount> &columns)
         || (has(ColumnPart::X) && has(ColumnPart::Y) && has(ColumnPart::Z));
 }
 
+//! Whether \a row has so many fields that can name columns. Most rows are told from headers by that alone.
+bool mayBeComplete(const CsvRow &row)
+{
+    constexpr int fewestNames = 3;
+    int names = 0;
+    for (int i = 0; i < row.fields.size() && names < fewestNames; ++i) {
+        names += isPlainNumber(row.fields.at(i)) ? 0 : 1;
+    }
+    return names >= fewestNames;
+}
+
 std::array<MeasuredUnit, 2> unitsOf(const std::array<ColumnName, columnPartCount> &names)
 {
     return {names[std::size_t(ColumnPart::Luminance)].unit, names[std::size_t(ColumnPart::Y)].unit};
@@ -413,16 +424,22 @@ bool MeasurementReader::isRepeatedHeader(const CsvRow &row) const
         return !m_unitRow.fields.isEmpty() && row.fields == m_unitRow.fields
             && !std::all_of(row.fields.begin(), row.fields.end(), isDashOrNothing);
     };
+    if (isUnitRow()) {
+        return true;
+    }
+    if (!mayBeComplete(row)) {
+        return false;
+    }
     const Header header = headerOf(row);
-    return isUnitRow()
-        || (isComplete(header.columns) && header.columns == m_header.columns
-            && unitsOf(header.names) == unitsOf(m_header.names));
+    return isComplete(header.columns) && header.columns == m_header.columns
+        && unitsOf(header.names) == unitsOf(m_header.names);
 }
 
 //! Whether \a row names columns, but others than the header.
 bool MeasurementReader::isOtherHeader(const CsvRow &row) const
 {
-    return m_list.recognized.headerLine > 0 && isComplete(headerOf(row).columns) && !isRepeatedHeader(row);
+    return m_list.recognized.headerLine > 0 && mayBeComplete(row) && isComplete(headerOf(row).columns)
+        && !isRepeatedHeader(row);
 }
 
 } // namespace gamutfiles

@@ -118,6 +118,7 @@ QVector<Measurement> MeasurementList::others() const
         return measurements;
     }
     QVector<Measurement> result;
+    result.reserve(measurements.size());
     std::copy_if(
         measurements.begin(), measurements.end(), std::back_inserter(result), [](const Measurement &measurement) {
             return measurement.part == MeasurementPart::None || measurement.part == MeasurementPart::Black;
@@ -142,9 +143,15 @@ QString CabinetMeasurements::label() const
 
 QVector<CabinetMeasurements> MeasurementList::cabinets() const
 {
+    const auto hasPlace = [](const Measurement &measurement) {
+        return !measurement.cabinet.isEmpty() || measurement.row || measurement.column;
+    };
+    if (std::none_of(measurements.begin(), measurements.end(), hasPlace)
+        && std::none_of(withoutNumbers.begin(), withoutNumbers.end(), hasPlace)) {
+        return {};
+    }
     QVector<CabinetMeasurements> result;
     QHash<QString, int> indices;
-    bool hasPlaces = false;
     const auto indexOf = [&](const Measurement &measurement) {
         const QString key = cabinetKey(measurement);
         auto index = indices.constFind(key);
@@ -155,7 +162,6 @@ QVector<CabinetMeasurements> MeasurementList::cabinets() const
             list.whiteIsSum = whiteIsSum;
             list.recognized = recognized;
             result.append({measurement.cabinet, measurement.row, measurement.column, list});
-            hasPlaces = hasPlaces || !measurement.cabinet.isEmpty() || measurement.row || measurement.column;
         }
         return *index;
     };
@@ -165,7 +171,7 @@ QVector<CabinetMeasurements> MeasurementList::cabinets() const
     for (const Measurement &measurement : withoutNumbers) {
         indexOf(measurement);
     }
-    return hasPlaces ? result : QVector<CabinetMeasurements>();
+    return result;
 }
 
 } // namespace gamutfiles

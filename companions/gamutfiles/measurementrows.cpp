@@ -23,6 +23,7 @@ bool MeasurementReader::readRows()
     for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
         findNoise(m_table.rows.at(i));
     }
+    m_list.measurements.reserve(int(m_table.rows.size()));
     for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
         if (!takeRow(m_table.rows.at(i))) {
             return false;

@@ -108,32 +108,49 @@ std::optional<Spelling> spelling(const QString &field, QChar decimalSign)
     return Spelling{sign + ungrouped->first + point + fraction + exponent, decimals >= 0, ungrouped->second};
 }
 
-//! What spelling() comes to of digits with at most one point or comma in them, as most numbers are; nothing for others.
-std::optional<DecimalEvidence> plainEvidence(const QString &text)
+//! Digits with at most one point or comma in them, as most numbers are.
+struct PlainNumber {
+    QChar divider; // null: none
+    qsizetype whole = 0; // digits before it
+    qsizetype decimals = 0; // and behind it
+    bool beginsWithZero = false;
+};
+
+//! Nothing where \a text is anything else, for which spelling() is needed.
+std::optional<PlainNumber> plainNumber(const QString &text)
 {
     const auto begin = text.begin() + (text.startsWith(QLatin1Char('-')) ? 1 : 0);
     const auto divider = std::find_if_not(begin, text.end(), isDigit);
-    const auto whole = divider - begin;
-    if (divider == text.end()) {
-        return whole > 0 && text.size() <= longestNumber ? std::make_optional(DecimalEvidence::None) : std::nullopt;
+    PlainNumber number{QChar(), divider - begin, 0, divider != begin && *begin == QLatin1Char('0')};
+    if (divider != text.end()) {
+        number.divider = *divider;
+        number.decimals = text.end() - divider - 1;
+        if ((*divider != point && *divider != comma) || !std::all_of(divider + 1, text.end(), isDigit)) {
+            return std::nullopt;
+        }
     }
-    const auto decimals = text.end() - divider - 1;
-    if ((*divider != point && *divider != comma) || whole + decimals == 0 || text.size() > longestNumber
-        || !std::all_of(divider + 1, text.end(), isDigit)) {
-        return std::nullopt;
+    const bool isNumber = number.whole + number.decimals > 0 && text.size() <= longestNumber;
+    return isNumber ? std::make_optional(number) : std::nullopt;
+}
+
+//! What spelling() comes to.
+DecimalEvidence evidenceOf(const PlainNumber &number)
+{
+    if (number.divider.isNull()) {
+        return DecimalEvidence::None;
     }
-    if (whole > 0 && whole <= 3 && *begin != QLatin1Char('0') && decimals == 3) {
+    if (number.whole > 0 && number.whole <= 3 && !number.beginsWithZero && number.decimals == 3) {
         return DecimalEvidence::Ambiguous; // of thousands
     }
-    return *divider == point ? DecimalEvidence::Point : DecimalEvidence::Comma;
+    return number.divider == point ? DecimalEvidence::Point : DecimalEvidence::Comma;
 }
 
 } // namespace
 
 DecimalEvidence decimalEvidence(const QString &text)
 {
-    if (const auto plain = plainEvidence(text)) {
-        return *plain;
+    if (const auto plain = plainNumber(text)) {
+        return evidenceOf(*plain);
     }
     const auto withPoint = spelling(text, point);
     const auto withComma = spelling(text, comma);
@@ -166,12 +183,16 @@ bool isNotMeasured(const QString &text)
         QStringLiteral("1.#ind"), QStringLiteral("-1.#ind"), QStringLiteral("1.#qnan"), QStringLiteral("-1.#qnan"),
         QStringLiteral("null"), QStringLiteral("none"), QStringLiteral("/"), QStringLiteral("#n/a"),
         QStringLiteral("#nv"), QStringLiteral("#div/0!")};
-    return isDashOrNothing(text) || words.contains(text.trimmed(), Qt::CaseInsensitive);
+    return isDashOrNothing(text) || (!plainNumber(text) && words.contains(text.trimmed(), Qt::CaseInsensitive));
 }
 
 std::optional<Number> readNumber(const QString &text, QChar decimalSign)
 {
-    const auto spelled = spelling(text, decimalSign);
+    const auto plain = plainNumber(text);
+    const bool isPlain = plain && (plain->divider.isNull() || plain->divider == decimalSign);
+    const auto spelled = isPlain
+        ? std::make_optional(Spelling{QString(text).replace(comma, point), !plain->divider.isNull(), QChar()})
+        : spelling(text, decimalSign);
     if (!spelled) {
         return std::nullopt;
     }
