@@ -54,7 +54,13 @@ void DescriptionReader::readDescription(const Node &node)
     m_description.notes = readString(member(node, QStringLiteral("notes")));
 
     const QSet<QString> shown = shownNames(node);
-    for (const Node &element : elements(member(node, QStringLiteral("gamuts")))) {
+    const Node gamuts = member(node, QStringLiteral("gamuts"));
+    const auto gamutElements = elements(gamuts);
+    if (gamutElements.size() > std::size_t(maximumDescriptionGamuts)) {
+        fail(gamuts, tr("has more than %1 gamuts").arg(maximumDescriptionGamuts));
+        return;
+    }
+    for (const Node &element : gamutElements) {
         const QString given = member(element, QStringLiteral("name")).value.toString();
         m_description.gamuts.push_back(
             readGamut(element, shown.contains(given) ? PrimariesOf::Display : PrimariesOf::ColorSpace));

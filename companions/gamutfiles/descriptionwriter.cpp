@@ -5,6 +5,7 @@
 #include "descriptionformat_p.h"
 #include <gamutfiles/filebytes.h>
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -12,6 +13,10 @@
 namespace gamutfiles {
 
 namespace {
+
+struct WriterText {
+    Q_DECLARE_TR_FUNCTIONS(gamutfiles::DescriptionWriter)
+};
 
 QJsonObject colorObject(const Model::Target &target)
 {
@@ -134,12 +139,22 @@ QByteArray descriptionText(const DisplayDescription &description)
     insertPoints(object, QStringLiteral("measurePoints"), description.measurePoints);
     insertPoints(object, QStringLiteral("cmyPoints"), description.cmyPoints);
     insertWall(object, description.wall);
-    return QJsonDocument(object).toJson();
+    const QJsonDocument document(object);
+    const QByteArray indented = document.toJson();
+    return indented.size() <= maximumDescriptionBytes ? indented : document.toJson(QJsonDocument::Compact);
 }
 
 QString writeDescription(const DisplayDescription &description, const QString &fileName)
 {
-    return writeBytes(descriptionText(description), fileName);
+    if (description.gamuts.size() > std::size_t(maximumDescriptionGamuts)) {
+        return WriterText::tr("has more than %1 gamuts, and could not be read again").arg(maximumDescriptionGamuts);
+    }
+    const QByteArray text = descriptionText(description);
+    if (text.size() > maximumDescriptionBytes) {
+        return WriterText::tr("would be larger than %1 KiB, and could not be read again")
+            .arg(maximumDescriptionBytes / 1024);
+    }
+    return writeBytes(text, fileName);
 }
 
 } // namespace gamutfiles

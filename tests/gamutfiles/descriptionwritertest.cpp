@@ -21,8 +21,10 @@ private Q_SLOTS:
     void anyDescriptionSurvives();
     void emptyPartsAreLeftOut();
     void largestWallFits();
+    void longestMeasurementListFits();
     void writesAFile();
     void cannotWrite();
+    void writesNothingThatCannotBeRead();
 };
 
 namespace {
@@ -308,6 +310,24 @@ void DescriptionWriterTest::largestWallFits()
     QVERIFY2(large < 50 * small, qPrintable(QStringLiteral("%1 and %2 ticks").arg(small).arg(large)));
 }
 
+// Indented, the points of a measurement list of the largest size would be longer than what is read.
+void DescriptionWriterTest::longestMeasurementListFits()
+{
+    const auto textOf = [](int points) {
+        DisplayDescription description;
+        for (int i = 0; i < points; ++i) {
+            description.measurePoints.append({QStringLiteral("P%1").arg(i), QPointF(0.1 + i / 1e6, 0.6 - i / 1e6)});
+        }
+        const QByteArray text = descriptionText(description);
+        const auto read = readDescription(text);
+        return read && same(*read, description) ? text : QByteArray();
+    };
+    QVERIFY(textOf(10).contains("\n    "));
+    const QByteArray large = textOf(200000);
+    QVERIFY(!large.isEmpty());
+    QVERIFY(large.size() <= maximumDescriptionBytes);
+}
+
 void DescriptionWriterTest::writesAFile()
 {
     const QTemporaryDir folder;
@@ -325,6 +345,31 @@ void DescriptionWriterTest::cannotWrite()
     QVERIFY(!writeDescription(everything(), folder.filePath(QStringLiteral("no/wall.json"))).isEmpty());
     QVERIFY(!writeDescription(everything(), folder.path()).isEmpty());
     QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+void DescriptionWriterTest::writesNothingThatCannotBeRead()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("display.json"));
+    DisplayDescription description;
+    description.notes = QString(maximumDescriptionBytes, QLatin1Char('n'));
+    QCOMPARE(writeDescription(description, file),
+        QStringLiteral("would be larger than 16384 KiB, and could not be read again"));
+    description.notes.clear();
+    for (int i = 0; i < maximumDescriptionGamuts; ++i) {
+        description.gamuts.emplace_back(Model::ColorGamut(std::to_string(i), Model::rec709().getTargets()));
+    }
+    QCOMPARE(writeDescription(description, file), QString());
+    const auto largest = readDescriptionFile(file);
+    QVERIFY(largest && largest->gamuts.size() == description.gamuts.size());
+    QVERIFY(QFile::remove(file));
+    description.gamuts.emplace_back(Model::ColorGamut("one more", Model::rec709().getTargets()));
+    QCOMPARE(
+        writeDescription(description, file), QStringLiteral("has more than 20000 gamuts, and could not be read again"));
+    QVERIFY(!QFile::exists(file));
+    const auto read = readDescription(descriptionText(description));
+    QVERIFY(!read);
+    QCOMPARE(read.error(), QStringLiteral("gamuts: has more than 20000 gamuts"));
 }
 
 QTEST_GUILESS_MAIN(DescriptionWriterTest)

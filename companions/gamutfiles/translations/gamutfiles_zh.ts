@@ -284,6 +284,21 @@
         <source>a name has characters that cannot be stored</source>
         <translation>名称中含有无法存储的字符</translation>
     </message>
+    <message>
+        <source>has more than %1 gamuts</source>
+        <translation>含有超过 %1 个色域</translation>
+    </message>
+</context>
+<context>
+    <name>gamutfiles::DescriptionWriter</name>
+    <message>
+        <source>has more than %1 gamuts, and could not be read again</source>
+        <translation>含有超过 %1 个色域，无法再次读取</translation>
+    </message>
+    <message>
+        <source>would be larger than %1 KiB, and could not be read again</source>
+        <translation>会大于 %1 KiB，无法再次读取</translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::Edid</name>
