@@ -24,10 +24,13 @@ namespace {
 constexpr int stepsPerRound = 400;
 
 #ifdef SOAK_SANITIZED
-constexpr double longestStep = 15.0; // seconds; the sanitizers take their share
+constexpr double slowness = 5.0; // the share of the sanitizers
 #else
-constexpr double longestStep = 3.0; // the longest steps take about a second on a fast machine
+constexpr double slowness = 1.0;
 #endif
+// Seconds. On a slow machine, a step may take longer than it should.
+constexpr double longStep = 1.0 * slowness;
+constexpr double longestStep = 3.0 * slowness;
 
 using Use = void (*)(soak::Round &round);
 
@@ -83,7 +86,7 @@ int main(int argc, char **argv)
     }
 
     static char where[100];
-    soak::StallWatch watch(longestStep, where);
+    soak::StallWatch watch(longStep, longestStep, where);
     long rounds = 0;
     long steps = 0;
     const auto run = [&](unsigned which) {

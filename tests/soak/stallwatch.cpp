@@ -42,6 +42,11 @@ void sayStack(const char *what)
     ::backtrace_symbols_fd(frames, ::backtrace(frames, most), STDERR_FILENO);
 }
 
+void onLongStep(int)
+{
+    sayStack("a long step");
+}
+
 void onStall(int)
 {
     sayStack("a step takes too long");
@@ -66,8 +71,9 @@ double seconds(clockid_t clock)
 
 class StallWatch::Private {
 public:
-    explicit Private(double limit)
-        : m_limit(limit)
+    Private(double named, double limit)
+        : m_named(named)
+        , m_limit(limit)
         , m_watched(::pthread_self())
     {
         ::pthread_getcpuclockid(m_watched, &m_clock);
@@ -93,6 +99,7 @@ private:
         double passed = seconds(CLOCK_MONOTONIC);
         double busy = 0.0;
         double idle = 0.0;
+        bool isNamed = false;
         while (!m_ends) {
             std::this_thread::sleep_for(interval);
             const double computedNow = seconds(m_clock);
@@ -107,6 +114,10 @@ private:
                 last = now;
                 busy = 0.0;
                 idle = 0.0;
+                isNamed = false;
+            } else if (busy > m_named && !isNamed) {
+                isNamed = true;
+                ::pthread_kill(m_watched, SIGUSR1);
             } else if (busy > m_limit || (idle > longestWait && busy < leastShare * idle)) {
                 ::pthread_kill(m_watched, SIGUSR2);
                 return;
@@ -114,6 +125,7 @@ private:
         }
     }
 
+    double m_named;
     double m_limit;
     pthread_t m_watched;
     clockid_t m_clock{};
@@ -122,11 +134,12 @@ private:
     std::thread m_thread;
 };
 
-StallWatch::StallWatch(double seconds, const char *where)
-    : d((shownWhere = where, std::make_unique<Private>(seconds)))
+StallWatch::StallWatch(double named, double limit, const char *where)
+    : d((shownWhere = where, std::make_unique<Private>(named, limit)))
 {
     void *frame = nullptr;
     ::backtrace(&frame, 1); // loads what it needs, which a signal handler must not
+    std::signal(SIGUSR1, &onLongStep);
     std::signal(SIGUSR2, &onStall);
     std::signal(SIGABRT, &onCrash);
 #ifndef SOAK_SANITIZED // which tells of these itself, and then aborts
@@ -144,7 +157,7 @@ public:
     void beat() { }
 };
 
-StallWatch::StallWatch(double, const char *)
+StallWatch::StallWatch(double, double, const char *)
     : d(std::make_unique<Private>())
 {
 }

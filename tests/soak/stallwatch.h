@@ -8,17 +8,20 @@
 namespace soak {
 
 /*!
- * \brief Ends the program with the stack of the main thread when a step of it takes too long, and says at any crash
- * what was being done.
+ * \brief Prints the stack of the main thread when a step of it is long, ends the program with it when the step takes
+ * too long, and says at any crash what was being done.
  *
- * A step takes too long when it computes for longer than the limit, or does not end for half a minute because it waits.
+ * A step takes too long when it computes for longer than a limit, or does not end for half a minute because it waits.
  * Time in which other programs had the processor, or the whole machine stood still, does not count. Does nothing where
  * the system is not POSIX.
  */
 class StallWatch {
 public:
-    /*! \brief Watches the calling thread. \a where points to a text of what is done, which may change at any time. */
-    StallWatch(double seconds, const char *where);
+    /*!
+     * \brief Watches the calling thread: a step of more than \a named seconds is long, one of more than \a limit takes
+     * too long. \a where points to a text of what is done, which may change at any time.
+     */
+    StallWatch(double named, double limit, const char *where);
     ~StallWatch();
     StallWatch(const StallWatch &) = delete;
     StallWatch &operator=(const StallWatch &) = delete;
