@@ -104,7 +104,8 @@ void CommandLineTest::actions_data()
     QTest::newRow("check by tolerances") << "--check --tolerances stage.json wall.json" << Action::Write << false;
     QTest::newRow("window with tolerances") << "--tolerances stage.json wall.json" << Action::Show << true;
     QTest::newRow("help") << "--help" << Action::Help << false;
-    QTest::newRow("help before all else") << "--bogus a b -h --render x" << Action::Help << false;
+    QTest::newRow("help before what is known") << "a b -h --render x" << Action::Help << false;
+    QTest::newRow("nothing before what is unknown") << "a b -h --version --bogus" << Action::Refuse << false;
     QTest::newRow("version") << "-v" << Action::Version << false;
     QTest::newRow("refused") << "--bogus" << Action::Refuse << true;
     QTest::newRow("refused rendering") << "--bogus --render wall.png" << Action::Refuse << false;

@@ -160,6 +160,10 @@ CommandLine::CommandLine(const QStringList &arguments)
     const bool understood = m_parser.parse(arguments);
     m_needsDisplay = !m_parser.isSet(render) && !m_parser.isSet(report) && !m_parser.isSet(check)
         && !m_parser.isSet(corrections) && !m_parser.isSet(help) && !m_parser.isSet(version);
+    if (!m_parser.unknownOptionNames().isEmpty()) {
+        refuse(m_parser.errorText()); // whatever else is asked for: it may be a slip in the rest
+        return;
+    }
     if (m_parser.isSet(help)) {
         m_action = Action::Help;
         return;
