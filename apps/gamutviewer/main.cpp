@@ -25,6 +25,7 @@
 #include <QLoggingCategory>
 #include <QScreen>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -40,11 +41,16 @@ using namespace gamutviewer;
 
 enum ExitStatus { Done = 0, Failed = 1, WrongInput = 2, DisplayFails = 3, VerdictNotKnown = 4, NeedsChoice = 5 };
 
-int print(const QByteArray &text)
+//! On standard output; where that fails, \a failure is told with the reason.
+ExitStatus print(const QByteArray &text, const QString &failure)
 {
-    const bool written = std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout) == std::size_t(text.size())
-        && std::fflush(stdout) == 0;
-    return written ? Done : Failed;
+    errno = 0;
+    if (std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout) == std::size_t(text.size())
+        && std::fflush(stdout) == 0) {
+        return Done;
+    }
+    printError(errno != 0 ? QStringLiteral("%1: %2").arg(failure, qt_error_string(errno)) : failure);
+    return Failed;
 }
 
 ExitStatus statusOf(Judgement judgement)
@@ -191,16 +197,19 @@ int write(const OpenedFiles &opened, const std::optional<Tolerances> &tolerances
         return commandLine.wantsTextReport() ? textReport(description, tolerances, notesOf(opened))
                                              : reportText(description, tolerances, notesOf(opened));
     };
-    if (commandLine.wantsReport() && print(reportOf()) != Done) {
-        printError(QApplication::translate("main", "the report cannot be written to standard output"));
+    if (commandLine.wantsReport()
+        && print(reportOf(), QApplication::translate("main", "the report cannot be written to standard output"))
+            != Done) {
         return Failed;
     }
     if (!commandLine.wantsCheck()) {
         return Done;
     }
     const Assessment assessment = assess(description, tolerances, opened.needsChoice);
-    if (!commandLine.wantsReport() && print(verdictText(assessment)) != Done) {
-        printError(QApplication::translate("main", "the verdict cannot be written to standard output"));
+    if (!commandLine.wantsReport()
+        && print(verdictText(assessment),
+               QApplication::translate("main", "the verdict cannot be written to standard output"))
+            != Done) {
         return Failed;
     }
     return statusOf(assessment.judgement());
@@ -283,16 +292,18 @@ int run(int argc, char *argv[])
     const QString unknown = undecodable(argc, argv);
     if (!unknown.isEmpty()) {
         printError(QApplication::translate(
-            "main", "%1: is not text in the encoding of the system; such a file is read from standard input, named -")
+            "main", "%1: is not text in the encoding of the system; use another name, or standard input, named -")
                        .arg(unknown));
         return WrongInput;
     }
     const CommandLine commandLine(QApplication::arguments());
     switch (commandLine.action()) {
     case CommandLine::Action::Help:
-        return print(commandLine.helpText().toLocal8Bit());
+        return print(commandLine.helpText().toLocal8Bit(),
+            QApplication::translate("main", "the help cannot be written to standard output"));
     case CommandLine::Action::Version:
-        return print(QStringLiteral("gamutviewer %1\n").arg(QApplication::applicationVersion()).toLocal8Bit());
+        return print(QStringLiteral("gamutviewer %1\n").arg(QApplication::applicationVersion()).toLocal8Bit(),
+            QApplication::translate("main", "the version cannot be written to standard output"));
     case CommandLine::Action::Refuse:
         printError(commandLine.error());
         return WrongInput;

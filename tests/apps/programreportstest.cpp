@@ -29,7 +29,7 @@ private Q_SLOTS:
     void listsThatNeedAChoice_data();
     void listsThatNeedAChoice();
     void checkThatCannotRenderFails();
-    void reportCannotBeWritten();
+    void outputCannotBeWritten();
 };
 
 namespace {
@@ -281,13 +281,20 @@ void ProgramReportsTest::checkThatCannotRenderFails()
     QCOMPARE(run({"--check", "--render", "no/such/folder.png", SAMPLE_FILE}).exitCode, 1);
 }
 
-void ProgramReportsTest::reportCannotBeWritten()
+void ProgramReportsTest::outputCannotBeWritten()
 {
 #ifdef Q_OS_LINUX
-    const Result result = run({"-c", "exec \"$0\" --report json \"$1\" >/dev/full", GAMUTVIEWER_PROGRAM, SAMPLE_FILE},
-        bare(), {}, QStringLiteral("/bin/sh"));
-    QCOMPARE(result.error, QByteArray("gamutviewer: the report cannot be written to standard output\n"));
-    QCOMPARE(result.exitCode, 1);
+    const std::pair<const char *, const char *> calls[] = {{"--report json \"$1\"", "report"},
+        {"--check \"$1\"", "verdict"}, {"--help", "help"}, {"--version", "version"}};
+    for (const auto &[arguments, what] : calls) {
+        const QString command = QStringLiteral("exec \"$0\" %1 >/dev/full").arg(QLatin1String(arguments));
+        const Result result
+            = run({"-c", command, GAMUTVIEWER_PROGRAM, SAMPLE_FILE}, bare(), {}, QStringLiteral("/bin/sh"));
+        const auto message = QStringLiteral("gamutviewer: the %1 cannot be written to standard output: No space left "
+                                            "on device\n");
+        QCOMPARE(result.error, message.arg(QLatin1String(what)).toLatin1());
+        QCOMPARE(result.exitCode, 1);
+    }
 #endif
 }
 
