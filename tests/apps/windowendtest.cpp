@@ -5,6 +5,8 @@
 #include "window/gamutsdialog.h"
 
 #include <QAction>
+#include <QMenu>
+#include <QToolButton>
 
 using namespace gamutviewer;
 
@@ -14,6 +16,7 @@ class WindowEndTest : public QObject {
 private Q_SLOTS:
     void historyEndsInSilence();
     void listOfGamutsEndsBeforeTheDocument();
+    void menuWithTheFocusEndsAfterItsEditor();
 };
 
 //! A window that goes with changes in its history does not follow the history to its end.
@@ -48,6 +51,25 @@ void WindowEndTest::listOfGamutsEndsBeforeTheDocument()
     QObject::connect(&f.document(), &QObject::destroyed, [&order] { order.append(QStringLiteral("document")); });
     f.window.reset();
     QCOMPARE(order.value(0), QStringLiteral("dialog"));
+}
+
+//! The focus leaves the menu when most of the editor that it belongs to has gone, which must not hear of it any more.
+void WindowEndTest::menuWithTheFocusEndsAfterItsEditor()
+{
+    WindowFixture f;
+    QMenu *menu = nullptr;
+    for (const auto *button : f.window->findChildren<QToolButton *>()) {
+        menu = button->text() == QLatin1String("&Reset to") ? button->menu() : menu;
+    }
+    QVERIFY(menu);
+    menu->popup(f.window->mapToGlobal(QPoint(100, 100)));
+    menu->setFocus();
+    QCOMPARE(QApplication::focusWidget(), menu);
+    bool hasLeft = false;
+    QObject::connect(
+        qApp, &QApplication::focusChanged, menu, [&](const QWidget *former) { hasLeft |= former == menu; });
+    f.window.reset();
+    QVERIFY(hasLeft);
 }
 
 QTEST_MAIN(WindowEndTest)
