@@ -181,6 +181,14 @@ Tokens tokens(const QString &text)
     return result;
 }
 
+QString firstWord(const QString &text)
+{
+    const auto isLetter = [](QChar c) { return c.isLetter(); };
+    const auto begin = std::find_if(text.begin(), text.end(), isLetter);
+    const auto end = std::find_if_not(begin, text.end(), isLetter);
+    return text.mid(int(begin - text.begin()), int(end - begin));
+}
+
 //! The drive of red, green and blue that a colour has at its full level.
 std::array<bool, 3> driven(MeasurementPart part)
 {
@@ -234,7 +242,12 @@ ColorName colorName(const QString &name)
     if (name.size() > longestName) {
         return {};
     }
-    const Tokens found = tokens(name.normalized(QString::NormalizationForm_KC).toLower());
+    const QString text = name.normalized(QString::NormalizationForm_KC).toLower();
+    const QString first = firstWord(text);
+    if (partOf(first) == MeasurementPart::None && !isFiller(first)) {
+        return {}; // as most points of a long list
+    }
+    const Tokens found = tokens(text);
     static const QString harmlessSigns = QStringLiteral("%/()[]@-_:=,;");
     if (!std::all_of(found.signs.begin(), found.signs.end(), [](QChar c) { return harmlessSigns.contains(c); })) {
         return {};

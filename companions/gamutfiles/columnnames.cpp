@@ -285,7 +285,18 @@ bool isOfOtherObserver(const QString &text)
     return isColor(key);
 }
 
-bool isTenthOfSeries(const QString &text, const QStringList &headers)
+QSet<QString> comparedHeaders(const QStringList &headers)
+{
+    QSet<QString> compared;
+    for (const QString &header : headers) {
+        if (header.size() <= longestHeader) {
+            compared.insert(compact(header));
+        }
+    }
+    return compared;
+}
+
+bool isTenthOfSeries(const QString &text, const QSet<QString> &headers)
 {
     QString ninth = compact(text);
     const int ten = int(ninth.lastIndexOf(QLatin1String("10")));
@@ -295,10 +306,7 @@ bool isTenthOfSeries(const QString &text, const QStringList &headers)
     QString padded = ninth;
     ninth.replace(ten, 2, QStringLiteral("9"));
     padded.replace(ten, 2, QStringLiteral("09"));
-    return std::any_of(headers.begin(), headers.end(), [&](const QString &header) {
-        const QString other = header.size() > longestHeader ? QString() : compact(header);
-        return other == ninth || other == padded;
-    });
+    return headers.contains(ninth) || headers.contains(padded);
 }
 
 bool statesOtherObserver(const QString &line)

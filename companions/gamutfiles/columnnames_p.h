@@ -5,6 +5,7 @@
 
 #include <gamutfiles/measurementoptions.h>
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -62,12 +63,15 @@ std::optional<ColumnName> columnName(const QString &text);
  */
 bool isOfOtherObserver(const QString &text);
 
+/*! \brief The \a headers of all columns as isTenthOfSeries() compares them. */
+QSet<QString> comparedHeaders(const QStringList &headers);
+
 /*!
  * \brief Whether the header \a text, such as "x10", only counts, as there is a ninth one among \a headers: "x9".
  *
- * Then it does not name the 10° observer.
+ * Then it does not name the 10° observer. \a headers are those that comparedHeaders() gives.
  */
-bool isTenthOfSeries(const QString &text, const QStringList &headers);
+bool isTenthOfSeries(const QString &text, const QSet<QString> &headers);
 
 /*! \brief Whether the line of text \a line says that the CIE 1964 (10°) observer was used: "Observer: 10°". */
 bool statesOtherObserver(const QString &line);

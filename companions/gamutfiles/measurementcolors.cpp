@@ -124,8 +124,8 @@ bool MeasurementReader::readXy(const CsvRow &row, Measurement &measurement, bool
 void MeasurementReader::compareWithTristimulus(const CsvRow &row, double x, double y)
 {
     const auto X = unread(row, ColumnPart::X);
-    const auto Y = unread(row, ColumnPart::Y);
-    const auto Z = unread(row, ColumnPart::Z);
+    const auto Z = X ? unread(row, ColumnPart::Z) : std::nullopt;
+    const auto Y = Z ? unread(row, ColumnPart::Y) : std::nullopt;
     if (!X || !Y || !Z || X->value < 0.0 || Y->value <= 0.0 || Z->value < 0.0) {
         return;
     }

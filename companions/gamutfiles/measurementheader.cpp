@@ -113,9 +113,17 @@ MeasurementReader::Header MeasurementReader::headerOf(const CsvRow &row)
     Header header;
     header.columns.fill(-1);
     const bool isLab = namesLab(row.fields);
+    QVector<int> remarks;
     bool toldOfDoubled = false;
+    std::optional<QSet<QString>> compared;
+    const auto isTenth = [&](const QString &text) {
+        if (!compared) {
+            compared = comparedHeaders(row.fields);
+        }
+        return isTenthOfSeries(text, *compared);
+    };
     for (int i = 0; i < row.fields.size(); ++i) {
-        if (isOfOtherObserver(row.fields.at(i)) && !isTenthOfSeries(row.fields.at(i), row.fields)) {
+        if (isOfOtherObserver(row.fields.at(i)) && !isTenth(row.fields.at(i))) {
             if (!header.hasOtherObserver) {
                 header.warnings.append(
                     {tr("column %1 is of the 10° observer and is not read").arg(i + 1), place(row.line), 0, 0});
@@ -128,12 +136,12 @@ MeasurementReader::Header MeasurementReader::headerOf(const CsvRow &row)
             continue;
         }
         if (name->part == ColumnPart::Note) {
-            header.nameColumns.append(i);
+            remarks.append(i);
             continue;
         }
         const auto part = std::size_t(name->part);
         if (name->part == ColumnPart::Name) {
-            header.nameColumns.insert(header.nameCount++, i);
+            header.nameColumns.append(i);
         }
         const bool isLuminance = name->part == ColumnPart::Luminance || name->part == ColumnPart::Y;
         header.luminances += isLuminance ? 1 : 0;
@@ -149,6 +157,8 @@ MeasurementReader::Header MeasurementReader::headerOf(const CsvRow &row)
                 place(row.line), 0, 0});
         }
     }
+    header.nameCount = int(header.nameColumns.size());
+    header.nameColumns += remarks;
     return header;
 }
 
@@ -263,22 +273,50 @@ void MeasurementReader::warnOfObserver(int headerLine)
     }
 }
 
+//! What is in \a columns, which ascend, in the rows below the header.
+std::vector<MeasurementReader::NamesInColumn> MeasurementReader::namesIn(const QVector<int> &columns) const
+{
+    std::vector<NamesInColumn> names(std::size_t(columns.size()));
+    int shortest
+        = columns.isEmpty() ? 0 : columns.last() + 1; // of the measurements, which can be shorter than the header
+    for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
+        const QStringList &fields = m_table.rows.at(i).fields;
+        const auto hasNumbers = [&fields] { return std::count_if(fields.begin(), fields.end(), isNumber) >= 3; };
+        std::optional<bool> isMeasurement;
+        for (std::size_t k = 0; k < names.size() && columns.at(int(k)) < fields.size(); ++k) {
+            const QString text = fields.at(columns.at(int(k))).trimmed();
+            if (text.isEmpty()) {
+                isMeasurement = isMeasurement ? *isMeasurement : hasNumbers();
+                names[k].hasGap = names[k].hasGap || *isMeasurement;
+                continue;
+            }
+            const MeasurementPart part = colorName(text).part;
+            names[k].colors += part == MeasurementPart::None ? 0 : 1;
+            names[k].has[std::size_t(part)] = true;
+        }
+        if (fields.size() < shortest && (isMeasurement ? *isMeasurement : hasNumbers())) {
+            shortest = int(fields.size());
+        }
+    }
+    for (std::size_t k = 0; k < names.size(); ++k) {
+        names[k].hasGap = names[k].hasGap || columns.at(int(k)) >= shortest;
+    }
+    return names;
+}
+
 //! Of the columns that can name the measurements the one counts that names the most colours.
 void MeasurementReader::chooseName(Header &header, const CsvRow &row)
 {
     int &name = header.columns[std::size_t(ColumnPart::Name)];
     int most = 0;
+    QVector<int> columns = header.nameColumns;
+    std::sort(columns.begin(), columns.end());
+    const std::vector<NamesInColumn> names = namesIn(columns);
     for (const int column : std::as_const(header.nameColumns)) {
-        int colors = 0;
-        bool isGap = false; // whether a measurement has no name in this column
-        for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
-            const QStringList &fields = m_table.rows.at(i).fields;
-            const QString text = fields.value(column).trimmed();
-            colors += colorName(text).part == MeasurementPart::None ? 0 : 1;
-            isGap = isGap || (text.isEmpty() && std::count_if(fields.begin(), fields.end(), isNumber) >= 3);
-        }
-        if (colors > most && (column == name || !isGap)) {
-            most = colors;
+        const NamesInColumn &here
+            = names[std::size_t(std::lower_bound(columns.begin(), columns.end(), column) - columns.begin())];
+        if (here.colors > most && (column == name || !here.hasGap)) {
+            most = here.colors;
             name = column;
         }
     }
@@ -297,22 +335,19 @@ void MeasurementReader::chooseName(Header &header, const CsvRow &row)
 //! A column with a header that says nothing, such as "Messpunkt" or none, in which are red, green and blue; -1: none.
 int MeasurementReader::columnOfColors(const Header &header) const
 {
+    QVector<int> columns;
     for (int column = 0; column < m_headerFields; ++column) {
-        if (std::find(header.columns.begin(), header.columns.end(), column) != header.columns.end()) {
-            continue;
+        if (std::find(header.columns.begin(), header.columns.end(), column) == header.columns.end()) {
+            columns.append(column);
         }
-        QSet<int> found;
-        bool isGap = false; // whether a measurement has no name in this column
-        for (int i = m_firstRow; i < m_table.rows.size(); ++i) {
-            const QStringList &fields = m_table.rows.at(i).fields;
-            const QString text = fields.value(column).trimmed();
-            found.insert(int(colorName(text).part));
-            isGap = isGap || (text.isEmpty() && std::count_if(fields.begin(), fields.end(), isNumber) >= 3);
-        }
+    }
+    const std::vector<NamesInColumn> names = namesIn(columns);
+    for (std::size_t k = 0; k < names.size(); ++k) {
+        const auto has = [&](MeasurementPart part) { return names[k].has[std::size_t(part)]; };
         // A column of grades can have an R or a G.
-        if (!isGap && found.contains(int(MeasurementPart::Red)) && found.contains(int(MeasurementPart::Green))
-            && found.contains(int(MeasurementPart::Blue))) {
-            return column;
+        if (!names[k].hasGap && has(MeasurementPart::Red) && has(MeasurementPart::Green)
+            && has(MeasurementPart::Blue)) {
+            return columns.at(int(k));
         }
     }
     return -1;

@@ -12,6 +12,7 @@
 
 #include <array>
 #include <utility>
+#include <vector>
 
 namespace gamutfiles {
 
@@ -52,6 +53,12 @@ protected: // for lists that are still being written
     static Header headerOf(const CsvRow &row);
     bool useCommentedHeader();
     void useHeader(Header header, const CsvRow &row, int firstRow);
+    struct NamesInColumn {
+        int colors = 0; // how many fields name one
+        std::array<bool, std::size_t(MeasurementPart::Black) + 1> has{}; // by MeasurementPart
+        bool hasGap = false; // whether a measurement has no name in this column
+    };
+    std::vector<NamesInColumn> namesIn(const QVector<int> &columns) const;
     void chooseName(Header &header, const CsvRow &row);
     int columnOfColors(const Header &header) const;
     void chooseLuminance(Header &header, const CsvRow &row);

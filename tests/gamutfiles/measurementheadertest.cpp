@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <ctime>
 
 using namespace gamutfiles;
 
@@ -46,6 +47,8 @@ private Q_SLOTS:
     void remarks();
     void colorsUnderAnUnknownHeader();
     void namelessLines();
+    void manyColumns_data();
+    void manyColumns();
 };
 
 void MeasurementHeaderTest::headerOrdersTheColumns()
@@ -501,6 +504,37 @@ void MeasurementHeaderTest::namelessLines()
     const auto gamut = readMeasurementList(text, options)->gamut(QString());
     QVERIFY(gamut);
     QCOMPARE(gamut->getTargets().white.Y, 1000.0);
+}
+
+void MeasurementHeaderTest::manyColumns_data()
+{
+    QTest::addColumn<QByteArray>("few");
+    QTest::addColumn<QByteArray>("many");
+    constexpr int least = 1000;
+    constexpr int most = 16 * least;
+    const auto line = [](const QByteArray &columns) { return columns + '\n'; };
+    const auto add = [](const char *name, const auto &listOf) { QTest::newRow(name) << listOf(least) << listOf(most); };
+    add("of the other observer", [&](int n) { return line(QByteArray("x10,").repeated(n)); });
+    add("without a name",
+        [&](int n) { return line("Y,x,y" + QByteArray(",").repeated(n)) + line("1,0.3,0.3").repeated(n); });
+    add("of names",
+        [&](int n) { return line("Y,x,y" + QByteArray(",Name").repeated(n)) + line("1,0.3,0.3").repeated(n); });
+}
+
+//! A list takes its time by its length, also where the header has thousands of columns that the lines do not have.
+void MeasurementHeaderTest::manyColumns()
+{
+    const auto timeOf = [](const QByteArray &text) {
+        const std::clock_t start = std::clock(); // which other programs do not move
+        readMeasurementList(text);
+        return double(std::clock() - start) / CLOCKS_PER_SEC;
+    };
+    QFETCH(QByteArray, few);
+    QFETCH(QByteArray, many);
+    const double fast = timeOf(few);
+    const double slow = timeOf(many);
+    // 16 times the length; by columns times lines, or columns times columns, it would be 256.
+    QVERIFY2(slow < 64.0 * fast + 0.1, qPrintable(QStringLiteral("%1 s, then %2 s").arg(fast).arg(slow)));
 }
 
 QTEST_GUILESS_MAIN(MeasurementHeaderTest)
