@@ -55,12 +55,11 @@ void DescriptionReader::readDescription(const Node &node)
 
     const QSet<QString> shown = shownNames(node);
     const Node gamuts = member(node, QStringLiteral("gamuts"));
-    const auto gamutElements = elements(gamuts);
-    if (gamutElements.size() > std::size_t(maximumDescriptionGamuts)) {
+    if (gamuts.value.toArray().size() > maximumDescriptionGamuts) {
         fail(gamuts, tr("has more than %1 gamuts").arg(maximumDescriptionGamuts));
         return;
     }
-    for (const Node &element : gamutElements) {
+    for (const Node &element : elements(gamuts)) {
         const QString given = member(element, QStringLiteral("name")).value.toString();
         m_description.gamuts.push_back(
             readGamut(element, shown.contains(given) ? PrimariesOf::Display : PrimariesOf::ColorSpace));

@@ -44,13 +44,18 @@ bool isOpen(const QByteArray &utf8)
     return inString || !closing.isEmpty();
 }
 
+bool isSpace(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
 //! Whether the text stops before it is complete, and what there is of it is right.
 bool endsTooEarly(const QByteArray &utf8, int errorOffset)
 {
     // The error is found at the end, or where the word, the escape or the character begins that is cut.
     constexpr int longestCut = 5;
     int end = int(utf8.size());
-    while (end > 0 && QByteArray(" \t\r\n").contains(utf8.at(end - 1))) {
+    while (end > 0 && isSpace(utf8.at(end - 1))) {
         --end;
     }
     return errorOffset >= end - longestCut && isOpen(utf8);
@@ -79,6 +84,9 @@ int stringEnd(const QByteArray &utf8, int begin)
 //! The string that \a literal is, with its quotes.
 QString stringOf(const QByteArray &literal)
 {
+    if (!literal.contains('\\')) {
+        return QString::fromUtf8('_' + literal.mid(1, literal.size() - 2)).mid(1);
+    }
     return QJsonDocument::fromJson('[' + withEscapedMarks(literal) + ']').array().at(0).toString();
 }
 
@@ -98,7 +106,7 @@ QVector<RepeatedKey> repeatedKeys(const QByteArray &utf8, int most)
             const int begin = i;
             const int end = stringEnd(utf8, begin);
             int next = end;
-            while (next < utf8.size() && QByteArray(" \t\r\n").contains(utf8.at(next))) {
+            while (next < utf8.size() && isSpace(utf8.at(next))) {
                 ++next;
             }
             if (next < utf8.size() && utf8.at(next) == ':' && !objects.isEmpty()) {

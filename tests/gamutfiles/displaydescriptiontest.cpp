@@ -38,6 +38,7 @@ private Q_SLOTS:
     void messageIsReadFromLeftToRight();
     void warnings_data();
     void warnings();
+    void manyWarnings();
     void samplesHaveNoWarnings();
     void documentedExampleIsRead();
 };
@@ -644,6 +645,23 @@ void DisplayDescriptionTest::warnings()
         given += warning.message(QStringLiteral("f"));
     }
     QCOMPARE(given, messages);
+}
+
+void DisplayDescriptionTest::manyWarnings()
+{
+    const auto warningsOf = [](int gamuts) {
+        DisplayDescription description;
+        Model::Targets dark = Model::rec709().getTargets();
+        dark.white = Model::Target::fromYxy(0.1 * dark.white.Y, dark.white.x, dark.white.y);
+        for (int i = 0; i < gamuts; ++i) {
+            description.gamuts.emplace_back(Model::ColorGamut(std::to_string(i), dark));
+        }
+        return readDescription(descriptionText(description)).warnings();
+    };
+    QCOMPARE(warningsOf(20).size(), 20);
+    const QVector<Problem> many = warningsOf(50);
+    QCOMPARE(many.size(), 21);
+    QCOMPARE(many.last().text, QStringLiteral("there are 30 further warning(s)"));
 }
 
 void DisplayDescriptionTest::samplesHaveNoWarnings()

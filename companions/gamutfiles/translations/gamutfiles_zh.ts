@@ -770,6 +770,12 @@
         <source>expected a whole number</source>
         <translation>应为整数</translation>
     </message>
+    <message numerus="yes">
+        <source>there are %n further warning(s)</source>
+        <translation>
+            <numerusform>还有 %n 条警告</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::MeasurementList</name>
