@@ -429,8 +429,8 @@ void LayerKey::refresh()
     const bool isChanged = change(wanted());
     measure();
     if (isChanged || m_builtVersion != m_document->version()) {
-        m_builtVersion = m_document->version();
         refreshChecks();
+        m_builtVersion = m_document->version();
     }
 }
 
