@@ -25,10 +25,12 @@
 #include <QLoggingCategory>
 #include <QScreen>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <iterator>
 #include <new>
 
 #ifdef __GLIBC__
@@ -247,7 +249,7 @@ QString undecodable(int argc, const char *const *argv)
 {
 #ifdef Q_OS_UNIX
     for (int i = 1; i < argc; ++i) {
-        const QString text = QString::fromLocal8Bit(argv[i]);
+        const QString text = decodedArgument(argv[i]);
         if (text.toLocal8Bit() != argv[i]) {
             return text;
         }
@@ -257,6 +259,20 @@ QString undecodable(int argc, const char *const *argv)
     Q_UNUSED(argv)
 #endif
     return {};
+}
+
+//! The arguments that are left when the toolkit has taken its own.
+QStringList arguments(int argc, const char *const *argv)
+{
+#ifdef Q_OS_UNIX
+    QStringList decoded;
+    std::transform(argv, argv + argc, std::back_inserter(decoded), &decodedArgument);
+    return decoded;
+#else
+    Q_UNUSED(argc)
+    Q_UNUSED(argv)
+    return QApplication::arguments();
+#endif
 }
 
 // Without a word of the translators, who need memory.
@@ -296,7 +312,7 @@ int run(int argc, char *argv[])
                        .arg(unknown));
         return WrongInput;
     }
-    const CommandLine commandLine(QApplication::arguments());
+    const CommandLine commandLine(arguments(argc, argv));
     switch (commandLine.action()) {
     case CommandLine::Action::Help:
         return print(commandLine.helpText().toLocal8Bit(),

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void listsThatNeedAChoice();
     void namesTheLineOfASyntaxError();
     void readsFromAPipe();
+    void opensNamesWithAMark();
     void refusesDescriptions_data();
     void refusesDescriptions();
     void refusesArguments_data();
@@ -115,6 +116,22 @@ void GamutViewerTest::readsFromAPipe()
     QVERIFY2(isOneLine(result.error), result.error);
     QVERIFY2(result.error.startsWith("gamutviewer: /dev/stdin:2:"), result.error);
     QCOMPARE(entries(), QStringList("chart.png"));
+#endif
+}
+
+//! A byte order mark at the beginning belongs to the name of a file as any other character does.
+void GamutViewerTest::opensNamesWithAMark()
+{
+#ifdef Q_OS_LINUX
+    write("wall.json", minimal);
+    write("other", "no description");
+    QProcessEnvironment environment = bare();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    const QString command = QStringLiteral("name=$(printf '\\357\\273\\277')other && mv wall.json $name && "
+                                           "exec \"$0\" --report json $name");
+    const Result result = run({"-c", command, GAMUTVIEWER_PROGRAM}, environment, {}, QStringLiteral("/bin/sh"));
+    QVERIFY2(result.exitCode == 0, result.error);
+    QVERIFY(QJsonDocument::fromJson(result.output).object().contains("target"));
 #endif
 }
 

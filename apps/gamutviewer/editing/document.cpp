@@ -380,8 +380,7 @@ QString Document::nameIn(const DisplayDescription &edited, const QString &name) 
     const auto there = std::find_if(shown.begin(), shown.end(),
         [wanted = name.toStdString()](const DisplayGamut &gamut) { return gamut.colorGamutName() == wanted; });
     const bool isRenamed = there != shown.end() && shown.size() == edited.gamuts.size();
-    return isRenamed ? QString::fromStdString(edited.gamuts[std::size_t(there - shown.begin())].colorGamutName())
-                     : QString();
+    return isRenamed ? nameOf(edited.gamuts[std::size_t(there - shown.begin())]) : QString();
 }
 
 DisplayWall Document::wallWithoutFollowed(const DisplayWall &edited) const

@@ -43,10 +43,10 @@ QStringList gamutNames(const DisplayDescription &description)
 {
     QStringList names;
     for (const DisplayGamut &gamut : description.gamuts) {
-        names.append(QString::fromStdString(gamut.colorGamutName()));
+        names.append(nameOf(gamut));
     }
     for (const Model::PublishedGamut &published : Model::publishedGamuts()) {
-        names.append(QString::fromStdString(published.gamut.colorGamutName()));
+        names.append(nameOf(published.gamut));
     }
     names.removeDuplicates();
     return names;

@@ -148,7 +148,7 @@ std::optional<DisplayWall> singleDisplay(const DisplayDescription &description)
     }
     const Model::Targets &targets = gamut->getTargets();
     WallCabinet cabinet;
-    cabinet.name = QString::fromStdString(gamut->colorGamutName());
+    cabinet.name = nameOf(*gamut);
     cabinet.red = targets.red;
     cabinet.green = targets.green;
     cabinet.blue = targets.blue;

@@ -41,11 +41,17 @@ bool choosePlatform(const CommandLine &commandLine, const QStringList &arguments
 
 } // namespace
 
+QString decodedArgument(const char *argument)
+{
+    // QString::fromLocal8Bit() takes a byte order mark at the beginning away, and a file can be called so.
+    return QString::fromLocal8Bit('_' + QByteArray(argument)).mid(1);
+}
+
 Application makeApplication(int &argc, char **argv)
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+        arguments.append(decodedArgument(argv[i]));
     }
     const CommandLine commandLine(arguments);
     Application made;

@@ -6,6 +6,7 @@
 #include <memory>
 
 class QCoreApplication;
+class QString;
 
 namespace gamutviewer {
 
@@ -14,6 +15,9 @@ struct Application {
     std::unique_ptr<QCoreApplication> application;
     bool canShow = false;
 };
+
+/*! \brief \a argument, in the encoding of the system, as text; one that is none does not give the same bytes again. */
+QString decodedArgument(const char *argument);
 
 /*!
  * \brief Makes the application that the arguments need, for at most once in a process.
