@@ -13,8 +13,7 @@ namespace gamutfiles {
 
 namespace {
 
-//! The published gamut of exactly the name \a gamutName.
-std::optional<DisplayGamut> published(const QString &gamutName)
+const QHash<QString, Model::ColorGamut> &publishedByName()
 {
     static const QHash<QString, Model::ColorGamut> gamuts = [] {
         QHash<QString, Model::ColorGamut> all;
@@ -23,8 +22,15 @@ std::optional<DisplayGamut> published(const QString &gamutName)
         }
         return all;
     }();
-    const auto found = gamuts.constFind(gamutName);
-    return found != gamuts.cend() ? std::make_optional(DisplayGamut(*found, LuminanceUnit::Relative)) : std::nullopt;
+    return gamuts;
+}
+
+//! The published gamut of exactly the name \a gamutName.
+std::optional<DisplayGamut> published(const QString &gamutName)
+{
+    const auto found = publishedByName().constFind(gamutName);
+    return found != publishedByName().cend() ? std::make_optional(DisplayGamut(*found, LuminanceUnit::Relative))
+                                             : std::nullopt;
 }
 
 } // namespace
@@ -102,20 +108,27 @@ bool DisplayDescription::removeOwnGamut(const QString &gamutName)
 
 std::vector<DisplayGamut> DisplayDescription::allStandards() const
 {
-    QStringList names = standards;
-    for (const Model::ColorGamut &published : Model::standardGamuts()) {
-        names.append(nameOf(published));
-    }
-    names.removeDuplicates();
     const QHash<QString, int> places = gamutPlaces();
+    const QStringList names = standardNames(places);
     std::vector<DisplayGamut> found;
     found.reserve(std::size_t(names.size()));
-    for (const QString &name : qAsConst(names)) {
-        if (const auto standard = gamut(name, places)) {
-            found.push_back(*standard);
-        }
+    for (const QString &name : names) {
+        found.push_back(*gamut(name, places));
     }
     return found;
+}
+
+QStringList DisplayDescription::standardNames(const QHash<QString, int> &places) const
+{
+    QStringList names = standards;
+    for (const Model::ColorGamut &standard : Model::standardGamuts()) {
+        names.append(nameOf(standard));
+    }
+    names.removeDuplicates();
+    const auto isUnknown
+        = [&places](const QString &name) { return !places.contains(name) && !publishedByName().contains(name); };
+    names.erase(std::remove_if(names.begin(), names.end(), isUnknown), names.end());
+    return names;
 }
 
 } // namespace gamutfiles

@@ -123,6 +123,8 @@ struct DisplayDescription {
     /*! \brief The gamuts to compare with: the description's standards, then the other ones of Model::standardGamuts().
      */
     GAMUTFILES_EXPORT std::vector<DisplayGamut> allStandards() const;
+    /*! \brief The names of allStandards(), by the \a places that gamutPlaces() has given. */
+    GAMUTFILES_EXPORT QStringList standardNames(const QHash<QString, int> &places) const;
 };
 
 } // namespace gamutfiles

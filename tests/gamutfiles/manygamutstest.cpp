@@ -16,6 +16,7 @@ class ManyGamutsTest : public QObject {
 private Q_SLOTS:
     void readingGrowsWithTheirNumber();
     void standardsGrowWithTheirNumber();
+    void unknownStandardsAreLeftOut();
     void placesFindWhatNamesFind();
 };
 
@@ -67,8 +68,26 @@ void ManyGamutsTest::readingGrowsWithTheirNumber()
 void ManyGamutsTest::standardsGrowWithTheirNumber()
 {
     verifyLinear([](const DisplayDescription &all) {
-        QCOMPARE(all.allStandards().size(), all.gamuts.size() + Model::standardGamuts().size());
+        const auto standards = all.allStandards();
+        QCOMPARE(standards.size(), all.gamuts.size() + Model::standardGamuts().size());
+        const QStringList names = all.standardNames(all.gamutPlaces());
+        QVERIFY(std::equal(standards.begin(), standards.end(), names.begin(), names.end(),
+            [](const DisplayGamut &gamut, const QString &name) { return nameOf(gamut) == name; }));
     });
+}
+
+void ManyGamutsTest::unknownStandardsAreLeftOut()
+{
+    DisplayDescription all = description(2);
+    all.standards = QStringList{QStringLiteral("none"), longName(1), QStringLiteral("Rec.2020")};
+    QStringList names{longName(1), QStringLiteral("Rec.2020")};
+    for (const Model::ColorGamut &standard : Model::standardGamuts()) {
+        if (!names.contains(nameOf(standard))) {
+            names.append(nameOf(standard));
+        }
+    }
+    QCOMPARE(all.standardNames(all.gamutPlaces()), names);
+    QCOMPARE(all.allStandards().size(), std::size_t(names.size()));
 }
 
 // With places and without, the same gamut is found: one's own before the published one, and the first of a name.

@@ -4,8 +4,6 @@
 
 #include "drawing/documentcontent.h"
 
-#include <algorithm>
-
 namespace gamutviewer {
 
 void LayerSwitches::setState(const State &state)
@@ -54,10 +52,12 @@ ceiechart::DiagramContent LayerSwitches::content(const DisplayDescription &descr
     std::vector<DisplayGamut> standards;
     if (isShown(ceiechart::DiagramLayer::Standards)) {
         const QSet<QString> named(description.standards.begin(), description.standards.end());
-        standards = description.allStandards();
-        standards.erase(std::remove_if(standards.begin(), standards.end(),
-                            [&](const DisplayGamut &standard) { return !isStandardShown(nameOf(standard), named); }),
-            standards.end());
+        const QHash<QString, int> places = description.gamutPlaces();
+        for (const QString &name : description.standardNames(places)) {
+            if (isStandardShown(name, named)) {
+                standards.push_back(*description.gamut(name, places));
+            }
+        }
     }
     ceiechart::DiagramContent content = documentContent(
         description, m_showsDefaultTarget ? gamutPartsToEdit(description) : gamutParts(description), standards);

@@ -320,9 +320,7 @@ LayerKey::Built LayerKey::wanted() const
         wanted.hasPoints = m_built->hasPoints;
         return wanted;
     }
-    for (const Model::ColorGamut &standard : description.allStandards()) {
-        wanted.standards.append(nameOf(standard));
-    }
+    wanted.standards = description.standardNames(description.gamutPlaces());
     wanted.hasPoints = {
         hasMeasurePoints(description), !description.colorTemperaturePoints.isEmpty(), !description.cmyPoints.isEmpty()};
     return wanted;
