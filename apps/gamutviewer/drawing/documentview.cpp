@@ -19,7 +19,7 @@ DocumentView::DocumentView(TargetSession *session, const LayerSwitches *switches
             refresh();
         }
     });
-    connect(session, &TargetSession::tolerancesChanged, this, &DocumentView::refresh);
+    connect(session, &TargetSession::tolerancesChanged, this, [this] { refresh(); });
     connect(switches, &LayerSwitches::changed, this, [this] { m_shownVersion.reset(); });
 }
 
@@ -34,7 +34,7 @@ QVector<ceiechart::DiagramRings> DocumentView::rings() const
     return targetRings(target->getTargets(), document->targetIsDefault() ? std::nullopt : session()->tolerances());
 }
 
-void DocumentView::refresh()
+void DocumentView::refresh(const DocumentView *alike)
 {
     const Document *document = session()->document();
     noteOutside();
@@ -44,7 +44,11 @@ void DocumentView::refresh()
         setRings(rings());
         return;
     }
-    ceiechart::DiagramContent content = m_switches->content(document->description());
+    // To find thousands of standards and their names takes time.
+    const DisplayDescription &description = document->description();
+    ceiechart::DiagramContent content = alike && alike->m_shownVersion == document->version()
+        ? m_switches->withLayers(alike->content(), description)
+        : m_switches->content(description);
     if (content.find(ceiechart::GamutRole::Target)) {
         content.rings = rings();
         content.trail = document->whiteTrail();

@@ -18,8 +18,12 @@ class DocumentView : public TargetView {
 public:
     DocumentView(TargetSession *session, const LayerSwitches *switches, QWidget *parent = nullptr);
 
-    /*! \brief Shows the document as it is now. */
-    void refresh();
+    /*!
+     * \brief Shows the document as it is now.
+     *
+     * \param alike a view with the same standards, which may show it already; then its gamuts are taken. May be null.
+     */
+    void refresh(const DocumentView *alike = nullptr);
 
 private:
     QVector<ceiechart::DiagramRings> rings() const;

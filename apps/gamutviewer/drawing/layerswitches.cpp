@@ -62,6 +62,12 @@ ceiechart::DiagramContent LayerSwitches::content(const DisplayDescription &descr
     ceiechart::DiagramContent content = documentContent(
         description, m_showsDefaultTarget ? gamutPartsToEdit(description) : gamutParts(description), standards);
     content.measurePoints = cabinetMarks(description.wall) + content.measurePoints;
+    return withLayers(content, description);
+}
+
+ceiechart::DiagramContent LayerSwitches::withLayers(
+    ceiechart::DiagramContent content, const DisplayDescription &description) const
+{
     content.layers = m_state.layers;
     content.colors = m_state.colors;
     if (description.target.isEmpty()) {

@@ -50,6 +50,9 @@ public:
 
     /*! \brief What a diagram shows of \a description. */
     ceiechart::DiagramContent content(const DisplayDescription &description) const;
+    /*! \brief \a content of \a description with the layers and colours of these switches. */
+    ceiechart::DiagramContent withLayers(
+        ceiechart::DiagramContent content, const DisplayDescription &description) const;
 
 Q_SIGNALS:
     void changed();

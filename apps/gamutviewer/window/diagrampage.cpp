@@ -175,7 +175,7 @@ void DiagramPage::showLens()
 void DiagramPage::refresh()
 {
     m_view->refresh();
-    m_lens->refresh();
+    m_lens->refresh(*m_view);
     showLens();
 }
 

@@ -72,7 +72,7 @@ void Lens::resizeEvent(QResizeEvent *event)
     showWhite();
 }
 
-void Lens::refresh()
+void Lens::refresh(const DocumentView &large)
 {
     using ceiechart::DiagramLayer;
     LayerSwitches::State state = m_switches->state();
@@ -81,7 +81,7 @@ void Lens::refresh()
     // Away from the white there is nothing to tell apart.
     state.layers &= ~(DiagramLayer::CommonArea | DiagramLayer::LostArea | DiagramLayer::Axes | DiagramLayer::Names);
     m_ownSwitches->setState(state);
-    m_view->refresh();
+    m_view->refresh(&large);
     const auto target = m_session->document()->target();
     setEnabled(target.has_value());
     if (!target) {

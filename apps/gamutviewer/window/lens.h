@@ -25,7 +25,8 @@ public:
     Lens(TargetSession *session, LayerSwitches *switches, QWidget *parent);
 
     DocumentView *view() const { return m_view; }
-    void refresh();
+    /*! \brief Shows the document as it is now; \a large is the diagram that the lens is on. */
+    void refresh(const DocumentView &large);
     /*! \brief Brings the white into the middle. */
     void showWhite();
 
