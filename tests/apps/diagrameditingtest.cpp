@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include "diagramfixture.h"
+#include "followeddocument.h"
 
 #include "editing/targetsession.h"
 #include "panel/layerkey.h"
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void theFirstDragKeepsTheHandleUnderThePointer();
     void theFirstKeyStepKeepsTheDiagram();
     void panelAndVerdictFollowADrag();
+    void lensAndKeyFollowADrag();
     void noteTellsWhatThePrimaryIsOutsideOf();
     void noteTellsOfTheWall();
     void escapeCancelsADrag();
@@ -120,6 +122,52 @@ void DiagramEditingTest::panelAndVerdictFollowADrag()
     QCOMPARE(f.window->panel()->editor()->firstCoordinate(Vertex::Green)->value(), f.xy(Vertex::Green).x());
     QVERIFY(view(f)->editNote().contains(QLatin1String("outside")));
     pointer.release(QPointF(0.10, 0.78));
+}
+
+//! What is not the target's is not sought again in each step, but shown when it changes in the middle of one.
+void DiagramEditingTest::lensAndKeyFollowADrag()
+{
+    using ceiechart::DiagramLayer;
+    WindowFixture f;
+    const ceiechart::DiagramView *lens = f.window->diagramPage()->lens()->view();
+    LayerSwitches *switches = f.window->diagramPage()->switches();
+    const auto targetOf = [](const ceiechart::DiagramView *shown) {
+        return shown->content().find(GamutRole::Target)->gamut.getTargets();
+    };
+    const auto isFollowed = [&] {
+        const Model::Targets target = f.document().target()->getTargets();
+        return ceiechart::sameTargets(targetOf(lens), target) && ceiechart::sameTargets(targetOf(view(f)), target);
+    };
+    const auto isShown = [&](const QString &name) {
+        const auto &gamuts = lens->content().gamuts;
+        return std::any_of(gamuts.begin(), gamuts.end(),
+            [&name](const DiagramGamut &gamut) { return gamut.gamut.colorGamutName() == name.toStdString(); });
+    };
+    const QString standard = f.document().description().standards.value(0);
+    QVERIFY(isShown(standard));
+    DiagramPointer pointer(view(f));
+    pointer.press(f.xy(Vertex::Green));
+    pointer.move(QPointF(0.22, 0.64));
+    QVERIFY(f.document().isDragging());
+    QVERIFY(isFollowed());
+    switches->setStandardShown(standard, false);
+    QVERIFY(!isShown(standard));
+    QCOMPARE(key(f)->entry(standard)->checkState(), Qt::Unchecked);
+    switches->setShown(DiagramLayer::Rings, false);
+    pointer.move(QPointF(0.21, 0.64));
+    QVERIFY(isFollowed() && !isShown(standard));
+    // A measurement that is followed.
+    FollowedMeasurement measured;
+    measured.file = followeddocument::followed(0.69, QStringLiteral("followed"));
+    f.document().showFollowed(measured);
+    const auto &points = lens->content().measurePoints;
+    QVERIFY(std::any_of(points.begin(), points.end(),
+        [](const ceiechart::DiagramMark &point) { return point.name.contains(QLatin1String("followed")); }));
+    pointer.move(QPointF(0.20, 0.64));
+    QVERIFY(isFollowed());
+    pointer.release(QPointF(0.20, 0.64));
+    QVERIFY(!f.document().isDragging() && isFollowed() && !isShown(standard));
+    QVERIFY(isShown(f.document().description().target));
 }
 
 void DiagramEditingTest::noteTellsWhatThePrimaryIsOutsideOf()
