@@ -5,6 +5,8 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
+#include <cfloat>
 #include <cmath>
 
 namespace gamutfiles {
@@ -133,6 +135,22 @@ std::optional<PlainNumber> plainNumber(const QString &text)
     return isNumber ? std::make_optional(number) : std::nullopt;
 }
 
+//! The nearest double; nothing where that takes more than to divide two whole numbers that doubles have exactly.
+std::optional<double> valueOf(const PlainNumber &number, const QString &text)
+{
+    constexpr std::array powers{1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    constexpr int mostDigits = 15;
+    if (FLT_EVAL_METHOD != 0 || number.whole + number.decimals > mostDigits) {
+        return std::nullopt;
+    }
+    qint64 digits = 0;
+    for (const QChar c : text) {
+        digits = isDigit(c) ? 10 * digits + (c.unicode() - '0') : digits;
+    }
+    const double value = double(digits) / powers[std::size_t(number.decimals)];
+    return text.startsWith(QLatin1Char('-')) ? -value : value;
+}
+
 //! What spelling() comes to.
 DecimalEvidence evidenceOf(const PlainNumber &number)
 {
@@ -190,6 +208,9 @@ std::optional<Number> readNumber(const QString &text, QChar decimalSign)
 {
     const auto plain = plainNumber(text);
     const bool isPlain = plain && (plain->divider.isNull() || plain->divider == decimalSign);
+    if (const auto value = isPlain ? valueOf(*plain, text) : std::nullopt) {
+        return Number{*value, !plain->divider.isNull(), QChar()};
+    }
     const auto spelled = isPlain
         ? std::make_optional(Spelling{QString(text).replace(comma, point), !plain->divider.isNull(), QChar()})
         : spelling(text, decimalSign);

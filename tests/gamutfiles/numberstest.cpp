@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include <gamutfiles/numbers_p.h>
 
+#include <QLocale>
 #include <QtTest>
+
+#include <cmath>
+#include <random>
 
 using namespace gamutfiles;
 
@@ -16,6 +20,7 @@ private Q_SLOTS:
     void evidence();
     void values_data();
     void values();
+    void nearestDoubles();
     void notFinite();
     void partsOfTheNumber();
 };
@@ -82,6 +87,28 @@ void NumbersTest::values()
     const auto number = readNumber(text, decimalSign.at(0));
     QVERIFY(number);
     QVERIFY(number->value == value);
+}
+
+//! Of any number of digits before and behind the decimal sign, the nearest double.
+void NumbersTest::nearestDoubles()
+{
+    std::mt19937 random(1);
+    const auto upTo = [&random](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
+    const auto digits = [&](int count) {
+        QString text;
+        for (int i = 0; i < count; ++i) {
+            text += QChar('0' + upTo(9));
+        }
+        return text;
+    };
+    for (int i = 0; i < 100000; ++i) {
+        const QString text = (upTo(1) == 0 ? QStringLiteral("-") : QString()) + digits(1 + upTo(9)) + QLatin1Char('.')
+            + digits(upTo(17));
+        const auto number = readNumber(text, QLatin1Char('.'));
+        const double nearest = QLocale::c().toDouble(text);
+        QVERIFY2(number && number->value == nearest && std::signbit(number->value) == std::signbit(nearest),
+            qPrintable(text));
+    }
 }
 
 void NumbersTest::notFinite()
