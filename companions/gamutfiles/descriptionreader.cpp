@@ -11,6 +11,13 @@
 
 namespace gamutfiles {
 
+namespace {
+
+//! The most warnings of gamuts that the display is neither said nor meant to show: there can be thousands of them.
+constexpr int mostOtherWarnings = 20;
+
+} // namespace
+
 Outcome<DisplayDescription> readDescription(const QByteArray &utf8)
 {
     DescriptionReader reader;
@@ -29,6 +36,7 @@ std::optional<DisplayDescription> DescriptionReader::read(const QByteArray &utf8
 {
     m_description = DisplayDescription();
     m_places.clear();
+    m_otherWarnings = 0;
     const auto root
         = parse(utf8, maximumDescriptionBytes, tr("is too large for a display description (more than %1 KiB)"));
     if (!root) {
@@ -68,6 +76,7 @@ void DescriptionReader::readDescription(const Node &node)
         }
         m_places.insert(given, int(m_description.gamuts.size()) - 1);
     }
+    warnOfTheRest(gamuts);
     m_description.original = readDisplayReference(member(node, QStringLiteral("original")));
     m_description.declared = readGamutReference(member(node, QStringLiteral("declared")));
     m_description.measured = readDisplayReference(member(node, QStringLiteral("measured")));
@@ -132,7 +141,16 @@ void DescriptionReader::warnOfGamut(const Node &node, const Model::Targets &gamu
         return;
     }
     for (const Problem &warning : warningsOfTheWhite(gamut)) {
-        warn(member(node, QStringLiteral("white")), warning.text);
+        if (kind == PrimariesOf::Display || ++m_otherWarnings <= mostOtherWarnings) {
+            warn(member(node, QStringLiteral("white")), warning.text);
+        }
+    }
+}
+
+void DescriptionReader::warnOfTheRest(const Node &gamuts)
+{
+    if (m_otherWarnings > mostOtherWarnings) {
+        warn(gamuts, tr("%n further warning(s)", nullptr, m_otherWarnings - mostOtherWarnings));
     }
 }
 

@@ -32,6 +32,7 @@ private:
     static QSet<QString> shownNames(const Node &node);
     DisplayGamut readGamut(const Node &node, PrimariesOf kind);
     void warnOfGamut(const Node &node, const Model::Targets &gamut, PrimariesOf kind);
+    void warnOfTheRest(const Node &gamuts);
     LuminanceUnit readUnit(const Node &node);
     Model::Target readTarget(const Node &node, PrimariesOf kind, double rounding = 0.0);
     QVector<NamedPoint> readPoints(const Node &node);
@@ -51,6 +52,7 @@ private:
 
     DisplayDescription m_description;
     QHash<QString, int> m_places; //!< DisplayDescription::gamutPlaces() of what has been read
+    int m_otherWarnings = 0; //!< of gamuts that the display does not show
 };
 
 } // namespace gamutfiles

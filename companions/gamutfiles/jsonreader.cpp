@@ -63,17 +63,6 @@ std::optional<JsonReader::Node> JsonReader::parse(const QByteArray &utf8, int ma
     return Node{document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object()), QString()};
 }
 
-QVector<Problem> JsonReader::warnings() const
-{
-    constexpr int mostWarnings = 20;
-    if (m_warnings.size() <= mostWarnings) {
-        return m_warnings;
-    }
-    QVector<Problem> first = m_warnings.mid(0, mostWarnings);
-    first.append({tr("there are %n further warning(s)", nullptr, int(m_warnings.size()) - mostWarnings), {}, 0, 0});
-    return first;
-}
-
 void JsonReader::checkVersion(const Node &node, int known)
 {
     if (readNumber(node) != known) {

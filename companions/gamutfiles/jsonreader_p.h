@@ -29,11 +29,8 @@ class JsonReader {
 public:
     /*! \brief The first thing that is wrong. */
     const Problem &problem() const { return m_error; }
-    /*!
-     * \brief What a user must know of a text that was taken: keys that an object has twice, and what warn() said; of
-     * many, the first and how many more there are.
-     */
-    QVector<Problem> warnings() const;
+    /*! \brief What a user must know of a text that was taken: keys that an object has twice, and what warn() said. */
+    const QVector<Problem> &warnings() const { return m_warnings; }
 
 protected:
     struct Node {

@@ -656,12 +656,23 @@ void DisplayDescriptionTest::manyWarnings()
         for (int i = 0; i < gamuts; ++i) {
             description.gamuts.emplace_back(Model::ColorGamut(std::to_string(i), dark));
         }
-        return readDescription(descriptionText(description)).warnings();
+        description.target = QString::fromStdString(std::to_string(gamuts - 1));
+        QStringList messages;
+        const auto read = readDescription(descriptionText(description));
+        for (const Problem &warning : read.warnings()) {
+            messages.append(warning.message(QStringLiteral("f")));
+        }
+        return messages;
     };
-    QCOMPARE(warningsOf(20).size(), 20);
-    const QVector<Problem> many = warningsOf(50);
-    QCOMPARE(many.size(), 21);
-    QCOMPARE(many.last().text, QStringLiteral("there are 30 further warning(s)"));
+    const QStringList few = warningsOf(21);
+    QCOMPARE(few.size(), 21);
+    QVERIFY(few.last().startsWith(QLatin1String("f: gamuts[20].white: ")));
+    // What the display is meant to show is told all the same.
+    const QStringList many = warningsOf(51);
+    QCOMPARE(many.size(), 22);
+    QVERIFY(many.at(19).startsWith(QLatin1String("f: gamuts[19].white: ")));
+    QVERIFY(many.at(20).startsWith(QLatin1String("f: gamuts[50].white: ")));
+    QCOMPARE(many.at(21), QStringLiteral("f: gamuts: 30 further warning(s)"));
 }
 
 void DisplayDescriptionTest::samplesHaveNoWarnings()

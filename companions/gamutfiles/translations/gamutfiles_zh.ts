@@ -288,6 +288,12 @@
         <source>has more than %1 gamuts</source>
         <translation>含有超过 %1 个色域</translation>
     </message>
+    <message numerus="yes">
+        <source>%n further warning(s)</source>
+        <translation>
+            <numerusform>还有 %n 条警告</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>gamutfiles::DescriptionWriter</name>
@@ -769,12 +775,6 @@
     <message>
         <source>expected a whole number</source>
         <translation>应为整数</translation>
-    </message>
-    <message numerus="yes">
-        <source>there are %n further warning(s)</source>
-        <translation>
-            <numerusform>还有 %n 条警告</numerusform>
-        </translation>
     </message>
 </context>
 <context>
