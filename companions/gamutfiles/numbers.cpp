@@ -211,9 +211,7 @@ std::optional<Number> readNumber(const QString &text, QChar decimalSign)
     if (const auto value = isPlain ? valueOf(*plain, text) : std::nullopt) {
         return Number{*value, !plain->divider.isNull(), QChar()};
     }
-    const auto spelled = isPlain
-        ? std::make_optional(Spelling{QString(text).replace(comma, point), !plain->divider.isNull(), QChar()})
-        : spelling(text, decimalSign);
+    const auto spelled = spelling(text, decimalSign);
     if (!spelled) {
         return std::nullopt;
     }

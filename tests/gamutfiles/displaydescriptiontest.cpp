@@ -656,7 +656,7 @@ void DisplayDescriptionTest::manyWarnings()
         for (int i = 0; i < gamuts; ++i) {
             description.gamuts.emplace_back(Model::ColorGamut(std::to_string(i), dark));
         }
-        description.target = QString::fromStdString(std::to_string(gamuts - 1));
+        description.target = QString::number(gamuts - 1);
         QStringList messages;
         const auto read = readDescription(descriptionText(description));
         for (const Problem &warning : read.warnings()) {
