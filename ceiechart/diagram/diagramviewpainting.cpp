@@ -6,6 +6,7 @@
 #include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/polylines_p.h>
 
+#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -294,7 +295,9 @@ void DiagramView::Private::paintView(QPainter &p, const QRegion &region)
     const bool isReadoutOnly
         = !overlay.readout.isEmpty() && region.subtracted(overlay.readoutPlace.toAlignedRect()).isEmpty();
     if (!isReadoutOnly) {
-        p.setClipRegion(region);
+        if (p.paintEngine()->systemClip().isEmpty()) {
+            p.setClipRegion(region);
+        }
         const bool isAll = region == QRegion(q->rect());
         if (isAll) {
             painter->paintColors(&p, q->devicePixelRatioF());

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/drawlist_p.h>
+#include <ceiechart/diagram/pixelpainter_p.h>
 #include <ceiechart/diagram/polylines_p.h>
 
 #include <QGuiApplication>
@@ -14,11 +15,19 @@
 
 namespace ceiechart {
 
+/*! \brief What a list is painted on, and which part of it. */
+struct PaintTarget {
+    QPainter &painter;
+    std::optional<PixelPainter> pixels; //!< of the painter, which is slower
+    const QRegion &needed; //!< empty where everything is needed
+};
+
 namespace {
 
 constexpr double pointsPerInch = 72.0;
 constexpr double casingWidth = 3.0; // of texts, logical pixels
-constexpr int mostKnownTexts = 2000; // whose glyphs are kept
+constexpr int mostKnownTexts = 1000; // whose glyphs are kept
+constexpr size_t mostPicturesOfText = 4; // in different colours
 constexpr int designPixelSize = 100; // large enough for rounding to play no part
 
 double dotsPerInch(const QPaintDevice *device)
@@ -155,7 +164,36 @@ void keepNeeded(QVector<QLineF> &lines, const QPen &pen, const QRegion &needed)
     }
 }
 
-void paintPieces(QPainter &painter, const QPolygonF &points, bool closed, QPen pen, const QRegion &needed)
+//! Separate lines with flat ends.
+void paintLines(const PaintTarget &target, QVector<QLineF> lines, const QPen &pen)
+{
+    if (target.pixels) {
+        for (const QLineF &line : qAsConst(lines)) {
+            target.pixels->line(line, pen.widthF(), pen.color());
+        }
+        return;
+    }
+    keepNeeded(lines, pen, target.needed);
+    target.painter.setPen(pen);
+    target.painter.drawLines(lines);
+}
+
+//! Dots as wide as \a pen.
+void paintDots(const PaintTarget &target, const QVector<QPointF> &middles, const QPen &pen)
+{
+    const double radius = pen.widthF() / 2.0;
+    target.painter.setPen(Qt::NoPen);
+    target.painter.setBrush(pen.color());
+    for (const QPointF &middle : middles) {
+        if (target.pixels) {
+            target.pixels->disc(middle, radius, pen.color());
+        } else if (isNeeded(widened(QRectF(middle, middle), roomOf(pen)), target.needed)) {
+            target.painter.drawEllipse(middle, radius, radius);
+        }
+    }
+}
+
+void paintPieces(const PaintTarget &target, const QPolygonF &points, bool closed, QPen pen)
 {
     QVector<QLineF> pieces;
     QVector<QPointF> corners;
@@ -174,80 +212,62 @@ void paintPieces(QPainter &painter, const QPolygonF &points, bool closed, QPen p
         pen.setStyle(Qt::SolidLine);
     }
     pen.setCapStyle(Qt::FlatCap);
-    keepNeeded(pieces, pen, needed);
-    painter.setPen(pen);
-    painter.drawLines(pieces);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(pen.color());
-    for (const QPointF &corner : corners) {
-        if (isNeeded(widened(QRectF(corner, corner), roomOf(pen)), needed)) {
-            painter.drawEllipse(corner, pen.widthF() / 2.0, pen.widthF() / 2.0);
-        }
-    }
+    paintLines(target, pieces, pen);
+    paintDots(target, corners, pen);
 }
 
-//! Puts \a runs at each of \a places in turn.
-void putGlyphs(QPainter &painter, const QList<QGlyphRun> &runs, const QVector<QPointF> &places)
+//! Paints \a runs with their base line at \a at, one over the other.
+void putGlyphs(QPainter &painter, const QList<QGlyphRun> &runs, const QPointF &at, const QColor &color)
 {
-    if (runs.size() == 1 && places.size() > 1) {
-        // All at once: the painter takes longer to begin with a run than to put down the few glyphs of a number.
-        const QVector<quint32> indexes = runs.first().glyphIndexes();
-        const QVector<QPointF> positions = runs.first().positions();
-        QVector<quint32> allIndexes;
-        QVector<QPointF> allPositions;
-        for (const QPointF &place : places) {
-            allIndexes += indexes;
-            for (const QPointF &position : positions) {
-                allPositions.append(place + position);
-            }
-        }
-        QGlyphRun all = runs.first();
-        all.setGlyphIndexes(allIndexes);
-        all.setPositions(allPositions);
-        painter.drawGlyphRun(QPointF(), all);
-        return;
+    painter.setPen(color);
+    for (const QGlyphRun &run : runs) {
+        painter.drawGlyphRun(at, run);
     }
-    for (const QPointF &place : places) {
-        for (const QGlyphRun &run : runs) {
-            painter.drawGlyphRun(place, run);
-        }
-    }
-}
-
-//! \a lines, each moved by \a distance to its left as seen from its first end.
-QVector<QLineF> movedAside(const QVector<QLineF> &lines, double distance)
-{
-    QVector<QLineF> moved;
-    moved.reserve(lines.size());
-    for (const QLineF &line : lines) {
-        const double length = line.length();
-        moved.append(line.translated(length > 0.0 ? QPointF(line.dy(), -line.dx()) * (distance / length) : QPointF()));
-    }
-    return moved;
 }
 
 /*!
- * Paints separate lines with flat ends.
+ * Paints \a runs on their \a casing, which is left out if it is no colour.
  *
- * The raster engine paints three lines that are one pixel wide in half of the time that it takes for one of three
- * pixels. Between them a little of what is below shows: together they have 0.7 to 0.9 of the strength of the wide line.
- * That is enough for casings, which are the only lines of this width.
+ * The glyphs are kept as pictures: to put them down eight times is faster than to stroke their outlines once.
+ *
+ * \param scale pixels for one of the units of \a painter
  */
-void paintLines(QPainter &painter, const QVector<QLineF> &lines, QPen pen)
+void putCasedGlyphs(QPainter &painter, const QList<QGlyphRun> &runs, const QPointF &at, const QColor &color,
+    const QColor &casing, double scale)
 {
-    constexpr double casedWidth = 3.0;
-    constexpr double apart = 0.9;
-    const bool isUnscaled = painter.deviceTransform().type() <= QTransform::TxTranslate;
-    if (pen.widthF() != casedWidth || !isUnscaled || !isRaster(painter)) {
-        painter.setPen(pen);
-        painter.drawLines(lines);
-        return;
+    constexpr double reach = casingWidth / 2.0;
+    constexpr double aslant = reach * 0.7;
+    // Glyphs stand on whole pixels: without rounding, casings would be wider on one side.
+    const auto onPixels = [scale](double way) { return double(std::lround(way * scale)) / scale; };
+    for (const QPointF &way : {QPointF(reach, 0.0), QPointF(-reach, 0.0), QPointF(0.0, reach), QPointF(0.0, -reach),
+             QPointF(aslant, aslant), QPointF(-aslant, aslant), QPointF(aslant, -aslant), QPointF(-aslant, -aslant)}) {
+        if (casing.isValid()) {
+            putGlyphs(painter, runs, at + QPointF(onPixels(way.x()), onPixels(way.y())), casing);
+        }
     }
-    pen.setWidthF(1.0);
-    painter.setPen(pen);
-    for (const double side : {-apart, 0.0, apart}) {
-        painter.drawLines(side == 0.0 ? lines : movedAside(lines, side));
+    putGlyphs(painter, runs, at, color);
+}
+
+TextPicture pictureOf(const QList<QGlyphRun> &runs, const QColor &color, const QColor &casing, double scale)
+{
+    QRectF bounds;
+    for (const QGlyphRun &run : runs) {
+        bounds |= run.boundingRect();
     }
+    constexpr double room = casingWidth + 1.0; // for hinted glyphs too
+    const QRect pixels = QTransform::fromScale(scale, scale).mapRect(widened(bounds, room)).toAlignedRect();
+    TextPicture picture{
+        color, casing, scale, QImage(pixels.size(), QImage::Format_ARGB32_Premultiplied), -pixels.topLeft()};
+    if (picture.pixels.isNull()) {
+        return picture;
+    }
+    picture.pixels.fill(Qt::transparent);
+    QPainter painter(&picture.pixels);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.translate(picture.origin);
+    painter.scale(scale, scale);
+    putCasedGlyphs(painter, runs, QPointF(), color, casing, scale);
+    return picture;
 }
 
 //! What \a marks, of which there is one, cover together.
@@ -308,16 +328,37 @@ QList<QGlyphRun> TextStyle::glyphs(const QString &text) const
         layout.beginLayout();
         const QTextLine line = layout.createLine();
         layout.endLayout();
+        const QPointF begin(line.position().x(), line.position().y() + line.ascent());
         found.glyphs = line.glyphRuns();
         for (QGlyphRun &run : found.glyphs) {
+            const QRectF bounds = run.boundingRect();
             QVector<QPointF> positions = run.positions();
             for (QPointF &position : positions) {
-                position -= QPointF(line.position().x(), line.position().y() + line.ascent());
+                position -= begin;
             }
             run.setPositions(positions);
+            run.setBoundingRect(bounds.translated(-begin));
         }
     }
     return found.glyphs;
+}
+
+const TextPicture &TextStyle::picture(
+    const QString &text, const QColor &color, const QColor &casing, double scale) const
+{
+    const QList<QGlyphRun> runs = glyphs(text);
+    std::vector<TextPicture> &pictures = known(text).pictures;
+    const auto found = std::find_if(pictures.begin(), pictures.end(), [&](const TextPicture &picture) {
+        return picture.scale == scale && picture.color == color && picture.casing == casing;
+    });
+    if (found != pictures.end()) {
+        return *found;
+    }
+    if (pictures.size() == mostPicturesOfText) {
+        pictures.clear();
+    }
+    pictures.push_back(pictureOf(runs, color, casing, scale));
+    return pictures.back();
 }
 
 QSizeF TextStyle::designedSize(const QString &text) const
@@ -385,16 +426,18 @@ void DrawList::paint(QPainter *painter, const QRegion &needed) const
 {
     painter->save();
     painter->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    const PaintTarget target{*painter, PixelPainter::on(*painter), needed};
     for (const Item &item : m_items) {
         if (isNeeded(item.bounds, needed)) {
-            std::visit([&](const auto &which) { paintItem(painter, which, needed); }, item.what);
+            std::visit([&](const auto &which) { paintItem(target, which); }, item.what);
         }
     }
     painter->restore();
 }
 
-void DrawList::paintItem(QPainter *painter, const Hairline &item, const QRegion & /*needed*/)
+void DrawList::paintItem(const PaintTarget &target, const Hairline &item)
 {
+    QPainter *const painter = &target.painter;
     if (!hasPixels(*painter)) {
         painter->setPen(QPen(item.color, 1.0, Qt::SolidLine, Qt::FlatCap));
         painter->drawLine(item.line);
@@ -421,10 +464,11 @@ void DrawList::paintItem(QPainter *painter, const Hairline &item, const QRegion 
     painter->setRenderHint(QPainter::Antialiasing);
 }
 
-void DrawList::paintItem(QPainter *painter, const Line &item, const QRegion &needed)
+void DrawList::paintItem(const PaintTarget &target, const Line &item)
 {
+    QPainter *const painter = &target.painter;
     if (isRaster(*painter)) {
-        paintPieces(*painter, item.points, item.closed, item.pen, needed);
+        paintPieces(target, item.points, item.closed, item.pen);
         return;
     }
     painter->setPen(item.pen);
@@ -436,11 +480,12 @@ void DrawList::paintItem(QPainter *painter, const Line &item, const QRegion &nee
     }
 }
 
-void DrawList::paintItem(QPainter *painter, const Lines &item, const QRegion &needed)
+void DrawList::paintItem(const PaintTarget &target, const Lines &item)
 {
-    QVector<QLineF> lines = item.lines;
-    keepNeeded(lines, item.pen, needed);
+    QPainter *const painter = &target.painter;
     if (item.lines.size() > mostSmoothLines && isRaster(*painter)) {
+        QVector<QLineF> lines = item.lines;
+        keepNeeded(lines, item.pen, target.needed);
         painter->save();
         // The raster engine takes twenty times as long where no rectangle clips these.
         painter->setClipRect(boundsOf(item.lines, item.pen).toAlignedRect(), Qt::IntersectClip);
@@ -450,18 +495,20 @@ void DrawList::paintItem(QPainter *painter, const Lines &item, const QRegion &ne
         painter->restore();
         return;
     }
-    paintLines(*painter, lines, item.pen);
+    paintLines(target, item.lines, item.pen);
 }
 
-void DrawList::paintItem(QPainter *painter, const Shape &item, const QRegion & /*needed*/)
+void DrawList::paintItem(const PaintTarget &target, const Shape &item)
 {
+    QPainter *const painter = &target.painter;
     painter->setPen(item.pen);
     painter->setBrush(item.brush);
     painter->drawPath(item.path);
 }
 
-void DrawList::paintItem(QPainter *painter, const Ellipse &item, const QRegion &needed)
+void DrawList::paintItem(const PaintTarget &target, const Ellipse &item)
 {
+    QPainter *const painter = &target.painter;
     constexpr double large = 20.0;
     if (item.brush == Qt::NoBrush && isRaster(*painter) && std::max(item.radiusX, item.radiusY) > large) {
         QPolygonF points;
@@ -470,7 +517,7 @@ void DrawList::paintItem(QPainter *painter, const Ellipse &item, const QRegion &
             const double angle = 2.0 * M_PI * i / count;
             points.append(item.centre + QPointF(item.radiusX * std::cos(angle), item.radiusY * std::sin(angle)));
         }
-        paintPieces(*painter, points, true, item.pen, needed);
+        paintPieces(target, points, true, item.pen);
         return;
     }
     painter->setPen(item.pen);
@@ -478,26 +525,19 @@ void DrawList::paintItem(QPainter *painter, const Ellipse &item, const QRegion &
     painter->drawEllipse(item.centre, item.radiusX, item.radiusY);
 }
 
-void DrawList::paintItem(QPainter *painter, const Text &item, const QRegion & /*needed*/)
+void DrawList::paintItem(const PaintTarget &target, const Text &item)
 {
+    QPainter *const painter = &target.painter;
     if (isRaster(*painter) && item.style.unit() == 1.0) {
-        const QList<QGlyphRun> runs = item.style.glyphs(item.text);
-        if (item.casing.isValid()) {
-            // The glyphs are kept as pictures: to put them down eight times is faster than to stroke their outlines
-            // once.
-            constexpr double reach = casingWidth / 2.0;
-            constexpr double aslant = reach * 0.7;
-            QVector<QPointF> places;
-            for (const QPointF &way : {QPointF(reach, 0.0), QPointF(-reach, 0.0), QPointF(0.0, reach),
-                     QPointF(0.0, -reach), QPointF(aslant, aslant), QPointF(-aslant, aslant), QPointF(aslant, -aslant),
-                     QPointF(-aslant, -aslant)}) {
-                places.append(item.at + way);
+        if (target.pixels) {
+            const TextPicture &picture = item.style.picture(item.text, item.color, item.casing, target.pixels->scale());
+            if (!picture.pixels.isNull()) {
+                target.pixels->picture(item.at, picture.pixels, picture.origin);
+                return;
             }
-            painter->setPen(item.casing);
-            putGlyphs(*painter, runs, places);
         }
-        painter->setPen(item.color);
-        putGlyphs(*painter, runs, {item.at});
+        putCasedGlyphs(
+            *painter, item.style.glyphs(item.text), item.at, item.color, item.casing, painter->deviceTransform().m11());
         return;
     }
     if (item.casing.isValid()) {
@@ -522,19 +562,20 @@ void DrawList::paintItem(QPainter *painter, const Text &item, const QRegion & /*
     painter->restore();
 }
 
-void DrawList::paintItem(QPainter *painter, const Marks &item, const QRegion &needed)
+void DrawList::paintItem(const PaintTarget &target, const Marks &item)
 {
+    QPainter *const painter = &target.painter;
     if (item.marks.size() <= mostMarksByOutline) {
         for (const PlacedMark &mark : item.marks) {
-            if (isNeeded(widened(QRectF(mark.at, mark.at), markReach), needed)) {
+            if (isNeeded(widened(QRectF(mark.at, mark.at), markReach), target.needed)) {
                 paintMark(painter, mark);
             }
         }
         return;
     }
     QRectF bounds = boundsOf(item.marks);
-    if (!needed.isEmpty()) {
-        bounds &= QRectF(needed.boundingRect());
+    if (!target.needed.isEmpty()) {
+        bounds &= QRectF(target.needed.boundingRect());
     }
     const double most = std::sqrt(mostPicturePixels / std::max(1.0, bounds.width() * bounds.height()));
     const double ratio = std::min(pictureRatioOfFiles, most);

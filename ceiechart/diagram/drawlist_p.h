@@ -11,10 +11,12 @@
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QHash>
+#include <QImage>
 #include <QLineF>
 #include <QList>
 #include <QPainterPath>
 #include <QPen>
+#include <QPoint>
 #include <QPolygonF>
 #include <QRegion>
 #include <QString>
@@ -29,6 +31,8 @@ class QPainter;
 
 namespace ceiechart {
 
+struct PaintTarget;
+
 constexpr double pictureRatioOfFiles = 2.0; // pixels of a picture for each logical pixel of a file
 constexpr double mostPicturePixels = 3e7;
 constexpr int mostSmoothLines = 3000; // of more, the soft edges take longer than a step of the view may
@@ -36,6 +40,15 @@ constexpr int mostMarksByOutline = 2000; // in the plot: each takes as long as a
 
 /*! \brief Whether some of \a line with \a room on either side lies in \a needed; an empty region needs everything. */
 bool isLineNeeded(const QLineF &line, double room, const QRegion &needed);
+
+/*! \brief A text as pixels, for a certain scale. */
+struct TextPicture {
+    QColor color;
+    QColor casing;
+    double scale; //!< pixels for each logical pixel
+    QImage pixels; //!< premultiplied; null for want of memory
+    QPoint origin; //!< the pixel right below and to the right of the left end of the base line
+};
 
 /*! \brief A font and its measures in logical pixels. */
 class TextStyle {
@@ -64,12 +77,18 @@ public:
     QSizeF designedSize(const QString &text) const;
     //! The glyphs of \a text, with the left end of its base line at the origin.
     QList<QGlyphRun> glyphs(const QString &text) const;
+    /*!
+     * \a text in \a color on its \a casing, which is left out if it is no colour, with \a scale pixels for each
+     * logical pixel.
+     */
+    const TextPicture &picture(const QString &text, const QColor &color, const QColor &casing, double scale) const;
 
 private:
-    //! What has been found out about a text: to shape its glyphs takes longer than to paint them.
+    //! What has been found out about a text: to shape its glyphs and to case them takes longer than to paint them.
     struct Known {
         std::optional<double> advance;
         QList<QGlyphRun> glyphs;
+        std::vector<TextPicture> pictures;
     };
     Known &known(const QString &text) const;
 
@@ -153,13 +172,13 @@ private:
     };
     void addText(const QPointF &at, const QRectF &place, const QString &text, const TextStyle &style,
         const QColor &color, const QColor &casing);
-    static void paintItem(QPainter *painter, const Hairline &item, const QRegion &needed);
-    static void paintItem(QPainter *painter, const Line &item, const QRegion &needed);
-    static void paintItem(QPainter *painter, const Lines &item, const QRegion &needed);
-    static void paintItem(QPainter *painter, const Shape &item, const QRegion &needed);
-    static void paintItem(QPainter *painter, const Ellipse &item, const QRegion &needed);
-    static void paintItem(QPainter *painter, const Text &item, const QRegion &needed);
-    static void paintItem(QPainter *painter, const Marks &item, const QRegion &needed);
+    static void paintItem(const PaintTarget &target, const Hairline &item);
+    static void paintItem(const PaintTarget &target, const Line &item);
+    static void paintItem(const PaintTarget &target, const Lines &item);
+    static void paintItem(const PaintTarget &target, const Shape &item);
+    static void paintItem(const PaintTarget &target, const Ellipse &item);
+    static void paintItem(const PaintTarget &target, const Text &item);
+    static void paintItem(const PaintTarget &target, const Marks &item);
 
     std::vector<Item> m_items;
 };

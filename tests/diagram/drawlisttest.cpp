@@ -6,6 +6,7 @@
 #include <ceiechart/diagram/polylines_p.h>
 
 #include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QtTest>
 
@@ -57,6 +58,22 @@ QImage painted(const DrawList &list, const QSize &size)
     return image;
 }
 
+//! Of all channels of all pixels.
+int largestDifference(const QImage &a, const QImage &b)
+{
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            for (const int step : {qRed(p) - qRed(q), qGreen(p) - qGreen(q), qBlue(p) - qBlue(q)}) {
+                largest = std::max(largest, std::abs(step));
+            }
+        }
+    }
+    return largest;
+}
+
 TextStyle style(double points)
 {
     QFont font;
@@ -72,7 +89,8 @@ class DrawListTest : public QObject {
 
 private Q_SLOTS:
     void casingsAreEightTextsAround();
-    void wideLinesAreThreeBesideOneAnother();
+    void textsAreTheSameOnPicturesOfOtherFormats();
+    void linesAreAsWideAsTheirPen();
     void whatIsNotNeededIsNotMissed();
     void hairlinesCoverWholePixels();
     void neededLinesAreThoseThatMeetARegion();
@@ -93,30 +111,53 @@ void DrawListTest::casingsAreEightTextsAround()
             DrawList one;
             one.text(at, text, font, color, casing);
             DrawList many;
-            for (const QPointF &way : {QPointF(1.5, 0.0), QPointF(-1.5, 0.0), QPointF(0.0, 1.5), QPointF(0.0, -1.5),
-                     QPointF(1.05, 1.05), QPointF(-1.05, 1.05), QPointF(1.05, -1.05), QPointF(-1.05, -1.05)}) {
+            for (const QPointF &way : {QPointF(2.0, 0.0), QPointF(-2.0, 0.0), QPointF(0.0, 2.0), QPointF(0.0, -2.0),
+                     QPointF(1.0, 1.0), QPointF(-1.0, 1.0), QPointF(1.0, -1.0), QPointF(-1.0, -1.0)}) {
                 many.text(at + way, text, font, casing);
             }
             many.text(at, text, font, color);
             const QImage expected = painted(many, size);
             QVERIFY(expected != paper(size));
-            QCOMPARE(painted(one, size), expected);
+            constexpr int rounding = 4; // of nine texts over one another
+            QVERIFY(largestDifference(painted(one, size), expected) <= rounding);
         }
     }
 }
 
-void DrawListTest::wideLinesAreThreeBesideOneAnother()
+void DrawListTest::textsAreTheSameOnPicturesOfOtherFormats()
+{
+    // There the paint engine paints them.
+    const QSize size(160, 60);
+    for (const double ratio : {1.0, 2.0}) {
+        DrawList list;
+        list.text(QPointF(10.0, 30.0), QStringLiteral("6500 K"), style(9.0), QColor(20, 40, 120), Qt::white);
+        const auto paintOn = [&](QImage::Format format) {
+            QImage image = paper(size, ratio).convertToFormat(format);
+            QPainter painter(&image);
+            list.paint(&painter);
+            painter.end();
+            return image.convertToFormat(QImage::Format_RGB32);
+        };
+        const QImage found = paintOn(QImage::Format_RGB32);
+        QVERIFY(found != paper(size, ratio));
+        constexpr int rounding = 4;
+        QVERIFY(largestDifference(found, paintOn(QImage::Format_RGB888)) <= rounding);
+    }
+}
+
+void DrawListTest::linesAreAsWideAsTheirPen()
 {
     const QSize size(60, 60);
     const QPen pen(QColor(255, 255, 255, 240), 3.0, Qt::SolidLine, Qt::FlatCap);
-    const auto lightOf = [&size](const auto &paint) {
-        QImage image(size, QImage::Format_RGB32);
+    const auto lightOf = [&size](double scale, QImage::Format format, const auto &paint) {
+        QImage image(size, format);
         image.fill(Qt::black);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(scale, scale);
         paint(painter);
         painter.end();
-        int light = 0;
+        double light = 0.0;
         for (int y = 0; y < size.height(); ++y) {
             for (int x = 0; x < size.width(); ++x) {
                 light += qGreen(image.pixel(x, y));
@@ -130,23 +171,17 @@ void DrawListTest::wideLinesAreThreeBesideOneAnother()
                                     29.6 + 20.0 * std::sin(angle * M_PI / 180.0));
         DrawList list;
         list.lines({line}, pen);
-        const int asOne = lightOf([&](QPainter &painter) {
-            painter.setPen(pen);
-            painter.drawLine(line);
-        });
-        const double share = lightOf([&](QPainter &painter) { list.paint(&painter); }) / double(asOne);
-        QVERIFY2(share > 0.65 && share < 0.95, qPrintable(QStringLiteral("%1: %2").arg(angle).arg(share)));
-        const auto paintScaled = [&](const auto &paint) {
-            return lightOf([&](QPainter &painter) {
-                painter.scale(0.5, 0.5);
-                paint(painter);
-            });
-        };
-        // On other scales it is one.
-        QCOMPARE(paintScaled([&](QPainter &painter) { list.paint(&painter); }), paintScaled([&](QPainter &painter) {
-            painter.setPen(pen);
-            painter.drawLine(line);
-        }));
+        for (const double scale : {1.0, 0.5}) {
+            for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_RGB888}) {
+                const double byEngine = lightOf(scale, format, [&](QPainter &painter) {
+                    painter.setPen(pen);
+                    painter.drawLine(line);
+                });
+                const double share
+                    = lightOf(scale, format, [&](QPainter &painter) { list.paint(&painter); }) / byEngine;
+                QVERIFY2(std::fabs(share - 1.0) < 0.03, qPrintable(QStringLiteral("%1: %2").arg(angle).arg(share)));
+            }
+        }
     }
 }
 
@@ -171,14 +206,19 @@ void DrawListTest::whatIsNotNeededIsNotMissed()
             list.ellipse(random.point(size), 30.0, 20.0, QPen(Qt::darkGreen, 1.2), Qt::NoBrush);
             list.text(random.point(size), QStringLiteral("label"), style(9.0), Qt::black, Qt::white);
         }
-        // The paint engine cuts lines at the bounds of a clip, by which soft pixels may change: both are clipped.
         const QRegion needed = random.region(size);
         const auto paint = [&](const QRegion &onlyIn) {
             QImage image = paper(size);
             QPainter painter(&image);
-            painter.setClipRegion(needed);
+            painter.paintEngine()->setSystemClip(needed);
             list.paint(&painter, onlyIn);
-            return image;
+            painter.end();
+            // The paint engine does not heed such a clip in all that it does.
+            QImage within = paper(size);
+            QPainter copy(&within);
+            copy.setClipRegion(needed);
+            copy.drawImage(0, 0, image);
+            return within;
         };
         QVERIFY(paint(QRegion()) != paper(size));
         QCOMPARE(paint(needed), paint(QRegion()));
