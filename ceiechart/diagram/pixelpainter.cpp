@@ -334,7 +334,10 @@ void PixelPainter::forRows(double top, double bottom, const IsBeyond &isBeyond, 
     }
 }
 
-//! The pixels of the row \a y of \a part between \a left and \a right; \a shares is asked by their columns.
+/*!
+ * The pixels of the row \a y of \a part between \a left and \a right, beyond which nothing is covered; \a shares is
+ * asked by their columns.
+ */
 template <typename Shares>
 void PixelPainter::paintRow(
     const QRect &part, int y, double left, double right, std::uint32_t color, const Shares &shares) const
@@ -345,17 +348,15 @@ void PixelPainter::paintRow(
         return;
     }
     std::uint32_t *const row = m_pixels + y * m_stride;
-    const int end = int(last) + 1;
+    const int endOfPart = part.right() + 1;
     int x = wholeFrom(begin);
-    Floats at = Four::from(float(x));
-    for (; x + together <= end; x += together) {
-        Four::blend(row + x, color, shares(at));
-        at = Four::add(at, Four::all(float(together)));
+    for (; x <= last && x + together <= endOfPart; x += together) {
+        Four::blend(row + x, color, shares(Four::from(float(x))));
     }
-    if (x < end) {
-        // What is beyond these pixels stays as it is, but must be in the row.
+    if (x <= last) {
+        // What is beyond the part stays as it is, but must be in the row.
         const int inRow = std::min(x, int(m_stride) - together);
-        Four::blend(row + inRow, color, Four::only(shares(Four::from(float(inRow))), x - inRow, end - inRow));
+        Four::blend(row + inRow, color, Four::only(shares(Four::from(float(inRow))), x - inRow, endOfPart - inRow));
     }
 }
 
