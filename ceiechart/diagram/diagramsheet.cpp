@@ -41,13 +41,10 @@ bool LabelPlaces::isFree(const QRectF &place, const QRectF &area, double gap) co
 {
     const QRectF roomy = place.adjusted(-gap, -gap, gap, gap);
     return area.contains(place)
-        && std::none_of(m_labels.cbegin(), m_labels.cend(), [&roomy](const DiagramLabel &label) {
-               const QRectF &other = label.place;
-               // Most are on one side of it, which is found out soonest.
-               const bool isBeside = other.right() < roomy.left() || other.left() > roomy.right()
-                   || other.bottom() < roomy.top() || other.top() > roomy.bottom();
-               return (!isBeside && other.intersects(roomy)) || (meets(label.leader, roomy) && !label.leader.isNull());
-           });
+        && std::none_of(m_labels.cbegin(), m_labels.cend(),
+            [&roomy](const DiagramLabel &label) { return overlap(label.place, roomy); })
+        && std::none_of(
+            m_leaders.cbegin(), m_leaders.cend(), [&roomy](const QLineF &leader) { return meets(leader, roomy); });
 }
 
 bool LabelPlaces::isCrossed(const QLineF &line) const
@@ -60,6 +57,9 @@ void LabelPlaces::add(
     DiagramLabel::Kind kind, const QString &text, const QRectF &place, int index, const QLineF &leader)
 {
     m_labels.append({kind, index, text, place, leader});
+    if (!leader.isNull()) {
+        m_leaders.append(leader);
+    }
 }
 
 void drawCased(DrawList &list, const QPolygonF &points, bool closed, const QRectF &area, const QPen &pen,

@@ -70,6 +70,7 @@ public:
 
 private:
     QVector<DiagramLabel> m_labels;
+    QVector<QLineF> m_leaders; // those of the few labels that have one
 };
 
 /*! \brief The margins that numbers of \a fonts need. */

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/markgrid_p.h>
+#include <ceiechart/diagram/polylines_p.h>
 
 #include <algorithm>
 #include <cmath>
@@ -52,7 +53,7 @@ int MarkGrid::meeting(const QRectF &place, double reach, int most) const
     int count = 0;
     look(place.adjusted(-reach, -reach, reach, reach), [&](const QPointF &at) {
         const QPointF out(reach, reach);
-        count += QRectF(at - out, at + out).intersects(place) ? 1 : 0;
+        count += overlap(QRectF(at - out, at + out), place) ? 1 : 0;
         return count >= most;
     });
     return count;

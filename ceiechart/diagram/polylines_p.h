@@ -64,16 +64,32 @@ std::vector<LinePart> partsWithin(const QPolygonF &points, bool closed, const QR
 /*! \brief The part of \a line within \a area, if any. */
 std::optional<QLineF> partWithin(const QLineF &line, const QRectF &area);
 
-/*! \brief meets() without its quick answer for lines on one side of \a area. */
+/*! \brief What QRectF::intersects() gives for sizes that are not negative, sooner. */
+inline bool overlap(const QRectF &a, const QRectF &b)
+{
+    return std::max(a.left(), b.left()) < std::min(a.right(), b.right())
+        && std::max(a.top(), b.top()) < std::min(a.bottom(), b.bottom());
+}
+
+/*! \brief meets() without its quick answers. */
 bool passesThrough(const QLineF &line, const QRectF &area);
 
-/*! \brief Whether some of \a line lies within \a area. */
+/*! \brief Whether some of \a line lies within \a area, which is not empty. */
 inline bool meets(const QLineF &line, const QRectF &area)
 {
     // Most are on one side of it, which is found out soonest.
-    return !(std::max(line.x1(), line.x2()) < area.left() || std::min(line.x1(), line.x2()) > area.right()
-               || std::max(line.y1(), line.y2()) < area.top() || std::min(line.y1(), line.y2()) > area.bottom())
-        && passesThrough(line, area);
+    if (std::max(line.x1(), line.x2()) < area.left() || std::min(line.x1(), line.x2()) > area.right()
+        || std::max(line.y1(), line.y2()) < area.top() || std::min(line.y1(), line.y2()) > area.bottom()) {
+        return false;
+    }
+    // All others meet it unless it lies on one side of them. Both distances are in units of the line's length.
+    const QPointF way(line.dx(), line.dy());
+    const QPointF to = area.center() - line.p1();
+    const double away = std::fabs(way.x() * to.y() - way.y() * to.x());
+    const double reach = (std::fabs(way.x()) * area.height() + std::fabs(way.y()) * area.width()) / 2.0;
+    constexpr double rounding = 1e-9; // more than any, here and in passesThrough()
+    const double doubt = rounding * (reach + way.x() * way.x() + way.y() * way.y());
+    return std::fabs(away - reach) > doubt ? away < reach : passesThrough(line, area);
 }
 
 /*! \brief The part of \a line within the convex \a polygon, as shares of its length from 0 to 1, if any. */

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void rounderComesFirst();
 
     void linesAreCut();
+    void quickAnswersAreThoseOfTheCut();
     void closedLinesAreCutWhereTheyEnd();
     void lengthsBeforeAPart();
     void linesTooLongForANumberAreLeftOut();
@@ -124,6 +125,26 @@ void DiagramTicksTest::linesAreCut()
     QCOMPARE(parts.size(), size_t(2));
     QCOMPARE(parts[0].points.last(), QPointF(10, 2));
     QCOMPARE(parts[1].points.first(), QPointF(10, 8));
+}
+
+void DiagramTicksTest::quickAnswersAreThoseOfTheCut()
+{
+    // On a grid, many lines just touch a side or a corner.
+    constexpr int side = 9;
+    const QRectF area(2, 3, 4, 2);
+    int met = 0;
+    for (int i = 0; i < side * side; ++i) {
+        for (int k = 0; k < side * side; ++k) {
+            const QPoint from(i % side, i / side);
+            const QPoint to(k % side, k / side);
+            const QLineF line(from, to);
+            QCOMPARE(meets(line, area), passesThrough(line, area));
+            met += meets(line, area) ? 1 : 0;
+            const QRectF box(from, QSizeF(to.x(), to.y()));
+            QCOMPARE(overlap(box, area), box.intersects(area));
+        }
+    }
+    QVERIFY(met > 1000 && met < 5000);
 }
 
 void DiagramTicksTest::closedLinesAreCutWhereTheyEnd()
