@@ -63,6 +63,7 @@ DiagramStep DiagramGamuts::takeEdited(const DiagramStep &scale)
     m_step.places = scale.places;
     m_step.curves = scale.curves;
     m_handles = handles();
+    m_sides = sides();
     placeWavelengths(scale.wavelengths);
     if (m_sheet.shows(DiagramLayer::Rings)) {
         for (const DiagramRings &rings : m_content.rings) {

@@ -88,14 +88,14 @@ private:
     void drawPlate(const QRectF &place, const DiagramPalette &palette);
     //! Where a name may stand, the best first.
     QVector<QRectF> namePlaces(const Shown &gamut, const QSizeF &size) const;
-    //! How many sides of outlines \a meetsIt is true of.
-    template <typename Meets>
-    int countOutlines(const Meets &meetsIt) const;
+    //! Those of the outlines that names keep clear of.
+    std::vector<QLineF> sides() const;
     int outlinesAt(const QRectF &place) const;
-    //! How much \a place would cover.
-    int covered(const QRectF &place) const;
+    int outlinesCrossedBy(const QLineF &line) const;
     int curvesAt(const QRectF &place) const;
-    double costOfPlace(const QRectF &place) const;
+    //! Of the outlines, whites and marks that a name at \a place would cover. Where this and an \a other cost come to
+    //! \a most, not all of them are counted.
+    double costOfCovered(const QRectF &place, double other, double most) const;
     //! The cost of a place without a leader that is not close to the outline.
     double costOfDoubt(const Shown &gamut, const QRectF &place) const;
     //! Where a name on a plate of the size \a plate covers least beside the outline.
@@ -115,6 +115,7 @@ private:
     const ShownOutlines &m_outlines;
     const std::vector<Shown> &m_shown; // from bottom to top
     size_t m_firstNamed; // standards are not named where there are too many, also for other names to keep clear of them
+    std::vector<QLineF> m_sides; // laid out once for all places that are tried
     QVector<QRectF> m_handles;
     std::vector<Ring> m_rings;
     const ShownMarks &m_marks;

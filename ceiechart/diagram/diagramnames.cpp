@@ -33,7 +33,7 @@ constexpr double leaderDot = 2.0; // radius of the end of a leader, on the line 
 constexpr int mostLedOutlines = 20; // among more of them, a leader is hard to follow
 
 // What a place for a name costs, in pixels of a leader that would be as bad
-constexpr double costOfCovering = 60.0; // for each unit of what covered() counts
+constexpr double costOfCovering = 60.0; // for each unit of what costOfCovered() counts
 constexpr double costOfCurve = 15.0; // of covering part of a locus: not worth a leader
 constexpr double costOfCrossing = 15.0; // of another outline by the leader
 constexpr double worthLeading = 20.0; // what costs no more is clear enough without a leader
@@ -60,7 +60,7 @@ QString nameOf(const DiagramGamut &gamut)
 
 bool meetsAny(const QVector<QRectF> &some, const QRectF &place)
 {
-    return std::any_of(some.cbegin(), some.cend(), [&place](const QRectF &other) { return other.intersects(place); });
+    return std::any_of(some.cbegin(), some.cend(), [&place](const QRectF &other) { return overlap(other, place); });
 }
 
 } // namespace
@@ -273,42 +273,49 @@ QVector<QRectF> DiagramGamuts::namePlaces(const Shown &gamut, const QSizeF &size
     return gamut.role == GamutRole::Standard ? atCorners + atLines : atLines + atCorners;
 }
 
-template <typename Meets>
-int DiagramGamuts::countOutlines(const Meets &meetsIt) const
+std::vector<QLineF> DiagramGamuts::sides() const
 {
-    int count = 0;
+    std::vector<QLineF> result;
     for (size_t number = m_firstNamed; number < m_shown.size(); ++number) {
         const Shown &gamut = m_shown[number];
         for (int i = 0; !gamut.isCovered && i < 3; ++i) {
-            count += meetsIt(QLineF(gamut.corners.at(i), gamut.corners.at((i + 1) % 3))) ? 1 : 0;
+            result.emplace_back(gamut.corners.at(i), gamut.corners.at((i + 1) % 3));
         }
     }
-    return count;
+    return result;
 }
 
 int DiagramGamuts::outlinesAt(const QRectF &place) const
 {
-    return countOutlines([&place](const QLineF &side) { return meets(side, place); });
+    return int(
+        std::count_if(m_sides.cbegin(), m_sides.cend(), [&place](const QLineF &side) { return meets(side, place); }));
+}
+
+int DiagramGamuts::outlinesCrossedBy(const QLineF &line) const
+{
+    return int(std::count_if(m_sides.cbegin(), m_sides.cend(),
+        [&line](const QLineF &side) { return side.intersects(line, nullptr) == QLineF::BoundedIntersection; }));
+}
+
+double DiagramGamuts::costOfCovered(const QRectF &place, double other, double most) const
+{
+    int count = 0;
+    for (const QLineF &side : m_sides) {
+        count += meets(side, place) ? 2 : 0;
+        if (other + costOfCovering * count >= most) {
+            return costOfCovering * count;
+        }
+    }
+    for (const QRectF &white : m_whites) {
+        count += overlap(white, place) ? 3 : 0;
+    }
+    return costOfCovering * (count + 3 * m_marks.places.meeting(place, markRadius, mostCovered));
 }
 
 int DiagramGamuts::curvesAt(const QRectF &place) const
 {
     return int(std::count_if(m_step.curves.cbegin(), m_step.curves.cend(),
         [&place](const ComparedCurve &curve) { return curve.meets(place); }));
-}
-
-int DiagramGamuts::covered(const QRectF &place) const
-{
-    int count = 2 * outlinesAt(place);
-    for (const QRectF &white : m_whites) {
-        count += white.intersects(place) ? 3 : 0;
-    }
-    return count + 3 * m_marks.places.meeting(place, markRadius, mostCovered);
-}
-
-double DiagramGamuts::costOfPlace(const QRectF &place) const
-{
-    return costOfCovering * covered(place) + costOfCurve * curvesAt(place);
 }
 
 double DiagramGamuts::costOfDoubt(const Shown &gamut, const QRectF &place) const
@@ -330,10 +337,11 @@ DiagramGamuts::NamePlace DiagramGamuts::placeBeside(const Shown &gamut, const QS
 {
     NamePlace best;
     for (const QRectF &place : namePlaces(gamut, plate)) {
-        if (meetsAny(m_handles, place) || !m_step.places.isFree(place, m_inner, labelGap)) {
+        const double covering = costOfCovered(place, 0.0, best.cost);
+        if (covering >= best.cost || meetsAny(m_handles, place) || !m_step.places.isFree(place, m_inner, labelGap)) {
             continue;
         }
-        const double cost = costOfPlace(place) + costOfDoubt(gamut, place);
+        const double cost = covering + costOfCurve * curvesAt(place) + costOfDoubt(gamut, place);
         if (cost < best.cost) {
             best = {place, QLineF(), cost};
         }
@@ -363,18 +371,24 @@ DiagramGamuts::NamePlace DiagramGamuts::placeLedTo(
         const QLineF leader(QPointF(std::clamp(anchor.x(), place.left(), place.right()),
                                 std::clamp(anchor.y(), place.top(), place.bottom())),
             anchor);
-        const auto isMet = [&leader](const QRectF &area) { return meets(leader, area); };
         const double reach = leader.length();
-        if (reach < nameGap || reach >= best.cost || !m_inner.contains(place) || meetsAny(m_handles, place)
+        if (reach < nameGap) {
+            return;
+        }
+        // Most places cover too much, which is found out sooner than whether they are free.
+        const double covering = costOfCovered(place, reach, best.cost);
+        const auto isMet = [&leader](const QRectF &area) { return meets(leader, area); };
+        if (reach + covering >= best.cost || meetsAny(m_handles, place)
             || !m_step.places.isFree(place, m_inner, labelGap) || m_step.places.isCrossed(leader)
             || std::any_of(m_handles.cbegin(), m_handles.cend(), isMet)) {
             return;
         }
         // Of its own outline it meets the side at which it ends.
-        const int crossed = countOutlines(
-            [&leader](const QLineF &side) { return side.intersects(leader, nullptr) == QLineF::BoundedIntersection; });
-        const double cost = reach + costOfCrossing * std::max(0, crossed - 1);
-        const double costInAll = cost < best.cost ? cost + costOfPlace(place) : cost;
+        const double cost = reach + costOfCrossing * std::max(0, outlinesCrossedBy(leader) - 1);
+        if (cost + covering >= best.cost) {
+            return;
+        }
+        const double costInAll = cost + (covering + costOfCurve * curvesAt(place));
         if (costInAll < best.cost) {
             best = {place, leader, costInAll};
         }
