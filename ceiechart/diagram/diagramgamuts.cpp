@@ -187,12 +187,16 @@ void DiagramGamuts::drawLostArea()
     if (!isFinite(whole) || !isFinite(kept)) {
         return;
     }
-    // Each line has one sum of hatchSlope * x + y on the screen, fixed to the diagram and not to the view.
-    const QPointF origin = m_sheet.viewport.fromPoint(QPointF());
-    const double phase = std::fmod(hatchSlope * origin.x() + origin.y(), hatchDistance);
-    const double last = hatchSlope * m_plot.right() + m_plot.bottom();
+    // Each line has one sum on the screen, fixed to the diagram and not to the view.
+    const auto sumAt = [](const QPointF &at) { return hatchSlope * at.x() + at.y(); };
+    const double phase = std::fmod(sumAt(m_sheet.viewport.fromPoint(QPointF())), hatchDistance);
+    const auto [least, most] = std::minmax({sumAt(whole.at(0)), sumAt(whole.at(1)), sumAt(whole.at(2))});
+    const double last = std::min(sumAt(m_plot.bottomRight()), most + hatchDistance);
     QVector<QLineF> hatch;
     for (double sum = phase - hatchDistance; sum < last; sum += hatchDistance) {
+        if (sum < least - hatchDistance) {
+            continue;
+        }
         const auto line = partWithin(
             QLineF(m_plot.left(), sum - hatchSlope * m_plot.left(), m_plot.right(), sum - hatchSlope * m_plot.right()),
             m_plot);
