@@ -46,10 +46,9 @@ HorseshoeFill fillFor(const ColorsRequest &request, const QSize &size)
 
 QPolygonF inPixels(const ColorsRequest &request, const QPolygonF &points)
 {
-    QPolygonF pixels;
-    pixels.reserve(points.size());
-    for (const QPointF &point : points) {
-        pixels.append(request.viewport.fromPoint(point) * request.devicePixelRatio);
+    QPolygonF pixels = request.viewport.fromPoints(points);
+    for (QPointF &point : pixels) {
+        point *= request.devicePixelRatio;
     }
     return pixels;
 }

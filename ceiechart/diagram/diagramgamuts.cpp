@@ -161,10 +161,7 @@ void DiagramGamuts::drawCommonArea()
     if (!m_sheet.shows(DiagramLayer::CommonArea) || m_sheet.colors() == HorseshoeColors::Dimmed) {
         return; // there, it is what is not dimmed
     }
-    QPolygonF corners;
-    for (const QPointF &point : commonArea(m_content, m_sheet.viewport.diagram())) {
-        corners.append(m_sheet.viewport.fromPoint(point));
-    }
+    const QPolygonF corners = m_sheet.viewport.fromPoints(commonArea(m_content, m_sheet.viewport.diagram()));
     if (corners.isEmpty()) {
         return;
     }

@@ -80,10 +80,7 @@ void DiagramView::Private::weighReadoutCorners(const QSizeF &size)
     const double bottom = area.bottom() - size.height();
     const double first = q->isRightToLeft() ? left : right;
     const double second = q->isRightToLeft() ? right : left;
-    QPolygonF locus;
-    for (const QPointF &point : spectralLocusIn(viewport.diagram(), 1)) {
-        locus.append(viewport.fromPoint(point));
-    }
+    const QPolygonF locus = viewport.fromPoints(spectralLocusIn(viewport.diagram(), 1));
     const QVector<DiagramLabel> texts = painter->labels();
     readoutCorners.clear();
     for (const QPointF &corner :

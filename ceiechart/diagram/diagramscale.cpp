@@ -200,10 +200,8 @@ private:
 
     void drawLocus()
     {
-        QPolygonF points;
-        for (const QPointF &point : spectralLocusIn(m_viewport.diagram(), spectrumDetail(m_viewport.scale()))) {
-            points.append(toPosition(point));
-        }
+        const QPolygonF points
+            = m_viewport.fromPoints(spectralLocusIn(m_viewport.diagram(), spectrumDetail(m_viewport.scale())));
         for (const LinePart &part : partsWithin(thinned(points, curvePieces), true, m_plot)) {
             m_step.drawing.line(part.points, part.closed, pen(m_palette.locus, locusWidth));
             QPolygonF whole = part.points;
@@ -298,10 +296,7 @@ private:
 
     void drawPlanckianLocus()
     {
-        QPolygonF points;
-        for (const QPointF &point : planckianLocusIn(m_viewport.diagram())) {
-            points.append(toPosition(point));
-        }
+        const QPolygonF points = m_viewport.fromPoints(planckianLocusIn(m_viewport.diagram()));
         for (const LinePart &part : partsWithin(points, false, m_plot)) {
             m_step.curves.emplace_back(thinned(part.points, roughPieces));
         }

@@ -32,6 +32,12 @@ Model::DiagramPoint inReach(Model::Diagram diagram, const Model::DiagramPoint &c
         std::clamp(centre.y, bounds.top() - roomY, bounds.bottom() + roomY)};
 }
 
+//! The position of \a point where \a centre is at \a middle and \a perUnit pixels are a unit.
+QPointF positionOf(const QPointF &point, const Model::DiagramPoint &centre, const QPointF &middle, double perUnit)
+{
+    return QPointF(middle.x() + (point.x() - centre.x) * perUnit, middle.y() - (point.y() - centre.y) * perUnit);
+}
+
 } // namespace
 
 DiagramViewport::DiagramViewport()
@@ -87,9 +93,17 @@ bool DiagramViewport::showsAll() const
 
 QPointF DiagramViewport::fromPoint(const QPointF &point) const
 {
+    return positionOf(point, m_centre, plot().center(), scale());
+}
+
+QPolygonF DiagramViewport::fromPoints(const QPolygonF &points) const
+{
     const QPointF middle = plot().center();
     const double perUnit = scale();
-    return QPointF(middle.x() + (point.x() - m_centre.x) * perUnit, middle.y() - (point.y() - m_centre.y) * perUnit);
+    QPolygonF positions(points.size());
+    std::transform(points.cbegin(), points.cend(), positions.begin(),
+        [&](const QPointF &point) { return positionOf(point, m_centre, middle, perUnit); });
+    return positions;
 }
 
 QPointF DiagramViewport::toPoint(const QPointF &position) const

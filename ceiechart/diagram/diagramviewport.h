@@ -63,6 +63,8 @@ public:
     QPointF toChromaticity(const QPointF &position) const;
     /*! \brief The position of \a point, which is in the diagram's own coordinates. */
     QPointF fromPoint(const QPointF &point) const;
+    /*! \brief fromPoint() of all \a points, which is faster than one by one. */
+    QPolygonF fromPoints(const QPolygonF &points) const;
     /*! \brief The inverse of fromPoint(). */
     QPointF toPoint(const QPointF &position) const;
     /*! \brief The corners red, green and blue of \a gamut. */
