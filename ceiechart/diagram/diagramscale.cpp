@@ -257,7 +257,7 @@ private:
             from = to;
         }
         std::stable_sort(result.begin(), result.end(),
-            [](const Wavelength &a, const Wavelength &b) { return roundness(a.nanometres) > roundness(b.nanometres); });
+            [](const Wavelength &a, const Wavelength &b) { return a.roundness > b.roundness; });
         return result;
     }
 
@@ -317,7 +317,6 @@ private:
     //! The reciprocal temperatures of which isotherms can be seen.
     std::optional<std::pair<double, double>> seenMireds() const
     {
-        std::optional<std::pair<double, double>> seen;
         const QPointF corners[] = {m_plot.topLeft(), m_plot.topRight(), m_plot.bottomLeft(), m_plot.bottomRight()};
         const auto isBehind = [&corners](const QLineF &line, double sign) {
             const QPointF way = line.p2() - line.p1();
@@ -335,24 +334,31 @@ private:
         };
         constexpr double step = 2.0;
         constexpr int stepsAtOnce = 17;
+        constexpr int groups = int((coolest - hottest) / (stepsAtOnce * step));
+        static_assert(hottest + groups * stepsAtOnce * step == coolest);
         constexpr double roomOfMany = 0.1; // the ends of isotherms lie on curves
-        QLineF begin = isotherm(hottest);
-        for (double first = hottest; first + step <= coolest; first += stepsAtOnce * step) {
-            const double last = std::min(first + stepsAtOnce * step, coolest);
-            const QLineF end = isotherm(last);
-            if (isSeenBetween(begin, end, roomOfMany)) {
-                QLineF from = begin;
-                for (double mired = first; mired + step <= last; mired += step) {
-                    const QLineF to = isotherm(mired + step);
-                    if (isSeenBetween(from, to, 0.0)) {
-                        seen = std::make_pair(seen ? seen->first : mired, mired + step);
+        const auto isSeen = [&](int from, int to, double room) {
+            return isSeenBetween(isotherm(hottest + from * step), isotherm(hottest + to * step), room);
+        };
+        // From one end on: what is seen between the first and the last one need not be looked for.
+        const auto firstSeen = [&](bool fromCoolest) -> std::optional<int> {
+            for (int i = 0; i < groups; ++i) {
+                const int begin = (fromCoolest ? groups - 1 - i : i) * stepsAtOnce;
+                const int count = isSeen(begin, begin + stepsAtOnce, roomOfMany) ? stepsAtOnce : 0;
+                for (int k = 0; k < count; ++k) {
+                    const int at = begin + (fromCoolest ? stepsAtOnce - 1 - k : k);
+                    if (isSeen(at, at + 1, 0.0)) {
+                        return at;
                     }
-                    from = to;
                 }
             }
-            begin = end;
+            return std::nullopt;
+        };
+        const std::optional<int> first = firstSeen(false);
+        if (!first) {
+            return std::nullopt;
         }
-        return seen;
+        return std::make_pair(hottest + *first * step, hottest + (*firstSeen(true) + 1) * step);
     }
 
     struct Isotherm {

@@ -112,12 +112,19 @@ std::optional<std::pair<double, double>> sharesWithin(const QLineF &line, const 
 QPolygonF thinned(const QPolygonF &points, double least)
 {
     QPolygonF kept;
-    const auto isFar
-        = [squared = least * least](const QPointF &way) { return QPointF::dotProduct(way, way) >= squared; };
-    for (int i = 0; i < points.size(); ++i) {
-        const QPointF &point = points.at(i);
-        if (kept.isEmpty() || i + 1 == points.size() || isFar(point - kept.constLast())) {
-            kept.append(point);
+    if (points.isEmpty()) {
+        return kept;
+    }
+    QPointF last = points.first();
+    kept.append(last);
+    const auto isFar = [&last, squared = least * least](const QPointF &point) {
+        const QPointF way = point - last;
+        return QPointF::dotProduct(way, way) >= squared;
+    };
+    for (auto point = points.cbegin() + 1; point != points.cend(); ++point) {
+        if (isFar(*point) || point + 1 == points.cend()) {
+            last = *point;
+            kept.append(last);
         }
     }
     return kept;
