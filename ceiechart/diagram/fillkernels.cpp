@@ -13,7 +13,6 @@
 #include <ceiechart/diagram/fillkernels_p.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 #include <iterator>
 
@@ -46,11 +45,34 @@ namespace ceiechart {
 
 namespace {
 
-// A sum with this number has the nearest whole number in its lowest bits.
-constexpr float wholes = 12582912.0F; // 1.5 * 2^23
-constexpr unsigned wholesBits = 0x4b400000U;
-// What is above the lowest byte of each channel is the same for all pixels, or shifted out.
-constexpr unsigned opaque = 0xff000000U - (wholesBits << 8) - wholesBits;
+constexpr unsigned fractionMask = (1U << PixelRun::fractionBits) - 1;
+
+// What is added to a channel. With 256 it has its whole part in the 8 bits below the exponent, and its fraction below
+// them. A half rounds it to nearest. With the margin, the fractions near a rounding boundary are those below twice the
+// margin.
+float offsetOf(const PixelRun &run)
+{
+    return 256.5F + static_cast<float>(run.margin) / static_cast<float>(1U << PixelRun::fractionBits);
+}
+
+// The two channels that are not the largest.
+template <int largest>
+struct Others {
+    static constexpr int first = largest == 0 ? 1 : 0;
+    static constexpr int second = largest == 2 ? 1 : 2;
+};
+
+constexpr int shiftOf(int channel)
+{
+    return 16 - 8 * channel;
+}
+
+constexpr unsigned maskOf(int channel)
+{
+    return 0xffU << shiftOf(channel);
+}
+
+constexpr unsigned opaque = 0xff000000U;
 
 inline unsigned bitsOf(float value)
 {
@@ -60,43 +82,52 @@ inline unsigned bitsOf(float value)
     return bits;
 }
 
-bool decideAnywhere(const PixelRun &run, int count, unsigned *colors, unsigned *undecided)
+template <int channel>
+unsigned placedPlain(unsigned bits)
 {
-    const float farthest = 0.5F - run.margin;
-    unsigned any = 0;
-    for (int k = 0; k < count; ++k) {
-        const auto step = static_cast<float>(k);
-        float red = run.red + step * run.redStep;
-        float green = run.green + step * run.greenStep;
-        float blue = run.blue + step * run.blueStep;
-        red = red > 0.0F ? red : 0.0F;
-        green = green > 0.0F ? green : 0.0F;
-        blue = blue > 0.0F ? blue : 0.0F;
-        red = red < 1.0F ? red : 1.0F;
-        green = green < 1.0F ? green : 1.0F;
-        blue = blue < 1.0F ? blue : 1.0F;
-        float largest = green > red ? green : red;
-        largest = blue > largest ? blue : largest;
+    return bits >> PixelRun::fractionBits << shiftOf(channel) & maskOf(channel);
+}
 
-        const float scale = 255.0F / largest;
-        red *= scale;
-        green *= scale;
-        blue *= scale;
-        const float nearRed = red + wholes;
-        const float nearGreen = green + wholes;
-        const float nearBlue = blue + wholes;
-        const float offRed = std::fabs(red - (nearRed - wholes));
-        const float offGreen = std::fabs(green - (nearGreen - wholes));
-        const float offBlue = std::fabs(blue - (nearBlue - wholes));
-        float off = offGreen > offRed ? offGreen : offRed;
-        off = offBlue > off ? offBlue : off;
-
-        const auto isNear = unsigned(off > farthest);
-        undecided[k] = isNear;
-        any |= isNear;
-        colors[k] = (bitsOf(nearRed) << 16) + (bitsOf(nearGreen) << 8) + bitsOf(nearBlue) + opaque;
+template <int largest>
+int decidePlain(const PixelRun &run, int count, unsigned *colors, int *undecided)
+{
+    constexpr int first = Others<largest>::first;
+    constexpr int second = Others<largest>::second;
+    constexpr int block = 64; // pixels: the loop that colours them has no branches, to be vectorised
+    const float offset = offsetOf(run);
+    const auto nearest = static_cast<unsigned>(2 * run.margin);
+    int found = 0;
+    for (int begin = 0; begin < count; begin += block) {
+        const int length = std::min(block, count - begin);
+        unsigned isNear[block];
+        unsigned any = 0;
+        for (int k = 0; k < length; ++k) {
+            const auto at = static_cast<float>(begin + k);
+            const float scale = 255.0F / (run.amounts[largest] + at * run.steps[largest]);
+            const unsigned a = bitsOf((run.amounts[first] + at * run.steps[first]) * scale + offset);
+            const unsigned b = bitsOf((run.amounts[second] + at * run.steps[second]) * scale + offset);
+            colors[begin + k] = opaque | maskOf(largest) | placedPlain<first>(a) | placedPlain<second>(b);
+            isNear[k] = unsigned(std::min(a & fractionMask, b & fractionMask) < nearest);
+            any |= isNear[k];
+        }
+        for (int k = 0; any != 0 && k < length; ++k) {
+            undecided[found] = begin + k;
+            found += static_cast<int>(isNear[k]);
+        }
     }
-    return any != 0;
+    return found;
+}
+
+int decideAnywhere(const PixelRun &run, int count, unsigned *colors, int *undecided)
+{
+    switch (run.largest) {
+    case 0:
+        return decidePlain<0>(run, count, colors, undecided);
+    case 1:
+        return decidePlain<1>(run, count, colors, undecided);
+    default:
+        return decidePlain<2>(run, count, colors, undecided);
+    }
 }
 
 bool everywhere()
@@ -104,44 +135,41 @@ bool everywhere()
     return true;
 }
 
-// larger() and smaller() give the second operand if one is not a number, as "a > b ? a : b" and "a < b ? a : b" do.
+// smaller() and isBelow() are given numbers of 15 bits.
 
 #ifdef CEIECHART_FILL_SSE2
-
-// The maximum and the minimum of x86 do so.
 
 struct Sse2 {
     using Floats = __m128;
     using Words = __m128i;
-    using Choice = __m128;
+    using Choice = __m128i;
     static constexpr int lanes = 4;
 
     static Floats all(float value) { return _mm_set1_ps(value); }
+    static Floats indexes() { return _mm_setr_ps(0, 1, 2, 3); }
     static Floats sum(Floats a, Floats b) { return _mm_add_ps(a, b); }
-    static Floats difference(Floats a, Floats b) { return _mm_sub_ps(a, b); }
     static Floats product(Floats a, Floats b) { return _mm_mul_ps(a, b); }
     static Floats quotient(Floats a, Floats b) { return _mm_div_ps(a, b); }
-    static Floats larger(Floats a, Floats b) { return _mm_max_ps(a, b); }
-    static Floats smaller(Floats a, Floats b) { return _mm_min_ps(a, b); }
-    static Floats magnitude(Floats a) { return _mm_andnot_ps(_mm_set1_ps(-0.0F), a); }
-
-    static Choice none() { return _mm_setzero_ps(); }
-    static Choice greater(Floats a, Floats b) { return _mm_cmpgt_ps(a, b); }
-    static Choice either(Choice a, Choice b) { return _mm_or_ps(a, b); }
-    static bool isAny(Choice a) { return _mm_movemask_ps(a) != 0; }
-    static Words ones(Choice a) { return _mm_srli_epi32(_mm_castps_si128(a), 31); }
 
     static Words bits(Floats a) { return _mm_castps_si128(a); }
     static Words allWords(unsigned value) { return _mm_set1_epi32(static_cast<int>(value)); }
-    static Words indexes() { return _mm_setr_epi32(0, 1, 2, 3); }
-    static Floats numbers(Words a) { return _mm_cvtepi32_ps(a); }
-    static Words wordSum(Words a, Words b) { return _mm_add_epi32(a, b); }
+    static Words both(Words a, Words b) { return _mm_and_si128(a, b); }
+    static Words either(Words a, Words b) { return _mm_or_si128(a, b); }
     template <int places>
-    static Words shifted(Words a)
+    static Words up(Words a)
     {
         return _mm_slli_epi32(a, places);
     }
+    template <int places>
+    static Words down(Words a)
+    {
+        return _mm_srli_epi32(a, places);
+    }
     static void store(unsigned *to, Words a) { _mm_storeu_si128(reinterpret_cast<__m128i *>(to), a); }
+
+    static Words smaller(Words a, Words b) { return _mm_min_epi16(a, b); }
+    static Choice isBelow(Words a, Words b) { return _mm_cmplt_epi32(a, b); }
+    static unsigned chosen(Choice a) { return static_cast<unsigned>(_mm_movemask_ps(_mm_castsi128_ps(a))); }
 
 #define CEIECHART_FILL_TARGET
 #include <ceiechart/diagram/fillkernelloop_p.h>
@@ -152,41 +180,39 @@ struct Sse2 {
 
 #ifdef CEIECHART_FILL_NEON
 
-// The maximum and the minimum of NEON do not, so that these compare and select.
-
 struct Neon {
     using Floats = float32x4_t;
     using Words = uint32x4_t;
     using Choice = uint32x4_t;
     static constexpr int lanes = 4;
-    static constexpr unsigned firstIndexes[] = {0, 1, 2, 3};
+    static constexpr float firstIndexes[] = {0, 1, 2, 3};
+    static constexpr unsigned laneBits[] = {1, 2, 4, 8};
 
     static Floats all(float value) { return vdupq_n_f32(value); }
+    static Floats indexes() { return vld1q_f32(firstIndexes); }
     static Floats sum(Floats a, Floats b) { return vaddq_f32(a, b); }
-    static Floats difference(Floats a, Floats b) { return vsubq_f32(a, b); }
     static Floats product(Floats a, Floats b) { return vmulq_f32(a, b); }
     static Floats quotient(Floats a, Floats b) { return vdivq_f32(a, b); }
-    static Floats larger(Floats a, Floats b) { return vbslq_f32(vcgtq_f32(a, b), a, b); }
-    static Floats smaller(Floats a, Floats b) { return vbslq_f32(vcltq_f32(a, b), a, b); }
-    static Floats magnitude(Floats a) { return vabsq_f32(a); }
-
-    static Choice none() { return vdupq_n_u32(0); }
-    static Choice greater(Floats a, Floats b) { return vcgtq_f32(a, b); }
-    static Choice either(Choice a, Choice b) { return vorrq_u32(a, b); }
-    static bool isAny(Choice a) { return vmaxvq_u32(a) != 0; }
-    static Words ones(Choice a) { return vshrq_n_u32(a, 31); }
 
     static Words bits(Floats a) { return vreinterpretq_u32_f32(a); }
     static Words allWords(unsigned value) { return vdupq_n_u32(value); }
-    static Words indexes() { return vld1q_u32(firstIndexes); }
-    static Floats numbers(Words a) { return vcvtq_f32_u32(a); }
-    static Words wordSum(Words a, Words b) { return vaddq_u32(a, b); }
+    static Words both(Words a, Words b) { return vandq_u32(a, b); }
+    static Words either(Words a, Words b) { return vorrq_u32(a, b); }
     template <int places>
-    static Words shifted(Words a)
+    static Words up(Words a)
     {
         return vshlq_n_u32(a, places);
     }
+    template <int places>
+    static Words down(Words a)
+    {
+        return vshrq_n_u32(a, places);
+    }
     static void store(unsigned *to, Words a) { vst1q_u32(to, a); }
+
+    static Words smaller(Words a, Words b) { return vminq_u32(a, b); }
+    static Choice isBelow(Words a, Words b) { return vcltq_u32(a, b); }
+    static unsigned chosen(Choice a) { return vaddvq_u32(vandq_u32(a, vld1q_u32(laneBits))); }
 
 #define CEIECHART_FILL_TARGET
 #include <ceiechart/diagram/fillkernelloop_p.h>
@@ -202,37 +228,39 @@ struct Neon {
 struct Avx2 {
     using Floats = __m256;
     using Words = __m256i;
-    using Choice = __m256;
+    using Choice = __m256i;
     static constexpr int lanes = 8;
 
     CEIECHART_FILL_TARGET static Floats all(float value) { return _mm256_set1_ps(value); }
+    CEIECHART_FILL_TARGET static Floats indexes() { return _mm256_setr_ps(0, 1, 2, 3, 4, 5, 6, 7); }
     CEIECHART_FILL_TARGET static Floats sum(Floats a, Floats b) { return _mm256_add_ps(a, b); }
-    CEIECHART_FILL_TARGET static Floats difference(Floats a, Floats b) { return _mm256_sub_ps(a, b); }
     CEIECHART_FILL_TARGET static Floats product(Floats a, Floats b) { return _mm256_mul_ps(a, b); }
     CEIECHART_FILL_TARGET static Floats quotient(Floats a, Floats b) { return _mm256_div_ps(a, b); }
-    CEIECHART_FILL_TARGET static Floats larger(Floats a, Floats b) { return _mm256_max_ps(a, b); }
-    CEIECHART_FILL_TARGET static Floats smaller(Floats a, Floats b) { return _mm256_min_ps(a, b); }
-    CEIECHART_FILL_TARGET static Floats magnitude(Floats a) { return _mm256_andnot_ps(_mm256_set1_ps(-0.0F), a); }
-
-    CEIECHART_FILL_TARGET static Choice none() { return _mm256_setzero_ps(); }
-    CEIECHART_FILL_TARGET static Choice greater(Floats a, Floats b) { return _mm256_cmp_ps(a, b, _CMP_GT_OQ); }
-    CEIECHART_FILL_TARGET static Choice either(Choice a, Choice b) { return _mm256_or_ps(a, b); }
-    CEIECHART_FILL_TARGET static bool isAny(Choice a) { return _mm256_movemask_ps(a) != 0; }
-    CEIECHART_FILL_TARGET static Words ones(Choice a) { return _mm256_srli_epi32(_mm256_castps_si256(a), 31); }
 
     CEIECHART_FILL_TARGET static Words bits(Floats a) { return _mm256_castps_si256(a); }
     CEIECHART_FILL_TARGET static Words allWords(unsigned value) { return _mm256_set1_epi32(static_cast<int>(value)); }
-    CEIECHART_FILL_TARGET static Words indexes() { return _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7); }
-    CEIECHART_FILL_TARGET static Floats numbers(Words a) { return _mm256_cvtepi32_ps(a); }
-    CEIECHART_FILL_TARGET static Words wordSum(Words a, Words b) { return _mm256_add_epi32(a, b); }
+    CEIECHART_FILL_TARGET static Words both(Words a, Words b) { return _mm256_and_si256(a, b); }
+    CEIECHART_FILL_TARGET static Words either(Words a, Words b) { return _mm256_or_si256(a, b); }
     template <int places>
-    CEIECHART_FILL_TARGET static Words shifted(Words a)
+    CEIECHART_FILL_TARGET static Words up(Words a)
     {
         return _mm256_slli_epi32(a, places);
+    }
+    template <int places>
+    CEIECHART_FILL_TARGET static Words down(Words a)
+    {
+        return _mm256_srli_epi32(a, places);
     }
     CEIECHART_FILL_TARGET static void store(unsigned *to, Words a)
     {
         _mm256_storeu_si256(reinterpret_cast<__m256i *>(to), a);
+    }
+
+    CEIECHART_FILL_TARGET static Words smaller(Words a, Words b) { return _mm256_min_epi32(a, b); }
+    CEIECHART_FILL_TARGET static Choice isBelow(Words a, Words b) { return _mm256_cmpgt_epi32(b, a); }
+    CEIECHART_FILL_TARGET static unsigned chosen(Choice a)
+    {
+        return static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(a)));
     }
 
 #include <ceiechart/diagram/fillkernelloop_p.h>
@@ -248,34 +276,33 @@ struct Avx512 {
     static constexpr int lanes = 16;
 
     CEIECHART_FILL_TARGET static Floats all(float value) { return _mm512_set1_ps(value); }
+    CEIECHART_FILL_TARGET static Floats indexes()
+    {
+        return _mm512_setr_ps(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
+    }
     CEIECHART_FILL_TARGET static Floats sum(Floats a, Floats b) { return _mm512_add_ps(a, b); }
-    CEIECHART_FILL_TARGET static Floats difference(Floats a, Floats b) { return _mm512_sub_ps(a, b); }
     CEIECHART_FILL_TARGET static Floats product(Floats a, Floats b) { return _mm512_mul_ps(a, b); }
     CEIECHART_FILL_TARGET static Floats quotient(Floats a, Floats b) { return _mm512_div_ps(a, b); }
-    CEIECHART_FILL_TARGET static Floats larger(Floats a, Floats b) { return _mm512_max_ps(a, b); }
-    CEIECHART_FILL_TARGET static Floats smaller(Floats a, Floats b) { return _mm512_min_ps(a, b); }
-    CEIECHART_FILL_TARGET static Floats magnitude(Floats a) { return _mm512_abs_ps(a); }
-
-    CEIECHART_FILL_TARGET static Choice none() { return 0; }
-    CEIECHART_FILL_TARGET static Choice greater(Floats a, Floats b) { return _mm512_cmp_ps_mask(a, b, _CMP_GT_OQ); }
-    CEIECHART_FILL_TARGET static Choice either(Choice a, Choice b) { return static_cast<Choice>(a | b); }
-    CEIECHART_FILL_TARGET static bool isAny(Choice a) { return a != 0; }
-    CEIECHART_FILL_TARGET static Words ones(Choice a) { return _mm512_maskz_set1_epi32(a, 1); }
 
     CEIECHART_FILL_TARGET static Words bits(Floats a) { return _mm512_castps_si512(a); }
     CEIECHART_FILL_TARGET static Words allWords(unsigned value) { return _mm512_set1_epi32(static_cast<int>(value)); }
-    CEIECHART_FILL_TARGET static Words indexes()
-    {
-        return _mm512_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
-    }
-    CEIECHART_FILL_TARGET static Floats numbers(Words a) { return _mm512_cvtepi32_ps(a); }
-    CEIECHART_FILL_TARGET static Words wordSum(Words a, Words b) { return _mm512_add_epi32(a, b); }
+    CEIECHART_FILL_TARGET static Words both(Words a, Words b) { return _mm512_and_si512(a, b); }
+    CEIECHART_FILL_TARGET static Words either(Words a, Words b) { return _mm512_or_si512(a, b); }
     template <int places>
-    CEIECHART_FILL_TARGET static Words shifted(Words a)
+    CEIECHART_FILL_TARGET static Words up(Words a)
     {
         return _mm512_slli_epi32(a, places);
     }
+    template <int places>
+    CEIECHART_FILL_TARGET static Words down(Words a)
+    {
+        return _mm512_srli_epi32(a, places);
+    }
     CEIECHART_FILL_TARGET static void store(unsigned *to, Words a) { _mm512_storeu_si512(to, a); }
+
+    CEIECHART_FILL_TARGET static Words smaller(Words a, Words b) { return _mm512_min_epi32(a, b); }
+    CEIECHART_FILL_TARGET static Choice isBelow(Words a, Words b) { return _mm512_cmplt_epi32_mask(a, b); }
+    CEIECHART_FILL_TARGET static unsigned chosen(Choice a) { return a; }
 
 #include <ceiechart/diagram/fillkernelloop_p.h>
 };
@@ -353,7 +380,7 @@ CEIECHART_TARGET("avx") void clearUpperHalves()
 
 #ifdef CEIECHART_FILL_SSE2
 
-bool decideSse2(const PixelRun &run, int count, unsigned *colors, unsigned *undecided)
+int decideSse2(const PixelRun &run, int count, unsigned *colors, int *undecided)
 {
 #ifdef CEIECHART_FILL_AVX
     // Other code may have left numbers in the upper halves of the registers, as Qt 5.15 does when it fills a picture.

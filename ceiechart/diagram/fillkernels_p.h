@@ -6,13 +6,15 @@
 namespace ceiechart {
 
 /*!
- * \brief A run of pixels in a row: the amounts at its first pixel, their steps from pixel to pixel, and the margin with
- * which a channel must miss a rounding boundary to be decided.
+ * \brief A run of pixels in a row, on which one amount is the largest and none is below 0 or above 1.
  */
 struct PixelRun {
-    float red, green, blue;
-    float redStep, greenStep, blueStep;
-    float margin;
+    static constexpr int fractionBits = 15; //!< of a channel that a kernel rounds
+
+    float amounts[3]; //!< of red, green and blue, at the first pixel
+    float steps[3]; //!< from pixel to pixel
+    int largest; //!< the index of the largest amount, which is at least 1/3
+    int margin; //!< by which a channel must miss a rounding boundary to be decided, in its last bit; below 2^14
 };
 
 /*!
@@ -24,11 +26,11 @@ struct FillKernel {
     const char *name;
     bool (*supported)();
     /*!
-     * \brief Colours \a count pixels, as a QRgb each, and marks in \a undecided those that must be computed in double
-     * precision.
-     * \return whether any pixel is undecided
+     * \brief Colours \a count pixels, as a QRgb each, and lists in \a undecided, which has room for all, those that
+     * must be computed in double precision, in ascending order.
+     * \return how many are undecided
      */
-    bool (*decide)(const PixelRun &run, int count, unsigned *colors, unsigned *undecided);
+    int (*decide)(const PixelRun &run, int count, unsigned *colors, int *undecided);
 };
 
 /*! \brief All kernels, from the fastest to the plain loop, which every processor supports. */

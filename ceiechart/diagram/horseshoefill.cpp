@@ -7,23 +7,23 @@
 //     channels = fullBrightness(amounts)                          v = 255 c / L, L the largest amount
 //     colour   = rounded(channels)                                trunc(v + 0.5)
 //
-// A kernel computes this in single precision. If a channel of a pixel is nearer to a rounding boundary than the error
-// of the computation, the kernel leaves the pixel undecided. Undecided pixels are computed in double precision, in the
-// order of arithmetic of the definition.
+// A row is divided where an amount becomes 0 or 1, or another one the largest. In each piece an amount is 0, 1 or not
+// clamped, and the largest channel is 255. A kernel computes the other two in single precision. If one of them is
+// nearer to a rounding boundary than the error of the computation, the kernel leaves the pixel undecided. Undecided
+// pixels are computed in double precision, in the order of arithmetic of the definition.
 //
-// The error, where u = 2^-24 and M is the largest magnitude of an amount on the row (amounts are affine, so that M is
-// reached at an end of the row):
+// The error, where u = 2^-24:
 //
-// - An amount is base + k · step. Rounding the base gives an error of at most uM. Rounding the step and multiplying it
-//   give at most 2u |k · step|, which is at most 4uM. The addition gives at most uM. Clamping to [0, 1] increases no
-//   error. The sum is 6uM; 7uM includes the terms of second order.
+// - An amount that is not clamped is base + k · step, of which both are at most A, the largest L of the piece. Rounding
+//   the base gives an error of at most uA. Rounding the step and multiplying it give at most 2uA, and the addition
+//   gives at most uA. The sum is 4uA; 5uA includes the terms of second order.
 // - The sum of the amounts is 1, therefore L ≥ 1/3, and c ≤ L. An error e of the amounts changes v by at most
-//   255 (e / L + c e / L²), which is at most 1530 e.
-// - The rounding of the quotient 255 / L and of its product with c gives less than 900u in total. The nearest whole
-//   number and the difference from it are exact.
-// - The errors of the definition in double precision, and of the interpolation between the ends of the row, are below
-//   1e-9 if the colour system is well-conditioned and M is small. Otherwise the whole row is computed in double
-//   precision.
+//   255 (e / L + c e / L²), which is at most 510 e / L.
+// - The rounding of the quotient 255 / L and of its product with c gives less than 900u in total. Rounding v to 15 bits
+//   behind the point gives at most 256u.
+// - The errors of the definition in double precision, of the interpolation between the ends of the row, and of the
+//   places where it is divided are below 1e-9 if the colour system is well-conditioned and the amounts are small.
+//   Otherwise the whole row is computed in double precision.
 #include <ceiechart/diagram/horseshoefill_p.h>
 #include <ceiechart/diagram/rowthreads_p.h>
 
@@ -40,9 +40,9 @@ namespace ceiechart {
 
 namespace {
 
-constexpr int runLength = 64; //!< pixels
-constexpr double largestAmount = 8.0; //!< the error estimate holds up to this amount
+constexpr int runLength = 512; //!< pixels: more makes nothing faster
 constexpr double roundingUnit = 1.0 / (1 << 24);
+constexpr double largestAmount = 8.0; //!< the error estimate holds up to this amount
 
 Channels amountsAt(const HorseshoeFill &fill, int x, int y)
 {
@@ -60,6 +60,38 @@ bool exactColor(const HorseshoeFill &fill, int x, int y, QRgb &color)
     const QColor exact = QColor::fromRgb(rounded(channels.red), rounded(channels.green), rounded(channels.blue), 255);
     color = exact.rgba();
     return exact.isValid();
+}
+
+/*!
+ * \brief How many of the next \a count pixels have the same amounts clamped and the same one as the largest.
+ *
+ * \param amounts at the first of them, with \a steps from pixel to pixel
+ * \param run receives the clamped amounts and their steps
+ */
+int pieceOf(const double (&amounts)[3], const double (&steps)[3], int count, PixelRun &run)
+{
+    run.largest = amounts[1] > amounts[0] ? 1 : 0;
+    run.largest = amounts[2] > amounts[run.largest] ? 2 : run.largest;
+    double last = count - 1;
+    const auto endAfter = [&last](double way, double step) {
+        const double pixels = way / step; // not a number if neither changes
+        last = pixels >= 0.0 && pixels < last ? pixels : last;
+    };
+    for (int i = 0; i < 3; ++i) {
+        const double amount = amounts[i];
+        const double clamped = std::clamp(amount, 0.0, 1.0);
+        const bool isClamped = clamped != amount;
+        run.amounts[i] = static_cast<float>(clamped);
+        run.steps[i] = isClamped ? 0.0F : static_cast<float>(steps[i]);
+        const double bound = isClamped ? clamped : steps[i] < 0.0 ? 0.0 : 1.0;
+        endAfter(bound - amount, steps[i]);
+        endAfter(amounts[run.largest] - amount, steps[i] - steps[run.largest]);
+    }
+    const int length = static_cast<int>(last) + 1;
+    const double begin = double(run.amounts[run.largest]);
+    const double end = begin + (length - 1) * double(run.steps[run.largest]);
+    run.margin = decisionMargin(begin > end ? begin / end : end / begin);
+    return length;
 }
 
 /*! \brief Whether the error of the definition in double precision can be neglected for \a system. */
@@ -103,9 +135,10 @@ bool holdsRgb(QImage::Format format)
 
 } // namespace
 
-double decisionMargin(double magnitude)
+int decisionMargin(double ratio)
 {
-    return (1530.0 * 7.0 * magnitude + 900.0) * roundingUnit + 1e-6;
+    const double error = (510.0 * 5.0 * ratio + 900.0 + 256.0) * roundingUnit + 1e-6;
+    return static_cast<int>(error * (1 << PixelRun::fractionBits)) + 1;
 }
 
 RowFill::RowFill(const HorseshoeFill &fill, const FillKernel &kernel)
@@ -129,24 +162,21 @@ void RowFill::color(QRgb *line, int left, int right, int y) const
         return;
     }
 
-    const double steps = count - 1;
-    const Channels step{
-        (last.red - first.red) / steps, (last.green - first.green) / steps, (last.blue - first.blue) / steps};
-    const auto margin = static_cast<float>(decisionMargin(magnitude));
-    unsigned undecided[runLength];
-    for (int begin = 0; begin < count; begin += runLength) {
-        const int length = std::min(runLength, count - begin);
-        const PixelRun run{static_cast<float>(first.red + begin * step.red),
-            static_cast<float>(first.green + begin * step.green), static_cast<float>(first.blue + begin * step.blue),
-            static_cast<float>(step.red), static_cast<float>(step.green), static_cast<float>(step.blue), margin};
-        if (!m_kernel.decide(run, length, line + begin, undecided)) {
-            continue;
+    const double widths = count - 1;
+    const double steps[]
+        = {(last.red - first.red) / widths, (last.green - first.green) / widths, (last.blue - first.blue) / widths};
+    int undecided[runLength];
+    PixelRun run{};
+    for (int begin = 0; begin < count;) {
+        const double amounts[]
+            = {first.red + begin * steps[0], first.green + begin * steps[1], first.blue + begin * steps[2]};
+        const int length = pieceOf(amounts, steps, std::min(runLength, count - begin), run);
+        const int found = m_kernel.decide(run, length, line + begin, undecided);
+        for (int i = 0; i < found; ++i) {
+            const int k = begin + undecided[i];
+            exact(line[k], left + k, y);
         }
-        for (int k = 0; k < length; ++k) {
-            if (undecided[k] != 0) {
-                exact(line[begin + k], left + begin + k, y);
-            }
-        }
+        begin += length;
     }
 }
 

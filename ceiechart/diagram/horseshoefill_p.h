@@ -64,10 +64,10 @@ struct HorseshoeFill {
 };
 
 /*!
- * \brief The distance from a rounding boundary below which a channel is undecided.
- * \param magnitude the largest magnitude of an amount on the row
+ * \brief The margin of a PixelRun of a fill.
+ * \param ratio the largest amount on the run divided by the least that is the largest of a pixel
  */
-double decisionMargin(double magnitude);
+int decisionMargin(double ratio);
 
 /*!
  * \brief Fills the horseshoe in the first \a width columns and \a height rows of \a picture.
