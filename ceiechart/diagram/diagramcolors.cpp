@@ -109,16 +109,16 @@ public:
         std::fill(line + end, line + right, m_ground);
 
         const CoveredRow locus = m_locus.row(y);
-        int begin = end;
-        int stop = first;
-        for (const CoveredRun &run : locus) {
-            if (run.alpha > 0) {
-                begin = std::min(begin, run.left);
-                stop = std::max(stop, run.right);
-            }
+        const CoveredRun *from = locus.begin();
+        const CoveredRun *behind = locus.end();
+        while (from != behind && from->alpha == 0) {
+            ++from;
         }
-        begin = std::clamp(begin, first, end);
-        stop = std::clamp(stop, begin, end);
+        while (from != behind && (behind - 1)->alpha == 0) {
+            --behind;
+        }
+        const int begin = from == behind ? end : std::clamp(from->left, first, end);
+        const int stop = from == behind ? end : std::clamp((behind - 1)->right, begin, end);
         std::fill(line + first, line + begin, m_ground);
         std::fill(line + stop, line + end, m_ground);
         if (begin == stop) {
@@ -128,10 +128,10 @@ public:
         if (m_dimmed) {
             dim(line, y, begin, stop);
         }
-        for (const CoveredRun &run : locus) {
-            const int to = std::min(run.right, stop);
-            for (int x = std::max(run.left, begin); run.alpha < 255 && x < to; ++x) {
-                line[x] = mixed(line[x], m_ground, run.alpha);
+        for (; from != behind; ++from) {
+            const int to = std::min(from->right, stop);
+            for (int x = std::max(from->left, begin); from->alpha < 255 && x < to; ++x) {
+                line[x] = mixed(line[x], m_ground, from->alpha);
             }
         }
     }
@@ -287,25 +287,26 @@ void fillDifference(Filler &filler, RowCoverage &before, RowCoverage &after, con
         const CoveredRow now = after.row(y);
         const CoveredRow then = before.row(y);
         const auto fill = [&](int left, int right) {
-            const QRect part = QRect(left, y, right - left, 1).intersected(plot);
-            if (!part.isEmpty()) {
-                filler.fill(y, part.left(), part.right() + 1);
-                bounds |= part;
+            left = std::max(left, plot.left());
+            right = std::min(right, plot.right() + 1);
+            if (left < right) {
+                filler.fill(y, left, right);
+                bounds |= QRect(left, y, right - left, 1);
             }
         };
-        size_t i = 0;
-        size_t k = 0;
+        const CoveredRun *run = now.begin();
+        const CoveredRun *formerRun = then.begin();
         int x = 0;
         int begin = 0; // of the columns that differ up to x
-        while (i < now.size() && k < then.size()) {
-            const int end = std::min(now[i].right, then[k].right);
-            if (now[i].alpha == then[k].alpha) {
+        while (run != now.end() && formerRun != then.end()) {
+            const int end = std::min(run->right, formerRun->right);
+            if (run->alpha == formerRun->alpha) {
                 fill(begin, x);
                 begin = end;
             }
             x = end;
-            i += now[i].right == end ? 1 : 0;
-            k += then[k].right == end ? 1 : 0;
+            run += run->right == end ? 1 : 0;
+            formerRun += formerRun->right == end ? 1 : 0;
         }
         fill(begin, x);
     }

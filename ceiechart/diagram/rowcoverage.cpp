@@ -17,6 +17,7 @@ RowCoverage::RowCoverage(const QPolygonF &polygon, int width, int height)
     , m_change(size_t(width) + 2, 0.0)
     , m_rows(size_t(height))
 {
+    m_edges.reserve(size_t(polygon.size()));
     for (int i = 0; i < polygon.size(); ++i) {
         const QPointF &a = polygon.at(i);
         const QPointF &b = polygon.at((i + 1) % polygon.size());
@@ -47,41 +48,33 @@ RowCoverage::RowCoverage(const QPolygonF &polygon, int width, int height)
     }
 }
 
-void RowCoverage::touch(int first, int last)
-{
-    m_touched.emplace_back(first, std::min(last, m_width));
-}
-
 // A part of an edge from column \a from to \a to, not left of the picture, over \a height of the row.
 void RowCoverage::add(double from, double to, double height)
 {
     const double least = std::min(from, to);
-    const double most = std::min(std::max(from, to), double(m_width));
+    const double farthest = std::max(from, to);
     if (least >= m_width) {
         return;
     }
+    const double most = std::min(farthest, double(m_width));
     const int first = int(least);
-    const int last = std::min(int(most), m_width);
-    touch(first, last + 1);
-    const double perColumn = to == from ? 0.0 : height / std::fabs(to - from);
+    const int last = int(most);
+    m_touched.emplace_back(first, std::min(last + 1, m_width));
+    const auto cover = [this](int column, double begin, double end, double part) {
+        const double right = part * (0.5 * (begin + end) - column);
+        m_change[size_t(column)] += part - right;
+        m_change[size_t(column) + 1] += right;
+    };
+    if (farthest < first + 1.0) {
+        cover(first, least, most, height);
+        return;
+    }
+    const double perColumn = height / std::fabs(to - from);
     for (int column = first; column <= last; ++column) {
         const double begin = std::max(least, double(column));
         const double end = std::min(most, column + 1.0);
-        const double part = std::max(from, to) < first + 1.0 ? height : perColumn * (end - begin);
-        const double right = part * (0.5 * (begin + end) - column);
-        m_change[size_t(column)] += part - right;
-        m_change[size_t(std::min(column + 1, m_width + 1))] += right;
+        cover(column, begin, end, perColumn * (end - begin));
     }
-}
-
-CoveredRow RowCoverage::row(int y)
-{
-    const KeptRow &row = m_rows[size_t(y)];
-    if (row.count == 0) {
-        findRow(y);
-    }
-    const CoveredRun *first = m_runs.data() + row.first;
-    return CoveredRow(first, first + row.count);
 }
 
 void RowCoverage::findRow(int y)
@@ -100,7 +93,7 @@ void RowCoverage::findRow(int y)
             = from == to ? (from < 0.0 ? 1.0 : 0.0) : std::clamp(-std::min(from, to) / std::fabs(to - from), 0.0, 1.0);
         if (outside > 0.0) {
             m_change[0] += height * outside;
-            touch(0, 0);
+            m_touched.emplace_back(0, 0);
         }
         if (outside < 1.0) {
             add(std::max(from, 0.0), std::max(to, 0.0), height * (1.0 - outside));
@@ -112,28 +105,26 @@ void RowCoverage::findRow(int y)
     const auto alphaOf = [](double sum) { return int(std::min(std::fabs(sum), 1.0) * whole + 0.5); };
     double sum = 0.0;
     int column = 0;
-    const auto append = [this, &column, firstRun](int end, int alpha) {
-        if (end <= column) {
-            return;
-        }
-        if (m_runs.size() > firstRun && m_runs.back().alpha == alpha) {
-            m_runs.back().right = end;
-        } else {
-            m_runs.push_back({column, end, alpha});
-        }
-        column = end;
-    };
+    CoveredRun run{0, m_width, 0};
     for (const auto &[first, last] : m_touched) {
-        append(std::min(first, m_width), alphaOf(sum));
-        while (column <= last && column < m_width) {
+        const int end = std::min(last + 1, m_width);
+        for (column = std::max(column, first); column < end; ++column) {
             sum += m_change[size_t(column)];
             m_change[size_t(column)] = 0.0;
-            append(column + 1, alphaOf(sum));
+            const int alpha = alphaOf(sum);
+            if (alpha == run.alpha) {
+                continue;
+            }
+            if (run.left < column) {
+                m_runs.push_back({run.left, column, run.alpha});
+            }
+            run.left = column;
+            run.alpha = alpha;
         }
     }
+    m_runs.push_back(run);
     m_change[size_t(m_width)] = 0.0;
     m_change[size_t(m_width) + 1] = 0.0;
-    append(m_width, alphaOf(sum));
     m_rows[size_t(y)] = {firstRun, m_runs.size() - firstRun};
 }
 

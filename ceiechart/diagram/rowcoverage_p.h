@@ -49,7 +49,15 @@ public:
     RowCoverage(const QPolygonF &polygon, int width, int height);
 
     /*! \brief The row \a y. Valid until another row is asked for. */
-    CoveredRow row(int y);
+    CoveredRow row(int y)
+    {
+        const KeptRow &row = m_rows[std::size_t(y)];
+        if (row.count == 0) {
+            findRow(y);
+        }
+        const CoveredRun *first = m_runs.data() + row.first;
+        return CoveredRow(first, first + row.count);
+    }
 
 private:
     struct Edge {
@@ -65,7 +73,6 @@ private:
     };
     void findRow(int y);
     void add(double from, double to, double height);
-    void touch(int first, int last);
 
     int m_width = 0;
     std::vector<Edge> m_edges;
