@@ -21,9 +21,9 @@
 //   255 (e / L + c e / L²), which is at most 510 e / L.
 // - The rounding of the quotient 255 / L and of its product with c gives less than 900u in total. Rounding v to 15 bits
 //   behind the point gives at most 256u.
-// - The errors of the definition in double precision, of the interpolation between the ends of the row, and of the
-//   places where it is divided are below 1e-9 if the colour system is well-conditioned and the amounts are small.
-//   Otherwise the whole row is computed in double precision.
+// - The errors of the definition in double precision, of the amounts counted from those of the first pixel of the
+//   picture, and of the places where the row is divided are below 1e-9 if the colour system is well-conditioned and the
+//   amounts are small. Otherwise the whole row is computed in double precision.
 #include <ceiechart/diagram/horseshoefill_p.h>
 #include <ceiechart/diagram/rowthreads_p.h>
 
@@ -42,12 +42,29 @@ namespace {
 
 constexpr int runLength = 512; //!< pixels: more makes nothing faster
 constexpr double roundingUnit = 1.0 / (1 << 24);
-constexpr double largestAmount = 8.0; //!< the error estimate holds up to this amount
+constexpr double largestMagnitude = 16.0; //!< of the amounts of a pixel up to which the error estimate holds
+constexpr double largestOriginMagnitude = 128.0; //!< the same for the pixel from which amounts are counted
 
 Channels amountsAt(const HorseshoeFill &fill, int x, int y)
 {
     const QPointF chroma = fill.geometry.toChroma(x, y);
     return primaryAmounts(fill.colorSystem, chroma.x(), chroma.y(), 1 - chroma.x() - chroma.y());
+}
+
+Channels operator+(const Channels &a, const Channels &b)
+{
+    return {a.red + b.red, a.green + b.green, a.blue + b.blue};
+}
+
+Channels operator*(const Channels &a, int factor)
+{
+    return {a.red * factor, a.green * factor, a.blue * factor};
+}
+
+/*! \brief The sum of the magnitudes; NaN if one of \a amounts is. */
+double magnitudeOf(const Channels &amounts)
+{
+    return std::fabs(amounts.red) + std::fabs(amounts.green) + std::fabs(amounts.blue);
 }
 
 /*!
@@ -144,27 +161,31 @@ int decisionMargin(double ratio)
 RowFill::RowFill(const HorseshoeFill &fill, const FillKernel &kernel)
     : m_fill(fill)
     , m_kernel(kernel)
-    , m_fast(std::abs(fill.gamma - 1) < 0.001 && wellConditioned(fill.colorSystem))
+    , m_origin(amountsAt(fill, 0, 0))
 {
+    // Amounts are linear in x, y and z, so that their steps are those of the steps of the chromaticity.
+    constexpr int far = 1024;
+    const QPointF way = (fill.geometry.toChroma(far, far) - fill.geometry.toChroma(0, 0)) / far;
+    m_columnStep = primaryAmounts(fill.colorSystem, way.x(), 0.0, -way.x());
+    m_rowStep = primaryAmounts(fill.colorSystem, 0.0, way.y(), -way.y());
+    m_fast = std::abs(fill.gamma - 1) < 0.001 && wellConditioned(fill.colorSystem)
+        && magnitudeOf(m_origin) <= largestOriginMagnitude;
 }
 
 void RowFill::color(QRgb *line, int left, int right, int y) const
 {
     const int count = right - left + 1;
-    const Channels first = amountsAt(m_fill, left, y);
-    const Channels last = amountsAt(m_fill, right, y);
-    const double magnitude = std::max({std::fabs(first.red), std::fabs(first.green), std::fabs(first.blue),
-        std::fabs(last.red), std::fabs(last.green), std::fabs(last.blue)});
-    if (!m_fast || count < 2 || !(magnitude <= largestAmount)) {
+    const Channels first = m_origin + m_rowStep * y + m_columnStep * left;
+    const Channels last = first + m_columnStep * (count - 1);
+    const bool isSmall = magnitudeOf(first) <= largestMagnitude && magnitudeOf(last) <= largestMagnitude;
+    if (!m_fast || count < 2 || !isSmall) {
         for (int x = left; x <= right; ++x) {
             exact(line[x - left], x, y);
         }
         return;
     }
 
-    const double widths = count - 1;
-    const double steps[]
-        = {(last.red - first.red) / widths, (last.green - first.green) / widths, (last.blue - first.blue) / widths};
+    const double steps[] = {m_columnStep.red, m_columnStep.green, m_columnStep.blue};
     int undecided[runLength];
     PixelRun run{};
     for (int begin = 0; begin < count;) {

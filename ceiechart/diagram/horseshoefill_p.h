@@ -98,6 +98,9 @@ private:
 
     const HorseshoeFill &m_fill;
     const FillKernel &m_kernel;
+    Channels m_origin; // the amounts at the pixel in row 0 and column 0
+    Channels m_columnStep;
+    Channels m_rowStep;
     bool m_fast;
 };
 
