@@ -59,6 +59,32 @@ QPainterPath armsOf(const DiagramOverlay::Handle &handle)
     return path;
 }
 
+enum class Shape { Circle, Diamond, Plate };
+
+//! What tells \a shape with further \a traits apart from others.
+quint64 lookOf(Shape shape, const DiagramPalette &palette, unsigned traits = 0)
+{
+    // No two palettes have the same ground.
+    return quint64(palette.ground.rgb()) << 32U | traits << 8U | unsigned(shape);
+}
+
+quint64 lookOf(const DiagramOverlay::Handle &handle, const DiagramPalette &palette)
+{
+    unsigned traits = 0;
+    for (const bool trait : {handle.isMovable, handle.isSelected, handle.isHovered, handle.hasFocus}) {
+        traits = traits << 1U | unsigned(trait);
+    }
+    return lookOf(handle.vertex == GamutVertex::White ? Shape::Diamond : Shape::Circle, palette, traits);
+}
+
+//! \a place moved by less than a pixel of the device, so that it begins at one: its edges are sharp then.
+QRectF fromWholePixel(const QPainter &painter, const QRectF &place)
+{
+    const QTransform transform = painter.deviceTransform();
+    const QPoint pixel = transform.map(place.topLeft()).toPoint();
+    return QRectF(transform.inverted().map(QPointF(pixel)), place.size());
+}
+
 QFont boldOf(QFont font)
 {
     font.setBold(true);
@@ -172,7 +198,7 @@ void DiagramOverlay::paintReadout(QPainter &painter, const DiagramPalette &palet
 }
 
 void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const QFont &font,
-    const QRegion &needed) const
+    const QRegion &needed, ShapePictures &pictures) const
 {
     if (!guides.isEmpty()) {
         painter.save();
@@ -207,18 +233,20 @@ void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramP
     }
     for (const Handle &handle : handles) {
         if (needed.intersects(bounds(handle).adjusted(-2.0, -2.0, 2.0, 2.0).toAlignedRect())) {
-            paintHandle(painter, handle, palette);
+            pictures.paint(painter, lookOf(handle, palette), bounds(handle),
+                [&](QPainter &to) { paintHandle(to, handle, palette); });
         }
     }
     if (!label.isEmpty() && needed.intersects(labelPlace.adjusted(-2.0, -2.0, 2.0, 2.0).toAlignedRect())) {
-        QPainterPath box;
-        box.addRoundedRect(labelPlace.adjusted(0.5, 0.5, -0.5, -0.5), 4.0, 4.0);
-        painter.setPen(QPen(palette.frame, 1.0));
-        painter.setBrush(palette.ground);
-        painter.drawPath(box);
+        const QRectF place = fromWholePixel(painter, labelPlace);
+        pictures.paint(painter, lookOf(Shape::Plate, palette), place, [&](QPainter &to) {
+            to.setPen(QPen(palette.frame, 1.0));
+            to.setBrush(palette.ground);
+            to.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), 4.0, 4.0);
+        });
         const double lineHeight = QFontMetricsF(boldOf(font)).height();
-        QRectF line(labelPlace.left() + labelPadding, labelPlace.top() + labelPadding / 2.0,
-            labelPlace.width() - 2.0 * labelPadding, lineHeight);
+        QRectF line(place.left() + labelPadding, place.top() + labelPadding / 2.0, place.width() - 2.0 * labelPadding,
+            lineHeight);
         for (int i = 0; i < label.size(); ++i) {
             painter.setFont(i == 0 ? boldOf(font) : font);
             painter.setPen(i == 0 ? palette.text : palette.accent);

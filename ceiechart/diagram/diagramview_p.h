@@ -7,6 +7,7 @@
 #include <ceiechart/diagram/diagramhands_p.h>
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramview.h>
+#include <ceiechart/diagram/shapepictures_p.h>
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -60,7 +61,7 @@ struct DiagramOverlay {
     void paintReadout(QPainter &painter, const DiagramPalette &palette) const;
     //! What can be seen of it within \a needed.
     void paint(QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const QFont &font,
-        const QRegion &needed) const;
+        const QRegion &needed, ShapePictures &pictures) const;
 };
 
 class DiagramView::Private {
@@ -211,6 +212,7 @@ public:
 
     QImage lines; //!< scale and gamuts, which no edit changes, on nothing; made for the first step of an edit
     bool linesAreReady = false;
+    ShapePictures shapes; //!< of the overlay
     bool isBlank = false; //!< there was not enough memory to paint it
 
     Hand hand = Hand::Idle;

@@ -93,6 +93,7 @@ void DiagramView::Private::forgetPictures()
     painter = std::move(fresh);
     lines = QImage();
     linesAreReady = false;
+    shapes.forget();
 }
 
 const QImage &DiagramView::Private::linesPicture()
@@ -316,7 +317,7 @@ void DiagramView::Private::paintView(QPainter &p, const QRegion &region)
         q->paintBelowTarget(&p);
         p.restore();
         painter->paintEdited(&p, region);
-        overlay.paint(p, viewport.plot(), palette, q->font(), region);
+        overlay.paint(p, viewport.plot(), palette, q->font(), region, shapes);
     }
     overlay.paintReadout(p, palette);
 }

@@ -66,12 +66,6 @@ bool hasPixels(const QPainter &painter)
     }
 }
 
-bool isRaster(const QPainter &painter)
-{
-    return painter.paintEngine()->type() == QPaintEngine::Raster
-        && painter.deviceTransform().type() <= QTransform::TxScale;
-}
-
 /*!
  * Adds the pieces of the line through \a points, each a little longer so that no seam shows.
  *
@@ -283,6 +277,12 @@ QRectF boundsOf(const QVector<PlacedMark> &marks)
 }
 
 } // namespace
+
+bool isRaster(const QPainter &painter)
+{
+    return painter.paintEngine()->type() == QPaintEngine::Raster
+        && painter.deviceTransform().type() <= QTransform::TxScale;
+}
 
 bool isLineNeeded(const QLineF &line, double room, const QRegion &needed)
 {

@@ -38,6 +38,9 @@ constexpr double mostPicturePixels = 3e7;
 constexpr int mostSmoothLines = 3000; // of more, the soft edges take longer than a step of the view may
 constexpr int mostMarksByOutline = 2000; // in the plot: each takes as long as a line, and hundreds of bytes of a file
 
+/*! \brief Whether \a painter paints on pixels, and does not turn. */
+bool isRaster(const QPainter &painter);
+
 /*! \brief Whether some of \a line with \a room on either side lies in \a needed; an empty region needs everything. */
 bool isLineNeeded(const QLineF &line, double room, const QRegion &needed);
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <random>
@@ -60,6 +61,8 @@ private Q_SLOTS:
     void dragRepaintsItsSurroundingsOnly();
     void dragLeavesEdgesAndHandlesThatStay();
     void partsOfGuidesAreThoseOfTheWhole();
+    void handlesStandWhereTheyBelong_data();
+    void handlesStandWhereTheyBelong();
     void partialRepaintsLeaveNothingBehind_data();
     void partialRepaintsLeaveNothingBehind();
     void focusFramesComeAndGo();
@@ -147,6 +150,7 @@ void DiagramViewPaintingTest::partsOfGuidesAreThoseOfTheWhole()
     DiagramOverlay overlay;
     overlay.guides
         = {QPolygonF({QPointF(30.3, 350.2), QPointF(170.1, 20.7), QPointF(470.9, 300.4), QPointF(30.3, 350.2)}), curve};
+    ShapePictures pictures;
     std::mt19937 random(3);
     int seen = 0;
     for (int round = 0; round < 200; ++round) {
@@ -161,7 +165,7 @@ void DiagramViewPaintingTest::partsOfGuidesAreThoseOfTheWhole()
             QPainter painter(&image);
             painter.setClipRegion(needed);
             painter.setRenderHint(QPainter::Antialiasing);
-            overlay.paint(painter, QRectF(whole), palette, QFont(), parts);
+            overlay.paint(painter, QRectF(whole), palette, QFont(), parts, pictures);
             return image;
         };
         const QImage expected = paint(whole);
@@ -169,6 +173,54 @@ void DiagramViewPaintingTest::partsOfGuidesAreThoseOfTheWhole()
         seen += expected.pixelColor(needed.begin()->center()) != QColor(Qt::gray) ? 1 : 0;
     }
     QVERIFY(seen > 0);
+}
+
+void DiagramViewPaintingTest::handlesStandWhereTheyBelong_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::newRow("1") << 1.0;
+    QTest::newRow("1.5") << 1.5;
+    QTest::newRow("2") << 2.0;
+    QTest::newRow("too large to be kept") << 5.0;
+}
+
+void DiagramViewPaintingTest::handlesStandWhereTheyBelong()
+{
+    QFETCH(double, ratio);
+    constexpr int side = 60;
+    constexpr int parts = 4; // of a device pixel, to which a kept picture is rounded
+    const auto painted = [ratio](const std::function<void(QPainter &)> &paint) {
+        QImage image(QSize(side, side) * ratio, QImage::Format_RGB32);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::gray);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        paint(painter);
+        return image;
+    };
+    ShapePictures pictures;
+    std::mt19937 random(8);
+    for (int i = 0; i < 200; ++i) {
+        const DiagramPalette &palette = diagramPalette(i % 2 ? DiagramGround::Light : DiagramGround::Dark);
+        DiagramOverlay::Handle handle;
+        handle.vertex = allGamutVertices[random() % 4U];
+        handle.isMovable = random() % 4U > 0;
+        handle.isSelected = random() % 2U > 0;
+        handle.isHovered = random() % 2U > 0;
+        handle.hasFocus = random() % 2U > 0;
+        handle.at = QPointF(20.0 + 0.01 * double(random() % 2000U), 20.0 + 0.01 * double(random() % 2000U));
+        DiagramOverlay overlay;
+        overlay.handles = {handle};
+        const QRect whole(0, 0, side, side);
+        const QImage seen = painted(
+            [&](QPainter &to) { overlay.paint(to, QRectF(whole), palette, QFont(), QRegion(whole), pictures); });
+        if (ratio <= 2.0) {
+            const double unit = ratio * parts;
+            handle.at = QPointF(std::round(handle.at.x() * unit), std::round(handle.at.y() * unit)) / unit;
+        }
+        const QImage expected = painted([&](QPainter &to) { DiagramOverlay::paintHandle(to, handle, palette); });
+        QCOMPARE(difference(seen, expected), QRect());
+    }
 }
 
 void DiagramViewPaintingTest::partialRepaintsLeaveNothingBehind_data()
