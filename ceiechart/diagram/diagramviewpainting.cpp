@@ -6,7 +6,6 @@
 #include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/polylines_p.h>
 
-#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -296,9 +295,7 @@ void DiagramView::Private::paintView(QPainter &p, const QRegion &region)
     const bool isReadoutOnly
         = !overlay.readout.isEmpty() && region.subtracted(overlay.readoutPlace.toAlignedRect()).isEmpty();
     if (!isReadoutOnly) {
-        if (p.paintEngine()->systemClip().isEmpty()) {
-            p.setClipRegion(region);
-        }
+        // The widget clips to the region.
         const bool isAll = region == QRegion(q->rect());
         if (isAll) {
             painter->paintColors(&p, q->devicePixelRatioF());
