@@ -4,6 +4,7 @@
 #include <ceiechart/diagram/diagramgamuts_p.h>
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramsheet_p.h>
+#include <ceiechart/diagram/polylines_p.h>
 #include <ceiechart/diagram/shownmarks_p.h>
 #include <ceiechart/diagram/shownoutlines_p.h>
 
@@ -302,12 +303,12 @@ QRectF DiagramPainter::freePlace(
         const double step = way.x() != 0.0 && way.y() != 0.0 ? distance * M_SQRT1_2 : distance;
         QRectF place(QPointF(), size);
         place.moveCenter(at + QPointF(way.x() * (step + size.width() / 2.0), way.y() * (step + size.height() / 2.0)));
-        const auto isCovered = [&place](const QRectF &other) { return other.intersects(place); };
+        const auto isCovered = [&place](const QRectF &other) { return overlap(other, place); };
         if (!plot.contains(place) || std::any_of(avoid.cbegin(), avoid.cend(), isCovered)) {
             continue;
         }
         const auto count = int(std::count_if(labels.cbegin(), labels.cend(),
-            [&place](const DiagramLabel &label) { return label.place.intersects(place); }));
+            [&place](const DiagramLabel &label) { return overlap(label.place, place); }));
         if (count < least) {
             least = count;
             best = place;

@@ -171,12 +171,12 @@ QRectF DiagramView::Private::labelPlace(
 {
     const QVector<DiagramLabel> names = painter->labels();
     const auto isTaken = [&avoid, &corners](const QRectF &place) {
-        const auto covers = [&place](const QRectF &box) { return box.intersects(place); };
+        const auto covers = [&place](const QRectF &box) { return overlap(box, place); };
         return corners.meets(place, cornerRoom) || std::any_of(avoid.cbegin(), avoid.cend(), covers);
     };
     const auto costOf = [&names, &at](const QRectF &place) {
         const auto covered = std::count_if(
-            names.cbegin(), names.cend(), [&place](const DiagramLabel &name) { return name.place.intersects(place); });
+            names.cbegin(), names.cend(), [&place](const DiagramLabel &name) { return overlap(name.place, place); });
         return distanceTo(place, at) + costOfName * double(covered);
     };
     const QRectF beside = around(QRectF(at, at), labelDistance + std::max(size.width(), size.height()) + cornerRoom);
