@@ -17,7 +17,8 @@ namespace ceiechart {
 
 namespace {
 
-constexpr double lineRoom = 6.0; // logical pixels on either side of a line, for its width and casing
+constexpr double lineRoom = 4.0; // logical pixels on either side of a line, for its width and casing
+constexpr double nameRoom = 6.0; // logical pixels round a name and its leader, for plate, casing and dot
 constexpr double markRoom = 16.0; // logical pixels round a white
 
 QRect pixelsAround(const QRectF &rectangle, double room)
@@ -229,9 +230,9 @@ void DiagramView::Private::putTarget(const Model::Targets &targets)
             const bool isThere = (i < others.size() && same(others[i], label))
                 || std::any_of(others.begin(), others.end(), [&](const DiagramLabel &o) { return same(o, label); });
             if (!isThere) {
-                changed += pixelsAround(label.place, lineRoom);
+                changed += pixelsAround(label.place, nameRoom);
                 if (!label.leader.isNull()) {
-                    changed += regionBetween(label.leader, label.leader, QRectF(q->rect()), lineRoom);
+                    changed += regionBetween(label.leader, label.leader, QRectF(q->rect()), nameRoom);
                 }
             }
         }
