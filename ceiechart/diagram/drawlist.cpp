@@ -343,8 +343,7 @@ QList<QGlyphRun> TextStyle::glyphs(const QString &text) const
     return found.glyphs;
 }
 
-const TextPicture &TextStyle::picture(
-    const QString &text, const QColor &color, const QColor &casing, double scale) const
+TextPicture TextStyle::picture(const QString &text, const QColor &color, const QColor &casing, double scale) const
 {
     const QList<QGlyphRun> runs = glyphs(text);
     std::vector<TextPicture> &pictures = known(text).pictures;
@@ -354,11 +353,14 @@ const TextPicture &TextStyle::picture(
     if (found != pictures.end()) {
         return *found;
     }
-    if (pictures.size() == mostPicturesOfText) {
-        pictures.clear();
+    const TextPicture picture = pictureOf(runs, color, casing, scale);
+    if (!picture.pixels.isNull()) {
+        if (pictures.size() == mostPicturesOfText) {
+            pictures.clear();
+        }
+        pictures.push_back(picture);
     }
-    pictures.push_back(pictureOf(runs, color, casing, scale));
-    return pictures.back();
+    return picture;
 }
 
 QSizeF TextStyle::designedSize(const QString &text) const
@@ -530,7 +532,7 @@ void DrawList::paintItem(const PaintTarget &target, const Text &item)
     QPainter *const painter = &target.painter;
     if (isRaster(*painter) && item.style.unit() == 1.0) {
         if (target.pixels) {
-            const TextPicture &picture = item.style.picture(item.text, item.color, item.casing, target.pixels->scale());
+            const TextPicture picture = item.style.picture(item.text, item.color, item.casing, target.pixels->scale());
             if (!picture.pixels.isNull()) {
                 target.pixels->picture(item.at, picture.pixels, picture.origin);
                 return;

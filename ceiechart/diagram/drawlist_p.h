@@ -84,7 +84,7 @@ public:
      * \a text in \a color on its \a casing, which is left out if it is no colour, with \a scale pixels for each
      * logical pixel.
      */
-    const TextPicture &picture(const QString &text, const QColor &color, const QColor &casing, double scale) const;
+    TextPicture picture(const QString &text, const QColor &color, const QColor &casing, double scale) const;
 
 private:
     //! What has been found out about a text: to shape its glyphs and to case them takes longer than to paint them.

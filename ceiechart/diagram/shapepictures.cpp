@@ -20,6 +20,9 @@ QImage pictureOf(
     const QSizeF reach = bounds.size() * ratio;
     QImage picture(int(std::ceil(reach.width() + offset.x())), int(std::ceil(reach.height() + offset.y())),
         QImage::Format_ARGB32_Premultiplied);
+    if (picture.isNull()) {
+        return picture;
+    }
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -54,6 +57,10 @@ void ShapePictures::paint(
     QImage &picture = m_pictures[{look, ratio, bounds.width(), bounds.height(), offset.x(), offset.y()}];
     if (picture.isNull()) {
         picture = pictureOf(bounds, ratio, offset, paintShape);
+    }
+    if (picture.isNull()) {
+        paintShape(painter); // for want of memory
+        return;
     }
     painter.save();
     painter.scale(1.0 / ratio, 1.0 / ratio);
