@@ -94,6 +94,9 @@ void DiagramViewportTest::bothAxesHaveOneScale()
         const double step = 1e-3 / zoom;
         const QPointF at = viewport.range().center();
         const QPointF origin = viewport.fromPoint(at);
+        const QPointF other(0.1, 0.8);
+        const QPolygonF both = viewport.fromPoints(QPolygonF() << at << other);
+        QCOMPARE(both, QPolygonF() << origin << viewport.fromPoint(other));
         const double right = viewport.fromPoint(at + QPointF(step, 0)).x() - origin.x();
         const double up = origin.y() - viewport.fromPoint(at + QPointF(0, step)).y();
         QVERIFY(std::fabs(right - step * viewport.scale()) < 1e-8);
