@@ -6,8 +6,6 @@
 #include <ceiechart/diagram/polylines_p.h>
 #include <ceiechart/diagram/spectrum_p.h>
 
-#include <QPainterPath>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -216,9 +214,7 @@ void DiagramGamuts::placeIsotherms(const QVector<PendingNumber> &isotherms)
 
 void DiagramGamuts::drawPlate(const QRectF &place, const DiagramPalette &palette)
 {
-    QPainterPath plate;
-    plate.addRoundedRect(place, plateRadius, plateRadius);
-    m_step.texts.shape(plate, Qt::NoPen, faded(palette.ground, plateOpacity));
+    m_step.texts.roundedRectangle(place, plateRadius, faded(palette.ground, plateOpacity));
 }
 
 QVector<QRectF> DiagramGamuts::namePlaces(const Shown &gamut, const QSizeF &size) const

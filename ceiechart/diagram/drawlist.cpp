@@ -391,6 +391,12 @@ void DrawList::shape(const QPainterPath &path, const QPen &pen, const QBrush &br
     m_items.push_back({widened(path.controlPointRect(), roomOf(pen)), Shape{path, pen, brush}});
 }
 
+void DrawList::roundedRectangle(const QRectF &rectangle, double radius, const QColor &color)
+{
+    constexpr double softEdge = 1.0;
+    m_items.push_back({widened(rectangle, softEdge), RoundedRectangle{rectangle, radius, color}});
+}
+
 void DrawList::ellipse(const QPointF &centre, double radiusX, double radiusY, const QPen &pen, const QBrush &brush)
 {
     const QPointF reach(radiusX, radiusY);
@@ -508,6 +514,17 @@ void DrawList::paintItem(const PaintTarget &target, const Shape &item)
     painter->drawPath(item.path);
 }
 
+void DrawList::paintItem(const PaintTarget &target, const RoundedRectangle &item)
+{
+    if (target.pixels) {
+        target.pixels->roundedRectangle(item.rectangle, item.radius, item.color);
+        return;
+    }
+    target.painter.setPen(Qt::NoPen);
+    target.painter.setBrush(item.color);
+    target.painter.drawRoundedRect(item.rectangle, item.radius, item.radius);
+}
+
 void DrawList::paintItem(const PaintTarget &target, const Ellipse &item)
 {
     QPainter *const painter = &target.painter;
@@ -520,6 +537,12 @@ void DrawList::paintItem(const PaintTarget &target, const Ellipse &item)
             points.append(item.centre + QPointF(item.radiusX * std::cos(angle), item.radiusY * std::sin(angle)));
         }
         paintPieces(target, points, true, item.pen);
+        return;
+    }
+    if (target.pixels && item.radiusX == item.radiusY && item.pen.style() == Qt::SolidLine
+        && item.brush.style() == Qt::SolidPattern) {
+        target.pixels->disc(item.centre, item.radiusX, item.brush.color());
+        target.pixels->ring(item.centre, item.radiusX, item.pen.widthF(), item.pen.color());
         return;
     }
     painter->setPen(item.pen);

@@ -114,6 +114,8 @@ public:
     void lines(const QVector<QLineF> &lines, const QPen &pen);
     //! Any shape.
     void shape(const QPainterPath &path, const QPen &pen, const QBrush &brush);
+    //! A rectangle with corners that are rounded to \a radius.
+    void roundedRectangle(const QRectF &rectangle, double radius, const QColor &color);
     //! An ellipse with level and upright axes.
     void ellipse(const QPointF &centre, double radiusX, double radiusY, const QPen &pen, const QBrush &brush);
     //! A text with the left end of its base line at \a at; a \a casing that is no colour is left out.
@@ -152,6 +154,11 @@ private:
         QPen pen;
         QBrush brush;
     };
+    struct RoundedRectangle {
+        QRectF rectangle;
+        double radius;
+        QColor color;
+    };
     struct Ellipse {
         QPointF centre;
         double radiusX;
@@ -171,7 +178,7 @@ private:
     };
     struct Item {
         QRectF bounds; // with the width of the pen
-        std::variant<Hairline, Line, Lines, Shape, Ellipse, Text, Marks> what;
+        std::variant<Hairline, Line, Lines, Shape, RoundedRectangle, Ellipse, Text, Marks> what;
     };
     void addText(const QPointF &at, const QRectF &place, const QString &text, const TextStyle &style,
         const QColor &color, const QColor &casing);
@@ -179,6 +186,7 @@ private:
     static void paintItem(const PaintTarget &target, const Line &item);
     static void paintItem(const PaintTarget &target, const Lines &item);
     static void paintItem(const PaintTarget &target, const Shape &item);
+    static void paintItem(const PaintTarget &target, const RoundedRectangle &item);
     static void paintItem(const PaintTarget &target, const Ellipse &item);
     static void paintItem(const PaintTarget &target, const Text &item);
     static void paintItem(const PaintTarget &target, const Marks &item);

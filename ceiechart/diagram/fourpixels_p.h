@@ -77,6 +77,12 @@ struct FourPlain {
         }
     }
 
+    //! Whether nothing is seen of four \a pictured pixels.
+    static bool areClear(const std::uint32_t *pictured)
+    {
+        return (pictured[0] | pictured[1] | pictured[2] | pictured[3]) == 0;
+    }
+
     //! Puts four \a pictured pixels, which are premultiplied, over \a pixels.
     static void putOver(std::uint32_t *pixels, const std::uint32_t *pictured)
     {
@@ -148,6 +154,12 @@ struct FourBySse2 {
         const __m128i high = moved(_mm_unpackhi_epi8(former, _mm_setzero_si128()), _mm_unpackhi_epi8(halves, former),
             _mm_unpackhi_epi32(twice, twice));
         _mm_storeu_si128(at, _mm_packus_epi16(low, high));
+    }
+
+    static bool areClear(const std::uint32_t *pictured)
+    {
+        const __m128i source = _mm_loadu_si128(reinterpret_cast<const __m128i *>(pictured));
+        return _mm_movemask_epi8(_mm_cmpeq_epi32(source, _mm_setzero_si128())) == 0xffff;
     }
 
     static void putOver(std::uint32_t *pixels, const std::uint32_t *pictured)

@@ -185,9 +185,11 @@ std::optional<PixelPainter> PixelPainter::on(const QPainter &painter)
         || (pixels->format() != QImage::Format_RGB32 && pixels->format() != QImage::Format_ARGB32_Premultiplied)) {
         return std::nullopt;
     }
-    QRegion clip = pixels->rect();
-    if (!engine->systemClip().isEmpty()) {
-        clip &= engine->systemClip();
+    QRegion clip = engine->systemClip();
+    if (clip.isEmpty()) {
+        clip = pixels->rect();
+    } else if (!pixels->rect().contains(clip.boundingRect())) {
+        clip &= pixels->rect();
     }
     if (painter.hasClipping()) {
         const auto own = ownClip(painter);
@@ -271,6 +273,32 @@ void PixelPainter::ring(const QPointF &centre, double radius, double width, cons
     forRows(middle.y() - outer - reach, middle.y() + outer + reach, isBeyond, paintRingRow);
 }
 
+void PixelPainter::roundedRectangle(const QRectF &rectangle, double radius, const QColor &color) const
+{
+    // All that is as far away from a smaller rectangle as the corners are round.
+    const double half = radius * m_scale;
+    const QPointF middle = onPixels(rectangle.center());
+    const double width = std::max(0.0, rectangle.width() * m_scale / 2.0 - half);
+    const double height = std::max(0.0, rectangle.height() * m_scale / 2.0 - half);
+    const Stroke stroke(half, color);
+    const Floats scale = Four::all(float(stroke.scale()));
+    const Floats zero = Four::all(0.0F);
+    const double left = middle.x() - width - half - reach;
+    const double right = middle.x() + width + half + reach;
+    const auto isBeyond = [left, right](const QRect &rows) { return right < rows.left() || left > rows.right() + 1.0; };
+    const auto paintRectangleRow = [&](const QRect &part, int y) {
+        const double dy = std::max(0.0, std::fabs(y + 0.5 - middle.y()) - height);
+        const Floats dx = Four::all(float(0.5 - middle.x()));
+        const Floats square = Four::all(float(dy * dy));
+        paintRow(part, y, left, right, color.rgb(), [&](Floats at) {
+            const Floats beyond = Four::subtract(Four::absolute(Four::add(at, dx)), Four::all(float(width)));
+            const Floats aside = Four::most(beyond, zero);
+            return stroke.shares(Four::multiply(Four::root(Four::add(Four::multiply(aside, aside), square)), scale));
+        });
+    };
+    forRows(middle.y() - height - half - reach, middle.y() + height + half + reach, isBeyond, paintRectangleRow);
+}
+
 void PixelPainter::picture(const QPointF &at, const QImage &picture, const QPoint &origin) const
 {
     const QPointF place = onPixels(at);
@@ -285,9 +313,15 @@ void PixelPainter::picture(const QPointF &at, const QImage &picture, const QPoin
             = reinterpret_cast<const std::uint32_t *>(picture.constScanLine(int(y - top))) + int(first - left);
         std::uint32_t *const row = m_pixels + y * m_stride + int(first);
         const int count = int(end - first);
+        if (picture.format() == QImage::Format_RGB32) {
+            std::copy_n(pictured, count, row);
+            return;
+        }
         int i = 0;
         for (; i + together <= count; i += together) {
-            Four::putOver(row + i, pictured + i);
+            if (!Four::areClear(pictured + i)) {
+                Four::putOver(row + i, pictured + i);
+            }
         }
         if (i < count) {
             const std::size_t bytes = std::size_t(count - i) * sizeof(std::uint32_t);

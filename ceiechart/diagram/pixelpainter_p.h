@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QLineF>
 #include <QPointF>
+#include <QRectF>
 #include <QRegion>
 
 #include <cstdint>
@@ -17,8 +18,8 @@ class QPainter;
 namespace ceiechart {
 
 /*!
- * \brief Paints lines and circles with soft edges, and small pictures, straight into the pixels that a painter paints
- * on.
+ * \brief Paints lines, circles and rectangles with soft edges, and pictures, straight into the pixels that a painter
+ * paints on.
  *
  * A pixel is covered as far as the shape reaches over it along the normal of the edge, which differs by a few
  * hundredths from the area that the raster engine computes, and takes a small part of the time. Positions and widths
@@ -40,12 +41,14 @@ public:
     void line(const QLineF &line, double width, const QColor &color) const;
     /*! \brief A full circle. */
     void disc(const QPointF &centre, double radius, const QColor &color) const;
+    /*! \brief A rectangle whose corners are rounded to \a radius, half a pixel or more. */
+    void roundedRectangle(const QRectF &rectangle, double radius, const QColor &color) const;
     /*! \brief A circle of \a radius, drawn with a line of \a width. */
     void ring(const QPointF &centre, double radius, double width, const QColor &color) const;
     /*!
-     * \brief \a picture, whose format is premultiplied ARGB32, with the pixel \a origin of it at \a at.
+     * \brief \a picture, whose format is RGB32 or premultiplied ARGB32, with the pixel \a origin of it at \a at.
      *
-     * It is put on the nearest whole pixels.
+     * Its pixels become those of the device, at the nearest whole ones.
      */
     void picture(const QPointF &at, const QImage &picture, const QPoint &origin) const;
 

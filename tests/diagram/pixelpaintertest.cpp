@@ -141,6 +141,7 @@ class PixelPainterTest : public QObject {
 private Q_SLOTS:
     void linesCoverTheirShareOfPixels();
     void circlesCoverTheirShareOfPixels();
+    void roundedRectanglesCoverTheirShareOfPixels();
     void picturesAreThoseOfTheEngine();
     void nothingIsPaintedBeyondTheClip();
     void narrowPicturesAreNotLeft();
@@ -215,16 +216,42 @@ void PixelPainterTest::circlesCoverTheirShareOfPixels()
     }
 }
 
+void PixelPainterTest::roundedRectanglesCoverTheirShareOfPixels()
+{
+    Random random;
+    for (int i = 0; i < 30; ++i) {
+        const double scale = std::array{1.0, 1.5, 2.0}[size_t(i % 3)];
+        const double radius = random.between(1.0, 5.0);
+        const QRectF rectangle(random.point(QRectF(-10.0, -10.0, 60.0, 50.0)) / scale,
+            QSizeF(random.between(10.0, 50.0), random.between(10.0, 30.0)) / scale);
+        const QColor color(255, 240, 230, i % 2 ? 255 : 170);
+        const QRectF core = rectangle.adjusted(radius, radius, -radius, -radius);
+        const auto isWithin = [&](const QPointF &pixel) {
+            const QPointF at = pixel / scale;
+            const double dx = std::max({core.left() - at.x(), at.x() - core.right(), 0.0});
+            const double dy = std::max({core.top() - at.y(), at.y() - core.bottom(), 0.0});
+            return std::hypot(dx, dy) <= radius;
+        };
+        if (core.isValid()) {
+            compare(painted(straight(
+                                [&](const PixelPainter &pixels) { pixels.roundedRectangle(rectangle, radius, color); }),
+                        scale),
+                sampled(isWithin, color), QStringLiteral("rectangle %1").arg(i));
+        }
+    }
+}
+
 void PixelPainterTest::picturesAreThoseOfTheEngine()
 {
     Random random;
     for (int i = 0; i < 200; ++i) {
         const double scale = i % 2 ? 2.0 : 1.0;
-        QImage picture(
-            int(random.between(1.0, 30.0)), int(random.between(1.0, 20.0)), QImage::Format_ARGB32_Premultiplied);
+        const auto format = i % 4 < 2 ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+        QImage picture(int(random.between(1.0, 30.0)), int(random.between(1.0, 20.0)), format);
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x) {
-                picture.setPixel(x, y, qPremultiply(random.color().rgba()));
+                const bool isClear = x / 8 % 2 == 1 && format != QImage::Format_RGB32;
+                picture.setPixel(x, y, isClear ? 0 : qPremultiply(random.color().rgba()));
             }
         }
         const QPointF at = random.point(QRectF(-20.0, -20.0, 130.0, 110.0)) / scale;
@@ -262,6 +289,7 @@ void PixelPainterTest::nothingIsPaintedBeyondTheClip()
                         pixels.line(line, width, color);
                         pixels.ring(centre, 14.3, width, color);
                         pixels.disc(centre, 5.2, color);
+                        pixels.roundedRectangle(QRectF(centre, QSizeF(20.0, 12.0)), 3.0, color);
                         pixels.picture(centre, picture, QPoint(3, 4));
                     })(painter);
                 },
@@ -342,6 +370,7 @@ void PixelPainterTest::vectorsAreThePlainDefinition()
         FourPlain::Floats shares;
         std::uint32_t pixels[4];
         std::uint32_t pictured[4];
+        const std::uint32_t clear[4] = {};
         for (size_t k = 0; k < 4; ++k) {
             a[k] = float(random.between(-300.0, 300.0));
             b[k] = float(random.between(-300.0, 300.0));
@@ -367,6 +396,9 @@ void PixelPainterTest::vectorsAreThePlainDefinition()
         FourPlain::blend(pixels, color, shares);
         FourBySse2::blend(others, color, _mm_loadu_ps(shares.data()));
         QVERIFY(std::equal(std::begin(pixels), std::end(pixels), std::begin(others)));
+        QCOMPARE(FourBySse2::areClear(pictured), FourPlain::areClear(pictured));
+        QVERIFY(FourBySse2::areClear(clear));
+        QVERIFY(FourPlain::areClear(clear));
         FourPlain::putOver(pixels, pictured);
         FourBySse2::putOver(others, pictured);
         QVERIFY(std::equal(std::begin(pixels), std::end(pixels), std::begin(others)));
