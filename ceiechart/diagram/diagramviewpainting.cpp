@@ -4,6 +4,7 @@
 #include <ceiechart/diagram/diagramsheet_p.h>
 #include <ceiechart/diagram/diagramview_p.h>
 #include <ceiechart/diagram/finite_p.h>
+#include <ceiechart/diagram/pixelpainter_p.h>
 #include <ceiechart/diagram/polylines_p.h>
 
 #include <QPaintEvent>
@@ -37,7 +38,7 @@ QRectF boxOf(std::initializer_list<QPointF> points)
  */
 QRegion regionBetween(const QLineF &a, const QLineF &b, const QRectF &whole, double room)
 {
-    constexpr int bandHeight = 8;
+    constexpr int bandHeight = 16; // as many parts of a region take as long as pixels beside slanting lines
     const QLineF sides[] = {a, b, QLineF(a.p1(), b.p1()), QLineF(a.p2(), b.p2())};
     const QRect bounds
         = (boxOf({a.p1(), a.p2(), b.p1(), b.p2()}).adjusted(-room, -room, room, room) & whole).toAlignedRect();
@@ -71,6 +72,21 @@ QRegion regionBetween(const QLineF &a, const QLineF &b, const QRectF &whole, dou
     QRegion region;
     region.setRects(bands.constData(), int(bands.size()));
     return region;
+}
+
+/*!
+ * Paints \a picture of a whole widget.
+ *
+ * The paint engine takes several times as long for a part of it, as it looks for the parts of its clip in each row.
+ */
+void paintPicture(QPainter &painter, const QImage &picture)
+{
+    const auto pixels = PixelPainter::on(painter);
+    if (pixels && pixels->scale() == picture.devicePixelRatio()) {
+        pixels->picture(QPointF(), picture, QPoint());
+    } else {
+        painter.drawImage(QPointF(), picture);
+    }
 }
 
 //! Sizes in points are the same on \a image as on \a widget.
@@ -191,9 +207,11 @@ QRegion DiagramView::Private::editedRegion(const Model::Targets &former, const M
             region += regionBetween(formerEdge, latterEdge, whole, lineRoom);
         }
     }
-    for (const Model::Targets *targets : {&former, &latter}) {
-        const QPointF white = viewport.toPosition(xyOf(targets->white));
-        if (whole.adjusted(-markRoom, -markRoom, markRoom, markRoom).contains(white)) {
+    const QPointF formerWhite = viewport.toPosition(xyOf(former.white));
+    const QPointF latterWhite = viewport.toPosition(xyOf(latter.white));
+    for (const QPointF &white : {formerWhite, latterWhite}) {
+        if (!isExactly(formerWhite, latterWhite)
+            && whole.adjusted(-markRoom, -markRoom, markRoom, markRoom).contains(white)) {
             region += pixelsAround(QRectF(white, QSizeF(1.0, 1.0)), markRoom);
         }
     }
@@ -301,7 +319,7 @@ void DiagramView::Private::paintView(QPainter &p, const QRegion &region)
         if (isAll) {
             painter->paintColors(&p, q->devicePixelRatioF());
         } else {
-            p.drawImage(QPointF(), painter->colors(q->devicePixelRatioF()));
+            paintPicture(p, painter->colors(q->devicePixelRatioF()));
         }
         p.setRenderHint(QPainter::Antialiasing);
         if (!linesAreReady && isAll) {
@@ -309,7 +327,7 @@ void DiagramView::Private::paintView(QPainter &p, const QRegion &region)
             painter->paintScale(&p);
             painter->paintGamuts(&p);
         } else {
-            p.drawImage(QPointF(), linesPicture());
+            paintPicture(p, linesPicture());
         }
         p.save();
         q->paintBelowTarget(&p);
