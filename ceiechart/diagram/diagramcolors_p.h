@@ -34,7 +34,7 @@ struct ColorsRequest {
 /*!
  * \brief A picture of a diagram's ground and horseshoe that is kept and repaired.
  *
- * The colour of a pixel is that of the chromaticity in its middle, as the pictures of the stated charts have it: in
+ * The colour of a pixel is that of the chromaticity in its middle, as the pictures of the charts have it: in
  * x, y by the atlas's colour system, in the uniform diagrams by that of their own. A dimmed colour is the mean of the
  * colour and the ground. Edges are smooth by the area that they cover.
  */
