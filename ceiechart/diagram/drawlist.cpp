@@ -27,7 +27,7 @@ namespace {
 constexpr double pointsPerInch = 72.0;
 constexpr double casingWidth = 3.0; // of texts, logical pixels
 constexpr int mostKnownTexts = 1000; // whose glyphs are kept
-constexpr size_t mostPicturesOfText = 4; // in different colours
+constexpr size_t mostPicturesOfText = 2; // in different colours
 constexpr int designPixelSize = 100; // large enough for rounding to play no part
 
 double dotsPerInch(const QPaintDevice *device)
