@@ -25,7 +25,8 @@ using Floats = Four::Floats;
 
 constexpr int together = 4; // pixels
 constexpr double reach = 0.5; // how far from an edge a pixel's middle can be that the edge covers in part
-constexpr int rowsAhead = 8; // on which a line's pixels are fetched from the memory
+constexpr int rowsAhead = 8; // on which pixels are fetched from the memory while others are painted
+constexpr int pixelsAtOnce = 16; // that are fetched from the memory
 constexpr double whole = 256.0; // the share of a pixel that is covered by an opaque colour
 
 /*!
@@ -304,16 +305,24 @@ void PixelPainter::picture(const QPointF &at, const QImage &picture, const QPoin
     const QPointF place = onPixels(at);
     const double left = std::floor(place.x() + 0.5) - origin.x();
     const double top = std::floor(place.y() + 0.5) - origin.y();
-    const auto isBeyond
-        = [&](const QRect &rows) { return left + picture.width() <= rows.left() || left > rows.right(); };
-    forRows(top, top + picture.height() - 1, isBeyond, [&](const QRect &part, int y) {
-        const double first = std::max(left, double(part.left()));
-        const double end = std::min(left + picture.width(), part.right() + 1.0);
-        const auto *pictured
-            = reinterpret_cast<const std::uint32_t *>(picture.constScanLine(int(y - top))) + int(first - left);
-        std::uint32_t *const row = m_pixels + y * m_stride + int(first);
-        const int count = int(end - first);
-        if (picture.format() == QImage::Format_RGB32) {
+    const double right = left + picture.width();
+    const auto isBeyond = [left, right](const QRect &rows) { return right <= rows.left() || left > rows.right(); };
+    const auto *const first = reinterpret_cast<const std::uint32_t *>(picture.constBits());
+    const std::ptrdiff_t stride = picture.bytesPerLine() / std::ptrdiff_t(sizeof(std::uint32_t));
+    const bool isOpaque = picture.format() == QImage::Format_RGB32;
+    const double bottom = std::min(top + picture.height() - 1.0, double(m_clip.boundingRect().bottom()));
+    forRows(top, bottom, isBeyond, [&](const QRect &part, int y) {
+        const double begin = std::max(left, double(part.left()));
+        const std::uint32_t *const pictured = first + std::ptrdiff_t(y - top) * stride + int(begin - left);
+        std::uint32_t *const row = m_pixels + y * m_stride + int(begin);
+        const int count = int(std::min(right, part.right() + 1.0) - begin);
+        if (y + rowsAhead <= bottom) {
+            for (const int column : {0, std::min(count, pixelsAtOnce)}) {
+                Four::fetch(row + rowsAhead * m_stride + column);
+                Four::fetch(pictured + rowsAhead * stride + column);
+            }
+        }
+        if (isOpaque) {
             std::copy_n(pictured, count, row);
             return;
         }
