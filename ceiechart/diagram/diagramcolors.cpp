@@ -338,6 +338,7 @@ const QImage &DiagramColors::update(const ColorsRequest &request, QRegion *chang
     const auto distance = m_isKept && m_image.size() == size && sameExceptPlace(m_request, request)
         ? wholePixels(m_request, request)
         : std::nullopt;
+    m_isKept = false; // should the memory be too short for the rest
     if (!distance) {
         if (m_image.size() != size) {
             m_image = QImage(size, QImage::Format_RGB32);
@@ -399,6 +400,7 @@ void DiagramColors::paint(QPainter *painter, const ColorsRequest &request)
         return;
     }
     const QSize size = request.size();
+    m_isKept = false;
     m_locus = locusCoverage(request, size);
     m_full = fullCoverage(request, request.full, size);
     QImage band(size.width(), bandHeight, QImage::Format_RGB32);
@@ -411,12 +413,12 @@ void DiagramColors::paint(QPainter *painter, const ColorsRequest &request)
         painter->drawImage(QPointF(0.0, top / request.devicePixelRatio), band, QRectF(0, 0, size.width(), height));
     }
     m_request = request;
-    m_isKept = false;
 }
 
 void DiagramColors::paintScrolled(QPainter *painter, const ColorsRequest &request, const QPoint &way)
 {
     const QSize size = request.size();
+    m_isKept = false; // until the whole picture is scrolled
     m_locus = locusCoverage(request, size);
     m_full = fullCoverage(request, request.full, size);
     Filler filler(request, m_image, m_locus, m_full);
@@ -430,6 +432,7 @@ void DiagramColors::paintScrolled(QPainter *painter, const ColorsRequest &reques
         painter->drawImage(QPointF(0.0, top / request.devicePixelRatio), m_image, QRectF(0, top, size.width(), height));
     }
     m_request = request;
+    m_isKept = true;
 }
 
 } // namespace ceiechart

@@ -314,7 +314,10 @@ void DiagramView::Private::paintView(QPainter &p, const QRegion &region)
     const bool isReadoutOnly
         = !overlay.readout.isEmpty() && region.subtracted(overlay.readoutPlace.toAlignedRect()).isEmpty();
     if (!isReadoutOnly) {
-        // The widget clips to the region.
+        // The widget clips to the region, unless a host renders it by a painter with a clip of its own.
+        if (p.hasClipping()) {
+            p.setClipRegion(region);
+        }
         const bool isAll = region == QRegion(q->rect());
         if (isAll) {
             painter->paintColors(&p, q->devicePixelRatioF());

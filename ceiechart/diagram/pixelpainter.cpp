@@ -164,10 +164,11 @@ int wholeFrom(double value)
  */
 std::optional<QRect> ownClip(const QPainter &painter)
 {
-    const QRegion clip = painter.clipRegion();
-    const QRectF pixels = painter.deviceTransform().mapRect(QRectF(clip.boundingRect()));
+    // The region is rounded, the bounds are not.
+    const QRectF pixels = painter.deviceTransform().mapRect(painter.clipBoundingRect());
     const QRect wholeOnes = pixels.toRect();
-    return clip.rectCount() <= 1 && QRectF(wholeOnes) == pixels ? std::make_optional(wholeOnes) : std::nullopt;
+    return painter.clipRegion().rectCount() <= 1 && QRectF(wholeOnes) == pixels ? std::make_optional(wholeOnes)
+                                                                                : std::nullopt;
 }
 
 } // namespace
@@ -205,6 +206,7 @@ std::optional<PixelPainter> PixelPainter::on(const QPainter &painter)
 PixelPainter::PixelPainter(const QImage &pixels, const QPointF &origin, double scale, const QRegion &clip)
     // The painter has made these pixels its own when it began; to ask for them to be written would copy them.
     : m_pixels(reinterpret_cast<std::uint32_t *>(const_cast<uchar *>(pixels.constBits())))
+    , m_width(pixels.width())
     , m_stride(pixels.bytesPerLine() / std::ptrdiff_t(sizeof(std::uint32_t)))
     , m_origin(origin)
     , m_scale(scale)
@@ -264,7 +266,8 @@ void PixelPainter::ring(const QPointF &centre, double radius, double width, cons
             const Floats away = Four::root(Four::add(Four::multiply(offset, offset), square));
             return stroke.shares(Four::multiply(Four::subtract(away, line), scale));
         };
-        if (nearest > 1.0) {
+        // Pixels are painted several at a time, of which those behind the first part must not reach the second.
+        if (nearest >= together / 2.0) {
             paintRow(part, y, middle.x() - farthest, middle.x() - nearest, shade, shares);
             paintRow(part, y, middle.x() + nearest, middle.x() + farthest, shade, shares);
         } else {
@@ -277,7 +280,7 @@ void PixelPainter::ring(const QPointF &centre, double radius, double width, cons
 void PixelPainter::roundedRectangle(const QRectF &rectangle, double radius, const QColor &color) const
 {
     // All that is as far away from a smaller rectangle as the corners are round.
-    const double half = radius * m_scale;
+    const double half = std::max(radius * m_scale, reach);
     const QPointF middle = onPixels(rectangle.center());
     const double width = std::max(0.0, rectangle.width() * m_scale / 2.0 - half);
     const double height = std::max(0.0, rectangle.height() * m_scale / 2.0 - half);
@@ -306,7 +309,7 @@ void PixelPainter::picture(const QPointF &at, const QImage &picture, const QPoin
     const double left = std::floor(place.x() + 0.5) - origin.x();
     const double top = std::floor(place.y() + 0.5) - origin.y();
     const double right = left + picture.width();
-    const auto isBeyond = [left, right](const QRect &rows) { return right <= rows.left() || left > rows.right(); };
+    const auto isBeyond = [left, right](const QRect &rows) { return !(right > rows.left() && left <= rows.right()); };
     const auto *const first = reinterpret_cast<const std::uint32_t *>(picture.constBits());
     const std::ptrdiff_t stride = picture.bytesPerLine() / std::ptrdiff_t(sizeof(std::uint32_t));
     const bool isOpaque = picture.format() == QImage::Format_RGB32;
@@ -347,7 +350,7 @@ void PixelPainter::picture(const QPointF &at, const QImage &picture, const QPoin
 //! Has the pixel at \a x, some rows after \a y, brought into the cache while others are painted.
 void PixelPainter::fetchAhead(int y, double x, int lastRow) const
 {
-    if (y + rowsAhead <= lastRow && x > 0.0 && x < double(m_stride)) {
+    if (y + rowsAhead <= lastRow && x > 0.0 && x < double(m_width)) {
         Four::fetch(m_pixels + (y + rowsAhead) * m_stride + int(x));
     }
 }
@@ -398,7 +401,7 @@ void PixelPainter::paintRow(
     }
     if (x <= last) {
         // What is beyond the part stays as it is, but must be in the row.
-        const int inRow = std::min(x, int(m_stride) - together);
+        const int inRow = std::min(x, m_width - together);
         Four::blend(row + inRow, color, Four::only(shares(Four::from(float(inRow))), x - inRow, endOfPart - inRow));
     }
 }

@@ -41,7 +41,7 @@ public:
     void line(const QLineF &line, double width, const QColor &color) const;
     /*! \brief A full circle. */
     void disc(const QPointF &centre, double radius, const QColor &color) const;
-    /*! \brief A rectangle whose corners are rounded to \a radius, half a pixel or more. */
+    /*! \brief A rectangle whose corners are rounded to \a radius, but to half a pixel at least. */
     void roundedRectangle(const QRectF &rectangle, double radius, const QColor &color) const;
     /*! \brief A circle of \a radius, drawn with a line of \a width. */
     void ring(const QPointF &centre, double radius, double width, const QColor &color) const;
@@ -63,7 +63,8 @@ private:
     QPointF onPixels(const QPointF &at) const { return at * m_scale + m_origin; }
 
     std::uint32_t *m_pixels;
-    std::ptrdiff_t m_stride; // pixels
+    int m_width; // pixels
+    std::ptrdiff_t m_stride; // pixels from row to row, which may be more
     QPointF m_origin; // of the painter, in pixels
     double m_scale;
     QRegion m_clip; // pixels

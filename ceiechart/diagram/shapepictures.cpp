@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/drawlist_p.h>
+#include <ceiechart/diagram/finite_p.h>
 #include <ceiechart/diagram/shapepictures_p.h>
 
 #include <QPainter>
@@ -40,14 +41,14 @@ void ShapePictures::paint(
 {
     const QTransform transform = painter.deviceTransform();
     const double ratio = transform.m11();
-    if (!isRaster(painter) || transform.m22() != ratio || ratio <= 0.0 || ratio > mostRatio) {
+    const QPointF corner = transform.map(bounds.topLeft());
+    if (!isFinite(corner) || !isRaster(painter) || transform.m22() != ratio || ratio <= 0.0 || ratio > mostRatio) {
         paintShape(painter);
         return;
     }
     // Few enough places for pictures to be met again, and so near that nobody sees the difference.
     constexpr double parts = 4.0; // of a pixel
     const auto snapped = [](double at) { return std::round(at * parts) / parts; };
-    const QPointF corner = transform.map(bounds.topLeft());
     const QPointF at(snapped(corner.x()), snapped(corner.y()));
     const QPointF pixel(std::floor(at.x()), std::floor(at.y()));
     const QPointF offset = at - pixel;

@@ -7,12 +7,15 @@
 #include <QImage>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QtTest>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <functional>
 #include <random>
+#include <vector>
 
 using namespace ceiechart;
 
@@ -145,6 +148,7 @@ private Q_SLOTS:
     void picturesAreThoseOfTheEngine();
     void nothingIsPaintedBeyondTheClip();
     void narrowPicturesAreNotLeft();
+    void tilesOfPicturesAreNotLeft();
     void whatCannotBeWrittenIsLeftToTheEngine();
     void vectorsAreThePlainDefinition();
 };
@@ -289,6 +293,7 @@ void PixelPainterTest::nothingIsPaintedBeyondTheClip()
                         pixels.line(line, width, color);
                         pixels.ring(centre, 14.3, width, color);
                         pixels.disc(centre, 5.2, color);
+                        pixels.ring(centre + QPointF(11.0, 9.0), 2.5, 1.0, color);
                         pixels.roundedRectangle(QRectF(centre, QSizeF(20.0, 12.0)), 3.0, color);
                         pixels.picture(centre, picture, QPoint(3, 4));
                     })(painter);
@@ -320,6 +325,21 @@ void PixelPainterTest::narrowPicturesAreNotLeft()
     }
 }
 
+void PixelPainterTest::tilesOfPicturesAreNotLeft()
+{
+    // The right half of a picture. The sanitizers see what is written behind it.
+    constexpr int width = 100;
+    constexpr int height = 40;
+    std::vector<QRgb> pixels(size_t(width * height), qRgb(0, 0, 0));
+    QImage tile(reinterpret_cast<uchar *>(pixels.data() + width / 2), width / 2, height, width * int(sizeof(QRgb)),
+        QImage::Format_RGB32);
+    QPainter painter(&tile);
+    PixelPainter::on(painter)->line(QLineF(48.5, 0.0, 48.5, 60.0), 1.5, Qt::white);
+    painter.end();
+    QVERIFY(pixels[size_t(width - 2)] != qRgb(0, 0, 0));
+    QCOMPARE(pixels[size_t(width)], qRgb(0, 0, 0));
+}
+
 void PixelPainterTest::whatCannotBeWrittenIsLeftToTheEngine()
 {
     const auto isOn = [](const Painting &prepare, QImage image) {
@@ -340,6 +360,7 @@ void PixelPainterTest::whatCannotBeWrittenIsLeftToTheEngine()
     QVERIFY(!isOn([](QPainter &painter) { painter.setOpacity(0.5); }, paper()));
     QVERIFY(!isOn([](QPainter &painter) { painter.setCompositionMode(QPainter::CompositionMode_Multiply); }, paper()));
     QVERIFY(isOn([](QPainter &painter) { painter.setClipRect(2, 2, 6, 6); }, paper()));
+    QVERIFY(!isOn([](QPainter &painter) { painter.setClipRect(QRectF(10.75, 10.75, 6.5, 6.0)); }, paper()));
     QVERIFY(!isOn(
         [](QPainter &painter) {
             painter.scale(1.5, 1.5);
