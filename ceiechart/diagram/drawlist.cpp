@@ -249,7 +249,12 @@ TextPicture pictureOf(const QList<QGlyphRun> &runs, const QColor &color, const Q
         bounds |= run.boundingRect();
     }
     constexpr double room = casingWidth + 1.0; // for hinted glyphs too
-    const QRect pixels = QTransform::fromScale(scale, scale).mapRect(widened(bounds, room)).toAlignedRect();
+    constexpr double longest = 1000.0; // pixels on a side: of more, a picture costs more memory than it saves time
+    const QRectF place = QTransform::fromScale(scale, scale).mapRect(widened(bounds, room));
+    if (!(place.width() <= longest && place.height() <= longest)) {
+        return {color, casing, scale, QImage(), QPoint()};
+    }
+    const QRect pixels = place.toAlignedRect();
     TextPicture picture{
         color, casing, scale, QImage(pixels.size(), QImage::Format_ARGB32_Premultiplied), -pixels.topLeft()};
     if (picture.pixels.isNull()) {

@@ -49,7 +49,7 @@ struct TextPicture {
     QColor color;
     QColor casing;
     double scale; //!< pixels for each logical pixel
-    QImage pixels; //!< premultiplied; null for want of memory
+    QImage pixels; //!< premultiplied; null for want of memory, and of what is too large
     QPoint origin; //!< the pixel right below and to the right of the left end of the base line
 };
 

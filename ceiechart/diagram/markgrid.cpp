@@ -14,7 +14,8 @@ constexpr double cellSide = 32.0; // logical pixels
 
 std::int64_t cellOf(double position)
 {
-    return std::int64_t(std::floor(position / cellSide));
+    constexpr double farthest = 1e15; // what is beyond shares a cell
+    return std::int64_t(std::floor(std::clamp(position / cellSide, -farthest, farthest)));
 }
 
 std::uint64_t cellKey(std::int64_t column, std::int64_t row)
