@@ -4,11 +4,8 @@
 #include <ceiechart/diagram/pixelpainter_p.h>
 #include <ceiechart/diagram/polylines_p.h>
 
-#include <QGuiApplication>
 #include <QPaintEngine>
 #include <QPainter>
-#include <QScreen>
-#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -23,34 +20,6 @@ struct PaintTarget {
 };
 
 namespace {
-
-constexpr double pointsPerInch = 72.0;
-constexpr double casingWidth = 3.0; // of texts, logical pixels
-constexpr int mostKnownTexts = 1000; // whose glyphs are kept
-constexpr size_t mostPicturesOfText = 2; // in different colours
-constexpr int designPixelSize = 100; // large enough for rounding to play no part
-
-double dotsPerInch(const QPaintDevice *device)
-{
-    if (device) {
-        return device->logicalDpiY();
-    }
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    return screen ? screen->logicalDotsPerInchY() : 96.0;
-}
-
-QFontMetricsF metricsOf(const QFont &font, const QPaintDevice *device)
-{
-    // Not all versions of Qt take a device that is constant.
-    return device ? QFontMetricsF(font, const_cast<QPaintDevice *>(device)) : QFontMetricsF(font);
-}
-
-QFont designed(QFont font)
-{
-    font.setPixelSize(designPixelSize);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
 
 //! Whether positions on the device are whole pixels of a picture that is looked at as it is.
 bool hasPixels(const QPainter &painter)
@@ -210,65 +179,6 @@ void paintPieces(const PaintTarget &target, const QPolygonF &points, bool closed
     paintDots(target, corners, pen);
 }
 
-//! Paints \a runs with their base line at \a at, one over the other.
-void putGlyphs(QPainter &painter, const QList<QGlyphRun> &runs, const QPointF &at, const QColor &color)
-{
-    painter.setPen(color);
-    for (const QGlyphRun &run : runs) {
-        painter.drawGlyphRun(at, run);
-    }
-}
-
-/*!
- * Paints \a runs on their \a casing, which is left out if it is no colour.
- *
- * The glyphs are kept as pictures: to put them down eight times is faster than to stroke their outlines once.
- *
- * \param scale pixels for one of the units of \a painter
- */
-void putCasedGlyphs(QPainter &painter, const QList<QGlyphRun> &runs, const QPointF &at, const QColor &color,
-    const QColor &casing, double scale)
-{
-    constexpr double reach = casingWidth / 2.0;
-    constexpr double aslant = reach * 0.7;
-    // Glyphs stand on whole pixels: without rounding, casings would be wider on one side.
-    const auto onPixels = [scale](double way) { return double(std::lround(way * scale)) / scale; };
-    for (const QPointF &way : {QPointF(reach, 0.0), QPointF(-reach, 0.0), QPointF(0.0, reach), QPointF(0.0, -reach),
-             QPointF(aslant, aslant), QPointF(-aslant, aslant), QPointF(aslant, -aslant), QPointF(-aslant, -aslant)}) {
-        if (casing.isValid()) {
-            putGlyphs(painter, runs, at + QPointF(onPixels(way.x()), onPixels(way.y())), casing);
-        }
-    }
-    putGlyphs(painter, runs, at, color);
-}
-
-TextPicture pictureOf(const QList<QGlyphRun> &runs, const QColor &color, const QColor &casing, double scale)
-{
-    QRectF bounds;
-    for (const QGlyphRun &run : runs) {
-        bounds |= run.boundingRect();
-    }
-    constexpr double room = casingWidth + 1.0; // for hinted glyphs too
-    constexpr double longest = 1000.0; // pixels on a side: of more, a picture costs more memory than it saves time
-    const QRectF place = QTransform::fromScale(scale, scale).mapRect(widened(bounds, room));
-    if (!(place.width() <= longest && place.height() <= longest)) {
-        return {color, casing, scale, QImage(), QPoint()};
-    }
-    const QRect pixels = place.toAlignedRect();
-    TextPicture picture{
-        color, casing, scale, QImage(pixels.size(), QImage::Format_ARGB32_Premultiplied), -pixels.topLeft()};
-    if (picture.pixels.isNull()) {
-        return picture;
-    }
-    picture.pixels.fill(Qt::transparent);
-    QPainter painter(&picture.pixels);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.translate(picture.origin);
-    painter.scale(scale, scale);
-    putCasedGlyphs(painter, runs, QPointF(), color, casing, scale);
-    return picture;
-}
-
 //! What \a marks, of which there is one, cover together.
 QRectF boundsOf(const QVector<PlacedMark> &marks)
 {
@@ -296,83 +206,6 @@ bool isLineNeeded(const QLineF &line, double room, const QRegion &needed)
     return needed.isEmpty() || isSomePartMet(needed, box, [&](const QRect &part) {
         return part.intersects(box) && meets(line, widened(QRectF(part), room));
     });
-}
-
-TextStyle::TextStyle(const QFont &font, const QPaintDevice *device, double unit)
-    : m_font(font)
-    , m_shapedFont(device ? QFont(font, device) : font)
-    , m_metrics(metricsOf(font, device))
-    , m_unit(unit)
-    , m_pixelSize(font.pointSizeF() * dotsPerInch(device) / pointsPerInch / unit)
-    , m_known(std::make_shared<QHash<QString, Known>>())
-{
-}
-
-TextStyle::Known &TextStyle::known(const QString &text) const
-{
-    if (m_known->size() > mostKnownTexts) {
-        m_known->clear();
-    }
-    return (*m_known)[text];
-}
-
-double TextStyle::width(const QString &text) const
-{
-    Known &found = known(text);
-    if (!found.advance) {
-        found.advance = m_metrics.horizontalAdvance(text);
-    }
-    return *found.advance / m_unit;
-}
-
-QList<QGlyphRun> TextStyle::glyphs(const QString &text) const
-{
-    Known &found = known(text);
-    if (found.glyphs.isEmpty() && !text.isEmpty()) {
-        QTextLayout layout(text, m_shapedFont);
-        layout.beginLayout();
-        const QTextLine line = layout.createLine();
-        layout.endLayout();
-        const QPointF begin(line.position().x(), line.position().y() + line.ascent());
-        found.glyphs = line.glyphRuns();
-        for (QGlyphRun &run : found.glyphs) {
-            const QRectF bounds = run.boundingRect();
-            QVector<QPointF> positions = run.positions();
-            for (QPointF &position : positions) {
-                position -= begin;
-            }
-            run.setPositions(positions);
-            run.setBoundingRect(bounds.translated(-begin));
-        }
-    }
-    return found.glyphs;
-}
-
-TextPicture TextStyle::picture(const QString &text, const QColor &color, const QColor &casing, double scale) const
-{
-    const QList<QGlyphRun> runs = glyphs(text);
-    std::vector<TextPicture> &pictures = known(text).pictures;
-    const auto found = std::find_if(pictures.begin(), pictures.end(), [&](const TextPicture &picture) {
-        return picture.scale == scale && picture.color == color && picture.casing == casing;
-    });
-    if (found != pictures.end()) {
-        return *found;
-    }
-    const TextPicture picture = pictureOf(runs, color, casing, scale);
-    if (!picture.pixels.isNull()) {
-        if (pictures.size() == mostPicturesOfText) {
-            pictures.clear();
-        }
-        pictures.push_back(picture);
-    }
-    return picture;
-}
-
-QSizeF TextStyle::designedSize(const QString &text) const
-{
-    const QFontMetricsF metrics(designed(m_font));
-    return QSizeF(metrics.horizontalAdvance(text), metrics.ascent() + metrics.descent())
-        * (m_pixelSize / designPixelSize);
 }
 
 void DrawList::hairline(const QLineF &line, const QColor &color)
