@@ -154,7 +154,7 @@ TextPicture TextStyle::picture(const QString &text, const QColor &color, const Q
     if (found != pictures.end()) {
         return *found;
     }
-    const TextPicture picture = pictureOf(runs, color, casing, scale);
+    TextPicture picture = pictureOf(runs, color, casing, scale);
     if (!picture.pixels.isNull()) {
         if (pictures.size() == mostPicturesOfText) {
             pictures.clear();
