@@ -7,7 +7,6 @@
 #include <ceiechart/diagram/targetrules.h>
 
 #include <QLocale>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -27,32 +26,34 @@ QString decimal(double value)
     return QString::number(QString::number(value, 'g', 6).toDouble(), 'f', QLocale::FloatingPointShortest);
 }
 
-//! Each role's white has a shape of its own.
-QPainterPath whiteShape(GamutRole role, const QPointF &at)
+//! Each role's white has a shape of its own. Lines that end do so \a longer, as those of a casing have to.
+void drawWhite(DrawList &list, GamutRole role, const QPointF &at, QPen pen, double longer)
 {
     constexpr double r = whiteRadius;
-    QPainterPath path;
+    pen.setCapStyle(Qt::FlatCap);
+    pen.setJoinStyle(Qt::RoundJoin);
+    const auto outline = [&](const QPolygonF &points) { list.line(points, true, pen); };
     switch (role) {
-    case GamutRole::Target:
-        path.addEllipse(at, r, r);
+    case GamutRole::Target: {
+        list.ellipse(at, r, r, pen, Qt::NoBrush);
+        QVector<QLineF> arms;
         for (const QPointF &way : {QPointF(1.0, 0.0), QPointF(-1.0, 0.0), QPointF(0.0, 1.0), QPointF(0.0, -1.0)}) {
-            path.moveTo(at + way * (r - whiteArm / 2.0));
-            path.lineTo(at + way * (r + whiteArm));
+            arms.append(QLineF(at + way * (r - whiteArm / 2.0 - longer), at + way * (r + whiteArm + longer)));
         }
-        break;
-    case GamutRole::Original:
-    case GamutRole::Standard:
-        path.addRect(QRectF(at - QPointF(r, r), at + QPointF(r, r)));
-        break;
-    case GamutRole::Measured:
-        path = closedPath(diamondAt(at, r + 1.5));
-        break;
-    case GamutRole::Declared:
-        path = closedPath(QPolygonF(
-            QVector<QPointF>{at + QPointF(0.0, -r - 1.0), at + QPointF(r + 0.5, r), at + QPointF(-r - 0.5, r)}));
+        list.lines(arms, pen);
         break;
     }
-    return path;
+    case GamutRole::Original:
+    case GamutRole::Standard:
+        outline(QVector<QPointF>{at + QPointF(-r, -r), at + QPointF(r, -r), at + QPointF(r, r), at + QPointF(-r, r)});
+        break;
+    case GamutRole::Measured:
+        outline(diamondAt(at, r + 1.5));
+        break;
+    case GamutRole::Declared:
+        outline(QVector<QPointF>{at + QPointF(0.0, -r - 1.0), at + QPointF(r + 0.5, r), at + QPointF(-r - 0.5, r)});
+        break;
+    }
 }
 
 } // namespace
@@ -179,11 +180,10 @@ void DiagramGamuts::drawWhites()
         if (!isSeen(at, whiteRadius + whiteArm)) {
             continue;
         }
-        const QPainterPath shape = whiteShape(gamut.role, at);
-        QPen pen = DiagramPainter::gamutPen(gamut.role);
-        pen.setStyle(Qt::SolidLine);
-        m_step.drawing.shape(shape, QPen(m_innerPalette.casing, pen.widthF() + lineCasing), Qt::NoBrush);
-        m_step.drawing.shape(shape, pen, Qt::NoBrush);
+        const QPen pen = DiagramPainter::gamutPen(gamut.role);
+        drawWhite(
+            m_step.drawing, gamut.role, at, QPen(m_innerPalette.casing, pen.widthF() + lineCasing), lineCasing / 2.0);
+        drawWhite(m_step.drawing, gamut.role, at, QPen(pen.color(), pen.widthF()), 0.0);
         m_whites.append(around(at, whiteRadius + whiteArm));
     }
 }

@@ -377,9 +377,12 @@ void DrawList::paintItem(const PaintTarget &target, const Ellipse &item)
         paintPieces(target, points, true, item.pen);
         return;
     }
+    const bool isFull = item.brush.style() == Qt::SolidPattern;
     if (target.pixels && item.radiusX == item.radiusY && item.pen.style() == Qt::SolidLine
-        && item.brush.style() == Qt::SolidPattern) {
-        target.pixels->disc(item.centre, item.radiusX, item.brush.color());
+        && (isFull || item.brush.style() == Qt::NoBrush)) {
+        if (isFull) {
+            target.pixels->disc(item.centre, item.radiusX, item.brush.color());
+        }
         target.pixels->ring(item.centre, item.radiusX, item.pen.widthF(), item.pen.color());
         return;
     }
