@@ -434,7 +434,7 @@ void DrawList::paintItem(const PaintTarget &target, const Marks &item)
     if (item.marks.size() <= mostMarksByOutline) {
         for (const PlacedMark &mark : item.marks) {
             if (isNeeded(widened(QRectF(mark.at, mark.at), markReach), target.needed)) {
-                paintMark(painter, mark);
+                paintMark(target.painter, target.pixels, mark);
             }
         }
         return;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/markpicture_p.h>
+#include <ceiechart/diagram/pixelpainter_p.h>
 #include <ceiechart/diagram/polylines_p.h>
 
 #include <QHash>
@@ -15,6 +16,12 @@ namespace {
 
 constexpr int phases = 4; // places between two pixels, in each direction
 constexpr int mostSprites = 4096; // to keep, of marks that all have colours of their own
+
+// White round black round the mark's colour can be seen on every ground.
+constexpr double haloWidth = 3.5;
+constexpr QColor haloColor(255, 255, 255);
+constexpr double edgeWidth = 1.4;
+constexpr QColor edgeColor(24, 26, 30);
 
 QPainterPath outlineOf(const PlacedMark &mark)
 {
@@ -100,16 +107,22 @@ Sprite trimmed(const QImage &image, const QPoint &middle)
 
 } // namespace
 
-void paintMark(QPainter *painter, const PlacedMark &mark)
+void paintMark(QPainter &painter, const std::optional<PixelPainter> &pixels, const PlacedMark &mark)
 {
+    const QColor color = QColor::fromRgba(mark.color);
+    if (pixels && mark.shape == PlacedMark::Shape::Disc) {
+        pixels->ring(mark.at, markRadius, haloWidth, haloColor);
+        pixels->disc(mark.at, markRadius, color);
+        pixels->ring(mark.at, markRadius, edgeWidth, edgeColor);
+        return;
+    }
     const QPainterPath outline = outlineOf(mark);
-    // White round black round the mark's colour can be seen on every ground.
-    painter->setPen(QPen(Qt::white, 3.5));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawPath(outline);
-    painter->setPen(QPen(QColor(24, 26, 30), 1.4));
-    painter->setBrush(QColor::fromRgba(mark.color));
-    painter->drawPath(outline);
+    painter.setPen(QPen(haloColor, haloWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(outline);
+    painter.setPen(QPen(edgeColor, edgeWidth));
+    painter.setBrush(color);
+    painter.drawPath(outline);
 }
 
 QImage markPicture(const QVector<PlacedMark> &marks, const QTransform &transform, const QRect &area)
@@ -142,7 +155,7 @@ QImage markPicture(const QVector<PlacedMark> &marks, const QTransform &transform
             painter.setRenderHint(QPainter::Antialiasing);
             painter.translate(reach + double(phase.x()) / phases, reach + double(phase.y()) / phases);
             painter.scale(transform.m11(), transform.m22());
-            paintMark(&painter, {QPointF(), mark->shape, mark->color});
+            paintMark(painter, PixelPainter::on(painter), {QPointF(), mark->shape, mark->color});
             painter.end();
             sprite = sprites.insert(kind, trimmed(painted, QPoint(reach, reach)));
         }

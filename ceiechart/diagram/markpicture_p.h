@@ -3,11 +3,15 @@
 #ifndef CEIECHART_DIAGRAM_MARKPICTURE_P_H
 #define CEIECHART_DIAGRAM_MARKPICTURE_P_H
 
+#include <ceiechart/diagram/pixelpainter_p.h>
+
 #include <QImage>
 #include <QPainterPath>
 #include <QPointF>
 #include <QTransform>
 #include <QVector>
+
+#include <optional>
 
 class QPainter;
 
@@ -25,8 +29,8 @@ struct PlacedMark {
     QRgb color; // of the filling
 };
 
-/*! \brief Paints \a mark by its outline. */
-void paintMark(QPainter *painter, const PlacedMark &mark);
+/*! \brief Paints \a mark by its outline; \a pixels are those of \a painter, if they can be written. */
+void paintMark(QPainter &painter, const std::optional<PixelPainter> &pixels, const PlacedMark &mark);
 
 /*!
  * \brief The picture of \a marks on \a area, a rectangle of pixels, to which \a transform takes them: it scales and

@@ -190,7 +190,7 @@ void ManyMarksTest::pictureShowsMarksAsTheirOutlines()
     painter.translate(-area.topLeft());
     painter.scale(ratio, ratio);
     for (const PlacedMark &mark : marks) {
-        paintMark(&painter, mark);
+        paintMark(painter, PixelPainter::on(painter), mark);
     }
     painter.end();
     for (int y = 0; y < area.height(); ++y) {
