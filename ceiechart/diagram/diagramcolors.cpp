@@ -109,29 +109,30 @@ public:
         std::fill(line + end, line + right, m_ground);
 
         const CoveredRow locus = m_locus.row(y);
-        const CoveredRun *from = locus.begin();
+        const CoveredRun *run = locus.begin();
         const CoveredRun *behind = locus.end();
-        while (from != behind && from->alpha == 0) {
-            ++from;
+        while (run != behind && (run->right <= first || run->alpha == 0)) {
+            ++run;
         }
-        while (from != behind && (behind - 1)->alpha == 0) {
-            --behind;
-        }
-        const int begin = from == behind ? end : std::clamp(from->left, first, end);
-        const int stop = from == behind ? end : std::clamp((behind - 1)->right, begin, end);
-        std::fill(line + first, line + begin, m_ground);
-        std::fill(line + stop, line + end, m_ground);
-        if (begin == stop) {
+        if (run == behind || run->left >= end) {
+            std::fill(line + first, line + end, m_ground);
             return;
         }
+        const int begin = std::max(run->left, first);
+        std::fill(line + first, line + begin, m_ground);
+        while ((behind - 1)->alpha == 0 || (behind - 1)->left >= end) {
+            --behind;
+        }
+        const int stop = std::min((behind - 1)->right, end);
+        std::fill(line + stop, line + end, m_ground);
         m_rows.color(line + begin, begin, stop - 1, y);
         if (m_dimmed) {
             dim(line, y, begin, stop);
         }
-        for (; from != behind; ++from) {
-            const int to = std::min(from->right, stop);
-            for (int x = std::max(from->left, begin); from->alpha < 255 && x < to; ++x) {
-                line[x] = mixed(line[x], m_ground, from->alpha);
+        for (; run != behind; ++run) {
+            const int to = std::min(run->right, stop);
+            for (int x = std::max(run->left, begin); run->alpha < 255 && x < to; ++x) {
+                line[x] = mixed(line[x], m_ground, run->alpha);
             }
         }
     }
@@ -282,16 +283,24 @@ QRect rowsOfDifference(const QPolygonF &a, const QPolygonF &b, const QRect &plot
 //! Fills where the coverages \a before and \a after differ, in \a plot.
 void fillDifference(Filler &filler, RowCoverage &before, RowCoverage &after, const QRect &plot, QRegion &changed)
 {
-    QRect bounds;
+    const int leftOfPlot = plot.left();
+    const int endOfPlot = plot.right() + 1;
+    int top = plot.bottom() + 1; // of what differs
+    int bottom = plot.top() - 1;
+    int least = endOfPlot;
+    int farthest = leftOfPlot;
     for (int y = plot.top(); y <= plot.bottom(); ++y) {
         const CoveredRow now = after.row(y);
         const CoveredRow then = before.row(y);
         const auto fill = [&](int left, int right) {
-            left = std::max(left, plot.left());
-            right = std::min(right, plot.right() + 1);
+            left = std::max(left, leftOfPlot);
+            right = std::min(right, endOfPlot);
             if (left < right) {
                 filler.fill(y, left, right);
-                bounds |= QRect(left, y, right - left, 1);
+                top = std::min(top, y);
+                bottom = y;
+                least = std::min(least, left);
+                farthest = std::max(farthest, right);
             }
         };
         const CoveredRun *run = now.begin();
@@ -310,7 +319,7 @@ void fillDifference(Filler &filler, RowCoverage &before, RowCoverage &after, con
         }
         fill(begin, x);
     }
-    changed += bounds;
+    changed += QRect(least, top, farthest - least, bottom + 1 - top);
 }
 
 } // namespace

@@ -46,34 +46,42 @@ RowCoverage::RowCoverage(const QPolygonF &polygon, int width, int height)
             m_crossing[size_t(next[size_t(y)]++)] = int(i);
         }
     }
+    constexpr size_t usualRuns = 4; // at each crossing of an edge
+    m_runs.reserve(usualRuns * m_crossing.size() + size_t(height));
 }
 
-// A part of an edge from column \a from to \a to, not left of the picture, over \a height of the row.
+// A part of an edge from column \a from to \a to, neither left of the picture, over \a height of the row.
 void RowCoverage::add(double from, double to, double height)
 {
     const double least = std::min(from, to);
-    const double farthest = std::max(from, to);
     if (least >= m_width) {
         return;
     }
+    const double farthest = std::max(from, to);
     const double most = std::min(farthest, double(m_width));
     const int first = int(least);
     const int last = int(most);
     m_touched.emplace_back(first, std::min(last + 1, m_width));
-    const auto cover = [this](int column, double begin, double end, double part) {
-        const double right = part * (0.5 * (begin + end) - column);
-        m_change[size_t(column)] += part - right;
-        m_change[size_t(column) + 1] += right;
+    double *change = m_change.data() + first;
+    const auto cover = [&change](double part, double meanFromLeft) {
+        const double right = part * meanFromLeft;
+        change[0] += part - right;
+        change[1] += right;
+        ++change;
     };
     if (farthest < first + 1.0) {
-        cover(first, least, most, height);
+        cover(height, 0.5 * (least + most) - first);
         return;
     }
-    const double perColumn = height / std::fabs(to - from);
-    for (int column = first; column <= last; ++column) {
-        const double begin = std::max(least, double(column));
-        const double end = std::min(most, column + 1.0);
-        cover(column, begin, end, perColumn * (end - begin));
+    const double perColumn = height / (farthest - least);
+    const double inFirst = first + 1.0 - least;
+    cover(perColumn * inFirst, 1.0 - 0.5 * inFirst);
+    for (int column = first + 1; column < last; ++column) {
+        cover(perColumn, 0.5);
+    }
+    if (last > first) {
+        const double inLast = most - last;
+        cover(perColumn * inLast, 0.5 * inLast);
     }
 }
 
@@ -88,13 +96,15 @@ void RowCoverage::findRow(int y)
         const double from = edge.x + (top - edge.top) * edge.slope;
         const double to = edge.x + (bottom - edge.top) * edge.slope;
         const double height = (bottom - top) * edge.sign;
-        // What is left of the picture changes it from its first column on.
-        const double outside
-            = from == to ? (from < 0.0 ? 1.0 : 0.0) : std::clamp(-std::min(from, to) / std::fabs(to - from), 0.0, 1.0);
-        if (outside > 0.0) {
-            m_change[0] += height * outside;
-            m_touched.emplace_back(0, 0);
+        const double least = std::min(from, to);
+        if (least >= 0.0) {
+            add(from, to, height);
+            continue;
         }
+        // What is left of the picture changes it from its first column on.
+        const double outside = from == to ? 1.0 : std::min(-least / std::fabs(to - from), 1.0);
+        m_change[0] += height * outside;
+        m_touched.emplace_back(0, 0);
         if (outside < 1.0) {
             add(std::max(from, 0.0), std::max(to, 0.0), height * (1.0 - outside));
         }
