@@ -83,6 +83,12 @@ struct FourPlain {
         return (pictured[0] | pictured[1] | pictured[2] | pictured[3]) == 0;
     }
 
+    //! Whether nothing is seen through four \a pictured pixels.
+    static bool areOpaque(const std::uint32_t *pictured)
+    {
+        return (pictured[0] & pictured[1] & pictured[2] & pictured[3]) >= 0xff000000U;
+    }
+
     //! Puts four \a pictured pixels, which are premultiplied, over \a pixels.
     static void putOver(std::uint32_t *pixels, const std::uint32_t *pictured)
     {
@@ -160,6 +166,13 @@ struct FourBySse2 {
     {
         const __m128i source = _mm_loadu_si128(reinterpret_cast<const __m128i *>(pictured));
         return _mm_movemask_epi8(_mm_cmpeq_epi32(source, _mm_setzero_si128())) == 0xffff;
+    }
+
+    static bool areOpaque(const std::uint32_t *pictured)
+    {
+        const __m128i source = _mm_loadu_si128(reinterpret_cast<const __m128i *>(pictured));
+        const __m128i others = _mm_or_si128(source, _mm_set1_epi32(0x00ffffff));
+        return _mm_movemask_epi8(_mm_cmpeq_epi32(others, _mm_set1_epi32(-1))) == 0xffff;
     }
 
     static void putOver(std::uint32_t *pixels, const std::uint32_t *pictured)

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <utility>
 
 namespace ceiechart {
@@ -96,8 +95,9 @@ public:
         const double last = middle(rows.bottom());
         return std::max(first, last) + m_across < rows.left() || std::min(first, last) - m_across > rows.right() + 1.0;
     }
-    //! Whether all that it covers of the row \a y is half a pixel away from its ends.
-    bool isAwayFromEnds(int y) const { return y + 0.5 - m_corner > m_top && y + 0.5 + m_corner < m_bottom; }
+    // Between which rows, without themselves, all that it covers of a row is half a pixel away from its ends
+    double beginOfInner() const { return m_top + m_corner - 0.5; }
+    double endOfInner() const { return m_bottom - m_corner - 0.5; }
 
     //! From where to where it can cover anything in the row \a y.
     std::pair<double, double> columns(int y) const { return {middle(y) - m_across, middle(y) + m_across}; }
@@ -156,6 +156,38 @@ int wholeFrom(double value)
 {
     const int least = int(value);
     return least + (least < value ? 1 : 0);
+}
+
+//! Puts \a count \a pictured pixels, which are premultiplied, over those of \a row.
+void putRowOver(std::uint32_t *row, const std::uint32_t *pictured, int count)
+{
+    if (count < together) {
+        std::uint32_t above[together] = {};
+        std::uint32_t below[together] = {};
+        std::copy_n(pictured, count, above);
+        std::copy_n(row, count, below);
+        Four::putOver(below, above);
+        std::copy_n(below, count, row);
+        return;
+    }
+    const int last = count - together;
+    int i = 0;
+    for (; i <= last; i += together) {
+        if (Four::areClear(pictured + i)) {
+            continue;
+        }
+        if (Four::areOpaque(pictured + i)) {
+            std::copy_n(pictured + i, together, row + i);
+        } else {
+            Four::putOver(row + i, pictured + i);
+        }
+    }
+    if (i < count && !Four::areClear(pictured + last)) {
+        // Those that are left, behind some that are clear and so leave the row as it is.
+        std::uint32_t above[together] = {};
+        std::copy(pictured + i, pictured + count, above + (i - last));
+        Four::putOver(row + last, above);
+    }
 }
 
 /*!
@@ -222,8 +254,10 @@ void PixelPainter::line(const QLineF &line, double width, const QColor &color) c
     }
     const std::uint32_t shade = color.rgb(); // the stroke has the opacity
     const int lastRow = m_clip.boundingRect().bottom();
+    const double beginOfInner = soft.beginOfInner();
+    const double endOfInner = soft.endOfInner();
     const auto paintLineRow = [&](const QRect &part, int y) {
-        if (soft.isAwayFromEnds(y)) {
+        if (y > beginOfInner && y < endOfInner) {
             fetchAhead(y, soft.middle(y + rowsAhead), lastRow);
             const auto [left, right] = soft.columns(y);
             paintRow(part, y, left, right, shade, soft.innerShares(y));
@@ -306,19 +340,24 @@ void PixelPainter::roundedRectangle(const QRectF &rectangle, double radius, cons
 void PixelPainter::picture(const QPointF &at, const QImage &picture, const QPoint &origin) const
 {
     const QPointF place = onPixels(at);
-    const double left = std::floor(place.x() + 0.5) - origin.x();
-    const double top = std::floor(place.y() + 0.5) - origin.y();
-    const double right = left + picture.width();
-    const auto isBeyond = [left, right](const QRect &rows) { return !(right > rows.left() && left <= rows.right()); };
+    const QPointF corner(std::floor(place.x() + 0.5) - origin.x(), std::floor(place.y() + 0.5) - origin.y());
+    const QRect bounds = m_clip.boundingRect();
+    if (!(corner.x() <= bounds.right() && corner.x() + picture.width() > bounds.left() && corner.y() <= bounds.bottom()
+            && corner.y() + picture.height() > bounds.top())) {
+        return; // and may be too far away for whole numbers
+    }
+    const QRect pixels(corner.toPoint(), picture.size());
     const auto *const first = reinterpret_cast<const std::uint32_t *>(picture.constBits());
     const std::ptrdiff_t stride = picture.bytesPerLine() / std::ptrdiff_t(sizeof(std::uint32_t));
     const bool isOpaque = picture.format() == QImage::Format_RGB32;
-    const double bottom = std::min(top + picture.height() - 1.0, double(m_clip.boundingRect().bottom()));
-    forRows(top, bottom, isBeyond, [&](const QRect &part, int y) {
-        const double begin = std::max(left, double(part.left()));
-        const std::uint32_t *const pictured = first + std::ptrdiff_t(y - top) * stride + int(begin - left);
-        std::uint32_t *const row = m_pixels + y * m_stride + int(begin);
-        const int count = int(std::min(right, part.right() + 1.0) - begin);
+    const int bottom = std::min(pixels.bottom(), bounds.bottom());
+    const auto isBeyond
+        = [&pixels](const QRect &rows) { return pixels.right() < rows.left() || pixels.left() > rows.right(); };
+    forRows(pixels.top(), bottom, isBeyond, [&](const QRect &part, int y) {
+        const int begin = std::max(pixels.left(), part.left());
+        const int count = std::min(pixels.right(), part.right()) + 1 - begin;
+        const std::uint32_t *const pictured = first + (y - pixels.top()) * stride + (begin - pixels.left());
+        std::uint32_t *const row = m_pixels + y * m_stride + begin;
         if (y + rowsAhead <= bottom) {
             for (const int column : {0, std::min(count, pixelsAtOnce)}) {
                 Four::fetch(row + rowsAhead * m_stride + column);
@@ -327,22 +366,8 @@ void PixelPainter::picture(const QPointF &at, const QImage &picture, const QPoin
         }
         if (isOpaque) {
             std::copy_n(pictured, count, row);
-            return;
-        }
-        int i = 0;
-        for (; i + together <= count; i += together) {
-            if (!Four::areClear(pictured + i)) {
-                Four::putOver(row + i, pictured + i);
-            }
-        }
-        if (i < count) {
-            const std::size_t bytes = std::size_t(count - i) * sizeof(std::uint32_t);
-            std::uint32_t above[together] = {};
-            std::uint32_t below[together] = {};
-            std::memcpy(above, pictured + i, bytes);
-            std::memcpy(below, row + i, bytes);
-            Four::putOver(below, above);
-            std::memcpy(row + i, below, bytes);
+        } else {
+            putRowOver(row, pictured, count);
         }
     });
 }
@@ -394,12 +419,14 @@ void PixelPainter::paintRow(
         return;
     }
     std::uint32_t *const row = m_pixels + y * m_stride;
+    const int end = int(last) + 1;
     const int endOfPart = part.right() + 1;
+    const int lastWhole = std::min(end - 1, endOfPart - together); // where four pixels that are in the part begin
     int x = wholeFrom(begin);
-    for (; x <= last && x + together <= endOfPart; x += together) {
+    for (; x <= lastWhole; x += together) {
         Four::blend(row + x, color, shares(Four::from(float(x))));
     }
-    if (x <= last) {
+    if (x < end) {
         // What is beyond the part stays as it is, but must be in the row.
         const int inRow = std::min(x, m_width - together);
         Four::blend(row + inRow, color, Four::only(shares(Four::from(float(inRow))), x - inRow, endOfPart - inRow));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/drawlist_p.h>
 #include <ceiechart/diagram/finite_p.h>
+#include <ceiechart/diagram/pixelpainter_p.h>
 #include <ceiechart/diagram/shapepictures_p.h>
 
 #include <QPainter>
@@ -63,9 +64,14 @@ void ShapePictures::paint(
         paintShape(painter); // for want of memory
         return;
     }
+    const QPointF place = pixel - QPointF(transform.dx(), transform.dy());
+    if (const auto pixels = PixelPainter::on(painter)) {
+        pixels->picture(place / ratio, picture, QPoint());
+        return;
+    }
     painter.save();
     painter.scale(1.0 / ratio, 1.0 / ratio);
-    painter.drawImage(pixel - QPointF(transform.dx(), transform.dy()), picture);
+    painter.drawImage(place, picture);
     painter.restore();
 }
 
