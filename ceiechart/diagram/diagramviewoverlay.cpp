@@ -197,9 +197,12 @@ QRectF DiagramView::Private::labelPlace(
     const QRectF area = size.width() <= viewport.plot().width() ? viewport.plot() : QRectF(q->rect());
     const QSizeF room(area.width() - size.width(), area.height() - size.height());
     for (int row = 0; row <= tries && room.isValid(); ++row) {
+        const double top = area.top() + room.height() * row / tries;
+        if (distanceTo(QRectF(at.x(), top, 0.0, size.height()), at) >= least) {
+            continue; // wherever in the row
+        }
         for (int column = 0; column <= tries; ++column) {
-            const QPointF corner(area.left() + room.width() * column / tries, area.top() + room.height() * row / tries);
-            const QRectF place(corner, size);
+            const QRectF place(QPointF(area.left() + room.width() * column / tries, top), size);
             const double away = distanceTo(place, at);
             if (away < labelDistance || away >= least || isTaken(place)) {
                 continue;
