@@ -4,8 +4,8 @@
 #include <ceiechart/diagram/diagramview_p.h>
 #include <ceiechart/diagram/drawlist_p.h>
 #include <ceiechart/diagram/polylines_p.h>
+#include <ceiechart/diagram/textstyle_p.h>
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
 #include <QTextLayout>
@@ -25,6 +25,8 @@ constexpr double crossReach = 12.0; // of the arms at the white
 constexpr double labelPadding = 6.0;
 constexpr double guideWidth = 1.5;
 constexpr double guideRoom = 6.0; // round the plot, so that the ends of guides are not seen
+
+constexpr int mostLabelTexts = 16; // that are kept: most are of one step of an edit only
 
 double radiusOf(const DiagramOverlay::Handle &handle)
 {
@@ -93,6 +95,12 @@ QFont boldOf(QFont font)
 
 } // namespace
 
+LabelFonts::LabelFonts(const QFont &font)
+    : m_first(boldOf(font), nullptr, 1.0, mostLabelTexts)
+    , m_others(font, nullptr, 1.0, mostLabelTexts)
+{
+}
+
 QRectF DiagramOverlay::bounds(const Handle &handle)
 {
     return QRectF(handle.at.x() - handleExtent, handle.at.y() - handleExtent, 2.0 * handleExtent, 2.0 * handleExtent);
@@ -121,16 +129,17 @@ bool DiagramOverlay::hasSameLabel(const DiagramOverlay &other) const
                 && isExactly(labelLine().p2(), other.labelLine().p2())));
 }
 
-QStringList DiagramOverlay::wrapped(const QStringList &lines, const QFont &font, double width)
+QStringList DiagramOverlay::wrapped(const QStringList &lines, const LabelFonts &fonts, double width)
 {
     QStringList result;
     for (int i = 0; i < lines.size(); ++i) {
+        const TextStyle &style = fonts.ofLine(i);
         // Only the first line of all is bold: coordinates that do not fit stay in one.
-        if (i == 0) {
+        if (i == 0 || style.width(lines[i]) <= width) {
             result.append(lines[i].trimmed());
             continue;
         }
-        QTextLayout layout(lines[i], font);
+        QTextLayout layout(lines[i], style.font());
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         layout.setTextOption(option);
@@ -144,14 +153,13 @@ QStringList DiagramOverlay::wrapped(const QStringList &lines, const QFont &font,
     return result;
 }
 
-QSizeF DiagramOverlay::labelSize(const QStringList &lines, const QFont &font)
+QSizeF DiagramOverlay::labelSize(const QStringList &lines, const LabelFonts &fonts)
 {
     double width = 0.0;
     for (int i = 0; i < lines.size(); ++i) {
-        width = std::max(width, QFontMetricsF(i == 0 ? boldOf(font) : font).horizontalAdvance(lines[i]));
+        width = std::max(width, fonts.ofLine(i).width(lines[i]));
     }
-    const double height = QFontMetricsF(boldOf(font)).height() * lines.size();
-    return QSizeF(std::ceil(width + 2.0 * labelPadding), std::ceil(height + labelPadding));
+    return QSizeF(std::ceil(width + 2.0 * labelPadding), std::ceil(fonts.lineHeight() * lines.size() + labelPadding));
 }
 
 void DiagramOverlay::paintHandle(QPainter &painter, const Handle &handle, const DiagramPalette &palette)
@@ -197,8 +205,8 @@ void DiagramOverlay::paintReadout(QPainter &painter, const DiagramPalette &palet
     painter.drawText(box, Qt::AlignCenter, readout);
 }
 
-void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const QFont &font,
-    const QRegion &needed, ShapePictures &pictures) const
+void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramPalette &palette,
+    const LabelFonts &fonts, const QRegion &needed, ShapePictures &pictures) const
 {
     if (!guides.isEmpty()) {
         painter.save();
@@ -238,22 +246,7 @@ void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramP
         }
     }
     if (!label.isEmpty() && needed.intersects(labelPlace.adjusted(-2.0, -2.0, 2.0, 2.0).toAlignedRect())) {
-        const QRectF place = fromWholePixel(painter, labelPlace);
-        pictures.paint(painter, lookOf(Shape::Plate, palette), place, [&](QPainter &to) {
-            to.setPen(QPen(palette.frame, 1.0));
-            to.setBrush(palette.ground);
-            to.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), 4.0, 4.0);
-        });
-        const double lineHeight = QFontMetricsF(boldOf(font)).height();
-        QRectF line(place.left() + labelPadding, place.top() + labelPadding / 2.0, place.width() - 2.0 * labelPadding,
-            lineHeight);
-        for (int i = 0; i < label.size(); ++i) {
-            painter.setFont(i == 0 ? boldOf(font) : font);
-            painter.setPen(i == 0 ? palette.text : palette.accent);
-            painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeading, label[i]);
-            line.translate(0.0, lineHeight);
-        }
-        painter.setFont(font);
+        paintLabel(painter, palette, fonts, pictures);
     }
     // To stroke it takes long even where the clip lets nothing of it through.
     if (showsFocusFrame && !needed.subtracted(plot.adjusted(3.0, 3.0, -3.0, -3.0).toRect()).isEmpty()) {
@@ -261,6 +254,29 @@ void DiagramOverlay::paint(QPainter &painter, const QRectF &plot, const DiagramP
         painter.setPen(QPen(palette.accent, 2.0));
         painter.drawRect(plot.adjusted(1.0, 1.0, -1.0, -1.0));
     }
+}
+
+void DiagramOverlay::paintLabel(
+    QPainter &painter, const DiagramPalette &palette, const LabelFonts &fonts, ShapePictures &pictures) const
+{
+    const QRectF place = fromWholePixel(painter, labelPlace);
+    pictures.paint(painter, lookOf(Shape::Plate, palette), place, [&](QPainter &to) {
+        to.setPen(QPen(palette.frame, 1.0));
+        to.setBrush(palette.ground);
+        to.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), 4.0, 4.0);
+    });
+    const bool isLeftToRight = painter.layoutDirection() == Qt::LeftToRight;
+    double top = place.top() + labelPadding / 2.0;
+    DrawList texts;
+    for (int i = 0; i < label.size(); ++i) {
+        const TextStyle &style = fonts.ofLine(i);
+        const QPointF begin(
+            isLeftToRight ? place.left() + labelPadding : place.right() - labelPadding - style.width(label[i]),
+            top + (fonts.lineHeight() - style.height()) / 2.0 + style.ascent());
+        texts.text(begin, label[i], style, i == 0 ? palette.text : palette.accent);
+        top += fonts.lineHeight();
+    }
+    texts.paint(&painter);
 }
 
 } // namespace ceiechart

@@ -8,6 +8,7 @@
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramview.h>
 #include <ceiechart/diagram/shapepictures_p.h>
+#include <ceiechart/diagram/textstyle_p.h>
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -26,6 +27,21 @@ class QTouchEvent;
 namespace ceiechart {
 
 class MarkGrid;
+
+/*! The fonts of the label at what is edited. */
+class LabelFonts {
+public:
+    explicit LabelFonts(const QFont &font);
+
+    const QFont &font() const { return m_others.font(); } //!< as given
+    //! Of the \a line of a label: the first is bold.
+    const TextStyle &ofLine(int line) const { return line == 0 ? m_first : m_others; }
+    double lineHeight() const { return m_first.height(); }
+
+private:
+    TextStyle m_first;
+    TextStyle m_others;
+};
 
 /*! What lies over the diagram and comes and goes with hands and focus. */
 struct DiagramOverlay {
@@ -55,13 +71,15 @@ struct DiagramOverlay {
     //! Whether \a other shows the same label at the same place, or no label either.
     bool hasSameLabel(const DiagramOverlay &other) const;
     //! \a lines, the first as it is, the others broken where they are wider than \a width.
-    static QStringList wrapped(const QStringList &lines, const QFont &font, double width);
-    static QSizeF labelSize(const QStringList &lines, const QFont &font);
+    static QStringList wrapped(const QStringList &lines, const LabelFonts &fonts, double width);
+    static QSizeF labelSize(const QStringList &lines, const LabelFonts &fonts);
     static void paintHandle(QPainter &painter, const Handle &handle, const DiagramPalette &palette);
     void paintReadout(QPainter &painter, const DiagramPalette &palette) const;
     //! What can be seen of it within \a needed.
-    void paint(QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const QFont &font,
+    void paint(QPainter &painter, const QRectF &plot, const DiagramPalette &palette, const LabelFonts &fonts,
         const QRegion &needed, ShapePictures &pictures) const;
+    void paintLabel(
+        QPainter &painter, const DiagramPalette &palette, const LabelFonts &fonts, ShapePictures &pictures) const;
 };
 
 class DiagramView::Private {
@@ -149,6 +167,8 @@ public:
     bool meetsAnother(const Model::Targets &targets) const;
     QRegion editedRegion(const Model::Targets &before, const Model::Targets &after) const;
     void placeLabel();
+    //! Of the widget's font.
+    const LabelFonts &labelFonts();
     //! Where a label of \a size stands that belongs to \a at: on no box of \a avoid, and clear of \a corners.
     QRectF labelPlace(
         const QSizeF &size, const QPointF &at, const QVector<QRectF> &avoid, const MarkGrid &corners) const;
@@ -213,6 +233,7 @@ public:
     QImage lines; //!< scale and gamuts, which no edit changes, on nothing; made for the first step of an edit
     bool linesAreReady = false;
     ShapePictures shapes; //!< of the overlay
+    std::optional<LabelFonts> keptLabelFonts; //!< those of labelFonts(), once there has been a label
     bool isBlank = false; //!< there was not enough memory to paint it
 
     Hand hand = Hand::Idle;

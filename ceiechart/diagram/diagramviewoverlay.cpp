@@ -123,7 +123,7 @@ void DiagramView::Private::placeLabel()
         return;
     }
     constexpr double widest = 260.0; // of the lines after the first, in logical pixels
-    const QFont font = q->font();
+    const LabelFonts &fonts = labelFonts();
     QVector<QRectF> avoid;
     for (const DiagramOverlay::Handle &handle : qAsConst(overlay.handles)) {
         avoid.append(DiagramOverlay::bounds(handle));
@@ -148,8 +148,8 @@ void DiagramView::Private::placeLabel()
         }
     }
     const auto isPlaced = [&](const QVector<QRectF> &boxes, const MarkGrid &marks = MarkGrid()) {
-        overlay.label = DiagramOverlay::wrapped(entries, font, std::min(widest, plot.width() / 2.0));
-        overlay.labelPlace = labelPlace(DiagramOverlay::labelSize(overlay.label, font), at, boxes, marks);
+        overlay.label = DiagramOverlay::wrapped(entries, fonts, std::min(widest, plot.width() / 2.0));
+        overlay.labelPlace = labelPlace(DiagramOverlay::labelSize(overlay.label, fonts), at, boxes, marks);
         return !overlay.labelPlace.isEmpty();
     };
     // Where there is no room for all of it, the coordinates are what matters, more than what they cover.
@@ -164,6 +164,14 @@ void DiagramView::Private::placeLabel()
     if (!isPlaced(handleBoxes) && !isPlaced({handleBoxes.last()})) {
         overlay.label.clear();
     }
+}
+
+const LabelFonts &DiagramView::Private::labelFonts()
+{
+    if (!keptLabelFonts || keptLabelFonts->font() != q->font()) {
+        keptLabelFonts.emplace(q->font());
+    }
+    return *keptLabelFonts;
 }
 
 QRectF DiagramView::Private::labelPlace(

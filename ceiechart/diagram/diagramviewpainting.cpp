@@ -110,6 +110,7 @@ void DiagramView::Private::forgetPictures()
     lines = QImage();
     linesAreReady = false;
     shapes.forget();
+    keptLabelFonts.reset();
 }
 
 const QImage &DiagramView::Private::linesPicture()
@@ -336,7 +337,7 @@ void DiagramView::Private::paintView(QPainter &p, const QRegion &region)
         q->paintBelowTarget(&p);
         p.restore();
         painter->paintEdited(&p, region);
-        overlay.paint(p, viewport.plot(), palette, q->font(), region, shapes);
+        overlay.paint(p, viewport.plot(), palette, labelFonts(), region, shapes);
     }
     overlay.paintReadout(p, palette);
 }

@@ -15,7 +15,6 @@ namespace ceiechart {
 namespace {
 
 constexpr double pointsPerInch = 72.0;
-constexpr int mostKnownTexts = 1000; // whose glyphs are kept
 constexpr size_t mostPicturesOfText = 2; // in different colours
 
 double dotsPerInch(const QPaintDevice *device)
@@ -94,67 +93,70 @@ void putCasedGlyphs(QPainter &painter, const QList<QGlyphRun> &runs, const QPoin
     putGlyphs(painter, runs, at, color);
 }
 
-TextStyle::TextStyle(const QFont &font, const QPaintDevice *device, double unit)
+TextStyle::TextStyle(const QFont &font, const QPaintDevice *device, double unit, int mostKept)
     : m_font(font)
     , m_shapedFont(device ? QFont(font, device) : font)
     , m_metrics(metricsOf(font, device))
     , m_unit(unit)
     , m_pixelSize(font.pointSizeF() * dotsPerInch(device) / pointsPerInch / unit)
+    , m_mostKept(mostKept)
     , m_known(std::make_shared<QHash<QString, Known>>())
 {
 }
 
 TextStyle::Known &TextStyle::known(const QString &text) const
 {
-    if (m_known->size() > mostKnownTexts) {
+    const auto found = m_known->find(text);
+    if (found != m_known->end()) {
+        return *found;
+    }
+    if (m_known->size() >= m_mostKept) {
         m_known->clear();
     }
-    return (*m_known)[text];
+    Known &fresh = (*m_known)[text];
+    QTextLayout layout(text, m_shapedFont);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    if (!line.isValid()) {
+        return fresh; // it is empty
+    }
+    fresh.advance = line.horizontalAdvance();
+    fresh.glyphs = line.glyphRuns();
+    const QPointF begin(line.position().x(), line.position().y() + line.ascent());
+    for (QGlyphRun &run : fresh.glyphs) {
+        const QRectF bounds = run.boundingRect();
+        QVector<QPointF> positions = run.positions();
+        for (QPointF &position : positions) {
+            position -= begin;
+        }
+        run.setPositions(positions);
+        run.setBoundingRect(bounds.translated(-begin));
+    }
+    return fresh;
 }
 
 double TextStyle::width(const QString &text) const
 {
-    Known &found = known(text);
-    if (!found.advance) {
-        found.advance = m_metrics.horizontalAdvance(text);
-    }
-    return *found.advance / m_unit;
+    return known(text).advance / m_unit;
 }
 
 QList<QGlyphRun> TextStyle::glyphs(const QString &text) const
 {
-    Known &found = known(text);
-    if (found.glyphs.isEmpty() && !text.isEmpty()) {
-        QTextLayout layout(text, m_shapedFont);
-        layout.beginLayout();
-        const QTextLine line = layout.createLine();
-        layout.endLayout();
-        const QPointF begin(line.position().x(), line.position().y() + line.ascent());
-        found.glyphs = line.glyphRuns();
-        for (QGlyphRun &run : found.glyphs) {
-            const QRectF bounds = run.boundingRect();
-            QVector<QPointF> positions = run.positions();
-            for (QPointF &position : positions) {
-                position -= begin;
-            }
-            run.setPositions(positions);
-            run.setBoundingRect(bounds.translated(-begin));
-        }
-    }
-    return found.glyphs;
+    return known(text).glyphs;
 }
 
 TextPicture TextStyle::picture(const QString &text, const QColor &color, const QColor &casing, double scale) const
 {
-    const QList<QGlyphRun> runs = glyphs(text);
-    std::vector<TextPicture> &pictures = known(text).pictures;
+    Known &shaped = known(text);
+    std::vector<TextPicture> &pictures = shaped.pictures;
     const auto found = std::find_if(pictures.begin(), pictures.end(), [&](const TextPicture &picture) {
         return picture.scale == scale && picture.color == color && picture.casing == casing;
     });
     if (found != pictures.end()) {
         return *found;
     }
-    TextPicture picture = pictureOf(runs, color, casing, scale);
+    TextPicture picture = pictureOf(shaped.glyphs, color, casing, scale);
     if (!picture.pixels.isNull()) {
         if (pictures.size() == mostPicturesOfText) {
             pictures.clear();

@@ -15,7 +15,6 @@
 #include <QString>
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 class QPaintDevice;
@@ -41,8 +40,9 @@ public:
      * \param font  sized in points
      * \param device  what is painted on; null for the screen
      * \param unit  device pixels of the device's own coordinates per logical pixel
+     * \param mostKept  how many texts are kept as they are shaped and painted
      */
-    TextStyle(const QFont &font, const QPaintDevice *device, double unit);
+    TextStyle(const QFont &font, const QPaintDevice *device, double unit, int mostKept = 1000);
 
     const QFont &font() const { return m_font; }
     double unit() const { return m_unit; }
@@ -70,7 +70,7 @@ public:
 private:
     //! What has been found out about a text: to shape its glyphs and to case them takes longer than to paint them.
     struct Known {
-        std::optional<double> advance;
+        double advance = 0.0; // in units of the device
         QList<QGlyphRun> glyphs;
         std::vector<TextPicture> pictures;
     };
@@ -81,6 +81,7 @@ private:
     QFontMetricsF m_metrics;
     double m_unit;
     double m_pixelSize;
+    int m_mostKept;
     std::shared_ptr<QHash<QString, Known>> m_known; // of all copies
 };
 

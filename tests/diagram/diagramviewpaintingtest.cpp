@@ -150,6 +150,7 @@ void DiagramViewPaintingTest::partsOfGuidesAreThoseOfTheWhole()
     DiagramOverlay overlay;
     overlay.guides
         = {QPolygonF({QPointF(30.3, 350.2), QPointF(170.1, 20.7), QPointF(470.9, 300.4), QPointF(30.3, 350.2)}), curve};
+    const LabelFonts fonts{QFont()};
     ShapePictures pictures;
     std::mt19937 random(3);
     int seen = 0;
@@ -165,7 +166,7 @@ void DiagramViewPaintingTest::partsOfGuidesAreThoseOfTheWhole()
             QPainter painter(&image);
             painter.setClipRegion(needed);
             painter.setRenderHint(QPainter::Antialiasing);
-            overlay.paint(painter, QRectF(whole), palette, QFont(), parts, pictures);
+            overlay.paint(painter, QRectF(whole), palette, fonts, parts, pictures);
             return image;
         };
         const QImage expected = paint(whole);
@@ -198,6 +199,7 @@ void DiagramViewPaintingTest::handlesStandWhereTheyBelong()
         paint(painter);
         return image;
     };
+    const LabelFonts fonts{QFont()};
     ShapePictures pictures;
     std::mt19937 random(8);
     for (int i = 0; i < 200; ++i) {
@@ -213,7 +215,7 @@ void DiagramViewPaintingTest::handlesStandWhereTheyBelong()
         overlay.handles = {handle};
         const QRect whole(0, 0, side, side);
         const QImage seen = painted(
-            [&](QPainter &to) { overlay.paint(to, QRectF(whole), palette, QFont(), QRegion(whole), pictures); });
+            [&](QPainter &to) { overlay.paint(to, QRectF(whole), palette, fonts, QRegion(whole), pictures); });
         if (ratio <= 2.0) {
             const double unit = ratio * parts;
             handle.at = QPointF(std::round(handle.at.x() * unit), std::round(handle.at.y() * unit)) / unit;
