@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // Which part of the diagram is seen.
 #include <ceiechart/diagram/diagramview_p.h>
+#include <ceiechart/diagram/finite_p.h>
 
 #include <cmath>
 
@@ -68,8 +69,11 @@ QPointF DiagramView::Private::zoomAnchor() const
     if (pointer && viewport.plot().contains(*pointer)) {
         return *pointer;
     }
-    if (selected && hasHandles() && viewport.plot().contains(positionOf(*selected))) {
-        return positionOf(*selected);
+    if (selected && hasHandles()) {
+        const QPointF held = positionOf(*selected);
+        if (isFinite(held) && viewport.plot().contains(held)) {
+            return held;
+        }
     }
     return viewport.plot().center();
 }

@@ -51,7 +51,7 @@ void DiagramView::Private::refreshOverlay()
         const QRectF reach = plot.adjusted(-1.0, -1.0, 1.0, 1.0);
         const auto add = [&](GamutVertex vertex) {
             const QPointF at = positionOf(vertex);
-            if (reach.contains(at)) {
+            if (isFinite(at) && reach.contains(at)) {
                 DiagramOverlay::Handle handle;
                 handle.vertex = vertex;
                 handle.at = at;
@@ -119,7 +119,7 @@ void DiagramView::Private::placeLabel()
     }
     const QPointF at = positionOf(*selected);
     const QRectF plot = viewport.plot();
-    if (!plot.contains(at)) {
+    if (!isFinite(at) || !plot.contains(at)) {
         return;
     }
     constexpr double widest = 260.0; // of the lines after the first, in logical pixels

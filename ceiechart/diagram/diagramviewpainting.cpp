@@ -211,7 +211,7 @@ QRegion DiagramView::Private::editedRegion(const Model::Targets &former, const M
     const QPointF formerWhite = viewport.toPosition(xyOf(former.white));
     const QPointF latterWhite = viewport.toPosition(xyOf(latter.white));
     for (const QPointF &white : {formerWhite, latterWhite}) {
-        if (!isExactly(formerWhite, latterWhite)
+        if (!isExactly(formerWhite, latterWhite) && isFinite(white)
             && whole.adjusted(-markRoom, -markRoom, markRoom, markRoom).contains(white)) {
             region += pixelsAround(QRectF(white, QSizeF(1.0, 1.0)), markRoom);
         }

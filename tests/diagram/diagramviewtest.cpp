@@ -34,6 +34,7 @@ private Q_SLOTS:
     void badSettingsAreIgnored();
     void unknownChromaticitiesAreNotShown_data();
     void unknownChromaticitiesAreNotShown();
+    void verticesWithoutAPlaceHaveNoHandle();
     void rulesCannotMakeTheTargetUnknown();
     void recordsGoInAndComeOut();
     void layersAreSwitched();
@@ -192,6 +193,25 @@ void DiagramViewTest::unknownChromaticitiesAreNotShown()
     // Where u and v have no finite values.
     view.setDiagram(Model::Diagram::Cie1976);
     QCOMPARE(view.coordinatesText(QPointF(1.5, 0.0)), QStringLiteral("not known"));
+}
+
+// Here u and v are no numbers, though x and y are.
+void DiagramViewTest::verticesWithoutAPlaceHaveNoHandle()
+{
+    View view;
+    view.setDiagram(Model::Diagram::Cie1960);
+    Model::Targets targets = Model::dciP3D65().getTargets();
+    targets.green.x = 1e308;
+    targets.green.y = 1e308;
+    view.setTarget(Model::ColorGamut("far away", targets));
+    view.setSelectedVertex(GamutVertex::Green);
+    QTest::keyClick(&view, Qt::Key_Right);
+    view.paintAll();
+    QVERIFY(view.d->overlay.label.isEmpty());
+    QCOMPARE(int(view.d->overlay.handles.size()), 3);
+    // Keys zoom about what is selected, which here is nowhere.
+    QTest::keyClick(&view, Qt::Key_Plus);
+    QVERIFY(view.zoomFactor() > 1.0);
 }
 
 void DiagramViewTest::rulesCannotMakeTheTargetUnknown()
