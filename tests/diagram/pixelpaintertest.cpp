@@ -255,7 +255,8 @@ void PixelPainterTest::picturesAreThoseOfTheEngine()
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x) {
                 const bool isClear = x / 8 % 2 == 1 && format != QImage::Format_RGB32;
-                picture.setPixel(x, y, isClear ? 0 : qPremultiply(random.color().rgba()));
+                const QRgb color = x / 6 % 3 == 1 ? random.color().rgb() : random.color().rgba();
+                picture.setPixel(x, y, isClear ? 0 : qPremultiply(color));
             }
         }
         const QPointF at = random.point(QRectF(-20.0, -20.0, 130.0, 110.0)) / scale;
@@ -418,6 +419,11 @@ void PixelPainterTest::vectorsAreThePlainDefinition()
         FourBySse2::blend(others, color, _mm_loadu_ps(shares.data()));
         QVERIFY(std::equal(std::begin(pixels), std::end(pixels), std::begin(others)));
         QCOMPARE(FourBySse2::areClear(pictured), FourPlain::areClear(pictured));
+        if (i % 2) {
+            std::for_each(std::begin(pictured), std::end(pictured), [](std::uint32_t &pixel) { pixel |= 0xff000000U; });
+        }
+        QCOMPARE(FourBySse2::areOpaque(pictured), FourPlain::areOpaque(pictured));
+        QVERIFY(i % 2 == 0 || FourPlain::areOpaque(pictured));
         QVERIFY(FourBySse2::areClear(clear));
         QVERIFY(FourPlain::areClear(clear));
         FourPlain::putOver(pixels, pictured);
