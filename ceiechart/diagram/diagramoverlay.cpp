@@ -265,7 +265,7 @@ void DiagramOverlay::paintLabel(
         to.setBrush(palette.ground);
         to.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), 4.0, 4.0);
     });
-    const bool isLeftToRight = painter.layoutDirection() == Qt::LeftToRight;
+    const bool isLeftToRight = direction == Qt::LeftToRight;
     double top = place.top() + labelPadding / 2.0;
     DrawList texts;
     for (int i = 0; i < label.size(); ++i) {

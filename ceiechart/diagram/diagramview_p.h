@@ -60,6 +60,7 @@ struct DiagramOverlay {
     QVector<QPolygonF> guides; //!< what was snapped to and what movement is locked to; a single point is a place
     QStringList label; //!< lines of the label at what is edited; empty for none
     QRectF labelPlace;
+    Qt::LayoutDirection direction = Qt::LeftToRight; //!< in which the label is read
     QString readout; //!< empty for none
     QRectF readoutPlace;
     bool showsFocusFrame = false;

@@ -46,6 +46,7 @@ void addBoxesAlong(QVector<QRectF> &boxes, const QPointF &from, const QPointF &t
 void DiagramView::Private::refreshOverlay()
 {
     DiagramOverlay fresh;
+    fresh.direction = q->layoutDirection();
     const QRectF plot = viewport.plot();
     if (hasHandles()) {
         const QRectF reach = plot.adjusted(-1.0, -1.0, 1.0, 1.0);

@@ -40,6 +40,8 @@ private Q_SLOTS:
     void hoverTells();
     void hoverTellsChromaticitiesOnly();
     void readoutStandsOnTheOtherSideFromRightToLeft();
+    void labelBeginsWhereTheLanguageDoes_data();
+    void labelBeginsWhereTheLanguageDoes();
 };
 
 void DiagramViewLabelsTest::labelShowsWhatIsEdited()
@@ -508,6 +510,41 @@ void DiagramViewLabelsTest::readoutStandsOnTheOtherSideFromRightToLeft()
     view.setLayoutDirection(Qt::RightToLeft);
     QVERIFY(view.d->overlay.readoutPlace.center().x() < view.width() / 2.0);
     QVERIFY(view.viewport().plot().contains(view.d->overlay.readoutPlace));
+}
+
+void DiagramViewLabelsTest::labelBeginsWhereTheLanguageDoes_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
+void DiagramViewLabelsTest::labelBeginsWhereTheLanguageDoes()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    View view;
+    view.setLayoutDirection(direction);
+    view.setEditNote(QStringLiteral("short"));
+    const QPointF start = view.at(GamutVertex::Green);
+    view.press(start);
+    view.drag(start + QPointF(20, -10));
+    QCOMPARE(view.d->overlay.label.size(), 2);
+    const QImage picture = view.grab().toImage();
+    const QRgb ground = diagramPalette(view.content().ground).ground.rgb();
+    // The note is in the lower half. In from the frame:
+    const QRect label = view.d->overlay.labelPlace.toAlignedRect().adjusted(4, 4, -4, -4);
+    int left = 0;
+    int right = 0;
+    for (int y = label.center().y() + 3; y <= label.bottom(); ++y) {
+        for (int x = label.left(); x <= label.right(); ++x) {
+            const bool isText = picture.pixel(x, y) != ground;
+            (x < label.center().x() ? left : right) += isText ? 1 : 0;
+        }
+    }
+    const bool isOnTheLeft = direction == Qt::LeftToRight;
+    QVERIFY2((isOnTheLeft ? left : right) > 20 && (isOnTheLeft ? right : left) == 0,
+        qPrintable(QStringLiteral("%1 pixels on the left, %2 on the right").arg(left).arg(right)));
+    view.release(start);
 }
 
 QTEST_MAIN(DiagramViewLabelsTest)
