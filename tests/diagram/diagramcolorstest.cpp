@@ -387,6 +387,24 @@ void DiagramColorsTest::coverageOfAPolygon()
             QCOMPARE(column, 20);
         }
     }
+    // Corners that are nowhere, and edges whose slopes no double can have, leave no share that is none.
+    for (const double odd : {qQNaN(), qInf(), -qInf(), 1e308, -1e308}) {
+        for (const QVector<QPointF> &polygon : {QPolygonF() << QPointF(odd, 3) << QPointF(15, 6) << QPointF(5, 12),
+                 QPolygonF() << QPointF(3, odd) << QPointF(15, 6) << QPointF(5, 12),
+                 QPolygonF() << QPointF(odd, 3) << QPointF(-odd, 6) << QPointF(5, 12),
+                 QPolygonF() << QPointF(odd, odd) << QPointF(-odd, -odd) << QPointF(5, 12)}) {
+            RowCoverage coverage(QPolygonF(polygon), 20, 16);
+            for (int y = 0; y < 16; ++y) {
+                int column = 0;
+                for (const CoveredRun &run : coverage.row(y)) {
+                    QCOMPARE(run.left, column);
+                    QVERIFY(run.alpha >= 0 && run.alpha <= 255);
+                    column = run.right;
+                }
+                QCOMPARE(column, 20);
+            }
+        }
+    }
     RowCoverage nothing(QPolygonF(), 5, 5);
     QCOMPARE(int(nothing.row(2).size()), 1);
     QCOMPARE(nothing.row(2)[0].alpha, 0);
