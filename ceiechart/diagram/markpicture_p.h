@@ -29,7 +29,7 @@ struct PlacedMark {
     QRgb color; // of the filling
 };
 
-/*! \brief Paints \a mark by its outline; \a pixels are those of \a painter, if they can be written. */
+/*! \brief Paints \a mark exactly at its place; \a pixels are those of \a painter, if they can be written. */
 void paintMark(QPainter &painter, const std::optional<PixelPainter> &pixels, const PlacedMark &mark);
 
 /*!

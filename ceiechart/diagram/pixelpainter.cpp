@@ -208,6 +208,9 @@ std::optional<QRect> ownClip(const QPainter &painter)
 std::optional<PixelPainter> PixelPainter::on(const QPainter &painter)
 {
     const QPaintEngine *engine = painter.paintEngine();
+    if (!engine) {
+        return std::nullopt; // it paints on a picture that there was no memory for
+    }
     const QTransform transform = painter.deviceTransform();
     if (engine->type() != QPaintEngine::Raster || transform.type() > QTransform::TxScale
         || transform.m11() != transform.m22() || transform.m11() <= 0.0 || painter.opacity() != 1.0

@@ -352,6 +352,10 @@ void PixelPainterTest::whatCannotBeWrittenIsLeftToTheEngine()
     QVERIFY(isOn(nothing, paper()));
     QVERIFY(isOn(nothing, paper(QImage::Format_ARGB32_Premultiplied)));
     QVERIFY(isOn([](QPainter &painter) { painter.scale(1.5, 1.5); }, paper()));
+    QImage none; // as for want of memory; a painter says that it paints on nothing
+    QTest::ignoreMessage(QtWarningMsg, "QPainter::begin: Paint device returned engine == 0, type: 3");
+    QPainter idle(&none);
+    QVERIFY(!PixelPainter::on(idle));
     QVERIFY(!isOn(nothing, paper(QImage::Format_ARGB32)));
     QVERIFY(!isOn(nothing, paper(QImage::Format_RGB16)));
     QVERIFY(!isOn(nothing, paper(QImage::Format_RGB32, QSize(3, 9))));
