@@ -95,8 +95,9 @@ QFont boldOf(QFont font)
 
 } // namespace
 
-LabelFonts::LabelFonts(const QFont &font)
-    : m_first(boldOf(font), nullptr, 1.0, mostLabelTexts)
+LabelFonts::LabelFonts(const QFont &font, int dotsPerInch)
+    : m_dotsPerInch(dotsPerInch)
+    , m_first(boldOf(font), nullptr, 1.0, mostLabelTexts)
     , m_others(font, nullptr, 1.0, mostLabelTexts)
 {
 }
@@ -134,19 +135,21 @@ QStringList DiagramOverlay::wrapped(const QStringList &lines, const LabelFonts &
     QStringList result;
     for (int i = 0; i < lines.size(); ++i) {
         const TextStyle &style = fonts.ofLine(i);
+        QString text = lines[i];
+        text.replace(QLatin1Char('\n'), QChar(QChar::LineSeparator));
         // Only the first line of all is bold: coordinates that do not fit stay in one.
-        if (i == 0 || style.width(lines[i]) <= width) {
-            result.append(lines[i].trimmed());
+        if (i == 0 || (!text.contains(QChar(QChar::LineSeparator)) && style.width(text) <= width)) {
+            result.append(text.trimmed());
             continue;
         }
-        QTextLayout layout(lines[i], style.font());
+        QTextLayout layout(text, style.font());
         QTextOption option;
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         layout.setTextOption(option);
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
             line.setLineWidth(width);
-            result.append(lines[i].mid(line.textStart(), line.textLength()).trimmed());
+            result.append(text.mid(line.textStart(), line.textLength()).trimmed());
         }
         layout.endLayout();
     }

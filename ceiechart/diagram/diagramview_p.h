@@ -31,14 +31,19 @@ class MarkGrid;
 /*! The fonts of the label at what is edited. */
 class LabelFonts {
 public:
-    explicit LabelFonts(const QFont &font);
+    //! \a font of a widget of so many \a dotsPerInch, which fonts know but do not compare.
+    LabelFonts(const QFont &font, int dotsPerInch);
 
-    const QFont &font() const { return m_others.font(); } //!< as given
+    bool areOf(const QFont &font, int dotsPerInch) const
+    {
+        return m_others.font() == font && m_dotsPerInch == dotsPerInch;
+    }
     //! Of the \a line of a label: the first is bold.
     const TextStyle &ofLine(int line) const { return line == 0 ? m_first : m_others; }
     double lineHeight() const { return m_first.height(); }
 
 private:
+    int m_dotsPerInch;
     TextStyle m_first;
     TextStyle m_others;
 };
@@ -234,7 +239,7 @@ public:
     QImage lines; //!< scale and gamuts, which no edit changes, on nothing; made for the first step of an edit
     bool linesAreReady = false;
     ShapePictures shapes; //!< of the overlay
-    std::optional<LabelFonts> keptLabelFonts; //!< those of labelFonts(), once there has been a label
+    std::optional<LabelFonts> keptLabelFonts; //!< those of labelFonts(), once they have been needed
     bool isBlank = false; //!< there was not enough memory to paint it
 
     Hand hand = Hand::Idle;

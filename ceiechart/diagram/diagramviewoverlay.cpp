@@ -169,8 +169,9 @@ void DiagramView::Private::placeLabel()
 
 const LabelFonts &DiagramView::Private::labelFonts()
 {
-    if (!keptLabelFonts || keptLabelFonts->font() != q->font()) {
-        keptLabelFonts.emplace(q->font());
+    const QFont font = q->font();
+    if (!keptLabelFonts || !keptLabelFonts->areOf(font, q->logicalDpiY())) {
+        keptLabelFonts.emplace(font, q->logicalDpiY());
     }
     return *keptLabelFonts;
 }

@@ -113,13 +113,13 @@ TextStyle::Known &TextStyle::known(const QString &text) const
     if (m_known->size() >= m_mostKept) {
         m_known->clear();
     }
-    Known &fresh = (*m_known)[text];
+    Known fresh; // kept only if there is memory for all of it
     QTextLayout layout(text, m_shapedFont);
     layout.beginLayout();
     const QTextLine line = layout.createLine();
     layout.endLayout();
     if (!line.isValid()) {
-        return fresh; // it is empty
+        return *m_known->insert(text, fresh); // it is empty
     }
     fresh.advance = line.horizontalAdvance();
     fresh.glyphs = line.glyphRuns();
@@ -133,7 +133,7 @@ TextStyle::Known &TextStyle::known(const QString &text) const
         run.setPositions(positions);
         run.setBoundingRect(bounds.translated(-begin));
     }
-    return fresh;
+    return *m_known->insert(text, fresh);
 }
 
 double TextStyle::width(const QString &text) const

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void labelCoversNothingOfIt();
     void labelGoes();
     void editNoteIsShown();
+    void editNoteKeepsItsLines();
     void editNoteKeepsSnapAndReason();
     void labelFollowsTheTarget();
     void labelHasRoomInSmallViews();
@@ -130,6 +131,19 @@ void DiagramViewLabelsTest::editNoteIsShown()
     view.setEditNote(QString());
     QCOMPARE(view.d->overlay.label.size(), 1);
     view.release(start);
+}
+
+void DiagramViewLabelsTest::editNoteKeepsItsLines()
+{
+    for (const QChar separator : {QChar(u'\n'), QChar(QChar::LineSeparator)}) {
+        View view;
+        view.setEditNote(QStringLiteral("one") + separator + QStringLiteral("two"));
+        const QPointF start = view.at(GamutVertex::Green);
+        view.press(start);
+        view.drag(start + QPointF(20, -10));
+        QCOMPARE(view.d->overlay.label.mid(1), QStringList({QStringLiteral("one"), QStringLiteral("two")}));
+        view.release(start);
+    }
 }
 
 void DiagramViewLabelsTest::editNoteKeepsSnapAndReason()

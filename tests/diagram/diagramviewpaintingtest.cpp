@@ -150,7 +150,7 @@ void DiagramViewPaintingTest::partsOfGuidesAreThoseOfTheWhole()
     DiagramOverlay overlay;
     overlay.guides
         = {QPolygonF({QPointF(30.3, 350.2), QPointF(170.1, 20.7), QPointF(470.9, 300.4), QPointF(30.3, 350.2)}), curve};
-    const LabelFonts fonts{QFont()};
+    const LabelFonts fonts(QFont(), 96);
     ShapePictures pictures;
     std::mt19937 random(3);
     int seen = 0;
@@ -199,7 +199,7 @@ void DiagramViewPaintingTest::handlesStandWhereTheyBelong()
         paint(painter);
         return image;
     };
-    const LabelFonts fonts{QFont()};
+    const LabelFonts fonts(QFont(), 96);
     ShapePictures pictures;
     std::mt19937 random(8);
     for (int i = 0; i < 200; ++i) {

@@ -212,6 +212,16 @@ void DiagramViewTest::verticesWithoutAPlaceHaveNoHandle()
     // Keys zoom about what is selected, which here is nowhere.
     QTest::keyClick(&view, Qt::Key_Plus);
     QVERIFY(view.zoomFactor() > 1.0);
+    // Nor does a white have a place, of ordinary primaries.
+    targets = Model::dciP3D65().getTargets();
+    targets.white.x = 1e308;
+    targets.white.y = 1e308;
+    view.setTarget(Model::ColorGamut("white far away", targets));
+    view.setSelectedVertex(GamutVertex::Green);
+    QTest::keyClick(&view, Qt::Key_Right);
+    QVERIFY(view.moveVertex(GamutVertex::White, QPointF(0.3, 0.3)));
+    view.paintAll();
+    QCOMPARE(int(view.d->overlay.handles.size()), 4);
 }
 
 void DiagramViewTest::rulesCannotMakeTheTargetUnknown()
