@@ -545,11 +545,13 @@ void DiagramViewLabelsTest::labelBeginsWhereTheLanguageDoes()
     QCOMPARE(view.d->overlay.label.size(), 2);
     const QImage picture = view.grab().toImage();
     const QRgb ground = diagramPalette(view.content().ground).ground.rgb();
-    // The note is in the lower half. In from the frame:
-    const QRect label = view.d->overlay.labelPlace.toAlignedRect().adjusted(4, 4, -4, -4);
+    // The note is in the lower half, in from the frame.
+    const double ratio = picture.devicePixelRatio();
+    const QRectF place = view.d->overlay.labelPlace.adjusted(4.0, 4.0, -4.0, -4.0);
+    const QRect label = QRectF(place.topLeft() * ratio, place.size() * ratio).toAlignedRect();
     int left = 0;
     int right = 0;
-    for (int y = label.center().y() + 3; y <= label.bottom(); ++y) {
+    for (int y = label.center().y() + int(3.0 * ratio); y <= label.bottom(); ++y) {
         for (int x = label.left(); x <= label.right(); ++x) {
             const bool isText = picture.pixel(x, y) != ground;
             (x < label.center().x() ? left : right) += isText ? 1 : 0;
