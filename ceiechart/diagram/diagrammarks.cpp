@@ -26,7 +26,7 @@ QString decimal(double value)
     return QString::number(QString::number(value, 'g', 6).toDouble(), 'f', QLocale::FloatingPointShortest);
 }
 
-//! Each role's white has a shape of its own. Lines that end do so \a longer, as those of a casing have to.
+//! Each role's white has a shape of its own. Its arms are extended by \a longer at both ends, which a casing needs.
 void drawWhite(DrawList &list, GamutRole role, const QPointF &at, QPen pen, double longer)
 {
     constexpr double r = whiteRadius;

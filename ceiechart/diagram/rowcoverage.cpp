@@ -104,7 +104,7 @@ void RowCoverage::findRow(int y)
         // What is left of the picture changes it from its first column on.
         const double outside = from == to ? 1.0 : std::min(-least / std::fabs(to - from), 1.0);
         if (!(outside > 0.0)) {
-            continue; // its place is not known
+            continue; // the edge is not finite
         }
         m_change[0] += height * outside;
         m_touched.emplace_back(0, 0);

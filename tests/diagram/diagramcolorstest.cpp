@@ -387,7 +387,7 @@ void DiagramColorsTest::coverageOfAPolygon()
             QCOMPARE(column, 20);
         }
     }
-    // Corners that are nowhere, and edges whose slopes no double can have, leave no share that is none.
+    // Corners that are not finite, and edges too long for a slope, still give shares from 0 to 255.
     for (const double odd : {qQNaN(), qInf(), -qInf(), 1e308, -1e308}) {
         for (const QVector<QPointF> &polygon : {QPolygonF() << QPointF(odd, 3) << QPointF(15, 6) << QPointF(5, 12),
                  QPolygonF() << QPointF(3, odd) << QPointF(15, 6) << QPointF(5, 12),

@@ -352,7 +352,7 @@ void PixelPainterTest::whatCannotBeWrittenIsLeftToTheEngine()
     QVERIFY(isOn(nothing, paper()));
     QVERIFY(isOn(nothing, paper(QImage::Format_ARGB32_Premultiplied)));
     QVERIFY(isOn([](QPainter &painter) { painter.scale(1.5, 1.5); }, paper()));
-    QImage none; // as for want of memory; a painter says that it paints on nothing
+    QImage none; // what a picture is when there is not enough memory for it
     QTest::ignoreMessage(QtWarningMsg, "QPainter::begin: Paint device returned engine == 0, type: 3");
     QPainter idle(&none);
     QVERIFY(!PixelPainter::on(idle));
