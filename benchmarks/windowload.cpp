@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 the ceiechart authors
 // SPDX-License-Identifier: MIT
-// What each kind of interaction with the gamut viewer's window takes when thousands of standards are open, in
-// processor time, which does not count other programs.
+// What each kind of interaction with the gamut viewer's window takes when thousands of standards are open, or in a
+// large window, in processor time, which does not count other programs.
 #include "drawing/documentview.h"
 #include "drawing/layerswitches.h"
 #include "editing/document.h"
@@ -20,6 +20,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSettings>
+#include <QSize>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QUndoStack>
@@ -126,8 +127,10 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     const int count = argc > 1 ? QByteArray(argv[1]).toInt() : 10000;
-    if (count < 0 || argc > 3) {
-        std::puts("windowload [standards] [part of the name of what is measured]");
+    const QList<QByteArray> sides = QByteArray(argc > 3 ? argv[3] : "1280x900").split('x');
+    const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
+    if (count < 0 || argc > 4 || sides.size() != 2 || size.isEmpty()) {
+        std::puts("windowload [standards] [part of the name of what is measured] [size of the window, as 3840x2160]");
         return 2;
     }
     only = argc > 2 ? argv[2] : "";
@@ -142,7 +145,7 @@ int main(int argc, char **argv)
     }
     std::printf("%-40s %9s %9s\n", "processor ms", "median", "longest");
     ViewerWindow window;
-    window.resize(1280, 900);
+    window.resize(size);
     window.show();
     QApplication::setActiveWindow(&window);
     constexpr const char *opening = "file opened";
@@ -162,9 +165,10 @@ int main(int argc, char **argv)
     measure("key step", 20, [&](int i) { press(view, i % 4 < 2 ? Qt::Key_Left : Qt::Key_Down); });
     const auto drag = [&](const char *name, Vertex vertex) {
         const QPointF from = handle(vertex);
-        measure("press", 1, [&](int) { point(view, QEvent::MouseButtonPress, from, true); });
+        measure("press to drag", 1, [&](int) { point(view, QEvent::MouseButtonPress, from, true); });
         measure(name, 20, [&](int i) { point(view, QEvent::MouseMove, from + QPointF(9.0 + 2 * i, 9.0 + i), true); });
-        measure("release", 1, [&](int) { point(view, QEvent::MouseButtonRelease, from + QPointF(49.0, 29.0), false); });
+        measure("release of drag", 1,
+            [&](int) { point(view, QEvent::MouseButtonRelease, from + QPointF(49.0, 29.0), false); });
     };
     drag("drag step, green", Vertex::Green);
     drag("drag step, white", Vertex::White);
@@ -190,8 +194,8 @@ int main(int argc, char **argv)
         [&](int i) { session->setTolerances(i % 2 == 0 ? std::make_optional(Tolerances()) : std::nullopt); });
     measure("diagram", 6, [&](int i) { window.diagramPage()->diagrams()->actions().at((i + 1) % 3)->trigger(); });
     measure("lens", 6, [&](int) { window.diagramPage()->lensAction()->trigger(); });
-    measure("resize", 6, [&](int i) { window.resize(1280 - 10 * (i % 2), 900); });
-    window.resize(1280, 900);
+    measure("resize", 6, [&](int i) { window.resize(size.width() - 10 * (i % 2), size.height()); });
+    window.resize(size);
     const auto shows = [&window](const char *text) {
         for (auto *tabs : window.panel()->findChildren<QTabWidget *>()) {
             for (int i = 0; i < tabs->count(); ++i) {
