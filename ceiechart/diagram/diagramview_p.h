@@ -146,6 +146,7 @@ public:
     }
     void replace(GamutRole role, const std::vector<Model::ColorGamut> &gamuts);
     void putTarget(const Model::Targets &targets);
+    void putRings(const QVector<DiagramRings> &rings);
     static DiagramGround groundOf(const QPalette &palette);
     void followPalette();
     QFont textFont() const;
@@ -172,6 +173,10 @@ public:
     QRegion overlayRegion(const DiagramOverlay &some, const DiagramOverlay &other) const;
     bool meetsAnother(const Model::Targets &targets) const;
     QRegion editedRegion(const Model::Targets &before, const Model::Targets &after) const;
+    //! Where \a some are that \a others are not.
+    QRegion ringRegion(const QVector<DiagramRings> &some, const QVector<DiagramRings> &others) const;
+    //! Where one of \a former and \a latter has a name that the other has not.
+    QRegion nameRegion(const QVector<DiagramLabel> &former, const QVector<DiagramLabel> &latter) const;
     void placeLabel();
     //! Of the widget's font.
     const LabelFonts &labelFonts();

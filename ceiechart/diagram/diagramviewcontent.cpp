@@ -211,7 +211,7 @@ void DiagramView::setCmyPoints(const QVector<DiagramMark> &points)
 
 void DiagramView::setRings(const QVector<DiagramRings> &rings)
 {
-    d->changePart(&DiagramContent::rings, rings);
+    d->putRings(rings);
 }
 
 void DiagramView::setTrail(const QVector<QPointF> &trail)

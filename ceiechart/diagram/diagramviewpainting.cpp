@@ -27,6 +27,11 @@ QRect pixelsAround(const QRectF &rectangle, double room)
     return rectangle.adjusted(-room, -room, room, room).toAlignedRect();
 }
 
+bool isSame(const DiagramRings &a, const DiagramRings &b)
+{
+    return isExactly(a.xy, b.xy) && a.radii == b.radii;
+}
+
 QRectF boxOf(std::initializer_list<QPointF> points)
 {
     return QPolygonF(QVector<QPointF>(points)).boundingRect();
@@ -219,6 +224,66 @@ QRegion DiagramView::Private::editedRegion(const Model::Targets &former, const M
     return region;
 }
 
+QRegion DiagramView::Private::ringRegion(const QVector<DiagramRings> &some, const QVector<DiagramRings> &others) const
+{
+    QRegion region;
+    for (const DiagramRings &rings : some) {
+        if (std::any_of(
+                others.begin(), others.end(), [&](const DiagramRings &other) { return isSame(other, rings); })) {
+            continue;
+        }
+        for (const double radius : rings.radii) {
+            const QPolygonF curve = DiagramPainter::ring(viewport, rings.xy, radius);
+            if (isFinite(curve)) { // others are not drawn
+                region += pixelsAround(curve.boundingRect() & QRectF(q->rect()), lineRoom);
+            }
+        }
+    }
+    return region & q->rect();
+}
+
+QRegion DiagramView::Private::nameRegion(const QVector<DiagramLabel> &former, const QVector<DiagramLabel> &latter) const
+{
+    const auto same = [](const DiagramLabel &a, const DiagramLabel &b) {
+        return a.kind == b.kind && a.index == b.index && a.text == b.text && a.place == b.place && a.leader == b.leader;
+    };
+    QRegion region;
+    const auto addOthers = [&](const QVector<DiagramLabel> &some, const QVector<DiagramLabel> &others) {
+        for (int i = 0; i < some.size(); ++i) {
+            const DiagramLabel &label = some[i];
+            // Most stand where they stood, and in the same order.
+            const bool isThere = (i < others.size() && same(others[i], label))
+                || std::any_of(others.begin(), others.end(), [&](const DiagramLabel &o) { return same(o, label); });
+            if (!isThere) {
+                region += pixelsAround(label.place, nameRoom);
+                if (!label.leader.isNull()) {
+                    region += regionBetween(label.leader, label.leader, QRectF(q->rect()), nameRoom);
+                }
+            }
+        }
+    };
+    addOthers(former, latter);
+    addOthers(latter, former);
+    return region;
+}
+
+void DiagramView::Private::putRings(const QVector<DiagramRings> &rings)
+{
+    if (!q->isVisible()) {
+        changePart(&DiagramContent::rings, rings);
+        return;
+    }
+    const QVector<DiagramRings> former = content.rings;
+    if (std::equal(former.begin(), former.end(), rings.begin(), rings.end(), isSame)) {
+        return;
+    }
+    const QVector<DiagramLabel> labels = painter->labels();
+    content.rings = rings;
+    painter->setContent(content);
+    q->update(ringRegion(former, rings) + ringRegion(rings, former) + nameRegion(labels, painter->labels()));
+    updateOverlay();
+}
+
 void DiagramView::Private::putTarget(const Model::Targets &targets)
 {
     const auto found = std::find_if(content.gamuts.begin(), content.gamuts.end(),
@@ -238,26 +303,7 @@ void DiagramView::Private::putTarget(const Model::Targets &targets)
         changed = editedRegion(former, targets);
     }
     // Names give way to one another.
-    const QVector<DiagramLabel> newLabels = painter->labels();
-    const auto same = [](const DiagramLabel &a, const DiagramLabel &b) {
-        return a.kind == b.kind && a.index == b.index && a.text == b.text && a.place == b.place && a.leader == b.leader;
-    };
-    const auto addOthers = [&](const QVector<DiagramLabel> &some, const QVector<DiagramLabel> &others) {
-        for (int i = 0; i < some.size(); ++i) {
-            const DiagramLabel &label = some[i];
-            // Most stand where they stood, and in the same order.
-            const bool isThere = (i < others.size() && same(others[i], label))
-                || std::any_of(others.begin(), others.end(), [&](const DiagramLabel &o) { return same(o, label); });
-            if (!isThere) {
-                changed += pixelsAround(label.place, nameRoom);
-                if (!label.leader.isNull()) {
-                    changed += regionBetween(label.leader, label.leader, QRectF(q->rect()), nameRoom);
-                }
-            }
-        }
-    };
-    addOthers(labels, newLabels);
-    addOthers(newLabels, labels);
+    changed += nameRegion(labels, painter->labels());
     q->update(changed);
     updateOverlay();
 }
