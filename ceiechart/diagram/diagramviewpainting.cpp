@@ -227,19 +227,21 @@ QRegion DiagramView::Private::editedRegion(const Model::Targets &former, const M
 QRegion DiagramView::Private::ringRegion(const QVector<DiagramRings> &some, const QVector<DiagramRings> &others) const
 {
     QRegion region;
-    for (const DiagramRings &rings : some) {
-        if (std::any_of(
-                others.begin(), others.end(), [&](const DiagramRings &other) { return isSame(other, rings); })) {
+    for (int i = 0; i < some.size(); ++i) {
+        const DiagramRings &rings = some[i];
+        // By place in the list, as each is drawn over those before it.
+        if (i < others.size() && isSame(others[i], rings)) {
             continue;
         }
         for (const double radius : rings.radii) {
             const QPolygonF curve = DiagramPainter::ring(viewport, rings.xy, radius);
             if (isFinite(curve)) { // others are not drawn
-                region += pixelsAround(curve.boundingRect() & QRectF(q->rect()), lineRoom);
+                const QRectF painted = curve.boundingRect().adjusted(-lineRoom, -lineRoom, lineRoom, lineRoom);
+                region += (painted & QRectF(q->rect())).toAlignedRect();
             }
         }
     }
-    return region & q->rect();
+    return region;
 }
 
 QRegion DiagramView::Private::nameRegion(const QVector<DiagramLabel> &former, const QVector<DiagramLabel> &latter) const

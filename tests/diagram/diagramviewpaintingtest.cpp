@@ -65,6 +65,7 @@ private Q_SLOTS:
     void handlesStandWhereTheyBelong();
     void partialRepaintsLeaveNothingBehind_data();
     void partialRepaintsLeaveNothingBehind();
+    void movedRingsRepaintThemselvesOnly();
     void focusFramesComeAndGo();
     void dragPaintsTheScaleNoMore();
     void hiddenViewsKeepNoPictures();
@@ -303,6 +304,53 @@ void DiagramViewPaintingTest::partialRepaintsLeaveNothingBehind()
         view.release(freeGround(view), Qt::MiddleButton);
         compare("pan");
     }
+}
+
+void DiagramViewPaintingTest::movedRingsRepaintThemselvesOnly()
+{
+    View view;
+    const DiagramRings white{view.xy(GamutVertex::White)};
+    const DiagramRings green{view.xy(GamutVertex::Green), {0.01, 0.02}}; // with numbers
+    const QPointF atRed = view.at(GamutVertex::Red);
+    const auto looksAsAWhole = [&view] { return difference(shownBy(view), view.grab().toImage()).isEmpty(); };
+    view.setRings({white, green});
+    QVERIFY(view.takePainted().contains(view.at(GamutVertex::Green).toPoint()));
+    QVERIFY(looksAsAWhole());
+
+    view.takePainted();
+    view.setRings({white, green});
+    QVERIFY(view.takePainted().isEmpty());
+
+    const QVector<QVector<DiagramRings>> steps{
+        {white, {green.xy + QPointF(0.004, 0.002), green.radii}}, // moved
+        {white, {green.xy + QPointF(0.004, 0.002), {0.03}}}, // other radii
+        {{green.xy, {0.03}}, white, green}, // further ones, and in another order
+        {white}, // fewer
+        {white, {QPointF(1e308, 1e308), {0.01}}, {green.xy, {-1.0, 0.0}}}, // that are not drawn
+        {white, {QPointF(1.0, 0.0), {0.01}}}, // outside
+        {white, green}, // as before
+        {}, // none
+    };
+    for (int i = 0; i < steps.size(); ++i) {
+        const QVector<DiagramRings> &rings = steps[i];
+        view.takePainted();
+        view.setRings(rings);
+        const QRegion painted = view.takePainted();
+        QVERIFY2(!painted.contains(atRed.toPoint()), qPrintable(QString::number(i)));
+        QVERIFY2(looksAsAWhole(), qPrintable(QString::number(i)));
+        // That of the first two stays where it is.
+        QVERIFY(i > 1 || !painted.contains(view.at(GamutVertex::White).toPoint()));
+    }
+
+    view.hide();
+    view.setRings({white, green});
+    view.show();
+    view.paintAll();
+    QVERIFY(looksAsAWhole());
+    const QImage withRings = shownBy(view);
+    view.setRings({});
+    view.paintAll();
+    QVERIFY(!difference(withRings, shownBy(view)).isEmpty());
 }
 
 void DiagramViewPaintingTest::focusFramesComeAndGo()
