@@ -425,11 +425,18 @@ void DiagramViewPaintingTest::hiddenViewsKeepNoPictures()
     view.hover(view.at(GamutVertex::Red));
     view.paintAll();
     QVERIFY(!view.d->lines.isNull());
+    QRegion filled;
+    view.d->painter->colors(view.devicePixelRatioF(), &filled);
+    view.d->painter->colors(view.devicePixelRatioF(), &filled);
+    QVERIFY(filled.isEmpty()); // as the picture of the colours was kept
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&view, &leave);
     const QImage before = view.grab().toImage();
     view.hide();
     QVERIFY(view.d->lines.isNull());
+    const QRect whole = view.d->painter->colors(view.devicePixelRatioF(), &filled).rect();
+    QCOMPARE(filled, QRegion(whole));
+    view.hide();
     view.show();
     view.paintAll();
     QCOMPARE(difference(view.grab().toImage(), before), QRect());
