@@ -128,6 +128,7 @@ std::unique_ptr<QImage> DiagramRenderer::Private::newPicture(const QColor &groun
     if (picture->devicePixelRatio() != pixelRatio) {
         picture->setDevicePixelRatio(pixelRatio);
     }
+    isOpaque = picture->format() == QImage::Format_ARGB32_Premultiplied;
     return picture;
 }
 

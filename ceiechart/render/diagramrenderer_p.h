@@ -124,6 +124,7 @@ public:
     bool lightGround = false;
     double pixelRatio = 1.0;
     QImage former; //!< whose memory the next picture takes, if it can
+    bool isOpaque = false; //!< whether the last picture is known to be
     RowThreads threads;
     qint64 fewestPixelsForThreads = 1 << 19; //!< of a picture: to wake threads takes longer than to draw a smaller one
 

@@ -120,7 +120,7 @@ void CEIEGraphicsScene::setLsColorTriangleObject(const QList<ColorTriangleObject
     setLsColorTriangleObject(triangles);
     scene.gamuts = Private::Gamuts{triangles, first, other, flag, text};
     const ceiechart::GivenMemory given = scene.giveMemory();
-    scene.picture.reset(scene.renderGamuts());
+    scene.takePicture(scene.renderGamuts());
 }
 
 QImage *CEIEGraphicsScene::Private::renderGamuts()

@@ -14,10 +14,11 @@ namespace {
 
 bool isOpaque(const QImage &picture)
 {
+    const int width = picture.width();
     for (int y = 0; y < picture.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
         QRgb all = 0xff000000U;
-        for (int x = 0; x < picture.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             all &= line[x];
         }
         if (qAlpha(all) != 255) {
@@ -48,14 +49,14 @@ bool isCopyExact(const QPainter &painter, const QRectF &rect)
 
 } // namespace
 
-void ChartPicture::reset(QImage *picture)
+void ChartPicture::reset(QImage *picture, bool isKnownAsOpaque)
 {
     const std::unique_ptr<QImage> owned(picture);
     m_image = owned ? std::move(*owned) : QImage();
     // Everything below counts in the picture's own pixels.
     m_pixelRatio = m_image.devicePixelRatio();
     m_image.setDevicePixelRatio(1.0);
-    m_opaque = m_image.format() == QImage::Format_ARGB32 && isOpaque(m_image);
+    m_opaque = m_image.format() == QImage::Format_ARGB32 && (isKnownAsOpaque || isOpaque(m_image));
     m_scaled = QImage();
     m_set = owned != nullptr;
 }

@@ -18,8 +18,12 @@ namespace ceiechart {
  */
 class ChartPicture {
 public:
-    /*! \brief Replaces the picture and takes ownership of \a picture, which can be null. */
-    void reset(QImage *picture = nullptr);
+    /*!
+     * \brief Replaces the picture and takes ownership of \a picture, which can be null.
+     *
+     * \param isKnownAsOpaque saves looking at each pixel
+     */
+    void reset(QImage *picture = nullptr, bool isKnownAsOpaque = false);
 
     /*!
      * \brief Gives up the picture, for the next one to take its memory, if it is large and nobody else holds it.

@@ -83,9 +83,14 @@ void TargetScene::renderAgain()
     }
 }
 
+void TargetScene::Private::takePicture(QImage *rendered)
+{
+    picture.reset(rendered, diagramRenderer().d->isOpaque);
+}
+
 void TargetScene::Private::showPicture(QImage *rendered)
 {
-    picture.reset(rendered);
+    takePicture(rendered);
     q->CoordinateTransformation();
     q->update();
 }

@@ -95,7 +95,9 @@ public:
     QPointF targetPosition(Handle handle);
 
     // Pictures, in scenepictures.cpp
-    /*! \brief Shows \a rendered, of which it takes ownership. */
+    /*! \brief Makes \a rendered the picture, which its renderer has just drawn. Takes ownership. */
+    void takePicture(QImage *rendered);
+    /*! \brief Takes \a rendered and shows it. */
     void showPicture(QImage *rendered);
     /*! \brief The mapping of the picture that is shown; nothing if there is none with an extent. */
     std::optional<DiagramGeometry> pictureGeometry();

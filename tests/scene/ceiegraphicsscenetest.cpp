@@ -691,7 +691,7 @@ void CEIEGraphicsSceneTest::backgroundFollowsTheNewestPicture()
     scene.setImageHeight(120);
     NewCEIE::DrawCEIPicture renderer(nullptr);
     const QSize canvas(400, 364);
-    for (const QColor &color : {QColor(0, 40, 80), QColor(80, 40, 0), QColor(0, 40, 80)}) {
+    for (const QColor &color : {QColor(0, 40, 80), QColor(80, 40, 0), QColor(80, 40, 0, 100), QColor(0, 40, 80)}) {
         scene.setGraphColor(Qt::yellow, color);
         scene.getBitMap();
         renderer.setGraphColor(Qt::yellow, color);
