@@ -63,8 +63,10 @@ void ChartPicture::reset(QImage *picture, bool isKnownAsOpaque)
 
 QImage ChartPicture::takeLarge()
 {
-    // The C library returns a larger block to the system, and gets a new one with a page fault for every 4 KiB.
-    constexpr auto largestKept = qint64(32) * 1024 * 1024;
+    // The C library may return a larger block to the system, glibc always one of more than 32 MiB, and
+    // get a new one with a page fault for every 4 KiB. It does so in any case for the second picture if that is drawn
+    // while the first is still held.
+    constexpr auto largestKept = qint64(1024) * 1024;
     return m_image.sizeInBytes() > largestKept && m_image.isDetached() ? std::exchange(m_image, QImage()) : QImage();
 }
 

@@ -28,7 +28,8 @@ public:
     /*!
      * \brief Gives up the picture, for the next one to take its memory, if it is large and nobody else holds it.
      *
-     * The memory of smaller ones is used again anyway: of these, nothing is given.
+     * New memory of a small one costs nothing worth mentioning: of these, nothing is given, so that they are still
+     * shown if the next drawing fails.
      */
     QImage takeLarge();
 

@@ -67,6 +67,7 @@ class LargePicturesTest : public QObject {
 private Q_SLOTS:
     void nextPictureTakesTheMemory_data();
     void nextPictureTakesTheMemory();
+    void memoryIsGivenAndTaken_data();
     void memoryIsGivenAndTaken();
     void pictureOfAHostStays();
     void otherSizesHaveMemoryOfTheirOwn();
@@ -116,9 +117,17 @@ void LargePicturesTest::nextPictureTakesTheMemory()
     QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }
 
+void LargePicturesTest::memoryIsGivenAndTaken_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::newRow("1.1 MiB") << 100;
+    QTest::newRow("more than 32 MiB") << largeWidth;
+}
+
 void LargePicturesTest::memoryIsGivenAndTaken()
 {
-    const auto scene = sceneOf(false);
+    QFETCH(int, width);
+    const auto scene = sceneOf(false, width);
     const uchar *memory = picture(*scene).constBits();
     const QImage &former = scene->d->diagramRenderer().d->former;
     {
@@ -164,7 +173,7 @@ void LargePicturesTest::otherSizesHaveMemoryOfTheirOwn()
 
 void LargePicturesTest::smallPicturesAreNotGiven()
 {
-    const auto scene = sceneOf(false, 600);
+    const auto scene = sceneOf(false, 80); // 0.9 MiB
     const QImage before = picture(*scene).copy();
     const ceiechart::GivenMemory given = scene->d->giveMemory();
     QVERIFY(picture(*scene) == before);
