@@ -193,8 +193,8 @@ void placePicturesAlike()
 #ifdef __GLIBC__
     constexpr int smallestPicture = 1 << 20; // bytes
     mallopt(M_MMAP_THRESHOLD, smallestPicture);
-    // Twice as much, as the library keeps it by itself until it is told the other. With the 128 KiB of the beginning, it
-    // would return memory to the system in each step.
+    // Setting the first threshold fixes the second one as well, at its initial 128 KiB, and the library would then
+    // return memory to the system in each step. Twice the first threshold is the value it would otherwise choose.
     mallopt(M_TRIM_THRESHOLD, 2 * smallestPicture);
 #endif
 }
