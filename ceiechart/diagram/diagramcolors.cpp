@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/diagramcolors_p.h>
 #include <ceiechart/diagram/horseshoefill_p.h>
+#include <ceiechart/diagram/pixelpainter_p.h>
 #include <ceiechart/diagram/polylines_p.h>
 #include <ceiechart/diagram/rowcoverage_p.h>
 #include <ceiechart/diagram/spectrum_p.h>
@@ -322,6 +323,30 @@ void fillDifference(Filler &filler, RowCoverage &before, RowCoverage &after, con
     changed += QRect(least, top, farthest - least, bottom + 1 - top);
 }
 
+/*!
+ * Calls \a put with the rows of \a area, some after the others, in a picture as wide as the whole, and the first row of
+ * each such band. Bands may overlap.
+ *
+ * \param locus the coverages for \a request, as \a full
+ */
+template <typename Put>
+void fillInBands(const ColorsRequest &request, const QRect &area, RowCoverage &locus, RowCoverage &full, const Put &put)
+{
+    const int height = std::min(bandHeight, area.height());
+    QImage band(request.size().width(), height, QImage::Format_RGB32);
+    if (band.isNull()) {
+        return; // without memory, as a whole picture of them
+    }
+    band.setDevicePixelRatio(request.devicePixelRatio);
+    Filler filler(request, band, locus, full);
+    for (int next = area.top(); next <= area.bottom(); next += height) {
+        const int top = std::min(next, area.bottom() + 1 - height);
+        filler.setFirstRow(top);
+        filler.fill(QRect(area.left(), top, area.width(), height));
+        put(band, top);
+    }
+}
+
 } // namespace
 
 QSize ColorsRequest::size() const
@@ -412,16 +437,36 @@ void DiagramColors::paint(QPainter *painter, const ColorsRequest &request)
     m_isKept = false;
     m_locus = locusCoverage(request, size);
     m_full = fullCoverage(request, request.full, size);
-    QImage band(size.width(), bandHeight, QImage::Format_RGB32);
-    band.setDevicePixelRatio(request.devicePixelRatio);
-    Filler filler(request, band, m_locus, m_full);
-    for (int top = 0; top < size.height(); top += bandHeight) {
-        const int height = std::min(bandHeight, size.height() - top);
-        filler.setFirstRow(top);
-        filler.fill(QRect(0, top, size.width(), height));
-        painter->drawImage(QPointF(0.0, top / request.devicePixelRatio), band, QRectF(0, 0, size.width(), height));
-    }
+    fillInBands(request, QRect(QPoint(), size), m_locus, m_full,
+        [&](const QImage &band, int top) { painter->drawImage(QPointF(0.0, top / request.devicePixelRatio), band); });
     m_request = request;
+}
+
+bool DiagramColors::write(const PixelPainter &pixels, const ColorsRequest &request)
+{
+    constexpr double tolerance = 1e-6; // pixels
+    constexpr double longest = 32767.0; // sides of pictures that the raster engine paints on
+    const auto areEqual = [](double a, double b) { return std::fabs(a - b) < tolerance; };
+    const auto isWhole = [&areEqual](double value) { return areEqual(value, std::round(value)); };
+    const QSizeF exact = request.viewport.size() * pixels.scale();
+    const QPointF origin = pixels.origin();
+    if (request.devicePixelRatio != pixels.scale() || exact.width() > longest || exact.height() > longest
+        || !isWhole(origin.x()) || !isWhole(origin.y())) {
+        return false;
+    }
+    const QSize size = request.size();
+    if (!areEqual(exact.width(), size.width()) || !areEqual(exact.height(), size.height())) {
+        return false;
+    }
+    const QRectF needed = QRectF(pixels.bounds()).translated(-origin) & QRectF(QPointF(), size);
+    if (!needed.isEmpty()) {
+        RowCoverage locus = locusCoverage(request, size);
+        RowCoverage full = fullCoverage(request, request.full, size);
+        fillInBands(request, needed.toRect(), locus, full, [&pixels](const QImage &band, int top) {
+            pixels.picture(QPointF(0.0, top / pixels.scale()), band, QPoint());
+        });
+    }
+    return true;
 }
 
 void DiagramColors::paintScrolled(QPainter *painter, const ColorsRequest &request, const QPoint &way)

@@ -17,6 +17,8 @@ class QPainter;
 
 namespace ceiechart {
 
+class PixelPainter;
+
 /*! \brief What the picture of a diagram's colours depends on. */
 struct ColorsRequest {
     DiagramViewport viewport; //!< which part of the diagram
@@ -55,6 +57,12 @@ public:
      * is scrolled is painted in bands, too.
      */
     void paint(QPainter *painter, const ColorsRequest &request);
+    /*!
+     * \brief Writes the picture for \a request, with its first pixel at the origin of \a pixels, and keeps nothing.
+     *
+     * \return whether that could be done: only where the picture ends between two pixels, as it begins between two
+     */
+    static bool write(const PixelPainter &pixels, const ColorsRequest &request);
 
 private:
     void paintScrolled(QPainter *painter, const ColorsRequest &request, const QPoint &way);

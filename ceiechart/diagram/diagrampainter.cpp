@@ -4,6 +4,7 @@
 #include <ceiechart/diagram/diagramgamuts_p.h>
 #include <ceiechart/diagram/diagrampainter.h>
 #include <ceiechart/diagram/diagramsheet_p.h>
+#include <ceiechart/diagram/pixelpainter_p.h>
 #include <ceiechart/diagram/polylines_p.h>
 #include <ceiechart/diagram/shownmarks_p.h>
 #include <ceiechart/diagram/shownoutlines_p.h>
@@ -138,6 +139,22 @@ public:
         edited.reset();
     }
 
+    //! Paints the colours and keeps nothing.
+    static void paintNewColors(QPainter *painter, const DiagramSheet &sheet)
+    {
+        const auto pixels = PixelPainter::on(*painter);
+        if (pixels && DiagramColors::write(*pixels, colorsRequest(sheet.content, sheet.viewport, pixels->scale()))) {
+            return;
+        }
+        const QRectF whole(QPointF(), sheet.viewport.size());
+        const bool isPicture = painter->paintEngine()->type() == QPaintEngine::Raster;
+        const double ratio = isPicture ? std::fabs(painter->deviceTransform().m22()) : pictureRatioOfFiles;
+        const double most = std::sqrt(mostPicturePixels / std::max(1.0, whole.width() * whole.height()));
+        DiagramColors colors;
+        painter->drawImage(whole,
+            colors.update(colorsRequest(sheet.content, sheet.viewport, std::min(ratio, most)), nullptr, nullptr));
+    }
+
     static ColorsRequest colorsRequest(const DiagramContent &content, const DiagramViewport &viewport, double ratio)
     {
         ColorsRequest request;
@@ -240,12 +257,7 @@ void DiagramPainter::paint(QPainter *painter, const QRectF &place) const
     if (sheet.colors() == HorseshoeColors::None) {
         painter->fillRect(whole, sheet.palette().ground);
     } else {
-        const bool isPicture = painter->paintEngine()->type() == QPaintEngine::Raster;
-        const double ratio = isPicture ? std::fabs(painter->deviceTransform().m22()) : pictureRatioOfFiles;
-        const double most = std::sqrt(mostPicturePixels / std::max(1.0, whole.width() * whole.height()));
-        DiagramColors colors;
-        painter->drawImage(whole,
-            colors.update(Private::colorsRequest(d->content, viewport, std::min(ratio, most)), nullptr, nullptr));
+        Private::paintNewColors(painter, sheet);
     }
     const DiagramStep scale = scaleStep(sheet);
     const ShownMarks marks = shownMarks(sheet);

@@ -36,6 +36,8 @@ public:
     static std::optional<PixelPainter> on(const QPainter &painter);
 
     double scale() const { return m_scale; } //!< pixels for one of the painter's units
+    QPointF origin() const { return m_origin; } //!< the painter's, in pixels of the picture
+    QRect bounds() const { return m_clip.boundingRect(); } //!< which pixels of the picture can be painted on
 
     /*! \brief A line with flat ends. */
     void line(const QLineF &line, double width, const QColor &color) const;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <ceiechart/diagram/diagramcolors_p.h>
 #include <ceiechart/diagram/horseshoefill_p.h>
+#include <ceiechart/diagram/pixelpainter_p.h>
 #include <ceiechart/diagram/rowcoverage_p.h>
 #include <ceiechart/diagram/spectrum_p.h>
 #include <ceiechart/diagram/whitepoint.h>
@@ -117,6 +118,9 @@ private Q_SLOTS:
     void scrolledIsAsFilledAnew();
     void paintedWhileScrolledIsAsFilledAnew_data();
     void paintedWhileScrolledIsAsFilledAnew();
+    void writtenIsAsFilledAnew_data();
+    void writtenIsAsFilledAnew();
+    void picturesBetweenPixelsAreNotWritten();
     void editedIsAsFilledAnew();
     void movedAndEditedIsAsFilledAnew();
     void nothingChangedFillsNothing();
@@ -277,6 +281,78 @@ void DiagramColorsTest::paintedWhileScrolledIsAsFilledAnew()
     QPainter painter(&painted);
     kept.paint(&painter, request);
     QCOMPARE(held, before);
+}
+
+void DiagramColorsTest::writtenIsAsFilledAnew_data()
+{
+    QTest::addColumn<HorseshoeColors>("colors");
+    QTest::addColumn<double>("ratio");
+    for (const HorseshoeColors colors : {HorseshoeColors::Dimmed, HorseshoeColors::Full, HorseshoeColors::None}) {
+        for (const double ratio : {1.0, 1.3, 2.0}) {
+            QTest::addRow("%d, ratio %g", int(colors), ratio) << colors << ratio;
+        }
+    }
+}
+
+void DiagramColorsTest::writtenIsAsFilledAnew()
+{
+    QFETCH(HorseshoeColors, colors);
+    QFETCH(double, ratio);
+    const ColorsRequest request = requestFor(Model::Diagram::Cie1931, colors, 1.0, ratio);
+    const QImage whole = DiagramColors().update(request, nullptr, nullptr).copy();
+    const QSize room = request.size() + QSize(20, 30);
+    const QRect everywhere(QPoint(), room);
+    QVector<QRect> clips{everywhere};
+    if (ratio == std::floor(ratio)) { // others have clips that are rounded to something between pixels
+        clips << QRect(50, 60, 70, 40) << QRect(0, 45, 300, 1);
+    }
+    for (const QPoint &at : {QPoint(0, 0), QPoint(11, 17), QPoint(-40, -50), QPoint(150, 120), QPoint(900, 0)}) {
+        for (const QRect &clip : clips) {
+            QImage written(room, QImage::Format_RGB32);
+            written.fill(Qt::red);
+            QImage expected = written.copy();
+            {
+                QPainter painter(&expected);
+                painter.setClipRect(clip);
+                painter.drawImage(QRect(at, whole.size()), whole);
+            }
+            QPainter painter(&written);
+            if (clip != everywhere) {
+                painter.setClipRect(clip);
+            }
+            painter.translate(at);
+            painter.scale(ratio, ratio);
+            const auto pixels = PixelPainter::on(painter);
+            QVERIFY(pixels);
+            QVERIFY(DiagramColors::write(*pixels, request));
+            QVERIFY2(written == expected, qPrintable(QStringLiteral("%1, %2").arg(at.x()).arg(at.y())));
+        }
+    }
+}
+
+void DiagramColorsTest::picturesBetweenPixelsAreNotWritten()
+{
+    QImage image(300, 300, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const QImage before = image.copy();
+    const auto isWritten = [&image](double ratio, const QPointF &at, const ColorsRequest &request) {
+        QPainter painter(&image);
+        painter.translate(at);
+        painter.scale(ratio, ratio);
+        return DiagramColors::write(*PixelPainter::on(painter), request);
+    };
+    const auto request
+        = [](double ratio) { return requestFor(Model::Diagram::Cie1931, HorseshoeColors::Full, 1.0, ratio); };
+    QVERIFY(!isWritten(1.25, QPointF(), request(1.25))); // 162.5 pixels high
+    QVERIFY(!isWritten(1.0, QPointF(0.5, 0.0), request(1.0)));
+    QVERIFY(!isWritten(1.0, QPointF(0.0, 0.25), request(1.0)));
+    QVERIFY(!isWritten(2.0, QPointF(), request(1.0)));
+    ColorsRequest large = request(1.0);
+    large.viewport = large.viewport.resized(QSizeF(1e9, 1e9));
+    QVERIFY(!isWritten(1.0, QPointF(), large));
+    QCOMPARE(image, before);
+    QVERIFY(isWritten(1.0, QPointF(), request(1.0)));
+    QVERIFY(image != before);
 }
 
 void DiagramColorsTest::editedIsAsFilledAnew()

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void svgLooksTheSame();
     void svgHasNothingThatFilesDoNotTake();
     void paintStaysInItsPlace();
+    void largePicturesAreAsSharpAsOthers();
     void devicesOfHighResolution();
     void textsAreAsLargeAsTheDeviceHasThem();
 };
@@ -147,6 +148,40 @@ void DiagramDevicesTest::paintStaysInItsPlace()
         }
         QVERIFY(image.pixelColor(place.topLeft() + QPoint(3, 3)) != QColor(Qt::magenta));
         QVERIFY(image.pixelColor(place.bottomRight() - QPoint(3, 3)) != QColor(Qt::magenta));
+    }
+}
+
+void DiagramDevicesTest::largePicturesAreAsSharpAsOthers()
+{
+    // The edge of the horseshoe at 570 nm on a picture that would take 256 MB, and as a small view shows it.
+    const QPointF edge(0.4441, 0.5547);
+    const QSize size(300, 200);
+    const QSize sizeOfLarge(8000, 8000);
+    DiagramContent content;
+    content.layers = DiagramLayer::Colors;
+    DiagramPainter large;
+    prepare(large, content, Model::Diagram::Cie1931, sizeOfLarge, 1.0);
+    const QPoint topLeft = large.viewport().toPosition(edge).toPoint() - QPoint(size.width() / 2, size.height() / 2);
+    QImage image(size, QImage::Format_RGB32);
+    image.setDotsPerMeterX(3780);
+    image.setDotsPerMeterY(3780);
+    QPainter onto(&image);
+    large.paint(&onto, QRect(-topLeft, sizeOfLarge));
+    onto.end();
+
+    DiagramPainter small;
+    prepare(small, content, Model::Diagram::Cie1931, size, 1.0);
+    const QPointF middle = large.viewport().toChromaticity(QRectF(topLeft, size).center());
+    small.setViewport(small.viewport().centredOn(middle, large.viewport().scale() / small.viewport().scale()));
+    const QImage &expected = small.colors(1.0);
+    QVERIFY(countOf(expected, diagramPalette(content.ground).ground) > 1000); // so that there is an edge
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const QColor a = image.pixelColor(x, y);
+            const QColor b = expected.pixelColor(x, y);
+            QVERIFY(std::abs(a.red() - b.red()) <= 1 && std::abs(a.green() - b.green()) <= 1
+                && std::abs(a.blue() - b.blue()) <= 1);
+        }
     }
 }
 
