@@ -71,21 +71,6 @@ void paintDiagram(QPainter &painter, const Picture &picture, const QSize &size)
     layout.key.paint(&painter, layout.keyPlace);
 }
 
-//! The picture that the place for the key was looked for in, with its key, if it is one of \a pixels; or null.
-QImage paintedPicture(const Picture &picture, const QSize &size, const QSize &pixels)
-{
-    if (picture.wall || !picture.hasKey || size != pixels) {
-        return {};
-    }
-    const PictureLayout layout = layoutOn(size, picture);
-    QImage image = layout.painted;
-    if (!image.isNull()) {
-        QPainter painter(&image);
-        layout.key.paint(&painter, layout.keyPlace);
-    }
-    return image;
-}
-
 bool writeSvg(const Picture &picture, const QString &title, const QSize &size, QIODevice &device)
 {
     QSvgGenerator generator;
@@ -153,6 +138,8 @@ Picture laidOut(Picture picture, const QSize &size)
 {
     if (picture.hasKey && !picture.isLibraryChart && !picture.wall) {
         picture.layout = std::make_shared<const std::pair<QSize, PictureLayout>>(size, layoutOn(size, picture));
+    } else {
+        picture.layout.reset();
     }
     return picture;
 }
@@ -170,11 +157,10 @@ QImage pixelsOf(const Picture &picture, const PictureExtent &extent)
     }
     const QSize pixels(qRound(exact.width()), qRound(exact.height()));
     const Picture shown = laidOut(picture, extent.size);
-    QImage image = paintedPicture(shown, extent.size, pixels);
-    if (!image.isNull()) {
-        return image;
+    if (shown.layout && extent.size == pixels && !shown.layout->second.painted.isNull()) {
+        return shown.layout->second.painted;
     }
-    image = QImage(pixels, QImage::Format_RGB32);
+    QImage image(pixels, QImage::Format_RGB32);
     if (image.isNull()) {
         return image;
     }

@@ -61,17 +61,17 @@ public:
         : m_scale(std::min(1.0, mostMaskSide / std::max(size.width(), size.height())))
         , m_width(std::max(1, int(size.width() * m_scale)))
         , m_height(std::max(1, int(size.height() * m_scale)))
-        , m_sums(std::size_t(m_width + 1) * std::size_t(m_height + 1), 0)
+        , m_free(freeColors(ceiechart::diagramPalette(content.ground)))
+        , m_image(m_width, m_height, QImage::Format_RGB32)
     {
         // The grid may be covered, the horseshoe not even where it has no colours.
-        const ceiechart::DiagramPalette &palette = ceiechart::diagramPalette(content.ground);
         const bool isColored
             = content.layers.testFlag(DiagramLayer::Colors) && content.colors != ceiechart::HorseshoeColors::None;
         const bool isPicture = QSizeF(m_width, m_height) == size;
         // Lines of the grid on whole pixels can be told from all else.
-        const bool isAsDrawn = isColored && isPicture;
+        m_isAsDrawn = isColored && isPicture;
         DiagramContent covering = content;
-        if (!isAsDrawn) {
+        if (!m_isAsDrawn) {
             covering.layers.setFlag(DiagramLayer::Grid, false);
             covering.layers.setFlag(DiagramLayer::Colors);
             covering.colors = ceiechart::HorseshoeColors::Full;
@@ -79,55 +79,37 @@ public:
         DiagramPainter diagram;
         diagram.setContent(covering);
         diagram.setViewport(view);
-        QImage image(m_width, m_height, QImage::Format_RGB32);
-        if (image.isNull()) {
+        if (m_image.isNull()) {
             return;
         }
-        image.setDotsPerMeterX(pictureDotsPerMeter);
-        image.setDotsPerMeterY(pictureDotsPerMeter);
-        QPainter painter(&image);
+        m_image.setDotsPerMeterX(pictureDotsPerMeter);
+        m_image.setDotsPerMeterY(pictureDotsPerMeter);
+        QPainter painter(&m_image);
         painter.scale(m_scale, m_scale);
         diagram.paint(&painter, QRectF(QPointF(), size));
-        const QMarginsF margins = diagram.margins(&image);
+        const QMarginsF margins = diagram.margins(&m_image);
         painter.end();
 
         m_plot = QRectF(QPointF(), size).marginsRemoved(margins);
-        const std::array<QRgb, 3> free = freeColors(palette);
-        for (int y = 0; y < m_height; ++y) {
-            const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-            const int *above = &m_sums[at(0, y)];
-            int *sums = &m_sums[at(0, y + 1)];
-            int inLine = 0;
-            for (int x = 0; x < m_width; ++x) {
-                inLine += line[x] != free[0] && line[x] != free[1] && line[x] != free[2];
-                sums[x + 1] = above[x + 1] + inLine;
-            }
-        }
-        if (isAsDrawn) {
-            m_painted = image;
-        }
+        m_sums.reserve(at(0, m_height + 1)); // takes no memory before they are written
+        m_sums.resize(at(0, 1), 0);
     }
 
-    //! The picture of the diagram, if it had to be painted as it is drawn; or null.
-    const QImage &painted() const { return m_painted; }
-
     //! The place of \a size nearest to a corner of the plot, the upper right one first of all.
-    std::optional<QPointF> place(const QSizeF &size) const
+    std::optional<QPointF> place(const QSizeF &size)
     {
         const QRectF room = m_plot.adjusted(gap, gap, -gap, -gap);
-        const std::vector<Span> columns = spans(room.left(), room.right(), size.width(), m_width);
-        const std::vector<Span> rows = spans(room.top(), room.bottom(), size.height(), m_height);
+        const std::vector<Span> columns = spans(room.left(), room.right(), size.width(), m_width, Qt::RightEdge);
+        const std::vector<Span> rows = spans(room.top(), room.bottom(), size.height(), m_height, Qt::TopEdge);
         std::optional<QPointF> best;
         double least = HUGE_VAL;
         for (const Span &row : rows) {
-            const double fromTop = row.fromBegin;
-            const double fromBottom = row.fromEnd;
             for (const Span &column : columns) {
-                const double fromLeft = column.fromBegin;
-                const double fromRight = column.fromEnd;
-                const double distance = 2.0 * std::min(fromRight, fromLeft) + (fromLeft < fromRight ? 2.0 * gap : 0.0)
-                    + std::min(fromTop, fromBottom) + (fromBottom < fromTop ? gap : 0.0);
-                if (distance < least && isFree(column, row)) {
+                const double distance = 2.0 * column.distance + row.distance;
+                if (distance >= least) {
+                    break;
+                }
+                if (isFree(column, row)) {
                     least = distance;
                     best = QPointF(column.from, row.from);
                 }
@@ -136,46 +118,81 @@ public:
         return best;
     }
 
+    //! The picture of the diagram, if it had to be painted as it is drawn; or null. No place can be found from then on.
+    QImage takePainted()
+    {
+        m_plot = QRectF();
+        QImage painted;
+        if (m_isAsDrawn) {
+            m_image.swap(painted);
+        }
+        return painted;
+    }
+
 private:
     //! A place in one direction.
     struct Span {
         double from;
-        double fromBegin; // of the room
-        double fromEnd; // to the end of the room
+        double distance; // to the end of the room that is nearer, and more for the one that is liked less
         int firstPixel; // of the mask, which is to be free as those that follow
         int endPixel; // behind them
     };
 
-    //! The places of \a length in the room from \a begin to \a end, from the last one on.
-    std::vector<Span> spans(double begin, double end, double length, int pixels) const
+    //! The places of \a length in the room from \a begin to \a end, the nearest to its ends first.
+    std::vector<Span> spans(double begin, double end, double length, int pixels, Qt::Edge preferred) const
     {
+        const bool isEndPreferred = preferred == Qt::RightEdge || preferred == Qt::BottomEdge;
         std::vector<Span> found;
         const double last = end - length;
         const double step = placeStep / m_scale;
         for (double fromEnd = 0.0; last - fromEnd >= begin; fromEnd += step) {
             const double from = last - fromEnd;
+            const double fromBegin = from - begin;
+            const bool isNearerToOther = isEndPreferred ? fromBegin < fromEnd : fromEnd < fromBegin;
             const double first = from - gap;
-            found.push_back({from, from - begin, fromEnd, std::clamp(int(std::floor(first * m_scale)), 0, pixels),
+            found.push_back({from, std::min(fromBegin, fromEnd) + (isNearerToOther ? gap : 0.0),
+                std::clamp(int(std::floor(first * m_scale)), 0, pixels),
                 std::clamp(int(std::ceil((first + (length + gap + gap)) * m_scale)), 0, pixels)});
         }
+        std::stable_sort(
+            found.begin(), found.end(), [](const Span &a, const Span &b) { return a.distance < b.distance; });
         return found;
     }
 
     std::size_t at(int x, int y) const { return std::size_t(y) * std::size_t(m_width + 1) + std::size_t(x); }
 
-    bool isFree(const Span &column, const Span &row) const
+    bool isFree(const Span &column, const Span &row)
     {
+        sumUpTo(row.endPixel);
         return m_sums[at(column.endPixel, row.endPixel)] - m_sums[at(column.firstPixel, row.endPixel)]
             - m_sums[at(column.endPixel, row.firstPixel)] + m_sums[at(column.firstPixel, row.firstPixel)]
             == 0;
     }
 
+    //! Sums the rows above \a end that have not been summed. Most keys have a place at the top, which takes a few rows.
+    void sumUpTo(int end)
+    {
+        for (int y = int(m_sums.size() / at(0, 1)) - 1; y < end; ++y) {
+            m_sums.resize(at(0, y + 2), 0);
+            const auto *line = reinterpret_cast<const QRgb *>(m_image.constScanLine(y));
+            const int *above = &m_sums[at(0, y)];
+            int *sums = &m_sums[at(0, y + 1)];
+            int inLine = 0;
+            for (int x = 0; x < m_width; ++x) {
+                inLine += line[x] != m_free[0] && line[x] != m_free[1] && line[x] != m_free[2];
+                sums[x + 1] = above[x + 1] + inLine;
+            }
+        }
+    }
+
     double m_scale;
     int m_width;
     int m_height;
-    std::vector<int> m_sums; // of what is drawn above and to the left of a pixel
+    std::array<QRgb, 3> m_free;
+    QImage m_image;
+    bool m_isAsDrawn = false;
+    std::vector<int> m_sums; // of what is drawn above and to the left of a pixel, for the rows summed up to now
     QRectF m_plot;
-    QImage m_painted;
 };
 
 //! The picture without a strip for the key, on the side where that leaves the diagram larger.
@@ -274,7 +291,11 @@ PictureLayout layOutPicture(const DiagramContent &content, const DiagramViewport
         if (const auto place = ground->place(key.size())) {
             layout.key = key;
             layout.keyPlace = *place;
-            layout.painted = ground->painted();
+            layout.painted = ground->takePainted();
+            if (!layout.painted.isNull()) {
+                QPainter painter(&layout.painted);
+                key.paint(&painter, layout.keyPlace);
+            }
             return layout;
         }
         if (const auto beside = keyBeside(key, view, size)) {
@@ -282,7 +303,7 @@ PictureLayout layOutPicture(const DiagramContent &content, const DiagramViewport
         }
     }
     if (ground) {
-        layout.painted = ground->painted();
+        layout.painted = ground->takePainted();
     }
     return layout;
 }

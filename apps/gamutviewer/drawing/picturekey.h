@@ -56,7 +56,7 @@ struct PictureLayout {
     QRectF diagram; //!< all of the picture, or what a key beside the diagram leaves of it
     PictureKey key; //!< empty when there is no room for it, or nothing to name
     QPointF keyPlace; //!< its top left corner
-    //! The diagram without its key, in one pixel for each of these, if it was painted to look for the place; or null.
+    //! The diagram and its key, in one pixel for each of these, if the place was looked for in such a picture; or null.
     QImage painted;
 };
 
