@@ -6,13 +6,14 @@
 #include <QImage>
 #include <QtEndian>
 
-#include <array>
 #include <vector>
 
 #ifdef GAMUTVIEWER_LIBDEFLATE
 #include <libdeflate.h>
 
 #include <memory>
+#else
+#include <array>
 #endif
 
 namespace gamutviewer {
@@ -23,6 +24,39 @@ constexpr int qualityOfLevel = 70; // as QImage::save() has it
 constexpr auto mostBytes = qint64(64) * 1024 * 1024; // in memory beside the picture, and once more in the worst case
 constexpr char filterUp = 2; // each byte less that of the row above
 constexpr int bytesOfFrame = 100; // of a file, but for its pixels: no less than there are
+
+#ifdef GAMUTVIEWER_LIBDEFLATE
+
+//! \a rows in the format of zlib, or nothing without memory. Takes half of the time of zlib, for a smaller file.
+QByteArray compressed(const QByteArray &rows)
+{
+    constexpr int level = 1; // higher ones take longer, for some hundredths of the size
+    const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> compressor(
+        libdeflate_alloc_compressor(level), libdeflate_free_compressor);
+    if (!compressor) {
+        return QByteArray();
+    }
+    const auto size = std::size_t(rows.size());
+    QByteArray result(int(libdeflate_zlib_compress_bound(compressor.get(), size)), Qt::Uninitialized);
+    result.truncate(int(
+        libdeflate_zlib_compress(compressor.get(), rows.constData(), size, result.data(), std::size_t(result.size()))));
+    return result;
+}
+
+quint32 crc(const char *bytes, int count)
+{
+    return libdeflate_crc32(0, bytes, std::size_t(count));
+}
+
+#else
+
+//! \a rows in the format of zlib, or nothing without memory.
+QByteArray compressed(const QByteArray &rows)
+{
+    constexpr int level = 2; // half of the time of the usual 6, for a file that is a seventh larger
+    constexpr int bytesOfLength = 4; // with which qCompress() begins
+    return qCompress(rows, level).mid(bytesOfLength);
+}
 
 quint32 crc(const char *bytes, int count)
 {
@@ -43,6 +77,8 @@ quint32 crc(const char *bytes, int count)
     }
     return ~value;
 }
+
+#endif
 
 QByteArray bigEndian(quint32 number)
 {
@@ -87,36 +123,6 @@ QByteArray filteredRows(const QImage &image)
     }
     return rows;
 }
-
-#ifdef GAMUTVIEWER_LIBDEFLATE
-
-//! \a rows in the format of zlib, or nothing without memory. Takes half of the time of zlib, for a smaller file.
-QByteArray compressed(const QByteArray &rows)
-{
-    constexpr int level = 1; // higher ones take longer, for some hundredths of the size
-    const std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)> compressor(
-        libdeflate_alloc_compressor(level), libdeflate_free_compressor);
-    if (!compressor) {
-        return QByteArray();
-    }
-    const auto size = std::size_t(rows.size());
-    QByteArray result(int(libdeflate_zlib_compress_bound(compressor.get(), size)), Qt::Uninitialized);
-    result.truncate(int(
-        libdeflate_zlib_compress(compressor.get(), rows.constData(), size, result.data(), std::size_t(result.size()))));
-    return result;
-}
-
-#else
-
-//! \a rows in the format of zlib, or nothing without memory.
-QByteArray compressed(const QByteArray &rows)
-{
-    constexpr int level = 2; // half of the time of the usual 6, for a file that is a seventh larger
-    constexpr int bytesOfLength = 4; // with which qCompress() begins
-    return qCompress(rows, level).mid(bytesOfLength);
-}
-
-#endif
 
 } // namespace
 
